@@ -1,0 +1,119 @@
+#include "core/actions.h"
+
+#include "core/failure.h"
+
+namespace ovl {
+namespace {
+
+void Run(Application& app, Handler handler, int index) {
+  if (handler != nullptr) handler(app, index);
+}
+
+std::string PortName(const Application& app) {
+  return "Comport " + std::to_string(app.frmMain.MSComm1.CommPort);
+}
+
+}  // namespace
+
+bool AssignPosition(Application& app, List& list, int position, Raise raise) {
+  if (position < 0 || position >= static_cast<int>(list.items.size())) return false;
+  const bool changed = list.position != position;
+  list.position = position;
+  if (changed || raise == Raise::kAlways) Run(app, list.handler, list.index);
+  return true;
+}
+
+bool ChooseElement(Application& app, OptionArray& array, int element, Raise raise) {
+  if (element < 0 || element >= static_cast<int>(array.elements.size())) return false;
+  const bool changed = array.chosen != element;
+  array.chosen = element;
+  for (auto* other : array.excludes) other->chosen = -1;
+  if (changed || raise == Raise::kAlways) Run(app, array.handler, element);
+  return true;
+}
+
+void AssignText(Application& app, TextBox& box, std::string text, Raise raise) {
+  const bool changed = box.text != text;
+  box.text = std::move(text);
+  if (changed || raise == Raise::kAlways) Run(app, box.handler, box.index);
+}
+
+void EnableTimer(Timer& timer, bool enabled) {
+  if (enabled && !timer.enabled) ++timer.starts;
+  timer.enabled = enabled;
+}
+
+void LoadForm(Application& app, Form& form) {
+  if (form.loaded) return;
+  form.loaded = true;
+  Run(app, form.load, 0);
+}
+
+void ShowForm(Application& app, Form& form) {
+  LoadForm(app, form);
+  form.visible = true;
+  Run(app, form.shown, 0);
+}
+
+void HideForm(Form& form) {
+  form.visible = false;
+}
+
+void UnloadForm(Application& app, Form& form) {
+  if (!form.loaded) return;
+  form.loaded = false;
+  form.visible = false;
+  Run(app, form.unload, 0);
+}
+
+void SetFocus(Form& form, Face& control) {
+  form.focus = &control;
+  ++form.focus_requests;
+}
+
+void MsgBox(Application& app, std::string text, std::string title, BoxIcon icon) {
+  app.platform.show_message({std::move(title), std::move(text), icon});
+}
+
+void EndProgram(Application& app) {
+  app.ended = true;
+  throw ProgramEnd();
+}
+
+void OpenCommPort(Application& app) {
+  auto& comm = app.frmMain.MSComm1;
+  if (comm.PortOpen) return;
+  const auto error = app.platform.serial.open({comm.CommPort, comm.Settings});
+  if (error) throw Failure(PortName(app), *error);
+  comm.PortOpen = true;
+}
+
+void CloseCommPort(Application& app) {
+  app.frmMain.MSComm1.PortOpen = false;
+  app.platform.serial.close();
+}
+
+void Output(Application& app, std::string_view text) {
+  if (!app.frmMain.MSComm1.PortOpen) return;
+  const auto error = app.platform.serial.write(text);
+  if (error) throw Failure(PortName(app), *error);
+}
+
+std::string Input(Application& app) {
+  return app.platform.serial.read();
+}
+
+void ClearCommBuffers(Application& app) {
+  app.platform.serial.clear_input();
+  app.platform.serial.clear_output();
+}
+
+void OutputOrSkip(Application& app, std::string_view text) {
+  try {
+    Output(app, text);
+  } catch (const Failure& failure) {
+    app.StatusNote = failure.Subject() + ": " + failure.what();
+  }
+}
+
+}  // namespace ovl

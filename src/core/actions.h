@@ -1,0 +1,47 @@
+// What handlers do to controls, forms, timers, the line and the world outside.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/application.h"
+
+namespace ovl {
+
+// Whether an assignment by code runs the control's handler when nothing changes.
+enum class Raise { kWhenChanged, kAlways };
+
+// Selects an entry. A position that the list lacks, -1 included, is refused without an event: false.
+bool AssignPosition(Application& app, List& list, int position, Raise raise = Raise::kWhenChanged);
+
+// Chooses an element, hidden ones included, and clears the arrays that share its frame. Refuses as above.
+bool ChooseElement(Application& app, OptionArray& array, int element, Raise raise = Raise::kWhenChanged);
+
+void AssignText(Application& app, TextBox& box, std::string text, Raise raise = Raise::kWhenChanged);
+
+// A disabled timer that is enabled starts afresh; one that runs goes on.
+void EnableTimer(Timer& timer, bool enabled);
+
+// Loads the form if need be and brings it on the screen.
+void LoadForm(Application& app, Form& form);
+void ShowForm(Application& app, Form& form);
+void HideForm(Form& form);
+void UnloadForm(Application& app, Form& form);
+void SetFocus(Form& form, Face& control);
+
+// Shows a box and returns when it is closed.
+void MsgBox(Application& app, std::string text, std::string title = {}, BoxIcon icon = BoxIcon::kNone);
+
+[[noreturn]] void EndProgram(Application& app);
+
+// The serial control's operations. Opening and writing throw Failure; writing to a closed port does nothing.
+void OpenCommPort(Application& app);
+void CloseCommPort(Application& app);
+void Output(Application& app, std::string_view text);
+std::string Input(Application& app);
+void ClearCommBuffers(Application& app);
+
+// Writes where a lost device must not keep the rest from being done: a failure is noted and skipped.
+void OutputOrSkip(Application& app, std::string_view text);
+
+}  // namespace ovl

@@ -1,0 +1,12 @@
+#include "core/application.h"
+
+namespace ovl {
+
+Application::Application() {
+  frmMain.Register(registry);
+  frmSettSR.Register(registry);
+  frmScanBProgress.Register(registry);
+  frmOK_buttom.Register(registry);
+}
+
+}  // namespace ovl

@@ -1,0 +1,106 @@
+// The one application object: the forms, the image, the state of the link, and the platform. It lives for the
+// whole run, is owned by whoever starts the program, and is touched only inside the gate.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/config_image.h"
+#include "core/firmware_id.h"
+#include "core/forms/link_forms.h"
+#include "core/forms/main_form.h"
+#include "core/platform.h"
+#include "core/registry.h"
+
+namespace ovl {
+
+// What the link is doing. The value is a plain number because the program leaves it standing in places.
+inline constexpr std::int16_t kLinkRemote = 0;  // remote mode asked for or held
+inline constexpr std::int16_t kLinkUpload = 1;
+inline constexpr std::int16_t kLinkDownload = 2;
+inline constexpr std::int16_t kLinkIdle = 255;
+
+// One panel's refresh from the image. Those that a register pick concerns run after it as well.
+struct ApplyRoutine {
+  void (*run)(Application&);
+  bool after_pick;
+};
+
+struct Application {
+  Application();
+  Application(const Application&) = delete;
+  Application& operator=(const Application&) = delete;
+
+  Platform platform;
+  Registry registry;
+
+  MainForm frmMain;
+  PortSettingsForm frmSettSR;
+  ScanProgressForm frmScanBProgress;
+  TransferEndForm frmOK_buttom;
+
+  // Firmware, read once at start
+  FirmwareId firmware;
+  Capabilities capabilities;
+  std::map<std::string, bool, std::less<>> FirmwareMark;           // by the joined firmware text
+  std::map<std::string, std::int16_t, std::less<>> RegisterIndex;  // by register key; -1: not in this list
+
+  // The configuration, and the three sections that streams are made of
+  ConfigImage image;
+  std::string SYSCFG, SYSFIXED, SYSSTR;
+  std::vector<ApplyRoutine> Setting_Code;  // in the order in which panels are refreshed
+
+  // Link and transfers
+  std::int16_t LinkMode = kLinkIdle;
+  bool RemoteHeld = false;
+  bool ScanActive = false;
+  std::uint8_t ScanIndex = 0;
+  std::string PendingOutput;  // what remains to be sent
+  std::string LastSent;
+  std::string LastReceived;
+  std::string StreamBuffer;  // the upload being collected, or the download stream being built
+  std::string StreamScratch;
+  std::int16_t FrameState = 0;     // 0: waiting for "$"; 1: inside the upload stream
+  std::int16_t ProgressChars = 0;  // toward the next step of the bar, 0 to 50
+  std::int16_t ProgressValue = 0;
+  bool DownloadRequested = false;
+  bool DownloadActive = false;
+  bool FinalAckExpected = false;
+  bool SetTimePending = false;
+  bool HistoryPending = false;
+  bool MasterResetPending = false;
+  std::string HistoryText;
+  std::int16_t HandcheckCount = 0;
+  std::int16_t OperatingCount = 0;
+  std::int16_t ClockTickCount = 0;
+  std::string RemoteRequestText, UploadCommandText, DownloadCommandText;
+
+  // Port settings
+  std::uint8_t PortNumber = 0;  // 1 to 16; 0 until the settings dialog was shown
+  std::string PortBaud, PortParity, PortDataBits;
+
+  // The clock to send, two digits each
+  std::string ClockHour, ClockMinute, ClockSecond, ClockDay, ClockMonth, ClockYear;
+
+  // Image and panels
+  bool ImageTouched = false;
+  bool PanelsReady = false;
+  bool UploadApplying = false;
+  std::set<int> picks_under_way;  // positions of ComboReg whose pick has not ended yet
+  bool ComboTouched = false;
+  std::string CurrentFilePath;
+  std::string StreamText;      // the lines of the file being read, joined
+  std::string DiagnosticText;  // work string of diagnostics, cleared by a full load
+
+  // The gate's own
+  bool handling = false;
+  bool ended = false;
+  std::string
+      StatusNote;  // what last went wrong, naming file or port and the system's reason; presentation only
+};
+
+}  // namespace ovl

@@ -1,0 +1,132 @@
+#include "core/gate.h"
+
+#include "core/actions.h"
+#include "core/failure.h"
+
+namespace ovl {
+namespace {
+
+constexpr int kCommSend = 1;
+constexpr int kCommReceive = 2;
+
+// A window that a person can reach: on the screen and not held back by another one.
+bool Reachable(const Form* form) {
+  return form != nullptr && form->loaded && form->visible && form->enabled;
+}
+
+bool CanAct(const Application& app, const ControlRef& control) {
+  const auto& face = FaceOf(control);
+  if (!face.visible || !face.enabled) return false;
+  if (const auto* element = std::get_if<OptionElement>(&control);
+      element != nullptr && !element->array->enabled) {
+    return false;
+  }
+  return Reachable(app.registry.FormOf(control));
+}
+
+// Each of these says how one kind of event is let in; false: a person could not have done it.
+struct Admission {
+  Application& app;
+
+  bool operator()(const PickEvent& event) const {
+    if (const auto* list = std::get_if<List*>(&event.control)) {
+      return CanAct(app, event.control) && AssignPosition(app, **list, event.position, Raise::kAlways);
+    }
+    const auto* array = std::get_if<OptionArray*>(&event.control);
+    if (array == nullptr || event.position < 0 ||
+        event.position >= static_cast<int>((*array)->elements.size())) {
+      return false;
+    }
+    return (*this)(ClickEvent{OptionElement{*array, event.position}});
+  }
+
+  bool operator()(const ClickEvent& event) const {
+    if (!CanAct(app, event.control)) return false;
+    if (const auto* element = std::get_if<OptionElement>(&event.control)) {
+      return ChooseElement(app, *element->array, element->element, Raise::kAlways);
+    }
+    if (const auto* box = std::get_if<CheckBox*>(&event.control)) (*box)->checked = !(*box)->checked;
+    return Run(FaceOf(event.control).handler, FaceOf(event.control).index);
+  }
+
+  bool operator()(const TypeEvent& event) const {
+    auto& box = *event.box;
+    if (box.read_only || !CanAct(app, &box)) return false;
+    if (box.max_length != 0 && event.text.size() > box.max_length) return false;
+    AssignText(app, box, event.text);
+    return true;
+  }
+
+  bool operator()(const LeaveEvent& event) const {
+    if (!CanAct(app, event.control)) return false;
+    return Run(FaceOf(event.control).leave, FaceOf(event.control).index);
+  }
+
+  bool operator()(const PointEvent& event) const {
+    if (!Reachable(app.registry.FormOf(event.control))) return false;
+    return Run(FaceOf(event.control).point, FaceOf(event.control).index);
+  }
+
+  bool operator()(const KeyEvent& event) const {
+    if (!Reachable(event.form)) return false;
+    return Run(event.key == Key::kEnter ? event.form->enter : event.form->escape, 0);
+  }
+
+  bool operator()(const CloseEvent& event) const {
+    if (!Reachable(event.form)) return false;
+    if (event.form->window_close != nullptr) return Run(event.form->window_close, 0);
+    UnloadForm(app, *event.form);
+    return true;
+  }
+
+  bool operator()(const TickEvent& event) const {
+    return event.timer->enabled && Run(event.timer->handler, event.timer->index);
+  }
+
+  bool operator()(const ReceivedEvent&) const { return Comm(kCommReceive); }
+  bool operator()(const DrainedEvent&) const { return Comm(kCommSend); }
+
+  bool Comm(int event) const {
+    auto& comm = app.frmMain.MSComm1;
+    if (!comm.PortOpen) return false;
+    comm.CommEvent = event;
+    return Run(comm.handler, 0);
+  }
+
+  bool Run(Handler handler, int index) const {
+    if (handler != nullptr) handler(app, index);
+    return true;
+  }
+};
+
+template <class Work>
+Outcome Guarded(Application& app, const Work& work) {
+  if (app.ended) return Outcome::kEnded;
+  if (app.handling) return Outcome::kBusy;
+  app.handling = true;
+  auto outcome = Outcome::kDone;
+  try {
+    if (!work()) outcome = Outcome::kRefused;
+  } catch (const ProgramEnd&) {
+    outcome = Outcome::kEnded;
+  } catch (const Failure& failure) {
+    app.StatusNote = failure.Subject() + ": " + failure.what();
+  }
+  app.handling = false;
+  return outcome;
+}
+
+}  // namespace
+
+Outcome Dispatch(Application& app, const Event& event) {
+  return Guarded(app, [&] { return std::visit(Admission{app}, event); });
+}
+
+Outcome DispatchStart(Application& app, void (*start)(Application&)) {
+  return Guarded(app, [&] {
+    start(app);
+    return true;
+  });
+}
+
+}  // namespace ovl

@@ -1,0 +1,61 @@
+// The only way into the model. One event at a time: while a handler runs, its message boxes and file dialogs
+// included, nothing else is let in. Received bytes then wait with the platform, missed ticks are lost.
+#pragma once
+
+#include <string>
+#include <variant>
+
+#include "core/application.h"
+
+namespace ovl {
+
+// What a person does.
+struct PickEvent {
+  ControlRef control;  // a list, or an option array
+  int position = 0;
+};
+struct ClickEvent {
+  ControlRef control;  // a button, a menu item, an element of an option array, a check box (turned over)
+};
+struct TypeEvent {
+  TextBox* box = nullptr;
+  std::string text;  // what the box then holds
+};
+struct LeaveEvent {
+  ControlRef control;
+};
+struct PointEvent {
+  ControlRef control;
+};
+enum class Key { kEnter, kEscape };
+struct KeyEvent {
+  Form* form = nullptr;
+  Key key = Key::kEnter;
+};
+struct CloseEvent {
+  Form* form = nullptr;
+};
+
+// What time and the line do.
+struct TickEvent {
+  Timer* timer = nullptr;
+};
+struct ReceivedEvent {};
+struct DrainedEvent {};
+
+using Event = std::variant<PickEvent, ClickEvent, TypeEvent, LeaveEvent, PointEvent, KeyEvent, CloseEvent,
+                           TickEvent, ReceivedEvent, DrainedEvent>;
+
+enum class Outcome {
+  kDone,
+  kRefused,  // the control is hidden or disabled, or its window is: a person could not have done it
+  kBusy,     // a handler is running; nothing was done
+  kEnded,    // the program has ended, before this event or by it
+};
+
+Outcome Dispatch(Application& app, const Event& event);
+
+// Runs the start of the program under the same rules.
+Outcome DispatchStart(Application& app, void (*start)(Application&));
+
+}  // namespace ovl

@@ -1,0 +1,112 @@
+#include <gtest/gtest.h>
+
+#include "image/files.h"
+#include "support/harness.h"
+
+namespace ovl::testing {
+namespace {
+
+TEST(StartUp, LoadsTheFirstRegisterWholeAndEndsIdle) {
+  Harness program({"V1400", "R12"});
+  ASSERT_EQ(program.Start(), Outcome::kDone);
+  const auto& app = program.app;
+  EXPECT_EQ(app.frmMain.ComboReg.Text(), "GENERIC");
+  EXPECT_EQ(app.image[FieldId::COMMCFG_BAK], "08");
+  EXPECT_TRUE(app.ImageTouched);
+  EXPECT_TRUE(app.PanelsReady);
+  EXPECT_EQ(app.LinkMode, 255);
+  EXPECT_TRUE(app.frmMain.Timer.enabled);
+  EXPECT_FALSE(app.frmMain.MSComm1.PortOpen);
+  EXPECT_TRUE(program.Control("V1400R12mnu").enabled);
+  EXPECT_TRUE(app.frmMain.version_items.at(6).checked);
+  EXPECT_EQ(program.Control("lbVersionID(6)").caption, "V1400R12");
+  EXPECT_TRUE(program.Control("CmdUpDow(4)").enabled);
+  for (const auto* name : {"CmdUpDow(0)", "CmdUpDow(1)", "CmdUpDow(2)", "CmdUpDow(3)", "CmdUpDow(5)"}) {
+    EXPECT_FALSE(program.Control(name).enabled) << name;
+  }
+  EXPECT_TRUE(program.NoBoxLeft());
+}
+
+TEST(StartUp, EndsWithoutAFirmware) {
+  const std::string too_long(300, 'V');
+  const std::vector<std::pair<SettingValue, SettingValue>> stores = {
+      {"", "R12"}, {"V1400", ""}, {too_long, "R12"}, {"V1400", too_long}};
+  for (const auto& [version, release] : stores) {
+    Harness program({"V1400", "R12"});
+    program.settings["Version"] = version;
+    program.settings["Release"] = release;
+    EXPECT_EQ(program.Start(), Outcome::kEnded);
+    const auto box = program.TakeBox();
+    EXPECT_EQ(box.title, "Registry Error.");
+    EXPECT_EQ(box.text, "Please ReInstall Ovalon PC Software");
+    EXPECT_EQ(box.icon, BoxIcon::kInformation);
+    EXPECT_EQ(program.Click("CmdUpDow(4)"), Outcome::kEnded);
+  }
+}
+
+TEST(StartUp, ANumberInTheStoreIsAFirmwareText) {
+  Harness program({"V1400", "R12"});
+  program.settings["Version"] = std::uint32_t{1400};
+  EXPECT_EQ(program.Start(), Outcome::kDone);
+  EXPECT_EQ(program.app.firmware.version, "1400");
+  EXPECT_TRUE(program.app.frmMain.ComboReg.items.empty());
+  EXPECT_TRUE(program.app.PanelsReady);
+}
+
+TEST(StartUp, ADefaultImageThatCannotBeReadEndsTheProgram) {
+  Harness missing({"V1400", "R12"});
+  std::filesystem::remove(missing.folder.File("V1400/R12/GENERIC.bin"));
+  EXPECT_EQ(missing.Start(), Outcome::kEnded);
+  EXPECT_EQ(missing.TakeBox().text,
+            "                   No such file or directory\nPlease ReInstall Ovalon PC Software !!");
+
+  Harness folder({"V1400", "R12"});
+  std::filesystem::remove(folder.folder.File("V1400/R12/GENERIC.bin"));
+  std::filesystem::create_directory(folder.folder.File("V1400/R12/GENERIC.bin"));
+  EXPECT_EQ(folder.Start(), Outcome::kEnded);
+  EXPECT_EQ(folder.TakeBox().text,
+            "                   Is a directory\nPlease ReInstall Ovalon PC Software !!");
+}
+
+TEST(StartUp, TheCompactFirmwareRunsMappedAndKeepsItsCaptions) {
+  Harness program({"V1410", "R1"});
+  std::filesystem::create_directories(program.folder.File("V1400/R7"));
+  WriteWhole(program.folder.File("V1400/R7/GENERIC.bin"), PatternStream({"V1400", "R7"}));
+  ASSERT_EQ(program.Start(), Outcome::kDone);
+  EXPECT_EQ(program.app.firmware.Joined(), "V1400R7");
+  EXPECT_EQ(program.Control("lbVersionID(0)").caption, "V1410R1");
+  for (const auto& item : program.app.frmMain.version_items) EXPECT_FALSE(item.checked);
+  EXPECT_EQ(program.Click("V1400R7mnu"), Outcome::kEnded);
+  EXPECT_EQ(std::get<std::string>(program.settings["Version"]), "V1400");
+  EXPECT_EQ(std::get<std::string>(program.settings["Release"]), "R7");
+}
+
+TEST(VersionMenu, TheRunningFirmwareDoesNothingAndAnotherOneEndsTheProgram) {
+  Harness program({"V1400", "R12"});
+  ASSERT_EQ(program.Start(), Outcome::kDone);
+  EXPECT_EQ(program.Click("V1400R12mnu"), Outcome::kDone);
+  EXPECT_TRUE(program.NoBoxLeft());
+  EXPECT_EQ(program.Click("V1300R14mnu"), Outcome::kEnded);
+  EXPECT_EQ(std::get<std::string>(program.settings["Version"]), "V1300");
+  EXPECT_EQ(std::get<std::string>(program.settings["Release"]), "R14");
+  EXPECT_EQ(program.TakeBox().text, "V1300R14 WILL TAKE EFFECT WHEN THE APPLICATION NEXT START");
+
+  Harness read_only({"V1400", "R12"});
+  ASSERT_EQ(read_only.Start(), Outcome::kDone);
+  read_only.store_writable = false;
+  EXPECT_EQ(read_only.Click("V1334R1mnu"), Outcome::kEnded);
+  EXPECT_EQ(std::get<std::string>(read_only.settings["Version"]), "V1400");
+}
+
+TEST(Exit, EndsAtOnceAndNothingIsLetInAfterwards) {
+  Harness program({"V1400", "R12"});
+  ASSERT_EQ(program.Start(), Outcome::kDone);
+  program.OpenAndHold();
+  EXPECT_EQ(program.Click("menuExit"), Outcome::kEnded);
+  program.Unit("\x06");
+  EXPECT_EQ(program.Click("CmdUpDow(0)"), Outcome::kEnded);
+  EXPECT_EQ(program.TakeSent(), "");
+}
+
+}  // namespace
+}  // namespace ovl::testing

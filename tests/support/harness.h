@@ -1,0 +1,81 @@
+// A program without a screen: the model over a platform that records what it is asked for and plays the line.
+#pragma once
+
+#include <deque>
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/gate.h"
+
+namespace ovl::testing {
+
+// A program folder of its own, removed at the end of the test.
+class TemporaryFolder {
+ public:
+  TemporaryFolder();
+  ~TemporaryFolder();
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+  const std::filesystem::path& Path() const { return path_; }
+  std::string File(std::string_view below) const { return (path_ / below).string(); }
+
+ private:
+  std::filesystem::path path_;
+};
+
+// A stream of the firmware whose digits differ from byte to byte by the seed, with the register code given.
+std::string PatternStream(const FirmwareId& firmware, int seed = 1, int register_code = 0);
+
+class Harness {
+ public:
+  // Writes a default image for the first register (and the further ones named) and fills the settings store.
+  explicit Harness(const FirmwareId& firmware, const std::vector<std::string>& further_registers = {});
+
+  Outcome Start();
+  // A port opened, remote mode held, and its first tick over.
+  void OpenAndHold();
+
+  Outcome Click(std::string_view name);
+  Outcome Pick(std::string_view name, int position);
+  Outcome Tick(Timer& timer, int count = 1);
+  // Characters arrive one by one; those for a closed port are lost.
+  void Unit(std::string_view text);
+  // The transmitter runs empty: `count` times, or as long as each time something is written.
+  void Drain(int count);
+  void DrainAll();
+
+  // What was written since it was last asked.
+  std::string TakeSent();
+  // The oldest box not yet asked for; an empty text if there is none.
+  MessageBox TakeBox();
+  bool NoBoxLeft() const { return boxes.empty(); }
+
+  Face& Control(std::string_view name);
+
+  TemporaryFolder folder;
+  Application app;
+  std::map<std::string, SettingValue, std::less<>> settings;
+  std::deque<MessageBox> boxes;
+  std::deque<std::optional<std::string>> file_answers;
+  std::vector<FileDialog> dialogs;
+  std::vector<std::string> opened;  // the settings of every successful opening
+  std::optional<std::string> open_error;
+  std::optional<std::string> line_error;  // the device is lost: every write fails
+  ClockTime now;
+  bool store_writable = true;
+
+ private:
+  void FillPlatform();
+
+  std::string sent_;
+  std::deque<char> incoming_;
+  bool line_open_ = false;
+  bool wrote_ = false;
+};
+
+}  // namespace ovl::testing
