@@ -1,0 +1,81 @@
+// The one table of the fields: name, section, width, which layouts have it and when, whether a register's
+// default image sets it. Every reader and writer walks it in order.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "core/config_image.h"
+#include "core/firmware_id.h"
+
+namespace ovl {
+
+enum class Section { kSyscfg, kSysfixed, kSysstr };
+enum class Capability { kNone, kAtmInterface, kTcpIp, kTimeFields, kAnsiTerm };
+enum class Direction { kRead, kWrite };
+
+// Which layouts hold a field, as bits.
+using LayoutSet = unsigned;
+constexpr LayoutSet Bit(Layout layout) {
+  return 1U << static_cast<unsigned>(layout);
+}
+inline constexpr LayoutSet kV1400 = Bit(Layout::kEarlyV1400) | Bit(Layout::kLateV1400);
+inline constexpr LayoutSet kV13 = Bit(Layout::kOldV13) | Bit(Layout::kNewV13);
+inline constexpr LayoutSet kEvery = kV1400 | kV13;
+inline constexpr LayoutSet kLate = Bit(Layout::kLateV1400);
+inline constexpr LayoutSet kExtended = kLate | Bit(Layout::kNewV13);
+
+// A layout has the field only from this release on; for readers alone, or for writers too.
+struct Since {
+  LayoutSet layouts = 0;
+  int release = 0;
+  bool readers_only = false;
+};
+
+struct FieldRow {
+  FieldId id;
+  std::string_view name;
+  Section section;
+  std::int16_t digits;      // an entry, in the V1400 layouts
+  std::int16_t digits_v13;  // the same in the V13xx layouts
+  LayoutSet layouts;
+  bool is_default;  // taken from a register's default image
+  Capability capability = Capability::kNone;
+  std::string_view sentinel = {};  // what the field holds when the capability is missing
+  Since since = {};
+};
+
+std::span<const FieldRow> FieldTable();
+const FieldRow* FindField(std::string_view name);
+
+Layout LayoutOf(const FirmwareId& firmware);
+int DigitsOf(const FieldRow& row, Layout layout);
+bool HasCapability(const Capabilities& capabilities, Capability capability);
+
+// Whether a stream of this firmware holds the field. The layout is given apart, since files can be written in
+// another one than the firmware's own.
+bool InStream(const FieldRow& row, Layout layout, int release, const Capabilities& capabilities,
+              Direction direction);
+
+// The three sections of an image, as rows of hexadecimal digits.
+struct Sections {
+  std::string SYSCFG, SYSFIXED, SYSSTR;
+};
+
+enum class Scope {
+  kWhole,
+  kRegisterDefault,  // only the fields marked as defaults, as far as the last of them
+};
+
+// Fields that the layout lacks keep what they held, but for those that every load sets.
+void ReadSections(const Sections& sections, const FirmwareId& firmware, const Capabilities& capabilities,
+                  Scope scope, ConfigImage& image);
+
+// The fields in the given layout, padded to the section lengths of the V13xx layouts. Fields of a
+// missing capability become their sentinel.
+Sections WriteSections(ConfigImage& image, Layout layout, const FirmwareId& firmware,
+                       const Capabilities& capabilities);
+
+}  // namespace ovl

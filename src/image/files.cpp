@@ -1,0 +1,108 @@
+#include "image/files.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <fstream>
+#include <system_error>
+
+#include "core/failure.h"
+
+namespace ovl {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::uintmax_t kLargestFile = 64U * 1024U * 1024U;
+
+[[noreturn]] void Fail(const std::string& path, std::errc reason) {
+  throw Failure(path, std::make_error_code(reason).message());
+}
+
+// The stream library tells the reason only through errno.
+[[noreturn]] void FailWithErrno(const std::string& path) {
+  throw Failure(path, std::generic_category().message(errno != 0 ? errno : EIO));
+}
+
+// Where the bytes really go: the end of a chain of links, also if nothing is there yet.
+fs::path TargetOf(const fs::path& path) {
+  constexpr int kLongestChain = 40;
+  auto target = path;
+  std::error_code error;
+  for (int link = 0; link < kLongestChain && fs::is_symlink(target, error); ++link) {
+    const auto next = fs::read_symlink(target, error);
+    if (error) break;
+    target = next.is_absolute() ? next : target.parent_path() / next;
+  }
+  return target;
+}
+
+void WriteBeside(const fs::path& beside, std::string_view bytes) {
+  errno = 0;
+  std::ofstream file(beside, std::ios::binary | std::ios::trunc);
+  if (!file) FailWithErrno(beside.string());
+  errno = 0;
+  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  file.close();
+  if (!file) FailWithErrno(beside.string());
+}
+
+}  // namespace
+
+std::string PathBelow(std::string_view folder, std::string_view written) {
+  std::string path(folder);
+  for (const char character : written) path += character == '\\' ? '/' : character;
+  return path;
+}
+
+std::string ReadWhole(const std::string& path) {
+  std::error_code error;
+  const auto status = fs::status(path, error);
+  if (fs::is_directory(status)) Fail(path, std::errc::is_a_directory);
+  if (fs::exists(status) && !fs::is_regular_file(status)) Fail(path, std::errc::invalid_argument);
+  if (const auto size = fs::file_size(path, error); !error && size > kLargestFile) {
+    Fail(path, std::errc::file_too_large);
+  }
+  errno = 0;
+  std::ifstream file(path, std::ios::binary);
+  if (!file) FailWithErrno(path);
+  std::string bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+  if (file.bad()) FailWithErrno(path);
+  return bytes;
+}
+
+std::string ReadJoined(const std::string& path) {
+  const auto bytes = ReadWhole(path);
+  std::string joined;
+  joined.reserve(bytes.size());
+  for (std::size_t place = 0; place < bytes.size(); ++place) {
+    if (bytes[place] != '\r') {
+      joined += bytes[place];
+    } else if (place + 1 < bytes.size() && bytes[place + 1] == '\n') {
+      ++place;
+    }
+  }
+  return joined;
+}
+
+void WriteWhole(const std::string& path, std::string_view bytes) {
+  const auto target = TargetOf(path);
+  std::error_code error;
+  if (fs::is_directory(target, error)) Fail(path, std::errc::is_a_directory);
+  auto beside = target;
+  beside += ".new";
+  try {
+    WriteBeside(beside, bytes);
+    if (const auto old = fs::status(target, error); fs::exists(old)) {
+      fs::permissions(beside, old.permissions(), error);
+    }
+    fs::rename(beside, target);
+  } catch (const fs::filesystem_error& reason) {
+    fs::remove(beside, error);
+    throw Failure(path, reason.code().message());
+  } catch (const Failure& reason) {
+    fs::remove(beside, error);
+    throw Failure(path, reason.what());
+  }
+}
+
+}  // namespace ovl

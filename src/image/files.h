@@ -1,0 +1,23 @@
+// Reading and writing whole files. A failure throws Failure, which names the path and gives the system's
+// reason.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace ovl {
+
+// A path below a folder, from the written form with backslashes: "\V1400\upload.bin".
+std::string PathBelow(std::string_view folder, std::string_view written);
+
+// All bytes of a regular file of at most 64 MiB.
+std::string ReadWhole(const std::string& path);
+
+// The lines of a file with nothing between them. A line ends with CR LF or CR; a lone LF is no line end.
+std::string ReadJoined(const std::string& path);
+
+// Replaces the file in one step: the bytes go into a file beside it, which then takes its name. A link is
+// followed. If it fails, the old file is as it was.
+void WriteWhole(const std::string& path, std::string_view bytes);
+
+}  // namespace ovl

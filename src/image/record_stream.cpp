@@ -1,0 +1,138 @@
+#include "image/record_stream.h"
+
+#include <utility>
+
+#include "core/actions.h"
+
+namespace ovl {
+namespace {
+
+constexpr std::size_t kMarkerLength = 5;
+constexpr std::size_t kPayloadDigits = 64;
+constexpr std::size_t kRecordLength = kMarkerLength + kPayloadDigits;
+constexpr int kBytesPerRecord = 0x20;
+
+constexpr Region kV1400Short = {0x2000, 0x2840};
+constexpr Region kV1400Long = {0x2000, 0x2860};
+constexpr Region kOldV13Region = {0x7800, 0x7FE0};
+constexpr Region kNewV13Region = {0x77F0, 0x7FF0};
+
+constexpr const char* kIncompatible =
+    "The Ovalon Version is not compatible !!!\n       Try with the same version again.";
+constexpr const char* kFileError =
+    "                System File Error. \nPlease ReInstall Ovalon PC Software !!";
+
+Region ByRelease(const FirmwareId& firmware) {
+  if (firmware.IsV1400()) return firmware.Number() < 6 ? kV1400Short : kV1400Long;
+  return LayoutOf(firmware) == Layout::kOldV13 ? kOldV13Region : kNewV13Region;
+}
+
+}  // namespace
+
+Region ReadRegion(const FirmwareId& firmware) {
+  return LayoutOf(firmware) == Layout::kLateV1400 ? kV1400Long : ByRelease(firmware);
+}
+
+Region WriteRegion(const FirmwareId& firmware) {
+  return ByRelease(firmware);
+}
+
+std::string AddressMarker(int address) {
+  return "$" + ByteToHex(address >> 8) + ByteToHex(address);
+}
+
+std::string BlockRecords(std::string_view digits, const Region& region) {
+  std::string stream;
+  stream.reserve(digits.size() * (kRecordLength + 2) / kPayloadDigits + 2 * kRecordLength);
+  for (int address = region.first; address < region.last; address += kBytesPerRecord) {
+    const auto payload = digits.substr(0, kPayloadDigits);
+    stream.append(AddressMarker(address)).append(payload).append("\r\n");
+    digits.remove_prefix(payload.size());
+  }
+  return stream.append(AddressMarker(region.last)).append(digits).append("#");
+}
+
+ParseResult ParseRecords(std::string_view stream, const Region& region, std::string& digits) {
+  const auto start = stream.find(AddressMarker(region.first));
+  if (start == std::string_view::npos) return ParseResult::kOtherFirmware;
+  stream.remove_prefix(start);
+
+  auto end = stream.find('#');
+  digits.clear();
+  digits.reserve(stream.size());
+  while (end != std::string_view::npos && end >= kRecordLength) {
+    digits.append(stream.substr(kMarkerLength, kPayloadDigits));
+    stream.remove_prefix(kRecordLength);
+    end -= kRecordLength;
+  }
+  if (end == std::string_view::npos || stream.find(AddressMarker(region.last)) == std::string_view::npos) {
+    return ParseResult::kBroken;
+  }
+  if (end > kMarkerLength) digits.append(stream.substr(kMarkerLength, end - kMarkerLength));
+  return ParseResult::kOk;
+}
+
+Sections CutSections(std::string_view digits, const FirmwareId& firmware) {
+  const auto [syscfg, sysfixed] = [&]() -> std::pair<std::size_t, std::size_t> {
+    switch (LayoutOf(firmware)) {
+      case Layout::kEarlyV1400:
+        return {64, 206};
+      case Layout::kLateV1400:
+        return {64, firmware.Number() >= 11 ? 226 : 224};
+      default:
+        return {96, 192};
+    }
+  }();
+  Sections sections;
+  const auto take = [&](std::size_t count) {
+    const auto part = digits.substr(0, count);
+    digits.remove_prefix(part.size());
+    return std::string(part);
+  };
+  sections.SYSCFG = take(syscfg);
+  sections.SYSFIXED = take(sysfixed);
+  sections.SYSSTR = std::string(digits);
+  return sections;
+}
+
+void PrepareCapabilities(Application& app) {
+  app.capabilities = {};
+  if (app.firmware.version != "V1324") return;
+  const std::string_view release = app.firmware.release;
+  const auto tail = release.substr(release.size() < 2 ? 0 : release.size() - 2);
+  app.capabilities.HasTcpIp = LeadingNumber(tail) >= 19;
+}
+
+bool LoadStream(Application& app, std::string_view stream) {
+  std::string digits;
+  switch (ParseRecords(stream, ReadRegion(app.firmware), digits)) {
+    case ParseResult::kOtherFirmware:
+      EnableTimer(app.frmMain.Timer_Operating, false);
+      app.OperatingCount = 0;
+      MsgBox(app, kIncompatible);
+      return false;
+    case ParseResult::kBroken:
+      MsgBox(app, kFileError);
+      EndProgram(app);
+    case ParseResult::kOk:
+      break;
+  }
+  const auto scope = app.PanelsReady ? Scope::kRegisterDefault : Scope::kWhole;
+  const auto sections = CutSections(digits, app.firmware);
+  auto image = app.image;
+  ReadSections(sections, app.firmware, app.capabilities, scope, image);
+  app.image = std::move(image);
+  if (scope == Scope::kWhole && LayoutOf(app.firmware) != Layout::kLateV1400) app.DiagnosticText.clear();
+  return true;
+}
+
+std::string SectionsToStream(Application& app) {
+  PrepareCapabilities(app);
+  auto sections = WriteSections(app.image, LayoutOf(app.firmware), app.firmware, app.capabilities);
+  app.SYSCFG = std::move(sections.SYSCFG);
+  app.SYSFIXED = std::move(sections.SYSFIXED);
+  app.SYSSTR = std::move(sections.SYSSTR);
+  return BlockRecords(app.SYSCFG + app.SYSFIXED + app.SYSSTR, WriteRegion(app.firmware));
+}
+
+}  // namespace ovl
