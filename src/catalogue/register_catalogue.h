@@ -1,0 +1,19 @@
+// The register list of the running firmware, in the form and by key.
+#pragma once
+
+#include <string_view>
+
+#include "core/application.h"
+
+namespace ovl {
+
+// Marks every key absent.
+void ResetRegisterIndexes(Application& app);
+
+// Fills ComboReg and the indexes for the running firmware; a pair without a list leaves the list empty.
+void BuildRegisterList(Application& app);
+
+// The key's position in the current list, -1 if the list lacks it.
+int RegisterIndexOf(const Application& app, std::string_view key);
+
+}  // namespace ovl
