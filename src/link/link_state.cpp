@@ -1,0 +1,87 @@
+#include "link/link_state.h"
+
+#include <algorithm>
+
+#include "core/actions.h"
+
+namespace ovl {
+namespace {
+
+constexpr std::int16_t kCharsBeforeStep = 50;
+
+}  // namespace
+
+void ShowNoAccess(Application& app) {
+  auto& form = app.frmMain;
+  form.EnableActions(false);
+  form.lbRemoteAccess.caption = "No Access";
+  form.Picture1[3].visible = false;
+  form.Picture1[0].visible = true;
+}
+
+void ShowAccess(Application& app) {
+  auto& form = app.frmMain;
+  form.EnableActions(true);
+  form.lbRemoteAccess.caption = "ACCESS";
+  form.Picture1[0].visible = false;
+  form.Picture1[3].visible = true;
+}
+
+void ShowPortClosed(Application& app) {
+  app.frmMain.cmdConnect.caption = "Set Comport";
+  app.frmMain.lbConnectting.caption = "Not Connected";
+}
+
+void StopHandcheck(Application& app) {
+  EnableTimer(app.frmMain.Time_handcheck, false);
+  app.HandcheckCount = 0;
+}
+
+void StopOperating(Application& app) {
+  EnableTimer(app.frmMain.Timer_Operating, false);
+  app.OperatingCount = 0;
+}
+
+void StartOperating(Application& app) {
+  EnableTimer(app.frmMain.Timer_Operating, true);
+  app.OperatingCount = 0;
+}
+
+void ShowBarFull(Application& app) {
+  auto& bar = app.frmMain.vbalProgressBar1;
+  bar.value = bar.maximum;
+  bar.text = "100%";
+}
+
+void ResetProgress(Application& app) {
+  auto& bar = app.frmMain.vbalProgressBar1;
+  bar.value = 0;
+  bar.text.clear();
+  app.ProgressChars = 0;
+  app.ProgressValue = 0;
+}
+
+void HideTransfer(Application& app, Label& label) {
+  app.frmMain.vbalProgressBar1.visible = false;
+  label.visible = false;
+  ResetProgress(app);
+}
+
+void CountProgress(Application& app) {
+  if (app.ProgressChars != kCharsBeforeStep) {
+    Increment(app.ProgressChars);
+    return;
+  }
+  Increment(app.ProgressValue);
+  app.ProgressChars = 0;
+  auto& bar = app.frmMain.vbalProgressBar1;
+  bar.value = std::min<int>(app.ProgressValue, bar.maximum);
+  bar.text = std::to_string(bar.value) + "%";
+}
+
+void SendWhole(Application& app, const std::string& text) {
+  app.PendingOutput = text;
+  OutputOrSkip(app, text);
+}
+
+}  // namespace ovl

@@ -1,0 +1,48 @@
+// The displays that go with the states of the link, and the counters that its timers and transfers share.
+#pragma once
+
+#include <cstdint>
+#include <limits>
+
+#include "core/application.h"
+
+namespace ovl {
+
+inline constexpr const char* kAck = "\x06";
+inline constexpr const char* kNak = "\x15";
+inline constexpr const char* kEnq = "\x05";
+inline constexpr const char* kCan = "\x18";
+inline constexpr const char* kFormFeed = "\x0C";
+inline constexpr const char* kBadParity = "?";  // how a character with a parity error is handed over
+
+// Remote mode is over, or not there: the five actions off, "No Access".
+void ShowNoAccess(Application& app);
+void ShowAccess(Application& app);
+
+// The words of a closed port; its buttons are the caller's.
+void ShowPortClosed(Application& app);
+
+void StopHandcheck(Application& app);
+void StopOperating(Application& app);
+void StartOperating(Application& app);
+
+// The bar at its end, and the bar and counters as they are between transfers.
+void ShowBarFull(Application& app);
+void ResetProgress(Application& app);
+
+// Takes the bar and the transfer's label off the screen.
+void HideTransfer(Application& app, Label& label);
+
+// Counts one character of a transfer; every 51st is a step of the bar.
+void CountProgress(Application& app);
+
+// Writes the text and leaves it in PendingOutput, as the requests that go out in one piece do. A lost device
+// is noted and skipped.
+void SendWhole(Application& app, const std::string& text);
+
+// Counters stop at their type's end.
+inline void Increment(std::int16_t& counter) {
+  if (counter < std::numeric_limits<std::int16_t>::max()) ++counter;
+}
+
+}  // namespace ovl

@@ -1,0 +1,137 @@
+#include "link/port.h"
+
+#include "core/actions.h"
+#include "core/failure.h"
+#include "link/link_state.h"
+
+namespace ovl {
+namespace {
+
+constexpr std::size_t kFailureIndent = 11;
+constexpr int kFirstBaud = 3;  // "9600"
+constexpr int kFirstDataBits = 1;
+constexpr int kFirstParity = 0;
+
+std::string SettingsText(const Application& app) {
+  return app.PortBaud + "," + app.PortParity + "," + app.PortDataBits + ",1";
+}
+
+void SetUpComm(Application& app) {
+  auto& comm = app.frmMain.MSComm1;
+  comm.CommPort = app.PortNumber;
+  comm.Settings = SettingsText(app);
+  comm.SThreshold = 1;
+  comm.RThreshold = 1;
+  comm.InputLen = 1;
+  OpenCommPort(app);
+}
+
+void MoveFocusToSet(Application& app) {
+  SetFocus(app.frmSettSR.form, app.frmSettSR.cmdSET);
+}
+
+}  // namespace
+
+void OpenPort(Application& app) {
+  try {
+    SetUpComm(app);
+  } catch (const Failure& failure) {
+    app.StatusNote = failure.Subject() + ": " + failure.what();
+    MsgBox(app, std::string(kFailureIndent, ' ') + failure.what());
+    return;
+  }
+  auto& form = app.frmMain;
+  app.StatusNote.clear();
+  form.CmdUpDow[kRemote].enabled = true;
+  form.lbConnectting.caption =
+      "Connected at COM " + std::to_string(app.PortNumber) + ": " + SettingsText(app);
+  form.cmdConnect.caption = "Disconnect";
+  form.cmdConnect.visible = false;
+  form.cmdDisConnect.visible = true;
+}
+
+void Disconnect(Application& app) {
+  auto& form = app.frmMain;
+  form.cmdDisConnect.visible = false;
+  form.cmdConnect.visible = true;
+  form.cmdConnect.enabled = true;
+  SendWhole(app, kCan);
+  EnableTimer(form.General_timer, false);
+  StopHandcheck(app);
+  StopOperating(app);
+  CloseCommPort(app);
+  ShowPortClosed(app);
+  ShowNoAccess(app);
+  form.CmdUpDow[kRemote].enabled = true;
+  app.RemoteHeld = false;
+
+  if (app.LinkMode == kLinkUpload) HideTransfer(app, form.Label64[1]);
+  if (app.LinkMode == kLinkDownload) HideTransfer(app, form.Label64[0]);
+  app.DownloadRequested = false;
+  app.DownloadActive = false;
+  app.SetTimePending = false;
+  app.HistoryPending = false;
+  app.MasterResetPending = false;
+  app.FinalAckExpected = false;
+  app.ComboTouched = false;
+  app.PendingOutput.clear();
+  app.LastReceived.clear();
+}
+
+void cmdConnect_Click(Application& app, int) {
+  if (!app.frmMain.MSComm1.PortOpen) {
+    ShowForm(app, app.frmSettSR.form);
+    MoveFocusToSet(app);
+    return;
+  }
+  SendWhole(app, kCan);
+  StopHandcheck(app);
+  CloseCommPort(app);
+  ShowPortClosed(app);
+  ShowNoAccess(app);
+}
+
+void cmdDisConnect_Click(Application& app, int) {
+  Disconnect(app);
+}
+
+void frmSettSR_Load(Application& app, int) {
+  auto& dialog = app.frmSettSR;
+  app.frmMain.form.enabled = false;
+  AssignPosition(app, dialog.Comport_Select, app.PortNumber == 0 ? 0 : app.PortNumber - 1, Raise::kAlways);
+  ChooseElement(app, dialog.OpBaud, kFirstBaud, Raise::kAlways);
+  ChooseElement(app, dialog.OpDataBits, kFirstDataBits, Raise::kAlways);
+  ChooseElement(app, dialog.OpParity, kFirstParity, Raise::kAlways);
+}
+
+void frmSettSR_Unload(Application& app, int) {
+  app.frmMain.form.enabled = true;
+}
+
+void Comport_Select_Click(Application& app, int) {
+  app.PortNumber = static_cast<std::uint8_t>(app.frmSettSR.Comport_Select.position + 1);
+  MoveFocusToSet(app);
+}
+
+void OpBaud_Click(Application& app, int element) {
+  app.PortBaud = app.frmSettSR.OpBaud.elements.at(static_cast<std::size_t>(element)).caption;
+  MoveFocusToSet(app);
+}
+
+void OpDataBits_Click(Application& app, int element) {
+  app.PortDataBits = element == 0 ? "7" : "8";
+  MoveFocusToSet(app);
+}
+
+void OpParity_Click(Application& app, int element) {
+  constexpr std::string_view kLetters = "NOE";
+  app.PortParity = kLetters.substr(static_cast<std::size_t>(element), 1);
+  MoveFocusToSet(app);
+}
+
+void cmdSET_Click(Application& app, int) {
+  OpenPort(app);
+  UnloadForm(app, app.frmSettSR.form);
+}
+
+}  // namespace ovl

@@ -1,0 +1,202 @@
+#include "link/transfer.h"
+
+#include "core/actions.h"
+#include "core/failure.h"
+#include "image/files.h"
+#include "image/record_stream.h"
+#include "link/link_state.h"
+
+namespace ovl {
+namespace {
+
+// Where an upload that could not be taken in leaves the register list.
+constexpr int kRegisterAfterFailure = 1;
+
+void BeginTransfer(Application& app, std::int16_t mode, const std::string& command, Label& label) {
+  auto& form = app.frmMain;
+  StopHandcheck(app);
+  StartOperating(app);
+  app.LinkMode = mode;
+  app.PendingOutput = command;
+  form.EnableActions(false);
+  form.CmdUpDow[kRemote].enabled = false;
+  form.cmdConnect.enabled = false;
+  form.vbalProgressBar1.visible = true;
+  label.visible = true;
+}
+
+// Remote mode counts as over after a transfer: the unit has left it by itself.
+void EndRemoteMode(Application& app) {
+  ShowNoAccess(app);
+  app.RemoteHeld = false;
+}
+
+// The panels and the list are put into a defined state; nothing of the upload is taken in.
+void AbandonUpload(Application& app, const Failure& failure) {
+  app.StatusNote = failure.Subject() + ": " + failure.what();
+  app.UploadApplying = true;
+  AssignPosition(app, app.frmMain.ComboReg, kRegisterAfterFailure);
+  app.UploadApplying = false;
+  app.PanelsReady = true;
+}
+
+// False if the stream does not fit the running firmware.
+bool TakeUpload(Application& app) {
+  app.ImageTouched = true;
+  app.UploadApplying = true;
+  app.PanelsReady = false;
+  app.StreamText.clear();
+  if (!IsKnownFamily(app.firmware.version)) {
+    PrepareCapabilities(app);
+    return true;
+  }
+  app.StreamText = ReadJoined(app.CurrentFilePath);
+  PrepareCapabilities(app);
+  return LoadStream(app, app.StreamText);
+}
+
+void StoreUpload(Application& app) {
+  if (!IsKnownFamily(app.firmware.version)) return;
+  const auto& version = app.firmware.version;
+  app.CurrentFilePath = PathBelow(app.platform.program_folder, "\\" + version + "\\upload.bin");
+  WriteWhole(app.CurrentFilePath, app.StreamBuffer + "\r\n");
+}
+
+void FinishStream(Application& app) {
+  app.FrameState = 0;
+  try {
+    StoreUpload(app);
+  } catch (const Failure& failure) {
+    app.StreamBuffer.clear();
+    AbandonUpload(app, failure);
+    return;
+  }
+  app.StreamBuffer.clear();
+  ShowBarFull(app);
+  FinishUpload(app);
+}
+
+// The history ids of a recorder's pair of lists; a list that shows nothing is skipped.
+void TakeHistoryIds(Application& app, const List& destination, const List& source) {
+  if (destination.position >= 0) app.image[FieldId::HIST_DEST_ID] = ByteToHex(destination.position + 1);
+  if (source.position >= 0) app.image[FieldId::HIST_SRC_ID] = ByteToHex(source.position + 1);
+}
+
+void TakeHistoryDestination(Application& app) {
+  const auto& form = app.frmMain;
+  if (form.OpDVR.chosen < 0) return;
+  app.image[FieldId::HIST_REG] = ByteToHex(form.OpDVR.chosen);
+  if (form.OpDVR.chosen == 1) TakeHistoryIds(app, form.ComboKLM4011[0], form.ComboKLM4011[1]);
+  if (form.OpDVR.chosen == 2) TakeHistoryIds(app, form.ComboKLM4011[2], form.ComboKLM4011[3]);
+}
+
+}  // namespace
+
+void BeginUpload(Application& app) {
+  BeginTransfer(app, kLinkUpload, app.UploadCommandText, app.frmMain.Label64[1]);
+}
+
+void BeginDownload(Application& app) {
+  app.DownloadRequested = true;
+  BeginTransfer(app, kLinkDownload, app.DownloadCommandText, app.frmMain.Label64[0]);
+}
+
+void CollectUploadChar(Application& app) {
+  if (!app.RemoteHeld) return;
+  if (app.FrameState == 0) {
+    if (app.LastReceived != "$") return;
+    app.StreamBuffer = app.LastReceived;
+    app.FrameState = 1;
+    app.ProgressChars = 0;
+    app.ProgressValue = 0;
+    return;
+  }
+  app.StreamBuffer += app.LastReceived;
+  if (app.LastReceived == "#") {
+    FinishStream(app);
+  } else {
+    CountProgress(app);
+  }
+}
+
+void FinishUpload(Application& app) {
+  bool taken = false;
+  try {
+    taken = TakeUpload(app);
+    if (taken) {
+      for (const auto& routine : app.Setting_Code) routine.run(app);
+    }
+  } catch (const Failure& failure) {
+    AbandonUpload(app, failure);
+    return;
+  }
+  app.PanelsReady = true;
+  ShowBarFull(app);
+  LoadForm(app, app.frmOK_buttom.form);
+  app.frmOK_buttom.Label1.caption = taken ? "Upload Completed." : "Upload Incompleted.";
+  ShowForm(app, app.frmOK_buttom.form);
+  HideTransfer(app, app.frmMain.Label64[1]);
+  EndRemoteMode(app);
+  StopOperating(app);
+  app.UploadApplying = false;
+}
+
+void DownloadAcknowledged(Application& app) {
+  if (IsKnownFamily(app.firmware.version) && !app.firmware.IsV1400()) TakeHistoryDestination(app);
+  if (app.FinalAckExpected) {
+    app.FinalAckExpected = false;
+    return;
+  }
+  if (app.RemoteHeld && !app.DownloadActive) StartDownload(app);
+}
+
+void StartDownload(Application& app) {
+  app.SYSCFG.clear();
+  app.SYSFIXED.clear();
+  app.SYSSTR.clear();
+  if (IsKnownFamily(app.firmware.version)) app.StreamBuffer = SectionsToStream(app);
+  app.PendingOutput = app.StreamBuffer;
+  app.LastSent = app.PendingOutput.substr(0, 1);
+  app.PendingOutput.erase(0, app.LastSent.size());
+  OutputOrSkip(app, app.LastSent);
+  app.ProgressChars = 0;
+  app.ProgressValue = 0;
+  app.DownloadActive = true;
+  StopOperating(app);
+  app.StreamBuffer.clear();
+}
+
+void FinishDownload(Application& app) {
+  ShowBarFull(app);
+  ShowForm(app, app.frmOK_buttom.form);
+  app.FinalAckExpected = true;
+  HideTransfer(app, app.frmMain.Label64[0]);
+  app.DownloadActive = false;
+  EndRemoteMode(app);
+  app.PendingOutput.clear();
+}
+
+void frmOK_buttom_Load(Application& app, int) {
+  app.frmOK_buttom.Label1.caption = TransferEndForm::kDesignText;
+  app.frmOK_buttom.form.top_most = true;
+  app.platform.SetWindowPos(app.frmOK_buttom.form.name);
+}
+
+void frmOK_buttom_Shown(Application& app, int) {
+  app.frmMain.form.enabled = false;
+}
+
+void frmOK_buttom_Unload(Application& app, int) {
+  app.frmMain.form.enabled = true;
+  app.frmMain.cmdConnect.enabled = true;
+  app.frmMain.CmdUpDow[kRemote].enabled = true;
+}
+
+void TransferEnd_Click(Application& app, int) {
+  app.LinkMode = kLinkIdle;
+  app.frmMain.cmdConnect.enabled = true;
+  app.frmMain.CmdUpDow[kRemote].enabled = true;
+  UnloadForm(app, app.frmOK_buttom.form);
+}
+
+}  // namespace ovl
