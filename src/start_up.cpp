@@ -1,0 +1,158 @@
+#include "start_up.h"
+
+#include "catalogue/firmware.h"
+#include "catalogue/register_catalogue.h"
+#include "core/actions.h"
+#include "core/failure.h"
+#include "core/settings.h"
+#include "link/clock.h"
+#include "link/port.h"
+#include "link/remote_mode.h"
+#include "link/transfer.h"
+#include "registers/selection_driver.h"
+
+namespace ovl {
+namespace {
+
+void menuExit_Click(Application& app, int) {
+  EndProgram(app);
+}
+
+void frmMain_Close(Application& app, int) {
+  EndProgram(app);
+}
+
+template <class Controls>
+void Handle(Controls& controls, Handler handler) {
+  for (auto& control : controls) control.handler = handler;
+}
+
+void WireMain(MainForm& form) {
+  form.form.window_close = frmMain_Close;
+  form.menuExit.handler = menuExit_Click;
+  form.ComboReg.handler = RegisterSelected;
+  form.cmdConnect.handler = cmdConnect_Click;
+  form.cmdDisConnect.handler = cmdDisConnect_Click;
+  Handle(form.CmdUpDow, CmdUpDow_Click);
+  for (auto& button : form.CmdUpDow) button.point = CmdUpDow_Point;
+  form.Frame11.point = Frame11_Point;
+  form.MSComm1.handler = MSComm1_OnComm;
+  form.General_timer.handler = General_timer_Timer;
+  form.Time_handcheck.handler = Time_handcheck_Timer;
+  form.Timer_Operating.handler = Timer_Operating_Timer;
+
+  form.Timer.handler = Timer_Timer;
+  form.CheckTD.handler = CheckTD_Click;
+  form.ComboHR.handler = ComboHR_Click;
+  form.ComboMin.handler = ComboMin_Click;
+  form.ComboSec.handler = ComboSec_Click;
+  form.ComboMonth.handler = ComboMonth_Click;
+  form.ComboYear.handler = ComboYear_Click;
+  Handle(form.ComboDay, ComboDay_Click);
+}
+
+void WireLinkForms(Application& app) {
+  auto& port = app.frmSettSR;
+  port.form.load = frmSettSR_Load;
+  port.form.unload = frmSettSR_Unload;
+  port.Comport_Select.handler = Comport_Select_Click;
+  port.OpBaud.handler = OpBaud_Click;
+  port.OpDataBits.handler = OpDataBits_Click;
+  port.OpParity.handler = OpParity_Click;
+  port.cmdSET.handler = cmdSET_Click;
+  port.BaudrateCMD.handler = BaudrateCMD_Click;
+  port.BaudRateScan.handler = BaudRateScan_Timer;
+
+  auto& scan = app.frmScanBProgress;
+  scan.form.load = frmScanBProgress_Load;
+  scan.form.unload = frmScanBProgress_Unload;
+  scan.Command1.handler = ScanCancel_Click;
+
+  auto& end = app.frmOK_buttom;
+  end.form.load = frmOK_buttom_Load;
+  end.form.shown = frmOK_buttom_Shown;
+  end.form.unload = frmOK_buttom_Unload;
+  end.form.window_close = TransferEnd_Click;
+  end.Command1.handler = TransferEnd_Click;
+}
+
+// In the order in which a load refreshes the panels.
+void OrderApplyRoutines(Application& app) {
+  app.Setting_Code = {{ApplyRegisterSelection, true}};
+}
+
+void ReadFirmware(Application& app) {
+  app.firmware.version = ReadSetting(app, SettingRoot::kLocalMachine, kSettingsKey, kVersionValue);
+  if (!app.firmware.version.empty()) {
+    app.firmware.release = ReadSetting(app, SettingRoot::kLocalMachine, kSettingsKey, kReleaseValue);
+  }
+  if (!app.firmware.version.empty() && !app.firmware.release.empty()) return;
+  MsgBox(app, "Please ReInstall Ovalon PC Software", "Registry Error.", BoxIcon::kInformation);
+  EndProgram(app);
+}
+
+void BuildForFirmware(Application& app) {
+  MarkFirmwareMenu(app, true);
+  for (auto& label : app.frmMain.lbVersionID) label.caption = app.firmware.Joined();
+  ApplyCompactFirmware(app);
+  ResetRegisterIndexes(app);
+  BuildRegisterList(app);
+}
+
+void SelectFirstRegister(Application& app) {
+  app.ImageTouched = false;
+  AssignPosition(app, app.frmMain.ComboReg, 0);
+  app.PanelsReady = true;
+}
+
+void ResetLink(Application& app) {
+  app.RemoteRequestText = "~~~SOH_REQUEST_EOT~~~k";
+  app.UploadCommandText = "/LU\r";
+  app.DownloadCommandText = "/LD\r";
+  app.DownloadRequested = false;
+  app.DownloadActive = false;
+  app.SetTimePending = false;
+  app.HistoryPending = false;
+  app.MasterResetPending = false;
+  app.FinalAckExpected = false;
+  app.ComboTouched = false;
+  app.RemoteHeld = false;
+  app.ScanActive = false;
+  app.LinkMode = kLinkIdle;
+}
+
+void frmMain_Load(Application& app) {
+  auto& form = app.frmMain;
+  ReadFirmware(app);
+  BuildForFirmware(app);
+  EnableTimer(form.Timer, true);
+  form.SSTab1.current = 0;
+  SelectFirstRegister(app);
+  ResetLink(app);
+  form.EnableActions(false);
+  for (auto& list : form.ComboDay) list.visible = false;
+  form.ComboDay[0].visible = true;
+  ShowForm(app, form.form);
+}
+
+void Start(Application& app) {
+  try {
+    frmMain_Load(app);
+  } catch (const Failure& failure) {
+    app.StatusNote = failure.Subject() + ": " + failure.what();
+    MsgBox(app, " ! Please Reinstall OVL PC Software !");
+    EndProgram(app);
+  }
+}
+
+}  // namespace
+
+Outcome StartProgram(Application& app) {
+  BuildVersionMenu(app);
+  WireMain(app.frmMain);
+  WireLinkForms(app);
+  OrderApplyRoutines(app);
+  return DispatchStart(app, Start);
+}
+
+}  // namespace ovl

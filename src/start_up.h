@@ -1,0 +1,13 @@
+// The one place that knows everybody: gives every control its handler and starts the program.
+#pragma once
+
+#include "core/gate.h"
+
+namespace ovl {
+
+// Builds the Version menu, sets all handlers, the order of the apply routines, and runs the start: settings
+// store, register list, first register. The platform record must be filled. kEnded: the program told why, and
+// is over.
+Outcome StartProgram(Application& app);
+
+}  // namespace ovl
