@@ -1,0 +1,112 @@
+#include "default_images.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "catalogue/register_lists.h"
+#include "core/failure.h"
+#include "image/field_map.h"
+#include "image/files.h"
+#include "image/record_stream.h"
+
+namespace ovl {
+namespace {
+
+using enum FieldId;
+
+// The line settings of a register that forces none: 9600 baud, 8 data bits, no parity.
+constexpr const char* kEightDataBits = "04";
+constexpr const char* kBaud9600 = "03";
+constexpr const char* kDisplayOn = "20";
+
+Capabilities CapabilitiesOf(const FirmwareId& firmware) {
+  Application app;
+  app.firmware = firmware;
+  PrepareCapabilities(app);
+  return app.capabilities;
+}
+
+// The code of "RS-232" in the firmware's interface byte.
+const char* InterfaceCode(const FirmwareId& firmware) {
+  const auto layout = LayoutOf(firmware);
+  return layout == Layout::kLateV1400 || layout == Layout::kNewV13 ? "0E" : "0A";
+}
+
+// Older firmware count the demonstration's character list from 1.
+bool HasOldDemoForm(const FirmwareId& firmware) {
+  const int release = firmware.Number();
+  return (firmware.version == "V1400" && release == 1) || (firmware.version == "V1300" && release < 27) ||
+         (firmware.version == "V1324" && release < 26);
+}
+
+std::string EmptyException(Layout layout) {
+  const std::string range(LayoutOf({"V1400", "R1"}) == layout || layout == Layout::kLateV1400 ? 20 : 12, '0');
+  std::string slot = "10" + range + "00";
+  for (int place = 0; place < 40; ++place) slot += "20";
+  return slot + "00";
+}
+
+void SetEvery(ConfigImage& image, FieldId field, const std::string& value) {
+  for (int entry = 1; entry <= EntryCount(field); ++entry) image.at(field, entry) = value;
+}
+
+std::string StreamOf(ConfigImage image, const FirmwareId& firmware, const Capabilities& capabilities) {
+  const auto sections = WriteSections(image, LayoutOf(firmware), firmware, capabilities);
+  return BlockRecords(sections.SYSCFG + sections.SYSFIXED + sections.SYSSTR, WriteRegion(firmware));
+}
+
+std::string FileName(const FirmwareId& firmware, std::string_view name) {
+  std::string file(name);
+  if (firmware.IsV1400()) {
+    std::replace(file.begin(), file.end(), '/', ' ');
+    std::replace(file.begin(), file.end(), ',', ' ');
+  }
+  return file + ".bin";
+}
+
+}  // namespace
+
+ConfigImage FactoryImage(const FirmwareId& firmware) {
+  const auto layout = LayoutOf(firmware);
+  const auto capabilities = CapabilitiesOf(firmware);
+  ConfigImage image;
+  for (const auto& row : FieldTable()) {
+    if (!InStream(row, layout, firmware.Number(), capabilities, Direction::kRead)) continue;
+    SetEvery(image, row.id, std::string(static_cast<std::size_t>(DigitsOf(row, layout)), '0'));
+  }
+  image[COMMCFG_BAK] = kEightDataBits;
+  image[IOCFG_BAK] = InterfaceCode(firmware);
+  image[RX_BAUDRATE] = kBaud9600;
+  image[TX_BAUDRATE] = kBaud9600;
+  image[HIST_DEST_ID] = "01";
+  image[HIST_SRC_ID] = "01";
+  image[DSPLINES_BAK] = "08";
+  image[DSPCFG_BAK] = kDisplayOn;
+  image[BLNKIND] = "0B";
+  image[DAYLIGHT_BAK] = "01";
+  image[DEMO_ENABLE] = HasOldDemoForm(firmware) ? "01" : "00";
+  if (firmware.IsV1400()) image[DSPCHARS_BAK] = "28";
+  SetEvery(image, ALMSTRUCT_BAK, firmware.IsV1400() ? "00FF0000" : "00FF00");
+  SetEvery(image, EXCPSTRS, EmptyException(layout));
+  return image;
+}
+
+int WriteDefaultImages(const std::string& folder, const FirmwareId& firmware) {
+  namespace fs = std::filesystem;
+  const auto images = fs::path(folder) / firmware.version / firmware.release;
+  std::error_code error;
+  fs::create_directories(images, error);
+  if (error) throw Failure(images.string(), error.message());
+
+  const auto capabilities = CapabilitiesOf(firmware);
+  auto image = FactoryImage(firmware);
+  int code = 0;
+  for (const auto& entry : BuildRegisterEntries(firmware.version, firmware.release)) {
+    image[REGTYPE] = ByteToHex(code++);
+    const auto stream = StreamOf(image, firmware, capabilities);
+    WriteWhole((images / FileName(firmware, entry.name)).string(), stream + "\r\n");
+  }
+  return code;
+}
+
+}  // namespace ovl

@@ -1,0 +1,19 @@
+// The default images that the program needs at run time: one record stream for each name of a firmware's
+// register list.
+#pragma once
+
+#include <string>
+
+#include "core/config_image.h"
+#include "core/firmware_id.h"
+
+namespace ovl {
+
+// The image that a firmware's first register brings in whole: nothing watched for, nothing triggered, a plain
+// display.
+ConfigImage FactoryImage(const FirmwareId& firmware);
+
+// Writes the images of one firmware below the folder and gives their number. Throws Failure.
+int WriteDefaultImages(const std::string& folder, const FirmwareId& firmware);
+
+}  // namespace ovl

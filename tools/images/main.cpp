@@ -1,0 +1,62 @@
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "catalogue/firmware.h"
+#include "core/failure.h"
+#include "default_images.h"
+
+namespace {
+
+constexpr const char* kHelp =
+    "ovl-images FOLDER [FIRMWARE...]\n"
+    "\n"
+    "Writes the default image of every register below FOLDER: a folder for each family, below it one for\n"
+    "each release, in it one .bin file for each name of the firmware's register list. Without FIRMWARE, such "
+    "as\n"
+    "V1400R12, all of them. Files that are there are replaced.\n"
+    "\n"
+    "Exit status: 0 done; 1 a file could not be written; 2 wrong usage.\n";
+
+bool Wanted(const ovl::FirmwareId& firmware, const std::vector<std::string>& names) {
+  if (names.empty()) return true;
+  for (const auto& name : names) {
+    if (name == firmware.Joined()) return true;
+  }
+  return false;
+}
+
+bool IsFirmware(const std::string& name) {
+  for (const auto& entry : ovl::FirmwareTable()) {
+    if (entry.in_menu && name == std::string(entry.version).append(entry.release)) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const std::vector<std::string> words(argv + 1, argv + argc);
+  if (words.empty() || words.front() == "--help") {
+    (words.empty() ? std::cerr : std::cout) << kHelp;
+    return words.empty() ? 2 : 0;
+  }
+  const std::vector<std::string> names(words.begin() + 1, words.end());
+  for (const auto& name : names) {
+    if (IsFirmware(name)) continue;
+    std::cerr << "ovl-images: no firmware is called " << name << "\n";
+    return 2;
+  }
+  int files = 0;
+  try {
+    for (const auto& entry : ovl::FirmwareTable()) {
+      const ovl::FirmwareId firmware{std::string(entry.version), std::string(entry.release)};
+      if (entry.in_menu && Wanted(firmware, names)) files += ovl::WriteDefaultImages(words.front(), firmware);
+    }
+  } catch (const ovl::Failure& failure) {
+    std::cerr << "ovl-images: " << failure.Subject() << ": " << failure.what() << "\n";
+    return 1;
+  }
+  std::cout << files << " default images below " << words.front() << "\n";
+  return 0;
+}
