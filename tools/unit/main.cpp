@@ -1,0 +1,35 @@
+#include <iostream>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "options.h"
+#include "session.h"
+
+namespace {
+
+constexpr int kComplaints = 1;
+constexpr int kCannotStart = 2;
+
+int Fail(const std::string& error) {
+  std::cerr << "ovl-unit: " << error << std::endl;
+  return kCannotStart;
+}
+
+}  // namespace
+
+int main(int count, char** values) {
+  const std::vector<std::string_view> arguments(values + 1, values + count);
+  const unit::ParsedOptions parsed = unit::ParseOptions(arguments);
+  if (!parsed.error.empty()) return Fail(parsed.error + "\nTry \"ovl-unit --help\".");
+  if (parsed.options.help) {
+    std::cout << unit::HelpText();
+    return 0;
+  }
+  std::string error;
+  const std::unique_ptr<unit::Session> session = unit::Session::Start(parsed.options, error);
+  if (!session) return Fail(error);
+  std::cout << "port " << session->Port() << std::endl;
+  return session->Run() ? 0 : kComplaints;
+}

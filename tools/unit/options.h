@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "faults.h"
+#include "firmware.h"
+
+namespace unit {
+
+struct Options {
+  const Firmware* firmware = nullptr;
+  unsigned speed = 9600;
+  bool paced = true;
+  std::string memory;
+  std::string image;
+  std::string link;
+  std::string history = "lines:12";
+  std::string clock_file;
+  std::string log;
+  std::uint64_t seed = 1;
+  std::vector<Fault> faults;
+  bool verbose = false;
+  bool help = false;
+};
+
+// Reads a command line without the program's name. `error` names the option and the value that are wrong;
+// empty when all is right.
+struct ParsedOptions {
+  Options options;
+  std::string error;
+};
+ParsedOptions ParseOptions(std::span<const std::string_view> arguments);
+
+// The number of lines when `history` asks for made-up ones, "lines:N"; nothing when it names a file.
+std::optional<unsigned> MadeUpLines(std::string_view history);
+
+std::string HelpText();
+
+}  // namespace unit

@@ -1,0 +1,110 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "faults.h"
+#include "firmware.h"
+#include "stream.h"
+#include "transmitter.h"
+
+namespace unit {
+
+// The text with which a tool asks for remote mode.
+inline constexpr std::string_view kRequest = "~~~SOH_REQUEST_EOT~~~k";
+
+// A tool that holds remote mode asks far more often than this.
+inline constexpr Time kPatience = std::chrono::seconds(30);
+
+// What the unit wants of its surroundings. None may be empty.
+struct Surroundings {
+  // The tool did something that a unit does not accept.
+  std::function<void(const std::string&)> complain;
+  // Something worth knowing that is nobody's mistake.
+  std::function<void(const std::string&)> note;
+  // These bytes have left the unit.
+  std::function<void(const std::string&)> send;
+  // Keeps the configuration or the clock, a text "MM-DD-YY HH:MM:SS". What went wrong, empty when kept.
+  std::function<std::string(const std::string& image)> keep_image;
+  std::function<std::string(const std::string& clock)> keep_clock;
+};
+
+struct UnitSetup {
+  const Firmware* firmware = nullptr;  // of the unit; must not be null
+  std::string image;                   // its configuration, as many digits as the region holds
+  std::string history;                 // lines end in CR LF
+  unsigned speed = 0;                  // of its line, for the pacing; 0: characters take no time
+  Faults faults{{}, 0};
+};
+
+// The unit's side of the conversation: bytes and times go in, bytes come out. It knows no port, no clock and
+// no file, so that a whole conversation can be replayed in simulated time.
+class Unit {
+ public:
+  Unit(UnitSetup setup, Surroundings surroundings);
+
+  // A byte arrived at the unit's own speed.
+  void Receive(char byte, Time now);
+
+  // Sends what has to be sent by now and gives up a tool that has been silent for too long.
+  void Advance(Time now);
+
+  // When Advance() has to be called next, if nothing arrives before.
+  std::optional<Time> NextDue() const;
+
+  bool Remote() const { return state_ != State::kAsleep; }
+  const std::string& Image() const { return image_; }
+
+ private:
+  enum class State { kAsleep, kListening, kTakingStream, kSending };
+
+  struct Command;
+  static std::optional<Command> FindCommand(std::string_view line);
+
+  bool EndsRequest(char byte);
+  void Asked(Time now);
+  void HearAsleep(char byte, Time now);
+  void HearCommand(char byte, Time now);
+  void HearStream(char byte, Time now);
+  void HearWhileSending(char byte);
+  void JudgeLine(Time now);
+  void Obey(const Command& command, std::string_view text, Time now);
+
+  void SendConfiguration(Time now);
+  void AwaitStream(Time now);
+  void SetClock(std::string_view text, Time now);
+  void SendHistory(Time now);
+  void MasterReset(Time now);
+
+  void EndStream(Time now);
+  bool Keep(const std::string& image);
+  void SendText(SpoiltText text, Time now);
+  void Answer(char byte, Time now);
+  void RefuseLine(const std::string& why, Time now);
+  void Listen(Time now);
+  void Sleep();
+  void Leave(const std::string& why);
+  void GiveUp(Time now);
+  std::optional<Time> Deadline() const;
+
+  const Firmware& firmware_;
+  std::string image_;
+  std::string history_;
+  Faults faults_;
+  Surroundings surroundings_;
+  Transmitter transmitter_;
+
+  State state_ = State::kAsleep;
+  State after_sending_ = State::kAsleep;
+  std::string window_;               // the latest characters, as many as a request has
+  std::string line_;                 // characters not yet understood
+  std::string_view skipped_ending_;  // rest of a refused command's ending
+  StreamChecker checker_;
+  Time heard_{};             // of the last sign of life that counts in this state
+  Time stream_end_watch_{};  // until then a character behind the end mark is told
+  bool told_ = false;        // a complaint of the present state that is made once only
+};
+
+}  // namespace unit
