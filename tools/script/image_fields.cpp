@@ -1,0 +1,64 @@
+#include "image_fields.h"
+
+#include <charconv>
+
+#include "image/files.h"
+#include "image/record_stream.h"
+#include "parser.h"
+#include "stop.h"
+
+namespace ovl::script {
+
+std::string FieldEntry::Name() const {
+  const std::string name(row->name);
+  return EntryCount(row->id) == 1 ? name : name + "(" + std::to_string(entry) + ")";
+}
+
+std::vector<FieldEntry> FieldsNamed(std::string_view name) {
+  const auto bracket = name.find('(');
+  const auto* row = FindField(name.substr(0, bracket));
+  if (row == nullptr) Wrong("no field has the name " + Quoted(name));
+  const int count = EntryCount(row->id);
+  std::vector<FieldEntry> fields;
+  if (bracket == std::string_view::npos) {
+    for (int entry = 1; entry <= count; ++entry) fields.push_back({row, entry});
+    return fields;
+  }
+  int entry = 0;
+  const auto digits = name.substr(bracket + 1);
+  const auto* end = digits.data() + digits.size();
+  const auto [stop, error] = std::from_chars(digits.data(), end, entry);
+  if (error != std::errc() || std::string_view(stop, static_cast<std::size_t>(end - stop)) != ")" ||
+      entry < 1 || entry > count) {
+    Wrong("the entries of " + std::string(row->name) + " are 1 to " + std::to_string(count) + ", not " +
+          Quoted(name));
+  }
+  fields.push_back({row, entry});
+  return fields;
+}
+
+FieldEntry FieldNamed(std::string_view name) {
+  const auto fields = FieldsNamed(name);
+  if (fields.size() != 1)
+    Wrong(std::string(name) + " has several entries, " + fields.front().Name() + " is one");
+  return fields.front();
+}
+
+std::string StreamOf(Application& app) {
+  const auto image = app.image;
+  const auto capabilities = app.capabilities;
+  const Sections sections{app.SYSCFG, app.SYSFIXED, app.SYSSTR};
+  auto stream = SectionsToStream(app);
+  app.image = image;
+  app.capabilities = capabilities;
+  app.SYSCFG = sections.SYSCFG;
+  app.SYSFIXED = sections.SYSFIXED;
+  app.SYSSTR = sections.SYSSTR;
+  return stream;
+}
+
+void WriteStream(Application& app, const std::string& path) {
+  WriteWhole(path, StreamOf(app) + "\r\n");
+}
+
+}  // namespace ovl::script

@@ -1,0 +1,19 @@
+// A script from its first line to its last.
+#pragma once
+
+#include <istream>
+#include <ostream>
+#include <string>
+
+#include "session.h"
+#include "stop.h"
+
+namespace ovl::script {
+
+// Runs line after line and stops at the first that fails; why, goes to `errors` as "NAME:LINE: reason".
+ExitStatus RunScript(Session& session, std::istream& script, const std::string& name, std::ostream& errors);
+
+// What --help prints.
+std::string HelpText();
+
+}  // namespace ovl::script

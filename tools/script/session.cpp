@@ -1,0 +1,188 @@
+#include "session.h"
+
+#include "core/settings.h"
+#include "parser.h"
+#include "real_transfer.h"
+#include "shell/platform/system_clock.h"
+#include "start_up.h"
+#include "stop.h"
+
+namespace ovl::script {
+
+Session::Session(std::ostream& output, std::ostream& progress)
+    : output_(output), progress_(progress), simulated_operations_(simulated_.Operations()) {}
+
+Session::~Session() = default;
+
+void Session::SetFolder(std::string folder) {
+  while (folder.size() > 1 && folder.back() == '/') folder.pop_back();
+  folder_ = std::move(folder);
+}
+
+void Session::StoreSetting(const std::string& value, const std::string& text) {
+  if (!WriteStore(kSettingsKey, value, text)) Wrong("the machine's settings store cannot be written");
+}
+
+void Session::SetClock(const ClockTime& time) {
+  time_.SetClock(time);
+  clock_set_ = true;
+}
+
+void Session::RequireClosedPort() {
+  if (app_ != nullptr && !app_->ended && app_->frmMain.MSComm1.PortOpen) Wrong("the port is open");
+}
+
+void Session::UseRealPorts() {
+  if (real_ != nullptr) return;
+  RequireClosedPort();
+  OpenRealPorts();
+}
+
+// What a port's number means depends on the program folder.
+void Session::OpenRealPorts() {
+  real_.reset();
+  real_ = std::make_unique<RealLine>(*this, folder_);
+  real_operations_ = real_->Operations();
+}
+
+void Session::UseSimulatedPort() {
+  if (real_ == nullptr) return;
+  RequireClosedPort();
+  real_operations_ = {};
+  real_.reset();
+}
+
+SimulatedLine& Session::Simulated() {
+  if (real_ != nullptr) Wrong("the machine's own ports are in use");
+  return simulated_;
+}
+
+RealLine& Session::Real() {
+  if (real_ == nullptr) Wrong("the machine's own ports are not in use");
+  return *real_;
+}
+
+SerialLine& Session::CurrentLine() {
+  return real_ != nullptr ? real_operations_ : simulated_operations_;
+}
+
+Platform Session::MakePlatform() {
+  Platform platform;
+  platform.program_folder = folder_;
+  platform.show_message = [this](const MessageBox& box) { Show(box); };
+  platform.ask_file = [this](const FileDialog&) { return Answer(); };
+  platform.read_setting = [this](auto key, auto value) { return ReadStore(key, value); };
+  platform.write_setting = [this](auto key, auto value, auto text) { return WriteStore(key, value, text); };
+  platform.clock = [this] { return Clock(); };
+  platform.SetWindowPos = [](std::string_view) {};
+  platform.serial.open = [this](const LineSettings& settings) { return CurrentLine().open(settings); };
+  platform.serial.close = [this] { CurrentLine().close(); };
+  platform.serial.write = [this](std::string_view text) {
+    const auto error = CurrentLine().write(text);
+    if (!error) sent_ += text;
+    return error;
+  };
+  platform.serial.read = [this] { return CurrentLine().read(); };
+  platform.serial.clear_input = [this] { CurrentLine().clear_input(); };
+  platform.serial.clear_output = [this] { CurrentLine().clear_output(); };
+  return platform;
+}
+
+void Session::Start() {
+  CurrentLine().close();
+  if (real_ != nullptr) OpenRealPorts();
+  time_.Forget();
+  app_ = std::make_unique<Application>();
+  app_->platform = MakePlatform();
+  end_told_ = false;
+  StartProgram(*app_);
+  Settle();
+}
+
+Application& Session::App() {
+  if (app_ == nullptr) Wrong("the program was not started");
+  return *app_;
+}
+
+ControlRef Session::Control(const std::string& name) {
+  const auto* named = App().registry.Find(name);
+  if (named == nullptr) Wrong("no control has the name " + Quoted(name));
+  return named->control;
+}
+
+Outcome Session::Act(const Event& event) {
+  const auto outcome = Dispatch(App(), event);
+  Settle();
+  DeliverReceived();
+  return outcome;
+}
+
+Outcome Session::Run(void (*routine)(Application&)) {
+  const auto outcome = DispatchStart(App(), routine);
+  Settle();
+  DeliverReceived();
+  return outcome;
+}
+
+void Session::Settle() {
+  if (app_->ended && !std::exchange(end_told_, true)) output_ << "ended" << std::endl;
+  if (real_ != nullptr) real_->Resume();
+}
+
+void Session::DeliverReceived() {
+  while (!Ended() && simulated_.TakeReceived()) {
+    const auto outcome = Dispatch(App(), ReceivedEvent{});
+    if (outcome == Outcome::kBusy) return simulated_.KeepReceived();
+    Settle();
+  }
+}
+
+void Session::Wait(SimulatedTime::Milliseconds duration) {
+  auto& app = App();
+  if (real_ != nullptr) {
+    real_->RunFor(duration);
+    return;
+  }
+  time_.Advance(app.registry, duration, [this](Timer& timer) {
+    Act(TickEvent{&timer});
+    return !Ended();
+  });
+}
+
+void Session::Show(const MessageBox& box) {
+  output_ << "box " << Quoted(box.title) << ' ' << Quoted(box.text) << std::endl;
+  boxes_.push_back(box);
+  ++boxes_shown_;
+}
+
+std::optional<MessageBox> Session::TakeBox() {
+  if (boxes_.empty()) return std::nullopt;
+  auto box = std::move(boxes_.front());
+  boxes_.pop_front();
+  return box;
+}
+
+std::optional<FileAnswer> Session::Answer() {
+  if (answers_.empty()) return std::nullopt;
+  const auto path = std::move(answers_.front());
+  answers_.pop_front();
+  return path ? std::optional(FileAnswer{*path}) : std::nullopt;
+}
+
+std::optional<SettingValue> Session::ReadStore(std::string_view key, std::string_view value) const {
+  if (system_store_) return system_store_->Read(key, value);
+  const auto found = store_.find({std::string(key), std::string(value)});
+  return found == store_.end() ? std::nullopt : std::optional<SettingValue>(found->second);
+}
+
+bool Session::WriteStore(std::string_view key, std::string_view value, std::string_view text) {
+  if (system_store_) return system_store_->Write(key, value, text);
+  store_.insert_or_assign({std::string(key), std::string(value)}, std::string(text));
+  return true;
+}
+
+ClockTime Session::Clock() const {
+  return real_ != nullptr && !clock_set_ ? LocalClockTime() : time_.Clock();
+}
+
+}  // namespace ovl::script

@@ -1,0 +1,101 @@
+// One run of the tool: the program under script, and the world around it that the script makes up.
+#pragma once
+
+#include <deque>
+#include <map>
+#include <memory>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <utility>
+
+#include "core/gate.h"
+#include "shell/platform/settings_store.h"
+#include "simulated_line.h"
+#include "simulated_time.h"
+
+namespace ovl::script {
+
+class RealLine;
+
+// Whatever asks for the program before it was started, or for the simulated line while the machine's ports
+// are in use, throws Stop with kWrongStatement.
+class Session {
+ public:
+  // Statements print to `output`, transfers tell their progress to `progress`. Both must outlive the session.
+  Session(std::ostream& output, std::ostream& progress);
+  ~Session();
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
+
+  // The world: folder and store outlive the program and serve the next start as well.
+  void SetFolder(std::string folder);
+  void StoreSetting(const std::string& value, const std::string& text);
+  void UseSystemStore() { system_store_.emplace(); }
+  void QueueAnswer(std::optional<std::string> path) { answers_.push_back(std::move(path)); }
+  // Ahead of the answers that wait already.
+  void AnswerFirst(std::string path) { answers_.emplace_front(std::move(path)); }
+  void SetClock(const ClockTime& time);
+  // The port must be closed for a change between the simulated line and the machine's ports.
+  void UseRealPorts();
+  void UseSimulatedPort();
+  SimulatedLine& Simulated();
+  RealLine& Real();
+  SimulatedTime& Time() { return time_; }
+
+  // The program.
+  void Start();
+  Application& App();
+  bool Ended() const { return app_ != nullptr && app_->ended; }
+  ControlRef Control(const std::string& name);
+
+  // One event through the gate; what the line has to tell follows.
+  Outcome Act(const Event& event);
+  Outcome Run(void (*routine)(Application&));
+  void DeliverReceived();
+
+  // Time passes: at once on the simulated line, really with the machine's ports.
+  void Wait(SimulatedTime::Milliseconds duration);
+
+  // What the script can ask for.
+  std::string TakeSent() { return std::exchange(sent_, {}); }
+  std::optional<MessageBox> TakeBox();
+  const std::deque<MessageBox>& Boxes() const { return boxes_; }
+  // Since the session began, asked for or not.
+  int BoxesShown() const { return boxes_shown_; }
+
+  std::ostream& Output() { return output_; }
+  std::ostream& Progress() { return progress_; }
+
+ private:
+  Platform MakePlatform();
+  SerialLine& CurrentLine();
+  void RequireClosedPort();
+  void OpenRealPorts();
+  void Show(const MessageBox& box);
+  std::optional<FileAnswer> Answer();
+  std::optional<SettingValue> ReadStore(std::string_view key, std::string_view value) const;
+  bool WriteStore(std::string_view key, std::string_view value, std::string_view text);
+  ClockTime Clock() const;
+  void Settle();
+
+  std::ostream& output_;
+  std::ostream& progress_;
+  std::string folder_ = ".";
+  std::optional<SettingsStore> system_store_;
+  std::map<std::pair<std::string, std::string>, std::string> store_;  // by key and value
+  std::deque<std::optional<std::string>> answers_;
+  std::deque<MessageBox> boxes_;  // not yet expected
+  int boxes_shown_ = 0;
+  std::string sent_;
+  bool clock_set_ = false;
+  SimulatedTime time_;
+  SimulatedLine simulated_;
+  SerialLine simulated_operations_;
+  std::unique_ptr<Application> app_;
+  bool end_told_ = false;
+  std::unique_ptr<RealLine> real_;
+  SerialLine real_operations_;
+};
+
+}  // namespace ovl::script

@@ -1,0 +1,84 @@
+#include "simulated_line.h"
+
+#include <utility>
+
+namespace ovl::script {
+namespace {
+
+constexpr const char* kNothingThere = "No such file or directory";
+constexpr const char* kLost = "No such device";
+
+}  // namespace
+
+SerialLine SimulatedLine::Operations() {
+  SerialLine line;
+  line.open = [this](const LineSettings&) { return Open(); };
+  line.close = [this] { Close(); };
+  line.write = [this](std::string_view text) { return Write(text); };
+  line.read = [this] { return Read(); };
+  line.clear_input = [this] { ClearInput(); };
+  line.clear_output = [] {};
+  return line;
+}
+
+void SimulatedLine::Restore() {
+  refusal_.reset();
+}
+
+void SimulatedLine::Refuse(std::string reason) {
+  refusal_ = std::move(reason);
+}
+
+void SimulatedLine::Unplug() {
+  refusal_ = kNothingThere;
+  dead_ = true;
+}
+
+void SimulatedLine::Arrive(char character) {
+  if (!open_ || dead_) return;
+  received_.push_back(character);
+  ++untold_;
+}
+
+bool SimulatedLine::TakeReceived() {
+  if (untold_ == 0) return false;
+  --untold_;
+  return true;
+}
+
+bool SimulatedLine::TakeDrained() {
+  return std::exchange(draining_, false);
+}
+
+SerialLine::Error SimulatedLine::Open() {
+  if (refusal_) return refusal_;
+  open_ = true;
+  dead_ = false;
+  return std::nullopt;
+}
+
+void SimulatedLine::Close() {
+  open_ = false;
+  draining_ = false;
+  ClearInput();
+}
+
+SerialLine::Error SimulatedLine::Write(std::string_view text) {
+  if (dead_) return kLost;
+  if (open_ && !text.empty()) draining_ = true;
+  return std::nullopt;
+}
+
+std::string SimulatedLine::Read() {
+  if (received_.empty()) return {};
+  const std::string character(1, received_.front());
+  received_.pop_front();
+  return character;
+}
+
+void SimulatedLine::ClearInput() {
+  received_.clear();
+  untold_ = 0;
+}
+
+}  // namespace ovl::script

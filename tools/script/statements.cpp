@@ -1,0 +1,347 @@
+#include "statements.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include "expectations.h"
+#include "image/field_map.h"
+#include "image_fields.h"
+#include "inspection.h"
+#include "real_transfer.h"
+#include "stop.h"
+#include "variables.h"
+
+namespace ovl::script {
+namespace {
+
+// A program that goes on sending for ever must not keep the script from ending.
+constexpr int kLongestDrain = 2'000'000;
+
+// The control that the next word names, if it is of this kind.
+template <class Kind>
+Kind ControlOf(Session& session, Arguments& arguments, const char* kind) {
+  const auto& name = arguments.Bare("NAME");
+  const auto control = session.Control(name);
+  const auto* held = std::get_if<Kind>(&control);
+  if (held == nullptr) Wrong(name + " is no " + kind);
+  return *held;
+}
+
+// How often; once, or the given number, if the statement does not say.
+int Times(Arguments& arguments, int otherwise) {
+  const int times = arguments.AtEnd() ? otherwise : arguments.Number("N");
+  if (times < 0) Wrong("N must not be negative");
+  arguments.End();
+  return times;
+}
+
+void TellRefusal(Session& session, const std::string& name, Outcome outcome) {
+  if (outcome == Outcome::kRefused) session.Output() << "refused " << name << '\n';
+}
+
+// --- the world around the program
+
+void Folder(Session& session, Arguments& arguments) {
+  const auto path = arguments.Next("PATH");
+  arguments.End();
+  session.SetFolder(path);
+}
+
+void Setting(Session& session, Arguments& arguments) {
+  const auto name = arguments.Next("NAME");
+  const auto text = arguments.Next("TEXT");
+  arguments.End();
+  session.StoreSetting(name, text);
+}
+
+void Store(Session& session, Arguments& arguments) {
+  if (!arguments.Take("system")) Wrong("the only other store is: system");
+  arguments.End();
+  session.UseSystemStore();
+}
+
+void Start(Session& session, Arguments& arguments) {
+  arguments.End();
+  session.Start();
+}
+
+void Clock(Session& session, Arguments& arguments) {
+  const auto& text = arguments.Next("the time");
+  const auto time = ParseClock(text);
+  if (!time) Wrong("no clock shows " + Quoted(text));
+  arguments.End();
+  session.SetClock(*time);
+}
+
+void Answer(Session& session, Arguments& arguments) {
+  const bool cancel = arguments.Take("cancel");
+  auto path = cancel ? std::nullopt : std::optional(arguments.Next("PATH"));
+  arguments.End();
+  session.QueueAnswer(std::move(path));
+}
+
+void Port(Session& session, Arguments& arguments) {
+  const auto word = arguments.Bare("ok, fail, unplug or real");
+  if (word == "real") {
+    arguments.End();
+    return session.UseRealPorts();
+  }
+  if (word != "ok" && word != "fail" && word != "unplug") Wrong("no port is " + Quoted(word));
+  const auto reason = word == "fail" ? arguments.Next("REASON") : std::string();
+  arguments.End();
+  session.UseSimulatedPort();
+  if (word == "ok") session.Simulated().Restore();
+  if (word == "fail") session.Simulated().Refuse(reason);
+  if (word == "unplug") session.Simulated().Unplug();
+}
+
+void Wait(Session& session, Arguments& arguments) {
+  const int duration = arguments.Number("MS");
+  if (duration < 0) Wrong("time does not run backwards");
+  arguments.End();
+  session.Wait(duration);
+}
+
+// --- what a person does
+
+void Pick(Session& session, Arguments& arguments) {
+  const auto name = arguments.Bare("NAME");
+  const auto control = session.Control(name);
+  const auto entries = EntriesOf(control);
+  if (!entries || std::holds_alternative<Tabs*>(control)) Wrong(name + " has no entries to pick");
+  int position = 0;
+  if (arguments.NextIsQuoted()) {
+    const auto& entry = arguments.Next("ENTRY");
+    const auto found = std::find(entries->begin(), entries->end(), entry);
+    if (found == entries->end()) Wrong(name + " has no entry " + Quoted(entry));
+    position = static_cast<int>(found - entries->begin());
+  } else {
+    position = arguments.Number("POSITION");
+  }
+  if (position < 0 || position >= static_cast<int>(entries->size())) {
+    Wrong(name + " has no position " + std::to_string(position));
+  }
+  arguments.End();
+  TellRefusal(session, name, session.Act(PickEvent{control, position}));
+}
+
+void Click(Session& session, Arguments& arguments) {
+  const auto name = arguments.Bare("NAME");
+  const auto control = session.Control(name);
+  arguments.End();
+  const bool clickable = std::holds_alternative<Button*>(control) || CheckedOf(control).has_value();
+  if (!clickable) Wrong(name + " is no button, menu item, check box or element");
+  TellRefusal(session, name, session.Act(ClickEvent{control}));
+}
+
+void Type(Session& session, Arguments& arguments) {
+  const auto name = arguments.Bare("NAME");
+  const auto control = session.Control(name);
+  const auto text = arguments.Next("TEXT");
+  arguments.End();
+  if (std::holds_alternative<List*>(control)) return;
+  auto* const* box = std::get_if<TextBox*>(&control);
+  if (box == nullptr) Wrong(name + " is no text box");
+  TellRefusal(session, name, session.Act(TypeEvent{*box, text}));
+}
+
+void Leave(Session& session, Arguments& arguments) {
+  const auto control = session.Control(arguments.Bare("NAME"));
+  arguments.End();
+  session.Act(LeaveEvent{control});
+}
+
+void Press(Session& session, Arguments& arguments) {
+  const auto control = session.Control(arguments.Bare("NAME"));
+  const bool enter = arguments.Take("Enter");
+  if (!enter && !arguments.Take("Escape")) Wrong("the keys are Enter and Escape");
+  arguments.End();
+  session.Act(KeyEvent{session.App().registry.FormOf(control), enter ? Key::kEnter : Key::kEscape});
+}
+
+void Point(Session& session, Arguments& arguments) {
+  const auto control = session.Control(arguments.Bare("NAME"));
+  arguments.End();
+  session.Act(PointEvent{control});
+}
+
+void Close(Session& session, Arguments& arguments) {
+  auto* form = ControlOf<Form*>(session, arguments, "form");
+  arguments.End();
+  session.Act(CloseEvent{form});
+}
+
+// --- the unit, the line, the timers
+
+void Unit(Session& session, Arguments& arguments) {
+  std::string characters;
+  if (arguments.Take("hex")) {
+    do {
+      const auto& digits = arguments.Bare("a byte");
+      const auto byte = HexByte(digits);
+      if (!byte) Wrong(Quoted(digits) + " is no byte");
+      characters += *byte;
+    } while (!arguments.AtEnd());
+  } else {
+    characters = arguments.Text("what the unit sends");
+    arguments.End();
+  }
+  session.App();
+  auto& line = session.Simulated();
+  for (const char character : characters) {
+    line.Arrive(character);
+    session.DeliverReceived();
+  }
+}
+
+void Drain(Session& session, Arguments& arguments) {
+  const bool all = arguments.AtEnd();
+  const int times = Times(arguments, kLongestDrain);
+  auto& line = session.Simulated();
+  session.App();
+  int drained = 0;
+  while (drained < times && !session.Ended() && line.TakeDrained()) {
+    session.Act(DrainedEvent{});
+    ++drained;
+  }
+  if (all && drained == kLongestDrain) Wrong("the transmitter never runs empty");
+}
+
+void Sent(Session& session, Arguments& arguments) {
+  arguments.End();
+  session.Output() << Quoted(session.TakeSent()) << '\n';
+}
+
+void Tick(Session& session, Arguments& arguments) {
+  auto* timer = ControlOf<Timer*>(session, arguments, "timer");
+  const int times = Times(arguments, 1);
+  for (int tick = 0; tick < times && timer->enabled && !session.Ended(); ++tick) {
+    session.Act(TickEvent{timer});
+  }
+}
+
+// --- what is asked
+
+void Show(Session& session, Arguments& arguments) {
+  const auto name = arguments.Bare("NAME");
+  const auto control = session.Control(name);
+  arguments.End();
+  session.Output() << Description(name, control) << '\n';
+}
+
+void PrintList(Session& session, Arguments& arguments) {
+  const auto name = arguments.Bare("NAME");
+  const auto entries = EntriesOf(session.Control(name));
+  if (!entries) Wrong(name + " has no entries");
+  arguments.End();
+  for (const auto& entry : *entries) session.Output() << Quoted(entry) << '\n';
+}
+
+void Field(Session& session, Arguments& arguments) {
+  const auto name = arguments.Bare("NAME");
+  arguments.End();
+  for (const auto& field : FieldsNamed(name)) {
+    session.Output() << field.Name() << " = " << AsWord(field.In(session.App().image)) << '\n';
+  }
+}
+
+void Set(Session& session, Arguments& arguments) {
+  const auto field = FieldNamed(arguments.Bare("NAME"));
+  const auto text = arguments.Next("HEX");
+  arguments.End();
+  field.In(session.App().image) = text;
+}
+
+void Var(Session& session, Arguments& arguments) {
+  const auto name = arguments.Bare("NAME");
+  const auto value = VariableValue(session.App(), name);
+  if (!value) Wrong("no variable has the name " + Quoted(name));
+  arguments.End();
+  session.Output() << name << " = " << AsWord(*value) << '\n';
+}
+
+void Stream(Session& session, Arguments& arguments) {
+  const auto path = arguments.AtEnd() ? std::string() : arguments.Next("PATH");
+  arguments.End();
+  if (path.empty()) {
+    session.Output() << Quoted(StreamOf(session.App())) << '\n';
+  } else {
+    WriteStream(session.App(), path);
+  }
+}
+
+void Transfer(Session& session, Arguments& arguments, void (*transfer)(Session&, const std::string& path)) {
+  const auto path = arguments.AtEnd() ? std::string() : arguments.Next("PATH");
+  arguments.End();
+  session.App();
+  session.Real();
+  transfer(session, path);
+}
+
+void Upload(Session& session, Arguments& arguments) {
+  Transfer(session, arguments, UploadTo);
+}
+
+void Download(Session& session, Arguments& arguments) {
+  Transfer(session, arguments, DownloadFrom);
+}
+
+void Echo(Session& session, Arguments& arguments) {
+  const auto text = arguments.Next("TEXT");
+  arguments.End();
+  session.Output() << text << '\n';
+}
+
+constexpr auto kStatements = std::to_array<Statement>({
+    {"folder", "folder PATH", "the program folder", Folder},
+    {"setting", "setting NAME \"TEXT\"", "a value of the settings store, which stands in memory", Setting},
+    {"store", "store system", "the machine's settings store instead", Store},
+    {"start", "start", "starts the program; later the next start with the same store and folder", Start,
+     true},
+    {"pick", "pick NAME POSITION|\"ENTRY\"", "picks in a list, or an element of an option array", Pick},
+    {"click", "click NAME", "a button, a menu item, or a check box (turned over)", Click},
+    {"type", "type NAME \"TEXT\"", "replaces the text of a text box; a list refuses it silently", Type},
+    {"leave", "leave NAME", "the control loses the focus", Leave},
+    {"key", "key NAME Enter|Escape", "a key pressed in it", Press},
+    {"point", "point NAME", "the pointer moves over it", Point},
+    {"close", "close FORM", "the form's window button", Close},
+    {"unit", "unit \"TEXT\"\nunit hex 06 15", "characters from the unit, one receive event each", Unit},
+    {"drain", "drain [N]", "the transmitter runs empty N times, or until nothing more is sent", Drain},
+    {"sent", "sent", "prints what was written to the port since it was last asked", Sent, true},
+    {"tick", "tick TIMER [N]", "N ticks of a timer that is enabled; of another, nothing", Tick},
+    {"wait", "wait MS", "time passes; timers tick in the order in which they come due", Wait},
+    {"clock", "clock \"2026-03-05 14:07:09\"", "the clock stands at this time, and moves with wait", Clock},
+    {"answer", "answer \"PATH\"\nanswer cancel", "answers the next file dialog; without one, cancel", Answer},
+    {"port", "port ok\nport fail \"REASON\"\nport unplug\nport real",
+     "the simulated line opens, refuses, is lost; the machine's own ports", Port},
+    {"show", "show NAME", "prints NAME = position \"text\" visible|hidden enabled|disabled", Show},
+    {"list", "list NAME", "prints its entries, one a line", PrintList},
+    {"field", "field NAME", "prints an image field, NAME = HEX; entries count from 1: EXCPSTRS(3)", Field},
+    {"set", "set NAME HEX", "writes an image field as it stands", Set},
+    {"var", "var NAME", "prints a state variable, NAME = value", Var},
+    {"stream", "stream [PATH]", "prints what a download would send, or writes it into a file", Stream},
+    {"upload", "upload [PATH]", "a whole upload on the real port; the image then into a file", Upload},
+    {"download", "download [PATH]", "a whole download on the real port, of the image or of a file", Download},
+    {"expect",
+     "expect field NAME HEX\nexpect var NAME VALUE\nexpect count NAME N\nexpect list NAME \"A\" \"B\" ...\n"
+     "expect NAME POSITION\nexpect NAME \"TEXT\"\n"
+     "expect visible|hidden|enabled|disabled|checked|unchecked NAME\nexpect sent \"TEXT\"\n"
+     "expect box [\"TITLE\"] \"TEXT\"\nexpect no box\nexpect ended",
+     "the script fails if it is otherwise", Expect, true},
+    {"echo", "echo \"TEXT\"", "prints a text", Echo, true},
+});
+
+}  // namespace
+
+std::span<const Statement> Statements() {
+  return kStatements;
+}
+
+const Statement* FindStatement(std::string_view word) {
+  const auto found = std::find_if(kStatements.begin(), kStatements.end(),
+                                  [word](const Statement& at) { return at.word == word; });
+  return found == kStatements.end() ? nullptr : &*found;
+}
+
+}  // namespace ovl::script
