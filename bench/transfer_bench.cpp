@@ -1,0 +1,137 @@
+#include <sys/resource.h>
+
+#include <QAbstractEventDispatcher>
+#include <QEventLoop>
+#include <QTimer>
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+
+#include "bench.h"
+#include "image/record_stream.h"
+#include "shell/program.h"
+#include "site.h"
+
+namespace ovl::bench {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr int kBitsPerCharacter = 10;
+constexpr std::chrono::seconds kLongestTransfer(60);
+
+double Seconds(Clock::duration duration) {
+  return std::chrono::duration<double>(duration).count();
+}
+
+double ProcessorSeconds() {
+  rusage usage = {};
+  getrusage(RUSAGE_SELF, &usage);
+  const auto seconds = [](const timeval& time) {
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
+  };
+  return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+}
+
+// Watches how long the event loop is away from its queue.
+class HoldWatch {
+ public:
+  HoldWatch() {
+    auto* loop = QAbstractEventDispatcher::instance();
+    QObject::connect(loop, &QAbstractEventDispatcher::awake, &context_, [this] { woke_ = Clock::now(); });
+    QObject::connect(loop, &QAbstractEventDispatcher::aboutToBlock, &context_, [this] {
+      if (woke_ != Clock::time_point()) longest_ = std::max(longest_, Clock::now() - woke_);
+    });
+  }
+  void Restart() { longest_ = {}; }
+  double LongestMilliseconds() const { return Seconds(longest_) * 1000; }
+
+ private:
+  QObject context_;
+  Clock::time_point woke_;
+  Clock::duration longest_ = {};
+};
+
+// Lets events run until the condition holds; false if it takes too long.
+template <class Condition>
+bool RunUntil(const Condition& condition) {
+  const auto start = Clock::now();
+  QEventLoop loop;
+  QTimer poll;
+  poll.setInterval(1);
+  bool met = false;
+  QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
+    met = condition();
+    if (met || Clock::now() - start > kLongestTransfer) loop.quit();
+  });
+  poll.start();
+  loop.exec();
+  return met;
+}
+
+struct Bench {
+  Program& program;
+  HoldWatch& watch;
+  int speed;
+
+  Application& Model() const { return program.Model(); }
+
+  void Click(const char* name) const { program.Act(ClickEvent{Model().registry.Find(name)->control}); }
+
+  bool Hold() const {
+    Click("CmdUpDow(4)");
+    return RunUntil([&] { return Model().RemoteHeld && !Model().frmMain.General_timer.enabled; });
+  }
+
+  void Measure(const char* name, const char* button, double aim) const {
+    if (!Hold()) {
+      std::printf("%-8s at %6d   no remote mode\n", name, speed);
+      return;
+    }
+    watch.Restart();
+    const double processor = ProcessorSeconds();
+    const auto start = Clock::now();
+    Click(button);
+    if (!RunUntil([&] { return Model().frmOK_buttom.form.visible; })) {
+      std::printf("%-8s at %6d   did not end\n", name, speed);
+      return;
+    }
+    const double taken = Seconds(Clock::now() - start);
+    const double busy = ProcessorSeconds() - processor;
+    const auto characters = static_cast<double>(SectionsToStream(Model()).size() + 4);
+    const double rate = characters / taken;
+    std::printf(
+        "%-8s at %6d   %8.1f characters/s, %.3f of the line (aim %.2f); processor %.3f of the time, "
+        "longest hold %.2f ms (aim below 3)\n",
+        name, speed, rate, rate * kBitsPerCharacter / speed, aim, busy / taken, watch.LongestMilliseconds());
+    Click("frmOK_buttom.Command1");
+  }
+};
+
+}  // namespace
+
+void MeasureTransfers(Site& site) {
+  constexpr int kBaud9600 = 3;
+  constexpr int kBaud115200 = 9;
+  for (const int element : {kBaud9600, kBaud115200}) {
+    Program program(site.Folder(), site.Store());
+    if (program.Start() != Outcome::kDone) return;
+    auto& app = program.Model();
+    const int speed = std::stoi(app.frmSettSR.OpBaud.elements[static_cast<std::size_t>(element)].caption);
+    if (!site.StartUnit(speed)) {
+      std::printf("no unit at %d\n", speed);
+      continue;
+    }
+    HoldWatch watch;
+    const Bench bench{program, watch, speed};
+    bench.Click("cmdConnect");
+    program.Act(PickEvent{&app.frmSettSR.OpBaud, element});
+    bench.Click("cmdSET");
+    bench.Measure("upload", "CmdUpDow(0)", 0.98);
+    bench.Measure("download", "CmdUpDow(1)", element == kBaud9600 ? 0.99 : 0.95);
+    bench.Click("cmdDisConnect");
+  }
+  site.StopUnit();
+}
+
+}  // namespace ovl::bench
