@@ -152,6 +152,7 @@ void OnSendDrained(Application& app) {
     if (app.DownloadActive) FinishDownload(app);
   } catch (const Failure& failure) {
     app.StatusNote = failure.Subject() + ": " + failure.what();
+    ClearDownload(app);
     MsgBox(app, std::string(kSendFailureIndent, ' ') + failure.what());
   }
 }
