@@ -31,6 +31,11 @@ TEST(TextCodec, CharactersWithoutACodeAreRefused) {
   }
 }
 
+TEST(TextCodec, WhatTheSystemSaysIsUtf8WhereItCanBe) {
+  EXPECT_EQ(FromSystem("/tmp/\xC3\xA4: denied"), QStringView(u"/tmp/\u00E4: denied"));
+  EXPECT_EQ(FromSystem("/tmp/\xE4"), QStringView(u"/tmp/\u00E4"));
+}
+
 TEST(ParityMarks, AnySplitOfTheReadsGivesTheSameCharacters) {
   using namespace std::string_literals;
   const auto marked = "a\xFF\0b\xFF\xFF\xFF\0\xFF\xFF\0\0\0z\xFF\xFF\xFF\xFF?"s;

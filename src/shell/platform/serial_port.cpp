@@ -20,9 +20,11 @@ constexpr auto kDelivery = QEvent::User;
 constexpr auto kTurn = std::chrono::milliseconds(2);
 
 // The event loop is too coarse for the last bit of the way to the end of a character: that much is spun. The
-// timer is set to wake a little inside this time, as it is late by some of it.
+// timer is set to wake a little inside this time, as it is late by some of it. A drained event is due one bit
+// ahead of the character's end, so that on a slow line the timer may be late by a bit without loss and little
+// is left to spin.
 constexpr auto kSpin = microseconds(300);
-constexpr auto kWakeAhead = microseconds(200);
+constexpr auto kWakeAhead = microseconds(160);
 
 // A transmitter that is slower than the clock says is asked again at growing intervals.
 constexpr auto kFirstRetry = microseconds(100);
@@ -306,7 +308,8 @@ void SerialPort::ScheduleDrain() {
   if (!drain_owed_) return;
   const auto left = std::chrono::duration_cast<microseconds>(DrainDue() - Clock::now());
   if (left <= kSpin) return Post();
-  timer_.Start(left - kWakeAhead);
+  timer_.Start(left -
+               std::max(kWakeAhead - std::chrono::duration_cast<microseconds>(bit_time_), microseconds(0)));
 }
 
 void SerialPort::AwaitDrain() {

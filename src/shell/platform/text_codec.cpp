@@ -1,5 +1,6 @@
 #include "shell/platform/text_codec.h"
 
+#include <QStringDecoder>
 #include <algorithm>
 #include <array>
 
@@ -33,6 +34,12 @@ QString FromWindows1252(std::string_view bytes) {
     text += code >= kFirst && code < kEnd ? QChar(kCharacters.at(code - kFirst)) : QChar(char16_t(code));
   }
   return text;
+}
+
+QString FromSystem(std::string_view text) {
+  QStringDecoder decode(QStringDecoder::Utf8);
+  const QString decoded = decode(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
+  return decode.hasError() ? FromWindows1252(text) : decoded;
 }
 
 std::optional<std::string> ToWindows1252(QStringView text) {

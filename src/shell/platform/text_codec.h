@@ -13,6 +13,9 @@ namespace ovl {
 // the control characters of the same number, so that all 256 make the round trip.
 QString FromWindows1252(std::string_view bytes);
 
+// A text in which the system has its say, such as a path or a reason: UTF-8, or single bytes if it is none.
+QString FromSystem(std::string_view text);
+
 // Nothing when the text holds a character without a code.
 std::optional<std::string> ToWindows1252(QStringView text);
 

@@ -1,0 +1,116 @@
+// Ties widgets to the controls of the model, one kind at a time: a widget shows the control's state, and a
+// person's act on it becomes an event. What an act leads to is never decided here.
+//
+// Every binding remembers what its widget was last given, so that a refresh in which nothing changed touches
+// no widget. Widgets bear the control's system name as objectName and their label as accessible name.
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "core/gate.h"
+
+class QAbstractButton;
+class QAction;
+class QBoxLayout;
+class QLabel;
+class QMenu;
+class QWidget;
+
+namespace ovl {
+
+class TallList;
+
+using ActFunction = std::function<Outcome(const Event&)>;
+using HintFunction = std::function<void(const QString&)>;
+
+// Remembers what was last shown.
+template <class Value>
+class Shadow {
+ public:
+  // True when the value is another one than last time.
+  bool Update(const Value& value) {
+    if (known_ && value_ == value) return false;
+    value_ = value;
+    known_ = true;
+    return true;
+  }
+  void Forget() { known_ = false; }
+
+ private:
+  Value value_{};
+  bool known_ = false;
+};
+
+class Bindings {
+ public:
+  // `hint` shows a passing word to the person who types. The application object must outlive the bindings.
+  Bindings(Application& app, ActFunction act, HintFunction hint);
+  Bindings(const Bindings&) = delete;
+  Bindings& operator=(const Bindings&) = delete;
+
+  Application& Model() const { return app_; }
+  Outcome Act(const Event& event) const { return act_(event); }
+
+  // Throws std::logic_error for a name that the form lacks.
+  const NamedControl& Named(const Form& form, std::string_view name) const;
+
+  // The widget of a control; whoever places it owns it. The label is what a person calls it; where it is
+  // empty the caption serves. Option arrays come as a column of buttons; `Options` arranges them otherwise.
+  QWidget* Make(const NamedControl& control, const QString& label = {});
+
+  // An option array in so many columns, filled downwards; hidden elements leave no hole.
+  QWidget* Options(const NamedControl& array, int columns);
+
+  // A list that is always open.
+  TallList* Tall(const NamedControl& list, const QString& label);
+
+  // An item without a handler and without items below it is not shown.
+  QAction* Item(QMenu& menu, MenuItem& item);
+  QMenu* SubMenu(QWidget& bar_or_menu, MenuItem& item);
+
+  // Reports the pointer over a widget; when it leaves, it is over what stands around.
+  void WatchPointer(QWidget& widget, const ControlRef& control, const ControlRef& around);
+
+  // Runs at every refresh; true when something was shown, hidden or renamed.
+  void Follow(std::function<bool()> refresh) { refreshes_.push_back(std::move(refresh)); }
+
+  // Brings all widgets up to the model. True when something was shown, hidden or renamed.
+  bool Refresh();
+
+  // The widget that takes the focus for a control of the model; none for one that is not on the screen.
+  QWidget* WidgetOf(const Face& control) const;
+
+ private:
+  struct Maker;
+
+  void Introduce(QWidget& widget, const NamedControl& control, const QString& label);
+  void FollowFace(QWidget& widget, const Face& face, const Face* group = nullptr);
+  void FollowCaption(QAbstractButton& button, const Face& face);
+  void WatchFocus(QWidget& widget, const ControlRef& control);
+
+  QWidget* MakeList(List& list);
+  QWidget* MakeOption(const OptionElement& element);
+  QWidget* MakeText(TextBox& box);
+  QWidget* MakeLines(TextBox& box);
+  QWidget* MakeLabel(Label& label);
+  QWidget* MakeButton(Button& button);
+  QWidget* MakeCheck(CheckBox& box);
+  QWidget* MakeBar(ProgressBar& bar);
+  void StepOption(const OptionElement& from, int step);
+
+  Application& app_;
+  ActFunction act_;
+  HintFunction hint_;
+  std::vector<std::function<bool()>> refreshes_;
+  std::map<const Face*, QWidget*> widgets_;
+};
+
+// Text of the model on the screen, with "&" as a plain letter.
+QString CaptionText(const std::string& caption);
+
+}  // namespace ovl

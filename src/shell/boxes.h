@@ -1,0 +1,18 @@
+// Message boxes and file dialogs as the model asks for them. Each returns when it is closed; meanwhile the
+// event loop goes on.
+#pragma once
+
+#include <optional>
+
+#include "core/platform.h"
+
+class QWidget;
+
+namespace ovl {
+
+void ShowBox(QWidget* parent, const MessageBox& box);
+
+// Nothing when the person cancels.
+std::optional<FileAnswer> AskFile(QWidget* parent, const FileDialog& request);
+
+}  // namespace ovl

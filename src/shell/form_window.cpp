@@ -1,0 +1,68 @@
+#include "shell/form_window.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+
+#include "shell/mnemonics.h"
+#include "shell/platform/text_codec.h"
+
+namespace ovl {
+
+FormWindow::FormWindow(Bindings& bindings, Form& form, QWidget* parent)
+    : QDialog(parent), bindings_(bindings), form_(form) {
+  setObjectName(FromWindows1252(form.name));
+  setModal(false);
+  bindings_.Follow([this, caption = Shadow<std::string>()]() mutable {
+    if (caption.Update(form_.caption)) setWindowTitle(FromWindows1252(form_.caption));
+    if (enabled_.Update(form_.enabled)) setEnabled(form_.enabled);
+    return false;
+  });
+}
+
+bool FormWindow::Follow() {
+  if (OnScreen() == isVisible()) return false;
+  if (OnScreen()) {
+    Open();
+  } else {
+    hide();
+  }
+  return true;
+}
+
+void FormWindow::Open() {
+  setWindowFlag(Qt::WindowStaysOnTopHint, form_.top_most);
+  adjustSize();
+  AssignPageMnemonics(*this, {});
+  show();
+  raise();
+  activateWindow();
+}
+
+void FormWindow::reject() {
+  bindings_.Act(CloseEvent{&form_});
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (enter && form_.enter != nullptr) {
+    bindings_.Act(KeyEvent{&form_, Key::kEnter});
+  } else if (event->key() == Qt::Key_Escape && form_.escape != nullptr) {
+    bindings_.Act(KeyEvent{&form_, Key::kEscape});
+  } else {
+    QDialog::keyPressEvent(event);
+  }
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  bindings_.Act(CloseEvent{&form_});
+}
+
+void FocusFollower::Follow(const Bindings& bindings, const Form& form) {
+  if (seen_ == form.focus_requests) return;
+  seen_ = form.focus_requests;
+  auto* widget = form.focus == nullptr ? nullptr : bindings.WidgetOf(*form.focus);
+  if (widget != nullptr) widget->setFocus(Qt::OtherFocusReason);
+}
+
+}  // namespace ovl

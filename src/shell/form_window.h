@@ -1,0 +1,45 @@
+// A small window over a form of the model. It comes and goes as the model says; closing it is an event like
+// any other and closes nothing by itself.
+#pragma once
+
+#include <QDialog>
+
+#include "shell/bindings.h"
+
+namespace ovl {
+
+class FormWindow : public QDialog {
+ public:
+  // The content is the caller's to build, as the layout of this widget.
+  FormWindow(Bindings& bindings, Form& form, QWidget* parent);
+
+  const Form& Shown() const { return form_; }
+
+  // Shows or hides the window. True when that changed.
+  bool Follow();
+
+  void reject() override;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  bool OnScreen() const { return form_.loaded && form_.visible; }
+  void Open();
+
+  Bindings& bindings_;
+  Form& form_;
+  Shadow<bool> enabled_;
+};
+
+// Moves the focus where the model wants it, once for each time it asked.
+class FocusFollower {
+ public:
+  void Follow(const Bindings& bindings, const Form& form);
+
+ private:
+  unsigned seen_ = 0;
+};
+
+}  // namespace ovl

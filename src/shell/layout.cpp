@@ -1,0 +1,331 @@
+#include "shell/layout.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QScrollArea>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "shell/platform/text_codec.h"
+
+namespace ovl {
+namespace {
+
+enum GridColumn { kLabels, kFields, kRest, kGridColumns };
+
+QWidget* TitleBlock(QLabel& title) {
+  auto* block = new QWidget;
+  auto* down = new QVBoxLayout(block);
+  down->setContentsMargins(0, 0, 0, kRowGap / 2);
+  down->setSpacing(kRowGap);
+  down->addWidget(&title);
+  down->addWidget(Hairline());
+  return block;
+}
+
+// A label that has a letter for the keyboard stands for the field behind it.
+void Attach(QLabel& label, QWidget& field) {
+  if (field.focusPolicy() != Qt::NoFocus) label.setBuddy(&field);
+}
+
+}  // namespace
+
+struct PageColumn::RowState {
+  QWidget* label;
+  QWidget* fields;
+  std::function<bool()> wanted;
+  Shadow<bool> shown;
+};
+
+struct PageColumn::SectionState {
+  const Frame* frame = nullptr;
+  std::function<QString()> title;
+  std::function<bool()> wanted;
+  QLabel* title_label = nullptr;
+  QWidget* block = nullptr;
+  std::vector<RowState> rows;
+  Shadow<QString> titled;
+  Shadow<bool> shown;
+  Shadow<bool> enabled;
+  Shadow<bool> leads;
+};
+
+struct PageColumn::State {
+  std::deque<SectionState> sections;
+
+  static bool Wanted(const SectionState& section) {
+    if (section.frame != nullptr && !section.frame->visible) return false;
+    return !section.wanted || section.wanted();
+  }
+
+  static bool Shows(const SectionState& section) {
+    return section.block != nullptr && Wanted(section) &&
+           std::any_of(section.rows.begin(), section.rows.end(),
+                       [](const RowState& row) { return !row.wanted || row.wanted(); });
+  }
+
+  static bool ShowRows(SectionState& section, bool wanted, bool& any) {
+    bool reshaped = false;
+    for (auto& row : section.rows) {
+      const bool show = wanted && (!row.wanted || row.wanted());
+      any |= show;
+      if (!row.shown.Update(show)) continue;
+      row.fields->setVisible(show);
+      if (row.label != nullptr) row.label->setVisible(show);
+      reshaped = true;
+    }
+    return reshaped;
+  }
+
+  static void Enable(SectionState& section) {
+    if (section.frame == nullptr || !section.enabled.Update(section.frame->enabled)) return;
+    for (auto& row : section.rows) {
+      row.fields->setEnabled(section.frame->enabled);
+    }
+  }
+
+  bool Refresh() {
+    bool reshaped = false;
+    bool leads = true;
+    for (auto& section : sections) {
+      if (section.block == nullptr) continue;
+      bool any = false;
+      reshaped |= ShowRows(section, Wanted(section), any);
+      Enable(section);
+      if (any && section.titled.Update(section.title())) section.title_label->setText(section.title());
+      if (section.shown.Update(any)) {
+        section.block->setVisible(any);
+        reshaped = true;
+      }
+      if (any && section.leads.Update(leads)) {
+        section.block->layout()->setContentsMargins(0, leads ? 0 : kSectionGap - kRowGap, 0, kRowGap / 2);
+      }
+      leads = leads && !any;
+    }
+    return reshaped;
+  }
+};
+
+PageColumn::PageColumn(Bindings& bindings, const Form& form, QWidget& holder)
+    : bindings_(bindings),
+      form_(form),
+      holder_(&holder),
+      grid_(new QGridLayout),
+      state_(std::make_shared<State>()) {
+  auto* down = new QVBoxLayout(&holder);
+  down->setContentsMargins(0, 0, 0, 0);
+  down->addLayout(grid_);
+  down->addStretch(1);
+  grid_->setHorizontalSpacing(kFieldGap + kFieldGap / 2);
+  grid_->setVerticalSpacing(kRowGap);
+  grid_->setColumnStretch(kRest, 1);
+  bindings_.Follow([state = state_] { return state->Refresh(); });
+}
+
+PageColumn& PageColumn::Section(std::string_view frame) {
+  auto& section = state_->sections.emplace_back();
+  section.frame = std::get<Frame*>(bindings_.Named(form_, frame).control);
+  section.title = [frame = section.frame] { return FromWindows1252(frame->caption); };
+  return *this;
+}
+
+PageColumn& PageColumn::OwnSection(const QString& title, std::function<bool()> shown) {
+  return OwnSection([title] { return title; }, std::move(shown));
+}
+
+PageColumn& PageColumn::OwnSection(std::function<QString()> title, std::function<bool()> shown) {
+  auto& section = state_->sections.emplace_back();
+  section.title = std::move(title);
+  section.wanted = std::move(shown);
+  return *this;
+}
+
+PageColumn::SectionState& PageColumn::Current() {
+  auto& section = state_->sections.back();
+  if (section.block != nullptr) return section;
+  section.title_label = TitleLabel(section.title());
+  section.block = TitleBlock(*section.title_label);
+  grid_->addWidget(section.block, grid_->rowCount(), kLabels, 1, kGridColumns);
+  return section;
+}
+
+void PageColumn::Add(QWidget* label, QWidget* fields, std::function<bool()> shown) {
+  auto& section = Current();
+  const int row = grid_->rowCount();
+  if (label == nullptr) {
+    grid_->addWidget(fields, row, kLabels, 1, kGridColumns);
+  } else {
+    grid_->addWidget(label, row, kLabels, Qt::AlignLeft | Qt::AlignTop);
+    grid_->addWidget(fields, row, kFields, Qt::AlignLeft | Qt::AlignTop);
+  }
+  section.rows.push_back({label, fields, std::move(shown), {}});
+}
+
+std::function<bool()> PageColumn::AnyVisible(const std::vector<Field>& fields) const {
+  std::vector<const Face*> faces;
+  for (const auto& field : fields) {
+    for (const auto& name : field.names) faces.push_back(&FaceOf(bindings_.Named(form_, name).control));
+  }
+  return [faces] {
+    return std::any_of(faces.begin(), faces.end(), [](const Face* face) { return face->visible; });
+  };
+}
+
+QWidget* PageColumn::MakeField(const QString& label, const Field& field, QWidget*& first) {
+  auto* holder = new QWidget;
+  auto* down = new QVBoxLayout(holder);
+  down->setContentsMargins(0, 0, 0, 0);
+  down->setSpacing(kRowGap / 4);
+  const auto called = field.caption.isEmpty() ? label : label + QLatin1Char(' ') + field.caption;
+  for (const auto& name : field.names) {
+    auto* widget = bindings_.Make(bindings_.Named(form_, name), called);
+    if (first == nullptr) first = widget;
+    down->addWidget(widget, 0, Qt::AlignLeft);
+  }
+  if (!field.caption.isEmpty()) down->addWidget(MutedLabel(field.caption));
+  bindings_.Follow([holder, any = AnyVisible({field}), shown = Shadow<bool>()]() mutable {
+    if (!shown.Update(any())) return false;
+    holder->setVisible(any());
+    return true;
+  });
+  return holder;
+}
+
+QWidget* PageColumn::MakeFields(const QString& label, const std::vector<Field>& fields, QWidget*& first) {
+  auto* holder = new QWidget;
+  auto* across = new QHBoxLayout(holder);
+  across->setContentsMargins(0, 0, 0, 0);
+  across->setSpacing(kFieldGap);
+  for (const auto& field : fields) across->addWidget(MakeField(label, field, first), 0, Qt::AlignTop);
+  across->addStretch(1);
+  return holder;
+}
+
+QLabel* PageColumn::MakeRowLabel(const RowLabel& label, const NamedControl& first) {
+  auto* text = new QLabel(CaptionText(label.text.toStdString()));
+  text->setTextFormat(Qt::PlainText);
+  const Face* named =
+      label.control.empty() ? nullptr : &FaceOf(bindings_.Named(form_, label.control).control);
+  if (named != nullptr) text->setObjectName(QString::fromStdString(label.control));
+  const auto& face = FaceOf(first.control);
+  bindings_.Follow([text, named, &face, caption = Shadow<std::string>(), enabled = Shadow<bool>()]() mutable {
+    const bool can = face.enabled && (named == nullptr || named->enabled);
+    if (enabled.Update(can)) text->setEnabled(can);
+    if (named == nullptr || !caption.Update(named->visible ? named->caption : std::string())) return false;
+    text->setText(named->visible ? CaptionText(named->caption) : QString());
+    return true;
+  });
+  return text;
+}
+
+PageColumn& PageColumn::Row(const RowLabel& label, const std::vector<Field>& fields) {
+  const auto& control = bindings_.Named(form_, fields.front().names.front());
+  const auto called = label.control.empty()
+                          ? label.text
+                          : FromWindows1252(FaceOf(bindings_.Named(form_, label.control).control).caption);
+  QWidget* first = nullptr;
+  auto* holder = MakeFields(called, fields, first);
+  auto* text = MakeRowLabel(label, control);
+  text->setMinimumHeight(first->sizeHint().height());
+  Attach(*text, *first);
+  Add(text, holder, AnyVisible(fields));
+  return *this;
+}
+
+PageColumn& PageColumn::Alone(const char* name) {
+  QWidget* first = nullptr;
+  Add(nullptr, MakeFields({}, {name}, first), AnyVisible({name}));
+  return *this;
+}
+
+PageColumn& PageColumn::Options(const std::vector<OptionColumn>& arrays) {
+  auto* holder = new QWidget;
+  auto* across = new QHBoxLayout(holder);
+  across->setContentsMargins(0, 0, 0, 0);
+  across->setSpacing(kColumnGap);
+  std::vector<Field> fields;
+  for (const auto& array : arrays) {
+    auto* column = new QWidget;
+    auto* down = new QVBoxLayout(column);
+    down->setContentsMargins(0, 0, 0, 0);
+    down->setSpacing(kRowGap);
+    down->addWidget(MutedLabel(array.head));
+    down->addWidget(bindings_.Make(bindings_.Named(form_, array.array), array.head));
+    across->addWidget(column, 0, Qt::AlignTop);
+    fields.emplace_back(array.array.c_str());
+  }
+  across->addStretch(1);
+  Add(nullptr, holder, AnyVisible(fields));
+  return *this;
+}
+
+PageColumn& PageColumn::Options(const char* array, int columns) {
+  auto* holder = new QWidget;
+  auto* across = new QHBoxLayout(holder);
+  across->setContentsMargins(0, 0, 0, 0);
+  across->addWidget(bindings_.Options(bindings_.Named(form_, array), columns));
+  across->addStretch(1);
+  Add(nullptr, holder, AnyVisible({array}));
+  return *this;
+}
+
+PageColumn& PageColumn::Wide(QWidget* widget, std::function<bool()> shown) {
+  Add(nullptr, widget, std::move(shown));
+  return *this;
+}
+
+PageColumn& PageColumn::Note(const QString& text, std::function<bool()> shown) {
+  auto* note = MutedLabel(text);
+  note->setWordWrap(true);
+  return Wide(note, std::move(shown));
+}
+
+bool PageColumn::AnySectionShown() const {
+  return std::any_of(state_->sections.begin(), state_->sections.end(), State::Shows);
+}
+
+Page::Page(Bindings& bindings, const Form& form, int left)
+    : bindings_(bindings),
+      form_(form),
+      area_(new QScrollArea),
+      content_(new QWidget),
+      across_(new QHBoxLayout(content_)) {
+  across_->setContentsMargins(left, kMargin, kMargin, kMargin);
+  across_->setSpacing(kColumnGap);
+  area_->setFrameShape(QFrame::NoFrame);
+  area_->setWidgetResizable(true);
+  area_->setFocusPolicy(Qt::NoFocus);
+  area_->setWidget(content_);
+}
+
+PageColumn& Page::Column(int share, int least) {
+  auto* holder = new QWidget;
+  holder->setMinimumWidth(least);
+  across_->addWidget(holder, share);
+  return columns_.emplace_back(bindings_, form_, *holder);
+}
+
+QScrollArea* Page::Finish(const QString& calm) {
+  auto* line = MutedLabel(calm);
+  across_->addWidget(line, 0, Qt::AlignTop | Qt::AlignLeft);
+  for (auto& column : columns_) {
+    bindings_.Follow([column, shown = Shadow<bool>()]() mutable {
+      const bool show = column.AnySectionShown();
+      if (!shown.Update(show)) return false;
+      column.Holder().setVisible(show);
+      return true;
+    });
+  }
+  bindings_.Follow([line, columns = columns_, shown = Shadow<bool>()]() mutable {
+    const bool any = std::any_of(columns.begin(), columns.end(),
+                                 [](const PageColumn& column) { return column.AnySectionShown(); });
+    if (!shown.Update(!any)) return false;
+    line->setVisible(!any);
+    return true;
+  });
+  return area_;
+}
+
+}  // namespace ovl

@@ -1,0 +1,126 @@
+// Pages that are laid out by naming controls. A page has columns side by side; a column has sections below
+// one another, each with a title, a hairline and rows of a label and its fields. All labels of a column, and
+// all fields, stand on one edge. What the model hides closes up, down to a section that has nothing left to
+// show.
+//
+//   auto& left = page.Column();
+//   left.Section("Frame4").Row("INTERFACE TYPE", "ComboCOMM(0)");
+//
+// Columns only build; what they built is owned by the page's widget and kept up to date by the bindings.
+#pragma once
+
+#include <QString>
+#include <deque>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "shell/bindings.h"
+#include "shell/theme.h"
+
+class QGridLayout;
+class QHBoxLayout;
+class QScrollArea;
+
+namespace ovl {
+
+// The label of a row: words of our own, or a label of the model with caption, state and name.
+struct RowLabel {
+  RowLabel(const char* words) : text(QString::fromLatin1(words)) {}
+  static RowLabel FromModel(std::string name) {
+    RowLabel label("");
+    label.control = std::move(name);
+    return label;
+  }
+
+  QString text;
+  std::string control;
+};
+
+// One place in a row: a control, or several of which the model shows one at a time; a muted word below, if
+// any.
+struct Field {
+  Field(const char* name) : names{name} {}
+  Field(std::vector<std::string> alternatives, const char* below)
+      : names(std::move(alternatives)), caption(QString::fromLatin1(below)) {}
+
+  std::vector<std::string> names;
+  QString caption;
+};
+
+// An option array under a muted head, one of several side by side.
+struct OptionColumn {
+  QString head;
+  std::string array;
+};
+
+class PageColumn {
+ public:
+  // Builds into `holder`, which has no layout yet.
+  PageColumn(Bindings& bindings, const Form& form, QWidget& holder);
+
+  // Begins a section that shows while the frame does; its caption is the title. A section comes to be with
+  // its first row: one without rows is nowhere to be seen.
+  PageColumn& Section(std::string_view frame);
+
+  // Begins a section with a title of our own, shown while the condition holds.
+  PageColumn& OwnSection(const QString& title, std::function<bool()> shown = {});
+  PageColumn& OwnSection(std::function<QString()> title, std::function<bool()> shown);
+
+  PageColumn& Row(const RowLabel& label, const std::vector<Field>& fields);
+  PageColumn& Row(const RowLabel& label, const char* name) { return Row(label, std::vector<Field>{name}); }
+
+  // A control over the whole width that needs no label: a check box, a button, an option array.
+  PageColumn& Alone(const char* name);
+  PageColumn& Options(const std::vector<OptionColumn>& arrays);
+  PageColumn& Options(const char* array, int columns);
+
+  // A widget over the whole width. It shows with its section and while the condition holds.
+  PageColumn& Wide(QWidget* widget, std::function<bool()> shown = {});
+
+  // A line of our own words.
+  PageColumn& Note(const QString& text, std::function<bool()> shown = {});
+
+  bool AnySectionShown() const;
+  QWidget& Holder() const { return *holder_; }
+
+ private:
+  struct RowState;
+  struct SectionState;
+  struct State;
+
+  SectionState& Current();
+  void Add(QWidget* label, QWidget* fields, std::function<bool()> shown);
+  std::function<bool()> AnyVisible(const std::vector<Field>& fields) const;
+  QWidget* MakeFields(const QString& label, const std::vector<Field>& fields, QWidget*& first);
+  QWidget* MakeField(const QString& label, const Field& field, QWidget*& first);
+  QLabel* MakeRowLabel(const RowLabel& label, const NamedControl& first);
+
+  Bindings& bindings_;
+  const Form& form_;
+  QWidget* holder_;
+  QGridLayout* grid_;
+  std::shared_ptr<State> state_;
+};
+
+class Page {
+ public:
+  // What stands to the left of the page, if anything, is `left` pixels away.
+  Page(Bindings& bindings, const Form& form, int left = kMargin);
+
+  // The next column to the right; its share of the width, and how wide it is at least.
+  PageColumn& Column(int share = 1, int least = 0);
+
+  // Ends the page: what shows while no section does. The widget scrolls where the window is too small.
+  QScrollArea* Finish(const QString& calm);
+
+ private:
+  Bindings& bindings_;
+  const Form& form_;
+  QScrollArea* area_;
+  QWidget* content_;
+  QHBoxLayout* across_;
+  std::deque<PageColumn> columns_;
+};
+
+}  // namespace ovl

@@ -1,0 +1,131 @@
+#include "shell/main_window.h"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QShortcut>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QTabWidget>
+
+#include "shell/pages.h"
+#include "shell/platform/text_codec.h"
+#include "shell/status_strip.h"
+
+namespace ovl {
+namespace {
+
+constexpr QSize kStartSize(1040, 700);
+constexpr QSize kLeastSize(800, 480);
+
+}  // namespace
+
+MainWindow::MainWindow(Bindings& bindings)
+    : bindings_(bindings), tabs_(new QTabWidget), status_(new StatusStrip(bindings)) {
+  const auto& form = bindings_.Model().frmMain.form;
+  setObjectName(FromWindows1252(form.name));
+  setWindowTitle(FromWindows1252(form.caption));
+  setMinimumSize(kLeastSize);
+  resize(kStartSize);
+  BuildTabs();
+  BuildMenus();
+  statusBar()->setSizeGripEnabled(false);
+  statusBar()->addWidget(status_, 1);
+}
+
+void MainWindow::BuildTabs() {
+  tabs_->setDocumentMode(true);
+  tabs_->setObjectName(QStringLiteral("SSTab1"));
+  tabs_->tabBar()->setExpanding(false);
+  tabs_->tabBar()->setElideMode(Qt::ElideNone);
+  const auto& model = bindings_.Model().frmMain.SSTab1;
+  int tab = 0;
+  for (auto* page : BuildPages(bindings_)) {
+    const auto caption = FromWindows1252(model.captions.at(static_cast<std::size_t>(tab)));
+    page->setAccessibleName(caption.trimmed());
+    tabs_->addTab(page, caption);
+    const auto keys = QStringLiteral("Alt+%1").arg(tab + 1);
+    tabs_->setTabToolTip(tab, keys);
+    auto* shortcut = new QShortcut(QKeySequence(keys), this);
+    connect(shortcut, &QShortcut::activated, this, [this, tab] { tabs_->setCurrentIndex(tab); });
+    ++tab;
+  }
+  setCentralWidget(tabs_);
+  connect(tabs_, &QTabWidget::currentChanged, this, [this](int current) {
+    status_->ShowTab(current);
+    RenewMnemonics();
+  });
+  bindings_.Follow([this, &model, current = Shadow<int>()]() mutable {
+    if (current.Update(model.current)) tabs_->setCurrentIndex(model.current);
+    return false;
+  });
+}
+
+void MainWindow::BuildMenus() {
+  auto& form = bindings_.Model().frmMain;
+  auto* file = bindings_.SubMenu(*menuBar(), form.FileMenu);
+  const auto keys = [](QAction* action, const QKeySequence& sequence) { action->setShortcut(sequence); };
+  keys(bindings_.Item(*file, form.OpenMenu), QKeySequence::Open);
+  keys(bindings_.Item(*file, form.menuSave), QKeySequence::Save);
+  bindings_.Item(*file, form.OpenHistory_menu);
+  file->addSeparator();
+  keys(bindings_.Item(*file, form.menuExit), QKeySequence(Qt::CTRL | Qt::Key_Q));
+  BuildVersionMenu();
+  bindings_.SubMenu(*menuBar(), form.HelpMenu);
+}
+
+void MainWindow::BuildVersionMenu() {
+  auto& form = bindings_.Model().frmMain;
+  auto* version = bindings_.SubMenu(*menuBar(), form.VersionMenu);
+  for (auto& family : form.version_families) {
+    auto* menu = bindings_.SubMenu(*version, family.parent);
+    for (const auto item : family.items) bindings_.Item(*menu, form.version_items.at(item));
+    // The family of the running firmware is marked as well, so that it is found without opening them all.
+    bindings_.Follow([menu, &form, &family, marked = Shadow<bool>()]() mutable {
+      const bool runs = std::any_of(family.items.begin(), family.items.end(), [&form](std::size_t item) {
+        return form.version_items.at(item).checked;
+      });
+      if (!marked.Update(runs)) return false;
+      menu->menuAction()->setCheckable(runs);
+      menu->menuAction()->setChecked(runs);
+      return false;
+    });
+  }
+}
+
+bool MainWindow::Follow() {
+  const auto& form = bindings_.Model().frmMain.form;
+  FollowEnabled();
+  const bool on_screen = form.loaded && form.visible;
+  if (on_screen == isVisible()) return false;
+  setVisible(on_screen);
+  if (auto* first = bindings_.WidgetOf(bindings_.Model().frmMain.ComboReg)) first->setFocus();
+  return true;
+}
+
+void MainWindow::FollowEnabled() {
+  const auto& form = bindings_.Model().frmMain.form;
+  if (!enabled_.Update(form.enabled)) return;
+  if (!form.enabled) last_focus_ = focusWidget();
+  // Not the window as a whole: that would disable the windows over it as well.
+  menuBar()->setEnabled(form.enabled);
+  tabs_->setEnabled(form.enabled);
+  if (form.enabled && last_focus_ != nullptr) last_focus_->setFocus(Qt::OtherFocusReason);
+}
+
+void MainWindow::RenewMnemonics() {
+  menu_letters_ = AssignMenuMnemonics(*menuBar());
+  if (auto* page = tabs_->currentWidget()) AssignPageMnemonics(*page, menu_letters_);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  bindings_.Act(CloseEvent{&bindings_.Model().frmMain.form});
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  const bool activated = event->type() == QEvent::ActivationChange && isActiveWindow();
+  if (activated && !bindings_.Model().frmMain.form.enabled && held_back) held_back();
+}
+
+}  // namespace ovl

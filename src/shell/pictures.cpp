@@ -1,0 +1,183 @@
+#include "shell/pictures.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QTabWidget>
+
+#include "image/record_stream.h"
+#include "shell/platform/text_codec.h"
+#include "shell/program.h"
+#include "shell/theme.h"
+
+namespace ovl {
+namespace {
+
+constexpr ClockTime kPictureTime{2026, 11, 24, 14, 7, 9};
+constexpr std::size_t kPartOfUpload = 2870;
+constexpr char kAck = '\x06';
+constexpr int kRemoteTab = 6;
+constexpr int kClockTicks = 10;  // until the clock lists are set
+
+// A line whose unit says what the pictures need.
+class PlayedLine {
+ public:
+  explicit PlayedLine(Program& program) : program_(program) {
+    auto& serial = program.Model().platform.serial;
+    serial.open = [](const LineSettings&) { return SerialLine::Error(); };
+    serial.close = [] {};
+    serial.write = [this](std::string_view) {
+      written_ = true;
+      return SerialLine::Error();
+    };
+    serial.read = [this] { return std::string(1, character_); };
+    serial.clear_input = [] {};
+    serial.clear_output = [] {};
+  }
+
+  void Unit(std::string_view text) {
+    for (const char character : text) {
+      character_ = character;
+      program_.Act(ReceivedEvent{});
+    }
+  }
+
+  void Drain(int count) {
+    for (written_ = true; written_ && count > 0; --count) {
+      written_ = false;
+      program_.Act(DrainedEvent{});
+    }
+  }
+
+ private:
+  Program& program_;
+  char character_ = '\0';
+  bool written_ = false;
+};
+
+class Photographer {
+ public:
+  Photographer(Program& program, PlayedLine& line, QDir folder)
+      : program_(program), line_(line), folder_(std::move(folder)) {}
+
+  bool Done() const { return done_; }
+
+  void TakeAll() {
+    for (int tick = 0; tick <= kClockTicks; ++tick) program_.Act(TickEvent{&App().frmMain.Timer});
+    TakeTabs();
+    TakePortSettings();
+    TakeLink();
+    TakeScan();
+  }
+
+ private:
+  Application& App() { return program_.Model(); }
+  MainWindow& Main() { return program_.OnScreen().Main(); }
+
+  void Take(QWidget& window, const QString& name) {
+    program_.RefreshNow();
+    QCoreApplication::sendPostedEvents();
+    done_ = window.grab().save(folder_.filePath(name + QStringLiteral(".png"))) && done_;
+  }
+
+  void TakeForm(const Form& form, const QString& name) {
+    program_.RefreshNow();
+    if (auto* window = program_.OnScreen().WindowOf(form)) Take(*window, name);
+  }
+
+  void TakeTabs() {
+    auto& tabs = Main().Tabs();
+    for (int tab = 0; tab < tabs.count(); ++tab) {
+      tabs.setCurrentIndex(tab);
+      auto name = tabs.tabText(tab).trimmed().toLower();
+      name.remove(QLatin1Char('/'));
+      Take(Main(),
+           QStringLiteral("tab%1_").arg(tab) + name.simplified().replace(QLatin1Char(' '), QLatin1Char('_')));
+    }
+    tabs.setCurrentIndex(kRemoteTab);
+  }
+
+  void TakePortSettings() {
+    Click(App().frmMain.cmdConnect);
+    TakeForm(App().frmSettSR.form, QStringLiteral("port_settings"));
+    Take(Main(), QStringLiteral("held_back"));
+    Click(App().frmSettSR.cmdSET);
+  }
+
+  void TakeLink() {
+    Take(Main(), QStringLiteral("remote_open"));
+    Click(App().frmMain.CmdUpDow[kRemote]);
+    Take(Main(), QStringLiteral("remote_asked"));
+    Grant();
+    Take(Main(), QStringLiteral("remote_access"));
+    program_.Act(PointEvent{&App().frmMain.CmdUpDow[kDownload]});
+    Take(Main(), QStringLiteral("remote_hint"));
+    program_.Act(PointEvent{&App().frmMain.Frame11});
+    TakeUpload();
+    TakeDownload();
+  }
+
+  void Grant() {
+    line_.Unit({&kAck, 1});
+    program_.Act(TickEvent{&App().frmMain.General_timer});
+  }
+
+  void TakeUpload() {
+    const auto stream = SectionsToStream(App());
+    Click(App().frmMain.CmdUpDow[kUpload]);
+    line_.Drain(static_cast<int>(App().UploadCommandText.size()));
+    line_.Unit(std::string_view(stream).substr(0, kPartOfUpload));
+    Take(Main(), QStringLiteral("remote_uploading"));
+    line_.Unit(std::string_view(stream).substr(kPartOfUpload));
+    TakeForm(App().frmOK_buttom.form, QStringLiteral("transfer_end"));
+    Click(App().frmOK_buttom.Command1);
+  }
+
+  void TakeDownload() {
+    Click(App().frmMain.CmdUpDow[kRemote]);
+    Grant();
+    Click(App().frmMain.CmdUpDow[kDownload]);
+    line_.Drain(static_cast<int>(App().DownloadCommandText.size()));
+    line_.Unit({&kAck, 1});
+    line_.Drain(static_cast<int>(kPartOfUpload / 2));
+    Take(Main(), QStringLiteral("remote_downloading"));
+    Click(App().frmMain.cmdDisConnect);
+  }
+
+  void TakeScan() {
+    Click(App().frmMain.cmdConnect);
+    Click(App().frmSettSR.BaudrateCMD);
+    for (int step = 0; step < 4; ++step) program_.Act(TickEvent{&App().frmSettSR.BaudRateScan});
+    TakeForm(App().frmScanBProgress.form, QStringLiteral("scan_progress"));
+    Take(Main(), QStringLiteral("remote_scanning"));
+    Click(App().frmScanBProgress.Command1);
+  }
+
+  void Click(Button& button) { program_.Act(ClickEvent{&button}); }
+
+  Program& program_;
+  PlayedLine& line_;
+  QDir folder_;
+  bool done_ = true;
+};
+
+}  // namespace
+
+bool SavePictures(Program& program, const QString& folder) {
+  auto& platform = program.Model().platform;
+  platform.show_message = [](const MessageBox&) {};
+  platform.ask_file = [](const FileDialog&) { return std::optional<FileAnswer>(); };
+  platform.clock = [] { return kPictureTime; };
+  PlayedLine line(program);
+  if (program.Start() == Outcome::kEnded) return false;
+  for (const auto& [theme, name] : {std::pair(Theme::kLight, "light"), std::pair(Theme::kDark, "dark")}) {
+    const QDir below(QDir(folder).filePath(QString::fromLatin1(name)));
+    if (!QDir().mkpath(below.path())) return false;
+    ApplyTheme(theme);
+    Photographer photographer(program, line, below);
+    photographer.TakeAll();
+    if (!photographer.Done()) return false;
+  }
+  return true;
+}
+
+}  // namespace ovl

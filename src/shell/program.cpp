@@ -1,0 +1,128 @@
+#include "shell/program.h"
+
+#include <QApplication>
+#include <QFile>
+
+#include "shell/boxes.h"
+#include "shell/platform/system_clock.h"
+#include "shell/status_strip.h"
+#include "start_up.h"
+
+namespace ovl {
+namespace {
+
+constexpr int kFrame = 16;
+
+}  // namespace
+
+Program::Program(QString folder, QString store_folder)
+    : folder_(std::move(folder)),
+      store_(std::move(store_folder)),
+      port_(folder_, [this](const Event& event) { return Act(event); }) {
+  frame_.setSingleShot(true);
+  frame_.setInterval(kFrame);
+  frame_.callOnTimeout([this] { RefreshNow(); });
+  FillPlatform();
+}
+
+// Windows on their way out still tell of lost focus; there is nothing left for it to change.
+Program::~Program() {
+  const auto going = std::move(windows_);
+  app_.ended = true;
+}
+
+void Program::FillPlatform() {
+  auto& platform = app_.platform;
+  platform.program_folder = QFile::encodeName(folder_).toStdString();
+  platform.show_message = [this](const MessageBox& box) {
+    RefreshNow();
+    ShowBox(windows_ ? windows_->Front() : nullptr, box);
+  };
+  platform.ask_file = [this](const FileDialog& request) {
+    RefreshNow();
+    return AskFile(windows_ ? windows_->Front() : nullptr, request);
+  };
+  platform.read_setting = [this](std::string_view key, std::string_view value) {
+    return store_.Read(key, value);
+  };
+  platform.write_setting = [this](std::string_view key, std::string_view value, std::string_view text) {
+    return store_.Write(key, value, text);
+  };
+  platform.clock = LocalClockTime;
+  // The form remembers the request itself, and its window follows when it is shown.
+  platform.SetWindowPos = [](std::string_view) {};
+  platform.serial = port_.Operations();
+}
+
+Outcome Program::Start() {
+  const auto outcome = StartProgram(app_);
+  if (outcome == Outcome::kEnded) return outcome;
+  windows_ = std::make_unique<Windows>(app_, [this](const Event& event) { return Act(event); });
+  windows_->Main().Status().port_problem = [this] { return port_.LastProblem(); };
+  CollectTimers();
+  RefreshNow();
+  Follow(outcome);
+  return outcome;
+}
+
+void Program::CollectTimers() {
+  for (const auto& control : app_.registry.All()) {
+    auto* const* timer = std::get_if<Timer*>(&control.control);
+    if (timer == nullptr) continue;
+    auto clock = std::make_unique<QTimer>();
+    clock->setTimerType(Qt::PreciseTimer);
+    clock->callOnTimeout([this, model = *timer] { Tick(*model); });
+    timers_.push_back({*timer, std::move(clock)});
+  }
+}
+
+Outcome Program::Act(const Event& event) {
+  const auto outcome = Dispatch(app_, event);
+  Follow(outcome);
+  return outcome;
+}
+
+// After the outermost handler. An event that met a running one changes nothing but has to be taken back on
+// the screen.
+void Program::Follow(Outcome outcome) {
+  if (app_.handling) {
+    frame_.start();
+    return;
+  }
+  if (outcome == Outcome::kEnded) return End();
+  port_.Resume();
+  for (auto& timer : timers_) FollowTimer(timer);
+  if (windows_ && windows_->FormsMoved()) return RefreshNow();
+  if (!frame_.isActive()) frame_.start();
+}
+
+void Program::FollowTimer(TimerState& timer) {
+  const auto& model = *timer.model;
+  if (!model.enabled) return timer.clock->stop();
+  const bool runs =
+      timer.clock->isActive() && timer.starts == model.starts && timer.interval == model.interval;
+  if (runs) return;
+  timer.starts = model.starts;
+  timer.interval = model.interval;
+  timer.clock->start(model.interval);
+}
+
+// What the line has told by now comes first. A tick that meets a running handler is lost.
+void Program::Tick(Timer& timer) {
+  if (!app_.handling) port_.DeliverPending();
+  Act(TickEvent{&timer});
+}
+
+void Program::RefreshNow() {
+  frame_.stop();
+  if (windows_ && !app_.ended) windows_->Refresh();
+}
+
+void Program::End() {
+  frame_.stop();
+  for (auto& timer : timers_) timer.clock->stop();
+  if (windows_) windows_->HideAll();
+  QCoreApplication::exit(EXIT_SUCCESS);
+}
+
+}  // namespace ovl

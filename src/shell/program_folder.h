@@ -1,0 +1,16 @@
+// Where the program keeps its files: default images, the last upload, links to ports.
+#pragma once
+
+#include <QString>
+
+namespace ovl {
+
+// The folder given; else the one of the executable if images lie there and it can be written; else the user's
+// data folder, into which the images that were installed beside the program are linked.
+QString ProgramFolder(const QString& given);
+
+// Links every release below `images` into `folder`. Families become real folders, since uploads are kept in
+// them. Links that lead nowhere are renewed; what cannot be linked is copied.
+void LinkImages(const QString& images, const QString& folder);
+
+}  // namespace ovl

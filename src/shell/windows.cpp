@@ -1,0 +1,64 @@
+#include "shell/windows.h"
+
+#include <algorithm>
+
+#include "shell/link_windows.h"
+#include "shell/status_strip.h"
+
+namespace ovl {
+
+Windows::Windows(Application& app, ActFunction act)
+    : app_(app),
+      bindings_(app, std::move(act), [this](const QString& hint) { main_->Status().ShowHint(hint); }),
+      main_(std::make_unique<MainWindow>(bindings_)) {
+  for (auto* build : {BuildPortSettingsWindow, BuildScanProgressWindow, BuildTransferEndWindow}) {
+    forms_.push_back({build(bindings_, main_.get()), {}});
+  }
+  main_->held_back = [this] {
+    if (auto* front = Front(); front != main_.get()) front->activateWindow();
+  };
+}
+
+void Windows::Refresh() {
+  const bool reshaped = bindings_.Refresh();
+  if (reshaped) main_->RenewMnemonics();
+  ShowForms();
+}
+
+void Windows::ShowForms() {
+  main_->Follow();
+  for (auto& form : forms_) {
+    form.window->Follow();
+    form.focus.Follow(bindings_, form.window->Shown());
+  }
+  main_focus_.Follow(bindings_, app_.frmMain.form);
+}
+
+bool Windows::FormsMoved() const {
+  const auto moved = [](const QWidget& window, const Form& form) {
+    return window.isVisible() != (form.loaded && form.visible);
+  };
+  return moved(*main_, app_.frmMain.form) || std::any_of(forms_.begin(), forms_.end(), [&](const auto& form) {
+           return moved(*form.window, form.window->Shown());
+         });
+}
+
+void Windows::HideAll() {
+  for (const auto& form : forms_) form.window->hide();
+  main_->hide();
+}
+
+QWidget* Windows::Front() const {
+  for (const auto& form : forms_) {
+    if (form.window->isVisible()) return form.window;
+  }
+  return main_.get();
+}
+
+FormWindow* Windows::WindowOf(const Form& form) const {
+  const auto found = std::find_if(forms_.begin(), forms_.end(),
+                                  [&](const Follower& at) { return &at.window->Shown() == &form; });
+  return found == forms_.end() ? nullptr : found->window;
+}
+
+}  // namespace ovl
