@@ -37,7 +37,7 @@ QString FromWindows1252(std::string_view bytes) {
 }
 
 QString FromSystem(std::string_view text) {
-  QStringDecoder decode(QStringDecoder::Utf8);
+  QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
   const QString decoded = decode(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
   return decode.hasError() ? FromWindows1252(text) : decoded;
 }
