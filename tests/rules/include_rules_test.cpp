@@ -5,9 +5,10 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
-#include <regex>
+#include <optional>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace ovl::testing {
@@ -21,17 +22,23 @@ struct Include {
   bool quoted;
 };
 
+// What stands between the marks of an #include line; nothing for any other line.
+std::optional<Include> IncludeIn(const std::string& file, const std::string& line) {
+  constexpr std::string_view kWord = "#include ";
+  if (line.compare(0, kWord.size(), kWord) != 0) return std::nullopt;
+  const bool quoted = line[kWord.size()] == '"';
+  const auto begin = kWord.size() + 1;
+  return Include{file, line.substr(begin, line.find_first_of("\">", begin) - begin), quoted};
+}
+
 std::vector<Include> IncludesBelow(const fs::path& folder) {
-  static const std::regex kInclude(R"(^\s*#include\s+([<"])([^>"]+)[>"])");
   std::vector<Include> includes;
   for (const auto& entry : fs::recursive_directory_iterator(folder)) {
     const auto extension = entry.path().extension();
     if (extension != ".h" && extension != ".cpp") continue;
     std::ifstream file(entry.path());
     for (std::string line; std::getline(file, line);) {
-      std::smatch match;
-      if (!std::regex_search(line, match, kInclude)) continue;
-      includes.push_back({entry.path().string(), match[2], match[1] == "\""});
+      if (auto include = IncludeIn(entry.path().string(), line)) includes.push_back(std::move(*include));
     }
   }
   return includes;
