@@ -1,8 +1,10 @@
 #include "image/files.h"
 
 #include <cerrno>
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <memory>
 #include <system_error>
 
 #include "core/failure.h"
@@ -36,14 +38,32 @@ fs::path TargetOf(const fs::path& path) {
   return target;
 }
 
-void WriteBeside(const fs::path& beside, std::string_view bytes) {
+struct CloseFile {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using File = std::unique_ptr<std::FILE, CloseFile>;
+
+// A new file in the target's folder, under a name that nothing has yet.
+File CreateBeside(const fs::path& target, fs::path& beside) {
+  constexpr int kNamesToTry = 100;
+  for (int number = 0; number < kNamesToTry; ++number) {
+    beside = target;
+    beside += "." + std::to_string(number) + ".new";
+    errno = 0;
+    if (File file{std::fopen(beside.c_str(), "wbx")}) return file;
+    if (errno != EEXIST) break;
+  }
+  const auto reason = errno;
+  beside.clear();
+  errno = reason;
+  FailWithErrno(target.string());
+}
+
+void WriteInto(File file, const fs::path& beside, std::string_view bytes) {
   errno = 0;
-  std::ofstream file(beside, std::ios::binary | std::ios::trunc);
-  if (!file) FailWithErrno(beside.string());
-  errno = 0;
-  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  file.close();
-  if (!file) FailWithErrno(beside.string());
+  const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
+  if (!written || std::fflush(file.get()) != 0) FailWithErrno(beside.string());
+  if (std::fclose(file.release()) != 0) FailWithErrno(beside.string());
 }
 
 }  // namespace
@@ -88,10 +108,9 @@ void WriteWhole(const std::string& path, std::string_view bytes) {
   const auto target = TargetOf(path);
   std::error_code error;
   if (fs::is_directory(target, error)) Fail(path, std::errc::is_a_directory);
-  auto beside = target;
-  beside += ".new";
+  fs::path beside;
   try {
-    WriteBeside(beside, bytes);
+    WriteInto(CreateBeside(target, beside), beside, bytes);
     if (const auto old = fs::status(target, error); fs::exists(old)) {
       fs::permissions(beside, old.permissions(), error);
     }

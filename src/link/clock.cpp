@@ -31,13 +31,14 @@ int DaysOfMonth(const Application& app) {
   }
 }
 
-// Shows the list with as many entries as the month has days. A day that the month lacks becomes its last one.
+// Shows the list with as many entries as the month has days. A day that the month lacks becomes its last one,
+// and is stored also when the list stood there before.
 void ShowDayList(Application& app) {
   const int days = DaysOfMonth(app);
   auto& lists = app.frmMain.ComboDay;
   for (auto& list : lists) list.visible = false;
   auto& list = lists.at(static_cast<std::size_t>(days - kShortestMonth));
-  AssignPosition(app, list, std::min(LeadingNumber(app.ClockDay), days) - 1);
+  AssignPosition(app, list, std::min(LeadingNumber(app.ClockDay), days) - 1, Raise::kAlways);
   list.visible = true;
 }
 

@@ -8,6 +8,7 @@ namespace ovl {
 namespace {
 
 constexpr std::int16_t kCharsBeforeStep = 50;
+constexpr std::size_t kSendFailureIndent = 23;
 
 }  // namespace
 
@@ -82,6 +83,17 @@ void CountProgress(Application& app) {
 void SendWhole(Application& app, const std::string& text) {
   app.PendingOutput = text;
   OutputOrSkip(app, text);
+}
+
+void TellSendFailure(Application& app, const Failure& failure) {
+  app.StatusNote = failure.Subject() + ": " + failure.what();
+  ClearDownload(app);
+  MsgBox(app, std::string(kSendFailureIndent, ' ') + failure.what());
+}
+
+void ClearDownload(Application& app) {
+  app.DownloadRequested = false;
+  app.DownloadActive = false;
 }
 
 }  // namespace ovl

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "core/application.h"
+#include "core/failure.h"
 
 namespace ovl {
 
@@ -39,6 +40,11 @@ void CountProgress(Application& app);
 // Writes the text and leaves it in PendingOutput, as the requests that go out in one piece do. A lost device
 // is noted and skipped.
 void SendWhole(Application& app, const std::string& text);
+
+// A send that failed: the download is over, and a box tells the system's reason.
+void TellSendFailure(Application& app, const Failure& failure);
+
+void ClearDownload(Application& app);
 
 // Counters stop at their type's end.
 inline void Increment(std::int16_t& counter) {

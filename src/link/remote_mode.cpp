@@ -15,18 +15,12 @@ constexpr int kCommReceive = 2;
 constexpr std::int16_t kEnqAt = 5;  // ticks of the keep-alive
 constexpr std::int16_t kHandcheckLimit = 30;
 constexpr std::int16_t kSilenceLimit = 6;  // ticks of the watchdog
-constexpr std::size_t kSendFailureIndent = 23;
 
 void ShowConnectionFailure(Application& app) {
   MsgBox(app,
          "                            !!! Remote Connection Fail. !!!\n"
          "Cable Disconnected Or Communication Setting Wrong ,Try Again",
          "- Connection Fail -");
-}
-
-void ClearDownload(Application& app) {
-  app.DownloadRequested = false;
-  app.DownloadActive = false;
 }
 
 void FailWrongParity(Application& app) {
@@ -151,9 +145,7 @@ void OnSendDrained(Application& app) {
     }
     if (app.DownloadActive) FinishDownload(app);
   } catch (const Failure& failure) {
-    app.StatusNote = failure.Subject() + ": " + failure.what();
-    ClearDownload(app);
-    MsgBox(app, std::string(kSendFailureIndent, ' ') + failure.what());
+    TellSendFailure(app, failure);
   }
 }
 

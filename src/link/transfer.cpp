@@ -147,7 +147,12 @@ void DownloadAcknowledged(Application& app) {
     app.FinalAckExpected = false;
     return;
   }
-  if (app.RemoteHeld && !app.DownloadActive) StartDownload(app);
+  if (!app.RemoteHeld || app.DownloadActive) return;
+  try {
+    StartDownload(app);
+  } catch (const Failure& failure) {
+    TellSendFailure(app, failure);
+  }
 }
 
 void StartDownload(Application& app) {
@@ -156,9 +161,11 @@ void StartDownload(Application& app) {
   app.SYSSTR.clear();
   if (IsKnownFamily(app.firmware.version)) app.StreamBuffer = SectionsToStream(app);
   app.PendingOutput = app.StreamBuffer;
+  if (app.PendingOutput.empty())
+    return;  // nothing will go out: the watchdog tells that the transfer stands still
   app.LastSent = app.PendingOutput.substr(0, 1);
   app.PendingOutput.erase(0, app.LastSent.size());
-  OutputOrSkip(app, app.LastSent);
+  Output(app, app.LastSent);
   app.ProgressChars = 0;
   app.ProgressValue = 0;
   app.DownloadActive = true;

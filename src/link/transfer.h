@@ -17,6 +17,7 @@ void FinishUpload(Application& app);
 // The unit's ACK during a download: to the command, or to the finished stream.
 void DownloadAcknowledged(Application& app);
 
+// Sends the first character of the stream. Throws Failure if the device is lost.
 void StartDownload(Application& app);
 void FinishDownload(Application& app);
 

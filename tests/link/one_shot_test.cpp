@@ -220,6 +220,18 @@ TEST(Clock, StandsWhileTheBoxIsClearedAndFollowsAtOnceWhenTicked) {
   EXPECT_EQ(ShownDay(main), "30");
 }
 
+TEST(Clock, ADayThatFallsTwiceIsStoredTwice) {
+  InState program(State::kClosed);
+  ShowTime(program, {2023, 1, 31, 0, 0, 0});
+  for (int round = 0; round < 2; ++round) {
+    program.Pick("ComboMonth", 1);
+    EXPECT_EQ(program.app.ClockDay, "28");
+    program.Pick("ComboMonth", 0);
+    program.Pick("ComboDay(3)", 30);
+    EXPECT_EQ(program.app.ClockDay, "31");
+  }
+}
+
 TEST(Clock, ADayThatTheMonthLacksFallsToItsLast) {
   struct Row {
     ClockTime start;

@@ -343,6 +343,19 @@ TEST(Download, TellsTheReasonWhenTheDeviceIsLost) {
   EXPECT_TRUE(program.NoBoxLeft());
 }
 
+TEST(Download, TellsTheReasonWhenTheDeviceIsLostAtItsFirstCharacter) {
+  InState program(State::kHeld);
+  program.Click("CmdUpDow(1)");
+  program.DrainAll();
+  program.line_error = kLost;
+  program.Unit("\x06");
+  ExpectBox(program, "", "                       Input/output error");
+  EXPECT_FALSE(program.app.DownloadActive);
+  program.Tick(program.app.frmMain.Timer_Operating, kSilence);
+  ExpectBox(program, kFailTitle, kFailText);
+  ExpectState(program.app, State::kClosed);
+}
+
 TEST(Upload, TellsTheReasonWhenTheDeviceIsLostAndEndsInSilence) {
   InState program(State::kHeld);
   program.Click("CmdUpDow(0)");

@@ -41,6 +41,10 @@ int main(int argc, char** argv) {
     (words.empty() ? std::cerr : std::cout) << kHelp;
     return words.empty() ? 2 : 0;
   }
+  if (words.front().empty() || words.front().front() == '-') {
+    std::cerr << "ovl-images: no folder may be called \"" << words.front() << "\"\n";
+    return 2;
+  }
   const std::vector<std::string> names(words.begin() + 1, words.end());
   for (const auto& name : names) {
     if (IsFirmware(name)) continue;

@@ -1,4 +1,5 @@
 #include <cerrno>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <string>
@@ -19,6 +20,11 @@ ExitStatus Run(const std::vector<std::string>& words) {
   ovl::script::Session session(std::cout, std::cerr);
   if (words.empty() || words[0] == "-") return RunScript(session, std::cin, "stdin", std::cerr);
   std::ifstream file(words[0], std::ios::binary);
+  std::error_code error;
+  if (std::filesystem::is_directory(words[0], error)) {
+    file.setstate(std::ios::failbit);
+    errno = EISDIR;
+  }
   if (!file) {
     std::cerr << words[0] << ": " << std::generic_category().message(errno) << '\n';
     return ExitStatus::kWrongStatement;

@@ -127,8 +127,10 @@ class Transfer {
   // Loads a file as the menu does. The menu tells nothing of a file that it cannot read.
   void Open(const std::string& path) {
     Checked([&] { ReadWhole(path); });
+    const auto waiting = session_.AnswersWaiting();
     session_.AnswerFirst(path);
     Press("OpenMenu");
+    if (session_.AnswersWaiting() != waiting) Fail("the program did not ask for a file");
     if (Disturbed()) FailAsTold();
   }
 

@@ -76,7 +76,8 @@ ExitStatus RunScript(Session& session, std::istream& script, const std::string& 
       return leave(ExitStatus::kWrongStatement, failure.Subject() + ": " + failure.what());
     }
   }
-  return ExitStatus::kDone;
+  if (!script.bad()) return ExitStatus::kDone;
+  return leave(ExitStatus::kWrongStatement, "the script cannot be read");
 }
 
 std::string HelpText() {

@@ -117,13 +117,6 @@ Outcome Session::Act(const Event& event) {
   return outcome;
 }
 
-Outcome Session::Run(void (*routine)(Application&)) {
-  const auto outcome = DispatchStart(App(), routine);
-  Settle();
-  DeliverReceived();
-  return outcome;
-}
-
 void Session::Settle() {
   if (app_->ended && !std::exchange(end_told_, true)) output_ << "ended" << std::endl;
   if (real_ != nullptr) real_->Resume();

@@ -34,6 +34,7 @@ class Session {
   void UseSystemStore() { system_store_.emplace(); }
   void QueueAnswer(std::optional<std::string> path) { answers_.push_back(std::move(path)); }
   // Ahead of the answers that wait already.
+  std::size_t AnswersWaiting() const { return answers_.size(); }
   void AnswerFirst(std::string path) { answers_.emplace_front(std::move(path)); }
   void SetClock(const ClockTime& time);
   // The port must be closed for a change between the simulated line and the machine's ports.
@@ -51,7 +52,6 @@ class Session {
 
   // One event through the gate; what the line has to tell follows.
   Outcome Act(const Event& event);
-  Outcome Run(void (*routine)(Application&));
   void DeliverReceived();
 
   // Time passes: at once on the simulated line, really with the machine's ports.

@@ -46,10 +46,10 @@ Loaded ReadFile(const std::string& path) {
 }
 
 std::string WriteFile(const std::string& path, std::string_view text) {
-  const std::string beside = path + ".new";
+  std::string beside = path + ".XXXXXX";
   {
-    const Descriptor file(::open(beside.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
-    if (!file.Open()) return Failure("cannot write", beside);
+    const Descriptor file(::mkostemp(beside.data(), O_CLOEXEC));
+    if (!file.Open()) return Failure("cannot write", path);
     if (!WriteAll(file.Get(), text) || ::fsync(file.Get()) != 0) {
       std::string error = Failure("cannot write", beside);
       ::unlink(beside.c_str());

@@ -100,13 +100,43 @@ bool LineAlive(LineHandle line) {
   return ::ioctl(line, FIONREAD, &waiting) == 0 && waiting > 0;
 }
 
-Transmitter TransmitterState(LineHandle line) {
+bool CharactersWait(LineHandle line) {
   int waiting = 0;
-  if (::ioctl(line, TIOCOUTQ, &waiting) == 0 && waiting > 0) return Transmitter::kSending;
-  unsigned status = 0;
-  if (::ioctl(line, TIOCSERGETLSR, &status) != 0) return Transmitter::kUnknown;
-  // Some adapters never report an empty transmitter, so that its absence says nothing.
-  return (status & TIOCSER_TEMT) != 0 ? Transmitter::kEmpty : Transmitter::kUnknown;
+  return ::ioctl(line, TIOCOUTQ, &waiting) == 0 && waiting > 0;
+}
+
+namespace {
+
+bool LockedByOther(const QString& device) {
+  const auto name = device.section(QLatin1Char('/'), -1);
+  return ::access(QFile::encodeName(QStringLiteral("/var/lock/LCK..") + name).constData(), F_OK) == 0;
+}
+
+void MakeRaw(struct termios2& settings, int baud, int data_bits, char parity) {
+  settings.c_iflag = 0;
+  settings.c_oflag = 0;
+  settings.c_lflag = 0;
+  settings.c_cflag = BOTHER | CREAD | CLOCAL | (data_bits == 7 ? CS7 : CS8);
+  if (parity != 'N') settings.c_cflag |= PARENB;
+  if (parity == 'O') settings.c_cflag |= PARODD;
+  settings.c_ispeed = static_cast<speed_t>(baud);
+  settings.c_ospeed = static_cast<speed_t>(baud);
+}
+
+}  // namespace
+
+LinePreset::LinePreset(const QString& device, int baud, int data_bits, char parity) {
+  if (LockedByOther(device)) return;
+  descriptor_ = ::open(QFile::encodeName(device).constData(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
+  struct termios2 settings {};
+  if (descriptor_ < 0 || ::ioctl(descriptor_, TCGETS2, &settings) != 0) return;
+  MakeRaw(settings, baud, data_bits, parity);
+  // A driver that refuses them refuses the opening that follows as well, which tells it.
+  ::ioctl(descriptor_, TCSETS2, &settings);
+}
+
+LinePreset::~LinePreset() {
+  if (descriptor_ >= 0) ::close(descriptor_);
 }
 
 struct ShortTimer::Source {
@@ -167,9 +197,12 @@ bool LineAlive(LineHandle) {
   return false;
 }
 
-Transmitter TransmitterState(LineHandle) {
-  return Transmitter::kUnknown;
+bool CharactersWait(LineHandle) {
+  return false;
 }
+
+LinePreset::LinePreset(const QString&, int, int, char) {}
+LinePreset::~LinePreset() = default;
 
 struct ShortTimer::Source {
   explicit Source(const std::function<void()>& fire) {

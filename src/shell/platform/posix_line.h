@@ -1,6 +1,6 @@
-// What the serial toolkit leaves to the operating system: whether a character has left the transmitter, marks
-// on bad characters, the speed that a driver really set, waits shorter than a millisecond. Where the system
-// offers none of it, each operation says so and the clock alone decides.
+// What the serial toolkit leaves to the operating system: whether characters still wait, marks on bad
+// characters, the speed that a driver really set, waits shorter than a millisecond. Where the system offers
+// none of it, each operation says so and the clock alone decides.
 #pragma once
 
 #include <QSerialPort>
@@ -46,9 +46,23 @@ WriteResult WriteAtOnce(LineHandle line, std::string_view bytes);
 // False when reading can't bring anything any more, because the device is gone.
 bool LineAlive(LineHandle line);
 
-// Many drivers can tell that characters still wait, few that the last one has left the chip.
-enum class Transmitter { kSending, kUnknown, kEmpty };
-Transmitter TransmitterState(LineHandle line);
+// Whether the driver still holds characters. None can be trusted to tell when the last one has left the chip:
+// some adapters never say so, others as soon as their own buffer is empty.
+bool CharactersWait(LineHandle line);
+
+// Gives a closed device the settings that it is about to be opened with, and keeps it for as long as the
+// object lives. The toolkit puts back what it found when it closes a port, at once and into the middle of the
+// last character; so what it finds must be right. A device that another program has locked is left alone.
+class LinePreset {
+ public:
+  LinePreset(const QString& device, int baud, int data_bits, char parity);
+  ~LinePreset();
+  LinePreset(const LinePreset&) = delete;
+  LinePreset& operator=(const LinePreset&) = delete;
+
+ private:
+  int descriptor_ = -1;
+};
 
 // Fires once, in the event loop, after a time given in microseconds.
 class ShortTimer {

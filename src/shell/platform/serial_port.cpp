@@ -37,6 +37,7 @@ struct LineFormat {
   int baud = 0;
   QSerialPort::Parity parity = QSerialPort::NoParity;
   QSerialPort::DataBits data_bits = QSerialPort::Data8;
+  char parity_letter = 'N';
 };
 
 std::optional<QSerialPort::Parity> ParityOf(const QByteArray& letter) {
@@ -52,7 +53,8 @@ std::optional<LineFormat> ParseFormat(const std::string& text) {
   const auto parity = ParityOf(parts[1]);
   const int baud = parts[0].toInt();
   if (!parity || baud <= 0 || (parts[2] != "7" && parts[2] != "8")) return std::nullopt;
-  return LineFormat{baud, *parity, parts[2] == "7" ? QSerialPort::Data7 : QSerialPort::Data8};
+  return LineFormat{baud, *parity, parts[2] == "7" ? QSerialPort::Data7 : QSerialPort::Data8,
+                    parts[1].front()};
 }
 
 }  // namespace
@@ -97,6 +99,7 @@ SerialPort::Error SerialPort::Open(const LineSettings& settings) {
   port_.setParity(format->parity);
   port_.setStopBits(QSerialPort::OneStop);
   port_.setFlowControl(QSerialPort::NoFlowControl);
+  const LinePreset preset(device_, format->baud, format->data_bits, format->parity_letter);
   if (!port_.open(QIODevice::ReadWrite)) return Report(OpenReason());
   if (const auto error = Prepare()) {
     Close();
@@ -238,6 +241,8 @@ void SerialPort::Resume() {
 }
 
 void SerialPort::DeliverPending() {
+  // What the kernel holds counts as well: it came ahead of the tick.
+  if (port_.isOpen()) port_.waitForReadyRead(0);
   Deliver(Turn::kWhole);
 }
 
@@ -298,9 +303,7 @@ SerialPort::Clock::time_point SerialPort::DrainDue() const {
 bool SerialPort::Drained() const {
   if (lost_) return true;
   if (port_.bytesToWrite() > 0) return false;
-  const auto state = TransmitterState(port_.handle());
-  if (state == Transmitter::kSending) return false;
-  return state == Transmitter::kEmpty || Clock::now() >= DrainDue();
+  return !CharactersWait(port_.handle()) && Clock::now() >= DrainDue();
 }
 
 // Never waits and never tells: this runs inside the handler that wrote.
