@@ -5,11 +5,19 @@
 #include "core/actions.h"
 #include "core/failure.h"
 #include "core/settings.h"
+#include "image/file_commands.h"
 #include "link/clock.h"
 #include "link/port.h"
 #include "link/remote_mode.h"
 #include "link/transfer.h"
+#include "panels/communication.h"
+#include "panels/exception_report.h"
+#include "panels/text_display.h"
+#include "panels/time_date.h"
+#include "registers/micros.h"
+#include "registers/option_handlers.h"
 #include "registers/selection_driver.h"
+#include "registers/sub_menus.h"
 
 namespace ovl {
 namespace {
@@ -19,6 +27,8 @@ void menuExit_Click(Application& app, int) {
 }
 
 void frmMain_Close(Application& app, int) {
+  UnloadForm(app, app.frmMicros.form);
+  UnloadForm(app, app.FrmSubMenu.form);
   EndProgram(app);
 }
 
@@ -29,6 +39,8 @@ void Handle(Controls& controls, Handler handler) {
 
 void WireMain(MainForm& form) {
   form.form.window_close = frmMain_Close;
+  form.OpenMenu.handler = OpenMenu_Click;
+  form.menuSave.handler = menuSave_Click;
   form.menuExit.handler = menuExit_Click;
   form.ComboReg.handler = RegisterSelected;
   form.cmdConnect.handler = cmdConnect_Click;
@@ -49,6 +61,24 @@ void WireMain(MainForm& form) {
   form.ComboMonth.handler = ComboMonth_Click;
   form.ComboYear.handler = ComboYear_Click;
   Handle(form.ComboDay, ComboDay_Click);
+}
+
+void WirePanels(MainForm& form) {
+  Handle(form.ComboCOMM, ComboCOMM_Click);
+  Handle(form.ComboDIP, ComboDIP_Click);
+  Handle(form.ComboTD, ComboTD_Click);
+  form.ComboLang.handler = ComboLang_Click;
+  Handle(form.ComboExcepRe, ComboExcepRe_Click);
+}
+
+void WireRegisterForms(Application& app) {
+  WireRegisterOptions(app.frmMain);
+  WireSubMenu(app.FrmSubMenu);
+  auto& micros = app.frmMicros;
+  micros.cmdSetMicros.handler = cmdSetMicros_Click;
+  micros.cmdISNset.handler = cmdISNset_Click;
+  micros.CMD3700Set.handler = CMD3700Set_Click;
+  micros.ECRNumber.leave = ECRNumber_Leave;
 }
 
 void WireLinkForms(Application& app) {
@@ -78,7 +108,11 @@ void WireLinkForms(Application& app) {
 
 // In the order in which a load refreshes the panels.
 void OrderApplyRoutines(Application& app) {
-  app.Setting_Code = {{ApplyRegisterSelection, true}};
+  app.Setting_Code = {{ApplyRegisterSelection, true},
+                      {ApplyCommunication, true},
+                      {ApplyDisplay, false},
+                      {ApplyTimeDate, false},
+                      {ApplyExceptionReport, false}};
 }
 
 void ReadFirmware(Application& app) {
@@ -150,6 +184,8 @@ void Start(Application& app) {
 Outcome StartProgram(Application& app) {
   BuildVersionMenu(app);
   WireMain(app.frmMain);
+  WirePanels(app.frmMain);
+  WireRegisterForms(app);
   WireLinkForms(app);
   OrderApplyRoutines(app);
   return DispatchStart(app, Start);

@@ -7,6 +7,8 @@ Application::Application() {
   frmSettSR.Register(registry);
   frmScanBProgress.Register(registry);
   frmOK_buttom.Register(registry);
+  frmMicros.Register(registry);
+  FrmSubMenu.Register(registry);
 }
 
 }  // namespace ovl

@@ -13,6 +13,7 @@
 #include "core/firmware_id.h"
 #include "core/forms/link_forms.h"
 #include "core/forms/main_form.h"
+#include "core/forms/register_forms.h"
 #include "core/platform.h"
 #include "core/registry.h"
 
@@ -42,6 +43,8 @@ struct Application {
   PortSettingsForm frmSettSR;
   ScanProgressForm frmScanBProgress;
   TransferEndForm frmOK_buttom;
+  MicrosForm frmMicros;
+  SubMenuForm FrmSubMenu;
 
   // Firmware, read once at start
   FirmwareId firmware;
@@ -92,6 +95,7 @@ struct Application {
   bool UploadApplying = false;
   std::set<int> picks_under_way;  // positions of ComboReg whose pick has not ended yet
   bool ComboTouched = false;
+  std::map<std::string, std::vector<int>, std::less<>> SavedIndexes;  // by selection family
   std::string CurrentFilePath;
   std::string StreamText;      // the lines of the file being read, joined
   std::string DiagnosticText;  // work string of diagnostics, cleared by a full load

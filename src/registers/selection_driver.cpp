@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <system_error>
 
+#include "catalogue/register_catalogue.h"
 #include "core/actions.h"
 #include "core/failure.h"
 #include "image/files.h"
 #include "image/record_stream.h"
+#include "registers/register_table.h"
 
 namespace ovl {
 namespace {
@@ -25,6 +27,19 @@ void TakeDefaultImage(Application& app) {
   for (const auto& routine : app.Setting_Code) {
     if (first || routine.after_pick) routine.run(app);
   }
+}
+
+// The first row of the running family and release whose key stands at the list's position.
+const RegisterRow* RowOfSelected(const Application& app) {
+  const int position = app.frmMain.ComboReg.position;
+  if (position < 0) return nullptr;
+  const auto family = FamilyOf(app.firmware.version);
+  const int release = app.firmware.Number();
+  for (const auto& row : RegisterTable()) {
+    if ((row.families & family) == 0 || release < row.first_release || release > row.last_release) continue;
+    if (RegisterIndexOf(app, row.key) == position) return &row;
+  }
+  return nullptr;
 }
 
 }  // namespace
@@ -72,7 +87,14 @@ void ApplyRegisterSelection(Application& app) {
 }
 
 void ShowRegisterOptions(Application& app) {
-  for (auto& frame : app.frmMain.frmAddress) frame.visible = false;
+  auto& form = app.frmMain;
+  for (auto& frame : form.frmAddress) frame.visible = false;
+  const auto* row = RowOfSelected(app);
+  if (row == nullptr) return;
+  const bool has_frame = row->frame != RegisterRow::kNoFrame;
+  auto* frame = has_frame ? &form.frmAddress.at(static_cast<std::size_t>(row->frame)) : nullptr;
+  if (has_frame) frame->caption = row->title.empty() ? form.ComboReg.Text() : std::string(row->title);
+  if (row->assign(app, *row) && has_frame) frame->visible = true;
 }
 
 }  // namespace ovl

@@ -105,6 +105,9 @@ void MainForm::Register(Registry& registry) {
   add("Frame11", Frame11), add("Frame12", Frame12), add("Frame13", Frame13), add("Frame14", Frame14);
   add("Frame15", Frame15), add("FrameDemo", FrameDemo);
 
+  RegisterOptions::Register(registry, form);
+  CommunicationPanel::Register(registry, form);
+  DisplayPanel::Register(registry, form);
   registry.AddOptions(form, "OpDVR", OpDVR);
   add_array("ComboKLM4011", ComboKLM4011);
 

@@ -5,6 +5,9 @@
 #include <vector>
 
 #include "core/controls.h"
+#include "core/forms/communication_panel.h"
+#include "core/forms/display_panel.h"
+#include "core/forms/register_options.h"
 
 namespace ovl {
 
@@ -19,7 +22,8 @@ struct VersionFamily {
   std::vector<std::size_t> items;  // places in version_items
 };
 
-struct MainForm {
+// The panels' controls are the form's own: app.frmMain.ComboCOMM[3].
+struct MainForm : RegisterOptions, CommunicationPanel, DisplayPanel {
   Form form;
   Tabs SSTab1;
   std::array<Label, 7> lbVersionID;

@@ -1,0 +1,101 @@
+#include "panels/text_display.h"
+
+#include <array>
+
+#include "panels/panel.h"
+
+namespace ovl {
+namespace {
+
+using enum FieldId;
+
+constexpr int kRts = 12;
+constexpr int kFirstCharacters = 10;
+constexpr int kTitlerBit = 4;
+constexpr int kClockBit = 7;
+
+// A blank time as it is stored: the start of a down counter, and what storing it does to the display flags.
+// The masks take the flags of other selections with them; only one time spares them.
+struct BlankTime {
+  int value;
+  int mask;
+};
+constexpr std::array kBlankTimes = {
+    BlankTime{0xFF, 0xF1}, BlankTime{0xFD, 0xF1}, BlankTime{0xFB, 0xF1}, BlankTime{0xF6, 0xFF},
+    BlankTime{0xF1, 0xF1}, BlankTime{0xEC, 0xF1}, BlankTime{0xE2, 0xF1}, BlankTime{0xC4, 0xF1},
+    BlankTime{0x88, 0xF1}, BlankTime{0x4C, 0xF1}, BlankTime{0x10, 0xF1}, BlankTime{0x00, 0xF0},
+    BlankTime{0x00, 0xF0},
+};
+
+// The selections that live in one bit of the display flags, in the order in which a load sets them.
+struct FlagMember {
+  int member;
+  int bit;
+};
+constexpr std::array kFlagMembers = {FlagMember{2, 1}, FlagMember{3, 2}, FlagMember{5, 3}, FlagMember{4, 6},
+                                     FlagMember{6, 5}};
+
+List& Member(Application& app, int member) {
+  return app.frmMain.ComboDIP.at(static_cast<std::size_t>(member));
+}
+
+// A value that no blank time has is refused, also where the number would be a position.
+void ApplyBlankTime(Application& app) {
+  const int value = HexToInt(app.image[BLNKVAL]);
+  for (int position = 0; position < kRts; ++position) {
+    if (kBlankTimes[static_cast<std::size_t>(position)].value != value) continue;
+    AssignPosition(app, Member(app, 0), position);
+    break;
+  }
+  if (app.image[BLNKRTS_BAK] == "01") AssignPosition(app, Member(app, 0), kRts);
+}
+
+int GatherBlankTime(Application& app, int flags) {
+  const int position = Member(app, 0).position;
+  const auto& time = kBlankTimes.at(static_cast<std::size_t>(position));
+  app.image[BLNKRTS_BAK] = position == kRts ? "01" : "00";
+  app.image[BLNKVAL] = ByteToHex(time.value);
+  app.image[BLNKIND] = ByteToHex(position);
+  return flags & time.mask;
+}
+
+}  // namespace
+
+void ApplyDisplay(Application& app) {
+  const PanelsQuiet quiet(app);
+  const int flags = HexToInt(app.image[DSPCFG_BAK]);
+  for (const auto& row : kFlagMembers)
+    AssignPosition(app, Member(app, row.member), HasBit(flags, row.bit) ? 1 : 0);
+  AssignPosition(app, Member(app, 1), HexToInt(app.image[DSPLINES_BAK]) - 1);
+  ApplyBlankTime(app);
+  AssignPosition(app, app.frmMain.ComboTD[5], HasBit(flags, kTitlerBit) ? 1 : 0);
+  AssignPosition(app, app.frmMain.ComboTD[0], HasBit(flags, kClockBit) ? 1 : 0);
+  AssignPosition(app, Member(app, 7), HexToInt(app.image[SPCOMPRES_BAK]));
+  AssignPosition(app, Member(app, 8), HexToInt(app.image[DSPCHARS_BAK]) - kFirstCharacters);
+}
+
+void ComboDIP_Click(Application& app, int index) {
+  if (!app.PanelsReady) return;
+  int flags = HexToInt(app.image[DSPCFG_BAK]);
+  if (index == 0) flags = GatherBlankTime(app, flags);
+  if (index == 1) {
+    ApplyLineRule(app);
+    app.image[DSPLINES_BAK] = ByteToHex(Member(app, 1).position + 1);
+  }
+  for (const auto& row : kFlagMembers) {
+    if (row.member == index) flags = WithSelection(flags, row.bit, Member(app, index));
+  }
+  if (index == 7) app.image[SPCOMPRES_BAK] = ByteToHex(Member(app, 7).position);
+  if (index == 8) app.image[DSPCHARS_BAK] = ByteToHex(Member(app, 8).position + kFirstCharacters);
+  app.image[DSPCFG_BAK] = ByteToHex(flags);
+  RefreshSavedIndexes(app, "ComboDIP", app.frmMain.ComboDIP);
+}
+
+void ApplyLineRule(Application& app) {
+  const auto& form = app.frmMain;
+  const int lines_taken = (form.ComboTD[0].position == 1 ? 1 : 0) + (form.ComboTD[5].position == 1 ? 1 : 0);
+  const int position = Member(app, 1).position;
+  if (position >= 0 && position < lines_taken) AssignPosition(app, Member(app, 1), lines_taken);
+}
+
+}  // namespace ovl

@@ -1,0 +1,15 @@
+// How transaction text lies on the picture, and when the overlay blanks.
+#pragma once
+
+#include "core/application.h"
+
+namespace ovl {
+
+void ApplyDisplay(Application& app);
+void ComboDIP_Click(Application& app, int index);
+
+// The clock and the title can take a line of the picture each: raises the number of display lines to what
+// they need.
+void ApplyLineRule(Application& app);
+
+}  // namespace ovl

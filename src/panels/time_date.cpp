@@ -1,0 +1,76 @@
+#include "panels/time_date.h"
+
+#include <array>
+
+#include "panels/panel.h"
+#include "panels/text_display.h"
+
+namespace ovl {
+namespace {
+
+using enum FieldId;
+
+constexpr int kTitlerBit = 4;
+constexpr int kClockBit = 7;
+constexpr std::array kDaylightCodes = {"01", "02", "04", "06", "08", "0A"};
+
+List& Member(Application& app, int member) {
+  return app.frmMain.ComboTD.at(static_cast<std::size_t>(member));
+}
+
+// Half of a number, rounded to the even neighbour: 1 gives 0, 3 gives 2.
+int HalfToEven(int number) {
+  const int half = number / 2;
+  return number % 2 != 0 && half % 2 != 0 ? half + 1 : half;
+}
+
+void GatherDisplayBit(Application& app, int member, int bit) {
+  const int flags = WithSelection(HexToInt(app.image[DSPCFG_BAK]), bit, Member(app, member));
+  ApplyLineRule(app);
+  app.image[DSPCFG_BAK] = ByteToHex(flags);
+}
+
+}  // namespace
+
+void ApplyTimeDate(Application& app) {
+  const PanelsQuiet quiet(app);
+  AssignPosition(app, Member(app, 1), HexToInt(app.image[TIME_FORMAT_BAK]));
+  AssignPosition(app, Member(app, 2), HexToInt(app.image[DATE_FORMAT_BAK]));
+  AssignPosition(app, Member(app, 3), HalfToEven(HexToInt(app.image[DAYLIGHT_BAK])));
+  AssignPosition(app, Member(app, 4), HexToInt(app.image[TD_LOCKING_BAK]));
+  AssignPosition(app, app.frmMain.ComboLang, HexToInt(app.image[LANGUAGE_BAK]));
+}
+
+void ComboTD_Click(Application& app, int index) {
+  if (!app.PanelsReady) return;
+  const int position = Member(app, index).position;
+  switch (index) {
+    case 0:
+      GatherDisplayBit(app, index, kClockBit);
+      break;
+    case 1:
+      app.image[TIME_FORMAT_BAK] = ByteToHex(position);
+      break;
+    case 2:
+      app.image[DATE_FORMAT_BAK] = ByteToHex(position);
+      break;
+    case 3:
+      if (position < static_cast<int>(kDaylightCodes.size())) {
+        app.image[DAYLIGHT_BAK] = kDaylightCodes.at(static_cast<std::size_t>(position));
+      }
+      break;
+    case 4:
+      app.image[TD_LOCKING_BAK] = ByteToHex(position);
+      break;
+    default:
+      GatherDisplayBit(app, index, kTitlerBit);
+      break;
+  }
+  RefreshSavedIndexes(app, "ComboTD", app.frmMain.ComboTD);
+}
+
+void ComboLang_Click(Application& app, int) {
+  if (app.PanelsReady) app.image[LANGUAGE_BAK] = ByteToHex(app.frmMain.ComboLang.position);
+}
+
+}  // namespace ovl

@@ -1,0 +1,369 @@
+#include "registers/assignments.h"
+
+#include <array>
+#include <initializer_list>
+
+#include "core/actions.h"
+#include "registers/micros.h"
+#include "registers/option_handlers.h"
+#include "registers/sub_menus.h"
+
+namespace ovl {
+namespace {
+
+using enum FieldId;
+
+int Byte(const Application& app, FieldId field) {
+  return HexToInt(app.image[field]);
+}
+
+bool Assign(Application& app, List& list, int position) {
+  return AssignPosition(app, list, position, Raise::kAlways);
+}
+
+// The three digits, the first one in the last list.
+bool AssignDigits(Application& app, std::array<List, 3>& lists) {
+  const std::array digits = {Byte(app, TCIADDBAK_1), Byte(app, TCIADDBAK_2), Byte(app, TCIADDBAK_3)};
+  return Assign(app, lists[2], digits[0]) && Assign(app, lists[1], digits[1]) &&
+         Assign(app, lists[0], digits[2]);
+}
+
+// Gives the first elements their captions and shows them; hides the rest.
+void Offer(OptionArray& array, std::initializer_list<const char*> captions) {
+  auto caption = captions.begin();
+  for (auto& element : array.elements) {
+    element.visible = caption != captions.end();
+    if (element.visible) element.caption = *caption++;
+  }
+}
+
+bool AssignOffered(Application& app, OptionArray& array, std::initializer_list<const char*> captions) {
+  Offer(array, captions);
+  return ChooseElement(app, array, Byte(app, REGTYPE_MINOR));
+}
+
+// Only one family empties the list ahead of refilling it.
+bool RefillMixed(Application& app, std::initializer_list<const char*> entries) {
+  auto& list = app.frmMain.ComboDIPMIXED;
+  if (app.firmware.IsV1400()) {
+    list.items.clear();
+    list.position = -1;
+  }
+  list.items.insert(list.items.end(), entries.begin(), entries.end());
+  return Assign(app, list, Byte(app, REGTYPE_MINOR));
+}
+
+bool AssignMode(Application& app, std::array<List, 2>& lists) {
+  const int mode = Byte(app, REGTYPE_MINOR);
+  return Assign(app, lists[0], 0) && Assign(app, lists[1], mode);
+}
+
+void ShowUniwellSwitch(Application& app, bool of_models) {
+  app.frmMain.ComboUni.visible = !of_models;
+  app.frmMain.ComboUniFor14R7up.visible = of_models;
+}
+
+bool AssignEasy(Application& app, const char* caption) {
+  app.frmMain.EASYOP.elements[0].caption = caption;
+  return ChooseElement(app, app.frmMain.EASYOP, 0);
+}
+
+// A main option from its byte, and what goes with it at every apply.
+template <void (*kShow)(Application&, int)>
+bool AssignMain(Application& app, OptionArray& array) {
+  const int element = Byte(app, REGTYPE_MINOR);
+  if (!ChooseElement(app, array, element)) return false;
+  kShow(app, element);
+  return true;
+}
+
+}  // namespace
+
+bool AssignArray(Application& app, const RegisterRow& row) {
+  return ChooseElement(app, app.frmMain.*row.array, Byte(app, row.from));
+}
+
+bool AssignList(Application& app, const RegisterRow& row) {
+  return Assign(app, app.frmMain.*row.list, Byte(app, row.from));
+}
+
+bool AssignTcpip(Application& app, const RegisterRow&) {
+  auto& form = app.frmMain;
+  const int flags = Byte(app, REGTYPE_MINOR);
+  for (int entry = 1; entry <= 4; ++entry) {
+    const int value = HexToInt(app.image.at(IPADDRESS, entry));
+    if (!Assign(app, form.ComboTCPIP[static_cast<std::size_t>(entry + 3)], value)) return false;
+  }
+  for (std::size_t bit = 0; bit < form.ComboTCPINFO.size(); ++bit) {
+    if (!Assign(app, form.ComboTCPINFO[bit], flags >> bit & 1)) return false;
+  }
+  return true;
+}
+
+bool AssignOldTcpip(Application& app, const RegisterRow&) {
+  for (int entry = 1; entry <= 4; ++entry) {
+    const int value = HexToInt(app.image.at(IPADDRESS, entry));
+    if (!Assign(app, app.frmMain.ComboTCPIP[static_cast<std::size_t>(entry - 1)], value)) return false;
+  }
+  return true;
+}
+
+bool AssignDresserWayne(Application& app, const RegisterRow&) {
+  auto& form = app.frmMain;
+  const int source = Byte(app, REGTYPE_MINOR);
+  const int kind = Byte(app, REGTYPE_EXT1);
+  const int option = Byte(app, REGTYPE_EXT2);
+  if (source == 0) return ChooseElement(app, form.POSOP, option);
+  if (source != 1) return true;
+  switch (kind) {
+    case 0:
+      return ChooseElement(app, form.TEROP, option);
+    case 1:
+      return ChooseElement(app, form.PRNOP, option);
+    case 2:
+      return ChooseElement(app, form.SECUOP, 0);
+    default:
+      return true;
+  }
+}
+
+bool AssignFujitsu(Application& app, const RegisterRow&) {
+  const int model = Byte(app, REGTYPE_MINOR);
+  const int printer = Byte(app, REGTYPE_EXT2);
+  return ChooseElement(app, app.frmMain.FUJIOP, model) && Assign(app, app.frmMain.Combo1, printer);
+}
+
+bool AssignGasboy(Application& app, const RegisterRow&) {
+  const int address = Byte(app, REGTYPE_MINOR);
+  const int device = Byte(app, GTITLE_NF_BAK);
+  return Assign(app, app.frmMain.ComboDeviceADD, address) && Assign(app, app.frmMain.ComboDeviceGas, device);
+}
+
+bool AssignGilbarco(Application& app, const RegisterRow&) {
+  const auto& firmware = app.firmware;
+  app.frmMain.OpGilbraco.elements[5].visible = (firmware.IsV1400() && firmware.Number() >= 6) ||
+                                               (firmware.version == "V1300" && firmware.Number() >= 23) ||
+                                               firmware.version == "V1310";
+  return AssignMain<ShowGilbarco>(app, app.frmMain.OpGilbraco);
+}
+
+bool AssignIbm3151(Application& app, const RegisterRow&) {
+  return RefillMixed(app, {"RECEIPT", "JOURNAL", "MIXED"});
+}
+
+bool AssignSchlumberger(Application& app, const RegisterRow&) {
+  return RefillMixed(app, {"RECEIPT", "C .D. U", "CDU(2L)"});
+}
+
+bool AssignMicrelec(Application& app, const RegisterRow&) {
+  auto& form = app.frmMain;
+  auto& array = Byte(app, REGTYPE_MINOR) == 0 ? form.OpMicrelec : form.OpMicrelec9500;
+  return ChooseElement(app, array, Byte(app, UNITADDR));
+}
+
+bool AssignMicros(Application& app, const RegisterRow&) {
+  if (app.firmware.IsV1400() && app.firmware.Number() >= 7) app.frmMain.OpMicros.elements[3].visible = true;
+  if (!ChooseElement(app, app.frmMain.OpMicros, Byte(app, REGTYPE_MINOR))) return false;
+  ShowMicrosPanel(app);
+  return true;
+}
+
+bool AssignNcr(Application& app, const RegisterRow&) {
+  auto& array = app.frmMain.OpNCR;
+  if (app.firmware.IsV1400() && app.firmware.Number() >= 6) {
+    array.elements[5].visible = true;
+    array.elements[6].visible = true;
+  }
+  return ChooseElement(app, array, Byte(app, REGTYPE_MINOR));
+}
+
+bool AssignNorand(Application& app, const RegisterRow&) {
+  auto& form = app.frmMain;
+  const int wiring = Byte(app, REGTYPE_MINOR);
+  const int title = Byte(app, GTITLE_NF_BAK);
+  const int console = Byte(app, DV_ADDRIND_BAK);
+  return Assign(app, form.ComboWoring, wiring) && Assign(app, form.ComboTITLEDIP, title) &&
+         Assign(app, form.ComboCONSOLEID, console);
+}
+
+bool AssignPanasonic(Application& app, const RegisterRow&) {
+  auto& lists = app.frmMain.ComboPana;
+  const int title = Byte(app, GTITLE_NF_BAK);
+  const int wiring = Byte(app, REGTYPE_MINOR);
+  return Assign(app, lists[0], title) && Assign(app, lists[1], wiring);
+}
+
+bool AssignTci(Application& app, const RegisterRow&) {
+  return AssignDigits(app, app.frmMain.ComboTCI_ID);
+}
+
+bool AssignUniwell(Application& app, const RegisterRow&) {
+  ShowUniwellSwitch(app, false);
+  return Assign(app, app.frmMain.ComboUni, Byte(app, REGTYPE_MINOR)) &&
+         AssignDigits(app, app.frmMain.ComboUNI_ID);
+}
+
+bool AssignUniwellModels(Application& app, const RegisterRow&) {
+  auto& form = app.frmMain;
+  const int option = Byte(app, REGTYPE_EXT2);
+  form.frmAddress[18].caption.clear();
+  if (!AssignMain<ApplyUniwellFrame>(app, form.UNIWOP)) return false;
+  ShowUniwellSwitch(app, true);
+  return Assign(app, form.ComboUniFor14R7up, option) && AssignDigits(app, form.ComboUNI_ID);
+}
+
+bool AssignSerialId(Application& app, const RegisterRow&) {
+  ShowUniwellSwitch(app, true);
+  return Assign(app, app.frmMain.ComboUniFor14R7up, Byte(app, REGTYPE_EXT2)) &&
+         AssignDigits(app, app.frmMain.ComboUNI_ID);
+}
+
+bool AssignTk500(Application& app, const RegisterRow&) {
+  return AssignMode(app, app.frmMain.ComboTk500);
+}
+
+bool AssignTe2200(Application& app, const RegisterRow&) {
+  return AssignMode(app, app.frmMain.ComboTE2200);
+}
+
+bool AssignTec(Application& app, const RegisterRow&) {
+  return AssignMode(app, app.frmMain.ComboTEC);
+}
+
+bool AssignClarity(Application& app, const RegisterRow&) {
+  const int address = Byte(app, UNITADDR);
+  auto& list = app.frmMain.ComboCLARITYEPOS;
+  return Assign(app, list, 0) && Assign(app, list, address);
+}
+
+bool AssignEpson(Application& app, const RegisterRow&) {
+  const auto& firmware = app.firmware;
+  const int release = firmware.Number();
+  const bool extended = (firmware.IsV1400() && release >= 6) || firmware.version == "V1334" ||
+                        ((firmware.version == "V1310" || firmware.version == "V1324") && release >= 24);
+  auto& array = app.frmMain.OpRI_QT2;
+  if (extended) array.elements[9].visible = true;
+  return ChooseElement(app, array, Byte(app, extended ? REGTYPE_EXT2 : REGTYPE_MINOR));
+}
+
+bool AssignNucleus(Application& app, const RegisterRow&) {
+  return AssignOffered(app, app.frmMain.OpNUCP, {"STANDARD (Both)", "PRINTER WITH POLE", "POLE VIA PRINTER"});
+}
+
+bool AssignScale(Application& app, const RegisterRow&) {
+  return AssignOffered(app, app.frmMain.OpNUCP, {"AVERY", "MOLENS", "LEON LD5204"});
+}
+
+bool AssignScaleModels(Application& app, const RegisterRow&) {
+  auto& array = app.frmMain.OpWEIGHS;
+  const int release = app.firmware.Number();
+  if (release <= 3) {
+    Offer(array, {"AVERY", "MOLENS", "LEON LD5204"});
+  } else if (release == 4) {
+    Offer(array, {"AVERY 2ND HEADER", "AVERY PC OUTPUT", "MOLENS", "LEON LD5204"});
+  } else if (release == 5) {
+    Offer(array, {});
+  } else if (release == 6) {
+    Offer(array, {"AVERY 2ND HEADER", "AVERY PC OUTPUT", "MOLENS", "LEON LD5204", "PINAL"});
+  } else {
+    Offer(array, {"AVERY 2ND HEADER", "AVERY PC OUTPUT", "DE LA RUE 2800", "LEON LD5204", "LEON ENG. LD52XX",
+                  "MOLENS", "PINAL", "RITEWEIGH", "TOLEDO 8142 DIRECT OUTPUT"});
+  }
+  return ChooseElement(app, array, Byte(app, REGTYPE_MINOR));
+}
+
+bool AssignOdometer(Application& app, const RegisterRow&) {
+  return Assign(app, app.frmMain.ComboDIP[1], 0);
+}
+
+bool AssignSensors(Application& app, const RegisterRow&) {
+  return ChooseElement(app, app.frmMain.SenOP, 0) &&
+         Assign(app, app.frmMain.ST6105C, Byte(app, REGTYPE_EXT2));
+}
+
+bool AssignEasyTouch(Application& app, const RegisterRow&) {
+  const bool chosen = AssignEasy(app, "TS600/TS700");
+  app.image[REGTYPE_EXT2] = "01";
+  return chosen;
+}
+
+bool AssignEuropad(Application& app, const RegisterRow&) {
+  return AssignEasy(app, "EP300/EP3000");
+}
+
+bool AssignPosiflex(Application& app, const RegisterRow&) {
+  return AssignEasy(app, "EPOS/PST6000");
+}
+
+bool AssignIbm(Application& app, const RegisterRow&) {
+  return AssignMain<ShowIbm>(app, app.frmMain.IBMOP);
+}
+
+bool AssignIcl(Application& app, const RegisterRow&) {
+  auto& form = app.frmMain;
+  const int option = Byte(app, REGTYPE_EXT2);
+  if (!AssignMain<ShowIcl>(app, form.ICLOP) || !ChooseElement(app, form.TEAMOP, option)) return false;
+  form.POS2000.visible = true;
+  return true;
+}
+
+bool AssignNcrModel(Application& app, const RegisterRow&) {
+  auto& form = app.frmMain;
+  const int option = Byte(app, REGTYPE_EXT2);
+  if (!AssignMain<ShowNcr>(app, form.NCROP) || !ChooseElement(app, form.JRNLRCPT_SLP_OP, option))
+    return false;
+  form.NCRFrame.visible = false;
+  return true;
+}
+
+bool AssignNixdorf(Application& app, const RegisterRow&) {
+  auto& form = app.frmMain;
+  const int option = Byte(app, REGTYPE_EXT2);
+  if (!AssignMain<ShowNixdorf>(app, form.NIXDORF14OP) || !ChooseElement(app, form.BEETLEOp, option))
+    return false;
+  form.BEETLEFrm.visible = true;
+  return true;
+}
+
+bool AssignJcm(Application& app, const RegisterRow&) {
+  return AssignOffered(app, app.frmMain.JCMOp, {"Gold 4800/4850", "Gold G-225", "Gold G-381", "Gold G-556"});
+}
+
+bool AssignOmron(Application& app, const RegisterRow&) {
+  return AssignOffered(app, app.frmMain.JCMOp, {"PROLOGIC", "RS5550/5555"});
+}
+
+bool AssignPar(Application& app, const RegisterRow&) {
+  return AssignOffered(app, app.frmMain.JCMOp, {"POS 400", "VIAGRO"});
+}
+
+bool AssignProsper(Application& app, const RegisterRow&) {
+  return AssignOffered(app, app.frmMain.JCMOp, {"ET7626", "ET7826"});
+}
+
+bool AssignVectron(Application& app, const RegisterRow&) {
+  return AssignOffered(app, app.frmMain.JCMOp, {"COLOUR TOUCH", "POS MINI/32", "VARIO"});
+}
+
+bool AssignCasio(Application& app, const RegisterRow&) {
+  const int model = Byte(app, REGTYPE_MINOR);
+  if (!ChooseElement(app, app.frmMain.CASIOOP, model)) return false;
+  ArrangeCasioSubmenu(app, model);
+  return true;
+}
+
+bool AssignSharpModels(Application& app, const RegisterRow&) {
+  const int model = Byte(app, REGTYPE_MINOR);
+  if (!ChooseElement(app, app.frmMain.SharpOP, model)) return false;
+  ArrangeSharpSubmenu(app, model);
+  return true;
+}
+
+bool AssignTecModels(Application& app, const RegisterRow&) {
+  const int model = Byte(app, REGTYPE_MINOR);
+  if (!ChooseElement(app, app.frmMain.TECOP, model)) return false;
+  ArrangeTecSubmenu(app, model);
+  return true;
+}
+
+}  // namespace ovl

@@ -1,0 +1,118 @@
+#include "registers/micros.h"
+
+#include <array>
+
+#include "core/actions.h"
+
+namespace ovl {
+namespace {
+
+using enum FieldId;
+
+constexpr std::size_t kEcrDigits = 7;
+constexpr std::array kEcrFields = {ECRDIGIT_1, ECRDIGIT_2, ECRDIGIT_3, ECRDIGIT_4,
+                                   ECRDIGIT_5, ECRDIGIT_6, ECRDIGIT_7};
+constexpr std::array kIsnFields = {REGDV_TYPE_BAK, REG_GNA_BAK, REG_LNA_BAK, REG_IDNA_BAK,
+                                   PCDV_TYPE_BAK,  PC_GNA_BAK,  PC_LNA_BAK,  PC_IDNA_BAK};
+
+void Show(Application& app, List& list, FieldId field) {
+  AssignPosition(app, list, HexToInt(app.image[field]), Raise::kAlways);
+}
+
+// A list that stands nowhere has nothing to store.
+void Store(Application& app, const List& list, FieldId field) {
+  if (list.position >= 0) app.image[field] = ByteToHex(list.position);
+}
+
+std::string SevenDigits(std::string_view text) {
+  auto digits = std::to_string(LeadingNumber(text));
+  if (digits.size() < kEcrDigits) digits.insert(0, kEcrDigits - digits.size(), '0');
+  return digits;
+}
+
+void ShowEcrNumber(Application& app) {
+  std::string number;
+  for (const auto field : kEcrFields)
+    number += app.image[field].substr(std::min<std::size_t>(app.image[field].size(), 1), 1);
+  AssignText(app, app.frmMicros.ECRNumber, number);
+}
+
+void HidePanels(Application& app) {
+  auto& form = app.frmMicros;
+  for (auto* panel : {&form.frmIDN, &form.frmISN, &form.frm3700}) panel->visible = false;
+}
+
+// False for the mode that has no panel.
+bool ArrangePanel(Application& app) {
+  auto& form = app.frmMicros;
+  HidePanels(app);
+  switch (app.frmMain.OpMicros.chosen) {
+    case 1:
+      form.frmIDN.visible = true;
+      Show(app, form.ComboMICROS, DEVICE_INDEX_BAK);
+      Show(app, form.ComboMICROSADD, DV_ADDRIND_BAK);
+      Show(app, form.ComboMODE, MICROS_STATUS);
+      return true;
+    case 2:
+      form.frmISN.visible = true;
+      for (std::size_t list = 0; list < kIsnFields.size(); ++list)
+        Show(app, form.ComboISN[list], kIsnFields[list]);
+      return true;
+    case 3:
+      form.frm3700.visible = true;
+      Show(app, form.HandSHKCombo, REGTYPE_EXT2);
+      ShowEcrNumber(app);
+      return true;
+    default:
+      UnloadForm(app, form.form);
+      return false;
+  }
+}
+
+}  // namespace
+
+void ShowMicrosPanel(Application& app) {
+  const int mode = app.frmMain.OpMicros.chosen;
+  if (mode < 0) return;
+  app.image[REGTYPE_MINOR] = ByteToHex(mode);
+  if (mode == 2) app.image[MICROS_STATUS] = "00";
+  if (ArrangePanel(app) && app.LinkMode != kLinkUpload) ShowForm(app, app.frmMicros.form);
+}
+
+void OpMicros_Click(Application& app, int) {
+  ShowMicrosPanel(app);
+}
+
+void cmdMicros_Click(Application& app, int) {
+  if (ArrangePanel(app)) ShowForm(app, app.frmMicros.form);
+}
+
+void cmdSetMicros_Click(Application& app, int) {
+  const auto& form = app.frmMicros;
+  Store(app, form.ComboMICROS, DEVICE_INDEX_BAK);
+  Store(app, form.ComboMICROSADD, DV_ADDRIND_BAK);
+  Store(app, form.ComboMODE, MICROS_STATUS);
+  UnloadForm(app, app.frmMicros.form);
+}
+
+void cmdISNset_Click(Application& app, int) {
+  for (std::size_t list = 0; list < kIsnFields.size(); ++list) {
+    Store(app, app.frmMicros.ComboISN[list], kIsnFields[list]);
+  }
+  UnloadForm(app, app.frmMicros.form);
+}
+
+void CMD3700Set_Click(Application& app, int) {
+  Store(app, app.frmMicros.HandSHKCombo, REGTYPE_EXT2);
+  const auto number = SevenDigits(app.frmMicros.ECRNumber.text);
+  for (std::size_t digit = kEcrFields.size(); digit-- > 0;) {
+    app.image[kEcrFields[digit]] = std::string("0") + number[digit];
+  }
+  UnloadForm(app, app.frmMicros.form);
+}
+
+void ECRNumber_Leave(Application& app, int) {
+  AssignText(app, app.frmMicros.ECRNumber, SevenDigits(app.frmMicros.ECRNumber.text));
+}
+
+}  // namespace ovl

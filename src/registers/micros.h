@@ -1,0 +1,19 @@
+// The MICROS network: a window with one of three panels, whose fields change only by its Set button.
+#pragma once
+
+#include "core/application.h"
+
+namespace ovl {
+
+// Arranges the window for the chosen network mode and writes the mode. The window opens unless an upload is
+// being taken in.
+void ShowMicrosPanel(Application& app);
+
+void OpMicros_Click(Application& app, int element);
+void cmdMicros_Click(Application& app, int index);
+void cmdSetMicros_Click(Application& app, int index);
+void cmdISNset_Click(Application& app, int index);
+void CMD3700Set_Click(Application& app, int index);
+void ECRNumber_Leave(Application& app, int index);
+
+}  // namespace ovl

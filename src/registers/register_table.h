@@ -1,0 +1,44 @@
+// What each register shows: one table whose rows name the register's key, the families and releases, the
+// option frame, its title, and what is assigned from which byte.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "core/application.h"
+
+namespace ovl {
+
+// Families, as bits.
+using FamilySet = unsigned;
+inline constexpr FamilySet kFamily1400 = 1;
+inline constexpr FamilySet kFamily1300 = 2;
+inline constexpr FamilySet kFamily1310 = 4;
+inline constexpr FamilySet kFamily1324 = 8;
+inline constexpr FamilySet kFamily1334 = 16;
+FamilySet FamilyOf(std::string_view version);
+
+struct RegisterRow {
+  static constexpr int kNoFrame = -1;
+  static constexpr int kAnyRelease = 9999;
+
+  std::string_view key;
+  FamilySet families;
+  int frame;
+  std::string_view title;  // empty: the register's name in the list
+
+  // Assigns the frame's selections; false: a stored byte has no control, and the frame stays hidden.
+  bool (*assign)(Application&, const RegisterRow&);
+
+  // For the assignments that are one control from one byte.
+  OptionArray RegisterOptions::*array = nullptr;
+  List RegisterOptions::*list = nullptr;
+  FieldId from = FieldId::REGTYPE_MINOR;
+
+  int first_release = 0;
+  int last_release = kAnyRelease;
+};
+
+std::span<const RegisterRow> RegisterTable();
+
+}  // namespace ovl
