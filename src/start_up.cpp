@@ -181,13 +181,17 @@ void Start(Application& app) {
 
 }  // namespace
 
-Outcome StartProgram(Application& app) {
+void WireProgram(Application& app) {
   BuildVersionMenu(app);
   WireMain(app.frmMain);
   WirePanels(app.frmMain);
   WireRegisterForms(app);
   WireLinkForms(app);
   OrderApplyRoutines(app);
+}
+
+Outcome StartProgram(Application& app) {
+  WireProgram(app);
   return DispatchStart(app, Start);
 }
 

@@ -3,11 +3,14 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "catalogue/register_catalogue.h"
 #include "catalogue/register_lists.h"
 #include "core/failure.h"
 #include "image/field_map.h"
 #include "image/files.h"
 #include "image/record_stream.h"
+#include "registers/selection_driver.h"
+#include "start_up.h"
 
 namespace ovl {
 namespace {
@@ -64,6 +67,32 @@ std::string FileName(const FirmwareId& firmware, std::string_view name) {
   return file + ".bin";
 }
 
+// A program of the firmware without screen, line or files: it only applies images.
+void SetUp(Application& app, const FirmwareId& firmware) {
+  app.firmware = firmware;
+  PrepareCapabilities(app);
+  WireProgram(app);
+  ResetRegisterIndexes(app);
+  BuildRegisterList(app);
+}
+
+// Lets the register's own options settle the image: what they force on the line is stored with them, so that
+// a later load of the image finds everything as it wants it. The program is a fresh one, in which every
+// option counts as changed.
+ConfigImage RegisterImage(const FirmwareId& firmware, int code) {
+  Application app;
+  SetUp(app, firmware);
+  app.image = FactoryImage(firmware);
+  app.image[REGTYPE] = ByteToHex(code);
+  for (const auto& routine : app.Setting_Code) {
+    if (routine.run != ApplyRegisterSelection) routine.run(app);
+  }
+  app.PanelsReady = true;
+  app.UploadApplying = true;
+  ApplyRegisterSelection(app);
+  return app.image;
+}
+
 }  // namespace
 
 ConfigImage FactoryImage(const FirmwareId& firmware) {
@@ -99,11 +128,9 @@ int WriteDefaultImages(const std::string& folder, const FirmwareId& firmware) {
   if (error) throw Failure(images.string(), error.message());
 
   const auto capabilities = CapabilitiesOf(firmware);
-  auto image = FactoryImage(firmware);
   int code = 0;
   for (const auto& entry : BuildRegisterEntries(firmware.version, firmware.release)) {
-    image[REGTYPE] = ByteToHex(code++);
-    const auto stream = StreamOf(image, firmware, capabilities);
+    const auto stream = StreamOf(RegisterImage(firmware, code++), firmware, capabilities);
     WriteWhole((images / FileName(firmware, entry.name)).string(), stream + "\r\n");
   }
   return code;

@@ -1,0 +1,288 @@
+// A register's pick with images that hold odd bytes, name another register, or are not there; and what a pick
+// leaves alone.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <vector>
+
+#include "support/installed.h"
+
+namespace ovl::testing {
+namespace {
+
+const FirmwareId kLatest{"V1400", "R12"};
+
+std::vector<int> ShownFrames(const Application& app) {
+  std::vector<int> shown;
+  for (std::size_t frame = 0; frame < app.frmMain.frmAddress.size(); ++frame) {
+    if (app.frmMain.frmAddress[frame].visible) shown.push_back(static_cast<int>(frame));
+  }
+  return shown;
+}
+
+Outcome Open(Harness& program, const std::string& path) {
+  program.file_answers.push_back(path);
+  return program.Click("OpenMenu");
+}
+
+TEST(RegisterPick, ACodeOutsideTheListLeavesTheListAndStillShowsTheFrame) {
+  Installed program(kLatest);
+  ASSERT_EQ(program.Start(), Outcome::kDone);
+  program.SetByte("ADS", program.Code(), "F0");
+  ASSERT_EQ(program.Register("ADS"), Outcome::kDone);
+  EXPECT_EQ(program.app.frmMain.ComboReg.Text(), "ADS");
+  EXPECT_EQ(program.app.image[FieldId::REGTYPE], "F0");
+  EXPECT_EQ(ShownFrames(program.app), std::vector<int>{1});
+  ASSERT_EQ(program.Register("BLEEP"), Outcome::kDone);
+  EXPECT_EQ(ShownFrames(program.app), std::vector<int>{33});
+}
+
+struct OddByte {
+  const char* name;
+  int byte;  // of the image; from kFixedPart on of its fixed section
+  const char* value;
+};
+constexpr int kFixedPart = 100, kMinorByte = 101, kExt2Byte = 103;
+
+TEST(RegisterPick, AByteWithoutItsChoiceLeavesTheFrameHidden) {
+  const std::pair<FirmwareId, std::vector<OddByte>> firmware_rows[] = {
+      {kLatest,
+       {{"ADS", kMinorByte, "02"},
+        {"DELTA SONO 3.1", kMinorByte, "04"},
+        {"GASBOY", kMinorByte, "12"},
+        {"GASBOY", kTitle, "03"},
+        {"GILBARCO", kMinorByte, "06"},
+        {"MICRELEC", kUnitAddress, "05"},
+        {"MICROS", kMinorByte, "04"},
+        {"NORAND 1200", kConsole, "09"},
+        {"PANASONIC", kTitle, "02"},
+        {"TCI", 16, "0A"},
+        {"UNIWELL", kMinorByte, "0D"},
+        {"UNIWELL", kExt2Byte, "02"},
+        {"SENSORS", kExt2Byte, "FF"},
+        {"TEC", kMinorByte, "40"},
+        {"TEAM POS 2000", kExt2Byte, "02"},
+        {"WEIGH SCALE", kMinorByte, "09"}}},
+      {{"V1310", "R1"},
+       {{"NIXDORF BEETLE", kMinorByte, "09"},
+        {"POLE DISPLAY", kMinorByte, "02"},
+        {"CASIO TK-T500", kMinorByte, "02"}}},
+      {{"V1324", "R26"},
+       {{"BEETLE 50 PRINTERS", kMinorByte, "09"},
+        {"NUCLEUS PRINTER", kMinorByte, "03"},
+        {"SCHLUMBERGER", kMinorByte, "03"}}},
+  };
+  for (const auto& [firmware, rows] : firmware_rows) {
+    Installed program(firmware);
+    ASSERT_EQ(program.Start(), Outcome::kDone);
+    for (const auto& row : rows) {
+      SCOPED_TRACE(firmware.Joined() + " " + row.name + " " + row.value);
+      const auto whole = ReadWhole(program.PathOf(row.name));
+      program.SetByte(row.name, row.byte < kFixedPart ? row.byte : program.Fixed(row.byte - kFixedPart),
+                      row.value);
+      ASSERT_EQ(program.Register(row.name), Outcome::kDone);
+      EXPECT_EQ(program.app.frmMain.ComboReg.Text(), row.name);
+      EXPECT_EQ(ShownFrames(program.app), std::vector<int>{});
+      WriteWhole(program.PathOf(row.name), whole);
+      ASSERT_EQ(program.Register(row.name), Outcome::kDone);
+      EXPECT_FALSE(ShownFrames(program.app).empty());
+    }
+    EXPECT_TRUE(program.NoBoxLeft());
+  }
+}
+
+TEST(RegisterPick, DresserWayneChoosesByThreeBytes) {
+  struct Row {
+    const char *minor, *ext1, *ext2, *chosen;
+    int element;
+  };
+  const Row rows[] = {
+      {"02", "00", "00", "", -1},     {"01", "07", "00", "", -1},     {"00", "00", "01", "POSOP", 1},
+      {"01", "00", "07", "TEROP", 7}, {"01", "01", "00", "PRNOP", 0}, {"01", "02", "00", "SECUOP", 0},
+  };
+  Installed program(kLatest);
+  ASSERT_EQ(program.Start(), Outcome::kDone);
+  for (const auto& row : rows) {
+    SCOPED_TRACE(std::string(row.minor) + row.ext1 + row.ext2);
+    program.SetByte("DRESSER WAYNE", program.Minor(), row.minor);
+    program.SetByte("DRESSER WAYNE", program.Ext1(), row.ext1);
+    program.SetByte("DRESSER WAYNE", program.Ext2(), row.ext2);
+    ASSERT_EQ(program.Register("DRESSER WAYNE"), Outcome::kDone);
+    EXPECT_EQ(ShownFrames(program.app), std::vector<int>{36});
+    for (const char* name : {"POSOP", "TEROP", "PRNOP", "SECUOP"}) {
+      EXPECT_EQ(program.ArrayOf(name).chosen, name == std::string_view(row.chosen) ? row.element : -1)
+          << name;
+    }
+    const auto& image = program.app.image;
+    EXPECT_EQ(image[FieldId::REGTYPE_MINOR] + image[FieldId::REGTYPE_EXT1] + image[FieldId::REGTYPE_EXT2],
+              std::string(row.minor) + row.ext1 + row.ext2);
+  }
+}
+
+TEST(RegisterPick, ForcedSpeedsReachTheImageOnAPickAndNotInAWholeLoad) {
+  for (const FirmwareId& firmware : {FirmwareId{"V1310", "R1"}, {"V1400", "R6"}}) {
+    SCOPED_TRACE(firmware.Joined());
+    Installed program(firmware);
+    const std::string name = "CASIO TE-2200";
+    program.SetByte(name, program.Minor(), "01");
+    program.SetByte(name, kReceiveSpeed, "00");
+    program.SetByte(name, kTransmitSpeed, "01");
+    ASSERT_EQ(program.Start(), Outcome::kDone);
+    const auto& app = program.app;
+    const auto speeds = [&] {
+      return app.image[FieldId::RX_BAUDRATE] + app.image[FieldId::TX_BAUDRATE] + " " +
+             std::to_string(app.frmMain.ComboCOMM[1].position) +
+             std::to_string(app.frmMain.ComboCOMM[2].position);
+    };
+    ASSERT_EQ(program.Register(name), Outcome::kDone);
+    EXPECT_EQ(speeds(), "0505 55");
+    ASSERT_EQ(Open(program, program.PathOf(name)), Outcome::kDone);
+    EXPECT_EQ(speeds(), "0001 01");
+    EXPECT_EQ(app.image[FieldId::REGTYPE_MINOR], "01");
+    EXPECT_TRUE(app.PanelsReady);
+    ASSERT_EQ(program.Register(name), Outcome::kDone);
+    EXPECT_EQ(speeds(), "0505 55");
+  }
+}
+
+// What is read and what the choice then writes go by different tables in some firmware.
+TEST(RegisterPick, AStoredCodeDriftsWhereReaderAndWriterDiffer) {
+  struct Row {
+    FirmwareId firmware;
+    const char *name, *minor, *ext2, *minor_after, *ext2_after;
+  };
+  const Row rows[] = {
+      {{"V1400", "R6"}, "EPSON GENERIC", "03", nullptr, "00", "00"},
+      {{"V1324", "R24"}, "EPSON GENERIC", "03", nullptr, "00", "00"},
+      {{"V1334", "R1"}, "EPSON GENERIC", "03", "02", "02", "02"},
+      {{"V1400", "R7"}, "EPSON GENERIC", "03", "02", "03", "02"},
+      {{"V1310", "R1"}, "SHARP", "05", "00", "06", "00"},
+      {{"V1300", "R23"}, "SHARP", "05", nullptr, "05", "00"},
+      {{"V1324", "R26"}, "OMEGA 2000", "01", "00", "01", "01"},
+      {{"V1400", "R7"}, "OMEGA 2000", "05", "01", "05", "01"},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.firmware.Joined() + " " + row.name);
+    Installed program(row.firmware);
+    ASSERT_EQ(program.Start(), Outcome::kDone);
+    program.SetByte(row.name, program.Minor(), row.minor);
+    if (row.ext2 != nullptr) program.SetByte(row.name, program.Ext2(), row.ext2);
+    ASSERT_EQ(program.Register(row.name), Outcome::kDone);
+    EXPECT_EQ(program.app.image[FieldId::REGTYPE_MINOR], row.minor_after);
+    EXPECT_EQ(program.app.image[FieldId::REGTYPE_EXT2], row.ext2_after);
+  }
+}
+
+TEST(RegisterPick, AnImageOfAnotherRegisterLeadsThere) {
+  Installed program(kLatest);
+  ASSERT_EQ(program.Start(), Outcome::kDone);
+  const auto code = [&](const char* name) { return ByteToHex(program.CodeOf(name)); };
+  program.SetByte("ADS", program.Code(), code("BLEEP"));
+  program.SetByte("BLEEP", kUnitAddress, "77");
+  ASSERT_EQ(program.Register("ADS"), Outcome::kDone);
+  EXPECT_EQ(program.app.frmMain.ComboReg.Text(), "BLEEP");
+  EXPECT_EQ(program.app.image[FieldId::REGTYPE], code("BLEEP"));
+  EXPECT_EQ(program.app.image[FieldId::UNITADDR], "77");
+  EXPECT_EQ(ShownFrames(program.app), std::vector<int>{33});
+
+  program.SetByte("BLEEP", program.Code(), code("ADS"));  // each names the other
+  for (const auto& [picked, frame] : {std::pair{"ADS", 1}, {"BLEEP", 33}}) {
+    SCOPED_TRACE(picked);
+    ASSERT_EQ(program.Register(picked), Outcome::kDone);
+    EXPECT_EQ(program.app.frmMain.ComboReg.Text(), picked);
+    EXPECT_EQ(program.app.image[FieldId::REGTYPE], code(picked));
+    EXPECT_EQ(ShownFrames(program.app), std::vector<int>{frame});
+  }
+  ASSERT_EQ(program.Register("GENERIC"), Outcome::kDone);
+  EXPECT_EQ(program.app.frmMain.ComboReg.Text(), "GENERIC");
+  EXPECT_TRUE(program.NoBoxLeft());
+}
+
+TEST(RegisterPick, WithoutItsImageTheProgramEnds) {
+  for (const FirmwareId& firmware : {kLatest, FirmwareId{"V1300", "R14"}}) {
+    for (const bool folder_instead : {false, true}) {
+      SCOPED_TRACE(firmware.Joined());
+      Installed program(firmware);
+      ASSERT_EQ(program.Start(), Outcome::kDone);
+      const auto path = program.PathOf("ADS");
+      std::filesystem::remove(path);
+      if (folder_instead) std::filesystem::create_directory(path);
+      EXPECT_EQ(program.Register("ADS"), Outcome::kEnded);
+      const auto text = program.TakeBox().text;
+      EXPECT_EQ(text.substr(0, 19), std::string(19, ' '));
+      const auto line_end = text.find('\n');
+      ASSERT_NE(line_end, std::string::npos);
+      EXPECT_GT(line_end, 19U) << "the failure is described";
+      EXPECT_NE(text.substr(19, 1), " ");
+      EXPECT_EQ(text.substr(line_end + 1), "Please ReInstall Ovalon PC Software !!");
+      EXPECT_EQ(program.Register("GENERIC"), Outcome::kEnded);
+      EXPECT_TRUE(program.NoBoxLeft());
+    }
+  }
+}
+
+TEST(RegisterPick, AfterAnOpenedFileTheNextPickCounts) {
+  Installed program(kLatest);
+  ASSERT_EQ(program.Start(), Outcome::kDone);
+  program.Register("ADS");
+  ASSERT_EQ(Open(program, program.PathOf("ADS")), Outcome::kDone);
+  ASSERT_EQ(program.Register("BLEEP"), Outcome::kDone);
+  EXPECT_EQ(program.app.image[FieldId::REGTYPE], ByteToHex(program.CodeOf("BLEEP")));
+  EXPECT_EQ(ShownFrames(program.app), std::vector<int>{33});
+
+  const auto kept = program.folder.File("kept.bin");
+  program.SetByte("ADS", kUnitAddress, "77");
+  std::filesystem::rename(program.PathOf("ADS"), kept);
+  ASSERT_EQ(Open(program, kept), Outcome::kDone);  // the list follows without asking for the default image
+  EXPECT_EQ(program.app.frmMain.ComboReg.Text(), "ADS");
+  EXPECT_EQ(program.app.image[FieldId::UNITADDR], "77");
+  EXPECT_EQ(ShownFrames(program.app), std::vector<int>{1});
+  ASSERT_EQ(program.Register("BLEEP"), Outcome::kDone);
+  EXPECT_EQ(program.app.image[FieldId::UNITADDR], "00");
+}
+
+TEST(RegisterPick, ACancelledOpenSwallowsOnePick) {
+  Installed program(kLatest);
+  ASSERT_EQ(program.Start(), Outcome::kDone);
+  ASSERT_EQ(program.Register("BLEEP"), Outcome::kDone);
+  program.file_answers.push_back(std::nullopt);
+  ASSERT_EQ(program.Click("OpenMenu"), Outcome::kDone);
+  program.Mark();
+  ASSERT_EQ(program.Register("ADS"), Outcome::kDone);
+  EXPECT_EQ(program.Written(), "");
+  EXPECT_EQ(ShownFrames(program.app), std::vector<int>{33});
+  ASSERT_EQ(program.Register("ADS"), Outcome::kDone);
+  EXPECT_EQ(program.app.image[FieldId::REGTYPE], ByteToHex(program.CodeOf("ADS")));
+  EXPECT_EQ(ShownFrames(program.app), std::vector<int>{1});
+}
+
+TEST(RegisterPick, TakesTheRegistersFieldsAndLeavesTheInstallers) {
+  using F = FieldId;
+  const F taken[] = {F::EXECENTRY,        F::COMMCFG_BAK,    F::IOCFG_BAK,      F::RX_BAUDRATE,
+                     F::TX_BAUDRATE,      F::UNITADDR,       F::DV_ADDRIND_BAK, F::TCIADDBAK_1,
+                     F::TCIADDBAK_2,      F::TCIADDBAK_3,    F::GTITLE_NF_BAK,  F::GPS_CONFIG_BAK,
+                     F::DEVICE_INDEX_BAK, F::REGDV_TYPE_BAK, F::REG_GNA_BAK,    F::REG_LNA_BAK,
+                     F::REG_IDNA_BAK,     F::PCDV_TYPE_BAK,  F::PC_GNA_BAK,     F::PC_LNA_BAK,
+                     F::PC_IDNA_BAK,      F::MICROS_STATUS,  F::REGTYPE,        F::REGTYPE_MINOR,
+                     F::REGTYPE_EXT1,     F::REGTYPE_EXT2,   F::IPADDRESS};
+  for (const FirmwareId& firmware :
+       {FirmwareId{"V1400", "R4"}, kLatest, {"V1300", "R14"}, {"V1324", "R17"}, {"V1310", "R1"}}) {
+    Installed program(firmware);
+    ASSERT_EQ(program.Start(), Outcome::kDone);
+    const auto base = program.app.image;
+    program.Fill("EE");
+    ASSERT_EQ(program.Register("GENERIC"), Outcome::kDone);
+    for (const auto& row : FieldTable()) {
+      if (row.id == F::IGSCFG_BAK) continue;  // in no stream
+      const bool from_image = std::find(std::begin(taken), std::end(taken), row.id) != std::end(taken);
+      for (int entry = 1; entry <= EntryCount(row.id); ++entry) {
+        EXPECT_EQ(program.app.image.at(row.id, entry), from_image ? base.at(row.id, entry) : "EE")
+            << firmware.Joined() << " " << row.name << " " << entry;
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace ovl::testing
