@@ -6,6 +6,7 @@
 #include "core/failure.h"
 #include "core/settings.h"
 #include "image/file_commands.h"
+#include "image/history.h"
 #include "link/clock.h"
 #include "link/port.h"
 #include "link/remote_mode.h"
@@ -41,6 +42,7 @@ void WireMain(MainForm& form) {
   form.form.window_close = frmMain_Close;
   form.OpenMenu.handler = OpenMenu_Click;
   form.menuSave.handler = menuSave_Click;
+  form.OpenHistory_menu.handler = OpenHistory_menu_Click;
   form.menuExit.handler = menuExit_Click;
   form.ComboReg.handler = RegisterSelected;
   form.cmdConnect.handler = cmdConnect_Click;

@@ -9,6 +9,7 @@ Application::Application() {
   frmOK_buttom.Register(registry);
   frmMicros.Register(registry);
   FrmSubMenu.Register(registry);
+  frmView.Register(registry);
 }
 
 }  // namespace ovl

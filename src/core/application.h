@@ -14,6 +14,7 @@
 #include "core/forms/link_forms.h"
 #include "core/forms/main_form.h"
 #include "core/forms/register_forms.h"
+#include "core/forms/viewer_form.h"
 #include "core/platform.h"
 #include "core/registry.h"
 
@@ -45,6 +46,7 @@ struct Application {
   TransferEndForm frmOK_buttom;
   MicrosForm frmMicros;
   SubMenuForm FrmSubMenu;
+  ViewerForm frmView;
 
   // Firmware, read once at start
   FirmwareId firmware;

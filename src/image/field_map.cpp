@@ -218,6 +218,15 @@ bool HasCapability(const Capabilities& capabilities, Capability capability) {
   }
 }
 
+Capabilities CapabilitiesOf(const FirmwareId& firmware) {
+  Capabilities capabilities;
+  if (firmware.version != "V1324") return capabilities;
+  const std::string_view release = firmware.release;
+  const auto tail = release.substr(release.size() < 2 ? 0 : release.size() - 2);
+  capabilities.HasTcpIp = LeadingNumber(tail) >= 19;
+  return capabilities;
+}
+
 bool InStream(const FieldRow& row, Layout layout, int release, const Capabilities& capabilities,
               Direction direction) {
   if ((row.layouts & Bit(layout)) == 0 || !HasCapability(capabilities, row.capability)) return false;

@@ -54,6 +54,9 @@ Layout LayoutOf(const FirmwareId& firmware);
 int DigitsOf(const FieldRow& row, Layout layout);
 bool HasCapability(const Capabilities& capabilities, Capability capability);
 
+// What the firmware has.
+Capabilities CapabilitiesOf(const FirmwareId& firmware);
+
 // Whether a stream of this firmware holds the field. The layout is given apart, since files can be written in
 // another one than the firmware's own.
 bool InStream(const FieldRow& row, Layout layout, int release, const Capabilities& capabilities,

@@ -1,5 +1,6 @@
 #include "image/files.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
@@ -90,17 +91,21 @@ std::string ReadWhole(const std::string& path) {
   return bytes;
 }
 
-std::string ReadJoined(const std::string& path) {
+std::vector<std::string> ReadLines(const std::string& path) {
   const auto bytes = ReadWhole(path);
-  std::string joined;
-  joined.reserve(bytes.size());
-  for (std::size_t place = 0; place < bytes.size(); ++place) {
-    if (bytes[place] != '\r') {
-      joined += bytes[place];
-    } else if (place + 1 < bytes.size() && bytes[place + 1] == '\n') {
-      ++place;
-    }
+  std::vector<std::string> lines;
+  for (std::size_t begin = 0; begin < bytes.size();) {
+    const auto end = std::min(bytes.find('\r', begin), bytes.size());
+    lines.push_back(bytes.substr(begin, end - begin));
+    begin = end + 1;
+    if (begin < bytes.size() && bytes[begin] == '\n') ++begin;
   }
+  return lines;
+}
+
+std::string ReadJoined(const std::string& path) {
+  std::string joined;
+  for (const auto& line : ReadLines(path)) joined += line;
   return joined;
 }
 

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace ovl {
 
@@ -13,7 +14,10 @@ std::string PathBelow(std::string_view folder, std::string_view written);
 // All bytes of a regular file of at most 64 MiB.
 std::string ReadWhole(const std::string& path);
 
-// The lines of a file with nothing between them. A line ends with CR LF or CR; a lone LF is no line end.
+// The lines of a file, without their ends. A line ends with CR LF or CR; a lone LF is no line end.
+std::vector<std::string> ReadLines(const std::string& path);
+
+// The lines of a file with nothing between them.
 std::string ReadJoined(const std::string& path);
 
 // Replaces the file in one step: the bytes go into a file beside it, which then takes its name. A link is

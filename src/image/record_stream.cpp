@@ -96,11 +96,7 @@ Sections CutSections(std::string_view digits, const FirmwareId& firmware) {
 }
 
 void PrepareCapabilities(Application& app) {
-  app.capabilities = {};
-  if (app.firmware.version != "V1324") return;
-  const std::string_view release = app.firmware.release;
-  const auto tail = release.substr(release.size() < 2 ? 0 : release.size() - 2);
-  app.capabilities.HasTcpIp = LeadingNumber(tail) >= 19;
+  app.capabilities = CapabilitiesOf(app.firmware);
 }
 
 bool LoadStream(Application& app, std::string_view stream) {

@@ -1,8 +1,7 @@
 #include "link/one_shot.h"
 
 #include "core/actions.h"
-#include "core/failure.h"
-#include "image/files.h"
+#include "image/history.h"
 #include "link/link_state.h"
 
 namespace ovl {
@@ -14,22 +13,6 @@ void EndOneShot(Application& app) {
   ShowNoAccess(app);
   StopOperating(app);
   app.RemoteHeld = false;
-}
-
-// On a cancel the file goes to the name that was offered.
-void SaveHistory(Application& app) {
-  FileDialog dialog;
-  dialog.kind = FileDialog::Kind::kSave;
-  dialog.file_name = PathBelow(app.platform.program_folder, "\\History.txt");
-  dialog.filter = "Text Files(*.txt)|*.txt|All Files(*.*)|*.*";
-  dialog.filter_index = 2;
-  const auto answer = app.platform.ask_file(dialog);
-  app.CurrentFilePath = answer ? answer->file_name : dialog.file_name;
-  try {
-    WriteWhole(app.CurrentFilePath, "OVLH\r\n" + app.HistoryText + "\r\n");
-  } catch (const Failure& failure) {
-    app.StatusNote = failure.Subject() + ": " + failure.what();
-  }
 }
 
 }  // namespace

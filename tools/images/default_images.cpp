@@ -22,13 +22,6 @@ constexpr const char* kEightDataBits = "04";
 constexpr const char* kBaud9600 = "03";
 constexpr const char* kDisplayOn = "20";
 
-Capabilities CapabilitiesOf(const FirmwareId& firmware) {
-  Application app;
-  app.firmware = firmware;
-  PrepareCapabilities(app);
-  return app.capabilities;
-}
-
 // The code of "RS-232" in the firmware's interface byte.
 const char* InterfaceCode(const FirmwareId& firmware) {
   const auto layout = LayoutOf(firmware);

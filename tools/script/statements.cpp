@@ -9,6 +9,7 @@
 #include "image_fields.h"
 #include "inspection.h"
 #include "real_transfer.h"
+#include "reports.h"
 #include "stop.h"
 #include "variables.h"
 
@@ -321,6 +322,11 @@ constexpr auto kStatements = std::to_array<Statement>({
     {"set", "set NAME HEX", "writes an image field as it stands", Set},
     {"var", "var NAME", "prints a state variable, NAME = value", Var},
     {"stream", "stream [PATH]", "prints what a download would send, or writes it into a file", Stream},
+    {"dump", "dump [PATH]", "writes the image by field names; without PATH into the family's report file",
+     Dump},
+    {"diff", "diff PATH PATH", "compares two configuration files of this firmware field by field", Diff},
+    {"inspect", "inspect PATH", "prints which firmware a file fits and what opening it here would do",
+     Inspect},
     {"upload", "upload [PATH]", "a whole upload on the real port; the image then into a file", Upload},
     {"download", "download [PATH]", "a whole download on the real port, of the image or of a file", Download},
     {"expect",

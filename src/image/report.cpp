@@ -1,0 +1,112 @@
+#include "image/report.h"
+
+#include <array>
+
+#include "catalogue/firmware.h"
+#include "catalogue/register_lists.h"
+#include "core/codecs.h"
+#include "image/field_map.h"
+#include "image/record_stream.h"
+
+namespace ovl {
+namespace {
+
+constexpr std::array kHeadings = {"::SYSCFG::", "::SYSFIXED::", "::SYSSTR::"};
+
+// Calls the function with row and entry for every field that a download of the firmware holds.
+template <class Function>
+void ForEachEntry(const FirmwareId& firmware, const Function& function) {
+  const auto layout = LayoutOf(firmware);
+  const auto capabilities = CapabilitiesOf(firmware);
+  for (const auto& row : FieldTable()) {
+    if (!InStream(row, layout, firmware.Number(), capabilities, Direction::kWrite)) continue;
+    for (int entry = 1; entry <= EntryCount(row.id); ++entry) function(row, entry);
+  }
+}
+
+// The digits that an image of the firmware has in all.
+std::size_t DigitsOfImage(const FirmwareId& firmware) {
+  const auto layout = LayoutOf(firmware);
+  const auto capabilities = CapabilitiesOf(firmware);
+  ConfigImage image;
+  for (const auto& row : FieldTable()) {
+    if (!InStream(row, layout, firmware.Number(), capabilities, Direction::kRead)) continue;
+    for (int entry = 1; entry <= EntryCount(row.id); ++entry) {
+      image.at(row.id, entry).assign(static_cast<std::size_t>(DigitsOf(row, layout)), '0');
+    }
+  }
+  const auto sections = WriteSections(image, layout, firmware, capabilities);
+  return sections.SYSCFG.size() + sections.SYSFIXED.size() + sections.SYSSTR.size();
+}
+
+FirmwareFit FitOf(const FirmwareId& firmware, std::string_view digits) {
+  FirmwareFit fit{firmware, HexToInt(CutSections(digits, firmware).SYSFIXED), {}};
+  const auto entries = BuildRegisterEntries(firmware.version, firmware.release);
+  const auto code = static_cast<std::size_t>(fit.register_code);
+  if (code < entries.size()) fit.register_name = entries[code].name;
+  return fit;
+}
+
+}  // namespace
+
+std::string EntryName(std::string_view field, int entries, int entry) {
+  std::string name(field);
+  return entries == 1 ? name : name + "(" + std::to_string(entry) + ")";
+}
+
+std::string LabelledDump(const ConfigImage& image, const FirmwareId& firmware) {
+  std::string text;
+  std::size_t headings = 0;
+  ForEachEntry(firmware, [&](const FieldRow& row, int entry) {
+    while (headings <= static_cast<std::size_t>(row.section))
+      text.append(kHeadings.at(headings++)).append("\r\n");
+    text += EntryName(row.name, EntryCount(row.id), entry) + " = " + image.at(row.id, entry) + "\r\n";
+  });
+  return text;
+}
+
+std::optional<ConfigImage> DecodeStream(std::string_view stream, const FirmwareId& firmware) {
+  std::string digits;
+  if (ParseRecords(stream, ReadRegion(firmware), digits) != ParseResult::kOk) return std::nullopt;
+  ConfigImage image;
+  ReadSections(CutSections(digits, firmware), firmware, CapabilitiesOf(firmware), Scope::kWhole, image);
+  return image;
+}
+
+std::vector<FieldDifference> Differences(const ConfigImage& before, const ConfigImage& after,
+                                         const FirmwareId& firmware) {
+  std::vector<FieldDifference> differences;
+  ForEachEntry(firmware, [&](const FieldRow& row, int entry) {
+    const auto& old_value = before.at(row.id, entry);
+    const auto& new_value = after.at(row.id, entry);
+    if (old_value == new_value) return;
+    differences.push_back({EntryName(row.name, EntryCount(row.id), entry), old_value, new_value});
+  });
+  return differences;
+}
+
+std::vector<FirmwareFit> FittingFirmware(std::string_view stream) {
+  std::vector<FirmwareFit> fits;
+  for (const auto& entry : FirmwareTable()) {
+    if (!entry.in_menu) continue;
+    const FirmwareId firmware{std::string(entry.version), std::string(entry.release)};
+    std::string digits;
+    if (ParseRecords(stream, ReadRegion(firmware), digits) != ParseResult::kOk) continue;
+    if (digits.size() == DigitsOfImage(firmware)) fits.push_back(FitOf(firmware, digits));
+  }
+  return fits;
+}
+
+OpenOutcome OutcomeOfOpening(std::string_view stream, const FirmwareId& firmware) {
+  std::string digits;
+  switch (ParseRecords(stream, ReadRegion(firmware), digits)) {
+    case ParseResult::kOk:
+      return OpenOutcome::kLoads;
+    case ParseResult::kOtherFirmware:
+      return OpenOutcome::kRefused;
+    default:
+      return OpenOutcome::kEndsProgram;
+  }
+}
+
+}  // namespace ovl

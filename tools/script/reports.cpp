@@ -1,0 +1,70 @@
+#include "reports.h"
+
+#include <ostream>
+
+#include "image/files.h"
+#include "image/report.h"
+#include "session.h"
+#include "stop.h"
+
+namespace ovl::script {
+namespace {
+
+ConfigImage ImageIn(Session& session, const std::string& path) {
+  const auto& firmware = session.App().firmware;
+  auto image = DecodeStream(ReadJoined(path), firmware);
+  if (!image) Wrong(path + ": no configuration of " + firmware.Joined());
+  return *std::move(image);
+}
+
+const char* WordsFor(OpenOutcome outcome) {
+  switch (outcome) {
+    case OpenOutcome::kLoads:
+      return "loads it";
+    case OpenOutcome::kRefused:
+      return "refuses it and keeps the image";
+    default:
+      return "ends the program";
+  }
+}
+
+}  // namespace
+
+void Dump(Session& session, Arguments& arguments) {
+  const auto& app = session.App();
+  const auto path = arguments.AtEnd() ? PathBelow(app.platform.program_folder,
+                                                  "\\" + app.firmware.version + "\\SaveReport.Bin")
+                                      : arguments.Next("PATH");
+  arguments.End();
+  WriteWhole(path, LabelledDump(app.image, app.firmware));
+}
+
+void Diff(Session& session, Arguments& arguments) {
+  const auto before = arguments.Next("PATH");
+  const auto after = arguments.Next("PATH");
+  arguments.End();
+  const auto differences =
+      Differences(ImageIn(session, before), ImageIn(session, after), session.App().firmware);
+  for (const auto& difference : differences) {
+    session.Output() << difference.name << ": " << difference.before << " -> " << difference.after << '\n';
+  }
+  if (differences.empty()) session.Output() << "no difference\n";
+}
+
+void Inspect(Session& session, Arguments& arguments) {
+  const auto path = arguments.Next("PATH");
+  arguments.End();
+  const auto stream = ReadJoined(path);
+  const auto fits = FittingFirmware(stream);
+  for (const auto& fit : fits) {
+    session.Output() << "fits " << fit.firmware.Joined() << ": register " << fit.register_code << ' '
+                     << (fit.register_name.empty() ? "is not in its list" : Quoted(fit.register_name))
+                     << '\n';
+  }
+  if (fits.empty()) session.Output() << "fits no firmware\n";
+  const auto& firmware = session.App().firmware;
+  session.Output() << "opening it under " << firmware.Joined() << ' '
+                   << WordsFor(OutcomeOfOpening(stream, firmware)) << '\n';
+}
+
+}  // namespace ovl::script
