@@ -2,6 +2,7 @@
 
 #include "catalogue/firmware.h"
 #include "catalogue/register_catalogue.h"
+#include "catalogue/variants.h"
 #include "core/actions.h"
 #include "core/failure.h"
 #include "core/settings.h"
@@ -11,9 +12,16 @@
 #include "link/port.h"
 #include "link/remote_mode.h"
 #include "link/transfer.h"
+#include "panels/alarms.h"
 #include "panels/communication.h"
+#include "panels/demo.h"
+#include "panels/dvr.h"
 #include "panels/exception_report.h"
+#include "panels/exceptions.h"
+#include "panels/range_editor.h"
+#include "panels/scroll_matching.h"
 #include "panels/text_display.h"
+#include "panels/text_entry.h"
 #include "panels/time_date.h"
 #include "registers/micros.h"
 #include "registers/option_handlers.h"
@@ -71,6 +79,43 @@ void WirePanels(MainForm& form) {
   Handle(form.ComboTD, ComboTD_Click);
   form.ComboLang.handler = ComboLang_Click;
   Handle(form.ComboExcepRe, ComboExcepRe_Click);
+  Handle(form.ComboExcp, ComboExcp_Click);
+  form.TextException.handler = TextException_Change;
+  form.cmdSetExcpstr.handler = cmdSetExcpstr_Click;
+  form.cmdSetRange.handler = cmdSetRange_Click;
+  Handle(form.ComboScroll, ComboScroll_Click);
+  Handle(form.ComboALM, ComboALM_Click);
+  Handle(form.ComboTrigger, ComboTrigger_Click);
+  form.TextTrigger.handler = TextTrigger_Change;
+  form.cmdSetTrigger.handler = cmdSetTrigger_Click;
+  form.Title_Text.handler = Title_Text_Change;
+  form.cmdTitle.handler = cmdTitle_Click;
+  form.DemoMode.handler = DemoMode_Click;
+  form.CharacterList.handler = CharacterList_Click;
+  form.DemoType.handler = DemoType_Click;
+  form.DemoSpeed.handler = DemoSpeed_Click;
+  form.OpDVR.handler = OpDVR_Click;
+  Handle(form.ComboKLM4011, ComboKLM4011_Click);
+}
+
+void WireTextForms(Application& app) {
+  auto& text = app.frmSetEXCPSTR;
+  text.form.load = frmSetEXCPSTR_Load;
+  text.form.unload = frmSetEXCPSTR_Unload;
+  text.form.enter = TextEntrySet_Click;
+  text.form.escape = TextEntry_Escape;
+  text.cmdSET.handler = TextEntrySet_Click;
+  text.cmdClr.handler = TextEntryClear_Click;
+
+  auto& range = app.frmSetRange;
+  range.form.load = frmSetRange_Load;
+  range.form.unload = frmSetRange_Unload;
+  for (auto* box : {&range.Range_Hi, &range.SubRange_Hi, &range.Range_Low, &range.SubRange_Low}) {
+    box->leave = RangeField_Leave;
+  }
+  range.ComboDec.handler = ComboDec_Click;
+  range.cmdSetRange.handler = RangeSet_Click;
+  range.cmdClr.handler = RangeClear_Click;
 }
 
 void WireRegisterForms(Application& app) {
@@ -110,11 +155,16 @@ void WireLinkForms(Application& app) {
 
 // In the order in which a load refreshes the panels.
 void OrderApplyRoutines(Application& app) {
-  app.Setting_Code = {{ApplyRegisterSelection, true},
-                      {ApplyCommunication, true},
-                      {ApplyDisplay, false},
-                      {ApplyTimeDate, false},
-                      {ApplyExceptionReport, false}};
+  app.Setting_Code = {
+      {ApplyRegisterSelection, true},
+      {ApplyCommunication, true},
+      {ApplyDemo, true},
+      {ApplyDisplay, false},
+      {ApplyTimeDate, false},
+      {ApplyExceptionPanel, false},
+      {ApplyDvr, false},
+      {ApplyAlarmGlobals, false},
+  };
 }
 
 void ReadFirmware(Application& app) {
@@ -133,6 +183,7 @@ void BuildForFirmware(Application& app) {
   ApplyCompactFirmware(app);
   ResetRegisterIndexes(app);
   BuildRegisterList(app);
+  ApplyFirmwareVariants(app);
 }
 
 void SelectFirstRegister(Application& app) {
@@ -168,6 +219,7 @@ void frmMain_Load(Application& app) {
   form.EnableActions(false);
   for (auto& list : form.ComboDay) list.visible = false;
   form.ComboDay[0].visible = true;
+  if (form.ComboExcp[0].position >= 0) LoadExceptionSlot(app, form.ComboExcp[0].position + 1);
   ShowForm(app, form.form);
 }
 
@@ -188,6 +240,7 @@ void WireProgram(Application& app) {
   WireMain(app.frmMain);
   WirePanels(app.frmMain);
   WireRegisterForms(app);
+  WireTextForms(app);
   WireLinkForms(app);
   OrderApplyRoutines(app);
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "catalogue/variants.h"
 #include "core/actions.h"
 #include "core/settings.h"
 
@@ -96,6 +97,7 @@ void ApplyCompactFirmware(Application& app) {
   if (app.firmware.version != "V1410") return;
   app.firmware.version = "V1400";
   if (app.firmware.release == "R1") app.firmware.release = "R7";
+  ApplyCompactForm(app);
 }
 
 }  // namespace ovl

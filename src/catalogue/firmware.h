@@ -34,7 +34,8 @@ void SelectFirmware(Application& app, const FirmwareEntry& entry);
 // A click on the n-th item of the Version menu.
 void VersionItem_Click(Application& app, int item);
 
-// The compact firmware runs as another family's release from here on; the settings store keeps it.
+// The compact firmware runs as another family's release from here on, with a form of its own; the settings
+// store keeps it.
 void ApplyCompactFirmware(Application& app);
 
 }  // namespace ovl

@@ -10,6 +10,8 @@ Application::Application() {
   frmMicros.Register(registry);
   FrmSubMenu.Register(registry);
   frmView.Register(registry);
+  frmSetEXCPSTR.Register(registry);
+  frmSetRange.Register(registry);
 }
 
 }  // namespace ovl

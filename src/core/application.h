@@ -47,6 +47,8 @@ struct Application {
   MicrosForm frmMicros;
   SubMenuForm FrmSubMenu;
   ViewerForm frmView;
+  TextEntryForm frmSetEXCPSTR;
+  RangeForm frmSetRange;
 
   // Firmware, read once at start
   FirmwareId firmware;
@@ -87,6 +89,8 @@ struct Application {
   // Port settings
   std::uint8_t PortNumber = 0;  // 1 to 16; 0 until the settings dialog was shown
   std::string PortBaud, PortParity, PortDataBits;
+
+  int TextEntryMode = 0;  // whose text the text dialog holds: 0 the trigger's, 1 the exception's, 2 the title
 
   // The clock to send, two digits each
   std::string ClockHour, ClockMinute, ClockSecond, ClockDay, ClockMonth, ClockYear;

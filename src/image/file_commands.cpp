@@ -48,6 +48,10 @@ void TakeStream(Application& app) {
   PrepareCapabilities(app);
   LoadStream(app, app.StreamText);
   for (const auto& routine : app.Setting_Code) routine.run(app);
+  auto& shown = app.frmMain.ComboExcp[0];
+  if (shown.position != 0) return;
+  AssignPosition(app, shown, 1);
+  AssignPosition(app, shown, 0);
 }
 
 }  // namespace

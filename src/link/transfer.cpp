@@ -125,6 +125,7 @@ void FinishUpload(Application& app) {
     taken = TakeUpload(app);
     if (taken) {
       for (const auto& routine : app.Setting_Code) routine.run(app);
+      AssignPosition(app, app.frmMain.ComboExcp[0], 0, Raise::kAlways);
     }
   } catch (const Failure& failure) {
     AbandonUpload(app, failure);

@@ -30,6 +30,12 @@ void RefreshSavedIndexes(Application& app, const std::string& family, const Arra
   for (const auto& list : lists) saved.push_back(list.position);
 }
 
+// Half of a number, rounded to the even neighbour: 1 gives 0, 3 gives 2.
+inline int HalfToEven(int number) {
+  const int half = number / 2;
+  return number % 2 != 0 && half % 2 != 0 ? half + 1 : half;
+}
+
 inline bool HasBit(int byte, int bit) {
   return (byte >> bit & 1) != 0;
 }

@@ -4,6 +4,7 @@
 
 #include "panels/panel.h"
 #include "panels/text_display.h"
+#include "panels/text_entry.h"
 
 namespace ovl {
 namespace {
@@ -16,12 +17,6 @@ constexpr std::array kDaylightCodes = {"01", "02", "04", "06", "08", "0A"};
 
 List& Member(Application& app, int member) {
   return app.frmMain.ComboTD.at(static_cast<std::size_t>(member));
-}
-
-// Half of a number, rounded to the even neighbour: 1 gives 0, 3 gives 2.
-int HalfToEven(int number) {
-  const int half = number / 2;
-  return number % 2 != 0 && half % 2 != 0 ? half + 1 : half;
 }
 
 void GatherDisplayBit(Application& app, int member, int bit) {
@@ -38,6 +33,7 @@ void ApplyTimeDate(Application& app) {
   AssignPosition(app, Member(app, 2), HexToInt(app.image[DATE_FORMAT_BAK]));
   AssignPosition(app, Member(app, 3), HalfToEven(HexToInt(app.image[DAYLIGHT_BAK])));
   AssignPosition(app, Member(app, 4), HexToInt(app.image[TD_LOCKING_BAK]));
+  ApplyTitle(app);
   AssignPosition(app, app.frmMain.ComboLang, HexToInt(app.image[LANGUAGE_BAK]));
 }
 

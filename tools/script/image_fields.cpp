@@ -4,14 +4,14 @@
 
 #include "image/files.h"
 #include "image/record_stream.h"
+#include "image/report.h"
 #include "parser.h"
 #include "stop.h"
 
 namespace ovl::script {
 
 std::string FieldEntry::Name() const {
-  const std::string name(row->name);
-  return EntryCount(row->id) == 1 ? name : name + "(" + std::to_string(entry) + ")";
+  return EntryName(row->name, EntryCount(row->id), entry);
 }
 
 std::vector<FieldEntry> FieldsNamed(std::string_view name) {

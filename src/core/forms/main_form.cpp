@@ -66,6 +66,28 @@ void DesignClock(MainForm& form) {
   form.Timer_Operating.interval = kSecond;
 }
 
+// The numbered labels with the lists that they stand beside.
+void DesignLabels(MainForm& form) {
+  const auto label = [&](int number, List& list) { form.Label1[number].caption = list.caption; };
+  label(0, form.ComboTD[0]), label(8, form.ComboTD[5]);
+  form.ComboKLM4011[0].caption = form.ComboKLM4011[2].caption = "DEST ID";
+  form.ComboKLM4011[1].caption = form.ComboKLM4011[3].caption = "SRC ID";
+  for (std::size_t list = 0; list < 4; ++list) {
+    const int number = 12 + static_cast<int>(list);
+    label(number, form.ComboKLM4011[list]);
+    form.Label1[number].enabled = false;
+  }
+  for (std::size_t list = 1; list <= 4; ++list) label(19 + static_cast<int>(list), form.ComboExcp[list]);
+  form.Label1[23].visible = false;
+  for (std::size_t list = 0; list < 3; ++list) label(24 + static_cast<int>(list), form.ComboExcepRe[list]);
+  label(32, form.ComboCOMM[7]), label(33, form.ComboCOMM[3]), label(34, form.ComboCOMM[4]);
+  label(35, form.ComboCOMM[5]), label(36, form.ComboCOMM[8]), label(37, form.ComboCOMM[6]);
+  for (std::size_t list = 4; list < 8; ++list) label(42 + static_cast<int>(list), form.ComboALM[list]);
+  form.Label1[49].visible = false;
+  for (std::size_t list = 0; list < 3; ++list) label(50 + static_cast<int>(list), form.ComboTrigger[list]);
+  for (std::size_t list = 0; list < 9; ++list) label(54 + static_cast<int>(list), form.ComboDIP[list]);
+}
+
 void DesignMenus(MainForm& form) {
   form.FileMenu.caption = "File";
   form.OpenMenu.caption = "Open";
@@ -88,6 +110,7 @@ MainForm::MainForm() {
   DesignDvr(*this);
   DesignLink(*this);
   DesignClock(*this);
+  DesignLabels(*this);
   DesignMenus(*this);
 }
 
@@ -108,6 +131,8 @@ void MainForm::Register(Registry& registry) {
   RegisterOptions::Register(registry, form);
   CommunicationPanel::Register(registry, form);
   DisplayPanel::Register(registry, form);
+  TextPanels::Register(registry, form);
+  for (auto& [number, label] : Label1) registry.Add(form, "Label1(" + std::to_string(number) + ")", label);
   registry.AddOptions(form, "OpDVR", OpDVR);
   add_array("ComboKLM4011", ComboKLM4011);
 

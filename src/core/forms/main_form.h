@@ -8,6 +8,7 @@
 #include "core/forms/communication_panel.h"
 #include "core/forms/display_panel.h"
 #include "core/forms/register_options.h"
+#include "core/forms/text_panels.h"
 
 namespace ovl {
 
@@ -23,7 +24,7 @@ struct VersionFamily {
 };
 
 // The panels' controls are the form's own: app.frmMain.ComboCOMM[3].
-struct MainForm : RegisterOptions, CommunicationPanel, DisplayPanel {
+struct MainForm : RegisterOptions, CommunicationPanel, DisplayPanel, TextPanels {
   Form form;
   Tabs SSTab1;
   std::array<Label, 7> lbVersionID;
@@ -54,6 +55,8 @@ struct MainForm : RegisterOptions, CommunicationPanel, DisplayPanel {
   MenuItem FileMenu, OpenMenu, menuSave, OpenHistory_menu, menuExit, VersionMenu, HelpMenu;
   std::vector<VersionFamily> version_families;
   std::vector<MenuItem> version_items;  // in the order of the firmware table
+
+  std::map<int, Label> Label1;  // the labels that a firmware's variant of the form hides or renames
 
   SerialControl MSComm1;
   ovl::Timer Timer;            // refreshes the clock lists

@@ -1,0 +1,198 @@
+#include "panels/alarms.h"
+
+#include <array>
+
+#include "panels/panel.h"
+#include "panels/text_entry.h"
+
+namespace ovl {
+namespace {
+
+using enum FieldId;
+
+constexpr int kNoTrigger = 0;
+constexpr int kRtsTrigger = 28;
+constexpr std::size_t kCommonDigits = 6;  // trigger and duration, in every family
+constexpr int kFlagTypeMask = 7;
+
+// What a duration stores: a down counter's start; the last one is a pulse.
+constexpr std::array kDurations = {0xFF, 0xFD, 0xFB, 0xF6, 0xF1, 0xEC, 0xE2, 0xC4, 0x88, 0x4C, 0x10, 0x00};
+
+List& Member(Application& app, int member) {
+  return app.frmMain.ComboALM.at(static_cast<std::size_t>(member));
+}
+
+// The alarm that the panel shows, 1 to 16; 0 before one was picked.
+int Shown(const Application& app) {
+  return app.frmMain.ComboALM[0].position + 1;
+}
+
+std::string Slice(const std::string& record, std::size_t first, std::size_t count = std::string::npos) {
+  return first < record.size() ? record.substr(first, count) : std::string();
+}
+
+bool HasAlarmType(const FirmwareId& firmware) {
+  const int release = firmware.Number();
+  if (firmware.IsV1400()) return release >= 6;
+  return (firmware.version == "V1300" && release >= 26) || (firmware.version == "V1324" && release >= 25) ||
+         firmware.version == "V1310" || firmware.version == "V1334";
+}
+
+void ShowTriggerMark(Application& app, int trigger) {
+  app.frmMain.lbAlmTrig.visible = trigger != kNoTrigger && trigger != kRtsTrigger;
+}
+
+void ShowNormalState(Application& app, int number) {
+  const bool upper = number > 8;
+  const int states = HexToInt(app.image.at(ALMNORMAL_BAK, upper ? 2 : 1));
+  AssignPosition(app, Member(app, 2), HasBit(states, upper ? number - 9 : number - 1) ? 1 : 0);
+}
+
+void ShowDuration(Application& app, int value) {
+  for (int position = 0; position < static_cast<int>(kDurations.size()); ++position) {
+    if (kDurations[static_cast<std::size_t>(position)] == value)
+      AssignPosition(app, Member(app, 3), position);
+  }
+}
+
+void ShowTriggeredText(Application& app, int number) {
+  const auto record = app.image.at(TRIGGER_TEXT, number);
+  const int flags = HexToInt(record);
+  AssignPosition(app, app.frmMain.ComboTrigger[0], flags & 1);
+  AssignPosition(app, app.frmMain.ComboTrigger[1], flags >> 1 & 1);
+  const auto text = std::string_view(record).substr(std::min<std::size_t>(record.size(), 2));
+  AssignText(app, app.frmMain.TextTrigger, StoredText(text.substr(0, text.size() < 2 ? 0 : text.size() - 2)));
+}
+
+void ShowByFirmware(Application& app, int number) {
+  if (app.firmware.IsV1400()) {
+    const auto& record = app.image.at(ALMSTRUCT_BAK, number);
+    AssignPosition(app, Member(app, 6), HexToInt(Slice(record, record.size() < 2 ? 0 : record.size() - 2)));
+    AssignPosition(app, app.frmMain.ComboTrigger[2], HexToInt(app.image.at(TRIGGER_DELAY, number)));
+  }
+  if (HasAlarmType(app.firmware))
+    AssignPosition(app, Member(app, 7), HexToInt(app.image.at(ALM_MODE, number)));
+}
+
+// Counts the shown alarm from 0, where the load counts from 1: the ninth alarm's state is out of reach, and
+// the unit's images were made that way.
+void StoreNormalState(Application& app) {
+  const int index = Member(app, 0).position;
+  const bool upper = index > 8;
+  const int bit = upper ? index - 8 : index;
+  if (bit > 7) return;
+  auto& states = app.image.at(ALMNORMAL_BAK, upper ? 2 : 1);
+  states = ByteToHex(WithSelection(HexToInt(states), bit, Member(app, 2)));
+}
+
+void StoreTrigger(Application& app, std::string& record) {
+  const int trigger = Member(app, 1).position;
+  ShowTriggerMark(app, trigger);
+  record = ByteToHex(trigger) + Slice(record, 2, app.firmware.IsV1400() ? 6 : 4);
+}
+
+void StoreDuration(Application& app, std::string& record) {
+  if (!IsKnownFamily(app.firmware.version)) return;
+  const int position = Member(app, 3).position;
+  auto stored = Slice(record, 0, 2) + ByteToHex(kDurations.at(static_cast<std::size_t>(position))) +
+                ByteToHex(position);
+  if (app.firmware.IsV1400()) stored += Slice(record, kCommonDigits);
+  record = std::move(stored);
+}
+
+void StoreVideoLoss(Application& app, std::string& record) {
+  if (!app.firmware.IsV1400()) return;
+  record = Slice(record, 0, kCommonDigits) + ByteToHex(Member(app, 6).position);
+}
+
+void StoreFlagType(Application& app) {
+  auto& flags = app.image[ALMCFG_BAK];
+  app.ImageTouched = true;
+  flags = ByteToHex((HexToInt(flags) & ~kFlagTypeMask) | Member(app, 4).position);
+}
+
+// What a click on one of the members of the shown alarm stores.
+void StoreMember(Application& app, int index) {
+  auto& record = app.image.at(ALMSTRUCT_BAK, Shown(app));
+  switch (index) {
+    case 1:
+      StoreTrigger(app, record);
+      break;
+    case 2:
+      StoreNormalState(app);
+      break;
+    case 3:
+      StoreDuration(app, record);
+      break;
+    case 6:
+      StoreVideoLoss(app, record);
+      break;
+    case 7:
+      save_Alarm_Type(app);
+      break;
+    default:
+      break;
+  }
+}
+
+}  // namespace
+
+void ApplyAlarmGlobals(Application& app) {
+  AssignPosition(app, Member(app, 4), HexToInt(app.image[ALMCFG_BAK]) & kFlagTypeMask);
+  AssignPosition(app, Member(app, 5), HalfToEven(HexToInt(app.image[FLAGDWLIND])));
+  AssignPosition(app, Member(app, 0), 1);
+  AssignPosition(app, Member(app, 0), 0);
+}
+
+void LoadAlarm(Application& app, int number) {
+  const auto record = app.image.at(ALMSTRUCT_BAK, number);
+  const int trigger = HexToInt(record);
+  ShowTriggerMark(app, trigger);
+  AssignPosition(app, Member(app, 1), trigger);
+  ShowNormalState(app, number);
+  ShowDuration(app, HexToInt(Slice(record, 2, 2)));
+  ShowTriggeredText(app, number);
+  ShowByFirmware(app, number);
+}
+
+void ComboALM_Click(Application& app, int index) {
+  if (index == 0) LoadAlarm(app, Shown(app));
+  if (index == 4) StoreFlagType(app);
+  if (index == 5) app.image[FLAGDWLIND] = ByteToHex(Member(app, 5).position * 2);
+  if (Shown(app) > 0) StoreMember(app, index);
+  RefreshSavedIndexes(app, "ComboALM", app.frmMain.ComboALM);
+}
+
+void save_Alarm_Type(Application& app) {
+  app.image.at(ALM_MODE, Shown(app)) = ByteToHex(Member(app, 7).position);
+}
+
+void ComboTrigger_Click(Application& app, int index) {
+  const auto& lists = app.frmMain.ComboTrigger;
+  if (Shown(app) > 0) {
+    auto& record = app.image.at(TRIGGER_TEXT, Shown(app));
+    if (index == 2) {
+      save_RTS_TRGGERED(app);
+    } else {
+      const int flags = WithSelection(HexToInt(record), index, lists.at(static_cast<std::size_t>(index)));
+      record.replace(0, std::min<std::size_t>(record.size(), 2), ByteToHex(flags));
+    }
+  }
+  RefreshSavedIndexes(app, "ComboTrigger", lists);
+}
+
+void save_RTS_TRGGERED(Application& app) {
+  app.image.at(TRIGGER_DELAY, Shown(app)) = ByteToHex(app.frmMain.ComboTrigger[2].position);
+}
+
+void TextTrigger_Change(Application& app, int) {
+  if (Shown(app) == 0) return;
+  auto& record = app.image.at(TRIGGER_TEXT, Shown(app));
+  record = ByteToHex(HexToInt(record)) + PaddedText(app.frmMain.TextTrigger.text) + "00";
+}
+
+void cmdSetTrigger_Click(Application& app, int) {
+  EnterText(app, TextTarget::kTrigger);
+}
+
+}  // namespace ovl

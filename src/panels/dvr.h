@@ -1,0 +1,12 @@
+// The video recorder that the unit feeds with its history data, and the two addresses of that link.
+#pragma once
+
+#include "core/application.h"
+
+namespace ovl {
+
+void ApplyDvr(Application& app);
+void OpDVR_Click(Application& app, int element);
+void ComboKLM4011_Click(Application& app, int index);
+
+}  // namespace ovl
