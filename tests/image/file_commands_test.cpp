@@ -15,11 +15,6 @@ constexpr const char* kForeign =
     "The Ovalon Version is not compatible !!!\n       Try with the same version again.";
 constexpr const char* kBroken = "                System File Error. \nPlease ReInstall Ovalon PC Software !!";
 
-Outcome Open(Harness& program, const std::optional<std::string>& path) {
-  program.file_answers.push_back(path);
-  return program.Click("OpenMenu");
-}
-
 Outcome Save(Harness& program, const std::optional<std::string>& path) {
   program.file_answers.push_back(path);
   return program.Click("menuSave");
@@ -46,23 +41,18 @@ Records RecordsOf(const std::string& path) {
   return records;
 }
 
-// Gives the first register's image bytes that no panel touches, so that a shift by one shows.
-void MarkImage(const Installed& program, const FirmwareId& firmware) {
+// Loads the first register's image with other bytes where no panel looks, so that a shift by one shows.
+void LoadMarkedImage(Installed& program, bool extended) {
   for (const int byte : {5, 6, 7, 8, 9, 10, 12, 18}) program.SetByte("GENERIC", byte, ByteToHex(0xA0 + byte));
-  const int number = firmware.Number();
-  const bool extended = firmware.IsV1400()            ? number > 6
-                        : firmware.version == "V1300" ? number > 25
-                        : firmware.version == "V1324" ? number > 24
-                                                      : true;
   for (int byte = 2; byte < (extended ? 8 : 6); ++byte) {
     program.SetByte("GENERIC", program.Fixed(byte), ByteToHex(0x60 + byte));
   }
+  ASSERT_EQ(program.Open(program.PathOf("GENERIC")), Outcome::kDone);
 }
 
 TEST(FileCommands, AskWithTheirNamesAndFilters) {
   Installed program(kLatest, Images::kFirstRegister);
-  ASSERT_EQ(program.Start(), Outcome::kDone);
-  Open(program, std::nullopt);
+  program.Open(std::nullopt);
   Save(program, std::nullopt);
   ASSERT_EQ(program.dialogs.size(), 2U);
   for (auto& dialog : program.dialogs)
@@ -102,8 +92,7 @@ TEST(FileCommands, SaveAndOpenDifferByFirmware) {
   for (const auto& row : rows) {
     SCOPED_TRACE(row.firmware.Joined());
     Installed program(row.firmware);
-    MarkImage(program, row.firmware);
-    ASSERT_EQ(program.Start(), Outcome::kDone);
+    LoadMarkedImage(program, row.reopened != Reopened::kSame);
     auto& app = program.app;
     auto expected = RecordsOf(program.PathOf("GENERIC")).digits;
     if (row.reopened == Reopened::kShifted) {
@@ -131,7 +120,7 @@ TEST(FileCommands, SaveAndOpenDifferByFirmware) {
     const auto kept = app.image;
     ASSERT_EQ(program.Pick("ComboReg", 3), Outcome::kDone);
     const auto other = app.image;
-    ASSERT_EQ(Open(program, path), Outcome::kDone);
+    ASSERT_EQ(program.Open(path), Outcome::kDone);
     EXPECT_EQ(program.TakeBox().text, row.reopened == Reopened::kRefused ? kForeign : "");
     EXPECT_TRUE(program.NoBoxLeft());
     EXPECT_TRUE(app.PanelsReady);
@@ -151,7 +140,6 @@ TEST(FileCommands, SaveAndOpenDifferByFirmware) {
 
 TEST(FileCommands, ASaveThatComesToNothingSaysSo) {
   Installed program(kLatest);
-  ASSERT_EQ(program.Start(), Outcome::kDone);
   program.Mark();
   const std::optional<std::string> targets[] = {std::nullopt, program.folder.File("no such folder/a.bin"),
                                                 program.folder.Path().string()};
@@ -171,13 +159,12 @@ TEST(FileCommands, ASaveThatComesToNothingSaysSo) {
 
 TEST(FileCommands, AnOpenWithoutAFileLeavesAllButTheNextPick) {
   Installed program(kLatest);
-  ASSERT_EQ(program.Start(), Outcome::kDone);
   const std::optional<std::string> sources[] = {std::nullopt, program.folder.File("missing.bin"),
                                                 program.folder.Path().string()};
   for (const auto& source : sources) {
     SCOPED_TRACE(source.value_or("cancelled"));
     program.Mark();
-    ASSERT_EQ(Open(program, source), Outcome::kDone);
+    ASSERT_EQ(program.Open(source), Outcome::kDone);
     EXPECT_TRUE(program.NoBoxLeft());
     EXPECT_EQ(program.Written(), "");
     EXPECT_TRUE(program.app.PanelsReady);
@@ -186,9 +173,11 @@ TEST(FileCommands, AnOpenWithoutAFileLeavesAllButTheNextPick) {
     ASSERT_EQ(program.Register("ADS"), Outcome::kDone);
     EXPECT_EQ(program.Written(), "");
     EXPECT_FALSE(program.app.UploadApplying);
+    EXPECT_EQ(program.Frames(), "");
   }
   ASSERT_EQ(program.Register("ADS"), Outcome::kDone);
   EXPECT_EQ(program.app.image[FieldId::REGTYPE], ByteToHex(program.CodeOf("ADS")));
+  EXPECT_EQ(program.Frames(), "1");
 }
 
 // A fixed noise of all bytes, without a "$".
@@ -205,7 +194,6 @@ std::string Noise(std::size_t size) {
 
 TEST(FileCommands, AFileOfNoUseIsToldAndThePanelsShowTheOldImage) {
   Installed program(kLatest);
-  ASSERT_EQ(program.Start(), Outcome::kDone);
   const std::string contents[] = {"", "\r\n", Noise(1 << 20), PatternStream({"V1300", "R14"}) + "\r\n",
                                   PatternStream({"V1334", "R1"}) + "\r\n"};
   const auto path = program.folder.File("foreign.bin");
@@ -215,7 +203,7 @@ TEST(FileCommands, AFileOfNoUseIsToldAndThePanelsShowTheOldImage) {
     program.Pick("ComboCOMM(1)", 7);
     program.app.image[FieldId::RX_BAUDRATE] = "02";
     program.Mark();
-    ASSERT_EQ(Open(program, path), Outcome::kDone);
+    ASSERT_EQ(program.Open(path), Outcome::kDone);
     EXPECT_EQ(program.TakeBox().text, kForeign);
     EXPECT_TRUE(program.NoBoxLeft());
     EXPECT_EQ(program.Written(), "");
@@ -242,10 +230,9 @@ TEST(FileCommands, AFileWithoutItsEndEndsTheProgram) {
   for (const auto& [firmware, what, content] : rows) {
     SCOPED_TRACE(what);
     Installed program(firmware, Images::kFirstRegister);
-    ASSERT_EQ(program.Start(), Outcome::kDone);
     const auto path = program.folder.File("broken.bin");
     WriteWhole(path, content);
-    EXPECT_EQ(Open(program, path), Outcome::kEnded);
+    EXPECT_EQ(program.Open(path), Outcome::kEnded);
     EXPECT_EQ(program.TakeBox().text, kBroken);
     EXPECT_TRUE(program.NoBoxLeft());
     EXPECT_EQ(program.Click("menuSave"), Outcome::kEnded);
@@ -254,14 +241,13 @@ TEST(FileCommands, AFileWithoutItsEndEndsTheProgram) {
 
 TEST(FileCommands, LinesEndWithCrLfOrCr) {
   Installed program(kLatest);
-  ASSERT_EQ(program.Start(), Outcome::kDone);
   auto content = ReadWhole(program.PathOf("ADS"));
   const auto path = program.folder.File("ads.bin");
   for (const bool carriage_returns_only : {false, true}) {
     if (carriage_returns_only) std::erase(content, '\n');
     WriteWhole(path, content);
     ASSERT_EQ(program.Register("GENERIC"), Outcome::kDone);
-    ASSERT_EQ(Open(program, path), Outcome::kDone);
+    ASSERT_EQ(program.Open(path), Outcome::kDone);
     EXPECT_TRUE(program.NoBoxLeft());
     EXPECT_EQ(program.app.frmMain.ComboReg.Text(), "ADS");
     EXPECT_TRUE(program.app.ImageTouched);

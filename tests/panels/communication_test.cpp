@@ -13,8 +13,8 @@ std::string Comm(int member) {
   return "ComboCOMM(" + std::to_string(member) + ")";
 }
 
-int Position(const Installed& program, int member) {
-  return program.app.frmMain.ComboCOMM[static_cast<std::size_t>(member)].position;
+int Position(Installed& program, int member) {
+  return program.Selected(Comm(member));
 }
 
 TEST(Communication, TheLineFlagsShowAsSelections) {
@@ -29,7 +29,6 @@ TEST(Communication, TheLineFlagsShowAsSelections) {
   };
   for (const FirmwareId& firmware : {FirmwareId{"V1400", "R12"}, {"V1324", "R17"}}) {
     Installed program(firmware);
-    ASSERT_EQ(program.Start(), Outcome::kDone);
     for (const auto& row : rows) {
       SCOPED_TRACE(firmware.Joined() + " " + row.flags);
       program.SetByte("GENERIC", kLineFlags, row.flags);
@@ -51,7 +50,6 @@ TEST(Communication, AClickStoresItsOwnLineFlagsAlone) {
       {0, 0, "01", "01"}, {1, 4, "C1", "C1"}, {4, 1, "01", "05"},
   };
   Installed program({"V1400", "R12"});
-  ASSERT_EQ(program.Start(), Outcome::kDone);
   for (const auto& [member, position, before, after] : rows) {
     program.app.image[FieldId::COMMCFG_BAK] = before;
     ASSERT_EQ(program.Pick(Comm(member), position), Outcome::kDone);
@@ -61,7 +59,6 @@ TEST(Communication, AClickStoresItsOwnLineFlagsAlone) {
 
 TEST(Communication, TheLinefeedBitGoesByTheHandshake) {
   Installed program({"V1310", "R1"});
-  ASSERT_EQ(program.Start(), Outcome::kDone);
   for (const int handshake : {0, 1}) {
     ASSERT_EQ(program.Pick(Comm(5), handshake), Outcome::kDone);
     for (const int linefeed : {0, 1, 1, 0}) {
@@ -95,11 +92,8 @@ TEST(Communication, TheInterfaceCodeIsTheFirmwaresOwn) {
     SCOPED_TRACE(firmware.Joined());
     const auto codes = InterfaceCodes(firmware);
     Installed program(firmware, Images::kFirstRegister);
-    ASSERT_EQ(program.Start(), Outcome::kDone);
     for (int position = 0; position < 3; ++position) {
-      program.Fill("EE");
-      ASSERT_EQ(program.Pick(Comm(0), position), Outcome::kDone);
-      EXPECT_EQ(program.Written(), "IOCFG_BAK=" + codes[static_cast<std::size_t>(position)]);
+      EXPECT_EQ(program.Effect(Comm(0), position), "IOCFG_BAK=" + codes[static_cast<std::size_t>(position)]);
     }
     for (int position = 0; position < 3; ++position) {
       program.SetByte("GENERIC", kInterface, codes[static_cast<std::size_t>(position)]);
@@ -122,16 +116,13 @@ TEST(Communication, EverySelectionStoresItsPosition) {
     const char* field;
     int entries, network;  // the network type under which the selection can be made
   };
-  const Row rows[] = {{1, "RX_BAUDRATE", 11, 0}, {2, "TX_BAUDRATE", 11, 0},  {7, "TX_PROTOCOL", 4, 1},
+  const Row rows[] = {{1, "RX", 11, 0},          {2, "TX", 11, 0},           {7, "TX_PROTOCOL", 4, 1},
                       {8, "SW_HANDSHAKE", 3, 0}, {10, "NET_ADDRESS", 17, 2}, {12, "NET_BAUDRATE", 10, 0}};
   Installed program({"V1400", "R1"});
-  ASSERT_EQ(program.Start(), Outcome::kDone);
   for (const auto& row : rows) {
     ASSERT_EQ(program.Pick(Comm(9), row.network), Outcome::kDone);
     for (int position = 0; position < row.entries; ++position) {
-      program.Fill("EE");
-      ASSERT_EQ(program.Pick(Comm(row.member), position), Outcome::kDone);
-      EXPECT_EQ(program.Written(), std::string(row.field) + "=" + ByteToHex(position));
+      EXPECT_EQ(program.Effect(Comm(row.member), position), row.field + ("=" + ByteToHex(position)));
     }
     EXPECT_EQ(program.Pick(Comm(row.member), row.entries), Outcome::kRefused) << Comm(row.member);
   }
@@ -140,15 +131,6 @@ TEST(Communication, EverySelectionStoresItsPosition) {
   for (int member = 0; member < 13; ++member) {
     EXPECT_EQ(saved[static_cast<std::size_t>(member)], Position(program, member));
   }
-
-  Installed reduced({"V1300", "R27"});
-  ASSERT_EQ(reduced.Start(), Outcome::kDone);
-  for (const int member : {1, 2}) {
-    ASSERT_EQ(reduced.Pick(Comm(member), 8), Outcome::kDone);
-    EXPECT_EQ(reduced.ListOf(Comm(member)).Text(), "AUTO");
-    EXPECT_EQ(reduced.Pick(Comm(member), 9), Outcome::kRefused);
-  }
-  EXPECT_EQ(reduced.app.image[FieldId::RX_BAUDRATE] + reduced.app.image[FieldId::TX_BAUDRATE], "0808");
 }
 
 TEST(Communication, ANetworkProtocolBringsItsSpeed) {
@@ -156,13 +138,10 @@ TEST(Communication, ANetworkProtocolBringsItsSpeed) {
                                                     {1, 8, "NET_PROTOCOL=01 NET_BAUDRATE=08"},
                                                     {2, 5, "NET_PROTOCOL=02 NET_BAUDRATE=05"}};
   Installed program({"V1400", "R7"});
-  ASSERT_EQ(program.Start(), Outcome::kDone);
   for (const auto& [protocol, speed, written] : rows) {
     program.Pick(Comm(9), 0);
     program.Pick(Comm(12), 0);
-    program.Fill("EE");
-    ASSERT_EQ(program.Pick(Comm(11), protocol), Outcome::kDone);
-    EXPECT_EQ(program.Written(), written);
+    EXPECT_EQ(program.Effect(Comm(11), protocol), written);
     EXPECT_EQ(Position(program, 12), speed);
   }
 }
@@ -189,23 +168,19 @@ TEST(Communication, TheNetworkTypeRulesItsPanel) {
   for (const char* release : {"R1", "R2", "R4", "R7", "R12"}) {
     const bool early = release == std::string_view("R1") || release == std::string_view("R2");
     Installed program({"V1400", release}, Images::kFirstRegister);
-    ASSERT_EQ(program.Start(), Outcome::kDone);
     for (const auto& row : kNetwork) {
       SCOPED_TRACE(std::string(release) + " type " + std::to_string(row.type));
       program.Pick(Comm(9), 2);
       program.Pick(Comm(10), 5);
       program.Pick(Comm(11), 1);
       program.Reveal(Comm(12));
-      program.Control(Comm(12)).enabled = true;
       ASSERT_EQ(program.Pick(Comm(12), 2), Outcome::kDone);
-      program.Fill("EE");
-      ASSERT_EQ(program.Pick(Comm(9), row.type), Outcome::kDone);
+      EXPECT_EQ(program.Effect(Comm(9), row.type), std::string(row.address_reset ? "NET_ADDRESS=00 " : "") +
+                                                       "NET_TYPE=" + ByteToHex(row.type) +
+                                                       (row.speed_follows ? " NET_BAUDRATE=08" : ""));
       ExpectCovers(program, row, early);
       EXPECT_EQ(Position(program, 10), row.address_reset ? 0 : 5);
       EXPECT_EQ(Position(program, 12), row.speed_follows ? 8 : 2);
-      EXPECT_EQ(program.Written(), std::string(row.address_reset ? "NET_ADDRESS=00 " : "") + "NET_TYPE=0" +
-                                       std::to_string(row.type) +
-                                       (row.speed_follows ? " NET_BAUDRATE=08" : ""));
     }
   }
 }
@@ -214,7 +189,6 @@ TEST(Communication, ANetworkThatIsAppliedStoresNothing) {
   for (const auto& row : kNetwork) {
     SCOPED_TRACE(row.type);
     Installed program({"V1400", "R7"}, Images::kFirstRegister);
-    ASSERT_EQ(program.Start(), Outcome::kDone);
     const std::pair<FieldId, std::string> stored[] = {{FieldId::NET_TYPE, "0" + std::to_string(row.type)},
                                                       {FieldId::NET_ADDRESS, "05"},
                                                       {FieldId::NET_PROTOCOL, "02"},
@@ -237,7 +211,6 @@ TEST(Communication, ANetworkThatIsAppliedStoresNothing) {
 
 TEST(Communication, OnlyV1400HasANetwork) {
   Installed program({"V1310", "R1"});
-  ASSERT_EQ(program.Start(), Outcome::kDone);
   const int type = Position(program, 9), address = Position(program, 10);
   program.app.image[FieldId::NET_TYPE] = "02";
   program.app.image[FieldId::NET_ADDRESS] = "05";
@@ -248,7 +221,6 @@ TEST(Communication, OnlyV1400HasANetwork) {
 
 TEST(Communication, ACoverKeepsItsText) {
   Installed program({"V1400", "R12"});
-  ASSERT_EQ(program.Start(), Outcome::kDone);
   ASSERT_EQ(program.Pick(Comm(9), 0), Outcome::kDone);
   const char* texts[] = {"ASCII", "N/A", "N/A"};
   program.Mark();
@@ -262,38 +234,27 @@ TEST(Communication, ACoverKeepsItsText) {
 }
 
 TEST(Communication, AByteThatTheListLacksLeavesTheSelection) {
-  struct Row {
-    FirmwareId firmware;
-    const char* speed;  // the first that the firmware lacks
-    bool network;
-  };
-  const Row rows[] = {{{"V1400", "R1"}, "0B", true}, {{"V1300", "R27"}, "09", false}};
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.firmware.Joined());
-    Installed program(row.firmware);
-    ASSERT_EQ(program.Start(), Outcome::kDone);
-    if (row.network) {
-      for (const auto& [member, position] : {std::pair{9, 2}, {10, 5}, {11, 1}, {7, 3}, {8, 1}}) {
-        program.Pick(Comm(member), position);
-      }
+  using F = FieldId;
+  for (const FirmwareId& firmware : {FirmwareId{"V1400", "R1"}, {"V1300", "R27"}}) {
+    Installed program(firmware);
+    for (const auto& [member, position] :
+         {std::pair{9, 2}, {10, 5}, {11, 1}, {7, 3}, {8, 1}, {1, 6}, {2, 4}}) {
+      if (firmware.IsV1400() || member < 3) program.Pick(Comm(member), position);
     }
     std::vector<int> before;
-    for (const char* odd : {row.speed, "FF"}) {
-      program.Pick(Comm(1), 6);
-      program.Pick(Comm(2), 4);
+    for (int member = 0; member < 13; ++member) before.push_back(Position(program, member));
+    for (const char* odd : {"0B", "FF"}) {
       program.SetByte("GENERIC", kReceiveSpeed, odd);
       program.SetByte("GENERIC", kTransmitSpeed, odd);
-      for (const auto field : {FieldId::NET_TYPE, FieldId::NET_PROTOCOL, FieldId::TX_PROTOCOL,
-                               FieldId::SW_HANDSHAKE, FieldId::NET_ADDRESS, FieldId::NET_BAUDRATE}) {
+      for (const auto field :
+           {F::NET_TYPE, F::NET_PROTOCOL, F::TX_PROTOCOL, F::SW_HANDSHAKE, F::NET_ADDRESS, F::NET_BAUDRATE}) {
         program.app.image[field] = "FF";
       }
-      before.clear();
-      for (int member = 0; member < 13; ++member) before.push_back(Position(program, member));
       ASSERT_EQ(program.Register("GENERIC"), Outcome::kDone);
       for (const int member : {1, 2, 7, 8, 9, 10, 11, 12}) {
         EXPECT_EQ(Position(program, member), before[static_cast<std::size_t>(member)]) << Comm(member);
       }
-      EXPECT_EQ(program.app.image[FieldId::RX_BAUDRATE] + program.app.image[FieldId::TX_BAUDRATE],
+      EXPECT_EQ(program.app.image[F::RX_BAUDRATE] + program.app.image[F::TX_BAUDRATE],
                 std::string(odd) + odd);
     }
     EXPECT_TRUE(program.NoBoxLeft());
