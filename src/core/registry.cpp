@@ -56,7 +56,10 @@ const NamedControl* Registry::Find(std::string_view name) const {
   const auto [first, last] = by_name_.equal_range(name);
   if (first == last) return nullptr;
   if (std::next(first) == last) return &controls_[first->second];
-  return forms_.empty() ? nullptr : Find(*forms_.front(), name);
+  if (const auto* of_main = Find(*forms_.front(), name)) return of_main;
+  const auto on_screen = [&](const auto& at) { return controls_[at.second].form->visible; };
+  return std::count_if(first, last, on_screen) == 1 ? &controls_[std::find_if(first, last, on_screen)->second]
+                                                    : nullptr;
 }
 
 const NamedControl* Registry::Known(const ControlRef& control) const {

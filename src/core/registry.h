@@ -55,8 +55,9 @@ class Registry {
   void AddOptions(Form& form, const std::string& name, OptionArray& array);
   void AddForm(Form& form);
 
-  // Nothing if no control has the name. A name that several forms share means the main form's control, if it
-  // has one, else none: such a name needs its form in front.
+  // Nothing if no control has the name. A name that several forms share means the main form's control if it
+  // has one, else that of the one form among them which is on the screen; otherwise the form must stand in
+  // front.
   const NamedControl* Find(std::string_view name) const;
   const NamedControl* Find(const Form& form, std::string_view name) const;
 

@@ -55,7 +55,7 @@ TEST(RecordStream, EveryFirmwareComposesWhatItDecoded) {
     for (const auto* release : line.releases) {
       const FirmwareId firmware{line.version, release};
       SCOPED_TRACE(firmware.Joined());
-      const auto stream = PatternStream(firmware);
+      const auto stream = RawPatternStream(firmware);
       EXPECT_EQ(stream.substr(0, 5), line.first);
       EXPECT_EQ(std::count(stream.begin(), stream.end(), '$'), static_cast<long>(line.records));
       const auto tail = stream.substr(stream.rfind('$'));
@@ -100,7 +100,7 @@ TEST(FieldMap, FieldsStandWhereTheUnitKeepsThem) {
   };
   for (const auto& [firmware, offset] : layouts) {
     Loaded loaded(firmware);
-    const auto stream = Joined(PatternStream(firmware, 7));
+    const auto stream = Joined(RawPatternStream(firmware, 7));
     std::string digits;
     ASSERT_EQ(ParseRecords(stream, ReadRegion(firmware), digits), ParseResult::kOk);
     ASSERT_TRUE(loaded.Load(stream));
@@ -117,7 +117,7 @@ TEST(FieldMap, FieldsStandWhereTheUnitKeepsThem) {
 TEST(FieldMap, FirmwareThatLackAFieldHoldItsSentinelOrZero) {
   using enum FieldId;
   Loaded v1324({"V1324", "R18"});
-  ASSERT_TRUE(v1324.Load(Joined(PatternStream({"V1324", "R18"}))));
+  ASSERT_TRUE(v1324.Load(Joined(RawPatternStream({"V1324", "R18"}))));
   for (int entry = 1; entry <= 4; ++entry) {
     EXPECT_EQ(v1324.program.app.image.at(IPADDRESS, entry), " ........ATCPIP MODE");
   }
@@ -136,12 +136,12 @@ TEST(FieldMap, ADefaultLoadTakesOnlyTheRegistersFields) {
     SCOPED_TRACE(firmware.Joined());
     Loaded loaded(firmware);
     auto& image = loaded.program.app.image;
-    ASSERT_TRUE(loaded.Load(Joined(PatternStream(firmware, 1))));
+    ASSERT_TRUE(loaded.Load(Joined(RawPatternStream(firmware, 1))));
     const auto before = image;
     loaded.program.app.PanelsReady = true;
-    ASSERT_TRUE(loaded.Load(Joined(PatternStream(firmware, 2, 9))));
+    ASSERT_TRUE(loaded.Load(Joined(RawPatternStream(firmware, 2, 9))));
     Loaded whole(firmware);
-    ASSERT_TRUE(whole.Load(Joined(PatternStream(firmware, 2, 9))));
+    ASSERT_TRUE(whole.Load(Joined(RawPatternStream(firmware, 2, 9))));
     const auto& other = whole.program.app.image;
     for (const auto field : {EXECENTRY, TX_BAUDRATE, UNITADDR, TCIADDBAK_3, DEVICE_INDEX_BAK, MICROS_STATUS,
                              REGTYPE, REGTYPE_MINOR, REGTYPE_EXT1, REGTYPE_EXT2}) {
@@ -162,7 +162,7 @@ TEST(RecordStream, BlankTimeFlagOfR7GoesOutOnceAPanelWroteIt) {
   const FirmwareId firmware{"V1400", "R7"};
   Loaded loaded(firmware);
   auto& app = loaded.program.app;
-  const auto stream = PatternStream(firmware);
+  const auto stream = RawPatternStream(firmware);
   ASSERT_TRUE(loaded.Load(Joined(stream)));
   EXPECT_EQ(app.image[FieldId::BLNKRTS_BAK], "");
   app.image[FieldId::BLNKRTS_BAK] = "01";
@@ -175,18 +175,18 @@ TEST(RecordStream, BlankTimeFlagOfR7GoesOutOnceAPanelWroteIt) {
 
 TEST(RecordStream, OldV13PaddingIsZeroAfterTheNextWrite) {
   const FirmwareId firmware{"V1300", "R14"};
-  auto stream = Joined(PatternStream(firmware));
+  auto stream = Joined(RawPatternStream(firmware));
   const std::size_t padding = 2 * 69 + 5;  // the tail of the first section begins in the second record
   stream.replace(69 + 5 + 4, 2, "AB");
   ASSERT_LT(padding, stream.size());
   Loaded loaded(firmware);
   ASSERT_TRUE(loaded.Load(stream));
-  EXPECT_EQ(Joined(SectionsToStream(loaded.program.app)), Joined(PatternStream(firmware)));
+  EXPECT_EQ(Joined(SectionsToStream(loaded.program.app)), Joined(RawPatternStream(firmware)));
 }
 
 TEST(RecordStream, JunkAroundAndWrongAddressesInsideAreIgnored) {
   const FirmwareId firmware{"V1400", "R12"};
-  const auto stream = Joined(PatternStream(firmware));
+  const auto stream = Joined(RawPatternStream(firmware));
   auto addresses = stream;
   addresses.replace(69, 5, "$ZZZZ");
   std::string every_byte;
@@ -200,7 +200,7 @@ TEST(RecordStream, JunkAroundAndWrongAddressesInsideAreIgnored) {
 
 TEST(RecordStream, LowerCaseDigitsSurviveTheLoad) {
   const FirmwareId firmware{"V1400", "R12"};
-  auto stream = Joined(PatternStream(firmware));
+  auto stream = Joined(RawPatternStream(firmware));
   stream.replace(5, 2, "a5");
   Loaded loaded(firmware);
   ASSERT_TRUE(loaded.Load(stream));
@@ -221,12 +221,13 @@ TEST(RecordStream, AShortStreamLeavesMissingFieldsEmpty) {
 TEST(RecordStream, AnotherFamilyIsToldAndLeavesTheImage) {
   Loaded loaded({"V1334", "R1"});
   auto& app = loaded.program.app;
-  ASSERT_TRUE(loaded.Load(Joined(PatternStream({"V1334", "R1"}))));
+  ASSERT_TRUE(loaded.Load(Joined(RawPatternStream({"V1334", "R1"}))));
   const auto before = app.image;
   app.frmMain.Timer_Operating.enabled = true;
   app.OperatingCount = 3;
-  for (const auto& text : {Joined(PatternStream({"V1400", "R12"})), Joined(PatternStream({"V1300", "R14"})),
-                           std::string(), std::string(1 << 20, 'A')}) {
+  for (const auto& text :
+       {Joined(RawPatternStream({"V1400", "R12"})), Joined(RawPatternStream({"V1300", "R14"})), std::string(),
+        std::string(1 << 20, 'A')}) {
     EXPECT_FALSE(loaded.Load(text));
     EXPECT_EQ(loaded.program.TakeBox().text,
               "The Ovalon Version is not compatible !!!\n       Try with the same version again.");
@@ -238,13 +239,13 @@ TEST(RecordStream, AnotherFamilyIsToldAndLeavesTheImage) {
 
 TEST(RecordStream, AStreamWithoutItsEndEndsTheProgram) {
   const FirmwareId firmware{"V1400", "R4"};
-  const auto stream = Joined(PatternStream(firmware));
+  const auto stream = Joined(RawPatternStream(firmware));
   const std::vector<std::string> broken = {
-      Joined(PatternStream({"V1400", "R7"})),  // another last marker
-      stream.substr(0, stream.size() - 1),     // no "#"
-      "$2000" + std::string(1 << 20, 'A'),     // one megabyte without "#"
+      Joined(RawPatternStream({"V1400", "R7"})),  // another last marker
+      stream.substr(0, stream.size() - 1),        // no "#"
+      "$2000" + std::string(1 << 20, 'A'),        // one megabyte without "#"
       "$2000#",
-      PatternStream(firmware),  // line ends that were not taken out shift the records
+      RawPatternStream(firmware),  // line ends that were not taken out shift the records
   };
   for (const auto& text : broken) {
     Loaded loaded(firmware);

@@ -44,7 +44,9 @@ TemporaryFolder::~TemporaryFolder() {
   fs::remove_all(path_, ignored);
 }
 
-std::string PatternStream(const FirmwareId& firmware, int seed, int register_code) {
+namespace {
+
+std::string PatternDigits(const FirmwareId& firmware, int seed, int register_code) {
   std::string digits;
   int byte = seed;
   for (std::size_t place = 0; place < DigitsOfImage(firmware); place += 2) {
@@ -58,7 +60,45 @@ std::string PatternStream(const FirmwareId& firmware, int seed, int register_cod
     const std::size_t used = old ? (without_ip ? 73 : 77) : 80;
     for (std::size_t place = 96 + 2 * used; place < 96 + 192; ++place) digits[place] = '0';
   }
-  digits.replace(FirstDigitOfRegisterCode(firmware), 2, ByteToHex(register_code));
+  return digits.replace(FirstDigitOfRegisterCode(firmware), 2, ByteToHex(register_code));
+}
+
+std::string Filled(const std::string& text, std::size_t digits) {
+  auto hex = TextToHex(text);
+  hex.resize(digits, '0');
+  return hex;
+}
+
+// What the panels show after a load, in the form in which they would store it themselves.
+void PutInOrder(const FirmwareId& firmware, std::string& digits) {
+  const bool v1400 = firmware.version == "V1400";
+  const std::size_t size = digits.size();
+  const bool extended = v1400 ? size >= 4322 : size == 4098;
+  const std::size_t fixed = v1400 ? 64 : 96;
+  const std::size_t strings = v1400 ? (size < 4322 ? 270 : (size == 4322 ? 288 : 290)) : 288;
+  const std::size_t slot = v1400 ? 106 : 98;
+  const std::size_t record = v1400 ? 8 : 6;
+  const auto put = [&](std::size_t at, const std::string& value) { digits.replace(at, value.size(), value); };
+  put(fixed + (extended ? 36 : 32), "10");
+  std::string text = "VOID";
+  text.resize(40, ' ');
+  for (std::size_t shown = 0; shown < 2; ++shown) {
+    put(fixed + (extended ? 38 : 34) + shown * record, v1400 ? "01FF0000" : "01FF00");
+    put(strings + 82 + shown * slot, "01" + std::string(v1400 ? 20 : 12, '1') + TextToCountedHex(text));
+    put(strings + 82 + 24 * slot + shown * 84, "01" + Filled("ALARM", 82));
+  }
+  put(strings, Filled("TITLE", 82));
+}
+
+}  // namespace
+
+std::string RawPatternStream(const FirmwareId& firmware, int seed, int register_code) {
+  return BlockRecords(PatternDigits(firmware, seed, register_code), WriteRegion(firmware));
+}
+
+std::string PatternStream(const FirmwareId& firmware, int seed, int register_code) {
+  auto digits = PatternDigits(firmware, seed, register_code);
+  PutInOrder(firmware, digits);
   return BlockRecords(digits, WriteRegion(firmware));
 }
 

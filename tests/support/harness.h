@@ -29,6 +29,10 @@ class TemporaryFolder {
 };
 
 // A stream of the firmware whose digits differ from byte to byte by the seed, with the register code given.
+std::string RawPatternStream(const FirmwareId& firmware, int seed = 1, int register_code = 0);
+
+// The same with a title, exceptions and alarms that the panels find in order, so that taking it in changes
+// nothing.
 std::string PatternStream(const FirmwareId& firmware, int seed = 1, int register_code = 0);
 
 class Harness {
