@@ -6,6 +6,8 @@ namespace ovl::bench {
 class Site;
 
 void MeasureCodecs();
+void MeasureHistory(Site& site);
+void MeasureRegisterPick(Site& site);
 void MeasureTransfers(Site& site);
 void MeasureStart(Site& site);
 

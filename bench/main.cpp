@@ -13,6 +13,8 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   ovl::bench::Site site;
   ovl::bench::MeasureCodecs();
+  ovl::bench::MeasureRegisterPick(site);
+  ovl::bench::MeasureHistory(site);
   ovl::bench::MeasureStart(site);
   ovl::bench::MeasureTransfers(site);
   return 0;

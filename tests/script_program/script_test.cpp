@@ -332,6 +332,54 @@ TEST_F(Script, AStreamInAFileEndsEveryLineAlikeAndLookingChangesNothing) {
   EXPECT_EQ(Printed().substr(Printed().rfind("SYSCFG")), "SYSCFG = \"\"\n");
 }
 
+TEST_F(Script, DumpsTheImageByNamesUnderItsHeadings) {
+  const auto path = folder_.File("dump.txt");
+  ASSERT_EQ(RunStarted("set RX_BAUDRATE 03\nset EXCPSTRS(24) AB\ndump \"" + path + "\"\ndump\n"),
+            ExitStatus::kDone)
+      << Errors();
+  const auto text = ReadWhole(path);
+  EXPECT_EQ(text.find("::SYSCFG::\r\nEXECENTRY = "), 0U);
+  EXPECT_NE(text.find("\r\nRX_BAUDRATE = 03\r\n"), std::string::npos);
+  EXPECT_NE(text.find("\r\n::SYSFIXED::\r\nREGTYPE = 00\r\n"), std::string::npos);
+  EXPECT_NE(text.find("\r\n::SYSSTR::\r\nONSCRNTITL = "), std::string::npos);
+  EXPECT_NE(text.find("\r\nEXCPSTRS(24) = AB\r\n"), std::string::npos);
+  EXPECT_EQ(text.find("IGSCFG_BAK"), std::string::npos);
+  EXPECT_EQ(ReadWhole(folder_.File("V1400/SaveReport.Bin")), text);
+}
+
+TEST_F(Script, ComparesFilesFieldByField) {
+  const auto first = folder_.File("first.bin");
+  const auto second = folder_.File("second.bin");
+  ASSERT_EQ(RunStarted("set TX_BAUDRATE 01\nset ALMNORMAL_BAK(2) 00\nstream \"" + first +
+                       "\"\nset TX_BAUDRATE 0A\nset ALMNORMAL_BAK(2) FF\nstream \"" + second + "\"\ndiff \"" +
+                       first + "\" \"" + second + "\"\ndiff \"" + first + "\" \"" + first + "\"\n"),
+            ExitStatus::kDone)
+      << Errors();
+  EXPECT_EQ(Printed(), "TX_BAUDRATE: 01 -> 0A\nALMNORMAL_BAK(2): 00 -> FF\nno difference\n");
+  WriteWhole(second, "noise");
+  EXPECT_EQ(RunStarted("diff \"" + first + "\" \"" + second + "\"\n"), ExitStatus::kWrongStatement);
+  EXPECT_EQ(RunStarted("diff \"" + first + "\" missing.bin\n"), ExitStatus::kWrongStatement);
+}
+
+TEST_F(Script, WarnsOfWhatOpeningAFileWouldDo) {
+  const auto path = folder_.File("some.bin");
+  const auto inspect = [&](const std::string& stream) {
+    WriteWhole(path, stream);
+    EXPECT_EQ(RunStarted("inspect \"" + path + "\"\n"), ExitStatus::kDone) << Errors();
+    return Printed();
+  };
+  EXPECT_EQ(inspect(ovl::testing::PatternStream({"V1400", "R12"}, 1, 110) + "\r\n"),
+            "fits V1400R11: register 110 \"WEIGH SCALE\"\nfits V1400R12: register 110 \"WEIGH SCALE\"\n"
+            "opening it under V1400R12 loads it\n");
+  EXPECT_EQ(inspect(ovl::testing::PatternStream({"V1400", "R4"}, 1, 5)),
+            "fits V1400R1: register 5 \"ANSI\"\nfits V1400R2: register 5 \"ANSI\"\n"
+            "fits V1400R4: register 5 \"ANSI\"\nopening it under V1400R12 ends the program\n");
+  EXPECT_NE(inspect(ovl::testing::PatternStream({"V1310", "R1"}, 1, 200))
+                .find("fits V1310R1: register 200 is not in its list\n"),
+            std::string::npos);
+  EXPECT_EQ(inspect("noise"), "fits no firmware\nopening it under V1400R12 refuses it and keeps the image\n");
+}
+
 TEST_F(Script, DrainFollowsWhatIsWritten) {
   ASSERT_EQ(
       RunStarted("click cmdConnect\nclick cmdSET\ndrain 3\nclick CmdUpDow(4)\nunit hex 06\nwait 300\n"
