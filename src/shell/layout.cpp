@@ -210,6 +210,14 @@ QLabel* PageColumn::MakeRowLabel(const RowLabel& label, const NamedControl& firs
       label.control.empty() ? nullptr : &FaceOf(bindings_.Named(form_, label.control).control);
   if (named != nullptr) text->setObjectName(QString::fromStdString(label.control));
   const auto& face = FaceOf(first.control);
+  if (label.of_field) {
+    bindings_.Follow([text, &face, caption = Shadow<std::string>()]() mutable {
+      if (!caption.Update(face.caption)) return false;
+      text->setText(CaptionText(face.caption));
+      if (text->buddy() != nullptr) text->buddy()->setAccessibleName(FromWindows1252(face.caption));
+      return true;
+    });
+  }
   bindings_.Follow([text, named, &face, caption = Shadow<std::string>(), enabled = Shadow<bool>()]() mutable {
     const bool can = face.enabled && (named == nullptr || named->enabled);
     if (enabled.Update(can)) text->setEnabled(can);
@@ -220,17 +228,33 @@ QLabel* PageColumn::MakeRowLabel(const RowLabel& label, const NamedControl& firs
   return text;
 }
 
+QString PageColumn::CalledBy(const RowLabel& label, const NamedControl& first) const {
+  if (label.of_field) return FromWindows1252(FaceOf(first.control).caption);
+  if (label.control.empty()) return label.text;
+  return FromWindows1252(FaceOf(bindings_.Named(form_, label.control).control).caption);
+}
+
 PageColumn& PageColumn::Row(const RowLabel& label, const std::vector<Field>& fields) {
   const auto& control = bindings_.Named(form_, fields.front().names.front());
-  const auto called = label.control.empty()
-                          ? label.text
-                          : FromWindows1252(FaceOf(bindings_.Named(form_, label.control).control).caption);
   QWidget* first = nullptr;
-  auto* holder = MakeFields(called, fields, first);
+  auto* holder = MakeFields(CalledBy(label, control), fields, first);
   auto* text = MakeRowLabel(label, control);
   text->setMinimumHeight(first->sizeHint().height());
   Attach(*text, *first);
   Add(text, holder, AnyVisible(fields));
+  return *this;
+}
+
+PageColumn& PageColumn::Mark(const char* name) {
+  auto* mark = bindings_.Make(bindings_.Named(form_, name));
+  const int row = grid_->rowCount() - 1;
+  mark->setMinimumHeight(grid_->itemAtPosition(row, kLabels)->widget()->minimumHeight());
+  grid_->addWidget(mark, row, kLabels, Qt::AlignRight | Qt::AlignTop);
+  return *this;
+}
+
+PageColumn& PageColumn::LabelsAtLeast(int width) {
+  grid_->setColumnMinimumWidth(kLabels, width);
   return *this;
 }
 

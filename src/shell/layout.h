@@ -24,7 +24,8 @@ class QScrollArea;
 
 namespace ovl {
 
-// The label of a row: words of our own, or a label of the model with caption, state and name.
+// The label of a row: words of our own, a label of the model with caption, state and name, or the caption of
+// the field itself.
 struct RowLabel {
   RowLabel(const char* words) : text(QString::fromLatin1(words)) {}
   static RowLabel FromModel(std::string name) {
@@ -32,9 +33,15 @@ struct RowLabel {
     label.control = std::move(name);
     return label;
   }
+  static RowLabel OfField() {
+    RowLabel label("");
+    label.of_field = true;
+    return label;
+  }
 
   QString text;
   std::string control;
+  bool of_field = false;
 };
 
 // One place in a row: a control, or several of which the model shows one at a time; a muted word below, if
@@ -69,6 +76,14 @@ class PageColumn {
 
   PageColumn& Row(const RowLabel& label, const std::vector<Field>& fields);
   PageColumn& Row(const RowLabel& label, const char* name) { return Row(label, std::vector<Field>{name}); }
+  // Under the control's own caption.
+  PageColumn& Row(const char* name) { return Row(RowLabel::OfField(), name); }
+
+  // A label of the model between the last row's label and its field, where it moves neither.
+  PageColumn& Mark(const char* name);
+
+  // All labels are at least so wide, for columns whose fields are to stand on one edge.
+  PageColumn& LabelsAtLeast(int width);
 
   // A control over the whole width that needs no label: a check box, a button, an option array.
   PageColumn& Alone(const char* name);
@@ -92,6 +107,7 @@ class PageColumn {
   SectionState& Current();
   void Add(QWidget* label, QWidget* fields, std::function<bool()> shown);
   std::function<bool()> AnyVisible(const std::vector<Field>& fields) const;
+  QString CalledBy(const RowLabel& label, const NamedControl& first) const;
   QWidget* MakeFields(const QString& label, const std::vector<Field>& fields, QWidget*& first);
   QWidget* MakeField(const QString& label, const Field& field, QWidget*& first);
   QLabel* MakeRowLabel(const RowLabel& label, const NamedControl& first);

@@ -17,7 +17,8 @@ std::string RangeOf(const FirmwareId& firmware) {
 std::string Slot(int flags, const std::string& range, std::string text) {
   text.resize(40, ' ');
   const auto last = text.find_last_not_of(' ', 38);
-  std::string slot = ByteToHex(flags) + range + ByteToHex(last == std::string::npos ? 0 : static_cast<int>(last) + 1);
+  std::string slot =
+      ByteToHex(flags) + range + ByteToHex(last == std::string::npos ? 0 : static_cast<int>(last) + 1);
   for (char& character : text) {
     if (character == '?') character = '\x7F';
   }
@@ -52,8 +53,9 @@ TEST(Exceptions, EveryEntryOfASlotStandsInItsPlace) {
     program.Type(range.Range_Low, "789");
     program.Type(range.SubRange_Low, "1");
     ASSERT_EQ(program.Click("frmSetRange.cmdSetRange"), Outcome::kDone);
-    const std::string slot = std::string("29") + (firmware.IsV1400() ? "00001234560000078901" : "123456078901") +
-                             "05544F54414C" + Repeat("20", 35) + "00";
+    const std::string slot = std::string("29") +
+                             (firmware.IsV1400() ? "00001234560000078901" : "123456078901") + "05544F54414C" +
+                             Repeat("20", 35) + "00";
     EXPECT_EQ(slot.size(), firmware.IsV1400() ? 106U : 98U);
     EXPECT_EQ(program.Written(), "EXCPSTRS(24)=" + slot);
     EXPECT_EQ(program.app.SavedIndexes["ComboExcp"], (std::vector<int>{23, 1, 0, 1, 0, 2}));
@@ -61,10 +63,23 @@ TEST(Exceptions, EveryEntryOfASlotStandsInItsPlace) {
 }
 
 TEST(Exceptions, ATextIsPaddedCountedAndMarkedFreeWhenBlank) {
-  const std::string texts[] = {"A", "", " ", " A", "A ", "  A  ", "A?C", "?", "\x7F", std::string(39, 'x'),
-                               std::string(40, 'x'), std::string(39, ' '), std::string(40, ' '),
-                               std::string(39, ' ') + ".", " " + std::string(38, 'y') + " ",
-                               " " + std::string(37, 'y') + " ", std::string(40, '?')};
+  const std::string texts[] = {"A",
+                               "",
+                               " ",
+                               " A",
+                               "A ",
+                               "  A  ",
+                               "A?C",
+                               "?",
+                               "\x7F",
+                               std::string(39, 'x'),
+                               std::string(40, 'x'),
+                               std::string(39, ' '),
+                               std::string(40, ' '),
+                               std::string(39, ' ') + ".",
+                               " " + std::string(38, 'y') + " ",
+                               " " + std::string(37, 'y') + " ",
+                               std::string(40, '?')};
   for (const auto& firmware : kFamilies) {
     PanelProgram program(firmware);
     for (const auto& text : texts) {
@@ -94,7 +109,7 @@ TEST(Exceptions, EveryCharacterMakesTheRoundTrip) {
       SCOPED_TRACE(firmware.Joined() + " from " + std::to_string(first));
       Show(program, 2);
       ASSERT_EQ(program.EnterText("cmdSetExcpstr", text), Outcome::kDone);
-      const auto stored = Slot(0, RangeOf(firmware).replace(0, std::string::npos, RangeOf(firmware).size(), '0'), text);
+      const auto stored = Slot(0, Repeat("0", firmware.IsV1400() ? 20 : 12), text);
       EXPECT_EQ(program.Byte(EXCPSTRS, 2), stored);
       program.Byte(EXCPSTRS, 5) = stored;
       Show(program, 1);
@@ -344,8 +359,9 @@ TEST(Range, IsShownDigitByDigitAndFilledFromTheSlot) {
 
 TEST(Range, AFieldTakesItsDigitsAndIsPutInFormWhenLeft) {
   const std::tuple<const char*, const char*, const char*> rows[] = {
-      {"7", "0007", "07"}, {"12AB", "0012", ""}, {"AB", "0000", "00"}, {"", "0000", "00"},  {"1.5", "0001", ""},
-      {"-5", "0000", "00"}, {"9999", "9999", ""}, {"0", "0000", "00"}, {"99", "0099", "99"}, {"2x", "0002", "02"}};
+      {"7", "0007", "07"},  {"12AB", "0012", ""}, {"AB", "0000", "00"}, {"", "0000", "00"},
+      {"1.5", "0001", ""},  {"-5", "0000", "00"}, {"9999", "9999", ""}, {"0", "0000", "00"},
+      {"99", "0099", "99"}, {"2x", "0002", "02"}};
   for (const auto& firmware : kFamilies) {
     const bool wide = firmware.IsV1400();
     PanelProgram program(firmware);
