@@ -1,0 +1,165 @@
+// The program and the unit, wired to each other: every firmware from the start to a downloaded change.
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <set>
+#include <utility>
+
+#include "catalogue/firmware.h"
+#include "default_images.h"
+#include "factory.h"
+#include "image/report.h"
+#include "support/harness.h"
+#include "unit.h"
+
+namespace ovl::testing {
+namespace {
+
+// A unit in no time: what it is told it answers at once.
+class Partner {
+ public:
+  explicit Partner(const std::string& firmware) {
+    const auto* known = unit::FindFirmware(firmware);
+    unit::Surroundings surroundings;
+    surroundings.complain = [this](const std::string& text) { complaints.push_back(text); };
+    surroundings.note = [](const std::string&) {};
+    surroundings.send = [this](const std::string& bytes) { said_ += bytes; };
+    surroundings.keep_image = [](const std::string&) { return std::string(); };
+    surroundings.keep_clock = [this](const std::string& text) { return clock = text, std::string(); };
+    unit_.emplace(unit::UnitSetup{known, unit::FactoryImage(*known), "NO SALE\r\n", 0, unit::Faults({}, 1)},
+                  std::move(surroundings));
+  }
+
+  std::string Hear(std::string_view text) {
+    for (const char character : text) unit_->Receive(character, now_);
+    unit_->Advance(now_);
+    return std::exchange(said_, {});
+  }
+
+  const std::string& Image() const { return unit_->Image(); }
+
+  std::vector<std::string> complaints;
+  std::string clock;
+
+ private:
+  std::optional<unit::Unit> unit_;
+  unit::Time now_{};
+  std::string said_;
+};
+
+// Lets both talk until neither has anything left to say.
+void Talk(Harness& program, Partner& partner) {
+  for (auto sent = program.TakeSent(); !sent.empty(); sent = program.TakeSent()) {
+    program.Unit(partner.Hear(sent));
+    program.Drain(1);
+  }
+}
+
+void HoldRemoteMode(Harness& program, Partner& partner) {
+  ASSERT_EQ(program.Click("CmdUpDow(4)"), Outcome::kDone);
+  Talk(program, partner);
+  program.Tick(program.app.frmMain.General_timer);
+  ASSERT_TRUE(program.app.RemoteHeld);
+}
+
+void Transfer(Harness& program, Partner& partner, const char* button, const char* end) {
+  HoldRemoteMode(program, partner);
+  program.Click(button);
+  Talk(program, partner);
+  ASSERT_TRUE(program.app.frmOK_buttom.form.visible);
+  EXPECT_EQ(program.app.frmOK_buttom.Label1.caption, end);
+  program.Click("frmOK_buttom.Command1");
+}
+
+class Firmware : public ::testing::TestWithParam<FirmwareEntry> {};
+
+TEST_P(Firmware, AChangeOnEveryTabReachesTheUnitAndNothingElse) {
+  const FirmwareId firmware{std::string(GetParam().version), std::string(GetParam().release)};
+  Harness program(firmware);
+  WriteDefaultImages(program.folder.Path().string(), firmware);
+  ASSERT_EQ(program.Start(), Outcome::kDone);
+  const int names = static_cast<int>(program.app.frmMain.ComboReg.items.size());
+  for (int position = 0; position < names; ++position) {
+    ASSERT_EQ(program.Pick("ComboReg", position), Outcome::kDone);
+  }
+  Partner partner(firmware.Joined());
+  program.Click("cmdConnect");
+  program.Click("frmSettSR.cmdSET");
+  Transfer(program, partner, "CmdUpDow(0)", "Upload Completed.");
+  const auto uploaded = program.app.image;
+  Transfer(program, partner, "CmdUpDow(1)", "Download Completed.");
+  const auto untouched = partner.Image();
+  EXPECT_TRUE(Differences(uploaded, program.app.image, firmware).empty());
+
+  // The field that each pick changes, by the panel's own account.
+  const std::vector<std::pair<std::pair<const char*, int>, const char*>> picks = {
+      {{"ComboDIP(1)", 4}, "DSPLINES_BAK"},        {{"ComboALM(4)", 3}, "ALMCFG_BAK"},
+      {{"ComboTrigger(0)", 1}, "TRIGGER_TEXT(1)"}, {{"ComboCOMM(2)", 6}, "TX_BAUDRATE"},
+      {{"ComboExcp(2)", 1}, "EXCPSTRS(1)"},        {{"ComboExcepRe(1)", 1}, "TIMESTAMP_ENA"},
+      {{"ComboTD(2)", 2}, "DATE_FORMAT_BAK"},      {{"OpDVR", 1}, "HIST_REG"},
+  };
+  std::set<std::string> expected;
+  for (const auto& [pick, field] : picks) {
+    ASSERT_EQ(program.Pick(pick.first, pick.second), Outcome::kDone) << pick.first;
+    expected.insert(field);
+  }
+  std::set<std::string> changed;
+  for (const auto& difference : Differences(uploaded, program.app.image, firmware))
+    changed.insert(difference.name);
+  EXPECT_EQ(changed, expected);
+
+  Transfer(program, partner, "CmdUpDow(1)", "Download Completed.");
+  EXPECT_TRUE(partner.complaints.empty()) << partner.complaints.front();
+  std::size_t bytes = 0;
+  for (std::size_t place = 0; place < untouched.size(); place += 2) {
+    if (partner.Image().compare(place, 2, untouched, place, 2) != 0) ++bytes;
+  }
+  EXPECT_EQ(partner.Image().size(), untouched.size());
+  EXPECT_EQ(bytes, expected.size());
+  EXPECT_TRUE(program.NoBoxLeft());
+}
+
+TEST(Conversation, ClockHistoryAndResetReachTheUnit) {
+  Harness program({"V1400", "R12"});
+  ASSERT_EQ(program.Start(), Outcome::kDone);
+  Partner partner("V1400R12");
+  program.now = {2026, 3, 5, 14, 7, 9};
+  program.Tick(program.app.frmMain.Timer, 11);
+  program.Click("cmdConnect");
+  program.Click("frmSettSR.cmdSET");
+
+  HoldRemoteMode(program, partner);
+  program.Click("CmdUpDow(2)");
+  Talk(program, partner);
+  EXPECT_EQ(partner.clock, "03-05-26 14:07:09");
+  EXPECT_EQ(program.TakeBox().text, "SET TIME DATE FINISHED.");
+
+  HoldRemoteMode(program, partner);
+  program.file_answers.emplace_back(program.folder.File("history.txt"));
+  program.Click("CmdUpDow(3)");
+  Talk(program, partner);
+  program.file_answers.emplace_back(program.folder.File("history.txt"));
+  program.Click("OpenHistory_menu");
+  EXPECT_EQ(program.app.frmView.Text.text, "NO SALE\r\n\r\n");
+
+  HoldRemoteMode(program, partner);
+  program.Click("CmdUpDow(5)");
+  Talk(program, partner);
+  EXPECT_EQ(program.TakeBox().text, "       Master Reset Done.");
+  EXPECT_TRUE(partner.complaints.empty());
+}
+
+std::vector<FirmwareEntry> MenuEntries() {
+  std::vector<FirmwareEntry> entries;
+  for (const auto& entry : FirmwareTable()) {
+    if (entry.in_menu) entries.push_back(entry);
+  }
+  return entries;
+}
+
+INSTANTIATE_TEST_SUITE_P(EndToEnd, Firmware, ::testing::ValuesIn(MenuEntries()), [](const auto& firmware) {
+  return std::string(firmware.param.version).append(firmware.param.release);
+});
+
+}  // namespace
+}  // namespace ovl::testing
