@@ -18,7 +18,8 @@ namespace {
 // A unit in no time: what it is told it answers at once.
 class Partner {
  public:
-  explicit Partner(const std::string& firmware) {
+  explicit Partner(const std::string& firmware, const std::string& history = "NO SALE\r\n",
+                   const std::string& fault = {}) {
     const auto* known = unit::FindFirmware(firmware);
     unit::Surroundings surroundings;
     surroundings.complain = [this](const std::string& text) { complaints.push_back(text); };
@@ -26,8 +27,11 @@ class Partner {
     surroundings.send = [this](const std::string& bytes) { said_ += bytes; };
     surroundings.keep_image = [](const std::string&) { return std::string(); };
     surroundings.keep_clock = [this](const std::string& text) { return clock = text, std::string(); };
-    unit_.emplace(unit::UnitSetup{known, unit::FactoryImage(*known), "NO SALE\r\n", 0, unit::Faults({}, 1)},
-                  std::move(surroundings));
+    std::vector<unit::Fault> faults;
+    if (!fault.empty()) faults.push_back(unit::ParseFault(fault).fault.value());
+    unit_.emplace(
+        unit::UnitSetup{known, unit::FactoryImage(*known), history, 0, unit::Faults(std::move(faults), 1)},
+        std::move(surroundings));
   }
 
   std::string Hear(std::string_view text) {
@@ -119,34 +123,93 @@ TEST_P(Firmware, AChangeOnEveryTabReachesTheUnitAndNothingElse) {
   EXPECT_TRUE(program.NoBoxLeft());
 }
 
-TEST(Conversation, ClockHistoryAndResetReachTheUnit) {
-  Harness program({"V1400", "R12"});
+// A program that holds remote mode with the partner, its clock set.
+void Begin(Harness& program, Partner& partner) {
   ASSERT_EQ(program.Start(), Outcome::kDone);
-  Partner partner("V1400R12");
   program.now = {2026, 3, 5, 14, 7, 9};
   program.Tick(program.app.frmMain.Timer, 11);
   program.Click("cmdConnect");
   program.Click("frmSettSR.cmdSET");
-
   HoldRemoteMode(program, partner);
-  program.Click("CmdUpDow(2)");
+}
+
+constexpr const char* kClock = "CmdUpDow(2)";
+constexpr const char* kHistory = "CmdUpDow(3)";
+constexpr const char* kReset = "CmdUpDow(5)";
+
+TEST(OneShot, TheUnitsClockReadsWhatWasSentAndItsResetIsTold) {
+  Harness program({"V1400", "R12"});
+  Partner partner("V1400R12");
+  Begin(program, partner);
+  program.Click(kClock);
   Talk(program, partner);
   EXPECT_EQ(partner.clock, "03-05-26 14:07:09");
   EXPECT_EQ(program.TakeBox().text, "SET TIME DATE FINISHED.");
-
   HoldRemoteMode(program, partner);
-  program.file_answers.emplace_back(program.folder.File("history.txt"));
-  program.Click("CmdUpDow(3)");
-  Talk(program, partner);
-  program.file_answers.emplace_back(program.folder.File("history.txt"));
-  program.Click("OpenHistory_menu");
-  EXPECT_EQ(program.app.frmView.Text.text, "NO SALE\r\n\r\n");
-
-  HoldRemoteMode(program, partner);
-  program.Click("CmdUpDow(5)");
+  program.Click(kReset);
   Talk(program, partner);
   EXPECT_EQ(program.TakeBox().text, "       Master Reset Done.");
   EXPECT_TRUE(partner.complaints.empty());
+}
+
+TEST(OneShot, HistoriesOfAnyLengthAreSavedAndOpenedUnchanged) {
+  for (const int lines : {0, 1, 5000}) {
+    SCOPED_TRACE(lines);
+    std::string history;
+    for (int line = 0; line < lines; ++line) history += "LINE " + std::to_string(line) + "\r\n";
+    Harness program({"V1400", "R12"});
+    Partner partner("V1400R12", history);
+    Begin(program, partner);
+    program.file_answers.assign(2, program.folder.File("history.txt"));
+    program.Click(kHistory);
+    Talk(program, partner);
+    EXPECT_FALSE(program.app.HistoryPending);
+    program.Click("OpenHistory_menu");
+    EXPECT_TRUE(program.app.frmView.Text.text == history + "\r\n");
+    EXPECT_TRUE(program.NoBoxLeft());
+  }
+}
+
+TEST(OneShot, RefusalsEndTheLinkAndSilenceIsEndedByTheWatchdogOrByHand) {
+  struct Row {
+    const char* button;
+    const char* operation;
+    bool watched;
+  };
+  for (const auto& row :
+       {Row{kClock, "clock", true}, Row{kHistory, "history", false}, Row{kReset, "reset", false}}) {
+    SCOPED_TRACE(row.operation);
+    Harness refused({"V1400", "R12"});
+    Partner refusing("V1400R12", "LINE\r\n", std::string("refuse:") + row.operation);
+    Begin(refused, refusing);
+    refused.Click(row.button);
+    Talk(refused, refusing);
+    EXPECT_EQ(refused.TakeBox().title, "- Connection Fail -");
+    EXPECT_FALSE(refused.app.frmMain.MSComm1.PortOpen);
+
+    Harness waiting({"V1400", "R12"});
+    Partner silent("V1400R12", "LINE\r\n", std::string("silent:") + row.operation);
+    Begin(waiting, silent);
+    waiting.Click(row.button);
+    Talk(waiting, silent);
+    waiting.Tick(waiting.app.frmMain.Timer_Operating, 6);
+    EXPECT_EQ(waiting.TakeBox().title, row.watched ? "- Connection Fail -" : "");
+    EXPECT_EQ(waiting.app.frmMain.MSComm1.PortOpen, !row.watched);
+    if (!row.watched) waiting.Click("cmdDisConnect");
+    EXPECT_FALSE(waiting.app.HistoryPending || waiting.app.MasterResetPending);
+  }
+}
+
+TEST(OneShot, ACharacterWithAParityErrorEndsTheHistory) {
+  Harness program({"V1400", "R12"});
+  Partner partner("V1400R12", "TOTAL?\r\n");
+  Begin(program, partner);
+  program.Click(kHistory);
+  Talk(program, partner);
+  EXPECT_EQ(program.TakeBox().text, "Check Parity and Data Bit Setting that Same OVL ,Try again !!!");
+  EXPECT_TRUE(program.app.HistoryPending);
+  EXPECT_EQ(program.app.HistoryText, "TOTAL");
+  EXPECT_TRUE(program.dialogs.empty());
 }
 
 std::vector<FirmwareEntry> MenuEntries() {
