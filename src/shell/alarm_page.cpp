@@ -15,7 +15,6 @@ namespace {
 
 using enum FieldId;
 
-constexpr int kAlarms = 16;
 constexpr int kRtsTrigger = 28;
 
 QString EntryText(const List& list, int position) {
@@ -32,7 +31,8 @@ QString TriggerText(const MainForm& form, int trigger) {
 // The counter runs up to 256; 0 is the last entry, the pulse.
 QString DurationText(const MainForm& form, int counter) {
   const auto& list = form.ComboALM[3];
-  return counter == 0 ? EntryText(list, static_cast<int>(list.items.size()) - 1) : QString::number(256 - counter);
+  return counter == 0 ? EntryText(list, static_cast<int>(list.items.size()) - 1)
+                      : QString::number(256 - counter);
 }
 
 bool NormallyOn(const Application& app, int number) {
@@ -41,7 +41,8 @@ bool NormallyOn(const Application& app, int number) {
 }
 
 QString TriggeredText(const std::string& record) {
-  return FromWindows1252(StoredText(std::string_view(record).substr(std::min<std::size_t>(record.size(), 2))));
+  return FromWindows1252(
+      StoredText(std::string_view(record).substr(std::min<std::size_t>(record.size(), 2))));
 }
 
 QWidget* AlarmOverview(Bindings& bindings) {
@@ -67,7 +68,8 @@ void AddEditor(PageColumn& column, const MainForm& form) {
       .Row("ComboALM(3)")
       .Row("ComboALM(6)")
       .Row("ComboALM(7)")
-      .Note(QStringLiteral("All alarms"), [&form] { return form.ComboALM[4].visible || form.ComboALM[5].visible; })
+      .Note(QStringLiteral("All alarms"),
+            [&form] { return form.ComboALM[4].visible || form.ComboALM[5].visible; })
       .Row("ComboALM(4)")
       .Row("ComboALM(5)");
 }

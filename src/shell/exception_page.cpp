@@ -16,7 +16,6 @@
 namespace ovl {
 namespace {
 
-constexpr int kExceptions = 24;
 constexpr std::size_t kLengthDigits = 2;
 constexpr int kFreeBit = 4;
 constexpr int kRangeBoxWidth = 96;
@@ -47,7 +46,8 @@ QString ValueText(const Application& app, const std::string& slot, std::size_t v
   const auto place = RangePlaceOf(app);
   const auto first = RangePlace::kFirst + value * place.Value();
   auto whole = Slice(slot, first, place.integers);
-  whole.erase(0, std::min(whole.find_first_not_of('0'), whole.size() - std::min<std::size_t>(1, whole.size())));
+  whole.erase(0,
+              std::min(whole.find_first_not_of('0'), whole.size() - std::min<std::size_t>(1, whole.size())));
   return QString::fromStdString(whole + DecimalSeparator(app) +
                                 Slice(slot, first + place.integers, RangePlace::kDecimals));
 }
@@ -109,7 +109,8 @@ void AddRange(Bindings& bindings, PageColumn& column) {
     box->setBackgroundRole(QPalette::Base);
     box->setAutoFillBackground(true);
     box->setIndent(kBoxPadding);
-    box->setMinimumSize(kRangeBoxWidth, bindings.WidgetOf(bindings.Model().frmMain.ComboExcp[5])->sizeHint().height());
+    box->setMinimumSize(kRangeBoxWidth,
+                        bindings.WidgetOf(bindings.Model().frmMain.ComboExcp[5])->sizeHint().height());
     second = box->parentWidget();
   }
   auto* fields = static_cast<QHBoxLayout*>(second->parentWidget()->layout());

@@ -40,9 +40,7 @@ void MainWindow::BuildTabs() {
   const auto& model = bindings_.Model().frmMain.SSTab1;
   int tab = 0;
   for (auto* page : BuildPages(bindings_)) {
-    const auto caption = FromWindows1252(model.captions.at(static_cast<std::size_t>(tab)));
-    page->setAccessibleName(caption.trimmed());
-    tabs_->addTab(page, caption);
+    tabs_->addTab(page, FromWindows1252(model.captions.at(static_cast<std::size_t>(tab))));
     const auto keys = QStringLiteral("Alt+%1").arg(tab + 1);
     tabs_->setTabToolTip(tab, keys);
     auto* shortcut = new QShortcut(QKeySequence(keys), this);
@@ -53,6 +51,15 @@ void MainWindow::BuildTabs() {
   connect(tabs_, &QTabWidget::currentChanged, this, [this](int current) {
     status_->ShowTab(current);
     RenewMnemonics();
+  });
+  bindings_.Follow([this, &model, captions = Shadow<std::vector<std::string>>()]() mutable {
+    if (!captions.Update(model.captions)) return false;
+    for (int tab = 0; tab < tabs_->count(); ++tab) {
+      const auto caption = FromWindows1252(model.captions.at(static_cast<std::size_t>(tab)));
+      tabs_->setTabText(tab, caption);
+      tabs_->widget(tab)->setAccessibleName(caption.trimmed());
+    }
+    return true;
   });
   bindings_.Follow([this, &model, current = Shadow<int>()]() mutable {
     if (current.Update(model.current)) tabs_->setCurrentIndex(model.current);

@@ -19,8 +19,8 @@ constexpr int kCellPadding = 6;
 constexpr int kMarkWidth = 3;
 constexpr int kUsedRole = Qt::UserRole + 1;
 
-// The same marks as in other lists that stay open: weight and a bar for the line that counts, the strong colour
-// for the cursor while the list has the focus.
+// The same marks as in other lists that stay open: weight and a bar for the line that counts, the strong
+// colour for the cursor while the list has the focus.
 class LineDelegate : public QStyledItemDelegate {
  public:
   explicit LineDelegate(OverviewList* list) : QStyledItemDelegate(list), list_(list) {}
@@ -81,7 +81,8 @@ QString UseText(const std::vector<OverviewLine>& lines) {
 
 }  // namespace
 
-OverviewList::OverviewList(const std::vector<OverviewColumn>& columns, QWidget* parent) : QTreeWidget(parent) {
+OverviewList::OverviewList(const std::vector<OverviewColumn>& columns, QWidget* parent)
+    : QTreeWidget(parent) {
   setItemDelegate(new LineDelegate(this));
   setRootIsDecorated(false);
   setItemsExpandable(false);
@@ -102,7 +103,8 @@ OverviewList::OverviewList(const std::vector<OverviewColumn>& columns, QWidget* 
     const bool stretches = about.widest.isEmpty();
     header()->setSectionResizeMode(column, stretches ? QHeaderView::Stretch : QHeaderView::Fixed);
     if (!stretches) {
-      const int width = std::max(metrics.horizontalAdvance(about.widest), metrics.horizontalAdvance(about.head));
+      const int width =
+          std::max(metrics.horizontalAdvance(about.widest), metrics.horizontalAdvance(about.head));
       header()->resizeSection(column, width + 2 * kCellPadding + 2);
     }
     ++column;

@@ -48,8 +48,8 @@ class OverviewList : public QTreeWidget {
   int marked_ = -1;
 };
 
-// An overview over the entries of a list of the model, with a muted legend below it. `lines` is asked at every
-// refresh. Alongside the legend stands how many lines are in use.
+// An overview over the entries of a list of the model, with a muted legend below it. `lines` is asked at
+// every refresh. Alongside the legend stands how many lines are in use.
 struct Overview {
   QString name;    // as objectName
   QString called;  // as accessible name

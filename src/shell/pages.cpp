@@ -6,8 +6,11 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include "shell/alarm_page.h"
+#include "shell/exception_page.h"
 #include "shell/layout.h"
 #include "shell/platform/text_codec.h"
+#include "shell/text_rows.h"
 #include "shell/theme.h"
 #include "shell/widgets.h"
 
@@ -73,13 +76,6 @@ QWidget* TextSetupPage(Bindings& bindings) {
   return page.Finish(kCarriedThrough);
 }
 
-QWidget* AlarmOutputsPage(Bindings& bindings) {
-  Page page(bindings, bindings.Model().frmMain.form);
-  page.Column().Section("Frame8");
-  page.Column().Section("Frame15");
-  return page.Finish(kCarriedThrough);
-}
-
 QWidget* CommunicationPage(Bindings& bindings) {
   Page page(bindings, bindings.Model().frmMain.form);
   page.Column().Section("Frame4");
@@ -87,28 +83,11 @@ QWidget* CommunicationPage(Bindings& bindings) {
   return page.Finish(kCarriedThrough);
 }
 
-QWidget* ExceptionReportPage(Bindings& bindings) {
-  Page page(bindings, bindings.Model().frmMain.form);
-  auto& left = page.Column();
-  left.Section("Frame6");
-  left.Section("Frame10");
-  auto& right = page.Column();
-  right.Section("Frame7");
-  right.Section("Frame14");
-  right.Section("Frame5")
-      .Alone("OpDVR(0)")
-      .Alone("OpDVR(1)")
-      .Row("DEST ID", "ComboKLM4011(0)")
-      .Row("SRC ID", "ComboKLM4011(1)")
-      .Alone("OpDVR(2)")
-      .Row("DEST ID", "ComboKLM4011(2)")
-      .Row("SRC ID", "ComboKLM4011(3)");
-  return page.Finish(kCarriedThrough);
-}
-
 QWidget* TimeLanguagePage(Bindings& bindings) {
   Page page(bindings, bindings.Model().frmMain.form);
-  page.Column().Section("Frame2");
+  auto& column = page.Column();
+  column.Section("Frame2");
+  AddTitleRows(bindings, column);
   page.Column().Section("Frame12");
   return page.Finish(kCarriedThrough);
 }
@@ -116,8 +95,8 @@ QWidget* TimeLanguagePage(Bindings& bindings) {
 }  // namespace
 
 std::vector<QWidget*> BuildPages(Bindings& bindings) {
-  return {RegisterSelectPage(bindings), TextSetupPage(bindings),       AlarmOutputsPage(bindings),
-          CommunicationPage(bindings),  ExceptionReportPage(bindings), TimeLanguagePage(bindings),
+  return {RegisterSelectPage(bindings), TextSetupPage(bindings),      BuildAlarmPage(bindings),
+          CommunicationPage(bindings),  BuildExceptionPage(bindings), TimeLanguagePage(bindings),
           BuildRemotePage(bindings)};
 }
 

@@ -7,6 +7,7 @@
 #include "image/record_stream.h"
 #include "shell/platform/text_codec.h"
 #include "shell/program.h"
+#include "shell/sample_settings.h"
 #include "shell/theme.h"
 
 namespace ovl {
@@ -63,7 +64,9 @@ class Photographer {
 
   void TakeAll() {
     for (int tick = 0; tick <= kClockTicks; ++tick) program_.Act(TickEvent{&App().frmMain.Timer});
+    MakeSampleSettings(program_);
     TakeTabs();
+    TakeTextWindows();
     TakePortSettings();
     TakeLink();
     TakeScan();
@@ -94,6 +97,18 @@ class Photographer {
            QStringLiteral("tab%1_").arg(tab) + name.simplified().replace(QLatin1Char(' '), QLatin1Char('_')));
     }
     tabs.setCurrentIndex(kRemoteTab);
+  }
+
+  void TakeTextWindows() {
+    Click(App().frmMain.cmdSetExcpstr);
+    TakeForm(App().frmSetEXCPSTR.form, QStringLiteral("text_entry"));
+    program_.Act(CloseEvent{&App().frmSetEXCPSTR.form});
+    Click(App().frmMain.cmdSetRange);
+    TakeForm(App().frmSetRange.form, QStringLiteral("range"));
+    program_.Act(CloseEvent{&App().frmSetRange.form});
+    ShowSampleHistory(program_);
+    TakeForm(App().frmView.form, QStringLiteral("viewer"));
+    program_.Act(CloseEvent{&App().frmView.form});
   }
 
   void TakePortSettings() {

@@ -138,7 +138,7 @@ void ClockColumn(Bindings& bindings, PageColumn& column) {
                     {{"ComboYear"}, "year"}})
       .Row("Time", {{{"ComboHR"}, "hour"}, {{"ComboMin"}, "minute"}, {{"ComboSec"}, "second"}})
       .Wide(SetTime(bindings));
-  column.Section("FrameDemo");
+  column.Section("FrameDemo").Alone("DemoMode").Row("CharacterList").Row("DemoType").Row("DemoSpeed");
 }
 
 }  // namespace

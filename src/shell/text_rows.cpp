@@ -43,7 +43,8 @@ void AddTitleRows(Bindings& bindings, PageColumn& column) {
 int CaptionWidth(std::initializer_list<const Face*> faces) {
   const QFontMetrics metrics(QLabel().font());
   int widest = 0;
-  for (const auto* face : faces) widest = std::max(widest, metrics.horizontalAdvance(CaptionText(face->caption)));
+  for (const auto* face : faces)
+    widest = std::max(widest, metrics.horizontalAdvance(CaptionText(face->caption)));
   return widest;
 }
 

@@ -4,6 +4,7 @@
 
 #include "shell/link_windows.h"
 #include "shell/status_strip.h"
+#include "shell/text_windows.h"
 
 namespace ovl {
 
@@ -11,7 +12,8 @@ Windows::Windows(Application& app, ActFunction act)
     : app_(app),
       bindings_(app, std::move(act), [this](const QString& hint) { main_->Status().ShowHint(hint); }),
       main_(std::make_unique<MainWindow>(bindings_)) {
-  for (auto* build : {BuildPortSettingsWindow, BuildScanProgressWindow, BuildTransferEndWindow}) {
+  for (auto* build : {BuildPortSettingsWindow, BuildScanProgressWindow, BuildTransferEndWindow,
+                      BuildTextEntryWindow, BuildRangeWindow, BuildViewerWindow}) {
     forms_.push_back({build(bindings_, main_.get()), {}});
   }
   main_->held_back = [this] {
