@@ -3,13 +3,10 @@
 #include <algorithm>
 #include <array>
 
+#include "shell/tip_texts.h"
+
 namespace ovl {
 namespace {
-
-struct Tip {
-  std::string_view form, control;
-  const char* text;
-};
 
 constexpr std::array kTips{
     Tip{"frmMain", "ComboReg",
@@ -54,9 +51,12 @@ constexpr std::array kTips{
 };
 
 const Tip* FindTip(std::string_view form, std::string_view control) {
-  const auto found = std::find_if(kTips.begin(), kTips.end(),
-                                  [&](const Tip& tip) { return tip.form == form && tip.control == control; });
-  return found == kTips.end() ? nullptr : &*found;
+  for (const auto tips : {std::span<const Tip>(kTips), RegisterTips(), SettingTips()}) {
+    const auto found = std::find_if(
+        tips.begin(), tips.end(), [&](const Tip& tip) { return tip.form == form && tip.control == control; });
+    if (found != tips.end()) return &*found;
+  }
+  return nullptr;
 }
 
 }  // namespace
