@@ -76,7 +76,7 @@ struct Bindings::Maker {
 };
 
 QWidget* Bindings::Make(const NamedControl& control, const QString& label) {
-  if (std::holds_alternative<OptionArray*>(control.control)) return Options(control, 1);
+  if (std::holds_alternative<OptionArray*>(control.control)) return Options(control, 1, label);
   auto* widget = std::visit(Maker{*this}, control.control);
   Introduce(*widget, control, label);
   return widget;
@@ -132,7 +132,7 @@ void Bindings::WatchPointer(QWidget& widget, const ControlRef& control, const Co
 
 bool Bindings::Refresh() {
   bool reshaped = false;
-  for (auto& refresh : refreshes_) reshaped |= refresh();
+  for (std::size_t at = 0; at < refreshes_.size(); ++at) reshaped |= refreshes_[at]();
   return reshaped;
 }
 

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <QString>
+#include <deque>
 #include <functional>
 #include <map>
 #include <memory>
@@ -23,6 +24,7 @@ class QWidget;
 
 namespace ovl {
 
+class PickList;
 class TallList;
 
 using ActFunction = std::function<Outcome(const Event&)>;
@@ -64,7 +66,10 @@ class Bindings {
   QWidget* Make(const NamedControl& control, const QString& label = {});
 
   // An option array in so many columns, filled downwards; hidden elements leave no hole.
-  QWidget* Options(const NamedControl& array, int columns);
+  QWidget* Options(const NamedControl& array, int columns, const QString& label = {});
+
+  // A fixed text in the look of a list that cannot be picked from.
+  PickList* Fixed(const NamedControl& text_box, const QString& label);
 
   // A list that is always open.
   TallList* Tall(const NamedControl& list, const QString& label);
@@ -76,11 +81,16 @@ class Bindings {
   // Reports the pointer over a widget; when it leaves, it is over what stands around.
   void WatchPointer(QWidget& widget, const ControlRef& control, const ControlRef& around);
 
-  // Runs at every refresh; true when something was shown, hidden or renamed.
+  // Runs at every refresh; true when something was shown, hidden or renamed. What is added during a refresh
+  // runs in it as well.
   void Follow(std::function<bool()> refresh) { refreshes_.push_back(std::move(refresh)); }
 
   // Brings all widgets up to the model. True when something was shown, hidden or renamed.
   bool Refresh();
+
+  // One line for the page in front, shown from the next refresh on.
+  void SetQuietLine(const QString& words) { quiet_line_ = words; }
+  const QString& QuietLine() const { return quiet_line_; }
 
   // The widget that takes the focus for a control of the model; none for one that is not on the screen.
   QWidget* WidgetOf(const Face& control) const;
@@ -106,7 +116,8 @@ class Bindings {
   Application& app_;
   ActFunction act_;
   HintFunction hint_;
-  std::vector<std::function<bool()>> refreshes_;
+  QString quiet_line_;
+  std::deque<std::function<bool()>> refreshes_;
   std::map<const Face*, QWidget*> widgets_;
 };
 

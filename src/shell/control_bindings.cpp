@@ -81,6 +81,21 @@ QWidget* Bindings::MakeList(List& list) {
   return box;
 }
 
+PickList* Bindings::Fixed(const NamedControl& control, const QString& label) {
+  auto& text = *std::get<TextBox*>(control.control);
+  auto* box = new PickList;
+  Introduce(*box, control, label);
+  box->setEnabled(false);
+  box->addItem(FromWindows1252(text.text));
+  Follow([box, &text, visible = Shadow<bool>(), shown = Shadow<std::string>()]() mutable {
+    if (shown.Update(text.text)) box->setItemText(0, FromWindows1252(text.text));
+    if (!visible.Update(text.visible)) return false;
+    box->setVisible(text.visible);
+    return true;
+  });
+  return box;
+}
+
 TallList* Bindings::Tall(const NamedControl& control, const QString& label) {
   auto& list = *std::get<List*>(control.control);
   auto* box = new TallList;
@@ -106,6 +121,7 @@ TallList* Bindings::Tall(const NamedControl& control, const QString& label) {
 QWidget* Bindings::MakeOption(const OptionElement& element) {
   auto* button = new OptionButton;
   const auto& face = element.Of();
+  button->setText(CaptionText(face.caption));
   button->step = [this, element](int step) { StepOption(element, step); };
   QObject::connect(button, &QRadioButton::clicked, button, [this, element] { act_(ClickEvent{element}); });
   FollowFace(*button, face, element.array);
@@ -134,7 +150,7 @@ void Bindings::StepOption(const OptionElement& from, int step) {
   }
 }
 
-QWidget* Bindings::Options(const NamedControl& control, int columns) {
+QWidget* Bindings::Options(const NamedControl& control, int columns, const QString& label) {
   auto& array = *std::get<OptionArray*>(control.control);
   auto* holder = new QWidget;
   auto* grid = new QGridLayout(holder);
@@ -148,15 +164,20 @@ QWidget* Bindings::Options(const NamedControl& control, int columns) {
     buttons.push_back(button);
   }
   holder->setObjectName(FromWindows1252(control.name));
-  FollowFace(*holder, array);
-  Follow([grid, buttons, &array, columns, shown = Shadow<std::vector<bool>>()]() mutable {
+  holder->setAccessibleName(label);
+  auto shown = std::make_shared<Shadow<std::vector<bool>>>();
+  const auto arrange = [grid, buttons, &array, columns, shown] {
     std::vector<bool> visible;
     visible.reserve(array.elements.size());
     for (const auto& element : array.elements) visible.push_back(element.visible);
-    if (!shown.Update(visible)) return false;
+    if (!shown->Update(visible)) return false;
     Arrange(*grid, buttons, array, columns);
     return true;
-  });
+  };
+  // At once, so that a layout measures the buttons.
+  arrange();
+  FollowFace(*holder, array);
+  Follow(arrange);
   return holder;
 }
 

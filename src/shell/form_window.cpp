@@ -2,11 +2,19 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QScreen>
+#include <algorithm>
 
 #include "shell/mnemonics.h"
 #include "shell/platform/text_codec.h"
 
 namespace ovl {
+namespace {
+
+constexpr int kGapToParent = 8;
+constexpr int kFromTop = 96;
+
+}  // namespace
 
 FormWindow::FormWindow(Bindings& bindings, Form& form, QWidget* parent)
     : QDialog(parent), bindings_(bindings), form_(form) {
@@ -32,10 +40,18 @@ bool FormWindow::Follow() {
 void FormWindow::Open() {
   setWindowFlag(Qt::WindowStaysOnTopHint, form_.top_most);
   adjustSize();
+  if (beside_) PlaceBeside();
   AssignPageMnemonics(*this, {});
   show();
   raise();
   activateWindow();
+}
+
+void FormWindow::PlaceBeside() {
+  const auto parent = parentWidget()->window()->frameGeometry();
+  const auto room = parentWidget()->screen()->availableGeometry();
+  const int right = std::min(parent.right() + kGapToParent, room.right() - width());
+  move(std::max(right, room.left()), parent.top() + kFromTop);
 }
 
 void FormWindow::reject() {

@@ -15,6 +15,9 @@ class FormWindow : public QDialog {
 
   const Form& Shown() const { return form_; }
 
+  // Opens to the right of the parent, so that both can be worked in, as far as the screen has room.
+  void StandBeside() { beside_ = true; }
+
   // Shows or hides the window. True when that changed.
   bool Follow();
 
@@ -27,10 +30,12 @@ class FormWindow : public QDialog {
  private:
   bool OnScreen() const { return form_.loaded && form_.visible; }
   void Open();
+  void PlaceBeside();
 
   Bindings& bindings_;
   Form& form_;
   Shadow<bool> enabled_;
+  bool beside_ = false;
 };
 
 // Moves the focus where the model wants it, once for each time it asked.

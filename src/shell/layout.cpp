@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "shell/platform/text_codec.h"
+#include "shell/widgets.h"
 
 namespace ovl {
 namespace {
@@ -28,6 +29,20 @@ QWidget* TitleBlock(QLabel& title) {
 // A label that has a letter for the keyboard stands for the field behind it.
 void Attach(QLabel& label, QWidget& field) {
   if (field.focusPolicy() != Qt::NoFocus) label.setBuddy(&field);
+}
+
+QLabel* QuietLabel(Bindings& bindings) {
+  auto* label = MutedLabel({});
+  label->setObjectName(QStringLiteral("QuietLine"));
+  label->setWordWrap(true);
+  label->setVisible(false);
+  bindings.Follow([&bindings, label, shown = Shadow<QString>()]() mutable {
+    if (!shown.Update(bindings.QuietLine())) return false;
+    label->setText(bindings.QuietLine());
+    label->setVisible(!bindings.QuietLine().isEmpty());
+    return false;
+  });
+  return label;
 }
 
 }  // namespace
@@ -94,7 +109,10 @@ struct PageColumn::State {
       bool any = false;
       reshaped |= ShowRows(section, Wanted(section), any);
       Enable(section);
-      if (any && section.titled.Update(section.title())) section.title_label->setText(section.title());
+      if (any && section.titled.Update(section.title())) {
+        section.title_label->setText(section.title());
+        section.title_label->setVisible(!section.title().isEmpty());
+      }
       if (section.shown.Update(any)) {
         section.block->setVisible(any);
         reshaped = true;
@@ -125,6 +143,7 @@ PageColumn::PageColumn(Bindings& bindings, const Form& form, QWidget& holder)
 }
 
 PageColumn& PageColumn::Section(std::string_view frame) {
+  within_ = nullptr;
   auto& section = state_->sections.emplace_back();
   section.frame = std::get<Frame*>(bindings_.Named(form_, frame).control);
   section.title = [frame = section.frame] { return FromWindows1252(frame->caption); };
@@ -136,9 +155,15 @@ PageColumn& PageColumn::OwnSection(const QString& title, std::function<bool()> s
 }
 
 PageColumn& PageColumn::OwnSection(std::function<QString()> title, std::function<bool()> shown) {
+  within_ = nullptr;
   auto& section = state_->sections.emplace_back();
   section.title = std::move(title);
   section.wanted = std::move(shown);
+  return *this;
+}
+
+PageColumn& PageColumn::Within(std::string_view frame) {
+  within_ = std::get<Frame*>(bindings_.Named(form_, frame).control);
   return *this;
 }
 
@@ -159,6 +184,9 @@ void PageColumn::Add(QWidget* label, QWidget* fields, std::function<bool()> show
   } else {
     grid_->addWidget(label, row, kLabels, Qt::AlignLeft | Qt::AlignTop);
     grid_->addWidget(fields, row, kFields, Qt::AlignLeft | Qt::AlignTop);
+  }
+  if (within_ != nullptr) {
+    shown = [frame = within_, also = std::move(shown)] { return frame->visible && (!also || also()); };
   }
   section.rows.push_back({label, fields, std::move(shown), {}});
 }
@@ -182,7 +210,11 @@ QWidget* PageColumn::MakeField(const QString& label, const Field& field, QWidget
   for (const auto& name : field.names) {
     auto* widget = bindings_.Make(bindings_.Named(form_, name), called);
     if (first == nullptr) first = widget;
-    down->addWidget(widget, 0, Qt::AlignLeft);
+    if (field.cover.empty()) {
+      down->addWidget(widget, 0, Qt::AlignLeft);
+    } else {
+      Cover(*down, *widget, called, field.cover);
+    }
   }
   if (!field.caption.isEmpty()) down->addWidget(MutedLabel(field.caption));
   bindings_.Follow([holder, any = AnyVisible({field}), shown = Shadow<bool>()]() mutable {
@@ -193,12 +225,34 @@ QWidget* PageColumn::MakeField(const QString& label, const Field& field, QWidget
   return holder;
 }
 
+void PageColumn::Cover(QBoxLayout& place, QWidget& covered, const QString& label, const std::string& cover) {
+  const auto& named = bindings_.Named(form_, cover);
+  auto* below = new QWidget;
+  auto* across = new QHBoxLayout(below);
+  across->setContentsMargins(0, 0, 0, 0);
+  across->addWidget(&covered);
+  auto* above = bindings_.Fixed(named, label);
+  place.addWidget(below, 0, Qt::AlignLeft);
+  place.addWidget(above, 0, Qt::AlignLeft);
+  bindings_.Follow([below, &covered, above, &face = FaceOf(named.control), shown = Shadow<bool>()]() mutable {
+    above->setMinimumWidth(covered.sizeHint().width());
+    if (!shown.Update(face.visible)) return false;
+    below->setVisible(!face.visible);
+    return true;
+  });
+}
+
 QWidget* PageColumn::MakeFields(const QString& label, const std::vector<Field>& fields, QWidget*& first) {
   auto* holder = new QWidget;
   auto* across = new QHBoxLayout(holder);
   across->setContentsMargins(0, 0, 0, 0);
   across->setSpacing(kFieldGap);
-  for (const auto& field : fields) across->addWidget(MakeField(label, field, first), 0, Qt::AlignTop);
+  int place = 0;
+  for (const auto& field : fields) {
+    const bool one_of_many = fields.size() > 1 && field.caption.isEmpty();
+    const auto called = one_of_many ? QStringLiteral("%1 %2").arg(label).arg(++place) : label;
+    across->addWidget(MakeField(called, field, first), 0, Qt::AlignTop);
+  }
   across->addStretch(1);
   return holder;
 }
@@ -238,10 +292,21 @@ PageColumn& PageColumn::Row(const RowLabel& label, const std::vector<Field>& fie
   const auto& control = bindings_.Named(form_, fields.front().names.front());
   QWidget* first = nullptr;
   auto* holder = MakeFields(CalledBy(label, control), fields, first);
+  return AddRow(label, control, holder, *first, AnyVisible(fields));
+}
+
+PageColumn& PageColumn::Row(const char* name, QWidget* holder) {
+  const auto& control = bindings_.Named(form_, name);
+  return AddRow(RowLabel::OfField(), control, holder, *bindings_.WidgetOf(FaceOf(control.control)),
+                AnyVisible({name}));
+}
+
+PageColumn& PageColumn::AddRow(const RowLabel& label, const NamedControl& control, QWidget* fields,
+                               QWidget& first, std::function<bool()> shown) {
   auto* text = MakeRowLabel(label, control);
-  text->setMinimumHeight(first->sizeHint().height());
-  Attach(*text, *first);
-  Add(text, holder, AnyVisible(fields));
+  text->setMinimumHeight(first.sizeHint().height());
+  Attach(*text, first);
+  Add(text, fields, std::move(shown));
   return *this;
 }
 
@@ -264,35 +329,48 @@ PageColumn& PageColumn::Alone(const char* name) {
   return *this;
 }
 
+QWidget* PageColumn::MakeOptionColumn(const OptionColumn& column, std::function<bool()> shown) {
+  auto* holder = new QWidget;
+  auto* down = new QVBoxLayout(holder);
+  down->setContentsMargins(0, 0, 0, 0);
+  down->setSpacing(kRowGap);
+  if (!column.head.isEmpty()) down->addWidget(MutedLabel(column.head));
+  down->addWidget(bindings_.Options(bindings_.Named(form_, column.array), column.columns, column.head));
+  bindings_.Follow([holder, shown = std::move(shown), was = Shadow<bool>()]() mutable {
+    const bool shows = shown();
+    if (!was.Update(shows)) return false;
+    holder->setVisible(shows);
+    return true;
+  });
+  return holder;
+}
+
 PageColumn& PageColumn::Options(const std::vector<OptionColumn>& arrays) {
   auto* holder = new QWidget;
   auto* across = new QHBoxLayout(holder);
   across->setContentsMargins(0, 0, 0, 0);
   across->setSpacing(kColumnGap);
-  std::vector<Field> fields;
+  std::vector<std::function<bool()>> columns;
   for (const auto& array : arrays) {
-    auto* column = new QWidget;
-    auto* down = new QVBoxLayout(column);
-    down->setContentsMargins(0, 0, 0, 0);
-    down->setSpacing(kRowGap);
-    down->addWidget(MutedLabel(array.head));
-    down->addWidget(bindings_.Make(bindings_.Named(form_, array.array), array.head));
-    across->addWidget(column, 0, Qt::AlignTop);
-    fields.emplace_back(array.array.c_str());
+    const Frame* frame =
+        array.frame.empty() ? nullptr : std::get<Frame*>(bindings_.Named(form_, array.frame).control);
+    const auto& options = *std::get<OptionArray*>(bindings_.Named(form_, array.array).control);
+    columns.push_back([frame, &options] {
+      return options.visible && (frame == nullptr || frame->visible) &&
+             std::any_of(options.elements.begin(), options.elements.end(),
+                         [](const Face& element) { return element.visible; });
+    });
+    across->addWidget(MakeOptionColumn(array, columns.back()), 0, Qt::AlignTop);
   }
   across->addStretch(1);
-  Add(nullptr, holder, AnyVisible(fields));
+  Add(nullptr, holder, [columns] {
+    return std::any_of(columns.begin(), columns.end(), [](const auto& shown) { return shown(); });
+  });
   return *this;
 }
 
 PageColumn& PageColumn::Options(const char* array, int columns) {
-  auto* holder = new QWidget;
-  auto* across = new QHBoxLayout(holder);
-  across->setContentsMargins(0, 0, 0, 0);
-  across->addWidget(bindings_.Options(bindings_.Named(form_, array), columns));
-  across->addStretch(1);
-  Add(nullptr, holder, AnyVisible({array}));
-  return *this;
+  return Options({OptionColumn{{}, array, columns}});
 }
 
 PageColumn& PageColumn::Wide(QWidget* widget, std::function<bool()> shown) {
@@ -315,8 +393,10 @@ Page::Page(Bindings& bindings, const Form& form, int left)
       form_(form),
       area_(new QScrollArea),
       content_(new QWidget),
-      across_(new QHBoxLayout(content_)) {
-  across_->setContentsMargins(left, kMargin, kMargin, kMargin);
+      down_(new QVBoxLayout(content_)),
+      across_(new QHBoxLayout) {
+  down_->setContentsMargins(left, kMargin, kMargin, kMargin);
+  down_->setSpacing(kSectionGap);
   across_->setSpacing(kColumnGap);
   area_->setFrameShape(QFrame::NoFrame);
   area_->setWidgetResizable(true);
@@ -334,6 +414,9 @@ PageColumn& Page::Column(int share, int least) {
 QScrollArea* Page::Finish(const QString& calm) {
   auto* line = MutedLabel(calm);
   across_->addWidget(line, 0, Qt::AlignTop | Qt::AlignLeft);
+  down_->addLayout(across_, fills_ ? 1 : 0);
+  down_->addWidget(QuietLabel(bindings_));
+  if (!fills_) down_->addStretch(1);
   for (auto& column : columns_) {
     bindings_.Follow([column, shown = Shadow<bool>()]() mutable {
       const bool show = column.AnySectionShown();

@@ -18,15 +18,18 @@
 #include "shell/bindings.h"
 #include "shell/theme.h"
 
+class QBoxLayout;
 class QGridLayout;
 class QHBoxLayout;
 class QScrollArea;
+class QVBoxLayout;
 
 namespace ovl {
 
 // The label of a row: words of our own, a label of the model with caption, state and name, or the caption of
 // the field itself.
 struct RowLabel {
+  RowLabel(const QString& words) : text(words) {}
   RowLabel(const char* words) : text(QString::fromLatin1(words)) {}
   static RowLabel FromModel(std::string name) {
     RowLabel label("");
@@ -45,20 +48,30 @@ struct RowLabel {
 };
 
 // One place in a row: a control, or several of which the model shows one at a time; a muted word below, if
-// any.
+// any. A text box as `cover` stands in the control's place while it is visible.
 struct Field {
   Field(const char* name) : names{name} {}
+  Field(std::string name) : names{std::move(name)} {}
   Field(std::vector<std::string> alternatives, const char* below)
       : names(std::move(alternatives)), caption(QString::fromLatin1(below)) {}
+  static Field Covered(const char* name, const char* cover) {
+    Field field(name);
+    field.cover = cover;
+    return field;
+  }
 
   std::vector<std::string> names;
   QString caption;
+  std::string cover;
 };
 
-// An option array under a muted head, one of several side by side.
+// An option array under a muted head, one of several side by side. It may stand in an inner frame, which then
+// must be visible as well.
 struct OptionColumn {
   QString head;
   std::string array;
+  int columns = 1;
+  std::string frame = {};
 };
 
 class PageColumn {
@@ -74,16 +87,20 @@ class PageColumn {
   PageColumn& OwnSection(const QString& title, std::function<bool()> shown = {});
   PageColumn& OwnSection(std::function<QString()> title, std::function<bool()> shown);
 
+  // The rows that follow in this section show only while the inner frame does.
+  PageColumn& Within(std::string_view frame);
+
   PageColumn& Row(const RowLabel& label, const std::vector<Field>& fields);
   PageColumn& Row(const RowLabel& label, const char* name) { return Row(label, std::vector<Field>{name}); }
-  // Under the control's own caption.
-  PageColumn& Row(const char* name) { return Row(RowLabel::OfField(), name); }
-
   // A label of the model between the last row's label and its field, where it moves neither.
   PageColumn& Mark(const char* name);
 
   // All labels are at least so wide, for columns whose fields are to stand on one edge.
   PageColumn& LabelsAtLeast(int width);
+
+  // Under the control's own caption; the control may stand in a holder of the caller's.
+  PageColumn& Row(const char* name) { return Row(RowLabel::OfField(), name); }
+  PageColumn& Row(const char* name, QWidget* holder);
 
   // A control over the whole width that needs no label: a check box, a button, an option array.
   PageColumn& Alone(const char* name);
@@ -107,9 +124,13 @@ class PageColumn {
   SectionState& Current();
   void Add(QWidget* label, QWidget* fields, std::function<bool()> shown);
   std::function<bool()> AnyVisible(const std::vector<Field>& fields) const;
+  void Cover(QBoxLayout& place, QWidget& covered, const QString& label, const std::string& cover);
   QString CalledBy(const RowLabel& label, const NamedControl& first) const;
+  QWidget* MakeOptionColumn(const OptionColumn& column, std::function<bool()> shown);
   QWidget* MakeFields(const QString& label, const std::vector<Field>& fields, QWidget*& first);
   QWidget* MakeField(const QString& label, const Field& field, QWidget*& first);
+  PageColumn& AddRow(const RowLabel& label, const NamedControl& control, QWidget* fields, QWidget& first,
+                     std::function<bool()> shown);
   QLabel* MakeRowLabel(const RowLabel& label, const NamedControl& first);
 
   Bindings& bindings_;
@@ -117,6 +138,7 @@ class PageColumn {
   QWidget* holder_;
   QGridLayout* grid_;
   std::shared_ptr<State> state_;
+  const Frame* within_ = nullptr;
 };
 
 class Page {
@@ -127,7 +149,11 @@ class Page {
   // The next column to the right; its share of the width, and how wide it is at least.
   PageColumn& Column(int share = 1, int least = 0);
 
-  // Ends the page: what shows while no section does. The widget scrolls where the window is too small.
+  // The columns take the height of the page, for what should be as tall as it can.
+  void Fill() { fills_ = true; }
+
+  // Ends the page: what shows while no section does. Below the columns stands the quiet line. The widget
+  // scrolls where the window is too small.
   QScrollArea* Finish(const QString& calm);
 
  private:
@@ -135,8 +161,10 @@ class Page {
   const Form& form_;
   QScrollArea* area_;
   QWidget* content_;
+  QVBoxLayout* down_;
   QHBoxLayout* across_;
   std::deque<PageColumn> columns_;
+  bool fills_ = false;
 };
 
 }  // namespace ovl

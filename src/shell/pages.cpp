@@ -1,18 +1,13 @@
 #include "shell/pages.h"
 
-#include <QHBoxLayout>
-#include <QLabel>
 #include <QScrollArea>
-#include <QScrollBar>
-#include <QVBoxLayout>
+#include <string>
 
 #include "shell/alarm_page.h"
 #include "shell/exception_page.h"
 #include "shell/layout.h"
-#include "shell/platform/text_codec.h"
+#include "shell/register_page.h"
 #include "shell/text_rows.h"
-#include "shell/theme.h"
-#include "shell/widgets.h"
 
 namespace ovl {
 namespace {
@@ -20,66 +15,38 @@ namespace {
 const QString kCarriedThrough =
     QStringLiteral("This firmware's settings of this tab are carried through unchanged.");
 
-constexpr int kRegisterListWidth = 270;
-
-QWidget* RegisterList(Bindings& bindings) {
-  auto& form = bindings.Model().frmMain;
-  auto* side = new QWidget;
-  auto* down = new QVBoxLayout(side);
-  down->setContentsMargins(kMargin, kMargin, 0, kMargin);
-  down->setSpacing(kRowGap);
-  auto* title = TitleLabel(QStringLiteral("Register"));
-  auto* list = bindings.Tall(bindings.Named(form.form, "ComboReg"), title->text());
-  title->setBuddy(list);
-  auto* count = MutedLabel({});
-  down->addWidget(title);
-  down->addWidget(list, 1);
-  down->addWidget(count);
-  side->setFixedWidth(kMargin + kRegisterListWidth);
-  bindings.Follow([count, &form, entries = Shadow<std::size_t>()]() mutable {
-    if (!entries.Update(form.ComboReg.items.size())) return false;
-    count->setText(
-        QStringLiteral("Type to find, Enter picks. %1 registers.").arg(form.ComboReg.items.size()));
-    return true;
-  });
-  return side;
-}
-
-// The options of the selected register, or the calm line of one that has none.
-QWidget* RegisterOptions(Bindings& bindings) {
-  auto& form = bindings.Model().frmMain;
-  Page page(bindings, form.form, kColumnGap);
-  auto& column = page.Column();
-  const auto without_options = [&form] {
-    return std::none_of(form.frmAddress.begin(), form.frmAddress.end(),
-                        [](const Frame& frame) { return frame.visible; });
-  };
-  column.OwnSection([&form] { return FromWindows1252(form.ComboReg.Text()); },
-                    [&form, without_options] { return form.ComboReg.position >= 0 && without_options(); });
-  column.Note(QStringLiteral("This register has no options of its own."));
-  return page.Finish(QStringLiteral("No register is selected."));
-}
-
-QWidget* RegisterSelectPage(Bindings& bindings) {
-  auto* page = new QWidget;
-  auto* across = new QHBoxLayout(page);
-  across->setContentsMargins(0, 0, 0, 0);
-  across->setSpacing(0);
-  across->addWidget(RegisterList(bindings));
-  across->addWidget(RegisterOptions(bindings), 1);
-  return page;
+std::string Member(const char* array, std::size_t index) {
+  return std::string(array) + "(" + std::to_string(index) + ")";
 }
 
 QWidget* TextSetupPage(Bindings& bindings) {
   Page page(bindings, bindings.Model().frmMain.form);
-  page.Column().Section("Frame3");
+  auto& column = page.Column();
+  column.Section("Frame3");
+  const auto& lists = bindings.Model().frmMain.ComboDIP;
+  for (std::size_t list = 0; list < lists.size(); ++list) column.Row(Member("ComboDIP", list).c_str());
   return page.Finish(kCarriedThrough);
 }
 
 QWidget* CommunicationPage(Bindings& bindings) {
   Page page(bindings, bindings.Model().frmMain.form);
-  page.Column().Section("Frame4");
-  page.Column().Section("Frame13");
+  page.Column()
+      .Section("Frame4")
+      .Row("ComboCOMM(0)")
+      .Row("ComboCOMM(1)")
+      .Row("ComboCOMM(2)")
+      .Row(RowLabel::OfField(), {Field::Covered("ComboCOMM(7)", "ComboNone(0)")})
+      .Row("ComboCOMM(3)")
+      .Row("ComboCOMM(4)")
+      .Row("ComboCOMM(5)")
+      .Row("ComboCOMM(8)")
+      .Row("ComboCOMM(6)");
+  page.Column()
+      .Section("Frame13")
+      .Row("ComboCOMM(9)")
+      .Row(RowLabel::OfField(), {Field::Covered("ComboCOMM(10)", "ComboNone(1)")})
+      .Row(RowLabel::OfField(), {Field::Covered("ComboCOMM(11)", "ComboNone(2)")})
+      .Row("ComboCOMM(12)");
   return page.Finish(kCarriedThrough);
 }
 
@@ -87,16 +54,18 @@ QWidget* TimeLanguagePage(Bindings& bindings) {
   Page page(bindings, bindings.Model().frmMain.form);
   auto& column = page.Column();
   column.Section("Frame2");
+  const auto& lists = bindings.Model().frmMain.ComboTD;
+  for (std::size_t list = 0; list < lists.size(); ++list) column.Row(Member("ComboTD", list).c_str());
   AddTitleRows(bindings, column);
-  page.Column().Section("Frame12");
+  page.Column().Section("Frame12").Row("ComboLang");
   return page.Finish(kCarriedThrough);
 }
 
 }  // namespace
 
 std::vector<QWidget*> BuildPages(Bindings& bindings) {
-  return {RegisterSelectPage(bindings), TextSetupPage(bindings),      BuildAlarmPage(bindings),
-          CommunicationPage(bindings),  BuildExceptionPage(bindings), TimeLanguagePage(bindings),
+  return {BuildRegisterPage(bindings), TextSetupPage(bindings),      BuildAlarmPage(bindings),
+          CommunicationPage(bindings), BuildExceptionPage(bindings), TimeLanguagePage(bindings),
           BuildRemotePage(bindings)};
 }
 

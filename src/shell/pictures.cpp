@@ -2,7 +2,10 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QTabWidget>
+#include <algorithm>
+#include <array>
 
 #include "image/record_stream.h"
 #include "shell/platform/text_codec.h"
@@ -16,6 +19,8 @@ namespace {
 constexpr ClockTime kPictureTime{2026, 11, 24, 14, 7, 9};
 constexpr std::size_t kPartOfUpload = 2870;
 constexpr char kAck = '\x06';
+constexpr int kRegisterTab = 0;
+constexpr int kCommunicationTab = 3;
 constexpr int kRemoteTab = 6;
 constexpr int kClockTicks = 10;  // until the clock lists are set
 
@@ -67,6 +72,7 @@ class Photographer {
     MakeSampleSettings(program_);
     TakeTabs();
     TakeTextWindows();
+    TakeRegisters();
     TakePortSettings();
     TakeLink();
     TakeScan();
@@ -111,7 +117,80 @@ class Photographer {
     program_.Act(CloseEvent{&App().frmView.form});
   }
 
+  // Registers whose default image the program folder lacks are left out: a pick would end the program.
+  bool PickRegister(std::string_view name) {
+    auto& list = App().frmMain.ComboReg;
+    const auto found = std::find(list.items.begin(), list.items.end(), name);
+    const QDir images(QFile::decodeName(App().platform.program_folder.c_str()));
+    const auto image = QStringLiteral("%1/%2/%3.bin")
+                           .arg(QString::fromStdString(App().firmware.version),
+                                QString::fromStdString(App().firmware.release),
+                                QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+    if (found == list.items.end() || !images.exists(image)) return false;
+    program_.Act(PickEvent{&list, static_cast<int>(found - list.items.begin())});
+    return true;
+  }
+
+  void Choose(OptionArray& array, int element) { program_.Act(ClickEvent{OptionElement{&array, element}}); }
+
+  void TakeRegisters() {
+    auto& form = App().frmMain;
+    auto& tabs = Main().Tabs();
+    tabs.setCurrentIndex(kRegisterTab);
+    for (const std::string_view name : {"IBM", "NCR", "TCPIP", "UNIWELL", "GILBARCO"}) {
+      if (!PickRegister(name)) continue;
+      if (name == "IBM") Choose(form.IBMOP, 0);
+      if (name == "NCR") Choose(form.NCROP, 1);
+      if (name == "UNIWELL") Choose(form.UNIWOP, 1);
+      if (name == "GILBARCO") Choose(form.OpGilbraco, 5);
+      Take(Main(), QStringLiteral("register_") + QString::fromLatin1(name.data()).toLower());
+    }
+    if (PickRegister("DRESSER WAYNE")) {
+      Choose(form.POSOP, 0);
+      Choose(form.TEROP, 2);
+      Take(Main(), QStringLiteral("register_dresser_wayne"));
+      tabs.setCurrentIndex(kCommunicationTab);
+      Take(Main(), QStringLiteral("communication_forced"));
+      tabs.setCurrentIndex(kRegisterTab);
+    }
+    TakeMicros();
+    TakeSubMenus();
+    PickRegister("GENERIC");
+  }
+
+  void TakeMicros() {
+    constexpr std::array kPanels = {"", "micros_idn", "micros_isn", "micros_3700"};
+    if (!PickRegister("MICROS")) return;
+    for (int mode = 0; mode < static_cast<int>(kPanels.size()); ++mode) {
+      Choose(App().frmMain.OpMicros, mode);
+      const auto name = QString::fromLatin1(kPanels.at(static_cast<std::size_t>(mode)));
+      if (!name.isEmpty()) TakeForm(App().frmMicros.form, name);
+    }
+    Take(Main(), QStringLiteral("register_micros"));
+    program_.Act(CloseEvent{&App().frmMicros.form});
+  }
+
+  void TakeSubMenus() {
+    constexpr std::size_t kCasioFrame = 34, kSharpFrame = 46;
+    constexpr int kWithPort = 18, kFourWays = 12, kTerminal = 22;
+    auto& form = App().frmMain;
+    if (PickRegister("CASIO") && form.frmAddress[kCasioFrame].visible) {
+      Choose(form.CASIOOP, kWithPort);
+      Take(Main(), QStringLiteral("register_casio"));
+      TakeForm(App().FrmSubMenu.form, QStringLiteral("sub_menu_casio"));
+    }
+    if (PickRegister("SHARP") && form.frmAddress[kSharpFrame].visible) {
+      Choose(form.SharpOP, kFourWays);
+      TakeForm(App().FrmSubMenu.form, QStringLiteral("sub_menu_sharp"));
+      Choose(form.SharpOP, kTerminal);
+      TakeForm(App().FrmSubMenu.form, QStringLiteral("sub_menu_terminal"));
+      Take(Main(), QStringLiteral("register_sharp"));
+    }
+    program_.Act(CloseEvent{&App().FrmSubMenu.form});
+  }
+
   void TakePortSettings() {
+    Main().Tabs().setCurrentIndex(kRemoteTab);
     Click(App().frmMain.cmdConnect);
     TakeForm(App().frmSettSR.form, QStringLiteral("port_settings"));
     Take(Main(), QStringLiteral("held_back"));

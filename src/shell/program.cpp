@@ -3,8 +3,10 @@
 #include <QApplication>
 #include <QFile>
 
+#include "shell/also_stored.h"
 #include "shell/boxes.h"
 #include "shell/platform/system_clock.h"
+#include "shell/platform/text_codec.h"
 #include "shell/status_strip.h"
 #include "start_up.h"
 
@@ -77,8 +79,17 @@ void Program::CollectTimers() {
 }
 
 Outcome Program::Act(const Event& event) {
-  const auto outcome = Dispatch(app_, event);
+  const auto outcome = windows_ && !app_.handling && IsAct(event) ? ActAndTell(event) : Dispatch(app_, event);
   Follow(outcome);
+  return outcome;
+}
+
+Outcome Program::ActAndTell(const Event& event) {
+  const auto before = app_.image;
+  const auto outcome = Dispatch(app_, event);
+  if (outcome == Outcome::kDone) {
+    windows_->SetQuietLine(FromWindows1252(AlsoStored(app_, event, before)));
+  }
   return outcome;
 }
 

@@ -47,6 +47,7 @@ class Program {
   };
 
   void FillPlatform();
+  Outcome ActAndTell(const Event& event);
   void CollectTimers();
   void Follow(Outcome outcome);
   void FollowTimer(TimerState& timer);

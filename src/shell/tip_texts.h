@@ -1,4 +1,4 @@
-// The tips of the panels and of the windows, told in an installer's words.
+// The tips of the register options, of the setting panels and of the windows, told in an installer's words.
 #pragma once
 
 #include <span>
@@ -11,6 +11,8 @@ struct Tip {
   const char* text;
 };
 
+std::span<const Tip> RegisterTips();
+std::span<const Tip> SettingTips();
 std::span<const Tip> TextTips();
 
 }  // namespace ovl

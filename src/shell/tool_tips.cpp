@@ -51,7 +51,7 @@ constexpr std::array kTips{
 };
 
 const Tip* FindTip(std::string_view form, std::string_view control) {
-  for (const auto tips : {std::span<const Tip>(kTips), TextTips()}) {
+  for (const auto tips : {std::span<const Tip>(kTips), RegisterTips(), SettingTips(), TextTips()}) {
     const auto found = std::find_if(
         tips.begin(), tips.end(), [&](const Tip& tip) { return tip.form == form && tip.control == control; });
     if (found != tips.end()) return &*found;

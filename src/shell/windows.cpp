@@ -1,12 +1,29 @@
 #include "shell/windows.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <algorithm>
 
 #include "shell/link_windows.h"
+#include "shell/mnemonics.h"
+#include "shell/register_windows.h"
 #include "shell/status_strip.h"
 #include "shell/text_windows.h"
 
 namespace ovl {
+namespace {
+
+constexpr int kNesting = 12;  // layouts within layouts, at the most
+
+// Layouts learn of a change from the inside out, one level in each round of events. Settled at once, no state
+// on the way is painted.
+void SettleLayouts() {
+  for (int level = 0; level < kNesting; ++level) {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+  }
+}
+
+}  // namespace
 
 Windows::Windows(Application& app, ActFunction act)
     : app_(app),
@@ -14,7 +31,11 @@ Windows::Windows(Application& app, ActFunction act)
       main_(std::make_unique<MainWindow>(bindings_)) {
   for (auto* build : {BuildPortSettingsWindow, BuildScanProgressWindow, BuildTransferEndWindow,
                       BuildTextEntryWindow, BuildRangeWindow, BuildViewerWindow}) {
-    forms_.push_back({build(bindings_, main_.get()), {}});
+    forms_.push_back({build(bindings_, main_.get()), false});
+  }
+  for (auto* build : {BuildMicrosWindow, BuildSubMenuWindow}) {
+    forms_.push_back({build(bindings_, main_.get()), true});
+    forms_.back().window->StandBeside();
   }
   main_->held_back = [this] {
     if (auto* front = Front(); front != main_.get()) front->activateWindow();
@@ -23,8 +44,16 @@ Windows::Windows(Application& app, ActFunction act)
 
 void Windows::Refresh() {
   const bool reshaped = bindings_.Refresh();
-  if (reshaped) main_->RenewMnemonics();
+  if (reshaped) RenewMnemonics();
   ShowForms();
+  if (reshaped) SettleLayouts();
+}
+
+void Windows::RenewMnemonics() {
+  main_->RenewMnemonics();
+  for (const auto& form : forms_) {
+    if (form.window->isVisible()) AssignPageMnemonics(*form.window, {});
+  }
 }
 
 void Windows::ShowForms() {
@@ -52,7 +81,8 @@ void Windows::HideAll() {
 
 QWidget* Windows::Front() const {
   for (const auto& form : forms_) {
-    if (form.window->isVisible()) return form.window;
+    const bool in_front = !form.beside || form.window->isActiveWindow();
+    if (form.window->isVisible() && in_front) return form.window;
   }
   return main_.get();
 }

@@ -31,13 +31,19 @@ class Windows {
   FormWindow* WindowOf(const Form& form) const;
   const Bindings& Controls() const { return bindings_; }
 
+  // What the page in front says of the last act, from the next refresh on.
+  void SetQuietLine(const QString& words) { bindings_.SetQuietLine(words); }
+
  private:
   struct Follower {
     FormWindow* window;
-    FocusFollower focus;
+    bool beside;  // stands beside the main window, which can be worked in meanwhile
+    FocusFollower focus = {};
   };
 
   void ShowForms();
+
+  void RenewMnemonics();
 
   Application& app_;
   Bindings bindings_;

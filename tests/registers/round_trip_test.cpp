@@ -1,5 +1,7 @@
-// A register's default image, picked, loaded and composed again.
+// A register's default image, picked, loaded whole and composed again, for every firmware and every name.
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 #include "catalogue/firmware.h"
 #include "default_images.h"
@@ -10,63 +12,53 @@
 namespace ovl::testing {
 namespace {
 
-FirmwareId IdOf(const FirmwareEntry& entry) {
-  return {std::string(entry.version), std::string(entry.release)};
+class EveryFirmware : public ::testing::TestWithParam<FirmwareEntry> {};
+
+std::string ImagePath(const Harness& program, const FirmwareId& firmware, std::string name) {
+  if (firmware.IsV1400()) {
+    std::replace(name.begin(), name.end(), '/', ' ');
+    std::replace(name.begin(), name.end(), ',', ' ');
+  }
+  return program.folder.File(firmware.version + "/" + firmware.release + "/" + name + ".bin");
 }
 
-TEST(DefaultImages, EveryPickGivesWhatItsImageHoldsAndTwiceTheSame) {
-  int picks = 0;
-  for (const auto& entry : FirmwareTable()) {
-    if (!entry.in_menu) continue;
-    const auto firmware = IdOf(entry);
-    Harness program(firmware);
-    WriteDefaultImages(program.folder.Path().string(), firmware);
-    ASSERT_EQ(program.Start(), Outcome::kDone);
-    const int names = static_cast<int>(program.app.frmMain.ComboReg.items.size());
-    for (int code = 0; code < names; ++code) {
-      SCOPED_TRACE(firmware.Joined() + " " +
-                   program.app.frmMain.ComboReg.items[static_cast<std::size_t>(code)]);
-      ASSERT_EQ(program.Pick("ComboReg", code), Outcome::kDone);
-      EXPECT_EQ(program.app.image[FieldId::REGTYPE], ByteToHex(code));
-      EXPECT_EQ(program.app.frmMain.ComboReg.position, code);
-      const auto once = program.app.image;
-      ASSERT_EQ(program.Pick("ComboReg", code), Outcome::kDone);
-      EXPECT_TRUE(program.app.image == once);
-      ++picks;
-    }
-    EXPECT_TRUE(program.NoBoxLeft());
+TEST_P(EveryFirmware, PicksAndLoadsItsDefaultImagesWithoutChangingThem) {
+  const FirmwareId firmware{std::string(GetParam().version), std::string(GetParam().release)};
+  Harness program(firmware);
+  WriteDefaultImages(program.folder.Path().string(), firmware);
+  ASSERT_EQ(program.Start(), Outcome::kDone);
+  auto& app = program.app;
+  const auto names = app.frmMain.ComboReg.items;
+  ASSERT_FALSE(names.empty());
+  for (std::size_t code = 0; code < names.size(); ++code) {
+    SCOPED_TRACE(names[code]);
+    ASSERT_EQ(program.Pick("ComboReg", static_cast<int>(code)), Outcome::kDone);
+    EXPECT_EQ(app.image[FieldId::REGTYPE], ByteToHex(static_cast<int>(code)));
+    const auto once = app.image;
+    ASSERT_EQ(program.Pick("ComboReg", static_cast<int>(code)), Outcome::kDone);
+    EXPECT_TRUE(app.image == once);
+    EXPECT_EQ(app.frmMain.ComboReg.position, static_cast<int>(code));
+
+    const auto path = ImagePath(program, firmware, names[code]);
+    program.file_answers.emplace_back(path);
+    ASSERT_EQ(program.Click("OpenMenu"), Outcome::kDone);
+    EXPECT_EQ(SectionsToStream(app) + "\r\n", ReadWhole(path));
   }
-  EXPECT_EQ(picks, 1552);
+  EXPECT_TRUE(program.NoBoxLeft());
 }
 
-TEST(DefaultImages, LoadedWholeAndAppliedToAllPanelsEveryImageIsUnchanged) {
+std::vector<FirmwareEntry> MenuEntries() {
+  std::vector<FirmwareEntry> entries;
   for (const auto& entry : FirmwareTable()) {
-    if (!entry.in_menu) continue;
-    const auto firmware = IdOf(entry);
-    Harness program(firmware);
-    WriteDefaultImages(program.folder.Path().string(), firmware);
-    ASSERT_EQ(program.Start(), Outcome::kDone);
-    auto& app = program.app;
-    const auto names = app.frmMain.ComboReg.items;
-    for (std::size_t code = 0; code < names.size(); ++code) {
-      SCOPED_TRACE(firmware.Joined() + " " + names[code]);
-      app.frmMain.ComboReg.position = static_cast<int>(code);
-      DispatchStart(app, [](Application& inside) { (void)inside; });
-      program.file_answers.push_back(
-          program.folder.File(firmware.version + "/" + firmware.release + "/" + [&] {
-            auto name = names[code];
-            if (firmware.IsV1400()) {
-              for (auto& character : name) character = character == '/' || character == ',' ? ' ' : character;
-            }
-            return name;
-          }() + ".bin"));
-      const auto path = *program.file_answers.back();
-      ASSERT_EQ(program.Click("OpenMenu"), Outcome::kDone);
-      EXPECT_TRUE(program.NoBoxLeft());
-      EXPECT_EQ(SectionsToStream(app) + "\r\n", ReadWhole(path));
-    }
+    if (entry.in_menu) entries.push_back(entry);
   }
+  return entries;
 }
+
+INSTANTIATE_TEST_SUITE_P(DefaultImages, EveryFirmware, ::testing::ValuesIn(MenuEntries()),
+                         [](const auto& firmware) {
+                           return std::string(firmware.param.version).append(firmware.param.release);
+                         });
 
 }  // namespace
 }  // namespace ovl::testing

@@ -1,0 +1,18 @@
+// What an act stored beyond itself: found by comparing the image before and after, so that no rule of the
+// panels is written twice.
+#pragma once
+
+#include <string>
+
+#include "core/gate.h"
+
+namespace ovl {
+
+// Whether the event is a person's act on a control. Others leave standing what was told last.
+bool IsAct(const Event& event);
+
+// One line of the model's own captions and entries, such as "Also stored: RX BAUDRATE AUTO, TX BAUDRATE
+// 9600."; empty if the act stored nothing beyond itself. What brings in a whole image tells nothing.
+std::string AlsoStored(const Application& app, const Event& event, const ConfigImage& before);
+
+}  // namespace ovl
