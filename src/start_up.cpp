@@ -110,7 +110,9 @@ void WireTextForms(Application& app) {
   auto& range = app.frmSetRange;
   range.form.load = frmSetRange_Load;
   range.form.unload = frmSetRange_Unload;
+  int field = 0;
   for (auto* box : {&range.Range_Hi, &range.SubRange_Hi, &range.Range_Low, &range.SubRange_Low}) {
+    box->index = field++;
     box->leave = RangeField_Leave;
   }
   range.ComboDec.handler = ComboDec_Click;

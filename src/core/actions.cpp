@@ -66,6 +66,11 @@ void UnloadForm(Application& app, Form& form) {
   Run(app, form.unload, 0);
 }
 
+void ReleaseMain(Application& app) {
+  app.frmMain.form.enabled = !app.frmSettSR.form.loaded && !app.frmSetEXCPSTR.form.loaded &&
+                             !app.frmSetRange.form.loaded && !app.frmOK_buttom.form.loaded;
+}
+
 void SetFocus(Form& form, Face& control) {
   form.focus = &control;
   ++form.focus_requests;

@@ -27,6 +27,9 @@ void LoadForm(Application& app, Form& form);
 void ShowForm(Application& app, Form& form);
 void HideForm(Form& form);
 void UnloadForm(Application& app, Form& form);
+// The main form can be used again, unless another of the windows that hold it back is still there.
+void ReleaseMain(Application& app);
+
 void SetFocus(Form& form, Face& control);
 
 // Shows a box and returns when it is closed.

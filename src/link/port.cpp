@@ -105,7 +105,7 @@ void frmSettSR_Load(Application& app, int) {
 }
 
 void frmSettSR_Unload(Application& app, int) {
-  app.frmMain.form.enabled = true;
+  ReleaseMain(app);
 }
 
 void Comport_Select_Click(Application& app, int) {

@@ -195,7 +195,7 @@ void frmOK_buttom_Shown(Application& app, int) {
 }
 
 void frmOK_buttom_Unload(Application& app, int) {
-  app.frmMain.form.enabled = true;
+  ReleaseMain(app);
   app.frmMain.cmdConnect.enabled = true;
   app.frmMain.CmdUpDow[kRemote].enabled = true;
 }

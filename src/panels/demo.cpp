@@ -56,6 +56,7 @@ void ApplyDemo(Application& app) {
     form.DemoMode.checked = HasBit(byte, kOnBit);
     DemoMode_Click(app, 0);
   }
+  if (StoresNothing(app.firmware)) return;
   if (!HasNewForm(app.firmware)) {
     AssignPosition(app, form.CharacterList, (byte & 0xBF) == 1 ? 0 : 1);
     return;

@@ -30,6 +30,7 @@ void ApplyDvr(Application& app) {
   const int destination = HexToInt(app.image[HIST_DEST_ID]) - 1;
   const int source = HexToInt(app.image[HIST_SRC_ID]) - 1;
   ChooseElement(app, form.OpDVR, recorder);
+  if (!IsKnownFamily(app.firmware.version)) return;
   const bool both = HasSecondPair(app.firmware);
   if (recorder == 1 || !both) EnablePair(form, 0, recorder == 1);
   if (recorder == 2 && both) EnablePair(form, 1, true);

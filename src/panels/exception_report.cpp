@@ -10,11 +10,12 @@ constexpr int kDuplicateLine = 2;
 
 }  // namespace
 
-void ApplyExceptionReport(Application& app) {
-  const PanelsQuiet quiet(app);
-  auto& lists = app.frmMain.ComboExcepRe;
-  AssignPosition(app, lists[1], app.image[FieldId::TIMESTAMP_ENA] == "00" ? 0 : 1);
-  AssignPosition(app, lists[2], HexToInt(app.image[FieldId::DUPLINE_BAK]));
+void ApplyTimeStamp(Application& app) {
+  AssignPosition(app, app.frmMain.ComboExcepRe[1], app.image[FieldId::TIMESTAMP_ENA] == "00" ? 0 : 1);
+}
+
+void ApplyDuplicateLine(Application& app) {
+  AssignPosition(app, app.frmMain.ComboExcepRe[2], HexToInt(app.image[FieldId::DUPLINE_BAK]));
 }
 
 void ComboExcepRe_Click(Application& app, int index) {

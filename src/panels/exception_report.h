@@ -5,7 +5,8 @@
 
 namespace ovl {
 
-void ApplyExceptionReport(Application& app);
+void ApplyTimeStamp(Application& app);
+void ApplyDuplicateLine(Application& app);
 void ComboExcepRe_Click(Application& app, int index);
 
 }  // namespace ovl

@@ -84,8 +84,9 @@ const char* DecimalSeparator(const Application& app) {
 
 void ApplyExceptionPanel(Application& app) {
   const PanelsQuiet quiet(app);
-  ApplyExceptionReport(app);
+  ApplyTimeStamp(app);
   AssignPosition(app, app.frmMain.ComboExcp[0], 0);
+  ApplyDuplicateLine(app);
   ApplyScrollMatching(app);
 }
 

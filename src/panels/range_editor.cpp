@@ -24,14 +24,9 @@ std::string Normalised(std::string_view text, std::size_t width) {
   return digits.substr(0, width);
 }
 
-void NormaliseFields(Application& app) {
-  std::size_t field = 0;
-  for (auto* box : Fields(app.frmSetRange)) {
-    const auto width = WidthOf(app, field);
-    const bool integers = field++ % 2 == 0;
-    if (integers && !IsKnownFamily(app.firmware.version)) continue;
-    box->text = Normalised(box->text, width);
-  }
+void NormaliseField(Application& app, std::size_t field) {
+  auto& text = Fields(app.frmSetRange).at(field)->text;
+  text = Normalised(text, WidthOf(app, field));
 }
 
 void ShowSeparator(Application& app) {
@@ -61,8 +56,10 @@ std::string Part(const std::string& text, std::size_t first, std::size_t count) 
 void frmSetRange_Load(Application& app, int) {
   auto& dialog = app.frmSetRange;
   const auto integers = RangePlaceOf(app).integers;
-  dialog.Range_Hi.max_length = integers;
-  dialog.Range_Low.max_length = integers;
+  if (IsKnownFamily(app.firmware.version)) {
+    dialog.Range_Hi.max_length = integers;
+    dialog.Range_Low.max_length = integers;
+  }
   const auto fields = Fields(dialog);
   for (std::size_t value = 0; value < 2; ++value) {
     const auto& shown = app.frmMain.TextRANGE[value].caption;
@@ -74,7 +71,7 @@ void frmSetRange_Load(Application& app, int) {
 }
 
 void frmSetRange_Unload(Application& app, int) {
-  app.frmMain.form.enabled = true;
+  ReleaseMain(app);
 }
 
 void cmdSetRange_Click(Application& app, int) {
@@ -84,8 +81,10 @@ void cmdSetRange_Click(Application& app, int) {
   ShowSeparator(app);
 }
 
-void RangeField_Leave(Application& app, int) {
-  NormaliseFields(app);
+void RangeField_Leave(Application& app, int index) {
+  const auto field = static_cast<std::size_t>(index);
+  const bool integers = field % 2 == 0;
+  if (!integers || IsKnownFamily(app.firmware.version)) NormaliseField(app, field);
 }
 
 // The separator holds for all slots and is stored at once.
@@ -97,15 +96,15 @@ void ComboDec_Click(Application& app, int) {
 
 void RangeClear_Click(Application& app, int) {
   auto& dialog = app.frmSetRange;
-  for (auto* box : Fields(dialog)) box->text.clear();
-  NormaliseFields(app);
+  std::size_t field = 0;
+  for (auto* box : Fields(dialog)) box->text.assign(WidthOf(app, field++), '0');
   AssignPosition(app, dialog.ComboDec, 0);
   dialog.lbDec.caption = ".";
 }
 
 void RangeSet_Click(Application& app, int) {
   auto& dialog = app.frmSetRange;
-  NormaliseFields(app);
+  for (std::size_t field = 0; field < 4; ++field) NormaliseField(app, field);
   auto& shown = app.frmMain.TextRANGE;
   shown[0].caption = dialog.Range_Hi.text + dialog.lbDec.caption + dialog.SubRange_Hi.text;
   shown[1].caption = dialog.Range_Low.text + dialog.lbDec.caption + dialog.SubRange_Low.text;

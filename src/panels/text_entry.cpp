@@ -28,6 +28,7 @@ void EnterText(Application& app, TextTarget target) {
   auto& dialog = app.frmSetEXCPSTR;
   app.TextEntryMode = static_cast<int>(target);
   dialog.form.caption = kCaptions.at(static_cast<std::size_t>(app.TextEntryMode));
+  dialog.Text1.text = TargetOf(app).text;
   ShowForm(app, dialog.form);
   SetFocus(dialog.form, dialog.Text1);
 }
@@ -48,12 +49,11 @@ std::string PaddedText(std::string_view text) {
 }
 
 void frmSetEXCPSTR_Load(Application& app, int) {
-  app.frmSetEXCPSTR.Text1.text = TargetOf(app).text;
   app.frmMain.form.enabled = false;
 }
 
 void frmSetEXCPSTR_Unload(Application& app, int) {
-  app.frmMain.form.enabled = true;
+  ReleaseMain(app);
 }
 
 void TextEntrySet_Click(Application& app, int) {

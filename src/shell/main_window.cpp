@@ -54,10 +54,10 @@ void MainWindow::BuildTabs() {
   });
   bindings_.Follow([this, &model, captions = Shadow<std::vector<std::string>>()]() mutable {
     if (!captions.Update(model.captions)) return false;
-    for (int tab = 0; tab < tabs_->count(); ++tab) {
-      const auto caption = FromWindows1252(model.captions.at(static_cast<std::size_t>(tab)));
-      tabs_->setTabText(tab, caption);
-      tabs_->widget(tab)->setAccessibleName(caption.trimmed());
+    for (int at = 0; at < tabs_->count(); ++at) {
+      const auto caption = FromWindows1252(model.captions.at(static_cast<std::size_t>(at)));
+      tabs_->setTabText(at, caption);
+      tabs_->widget(at)->setAccessibleName(caption.trimmed());
     }
     return true;
   });

@@ -160,7 +160,7 @@ TEST(Variants, WhatIsHiddenKeepsItsBytes) {
 
 TEST(Variants, TheCompactFormIsALaterReleaseWithLessOnIt) {
   const FirmwareId runs_as{"V1400", "R7"};
-  Installed program(runs_as, Images::kFirstRegister);
+  Installed program(runs_as, Images::kOwn);
   WriteWhole(program.PathOf("GENERIC"), FirstImage(runs_as));
   program.settings["Version"] = "V1410";
   program.settings["Release"] = "R1";
@@ -191,7 +191,7 @@ TEST(Variants, TheCompactFormIsALaterReleaseWithLessOnIt) {
   EXPECT_EQ(main.ComboDIP[8].caption, main.Label1.at(62).caption);
   ExpectLists(program, {"vista", "type"});
 
-  Installed other(FirmwareId{"V1400", "R2"}, Images::kFirstRegister);
+  Installed other(FirmwareId{"V1400", "R2"}, Images::kOwn);
   WriteWhole(other.PathOf("GENERIC"), FirstImage({"V1400", "R2"}));
   other.settings["Version"] = "V1410";
   ASSERT_EQ(other.Start(), Outcome::kDone);

@@ -49,7 +49,7 @@ inline std::string Characters(int first, int last) {
 
 class PanelProgram : public Installed {
  public:
-  explicit PanelProgram(const FirmwareId& firmware) : Installed(firmware, Images::kFirstRegister) {
+  explicit PanelProgram(const FirmwareId& firmware) : Installed(firmware, Images::kOwn) {
     WriteWhole(PathOf("GENERIC"), FirstImage(firmware));
     EXPECT_EQ(Start(), Outcome::kDone);
     Mark();

@@ -75,10 +75,10 @@ TEST(Alarms, ADurationIsStoredAsItsCounterAndItsPlace) {
 TEST(Alarms, AnUnknownFamilyKeepsItsDuration) {
   Harness program({"V1500", "R1"});
   ASSERT_EQ(program.Start(), Outcome::kDone);
-  program.app.image[ALMSTRUCT_BAK] = "01FF0007";
+  program.app.image[ALMSTRUCT_BAK] = "01FF00";
   ASSERT_EQ(program.Pick("ComboALM(0)", 0), Outcome::kDone);
   ASSERT_EQ(program.Pick("ComboALM(3)", 5), Outcome::kDone);
-  EXPECT_EQ(program.app.image[ALMSTRUCT_BAK], "01FF0007");
+  EXPECT_EQ(program.app.image[ALMSTRUCT_BAK], "01FF00");
 }
 
 TEST(Alarms, TheNormalStateIsABitOfTheAlarmButForTheNinth) {

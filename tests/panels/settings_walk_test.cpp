@@ -118,7 +118,7 @@ class EveryPosition {
 
   void SetGlobals(int round) {
     auto& recorders = writer_.ArrayOf("OpDVR");
-    const int recorder = round % (recorders.elements[2].visible ? 3 : 2);
+    const int recorder = round % 3 % (recorders.elements[2].visible ? 3 : 2);
     ASSERT_EQ(writer_.Pick("OpDVR", recorder), Outcome::kDone);
     if (!writer_.app.frmMain.DemoMode.checked) writer_.Click("DemoMode");
     for (const auto& selection : kGlobal) Set(selection, round);
@@ -304,8 +304,12 @@ class RandomWalk {
             << act << " wrote " << row.name << " " << was << " " << is;
         EXPECT_TRUE(is.size() == was.size() || (row.id == BLNKRTS_BAK && was.empty()))
             << act << " " << row.name;
-        if (EntryCount(row.id) == kAlarms) EXPECT_EQ(entry, program_.At("ComboALM(0)") + 1) << act;
-        if (EntryCount(row.id) == kExceptions) EXPECT_EQ(entry, program_.At("ComboExcp(0)") + 1) << act;
+        if (EntryCount(row.id) == kAlarms) {
+          EXPECT_EQ(entry, program_.At("ComboALM(0)") + 1) << act;
+        }
+        if (EntryCount(row.id) == kExceptions) {
+          EXPECT_EQ(entry, program_.At("ComboExcp(0)") + 1) << act;
+        }
       }
     }
     if (changed) before_ = program_.app.image;

@@ -117,7 +117,7 @@ class WindowsTest : public ::testing::Test {
 
   void OpenAndHold() {
     ClickOn("cmdConnect");
-    ClickOn("cmdSET");
+    ClickOn("frmSettSR.cmdSET");
     ClickOn("CmdUpDow(4)");
     Unit("\x06");
     program_->Act(TickEvent{&App().frmMain.General_timer});
@@ -309,9 +309,9 @@ TEST_F(WindowsTest, FormsComeAndGoAsTheModelSays) {
   ClickOn("cmdConnect");
   EXPECT_TRUE(settings->isVisible());
   EXPECT_FALSE(Main().Tabs().isEnabled());
-  EXPECT_TRUE(Find<QPushButton>("cmdSET").isEnabled());
-  EXPECT_TRUE(Find<QPushButton>("cmdSET").isDefault());
-  EXPECT_EQ(settings->focusWidget(), &Find<QPushButton>("cmdSET"));
+  EXPECT_TRUE(Find<QPushButton>("frmSettSR.cmdSET").isEnabled());
+  EXPECT_TRUE(Find<QPushButton>("frmSettSR.cmdSET").isDefault());
+  EXPECT_EQ(settings->focusWidget(), &Find<QPushButton>("frmSettSR.cmdSET"));
 
   Press(*settings, Qt::Key_Escape);
   program_->RefreshNow();

@@ -20,7 +20,9 @@ namespace ovl::testing {
 inline constexpr int kLineFlags = 1, kInterface = 2, kReceiveSpeed = 3, kTransmitSpeed = 4, kUnitAddress = 11,
                      kConsole = 13, kTciAddress = 14, kTitle = 17;
 
-enum class Images { kAll, kFirstRegister };
+// Which default images are there at the start; with kOwn the test writes its own and starts the program
+// itself.
+enum class Images { kAll, kFirstRegister, kOwn };
 
 class Installed : public Harness {
  public:
@@ -29,7 +31,8 @@ class Installed : public Harness {
   explicit Installed(const FirmwareId& firmware, Images images = Images::kAll)
       : Harness(firmware), firmware_(firmware) {
     if (images == Images::kAll) WriteDefaultImages(folder.Path().string(), firmware);
-    if (Start() != Outcome::kDone) throw std::runtime_error(firmware.Joined() + " does not start");
+    if (images != Images::kOwn && Start() != Outcome::kDone)
+      throw std::runtime_error(firmware.Joined() + " does not start");
   }
 
   int Fixed(int byte) const { return (firmware_.IsV1400() ? 32 : 48) + byte; }
@@ -92,6 +95,9 @@ class Installed : public Harness {
     Fill("EE", others);
     return Pick(control, position) == Outcome::kDone ? Written() : "refused";
   }
+
+  List& ListOf(std::string_view name) { return *std::get<List*>(Known(name)); }
+  OptionArray& ArrayOf(std::string_view name) { return *std::get<OptionArray*>(Known(name)); }
 
   // The entry selected in a list, or the element chosen in an option array.
   int Selected(std::string_view name) {
