@@ -97,10 +97,9 @@ QWidget* BuildAlarmPage(Bindings& bindings) {
   auto& column = page.Column();
   AddEditor(column, form);
   column.Section("Frame15");
-  AddTextRow(bindings, column, "TextTrigger");
-  AddSetButton(bindings, column, "cmdSetTrigger");
+  AddTextRow(bindings, column, "TextTrigger", "cmdSetTrigger", ButtonPlace::kBelow);
   column.Row("ComboTrigger(0)").Row("ComboTrigger(1)").Row("ComboTrigger(2)");
-  return BesideOverview(AlarmOverview(bindings), page.Finish({}));
+  return BesideOverview(bindings, AlarmOverview(bindings), page.Finish({}));
 }
 
 }  // namespace ovl

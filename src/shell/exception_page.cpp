@@ -86,7 +86,7 @@ QString Legend(const Application& app) {
 
 QWidget* ExceptionOverview(Bindings& bindings) {
   const auto& app = bindings.Model();
-  const auto widest = app.firmware.IsV1400() ? QStringLiteral("OUT 999999.99 - 999999.99")
+  const auto widest = app.firmware.IsV1400() ? QStringLiteral("OUT 99999.99 - 99999.99")
                                              : QStringLiteral("OUT 9999.99 - 9999.99");
   return BuildOverview(bindings, bindings.Model().frmMain.ComboExcp[0],
                        {QStringLiteral("ExceptionOverview"),
@@ -101,30 +101,34 @@ QWidget* ExceptionOverview(Bindings& bindings) {
 
 // The two values as they stand, in the look of fields that can't be typed into.
 void AddRange(Bindings& bindings, PageColumn& column) {
-  column.Row("RANGE", {"TextRANGE(0)", "TextRANGE(1)"});
-  QWidget* second = nullptr;
-  for (const auto& value : bindings.Model().frmMain.TextRANGE) {
+  column.Row("RANGE", {"TextRANGE(0)", "TextRANGE(1)", "cmdSetRange"});
+  auto& form = bindings.Model().frmMain;
+  auto* button = bindings.WidgetOf(form.cmdSetRange);
+  button->setMinimumWidth(kSetButtonWidth);
+  const int height = button->sizeHint().height();
+  for (const auto& value : form.TextRANGE) {
     auto* box = static_cast<QLabel*>(bindings.WidgetOf(value));
     box->setFrameShape(QFrame::StyledPanel);
     box->setBackgroundRole(QPalette::Base);
     box->setAutoFillBackground(true);
     box->setIndent(kBoxPadding);
-    box->setMinimumSize(kRangeBoxWidth,
-                        bindings.WidgetOf(bindings.Model().frmMain.ComboExcp[5])->sizeHint().height());
-    second = box->parentWidget();
+    box->setFixedSize(kRangeBoxWidth, height);
   }
-  auto* fields = static_cast<QHBoxLayout*>(second->parentWidget()->layout());
+  auto* row = button->parentWidget()->parentWidget();
   auto* dash = new QLabel(QStringLiteral("-"));
-  fields->insertWidget(1, dash);
+  dash->setAlignment(Qt::AlignCenter);
+  dash->setFixedWidth(kStoredTextWidth - 2 * (kRangeBoxWidth + kFieldGap));
+  static_cast<QHBoxLayout*>(row->layout())->insertWidget(1, dash);
+  for (auto* label : column.Holder().findChildren<QLabel*>()) {
+    if (label->text() == QLatin1String("RANGE")) label->setMinimumHeight(height);
+  }
 }
 
 void AddEditor(Bindings& bindings, PageColumn& column) {
   column.Section("Frame6").Row("ComboExcp(0)");
-  AddTextRow(bindings, column, "TextException");
-  AddSetButton(bindings, column, "cmdSetExcpstr");
+  AddTextRow(bindings, column, "TextException", "cmdSetExcpstr", ButtonPlace::kBeside);
   column.Row("ComboExcp(1)").Row("ComboExcp(2)").Row("ComboExcp(3)").Row("ComboExcp(4)").Row("ComboExcp(5)");
   AddRange(bindings, column);
-  AddSetButton(bindings, column, "cmdSetRange");
 }
 
 void AddRecorder(Bindings& bindings, PageColumn& column) {
@@ -194,7 +198,7 @@ QWidget* BuildExceptionPage(Bindings& bindings) {
   column.LabelsAtLeast(labels);
   AddEditor(bindings, column);
   column.Wide(LowerPart(bindings, labels));
-  return BesideOverview(ExceptionOverview(bindings), page.Finish({}));
+  return BesideOverview(bindings, ExceptionOverview(bindings), page.Finish({}));
 }
 
 }  // namespace ovl

@@ -4,40 +4,30 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <algorithm>
 
 namespace ovl {
-namespace {
-
-constexpr int kTextWidth = 250;
-constexpr int kSetButtonWidth = 180;
-
-}  // namespace
-
-void AddTextRow(Bindings& bindings, PageColumn& column, const char* name) {
-  column.Row(name);
+void AddTextRow(Bindings& bindings, PageColumn& column, const char* name, const char* button,
+                ButtonPlace place) {
+  if (place == ButtonPlace::kBeside) {
+    column.Row(RowLabel::OfField(), {name, button});
+  } else {
+    column.Row(name).Row("", button);
+  }
   const auto& form = bindings.Model().frmMain.form;
-  auto* line = static_cast<QLineEdit*>(bindings.WidgetOf(FaceOf(bindings.Named(form, name).control)));
-  line->setFixedWidth(kTextWidth);
+  const auto widget = [&](const char* control) {
+    return bindings.WidgetOf(FaceOf(bindings.Named(form, control).control));
+  };
+  widget(button)->setMinimumWidth(kSetButtonWidth);
+  auto* line = static_cast<QLineEdit*>(widget(name));
+  line->setFixedWidth(kStoredTextWidth);
   QObject::connect(line, &QLineEdit::textChanged, line, [line] { line->home(false); });
 }
 
-void AddSetButton(Bindings& bindings, PageColumn& column, const char* name) {
-  const auto& control = bindings.Named(bindings.Model().frmMain.form, name);
-  auto* holder = new QWidget;
-  auto* across = new QHBoxLayout(holder);
-  across->setContentsMargins(0, 0, 0, 0);
-  across->addStretch(1);
-  auto* button = bindings.Make(control);
-  button->setMinimumWidth(kSetButtonWidth);
-  across->addWidget(button);
-  column.Wide(holder, [&face = FaceOf(control.control)] { return face.visible; });
-}
-
 void AddTitleRows(Bindings& bindings, PageColumn& column) {
-  AddTextRow(bindings, column, "Title_Text");
-  AddSetButton(bindings, column, "cmdTitle");
+  AddTextRow(bindings, column, "Title_Text", "cmdTitle", ButtonPlace::kBeside);
 }
 
 int CaptionWidth(std::initializer_list<const Face*> faces) {
@@ -48,13 +38,20 @@ int CaptionWidth(std::initializer_list<const Face*> faces) {
   return widest;
 }
 
-QWidget* BesideOverview(QWidget* overview, QWidget* editor) {
+QWidget* BesideOverview(Bindings& bindings, QWidget* overview, QScrollArea* editor) {
   auto* page = new QWidget;
   auto* across = new QHBoxLayout(page);
   across->setContentsMargins(0, 0, 0, 0);
   across->setSpacing(0);
   across->addWidget(overview, 1);
   across->addWidget(editor);
+  editor->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  bindings.Follow([editor] {
+    const int bar = editor->verticalScrollBar()->sizeHint().width();
+    const int least = editor->widget()->minimumSizeHint().width() + bar;
+    if (editor->minimumWidth() != least) editor->setFixedWidth(least);
+    return false;
+  });
   return page;
 }
 

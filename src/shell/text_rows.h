@@ -6,11 +6,14 @@
 
 namespace ovl {
 
-// A read-only text that shows its beginning, under its own caption.
-void AddTextRow(Bindings& bindings, PageColumn& column, const char* name);
+// A stored text and the button for it take so much of a row together.
+inline constexpr int kStoredTextWidth = 220;
+inline constexpr int kSetButtonWidth = 150;
 
-// A button of the main form at the right end of a row of its own.
-void AddSetButton(Bindings& bindings, PageColumn& column, const char* name);
+// A read-only text that shows its beginning, under its own caption, and beside it or below it the button.
+enum class ButtonPlace { kBeside, kBelow };
+void AddTextRow(Bindings& bindings, PageColumn& column, const char* name, const char* button,
+                ButtonPlace place);
 
 // The title of the picture, on the panel of time and date.
 void AddTitleRows(Bindings& bindings, PageColumn& column);
@@ -18,7 +21,7 @@ void AddTitleRows(Bindings& bindings, PageColumn& column);
 // The widest of the captions, as a label shows it.
 int CaptionWidth(std::initializer_list<const Face*> faces);
 
-// An overview at the left and the editor, which scrolls by itself, at the right.
-QWidget* BesideOverview(QWidget* overview, QWidget* editor);
+// An overview at the left and the editor, which scrolls up and down by itself, at the right.
+QWidget* BesideOverview(Bindings& bindings, QWidget* overview, QScrollArea* editor);
 
 }  // namespace ovl

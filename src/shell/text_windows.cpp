@@ -19,7 +19,7 @@ namespace ovl {
 namespace {
 
 constexpr int kButtonWidth = 112;
-constexpr int kTextWidth = 400;
+constexpr int kTextWidth = 440;
 constexpr QSize kViewerSize(720, 480);
 
 QWidget* Part(Bindings& bindings, const Form& form, std::string_view name, const QString& label = {}) {
@@ -66,14 +66,17 @@ class WholeTextMarker : public QObject {
   QLineEdit& line_;
 };
 
-// What holds for the text that is being typed.
+// How full the text is. Blanks that no one sees take room as well.
 QString TextHint(const Application& app) {
-  const auto length = app.frmSetEXCPSTR.Text1.text.size();
-  auto hint = QStringLiteral("%1 of %2 characters.").arg(length).arg(app.frmSetEXCPSTR.Text1.max_length);
+  const auto& box = app.frmSetEXCPSTR.Text1;
+  const auto seen = box.text.find_last_not_of(' ') + 1;
+  auto hint = QStringLiteral("%1 of %2 characters").arg(box.text.size()).arg(box.max_length);
+  if (seen < box.text.size())
+    hint += QStringLiteral(", %1 of them blanks at the end").arg(box.text.size() - seen);
   if (app.TextEntryMode == static_cast<int>(TextTarget::kException)) {
-    hint += QStringLiteral(" A ? stands for any character.");
+    hint += QStringLiteral(". A ? stands for any character");
   }
-  return hint;
+  return hint + QLatin1Char('.');
 }
 
 // One value: integer digits, separator, decimal digits.

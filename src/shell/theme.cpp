@@ -23,6 +23,7 @@ constexpr Scheme kDarkScheme{0xFF22252A, 0xFF1A1C20, 0xFF1F2226, 0xFF33373D, 0xF
 
 constexpr int kTabPadding = 16;
 constexpr int kTabLine = 3;
+constexpr int kHeaderPadding = 6;
 constexpr int kFieldHeight = 26;
 constexpr int kLeastListWidth = 64;
 
@@ -65,6 +66,7 @@ class OvlStyle : public QProxyStyle {
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
     if (metric == PM_TabBarTabHSpace) return kTabPadding;
     if (metric == PM_TabBarTabShiftVertical || metric == PM_TabBarTabShiftHorizontal) return 0;
+    if (metric == PM_HeaderMargin) return kHeaderPadding;
     return QProxyStyle::pixelMetric(metric, option, widget);
   }
 
