@@ -5,11 +5,12 @@
 
 namespace ovl {
 
-// Builds the Version menu, sets all handlers and the order of the apply routines. Once for each application object.
+// Builds the Version menu, sets all handlers and the order of the apply routines. Once for each application
+// object.
 void WireProgram(Application& app);
 
-// Wires the program and runs the start: settings store, register list, first register. The platform record must be
-// filled. kEnded: the program told why, and is over.
+// Wires the program and runs the start: settings store, register list, first register. The platform record
+// must be filled. kEnded: the program told why, and is over.
 Outcome StartProgram(Application& app);
 
 }  // namespace ovl
