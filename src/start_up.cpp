@@ -128,6 +128,7 @@ void WireRegisterForms(Application& app) {
   micros.cmdISNset.handler = cmdISNset_Click;
   micros.CMD3700Set.handler = CMD3700Set_Click;
   micros.ECRNumber.leave = ECRNumber_Leave;
+  micros.form.unload = frmMicros_Unload;
 }
 
 void WireLinkForms(Application& app) {

@@ -53,7 +53,7 @@ struct Admission {
     auto& box = *event.box;
     if (box.read_only || !CanAct(app, &box)) return false;
     if (box.max_length != 0 && event.text.size() > box.max_length) return false;
-    AssignText(app, box, event.text);
+    AssignText(app, box, event.text, Raise::kAlways);
     return true;
   }
 

@@ -209,7 +209,9 @@ bool AssignUniwellModels(Application& app, const RegisterRow&) {
   form.frmAddress[18].caption.clear();
   if (!AssignMain<ApplyUniwellFrame>(app, form.UNIWOP)) return false;
   ShowUniwellSwitch(app, true);
-  return Assign(app, form.ComboUniFor14R7up, option) && AssignDigits(app, form.ComboUNI_ID);
+  if (Assign(app, form.ComboUniFor14R7up, option) && AssignDigits(app, form.ComboUNI_ID)) return true;
+  form.frmAddress[18].visible = false;
+  return false;
 }
 
 bool AssignSerialId(Application& app, const RegisterRow&) {
@@ -348,21 +350,21 @@ bool AssignVectron(Application& app, const RegisterRow&) {
 bool AssignCasio(Application& app, const RegisterRow&) {
   const int model = Byte(app, REGTYPE_MINOR);
   if (!ChooseElement(app, app.frmMain.CASIOOP, model)) return false;
-  ArrangeCasioSubmenu(app, model);
+  if (!ArrangeCasioSubmenu(app, model)) UnloadForm(app, app.FrmSubMenu.form);
   return true;
 }
 
 bool AssignSharpModels(Application& app, const RegisterRow&) {
   const int model = Byte(app, REGTYPE_MINOR);
   if (!ChooseElement(app, app.frmMain.SharpOP, model)) return false;
-  ArrangeSharpSubmenu(app, model);
+  if (!ArrangeSharpSubmenu(app, model)) UnloadForm(app, app.FrmSubMenu.form);
   return true;
 }
 
 bool AssignTecModels(Application& app, const RegisterRow&) {
   const int model = Byte(app, REGTYPE_MINOR);
   if (!ChooseElement(app, app.frmMain.TECOP, model)) return false;
-  ArrangeTecSubmenu(app, model);
+  if (!ArrangeTecSubmenu(app, model)) UnloadForm(app, app.FrmSubMenu.form);
   return true;
 }
 

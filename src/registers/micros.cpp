@@ -1,5 +1,6 @@
 #include "registers/micros.h"
 
+#include <algorithm>
 #include <array>
 
 #include "core/actions.h"
@@ -24,8 +25,11 @@ void Store(Application& app, const List& list, FieldId field) {
   if (list.position >= 0) app.image[field] = ByteToHex(list.position);
 }
 
+// The leading number of a text with leading zeros; a longer one keeps its digits.
 std::string SevenDigits(std::string_view text) {
-  auto digits = std::to_string(LeadingNumber(text));
+  text = text.substr(0, text.find_first_not_of("0123456789"));
+  text.remove_prefix(std::min(text.find_first_not_of('0'), text.size()));
+  std::string digits(text);
   if (digits.size() < kEcrDigits) digits.insert(0, kEcrDigits - digits.size(), '0');
   return digits;
 }
@@ -113,6 +117,15 @@ void CMD3700Set_Click(Application& app, int) {
 
 void ECRNumber_Leave(Application& app, int) {
   AssignText(app, app.frmMicros.ECRNumber, SevenDigits(app.frmMicros.ECRNumber.text));
+}
+
+// What was picked and not set must not be found again by the next opening.
+void frmMicros_Unload(Application& app, int) {
+  auto& form = app.frmMicros;
+  for (auto* list : {&form.ComboMICROS, &form.ComboMICROSADD, &form.ComboMODE, &form.HandSHKCombo})
+    list->position = -1;
+  for (auto& list : form.ComboISN) list.position = -1;
+  form.ECRNumber.text.clear();
 }
 
 }  // namespace ovl

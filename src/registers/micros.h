@@ -15,5 +15,6 @@ void cmdSetMicros_Click(Application& app, int index);
 void cmdISNset_Click(Application& app, int index);
 void CMD3700Set_Click(Application& app, int index);
 void ECRNumber_Leave(Application& app, int index);
+void frmMicros_Unload(Application& app, int index);
 
 }  // namespace ovl

@@ -1,6 +1,7 @@
 #include "registers/selection_driver.h"
 
 #include <algorithm>
+#include <array>
 #include <system_error>
 
 #include "catalogue/register_catalogue.h"
@@ -86,7 +87,9 @@ void ApplyRegisterSelection(Application& app) {
   ShowRegisterOptions(app);
 }
 
-void ShowRegisterOptions(Application& app) {
+namespace {
+
+void ShowOptionFrame(Application& app) {
   auto& form = app.frmMain;
   for (auto& frame : form.frmAddress) frame.visible = false;
   const auto* row = RowOfSelected(app);
@@ -95,6 +98,24 @@ void ShowRegisterOptions(Application& app) {
   auto* frame = has_frame ? &form.frmAddress.at(static_cast<std::size_t>(row->frame)) : nullptr;
   if (has_frame) frame->caption = row->title.empty() ? form.ComboReg.Text() : std::string(row->title);
   if (row->assign(app, *row) && has_frame) frame->visible = true;
+}
+
+// A window that a register opened must not write into another one's options.
+void CloseForeignWindows(Application& app) {
+  constexpr std::array<std::size_t, 3> kWithSubMenu = {34, 46, 48};
+  constexpr std::size_t kMicros = 9;
+  const auto& frames = app.frmMain.frmAddress;
+  const bool has_menu = std::any_of(kWithSubMenu.begin(), kWithSubMenu.end(),
+                                    [&](std::size_t frame) { return frames[frame].visible; });
+  if (!has_menu) UnloadForm(app, app.FrmSubMenu.form);
+  if (!frames[kMicros].visible) UnloadForm(app, app.frmMicros.form);
+}
+
+}  // namespace
+
+void ShowRegisterOptions(Application& app) {
+  ShowOptionFrame(app);
+  CloseForeignWindows(app);
 }
 
 }  // namespace ovl

@@ -292,5 +292,34 @@ TEST(IpAddress, TheOldFrameShowsAndStoresNothing) {
   }
 }
 
+TEST(SubMenus, ClosesWhenAnotherRegisterWithoutOneIsPicked) {
+  Installed program({"V1400", "R12"});
+  program.Register("CASIO");
+  ASSERT_EQ(program.Pick("CASIOOP", 18), Outcome::kDone);
+  EXPECT_TRUE(program.app.FrmSubMenu.form.visible);
+  program.Register("GENERIC");
+  EXPECT_FALSE(program.app.FrmSubMenu.form.visible);
+}
+
+TEST(Micros, ALongNumberKeepsItsFirstSevenDigitsAndClosingForgetsWhatWasPicked) {
+  Installed program({"V1400", "R12"});
+  program.Register("MICROS");
+  auto& form = program.app.frmMicros;
+  ASSERT_EQ(program.Pick("OpMicros", 3), Outcome::kDone);
+  Dispatch(program.app, TypeEvent{&form.ECRNumber, "1234567890"});
+  program.Click("CMD3700Set");
+  EXPECT_EQ(program.app.image[FieldId::ECRDIGIT_1], "01");
+  EXPECT_EQ(program.app.image[FieldId::ECRDIGIT_7], "07");
+
+  program.app.image[FieldId::MICROS_STATUS] = "05";
+  ASSERT_EQ(program.Pick("OpMicros", 1), Outcome::kDone);
+  program.app.image[FieldId::MICROS_STATUS] = "05";
+  program.Pick("ComboMODE", 1);
+  Dispatch(program.app, CloseEvent{&form.form});
+  program.Click("cmdMicros");
+  program.Click("cmdSetMicros");
+  EXPECT_EQ(program.app.image[FieldId::MICROS_STATUS], "05");
+}
+
 }  // namespace
 }  // namespace ovl::testing

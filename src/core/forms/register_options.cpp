@@ -189,6 +189,11 @@ void DesignLists(RegisterOptions& form) {
   for (auto& list : form.ComboTCI_ID) list.items = Numbers(0, 9);
   for (auto& list : form.ComboUNI_ID) list.items = Numbers(0, 9);
   for (auto& list : form.ComboTCPIP) list.items = Numbers(0, 255);
+  SetCaptions(form.ComboTCPIP,
+              {"IP  ADDRESS  1  :", "IP  ADDRESS  2  :", "IP  ADDRESS  3  :", "IP  ADDRESS  4  :",
+               "IP  ADDRESS  1   :", "IP  ADDRESS  2   :", "IP  ADDRESS  3   :", "IP  ADDRESS  4   :"});
+  SetCaptions(form.ComboTCPINFO,
+              {"INFORMATION 0  :", "INFORMATION 1  :", "INFORMATION 2  :", "INFORMATION 3  :"});
   form.ComboTk500[0].items = {"TK-T500"};
   form.ComboTE2200[0].items = {"TE-2200"};
   form.ComboTEC[0].items = {"TEC SLIP PRINTER"};
