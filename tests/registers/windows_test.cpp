@@ -292,7 +292,7 @@ TEST(IpAddress, TheOldFrameShowsAndStoresNothing) {
   }
 }
 
-TEST(SubMenus, ClosesWhenAnotherRegisterWithoutOneIsPicked) {
+TEST(RegisterWindows, ASubMenuClosesWhenAnotherRegisterWithoutOneIsPicked) {
   Installed program({"V1400", "R12"});
   program.Register("CASIO");
   ASSERT_EQ(program.Pick("CASIOOP", 18), Outcome::kDone);
@@ -301,7 +301,7 @@ TEST(SubMenus, ClosesWhenAnotherRegisterWithoutOneIsPicked) {
   EXPECT_FALSE(program.app.FrmSubMenu.form.visible);
 }
 
-TEST(Micros, ALongNumberKeepsItsFirstSevenDigitsAndClosingForgetsWhatWasPicked) {
+TEST(RegisterWindows, ALongNumberKeepsItsFirstSevenDigitsAndClosingForgetsWhatWasPicked) {
   Installed program({"V1400", "R12"});
   program.Register("MICROS");
   auto& form = program.app.frmMicros;
