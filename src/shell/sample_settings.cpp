@@ -107,7 +107,8 @@ void ShowSampleHistory(Program& program) {
   const auto path = folder.filePath(QStringLiteral("History.txt"));
   std::string text = "OVLH\r\n";
   for (int hour = 9; hour < 21; ++hour) {
-    const auto time = (hour < 10 ? "0" : "") + std::to_string(hour);
+    auto time = std::to_string(hour);
+    if (time.size() < 2) time.insert(time.begin(), '0');
     text += "11/24/26 " + time + ":04:17  NO SALE\r\n";
     text += "11/24/26 " + time + ":31:50  REFUND                 12.40\r\n";
   }
