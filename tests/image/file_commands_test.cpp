@@ -194,7 +194,7 @@ std::string Noise(std::size_t size) {
 
 TEST(FileCommands, AFileOfNoUseIsToldAndThePanelsShowTheOldImage) {
   Installed program(kLatest);
-  const std::string contents[] = {"", "\r\n", Noise(1 << 20), PatternStream({"V1300", "R14"}) + "\r\n",
+  const std::string contents[] = {"", "\r\n", Noise(10 << 20), PatternStream({"V1300", "R14"}) + "\r\n",
                                   PatternStream({"V1334", "R1"}) + "\r\n"};
   const auto path = program.folder.File("foreign.bin");
   for (const auto& content : contents) {

@@ -5,10 +5,19 @@
 #include <sstream>
 #include <vector>
 
+#include "catalogue/firmware.h"
 #include "support/installed.h"
 
 namespace ovl::testing {
 namespace {
+
+std::vector<FirmwareId> EveryFirmware() {
+  std::vector<FirmwareId> firmware;
+  for (const auto& entry : FirmwareTable()) {
+    if (entry.in_menu) firmware.push_back({std::string(entry.version), std::string(entry.release)});
+  }
+  return firmware;
+}
 
 TEST(OptionMembers, APlainOneWritesItsPositionToOneByteAndNothingElse) {
   const std::pair<const char*, const char*> members[] = {
@@ -26,9 +35,9 @@ TEST(OptionMembers, APlainOneWritesItsPositionToOneByteAndNothingElse) {
       {"GTITLE_NF_BAK", "ComboDeviceGas 3 ComboPana(0) 2"},
       {"DV_ADDRIND_BAK", "ComboCONSOLEID 9"},
   };
-  for (const FirmwareId& firmware : {FirmwareId{"V1400", "R12"}, {"V1324", "R26"}}) {
-    Installed program(firmware);
-    ASSERT_EQ(program.Register("SCHLUMBERGER"), Outcome::kDone);  // fills ComboDIPMIXED
+  for (const auto& firmware : EveryFirmware()) {
+    Installed program(firmware, Images::kFirstRegister);
+    program.ListOf("ComboDIPMIXED").items = {"RECEIPT", "JOURNAL", "MIXED"};
     for (const auto& [field, controls] : members) {
       std::istringstream list(controls);
       std::string control;
@@ -123,7 +132,7 @@ void ExpectMember(Installed& program, int automatic, const Member& row) {
 }
 
 TEST(OptionMembers, SomeForceTheLineThatTheirProtocolDictates) {
-  for (const FirmwareId& firmware : {FirmwareId{"V1400", "R12"}, {"V1300", "R27"}, {"V1310", "R1"}}) {
+  for (const auto& firmware : EveryFirmware()) {
     Installed program(firmware);
     for (const auto& row : kMembers) {
       SCOPED_TRACE(firmware.Joined() + " " + row.control + " " + std::to_string(row.position));
