@@ -97,7 +97,7 @@ constexpr Member kMembers[] = {
     {"ComboUNI_ID(1)", 4, "TCIADDBAK_2=04"},
     {"ComboUNI_ID(2)", 9, "TCIADDBAK_1=09"},
 };
-constexpr Member kV1400Members[] = {
+constexpr Member kDresserWayneMembers[] = {
     {"POSOP", 1, "IOCFG_BAK=1D RX=0A TX=03 M=00 X=01", "1A3--"},
     {"TEROP", 7, "IOCFG_BAK=0E RX=03 TX=03 M=01 E=00 X=07", "033--"},
     {"PRNOP", 1, "IOCFG_BAK=0E RX=0A TX=03 M=01 E=01 X=01", "0A3--"},
@@ -153,56 +153,61 @@ TEST(OptionMembers, SomeForceTheLineThatTheirProtocolDictates) {
       ExpectMember(program, firmware.IsV1400() ? 10 : 8, of_firmware);
     }
   }
-  Installed program({"V1400", "R12"});
-  for (const auto& row : kV1400Members) {
-    SCOPED_TRACE(row.control);
-    ExpectMember(program, 10, row);
+  for (const char* release : {"R7", "R11", "R12"}) {
+    Installed program({"V1400", release});
+    for (const auto& row : kDresserWayneMembers) {
+      SCOPED_TRACE(std::string(release) + " " + row.control);
+      ExpectMember(program, 10, row);
+    }
   }
 }
 
 TEST(OptionMembers, TheTitleSwitchTakesTheTitlerAlong) {
-  Installed program({"V1300", "R14"});
-  program.Pick("ComboDIP(1)", 6);
-  program.Pick("ComboTD(5)", 0);
-  EXPECT_EQ(program.Effect("ComboTITLEDIP", 1), "GTITLE_NF_BAK=01 DSPCFG_BAK=FE");
-  EXPECT_EQ(program.Selected("ComboTD(5)"), 1);
-  EXPECT_EQ(program.Effect("ComboTITLEDIP", 0, {{FieldId::DSPCFG_BAK, "FF"}}),
-            "GTITLE_NF_BAK=00 DSPCFG_BAK=EF");
-  EXPECT_EQ(program.Selected("ComboTD(5)"), 0);
+  for (const auto& firmware : EveryFirmware()) {
+    SCOPED_TRACE(firmware.Joined());
+    Installed program(firmware, Images::kFirstRegister);
+    program.Reveal("ComboTITLEDIP");
+    program.Pick("ComboDIP(1)", 6);
+    program.Pick("ComboTD(5)", 0);
+    EXPECT_EQ(program.Effect("ComboTITLEDIP", 1), "GTITLE_NF_BAK=01 DSPCFG_BAK=FE");
+    EXPECT_EQ(program.Selected("ComboTD(5)"), 1);
+    EXPECT_EQ(program.Effect("ComboTITLEDIP", 0, {{FieldId::DSPCFG_BAK, "FF"}}),
+              "GTITLE_NF_BAK=00 DSPCFG_BAK=EF");
+    EXPECT_EQ(program.Selected("ComboTD(5)"), 0);
+  }
+}
+
+// The byte that a member writes in a firmware: none, or its name.
+struct Target {
+  const char* control;
+  int choices;
+  std::string field;
+  bool sharp_codes = false;  // the tenth model came later and took the code 5 from its neighbours
+};
+
+std::vector<Target> TargetsOf(const FirmwareId& firmware) {
+  const int release = firmware.Number();
+  const bool v1300 = firmware.version == "V1300", v1400 = firmware.IsV1400();
+  const bool first_sharp = (v1300 && release < 26) || (firmware.version == "V1324" && release < 25);
+  return {
+      {"OpNIXDORF", 2, release < 7 ? "M" : "X"},
+      {"OpRI_QT2", 11, v1400 && release >= 7 ? "X" : "M"},
+      {"OpSharp", 10, v1400 ? "" : "M", !v1400 && !first_sharp},
+      {"OpGilbraco", 6, v1300 || firmware.version == "V1310" ? "M" : ""},
+  };
 }
 
 TEST(OptionMembers, TheTargetDependsOnTheFirmware) {
-  struct Row {
-    FirmwareId firmware;
-    const char *control, *field;  // no field: nothing is written
-    std::vector<int> codes;       // by element
-  };
-  const std::vector<int> two = {0, 1}, six = {0, 1, 2, 3, 4, 5}, eleven = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
-  const std::vector<int> ten = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}, sharp = {0, 1, 2, 3, 4, 6, 7, 8, 9, 5};
-  const Row rows[] = {
-      {{"V1400", "R4"}, "OpSharp", "", ten},       {{"V1400", "R6"}, "OpNIXDORF", "M", two},
-      {{"V1400", "R6"}, "OpRI_QT2", "M", eleven},  {{"V1400", "R6"}, "OpGilbraco", "", six},
-      {{"V1400", "R7"}, "OpNIXDORF", "X", two},    {{"V1400", "R7"}, "OpRI_QT2", "X", eleven},
-      {{"V1400", "R12"}, "OpSharp", "", ten},      {{"V1400", "R12"}, "OpGilbraco", "", six},
-      {{"V1300", "R23"}, "OpSharp", "M", ten},     {{"V1300", "R26"}, "OpSharp", "M", sharp},
-      {{"V1300", "R26"}, "OpGilbraco", "M", six},  {{"V1300", "R27"}, "OpGilbraco", "M", six},
-      {{"V1300", "R27"}, "OpRI_QT2", "M", eleven}, {{"V1310", "R1"}, "OpRI_QT2", "M", eleven},
-      {{"V1310", "R1"}, "OpSharp", "M", sharp},    {{"V1310", "R1"}, "OpGilbraco", "M", six},
-      {{"V1324", "R24"}, "OpSharp", "M", ten},     {{"V1324", "R24"}, "OpNIXDORF", "X", two},
-      {{"V1324", "R25"}, "OpSharp", "M", sharp},   {{"V1324", "R25"}, "OpRI_QT2", "M", eleven},
-      {{"V1324", "R25"}, "OpGilbraco", "", six},   {{"V1334", "R1"}, "OpNIXDORF", "M", two},
-      {{"V1334", "R1"}, "OpRI_QT2", "M", eleven},  {{"V1334", "R1"}, "OpSharp", "M", sharp},
-      {{"V1334", "R1"}, "OpGilbraco", "", six},
-  };
-  std::optional<Installed> program;
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.firmware.Joined() + " " + row.control);
-    if (!program || program->app.firmware != row.firmware) program.emplace(row.firmware);
-    program->Reveal(row.control);
-    for (std::size_t element = 0; element < row.codes.size(); ++element) {
-      const std::string field = row.field;
-      EXPECT_EQ(program->Effect(row.control, static_cast<int>(element)),
-                field.empty() ? "" : field + "=" + ByteToHex(row.codes[element]));
+  for (const auto& firmware : EveryFirmware()) {
+    Installed program(firmware, Images::kFirstRegister);
+    for (const auto& [control, choices, field, sharp_codes] : TargetsOf(firmware)) {
+      SCOPED_TRACE(firmware.Joined() + " " + control);
+      program.Reveal(control);
+      for (int element = 0; element < choices; ++element) {
+        const int moved = element < 5 ? element : (element == 9 ? 5 : element + 1);
+        const auto effect = program.Effect(control, element);
+        EXPECT_EQ(effect, field.empty() ? "" : field + "=" + ByteToHex(sharp_codes ? moved : element));
+      }
     }
   }
 }
@@ -235,6 +240,17 @@ struct Bringer {
   std::vector<const char*> shown, hidden;
 };
 
+void ExpectBrought(Installed& program, const Bringer& row) {
+  program.Reveal(row.control);
+  for (const int stored : {0, 1, 0xEE}) {
+    EXPECT_EQ(program.Effect(row.control, row.position, {{FieldId::REGTYPE_EXT2, ByteToHex(stored)}}),
+              "M=" + ByteToHex(row.position));
+    for (const char* name : row.shown) EXPECT_TRUE(program.Control(name).visible) << name;
+    for (const char* name : row.hidden) EXPECT_FALSE(program.Control(name).visible) << name;
+    EXPECT_TRUE(row.member == nullptr || program.Selected(row.member) == std::min(stored, 1)) << stored;
+  }
+}
+
 TEST(OptionMembers, AChoiceBringsTheControlsOfItsModelAlong) {
   const Bringer rows[] = {
       {"IBMOP", 8, "Combo4610TF6", {"IBMFrame", "Combo4610TF6"}, {"RDSCombo", "IBMCombo", "Label82(0)"}},
@@ -252,28 +268,29 @@ TEST(OptionMembers, AChoiceBringsTheControlsOfItsModelAlong) {
       {"NIXDORF14OP", 1, "NIXDORF14OPSelect", {"NIXDORFrm"}, {"BEETLEFrm"}},
       {"NIXDORF14OP", 0, "BEETLEOp", {"BEETLEFrm"}, {"NIXDORFrm"}},
   };
-  Installed program({"V1400", "R12"});
-  for (const auto& row : rows) {
-    SCOPED_TRACE(std::string(row.control) + " " + std::to_string(row.position));
-    program.Reveal(row.control);
-    for (const int stored : {0, 1, 0xEE}) {
-      EXPECT_EQ(program.Effect(row.control, row.position, {{FieldId::REGTYPE_EXT2, ByteToHex(stored)}}),
-                "M=" + ByteToHex(row.position));
-      for (const char* name : row.shown) EXPECT_TRUE(program.Control(name).visible) << name;
-      for (const char* name : row.hidden) EXPECT_FALSE(program.Control(name).visible) << name;
-      EXPECT_TRUE(row.member == nullptr || program.Selected(row.member) == std::min(stored, 1)) << stored;
+  for (const auto& firmware : EveryFirmware()) {
+    Installed program(firmware, Images::kFirstRegister);
+    for (const auto& row : rows) {
+      SCOPED_TRACE(firmware.Joined() + " " + row.control + " " + std::to_string(row.position));
+      ExpectBrought(program, row);
     }
   }
 }
 
 TEST(OptionMembers, SomeUniwellModelsShowTheSecondFrame) {
-  Installed program({"V1400", "R7"});
-  ASSERT_EQ(program.Register("UNIWELL"), Outcome::kDone);
-  for (int model = 0; model < 13; ++model) {
-    EXPECT_EQ(program.Effect("UNIWOP", model), "M=" + ByteToHex(model));
-    const bool second = model == 1 || model == 2 || model == 6 || model == 7 || model == 10;
-    EXPECT_EQ(program.Frames(), second ? "49 18" : "49") << model;
+  int firmware_with_models = 0;
+  for (const auto& firmware : EveryFirmware()) {
+    SCOPED_TRACE(firmware.Joined());
+    Installed program(firmware);
+    if (program.Register("UNIWELL") != Outcome::kDone || program.Frames().rfind("49", 0) != 0) continue;
+    ++firmware_with_models;
+    for (int model = 0; model < 13; ++model) {
+      EXPECT_EQ(program.Effect("UNIWOP", model), "M=" + ByteToHex(model));
+      const bool second = model == 1 || model == 2 || model == 6 || model == 7 || model == 10;
+      EXPECT_EQ(program.Frames(), second ? "49 18" : "49") << model;
+    }
   }
+  EXPECT_EQ(firmware_with_models, 3);  // V1400 from R7 on
 }
 
 TEST(OptionMembers, ArraysOfOneFrameExcludeEachOther) {
