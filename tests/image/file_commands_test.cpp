@@ -155,16 +155,30 @@ TEST(FileCommands, ASaveThatComesToNothingSaysSo) {
   }
   EXPECT_EQ(program.Written(), "");
   EXPECT_FALSE(program.app.UploadApplying);
+
+  const auto kept = program.folder.File("kept.bin");
+  WriteWhole(kept, "kept");
+  {
+    const Locked folder(program.folder.Path().string());
+    ASSERT_EQ(Save(program, kept), Outcome::kDone);
+    EXPECT_EQ(program.TakeBox().text, "NoFile Save. !!!        ");
+  }
+  EXPECT_EQ(ReadWhole(kept), "kept");
 }
 
 TEST(FileCommands, AnOpenWithoutAFileLeavesAllButTheNextPick) {
   Installed program(kLatest);
+  const auto kept_from_us = program.folder.File("locked.bin");
+  WriteWhole(kept_from_us, ReadWhole(program.PathOf("ADS")));
   const std::optional<std::string> sources[] = {std::nullopt, program.folder.File("missing.bin"),
-                                                program.folder.Path().string()};
+                                                program.folder.Path().string(), kept_from_us};
   for (const auto& source : sources) {
     SCOPED_TRACE(source.value_or("cancelled"));
     program.Mark();
-    ASSERT_EQ(program.Open(source), Outcome::kDone);
+    {
+      const Locked file(kept_from_us);
+      ASSERT_EQ(program.Open(source), Outcome::kDone);
+    }
     EXPECT_TRUE(program.NoBoxLeft());
     EXPECT_EQ(program.Written(), "");
     EXPECT_TRUE(program.app.PanelsReady);

@@ -110,9 +110,12 @@ TEST(History, OnlyTheTagOpensAFile) {
 TEST(History, WhatCannotBeReadLeavesTheViewerInSilence) {
   Viewing program;
   ASSERT_EQ(program.Open(program.Write("OVLH\r\nearlier")), Outcome::kDone);
-  for (const auto& path :
-       {std::optional<std::string>(program.folder.File("missing.txt")),
-        std::optional<std::string>(program.folder.Path().string()), std::optional<std::string>()}) {
+  const auto kept_from_us = program.folder.File("locked.txt");
+  WriteWhole(kept_from_us, "OVLH\r\nlater");
+  const std::optional<std::string> sources[] = {program.folder.File("missing.txt"),
+                                                program.folder.Path().string(), kept_from_us, std::nullopt};
+  for (const auto& path : sources) {
+    const Locked file(kept_from_us);
     ASSERT_EQ(program.Open(path), Outcome::kDone);
     EXPECT_TRUE(program.NoBoxLeft());
     EXPECT_EQ(program.View().Text.text, "earlier\r\n");

@@ -172,25 +172,30 @@ TEST(RegisterPick, AnImageOfAnotherRegisterLeadsThere) {
   EXPECT_TRUE(program.NoBoxLeft());
 }
 
+// Three kinds of an image that is not there: missing, a folder in its place, kept from the reader.
+void ExpectEndWithoutImage(const FirmwareId& firmware, std::string_view kind) {
+  SCOPED_TRACE(firmware.Joined() + " " + std::string(kind));
+  Installed program(firmware);
+  const auto path = program.PathOf("ADS");
+  std::optional<Locked> locked;
+  if (kind == "locked") locked.emplace(path);
+  if (kind != "locked") std::filesystem::remove(path);
+  if (kind == "folder") std::filesystem::create_directory(path);
+  EXPECT_EQ(program.Register("ADS"), Outcome::kEnded);
+  const auto text = program.TakeBox().text;
+  EXPECT_EQ(text.substr(0, 19), std::string(19, ' '));
+  const auto line_end = text.find('\n');
+  ASSERT_NE(line_end, std::string::npos);
+  EXPECT_GT(line_end, 19U) << "the failure is described";
+  EXPECT_NE(text.substr(19, 1), " ");
+  EXPECT_EQ(text.substr(line_end + 1), "Please ReInstall Ovalon PC Software !!");
+  EXPECT_EQ(program.Register("GENERIC"), Outcome::kEnded);
+  EXPECT_TRUE(program.NoBoxLeft());
+}
+
 TEST(RegisterPick, WithoutItsImageTheProgramEnds) {
   for (const FirmwareId& firmware : {kLatest, FirmwareId{"V1300", "R14"}}) {
-    for (const bool folder_instead : {false, true}) {
-      SCOPED_TRACE(firmware.Joined());
-      Installed program(firmware);
-      const auto path = program.PathOf("ADS");
-      std::filesystem::remove(path);
-      if (folder_instead) std::filesystem::create_directory(path);
-      EXPECT_EQ(program.Register("ADS"), Outcome::kEnded);
-      const auto text = program.TakeBox().text;
-      EXPECT_EQ(text.substr(0, 19), std::string(19, ' '));
-      const auto line_end = text.find('\n');
-      ASSERT_NE(line_end, std::string::npos);
-      EXPECT_GT(line_end, 19U) << "the failure is described";
-      EXPECT_NE(text.substr(19, 1), " ");
-      EXPECT_EQ(text.substr(line_end + 1), "Please ReInstall Ovalon PC Software !!");
-      EXPECT_EQ(program.Register("GENERIC"), Outcome::kEnded);
-      EXPECT_TRUE(program.NoBoxLeft());
-    }
+    for (const char* kind : {"missing", "folder", "locked"}) ExpectEndWithoutImage(firmware, kind);
   }
 }
 

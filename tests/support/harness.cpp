@@ -1,6 +1,7 @@
 #include "support/harness.h"
 
 #include <stdlib.h>
+#include <unistd.h>
 
 #include <stdexcept>
 #include <utility>
@@ -42,6 +43,18 @@ TemporaryFolder::TemporaryFolder() {
 TemporaryFolder::~TemporaryFolder() {
   std::error_code ignored;
   fs::remove_all(path_, ignored);
+}
+
+Locked::Locked(std::string path) : path_(std::move(path)) {
+  fs::permissions(path_, fs::perms::none);
+  constexpr uid_t kNobody = 65534;
+  if (geteuid() == 0 && seteuid(kNobody) != 0) throw std::runtime_error("no ordinary user");
+}
+
+Locked::~Locked() {
+  if (getuid() == 0) static_cast<void>(!seteuid(0));
+  std::error_code ignored;
+  fs::permissions(path_, fs::perms::owner_all, ignored);
 }
 
 namespace {

@@ -28,6 +28,19 @@ class TemporaryFolder {
   std::filesystem::path path_;
 };
 
+// For its life nobody may read or write the file or folder, the superuser included, who acts as an ordinary
+// user meanwhile.
+class Locked {
+ public:
+  explicit Locked(std::string path);
+  ~Locked();
+  Locked(const Locked&) = delete;
+  Locked& operator=(const Locked&) = delete;
+
+ private:
+  std::string path_;
+};
+
 // A stream of the firmware whose digits differ from byte to byte by the seed, with the register code given.
 std::string RawPatternStream(const FirmwareId& firmware, int seed = 1, int register_code = 0);
 
