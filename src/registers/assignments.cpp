@@ -298,7 +298,13 @@ bool AssignPosiflex(Application& app, const RegisterRow&) {
 }
 
 bool AssignIbm(Application& app, const RegisterRow&) {
-  return AssignMain<ShowIbm>(app, app.frmMain.IBMOP);
+  auto& form = app.frmMain;
+  const int option = Byte(app, REGTYPE_EXT2);
+  if (!AssignMain<ShowIbm>(app, form.IBMOP)) return false;
+  for (const auto* list : {&form.IBMCombo, &form.RDSCombo, &form.Combo4610TF6}) {
+    if (list->visible) return list->position == option;
+  }
+  return true;
 }
 
 bool AssignIcl(Application& app, const RegisterRow&) {

@@ -35,6 +35,7 @@ TEST(RegisterPick, AByteWithoutItsChoiceLeavesTheFrameHidden) {
         {"GASBOY", kMinor, "12"},
         {"GASBOY", kTitle, "03"},
         {"GILBARCO", kMinor, "06"},
+        {"IBM", kExt2, "07"},
         {"MICRELEC", kUnitAddress, "05"},
         {"MICROS", kMinor, "04"},
         {"NORAND 1200", kConsole, "09"},
