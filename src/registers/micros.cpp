@@ -41,6 +41,15 @@ void ShowEcrNumber(Application& app) {
   AssignText(app, app.frmMicros.ECRNumber, number);
 }
 
+// What stood in the window, or was loaded while it was closed, must not be found again by the next opening.
+void ForgetSelections(Application& app) {
+  auto& form = app.frmMicros;
+  for (auto* list : {&form.ComboMICROS, &form.ComboMICROSADD, &form.ComboMODE, &form.HandSHKCombo})
+    list->position = -1;
+  for (auto& list : form.ComboISN) list.position = -1;
+  form.ECRNumber.text.clear();
+}
+
 void HidePanels(Application& app) {
   auto& form = app.frmMicros;
   for (auto* panel : {&form.frmIDN, &form.frmISN, &form.frm3700}) panel->visible = false;
@@ -49,6 +58,7 @@ void HidePanels(Application& app) {
 // False for the mode that has no panel.
 bool ArrangePanel(Application& app) {
   auto& form = app.frmMicros;
+  if (!form.form.visible) ForgetSelections(app);
   HidePanels(app);
   switch (app.frmMain.OpMicros.chosen) {
     case 1:
@@ -119,13 +129,8 @@ void ECRNumber_Leave(Application& app, int) {
   AssignText(app, app.frmMicros.ECRNumber, SevenDigits(app.frmMicros.ECRNumber.text));
 }
 
-// What was picked and not set must not be found again by the next opening.
 void frmMicros_Unload(Application& app, int) {
-  auto& form = app.frmMicros;
-  for (auto* list : {&form.ComboMICROS, &form.ComboMICROSADD, &form.ComboMODE, &form.HandSHKCombo})
-    list->position = -1;
-  for (auto& list : form.ComboISN) list.position = -1;
-  form.ECRNumber.text.clear();
+  ForgetSelections(app);
 }
 
 }  // namespace ovl
