@@ -4,6 +4,7 @@
 
 #include "core/actions.h"
 #include "core/failure.h"
+#include "core/firmware_id.h"
 #include "image/files.h"
 #include "image/record_stream.h"
 
@@ -19,6 +20,9 @@ constexpr const char* kAllFiles = "All Files(*.*)|*.*";
 // families, whatever the release.
 std::string SavedStream(Application& app) {
   PrepareCapabilities(app);
+  if (!IsKnownFamily(app.firmware.version)) {
+    throw Failure(app.firmware.Joined(), std::make_error_code(std::errc::not_supported).message());
+  }
   const auto layout = app.firmware.IsV1400() ? Layout::kEarlyV1400 : LayoutOf(app.firmware);
   auto sections = WriteSections(app.image, layout, app.firmware, app.capabilities);
   app.SYSCFG = std::move(sections.SYSCFG);
