@@ -226,13 +226,19 @@ void frmMain_Load(Application& app) {
   ShowForm(app, form.form);
 }
 
+void RefuseStart(Application& app, const std::string& reason) {
+  app.StatusNote = reason;
+  MsgBox(app, " ! Please Reinstall OVL PC Software !");
+  EndProgram(app);
+}
+
 void Start(Application& app) {
   try {
     frmMain_Load(app);
   } catch (const Failure& failure) {
-    app.StatusNote = failure.Subject() + ": " + failure.what();
-    MsgBox(app, " ! Please Reinstall OVL PC Software !");
-    EndProgram(app);
+    RefuseStart(app, failure.Subject() + ": " + failure.what());
+  } catch (const std::exception& error) {
+    RefuseStart(app, error.what());
   }
 }
 
