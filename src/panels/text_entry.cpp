@@ -22,6 +22,11 @@ TextBox& TargetOf(Application& app) {
   }
 }
 
+std::string UpToNul(std::string text) {
+  text.resize(std::min(text.find('\0'), text.size()));
+  return text;
+}
+
 }  // namespace
 
 void EnterText(Application& app, TextTarget target) {
@@ -34,9 +39,7 @@ void EnterText(Application& app, TextTarget target) {
 }
 
 std::string StoredText(std::string_view digits) {
-  auto text = HexToText(digits);
-  text.resize(std::min({text.find('\0'), text.size(), kTextLength}));
-  return text;
+  return UpToNul(HexToText(digits)).substr(0, kTextLength);
 }
 
 std::string PaddedText(std::string_view text) {
@@ -57,7 +60,7 @@ void frmSetEXCPSTR_Unload(Application& app, int) {
 }
 
 void TextEntrySet_Click(Application& app, int) {
-  AssignText(app, TargetOf(app), app.frmSetEXCPSTR.Text1.text);
+  AssignText(app, TargetOf(app), UpToNul(app.frmSetEXCPSTR.Text1.text));
   UnloadForm(app, app.frmSetEXCPSTR.form);
 }
 

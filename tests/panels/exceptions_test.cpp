@@ -117,10 +117,15 @@ TEST(Exceptions, EveryCharacterMakesTheRoundTrip) {
       EXPECT_EQ(program.app.frmMain.TextException.text, Padded(text));
       EXPECT_EQ(program.Byte(EXCPSTRS, 5), stored);
     }
-    program.Byte(EXCPSTRS, 6) = Slot(0, RangeOf(firmware), std::string("AB\0CD", 5));
+    const std::string cut("AB\0CD", 5);
+    program.Byte(EXCPSTRS, 6) = Slot(0, RangeOf(firmware), cut);
     Show(program, 6);
     EXPECT_EQ(program.app.frmMain.TextException.text, "AB");
     EXPECT_EQ(program.Byte(EXCPSTRS, 6), Slot(0, RangeOf(firmware), "AB"));
+    program.Byte(EXCPSTRS, 4) = Slot(0, RangeOf(firmware), "CD");
+    Show(program, 4);
+    ASSERT_EQ(program.EnterText("cmdSetExcpstr", cut), Outcome::kDone);
+    EXPECT_EQ(program.Byte(EXCPSTRS, 4), Slot(0, RangeOf(firmware), "AB")) << "a typed text ends there too";
   }
 }
 
@@ -265,6 +270,15 @@ TEST(ExceptionReport, ALoadEchoesNothingAndAClickRewritesTheTimeStamp) {
     program.Pick("ComboExcepRe(1)", row.time_stamp);
     program.Pick("ComboExcepRe(2)", row.duplicate_line);
   }
+  for (const char* other : {"ComboExcepRe(1)", "ComboExcepRe(2)"}) {
+    program.Byte(COMMCFG_BAK) = "00";
+    program.Byte(TIMESTAMP_ENA) = "02";
+    ASSERT_EQ(program.Reload(), Outcome::kDone);
+    program.Byte(COMMCFG_BAK) = "FF";
+    ASSERT_EQ(program.Pick(other, 1), Outcome::kDone);
+    EXPECT_EQ(program.Byte(COMMCFG_BAK) + program.Byte(TIMESTAMP_ENA), "EF01") << other;
+  }
+  program.Pick("ComboExcepRe(2)", 0);
   EXPECT_EQ(program.app.SavedIndexes["ComboExcepRe"], (std::vector<int>{0, 1, 0}));
 }
 
