@@ -21,7 +21,7 @@ FormWindow::FormWindow(Bindings& bindings, Form& form, QWidget* parent)
   setObjectName(FromWindows1252(form.name));
   setModal(false);
   bindings_.Follow([this, caption = Shadow<std::string>()]() mutable {
-    if (caption.Update(form_.caption)) setWindowTitle(FromWindows1252(form_.caption));
+    if (caption.Update(form_.caption)) setWindowTitle(FromSystem(form_.caption));
     if (enabled_.Update(form_.enabled)) setEnabled(form_.enabled);
     return false;
   });

@@ -8,7 +8,12 @@ ClockTime LocalClockTime() {
   const auto now = QDateTime::currentDateTime();
   const auto date = now.date();
   const auto time = now.time();
-  return {date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second()};
+  return {.year = date.year(),
+          .month = date.month(),
+          .day = date.day(),
+          .hour = time.hour(),
+          .minute = time.minute(),
+          .second = time.second()};
 }
 
 }  // namespace ovl
