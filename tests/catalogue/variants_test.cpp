@@ -200,7 +200,7 @@ TEST(Variants, TheCompactFormIsALaterReleaseWithLessOnIt) {
   EXPECT_FALSE(other.Control("ComboALM(7)").visible) << "the release that it runs as has no alarm type";
 }
 
-TEST(Variants, AnUnknownReleaseOfAShortFamilyIsShortAllTheSame) {
+TEST(Variants, AnUnknownReleaseRunsNoStepButIsShortInAShortFamily) {
   Harness program({"V1324", "R22"});
   ASSERT_EQ(program.Start(), Outcome::kDone);
   for (const char* name : {"Frame13", "Frame12", "OpDVR(2)", "ComboDIP(8)", "ComboALM(7)"}) {
@@ -208,6 +208,39 @@ TEST(Variants, AnUnknownReleaseOfAShortFamilyIsShortAllTheSame) {
   }
   EXPECT_TRUE(program.Control("FrameDemo").visible);
   EXPECT_TRUE(program.app.frmMain.ComboReg.items.empty());
+
+  Harness later({"V1400", "R13"});
+  ASSERT_EQ(later.Start(), Outcome::kDone);
+  EXPECT_FALSE(later.Control("CmdUpDow(5)").visible);
+  EXPECT_FALSE(later.app.frmMain.OpNCR.elements[5].visible);
+}
+
+// What a position means to the installer: an entry out of its place would store another setting.
+TEST(Lists, ReadInTheOrderOfTheirCodes) {
+  const std::pair<const char*, const char*> lists[] = {
+      {"ComboTD(0)", "OFF|ON"},
+      {"ComboTD(1)", "12 HOUR|24 HOUR"},
+      {"ComboTD(2)", "MM/DD/YY|DD/MM/YY|YY/MM/DD"},
+      {"ComboTD(3)", "DISABLED|U.S.A|CANADA|AUSTRALIA|TASMANIA|U.K."},
+      {"ComboTD(4)", "OFF|ON"},
+      {"ComboTD(5)", "OFF|ON"},
+      {"ComboDIP(2)", "TOP|BOTTOM"},
+      {"ComboDIP(7)", "OFF|1|2|3|4|5"},
+      {"ComboExcepRe(0)", "OFF|ON"},
+      {"ComboALM(2)", "NO|NC"},
+      {"ComboALM(3)", "1|3|5|10|15|20|30|60|120|180|240|PLUSE"},
+      {"ComboALM(4)", "NONE|*|FLASH *|REVERSE|FLASH"},
+      {"ComboALM(6)", "OFF|MANUAL|1S|2S|3S|5S|10S|20S|30S|1M"},
+      {"ComboALM(7)", "DWELL|TIMED"},
+      {"CharacterList", "19 Character|37 Character"},
+      {"DemoType", "FAST FOOD|CONVENIENCE STORE|GROCERY|PIZZA SHOP|COFFEE SHOP|RETAIL STORE"},
+      {"DemoSpeed", "0.5 Sec.|1 Sec.|2 Sec.|3 Sec"},
+  };
+  Installed program({"V1400", "R12"}, Images::kFirstRegister);
+  for (const auto& [list, entries] : lists) EXPECT_EQ(program.Offered(list), entries) << list;
+  EXPECT_EQ(program.Offered("OpDVR"), "KLM-4001|KLR-4011, 4021|TRVX3000/TRVX5000");
+  const auto ids = program.Offered("ComboKLM4011(0)");
+  EXPECT_EQ(ids.substr(0, 4) + ids.substr(ids.size() - 3), "1|2||32");
 }
 
 }  // namespace

@@ -139,10 +139,15 @@ TEST(Alarms, TheFlagHoldsForAllAlarms) {
     program.Byte(ALMCFG_BAK) = ByteToHex(0xF8 | stored % 8);
     ASSERT_EQ(program.Reload(), Outcome::kDone);
     EXPECT_EQ(program.At("ComboALM(5)"), shown);
+    EXPECT_EQ(program.Byte(FLAGDWLIND), ByteToHex(shown == 3 ? stored : 2 * shown));
     EXPECT_EQ(program.At("ComboALM(4)"), stored % 8 < 5 ? stored % 8 : 3);
     EXPECT_EQ(program.Byte(ALMCFG_BAK), ByteToHex(0xF8 | stored % 8));
     EXPECT_EQ(program.At("ComboALM(0)"), 0);
   }
+  program.Pick("ComboALM(5)", 2);
+  program.Byte(FLAGDWLIND) = "05";
+  ASSERT_EQ(program.Reload(), Outcome::kDone);
+  EXPECT_EQ(program.Byte(FLAGDWLIND), "05") << "the list stood there already";
 }
 
 TEST(Alarms, WhatElseAnAlarmHasGoesByTheFirmware) {

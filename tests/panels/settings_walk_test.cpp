@@ -14,6 +14,8 @@ struct Selection {
   const char* name;
   const char* frame;
   std::string_view fields;  // all that a pick may write
+  // Of a record of digits only these, from the first on.
+  std::size_t first_digit = 0, digits = std::string::npos;
 };
 
 // In an order in which a later pick takes nothing from an earlier one.
@@ -50,15 +52,19 @@ constexpr Selection kGlobal[] = {
     {"ComboKLM4011(3)", "Frame5", "HIST_SRC_ID"},
 };
 constexpr Selection kAlarm[] = {
-    {"ComboALM(1)", "Frame8", "ALMSTRUCT_BAK"},     {"ComboALM(2)", "Frame8", "ALMNORMAL_BAK"},
-    {"ComboALM(3)", "Frame8", "ALMSTRUCT_BAK"},     {"ComboALM(6)", "Frame8", "ALMSTRUCT_BAK"},
-    {"ComboALM(7)", "Frame8", "ALM_MODE"},          {"ComboTrigger(0)", "Frame15", "TRIGGER_TEXT"},
-    {"ComboTrigger(1)", "Frame15", "TRIGGER_TEXT"}, {"ComboTrigger(2)", "Frame15", "TRIGGER_DELAY"},
+    {"ComboALM(1)", "Frame8", "ALMSTRUCT_BAK", 0, 2},
+    {"ComboALM(2)", "Frame8", "ALMNORMAL_BAK"},
+    {"ComboALM(3)", "Frame8", "ALMSTRUCT_BAK", 2, 4},
+    {"ComboALM(6)", "Frame8", "ALMSTRUCT_BAK", 6, 2},
+    {"ComboALM(7)", "Frame8", "ALM_MODE"},
+    {"ComboTrigger(0)", "Frame15", "TRIGGER_TEXT", 0, 2},
+    {"ComboTrigger(1)", "Frame15", "TRIGGER_TEXT", 0, 2},
+    {"ComboTrigger(2)", "Frame15", "TRIGGER_DELAY"},
 };
 constexpr Selection kSlot[] = {
-    {"ComboExcp(4)", "Frame6", "EXCPSTRS"}, {"ComboExcp(1)", "Frame6", "EXCPSTRS"},
-    {"ComboExcp(2)", "Frame6", "EXCPSTRS"}, {"ComboExcp(3)", "Frame6", "EXCPSTRS"},
-    {"ComboExcp(5)", "Frame6", "EXCPSTRS"},
+    {"ComboExcp(4)", "Frame6", "EXCPSTRS", 0, 2}, {"ComboExcp(1)", "Frame6", "EXCPSTRS", 0, 2},
+    {"ComboExcp(2)", "Frame6", "EXCPSTRS", 0, 2}, {"ComboExcp(3)", "Frame6", "EXCPSTRS", 0, 2},
+    {"ComboExcp(5)", "Frame6", "EXCPSTRS", 0, 2},
 };
 
 bool OnScreen(PanelProgram& program, const Selection& selection) {
@@ -94,7 +100,6 @@ class EveryPosition {
     if (!Offered(writer_, selection)) return;
     const auto entries = static_cast<int>(writer_.ListOf(selection.name).items.size());
     ASSERT_EQ(writer_.Pick(selection.name, number % entries), Outcome::kDone) << selection.name;
-    covered_[selection.name].insert(number % entries);
     set_[record + selection.name] = number % entries;
   }
 
@@ -121,7 +126,11 @@ class EveryPosition {
     const int recorder = round % 3 % (recorders.elements[2].visible ? 3 : 2);
     ASSERT_EQ(writer_.Pick("OpDVR", recorder), Outcome::kDone);
     if (!writer_.app.frmMain.DemoMode.checked) writer_.Click("DemoMode");
-    for (const auto& selection : kGlobal) Set(selection, round);
+    constexpr int kTimeouts = 6;
+    for (const auto& selection : kGlobal) {
+      const bool scroll_switch = std::string_view(selection.name) == "ComboScroll(0)";
+      Set(selection, scroll_switch ? 1 + round / kTimeouts : round);
+    }
     if (round % 3 != 0) writer_.Click("DemoMode");
 
     // Where the demonstration counts its lists from 1, a running one always shows the second.
@@ -167,6 +176,7 @@ class EveryPosition {
         before = record;
       }
       EXPECT_EQ(reader_->At(name), position) << key;
+      covered_[name].insert(position);
     }
     EXPECT_EQ(reader_->app.frmMain.OpDVR.chosen, writer_.app.frmMain.OpDVR.chosen);
     EXPECT_EQ(reader_->app.frmMain.DemoMode.checked, writer_.app.frmMain.DemoMode.checked);
@@ -264,17 +274,23 @@ class RandomWalk {
     const int position = Below(entries + 2) - 1;
     const bool exists = position >= 0 && position < entries;
     EXPECT_EQ(program_.Pick(selection.name, position), exists ? Outcome::kDone : Outcome::kRefused);
-    ExpectWritten(selection.name, exists ? selection.fields : "");
+    ExpectWritten(selection.name, exists ? selection.fields : "", selection.first_digit, selection.digits);
   }
 
   void EnterText(const char* button, std::string_view field) {
     auto& dialog = program_.app.frmSetEXCPSTR;
+    const int slot = program_.At("ComboExcp(0)") + 1;
+    const auto text_before = program_.Byte(EXCPSTRS, slot);
+    const std::size_t range = program_.app.firmware.IsV1400() ? 20 : 12;
     EXPECT_EQ(program_.Click(button), Outcome::kDone);
     EXPECT_EQ(program_.Type(dialog.Text1, Text()), Outcome::kDone);
     if (Below(8) == 0) program_.Click("frmSetEXCPSTR.cmdClr");
     const bool set = Below(4) != 0;
     EXPECT_EQ(program_.Press(dialog.form, set ? Key::kEnter : Key::kEscape), Outcome::kDone);
     ExpectWritten(button, set ? field : "");
+    if (text_before.empty() || field != "EXCPSTRS") return;
+    const auto& text_after = program_.Byte(EXCPSTRS, slot);
+    EXPECT_EQ(text_after.substr(2, range), text_before.substr(2, range)) << "the range under a new text";
   }
 
   void EditRange() {
@@ -292,7 +308,8 @@ class RandomWalk {
   }
 
   // Only the fields named may have changed, in the record that is shown, and to the length that they had.
-  void ExpectWritten(const char* act, std::string_view fields) {
+  void ExpectWritten(const char* act, std::string_view fields, std::size_t first_digit = 0,
+                     std::size_t digits = std::string::npos) {
     bool changed = false;
     for (const auto& row : FieldTable()) {
       for (int entry = 1; entry <= EntryCount(row.id); ++entry) {
@@ -304,6 +321,9 @@ class RandomWalk {
             << act << " wrote " << row.name << " " << was << " " << is;
         EXPECT_TRUE(is.size() == was.size() || (row.id == BLNKRTS_BAK && was.empty()))
             << act << " " << row.name;
+        if (digits != std::string::npos) {
+          EXPECT_EQ(std::string(was).replace(first_digit, digits, is, first_digit, digits), is) << act;
+        }
         if (EntryCount(row.id) == kAlarms) {
           EXPECT_EQ(entry, program_.At("ComboALM(0)") + 1) << act;
         }
