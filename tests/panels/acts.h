@@ -71,8 +71,21 @@ class PanelProgram : public Installed {
     file_answers.emplace_back(path);
     return Click("OpenMenu");
   }
+  Outcome Upload(const std::string& stream) {
+    Click("cmdConnect");
+    Click("frmSettSR.cmdSET");
+    Click("CmdUpDow(4)");
+    Unit("\x06");
+    Tick(app.frmMain.General_timer);
+    Click("CmdUpDow(0)");
+    Unit(stream);
+    return Close(app.frmOK_buttom.form);
+  }
   // Sends the image out and takes it in again.
-  Outcome Reload() { return Open(SectionsToStream(app)); }
+  Outcome Reload(bool by_upload = false) {
+    const auto stream = SectionsToStream(app);
+    return by_upload ? Upload(stream) : Open(stream);
+  }
 
   // Through the text dialog that the button opens.
   Outcome EnterText(std::string_view button, std::string text) {

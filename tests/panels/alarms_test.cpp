@@ -205,6 +205,21 @@ TEST(Alarms, EverySelectionIsNotedAtTheEndOfAClick) {
                 Repeat("0", 82) + " TRIGGER_DELAY(5)=01 ALM_MODE(5)=01");
 }
 
+TEST(Alarms, ALoadShowsTheFirstAnewWhicheverWasShown) {
+  PanelProgram program({"V1400", "R12"});
+  int trigger = 0;
+  for (const bool upload : {false, true}) {
+    for (const int before : {1, 2, 16}) {
+      SCOPED_TRACE(before);
+      ASSERT_EQ(Show(program, before), Outcome::kDone);
+      program.Byte(ALMSTRUCT_BAK, 1) = ByteToHex(++trigger) + "FF0000";
+      ASSERT_EQ(program.Reload(upload), Outcome::kDone);
+      EXPECT_EQ(program.At("ComboALM(0)"), 0);
+      EXPECT_EQ(program.At("ComboALM(1)"), trigger);
+    }
+  }
+}
+
 // A text by the rule of trigger texts and title: no blanks at the ends, no length, filled up with zeros.
 std::string Filled(std::string text) {
   const auto first = text.find_first_not_of(' ');

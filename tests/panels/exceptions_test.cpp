@@ -193,6 +193,22 @@ TEST(Exceptions, ASlotIsTidiedByBeingLookedAtAndASoundOneStays) {
   EXPECT_EQ(program.Written(), "");
 }
 
+TEST(Exceptions, ALoadShowsTheFirstAnewWhicheverWasShown) {
+  PanelProgram program(kFamilies[0]);
+  int length = 0;
+  for (const bool upload : {false, true}) {
+    for (const int before : {1, 2, 24}) {
+      SCOPED_TRACE(before);
+      ASSERT_EQ(Show(program, before), Outcome::kDone);
+      const std::string text(static_cast<std::size_t>(++length), 'x');
+      program.Byte(EXCPSTRS, 1) = Slot(0, RangeOf(kFamilies[0]), text);
+      ASSERT_EQ(program.Reload(upload), Outcome::kDone);
+      EXPECT_EQ(program.At("ComboExcp(0)"), 0);
+      EXPECT_EQ(program.app.frmMain.TextException.text, Padded(text));
+    }
+  }
+}
+
 TEST(Exceptions, AClickStoresItsOwnFlagsAlone) {
   const std::tuple<int, int, const char*, const char*> rows[] = {
       {1, 1, "80", "81"}, {1, 0, "FF", "FE"}, {2, 1, "80", "82"}, {2, 0, "FF", "FD"}, {3, 1, "80", "A0"},
