@@ -30,10 +30,10 @@ Windows::Windows(Application& app, ActFunction act)
       bindings_(app, std::move(act), [this](const QString& hint) { main_->Status().ShowHint(hint); }),
       main_(std::make_unique<MainWindow>(bindings_)) {
   for (auto* build : {BuildPortSettingsWindow, BuildScanProgressWindow, BuildTransferEndWindow,
-                      BuildTextEntryWindow, BuildRangeWindow, BuildViewerWindow}) {
+                      BuildTextEntryWindow, BuildRangeWindow}) {
     forms_.push_back({build(bindings_, main_.get()), false});
   }
-  for (auto* build : {BuildMicrosWindow, BuildSubMenuWindow}) {
+  for (auto* build : {BuildMicrosWindow, BuildSubMenuWindow, BuildViewerWindow}) {
     forms_.push_back({build(bindings_, main_.get()), true});
     forms_.back().window->StandBeside();
   }
