@@ -192,10 +192,7 @@ QWidget* Bindings::MakeText(TextBox& box) {
   });
   FollowFace(*line, box);
   Follow([line, &box, shadow, limit = Shadow<std::size_t>(), fixed = Shadow<bool>()]() mutable {
-    if (limit.Update(box.max_length)) {
-      constexpr int kNoLimit = 32767;
-      line->setMaxLength(box.max_length == 0 ? kNoLimit : static_cast<int>(box.max_length));
-    }
+    if (limit.Update(box.max_length)) line->SetLimit(static_cast<int>(box.max_length));
     if (fixed.Update(box.read_only)) line->setReadOnly(box.read_only);
     if (shadow->Update(box.text)) line->setText(FromWindows1252(box.text));
     return false;

@@ -1,6 +1,6 @@
 #include "shell/text_windows.h"
 
-#include <QEvent>
+#include <QFocusEvent>
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -52,13 +52,17 @@ QLabel* LabelFor(QWidget& field) {
   return label;
 }
 
-// Marks the whole text whenever the field gets the focus, also by a click.
+// Marks the whole text whenever the field gets the focus. A click that brings the focus would set the caret
+// afterwards.
 class WholeTextMarker : public QObject {
  public:
   explicit WholeTextMarker(QLineEdit& line) : QObject(&line), line_(line) { line.installEventFilter(this); }
 
   bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::FocusIn) QTimer::singleShot(0, &line_, &QLineEdit::selectAll);
+    if (event->type() != QEvent::FocusIn) return false;
+    const bool by_click = static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason;
+    if (by_click) QTimer::singleShot(0, &line_, &QLineEdit::selectAll);
+    if (!by_click) line_.selectAll();
     return false;
   }
 
@@ -66,13 +70,11 @@ class WholeTextMarker : public QObject {
   QLineEdit& line_;
 };
 
-// How full the text is. Blanks that no one sees take room as well.
+// How full the text is. Blanks that fill it up leave room.
 QString TextHint(const Application& app) {
   const auto& box = app.frmSetEXCPSTR.Text1;
   const auto seen = box.text.find_last_not_of(' ') + 1;
-  auto hint = QStringLiteral("%1 of %2 characters").arg(box.text.size()).arg(box.max_length);
-  if (seen < box.text.size())
-    hint += QStringLiteral(", %1 of them blanks at the end").arg(box.text.size() - seen);
+  auto hint = QStringLiteral("%1 of %2 characters").arg(seen).arg(box.max_length);
   if (app.TextEntryMode == static_cast<int>(TextTarget::kException)) {
     hint += QStringLiteral(". A ? stands for any character");
   }

@@ -87,14 +87,37 @@ class MarkDelegate : public QStyledItemDelegate {
   TallList* list_;
 };
 
-class ByteTextValidator : public QValidator {
+qsizetype SizeWithoutFill(const QString& text) {
+  auto size = text.size();
+  while (size > 0 && text[size - 1] == QLatin1Char(' ')) --size;
+  return size;
+}
+
+}  // namespace
+
+// What a text line takes, and why it did not take the last it was offered.
+class TextRule : public QValidator {
  public:
   using QValidator::QValidator;
 
-  State validate(QString& text, int&) const override { return ToWindows1252(text) ? Acceptable : Invalid; }
-};
+  State validate(QString& text, int& caret) const override {
+    if (!ToWindows1252(text))
+      return Refuse(QStringLiteral("The unit has no such character: only Windows-1252 can be typed."));
+    if (limit == 0 || text.size() <= limit) return Acceptable;
+    text.truncate(std::max<qsizetype>({limit, caret, SizeWithoutFill(text)}));
+    if (text.size() <= limit) return Acceptable;
+    return Refuse(QStringLiteral("No more than %1 characters fit here.").arg(limit));
+  }
 
-}  // namespace
+  int limit = 0;
+  mutable QString reason;
+
+ private:
+  State Refuse(const QString& why) const {
+    reason = why;
+    return Invalid;
+  }
+};
 
 PickList::PickList(QWidget* parent) : QComboBox(parent) {
   setMaxVisibleItems(kPopupLines);
@@ -171,14 +194,33 @@ void OptionButton::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-TextLine::TextLine(QWidget* parent) : QLineEdit(parent) {
-  setValidator(new ByteTextValidator(this));
+TextLine::TextLine(QWidget* parent) : QLineEdit(parent), rule_(new TextRule(this)) {
+  setValidator(rule_);
   connect(this, &QLineEdit::inputRejected, this, [this] {
-    if (!refused) return;
-    const bool full = maxLength() > 0 && text().size() >= maxLength();
-    refused(full ? QStringLiteral("No more than %1 characters fit here.").arg(maxLength())
-                 : QStringLiteral("The unit has no such character: only Windows-1252 can be typed."));
+    if (refused) refused(rule_->reason);
   });
+}
+
+void TextLine::SetLimit(int characters) {
+  rule_->limit = characters;
+}
+
+void TextLine::keyPressEvent(QKeyEvent* event) {
+  QLineEdit::keyPressEvent(event);
+  LeaveBlanks(text().size());
+}
+
+void TextLine::mouseReleaseEvent(QMouseEvent* event) {
+  QLineEdit::mouseReleaseEvent(event);
+  LeaveBlanks(0);
+}
+
+// Behind the blanks of a full text there is no room: a caret that came there, or was put among blanks that no
+// one sees, goes to the end of what is seen.
+void TextLine::LeaveBlanks(qsizetype from) {
+  const bool full = text().size() == rule_->limit;
+  if (!full || hasSelectedText() || cursorPosition() < from) return;
+  setCursorPosition(std::min(cursorPosition(), static_cast<int>(SizeWithoutFill(text()))));
 }
 
 }  // namespace ovl

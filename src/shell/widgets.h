@@ -11,6 +11,8 @@
 
 namespace ovl {
 
+class TextRule;
+
 // A pick-only list. The wheel scrolls the page behind it and never changes it.
 class PickList : public QComboBox {
  public:
@@ -67,12 +69,24 @@ class TurnBox : public QCheckBox {
   void nextCheckState() override {}
 };
 
-// Takes characters of Windows-1252 only. `refused` is told the reason when one is turned away.
+// Takes characters of Windows-1252 only, and no more than its limit. The blanks that fill a text up give way
+// to what is typed in front of them. `refused` is told the reason when something is turned away.
 class TextLine : public QLineEdit {
  public:
   explicit TextLine(QWidget* parent = nullptr);
 
+  void SetLimit(int characters);  // 0: none
+
   std::function<void(const QString& reason)> refused;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  void LeaveBlanks(qsizetype from);
+
+  TextRule* rule_;
 };
 
 }  // namespace ovl
