@@ -95,6 +95,7 @@ QWidget* BuildAlarmPage(Bindings& bindings) {
   const auto& form = bindings.Model().frmMain;
   Page page(bindings, form.form, kColumnGap);
   auto& column = page.Column();
+  column.LabelsAtLeast(CaptionWidth({&form.ComboALM[1]}) + kFieldGap + CaptionWidth({&form.lbAlmTrig}));
   AddEditor(column, form);
   column.Section("Frame15");
   AddTextRow(bindings, column, "TextTrigger", "cmdSetTrigger", ButtonPlace::kBelow);

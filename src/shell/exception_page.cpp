@@ -30,7 +30,7 @@ struct Act {
   const char* word;
 };
 constexpr std::array kActs = {Act{1, 0, 'D', "D display"}, Act{2, 1, 'O', "O output"},
-                              Act{3, 5, 'H', "H history buffer"}, Act{4, 6, 'S', "S scroll matching"}};
+                              Act{3, 5, 'H', "H history"}, Act{4, 6, 'S', "S scroll matching"}};
 constexpr std::size_t kScrollMatching = 4;
 
 // Scroll matching is told also where the panel has no list for it: it holds the other acts off.

@@ -260,6 +260,7 @@ QWidget* PageColumn::MakeFields(const QString& label, const std::vector<Field>& 
 QLabel* PageColumn::MakeRowLabel(const RowLabel& label, const NamedControl& first) {
   auto* text = new QLabel(CaptionText(label.text.toStdString()));
   text->setTextFormat(Qt::PlainText);
+  text->setContentsMargins(0, 0, kLetterRoom, 0);
   const Face* named =
       label.control.empty() ? nullptr : &FaceOf(bindings_.Named(form_, label.control).control);
   if (named != nullptr) text->setObjectName(QString::fromStdString(label.control));

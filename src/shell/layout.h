@@ -26,6 +26,10 @@ class QVBoxLayout;
 
 namespace ovl {
 
+// At the end of a row's label. A letter that is underlined for the keyboard loses its kerning, and the text
+// becomes wider than it was measured.
+inline constexpr int kLetterRoom = 2;
+
 // The label of a row: words of our own, a label of the model with caption, state and name, or the caption of
 // the field itself.
 struct RowLabel {

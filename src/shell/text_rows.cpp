@@ -1,6 +1,5 @@
 #include "shell/text_rows.h"
 
-#include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -9,6 +8,7 @@
 #include <algorithm>
 
 namespace ovl {
+
 void AddTextRow(Bindings& bindings, PageColumn& column, const char* name, const char* button,
                 ButtonPlace place) {
   if (place == ButtonPlace::kBeside) {
@@ -31,11 +31,10 @@ void AddTitleRows(Bindings& bindings, PageColumn& column) {
 }
 
 int CaptionWidth(std::initializer_list<const Face*> faces) {
-  const QFontMetrics metrics(QLabel().font());
   int widest = 0;
   for (const auto* face : faces)
-    widest = std::max(widest, metrics.horizontalAdvance(CaptionText(face->caption)));
-  return widest;
+    widest = std::max(widest, QLabel(CaptionText(face->caption)).sizeHint().width());
+  return widest + 2 * kLetterRoom;
 }
 
 QWidget* BesideOverview(Bindings& bindings, QWidget* overview, QScrollArea* editor) {

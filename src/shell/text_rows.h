@@ -18,7 +18,7 @@ void AddTextRow(Bindings& bindings, PageColumn& column, const char* name, const 
 // The title of the picture, on the panel of time and date.
 void AddTitleRows(Bindings& bindings, PageColumn& column);
 
-// The widest of the captions, as a label shows it.
+// What the widest of the captions takes as a label, whichever of its letters is underlined.
 int CaptionWidth(std::initializer_list<const Face*> faces);
 
 // An overview at the left and the editor, which scrolls up and down by itself, at the right.
