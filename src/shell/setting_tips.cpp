@@ -31,8 +31,8 @@ constexpr std::array kTips{
     Tip{"frmMain", "ComboNone(1)", "This part in the network has no address."},
     Tip{"frmMain", "ComboNone(2)", "Without a chain of units there is no protocol to choose."},
     Tip{"frmMain", "ComboDIP(0)",
-        "Minutes without text after which the unit clears the picture; a pick also resets format, "
-        "compression and delay."},
+        "Minutes without text after which the unit clears the picture; every pick but 10 also resets format, "
+        "line compression and delay."},
     Tip{"frmMain", "ComboDIP(1)", "How many lines of text the unit shows; title and clock need a line each."},
     Tip{"frmMain", "ComboDIP(2)", "Whether the text stands at the top or at the bottom of the picture."},
     Tip{"frmMain", "ComboDIP(3)", "Whether the unit leaves out empty lines."},
