@@ -16,6 +16,14 @@ namespace {
 
 enum GridColumn { kLabels, kFields, kRest, kGridColumns };
 
+class RowText : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+  QSize sizeHint() const override { return QLabel::sizeHint() + QSize(kLetterRoom, 0); }
+  QSize minimumSizeHint() const override { return QLabel::minimumSizeHint() + QSize(kLetterRoom, 0); }
+};
+
 QWidget* TitleBlock(QLabel& title) {
   auto* block = new QWidget;
   auto* down = new QVBoxLayout(block);
@@ -258,9 +266,8 @@ QWidget* PageColumn::MakeFields(const QString& label, const std::vector<Field>& 
 }
 
 QLabel* PageColumn::MakeRowLabel(const RowLabel& label, const NamedControl& first) {
-  auto* text = new QLabel(CaptionText(label.text.toStdString()));
+  auto* text = new RowText(CaptionText(label.text.toStdString()));
   text->setTextFormat(Qt::PlainText);
-  text->setContentsMargins(0, 0, kLetterRoom, 0);
   const Face* named =
       label.control.empty() ? nullptr : &FaceOf(bindings_.Named(form_, label.control).control);
   if (named != nullptr) text->setObjectName(QString::fromStdString(label.control));
