@@ -176,7 +176,7 @@ void ReadFirmware(Application& app) {
     app.firmware.release = ReadSetting(app, SettingRoot::kLocalMachine, kSettingsKey, kReleaseValue);
   }
   if (!app.firmware.version.empty() && !app.firmware.release.empty()) return;
-  MsgBox(app, "Please ReInstall Ovalon PC Software", "Registry Error.", BoxIcon::kInformation);
+  MsgBox(app, Box::kRegistryError);
   EndProgram(app);
 }
 
@@ -228,7 +228,7 @@ void frmMain_Load(Application& app) {
 
 void RefuseStart(Application& app, const std::string& reason) {
   app.StatusNote = reason;
-  MsgBox(app, " ! Please Reinstall OVL PC Software !");
+  MsgBox(app, Box::kStartFailed);
   EndProgram(app);
 }
 

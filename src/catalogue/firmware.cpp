@@ -82,7 +82,7 @@ void SelectFirmware(Application& app, const FirmwareEntry& entry) {
   mark = true;
   app.firmware = {std::string(entry.version), std::string(entry.release)};
   StoreFirmware(app);
-  MsgBox(app, Joined(entry) + " WILL TAKE EFFECT WHEN THE APPLICATION NEXT START", {}, BoxIcon::kInformation);
+  MsgBox(app, Box::kFirmwareChosen, Joined(entry));
   EndProgram(app);
 }
 

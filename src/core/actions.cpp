@@ -76,8 +76,8 @@ void SetFocus(Form& form, Face& control) {
   ++form.focus_requests;
 }
 
-void MsgBox(Application& app, std::string text, std::string title, BoxIcon icon) {
-  app.platform.show_message({std::move(title), std::move(text), icon});
+void MsgBox(Application& app, Box box, std::string_view detail) {
+  app.platform.show_message(BoxOf(box, detail));
 }
 
 void EndProgram(Application& app) {

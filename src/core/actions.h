@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "core/application.h"
+#include "core/messages.h"
 
 namespace ovl {
 
@@ -32,8 +33,8 @@ void ReleaseMain(Application& app);
 
 void SetFocus(Form& form, Face& control);
 
-// Shows a box and returns when it is closed.
-void MsgBox(Application& app, std::string text, std::string title = {}, BoxIcon icon = BoxIcon::kNone);
+// Shows a box and returns when it is closed. The detail stands where its words leave room for one.
+void MsgBox(Application& app, Box box, std::string_view detail = {});
 
 [[noreturn]] void EndProgram(Application& app);
 

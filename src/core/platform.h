@@ -17,6 +17,7 @@ struct MessageBox {
   std::string title;  // empty: no title of its own
   std::string text;   // lines are separated by \n
   BoxIcon icon = BoxIcon::kNone;
+  std::string_view topic = {};  // under which the help explains it
 };
 
 // A filter is a row of "description|pattern" pairs joined by "|"; filter_index counts the pairs from 1.

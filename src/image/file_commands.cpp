@@ -86,10 +86,10 @@ void menuSave_Click(Application& app, int) {
     WriteWhole(AskForPath(app, dialog), stream + "\r\n");
   } catch (const Failure& failure) {
     app.StatusNote = failure.Subject() + ": " + failure.what();
-    MsgBox(app, "NoFile Save. !!!        ", {}, BoxIcon::kInformation);
+    MsgBox(app, Box::kNotSaved);
     return;
   }
-  MsgBox(app, "Save Completed.        ", {}, BoxIcon::kInformation);
+  MsgBox(app, Box::kSaved);
 }
 
 }  // namespace ovl

@@ -40,7 +40,7 @@ void OpenHistory(Application& app, const FileAnswer& answer) {
   app.CurrentFilePath = answer.file_name;
   const auto lines = ReadLines(answer.file_name);
   if (lines.empty() || lines.front() != kTag) {
-    MsgBox(app, "Incompatible File !!!, try again.");
+    MsgBox(app, Box::kNotHistory);
     return;
   }
   FillViewer(app, answer.file_name, WithLineEnds(std::span(lines).subspan(1)));

@@ -17,11 +17,6 @@ constexpr Region kV1400Long = {0x2000, 0x2860};
 constexpr Region kOldV13Region = {0x7800, 0x7FE0};
 constexpr Region kNewV13Region = {0x77F0, 0x7FF0};
 
-constexpr const char* kIncompatible =
-    "The Ovalon Version is not compatible !!!\n       Try with the same version again.";
-constexpr const char* kFileError =
-    "                System File Error. \nPlease ReInstall Ovalon PC Software !!";
-
 Region ByRelease(const FirmwareId& firmware) {
   if (firmware.IsV1400()) return firmware.Number() < 6 ? kV1400Short : kV1400Long;
   return LayoutOf(firmware) == Layout::kOldV13 ? kOldV13Region : kNewV13Region;
@@ -105,10 +100,10 @@ bool LoadStream(Application& app, std::string_view stream) {
     case ParseResult::kOtherFirmware:
       EnableTimer(app.frmMain.Timer_Operating, false);
       app.OperatingCount = 0;
-      MsgBox(app, kIncompatible);
+      MsgBox(app, Box::kOtherFirmware);
       return false;
     case ParseResult::kBroken:
-      MsgBox(app, kFileError);
+      MsgBox(app, Box::kSystemFile);
       EndProgram(app);
     case ParseResult::kOk:
       break;

@@ -31,7 +31,7 @@ void BaudRateScan_Timer(Application& app, int) {
   if (app.ScanIndex >= kScanOrder.size()) {
     Disconnect(app);
     UnloadForm(app, app.frmScanBProgress.form);
-    MsgBox(app, "No Response From The Device");
+    MsgBox(app, Box::kNoResponse);
     EndScan(app);
     return;
   }

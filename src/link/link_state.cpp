@@ -8,7 +8,6 @@ namespace ovl {
 namespace {
 
 constexpr std::int16_t kCharsBeforeStep = 50;
-constexpr std::size_t kSendFailureIndent = 23;
 
 }  // namespace
 
@@ -88,7 +87,7 @@ void SendWhole(Application& app, const std::string& text) {
 void TellSendFailure(Application& app, const Failure& failure) {
   app.StatusNote = failure.Subject() + ": " + failure.what();
   ClearDownload(app);
-  MsgBox(app, std::string(kSendFailureIndent, ' ') + failure.what());
+  MsgBox(app, Box::kSendFailed, failure.what());
 }
 
 void ClearDownload(Application& app) {

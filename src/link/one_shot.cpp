@@ -46,7 +46,7 @@ void SetTimeStep(Application& app) {
   app.SetTimePending = false;
   if (done) app.frmMain.CmdUpDow[kRemote].enabled = true;
   EndOneShot(app);
-  MsgBox(app, done ? "SET TIME DATE FINISHED." : "Please Send Time Date agian.");
+  MsgBox(app, done ? Box::kClockSet : Box::kClockRefused);
 }
 
 void HistoryStep(Application& app) {
@@ -66,7 +66,7 @@ void MasterResetStep(Application& app) {
   app.MasterResetPending = false;
   app.frmMain.CmdUpDow[kRemote].enabled = true;
   EndOneShot(app);
-  MsgBox(app, app.LastReceived == kAck ? "       Master Reset Done." : "Cannot Master Reset to Device.");
+  MsgBox(app, app.LastReceived == kAck ? Box::kResetDone : Box::kResetRefused);
 }
 
 }  // namespace ovl

@@ -7,7 +7,6 @@
 namespace ovl {
 namespace {
 
-constexpr std::size_t kFailureIndent = 11;
 constexpr int kFirstBaud = 3;  // "9600"
 constexpr int kFirstDataBits = 1;
 constexpr int kFirstParity = 0;
@@ -37,7 +36,7 @@ void OpenPort(Application& app) {
     SetUpComm(app);
   } catch (const Failure& failure) {
     app.StatusNote = failure.Subject() + ": " + failure.what();
-    MsgBox(app, std::string(kFailureIndent, ' ') + failure.what());
+    MsgBox(app, Box::kPortFailed, failure.what());
     return;
   }
   auto& form = app.frmMain;

@@ -17,10 +17,7 @@ constexpr std::int16_t kHandcheckLimit = 30;
 constexpr std::int16_t kSilenceLimit = 6;  // ticks of the watchdog
 
 void ShowConnectionFailure(Application& app) {
-  MsgBox(app,
-         "                            !!! Remote Connection Fail. !!!\n"
-         "Cable Disconnected Or Communication Setting Wrong ,Try Again",
-         "- Connection Fail -");
+  MsgBox(app, Box::kConnectionFail);
 }
 
 void FailWrongParity(Application& app) {
@@ -31,7 +28,7 @@ void FailWrongParity(Application& app) {
   StopOperating(app);
   ClearDownload(app);
   AssignPosition(app, app.frmMain.ComboReg, 0);
-  MsgBox(app, "Check Parity and Data Bit Setting that Same OVL ,Try again !!!");
+  MsgBox(app, Box::kWrongParity);
 }
 
 void FailRefused(Application& app) {
@@ -51,7 +48,7 @@ void FailKeepAlive(Application& app) {
   form.cmdDisConnect.visible = false;
   form.cmdConnect.visible = true;
   ClearDownload(app);
-  MsgBox(app, "!!! Remote Connection Time out. !!!", "- Connection Time Out -");
+  MsgBox(app, Box::kTimeOut);
   StopHandcheck(app);
   app.RemoteHeld = false;
 }
@@ -75,7 +72,7 @@ void LeaveRemoteMode(Application& app) {
 
 void Remote(Application& app) {
   if (!app.frmMain.MSComm1.PortOpen) {
-    MsgBox(app, "        Please Select Comport.");
+    MsgBox(app, Box::kSelectComport);
     return;
   }
   if (app.RemoteHeld) {
@@ -247,7 +244,7 @@ void Time_handcheck_Timer(Application& app, int) {
     TickHandcheck(app);
   } catch (const Failure& failure) {
     app.StatusNote = failure.Subject() + ": " + failure.what();
-    MsgBox(app, failure.what());
+    MsgBox(app, Box::kKeepAliveFailed, failure.what());
   }
 }
 

@@ -14,8 +14,6 @@
 namespace ovl {
 namespace {
 
-constexpr std::size_t kFailureIndent = 19;
-
 // Takes the register's own fields or, the first time, the whole image, and refreshes what shows them.
 void TakeDefaultImage(Application& app) {
   app.StreamText.clear();
@@ -74,8 +72,7 @@ void RegisterSelected(Application& app, int) {
     TakeDefaultImage(app);
   } catch (const Failure& failure) {
     app.StatusNote = failure.Subject() + ": " + failure.what();
-    MsgBox(app,
-           std::string(kFailureIndent, ' ') + failure.what() + "\nPlease ReInstall Ovalon PC Software !!");
+    MsgBox(app, Box::kNoDefaultImage, failure.what());
     EndProgram(app);
   }
   app.picks_under_way.erase(position);
