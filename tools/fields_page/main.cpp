@@ -1,0 +1,193 @@
+// Writes the help page "Fields" from the table of the fields, so that the page cannot fall behind it.
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <iostream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "catalogue/firmware.h"
+#include "core/application.h"
+#include "editors.h"
+#include "image/field_map.h"
+
+namespace ovl {
+namespace {
+
+constexpr std::array kSections = {"System configuration (SYSCFG)", "Fixed configuration (SYSFIXED)",
+                                  "Strings (SYSSTR)"};
+constexpr int kTabs = 7;
+
+// Where each field begins in its section, in digits; -1 where the firmware has none. Firmware with the same
+// places share a column.
+using Places = std::vector<int>;
+
+struct Column {
+  Places places;
+  std::string firmware;
+};
+
+Places PlacesOf(const FirmwareId& firmware) {
+  const auto layout = LayoutOf(firmware);
+  const auto capabilities = CapabilitiesOf(firmware);
+  std::array<int, kSections.size()> next = {};
+  Places places;
+  for (const auto& row : FieldTable()) {
+    auto& digit = next.at(static_cast<std::size_t>(row.section));
+    const bool has = InStream(row, layout, firmware.Number(), capabilities, Direction::kRead);
+    places.push_back(has ? digit : -1);
+    if (has) digit += DigitsOf(row, layout) * EntryCount(row.id);
+  }
+  return places;
+}
+
+std::vector<Column> Columns() {
+  std::vector<Column> columns;
+  for (const auto& entry : FirmwareTable()) {
+    if (!entry.in_menu) continue;
+    const auto places = PlacesOf({std::string(entry.version), std::string(entry.release)});
+    auto column = std::find_if(columns.begin(), columns.end(),
+                               [&](const Column& known) { return known.places == places; });
+    if (column == columns.end()) column = columns.insert(columns.end(), {places, {}});
+    auto& firmware = column->firmware;
+    const auto family = firmware.rfind(entry.version);
+    if (!firmware.empty()) firmware += ", ";
+    if (family == std::string::npos) firmware.append(entry.version).append(" ");
+    firmware += entry.release;
+  }
+  return columns;
+}
+
+std::string LetterOf(std::size_t column) {
+  return std::string(1, static_cast<char>('A' + column));
+}
+
+class Page {
+ public:
+  explicit Page(const Application& app) : app_(app), columns_(Columns()) {}
+
+  std::string Text() {
+    AddHead();
+    for (std::size_t section = 0; section < kSections.size(); ++section) AddSection(section);
+    return text_;
+  }
+
+ private:
+  void AddHead() {
+    text_ +=
+        "# Fields\n\nEverything that a configuration holds, in the order in which it goes over the line and "
+        "stands in a file: three sections, one behind the other. Bytes are two hexadecimal digits.\n\n"
+        "The columns with letters tell at which byte of its section a field begins, counted from 0 (its "
+        "first "
+        "digit is twice that plus one), under these firmware; a dash means that they do not have it:\n\n";
+    for (std::size_t at = 0; at < columns_.size(); ++at) {
+      text_ += "- **" + LetterOf(at) + "** " + columns_[at].firmware + "\n";
+    }
+    text_ +=
+        "\n\"Register\" marks what picking a register takes from its default image. \"Kept\" fields are "
+        "edited "
+        "nowhere: they are read, kept and written back.\n";
+  }
+
+  void AddSection(std::size_t section) {
+    text_.append("\n## ").append(kSections.at(section)).append("\n\n| Field | Bytes ");
+    for (std::size_t at = 0; at < columns_.size(); ++at) text_ += "| " + LetterOf(at) + " ";
+    text_ += "| Register | Edited by |\n|---|---";
+    for (std::size_t at = 0; at < columns_.size(); ++at) text_ += "|---";
+    text_ += "|---|---|\n";
+    const auto rows = FieldTable();
+    std::string notes;
+    for (std::size_t field = 0; field < rows.size(); ++field) {
+      const auto& row = rows[field];
+      if (static_cast<std::size_t>(row.section) != section) continue;
+      AddRow(row, field);
+      if (row.since.readers_only) {
+        notes.append("\n`").append(row.name);
+        notes += "` is read by V1400 from R" + std::to_string(row.since.release) +
+                 " on; the late releases before it write it too, once it holds something.\n";
+      }
+    }
+    text_ += notes;
+  }
+
+  void AddRow(const FieldRow& row, std::size_t field) {
+    text_.append("| `").append(row.name).append("` | ").append(WidthOf(row)).append(" ");
+    for (const auto& column : columns_) {
+      const int digit = column.places.at(field);
+      text_.append("| ").append(digit < 0 ? "-" : std::to_string(digit / 2)).append(" ");
+    }
+    text_.append(row.is_default ? "| yes | " : "| | ").append(EditedBy(row, field)).append(" |\n");
+  }
+
+  static std::string WidthOf(const FieldRow& row) {
+    auto width = std::to_string(row.digits / 2);
+    if (row.digits_v13 != row.digits) width += ", V13xx " + std::to_string(row.digits_v13 / 2);
+    const int entries = EntryCount(row.id);
+    return entries == 1 ? width : std::to_string(entries) + " times " + width;
+  }
+
+  std::string EditedBy(const FieldRow& row, std::size_t field) const {
+    std::string words;
+    for (const auto& editor : Editors()) {
+      if (editor.field != row.id) continue;
+      words += (words.empty() ? "" : "; ") + PlaceOf(editor.place) + ": " + Captions(editor.controls);
+    }
+    if (!words.empty()) return words;
+    const auto carried = CarriedThrough();
+    if (std::find(carried.begin(), carried.end(), row.id) == carried.end()) {
+      throw std::runtime_error(std::string(row.name) + " has neither an editor nor is it carried through");
+    }
+    const bool somewhere = std::any_of(columns_.begin(), columns_.end(),
+                                       [&](const Column& column) { return column.places.at(field) >= 0; });
+    return somewhere ? "kept" : "in no firmware of today";
+  }
+
+  std::string PlaceOf(Place place) const {
+    const auto at = static_cast<std::size_t>(place);
+    if (at >= kTabs) return place == Place::kRange ? "range window" : app_.frmMicros.form.caption;
+    const auto& caption = app_.frmMain.SSTab1.captions.at(at);
+    const auto begin = caption.find_first_not_of(' ');
+    return caption.substr(begin, caption.find_last_not_of(' ') + 1 - begin);
+  }
+
+  std::string Captions(std::string_view controls) const {
+    if (controls.empty()) return "[options](register_options.md)";
+    std::string words;
+    while (!controls.empty()) {
+      const auto name = controls.substr(0, controls.find(' '));
+      controls.remove_prefix(std::min(controls.size(), name.size() + 1));
+      const auto* control = app_.registry.Find(name);
+      if (control == nullptr) throw std::runtime_error("there is no control " + std::string(name));
+      auto caption = FaceOf(control->control).caption;
+      if (caption.empty()) caption = control->name;
+      if (caption.back() == ':') caption.pop_back();
+      words += (words.empty() ? "" : ", ") + caption;
+    }
+    return words;
+  }
+
+  const Application& app_;
+  std::vector<Column> columns_;
+  std::string text_;
+};
+
+}  // namespace
+}  // namespace ovl
+
+int main(int argc, char** argv) {
+  if (argc != 2) {
+    std::cerr << "ovl-fields-page FILE\n\nWrites the help page of the fields.\n";
+    return 2;
+  }
+  try {
+    const ovl::Application app;
+    std::ofstream file(argv[1], std::ios::binary);
+    file << ovl::Page(app).Text();
+    if (!file.flush()) throw std::runtime_error(std::string(argv[1]) + " cannot be written");
+  } catch (const std::exception& failure) {
+    std::cerr << "ovl-fields-page: " << failure.what() << "\n";
+    return 1;
+  }
+  return 0;
+}
