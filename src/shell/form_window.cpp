@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QPushButton>
 #include <QScreen>
 #include <algorithm>
 
@@ -39,6 +40,7 @@ bool FormWindow::Follow() {
 
 void FormWindow::Open() {
   setWindowFlag(Qt::WindowStaysOnTopHint, form_.top_most);
+  for (auto* button : findChildren<QPushButton*>()) button->installEventFilter(this);
   adjustSize();
   if (beside_) PlaceBeside();
   AssignPageMnemonics(*this, {});
@@ -58,9 +60,21 @@ void FormWindow::reject() {
   bindings_.Act(CloseEvent{&form_});
 }
 
+bool FormWindow::TakesEnter(const QKeyEvent& event) const {
+  return form_.enter != nullptr && (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter);
+}
+
+// A button that has the focus would take the key for itself.
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return QDialog::eventFilter(watched, event);
+  auto* key = static_cast<QKeyEvent*>(event);
+  if (!TakesEnter(*key)) return QDialog::eventFilter(watched, event);
+  keyPressEvent(key);
+  return true;
+}
+
 void FormWindow::keyPressEvent(QKeyEvent* event) {
-  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (enter && form_.enter != nullptr) {
+  if (TakesEnter(*event)) {
     bindings_.Act(KeyEvent{&form_, Key::kEnter});
   } else if (event->key() == Qt::Key_Escape && form_.escape != nullptr) {
     bindings_.Act(KeyEvent{&form_, Key::kEscape});

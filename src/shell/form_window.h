@@ -24,10 +24,13 @@ class FormWindow : public QDialog {
   void reject() override;
 
  protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  bool TakesEnter(const QKeyEvent& event) const;
+
   bool OnScreen() const { return form_.loaded && form_.visible; }
   void Open();
   void PlaceBeside();

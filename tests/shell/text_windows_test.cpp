@@ -71,6 +71,9 @@ TEST(TextWindow, TakesEachOfItsThreeTextsFromTheKeyboard) {
     screen.Keys({Qt::Key_Return});
     EXPECT_EQ(target->text, "Kept");
     EXPECT_EQ(screen.Focus(), button);
+    screen.Keys({Qt::Key_Return, Qt::Key_Tab, Qt::Key_Space, Qt::Key_Return});
+    EXPECT_EQ(target->text.find_first_not_of(' '), std::string::npos) << "Enter sets, on Clear too";
+    EXPECT_EQ(screen.Focus(), button);
   }
 }
 
