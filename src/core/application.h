@@ -59,6 +59,8 @@ struct Application {
   // The configuration, and the three sections that streams are made of
   ConfigImage image;
   std::string SYSCFG, SYSFIXED, SYSSTR;
+  ConfigImage known_image;  // what the start, a file or the unit gave, or a download left in the unit, last
+  ConfigImage sent_image;   // of the download under way
   std::vector<ApplyRoutine> Setting_Code;  // in the order in which panels are refreshed
 
   // Link and transfers

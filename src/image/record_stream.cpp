@@ -113,6 +113,7 @@ bool LoadStream(Application& app, std::string_view stream) {
   auto image = app.image;
   ReadSections(sections, app.firmware, app.capabilities, scope, image);
   app.image = std::move(image);
+  if (scope == Scope::kWhole) app.known_image = app.image;
   if (scope == Scope::kWhole && LayoutOf(app.firmware) != Layout::kLateV1400) app.DiagnosticText.clear();
   return true;
 }

@@ -76,11 +76,17 @@ std::optional<ConfigImage> DecodeStream(std::string_view stream, const FirmwareI
 std::vector<FieldDifference> Differences(const ConfigImage& before, const ConfigImage& after,
                                          const FirmwareId& firmware) {
   std::vector<FieldDifference> differences;
+  const auto layout = LayoutOf(firmware);
+  std::array<std::size_t, kHeadings.size()> next_digit = {};
   ForEachEntry(firmware, [&](const FieldRow& row, int entry) {
+    auto& digit = next_digit.at(static_cast<std::size_t>(row.section));
+    const auto first = digit;
+    digit += static_cast<std::size_t>(DigitsOf(row, layout));
     const auto& old_value = before.at(row.id, entry);
     const auto& new_value = after.at(row.id, entry);
     if (old_value == new_value) return;
-    differences.push_back({EntryName(row.name, EntryCount(row.id), entry), old_value, new_value});
+    const auto name = EntryName(row.name, EntryCount(row.id), entry);
+    differences.push_back({&row, name, first / 2, old_value, new_value});
   });
   return differences;
 }

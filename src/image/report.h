@@ -8,6 +8,7 @@
 
 #include "core/config_image.h"
 #include "core/firmware_id.h"
+#include "image/field_map.h"
 
 namespace ovl {
 
@@ -22,7 +23,9 @@ std::string LabelledDump(const ConfigImage& image, const FirmwareId& firmware);
 std::optional<ConfigImage> DecodeStream(std::string_view stream, const FirmwareId& firmware);
 
 struct FieldDifference {
-  std::string name;
+  const FieldRow* field = nullptr;
+  std::string name;      // with its entry
+  std::size_t byte = 0;  // where it begins in its section, from 0
   std::string before, after;
 };
 std::vector<FieldDifference> Differences(const ConfigImage& before, const ConfigImage& after,

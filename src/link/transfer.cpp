@@ -161,6 +161,7 @@ void StartDownload(Application& app) {
   app.SYSFIXED.clear();
   app.SYSSTR.clear();
   if (IsKnownFamily(app.firmware.version)) app.StreamBuffer = SectionsToStream(app);
+  app.sent_image = app.image;
   app.PendingOutput = app.StreamBuffer;
   if (app.PendingOutput.empty())
     return;  // nothing will go out: the watchdog tells that the transfer stands still
@@ -180,6 +181,7 @@ void FinishDownload(Application& app) {
   app.FinalAckExpected = true;
   HideTransfer(app, app.frmMain.Label64[0]);
   app.DownloadActive = false;
+  app.known_image = app.sent_image;
   EndRemoteMode(app);
   app.PendingOutput.clear();
 }

@@ -7,6 +7,7 @@
 #include <QTabBar>
 #include <QTabWidget>
 
+#include "shell/changes_window.h"
 #include "shell/pages.h"
 #include "shell/platform/text_codec.h"
 #include "shell/status_strip.h"
@@ -20,7 +21,10 @@ constexpr QSize kLeastSize(800, 480);
 }  // namespace
 
 MainWindow::MainWindow(Bindings& bindings)
-    : bindings_(bindings), tabs_(new QTabWidget), status_(new StatusStrip(bindings)) {
+    : bindings_(bindings),
+      tabs_(new QTabWidget),
+      status_(new StatusStrip(bindings)),
+      changes_(new ChangesWindow(bindings.Model(), this)) {
   const auto& form = bindings_.Model().frmMain.form;
   setObjectName(FromWindows1252(form.name));
   setWindowTitle(FromWindows1252(form.caption));
@@ -30,6 +34,7 @@ MainWindow::MainWindow(Bindings& bindings)
   BuildMenus();
   statusBar()->setSizeGripEnabled(false);
   statusBar()->addWidget(status_, 1);
+  status_->AddButton(BuildChangesButton(bindings, *changes_));
 }
 
 void MainWindow::BuildTabs() {
@@ -74,6 +79,9 @@ void MainWindow::BuildMenus() {
   keys(bindings_.Item(*file, form.OpenMenu), QKeySequence::Open);
   keys(bindings_.Item(*file, form.menuSave), QKeySequence::Save);
   bindings_.Item(*file, form.OpenHistory_menu);
+  file->addSeparator();
+  auto* changes = file->addAction(QStringLiteral("Changes"), changes_, &ChangesWindow::Open);
+  keys(changes, QKeySequence(Qt::CTRL | Qt::Key_D));
   file->addSeparator();
   keys(bindings_.Item(*file, form.menuExit), QKeySequence(Qt::CTRL | Qt::Key_Q));
   BuildVersionMenu();

@@ -11,6 +11,7 @@ class QTabWidget;
 
 namespace ovl {
 
+class ChangesWindow;
 class StatusStrip;
 
 class MainWindow : public QMainWindow {
@@ -19,6 +20,7 @@ class MainWindow : public QMainWindow {
 
   QTabWidget& Tabs() const { return *tabs_; }
   StatusStrip& Status() const { return *status_; }
+  ChangesWindow& Changes() const { return *changes_; }
 
   // Shows, hides, enables the window as the model says. True when it came or went.
   bool Follow();
@@ -42,6 +44,7 @@ class MainWindow : public QMainWindow {
   Bindings& bindings_;
   QTabWidget* tabs_;
   StatusStrip* status_;
+  ChangesWindow* changes_;
   QPointer<QWidget> last_focus_;
   Shadow<bool> enabled_;
   Letters menu_letters_;

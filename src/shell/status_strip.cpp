@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
+#include <QPushButton>
 #include <QStackedWidget>
 
 #include "shell/platform/comports.h"
@@ -134,6 +135,11 @@ QWidget* StatusStrip::FirmwareLabels(Bindings& bindings) {
   }
   firmware_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   return firmware_;
+}
+
+void StatusStrip::AddButton(QPushButton* button) {
+  auto* across = static_cast<QHBoxLayout*>(layout());
+  across->insertWidget(across->indexOf(firmware_), button);
 }
 
 void StatusStrip::ShowHint(const QString& hint) {

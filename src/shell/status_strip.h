@@ -7,6 +7,7 @@
 #include "shell/bindings.h"
 #include "shell/link_drawing.h"
 
+class QPushButton;
 class QStackedWidget;
 
 namespace ovl {
@@ -53,6 +54,9 @@ class StatusStrip : public QWidget {
 
   // A passing word in the place of what last went wrong.
   void ShowHint(const QString& hint);
+
+  // A button that stands before the firmware.
+  void AddButton(QPushButton* button);
 
   // Each tab has its own label of the firmware.
   void ShowTab(int tab);

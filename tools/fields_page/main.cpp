@@ -9,7 +9,7 @@
 
 #include "catalogue/firmware.h"
 #include "core/application.h"
-#include "editors.h"
+#include "image/editors.h"
 #include "image/field_map.h"
 
 namespace ovl {
@@ -17,7 +17,6 @@ namespace {
 
 constexpr std::array kSections = {"System configuration (SYSCFG)", "Fixed configuration (SYSFIXED)",
                                   "Strings (SYSSTR)"};
-constexpr int kTabs = 7;
 
 // Where each field begins in its section, in digits; -1 where the firmware has none. Firmware with the same
 // places share a column.
@@ -117,7 +116,7 @@ class Page {
       const int digit = column.places.at(field);
       text_.append("| ").append(digit < 0 ? "-" : std::to_string(digit / 2)).append(" ");
     }
-    text_.append(row.is_default ? "| yes | " : "| | ").append(EditedBy(row, field)).append(" |\n");
+    text_.append(row.is_default ? "| yes | " : "| | ").append(Editing(row, field)).append(" |\n");
   }
 
   static std::string WidthOf(const FieldRow& row) {
@@ -127,12 +126,8 @@ class Page {
     return entries == 1 ? width : std::to_string(entries) + " times " + width;
   }
 
-  std::string EditedBy(const FieldRow& row, std::size_t field) const {
-    std::string words;
-    for (const auto& editor : Editors()) {
-      if (editor.field != row.id) continue;
-      words += (words.empty() ? "" : "; ") + PlaceOf(editor.place) + ": " + Captions(editor.controls);
-    }
+  std::string Editing(const FieldRow& row, std::size_t field) const {
+    const auto words = EditedBy(app_, row.id, "[options](register_options.md)");
     if (!words.empty()) return words;
     const auto carried = CarriedThrough();
     if (std::find(carried.begin(), carried.end(), row.id) == carried.end()) {
@@ -141,30 +136,6 @@ class Page {
     const bool somewhere = std::any_of(columns_.begin(), columns_.end(),
                                        [&](const Column& column) { return column.places.at(field) >= 0; });
     return somewhere ? "kept" : "in no firmware of today";
-  }
-
-  std::string PlaceOf(Place place) const {
-    const auto at = static_cast<std::size_t>(place);
-    if (at >= kTabs) return place == Place::kRange ? "range window" : app_.frmMicros.form.caption;
-    const auto& caption = app_.frmMain.SSTab1.captions.at(at);
-    const auto begin = caption.find_first_not_of(' ');
-    return caption.substr(begin, caption.find_last_not_of(' ') + 1 - begin);
-  }
-
-  std::string Captions(std::string_view controls) const {
-    if (controls.empty()) return "[options](register_options.md)";
-    std::string words;
-    while (!controls.empty()) {
-      const auto name = controls.substr(0, controls.find(' '));
-      controls.remove_prefix(std::min(controls.size(), name.size() + 1));
-      const auto* control = app_.registry.Find(name);
-      if (control == nullptr) throw std::runtime_error("there is no control " + std::string(name));
-      auto caption = FaceOf(control->control).caption;
-      if (caption.empty()) caption = control->name;
-      if (caption.back() == ':') caption.pop_back();
-      words += (words.empty() ? "" : ", ") + caption;
-    }
-    return words;
   }
 
   const Application& app_;
