@@ -11,7 +11,6 @@ TEST(LinkState, EveryStateShowsItsRow) {
     const auto& app = program.app;
     ExpectState(app, state);
     SCOPED_TRACE(NameOf(state));
-    EXPECT_TRUE(app.frmMain.Timer.enabled);
 
     const bool uploading = state == State::kUploading;
     const bool downloading = state == State::kDownloadCommand || state == State::kDownloadStream;

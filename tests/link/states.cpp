@@ -2,42 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
-
 namespace ovl::testing {
 namespace {
-
-constexpr int kAnyMode = -1;
-
-struct StateRow {
-  const char* name;
-  bool open;
-  int link_mode;
-  bool held;
-  const char* timers;
-  bool actions;  // the five buttons that need remote mode
-  bool remote;
-  std::optional<bool> connect;  // enabled, where the state fixes it
-  bool access;
-};
-
-const StateRow& RowOf(State state) {
-  static const std::array<StateRow, kStates.size()> rows = {{
-      {"Closed", false, kAnyMode, false, "", false, true, true, false},
-      {"Open", true, kAnyMode, false, "", false, true, {}, false},
-      {"Asked", true, 0, false, "General_timer", false, true, {}, false},
-      {"Held", true, 0, true, "Time_handcheck", true, true, {}, true},
-      {"Uploading", true, 1, true, "Timer_Operating", false, false, false, true},
-      {"DownloadCommand", true, 2, true, "Timer_Operating", false, false, false, true},
-      {"DownloadStream", true, 2, true, "", false, false, false, true},
-      {"TransferDone", true, kAnyMode, false, "", false, false, false, false},
-      {"SettingClock", true, 0, true, "Timer_Operating", true, true, {}, true},
-      {"ReadingHistory", true, 0, true, "", true, true, {}, true},
-      {"Resetting", true, 0, true, "", true, true, {}, true},
-      {"Scanning", true, kAnyMode, false, "BaudRateScan", false, true, {}, false},
-  }};
-  return rows.at(static_cast<std::size_t>(state));
-}
 
 void StartScan(Harness& program) {
   Hold(program);
@@ -71,10 +37,6 @@ void FromHeld(Harness& program, State state) {
 }
 
 }  // namespace
-
-const char* NameOf(State state) {
-  return RowOf(state).name;
-}
 
 InState::InState(State state, const FirmwareId& firmware, const std::vector<std::string>& further_registers)
     : Harness(firmware, further_registers) {
@@ -129,40 +91,9 @@ std::string RunDownload(Harness& program) {
   return program.TakeSent();
 }
 
-std::string RunningTimers(const Application& app) {
-  std::string names;
-  const auto add = [&](const Timer& timer, const char* name) {
-    if (timer.enabled) names += (names.empty() ? "" : " ") + std::string(name);
-  };
-  add(app.frmMain.General_timer, "General_timer");
-  add(app.frmMain.Time_handcheck, "Time_handcheck");
-  add(app.frmMain.Timer_Operating, "Timer_Operating");
-  add(app.frmSettSR.BaudRateScan, "BaudRateScan");
-  return names;
-}
-
 void ExpectState(const Application& app, State state) {
-  const auto& row = RowOf(state);
-  SCOPED_TRACE(std::string("state ") + row.name);
-  const auto& main = app.frmMain;
-  EXPECT_EQ(main.MSComm1.PortOpen, row.open);
-  EXPECT_TRUE(row.link_mode == kAnyMode || row.link_mode == app.LinkMode) << app.LinkMode;
-  EXPECT_EQ(app.RemoteHeld, row.held);
-  EXPECT_EQ(app.ScanActive, state == State::kScanning);
-  EXPECT_EQ(RunningTimers(app), row.timers);
-
-  for (const auto action : {kUpload, kDownload, kSetTime, kLoadHistory, kMasterReset}) {
-    EXPECT_EQ(main.CmdUpDow[static_cast<std::size_t>(action)].enabled, row.actions) << "action " << action;
-  }
-  EXPECT_EQ(main.CmdUpDow[kRemote].enabled, row.remote);
-  EXPECT_EQ(main.cmdConnect.visible, !row.open);
-  EXPECT_EQ(main.cmdDisConnect.visible, row.open);
-  EXPECT_EQ(main.cmdConnect.enabled, row.connect.value_or(main.cmdConnect.enabled));
-  EXPECT_EQ(main.cmdConnect.caption, row.open ? "Disconnect" : "Set Comport");
-  EXPECT_EQ(main.lbConnectting.caption.substr(0, 13), row.open ? "Connected at " : "Not Connected");
-  EXPECT_EQ(main.lbRemoteAccess.caption, row.access ? "ACCESS" : "No Access");
-  EXPECT_EQ(main.Picture1[0].visible, !row.access);
-  EXPECT_EQ(main.Picture1[3].visible, row.access);
+  EXPECT_EQ(DifferenceFrom(state, app), "") << "from " << NameOf(state) << ", mode " << app.LinkMode
+                                            << ", timers " << RunningTimers(app);
 }
 
 void ExpectBox(Harness& program, std::string_view title, std::string_view text) {

@@ -1,12 +1,12 @@
-// The states that the link can be in: how a test gets there, and what every one of them shows.
+// How a test gets into the states that the link can be in, and single steps from there.
 #pragma once
 
-#include <array>
 #include <functional>
 #include <string>
 #include <string_view>
 
 #include "support/harness.h"
+#include "support/state_table.h"
 
 namespace ovl::testing {
 
@@ -28,27 +28,6 @@ inline constexpr const char* kTimeOutTitle = "- Connection Time Out -";
 inline constexpr const char* kTimeOutText = "!!! Remote Connection Time out. !!!";
 inline constexpr const char* kLost = "Input/output error";
 
-enum class State {
-  kClosed,
-  kOpen,
-  kAsked,
-  kHeld,
-  kUploading,
-  kDownloadCommand,
-  kDownloadStream,
-  kTransferDone,
-  kSettingClock,
-  kReadingHistory,
-  kResetting,
-  kScanning,
-};
-inline constexpr std::array kStates = {State::kClosed,         State::kOpen,         State::kAsked,
-                                       State::kHeld,           State::kUploading,    State::kDownloadCommand,
-                                       State::kDownloadStream, State::kTransferDone, State::kSettingClock,
-                                       State::kReadingHistory, State::kResetting,    State::kScanning};
-
-const char* NameOf(State state);
-
 // A program that was started and stands in the state, with nothing sent and no box left to ask for. A scan
 // runs over a line that was held before, so that it can find the unit.
 struct InState : Harness {
@@ -66,9 +45,6 @@ void PressOk(Harness& program);
 void RunUpload(Harness& program, std::string_view answer);
 // The command, its acknowledgement, and the whole stream, which is the result.
 std::string RunDownload(Harness& program);
-
-// The names of the link's timers that run, separated by blanks.
-std::string RunningTimers(const Application& app);
 
 void ExpectState(const Application& app, State state);
 // The oldest box, which bears no icon.
