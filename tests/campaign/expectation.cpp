@@ -72,9 +72,10 @@ bool UnitUnderstands(std::size_t at, Fault fault, bool upload) {
   return fault == Fault::kNak || fault == Fault::kAck;
 }
 
-Expectation InCommand(std::size_t at, Fault fault) {
+Expectation InCommand(std::size_t at, Fault fault, bool upload) {
   if (fault == Fault::kParity) return {.ending = Ending::kParity};
   if (fault >= Fault::kDisconnect) return {.ending = Ending::kDisconnected};
+  if (fault == Fault::kStall && !upload && at == kCommand - 1) return {.ending = Ending::kStandsStill};
   // The next character is on its way already; the one behind it cannot be written.
   const bool more_to_send = at + 2 < kCommand;
   return {.ending = Ending::kSilence, .send_failure = fault == Fault::kLost && more_to_send};
@@ -82,11 +83,12 @@ Expectation InCommand(std::size_t at, Fault fault) {
 
 Expectation ExpectUpload(const Conversation& talk, std::size_t at, Fault fault) {
   if (at < kCommand) {
-    return UnitUnderstands(at, fault, true) ? Collect(talk.firmware, talk.stream) : InCommand(at, fault);
+    return UnitUnderstands(at, fault, true) ? Collect(talk.firmware, talk.stream)
+                                            : InCommand(at, fault, talk.upload);
   }
+  const auto text = talk.stream + "\r\n";
   // Nothing is left to send, so that a transmitter which stands still goes unseen.
-  auto expected =
-      Collect(talk.firmware, fault == Fault::kStall ? talk.stream : Heard(talk.stream, at - kCommand, fault));
+  auto expected = Collect(talk.firmware, fault == Fault::kStall ? text : Heard(text, at - kCommand, fault));
   // With the closing window on the screen "Disconnect" is out of reach.
   if (expected.ending == Ending::kSilence && fault >= Fault::kDisconnect) {
     expected.ending = Ending::kDisconnected;
@@ -95,7 +97,8 @@ Expectation ExpectUpload(const Conversation& talk, std::size_t at, Fault fault) 
 }
 
 Expectation ExpectDownload(const Conversation& talk, std::size_t at, Fault fault) {
-  if (at < kCommand) return UnitUnderstands(at, fault, false) ? Expectation{} : InCommand(at, fault);
+  if (at < kCommand)
+    return UnitUnderstands(at, fault, false) ? Expectation{} : InCommand(at, fault, talk.upload);
   if (at == kCommand && (fault == Fault::kDropped || fault == Fault::kGarbled))
     return {.ending = Ending::kSilence};
   const std::size_t sent = at - kCommand;  // characters of the stream that have left

@@ -45,7 +45,7 @@ class Campaign {
     Inject(at, fault);
     CheckBoxes(fault);
     CheckFiles(before, file_before);
-    const bool unharmed = fault < Fault::kDropped || fault > Fault::kGarbled;
+    const bool unharmed = fault < Fault::kLost || fault > Fault::kGarbled;
     if (!talk_.upload && at >= kCommandLength && unharmed && expected_.ending == Ending::kDone) {
       Want(site_->taken == talk_.stream, "the unit's stream");
     }
