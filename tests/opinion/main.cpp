@@ -52,6 +52,7 @@ class Pair {
     return Both(static_cast<LinkEvent>(step));
   }
   bool Ended() const { return program_.app.ended; }
+  const Link& Table() const { return link_; }
 
  private:
   std::string Both(LinkEvent event, char other = '0') {
@@ -166,21 +167,25 @@ void TellShortest(std::vector<int> steps) {
   std::cout << FirstDifference(steps);
 }
 
-// Clicks that lead somewhere come oftener than those that lead out.
-int NextStep(std::mt19937& chance) {
-  constexpr int kLong = 40, kFault = 30, kWayIn = 4;
+// Mostly what can happen, and what leads somewhere oftener than what leads out.
+int NextStep(std::mt19937& chance, const Link& link) {
+  constexpr unsigned kLong = 40, kFault = 60, kWayIn = 4, kImpossible = 16, kFewTries = 4;
   if (chance() % kLong == 0) return chance() % 2 == 0 ? kDrainAll : kWholeStream;
   if (chance() % kFault == 0) return static_cast<int>(kLineLost) + static_cast<int>(chance() % 3);
-  if (chance() % kWayIn == 0) {
-    constexpr LinkEvent kIn[] = {kSetComport, kSet,    kRemote,   kAck,     kGeneralTick,
-                                 kOk,         kUpload, kDownload, kLineWell};
-    return static_cast<int>(kIn[chance() % std::size(kIn)]);
+  const bool any = chance() % kImpossible == 0;
+  constexpr LinkEvent kIn[] = {kSetComport, kSet,      kRemote,   kAck,           kFormFeed,    kGeneralTick,
+                               kUpload,     kDownload, kLineWell, kKeepAliveTick, kWatchdogTick};
+  auto event = kOther;
+  for (unsigned tries = 0; tries < kFewTries; ++tries) {
+    event = chance() % kWayIn == 0 ? static_cast<LinkEvent>(chance() % static_cast<unsigned>(kLineLost))
+                                   : kIn[chance() % std::size(kIn)];
+    if (any || CanHappen(link, event)) break;
   }
-  return static_cast<int>(chance() % static_cast<unsigned>(kLineLost));
+  return static_cast<int>(event);
 }
 
 int Run(long events, unsigned seed) {
-  constexpr std::size_t kLongestSequence = 2000;
+  constexpr std::size_t kLongestSequence = 2000, kLongestBurst = 32;
   const auto start = std::chrono::steady_clock::now();
   std::mt19937 chance(seed);
   long done = 0;
@@ -189,11 +194,16 @@ int Run(long events, unsigned seed) {
     Pair pair;
     std::vector<int> steps;
     while (steps.size() < kLongestSequence && !pair.Ended() && done < events) {
-      steps.push_back(NextStep(chance));
-      ++done;
-      if (pair.Step(steps.back()).empty()) continue;
-      TellShortest(steps);
-      return EXIT_FAILURE;
+      const int step = NextStep(chance, pair.Table());
+      // Time goes on a while before anything else happens.
+      const bool burst = step >= static_cast<int>(kGeneralTick) && step <= static_cast<int>(kScanTick);
+      for (auto times = burst ? 1 + chance() % kLongestBurst : 1; times > 0 && !pair.Ended(); --times) {
+        steps.push_back(step);
+        ++done;
+        if (pair.Step(step).empty()) continue;
+        TellShortest(steps);
+        return EXIT_FAILURE;
+      }
     }
     ++sequences;
   }
