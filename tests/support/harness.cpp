@@ -15,7 +15,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The digits that each firmware's image has, written down apart from the field table.
+std::size_t FirstDigitOfRegisterCode(const FirmwareId& firmware) {
+  return firmware.version == "V1400" ? 64 : 96;
+}
+
+}  // namespace
+
 std::size_t DigitsOfImage(const FirmwareId& firmware) {
   const int release = firmware.Number();
   if (firmware.version == "V1400") {
@@ -27,12 +32,6 @@ std::size_t DigitsOfImage(const FirmwareId& firmware) {
       (firmware.version == "V1300" && release < 26) || (firmware.version == "V1324" && release < 25);
   return old ? 4066 : 4098;
 }
-
-std::size_t FirstDigitOfRegisterCode(const FirmwareId& firmware) {
-  return firmware.version == "V1400" ? 64 : 96;
-}
-
-}  // namespace
 
 TemporaryFolder::TemporaryFolder() {
   std::string name = (fs::temp_directory_path() / "ovl-test-XXXXXX").string();

@@ -41,6 +41,9 @@ class Locked {
   std::string path_;
 };
 
+// The digits that each firmware's image has, written down apart from the field table.
+std::size_t DigitsOfImage(const FirmwareId& firmware);
+
 // A stream of the firmware whose digits differ from byte to byte by the seed, with the register code given.
 std::string RawPatternStream(const FirmwareId& firmware, int seed = 1, int register_code = 0);
 

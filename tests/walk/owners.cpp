@@ -1,0 +1,120 @@
+#include "walk/owners.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace ovl::testing {
+namespace {
+
+#define LINE "COMMCFG_BAK IOCFG_BAK RX_BAUDRATE TX_BAUDRATE "
+
+struct Owner {
+  std::string_view controls;
+  std::string_view fields;
+};
+constexpr Owner kOwners[] = {
+    // register options
+    {" BleepOP DIGIOP FUJIOP GELLEROP JCMOp OpA410 OpBEETLE OpDelta OpEDA OpNCR OpNUCP OpPoleDisplay OpSun "
+     "OpVerifone OpVWEIGHBRIDGE OpWEIGHS SamOP OpSharp OpGilbraco ComboAddress ComboAddr ComboDisplay "
+     "ComboDeviceADD ComboDIPMIXED ComboNE134 ComboUni ComboTCPINFO UNIWOP ",
+     " REGTYPE_MINOR "},
+    {" BEETLEOp JRNLRCPT_SLP_OP NIXDORF14OPSelect POS50OP TEAMOP TEAMPOSOP Combo1 Combo4610TF6 IBMCombo "
+     "RDSCombo ST6105C ComboUniFor14R7up ComboXML FrmSubMenu.Combo1(1) FrmSubMenu.Combo2 FrmSubMenu.Option1 ",
+     " REGTYPE_EXT2 "},
+    {" FrmSubMenu.F1OP ", " REGTYPE_EXT1 "},
+    {" OpNIXDORF OpRI_QT2 IBMOP ICLOP NCROP NIXDORF14OP SharpOP OpGilbraco SharpCom ",
+     " REGTYPE_MINOR REGTYPE_EXT2 "},
+    {" CASIOOP TECOP Command1 Command2 ", " REGTYPE_MINOR REGTYPE_EXT1 REGTYPE_EXT2 "},
+    {" ComboSICOM ComboTk500(1) ComboTE2200(1) ComboTEC(1) OpDYWAYE OpSHARPUP600 ",
+     " " LINE "REGTYPE_MINOR "},
+    {" ComboPana(1) ComboWoring ", " " LINE "REGTYPE_MINOR TIMESTAMP_ENA "},
+    {" OpMicrelec OpMicrelec9500 ", " " LINE "REGTYPE_MINOR UNITADDR "},
+    {" POSOP TEROP PRNOP SECUOP ", " " LINE "REGTYPE_MINOR REGTYPE_EXT1 REGTYPE_EXT2 "},
+    {" ComboTCI_ID ", " " LINE "TCIADDBAK_1 TCIADDBAK_2 TCIADDBAK_3 "},
+    {" ComboUNI_ID ", " TCIADDBAK_1 TCIADDBAK_2 TCIADDBAK_3 "},
+    {" ComboCLARITYEPOS ", " UNITADDR "},
+    {" ComboPana(0) ComboDeviceGas ", " GTITLE_NF_BAK "},
+    {" ComboTITLEDIP ", " GTITLE_NF_BAK DSPCFG_BAK DSPLINES_BAK "},
+    {" ComboCONSOLEID ", " DV_ADDRIND_BAK "},
+    {" ComboTCPIP ", " IPADDRESS "},
+    {" OpMicros ", " REGTYPE_MINOR MICROS_STATUS "},
+    {" frmMicros.cmdSetMicros ", " DEVICE_INDEX_BAK DV_ADDRIND_BAK MICROS_STATUS "},
+    {" frmMicros.cmdISNset ",
+     " REGDV_TYPE_BAK REG_GNA_BAK REG_LNA_BAK REG_IDNA_BAK PCDV_TYPE_BAK PC_GNA_BAK PC_LNA_BAK PC_IDNA_BAK "},
+    {" frmMicros.CMD3700Set ",
+     " REGTYPE_EXT2 ECRDIGIT_1 ECRDIGIT_2 ECRDIGIT_3 ECRDIGIT_4 ECRDIGIT_5 ECRDIGIT_6 ECRDIGIT_7 "},
+    // the register itself: its own defaults, and what its options force
+    {" ComboReg ",
+     " EXECENTRY " LINE
+     "UNITADDR DV_ADDRIND_BAK TCIADDBAK_1 TCIADDBAK_2 TCIADDBAK_3 GTITLE_NF_BAK GPS_CONFIG_BAK "
+     "DEVICE_INDEX_BAK REGDV_TYPE_BAK REG_GNA_BAK REG_LNA_BAK REG_IDNA_BAK PCDV_TYPE_BAK PC_GNA_BAK "
+     "PC_LNA_BAK "
+     "PC_IDNA_BAK MICROS_STATUS REGTYPE REGTYPE_MINOR REGTYPE_EXT1 REGTYPE_EXT2 IPADDRESS TIMESTAMP_ENA "
+     "DSPCFG_BAK DSPLINES_BAK "},
+    // line and network
+    {" ComboCOMM(0) ", " COMMCFG_BAK IOCFG_BAK "},
+    {" ComboCOMM(1) ", " COMMCFG_BAK RX_BAUDRATE "},
+    {" ComboCOMM(2) ", " COMMCFG_BAK TX_BAUDRATE "},
+    {" ComboCOMM(7) ", " COMMCFG_BAK TX_PROTOCOL "},
+    {" ComboCOMM(8) ", " COMMCFG_BAK SW_HANDSHAKE "},
+    {" ComboCOMM(9) ", " COMMCFG_BAK NET_TYPE NET_ADDRESS NET_BAUDRATE "},
+    {" ComboCOMM(10) ", " COMMCFG_BAK NET_ADDRESS "},
+    {" ComboCOMM(11) ", " COMMCFG_BAK NET_PROTOCOL NET_BAUDRATE "},
+    {" ComboCOMM(12) ", " COMMCFG_BAK NET_BAUDRATE "},
+    {" ComboCOMM ", " COMMCFG_BAK "},
+    // display, clock, language
+    {" ComboDIP(0) ", " DSPCFG_BAK BLNKVAL BLNKIND BLNKRTS_BAK "},
+    {" ComboDIP(1) ComboTD(0) ComboTD(5) ", " DSPCFG_BAK DSPLINES_BAK "},
+    {" ComboDIP(7) ", " DSPCFG_BAK SPCOMPRES_BAK "},
+    {" ComboDIP(8) ", " DSPCFG_BAK DSPCHARS_BAK "},
+    {" ComboDIP ", " DSPCFG_BAK "},
+    {" ComboTD(1) ", " TIME_FORMAT_BAK "},
+    {" ComboTD(2) ", " DATE_FORMAT_BAK "},
+    {" ComboTD(3) ", " DAYLIGHT_BAK "},
+    {" ComboTD(4) ", " TD_LOCKING_BAK "},
+    {" ComboLang ", " LANGUAGE_BAK "},
+    // exceptions and alarms; a record that is shown is put in order
+    {" ComboExcepRe(2) ", " COMMCFG_BAK TIMESTAMP_ENA DUPLINE_BAK "},
+    {" ComboExcepRe ", " COMMCFG_BAK TIMESTAMP_ENA "},
+    {" ComboScroll ", " SCROLLMATCH_BAK "},
+    {" ComboExcp ", " EXCPSTRS "},
+    {" ComboALM(0) ", " TRIGGER_TEXT ALMSTRUCT_BAK ALMNORMAL_BAK TRIGGER_DELAY ALM_MODE "},
+    {" ComboALM(1) ComboALM(3) ComboALM(6) ", " ALMSTRUCT_BAK "},
+    {" ComboALM(2) ", " ALMNORMAL_BAK "},
+    {" ComboALM(4) ", " ALMCFG_BAK "},
+    {" ComboALM(5) ", " FLAGDWLIND "},
+    {" ComboALM(7) ", " ALM_MODE "},
+    {" ComboTrigger(2) ", " TRIGGER_DELAY "},
+    {" ComboTrigger ", " TRIGGER_TEXT "},
+    {" frmSetEXCPSTR frmSetEXCPSTR.cmdSET ", " EXCPSTRS TRIGGER_TEXT ONSCRNTITL "},
+    {" cmdSetRange frmSetRange.ComboDec frmSetRange.cmdClr ", " DECIMAL_POINT_BAK "},
+    {" frmSetRange.cmdSetRange ", " EXCPSTRS "},
+    // demonstration and recorder
+    {" CharacterList DemoType DemoSpeed DemoMode ", " DEMO_ENABLE "},
+    {" OpDVR ", " HIST_REG "},
+    {" ComboKLM4011(0) ComboKLM4011(2) ", " HIST_DEST_ID "},
+    {" ComboKLM4011(1) ComboKLM4011(3) ", " HIST_SRC_ID "},
+};
+
+#undef LINE
+
+const Owner* Named(std::string_view name) {
+  const auto found = std::find_if(std::begin(kOwners), std::end(kOwners), [&](const Owner& owner) {
+    for (auto at = owner.controls.find(name); at != std::string_view::npos;
+         at = owner.controls.find(name, at + 1)) {
+      if (owner.controls[at - 1] == ' ' && owner.controls[at + name.size()] == ' ') return true;
+    }
+    return false;
+  });
+  return found == std::end(kOwners) ? nullptr : found;
+}
+
+}  // namespace
+
+std::string_view FieldsOf(std::string_view control) {
+  const auto* owner = Named(control);
+  if (owner == nullptr) owner = Named(control.substr(0, control.find('(')));
+  return owner == nullptr ? " " : owner->fields;
+}
+
+}  // namespace ovl::testing

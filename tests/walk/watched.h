@@ -1,0 +1,37 @@
+// A program under script whose image is looked at after every line.
+#pragma once
+
+#include <memory>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "core/config_image.h"
+#include "session.h"
+
+namespace ovl::testing {
+
+class Watched {
+ public:
+  // Started, in the current folder.
+  explicit Watched(const FirmwareId& stored);
+
+  // One statement. What is wrong after it; empty: nothing.
+  std::string Do(const std::string& line);
+
+  Application& App() { return session_.App(); }
+  bool Ended() const { return session_.Ended(); }
+  const ConfigImage& Image() { return App().image; }
+
+ private:
+  std::string CheckImage(const std::string& line);
+  std::string CheckLists();
+  std::string CheckFrames();
+
+  std::ostream nowhere_;
+  script::Session session_;
+  ConfigImage before_;
+  bool whole_ = true;  // the image has the digits that its layout says
+};
+
+}  // namespace ovl::testing
