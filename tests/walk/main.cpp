@@ -24,23 +24,34 @@ using Script = std::vector<std::string>;
 
 constexpr const char* kFiles[] = {"first.bin", "second.bin", "history.txt", "upload.bin"};
 
-// The option frame that a control stands in is shown, and the frame inside it. Others are always in sight.
-bool InSight(const Application& app, const NamedControl& named) {
-  const auto& name = named.name;
-  const auto array = std::string_view(name).substr(0, name.find('('));
-  const auto& frames = app.frmMain.frmAddress;
-  bool listed = false;
-  for (int frame = 0; frame < static_cast<int>(frames.size()); ++frame) {
+// The option frame that a control stands in, and the frame inside it; -1: none.
+struct Place {
+  int frame = -1, inner = -1;
+};
+
+// By the control's place in the registry.
+std::vector<Place> PlacesOf(const Application& app) {
+  const auto& all = app.registry.All();
+  std::vector<Place> places(all.size());
+  for (int frame = 0; frame < static_cast<int>(app.frmMain.frmAddress.size()); ++frame) {
     for (const auto& row : RowsOfFrame(frame)) {
-      if (row.control != name && row.control != array) continue;
       const auto* inner = row.inner.empty() ? nullptr : app.registry.Find(row.inner);
-      listed = true;
-      if (frames[static_cast<std::size_t>(frame)].visible &&
-          (inner == nullptr || FaceOf(inner->control).visible))
-        return true;
+      for (std::size_t at = 0; at < all.size(); ++at) {
+        const auto name = std::string_view(all[at].name);
+        const bool listed = name == row.control || name.substr(0, name.find('(')) == row.control;
+        if (listed && all[at].form == &app.frmMain.form)
+          places[at] = {frame, inner == nullptr ? -1 : static_cast<int>(inner - all.data())};
+      }
     }
   }
-  return !listed;
+  return places;
+}
+
+bool InSight(const Application& app, const Place& place) {
+  if (place.frame < 0) return true;
+  const auto& all = app.registry.All();
+  return app.frmMain.frmAddress[static_cast<std::size_t>(place.frame)].visible &&
+         (place.inner < 0 || FaceOf(all[static_cast<std::size_t>(place.inner)].control).visible);
 }
 
 bool Reachable(const NamedControl& named) {
@@ -65,6 +76,7 @@ class Hand {
       case 2:
         return {"answer " + std::string(Below(3) == 0 ? "cancel" : File()), "click OpenMenu"};
       case 3:
+      case 8:
         return {PickIn("ComboReg", app.frmMain.ComboReg)};
       case 4:
       case 5:
@@ -73,7 +85,7 @@ class Hand {
       case 7:
         return {PickIn("ComboALM(0)", app.frmMain.ComboALM[0])};
       default:
-        return {OnAnyControl(app)};
+        return {OnAnyControl(app, Below(3) == 0)};
     }
   }
 
@@ -108,19 +120,29 @@ class Hand {
             "click frmOK_buttom.Command1"};
   }
 
-  std::string OnAnyControl(const Application& app) {
-    constexpr int kTries = 50;
+  // With `options` one of the shown option frame, or of a window beside the main one.
+  std::string OnAnyControl(const Application& app, bool options) {
+    constexpr int kTries = 500;
     const auto& all = app.registry.All();
-    const bool any = Below(16) == 0;
+    if (places_.size() != all.size()) places_ = PlacesOf(app);
+    const bool any = !options && Below(16) == 0;
+    const auto* window = options && Below(2) == 0 ? WindowBeside(app) : nullptr;
     for (int tries = 0; tries < kTries; ++tries) {
-      const auto& named = all[static_cast<std::size_t>(Below(all.size()))];
-      if ((!any && !Reachable(named)) || !InSight(app, named)) continue;
-      if (auto line =
-              std::visit([&](const auto& control) { return On(NameOf(app, named), control); }, named.control);
-          !line.empty())
-        return line;
+      const auto at = static_cast<std::size_t>(Below(all.size()));
+      const auto& named = all[at];
+      if (window != nullptr ? named.form != window : options && places_[at].frame < 0) continue;
+      if (!InSight(app, places_[at]) || (!any && !Reachable(named))) continue;
+      const auto name = NameOf(app, named);
+      auto line = std::visit([&](const auto& control) { return On(name, control); }, named.control);
+      if (!line.empty()) return line;
     }
     return "tick Timer";
+  }
+  static const Form* WindowBeside(const Application& app) {
+    for (const auto* form : app.registry.Forms()) {
+      if (form != &app.frmMain.form && form->loaded && form->visible) return form;
+    }
+    return nullptr;
   }
   static std::string NameOf(const Application& app, const NamedControl& named) {
     const bool plain = named.form == &app.frmMain.form || std::holds_alternative<Form*>(named.control);
@@ -155,6 +177,7 @@ class Hand {
   }
 
   std::mt19937 chance_;
+  std::vector<Place> places_;
 };
 
 void RemoveFiles() {

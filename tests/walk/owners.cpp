@@ -6,8 +6,6 @@
 namespace ovl::testing {
 namespace {
 
-#define LINE "COMMCFG_BAK IOCFG_BAK RX_BAUDRATE TX_BAUDRATE "
-
 struct Owner {
   std::string_view controls;
   std::string_view fields;
@@ -15,22 +13,23 @@ struct Owner {
 constexpr Owner kOwners[] = {
     // register options
     {" BleepOP DIGIOP FUJIOP GELLEROP JCMOp OpA410 OpBEETLE OpDelta OpEDA OpNCR OpNUCP OpPoleDisplay OpSun "
-     "OpVerifone OpVWEIGHBRIDGE OpWEIGHS SamOP OpSharp OpGilbraco ComboAddress ComboAddr ComboDisplay "
+     "OpVerifone OpVWEIGHBRIDGE OpWEIGHS SamOP OpSharp OpGilbraco IBMOP ICLOP NCROP NIXDORF14OP SharpOP "
+     "CASIOOP TECOP ComboAddress ComboAddr ComboDisplay "
      "ComboDeviceADD ComboDIPMIXED ComboNE134 ComboUni ComboTCPINFO UNIWOP ",
      " REGTYPE_MINOR "},
     {" BEETLEOp JRNLRCPT_SLP_OP NIXDORF14OPSelect POS50OP TEAMOP TEAMPOSOP Combo1 Combo4610TF6 IBMCombo "
      "RDSCombo ST6105C ComboUniFor14R7up ComboXML FrmSubMenu.Combo1(1) FrmSubMenu.Combo2 FrmSubMenu.Option1 ",
      " REGTYPE_EXT2 "},
     {" FrmSubMenu.F1OP ", " REGTYPE_EXT1 "},
-    {" OpNIXDORF OpRI_QT2 IBMOP ICLOP NCROP NIXDORF14OP SharpOP OpGilbraco SharpCom ",
-     " REGTYPE_MINOR REGTYPE_EXT2 "},
-    {" CASIOOP TECOP Command1 Command2 ", " REGTYPE_MINOR REGTYPE_EXT1 REGTYPE_EXT2 "},
+    {" OpNIXDORF OpRI_QT2 ", " REGTYPE_MINOR REGTYPE_EXT2 "},
     {" ComboSICOM ComboTk500(1) ComboTE2200(1) ComboTEC(1) OpDYWAYE OpSHARPUP600 ",
-     " " LINE "REGTYPE_MINOR "},
-    {" ComboPana(1) ComboWoring ", " " LINE "REGTYPE_MINOR TIMESTAMP_ENA "},
-    {" OpMicrelec OpMicrelec9500 ", " " LINE "REGTYPE_MINOR UNITADDR "},
-    {" POSOP TEROP PRNOP SECUOP ", " " LINE "REGTYPE_MINOR REGTYPE_EXT1 REGTYPE_EXT2 "},
-    {" ComboTCI_ID ", " " LINE "TCIADDBAK_1 TCIADDBAK_2 TCIADDBAK_3 "},
+     " REGTYPE_MINOR RX_BAUDRATE TX_BAUDRATE "},
+    {" ComboPana(1) ComboWoring ", " REGTYPE_MINOR RX_BAUDRATE TX_BAUDRATE COMMCFG_BAK TIMESTAMP_ENA "},
+    {" OpMicrelec OpMicrelec9500 ", " REGTYPE_MINOR UNITADDR RX_BAUDRATE TX_BAUDRATE COMMCFG_BAK "},
+    {" POSOP ", " REGTYPE_MINOR REGTYPE_EXT2 RX_BAUDRATE TX_BAUDRATE IOCFG_BAK "},
+    {" TEROP PRNOP ", " REGTYPE_MINOR REGTYPE_EXT1 REGTYPE_EXT2 RX_BAUDRATE TX_BAUDRATE IOCFG_BAK "},
+    {" SECUOP ", " REGTYPE_MINOR REGTYPE_EXT1 RX_BAUDRATE TX_BAUDRATE IOCFG_BAK "},
+    {" ComboTCI_ID ", " TCIADDBAK_1 TCIADDBAK_2 TCIADDBAK_3 RX_BAUDRATE TX_BAUDRATE IOCFG_BAK COMMCFG_BAK "},
     {" ComboUNI_ID ", " TCIADDBAK_1 TCIADDBAK_2 TCIADDBAK_3 "},
     {" ComboCLARITYEPOS ", " UNITADDR "},
     {" ComboPana(0) ComboDeviceGas ", " GTITLE_NF_BAK "},
@@ -45,28 +44,29 @@ constexpr Owner kOwners[] = {
      " REGTYPE_EXT2 ECRDIGIT_1 ECRDIGIT_2 ECRDIGIT_3 ECRDIGIT_4 ECRDIGIT_5 ECRDIGIT_6 ECRDIGIT_7 "},
     // the register itself: its own defaults, and what its options force
     {" ComboReg ",
-     " EXECENTRY " LINE
-     "UNITADDR DV_ADDRIND_BAK TCIADDBAK_1 TCIADDBAK_2 TCIADDBAK_3 GTITLE_NF_BAK GPS_CONFIG_BAK "
+     " EXECENTRY COMMCFG_BAK IOCFG_BAK RX_BAUDRATE TX_BAUDRATE UNITADDR DV_ADDRIND_BAK TCIADDBAK_1 "
+     "TCIADDBAK_2 TCIADDBAK_3 GTITLE_NF_BAK GPS_CONFIG_BAK "
      "DEVICE_INDEX_BAK REGDV_TYPE_BAK REG_GNA_BAK REG_LNA_BAK REG_IDNA_BAK PCDV_TYPE_BAK PC_GNA_BAK "
      "PC_LNA_BAK "
      "PC_IDNA_BAK MICROS_STATUS REGTYPE REGTYPE_MINOR REGTYPE_EXT1 REGTYPE_EXT2 IPADDRESS TIMESTAMP_ENA "
      "DSPCFG_BAK DSPLINES_BAK "},
     // line and network
-    {" ComboCOMM(0) ", " COMMCFG_BAK IOCFG_BAK "},
-    {" ComboCOMM(1) ", " COMMCFG_BAK RX_BAUDRATE "},
-    {" ComboCOMM(2) ", " COMMCFG_BAK TX_BAUDRATE "},
-    {" ComboCOMM(7) ", " COMMCFG_BAK TX_PROTOCOL "},
-    {" ComboCOMM(8) ", " COMMCFG_BAK SW_HANDSHAKE "},
-    {" ComboCOMM(9) ", " COMMCFG_BAK NET_TYPE NET_ADDRESS NET_BAUDRATE "},
-    {" ComboCOMM(10) ", " COMMCFG_BAK NET_ADDRESS "},
-    {" ComboCOMM(11) ", " COMMCFG_BAK NET_PROTOCOL NET_BAUDRATE "},
-    {" ComboCOMM(12) ", " COMMCFG_BAK NET_BAUDRATE "},
+    {" ComboCOMM(0) ", " IOCFG_BAK "},
+    {" ComboCOMM(1) ", " RX_BAUDRATE "},
+    {" ComboCOMM(2) ", " TX_BAUDRATE "},
+    {" ComboCOMM(7) ", " TX_PROTOCOL "},
+    {" ComboCOMM(8) ", " SW_HANDSHAKE "},
+    {" ComboCOMM(9) ", " NET_TYPE NET_ADDRESS NET_BAUDRATE "},
+    {" ComboCOMM(10) ", " NET_ADDRESS "},
+    {" ComboCOMM(11) ", " NET_PROTOCOL NET_BAUDRATE "},
+    {" ComboCOMM(12) ", " NET_BAUDRATE "},
     {" ComboCOMM ", " COMMCFG_BAK "},
     // display, clock, language
     {" ComboDIP(0) ", " DSPCFG_BAK BLNKVAL BLNKIND BLNKRTS_BAK "},
-    {" ComboDIP(1) ComboTD(0) ComboTD(5) ", " DSPCFG_BAK DSPLINES_BAK "},
-    {" ComboDIP(7) ", " DSPCFG_BAK SPCOMPRES_BAK "},
-    {" ComboDIP(8) ", " DSPCFG_BAK DSPCHARS_BAK "},
+    {" ComboDIP(1) ", " DSPLINES_BAK "},
+    {" ComboTD(0) ComboTD(5) ", " DSPCFG_BAK DSPLINES_BAK "},
+    {" ComboDIP(7) ", " SPCOMPRES_BAK "},
+    {" ComboDIP(8) ", " DSPCHARS_BAK "},
     {" ComboDIP ", " DSPCFG_BAK "},
     {" ComboTD(1) ", " TIME_FORMAT_BAK "},
     {" ComboTD(2) ", " DATE_FORMAT_BAK "},
@@ -74,11 +74,11 @@ constexpr Owner kOwners[] = {
     {" ComboTD(4) ", " TD_LOCKING_BAK "},
     {" ComboLang ", " LANGUAGE_BAK "},
     // exceptions and alarms; a record that is shown is put in order
-    {" ComboExcepRe(2) ", " COMMCFG_BAK TIMESTAMP_ENA DUPLINE_BAK "},
+    {" ComboExcepRe(2) ", " TIMESTAMP_ENA DUPLINE_BAK "},
     {" ComboExcepRe ", " COMMCFG_BAK TIMESTAMP_ENA "},
     {" ComboScroll ", " SCROLLMATCH_BAK "},
     {" ComboExcp ", " EXCPSTRS "},
-    {" ComboALM(0) ", " TRIGGER_TEXT ALMSTRUCT_BAK ALMNORMAL_BAK TRIGGER_DELAY ALM_MODE "},
+    {" ComboALM(0) ", " TRIGGER_TEXT ALMSTRUCT_BAK ALM_MODE "},
     {" ComboALM(1) ComboALM(3) ComboALM(6) ", " ALMSTRUCT_BAK "},
     {" ComboALM(2) ", " ALMNORMAL_BAK "},
     {" ComboALM(4) ", " ALMCFG_BAK "},
@@ -95,8 +95,6 @@ constexpr Owner kOwners[] = {
     {" ComboKLM4011(0) ComboKLM4011(2) ", " HIST_DEST_ID "},
     {" ComboKLM4011(1) ComboKLM4011(3) ", " HIST_SRC_ID "},
 };
-
-#undef LINE
 
 const Owner* Named(std::string_view name) {
   const auto found = std::find_if(std::begin(kOwners), std::end(kOwners), [&](const Owner& owner) {
