@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string>
 
 namespace ovl::testing {
 namespace {
@@ -97,12 +98,9 @@ constexpr Owner kOwners[] = {
 };
 
 const Owner* Named(std::string_view name) {
+  const auto word = " " + std::string(name) + " ";
   const auto found = std::find_if(std::begin(kOwners), std::end(kOwners), [&](const Owner& owner) {
-    for (auto at = owner.controls.find(name); at != std::string_view::npos;
-         at = owner.controls.find(name, at + 1)) {
-      if (owner.controls[at - 1] == ' ' && owner.controls[at + name.size()] == ' ') return true;
-    }
-    return false;
+    return owner.controls.find(word) != std::string_view::npos;
   });
   return found == std::end(kOwners) ? nullptr : found;
 }

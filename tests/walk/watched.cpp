@@ -40,8 +40,7 @@ bool Loads(const std::string& line) {
 }
 
 bool MayWrite(std::string_view fields, std::string_view field) {
-  const auto at = fields.find(field);
-  return at != std::string_view::npos && fields[at - 1] == ' ' && fields[at + field.size()] == ' ';
+  return fields.find(" " + std::string(field) + " ") != std::string_view::npos;
 }
 
 }  // namespace
@@ -69,61 +68,58 @@ std::string Watched::Do(const std::string& line) {
 }
 
 std::string Watched::CheckImage(const std::string& line) {
-  const auto& image = Image();
-  if (image == before_) return {};
-  auto& app = App();
-  const auto layout = LayoutOf(app.firmware);
-  auto control = ControlIn(line);
-  if (FieldsOf(control) == " " && control.find('.') == std::string::npos) {
-    const auto* named = app.registry.Find(control);
-    if (named != nullptr && named->form != &app.frmMain.form) control = named->form->name + "." + control;
-  }
-  const auto fields = FieldsOf(control);
+  if (Image() == before_) return {};
   const bool loads = Loads(line);
+  const auto wrong = CheckFields(ControlIn(line), loads) + CheckLengths(loads, line == "click OpenMenu");
+  before_ = Image();
+  return wrong;
+}
+
+// The form stands in front of a control that the main form lacks.
+std::string Watched::FullName(const std::string& control) {
+  const auto* named = App().registry.Find(control);
+  const bool plain =
+      named == nullptr || named->form == &App().frmMain.form || control.find('.') != std::string::npos;
+  return plain || std::holds_alternative<Form*>(named->control) ? control : named->form->name + "." + control;
+}
+
+std::string Watched::CheckFields(const std::string& control, bool loads) {
+  const auto& form = App().frmMain;
+  const auto fields = FieldsOf(FullName(control));
   std::string wrong;
   for (const auto& row : FieldTable()) {
     const auto entries = EntryCount(row.id);
+    const auto digits = static_cast<std::size_t>(DigitsOf(row, LayoutOf(App().firmware)));
+    const int shown = entries == kExceptions ? form.ComboExcp[0].position + 1
+                      : entries == kAlarms   ? form.ComboALM[0].position + 1
+                                             : 0;
     for (int entry = 1; entry <= entries; ++entry) {
-      const auto &is = image.at(row.id, entry), &was = before_.at(row.id, entry);
-      const auto digits = static_cast<std::size_t>(DigitsOf(row, layout));
-      const bool sentinel = is.empty() || is == row.sentinel;
+      const auto &is = Image().at(row.id, entry), &was = before_.at(row.id, entry);
       if (is == was) continue;
-      if (!sentinel && (is.size() != digits || !IsHex(is)))
-        wrong.append(row.name).append(" holds ").append(is).append("\n");
-      if (loads) continue;
-      if (whole_ && !sentinel && is.size() != digits)
-        wrong.append(row.name).append(" became ").append(is).append("\n");
-      const auto& form = app.frmMain;
-      const int shown = entries == kExceptions ? form.ComboExcp[0].position + 1
-                        : entries == kAlarms   ? form.ComboALM[0].position + 1
-                                               : entry;
-      if (entry == shown && MayWrite(fields, row.name)) continue;
-      wrong.append(control)
-          .append(" wrote ")
-          .append(row.name)
-          .append(" ")
-          .append(std::to_string(entry))
-          .append(" ")
-          .append(was)
-          .append(" ")
-          .append(is)
-          .append("\n");
+      const bool absent = is == row.sentinel || (loads && is.empty());
+      const bool in_form = absent || (is.size() == digits && IsHex(is));
+      const bool may_write = loads || ((shown == 0 || entry == shown) && MayWrite(fields, row.name));
+      if (in_form && may_write) continue;
+      wrong.append(control).append(" wrote ").append(row.name).append(" ").append(std::to_string(entry));
+      wrong.append(": ").append(was).append(", now ").append(is).append("\n");
     }
   }
+  return wrong;
+}
+
+std::string Watched::CheckLengths(bool loads, bool from_file) {
+  auto& app = App();
   // This release leaves out a flag that a full load empties, and sends it once a panel has set it.
-  const std::size_t more = app.firmware.Joined() == "V1400R7" && !image[FieldId::BLNKRTS_BAK].empty() ? 2 : 0;
-  auto copy = image;
-  const auto sections = WriteSections(copy, layout, app.firmware, app.capabilities);
+  const std::size_t more =
+      app.firmware.Joined() == "V1400R7" && !Image()[FieldId::BLNKRTS_BAK].empty() ? 2 : 0;
+  auto copy = Image();
+  const auto sections = WriteSections(copy, LayoutOf(app.firmware), app.firmware, app.capabilities);
   const auto [syscfg, sysfixed] = LengthsOf(app.firmware);
   const bool whole = sections.SYSCFG.size() == syscfg && sections.SYSFIXED.size() == sysfixed + more &&
                      syscfg + sysfixed + sections.SYSSTR.size() == DigitsOfImage(app.firmware);
-  // Saved files follow one layout whatever the release, so that some releases read their own as a shorter
-  // image.
-  if (line == "click OpenMenu") whole_ = whole;
-  if (loads && line != "click OpenMenu") whole_ = true;
-  if (whole_ && !whole) wrong += "the sections' lengths\n";
-  before_ = image;
-  return wrong;
+  // Saved files follow one layout whatever the release; some releases read their own as a shorter image.
+  if (loads) whole_ = whole || !from_file;
+  return whole_ && !whole ? "the sections' lengths\n" : "";
 }
 
 std::string Watched::CheckLists() {

@@ -24,7 +24,10 @@ class Watched {
   const ConfigImage& Image() { return App().image; }
 
  private:
+  std::string FullName(const std::string& control);
   std::string CheckImage(const std::string& line);
+  std::string CheckFields(const std::string& control, bool loads);
+  std::string CheckLengths(bool loads, bool from_file);
   std::string CheckLists();
   std::string CheckFrames();
 
