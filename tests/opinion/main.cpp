@@ -17,7 +17,7 @@ namespace {
 using enum LinkEvent;
 
 const FirmwareId kFirmware = {"V1400", "R4"};
-constexpr int kDrainAll = kLinkEvents, kWholeStream = kLinkEvents + 1, kSteps = kLinkEvents + 2;
+constexpr int kDrainAll = kLinkEvents, kWholeStream = kLinkEvents + 1;
 
 // The program and the table side by side. A step is an event, or one of the two long ones above.
 class Pair {

@@ -21,6 +21,8 @@ class Watched {
 
   Application& App() { return session_.App(); }
   bool Ended() const { return session_.Ended(); }
+  // Whether the image has the digits that its layout says.
+  bool Whole() const { return whole_; }
   const ConfigImage& Image() { return App().image; }
 
  private:
@@ -34,7 +36,7 @@ class Watched {
   std::ostream nowhere_;
   script::Session session_;
   ConfigImage before_;
-  bool whole_ = true;  // the image has the digits that its layout says
+  bool whole_ = true;
 };
 
 }  // namespace ovl::testing
