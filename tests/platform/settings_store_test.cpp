@@ -63,6 +63,7 @@ TEST_F(Settings, ANumberKeepsItsKind) {
 
 TEST_F(Settings, WithoutAFileThereIsNothing) {
   EXPECT_EQ(Text("Version"), "(none)");
+  EXPECT_EQ(store_.WhyNotRead(), File().toStdString() + ": No such file or directory");
 }
 
 TEST_F(Settings, AFolderInTheFilesPlaceHoldsNothing) {
@@ -75,6 +76,20 @@ TEST_F(Settings, AFileInTheFoldersPlaceRefusesToBeWritten) {
   ASSERT_TRUE(QFile(folder_.filePath("ORB")).open(QIODevice::WriteOnly));
   EXPECT_FALSE(store_.Write(kKey, "Version", "V1400"));
   EXPECT_EQ(Text("Version"), "(none)");
+  EXPECT_EQ(store_.WhyNotWritten(), folder_.filePath("ORB").toStdString() + ": Not a directory");
+}
+
+// As on desktops that put folders of their own ahead.
+TEST_F(Settings, TheMachinesFileIsFoundBehindOtherPlaces) {
+  Content("Version=V1300\n");
+  const QTemporaryDir ahead;
+  const auto before = qgetenv("XDG_CONFIG_DIRS");
+  qputenv("XDG_CONFIG_DIRS", ahead.path().toLocal8Bit() + ':' + folder_.path().toLocal8Bit());
+  const SettingsStore machine;
+  EXPECT_EQ(machine.Read(kKey, "Version"), SettingValue("V1300"));
+  EXPECT_TRUE(machine.Write(kKey, "Version", "V1400"));
+  qputenv("XDG_CONFIG_DIRS", before);
+  EXPECT_EQ(Text("Version"), "V1400");
 }
 
 TEST_F(Settings, ContentThatIsNoSettingsFileIsReplaced) {

@@ -20,7 +20,8 @@ void Session::SetFolder(std::string folder) {
 }
 
 void Session::StoreSetting(const std::string& value, const std::string& text) {
-  if (!WriteStore(kSettingsKey, value, text)) Wrong("the machine's settings store cannot be written");
+  if (WriteStore(kSettingsKey, value, text)) return;
+  Wrong("the machine's settings store cannot be written: " + system_store_->WhyNotWritten());
 }
 
 void Session::SetClock(const ClockTime& time) {

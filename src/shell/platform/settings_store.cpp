@@ -1,7 +1,15 @@
 #include "shell/platform/settings_store.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLibraryInfo>
+#include <QSaveFile>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QVariant>
+#include <filesystem>
+#include <system_error>
 
 #include "shell/platform/text_codec.h"
 
@@ -9,8 +17,8 @@ namespace ovl {
 namespace {
 
 constexpr std::string_view kStoreKey = "SOFTWARE\\ORB\\OVL Software";
-constexpr auto kOrganisation = "ORB";
-constexpr auto kApplication = "OVL Software";
+const auto kOrganisation = QStringLiteral("ORB");
+const auto kApplication = QStringLiteral("OVL Software");
 
 // A separator would reach a group below the store's key.
 bool IsOwnValue(std::string_view key, std::string_view value) {
@@ -28,19 +36,35 @@ QString Text(const QVariant& stored) {
                                                    : stored.toString();
 }
 
+std::string Told(const QString& path, const QString& reason) {
+  return QStringLiteral("%1: %2").arg(QDir::toNativeSeparators(path), reason).toStdString();
+}
+
 }  // namespace
 
 SettingsStore::SettingsStore(QString folder) : folder_(std::move(folder)) {}
 
+QString SettingsStore::Path() const {
+  const auto name = QStringLiteral("%1/%2.conf").arg(kOrganisation, kApplication);
+  if (!folder_.isEmpty()) return QDir(folder_).filePath(name);
+#if defined(Q_OS_WIN) || defined(Q_OS_DARWIN)
+  return {};
+#else
+  // A desktop puts places of its own ahead of the system's; the toolkit would look no further than the first.
+  const auto places = QStandardPaths::standardLocations(QStandardPaths::GenericConfigLocation);
+  for (const auto& place : places.mid(1)) {
+    const auto path = QDir(place).filePath(name);
+    if (QFile::exists(path)) return path;
+  }
+  return QDir(QLibraryInfo::path(QLibraryInfo::SettingsPath)).filePath(name);
+#endif
+}
+
 std::unique_ptr<QSettings> SettingsStore::Open() const {
-  auto settings =
-      folder_.isEmpty()
-          ? std::make_unique<QSettings>(QSettings::SystemScope, QString::fromLatin1(kOrganisation),
-                                        QString::fromLatin1(kApplication))
-          : std::make_unique<QSettings>(
-                QStringLiteral("%1/%2/%3.conf")
-                    .arg(folder_, QString::fromLatin1(kOrganisation), QString::fromLatin1(kApplication)),
-                QSettings::IniFormat);
+  const auto path = Path();
+  auto settings = path.isEmpty()
+                      ? std::make_unique<QSettings>(QSettings::SystemScope, kOrganisation, kApplication)
+                      : std::make_unique<QSettings>(path, QSettings::IniFormat);
   settings->setFallbacksEnabled(false);
   return settings;
 }
@@ -61,6 +85,23 @@ bool SettingsStore::Write(std::string_view key, std::string_view value, std::str
   settings->setValue(FromWindows1252(value), FromWindows1252(text));
   settings->sync();
   return settings->status() == QSettings::NoError;
+}
+
+std::string SettingsStore::WhyNotRead() const {
+  QFile file(Path());
+  const bool opened = file.open(QIODevice::ReadOnly);
+  return Told(file.fileName(), opened ? QStringLiteral("it lacks the value") : file.errorString());
+}
+
+std::string SettingsStore::WhyNotWritten() const {
+  const auto path = Path();
+  std::error_code failed;
+  std::filesystem::create_directories(QFileInfo(path).path().toStdU16String(), failed);
+  if (failed) return Told(QFileInfo(path).path(), QString::fromLocal8Bit(failed.message().c_str()));
+  QSaveFile file(path);
+  const bool opened = file.open(QIODevice::WriteOnly);
+  file.cancelWriting();
+  return Told(path, opened ? QStringLiteral("it cannot be written") : file.errorString());
 }
 
 }  // namespace ovl

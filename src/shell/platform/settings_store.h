@@ -5,6 +5,7 @@
 #include <QString>
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "core/platform.h"
@@ -26,7 +27,13 @@ class SettingsStore {
   // False if the store can't be written.
   bool Write(std::string_view key, std::string_view value, std::string_view text) const;
 
+  // After a Read without a value, after a Write that failed: "PATH: Permission denied".
+  std::string WhyNotRead() const;
+  std::string WhyNotWritten() const;
+
  private:
+  // Empty where the toolkit keeps no file.
+  QString Path() const;
   std::unique_ptr<QSettings> Open() const;
 
   QString folder_;
