@@ -35,11 +35,12 @@ QString SuffixOf(const QString& filter) {
 
 }  // namespace
 
-void ShowBox(QWidget* parent, const MessageBox& box) {
+void ShowBox(QWidget* parent, const MessageBox& box, const QString& detail) {
   const auto icon = box.icon == BoxIcon::kInformation ? QMessageBox::Information : QMessageBox::NoIcon;
   const auto title = box.title.empty() ? kProgramName : FromWindows1252(box.title);
   QMessageBox window(icon, title, FromSystem(box.text), QMessageBox::Ok, parent);
   window.setTextFormat(Qt::PlainText);
+  window.setInformativeText(detail);
   window.setObjectName(QStringLiteral("MessageBox"));
   window.exec();
 }

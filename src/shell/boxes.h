@@ -10,7 +10,7 @@ class QWidget;
 
 namespace ovl {
 
-void ShowBox(QWidget* parent, const MessageBox& box);
+void ShowBox(QWidget* parent, const MessageBox& box, const QString& detail = {});
 
 // Nothing when the person cancels.
 std::optional<FileAnswer> AskFile(QWidget* parent, const FileDialog& request);

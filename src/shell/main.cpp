@@ -1,8 +1,11 @@
 #include <QApplication>
 #include <QStringList>
+#include <cstdlib>
 #include <iostream>
 #include <optional>
 
+#include "core/failure.h"
+#include "shell/boxes.h"
 #include "shell/pictures.h"
 #include "shell/program.h"
 #include "shell/program_folder.h"
@@ -53,6 +56,29 @@ QStringList Words(int argc, char** argv) {
   return words;
 }
 
+// The toolkit aborts when it finds no display, and advises to install it again.
+void TellNoDisplay(QtMsgType type, const QMessageLogContext&, const QString& text) {
+  if (type != QtFatalMsg) {
+    std::cerr << "ovl: " << text.toLocal8Bit().constData() << std::endl;
+    return;
+  }
+  std::cerr << "ovl: there is no display to open a window on; DISPLAY is \"" << qgetenv("DISPLAY").constData()
+            << "\", WAYLAND_DISPLAY is \"" << qgetenv("WAYLAND_DISPLAY").constData() << "\"" << std::endl;
+  std::_Exit(EXIT_FAILURE);
+}
+
+// Nothing when there is no folder to work in; a run that only writes pictures has nobody to close a box.
+std::optional<QString> FindFolder(const Options& options) {
+  try {
+    return ovl::ProgramFolder(options.folder);
+  } catch (const ovl::Failure& failure) {
+    const auto text = "The program's folder cannot be made.\n\n" + failure.Subject() + ": " + failure.what();
+    std::cerr << "ovl: " << text << std::endl;
+    if (options.pictures.isEmpty()) ovl::ShowBox(nullptr, {{}, text});
+    return std::nullopt;
+  }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -65,11 +91,16 @@ int main(int argc, char** argv) {
     std::cout << kHelp;
     return EXIT_SUCCESS;
   }
+  const auto toolkits_own = qInstallMessageHandler(TellNoDisplay);
   QApplication application(argc, argv);
+  qInstallMessageHandler(toolkits_own);
   QCoreApplication::setApplicationName(QStringLiteral("OVL Software"));
+  QGuiApplication::setDesktopFileName(QStringLiteral("ovl-software"));
   QApplication::setQuitOnLastWindowClosed(false);
   ovl::ApplyTheme(ovl::Theme::kDesktop);
-  ovl::Program program(ovl::ProgramFolder(options->folder), options->store);
+  const auto folder = FindFolder(*options);
+  if (!folder) return EXIT_FAILURE;
+  ovl::Program program(*folder, options->store);
   if (!options->pictures.isEmpty()) {
     return ovl::SavePictures(program, options->pictures) ? EXIT_SUCCESS : EXIT_FAILURE;
   }

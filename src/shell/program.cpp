@@ -14,6 +14,9 @@ namespace ovl {
 namespace {
 
 constexpr int kFrame = 16;
+constexpr const char* kHowToSetUp = "\nRoot sets the firmware, for instance: ovl-setup V1400 R12";
+constexpr const char* kNotKept =
+    "\nThe next start serves the same firmware as this one. Root sets another: ovl-setup ";
 
 }  // namespace
 
@@ -38,17 +41,24 @@ void Program::FillPlatform() {
   platform.program_folder = QFile::encodeName(folder_).toStdString();
   platform.show_message = [this](const MessageBox& box) {
     RefreshNow();
-    ShowBox(windows_ ? windows_->Front() : nullptr, box);
+    ShowBox(windows_ ? windows_->Front() : nullptr, box, BoxDetail());
   };
   platform.ask_file = [this](const FileDialog& request) {
     RefreshNow();
     return AskFile(windows_ ? windows_->Front() : nullptr, request);
   };
   platform.read_setting = [this](std::string_view key, std::string_view value) {
-    return store_.Read(key, value);
+    auto found = store_.Read(key, value);
+    if (!found) store_problem_ = store_.WhyNotRead() + kHowToSetUp;
+    return found;
   };
   platform.write_setting = [this](std::string_view key, std::string_view value, std::string_view text) {
-    return store_.Write(key, value, text);
+    const bool kept = store_.Write(key, value, text);
+    if (!kept) {
+      store_problem_ =
+          store_.WhyNotWritten() + kNotKept + app_.firmware.version + " " + app_.firmware.release;
+    }
+    return kept;
   };
   platform.clock = LocalClockTime;
   // The form remembers the request itself, and its window follows when it is shown.
@@ -134,6 +144,12 @@ void Program::End() {
   for (auto& timer : timers_) timer.clock->stop();
   if (windows_) windows_->HideAll();
   QCoreApplication::exit(EXIT_SUCCESS);
+}
+
+// What the words of a box do not tell: nobody can read the status bar of a program that does not start.
+QString Program::BoxDetail() const {
+  if (!store_problem_.empty()) return FromSystem(store_problem_);
+  return windows_ ? QString() : FromSystem(app_.StatusNote);
 }
 
 }  // namespace ovl

@@ -53,10 +53,12 @@ class Program {
   void FollowTimer(TimerState& timer);
   void Tick(Timer& timer);
   void End();
+  QString BoxDetail() const;
 
   QString folder_;
   Application app_;
   SettingsStore store_;
+  std::string store_problem_;
   SerialPort port_;
   std::unique_ptr<Windows> windows_;
   std::vector<TimerState> timers_;

@@ -23,7 +23,6 @@
 #include "image/files.h"
 #include "shell/pictures.h"
 #include "shell/program.h"
-#include "shell/program_folder.h"
 #include "shell/status_strip.h"
 #include "shell/theme.h"
 #include "shell/transfer_progress.h"
@@ -455,23 +454,6 @@ TEST(Theme, TextStandsOutInBothThemes) {
     check(QPalette::HighlightedText, QPalette::Highlight);
     EXPECT_NE(palette.color(QPalette::Disabled, QPalette::WindowText), MutedColor(palette));
   }
-}
-
-TEST(ProgramFolder, ShippedImagesAreLinkedIntoRealFamilyFolders) {
-  namespace fs = std::filesystem;
-  const TemporaryFolder shipped, own;
-  fs::create_directories(shipped.Path() / "V1400" / "R12");
-  WriteWhole(shipped.File("V1400/R12/GENERIC.bin"), "x");
-  fs::create_directories(own.Path() / "V1400");
-  fs::create_directory_symlink("/nowhere/at/all", own.Path() / "V1400" / "R12");
-  const auto link = [&] {
-    LinkImages(QString::fromStdString(shipped.Path().string()), QString::fromStdString(own.Path().string()));
-  };
-  link();
-  link();
-  EXPECT_FALSE(fs::is_symlink(own.Path() / "V1400"));
-  EXPECT_TRUE(fs::is_symlink(own.Path() / "V1400" / "R12"));
-  EXPECT_EQ(ReadWhole(own.File("V1400/R12/GENERIC.bin")), "x");
 }
 
 TEST(Pictures, EveryStateIsTakenInBothThemes) {
