@@ -43,11 +43,17 @@ void ExpectField(Session& session, Arguments& arguments) {
 }
 
 void ExpectVariable(Session& session, Arguments& arguments) {
+  constexpr int kStep = 50;
   const auto name = arguments.Bare("NAME");
   const auto text = arguments.Next("VALUE");
+  int left = arguments.Take("within") ? arguments.Number("MS") : 0;
   arguments.End();
-  const auto found = VariableValue(session.App(), name);
+  auto found = VariableValue(session.App(), name);
   if (!found) Wrong("no variable has the name " + Quoted(name));
+  for (; *found != text && left > 0 && !session.Ended(); left -= kStep) {
+    session.Wait(std::min(left, kStep));
+    found = VariableValue(session.App(), name);
+  }
   Require(*found == text, name + " = " + AsWord(text), AsWord(*found));
 }
 

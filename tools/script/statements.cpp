@@ -330,7 +330,8 @@ constexpr auto kStatements = std::to_array<Statement>({
     {"upload", "upload [PATH]", "a whole upload on the real port; the image then into a file", Upload},
     {"download", "download [PATH]", "a whole download on the real port, of the image or of a file", Download},
     {"expect",
-     "expect field NAME HEX\nexpect var NAME VALUE\nexpect count NAME N\nexpect list NAME \"A\" \"B\" ...\n"
+     "expect field NAME HEX\nexpect var NAME VALUE [within MS]\nexpect count NAME N\nexpect list NAME \"A\" "
+     "\"B\" ...\n"
      "expect NAME POSITION\nexpect NAME \"TEXT\"\n"
      "expect visible|hidden|enabled|disabled|checked|unchecked NAME\nexpect sent \"TEXT\"\n"
      "expect box [\"TITLE\"] \"TEXT\"\nexpect no box\nexpect ended",
