@@ -1,0 +1,19 @@
+#!/usr/bin/env bash
+# Sets the clock of every unit of a list to the time of this machine: set_clocks.sh devices.txt
+. "$(dirname "$0")/common.sh"
+[ $# -eq 1 ] || usage DEVICES
+
+# CmdUpDow(4) asks for remote mode, CmdUpDow(2) sets the clock that the panel shows.
+set_clock() {
+  on_unit "$1" <<END
+wait 1200
+click CmdUpDow(4)
+expect var RemoteHeld true within 2000
+wait 400
+click CmdUpDow(2)
+expect var SetTimePending false within 10000
+expect box "SET TIME DATE FINISHED."
+END
+}
+
+each "$1" set_clock
