@@ -1,0 +1,71 @@
+#!/usr/bin/env bash
+# Tries the package in a Debian 12 of its own, as root: installs it, starts it and transfers a configuration as an
+# ordinary user, removes it and lists what is left. try.sh [FOLDER] keeps the root file system in the folder.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+[ "${TRY_ALONE:-}" ] || TRY_ALONE=1 exec unshare --mount --propagation private "packaging/try.sh" "$@"
+tools/require debootstrap
+packages=(build/package/ovl-software_*.deb)
+
+root=${1:-}
+if [ -z "$root" ]; then
+  root=$(mktemp -d)
+  trap 'umount --recursive --lazy "$root/dev" "$root/proc" 2>/dev/null || true; rm -rf --one-file-system "$root"' EXIT
+fi
+[ -e "$root/etc/debian_version" ] || debootstrap --variant=minbase bookworm "$root"
+mount -t proc proc "$root/proc"
+mount --rbind /dev "$root/dev"
+cp /etc/resolv.conf "$root/etc/resolv.conf"
+export DEBIAN_FRONTEND=noninteractive LC_ALL=C.UTF-8
+inside() { chroot "$root" "$@"; }
+as_user() { inside su - installer -c "$1"; }
+files() {
+  inside find / -xdev \( -path /proc -o -path /dev -o -path /tmp -o -path /var/cache -o -path /var/log \
+    -o -path /var/lib/apt -o -path /var/lib/dpkg -o -path /run \) -prune -o -print | sort
+}
+
+inside apt-get update -q
+inside id installer > /dev/null 2>&1 || inside useradd --create-home --shell /bin/bash installer
+files > "$root/tmp/before"
+cp "${packages[@]}" "$root/tmp"
+inside sh -c 'apt-get install -q -y --no-install-recommends fonts-dejavu-core /tmp/ovl-software_*.deb'
+
+echo "== As an ordinary user, before the firmware is set"
+as_user 'ovl; echo "status $?"; ovl-setup V1400 R12; echo "status $?"'
+echo "== ovl-setup"
+inside ovl-setup V1400 R99 || echo "status $?"
+inside ovl-setup V1400 R12
+inside cat "/etc/xdg/ORB/OVL Software.conf"
+echo "== Pictures and a transfer, as an ordinary user"
+as_user 'QT_QPA_PLATFORM=offscreen ovl --pictures pictures 2> /dev/null; echo "status $?, $(ls pictures/light | wc -l) pictures"'
+as_user 'ls -l ".local/share/OVL Software/V1400"'
+cat > "$root/tmp/transfer" <<'END'
+ovl-unit --link ".local/share/OVL Software/ports/com1" --memory unit.bin > /dev/null & unit=$!
+sleep 2
+ovl-script 2> /dev/null <<STATEMENTS
+store system
+folder "$HOME/.local/share/OVL Software"
+port real
+start
+click cmdConnect
+click cmdSET
+upload
+set DATE_FORMAT_BAK 02
+download
+upload
+expect field DATE_FORMAT_BAK 02
+expect no box
+STATEMENTS
+echo "script $?"
+kill $unit
+wait $unit
+echo "unit $?"
+END
+as_user 'bash /tmp/transfer'
+
+echo "== Removed: what is left of the package, then what is left at all"
+inside apt-get remove -q -y ovl-software
+inside find / -xdev \( -path /proc -o -path /dev -o -path /tmp -o -path /home \) -prune -o -iname '*ovl*' -print
+inside apt-get purge -q -y --autoremove ovl-software fonts-dejavu-core > /dev/null
+files > "$root/tmp/after"
+diff "$root/tmp/before" "$root/tmp/after" | grep '^>' || true
