@@ -254,7 +254,8 @@ std::string OtherwiseElsewhere(Watched& program) {
   ShowRecords(other);
   std::string wrong;
   for (const auto& row : FieldTable()) {
-    if (FieldsOf("ComboReg").find(" " + std::string(row.name) + " ") != std::string_view::npos) continue;
+    if (OwnerNamed("ComboReg").fields.find(" " + std::string(row.name) + " ") != std::string_view::npos)
+      continue;
     for (int entry = 1; entry <= EntryCount(row.id); ++entry) {
       const auto here = Settled(row.id, program.Image().at(row.id, entry));
       const auto there = Settled(row.id, other.Image().at(row.id, entry));

@@ -7,10 +7,6 @@
 namespace ovl::testing {
 namespace {
 
-struct Owner {
-  std::string_view controls;
-  std::string_view fields;
-};
 constexpr Owner kOwners[] = {
     // register options
     {" BleepOP DIGIOP FUJIOP GELLEROP JCMOp OpA410 OpBEETLE OpDelta OpEDA OpNCR OpNUCP OpPoleDisplay OpSun "
@@ -78,18 +74,21 @@ constexpr Owner kOwners[] = {
     {" ComboExcepRe(2) ", " TIMESTAMP_ENA DUPLINE_BAK "},
     {" ComboExcepRe ", " COMMCFG_BAK TIMESTAMP_ENA "},
     {" ComboScroll ", " SCROLLMATCH_BAK "},
-    {" ComboExcp ", " EXCPSTRS "},
+    {" ComboExcp(0) ", " EXCPSTRS ", Part::kAllButRange},
+    {" ComboExcp ", " EXCPSTRS ", Part::kFirstByte},
     {" ComboALM(0) ", " TRIGGER_TEXT ALMSTRUCT_BAK ALM_MODE "},
-    {" ComboALM(1) ComboALM(3) ComboALM(6) ", " ALMSTRUCT_BAK "},
+    {" ComboALM(1) ", " ALMSTRUCT_BAK ", Part::kFirstByte},
+    {" ComboALM(3) ", " ALMSTRUCT_BAK ", Part::kDuration},
+    {" ComboALM(6) ", " ALMSTRUCT_BAK ", Part::kLastByte},
     {" ComboALM(2) ", " ALMNORMAL_BAK "},
     {" ComboALM(4) ", " ALMCFG_BAK "},
     {" ComboALM(5) ", " FLAGDWLIND "},
     {" ComboALM(7) ", " ALM_MODE "},
     {" ComboTrigger(2) ", " TRIGGER_DELAY "},
-    {" ComboTrigger ", " TRIGGER_TEXT "},
-    {" frmSetEXCPSTR frmSetEXCPSTR.cmdSET ", " EXCPSTRS TRIGGER_TEXT ONSCRNTITL "},
+    {" ComboTrigger ", " TRIGGER_TEXT ", Part::kFirstByte},
+    {" frmSetEXCPSTR frmSetEXCPSTR.cmdSET ", " EXCPSTRS TRIGGER_TEXT ONSCRNTITL ", Part::kAllButRange},
     {" cmdSetRange frmSetRange.ComboDec frmSetRange.cmdClr ", " DECIMAL_POINT_BAK "},
-    {" frmSetRange.cmdSetRange ", " EXCPSTRS "},
+    {" frmSetRange.cmdSetRange ", " EXCPSTRS ", Part::kRange},
     // demonstration and recorder
     {" CharacterList DemoType DemoSpeed DemoMode ", " DEMO_ENABLE "},
     {" OpDVR ", " HIST_REG "},
@@ -107,10 +106,34 @@ const Owner* Named(std::string_view name) {
 
 }  // namespace
 
-std::string_view FieldsOf(std::string_view control) {
+const Owner& OwnerNamed(std::string_view control) {
+  static constexpr Owner kNobody = {"", " "};
   const auto* owner = Named(control);
   if (owner == nullptr) owner = Named(control.substr(0, control.find('(')));
-  return owner == nullptr ? " " : owner->fields;
+  return owner == nullptr ? kNobody : *owner;
+}
+
+bool DifferIn(Part part, std::size_t range, std::string_view one, std::string_view other) {
+  const auto same = [&](std::size_t first, std::size_t digits) {
+    return one.substr(std::min(first, one.size()), digits) ==
+           other.substr(std::min(first, other.size()), digits);
+  };
+  constexpr std::size_t kByte = 2;
+  constexpr auto kRest = std::string_view::npos;
+  switch (part) {
+    case Part::kFirstByte:
+      return same(kByte, kRest);
+    case Part::kDuration:
+      return same(0, kByte) && same(3 * kByte, kRest);
+    case Part::kLastByte:
+      return same(0, one.size() - kByte);
+    case Part::kRange:
+      return same(0, kByte) && same(kByte + range, kRest);
+    case Part::kAllButRange:
+      return same(kByte, range);
+    default:
+      return true;
+  }
 }
 
 }  // namespace ovl::testing

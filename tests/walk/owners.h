@@ -1,13 +1,25 @@
 // Which fields of the image an act on a control may write.
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
 namespace ovl::testing {
 
-// The fields' names with blanks between and around them; a single blank for a control that writes none. A
-// name with its index stands ahead of the name of its whole array. Controls of other forms than the main one
-// have the form in front.
-std::string_view FieldsOf(std::string_view control);
+// Of a field that is a record: all of it, or only some of its digits.
+enum class Part { kAll, kFirstByte, kDuration, kLastByte, kRange, kAllButRange };
+
+struct Owner {
+  std::string_view controls;
+  std::string_view fields;  // with blanks between and around them
+  Part of_records = Part::kAll;
+};
+
+// A name with its index stands ahead of the name of its whole array. Controls of other forms than the main
+// one have the form in front. A control that is not listed writes nothing.
+const Owner& OwnerNamed(std::string_view control);
+
+// Whether two records of the field differ in the part alone; the numbers of a range have so many digits.
+bool DifferIn(Part part, std::size_t range, std::string_view one, std::string_view other);
 
 }  // namespace ovl::testing

@@ -85,7 +85,8 @@ std::string Watched::FullName(const std::string& control) {
 
 std::string Watched::CheckFields(const std::string& control, bool loads) {
   const auto& form = App().frmMain;
-  const auto fields = FieldsOf(FullName(control));
+  const auto& owner = OwnerNamed(FullName(control));
+  const std::size_t range = App().firmware.IsV1400() ? 20 : 12;
   std::string wrong;
   for (const auto& row : FieldTable()) {
     const auto entries = EntryCount(row.id);
@@ -98,7 +99,11 @@ std::string Watched::CheckFields(const std::string& control, bool loads) {
       if (is == was) continue;
       const bool absent = is == row.sentinel || (loads && is.empty());
       const bool in_form = absent || (is.size() == digits && IsHex(is));
-      const bool may_write = loads || ((shown == 0 || entry == shown) && MayWrite(fields, row.name));
+      const bool record =
+          whole_ && (row.id == FieldId::EXCPSTRS || row.id == FieldId::ALMSTRUCT_BAK ||
+                     (row.id == FieldId::TRIGGER_TEXT && owner.of_records == Part::kFirstByte));
+      const bool may_write = loads || ((shown == 0 || entry == shown) && MayWrite(owner.fields, row.name) &&
+                                       (!record || DifferIn(owner.of_records, range, was, is)));
       if (in_form && may_write) continue;
       wrong.append(control).append(" wrote ").append(row.name).append(" ").append(std::to_string(entry));
       wrong.append(": ").append(was).append(", now ").append(is).append("\n");
