@@ -1,26 +1,111 @@
-// Any text as a record stream, under the layout that its first byte chooses. What was loaded must compose.
-#include <cstdint>
-#include <cstdlib>
-
+// Texts as record streams under every firmware: any text, or the firmware's own stream with changes to it.
+// The first byte chooses the firmware, the second what is done.
+#include "bytes.h"
 #include "catalogue/firmware.h"
 #include "core/gate.h"
 #include "image/record_stream.h"
+#include "support/harness.h"
+
+namespace {
+
+using ovl::fuzz::Bytes;
+using ovl::fuzz::Require;
+
+constexpr unsigned kPanelsReady = 1;
+constexpr unsigned kChanges = 2;
+
+struct Served {
+  ovl::FirmwareId firmware;
+  std::string stream;
+  std::size_t digits = 0;
+};
+
+// As it comes out of a file: without the line ends. A lone LF is none.
+std::string Joined(std::string_view stream) {
+  std::string joined;
+  for (; !stream.empty(); stream.remove_prefix(1)) {
+    if (stream.front() != '\r') joined += stream.front();
+    if (stream.starts_with("\r\n")) stream.remove_prefix(1);
+  }
+  return joined;
+}
+
+std::vector<Served> AllServed() {
+  std::vector<Served> all;
+  for (const auto& entry : ovl::FirmwareTable()) {
+    if (!entry.in_menu) continue;
+    Served served{{std::string(entry.version), std::string(entry.release)}, {}, 0};
+    served.stream = Joined(ovl::testing::RawPatternStream(served.firmware));
+    std::string digits;
+    ovl::ParseRecords(served.stream, ovl::ReadRegion(served.firmware), digits);
+    served.digits = digits.size();
+    all.push_back(std::move(served));
+  }
+  return all;
+}
+
+// Every four bytes put something in the place of a piece of the stream: place, length, character.
+std::string Changed(std::string text, Bytes input) {
+  while (!input.Empty()) {
+    const std::size_t place = (input.Next() * 256U + input.Next()) % (text.size() + 1);
+    const std::size_t length = input.Next();
+    text.replace(place, length, 1, static_cast<char>(input.Next()));
+  }
+  return text;
+}
+
+bool IsTaken(const ovl::FieldRow& row) {
+  return row.is_default || !row.sentinel.empty() || row.id == ovl::FieldId::BLNKRTS_BAK;
+}
+
+// What a register's default image brings in leaves all other fields alone.
+void CheckKept(const ovl::ConfigImage& before, const ovl::ConfigImage& after) {
+  for (const auto& row : ovl::FieldTable()) {
+    if (IsTaken(row)) continue;
+    for (int entry = 1; entry <= ovl::EntryCount(row.id); ++entry) {
+      Require(before.at(row.id, entry) == after.at(row.id, entry), "a field of no default stays");
+    }
+  }
+}
+
+// An image that came in complete goes out and comes in again as it was.
+void CheckRoundTrip(ovl::Application& app, const Served& served) {
+  std::string digits;
+  ovl::ParseRecords(app.StreamText, ovl::ReadRegion(served.firmware), digits);
+  if (digits.size() != served.digits) return;
+  const auto sent = ovl::SectionsToStream(app);
+  Require(ovl::LoadStream(app, Joined(sent)), "what was composed loads");
+  Require(ovl::SectionsToStream(app) == sent, "what was loaded composes to the same");
+}
+
+void Load(ovl::Application& app) {
+  app.ImageTouched = ovl::LoadStream(app, app.StreamText);
+}
+
+}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  if (size == 0) return 0;
-  const auto table = ovl::FirmwareTable();
-  const auto& entry = table[data[0] % table.size()];
-  ovl::Application app;
-  app.firmware = {std::string(entry.version), std::string(entry.release)};
+  static const auto all = AllServed();
+  static const ovl::ConfigImage before;
+  static ovl::Application app;
   app.platform.show_message = [](const ovl::MessageBox&) {};
-  app.StreamText.assign(reinterpret_cast<const char*>(data) + 1, size - 1);
-  app.PanelsReady = (data[0] & 0x80) != 0;
-  const auto before = app.image;
+
+  Bytes input(data, size);
+  const auto& served = all[input.Next() % all.size()];
+  const unsigned choice = input.Next();
+  app.firmware = served.firmware;
+  app.StreamText = Joined((choice & kChanges) != 0 ? Changed(served.stream, input) : input.Rest());
+  app.PanelsReady = (choice & kPanelsReady) != 0;
+  if (app.ImageTouched) app.image = before;
+  app.ImageTouched = app.ended = false;
   ovl::PrepareCapabilities(app);
-  ovl::DispatchStart(app, [](ovl::Application& inside) {
-    if (ovl::LoadStream(inside, inside.StreamText)) inside.StreamBuffer = ovl::SectionsToStream(inside);
-  });
-  if (app.ended && !(app.image == before)) std::abort();
-  if (!app.StreamBuffer.empty() && app.StreamBuffer.back() != '#') std::abort();
+  ovl::DispatchStart(app, Load);
+  if (!app.ImageTouched) {
+    Require(app.image == before, "a stream that is not taken leaves the image alone");
+  } else if (app.PanelsReady) {
+    CheckKept(before, app.image);
+  } else {
+    CheckRoundTrip(app, served);
+  }
   return 0;
 }

@@ -1,0 +1,42 @@
+// What a fuzzer's input is taken apart with, and how it says what does not hold.
+#pragma once
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <string_view>
+
+namespace ovl::fuzz {
+
+class Bytes {
+ public:
+  Bytes(const std::uint8_t* data, std::size_t size) : rest_(reinterpret_cast<const char*>(data), size) {}
+
+  bool Empty() const { return rest_.empty(); }
+  // 0 when all are used up.
+  std::uint8_t Next() {
+    if (rest_.empty()) return 0;
+    const auto byte = static_cast<std::uint8_t>(rest_.front());
+    rest_.remove_prefix(1);
+    return byte;
+  }
+  std::string_view Rest() const { return rest_; }
+
+ private:
+  std::string_view rest_;
+};
+
+// True for one input in so many, by its content: for what takes a hundred times as long as the rest.
+inline bool OneIn(unsigned count, std::string_view input) {
+  unsigned sum = 0;
+  for (const char byte : input) sum = sum * 31U + static_cast<unsigned char>(byte);
+  return sum % count == 0;
+}
+
+inline void Require(bool held, const char* what) {
+  if (held) return;
+  std::fprintf(stderr, "Does not hold: %s\n", what);
+  std::abort();
+}
+
+}  // namespace ovl::fuzz

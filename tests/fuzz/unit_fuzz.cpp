@@ -1,0 +1,161 @@
+// What the unit hears and reads. The first byte chooses: a conversation in simulated time, a stream from a
+// file, or a command line.
+#include <array>
+#include <utility>
+#include <vector>
+
+#include "bytes.h"
+#include "factory.h"
+#include "options.h"
+#include "stream.h"
+#include "text.h"
+#include "unit.h"
+
+namespace {
+
+using ovl::fuzz::Bytes;
+using ovl::fuzz::Require;
+
+constexpr unsigned kCommandLine = 0xFF;
+constexpr unsigned kFile = 0xFE;
+
+// Bytes of a conversation that are none of its characters.
+constexpr unsigned kTimePasses = 0xFF;
+constexpr unsigned kWholeStream = 0xFE;
+constexpr unsigned kRequest = 0xFD;
+
+// A unit that is left alone is looked at this often until it is at rest.
+constexpr unit::Time kStep = std::chrono::milliseconds(200);
+constexpr int kMostSteps = 1000;
+
+constexpr std::array<std::string_view, 10> kFaults{
+    "refuse:upload", "silent:download-ack", "silent:after=20", "drop:100",  "garble:100",
+    "cut:30",        "stall:40,500",        "junk:9",          "late:1500", "once"};
+
+struct Model {
+  const unit::Firmware* firmware;
+  std::string factory;
+  std::string stream;
+};
+
+std::vector<Model> AllModels() {
+  std::vector<Model> models;
+  for (const auto& firmware : unit::AllFirmware()) {
+    auto factory = unit::FactoryImage(firmware);
+    auto stream = unit::ComposeStream(unit::RegionOf(firmware), factory);
+    models.push_back({&firmware, std::move(factory), std::move(stream)});
+  }
+  return models;
+}
+
+bool IsImageOf(const std::string& image, const unit::Firmware& firmware) {
+  bool digits = true;
+  for (const char c : image) digits = digits && unit::UpperHexDigit(c).has_value();
+  return digits && image.size() == unit::RegionOf(firmware).Digits();
+}
+
+class Conversation {
+ public:
+  Conversation(const Model& model, Bytes& input)
+      : model_(model),
+        unit_({model.firmware, model.factory, "LINE 1\r\n", (input.Next() & 1U) != 0 ? 9600U : 0U,
+               unit::Faults(TakeFaults(input), 1)},
+              MakeSurroundings()) {}
+
+  void Hear(std::uint8_t code, Bytes& input) {
+    if (code == kTimePasses) {
+      now_ += std::chrono::milliseconds(1U << (input.Next() % 16U));
+    } else if (code == kWholeStream) {
+      const std::string_view stream = std::exchange(streamed_, true) ? "" : std::string_view(model_.stream);
+      for (const char c : stream) unit_.Receive(c, now_);
+    } else if (code == kRequest) {
+      for (const char c : unit::kRequest) unit_.Receive(c, now_);
+    } else {
+      unit_.Receive(static_cast<char>(code), now_);
+    }
+    unit_.Advance(now_);
+  }
+
+  // Until it has nothing more to do: a tool that is gone holds nothing for ever.
+  void FallAsleep() {
+    int steps = 0;
+    for (auto due = unit_.NextDue(); due; due = unit_.NextDue()) {
+      Require(++steps < kMostSteps, "the unit comes to rest");
+      now_ = std::max(now_, *due) + kStep;
+      unit_.Advance(now_);
+    }
+    Require(!unit_.Remote(), "remote mode ends");
+    Require(IsImageOf(unit_.Image(), *model_.firmware), "the unit keeps an image of its size");
+  }
+
+ private:
+  static std::vector<unit::Fault> TakeFaults(Bytes& input) {
+    std::vector<unit::Fault> faults;
+    const unsigned first = input.Next();
+    const unsigned second = input.Next();
+    for (const unsigned choice : {first, second}) {
+      if (choice < kFaults.size()) faults.push_back(unit::ParseFault(kFaults.at(choice)).fault.value());
+    }
+    return faults;
+  }
+
+  unit::Surroundings MakeSurroundings() {
+    unit::Surroundings surroundings;
+    surroundings.complain = surroundings.note = [](const std::string& text) {
+      for (const char c : text) Require(c >= ' ' && c <= '~', "what is told can be read");
+    };
+    surroundings.send = [](const std::string&) {};
+    surroundings.keep_image = [this](const std::string& image) {
+      Require(IsImageOf(image, *model_.firmware), "only a whole image is kept");
+      return std::string();
+    };
+    surroundings.keep_clock = [](const std::string&) { return std::string(); };
+    return surroundings;
+  }
+
+  const Model& model_;
+  unit::Unit unit_;
+  unit::Time now_{};
+  bool streamed_ = false;  // a whole stream takes long, so it comes once
+};
+
+void CheckFile(const Model& model, std::string_view text) {
+  const auto& region = unit::RegionOf(*model.firmware);
+  const auto read = unit::ReadStreamText(region, text);
+  if (!read.errors.empty()) return;
+  Require(IsImageOf(read.image, *model.firmware), "a good file holds an image");
+  const auto again = unit::ReadStreamText(region, unit::ComposeStream(region, read.image));
+  Require(again.errors.empty() && again.image == read.image, "what was read composes to the same");
+}
+
+void CheckCommandLine(std::string_view text) {
+  std::vector<std::string_view> words;
+  while (!text.empty()) {
+    const auto end = std::min(text.find('\0'), text.size());
+    words.push_back(text.substr(0, end));
+    text.remove_prefix(std::min(end + 1, text.size()));
+  }
+  const auto parsed = unit::ParseOptions(words);
+  Require(!parsed.error.empty() || parsed.options.firmware != nullptr, "good options name a firmware");
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static const auto models = AllModels();
+  Bytes input(data, size);
+  const unsigned choice = input.Next();
+  if (choice == kCommandLine) {
+    CheckCommandLine(input.Rest());
+    return 0;
+  }
+  if (choice == kFile) {
+    const auto& model = models[input.Next() % models.size()];
+    CheckFile(model, input.Rest());
+    return 0;
+  }
+  Conversation conversation(models[choice % models.size()], input);
+  while (!input.Empty()) conversation.Hear(input.Next(), input);
+  conversation.FallAsleep();
+  return 0;
+}
