@@ -13,6 +13,9 @@ namespace {
 using ovl::fuzz::Require;
 using ovl::testing::Harness;
 
+// A whole stream takes a hundred times as long as the rest, so only one input in so many has one.
+constexpr unsigned kRarely = 8;
+
 struct Conversation {
   explicit Conversation(const ovl::FirmwareId& firmware)
       : program(firmware), stream(ovl::testing::PatternStream(firmware, 7)) {
@@ -21,7 +24,7 @@ struct Conversation {
     begun = program.app.image;
   }
 
-  void Reset() {
+  void Reset(std::string_view input) {
     program.app.platform.serial.close();
     start->PutBack();
     program.boxes.clear();
@@ -30,7 +33,8 @@ struct Conversation {
     program.opened.clear();
     program.open_error.reset();
     program.line_error.reset();
-    uploaded = streamed = false;
+    uploaded = false;
+    streamed = !ovl::fuzz::OneIn(kRarely, input);
   }
 
   void Turn(std::optional<std::string>& error) {
@@ -45,7 +49,7 @@ struct Conversation {
   std::optional<ovl::fuzz::SavedState> start;
   ovl::ConfigImage begun;
   bool uploaded = false;
-  bool streamed = false;  // a whole stream takes long, so it comes once
+  bool streamed = false;
 };
 
 void Conversation::Act(std::uint8_t code) {
@@ -137,7 +141,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       Conversation({"V1334", "R1"})};
   ovl::fuzz::Bytes input(data, size);
   auto& conversation = conversations[input.Next() % conversations.size()];
-  conversation.Reset();
+  conversation.Reset(input.Rest());
   const auto& app = conversation.program.app;
   while (!input.Empty() && !app.ended) {
     const bool open = app.frmMain.MSComm1.PortOpen;

@@ -23,11 +23,11 @@ struct Served {
 // As it comes out of a file: without the line ends. A lone LF is none.
 std::string Joined(std::string_view stream) {
   std::string joined;
-  for (; !stream.empty(); stream.remove_prefix(1)) {
-    if (stream.front() != '\r') joined += stream.front();
-    if (stream.starts_with("\r\n")) stream.remove_prefix(1);
+  for (auto end = stream.find('\r'); end != std::string_view::npos; end = stream.find('\r')) {
+    joined += stream.substr(0, end);
+    stream.remove_prefix(stream.substr(end).starts_with("\r\n") ? end + 2 : end + 1);
   }
-  return joined;
+  return joined += stream;
 }
 
 std::vector<Served> AllServed() {

@@ -24,6 +24,9 @@ constexpr unsigned kTimePasses = 0xFF;
 constexpr unsigned kWholeStream = 0xFE;
 constexpr unsigned kRequest = 0xFD;
 
+// A whole stream takes a hundred times as long as the rest, so only one input in so many has one.
+constexpr unsigned kRarely = 8;
+
 // A unit that is left alone is looked at this often until it is at rest.
 constexpr unit::Time kStep = std::chrono::milliseconds(200);
 constexpr int kMostSteps = 1000;
@@ -58,6 +61,7 @@ class Conversation {
  public:
   Conversation(const Model& model, Bytes& input)
       : model_(model),
+        streamed_(!ovl::fuzz::OneIn(kRarely, input.Rest())),
         unit_({model.firmware, model.factory, "LINE 1\r\n", (input.Next() & 1U) != 0 ? 9600U : 0U,
                unit::Faults(TakeFaults(input), 1)},
               MakeSurroundings()) {}
@@ -114,9 +118,9 @@ class Conversation {
   }
 
   const Model& model_;
+  bool streamed_;
   unit::Unit unit_;
   unit::Time now_{};
-  bool streamed_ = false;  // a whole stream takes long, so it comes once
 };
 
 void CheckFile(const Model& model, std::string_view text) {
