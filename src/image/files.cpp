@@ -1,6 +1,7 @@
 #include "image/files.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
@@ -16,6 +17,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::uintmax_t kLargestFile = 64U * 1024U * 1024U;
+constexpr std::size_t kPart = 16U * 1024U;
 
 [[noreturn]] void Fail(const std::string& path, std::errc reason) {
   throw Failure(path, std::make_error_code(reason).message());
@@ -86,7 +88,12 @@ std::string ReadWhole(const std::string& path) {
   errno = 0;
   std::ifstream file(path, std::ios::binary);
   if (!file) FailWithErrno(path);
-  std::string bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+  std::string bytes;
+  for (std::array<char, kPart> part; file;) {
+    file.read(part.data(), part.size());
+    bytes.append(part.data(), static_cast<std::size_t>(file.gcount()));
+    if (bytes.size() > kLargestFile) Fail(path, std::errc::file_too_large);
+  }
   if (file.bad()) FailWithErrno(path);
   return bytes;
 }

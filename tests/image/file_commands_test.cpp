@@ -253,6 +253,13 @@ TEST(FileCommands, AFileWithoutItsEndEndsTheProgram) {
   }
 }
 
+TEST(FileCommands, AFileThatFailsWhileItIsReadIsNoted) {
+  Installed program(kLatest, Images::kFirstRegister);
+  ASSERT_EQ(program.Open("/proc/self/mem"), Outcome::kDone);
+  EXPECT_EQ(program.app.StatusNote, "/proc/self/mem: Input/output error");
+  EXPECT_TRUE(program.app.PanelsReady);
+}
+
 TEST(FileCommands, LinesEndWithCrLfOrCr) {
   Installed program(kLatest);
   auto content = ReadWhole(program.PathOf("ADS"));
