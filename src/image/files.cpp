@@ -29,13 +29,14 @@ constexpr std::size_t kPart = 16U * 1024U;
 }
 
 // Where the bytes really go: the end of a chain of links, also if nothing is there yet.
-fs::path TargetOf(const fs::path& path) {
+fs::path TargetOf(const std::string& path) {
   constexpr int kLongestChain = 40;
-  auto target = path;
+  fs::path target = path;
   std::error_code error;
-  for (int link = 0; link < kLongestChain && fs::is_symlink(target, error); ++link) {
+  for (int link = 0; fs::is_symlink(target, error); ++link) {
+    if (link == kLongestChain) Fail(path, std::errc::too_many_symbolic_link_levels);
     const auto next = fs::read_symlink(target, error);
-    if (error) break;
+    if (error) throw Failure(path, error.message());
     target = next.is_absolute() ? next : target.parent_path() / next;
   }
   return target;
@@ -46,12 +47,26 @@ struct CloseFile {
 };
 using File = std::unique_ptr<std::FILE, CloseFile>;
 
-// A new file in the target's folder, under a name that nothing has yet.
+// A file that stands in the target's place must be one that could be written itself: renaming over it would
+// not ask.
+void RequireWritable(const fs::path& target) {
+  std::error_code error;
+  const auto status = fs::status(target, error);
+  if (fs::is_directory(status)) Fail(target.string(), std::errc::is_a_directory);
+  if (!fs::exists(status)) return;
+  if (!fs::is_regular_file(status)) Fail(target.string(), std::errc::invalid_argument);
+  errno = 0;
+  if (!File{std::fopen(target.c_str(), "r+b")}) FailWithErrno(target.string());
+}
+
+// A new file in the target's folder, under a name that nothing has yet. A name that is as long as names can
+// be has no room for an ending.
 File CreateBeside(const fs::path& target, fs::path& beside) {
   constexpr int kNamesToTry = 100;
+  constexpr std::size_t kLongestStem = 240;
+  const auto stem = target.filename().string().substr(0, kLongestStem);
   for (int number = 0; number < kNamesToTry; ++number) {
-    beside = target;
-    beside += "." + std::to_string(number) + ".new";
+    beside = target.parent_path() / (stem + "." + std::to_string(number) + ".new");
     errno = 0;
     if (File file{std::fopen(beside.c_str(), "wbx")}) return file;
     if (errno != EEXIST) break;
@@ -119,9 +134,9 @@ std::string ReadJoined(const std::string& path) {
 void WriteWhole(const std::string& path, std::string_view bytes) {
   const auto target = TargetOf(path);
   std::error_code error;
-  if (fs::is_directory(target, error)) Fail(path, std::errc::is_a_directory);
   fs::path beside;
   try {
+    RequireWritable(target);
     WriteInto(CreateBeside(target, beside), beside, bytes);
     if (const auto old = fs::status(target, error); fs::exists(old)) {
       fs::permissions(beside, old.permissions(), error);
