@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -149,6 +150,12 @@ void WriteWhole(const std::string& path, std::string_view bytes) {
     fs::remove(beside, error);
     throw Failure(path, reason.what());
   }
+}
+
+void OutliveSizeLimit() {
+#ifdef SIGXFSZ
+  std::signal(SIGXFSZ, SIG_IGN);
+#endif
 }
 
 }  // namespace ovl

@@ -21,7 +21,12 @@ std::vector<std::string> ReadLines(const std::string& path);
 std::string ReadJoined(const std::string& path);
 
 // Replaces the file in one step: the bytes go into a file beside it, which then takes its name. A link is
-// followed. If it fails, the old file is as it was.
+// followed. If it fails, the old file is as it was; so it is if the process ends meanwhile, and the file
+// beside may stay. A file that is protected from writing, or is none, is not replaced.
 void WriteWhole(const std::string& path, std::string_view bytes);
+
+// A limit on the size of files then fails a write as a full disk does, instead of ending the program. For the
+// start of every program.
+void OutliveSizeLimit();
 
 }  // namespace ovl

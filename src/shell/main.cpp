@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "core/failure.h"
+#include "image/files.h"
 #include "shell/boxes.h"
 #include "shell/pictures.h"
 #include "shell/program.h"
@@ -91,6 +92,7 @@ int main(int argc, char** argv) {
     std::cout << kHelp;
     return EXIT_SUCCESS;
   }
+  ovl::OutliveSizeLimit();
   const auto toolkits_own = qInstallMessageHandler(TellNoDisplay);
   QApplication application(argc, argv);
   qInstallMessageHandler(toolkits_own);

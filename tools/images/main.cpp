@@ -5,6 +5,7 @@
 #include "catalogue/firmware.h"
 #include "core/failure.h"
 #include "default_images.h"
+#include "image/files.h"
 
 namespace {
 
@@ -36,6 +37,7 @@ bool IsFirmware(const std::string& name) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  ovl::OutliveSizeLimit();
   const std::vector<std::string> words(argv + 1, argv + argc);
   if (words.empty() || words.front() == "--help") {
     (words.empty() ? std::cerr : std::cout) << kHelp;

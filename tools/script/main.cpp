@@ -6,6 +6,7 @@
 #include <system_error>
 #include <vector>
 
+#include "image/files.h"
 #include "runner.h"
 
 namespace {
@@ -35,6 +36,7 @@ ExitStatus Run(const std::vector<std::string>& words) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  ovl::OutliveSizeLimit();
   const std::vector<std::string> words(argv + 1, argv + argc);
   if (words.size() == 1 && words[0] == "--help") {
     std::cout << ovl::script::HelpText();

@@ -25,6 +25,7 @@ Descriptor CatchSignals() {
   ::sigaddset(&set, SIGHUP);
   if (::sigprocmask(SIG_BLOCK, &set, nullptr) != 0) return Descriptor();
   ::signal(SIGPIPE, SIG_IGN);
+  ::signal(SIGXFSZ, SIG_IGN);
   return Descriptor(::signalfd(-1, &set, SFD_NONBLOCK | SFD_CLOEXEC));
 }
 
