@@ -38,7 +38,7 @@ void RunLine(Session& session, std::string_view line) {
   }
   Arguments arguments(std::move(words));
   statement->run(session, arguments);
-  session.Output().flush();
+  if (!session.Output().flush()) Wrong("the output cannot be written");
 }
 
 // The forms of a statement one below the other, its explanation beside the last of them.
