@@ -35,6 +35,19 @@ void menuExit_Click(Application& app, int) {
   EndProgram(app);
 }
 
+void menuAbout_Click(Application& app, int) {
+  ShowForm(app, app.frmAbout.form);
+}
+
+// As the tabs name the firmware: as the settings store has it.
+void frmAbout_Load(Application& app, int) {
+  app.frmAbout.lbFirmware.caption = "Firmware " + app.frmMain.lbVersionID[0].caption;
+}
+
+void AboutOk_Click(Application& app, int) {
+  UnloadForm(app, app.frmAbout.form);
+}
+
 void frmMain_Close(Application& app, int) {
   UnloadForm(app, app.frmMicros.form);
   UnloadForm(app, app.FrmSubMenu.form);
@@ -52,6 +65,7 @@ void WireMain(MainForm& form) {
   form.menuSave.handler = menuSave_Click;
   form.OpenHistory_menu.handler = OpenHistory_menu_Click;
   form.menuExit.handler = menuExit_Click;
+  form.menuAbout.handler = menuAbout_Click;
   form.ComboReg.handler = RegisterSelected;
   form.cmdConnect.handler = cmdConnect_Click;
   form.cmdDisConnect.handler = cmdDisConnect_Click;
@@ -96,6 +110,11 @@ void WirePanels(MainForm& form) {
   form.DemoSpeed.handler = DemoSpeed_Click;
   form.OpDVR.handler = OpDVR_Click;
   Handle(form.ComboKLM4011, ComboKLM4011_Click);
+}
+
+void WireAbout(AboutForm& about) {
+  about.form.load = frmAbout_Load;
+  about.Command1.handler = AboutOk_Click;
 }
 
 void WireTextForms(Application& app) {
@@ -250,6 +269,7 @@ void WireProgram(Application& app) {
   WirePanels(app.frmMain);
   WireRegisterForms(app);
   WireTextForms(app);
+  WireAbout(app.frmAbout);
   WireLinkForms(app);
   OrderApplyRoutines(app);
 }

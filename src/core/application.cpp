@@ -12,6 +12,7 @@ Application::Application() {
   frmView.Register(registry);
   frmSetEXCPSTR.Register(registry);
   frmSetRange.Register(registry);
+  frmAbout.Register(registry);
 }
 
 }  // namespace ovl

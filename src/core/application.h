@@ -11,6 +11,7 @@
 
 #include "core/config_image.h"
 #include "core/firmware_id.h"
+#include "core/forms/about_form.h"
 #include "core/forms/link_forms.h"
 #include "core/forms/main_form.h"
 #include "core/forms/register_forms.h"
@@ -49,6 +50,7 @@ struct Application {
   ViewerForm frmView;
   TextEntryForm frmSetEXCPSTR;
   RangeForm frmSetRange;
+  AboutForm frmAbout;
 
   // Firmware, read once at start
   FirmwareId firmware;

@@ -42,6 +42,7 @@ void ShowBox(QWidget* parent, const MessageBox& box, const QString& detail) {
   window.setTextFormat(Qt::PlainText);
   window.setInformativeText(detail);
   window.setObjectName(QStringLiteral("MessageBox"));
+  window.setProperty(kBoxTopic, FromWindows1252(box.topic));
   window.exec();
 }
 

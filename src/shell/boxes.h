@@ -10,6 +10,9 @@ class QWidget;
 
 namespace ovl {
 
+// The name of the property under which a box on the screen keeps its topic in the help.
+inline constexpr const char* kBoxTopic = "topic";
+
 void ShowBox(QWidget* parent, const MessageBox& box, const QString& detail = {});
 
 // Nothing when the person cancels.

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QDir>
 #include <QStringList>
 #include <cstdlib>
 #include <iostream>
@@ -7,6 +8,8 @@
 #include "core/failure.h"
 #include "image/files.h"
 #include "shell/boxes.h"
+#include "shell/guide.h"
+#include "shell/help_pages.h"
 #include "shell/pictures.h"
 #include "shell/program.h"
 #include "shell/program_folder.h"
@@ -16,20 +19,23 @@ namespace {
 
 constexpr const char* kHelp =
     "ovl [--folder PATH] [--store FOLDER]\n"
+    "ovl [--folder PATH] [--store FOLDER] [--pictures FOLDER] [--guide FILE]\n"
     "\n"
     "Configures an overlay unit over a serial line.\n"
     "\n"
     "  --folder PATH      the program folder, with default images, uploads and links to ports\n"
     "  --store FOLDER     keeps the settings below this folder instead of the machine's place for them\n"
     "  --pictures FOLDER  writes pictures of all windows into the folder and ends\n"
+    "  --guide FILE       writes the installer's guide as a PDF and ends; with --pictures, with these in it\n"
     "  --help             shows this text\n"
     "\n"
-    "Exit status: 0 done; 1 the program could not start or a picture could not be written; 2 wrong usage.\n";
+    "Exit status: 0 done; 1 the program could not start or a picture or the guide could not be written; 2 "
+    "wrong usage.\n";
 
 constexpr int kWrongUsage = 2;
 
 struct Options {
-  QString folder, store, pictures;
+  QString folder, store, pictures, guide;
   bool help = false;
 };
 
@@ -45,6 +51,7 @@ std::optional<Options> ReadOptions(const QStringList& words) {
     if (words[at] == QLatin1String("--folder")) value = &options.folder;
     if (words[at] == QLatin1String("--store")) value = &options.store;
     if (words[at] == QLatin1String("--pictures")) value = &options.pictures;
+    if (words[at] == QLatin1String("--guide")) value = &options.guide;
     if (value == nullptr || at + 1 == words.size()) return std::nullopt;
     *value = words[++at];
   }
@@ -80,6 +87,15 @@ std::optional<QString> FindFolder(const Options& options) {
   }
 }
 
+int SaveGuide(const Options& options) {
+  const auto pictures =
+      options.pictures.isEmpty() ? QString() : QDir(options.pictures).filePath(QStringLiteral("light"));
+  const auto problem = ovl::WriteGuide(ovl::HelpPages(ovl::kEmbeddedHelp), pictures, options.guide);
+  if (problem.isEmpty()) return EXIT_SUCCESS;
+  std::cerr << "ovl: the guide cannot be written: " << problem.toLocal8Bit().constData() << "\n";
+  return EXIT_FAILURE;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -103,9 +119,9 @@ int main(int argc, char** argv) {
   const auto folder = FindFolder(*options);
   if (!folder) return EXIT_FAILURE;
   ovl::Program program(*folder, options->store);
-  if (!options->pictures.isEmpty()) {
-    return ovl::SavePictures(program, options->pictures) ? EXIT_SUCCESS : EXIT_FAILURE;
-  }
+  if (!options->pictures.isEmpty() && !ovl::SavePictures(program, options->pictures)) return EXIT_FAILURE;
+  if (!options->guide.isEmpty()) return SaveGuide(*options);
+  if (!options->pictures.isEmpty()) return EXIT_SUCCESS;
   if (program.Start() == ovl::Outcome::kEnded) return EXIT_FAILURE;
   return QApplication::exec();
 }

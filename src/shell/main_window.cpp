@@ -85,7 +85,7 @@ void MainWindow::BuildMenus() {
   file->addSeparator();
   keys(bindings_.Item(*file, form.menuExit), QKeySequence(Qt::CTRL | Qt::Key_Q));
   BuildVersionMenu();
-  bindings_.SubMenu(*menuBar(), form.HelpMenu);
+  help_menu_ = bindings_.SubMenu(*menuBar(), form.HelpMenu);
 }
 
 void MainWindow::BuildVersionMenu() {

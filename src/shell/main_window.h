@@ -21,6 +21,7 @@ class MainWindow : public QMainWindow {
   QTabWidget& Tabs() const { return *tabs_; }
   StatusStrip& Status() const { return *status_; }
   ChangesWindow& Changes() const { return *changes_; }
+  QMenu& HelpMenu() const { return *help_menu_; }
 
   // Shows, hides, enables the window as the model says. True when it came or went.
   bool Follow();
@@ -45,6 +46,7 @@ class MainWindow : public QMainWindow {
   QTabWidget* tabs_;
   StatusStrip* status_;
   ChangesWindow* changes_;
+  QMenu* help_menu_ = nullptr;
   QPointer<QWidget> last_focus_;
   Shadow<bool> enabled_;
   Letters menu_letters_;

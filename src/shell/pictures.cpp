@@ -76,6 +76,7 @@ class Photographer {
     TakePortSettings();
     TakeLink();
     TakeScan();
+    TakeHelp();
   }
 
  private:
@@ -244,6 +245,16 @@ class Photographer {
     TakeForm(App().frmScanBProgress.form, QStringLiteral("scan_progress"));
     Take(Main(), QStringLiteral("remote_scanning"));
     Click(App().frmScanBProgress.Command1);
+  }
+
+  void TakeHelp() {
+    program_.Act(ClickEvent{&App().frmMain.menuAbout});
+    TakeForm(App().frmAbout.form, QStringLiteral("about"));
+    Click(App().frmAbout.Command1);
+    auto& help = program_.OnScreen().Help();
+    help.OpenPageInFront();
+    Take(*help.Window(), QStringLiteral("help"));
+    help.Window()->close();
   }
 
   void Click(Button& button) { program_.Act(ClickEvent{&button}); }

@@ -2,9 +2,13 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QFile>
+#include <QMenu>
 #include <algorithm>
 
+#include "shell/about_window.h"
 #include "shell/link_windows.h"
+#include "shell/manuals.h"
 #include "shell/mnemonics.h"
 #include "shell/register_windows.h"
 #include "shell/status_strip.h"
@@ -37,9 +41,26 @@ Windows::Windows(Application& app, ActFunction act)
     forms_.push_back({build(bindings_, main_.get()), true});
     forms_.back().window->StandBeside();
   }
+  forms_.push_back({BuildAboutWindow(bindings_, main_.get()), true});
   main_->held_back = [this] {
     if (auto* front = Front(); front != main_.get()) front->activateWindow();
   };
+  FillHelpMenu();
+}
+
+void Windows::FillHelpMenu() {
+  const auto folder = QFile::decodeName(app_.platform.program_folder.c_str());
+  help_ = std::make_unique<HelpDesk>(*main_, folder);
+  auto& menu = main_->HelpMenu();
+  auto* contents = menu.addAction(QStringLiteral("Help"), help_.get(), &HelpDesk::OpenPageInFront);
+  contents->setShortcut(QKeySequence::HelpContents);
+  contents->setObjectName(QStringLiteral("menuHelp"));
+  auto* manuals = menu.addMenu(QStringLiteral("Manual"));
+  manuals->setObjectName(QStringLiteral("menuManual"));
+  FillManualMenu(*manuals, ManualFolder(folder),
+                 [this](const QString& problem) { main_->Status().ShowHint(problem); });
+  menu.addSeparator();
+  bindings_.Item(menu, app_.frmMain.menuAbout);
 }
 
 void Windows::Refresh() {

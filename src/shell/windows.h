@@ -7,6 +7,7 @@
 
 #include "shell/bindings.h"
 #include "shell/form_window.h"
+#include "shell/help_desk.h"
 #include "shell/main_window.h"
 
 namespace ovl {
@@ -29,6 +30,7 @@ class Windows {
 
   MainWindow& Main() const { return *main_; }
   FormWindow* WindowOf(const Form& form) const;
+  HelpDesk& Help() const { return *help_; }
   const Bindings& Controls() const { return bindings_; }
 
   // What the page in front says of the last act, from the next refresh on.
@@ -44,9 +46,11 @@ class Windows {
   void ShowForms();
 
   void RenewMnemonics();
+  void FillHelpMenu();
 
   Application& app_;
   Bindings bindings_;
+  std::unique_ptr<HelpDesk> help_;  // outlives the help window, which the main window owns
   std::unique_ptr<MainWindow> main_;
   FocusFollower main_focus_;
   std::vector<Follower> forms_;

@@ -96,6 +96,7 @@ void DesignMenus(MainForm& form) {
   form.menuExit.caption = "Exit";
   form.VersionMenu.caption = "Version";
   form.HelpMenu.caption = "Help";
+  form.menuAbout.caption = "About";
 }
 
 }  // namespace
@@ -149,7 +150,7 @@ void MainForm::Register(Registry& registry) {
 
   add("FileMenu", FileMenu), add("OpenMenu", OpenMenu), add("menuSave", menuSave);
   add("OpenHistory_menu", OpenHistory_menu), add("menuExit", menuExit);
-  add("VersionMenu", VersionMenu), add("HelpMenu", HelpMenu);
+  add("VersionMenu", VersionMenu), add("HelpMenu", HelpMenu), add("menuAbout", menuAbout);
   add("Timer", Timer), add("General_timer", General_timer);
   add("Time_handcheck", Time_handcheck), add("Timer_Operating", Timer_Operating);
 }

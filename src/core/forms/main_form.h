@@ -52,7 +52,7 @@ struct MainForm : RegisterOptions, CommunicationPanel, DisplayPanel, TextPanels 
   CheckBox CheckTD;
 
   // Menus
-  MenuItem FileMenu, OpenMenu, menuSave, OpenHistory_menu, menuExit, VersionMenu, HelpMenu;
+  MenuItem FileMenu, OpenMenu, menuSave, OpenHistory_menu, menuExit, VersionMenu, HelpMenu, menuAbout;
   std::vector<VersionFamily> version_families;
   std::vector<MenuItem> version_items;  // in the order of the firmware table
 
