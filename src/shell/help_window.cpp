@@ -18,6 +18,8 @@ namespace {
 
 constexpr QSize kStartSize(960, 640);
 constexpr int kSideWidth = 270;
+constexpr int kAboveGroup = 14;
+constexpr int kBetweenEntries = 1;
 constexpr int kFileRole = Qt::UserRole;
 constexpr int kLineRole = Qt::UserRole + 1;
 const QString kStartPage = QStringLiteral("first_steps.md");
@@ -80,7 +82,10 @@ HelpWindow::HelpWindow(const HelpPages& pages, QWidget* parent) : QDialog(parent
   halves->setSizes({kSideWidth, kStartSize.width() - kSideWidth});
   halves->setChildrenCollapsible(false);
   across->addWidget(halves);
-  connect(browser_, &QTextBrowser::sourceChanged, this, [this] { MarkEntry(); });
+  connect(browser_, &QTextBrowser::sourceChanged, this, [this](const QUrl& source) {
+    shown_ = source.fileName();
+    MarkEntry();
+  });
   auto* find = new QShortcut(QKeySequence::Find, this);
   connect(find, &QShortcut::activated, search_, [this] {
     search_->setFocus(Qt::ShortcutFocusReason);
@@ -103,6 +108,7 @@ QWidget* HelpWindow::BuildSide() {
   list_->setObjectName(QStringLiteral("HelpList"));
   list_->setAccessibleName(QStringLiteral("Contents"));
   list_->setWordWrap(true);
+  list_->setSpacing(kBetweenEntries);
   down->addWidget(search_);
   down->addWidget(list_, 1);
   connect(search_, &QLineEdit::textChanged, this,
@@ -156,9 +162,8 @@ void HelpWindow::ListContents() {
     item->setData(kFileRole, entry.file);
     if (!entry.file.isEmpty()) continue;
     item->setFlags(Qt::NoItemFlags);
-    auto font = list_->font();
-    font.setWeight(QFont::DemiBold);
-    item->setFont(font);
+    item->setSizeHint({0, fontMetrics().height() + kAboveGroup});
+    item->setTextAlignment(Qt::AlignLeft | Qt::AlignBottom);
   }
   if (pages_.Contents().empty()) {
     auto* item = new QListWidgetItem(
@@ -197,7 +202,7 @@ void HelpWindow::MarkEntry() {
   if (!search_->text().trimmed().isEmpty()) return;
   for (int row = 0; row < list_->count(); ++row) {
     const auto file = list_->item(row)->data(kFileRole).toString();
-    if (!file.isEmpty() && file == browser_->source().fileName()) list_->setCurrentRow(row);
+    if (!file.isEmpty() && file == shown_) list_->setCurrentRow(row);
   }
 }
 

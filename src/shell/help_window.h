@@ -52,6 +52,7 @@ class HelpWindow : public QDialog {
   QLineEdit* search_;
   QListWidget* list_;
   HelpBrowser* browser_;
+  QString shown_;  // the file of the page
 };
 
 }  // namespace ovl
