@@ -8,33 +8,32 @@
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
+#include <QUrl>
+#include <algorithm>
 
 #include "shell/help_style.h"
 
 namespace ovl {
 namespace {
 
-constexpr qreal kPictureWidth = 460;
+constexpr qreal kPictureWidth = 560;
+constexpr qreal kPictureScale = 0.75;
 constexpr qreal kFontSize = 9;
 const QColor kRule(0xb0, 0xb0, 0xb0);
 const QString kTitle = QStringLiteral("OVL Software: installer's guide");
 
-// A picture is never wider than the column, and keeps its shape.
-void FitPictures(QTextDocument& page, const QString& pictures) {
+// A picture is never wider than the column, and keeps its shape. The guide keeps the pictures by their names.
+void TakePictures(QTextDocument& guide, QTextDocument& page, const QString& pictures) {
   for (auto block = page.begin(); block.isValid(); block = block.next()) {
-    for (auto at = block.begin(); !at.atEnd(); ++at) {
-      if (!at.fragment().charFormat().isImageFormat()) continue;
-      auto format = at.fragment().charFormat().toImageFormat();
-      const auto path = QDir(pictures).filePath(format.name());
-      const QImage picture(path);
-      format.setName(path);
-      if (picture.width() > kPictureWidth) format.setWidth(kPictureWidth);
-      QTextCursor cursor(block);
-      cursor.setPosition(at.fragment().position());
-      cursor.setPosition(at.fragment().position() + at.fragment().length(), QTextCursor::KeepAnchor);
-      cursor.setCharFormat(format);
-      break;
-    }
+    const auto fragment = block.begin().fragment();
+    if (!fragment.isValid() || !fragment.charFormat().isImageFormat()) continue;
+    auto format = fragment.charFormat().toImageFormat();
+    const QImage picture(QDir(pictures).filePath(format.name()));
+    guide.addResource(QTextDocument::ImageResource, QUrl(format.name()), picture);
+    format.setWidth(std::min<qreal>(picture.width() * kPictureScale, kPictureWidth));
+    QTextCursor cursor(block);
+    cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
+    cursor.setCharFormat(format);
   }
 }
 
@@ -42,7 +41,7 @@ void AddPage(QTextDocument& guide, const QString& text, const QString& pictures)
   QTextDocument page;
   page.setDefaultFont(guide.defaultFont());
   page.setMarkdown(text);
-  FitPictures(page, pictures);
+  TakePictures(guide, page, pictures);
   StyleHelp(page, kRule);
   QTextCursor end(&guide);
   end.movePosition(QTextCursor::End);

@@ -4,6 +4,7 @@
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextFrame>
+#include <QTextOption>
 #include <QTextTable>
 #include <algorithm>
 #include <array>
@@ -44,6 +45,10 @@ void StyleHead(const QTextBlock& block, const QFont& font) {
 }  // namespace
 
 void StyleHelp(QTextDocument& document, const QColor& hairline) {
+  // Names are never broken within: a column is at least as wide as its longest one.
+  QTextOption option = document.defaultTextOption();
+  option.setWrapMode(QTextOption::WordWrap);
+  document.setDefaultTextOption(option);
   for (auto* frame : document.rootFrame()->childFrames()) {
     if (auto* table = qobject_cast<QTextTable*>(frame)) StyleTable(*table, hairline);
   }

@@ -35,6 +35,7 @@ HelpBrowser::HelpBrowser(const HelpPages& pages, QWidget* parent) : QTextBrowser
   setAccessibleName(QStringLiteral("Help page"));
   setFrameShape(QFrame::NoFrame);
   document()->setDocumentMargin(kMargin);
+  setWordWrapMode(QTextOption::WordWrap);
   connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl& source) { Settle(source); });
 }
 
@@ -161,7 +162,10 @@ void HelpWindow::ListContents() {
     auto* item = new QListWidgetItem(entry.title, list_);
     item->setData(kFileRole, entry.file);
     if (!entry.file.isEmpty()) continue;
-    item->setFlags(Qt::NoItemFlags);
+    item->setFlags(Qt::ItemIsEnabled);
+    auto font = list_->font();
+    font.setWeight(QFont::DemiBold);
+    item->setFont(font);
     item->setSizeHint({0, fontMetrics().height() + kAboveGroup});
     item->setTextAlignment(Qt::AlignLeft | Qt::AlignBottom);
   }

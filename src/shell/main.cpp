@@ -88,6 +88,7 @@ std::optional<QString> FindFolder(const Options& options) {
 }
 
 int SaveGuide(const Options& options) {
+  ovl::ApplyTheme(ovl::Theme::kLight);  // it is printed on white paper
   const auto pictures =
       options.pictures.isEmpty() ? QString() : QDir(options.pictures).filePath(QStringLiteral("light"));
   const auto problem = ovl::WriteGuide(ovl::HelpPages(ovl::kEmbeddedHelp), pictures, options.guide);
