@@ -101,18 +101,22 @@ constexpr std::array kCarried = {EXECENTRY,  MPDCFG_BAK, MPDCOMMCFG_BAK, MPDRXBA
 
 constexpr std::size_t kTabs = 7;
 
+std::string Trimmed(const std::string& text) {
+  const auto begin = text.find_first_not_of(' ');
+  return begin == std::string::npos ? std::string()
+                                    : text.substr(begin, text.find_last_not_of(' ') + 1 - begin);
+}
+
 std::string PlaceOf(const Application& app, Place place) {
   const auto at = static_cast<std::size_t>(place);
   if (at >= kTabs) return place == Place::kRange ? "range window" : app.frmMicros.form.caption;
-  const auto& caption = app.frmMain.SSTab1.captions.at(at);
-  const auto begin = caption.find_first_not_of(' ');
-  return caption.substr(begin, caption.find_last_not_of(' ') + 1 - begin);
+  return Trimmed(app.frmMain.SSTab1.captions.at(at));
 }
 
 std::string CaptionOf(const Application& app, std::string_view name) {
   const auto* control = app.registry.Find(name);
   if (control == nullptr) throw std::logic_error("there is no control " + std::string(name));
-  auto caption = FaceOf(control->control).caption;
+  auto caption = Trimmed(FaceOf(control->control).caption);
   if (caption.empty()) caption = control->name;
   if (caption.back() == ':') caption.pop_back();
   return caption;
