@@ -18,7 +18,6 @@
 namespace {
 
 constexpr const char* kHelp =
-    "ovl [--folder PATH] [--store FOLDER]\n"
     "ovl [--folder PATH] [--store FOLDER] [--pictures FOLDER] [--guide FILE]\n"
     "\n"
     "Configures an overlay unit over a serial line.\n"
