@@ -13,10 +13,12 @@
 #include <QRegularExpression>
 #include <QTabWidget>
 #include <QTextBrowser>
+#include <QTimer>
 #include <QUrl>
 
 #include "core/messages.h"
 #include "image/field_map.h"
+#include "shell/boxes.h"
 #include "shell/guide.h"
 #include "shell/help_pages.h"
 #include "shell/help_topics.h"
@@ -181,6 +183,23 @@ TEST_F(HelpWindowTest, OpensWhatIsInFrontSearchesAndGoesBack) {
   EXPECT_TRUE(search.text().isEmpty() && help()->isVisible());
   Press(*help(), Qt::Key_Escape);
   EXPECT_TRUE(help() == nullptr || !help()->isVisible());
+}
+
+TEST_F(HelpWindowTest, OpensTheWordsOfABoxInAWindowOfItsOwn) {
+  Press(Main(), Qt::Key_F1);
+  QString shown;
+  bool reachable = false;
+  QTimer::singleShot(0, &Main(), [&] {
+    auto* box = QApplication::activeModalWidget();
+    Press(*box, Qt::Key_F1);
+    shown = help()->findChild<QTextBrowser*>()->source().toString();
+    reachable = help()->parentWidget() == box;
+    box->close();
+  });
+  ShowBox(&Main(), BoxOf(Box::kTimeOut, {}));
+  EXPECT_EQ(shown, "help:/messages.md#connection-time-out");
+  EXPECT_TRUE(reachable);
+  EXPECT_EQ(help(), nullptr);
 }
 
 TEST_F(HelpWindowTest, SaysSoWhenPagesAreMissing) {
