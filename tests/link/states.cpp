@@ -92,8 +92,8 @@ std::string RunDownload(Harness& program) {
 }
 
 void ExpectState(const Application& app, State state) {
-  EXPECT_EQ(DifferenceFrom(state, app), "") << "from " << NameOf(state) << ", mode " << app.LinkMode
-                                            << ", timers " << RunningTimers(app);
+  EXPECT_EQ(DifferenceFrom(state, app), "")
+      << "from " << NameOf(state) << ", mode " << app.LinkMode << ", timers " << RunningTimers(app);
 }
 
 void ExpectBox(Harness& program, std::string_view title, std::string_view text) {
