@@ -45,7 +45,7 @@ bool MayWrite(std::string_view fields, std::string_view field) {
 
 }  // namespace
 
-Watched::Watched(const FirmwareId& stored) : nowhere_(nullptr), session_(nowhere_, nowhere_) {
+Watched::Watched(const FirmwareId& stored) : session_(printed_, printed_) {
   session_.SetClock({});
   session_.StoreSetting("Version", stored.version);
   session_.StoreSetting("Release", stored.release);
@@ -58,6 +58,7 @@ std::string Watched::Do(const std::string& line) {
   std::ostringstream errors;
   if (script::RunScript(session_, script, "walk", errors) != script::ExitStatus::kDone)
     return "stopped: " + errors.str();
+  printed_.str({});
   session_.TakeSent();
   while (session_.TakeBox()) {
   }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <memory>
-#include <ostream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -33,7 +33,7 @@ class Watched {
   std::string CheckLists();
   std::string CheckFrames();
 
-  std::ostream nowhere_;
+  std::ostringstream printed_;  // by the script; nobody reads it
   script::Session session_;
   ConfigImage before_;
   bool whole_ = true;
