@@ -31,7 +31,7 @@ cp "${packages[@]}" "$root/tmp"
 inside sh -c 'apt-get install -q -y --no-install-recommends fonts-dejavu-core /tmp/ovl-software_*.deb'
 
 echo "== As an ordinary user, before the firmware is set"
-as_user 'ovl; echo "status $?"; ovl-setup V1400 R12; echo "status $?"'
+as_user 'ovl; echo "status $?"; /usr/sbin/ovl-setup V1400 R12; echo "status $?"'
 echo "== ovl-setup"
 inside ovl-setup V1400 R99 || echo "status $?"
 inside ovl-setup V1400 R12
