@@ -16,7 +16,7 @@
 namespace ovl {
 namespace {
 
-constexpr QSize kStartSize(820, 420);
+constexpr QSize kStartSize(940, 420);
 constexpr int kValueWidth = 130;
 constexpr std::array kSections = {"SYSCFG", "SYSFIXED", "SYSSTR"};
 
@@ -51,7 +51,7 @@ ChangesWindow::ChangesWindow(const Application& app, QWidget* parent)
   list_->setRootIsDecorated(false);
   list_->setUniformRowHeights(true);
   list_->setAlternatingRowColors(true);
-  list_->setTextElideMode(Qt::ElideMiddle);
+  list_->setTextElideMode(Qt::ElideRight);
   list_->setHeaderLabels({QStringLiteral("Field"), QStringLiteral("Byte"), QStringLiteral("Panel and label"),
                           QStringLiteral("Was"), QStringLiteral("Is")});
   list_->header()->setStretchLastSection(false);

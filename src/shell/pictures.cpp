@@ -8,6 +8,7 @@
 #include <array>
 
 #include "image/record_stream.h"
+#include "shell/changes_window.h"
 #include "shell/platform/text_codec.h"
 #include "shell/program.h"
 #include "shell/sample_settings.h"
@@ -71,6 +72,7 @@ class Photographer {
     for (int tick = 0; tick <= kClockTicks; ++tick) program_.Act(TickEvent{&App().frmMain.Timer});
     MakeSampleSettings(program_);
     TakeTabs();
+    TakeChanges();
     TakeTextWindows();
     TakeRegisters();
     TakePortSettings();
@@ -104,6 +106,12 @@ class Photographer {
            QStringLiteral("tab%1_").arg(tab) + name.simplified().replace(QLatin1Char(' '), QLatin1Char('_')));
     }
     tabs.setCurrentIndex(kRemoteTab);
+  }
+
+  void TakeChanges() {
+    Main().Changes().Open();
+    Take(Main().Changes(), QStringLiteral("changes"));
+    Main().Changes().close();
   }
 
   void TakeTextWindows() {
