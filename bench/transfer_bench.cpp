@@ -1,13 +1,10 @@
 #include <sys/resource.h>
 
-#include <QAbstractEventDispatcher>
-#include <QEventLoop>
-#include <QTimer>
-#include <algorithm>
 #include <chrono>
 #include <cstdio>
 
 #include "bench.h"
+#include "event_loop.h"
 #include "image/record_stream.h"
 #include "shell/program.h"
 #include "site.h"
@@ -18,7 +15,6 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr int kBitsPerCharacter = 10;
-constexpr std::chrono::seconds kLongestTransfer(60);
 
 double Seconds(Clock::duration duration) {
   return std::chrono::duration<double>(duration).count();
@@ -33,45 +29,9 @@ double ProcessorSeconds() {
   return seconds(usage.ru_utime) + seconds(usage.ru_stime);
 }
 
-// Watches how long the event loop is away from its queue.
-class HoldWatch {
- public:
-  HoldWatch() {
-    auto* loop = QAbstractEventDispatcher::instance();
-    QObject::connect(loop, &QAbstractEventDispatcher::awake, &context_, [this] { woke_ = Clock::now(); });
-    QObject::connect(loop, &QAbstractEventDispatcher::aboutToBlock, &context_, [this] {
-      if (woke_ != Clock::time_point()) longest_ = std::max(longest_, Clock::now() - woke_);
-    });
-  }
-  void Restart() { longest_ = {}; }
-  double LongestMilliseconds() const { return Seconds(longest_) * 1000; }
-
- private:
-  QObject context_;
-  Clock::time_point woke_;
-  Clock::duration longest_ = {};
-};
-
-// Lets events run until the condition holds; false if it takes too long.
-template <class Condition>
-bool RunUntil(const Condition& condition) {
-  const auto start = Clock::now();
-  QEventLoop loop;
-  QTimer poll;
-  poll.setInterval(1);
-  bool met = false;
-  QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
-    met = condition();
-    if (met || Clock::now() - start > kLongestTransfer) loop.quit();
-  });
-  poll.start();
-  loop.exec();
-  return met;
-}
-
 struct Bench {
   Program& program;
-  HoldWatch& watch;
+  EventLoop& loop;
   int speed;
 
   Application& Model() const { return program.Model(); }
@@ -80,7 +40,7 @@ struct Bench {
 
   bool Hold() const {
     Click("CmdUpDow(4)");
-    return RunUntil([&] { return Model().RemoteHeld && !Model().frmMain.General_timer.enabled; });
+    return loop.RunUntil([&] { return Model().RemoteHeld && !Model().frmMain.General_timer.enabled; });
   }
 
   void Measure(const char* name, const char* button, double aim) const {
@@ -88,11 +48,11 @@ struct Bench {
       std::printf("%-8s at %6d   no remote mode\n", name, speed);
       return;
     }
-    watch.Restart();
+    loop.Restart();
     const double processor = ProcessorSeconds();
     const auto start = Clock::now();
     Click(button);
-    if (!RunUntil([&] { return Model().frmOK_buttom.form.visible; })) {
+    if (!loop.RunUntil([&] { return Model().frmOK_buttom.form.visible; })) {
       std::printf("%-8s at %6d   did not end\n", name, speed);
       return;
     }
@@ -103,7 +63,7 @@ struct Bench {
     std::printf(
         "%-8s at %6d   %8.1f characters/s, %.3f of the line (aim %.2f); processor %.3f of the time, "
         "longest hold %.2f ms (aim below 3)\n",
-        name, speed, rate, rate * kBitsPerCharacter / speed, aim, busy / taken, watch.LongestMilliseconds());
+        name, speed, rate, rate * kBitsPerCharacter / speed, aim, busy / taken, loop.LongestHold());
     Click("frmOK_buttom.Command1");
   }
 };
@@ -122,8 +82,8 @@ void MeasureTransfers(Site& site) {
       std::printf("no unit at %d\n", speed);
       continue;
     }
-    HoldWatch watch;
-    const Bench bench{program, watch, speed};
+    EventLoop loop;
+    const Bench bench{program, loop, speed};
     bench.Click("cmdConnect");
     program.Act(PickEvent{&app.frmSettSR.OpBaud, element});
     bench.Click("cmdSET");
