@@ -11,6 +11,7 @@
 #include "core/codecs.h"
 #include "image/editors.h"
 #include "shell/platform/text_codec.h"
+#include "shell/status_strip.h"
 #include "shell/theme.h"
 
 namespace ovl {
@@ -109,6 +110,7 @@ QPushButton* BuildChangesButton(Bindings& bindings, ChangesWindow& window) {
   button->setObjectName(QStringLiteral("StatusChanges"));
   button->setFlat(true);
   button->setAutoDefault(false);
+  button->setFixedHeight(StatusStrip::LineHeight(*button));
   button->setToolTip(QStringLiteral("Shows what a download would change in the unit (Ctrl+D)"));
   QObject::connect(button, &QPushButton::clicked, &window, &ChangesWindow::Open);
   bindings.Follow([&app = bindings.Model(), button, &window, known = Shadow<ConfigImage>(),

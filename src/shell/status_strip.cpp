@@ -17,6 +17,8 @@ namespace {
 constexpr int kHintTime = 6000;
 constexpr int kDotSize = 12;
 constexpr int kGap = 18;
+constexpr int kAboveLine = 6;
+constexpr int kStripMargin = 2;
 
 }  // namespace
 
@@ -92,7 +94,8 @@ StatusStrip::StatusStrip(Bindings& bindings)
       note_(new CutLabel),
       firmware_(new QStackedWidget) {
   auto* across = new QHBoxLayout(this);
-  across->setContentsMargins(kMargin - kFieldGap, 2, kFieldGap, 2);
+  across->setContentsMargins(kMargin - kFieldGap, kStripMargin, kFieldGap, kStripMargin);
+  setMinimumHeight(LineHeight(*this) + 2 * kStripMargin);
   across->setSpacing(kRowGap);
   state_->setObjectName(QStringLiteral("StatusState"));
   port_->setObjectName(QStringLiteral("StatusPort"));
@@ -135,6 +138,10 @@ QWidget* StatusStrip::FirmwareLabels(Bindings& bindings) {
   }
   firmware_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   return firmware_;
+}
+
+int StatusStrip::LineHeight(const QWidget& widget) {
+  return widget.fontMetrics().height() + kAboveLine;
 }
 
 void StatusStrip::AddButton(QPushButton* button) {

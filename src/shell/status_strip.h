@@ -55,6 +55,9 @@ class StatusStrip : public QWidget {
   // A passing word in the place of what last went wrong.
   void ShowHint(const QString& hint);
 
+  // The bar is as high with a button as without one.
+  static int LineHeight(const QWidget& widget);
+
   // A button that stands before the firmware.
   void AddButton(QPushButton* button);
 
