@@ -25,8 +25,10 @@ const QString kTitle = QStringLiteral("OVL Software: installer's guide");
 // A picture is never wider than the column, and keeps its shape. The guide keeps the pictures by their names.
 void TakePictures(QTextDocument& guide, QTextDocument& page, const QString& pictures) {
   for (auto block = page.begin(); block.isValid(); block = block.next()) {
-    const auto fragment = block.begin().fragment();
-    if (!fragment.isValid() || !fragment.charFormat().isImageFormat()) continue;
+    const auto first = block.begin();
+    if (first.atEnd()) continue;
+    const auto fragment = first.fragment();
+    if (!fragment.charFormat().isImageFormat()) continue;
     auto format = fragment.charFormat().toImageFormat();
     const QImage picture(QDir(pictures).filePath(format.name()));
     guide.addResource(QTextDocument::ImageResource, QUrl(format.name()), picture);

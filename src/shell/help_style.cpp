@@ -55,7 +55,7 @@ void StyleHelp(QTextDocument& document, const QColor& hairline) {
   for (auto block = document.begin(); block.isValid(); block = block.next()) {
     QTextCursor cursor(block);
     if (cursor.currentTable() != nullptr) continue;
-    const bool head = block.blockFormat().headingLevel() > 0;
+    const bool head = block.blockFormat().headingLevel() > 0 && !block.begin().atEnd();
     QTextBlockFormat distances;
     distances.setBottomMargin(kBelow);
     distances.setTopMargin(head && block.previous().isValid() ? kAboveHead : 0);

@@ -6,6 +6,8 @@
 #include <QDialog>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QImage>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
@@ -214,7 +216,15 @@ TEST_F(HelpWindowTest, SaysSoWhenPagesAreMissing) {
   const auto guide = QString::fromStdString(folder_.File("guide.pdf"));
   EXPECT_FALSE(WriteGuide(none, {}, guide).isEmpty());
   EXPECT_TRUE(WriteGuide(HelpPages(kEmbeddedHelp), {}, guide).isEmpty());
-  EXPECT_TRUE(QFile::exists(guide));
+  const auto without_pictures = QFileInfo(guide).size();
+  QImage picture(200, 100, QImage::Format_RGB32);
+  picture.fill(Qt::red);
+  const auto pictures = QString::fromStdString(folder_.Path().string());
+  for (const char* name : {"tab2_alarm_outputs.png", "micros_idn.png"}) {
+    ASSERT_TRUE(picture.save(pictures + QLatin1Char('/') + QLatin1String(name)));
+  }
+  EXPECT_TRUE(WriteGuide(HelpPages(kEmbeddedHelp), pictures, guide).isEmpty());
+  EXPECT_GT(QFileInfo(guide).size(), without_pictures);
   EXPECT_TRUE(
       WriteGuide(HelpPages(kEmbeddedHelp), {}, guide + QStringLiteral("/no/guide.pdf")).contains(guide));
 }
