@@ -3,15 +3,30 @@
 #include <QEventLoop>
 #include <QTimer>
 #include <algorithm>
+#include <chrono>
+#include <ctime>
 
 namespace ovl::bench {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using Milliseconds = std::chrono::duration<double, std::milli>;
+
+// Of this thread alone.
+double ProcessorMilliseconds() {
+  timespec time{};
+  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+  return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
+}
+
+}  // namespace
 
 bool EventLoop::RunUntil(const std::function<bool()>& condition) {
-  using Clock = std::chrono::steady_clock;
   constexpr std::chrono::milliseconds kBeat(1);
   constexpr std::chrono::seconds kLongest(60);
   const auto start = Clock::now();
   auto due = start + kBeat;
+  double worked = ProcessorMilliseconds();
   QEventLoop loop;
   QTimer beat;
   beat.setInterval(kBeat);
@@ -19,10 +34,12 @@ bool EventLoop::RunUntil(const std::function<bool()>& condition) {
   bool met = false;
   QObject::connect(&beat, &QTimer::timeout, &loop, [&] {
     const auto now = Clock::now();
-    longest_ = std::max(longest_, now - due);
+    longest_ = std::max(longest_, Milliseconds(now - due).count());
+    most_work_ = std::max(most_work_, ProcessorMilliseconds() - worked);
     met = condition();
     if (met || now - start > kLongest) loop.quit();
     due = Clock::now() + kBeat;
+    worked = ProcessorMilliseconds();
   });
   beat.start();
   loop.exec();

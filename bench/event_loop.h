@@ -3,7 +3,6 @@
 // the other.
 #pragma once
 
-#include <chrono>
 #include <functional>
 
 namespace ovl::bench {
@@ -13,12 +12,15 @@ class EventLoop {
   // False if it takes longer than a minute.
   bool RunUntil(const std::function<bool()>& condition);
 
-  // Since the last restart, while it ran.
-  double LongestHold() const { return std::chrono::duration<double, std::milli>(longest_).count(); }
-  void Restart() { longest_ = {}; }
+  // In milliseconds since the last restart, while it ran; and the most work between two beats, which a
+  // machine that is busy with other things does not lengthen.
+  double LongestHold() const { return longest_; }
+  double MostWork() const { return most_work_; }
+  void Restart() { longest_ = most_work_ = 0; }
 
  private:
-  std::chrono::steady_clock::duration longest_ = {};
+  double longest_ = 0;
+  double most_work_ = 0;
 };
 
 }  // namespace ovl::bench

@@ -1,6 +1,8 @@
 // The real program for a long time: windows, event loop and serial layer, with a unit on a pseudo-terminal.
 // ovl-soak [PERCENT] does so much of 200 uploads, 200 downloads, 500 register picks and 50 losses of the
-// port. The first ten of each warm up; what is told counts from there. Exit status 0: all within its bounds.
+// port. The first ten of each warm up, and every register once, as its frames come into being when they are
+// first shown; what is told counts from there. Exit status 0: all within its bounds, on a machine that is not
+// busy with other things.
 #include <dirent.h>
 #include <unistd.h>
 
@@ -76,10 +78,11 @@ class Soak {
     return IsKnown(SectionsToStream(Model())) && Model().frmMain.form.enabled;
   }
 
+  int Registers() { return static_cast<int>(Model().frmMain.ComboReg.items.size()); }
+
   void PickRegister(int number) {
     ShowTab(kRegisterTab);
-    auto& list = Model().frmMain.ComboReg;
-    Act(PickEvent{&list, number * 7 % static_cast<int>(list.items.size())});
+    Act(PickEvent{&Model().frmMain.ComboReg, number % Registers()});
     Settle();
   }
 
@@ -191,7 +194,8 @@ class Runner {
     int done = 0;
     for (int number = from; number < to; ++number) done += step(number) ? 1 : 0;
     const int count = std::max(to - from, 0);
-    std::printf("%-12s %3d of %3d, longest hold %.1f ms\n", what, done, count, loop_.LongestHold());
+    std::printf("%-12s %3d of %3d, longest hold %.1f ms, most work at once %.1f ms, then %ld KiB\n", what,
+                done, count, loop_.LongestHold(), loop_.MostWork(), ResidentKiB());
     longest_ = std::max(longest_, loop_.LongestHold());
     return done == count;
   }
@@ -209,7 +213,7 @@ bool Run(Site& site, int percent) {
   if (!Check("the port opens", soak.Connect())) return false;
   Runner runner(soak, loop);
   std::printf("Warming up\n");
-  bool right = Check("the warm-up", runner.Run(0, {kWarmUp, kWarmUp, kWarmUp}));
+  bool right = Check("the warm-up", runner.Run(0, {kWarmUp, soak.Registers(), kWarmUp}));
   const Figures begun;
 
   std::printf("The run\n");
