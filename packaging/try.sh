@@ -10,6 +10,7 @@ packages=(build/package/ovl-software_*.deb)
 root=${1:-}
 if [ -z "$root" ]; then
   root=$(mktemp -d)
+  chmod 755 "$root"  # it becomes the root of an ordinary user
   trap 'umount --recursive --lazy "$root/dev" "$root/proc" 2>/dev/null || true; rm -rf --one-file-system "$root"' EXIT
 fi
 [ -e "$root/etc/debian_version" ] || debootstrap --variant=minbase bookworm "$root"
