@@ -41,7 +41,8 @@ for target in "${targets[@]}"; do
   speed=$(sed -n 's/^stat::average_exec_per_sec: *//p' "$log")
   coverage=$(sed -n 's/.* cov: \([0-9]*\) .*/\1/p' "$log" | tail -n 1)
   new=$(($(find "$findings" -name "$target-*" | wc -l) - begun))
-  if [ "$status" -ne 0 ]; then
+  # Whoever stops a target has found nothing.
+  if [ "$status" -ne 0 ] && ! grep -q 'run interrupted' "$log"; then
     [ "$new" -gt 0 ] || new=1
     cp "$log" "$findings/$target.log"
   fi
