@@ -238,9 +238,36 @@ TEST(Lists, ReadInTheOrderOfTheirCodes) {
   };
   Installed program({"V1400", "R12"}, Images::kFirstRegister);
   for (const auto& [list, entries] : lists) EXPECT_EQ(program.Offered(list), entries) << list;
+  const auto ports = program.Offered("Comport_Select");
+  EXPECT_EQ(ports.substr(0, 20) + ports.substr(ports.size() - 10), "Comport 1|Comport 2|Comport 16");
+  EXPECT_EQ(program.Offered("OpBaud"), "1200|2400|4800|9600|14400|19200|28800|38400|57600|115200");
+  EXPECT_EQ(program.Offered("OpParity") + "|" + program.Offered("OpDataBits"), "NONE|ODD|EVEN|7 Bits|8 Bits");
   EXPECT_EQ(program.Offered("OpDVR"), "KLM-4001|KLR-4011, 4021|TRVX3000/TRVX5000");
   const auto ids = program.Offered("ComboKLM4011(0)");
   EXPECT_EQ(ids.substr(0, 4) + ids.substr(ids.size() - 3), "1|2||32");
+}
+
+TEST(Captions, SayWhatTheyAlwaysSaid) {
+  const std::pair<const char*, const char*> captions[] = {
+      {"frmSettSR.cmdSET", "SET"},
+      {"BaudrateCMD", "Baudrate Scan"},
+      {"frmSettSR.Label1", "Make sure you are select correct the comport."},
+      {"frmScanBProgress.Label1", "Baudrate Scaning.."},
+      {"frmScanBProgress.Command1", "Cancel"},
+      {"ComboTD(0)", "T/D DISPLAY"},
+      {"ComboTD(3)", "DAYLIGHT SAVING"},
+      {"ComboDIP(0)", "SCREEN BLANK"},
+      {"ComboDIP(4)", "LINE JUSTIFIED"},
+      {"ComboExcepRe(1)", "TIME STAMP"},
+      {"ComboALM(3)", "ALARM DURATION"},
+      {"ComboLang", "LANGUAGE"},
+  };
+  Installed program({"V1400", "R12"}, Images::kFirstRegister);
+  for (const auto& [name, caption] : captions) EXPECT_EQ(program.Control(name).caption, caption) << name;
+  EXPECT_EQ(program.app.frmSettSR.form.caption, "Communication Setting");
+  EXPECT_EQ(program.app.frmScanBProgress.form.caption, "Scan Baudrate");
+  const auto& range = program.app.frmSetRange;
+  EXPECT_EQ(range.Range_Hi.max_length * 100 + range.SubRange_Low.max_length, 802U);
 }
 
 }  // namespace
