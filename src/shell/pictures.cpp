@@ -143,6 +143,7 @@ class Photographer {
   void Choose(OptionArray& array, int element) { program_.Act(ClickEvent{OptionElement{&array, element}}); }
 
   void TakeRegisters() {
+    constexpr std::size_t kUniwellFrame = 49;
     auto& form = App().frmMain;
     auto& tabs = Main().Tabs();
     tabs.setCurrentIndex(kRegisterTab);
@@ -150,7 +151,7 @@ class Photographer {
       if (!PickRegister(name)) continue;
       if (name == "IBM") Choose(form.IBMOP, 0);
       if (name == "NCR") Choose(form.NCROP, 1);
-      if (name == "UNIWELL") Choose(form.UNIWOP, 1);
+      if (name == "UNIWELL" && form.frmAddress[kUniwellFrame].visible) Choose(form.UNIWOP, 1);
       if (name == "GILBARCO") Choose(form.OpGilbraco, 5);
       Take(Main(), QStringLiteral("register_") + QString::fromLatin1(name.data()).toLower());
     }
