@@ -3,8 +3,8 @@
 
 mutate.py [--places N] [--seed N] [FOLDER...]
 
-Works in a copy of the committed tree below build/mutants. A change is noticed when the build breaks no more than
-before and a test program fails. What slips through is printed with its place."""
+Works in a copy of the committed tree below build/mutants. A change that does not build does not count; one is
+noticed when a test program fails. What slips through is printed with its place."""
 import argparse
 import pathlib
 import random
