@@ -69,8 +69,9 @@ void MeasureStart(Site& site) {
     return;
   }
   std::printf(
-      "process start to first painted window   %.0f ms (aim below 80), peak memory %.0f MiB (aim below 60)\n",
-      whole.Median(), whole.memory);
+      "process start to first painted window   %.0f ms (aim below 80), peak memory %.0f MiB (aim below 60); "
+      "platform %s\n",
+      whole.Median(), whole.memory, qPrintable(QGuiApplication::platformName()));
   std::printf(
       "the same for an empty window            %.0f ms, %.0f MiB; %.2f times as long (aim at most 1.6)\n",
       empty.Median(), empty.memory, whole.Median() / empty.Median());

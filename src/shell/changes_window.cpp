@@ -42,11 +42,15 @@ QString CountOf(std::size_t count) {
 
 }  // namespace
 
-ChangesWindow::ChangesWindow(const Application& app, QWidget* parent)
-    : QDialog(parent), app_(app), told_(MutedLabel({})), list_(new QTreeWidget) {
+ChangesWindow::ChangesWindow(const Application& app, QWidget* parent) : QDialog(parent), app_(app) {
   setObjectName(QStringLiteral("Changes"));
   setWindowTitle(QStringLiteral("Changes"));
   resize(kStartSize);
+}
+
+void ChangesWindow::Build() {
+  told_ = MutedLabel({});
+  list_ = new QTreeWidget;
   list_->setObjectName(QStringLiteral("ChangesList"));
   list_->setAccessibleName(QStringLiteral("Changed fields"));
   list_->setRootIsDecorated(false);
@@ -73,6 +77,7 @@ ChangesWindow::ChangesWindow(const Application& app, QWidget* parent)
 }
 
 void ChangesWindow::Open() {
+  if (list_ == nullptr) Build();
   show();
   raise();
   activateWindow();

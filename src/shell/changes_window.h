@@ -20,14 +20,16 @@ class ChangesWindow : public QDialog {
 
   // Brings the list up to the model while the window is shown.
   void Follow();
+  // Shows the window; its content is built at the first time.
   void Open();
 
  private:
+  void Build();
   void Fill(const std::vector<FieldDifference>& differences);
 
   const Application& app_;
-  QLabel* told_;
-  QTreeWidget* list_;
+  QLabel* told_ = nullptr;
+  QTreeWidget* list_ = nullptr;
   Shadow<ConfigImage> known_, image_;
 };
 

@@ -13,8 +13,6 @@ class FormWindow : public QDialog {
   // The content is the caller's to build, as the layout of this widget.
   FormWindow(Bindings& bindings, Form& form, QWidget* parent);
 
-  const Form& Shown() const { return form_; }
-
   // Opens to the right of the parent, so that both can be worked in, as far as the screen has room.
   void StandBeside() { beside_ = true; }
 

@@ -2,10 +2,13 @@
 
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QShortcut>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QVBoxLayout>
+#include <utility>
 
 #include "shell/changes_window.h"
 #include "shell/pages.h"
@@ -34,7 +37,8 @@ MainWindow::MainWindow(Bindings& bindings)
   BuildMenus();
   statusBar()->setSizeGripEnabled(false);
   statusBar()->addWidget(status_, 1);
-  status_->AddButton(BuildChangesButton(bindings, *changes_));
+  changes_button_ = BuildChangesButton(bindings, *changes_);
+  status_->AddButton(changes_button_);
 }
 
 void MainWindow::BuildTabs() {
@@ -44,8 +48,8 @@ void MainWindow::BuildTabs() {
   tabs_->tabBar()->setElideMode(Qt::ElideNone);
   const auto& model = bindings_.Model().frmMain.SSTab1;
   int tab = 0;
-  for (auto* page : BuildPages(bindings_)) {
-    tabs_->addTab(page, FromWindows1252(model.captions.at(static_cast<std::size_t>(tab))));
+  for (const auto& caption : model.captions) {
+    tabs_->addTab(new QWidget, FromWindows1252(caption));
     const auto keys = QStringLiteral("Alt+%1").arg(tab + 1);
     tabs_->setTabToolTip(tab, keys);
     auto* shortcut = new QShortcut(QKeySequence(keys), this);
@@ -53,10 +57,41 @@ void MainWindow::BuildTabs() {
     ++tab;
   }
   setCentralWidget(tabs_);
+  BuildPage(model.current);
   connect(tabs_, &QTabWidget::currentChanged, this, [this](int current) {
+    if (BuildPage(current) && page_added) page_added();
     status_->ShowTab(current);
     RenewMnemonics();
   });
+  FollowTabs();
+}
+
+bool MainWindow::BuildPage(int tab) {
+  auto* holder = tabs_->widget(tab);
+  if (holder->layout() != nullptr) return false;
+  auto* down = new QVBoxLayout(holder);
+  down->setContentsMargins(0, 0, 0, 0);
+  auto* page = kPages.at(static_cast<std::size_t>(tab))(bindings_);
+  down->addWidget(page);
+  page->show();
+  // What comes later stands at the end of the focus chain; the button of the status bar stays the last stop.
+  if (changes_button_ == nullptr) return true;
+  auto* last = previousInFocusChain();
+  while (last != changes_button_ && (last->focusPolicy() & Qt::TabFocus) == 0)
+    last = last->previousInFocusChain();
+  setTabOrder(last, changes_button_);
+  return true;
+}
+
+bool MainWindow::BuildNextPage() {
+  for (int tab = 0; tab < tabs_->count(); ++tab) {
+    if (BuildPage(tab)) return true;
+  }
+  return false;
+}
+
+void MainWindow::FollowTabs() {
+  const auto& model = bindings_.Model().frmMain.SSTab1;
   bindings_.Follow([this, &model, captions = Shadow<std::vector<std::string>>()]() mutable {
     if (!captions.Update(model.captions)) return false;
     for (int at = 0; at < tabs_->count(); ++at) {
@@ -130,6 +165,11 @@ void MainWindow::FollowEnabled() {
 void MainWindow::RenewMnemonics() {
   menu_letters_ = AssignMenuMnemonics(*menuBar());
   if (auto* page = tabs_->currentWidget()) AssignPageMnemonics(*page, menu_letters_);
+}
+
+void MainWindow::paintEvent(QPaintEvent* event) {
+  QMainWindow::paintEvent(event);
+  if (seen) std::exchange(seen, nullptr)();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -1,4 +1,5 @@
-// The main window: menus, seven tabs, status bar.
+// The main window: menus, seven tabs, status bar. A tab's page is built when it is first looked at or, before
+// that, when the program has nothing else to do: all of them at once would hold up every start.
 #pragma once
 
 #include <QMainWindow>
@@ -7,6 +8,7 @@
 #include "shell/bindings.h"
 #include "shell/mnemonics.h"
 
+class QPushButton;
 class QTabWidget;
 
 namespace ovl {
@@ -23,6 +25,9 @@ class MainWindow : public QMainWindow {
   ChangesWindow& Changes() const { return *changes_; }
   QMenu& HelpMenu() const { return *help_menu_; }
 
+  // Builds the next page that does not stand yet; false when all stand.
+  bool BuildNextPage();
+
   // Shows, hides, enables the window as the model says. True when it came or went.
   bool Follow();
 
@@ -32,12 +37,21 @@ class MainWindow : public QMainWindow {
   // What a person should look at while this window is held back by another one.
   std::function<void()> held_back;
 
+  // A page was built because somebody looks at it: it must be brought up to the model at once.
+  std::function<void()> page_added;
+
+  // Runs once, after the window has been on the screen for the first time.
+  std::function<void()> seen;
+
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
 
  private:
   void BuildTabs();
+  bool BuildPage(int tab);
+  void FollowTabs();
   void BuildMenus();
   void BuildVersionMenu();
   void FollowEnabled();
@@ -46,6 +60,7 @@ class MainWindow : public QMainWindow {
   QTabWidget* tabs_;
   StatusStrip* status_;
   ChangesWindow* changes_;
+  QPushButton* changes_button_ = nullptr;
   QMenu* help_menu_ = nullptr;
   QPointer<QWidget> last_focus_;
   Shadow<bool> enabled_;

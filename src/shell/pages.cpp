@@ -63,10 +63,8 @@ QWidget* TimeLanguagePage(Bindings& bindings) {
 
 }  // namespace
 
-std::vector<QWidget*> BuildPages(Bindings& bindings) {
-  return {BuildRegisterPage(bindings), TextSetupPage(bindings),      BuildAlarmPage(bindings),
-          CommunicationPage(bindings), BuildExceptionPage(bindings), TimeLanguagePage(bindings),
-          BuildRemotePage(bindings)};
-}
+const std::array<PageBuilder, 7> kPages = {BuildRegisterPage, TextSetupPage,      BuildAlarmPage,
+                                           CommunicationPage, BuildExceptionPage, TimeLanguagePage,
+                                           BuildRemotePage};
 
 }  // namespace ovl

@@ -1,7 +1,7 @@
 // The seven tabs of the main form, each laid out by the names of its controls.
 #pragma once
 
-#include <vector>
+#include <array>
 
 #include "shell/bindings.h"
 
@@ -9,8 +9,10 @@ class QWidget;
 
 namespace ovl {
 
-// In the order of the tabs.
-std::vector<QWidget*> BuildPages(Bindings& bindings);
+using PageBuilder = QWidget* (*)(Bindings& bindings);
+
+// In the order of the tabs. Whoever places a page owns it.
+extern const std::array<PageBuilder, 7> kPages;
 
 // The centre of the program: the link to the unit and what is done over it.
 QWidget* BuildRemotePage(Bindings& bindings);

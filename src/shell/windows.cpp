@@ -32,16 +32,22 @@ void SettleLayouts() {
 Windows::Windows(Application& app, ActFunction act)
     : app_(app),
       bindings_(app, std::move(act), [this](const QString& hint) { main_->Status().ShowHint(hint); }),
-      main_(std::make_unique<MainWindow>(bindings_)) {
-  for (auto* build : {BuildPortSettingsWindow, BuildScanProgressWindow, BuildTransferEndWindow,
-                      BuildTextEntryWindow, BuildRangeWindow}) {
-    forms_.push_back({build(bindings_, main_.get()), false});
-  }
-  for (auto* build : {BuildMicrosWindow, BuildSubMenuWindow, BuildViewerWindow}) {
-    forms_.push_back({build(bindings_, main_.get()), true});
-    forms_.back().window->StandBeside();
-  }
-  forms_.push_back({BuildAboutWindow(bindings_, main_.get()), true});
+      main_(std::make_unique<MainWindow>(bindings_)),
+      forms_({{app.frmSettSR.form, BuildPortSettingsWindow, false},
+              {app.frmScanBProgress.form, BuildScanProgressWindow, false},
+              {app.frmOK_buttom.form, BuildTransferEndWindow, false},
+              {app.frmSetEXCPSTR.form, BuildTextEntryWindow, false},
+              {app.frmSetRange.form, BuildRangeWindow, false},
+              {app.frmMicros.form, BuildMicrosWindow, true},
+              {app.FrmSubMenu.form, BuildSubMenuWindow, true},
+              {app.frmView.form, BuildViewerWindow, true},
+              {app.frmAbout.form, BuildAboutWindow, true}}) {
+  idle_.callOnTimeout([this] {
+    if (app_.ended || !BuildNext()) return idle_.stop();
+    Refresh();
+  });
+  main_->page_added = [this] { Refresh(); };
+  main_->seen = [this] { idle_.start(0); };
   main_->held_back = [this] {
     if (auto* front = Front(); front != main_.get()) front->activateWindow();
   };
@@ -63,7 +69,29 @@ void Windows::FillHelpMenu() {
   bindings_.Item(menu, app_.frmMain.menuAbout);
 }
 
+void Windows::Build(Follower& form) {
+  form.window = form.build(bindings_, main_.get());
+  if (form.beside) form.window->StandBeside();
+}
+
+bool Windows::BuildNext() {
+  if (main_->BuildNextPage()) return true;
+  const auto missing =
+      std::find_if(forms_.begin(), forms_.end(), [](const Follower& form) { return form.window == nullptr; });
+  if (missing == forms_.end()) return false;
+  Build(*missing);
+  return true;
+}
+
+void Windows::BuildAll() {
+  while (BuildNext()) continue;
+  Refresh();
+}
+
 void Windows::Refresh() {
+  for (auto& form : forms_) {
+    if (form.window == nullptr && form.Wanted()) Build(form);
+  }
   const bool reshaped = bindings_.Refresh();
   if (reshaped) RenewMnemonics();
   ShowForms();
@@ -73,45 +101,53 @@ void Windows::Refresh() {
 void Windows::RenewMnemonics() {
   main_->RenewMnemonics();
   for (const auto& form : forms_) {
-    if (form.window->isVisible()) AssignPageMnemonics(*form.window, {});
+    if (form.window != nullptr && form.window->isVisible()) AssignPageMnemonics(*form.window, {});
   }
 }
 
 void Windows::ShowForms() {
   main_->Follow();
   for (auto& form : forms_) {
+    if (form.window == nullptr) continue;
     form.window->Follow();
-    form.focus.Follow(bindings_, form.window->Shown());
+    form.focus.Follow(bindings_, form.form);
   }
   main_focus_.Follow(bindings_, app_.frmMain.form);
 }
 
 bool Windows::FormsMoved() const {
-  const auto moved = [](const QWidget& window, const Form& form) {
-    return window.isVisible() != (form.loaded && form.visible);
+  const auto moved = [](const QWidget* window, const Form& form) {
+    return (window != nullptr && window->isVisible()) != (form.loaded && form.visible);
   };
-  return moved(*main_, app_.frmMain.form) || std::any_of(forms_.begin(), forms_.end(), [&](const auto& form) {
-           return moved(*form.window, form.window->Shown());
-         });
+  return moved(main_.get(), app_.frmMain.form) ||
+         std::any_of(forms_.begin(), forms_.end(),
+                     [&](const Follower& form) { return moved(form.window, form.form); });
 }
 
 void Windows::HideAll() {
-  for (const auto& form : forms_) form.window->hide();
+  for (const auto& form : forms_) {
+    if (form.window != nullptr) form.window->hide();
+  }
   main_->hide();
 }
 
 QWidget* Windows::Front() const {
   for (const auto& form : forms_) {
-    const bool in_front = !form.beside || form.window->isActiveWindow();
-    if (form.window->isVisible() && in_front) return form.window;
+    if (form.window == nullptr || !form.window->isVisible()) continue;
+    if (!form.beside || form.window->isActiveWindow()) return form.window;
   }
   return main_.get();
 }
 
-FormWindow* Windows::WindowOf(const Form& form) const {
-  const auto found = std::find_if(forms_.begin(), forms_.end(),
-                                  [&](const Follower& at) { return &at.window->Shown() == &form; });
-  return found == forms_.end() ? nullptr : found->window;
+FormWindow* Windows::WindowOf(const Form& form) {
+  const auto found =
+      std::find_if(forms_.begin(), forms_.end(), [&](const Follower& at) { return &at.form == &form; });
+  if (found == forms_.end()) return nullptr;
+  if (found->window == nullptr) {
+    Build(*found);
+    Refresh();
+  }
+  return found->window;
 }
 
 }  // namespace ovl

@@ -1,6 +1,7 @@
 // All windows of the program over one model.
 #pragma once
 
+#include <QTimer>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -28,8 +29,13 @@ class Windows {
   // The window over which a message belongs.
   QWidget* Front() const;
 
+  // Builds what does not stand yet of pages and small windows.
+  void BuildAll();
+
   MainWindow& Main() const { return *main_; }
-  FormWindow* WindowOf(const Form& form) const;
+
+  // The window of a form, built if need be; none for the main form.
+  FormWindow* WindowOf(const Form& form);
   HelpDesk& Help() const { return *help_; }
   const Bindings& Controls() const { return bindings_; }
 
@@ -37,12 +43,21 @@ class Windows {
   void SetQuietLine(const QString& words) { bindings_.SetQuietLine(words); }
 
  private:
+  using Builder = FormWindow* (*)(Bindings& bindings, QWidget* parent);
+
+  // A small window, built when its form is first shown or, before that, when there is nothing else to do.
   struct Follower {
-    FormWindow* window;
+    const Form& form;
+    Builder build;
     bool beside;  // stands beside the main window, which can be worked in meanwhile
+    FormWindow* window = nullptr;
     FocusFollower focus = {};
+
+    bool Wanted() const { return form.loaded && form.visible; }
   };
 
+  void Build(Follower& form);
+  bool BuildNext();
   void ShowForms();
 
   void RenewMnemonics();
@@ -54,6 +69,7 @@ class Windows {
   std::unique_ptr<MainWindow> main_;
   FocusFollower main_focus_;
   std::vector<Follower> forms_;
+  QTimer idle_;
 };
 
 }  // namespace ovl

@@ -90,5 +90,19 @@ TEST(KeyboardWalk, ReachesEveryControlOfATabOnceByItsNameAndFindsNoTextCut) {
   }
 }
 
+TEST(LatePages, StandWhenLookedAtWithTheStatusBarAsTheLastStop) {
+  Screen screen({"V1400", "R12"}, Pages::kFirst);
+  EXPECT_EQ(screen.Main().findChild<QComboBox*>("ComboTD(2)"), nullptr);
+  screen.Main().Tabs().setCurrentIndex(5);
+  const auto& list = screen.Find<QComboBox>("ComboTD(2)");
+  EXPECT_TRUE(list.isVisible());
+  EXPECT_GT(list.count(), 1);
+  screen.Pick("ComboTD(2)", list.currentIndex() == 0 ? 1 : 0);
+  screen.Find<QComboBox>("ComboLang").setFocus();
+  QKeyEvent press(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+  QCoreApplication::sendEvent(screen.Main().focusWidget(), &press);
+  EXPECT_EQ(screen.Main().focusWidget()->objectName(), "StatusChanges");
+}
+
 }  // namespace
 }  // namespace ovl::testing

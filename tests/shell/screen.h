@@ -22,10 +22,12 @@
 
 namespace ovl::testing {
 
+enum class Pages { kAll, kFirst };
+
 // A program with windows whose registers are selected without their default images.
 class Screen {
  public:
-  explicit Screen(const FirmwareId& firmware) {
+  explicit Screen(const FirmwareId& firmware, Pages pages = Pages::kAll) {
     ApplyTheme(Theme::kLight);
     const auto images = folder_.Path() / firmware.version / firmware.release;
     std::filesystem::create_directories(images);
@@ -38,6 +40,7 @@ class Screen {
     platform.write_setting = [](std::string_view, std::string_view, std::string_view) { return true; };
     platform.show_message = [](const MessageBox&) {};
     if (program_->Start() != Outcome::kDone) throw std::runtime_error("no start");
+    if (pages == Pages::kAll) OnScreen().BuildAll();
     Main().resize(960, 600);
   }
 

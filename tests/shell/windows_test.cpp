@@ -89,7 +89,10 @@ class WindowsTest : public ::testing::Test {
     serial.clear_output = [] {};
   }
 
-  void SetUp() override { ASSERT_EQ(program_->Start(), Outcome::kDone); }
+  void SetUp() override {
+    ASSERT_EQ(program_->Start(), Outcome::kDone);
+    program_->OnScreen().BuildAll();
+  }
 
   Application& App() { return program_->Model(); }
   MainWindow& Main() { return program_->OnScreen().Main(); }
