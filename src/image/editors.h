@@ -22,17 +22,38 @@ enum class Place {
   kMicros
 };
 
+// Of a record of several bytes, what a control stores.
+enum class Part { kAll, kFirstByte, kDuration, kVideoLoss, kRange, kText };
+
+// How a list tells what a value means, once it is stored.
+enum class Tells {
+  kNothing,
+  kPicked,    // the entry that is picked
+  kSetIsOn,   // the second entry stands for a set bit
+  kSetIsOff,  // the first one does
+  kParity
+};
+
+inline constexpr int kWholeByte = 0xFF;
+
 struct Editor {
   FieldId field;
   Place place;
   std::string_view controls;  // names of controls, blanks between them; none: an option of the register
-  int bits = 0xFF;            // of a single byte, those that the controls store
+  int bits = kWholeByte;      // of the (first) byte, those that the controls store
+  Tells tells = Tells::kNothing;
+  Part part = Part::kAll;
 };
 
-// The captions under which a person finds the field, such as "COMMUNICATION: PARITY, DATA BITS"; of a single
-// byte only those that store one of the bits. Empty if no control edits it. `options` stands for the options
+// In the order of the fields; several controls of one field one behind the other.
+std::span<const Editor> Editors();
+
+// The captions under which a person finds the field, such as "COMMUNICATION: PARITY, DATA BITS"; with two
+// contents only those that store what differs. Empty if no control edits it. `options` stands for the options
 // of a register. A control that is not there is a `std::logic_error`.
-std::string EditedBy(const Application& app, FieldId field, std::string_view options, int bits = 0xFF);
+std::string EditedBy(const Application& app, FieldId field, std::string_view options);
+std::string EditedBy(const Application& app, FieldId field, std::string_view options, std::string_view before,
+                     std::string_view after);
 
 // Fields that no control edits: read, kept and written back.
 std::span<const FieldId> CarriedThrough();

@@ -8,7 +8,6 @@
 #include <QVBoxLayout>
 #include <array>
 
-#include "core/codecs.h"
 #include "image/editors.h"
 #include "shell/platform/text_codec.h"
 #include "shell/status_strip.h"
@@ -26,13 +25,8 @@ QString PlaceOf(const FieldDifference& difference) {
   return QStringLiteral("%1 %2").arg(QLatin1String(kSections.at(section))).arg(difference.byte);
 }
 
-int ChangedBits(const FieldDifference& difference) {
-  const bool single = difference.before.size() == 2 && difference.after.size() == 2;
-  return single ? HexToInt(difference.before) ^ HexToInt(difference.after) : 0xFF;
-}
-
 QString EditorsOf(const Application& app, const FieldDifference& difference) {
-  const auto words = EditedBy(app, difference.field->id, "options", ChangedBits(difference));
+  const auto words = EditedBy(app, difference.field->id, "options", difference.before, difference.after);
   return words.empty() ? QStringLiteral("shown nowhere") : FromWindows1252(words);
 }
 

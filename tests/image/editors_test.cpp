@@ -1,0 +1,46 @@
+// The labels under which a person finds what differs in a record.
+#include "image/editors.h"
+
+#include <gtest/gtest.h>
+
+#include "support/harness.h"
+
+namespace ovl::testing {
+namespace {
+
+TEST(Editors, NameOnlyTheControlsThatStoreWhatDiffers) {
+  struct Row {
+    FieldId field;
+    std::size_t digit;
+    char other;
+    const char* words;
+  };
+  using enum FieldId;
+  constexpr Row kRows[] = {
+      {EXCPSTRS, 0, '4', "EXCEPTION REPORT: SCROLL MATCHING"},
+      {EXCPSTRS, 1, '1', "EXCEPTION REPORT: DISPLAY"},
+      {EXCPSTRS, 1, 'C', "EXCEPTION REPORT: OPERATOR"},
+      {EXCPSTRS, 5, '7', "EXCEPTION REPORT: Set RANGE"},
+      {EXCPSTRS, 22, '7', "EXCEPTION REPORT: EXCEPTION STRING"},
+      {EXCPSTRS, 103, '7', "EXCEPTION REPORT: EXCEPTION STRING"},
+      {ALMSTRUCT_BAK, 1, '7', "ALARM OUTPUTS: ALARM TRIGGER"},
+      {ALMSTRUCT_BAK, 5, '7', "ALARM OUTPUTS: ALARM DURATION"},
+      {ALMSTRUCT_BAK, 7, '1', "ALARM OUTPUTS: VIDEO LOSS"},
+      {TRIGGER_TEXT, 1, '2', "ALARM OUTPUTS: OUTPUT TEXT"},
+      {TRIGGER_TEXT, 7, '7', "ALARM OUTPUTS: TRIGGER TEXT"},
+      {COMMCFG_BAK, 1, '4', "COMMUNICATION: DATA BITS"},
+      {COMMCFG_BAK, 0, '1', "EXCEPTION REPORT: OUTPUT"},
+  };
+  Harness harness({"V1400", "R12"});
+  harness.Start();
+  for (const auto& row : kRows) {
+    const std::string before(row.field == EXCPSTRS ? 104 : 8, '0');
+    auto after = row.field == COMMCFG_BAK ? before.substr(0, 2) : before;
+    const auto was = after;
+    after[row.digit] = row.other;
+    EXPECT_EQ(EditedBy(harness.app, row.field, "options", was, after), row.words) << after;
+  }
+}
+
+}  // namespace
+}  // namespace ovl::testing
