@@ -127,4 +127,11 @@ std::string SectionsToStream(Application& app) {
   return BlockRecords(app.SYSCFG + app.SYSFIXED + app.SYSSTR, WriteRegion(app.firmware));
 }
 
+std::string ReopenableStream(const Application& app) {
+  auto image = app.image;
+  const auto sections =
+      WriteSections(image, LayoutOf(app.firmware), app.firmware, CapabilitiesOf(app.firmware));
+  return BlockRecords(sections.SYSCFG + sections.SYSFIXED + sections.SYSSTR, ReadRegion(app.firmware));
+}
+
 }  // namespace ovl

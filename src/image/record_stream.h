@@ -53,4 +53,7 @@ bool LoadStream(Application& app, std::string_view stream);
 // The stream that a download sends. The sections are left in the application object.
 std::string SectionsToStream(Application& app);
 
+// The image as a stream that opens again under the same firmware.
+std::string ReopenableStream(const Application& app);
+
 }  // namespace ovl

@@ -23,7 +23,8 @@ constexpr const char* kNotKept =
 Program::Program(QString folder, QString store_folder)
     : folder_(std::move(folder)),
       store_(std::move(store_folder)),
-      port_(folder_, [this](const Event& event) { return Act(event); }) {
+      port_(folder_, [this](const Event& event) { return Act(event); }),
+      unsaved_(app_, folder_) {
   frame_.setSingleShot(true);
   frame_.setInterval(kFrame);
   frame_.callOnTimeout([this] { RefreshNow(); });
@@ -32,6 +33,7 @@ Program::Program(QString folder, QString store_folder)
 
 // Windows on their way out still tell of lost focus; there is nothing left for it to change.
 Program::~Program() {
+  if (!app_.ended) unsaved_.Drop();
   const auto going = std::move(windows_);
   app_.ended = true;
 }
@@ -71,10 +73,22 @@ Outcome Program::Start() {
   if (outcome == Outcome::kEnded) return outcome;
   windows_ = std::make_unique<Windows>(app_, [this](const Event& event) { return Act(event); });
   windows_->Main().Status().port_problem = [this] { return port_.LastProblem(); };
+  GuardUnsaved();
   CollectTimers();
   RefreshNow();
   Follow(outcome);
   return outcome;
+}
+
+void Program::GuardUnsaved() {
+  auto& status = windows_->Main().Status();
+  const auto rescued = RescueCopies(folder_);
+  if (!rescued.isEmpty())
+    status.SetNotice(QStringLiteral("Changes of a run that ended suddenly; File > Open reads them: ") +
+                     rescued);
+  unsaved_.problem = [&status](const QString& reason) {
+    status.SetNotice(QStringLiteral("Changes are not guarded against a sudden end. ") + reason);
+  };
 }
 
 void Program::CollectTimers() {
@@ -90,8 +104,17 @@ void Program::CollectTimers() {
 
 Outcome Program::Act(const Event& event) {
   const auto outcome = windows_ && !app_.handling && IsAct(event) ? ActAndTell(event) : Dispatch(app_, event);
+  if (outcome == Outcome::kEnded) IsLeaving(event) ? unsaved_.Drop() : unsaved_.Keep();
   Follow(outcome);
   return outcome;
+}
+
+// Whether a person leaves by it, and not a file or an upload that ends the program.
+bool Program::IsLeaving(const Event& event) {
+  const auto& main = app_.frmMain;
+  if (const auto* close = std::get_if<CloseEvent>(&event)) return close->form == &main.form;
+  const auto* click = std::get_if<ClickEvent>(&event);
+  return click != nullptr && click->control == ControlRef(&app_.frmMain.menuExit);
 }
 
 Outcome Program::ActAndTell(const Event& event) {
@@ -136,7 +159,9 @@ void Program::Tick(Timer& timer) {
 
 void Program::RefreshNow() {
   frame_.stop();
-  if (windows_ && !app_.ended) windows_->Refresh();
+  if (!windows_ || app_.ended) return;
+  windows_->Refresh();
+  unsaved_.Follow();
 }
 
 void Program::End() {

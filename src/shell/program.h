@@ -10,6 +10,7 @@
 #include "core/gate.h"
 #include "shell/platform/serial_port.h"
 #include "shell/platform/settings_store.h"
+#include "shell/unsaved_copy.h"
 #include "shell/windows.h"
 
 namespace ovl {
@@ -47,7 +48,9 @@ class Program {
   };
 
   void FillPlatform();
+  bool IsLeaving(const Event& event);
   Outcome ActAndTell(const Event& event);
+  void GuardUnsaved();
   void CollectTimers();
   void Follow(Outcome outcome);
   void FollowTimer(TimerState& timer);
@@ -60,6 +63,7 @@ class Program {
   SettingsStore store_;
   std::string store_problem_;
   SerialPort port_;
+  UnsavedCopy unsaved_;
   std::unique_ptr<Windows> windows_;
   std::vector<TimerState> timers_;
   QTimer frame_;

@@ -164,7 +164,8 @@ void StatusStrip::ShowTab(int tab) {
 QString StatusStrip::Note() const {
   if (!hint_.isEmpty()) return hint_;
   const auto problem = port_problem ? port_problem() : QString();
-  return problem.isEmpty() ? FromSystem(app_.StatusNote) : problem;
+  if (!problem.isEmpty()) return problem;
+  return app_.StatusNote.empty() ? notice_ : FromSystem(app_.StatusNote);
 }
 
 QString StatusStrip::PortText() const {

@@ -52,6 +52,9 @@ class StatusStrip : public QWidget {
   // What last went wrong with the port, as the port layer tells it.
   std::function<QString()> port_problem;
 
+  // Stands where nothing more urgent is to be told.
+  void SetNotice(const QString& notice) { notice_ = notice; }
+
   // A passing word in the place of what last went wrong.
   void ShowHint(const QString& hint);
 
@@ -75,7 +78,7 @@ class StatusStrip : public QWidget {
   QLabel* port_;
   CutLabel* note_;
   QStackedWidget* firmware_;
-  QString hint_;
+  QString hint_, notice_;
   QTimer hint_end_;
 };
 

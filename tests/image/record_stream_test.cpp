@@ -65,6 +65,7 @@ TEST(RecordStream, EveryFirmwareComposesWhatItDecoded) {
       Loaded loaded(firmware);
       ASSERT_TRUE(loaded.Load(Joined(stream)));
       EXPECT_EQ(SectionsToStream(loaded.program.app), stream);
+      EXPECT_EQ(ReopenableStream(loaded.program.app), stream);
       ++firmware_count;
     }
   }

@@ -1,0 +1,65 @@
+// What is left for the next start when the program is ended from outside.
+#include "shell/unsaved_copy.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QDeadlineTimer>
+#include <QDir>
+
+#include "shell/screen.h"
+
+namespace ovl::testing {
+namespace {
+
+QStringList Copies(const QString& folder) {
+  return QDir(folder).entryList({QStringLiteral("*.bin")}, QDir::Files);
+}
+
+// Changes a setting and waits for the copy.
+QString ChangeAndWait(Screen& screen) {
+  auto& app = screen.App();
+  const auto folder = QString::fromStdString(app.platform.program_folder);
+  screen.Pick("ComboTD(2)", app.frmMain.ComboTD[2].position == 0 ? 1 : 0);
+  for (const QDeadlineTimer late(10000); Copies(folder).isEmpty() && !late.hasExpired();) screen.Show();
+  return folder;
+}
+
+TEST(UnsavedCopy, StandsUntilAPersonLeavesAndOpensAgainAfterASuddenEnd) {
+  Screen screen({"V1400", "R12"});
+  auto& app = screen.App();
+  const auto folder = ChangeAndWait(screen);
+  ASSERT_EQ(Copies(folder).size(), 1);
+  EXPECT_EQ(RescueCopies(folder), QString()) << "the program that keeps the copy still runs";
+
+  // As if a process that is gone by now had left it.
+  const QDir in(folder);
+  ASSERT_TRUE(QFile::rename(in.filePath(Copies(folder).front()), in.filePath("unsaved-4194999.bin")));
+  const auto rescued = in.filePath("rescued 1.bin");
+  EXPECT_EQ(RescueCopies(folder), rescued);
+  const auto changed = app.image;
+  app.image = app.known_image;
+  app.platform.ask_file = [&](const FileDialog&) {
+    return std::optional(FileAnswer{rescued.toStdString(), {}});
+  };
+  screen.Find<QAction>("OpenMenu").trigger();
+  EXPECT_TRUE(app.image == changed);
+
+  // A file that ends the program leaves the changes, a person who closes it does not.
+  screen.Pick("ComboTD(2)", app.frmMain.ComboTD[2].position == 0 ? 1 : 0);
+  WriteWhole(in.filePath("rescued 1.bin").toStdString(), "$2000");
+  screen.Find<QAction>("OpenMenu").trigger();
+  ASSERT_TRUE(app.ended);
+  EXPECT_EQ(Copies(folder).size(), 2);
+}
+
+TEST(UnsavedCopy, IsTakenAwayWhenAPersonLeaves) {
+  Screen screen({"V1400", "R12"});
+  const auto folder = ChangeAndWait(screen);
+  EXPECT_EQ(Copies(folder).size(), 1);
+  screen.Find<QAction>("menuExit").trigger();
+  EXPECT_EQ(Copies(folder), QStringList());
+}
+
+}  // namespace
+}  // namespace ovl::testing
