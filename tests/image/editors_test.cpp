@@ -42,5 +42,27 @@ TEST(Editors, NameOnlyTheControlsThatStoreWhatDiffers) {
   }
 }
 
+// What ComboCOMM(6) stores follows the handshaking.
+TEST(Editors, TellOfListsWhosePicksChangeJustTheirBits) {
+  int tried = 0;
+  Harness harness({"V1400", "R12"});
+  harness.Start();
+  auto& app = harness.app;
+  for (const auto& editor : Editors()) {
+    const bool of_main = editor.tells != Tells::kNothing && editor.place != Place::kMicros;
+    if (!of_main || editor.controls == "ComboCOMM(6)") continue;
+    const auto& list = *std::get<List*>(app.registry.Find(editor.controls)->control);
+    int changed = 0;
+    for (int position = 0; position < static_cast<int>(list.items.size()); ++position) {
+      const int before = HexToInt(app.image[editor.field]);
+      harness.Pick(editor.controls, position);
+      changed |= before ^ HexToInt(app.image[editor.field]);
+    }
+    EXPECT_TRUE(editor.bits == kWholeByte ? changed != 0 : changed == editor.bits) << editor.controls;
+    ++tried;
+  }
+  EXPECT_EQ(tried, 28);
+}
+
 }  // namespace
 }  // namespace ovl::testing

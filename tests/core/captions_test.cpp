@@ -1,0 +1,112 @@
+// What stands on the screen is what the help calls it.
+#include <gtest/gtest.h>
+
+#include <cctype>
+#include <filesystem>
+#include <fstream>
+
+#include "core/application.h"
+
+namespace ovl::testing {
+namespace {
+
+std::string Bare(std::string caption) {
+  const auto first = caption.find_first_not_of(' ');
+  if (first == std::string::npos) return {};
+  caption = caption.substr(first, caption.find_last_not_of(' ') + 1 - first);
+  if (caption.back() == ':') caption.pop_back();
+  return caption;
+}
+
+// A help page is about one window; its controls are meant ahead of others of the same name.
+const NamedControl* Find(const Application& app, const std::string& page, const std::string& name) {
+  const std::pair<const char*, const Form*> kPages[] = {{"text_entry", &app.frmSetEXCPSTR.form},
+                                                        {"range", &app.frmSetRange.form},
+                                                        {"scan_progress", &app.frmScanBProgress.form},
+                                                        {"transfer_end", &app.frmOK_buttom.form},
+                                                        {"about", &app.frmAbout.form},
+                                                        {"viewer", &app.frmView.form},
+                                                        {"sub_menu", &app.FrmSubMenu.form}};
+  for (const auto& [own, form] : kPages) {
+    if (page == own) return app.registry.Find(*form, name);
+  }
+  return app.registry.Find(name);
+}
+
+TEST(Captions, OfFieldsButtonsAndMenusAreThoseOfTheHelp) {
+  const Application app;
+  int compared = 0;
+  for (const auto& page : std::filesystem::directory_iterator(std::string(OVL_SOURCE_FOLDER) + "/help")) {
+    const auto name_of_page = page.path().stem().string();
+    if (name_of_page == "register_options" || name_of_page == "sub_menu") continue;  // rows of registers
+    std::ifstream file(page.path());
+    for (std::string line; std::getline(file, line);) {
+      const auto last = line.rfind("| `");
+      // A label in small letters describes.
+      if (line.rfind("| ", 0) != 0 || last == std::string::npos || std::islower(line[2])) continue;
+      const auto label = line.substr(2, line.find(" |") - 2);
+      const auto name = line.substr(last + 3, line.find('`', last + 3) - last - 3);
+      const auto* control = Find(app, name_of_page, name);
+      if (control == nullptr) continue;
+      const auto caption = Bare(FaceOf(control->control).caption);
+      if (caption.empty()) continue;
+      EXPECT_NE(label.find(caption), std::string::npos) << label << " is not " << caption;
+      ++compared;
+    }
+  }
+  EXPECT_EQ(compared, 100);
+}
+
+TEST(Captions, OfGroupsWindowsAndWordsBesideThem) {
+  const std::pair<const char*, const char*> kCaptions[] = {
+      {"Frame3", "Text Display Settings"},
+      {"Frame8", "Alarm Outputs"},
+      {"Frame15", "TRIGGERED TEXT"},
+      {"Frame4", "Register Settings"},
+      {"Frame13", "Network Settings"},
+      {"Frame6", "Set Exception"},
+      {"Frame7", "Exception Report"},
+      {"Frame14", "Scroll Matching"},
+      {"Frame5", "DVR Selection"},
+      {"Frame2", "Time / Date Settings"},
+      {"Frame12", "Language Settings"},
+      {"Frame11", "Remote Function"},
+      {"FrameDemo", "Register Demo"},
+      {"FileMenu", "File"},
+      {"VersionMenu", "Version"},
+      {"HelpMenu", "Help"},
+      {"menuAbout", "About"},
+      {"lbConnectting", "Not Connected"},
+      {"lbRemoteAccess", "No Access"},
+      {"Label64(0)", "Downloading . . ."},
+      {"Label64(1)", "Uploading . . ."},
+      {"lbAlmTrig", "EX."},
+      {"Label84", "DESCRIPTION/XML"},
+      {"Label85", "*** MAKE SURE HAVE UART DAUGHTER BOARD INSTALLED ***"},
+      {"cmdMicros", "SHOW"},
+      {"frmSettSR.Label1", "Make sure you are select correct the comport."},
+      {"frmScanBProgress.Label1", "Baudrate Scaning.."},
+      {"frmIDN", "MICROS IDN NETWORK"},
+      {"frmISN", "MICROS ISN NETWORK"},
+      {"frm3700", "MICROSS 3700 V4.X"},
+      {"Label2", "TERMINAL"},
+      {"ComboKLM4011(2)", "DEST ID"},
+      {"ComboKLM4011(3)", "SRC ID"}};
+  const Application app;
+  for (const auto& [name, caption] : kCaptions) {
+    const auto* control = app.registry.Find(name);
+    ASSERT_NE(control, nullptr) << name;
+    EXPECT_EQ(FaceOf(control->control).caption, caption) << name;
+  }
+  const std::pair<const Form*, const char*> kTitles[] = {{&app.frmMain.form, "OVL Software"},
+                                                         {&app.frmSettSR.form, "Communication Setting"},
+                                                         {&app.frmScanBProgress.form, "Scan Baudrate"},
+                                                         {&app.frmOK_buttom.form, "Program Download"},
+                                                         {&app.frmMicros.form, "MICROS"},
+                                                         {&app.frmSetRange.form, "RANGE"},
+                                                         {&app.frmAbout.form, "About OVL Software"}};
+  for (const auto& [form, title] : kTitles) EXPECT_EQ(form->caption, title);
+}
+
+}  // namespace
+}  // namespace ovl::testing
