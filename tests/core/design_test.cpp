@@ -1,4 +1,5 @@
-// What stands on the screen is what the help calls it.
+// The forms before anything runs: captions are what the help calls them, and what waits for its firmware or
+// its turn is hidden or held back.
 #include <gtest/gtest.h>
 
 #include <cctype>
@@ -33,7 +34,7 @@ const NamedControl* Find(const Application& app, const std::string& page, const 
   return app.registry.Find(name);
 }
 
-TEST(Captions, OfFieldsButtonsAndMenusAreThoseOfTheHelp) {
+TEST(Design, CaptionsFieldsButtonsAndMenusAreThoseOfTheHelp) {
   const Application app;
   int compared = 0;
   for (const auto& page : std::filesystem::directory_iterator(std::string(OVL_SOURCE_FOLDER) + "/help")) {
@@ -57,7 +58,7 @@ TEST(Captions, OfFieldsButtonsAndMenusAreThoseOfTheHelp) {
   EXPECT_EQ(compared, 100);
 }
 
-TEST(Captions, OfGroupsWindowsAndWordsBesideThem) {
+TEST(Design, CaptionsGroupsWindowsAndWordsBesideThem) {
   const std::pair<const char*, const char*> kCaptions[] = {
       {"Frame3", "Text Display Settings"},
       {"Frame8", "Alarm Outputs"},
@@ -106,6 +107,29 @@ TEST(Captions, OfGroupsWindowsAndWordsBesideThem) {
                                                          {&app.frmSetRange.form, "RANGE"},
                                                          {&app.frmAbout.form, "About OVL Software"}};
   for (const auto& [form, title] : kTitles) EXPECT_EQ(form->caption, title);
+}
+
+TEST(Design, HidesAndHoldsBackWhatWaits) {
+  const Application app;
+  std::string hidden, held;
+  for (const auto& control : app.registry.All()) {
+    const auto& face = FaceOf(control.control);
+    const bool follows = std::holds_alternative<Form*>(control.control) ||
+                         std::holds_alternative<Timer*>(control.control) ||
+                         control.name.rfind("frmAddress", 0) == 0;
+    if (!follows && !face.visible) hidden += " " + control.name;
+    if (!follows && !face.enabled) held += " " + control.name;
+  }
+  EXPECT_EQ(
+      hidden,
+      " OpNCR(5) OpNCR(6) OpGilbraco(5) OpSharp(9) OpRI_QT2(9) OpRI_QT2(10) IBMOP(7) IBMOP(8) SharpOP(26) "
+      "OpMicros(3) RDSCombo IBMCombo Combo4610TF6 ComboXML IBMFrame POS2000 POS5000 NCRFrame BEETLEFrm "
+      "NIXDORFrm Label84 Label85 ComboExcp(4) ComboALM(7) lbAlmTrig CharacterList DemoType DemoSpeed "
+      "Label1(23) Label1(49) CmdUpDow(5) cmdDisConnect Picture1(1) Picture1(2) Picture1(3) Label64(0) "
+      "Label64(1) vbalProgressBar1 frmIDN frmISN frm3700 Frame1 Frame2 SharpSubMenuFrame UP3000Frm");
+  EXPECT_EQ(held,
+            " Command1 SharpCom Command2 Label1(12) Label1(13) Label1(14) Label1(15) ComboKLM4011(0) "
+            "ComboKLM4011(1) ComboKLM4011(2) ComboKLM4011(3)");
 }
 
 }  // namespace
