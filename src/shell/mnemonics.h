@@ -18,7 +18,7 @@ using Letters = QSet<QChar>;
 Letters AssignMenuMnemonics(QMenuBar& bar);
 
 // Gives a letter to each button, check box and labelled field that shows on the page. Elements of option
-// arrays get none: arrows reach them.
+// arrays get none: arrows reach them. Digits are left to the tabs.
 void AssignPageMnemonics(QWidget& page, const Letters& taken);
 
 }  // namespace ovl
