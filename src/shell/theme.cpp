@@ -26,6 +26,7 @@ constexpr int kTabLine = 3;
 constexpr int kHeaderPadding = 6;
 constexpr int kFieldHeight = 26;
 constexpr int kLeastListWidth = 64;
+constexpr int kThumbInset = 3;
 
 QPalette PaletteOf(const Scheme& scheme) {
   QPalette palette(QColor::fromRgb(scheme.button), QColor::fromRgb(scheme.window));
@@ -73,6 +74,11 @@ class OvlStyle : public QProxyStyle {
   QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                          const QWidget* widget) const override {
     auto size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    // A tab is drawn without the blanks around its caption.
+    if (const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option); tab != nullptr) {
+      const QFontMetrics& metrics = option->fontMetrics;
+      size.rwidth() -= metrics.horizontalAdvance(tab->text) - metrics.horizontalAdvance(tab->text.trimmed());
+    }
     if (type == CT_ComboBox || type == CT_PushButton || type == CT_LineEdit) {
       size.setHeight(std::max(size.height(), kFieldHeight));
     }
@@ -88,6 +94,13 @@ class OvlStyle : public QProxyStyle {
       return;
     }
     if (element == PE_FrameStatusBarItem) return;
+    // Where the keyboard is can always be seen, also after a click.
+    if (element == PE_FrameFocusRect)
+      return DrawRing(option->rect, option->palette.color(QPalette::Highlight), painter);
+    if (element == PE_FrameLineEdit ||
+        (element == PE_Frame && qobject_cast<const QLabel*>(widget) != nullptr)) {
+      return DrawFieldEdge(*option, painter);
+    }
     if (element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton) {
       return DrawIndicator(*option, element == PE_IndicatorRadioButton, painter);
     }
@@ -103,10 +116,62 @@ class OvlStyle : public QProxyStyle {
       centred.text = tab->text.trimmed();
       return QProxyStyle::drawControl(element, &centred, painter, widget);
     }
+    const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option);
+    if (bar != nullptr && element == CE_ProgressBarGroove) {
+      painter->fillRect(bar->rect, bar->palette.color(QPalette::Base));
+      return DrawFieldEdge(*bar, painter);
+    }
+    if (bar != nullptr && element == CE_ProgressBarContents) return DrawProgress(*bar, painter);
     QProxyStyle::drawControl(element, option, painter, widget);
   }
 
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                          const QWidget* widget) const override {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control == CC_ComboBox && option->state.testFlag(State_HasFocus)) {
+      DrawRing(option->rect, option->palette.color(QPalette::Highlight), painter);
+    }
+    if (control != CC_ScrollBar) return;
+    const auto thumb = proxy()->subControlRect(control, option, SC_ScrollBarSlider, widget);
+    painter->fillRect(thumb.adjusted(kThumbInset, kThumbInset, -kThumbInset, -kThumbInset),
+                      EdgeColor(option->palette));
+  }
+
  private:
+  // Half way from a hairline to muted text: an outline that stands out on every ground.
+  static QColor EdgeColor(const QPalette& palette) {
+    const auto line = HairlineColor(palette), text = MutedColor(palette);
+    return QColor((line.red() + text.red()) / 2, (line.green() + text.green()) / 2,
+                  (line.blue() + text.blue()) / 2);
+  }
+
+  static void DrawFieldEdge(const QStyleOption& option, QPainter* painter) {
+    const bool focused = option.state.testFlag(State_HasFocus);
+    const bool enabled = option.state.testFlag(State_Enabled);
+    const auto& palette = option.palette;
+    const auto edge = enabled ? EdgeColor(palette) : HairlineColor(palette);
+    DrawRing(option.rect, focused ? palette.color(QPalette::Highlight) : edge, painter);
+  }
+
+  static void DrawRing(const QRect& around, const QColor& color, QPainter* painter) {
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(color);
+    painter->drawRoundedRect(QRectF(around).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+    painter->restore();
+  }
+
+  // In one colour, on which the figures can be read.
+  static void DrawProgress(const QStyleOptionProgressBar& bar, QPainter* painter) {
+    const auto room = bar.rect.adjusted(1, 1, -1, -1);
+    const int span = std::max(bar.maximum - bar.minimum, 1);
+    const auto width =
+        static_cast<int>(static_cast<qint64>(room.width()) * (bar.progress - bar.minimum) / span);
+    painter->fillRect(QRect(room.topLeft(), QSize(std::max(width, 0), room.height())),
+                      bar.palette.color(QPalette::Highlight));
+  }
+
   // A box or ring with an outline that stands out on both grounds.
   static void DrawIndicator(const QStyleOption& option, bool round, QPainter* painter) {
     const auto& palette = option.palette;
@@ -148,6 +213,10 @@ class OvlStyle : public QProxyStyle {
                         tab.palette.color(QPalette::Highlight));
     } else if (tab.state.testFlag(State_MouseOver)) {
       painter->fillRect(place.adjusted(0, 0, 0, -1), tab.palette.color(QPalette::Button));
+    }
+    if (tab.state.testFlag(State_HasFocus)) {
+      DrawRing(place.adjusted(kTabLine, kTabLine, -kTabLine, -2 * kTabLine),
+               tab.palette.color(QPalette::Highlight), painter);
     }
   }
 };

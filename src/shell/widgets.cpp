@@ -18,6 +18,7 @@ constexpr int kDetailGap = 24;
 constexpr int kMarkWidth = 3;
 constexpr int kEntryIndent = 6;
 constexpr int kEntryHeight = 20;
+constexpr int kTextIndent = 2;
 
 int DetailStart(const QAbstractItemModel& model, const QFontMetrics& metrics) {
   int widest = 0;
@@ -196,6 +197,7 @@ void OptionButton::keyPressEvent(QKeyEvent* event) {
 
 TextLine::TextLine(QWidget* parent) : QLineEdit(parent), rule_(new TextRule(this)) {
   setValidator(rule_);
+  setTextMargins(kTextIndent, 0, kTextIndent, 0);
   connect(this, &QLineEdit::inputRejected, this, [this] {
     if (refused) refused(rule_->reason);
   });
