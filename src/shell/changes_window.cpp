@@ -1,14 +1,15 @@
 #include "shell/changes_window.h"
 
 #include <QDialogButtonBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QTreeWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <array>
 
 #include "image/editors.h"
+#include "shell/mnemonics.h"
+#include "shell/overview_list.h"
 #include "shell/platform/text_codec.h"
 #include "shell/status_strip.h"
 #include "shell/theme.h"
@@ -17,7 +18,8 @@ namespace ovl {
 namespace {
 
 constexpr QSize kStartSize(940, 420);
-constexpr int kValueWidth = 130;
+constexpr qsizetype kShownDigits = 16;
+constexpr int kWas = 3, kIs = 4;
 constexpr std::array kSections = {"SYSCFG", "SYSFIXED", "SYSSTR"};
 
 QString PlaceOf(const FieldDifference& difference) {
@@ -28,6 +30,15 @@ QString PlaceOf(const FieldDifference& difference) {
 QString EditorsOf(const Application& app, const FieldDifference& difference) {
   const auto words = EditedBy(app, difference.field->id, "options", difference.before, difference.after);
   return words.empty() ? QStringLiteral("shown nowhere") : FromWindows1252(words);
+}
+
+// A long content begins with the first byte that differs.
+QString FromDifference(const QString& value, const QString& other) {
+  if (value.size() <= kShownDigits) return value;
+  qsizetype at = 0;
+  while (at < std::min(value.size(), other.size()) && value[at] == other[at]) ++at;
+  at -= at % 2;
+  return (at == 0 ? QString() : QString(QChar(0x2026))) + value.mid(at);
 }
 
 QString CountOf(std::size_t count) {
@@ -44,22 +55,13 @@ ChangesWindow::ChangesWindow(const Application& app, QWidget* parent) : QDialog(
 
 void ChangesWindow::Build() {
   told_ = MutedLabel({});
-  list_ = new QTreeWidget;
+  list_ = new OverviewList({{QStringLiteral("Field"), QStringLiteral("DEVICE_INDEX_BAK")},
+                            {QStringLiteral("Byte"), QStringLiteral("SYSFIXED 112")},
+                            {QStringLiteral("Panel and label"), {}},
+                            {QStringLiteral("Was"), QString(kShownDigits + 3, QLatin1Char('0'))},
+                            {QStringLiteral("Is"), QString(kShownDigits + 3, QLatin1Char('0'))}});
   list_->setObjectName(QStringLiteral("ChangesList"));
   list_->setAccessibleName(QStringLiteral("Changed fields"));
-  list_->setRootIsDecorated(false);
-  list_->setUniformRowHeights(true);
-  list_->setAlternatingRowColors(true);
-  list_->setTextElideMode(Qt::ElideRight);
-  list_->setHeaderLabels({QStringLiteral("Field"), QStringLiteral("Byte"), QStringLiteral("Panel and label"),
-                          QStringLiteral("Was"), QStringLiteral("Is")});
-  list_->header()->setStretchLastSection(false);
-  list_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  list_->header()->setSectionResizeMode(2, QHeaderView::Stretch);
-  for (const int value : {3, 4}) {
-    list_->header()->setSectionResizeMode(value, QHeaderView::Interactive);
-    list_->header()->resizeSection(value, kValueWidth);
-  }
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::close);
   auto* down = new QVBoxLayout(this);
@@ -68,6 +70,7 @@ void ChangesWindow::Build() {
   down->addWidget(told_);
   down->addWidget(list_);
   down->addWidget(buttons);
+  AssignPageMnemonics(*this, {});
 }
 
 void ChangesWindow::Open() {
@@ -93,15 +96,20 @@ void ChangesWindow::Fill(const std::vector<FieldDifference>& differences) {
           : QStringLiteral("What a download would change in a unit that holds the configuration "
                            "last loaded: %1.")
                 .arg(CountOf(differences.size())));
-  list_->clear();
+  std::vector<OverviewLine> lines;
   for (const auto& difference : differences) {
+    const auto was = FromWindows1252(difference.before), is = FromWindows1252(difference.after);
     const QStringList cells = {FromWindows1252(difference.name), PlaceOf(difference),
-                               EditorsOf(app_, difference), FromWindows1252(difference.before),
-                               FromWindows1252(difference.after)};
-    auto* line = new QTreeWidgetItem(list_, cells);
-    for (int column = 0; column < cells.size(); ++column) line->setToolTip(column, cells.at(column));
+                               EditorsOf(app_, difference), FromDifference(was, is), FromDifference(is, was)};
+    lines.push_back({cells, true});
   }
-  if (list_->topLevelItemCount() > 0) list_->setCurrentItem(list_->topLevelItem(0));
+  list_->Show(lines);
+  for (int line = 0; line < list_->topLevelItemCount(); ++line) {
+    const auto& difference = differences[static_cast<std::size_t>(line)];
+    list_->topLevelItem(line)->setToolTip(kWas, FromWindows1252(difference.before));
+    list_->topLevelItem(line)->setToolTip(kIs, FromWindows1252(difference.after));
+  }
+  if (!lines.empty()) list_->MoveTo(0);
 }
 
 QPushButton* BuildChangesButton(Bindings& bindings, ChangesWindow& window) {

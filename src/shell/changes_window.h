@@ -10,9 +10,10 @@
 
 class QLabel;
 class QPushButton;
-class QTreeWidget;
 
 namespace ovl {
+
+class OverviewList;
 
 class ChangesWindow : public QDialog {
  public:
@@ -29,7 +30,7 @@ class ChangesWindow : public QDialog {
 
   const Application& app_;
   QLabel* told_ = nullptr;
-  QTreeWidget* list_ = nullptr;
+  OverviewList* list_ = nullptr;
   Shadow<ConfigImage> known_, image_;
 };
 

@@ -48,9 +48,9 @@ class LineDelegate : public QStyledItemDelegate {
     auto font = option.font;
     if (marked) font.setWeight(QFont::DemiBold);
     painter->setFont(font);
-    painter->setPen(strong                           ? palette.color(QPalette::HighlightedText)
-                    : index.data(kUsedRole).toBool() ? palette.color(QPalette::Text)
-                                                     : MutedColor(palette));
+    painter->setPen(strong                                     ? palette.color(QPalette::HighlightedText)
+                    : marked || index.data(kUsedRole).toBool() ? palette.color(QPalette::Text)
+                                                               : MutedColor(palette));
     const auto place = option.rect.adjusted(kCellPadding, 0, -kCellPadding, 0);
     const auto text = QFontMetrics(font).elidedText(index.data().toString(), Qt::ElideRight, place.width());
     painter->drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
@@ -142,6 +142,7 @@ void OverviewList::keyPressEvent(QKeyEvent* event) {
       if (picked && CurrentLine() >= 0) picked(CurrentLine());
       return;
     case Qt::Key_Escape:
+      if (marked_ < 0) return QTreeWidget::keyPressEvent(event);
       MoveTo(marked_);
       return;
     default:
@@ -153,7 +154,7 @@ void OverviewList::focusOutEvent(QFocusEvent* event) {
   QTreeWidget::focusOutEvent(event);
   const bool stays =
       event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
-  if (!stays) MoveTo(marked_);
+  if (!stays && marked_ >= 0) MoveTo(marked_);
 }
 
 QWidget* BuildOverview(Bindings& bindings, List& list, Overview overview) {

@@ -37,13 +37,15 @@ class OverviewList : public QTreeWidget {
   void SetMarked(int line);
   int Marked() const { return marked_; }
 
+  // The cursor alone.
+  void MoveTo(int line);
+
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
   int CurrentLine() const { return indexOfTopLevelItem(currentItem()); }
-  void MoveTo(int line);
 
   int marked_ = -1;
 };
