@@ -22,6 +22,8 @@ constexpr std::size_t kPartOfUpload = 2870;
 constexpr char kAck = '\x06';
 constexpr int kRegisterTab = 0;
 constexpr int kCommunicationTab = 3;
+constexpr int kExceptionTab = 4;
+constexpr int kTimeTab = 5;
 constexpr int kRemoteTab = 6;
 constexpr int kClockTicks = 10;  // until the clock lists are set
 
@@ -79,6 +81,7 @@ class Photographer {
     TakeLink();
     TakeScan();
     TakeHelp();
+    TakeFocus();
   }
 
  private:
@@ -87,6 +90,7 @@ class Photographer {
 
   void Take(QWidget& window, const QString& name) {
     program_.RefreshNow();
+    QApplication::setActiveWindow(&window);
     QCoreApplication::sendPostedEvents();
     done_ = window.grab().save(folder_.filePath(name + QStringLiteral(".png"))) && done_;
   }
@@ -140,10 +144,17 @@ class Photographer {
     return true;
   }
 
-  void Choose(OptionArray& array, int element) { program_.Act(ClickEvent{OptionElement{&array, element}}); }
+  // False for an option that this firmware does not offer.
+  bool Choose(OptionArray& array, int element) {
+    program_.RefreshNow();
+    const auto& face = array.elements.at(static_cast<std::size_t>(element));
+    const auto* button = program_.OnScreen().Controls().WidgetOf(face);
+    if (button == nullptr || !button->isVisible()) return false;
+    program_.Act(ClickEvent{OptionElement{&array, element}});
+    return true;
+  }
 
   void TakeRegisters() {
-    constexpr std::size_t kUniwellFrame = 49;
     auto& form = App().frmMain;
     auto& tabs = Main().Tabs();
     tabs.setCurrentIndex(kRegisterTab);
@@ -151,7 +162,7 @@ class Photographer {
       if (!PickRegister(name)) continue;
       if (name == "IBM") Choose(form.IBMOP, 0);
       if (name == "NCR") Choose(form.NCROP, 1);
-      if (name == "UNIWELL" && form.frmAddress[kUniwellFrame].visible) Choose(form.UNIWOP, 1);
+      if (name == "UNIWELL") Choose(form.UNIWOP, 1);
       if (name == "GILBARCO") Choose(form.OpGilbraco, 5);
       Take(Main(), QStringLiteral("register_") + QString::fromLatin1(name.data()).toLower());
     }
@@ -172,7 +183,7 @@ class Photographer {
     constexpr std::array kPanels = {"", "micros_idn", "micros_isn", "micros_3700"};
     if (!PickRegister("MICROS")) return;
     for (int mode = 0; mode < static_cast<int>(kPanels.size()); ++mode) {
-      Choose(App().frmMain.OpMicros, mode);
+      if (!Choose(App().frmMain.OpMicros, mode)) continue;
       const auto name = QString::fromLatin1(kPanels.at(static_cast<std::size_t>(mode)));
       if (!name.isEmpty()) TakeForm(App().frmMicros.form, name);
     }
@@ -181,16 +192,13 @@ class Photographer {
   }
 
   void TakeSubMenus() {
-    constexpr std::size_t kCasioFrame = 34, kSharpFrame = 46;
     constexpr int kWithPort = 18, kFourWays = 12, kTerminal = 22;
     auto& form = App().frmMain;
-    if (PickRegister("CASIO") && form.frmAddress[kCasioFrame].visible) {
-      Choose(form.CASIOOP, kWithPort);
+    if (PickRegister("CASIO") && Choose(form.CASIOOP, kWithPort)) {
       Take(Main(), QStringLiteral("register_casio"));
       TakeForm(App().FrmSubMenu.form, QStringLiteral("sub_menu_casio"));
     }
-    if (PickRegister("SHARP") && form.frmAddress[kSharpFrame].visible) {
-      Choose(form.SharpOP, kFourWays);
+    if (PickRegister("SHARP") && Choose(form.SharpOP, kFourWays)) {
       TakeForm(App().FrmSubMenu.form, QStringLiteral("sub_menu_sharp"));
       Choose(form.SharpOP, kTerminal);
       TakeForm(App().FrmSubMenu.form, QStringLiteral("sub_menu_terminal"));
@@ -266,6 +274,31 @@ class Photographer {
     help.Window()->close();
   }
 
+  // Where the keyboard is, for each kind of control.
+  void TakeFocus() {
+    const auto& form = App().frmMain;
+    struct Row {
+      int tab;
+      const Face* control;
+      const char* name;
+    };
+    const Row rows[] = {{kCommunicationTab, &form.ComboCOMM[3], "focus_list"},
+                        {kTimeTab, &form.Title_Text, "focus_text"},
+                        {kRemoteTab, &form.cmdConnect, "focus_button"},
+                        {kRemoteTab, &form.CheckTD, "focus_check"},
+                        {kExceptionTab, &form.OpDVR.elements[0], "focus_option"},
+                        {kRegisterTab, &form.ComboReg, "focus_registers"}};
+    for (const auto& row : rows) {
+      Main().Tabs().setCurrentIndex(row.tab);
+      program_.RefreshNow();
+      if (auto* widget = program_.OnScreen().Controls().WidgetOf(*row.control))
+        widget->setFocus(Qt::TabFocusReason);
+      Take(Main(), QString::fromLatin1(row.name));
+    }
+    Main().Tabs().setFocus(Qt::TabFocusReason);
+    Take(Main(), QStringLiteral("focus_tabs"));
+  }
+
   void Click(Button& button) { program_.Act(ClickEvent{&button}); }
 
   Program& program_;
@@ -274,22 +307,28 @@ class Photographer {
   bool done_ = true;
 };
 
-}  // namespace
-
-bool SavePictures(Program& program, const QString& folder) {
+// A program of its own for each theme: what the first one did to its link would show in the other.
+bool SaveTheme(const QString& program_folder, const QString& store, const QString& folder) {
+  Program program(program_folder, store);
   auto& platform = program.Model().platform;
   platform.show_message = [](const MessageBox&) {};
   platform.ask_file = [](const FileDialog&) { return std::optional<FileAnswer>(); };
   platform.clock = [] { return kPictureTime; };
   PlayedLine line(program);
   if (program.Start() == Outcome::kEnded) return false;
+  Photographer photographer(program, line, QDir(folder));
+  photographer.TakeAll();
+  return photographer.Done();
+}
+
+}  // namespace
+
+bool SavePictures(const QString& program_folder, const QString& store, const QString& folder) {
   for (const auto& [theme, name] : {std::pair(Theme::kLight, "light"), std::pair(Theme::kDark, "dark")}) {
     const QDir below(QDir(folder).filePath(QString::fromLatin1(name)));
     if (!QDir().mkpath(below.path())) return false;
     ApplyTheme(theme);
-    Photographer photographer(program, line, below);
-    photographer.TakeAll();
-    if (!photographer.Done()) return false;
+    if (!SaveTheme(program_folder, store, below.path())) return false;
   }
   return true;
 }

@@ -67,7 +67,8 @@ class Installer {
 
   void SetTitleAndDemo() {
     SetText(app_.frmMain.cmdTitle, "CORNER SHOP");
-    if (!app_.frmMain.DemoMode.checked) program_.Act(ClickEvent{&app_.frmMain.DemoMode});
+    const auto& form = app_.frmMain;
+    if (form.FrameDemo.visible && !form.DemoMode.checked) program_.Act(ClickEvent{&app_.frmMain.DemoMode});
   }
 
  private:

@@ -465,8 +465,7 @@ TEST(Pictures, EveryStateIsTakenInBothThemes) {
   std::filesystem::create_directories(site.Path() / "ORB");
   WriteWhole(site.File("ORB/OVL Software.conf"), "[General]\nVersion=V1400\nRelease=R12\n");
   const auto folder = QString::fromStdString(site.Path().string());
-  Program program(folder, folder);
-  ASSERT_TRUE(SavePictures(program, QString::fromStdString(shots.Path().string())));
+  ASSERT_TRUE(SavePictures(folder, folder, QString::fromStdString(shots.Path().string())));
   for (const char* theme : {"light", "dark"}) {
     const QDir below(QString::fromStdString(shots.File(theme)));
     const auto load = [&](const char* name) { return QImage(below.filePath(QString::fromLatin1(name))); };
