@@ -34,7 +34,7 @@ FormWindow* BuildAboutWindow(Bindings& bindings, QWidget* parent) {
   name->setFont(font);
   add("lbVersion");
   add("lbFirmware");
-  auto* toolkit = MutedLabel(QStringLiteral("Qt %1").arg(QString::fromLatin1(qVersion())));
+  auto* toolkit = new QLabel(QStringLiteral("Qt %1").arg(QString::fromLatin1(qVersion())));
   toolkit->setObjectName(QStringLiteral("Toolkit"));
   down->addWidget(toolkit);
   add("lbLicence");

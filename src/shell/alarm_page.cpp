@@ -56,7 +56,7 @@ QWidget* AlarmOverview(Bindings& bindings) {
                          {QStringLiteral("Normal"), QStringLiteral("NC")},
                          {QStringLiteral("Text"), {}}},
                         [&app] { return AlarmLines(app); },
-                        [] { return QStringLiteral("EX. the exceptions that trigger the alarm"); }});
+                        [] { return QStringLiteral("EX. exceptions   NO normally open   NC normally closed"); }});
 }
 
 void AddEditor(PageColumn& column, const MainForm& form) {

@@ -110,7 +110,7 @@ void Bindings::FollowFace(QWidget& widget, const Face& face, const Face* group) 
 void Bindings::FollowCaption(QAbstractButton& button, const Face& face) {
   Follow([&button, &face, caption = Shadow<std::string>()]() mutable {
     if (!caption.Update(face.caption)) return false;
-    button.setText(CaptionText(face.caption));
+    button.setText(CaptionText(face.caption).trimmed());
     button.setAccessibleName(FromWindows1252(face.caption));
     return true;
   });

@@ -20,6 +20,7 @@ constexpr std::size_t kLengthDigits = 2;
 constexpr int kFreeBit = 4;
 constexpr int kRangeBoxWidth = 96;
 constexpr int kBoxPadding = 4;
+constexpr int kBelowOption = 20;
 constexpr int kShortRowWidth = 210;
 
 // What an exception can set off: its list, its bit in the slot's flags, and how the overview shows it.
@@ -145,6 +146,9 @@ void AddRecorder(Bindings& bindings, PageColumn& column) {
     const auto& recorder = form.OpDVR.elements.at(1 + list / 2).caption;
     auto* widget = bindings.WidgetOf(form.ComboKLM4011[list]);
     widget->setAccessibleName(FromWindows1252(recorder + " " + form.ComboKLM4011[list].caption));
+    for (auto* label : column.Holder().findChildren<QLabel*>()) {
+      if (label->buddy() == widget) label->setIndent(kBelowOption);
+    }
   }
 }
 

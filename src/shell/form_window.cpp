@@ -41,7 +41,8 @@ bool FormWindow::Follow() {
 void FormWindow::Open() {
   setWindowFlag(Qt::WindowStaysOnTopHint, form_.top_most);
   for (auto* button : findChildren<QPushButton*>()) button->installEventFilter(this);
-  adjustSize();
+  // A window of its own choice of size may take all of a small screen.
+  resize(sizeHint().boundedTo(screen()->availableSize()));
   if (beside_) PlaceBeside();
   AssignPageMnemonics(*this, {});
   show();

@@ -125,10 +125,11 @@ QWidget* HelpWindow::BuildPage() {
   auto* holder = new QWidget;
   auto* down = new QVBoxLayout(holder);
   down->setContentsMargins(0, kMargin, 0, 0);
-  down->setSpacing(0);
+  down->setSpacing(kRowGap);
   browser_ = new HelpBrowser(pages_, this);
   auto* buttons = new QHBoxLayout;
   buttons->setContentsMargins(kMargin, 0, kMargin, 0);
+  buttons->setSpacing(kFieldGap);
   const auto add = [&](const QString& text, const QString& keys, auto available, auto go) {
     auto* button = new QPushButton(text);
     button->setToolTip(keys);

@@ -265,7 +265,7 @@ QWidget* PageColumn::MakeFields(const QString& label, const std::vector<Field>& 
   return holder;
 }
 
-QLabel* PageColumn::MakeRowLabel(const RowLabel& label, const NamedControl& first) {
+QLabel* PageColumn::MakeRowLabel(const RowLabel& label, const NamedControl& first, const Face* cover) {
   auto* text = new RowText(CaptionText(label.text.toStdString()));
   text->setTextFormat(Qt::PlainText);
   const Face* named =
@@ -280,13 +280,17 @@ QLabel* PageColumn::MakeRowLabel(const RowLabel& label, const NamedControl& firs
       return true;
     });
   }
-  bindings_.Follow([text, named, &face, caption = Shadow<std::string>(), enabled = Shadow<bool>()]() mutable {
-    const bool can = face.enabled && (named == nullptr || named->enabled);
-    if (enabled.Update(can)) text->setEnabled(can);
-    if (named == nullptr || !caption.Update(named->visible ? named->caption : std::string())) return false;
-    text->setText(named->visible ? CaptionText(named->caption) : QString());
-    return true;
-  });
+  // The label of what is covered is as faint as what covers it.
+  bindings_.Follow(
+      [text, named, cover, &face, caption = Shadow<std::string>(), enabled = Shadow<bool>()]() mutable {
+        const bool covered = cover != nullptr && cover->visible;
+        const bool can = face.enabled && !covered && (named == nullptr || named->enabled);
+        if (enabled.Update(can)) text->setEnabled(can);
+        if (named == nullptr || !caption.Update(named->visible ? named->caption : std::string()))
+          return false;
+        text->setText(named->visible ? CaptionText(named->caption) : QString());
+        return true;
+      });
   return text;
 }
 
@@ -300,7 +304,9 @@ PageColumn& PageColumn::Row(const RowLabel& label, const std::vector<Field>& fie
   const auto& control = bindings_.Named(form_, fields.front().names.front());
   QWidget* first = nullptr;
   auto* holder = MakeFields(CalledBy(label, control), fields, first);
-  return AddRow(label, control, holder, *first, AnyVisible(fields));
+  const auto& cover = fields.front().cover;
+  const auto* above = cover.empty() ? nullptr : &FaceOf(bindings_.Named(form_, cover).control);
+  return AddRow(label, control, holder, *first, AnyVisible(fields), above);
 }
 
 PageColumn& PageColumn::Row(const char* name, QWidget* holder) {
@@ -310,8 +316,8 @@ PageColumn& PageColumn::Row(const char* name, QWidget* holder) {
 }
 
 PageColumn& PageColumn::AddRow(const RowLabel& label, const NamedControl& control, QWidget* fields,
-                               QWidget& first, std::function<bool()> shown) {
-  auto* text = MakeRowLabel(label, control);
+                               QWidget& first, std::function<bool()> shown, const Face* cover) {
+  auto* text = MakeRowLabel(label, control, cover);
   text->setMinimumHeight(first.sizeHint().height());
   Attach(*text, first);
   Add(text, fields, std::move(shown));

@@ -134,8 +134,8 @@ class PageColumn {
   QWidget* MakeFields(const QString& label, const std::vector<Field>& fields, QWidget*& first);
   QWidget* MakeField(const QString& label, const Field& field, QWidget*& first);
   PageColumn& AddRow(const RowLabel& label, const NamedControl& control, QWidget* fields, QWidget& first,
-                     std::function<bool()> shown);
-  QLabel* MakeRowLabel(const RowLabel& label, const NamedControl& first);
+                     std::function<bool()> shown, const Face* cover = nullptr);
+  QLabel* MakeRowLabel(const RowLabel& label, const NamedControl& first, const Face* cover);
 
   Bindings& bindings_;
   const Form& form_;

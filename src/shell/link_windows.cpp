@@ -5,6 +5,9 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <initializer_list>
+#include <vector>
 
 #include "shell/layout.h"
 #include "shell/platform/comports.h"
@@ -76,6 +79,19 @@ QWidget* PortField(Bindings& bindings, const Form& form) {
   return holder;
 }
 
+// Columns of option buttons below one another begin at the same places.
+void AlignOptions(Bindings& bindings, std::initializer_list<const OptionArray*> arrays) {
+  std::vector<QWidget*> buttons;
+  int widest = 0;
+  for (const auto* array : arrays) {
+    for (const auto& element : array->elements) {
+      buttons.push_back(bindings.WidgetOf(element));
+      widest = std::max(widest, buttons.back()->sizeHint().width());
+    }
+  }
+  for (auto* button : buttons) button->setMinimumWidth(widest);
+}
+
 }  // namespace
 
 FormWindow* BuildPortSettingsWindow(Bindings& bindings, QWidget* parent) {
@@ -89,6 +105,7 @@ FormWindow* BuildPortSettingsWindow(Bindings& bindings, QWidget* parent) {
   column.OwnSection(title(model.baudrate_frame)).Options("OpBaud", kBaudColumns);
   column.OwnSection(title(model.data_bits_frame)).Options("OpDataBits", 2);
   column.OwnSection(title(model.parity_frame)).Options("OpParity", 3);
+  AlignOptions(bindings, {&model.OpBaud, &model.OpDataBits, &model.OpParity});
   down->addWidget(settings);
   auto* advice = bindings.Make(bindings.Named(model.form, "Label1"));
   advice->setForegroundRole(QPalette::PlaceholderText);

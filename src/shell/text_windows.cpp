@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -21,6 +22,7 @@ namespace {
 constexpr int kButtonWidth = 112;
 constexpr int kTextWidth = 440;
 constexpr QSize kViewerSize(720, 480);
+constexpr int kTextMargin = 12;
 
 QWidget* Part(Bindings& bindings, const Form& form, std::string_view name, const QString& label = {}) {
   return bindings.Make(bindings.Named(form, name), label);
@@ -192,6 +194,8 @@ FormWindow* BuildViewerWindow(Bindings& bindings, QWidget* parent) {
   lines->setUndoRedoEnabled(false);
   lines->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   lines->setFrameShape(QFrame::NoFrame);
+  const QSignalBlocker no_change_of_text(lines);
+  lines->document()->setDocumentMargin(kTextMargin);
   inside->addWidget(lines);
   down->addWidget(pane);
   return window;

@@ -70,7 +70,9 @@ void Windows::FillHelpMenu() {
 }
 
 void Windows::Build(Follower& form) {
+  building_ = true;
   form.window = form.build(bindings_, main_.get());
+  building_ = false;
   if (form.beside) form.window->StandBeside();
 }
 
@@ -89,6 +91,7 @@ void Windows::BuildAll() {
 }
 
 void Windows::Refresh() {
+  if (building_) return;
   for (auto& form : forms_) {
     if (form.window == nullptr && form.Wanted()) Build(form);
   }

@@ -70,6 +70,7 @@ class Windows {
   FocusFollower main_focus_;
   std::vector<Follower> forms_;
   QTimer idle_;
+  bool building_ = false;  // what a widget tells while its window is built comes too early
 };
 
 }  // namespace ovl
