@@ -5,11 +5,15 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <map>
 #include <string>
 
 namespace ovl {
 namespace {
 
+using namespace std::string_literals;
+
+const SettingValue kNone = "(none)";
 constexpr auto kKey = "SOFTWARE\\ORB\\OVL Software";
 
 class Settings : public testing::Test {
@@ -23,60 +27,49 @@ class Settings : public testing::Test {
     ASSERT_EQ(file.write(bytes), bytes.size());
   }
 
-  std::string Text(const char* value) const {
-    const auto found = store_.Read(kKey, value);
-    if (!found) return "(none)";
-    const auto* text = std::get_if<std::string>(&*found);
-    return text == nullptr ? "(number)" : *text;
-  }
+  SettingValue At(const char* value) const { return store_.Read(kKey, value).value_or("(none)"); }
 
   QTemporaryDir folder_;
   SettingsStore store_{folder_.path()};
 };
 
 TEST_F(Settings, WhatIsWrittenIsFoundByTheNextStart) {
-  EXPECT_TRUE(store_.Write(kKey, "Version", "V1400"));
-  EXPECT_TRUE(store_.Write(kKey, "Release", std::string(300, '\xE4')));
-  EXPECT_TRUE(store_.Write(kKey, "Other", "a, b;\"=\\\x01\x80"));
-  EXPECT_TRUE(QFile::exists(File()));
-  EXPECT_EQ(Text("Version"), "V1400");
-  EXPECT_EQ(Text("Release"), std::string(300, '\xE4'));
-  EXPECT_EQ(Text("Other"), "a, b;\"=\\\x01\x80");
+  EXPECT_EQ(store_.WhyNotRead(), File().toStdString() + ": No such file or directory");
+  // Content that is no settings file is replaced.
+  for (const auto& before : {QByteArray(), QByteArray("\0\xFF[[[\x80 no settings\n\xFE\0=", 21)}) {
+    if (!before.isEmpty()) Content(before);
+    EXPECT_EQ(At("Version"), kNone);
+    for (const auto& text : {"V1400"s, std::string(300, '\xE4'), "a, b;\"=\\\x01\x80"s}) {
+      EXPECT_TRUE(store_.Write(kKey, "Version", text));
+      EXPECT_EQ(At("Version"), SettingValue(text));
+    }
+    EXPECT_TRUE(QFile::remove(File()));
+  }
 }
 
-TEST_F(Settings, AFileWrittenByHandIsRead) {
-  Content("Version=V1300\nRelease=14\nEmpty=\nList=a, b\n\n[Group]\nInside=x\n");
-  EXPECT_EQ(Text("Version"), "V1300");
-  EXPECT_EQ(Text("Release"), "14");
-  EXPECT_EQ(Text("Empty"), "");
-  EXPECT_EQ(Text("List"), "a, b");
-  EXPECT_EQ(Text("Missing"), "(none)");
-  EXPECT_EQ(Text("Group/Inside"), "(none)");
+TEST_F(Settings, AFileWrittenByHandIsReadAsFarAsItHasTextsOfTheProgramsCharacters) {
+  Content(
+      "Version=V1300\nRelease=14\nEmpty=\nList=a, b\nForeign=\"\xD0\xB9\"\n"
+      "Number=@Variant(\\0\\0\\0\\x2\\0\\0\\x5x)\n\n[Group]\nInside=x\n");
+  const std::map<const char*, SettingValue> rows = {{"Version", "V1300"}, {"Release", "14"},
+                                                    {"Empty", ""},        {"List", "a, b"},
+                                                    {"Foreign", kNone},   {"Number", std::uint32_t{1400}},
+                                                    {"Missing", kNone},   {"Group/Inside", kNone}};
+  for (const auto& [value, found] : rows) EXPECT_EQ(At(value), found) << value;
   EXPECT_EQ(store_.Read("SOFTWARE\\ORB", "Version"), std::nullopt);
   EXPECT_FALSE(store_.Write("SOFTWARE\\ORB", "Version", "V1400"));
 }
 
-TEST_F(Settings, ANumberKeepsItsKind) {
-  Content("Version=@Variant(\\0\\0\\0\\x2\\0\\0\\x5x)\n");
-  EXPECT_EQ(store_.Read(kKey, "Version"), SettingValue(std::uint32_t{1400}));
-}
-
-TEST_F(Settings, WithoutAFileThereIsNothing) {
-  EXPECT_EQ(Text("Version"), "(none)");
-  EXPECT_EQ(store_.WhyNotRead(), File().toStdString() + ": No such file or directory");
-}
-
-TEST_F(Settings, AFolderInTheFilesPlaceHoldsNothing) {
-  QDir(folder_.path()).mkpath("ORB/OVL Software.conf");
-  EXPECT_EQ(Text("Version"), "(none)");
-  EXPECT_FALSE(store_.Write(kKey, "Version", "V1400"));
-}
-
-TEST_F(Settings, AFileInTheFoldersPlaceRefusesToBeWritten) {
+TEST_F(Settings, WhatStandsInThePlaceOfFileOrFolderHoldsNothingAndIsNotWritten) {
   ASSERT_TRUE(QFile(folder_.filePath("ORB")).open(QIODevice::WriteOnly));
   EXPECT_FALSE(store_.Write(kKey, "Version", "V1400"));
-  EXPECT_EQ(Text("Version"), "(none)");
+  EXPECT_EQ(At("Version"), kNone);
   EXPECT_EQ(store_.WhyNotWritten(), folder_.filePath("ORB").toStdString() + ": Not a directory");
+
+  ASSERT_TRUE(QFile::remove(folder_.filePath("ORB")));
+  QDir(folder_.path()).mkpath("ORB/OVL Software.conf");
+  EXPECT_EQ(At("Version"), kNone);
+  EXPECT_FALSE(store_.Write(kKey, "Version", "V1400"));
 }
 
 // As on desktops that put folders of their own ahead.
@@ -89,19 +82,7 @@ TEST_F(Settings, TheMachinesFileIsFoundBehindOtherPlaces) {
   EXPECT_EQ(machine.Read(kKey, "Version"), SettingValue("V1300"));
   EXPECT_TRUE(machine.Write(kKey, "Version", "V1400"));
   qputenv("XDG_CONFIG_DIRS", before);
-  EXPECT_EQ(Text("Version"), "V1400");
-}
-
-TEST_F(Settings, ContentThatIsNoSettingsFileIsReplaced) {
-  Content(QByteArray("\0\xFF[[[\x80 no settings\n\xFE\0=", 21));
-  EXPECT_EQ(Text("Version"), "(none)");
-  EXPECT_TRUE(store_.Write(kKey, "Version", "V1400"));
-  EXPECT_EQ(Text("Version"), "V1400");
-}
-
-TEST_F(Settings, ATextBeyondTheProgramsCharactersIsNoValue) {
-  Content("Version=\"\xD0\xB9\"\n");
-  EXPECT_EQ(Text("Version"), "(none)");
+  EXPECT_EQ(At("Version"), SettingValue("V1400"));
 }
 
 }  // namespace

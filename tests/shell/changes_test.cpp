@@ -3,49 +3,47 @@
 #include <QTreeWidget>
 
 #include "link/transfer.h"
-#include "shell/changes_window.h"
-#include "shell/screen.h"
+#include "screen.h"
 
 namespace ovl::testing {
 namespace {
 
+using Changes = ScreenTest;
+
 std::string Listed(Screen& screen) {
-  std::string lines;
+  QStringList cells;
   const auto& list = screen.Find<QTreeWidget>("ChangesList");
   for (int line = 0; line < list.topLevelItemCount(); ++line) {
-    for (int column = 0; column < list.columnCount(); ++column) {
-      lines += list.topLevelItem(line)->text(column).toStdString() + (column < 4 ? "|" : "\n");
-    }
+    for (int at = 0; at < list.columnCount(); ++at) cells.append(list.topLevelItem(line)->text(at));
   }
-  return lines;
+  return cells.join('|').toStdString();
 }
 
-TEST(Changes, AreListedByFieldPlaceAndLabelWithTheBytesThenAndNow) {
-  Screen screen({"V1400", "R12"});
-  auto& app = screen.App();
-  const auto& button = screen.Find<QPushButton>("StatusChanges");
+TEST_F(Changes, AreListedByFieldPlaceAndLabelWithTheBytesThenAndNow) {
+  auto& app = App();
+  const auto& button = Find<QPushButton>("StatusChanges");
   EXPECT_FALSE(button.isVisible());
-
-  const auto line = app.image[FieldId::COMMCFG_BAK];
-  screen.Pick("ComboCOMM(3)", app.frmMain.ComboCOMM[3].position == 0 ? 1 : 0);
+  const auto other = [&](const List& list) { return list.position == 0 ? 1 : 0; };
+  const auto& line = app.image[FieldId::COMMCFG_BAK];
+  const auto expected = "COMMCFG_BAK|SYSCFG 1|COMMUNICATION: PARITY|" + line + "|";
+  Pick("ComboCOMM(3)", other(app.frmMain.ComboCOMM[3]));
   EXPECT_EQ(button.text(), "1 change");
-  screen.Click("StatusChanges");
-  EXPECT_EQ(Listed(screen), "COMMCFG_BAK|SYSCFG 1|COMMUNICATION: PARITY|" + line + "|" +
-                                app.image[FieldId::COMMCFG_BAK] + "\n");
+  Click("StatusChanges");
+  EXPECT_EQ(Listed(*this), expected + line);
 
   app.image.at(FieldId::EXCPSTRS, 2).replace(0, 2, "55");
-  screen.Show();
+  Show();
   EXPECT_EQ(button.text(), "2 changes");
-  EXPECT_NE(Listed(screen).find("EXCPSTRS(2)|SYSSTR "), std::string::npos);
+  EXPECT_NE(Listed(*this).find("|EXCPSTRS(2)|SYSSTR "), std::string::npos);
 
   StartDownload(app);
   const auto sent = app.image;
-  screen.Pick("ComboTD(2)", app.frmMain.ComboTD[2].position == 0 ? 1 : 0);
+  Pick("ComboTD(2)", other(app.frmMain.ComboTD[2]));
   FinishDownload(app);
-  screen.Show();
+  Show();
   EXPECT_EQ(button.text(), "1 change") << "the unit holds what was sent, not what was picked meanwhile";
   EXPECT_TRUE(app.known_image == sent);
-  EXPECT_NE(Listed(screen).find("DATE_FORMAT_BAK|SYSFIXED "), std::string::npos);
+  EXPECT_EQ(Listed(*this).find("DATE_FORMAT_BAK|SYSFIXED "), 0U);
 }
 
 }  // namespace

@@ -1,240 +1,207 @@
 // The help has a word for everything that a person can meet, and its window leads there.
-#include <gtest/gtest.h>
-
-#include <QApplication>
 #include <QDesktopServices>
 #include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QRegularExpression>
-#include <QTabWidget>
 #include <QTextBrowser>
 #include <QTimer>
-#include <QUrl>
 
 #include "core/messages.h"
 #include "image/field_map.h"
+#include "screen.h"
 #include "shell/boxes.h"
 #include "shell/guide.h"
 #include "shell/help_pages.h"
 #include "shell/help_topics.h"
 #include "shell/manuals.h"
-#include "shell/program.h"
-#include "support/installed.h"
+#include "shell/tool_tips.h"
 
 namespace ovl::testing {
 namespace {
 
 QString Latin(std::string_view text) {
-  return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
+  return QString::fromLatin1(text);
 }
 
-bool Exists(const QString& page) {
-  return !page.isEmpty() && QFile::exists(kEmbeddedHelp + QLatin1Char('/') + page);
+class HelpPagesTest : public ::testing::Test {
+ protected:
+  // The page, with a heading that the anchor leads to.
+  bool Exists(const QString& page, const QString& anchor = {}) const {
+    const auto lines = pages_.Text(page).split('\n');
+    const bool leads = anchor.isEmpty() || std::any_of(lines.begin(), lines.end(), [&](const QString& line) {
+                         return line.startsWith('#') && AnchorOf(line) == anchor;
+                       });
+    return leads && !page.isEmpty() && QFile::exists(kEmbeddedHelp + '/' + page);
+  }
+
+  const HelpPages pages_{kEmbeddedHelp};
+};
+
+TEST_F(HelpPagesTest, ExplainEveryMessage) {
+  const auto page = pages_.Text("messages.md");
+  for (const auto& box : BoxTable()) {
+    SCOPED_TRACE(box.topic);
+    const auto head = "\n## " + Latin(box.topic) + '\n';
+    ASSERT_TRUE(page.contains(head));
+    const auto entry = page.mid(page.indexOf(head) + 1).section("\n## ", 0, 0);
+    auto parts = Latin(box.text).replace(Latin(kDetail), "…").split('\n');
+    for (auto& line : parts) line = "\n> " + line.trimmed();
+    for (const auto& part : parts + QStringList{Latin(box.title), "**Cause.** ", "**Cure.** "}) {
+      EXPECT_TRUE(entry.contains(part)) << "lacks " << part.toStdString();
+    }
+  }
 }
 
-// What a person picks, presses or types into.
-bool IsField(const ControlRef& control) {
-  return std::holds_alternative<List*>(control) || std::holds_alternative<OptionArray*>(control) ||
-         std::holds_alternative<TextBox*>(control) || std::holds_alternative<Button*>(control) ||
-         std::holds_alternative<CheckBox*>(control);
+template <class... Kinds>
+bool Holds(const ControlRef& control) {
+  return (... || std::holds_alternative<Kinds>(control));
 }
 
 // By its name, or that of the array that it belongs to.
 bool Names(const QString& text, const std::string& control) {
-  const auto sign = [&](std::string_view name) {
-    return text.contains(QLatin1Char('`') + Latin(name) + QLatin1Char('`'));
-  };
-  return sign(control) || sign(std::string_view(control).substr(0, control.find('(')));
+  const auto name = QString::fromStdString(control);
+  return text.contains('`' + name + '`') || text.contains('`' + name.section('(', 0, 0) + '`');
 }
 
-TEST(HelpPagesTest, ExplainEveryMessage) {
-  const auto page = HelpPages(kEmbeddedHelp).Text(QStringLiteral("messages.md"));
-  for (const auto& box : BoxTable()) {
-    const auto begin = page.indexOf(QStringLiteral("\n## ") + Latin(box.topic) + QLatin1Char('\n'));
-    ASSERT_GE(begin, 0) << "no entry for " << box.topic;
-    const auto entry = page.mid(begin + 1, page.indexOf(QStringLiteral("\n## "), begin + 1) - begin - 1);
-    for (auto line : Latin(box.text).split(QLatin1Char('\n'))) {
-      line = line.replace(Latin(kDetail), QString::fromUtf8("…")).trimmed();
-      EXPECT_TRUE(entry.contains(QStringLiteral("\n> ") + line))
-          << box.topic << " lacks " << line.toStdString();
-    }
-    EXPECT_TRUE(entry.contains(Latin(box.title))) << box.topic;
-    EXPECT_TRUE(entry.contains(QStringLiteral("**Cause.** ")) && entry.contains(QStringLiteral("**Cure.** ")))
-        << box.topic;
-  }
-}
-
-TEST(HelpPagesTest, NameEveryTabAndEveryControl) {
+TEST_F(HelpPagesTest, NameEveryTabAndEveryControlAsTheToolTipsDo) {
   const Application app;
-  const HelpPages pages(kEmbeddedHelp);
-  QString tabs = pages.Text(QStringLiteral("register_options.md"));
-  const auto& captions = app.frmMain.SSTab1.captions;
-  for (int tab = 0; tab < static_cast<int>(captions.size()); ++tab) {
-    const auto page = HelpPageOfTab(tab);
-    const auto text = pages.Text(page);
-    EXPECT_TRUE(Exists(page) && text.startsWith(QStringLiteral("# ") +
-                                                Latin(captions[static_cast<std::size_t>(tab)]).trimmed()))
-        << tab;
-    tabs += text;
+  QString tabs = pages_.Text("register_options.md");
+  int tab = 0;
+  for (const auto& caption : app.frmMain.SSTab1.captions) {
+    const auto page = HelpPageOfTab(tab++);
+    EXPECT_TRUE(Exists(page) && pages_.Text(page).startsWith("# " + Latin(caption).trimmed())) << caption;
+    tabs += pages_.Text(page);
   }
-  for (const auto& control : app.registry.All()) {
-    if (!IsField(control.control)) continue;
-    const bool of_main = control.form == &app.frmMain.form;
-    const auto text = of_main ? tabs : pages.Text(HelpPageOfWindow(Latin(control.form->name)));
-    EXPECT_TRUE(Names(text, control.name)) << control.form->name << "." << control.name;
+  for (const auto& [name, control, form] : app.registry.All()) {
+    SCOPED_TRACE(form->name + "." + name);
+    const bool picks = Holds<List*, OptionArray*>(control);
+    EXPECT_TRUE(!picks || ToolTipOf(form->name, name).endsWith('.'));
+    if (!picks && !Holds<TextBox*, Button*, CheckBox*>(control)) continue;
+    const bool of_main = form == &app.frmMain.form;
+    EXPECT_TRUE(Names(of_main ? tabs : pages_.Text(HelpPageOfWindow(Latin(form->name))), name));
   }
 }
 
-TEST(HelpPagesTest, HaveARowForEveryFieldWithItsPlaceAndEditor) {
-  const auto page = HelpPages(kEmbeddedHelp).Text(QStringLiteral("fields.md"));
+TEST_F(HelpPagesTest, HaveARowForEveryFieldWithItsPlaceAndEditor) {
+  const auto page = pages_.Text("fields.md");
   for (const auto& field : FieldTable()) {
-    const QRegularExpression row(QStringLiteral("\n\\| `%1` \\| .+ \\| [^|]+ \\|\n").arg(Latin(field.name)));
+    const QRegularExpression row(QString("\n\\| `%1` \\| .+ \\| [^|]+ \\|\n").arg(Latin(field.name)));
     EXPECT_TRUE(row.match(page).hasMatch()) << field.name;
   }
   // Early and late V1400, and V1324 without an address.
-  EXPECT_TRUE(page.contains(
-      QStringLiteral("| `DSPLINES_BAK` | 1 | 7 | 7 | 9 | 9 | 7 | 9 | 7 | | TEXT SETUP: DISPLAY LINE |")));
   EXPECT_TRUE(
-      page.contains(QStringLiteral("| `DECIMAL_POINT_BAK` | 1 | 85 | 85 | 87 | 87 | 69 | 71 | 65 |")));
+      page.contains("| `DSPLINES_BAK` | 1 | 7 | 7 | 9 | 9 | 7 | 9 | 7 | | TEXT SETUP: DISPLAY LINE |"));
+  EXPECT_TRUE(page.contains("| `DECIMAL_POINT_BAK` | 1 | 85 | 85 | 87 | 87 | 69 | 71 | 65 |"));
 }
 
-TEST(HelpPagesTest, LeadNowhereThatIsNot) {
-  const HelpPages pages(kEmbeddedHelp);
-  static const QRegularExpression link(QStringLiteral("[^!]\\[[^\\]]+\\]\\(([^)#]+)(#([^)]+))?\\)"));
-  QStringList listed;
-  for (const auto& entry : pages.Contents()) {
-    if (entry.file.isEmpty()) continue;
+TEST_F(HelpPagesTest, LeadNowhereThatIsNot) {
+  static const QRegularExpression link("[^!]\\[[^\\]]+\\]\\(([^)#]+)(#([^)]+))?\\)");
+  QStringList listed("contents.md");
+  for (const auto& entry : pages_.Contents()) {
     listed.append(entry.file);
-    const auto text = pages.Text(entry.file);
+    if (entry.file.isEmpty()) continue;
+    const auto text = pages_.Text(entry.file);
     for (auto links = link.globalMatch(text); links.hasNext();) {
       const auto to = links.next();
-      bool found = Exists(to.captured(1));
-      if (found && !to.captured(3).isEmpty()) {
-        const auto lines = pages.Text(to.captured(1)).split(QLatin1Char('\n'));
-        found = std::any_of(lines.begin(), lines.end(), [&](const QString& line) {
-          return line.startsWith(QLatin1Char('#')) && AnchorOf(line) == to.captured(3);
-        });
-      }
-      EXPECT_TRUE(found) << entry.file.toStdString() << " leads to " << to.captured(0).toStdString();
+      EXPECT_TRUE(Exists(to.captured(1), to.captured(3)))
+          << entry.file.toStdString() << " leads to " << to.captured(0).toStdString();
     }
   }
   for (const auto& file : QDir(kEmbeddedHelp).entryList()) {
-    EXPECT_TRUE(listed.contains(file) || file == QLatin1String("contents.md"))
-        << file.toStdString() << " is not listed";
+    EXPECT_TRUE(listed.contains(file)) << file.toStdString() << " is not listed";
   }
 }
 
-// A program that stands, with its windows.
-class HelpWindowTest : public ::testing::Test {
- protected:
-  HelpWindowTest() : program_(QString::fromStdString(folder_.Path().string()), QString()) {
-    WriteDefaultImages(folder_.Path().string(), {"V1400", "R12"});
-    program_.Model().platform.read_setting = [](std::string_view, std::string_view value) {
-      return std::optional<SettingValue>(std::string(value == "Version" ? "V1400" : "R12"));
-    };
-  }
-
-  void SetUp() override { ASSERT_EQ(program_.Start(), Outcome::kDone); }
-
-  MainWindow& Main() { return program_.OnScreen().Main(); }
-  HelpDesk& Help() { return program_.OnScreen().Help(); }
-
-  static void Press(QWidget& widget, int key) {
-    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
-    QCoreApplication::sendEvent(&widget, &press);
-  }
-
-  QString Shown() const { return help()->findChild<QTextBrowser*>()->source().fileName(); }
-  HelpWindow* help() const { return program_.OnScreen().Help().Window(); }
-
-  TemporaryFolder folder_;
-  mutable Program program_;
-};
-
-TEST_F(HelpWindowTest, HasAPageForEveryWindow) {
-  for (const auto* window : Main().findChildren<QDialog*>()) {
+TEST_F(HelpPagesTest, AreThereForEveryWindow) {
+  Screen screen;
+  for (const auto* window : screen.Main().findChildren<QDialog*>()) {
     EXPECT_TRUE(Exists(HelpPageOfWindow(window->objectName()))) << window->objectName().toStdString();
   }
 }
 
-TEST_F(HelpWindowTest, OpensWhatIsInFrontSearchesAndGoesBack) {
-  Main().Tabs().setCurrentIndex(4);
-  Press(*Main().Tabs().currentWidget(), Qt::Key_F1);
-  ASSERT_NE(help(), nullptr);
-  EXPECT_EQ(Shown(), "exception_report.md");
+class HelpWindowTest : public ScreenTest {
+ protected:
+  static void Press(QWidget& widget, int key) {
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &press);
+  }
+  HelpWindow* Help() { return OnScreen().Help().Window(); }
+  QTextBrowser& Page() { return *Help()->findChild<QTextBrowser*>(); }
+  QString Path(const QString& name) const { return folder.File(name.toStdString()).c_str(); }
+};
 
-  auto& search = *help()->findChild<QLineEdit*>();
-  auto& list = *help()->findChild<QListWidget*>();
-  search.setText(QStringLiteral("ovl-setup parity"));
-  ASSERT_EQ(list.count(), 1);
-  EXPECT_TRUE(list.item(0)->text().startsWith(QStringLiteral("No page")));
-  search.setText(QStringLiteral("wipes three"));
-  ASSERT_GE(list.count(), 1);
+TEST_F(HelpWindowTest, OpensWhatIsInFrontSearchesAndGoesBack) {
+  Main().Tabs().setCurrentIndex(kExceptionTab);
+  Press(*Main().Tabs().currentWidget(), Qt::Key_F1);
+  ASSERT_NE(Help(), nullptr);
+  EXPECT_EQ(Page().source().fileName(), "exception_report.md");
+
+  auto& search = *Help()->findChild<QLineEdit*>();
+  auto& list = *Help()->findChild<QListWidget*>();
+  search.setText("ovl-setup parity");
+  EXPECT_TRUE(list.count() == 1 && list.item(0)->text().startsWith("No page"));
+  search.setText("wipes three");
   emit search.returnPressed();
-  EXPECT_EQ(Shown(), "text_setup.md");
-  help()->findChild<QTextBrowser*>()->backward();
-  EXPECT_EQ(Shown(), "exception_report.md");
-  Press(*help(), Qt::Key_Escape);
-  EXPECT_TRUE(search.text().isEmpty() && help()->isVisible());
-  Press(*help(), Qt::Key_Escape);
-  EXPECT_TRUE(help() == nullptr || !help()->isVisible());
+  EXPECT_EQ(Page().source().fileName(), "text_setup.md");
+  Page().backward();
+  EXPECT_EQ(Page().source().fileName(), "exception_report.md");
+  Press(*Help(), Qt::Key_Escape);
+  EXPECT_TRUE(search.text().isEmpty() && Help()->isVisible());
+  Press(*Help(), Qt::Key_Escape);
+  EXPECT_TRUE(Help() == nullptr || !Help()->isVisible());
 }
 
 TEST_F(HelpWindowTest, OpensTheWordsOfABoxInAWindowOfItsOwn) {
   Press(Main(), Qt::Key_F1);
   QString shown;
-  bool reachable = false;
   QTimer::singleShot(0, &Main(), [&] {
     auto* box = QApplication::activeModalWidget();
     Press(*box, Qt::Key_F1);
-    shown = help()->findChild<QTextBrowser*>()->source().toString();
-    reachable = help()->parentWidget() == box;
+    EXPECT_EQ(Help()->parentWidget(), box) << "the box holds back every other window";
+    shown = Page().source().toString();
     box->close();
   });
   ShowBox(&Main(), BoxOf(Box::kTimeOut, {}));
   EXPECT_EQ(shown, "help:/messages.md#connection-time-out");
-  EXPECT_TRUE(reachable);
-  EXPECT_EQ(help(), nullptr);
+  EXPECT_EQ(Help(), nullptr);
 }
 
 TEST_F(HelpWindowTest, SaysSoWhenPagesAreMissing) {
-  const HelpPages none(QString::fromStdString(folder_.File("nowhere")));
-  EXPECT_TRUE(none.Contents().empty());
-  EXPECT_TRUE(
-      none.Text(QStringLiteral("remote.md")).contains(QStringLiteral("nowhere/remote.md cannot be read: ")));
+  const HelpPages none(Path("nowhere"));
   HelpWindow window(none, nullptr);
-  window.Open(QStringLiteral("remote.md"));
-  EXPECT_TRUE(window.findChild<QTextBrowser*>()->toPlainText().contains(QStringLiteral("nowhere")));
-  EXPECT_TRUE(window.findChild<QListWidget*>()->item(0)->text().contains(QStringLiteral("nowhere")));
-  const auto guide = QString::fromStdString(folder_.File("guide.pdf"));
-  EXPECT_FALSE(WriteGuide(none, {}, guide).isEmpty());
-  EXPECT_TRUE(WriteGuide(HelpPages(kEmbeddedHelp), {}, guide).isEmpty());
+  window.Open("remote.md");
+  EXPECT_TRUE(none.Contents().empty());
+  EXPECT_TRUE(none.Text("remote.md").contains("nowhere/remote.md cannot be read: "));
+  EXPECT_TRUE(window.findChild<QTextBrowser*>()->toPlainText().contains("nowhere"));
+  EXPECT_TRUE(window.findChild<QListWidget*>()->item(0)->text().contains("nowhere"));
+}
+
+TEST_F(HelpWindowTest, ThePagesMakeAGuideWithPictures) {
+  const HelpPages pages(kEmbeddedHelp);
+  const auto guide = Path("guide.pdf");
+  EXPECT_NE(WriteGuide(HelpPages(Path("nowhere")), {}, guide), "");
+  EXPECT_EQ(WriteGuide(pages, {}, guide), "");
   const auto without_pictures = QFileInfo(guide).size();
   QImage picture(200, 100, QImage::Format_RGB32);
   picture.fill(Qt::red);
-  const auto pictures = QString::fromStdString(folder_.Path().string());
-  for (const char* name : {"tab2_alarm_outputs.png", "micros_idn.png"}) {
-    ASSERT_TRUE(picture.save(pictures + QLatin1Char('/') + QLatin1String(name)));
-  }
-  EXPECT_TRUE(WriteGuide(HelpPages(kEmbeddedHelp), pictures, guide).isEmpty());
+  ASSERT_TRUE(picture.save(Path("tab2_alarm_outputs.png")) && picture.save(Path("micros_idn.png")));
+  EXPECT_EQ(WriteGuide(pages, Path(""), guide), "");
   EXPECT_GT(QFileInfo(guide).size(), without_pictures);
-  EXPECT_TRUE(
-      WriteGuide(HelpPages(kEmbeddedHelp), {}, guide + QStringLiteral("/no/guide.pdf")).contains(guide));
+  EXPECT_TRUE(WriteGuide(pages, {}, guide + "/no/guide.pdf").contains(guide));
 }
 
 // The desktop, as far as it opens files.
 class Desktop : public QObject {
   Q_OBJECT
  public:
-  Desktop() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "Open"); }
-  ~Desktop() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
+  Desktop() { QDesktopServices::setUrlHandler("file", this, "Open"); }
+  ~Desktop() override { QDesktopServices::unsetUrlHandler("file"); }
   QStringList opened;
 
  public slots:
@@ -243,21 +210,18 @@ class Desktop : public QObject {
 
 TEST_F(HelpWindowTest, ListsAndOpensTheManuals) {
   Desktop desktop;
-  const auto folder = ManualFolder(QString::fromStdString(folder_.Path().string()));
-  EXPECT_TRUE(
-      OpenManual(folder, {}).contains(folder + QStringLiteral(" cannot be opened: it does not exist")));
+  const auto manuals = ManualFolder(Path(""));
+  EXPECT_TRUE(OpenManual(manuals, {}).contains(manuals + " cannot be opened: it does not exist"));
   EXPECT_TRUE(desktop.opened.isEmpty());
-  QDir().mkpath(folder);
+  QDir().mkpath(manuals);
   for (const char* name : {"/b.pdf", "/A.PDF", "/notes.txt"}) {
-    QFile file(folder + QLatin1String(name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(QFile(manuals + name).open(QIODevice::WriteOnly));
   }
-  EXPECT_EQ(ListManuals(folder), QStringList({"A.PDF", "b.pdf"}));
-  auto& menu = *Main().HelpMenu().findChild<QMenu*>(QStringLiteral("menuManual"));
+  EXPECT_EQ(ListManuals(manuals), QStringList({"A.PDF", "b.pdf"}));
+  auto& menu = *Main().HelpMenu().findChild<QMenu*>("menuManual");
   emit menu.aboutToShow();
   ASSERT_EQ(menu.actions().size(), 4);
-  menu.actions().at(1)->trigger();
-  menu.actions().at(3)->trigger();
+  for (const int entry : {1, 3}) menu.actions().at(entry)->trigger();
   EXPECT_EQ(desktop.opened, QStringList({"b.pdf", "Manual"}));
 }
 

@@ -1,56 +1,59 @@
-// Every tab by the Tab key alone: each control once, each with a name, no text cut off.
-#include <QAbstractButton>
+// Every tab by the Tab key alone: each control once, each with a name and a letter of its own, no text cut
+// off and nothing out of reach.
 #include <QAbstractItemView>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QSet>
+#include <QTreeView>
 #include <set>
 
-#include "shell/screen.h"
+#include "screen.h"
 
 namespace ovl::testing {
 namespace {
 
-bool TakesFocus(const QWidget& widget) {
-  return widget.isVisible() && widget.isEnabled() && (widget.focusPolicy() & Qt::TabFocus) != 0;
-}
-
 // What a person takes for one control: the elements of an option array are moved through by the arrows.
 std::string ControlOf(const QWidget& widget) {
   const auto name = widget.objectName().toStdString();
-  return qobject_cast<const QRadioButton*>(&widget) == nullptr ? name : name.substr(0, name.find('('));
+  return IsOne<QRadioButton>(&widget) ? name.substr(0, name.find('(')) : name;
 }
 
-std::multiset<std::string> Controls(const QWidget& page) {
+// The whole of a widget lies on the page, or on what is scrolled of it.
+bool Reachable(const QWidget* widget, const QWidget* page) {
+  const auto* ground = widget;
+  while (ground != page && !IsOne<QScrollArea>(ground->parentWidget()->parentWidget()))
+    ground = ground->parentWidget();
+  const QRect place(widget->mapTo(ground, QPoint()), widget->size());
+  return !place.isEmpty() && ground->rect().contains(place);
+}
+
+std::multiset<std::string> Controls(const QWidget& page, const Registry& registry) {
   std::multiset<std::string> controls;
-  for (const auto* widget : page.findChildren<QWidget*>()) {
-    const bool acts = qobject_cast<const QAbstractButton*>(widget) ||
-                      qobject_cast<const QComboBox*>(widget) || qobject_cast<const QLineEdit*>(widget) ||
-                      qobject_cast<const QAbstractItemView*>(widget);
-    const bool inner = widget->objectName().startsWith(QLatin1String("qt_")) ||
-                       qobject_cast<const QHeaderView*>(widget) != nullptr ||
-                       qobject_cast<const QComboBox*>(widget->parentWidget()) != nullptr;
-    if (!acts || inner || !widget->isVisible() || !widget->isEnabled()) continue;
-    EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->objectName().toStdString();
+  for (const auto* widget : VisibleIn<QAbstractButton, QComboBox, QLineEdit, QAbstractItemView>(page)) {
+    if (IsOne<QHeaderView>(widget)) continue;
+    const auto name = widget->objectName().toStdString();
+    EXPECT_FALSE(widget->accessibleName().isEmpty()) << name;
+    EXPECT_TRUE(IsOne<QTreeView>(widget) || registry.Find(name) != nullptr) << name;
+    EXPECT_TRUE(Reachable(widget, &page)) << name;
     const auto control = ControlOf(*widget);
-    if (qobject_cast<const QRadioButton*>(widget) == nullptr || controls.count(control) == 0) {
-      controls.insert(control);
-    }
+    const bool again = IsOne<QRadioButton>(widget) && controls.contains(control);
+    if (widget->isEnabled() && !again) controls.insert(control);
   }
   return controls;
 }
 
 std::multiset<std::string> Visited(QWidget& window, const QWidget& page) {
   std::multiset<std::string> visited;
-  std::set<const QWidget*> seen;
-  for (auto* widget : page.findChildren<QWidget*>()) {
-    if (!TakesFocus(*widget)) continue;
+  for (auto* widget : VisibleIn<QWidget>(page)) {
+    if (!widget->isEnabled() || (widget->focusPolicy() & Qt::TabFocus) == 0) continue;
     widget->setFocus();
     break;
   }
   // Around the window once: what is left by the Tab key comes again at the end of the round.
-  while (seen.insert(window.focusWidget()).second) {
+  for (std::set<const QWidget*> seen; seen.insert(window.focusWidget()).second;) {
     auto* at = window.focusWidget();
     if (page.isAncestorOf(at)) visited.insert(ControlOf(*at));
     QKeyEvent press(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
@@ -59,33 +62,43 @@ std::multiset<std::string> Visited(QWidget& window, const QWidget& page) {
   return visited;
 }
 
-void ExpectRoom(const QWidget& page) {
-  for (const auto* widget : page.findChildren<QWidget*>()) {
-    const bool text = qobject_cast<const QLabel*>(widget) || qobject_cast<const QAbstractButton*>(widget) ||
-                      qobject_cast<const QComboBox*>(widget);
+void ExpectLettersOnce(const QMenuBar& menus, const QWidget& page) {
+  QStringList texts;
+  for (const auto* action : menus.actions()) texts.append(action->isVisible() ? action->text() : "");
+  for (const auto* widget : VisibleIn<QAbstractButton, QLabel>(page)) {
     const auto* label = qobject_cast<const QLabel*>(widget);
-    if (!text || !widget->isVisible() || (label != nullptr && label->wordWrap())) continue;
-    EXPECT_GE(widget->width(), widget->sizeHint().width())
-        << widget->objectName().toStdString() << " " << widget->accessibleName().toStdString();
-    EXPECT_GE(widget->height(), widget->minimumSizeHint().height()) << widget->objectName().toStdString();
+    if (label == nullptr || label->buddy() != nullptr) texts.append(widget->property("text").toString());
   }
+  QSet<QString> letters;
+  for (const auto& text : texts) {
+    const auto letter = QKeySequence::mnemonic(text).toString();
+    EXPECT_FALSE(letters.contains(letter)) << text.toStdString();
+    if (!letter.isEmpty()) letters.insert(letter);
+  }
+  EXPECT_GE(letters.size(), 2);
 }
 
 TEST(KeyboardWalk, ReachesEveryControlOfATabOnceByItsNameAndFindsNoTextCut) {
   for (const auto& firmware :
        {FirmwareId{"V1400", "R12"}, {"V1400", "R1"}, {"V1300", "R14"}, {"V1324", "R26"}, {"V1334", "R1"}}) {
     Screen screen(firmware);
+    auto& window = screen.Main();
+    screen.App().frmMain.CmdUpDow[kMasterReset].visible = true;
     screen.Select("TCPIP");
-    auto& tabs = screen.Main().Tabs();
-    for (int tab = 0; tab < tabs.count(); ++tab) {
+    for (int tab = 0; tab < window.Tabs().count(); ++tab) {
       SCOPED_TRACE(firmware.Joined() + " tab " + std::to_string(tab));
-      tabs.setCurrentIndex(tab);
-      screen.Show();
-      const auto& page = *tabs.currentWidget();
-      const auto controls = Controls(page);
+      window.Tabs().setCurrentIndex(tab);
+      const auto& page = *window.Tabs().currentWidget();
+      for (const QSize size : {QSize(1040, 700), QSize(960, 600)}) {
+        window.resize(size);
+        screen.Show();
+        EXPECT_EQ(window.size(), size);
+        ExpectRoom(page);
+      }
+      ExpectLettersOnce(*window.menuBar(), page);
+      const auto controls = Controls(page, screen.App().registry);
       EXPECT_FALSE(controls.empty());
-      EXPECT_EQ(Visited(screen.Main(), page), controls);
-      ExpectRoom(page);
+      EXPECT_EQ(Visited(window, page), controls);
     }
   }
 }
@@ -93,15 +106,15 @@ TEST(KeyboardWalk, ReachesEveryControlOfATabOnceByItsNameAndFindsNoTextCut) {
 TEST(LatePages, StandWhenLookedAtWithTheStatusBarAsTheLastStop) {
   Screen screen({"V1400", "R12"}, Pages::kFirst);
   EXPECT_EQ(screen.Main().findChild<QComboBox*>("ComboTD(2)"), nullptr);
-  screen.Main().Tabs().setCurrentIndex(5);
+  screen.Main().Tabs().setCurrentIndex(kTitleTab);
   const auto& list = screen.Find<QComboBox>("ComboTD(2)");
   EXPECT_TRUE(list.isVisible());
   EXPECT_GT(list.count(), 1);
   screen.Pick("ComboTD(2)", list.currentIndex() == 0 ? 1 : 0);
-  screen.Find<QComboBox>("ComboLang").setFocus();
+  screen.Find("ComboLang").setFocus();
   QKeyEvent press(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
   QCoreApplication::sendEvent(screen.Main().focusWidget(), &press);
-  EXPECT_EQ(screen.Main().focusWidget()->objectName(), "StatusChanges");
+  EXPECT_EQ(screen.Focus(), "StatusChanges");
 }
 
 }  // namespace

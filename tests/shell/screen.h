@@ -6,101 +6,184 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QTabWidget>
 #include <algorithm>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <stdexcept>
 
-#include "core/actions.h"
+#include "default_images.h"
 #include "image/files.h"
-#include "registers/selection_driver.h"
 #include "shell/program.h"
+#include "shell/status_strip.h"
 #include "shell/theme.h"
 #include "support/harness.h"
 
 namespace ovl::testing {
 
 enum class Pages { kAll, kFirst };
+enum Tab { kRegisterTab, kTextTab, kAlarmTab, kLineTab, kExceptionTab, kTitleTab, kRemoteTab };
 
-// A program with windows whose registers are selected without their default images.
+template <class... Kinds>
+bool IsOne(const QWidget* widget) {
+  return (... || (qobject_cast<const Kinds*>(widget) != nullptr));
+}
+
+// The widgets of these kinds that a person sees, without the parts of lists.
+template <class... Kinds>
+std::vector<QWidget*> VisibleIn(const QWidget& page) {
+  std::vector<QWidget*> visible;
+  for (auto* widget : page.findChildren<QWidget*>()) {
+    const bool part = widget->objectName().startsWith("qt_") || IsOne<QComboBox>(widget->parentWidget());
+    if (widget->isVisible() && !part && IsOne<Kinds...>(widget)) visible.push_back(widget);
+  }
+  return visible;
+}
+
+// Whatever is read has room for its text.
+inline void ExpectRoom(const QWidget& page) {
+  for (const auto* widget : VisibleIn<QLabel, QAbstractButton, QComboBox>(page)) {
+    SCOPED_TRACE(widget->objectName().toStdString() + " " + widget->accessibleName().toStdString());
+    const auto* label = qobject_cast<const QLabel*>(widget);
+    if (label != nullptr && label->wordWrap()) continue;
+    EXPECT_GE(widget->width(), widget->sizeHint().width());
+    EXPECT_GE(widget->height(), widget->sizeHint().height());
+  }
+}
+
+// A program folder with the first register's image, and the store that names its firmware.
+inline void MakeSite(const TemporaryFolder& folder, const FirmwareId& firmware) {
+  const auto images = folder.Path() / firmware.version / firmware.release;
+  std::filesystem::create_directories(images);
+  std::filesystem::create_directories(folder.Path() / "ORB");
+  WriteWhole((images / "GENERIC.bin").string(), PatternStream(firmware) + "\r\n");
+  WriteWhole(folder.File("ORB/OVL Software.conf"),
+             "[General]\nVersion=" + firmware.version + "\nRelease=" + firmware.release + "\n");
+}
+
+// A program with its windows, over the default images of its firmware and a line in memory.
 class Screen {
  public:
-  explicit Screen(const FirmwareId& firmware, Pages pages = Pages::kAll) {
+  explicit Screen(const FirmwareId& firmware = {"V1400", "R12"}, Pages pages = Pages::kAll) {
     ApplyTheme(Theme::kLight);
-    const auto images = folder_.Path() / firmware.version / firmware.release;
-    std::filesystem::create_directories(images);
-    WriteWhole((images / "GENERIC.bin").string(), PatternStream(firmware, 1, 0) + "\r\n");
-    program_ = std::make_unique<Program>(QString::fromStdString(folder_.Path().string()), QString());
-    auto& platform = App().platform;
-    platform.read_setting = [firmware](std::string_view, std::string_view value) {
-      return std::optional<SettingValue>(value == "Version" ? firmware.version : firmware.release);
+    MakeSite(folder, firmware);
+    WriteDefaultImages(folder.Path().string(), firmware);
+    const auto path = QString::fromStdString(folder.Path().string());
+    program = std::make_unique<Program>(path, path);
+    App().platform.show_message = [this](const MessageBox& box) {
+      boxes.push_back(box.text);
+      while_box();
     };
-    platform.write_setting = [](std::string_view, std::string_view, std::string_view) { return true; };
-    platform.show_message = [](const MessageBox&) {};
-    if (program_->Start() != Outcome::kDone) throw std::runtime_error("no start");
+    auto& serial = App().platform.serial;
+    serial.open = [](const LineSettings&) { return SerialLine::Error(); };
+    serial.write = [](std::string_view) { return SerialLine::Error(); };
+    serial.read = [this] { return std::string(1, character_); };
+    serial.close = serial.clear_input = serial.clear_output = [] {};
+    if (program->Start() != Outcome::kDone) throw std::runtime_error("no start");
     if (pages == Pages::kAll) OnScreen().BuildAll();
     Main().resize(960, 600);
   }
 
-  Application& App() { return program_->Model(); }
-  MainWindow& Main() { return program_->OnScreen().Main(); }
-  Windows& OnScreen() { return program_->OnScreen(); }
+  Application& App() { return program->Model(); }
+  MainWindow& Main() { return program->OnScreen().Main(); }
+  Windows& OnScreen() { return program->OnScreen(); }
   FormWindow& Window(const Form& form) { return *OnScreen().WindowOf(form); }
 
-  void Select(int register_code) {
-    auto& app = App();
-    using enum FieldId;
-    for (const auto field : {REGTYPE_MINOR, REGTYPE_EXT1, REGTYPE_EXT2, UNITADDR, GTITLE_NF_BAK,
-                             DV_ADDRIND_BAK, TCIADDBAK_1, TCIADDBAK_2, TCIADDBAK_3}) {
-      app.image[field] = "00";
-    }
-    app.image[COMMCFG_BAK] = app.image[DSPCFG_BAK] = app.image[RX_BAUDRATE] = app.image[TX_BAUDRATE] = "00";
-    app.UploadApplying = true;
-    AssignPosition(app, app.frmMain.ComboReg, register_code, Raise::kAlways);
-    app.UploadApplying = false;
-    ShowRegisterOptions(app);
+  void Select(std::string_view register_name) {
+    auto& list = App().frmMain.ComboReg;
+    const auto found = std::find(list.items.begin(), list.items.end(), register_name);
+    program->Act(PickEvent{&list, static_cast<int>(found - list.items.begin())});
     Show();
   }
 
-  void Select(std::string_view name) {
-    const auto& names = App().frmMain.ComboReg.items;
-    const auto found = std::find(names.begin(), names.end(), name);
-    if (found == names.end()) throw std::runtime_error("no register " + std::string(name));
-    Select(static_cast<int>(found - names.begin()));
-  }
-
   void Show() {
-    program_->RefreshNow();
+    program->RefreshNow();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   }
-
-  template <class Kind>
+  template <class Kind = QWidget>
   Kind& Find(const std::string& name) {
     auto* found = Main().findChild<Kind*>(QString::fromStdString(name));
     if (found == nullptr) throw std::runtime_error("no widget " + name);
     return *found;
   }
-
+  bool IsShown(const std::string& name) { return Find(name).isVisible(); }
   void Click(const std::string& name) {
     Find<QAbstractButton>(name).click();
     Show();
   }
-
   void Pick(const std::string& name, int position) {
     emit Find<QComboBox>(name).activated(position);
     Show();
   }
 
+  // Keys go to the window in front.
+  void Keys(std::initializer_list<int> keys) {
+    for (const int key : keys) Press(key, key == Qt::Key_Space ? " " : "");
+  }
+  void Type(const QString& text) {
+    for (const QChar letter : text) Press(letter.toUpper().unicode(), letter);
+  }
+  std::string Focus() { return FocusWidget().objectName().toStdString(); }
+  // Where the Tab key leads, up to the place where it began.
+  std::string Round() {
+    const auto first = Focus();
+    auto round = first;
+    for (Keys({Qt::Key_Tab}); Focus() != first && round.size() < 400; Keys({Qt::Key_Tab}))
+      round += " " + Focus();
+    return round;
+  }
+  void Stand(const std::string& name, int tab) {
+    Main().Tabs().setCurrentIndex(tab);
+    Find(name).setFocus();
+  }
+
+  void Unit(std::string_view text) {
+    for (const char character : text) {
+      character_ = character;
+      program->Act(ReceivedEvent{});
+    }
+    Show();
+  }
+  void OpenAndHold() {
+    for (const char* button : {"cmdConnect", "frmSettSR.cmdSET", "CmdUpDow(4)"}) Click(button);
+    Unit("\x06");
+    program->Act(TickEvent{&App().frmMain.General_timer});
+    Show();
+  }
+
+  std::string Note() { return Find<CutLabel>("StatusNote").Text().toStdString(); }
   std::string QuietLine() {
-    const auto* line = Main().Tabs().currentWidget()->findChild<QLabel*>(QStringLiteral("QuietLine"));
+    const auto* line = Main().Tabs().currentWidget()->findChild<QLabel*>("QuietLine");
     return line->isVisible() ? line->text().toStdString() : std::string();
   }
 
+  TemporaryFolder folder;
+  std::vector<std::string> boxes;
+  std::function<void()> while_box = [] {};
+  std::unique_ptr<Program> program;
+
  private:
-  TemporaryFolder folder_;
-  std::unique_ptr<Program> program_;
+  QWidget& FocusWidget() {
+    auto* window = OnScreen().Front();
+    return window->focusWidget() == nullptr ? *window : *window->focusWidget();
+  }
+  void Press(int key, const QString& text) {
+    OnScreen().Front()->activateWindow();
+    Show();
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      QKeyEvent event(type, key, Qt::NoModifier, text);
+      QCoreApplication::sendEvent(&FocusWidget(), &event);
+    }
+    Show();
+  }
+
+  char character_ = '\0';
 };
+
+// For tests with such a program each.
+class ScreenTest : public ::testing::Test, protected Screen {};
 
 }  // namespace ovl::testing
