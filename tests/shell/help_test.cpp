@@ -31,16 +31,8 @@ QString Latin(std::string_view text) {
 
 class HelpPagesTest : public ::testing::Test {
  protected:
-  // The page, with a heading that the anchor leads to.
-  bool Exists(const QString& page, const QString& anchor = {}) const {
-    const auto lines = pages_.Text(page).split('\n');
-    const bool leads = anchor.isEmpty() || std::any_of(lines.begin(), lines.end(), [&](const QString& line) {
-                         return line.startsWith('#') && AnchorOf(line) == anchor;
-                       });
-    return leads && !page.isEmpty() && QFile::exists(kEmbeddedHelp + '/' + page);
-  }
-
   const HelpPages pages_{kEmbeddedHelp};
+  const QStringList files_ = QDir(kEmbeddedHelp).entryList();
 };
 
 TEST_F(HelpPagesTest, ExplainEveryMessage) {
@@ -63,28 +55,29 @@ bool Holds(const ControlRef& control) {
   return (... || std::holds_alternative<Kinds>(control));
 }
 
-// By its name, or that of the array that it belongs to.
-bool Names(const QString& text, const std::string& control) {
-  const auto name = QString::fromStdString(control);
-  return text.contains('`' + name + '`') || text.contains('`' + name.section('(', 0, 0) + '`');
-}
-
-TEST_F(HelpPagesTest, NameEveryTabAndEveryControlAsTheToolTipsDo) {
-  const Application app;
+TEST_F(HelpPagesTest, NameEveryTabWindowAndControlAsTheToolTipsDo) {
+  Screen screen;
+  const auto& main = screen.App().frmMain;
   QString tabs = pages_.Text("register_options.md");
   int tab = 0;
-  for (const auto& caption : app.frmMain.SSTab1.captions) {
-    const auto page = HelpPageOfTab(tab++);
-    EXPECT_TRUE(Exists(page) && pages_.Text(page).startsWith("# " + Latin(caption).trimmed())) << caption;
-    tabs += pages_.Text(page);
+  for (const auto& caption : main.SSTab1.captions) {
+    const auto text = pages_.Text(HelpPageOfTab(tab++));
+    EXPECT_TRUE(text.startsWith("# " + Latin(caption).trimmed())) << caption;
+    tabs += text;
   }
-  for (const auto& [name, control, form] : app.registry.All()) {
-    SCOPED_TRACE(form->name + "." + name);
+  for (const auto* window : screen.Main().findChildren<QDialog*>()) {
+    const auto name = window->objectName();
+    EXPECT_TRUE(files_.contains(HelpPageOfWindow(name))) << name.toStdString();
+  }
+  for (const auto& [own_name, control, form] : screen.App().registry.All()) {
+    SCOPED_TRACE(form->name + "." + own_name);
     const bool picks = Holds<List*, OptionArray*>(control);
-    EXPECT_TRUE(!picks || ToolTipOf(form->name, name).endsWith('.'));
+    EXPECT_TRUE(!picks || ToolTipOf(form->name, own_name).endsWith('.'));
     if (!picks && !Holds<TextBox*, Button*, CheckBox*>(control)) continue;
-    const bool of_main = form == &app.frmMain.form;
-    EXPECT_TRUE(Names(of_main ? tabs : pages_.Text(HelpPageOfWindow(Latin(form->name))), name));
+    // By its name, or that of the array that it belongs to.
+    const auto text = form == &main.form ? tabs : pages_.Text(HelpPageOfWindow(Latin(form->name)));
+    const auto name = Latin(own_name), array = name.section('(', 0, 0);
+    EXPECT_TRUE(text.contains('`' + name + '`') || text.contains('`' + array + '`'));
   }
 }
 
@@ -101,28 +94,23 @@ TEST_F(HelpPagesTest, HaveARowForEveryFieldWithItsPlaceAndEditor) {
 }
 
 TEST_F(HelpPagesTest, LeadNowhereThatIsNot) {
-  static const QRegularExpression link("[^!]\\[[^\\]]+\\]\\(([^)#]+)(#([^)]+))?\\)");
-  QStringList listed("contents.md");
-  for (const auto& entry : pages_.Contents()) {
-    listed.append(entry.file);
-    if (entry.file.isEmpty()) continue;
-    const auto text = pages_.Text(entry.file);
-    for (auto links = link.globalMatch(text); links.hasNext();) {
-      const auto to = links.next();
-      EXPECT_TRUE(Exists(to.captured(1), to.captured(3)))
-          << entry.file.toStdString() << " leads to " << to.captured(0).toStdString();
+  QStringList places = files_, listed("contents.md");
+  for (const auto& file : files_) {
+    for (const auto& line : pages_.Text(file).split('\n')) {
+      if (line.startsWith('#')) places.append(file + '#' + AnchorOf(line));
     }
   }
-  for (const auto& file : QDir(kEmbeddedHelp).entryList()) {
+  static const QRegularExpression link("[^!]\\[[^\\]]+\\]\\(([^)]+)\\)");
+  for (const auto& entry : pages_.Contents()) {
+    listed.append(entry.file);
+    const auto text = entry.file.isEmpty() ? QString() : pages_.Text(entry.file);
+    for (auto links = link.globalMatch(text); links.hasNext();) {
+      const auto place = links.next().captured(1);
+      EXPECT_TRUE(places.contains(place)) << entry.file.toStdString() << " leads to " << place.toStdString();
+    }
+  }
+  for (const auto& file : files_)
     EXPECT_TRUE(listed.contains(file)) << file.toStdString() << " is not listed";
-  }
-}
-
-TEST_F(HelpPagesTest, AreThereForEveryWindow) {
-  Screen screen;
-  for (const auto* window : screen.Main().findChildren<QDialog*>()) {
-    EXPECT_TRUE(Exists(HelpPageOfWindow(window->objectName()))) << window->objectName().toStdString();
-  }
 }
 
 class HelpWindowTest : public ScreenTest {

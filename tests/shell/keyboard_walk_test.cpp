@@ -45,19 +45,11 @@ std::multiset<std::string> Controls(const QWidget& page, const Registry& registr
   return controls;
 }
 
-std::multiset<std::string> Visited(QWidget& window, const QWidget& page) {
+std::multiset<std::string> Visited(Screen& screen, const QWidget& page) {
   std::multiset<std::string> visited;
-  for (auto* widget : VisibleIn<QWidget>(page)) {
-    if (!widget->isEnabled() || (widget->focusPolicy() & Qt::TabFocus) == 0) continue;
-    widget->setFocus();
-    break;
-  }
-  // Around the window once: what is left by the Tab key comes again at the end of the round.
-  for (std::set<const QWidget*> seen; seen.insert(window.focusWidget()).second;) {
-    auto* at = window.focusWidget();
-    if (page.isAncestorOf(at)) visited.insert(ControlOf(*at));
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
-    QCoreApplication::sendEvent(at, &press);
+  screen.Main().Tabs().setFocus();
+  for (const auto* stop : screen.Round()) {
+    if (page.isAncestorOf(stop)) visited.insert(ControlOf(*stop));
   }
   return visited;
 }
@@ -98,7 +90,7 @@ TEST(KeyboardWalk, ReachesEveryControlOfATabOnceByItsNameAndFindsNoTextCut) {
       ExpectLettersOnce(*window.menuBar(), page);
       const auto controls = Controls(page, screen.App().registry);
       EXPECT_FALSE(controls.empty());
-      EXPECT_EQ(Visited(window, page), controls);
+      EXPECT_EQ(Visited(screen, page), controls);
     }
   }
 }

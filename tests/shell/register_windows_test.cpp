@@ -76,43 +76,34 @@ void ExpectFrameAsTheModelSays(Screen& screen, const std::string& when) {
   ExpectRoom(page);
 }
 
-// Every option and the last entry of every list in the frame.
-void ExpectPicksAreTaken(Screen& screen) {
-  for (const auto& name : Wanted(screen)) {
-    const auto& control = screen.App().registry.Find(screen.App().frmMain.form, name)->control;
-    if (const auto* element = std::get_if<OptionElement>(&control)) {
-      screen.Click(name);
-      EXPECT_EQ(element->array->chosen, element->element) << name;
-      EXPECT_TRUE(screen.Find<QRadioButton>(name).isChecked()) << name;
-    } else if (auto* const* list = std::get_if<List*>(&control)) {
-      const int last = static_cast<int>((*list)->items.size()) - 1;
-      screen.Pick(name, last);
-      EXPECT_EQ((*list)->position, last) << name;
-      EXPECT_EQ(screen.Find<QComboBox>(name).currentIndex(), last) << name;
-    }
-    ExpectFrameAsTheModelSays(screen, name + " picked");
-  }
-}
-
 TEST(RegisterFrames, ShowExactlyWhatTheModelShowsAndTakePicks) {
   for (const auto& firmware :
        {FirmwareId{"V1400", "R12"}, {"V1300", "R14"}, {"V1310", "R1"}, {"V1324", "R26"}}) {
     Screen screen(firmware);
-    const auto& form = screen.App().frmMain;
-    std::set<int> seen;
-    int with_frame = 0;
-    for (const auto& name : std::vector<std::string>(form.ComboReg.items)) {
-      SCOPED_TRACE(firmware.Joined() + " " + name);
-      screen.Select(name);
+    const auto& main = screen.App().frmMain;
+    std::size_t controls = 0;
+    for (const auto& register_name : std::vector<std::string>(main.ComboReg.items)) {
+      SCOPED_TRACE(firmware.Joined() + " " + register_name);
+      screen.Select(register_name);
       ExpectFrameAsTheModelSays(screen, "selected");
-      const auto& frames = form.frmAddress;
-      const auto shown =
-          std::find_if(frames.begin(), frames.end(), [](const auto& at) { return at.visible; });
-      if (shown == frames.end()) continue;
-      ++with_frame;
-      if (seen.insert(shown->index).second) ExpectPicksAreTaken(screen);
+      // Every option and the last entry of every list in the frame.
+      for (const auto& name : Wanted(screen)) {
+        const auto& control = screen.App().registry.Find(main.form, name)->control;
+        if (const auto* element = std::get_if<OptionElement>(&control)) {
+          screen.Click(name);
+          EXPECT_EQ(element->array->chosen, element->element) << name;
+          EXPECT_TRUE(screen.Find<QRadioButton>(name).isChecked()) << name;
+        } else if (auto* const* list = std::get_if<List*>(&control)) {
+          const int last = static_cast<int>((*list)->items.size()) - 1;
+          screen.Pick(name, last);
+          EXPECT_EQ((*list)->position, last) << name;
+          EXPECT_EQ(screen.Find<QComboBox>(name).currentIndex(), last) << name;
+        }
+        ExpectFrameAsTheModelSays(screen, name + " picked");
+        ++controls;
+      }
     }
-    EXPECT_GE(with_frame, 12);
+    EXPECT_GE(controls, 50U);
   }
 }
 
@@ -151,7 +142,6 @@ TEST_F(RegisterWindows, MicrosShowsOnePanelAndStoresBySetAlone) {
   auto& image = App().image;
   auto& window = Window(App().frmMicros.form);
   Select("MICROS");
-  EXPECT_FALSE(window.isVisible());
   Stand("OpMicros(1)", kRegisterTab);
   Keys({Qt::Key_Down});
   EXPECT_TRUE(window.isVisible() && !window.isModal() && Main().Tabs().isEnabled());
@@ -172,13 +162,6 @@ TEST_F(RegisterWindows, MicrosShowsOnePanelAndStoresBySetAlone) {
   EXPECT_TRUE(Find<QPushButton>("CMD3700Set").isDefault());
   auto& number = Find<QLineEdit>("ECRNumber");
   EXPECT_EQ(number.accessibleName(), "ECR NUMBER");
-  const auto digits = image[ECRDIGIT_7];
-  emit number.textEdited("12");
-  window.close();
-  Show();
-  EXPECT_FALSE(window.isVisible());
-  EXPECT_EQ(image[ECRDIGIT_7], digits);
-  Click("cmdMicros");
   emit number.textEdited("4");
   Click("CMD3700Set");
   EXPECT_FALSE(window.isVisible());

@@ -80,7 +80,6 @@ class Screen {
     auto& serial = App().platform.serial;
     serial.open = [](const LineSettings&) { return SerialLine::Error(); };
     serial.write = [](std::string_view) { return SerialLine::Error(); };
-    serial.read = [this] { return std::string(1, character_); };
     serial.close = serial.clear_input = serial.clear_output = [] {};
     if (program->Start() != Outcome::kDone) throw std::runtime_error("no start");
     if (pages == Pages::kAll) OnScreen().BuildAll();
@@ -127,31 +126,23 @@ class Screen {
     for (const QChar letter : text) Press(letter.toUpper().unicode(), letter);
   }
   std::string Focus() { return FocusWidget().objectName().toStdString(); }
-  // Where the Tab key leads, up to the place where it began.
-  std::string Round() {
-    const auto first = Focus();
-    auto round = first;
-    for (Keys({Qt::Key_Tab}); Focus() != first && round.size() < 400; Keys({Qt::Key_Tab}))
-      round += " " + Focus();
+  // Where the Tab key leads, around the window in front once.
+  std::vector<QWidget*> Round() {
+    std::vector<QWidget*> round;
+    while (std::find(round.begin(), round.end(), &FocusWidget()) == round.end()) {
+      round.push_back(&FocusWidget());
+      Keys({Qt::Key_Tab});
+    }
     return round;
+  }
+  std::string NamesOfRound() {
+    std::string names;
+    for (const auto* stop : Round()) names += stop->objectName().toStdString() + " ";
+    return names;
   }
   void Stand(const std::string& name, int tab) {
     Main().Tabs().setCurrentIndex(tab);
     Find(name).setFocus();
-  }
-
-  void Unit(std::string_view text) {
-    for (const char character : text) {
-      character_ = character;
-      program->Act(ReceivedEvent{});
-    }
-    Show();
-  }
-  void OpenAndHold() {
-    for (const char* button : {"cmdConnect", "frmSettSR.cmdSET", "CmdUpDow(4)"}) Click(button);
-    Unit("\x06");
-    program->Act(TickEvent{&App().frmMain.General_timer});
-    Show();
   }
 
   std::string Note() { return Find<CutLabel>("StatusNote").Text().toStdString(); }
@@ -179,8 +170,6 @@ class Screen {
     }
     Show();
   }
-
-  char character_ = '\0';
 };
 
 // For tests with such a program each.

@@ -20,7 +20,7 @@ TEST_F(TextWindow, TakesEachOfItsThreeTextsFromTheKeyboard) {
     const auto before = *text;
     Stand(button, tab);
     Keys({Qt::Key_Return});
-    EXPECT_EQ(Round(), "Text1 frmSetEXCPSTR.cmdClr frmSetEXCPSTR.cmdSET");
+    EXPECT_EQ(NamesOfRound(), "Text1 frmSetEXCPSTR.cmdClr frmSetEXCPSTR.cmdSET ");
     Type("LOST");
     Keys({Qt::Key_Escape});
     EXPECT_EQ(*text, before);
@@ -62,8 +62,8 @@ TEST(RangeWindow, TakesItsValuesFromTheKeyboard) {
   screen.Stand("cmdSetRange", kExceptionTab);
   screen.Keys({Qt::Key_Return});
   EXPECT_EQ(
-      screen.Round(),
-      "Range_Hi SubRange_Hi Range_Low SubRange_Low ComboDec frmSetRange.cmdClr frmSetRange.cmdSetRange");
+      screen.NamesOfRound(),
+      "Range_Hi SubRange_Hi Range_Low SubRange_Low ComboDec frmSetRange.cmdClr frmSetRange.cmdSetRange ");
   screen.Type("7");
   screen.Keys({Qt::Key_Escape});
   EXPECT_EQ(values[0].caption, before);
