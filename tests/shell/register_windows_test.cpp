@@ -51,9 +51,8 @@ Names Wanted(Screen& screen) {
   std::istringstream words(kContent);
   for (std::string word; words >> word;) {
     const auto name = word.substr(0, word.find(':'));
-    const bool framed = name != word;
     if (face(name) == nullptr) visible = form.frmAddress.at(std::stoul(word)).visible;
-    if (!visible || (framed && !face(word.substr(name.size() + 1))->visible)) continue;
+    if (!visible || (name != word && !face(word.substr(name.size() + 1))->visible)) continue;
     int element = 0;
     while (want(name + "(" + std::to_string(element) + ")")) ++element;
     if (element == 0) want(name);
@@ -193,11 +192,6 @@ TEST_F(RegisterWindows, TheSubMenuFollowsTheModelThatWasChosen) {
   Click("SharpOP(19)");
   EXPECT_EQ(window.windowTitle(), "SHARP SUBMENU");
   EXPECT_TRUE(IsShown("Option1(1)") && !IsShown("Option1(2)"));
-  window.close();
-  Show();
-  EXPECT_FALSE(window.isVisible());
-  Click("SharpCom");
-  EXPECT_TRUE(window.isVisible());
 }
 
 TEST_F(StoredBeside, TellsWhatElseWasStoredUntilTheNextAct) {
@@ -207,8 +201,6 @@ TEST_F(StoredBeside, TellsWhatElseWasStoredUntilTheNextAct) {
   image[RX_BAUDRATE] = image[TX_BAUDRATE] = "00";
   Click("POSOP(1)");
   EXPECT_EQ(QuietLine(), "Also stored: INTERFACE TYPE PASSIVE TAP, RX BAUDRATE AUTO, TX BAUDRATE 9600.");
-  Click("POSOP(0)");
-  EXPECT_EQ(QuietLine(), "");
   Click("TEROP(0)");
   for (const int tab : {kRegisterTab, kLineTab}) {
     Main().Tabs().setCurrentIndex(tab);

@@ -118,12 +118,16 @@ class Screen {
     Show();
   }
 
-  // Keys go to the window in front.
+  static void Press(QWidget& widget, int key, const QString& text = {}, QEvent::Type way = QEvent::KeyPress) {
+    QKeyEvent press(way, key, Qt::NoModifier, text);
+    QCoreApplication::sendEvent(&widget, &press);
+  }
+  // These keys go to the window in front.
   void Keys(std::initializer_list<int> keys) {
-    for (const int key : keys) Press(key, key == Qt::Key_Space ? " " : "");
+    for (const int key : keys) PressInFront(key, key == Qt::Key_Space ? " " : "");
   }
   void Type(const QString& text) {
-    for (const QChar letter : text) Press(letter.toUpper().unicode(), letter);
+    for (const QChar letter : text) PressInFront(letter.toUpper().unicode(), letter);
   }
   std::string Focus() { return FocusWidget().objectName().toStdString(); }
   // Where the Tab key leads, around the window in front once.
@@ -161,13 +165,11 @@ class Screen {
     auto* window = OnScreen().Front();
     return window->focusWidget() == nullptr ? *window : *window->focusWidget();
   }
-  void Press(int key, const QString& text) {
+  void PressInFront(int key, const QString& text) {
     OnScreen().Front()->activateWindow();
     Show();
-    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-      QKeyEvent event(type, key, Qt::NoModifier, text);
-      QCoreApplication::sendEvent(&FocusWidget(), &event);
-    }
+    Press(FocusWidget(), key, text);
+    Press(FocusWidget(), key, text, QEvent::KeyRelease);
     Show();
   }
 };

@@ -6,6 +6,7 @@
 #include <QRadioButton>
 #include <QWheelEvent>
 #include <cmath>
+#include <map>
 
 #include "link/transfer.h"
 #include "screen.h"
@@ -47,6 +48,7 @@ TEST_F(WindowsTest, TheWheelNeverChangesAListAndTheSameEntryCanBePickedAgain) {
 TEST_F(WindowsTest, AnActDuringAHandlerIsLostAndTakenBackOnTheScreen) {
   auto& hours = Find<QComboBox>("ComboHR");
   App().frmMain.ComboHR.position = 3;
+  Show();
   while_box = [&] {
     hours.setCurrentIndex(9);
     Pick("ComboHR", 9);
@@ -158,15 +160,15 @@ double Luminance(const QColor& color) {
 
 TEST(Theme, TextStandsOutInBothThemes) {
   using P = QPalette;
-  std::vector<std::pair<P::ColorRole, P::ColorRole>> pairs = {{P::ButtonText, P::Button},
-                                                              {P::HighlightedText, P::Highlight}};
+  std::multimap<P::ColorRole, P::ColorRole> texts = {{P::Button, P::ButtonText},
+                                                     {P::Highlight, P::HighlightedText}};
   for (const auto ground : {P::Window, P::Base, P::AlternateBase}) {
-    for (const auto text : {P::WindowText, P::PlaceholderText, P::Link}) pairs.emplace_back(text, ground);
+    for (const auto text : {P::WindowText, P::PlaceholderText, P::Link}) texts.emplace(ground, text);
   }
   for (const auto theme : {Theme::kLight, Theme::kDark}) {
     ApplyTheme(theme);
     const auto palette = QApplication::palette();
-    for (const auto& [text, ground] : pairs) {
+    for (const auto& [ground, text] : texts) {
       const auto [less, more] =
           std::minmax({Luminance(palette.color(text)), Luminance(palette.color(ground))});
       EXPECT_GE((more + 0.05) / (less + 0.05), 4.5) << text << " on " << ground;
