@@ -20,14 +20,6 @@ namespace {
 
 using namespace std::string_literals;
 
-// The event loop's application object stands as long as the tests run.
-void NeedApplication() {
-  static int count = 1;
-  static char name[] = "test";
-  static char* words[] = {name, nullptr};
-  static const QCoreApplication application(count, words);
-}
-
 // Runs the loop until the condition holds; false if it still doesn't when the patience ends.
 bool RunUntil(const std::function<bool()>& condition, int patience = 10'000) {
   for (const QDeadlineTimer end(patience); !condition();) {
@@ -53,7 +45,6 @@ bool BecomesIdle() {
 class SerialPortTest : public testing::Test {
  protected:
   SerialPortTest() {
-    NeedApplication();
     Link(1, terminal_.Device());
     port_.emplace(folder_.path(), [this](const Event& event) { return Take(event); });
     line_ = port_->Operations();
@@ -271,3 +262,10 @@ TEST_F(SerialPortTest, WhatCameBeforeTheLossIsStillTold) {
 
 }  // namespace
 }  // namespace ovl
+
+// The event loop's application object stands as long as the tests run.
+int main(int count, char** words) {
+  const QCoreApplication application(count, words);
+  ::testing::InitGoogleTest(&count, words);
+  return RUN_ALL_TESTS();
+}

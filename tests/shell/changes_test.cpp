@@ -8,8 +8,6 @@
 namespace ovl::testing {
 namespace {
 
-using Changes = ScreenTest;
-
 std::string Listed(Screen& screen) {
   QStringList cells;
   const auto& list = screen.Find<QTreeWidget>("ChangesList");
@@ -19,7 +17,7 @@ std::string Listed(Screen& screen) {
   return cells.join('|').toStdString();
 }
 
-TEST_F(Changes, AreListedByFieldPlaceAndLabelWithTheBytesThenAndNow) {
+TEST_F(ScreenTest, ChangesAreListedByFieldPlaceAndLabelWithTheBytesThenAndNow) {
   auto& app = App();
   const auto& button = Find<QPushButton>("StatusChanges");
   EXPECT_FALSE(button.isVisible());

@@ -13,9 +13,6 @@ namespace {
 
 using enum FieldId;
 using Names = std::set<std::string>;
-using RegisterScreen = ScreenTest;
-using RegisterWindows = ScreenTest;
-using StoredBeside = ScreenTest;
 
 // The frames, each with its lists, options, buttons and labels with a name; behind a colon the inner frame
 // around one.
@@ -106,7 +103,7 @@ TEST(RegisterFrames, ShowExactlyWhatTheModelShowsAndTakePicks) {
   }
 }
 
-TEST_F(RegisterScreen, AnOverlayStandsInThePlaceOfItsListAndLabelsFollowCaptions) {
+TEST_F(ScreenTest, AnOverlayStandsInThePlaceOfItsListAndLabelsFollowCaptions) {
   auto& form = App().frmMain;
   Main().Tabs().setCurrentIndex(kLineTab);
   const std::tuple<const char*, const char*, const char*> covers[] = {
@@ -137,7 +134,7 @@ TEST_F(RegisterScreen, AnOverlayStandsInThePlaceOfItsListAndLabelsFollowCaptions
   EXPECT_EQ(labels.size(), 12);
 }
 
-TEST_F(RegisterWindows, MicrosShowsOnePanelAndStoresBySetAlone) {
+TEST_F(ScreenTest, TheMicrosWindowShowsOnePanelAndStoresBySetAlone) {
   auto& image = App().image;
   auto& window = Window(App().frmMicros.form);
   Select("MICROS");
@@ -167,7 +164,7 @@ TEST_F(RegisterWindows, MicrosShowsOnePanelAndStoresBySetAlone) {
   EXPECT_EQ(image[ECRDIGIT_7], "04");
 }
 
-TEST_F(RegisterWindows, TheSubMenuFollowsTheModelThatWasChosen) {
+TEST_F(ScreenTest, TheSubMenuFollowsTheModelThatWasChosen) {
   auto& window = Window(App().FrmSubMenu.form);
   Select("CASIO");
   EXPECT_FALSE(Find("Command1").isEnabled());
@@ -194,7 +191,7 @@ TEST_F(RegisterWindows, TheSubMenuFollowsTheModelThatWasChosen) {
   EXPECT_TRUE(IsShown("Option1(1)") && !IsShown("Option1(2)"));
 }
 
-TEST_F(StoredBeside, TellsWhatElseWasStoredUntilTheNextAct) {
+TEST_F(ScreenTest, TheQuietLineTellsWhatElseWasStoredUntilTheNextAct) {
   auto& image = App().image;
   Select("DRESSER WAYNE");
   image[IOCFG_BAK] = "0E";

@@ -5,11 +5,7 @@
 namespace ovl::testing {
 namespace {
 
-using TextWindow = ScreenTest;
-using OpenLists = ScreenTest;
-using Viewer = ScreenTest;
-
-TEST_F(TextWindow, TakesEachOfItsThreeTextsFromTheKeyboard) {
+TEST_F(ScreenTest, TheTextWindowTakesEachOfItsThreeTextsFromTheKeyboard) {
   auto& form = App().frmMain;
   const std::tuple<const char*, int, std::string*> rows[] = {
       {"cmdSetTrigger", kAlarmTab, &form.TextTrigger.text},
@@ -35,7 +31,7 @@ TEST_F(TextWindow, TakesEachOfItsThreeTextsFromTheKeyboard) {
   }
 }
 
-TEST_F(TextWindow, BlanksThatFillATextUpGiveWayAndTheRestIsRefusedWithItsReason) {
+TEST_F(ScreenTest, BlanksThatFillATextUpGiveWayAndTheRestIsRefusedWithItsReason) {
   auto& app = App();
   const auto padded = [](std::string seen) { return seen.append(40 - seen.size(), ' '); };
   AssignText(app, app.frmMain.TextException, padded("CASH"));
@@ -77,7 +73,7 @@ TEST(RangeWindow, TakesItsValuesFromTheKeyboard) {
   EXPECT_EQ(screen.Focus(), "cmdSetRange");
 }
 
-TEST_F(OpenLists, MoveByArrowsAndLettersAndPickByEnter) {
+TEST_F(ScreenTest, OpenListsMoveByArrowsAndLettersAndPickByEnter) {
   auto& form = App().frmMain;
   const std::tuple<const char*, int, List*, const char*, int> rows[] = {
       {"ComboReg", kRegisterTab, &form.ComboReg, "ib", 38},
@@ -97,7 +93,7 @@ TEST_F(OpenLists, MoveByArrowsAndLettersAndPickByEnter) {
   }
 }
 
-TEST_F(Viewer, StandsBesideTheMainWindowAndEscapeClosesIt) {
+TEST_F(ScreenTest, TheViewerStandsBesideTheMainWindowAndEscapeClosesIt) {
   auto& viewer = App().frmView.form;
   ShowForm(App(), viewer);
   Show();

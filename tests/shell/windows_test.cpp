@@ -16,6 +16,8 @@
 namespace ovl::testing {
 namespace {
 
+// One of them ends the program, so that no event loop runs afterwards: these stand behind those of other
+// files.
 using WindowsTest = ScreenTest;
 
 TEST_F(WindowsTest, TheTabKeyVisitsWhatCanActInReadingOrder) {
