@@ -231,7 +231,7 @@ TEST_F(SerialPortTest, BadCharactersBecomeQuestionMarksAndHalfAMarkIsForgottenBy
   RunForAWhile();
   terminal_.SendRaw("\0c\xFF\xFF\xFF\0\xFFz\xFF"s);
   EXPECT_TRUE(Tells("a\xFF\x62?\xFF?z"));
-  Open("9600,O,8,1");
+  Open("9600,N,8,1");
   terminal_.SendRaw("\0d"s);
   EXPECT_TRUE(Tells("a\xFF\x62?\xFF?z\0d"s));
 }

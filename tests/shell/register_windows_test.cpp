@@ -222,6 +222,7 @@ TEST_F(ScreenTest, TheQuietLineTellsWhatElseWasStoredUntilTheNextAct) {
   Main().Tabs().setCurrentIndex(kRegisterTab);
   Click("OpMicros(2)");
   EXPECT_EQ(QuietLine(), "Also stored: MODE TAP.");
+  Pick("ComboISN(0)", 1);
   Click("cmdISNset");
   EXPECT_EQ(QuietLine(), "");
 }

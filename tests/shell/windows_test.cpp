@@ -117,6 +117,7 @@ TEST_F(WindowsTest, ATransferShowsHowFarItIsAndItsEndStaysUntilAnswered) {
   end.close();
   EXPECT_EQ(app.LinkMode, kLinkIdle);
   EXPECT_TRUE(!end.isVisible() && Main().Tabs().isEnabled());
+  EXPECT_EQ(TransferProgressText(app), "");
 }
 
 TEST_F(WindowsTest, ThePointerOverUploadAndDownloadShowsTheHint) {
