@@ -197,15 +197,15 @@ TEST_F(HelpWindowTest, ListsAndOpensTheManuals) {
   EXPECT_TRUE(OpenManual(manuals, {}).contains(manuals + " cannot be opened: it does not exist"));
   EXPECT_TRUE(desktop.opened.isEmpty());
   QDir().mkpath(manuals);
-  for (const char* name : {"/b.pdf", "/A.PDF", "/notes.txt"}) {
+  for (const char* name : {"/B.pdf", "/a.PDF", "/notes.txt"}) {
     ASSERT_TRUE(QFile(manuals + name).open(QIODevice::WriteOnly));
   }
-  EXPECT_EQ(ListManuals(manuals), QStringList({"A.PDF", "b.pdf"}));
+  EXPECT_EQ(ListManuals(manuals), QStringList({"a.PDF", "B.pdf"}));
   auto& menu = *Main().HelpMenu().findChild<QMenu*>("menuManual");
   emit menu.aboutToShow();
   ASSERT_EQ(menu.actions().size(), 4);
   for (const int entry : {1, 3}) menu.actions().at(entry)->trigger();
-  EXPECT_EQ(desktop.opened, QStringList({"b.pdf", "Manual"}));
+  EXPECT_EQ(desktop.opened, QStringList({"B.pdf", "Manual"}));
 }
 
 }  // namespace

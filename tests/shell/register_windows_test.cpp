@@ -194,6 +194,7 @@ TEST_F(ScreenTest, TheSubMenuFollowsTheModelThatWasChosen) {
 TEST_F(ScreenTest, TheQuietLineTellsWhatElseWasStoredUntilTheNextAct) {
   auto& image = App().image;
   Select("DRESSER WAYNE");
+  EXPECT_EQ(QuietLine(), "");
   image[IOCFG_BAK] = "0E";
   image[RX_BAUDRATE] = image[TX_BAUDRATE] = "00";
   Click("POSOP(1)");
@@ -222,8 +223,10 @@ TEST_F(ScreenTest, TheQuietLineTellsWhatElseWasStoredUntilTheNextAct) {
   Main().Tabs().setCurrentIndex(kRegisterTab);
   Click("OpMicros(2)");
   EXPECT_EQ(QuietLine(), "Also stored: MODE TAP.");
-  Pick("ComboISN(0)", 1);
-  Click("cmdISNset");
+  Click("OpMicros(1)");
+  image[MICROS_STATUS] = "01";
+  Pick("ComboMODE", 0);
+  Click("cmdSetMicros");
   EXPECT_EQ(QuietLine(), "");
 }
 
