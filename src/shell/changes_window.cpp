@@ -126,7 +126,7 @@ QPushButton* BuildChangesButton(Bindings& bindings, ChangesWindow& window) {
     const bool other_known = known.Update(app.known_image), other_image = image.Update(app.image);
     if (!other_known && !other_image) return false;
     const auto count = Differences(app.known_image, app.image, app.firmware).size();
-    button->setText(CountOf(count));
+    button->setText(CountOf(count) + QStringLiteral(" since the last load"));
     button->setAccessibleName(button->text());
     const bool comes_or_goes = button->isHidden() != (count == 0);
     button->setVisible(count != 0);

@@ -25,13 +25,13 @@ TEST_F(ScreenTest, ChangesAreListedByFieldPlaceAndLabelWithTheBytesThenAndNow) {
   const auto& line = app.image[FieldId::COMMCFG_BAK];
   const auto expected = "COMMCFG_BAK|SYSCFG 1|COMMUNICATION: PARITY|" + line + "|";
   Pick("ComboCOMM(3)", other(app.frmMain.ComboCOMM[3]));
-  EXPECT_EQ(button.text(), "1 change");
+  EXPECT_EQ(button.text(), "1 change since the last load");
   Click("StatusChanges");
   EXPECT_EQ(Listed(*this), expected + line);
 
   app.image.at(FieldId::EXCPSTRS, 2).replace(0, 2, "55");
   Show();
-  EXPECT_EQ(button.text(), "2 changes");
+  EXPECT_EQ(button.text(), "2 changes since the last load");
   EXPECT_NE(Listed(*this).find("|EXCPSTRS(2)|SYSSTR "), std::string::npos);
 
   StartDownload(app);
@@ -39,7 +39,8 @@ TEST_F(ScreenTest, ChangesAreListedByFieldPlaceAndLabelWithTheBytesThenAndNow) {
   Pick("ComboTD(2)", other(app.frmMain.ComboTD[2]));
   FinishDownload(app);
   Show();
-  EXPECT_EQ(button.text(), "1 change") << "the unit holds what was sent, not what was picked meanwhile";
+  EXPECT_EQ(button.text(), "1 change since the last load")
+      << "the unit holds what was sent, not what was picked meanwhile";
   EXPECT_TRUE(app.known_image == sent);
   EXPECT_EQ(Listed(*this).find("DATE_FORMAT_BAK|SYSFIXED "), 0U);
 }

@@ -45,20 +45,21 @@ std::multiset<std::string> Controls(const QWidget& page, const Registry& registr
   return controls;
 }
 
-void ExpectLettersOnce(const QMenuBar& menus, const QWidget& page) {
+void ExpectLettersOfTheirOwn(const QMenuBar& menus, const QWidget& page) {
   QStringList texts;
   for (const auto* action : menus.actions()) texts.append(action->isVisible() ? action->text() : "");
   for (const auto* widget : VisibleIn<QAbstractButton, QLabel>(page)) {
     const auto* label = qobject_cast<const QLabel*>(widget);
-    if (label == nullptr || label->buddy() != nullptr) texts.append(widget->property("text").toString());
+    const bool taken = label == nullptr ? !IsOne<QRadioButton>(widget) : label->buddy() != nullptr;
+    if (taken) texts.append(widget->property("text").toString());
   }
   QSet<QString> letters;
   for (const auto& text : texts) {
+    if (text.isEmpty()) continue;
     const auto letter = QKeySequence::mnemonic(text).toString();
-    EXPECT_FALSE(letters.contains(letter)) << text.toStdString();
-    if (!letter.isEmpty()) letters.insert(letter);
+    EXPECT_FALSE(letter.isEmpty() || letters.contains(letter)) << text.toStdString();
+    letters.insert(letter);
   }
-  EXPECT_GE(letters.size(), 2);
 }
 
 TEST(KeyboardWalk, ReachesEveryControlOfATabOnceByItsNameAndFindsNoTextCut) {
@@ -78,7 +79,7 @@ TEST(KeyboardWalk, ReachesEveryControlOfATabOnceByItsNameAndFindsNoTextCut) {
         EXPECT_EQ(window.size(), size);
         ExpectRoom(page);
       }
-      ExpectLettersOnce(*window.menuBar(), page);
+      ExpectLettersOfTheirOwn(*window.menuBar(), page);
       std::multiset<std::string> visited;
       window.Tabs().setFocus();
       for (const auto* stop : screen.Round()) {
