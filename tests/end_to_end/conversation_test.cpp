@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <set>
+#include <tuple>
 #include <utility>
 
 #include "catalogue/firmware.h"
@@ -21,17 +22,14 @@ class Partner {
   explicit Partner(const std::string& firmware, const std::string& history = "NO SALE\r\n",
                    const std::string& fault = {}) {
     const auto* known = unit::FindFirmware(firmware);
-    unit::Surroundings surroundings;
-    surroundings.complain = [this](const std::string& text) { complaints.push_back(text); };
-    surroundings.note = [](const std::string&) {};
-    surroundings.send = [this](const std::string& bytes) { said_ += bytes; };
-    surroundings.keep_image = [](const std::string&) { return std::string(); };
-    surroundings.keep_clock = [this](const std::string& text) { return clock = text, std::string(); };
     std::vector<unit::Fault> faults;
     if (!fault.empty()) faults.push_back(unit::ParseFault(fault).fault.value());
     unit_.emplace(
         unit::UnitSetup{known, unit::FactoryImage(*known), history, 0, unit::Faults(std::move(faults), 1)},
-        std::move(surroundings));
+        unit::Surroundings{[this](const std::string& text) { complaints.push_back(text); },
+                           [](const std::string&) {}, [this](const std::string& bytes) { said_ += bytes; },
+                           [](const std::string&) { return std::string(); },
+                           [this](const std::string& text) { return clock = text, std::string(); }});
   }
 
   std::string Hear(std::string_view text) {
@@ -75,10 +73,7 @@ void Transfer(Harness& program, Partner& partner, const char* button, const char
   program.Click("frmOK_buttom.Command1");
 }
 
-class Firmware : public ::testing::TestWithParam<FirmwareEntry> {};
-
-TEST_P(Firmware, AChangeOnEveryTabReachesTheUnitAndNothingElse) {
-  const FirmwareId firmware{std::string(GetParam().version), std::string(GetParam().release)};
+void ChangeEveryTab(const FirmwareId& firmware) {
   Harness program(firmware);
   WriteDefaultImages(program.folder.Path().string(), firmware);
   ASSERT_EQ(program.Start(), Outcome::kDone);
@@ -96,18 +91,16 @@ TEST_P(Firmware, AChangeOnEveryTabReachesTheUnitAndNothingElse) {
   EXPECT_TRUE(Differences(uploaded, program.app.image, firmware).empty());
 
   // The field that each pick changes, by the panel's own account.
-  const std::vector<std::pair<std::pair<const char*, int>, const char*>> picks = {
-      {{"ComboDIP(1)", 4}, "DSPLINES_BAK"},        {{"ComboALM(4)", 3}, "ALMCFG_BAK"},
-      {{"ComboTrigger(0)", 1}, "TRIGGER_TEXT(1)"}, {{"ComboCOMM(2)", 6}, "TX_BAUDRATE"},
-      {{"ComboExcp(2)", 1}, "EXCPSTRS(1)"},        {{"ComboExcepRe(1)", 1}, "TIMESTAMP_ENA"},
-      {{"ComboTD(2)", 2}, "DATE_FORMAT_BAK"},      {{"OpDVR", 1}, "HIST_REG"},
-  };
-  std::set<std::string> expected;
-  for (const auto& [pick, field] : picks) {
-    ASSERT_EQ(program.Pick(pick.first, pick.second), Outcome::kDone) << pick.first;
+  const std::vector<std::tuple<const char*, int, std::string>> picks = {
+      {"ComboDIP(1)", 4, "DSPLINES_BAK"},        {"ComboALM(4)", 3, "ALMCFG_BAK"},
+      {"ComboTrigger(0)", 1, "TRIGGER_TEXT(1)"}, {"ComboCOMM(2)", 6, "TX_BAUDRATE"},
+      {"ComboExcp(2)", 1, "EXCPSTRS(1)"},        {"ComboExcepRe(1)", 1, "TIMESTAMP_ENA"},
+      {"ComboTD(2)", 2, "DATE_FORMAT_BAK"},      {"OpDVR", 1, "HIST_REG"}};
+  std::set<std::string> expected, changed;
+  for (const auto& [control, position, field] : picks) {
+    ASSERT_EQ(program.Pick(control, position), Outcome::kDone) << control;
     expected.insert(field);
   }
-  std::set<std::string> changed;
   for (const auto& difference : Differences(uploaded, program.app.image, firmware))
     changed.insert(difference.name);
   EXPECT_EQ(changed, expected);
@@ -123,33 +116,24 @@ TEST_P(Firmware, AChangeOnEveryTabReachesTheUnitAndNothingElse) {
   EXPECT_TRUE(program.NoBoxLeft());
 }
 
-// A program that holds remote mode with the partner, its clock set.
-void Begin(Harness& program, Partner& partner) {
+TEST(EveryFirmware, AChangeOnEveryTabReachesTheUnitAndNothingElse) {
+  for (const auto& entry : FirmwareTable()) {
+    const FirmwareId firmware{std::string(entry.version), std::string(entry.release)};
+    SCOPED_TRACE(firmware.Joined());
+    if (entry.in_menu) ChangeEveryTab(firmware);
+  }
+}
+
+// From the start of the program to the end of what the button begins in remote mode; the clock is set.
+void Converse(Harness& program, Partner& partner, const char* button) {
   ASSERT_EQ(program.Start(), Outcome::kDone);
   program.now = {2026, 3, 5, 14, 7, 9};
   program.Tick(program.app.frmMain.Timer, 11);
   program.Click("cmdConnect");
   program.Click("frmSettSR.cmdSET");
   HoldRemoteMode(program, partner);
-}
-
-constexpr const char* kClock = "CmdUpDow(2)";
-constexpr const char* kHistory = "CmdUpDow(3)";
-constexpr const char* kReset = "CmdUpDow(5)";
-
-TEST(OneShot, TheUnitsClockReadsWhatWasSentAndItsResetIsTold) {
-  Harness program({"V1400", "R12"});
-  Partner partner("V1400R12");
-  Begin(program, partner);
-  program.Click(kClock);
+  program.Click(button);
   Talk(program, partner);
-  EXPECT_EQ(partner.clock, "03-05-26 14:07:09");
-  EXPECT_EQ(program.TakeBox().text, "SET TIME DATE FINISHED.");
-  HoldRemoteMode(program, partner);
-  program.Click(kReset);
-  Talk(program, partner);
-  EXPECT_EQ(program.TakeBox().text, "       Master Reset Done.");
-  EXPECT_TRUE(partner.complaints.empty());
 }
 
 TEST(OneShot, HistoriesOfAnyLengthAreSavedAndOpenedUnchanged) {
@@ -159,10 +143,8 @@ TEST(OneShot, HistoriesOfAnyLengthAreSavedAndOpenedUnchanged) {
     for (int line = 0; line < lines; ++line) history += "LINE " + std::to_string(line) + "\r\n";
     Harness program({"V1400", "R12"});
     Partner partner("V1400R12", history);
-    Begin(program, partner);
     program.file_answers.assign(2, program.folder.File("history.txt"));
-    program.Click(kHistory);
-    Talk(program, partner);
+    Converse(program, partner, "CmdUpDow(3)");
     EXPECT_FALSE(program.app.HistoryPending);
     program.Click("OpenHistory_menu");
     EXPECT_TRUE(program.app.frmView.Text.text == history + "\r\n");
@@ -170,59 +152,34 @@ TEST(OneShot, HistoriesOfAnyLengthAreSavedAndOpenedUnchanged) {
   }
 }
 
-TEST(OneShot, RefusalsEndTheLinkAndSilenceIsEndedByTheWatchdogOrByHand) {
-  struct Row {
-    const char* button;
-    const char* operation;
-    bool watched;
-  };
-  for (const auto& row :
-       {Row{kClock, "clock", true}, Row{kHistory, "history", false}, Row{kReset, "reset", false}}) {
-    SCOPED_TRACE(row.operation);
-    Harness refused({"V1400", "R12"});
-    Partner refusing("V1400R12", "LINE\r\n", std::string("refuse:") + row.operation);
-    Begin(refused, refusing);
-    refused.Click(row.button);
-    Talk(refused, refusing);
-    EXPECT_EQ(refused.TakeBox().title, "- Connection Fail -");
+TEST(OneShot, AnswersAreToldAndSilenceIsEndedByTheWatchdogOrByHand) {
+  const std::string failure = "- Connection Fail -";
+  const std::vector<std::tuple<const char*, std::string, std::string, bool>> rows{
+      {"CmdUpDow(2)", "clock", "SET TIME DATE FINISHED.", true},
+      {"CmdUpDow(3)", "history", "", false},
+      {"CmdUpDow(5)", "reset", "       Master Reset Done.", false}};
+  for (const auto& [button, operation, told, watched] : rows) {
+    SCOPED_TRACE(operation);
+    Harness done({"V1400", "R12"}), refused({"V1400", "R12"}), waiting({"V1400", "R12"});
+    Partner willing("V1400R12"), refusing("V1400R12", "LINE\r\n", "refuse:" + operation),
+        silent("V1400R12", "LINE\r\n", "silent:" + operation);
+    Converse(done, willing, button);
+    EXPECT_EQ(done.TakeBox().text, told);
+    EXPECT_EQ(willing.clock, operation == "clock" ? "03-05-26 14:07:09" : "");
+    EXPECT_TRUE(willing.complaints.empty());
+
+    Converse(refused, refusing, button);
+    EXPECT_EQ(refused.TakeBox().title, failure);
     EXPECT_FALSE(refused.app.frmMain.MSComm1.PortOpen);
 
-    Harness waiting({"V1400", "R12"});
-    Partner silent("V1400R12", "LINE\r\n", std::string("silent:") + row.operation);
-    Begin(waiting, silent);
-    waiting.Click(row.button);
-    Talk(waiting, silent);
+    Converse(waiting, silent, button);
     waiting.Tick(waiting.app.frmMain.Timer_Operating, 6);
-    EXPECT_EQ(waiting.TakeBox().title, row.watched ? "- Connection Fail -" : "");
-    EXPECT_EQ(waiting.app.frmMain.MSComm1.PortOpen, !row.watched);
-    if (!row.watched) waiting.Click("cmdDisConnect");
+    EXPECT_EQ(waiting.TakeBox().title, watched ? failure : "");
+    EXPECT_EQ(waiting.app.frmMain.MSComm1.PortOpen, !watched);
+    if (!watched) waiting.Click("cmdDisConnect");
     EXPECT_FALSE(waiting.app.HistoryPending || waiting.app.MasterResetPending);
   }
 }
-
-TEST(OneShot, ACharacterWithAParityErrorEndsTheHistory) {
-  Harness program({"V1400", "R12"});
-  Partner partner("V1400R12", "TOTAL?\r\n");
-  Begin(program, partner);
-  program.Click(kHistory);
-  Talk(program, partner);
-  EXPECT_EQ(program.TakeBox().text, "Check Parity and Data Bit Setting that Same OVL ,Try again !!!");
-  EXPECT_TRUE(program.app.HistoryPending);
-  EXPECT_EQ(program.app.HistoryText, "TOTAL");
-  EXPECT_TRUE(program.dialogs.empty());
-}
-
-std::vector<FirmwareEntry> MenuEntries() {
-  std::vector<FirmwareEntry> entries;
-  for (const auto& entry : FirmwareTable()) {
-    if (entry.in_menu) entries.push_back(entry);
-  }
-  return entries;
-}
-
-INSTANTIATE_TEST_SUITE_P(EndToEnd, Firmware, ::testing::ValuesIn(MenuEntries()), [](const auto& firmware) {
-  return std::string(firmware.param.version).append(firmware.param.release);
-});
 
 }  // namespace
 }  // namespace ovl::testing
