@@ -1,12 +1,15 @@
 #include <gtest/gtest.h>
 #include <stdlib.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -23,15 +26,15 @@ namespace unit {
 namespace {
 
 using namespace std::chrono_literals;
+using Texts = std::vector<std::string>;
 
 const std::string kEnterRemote(kRequest);
 const std::string kAcked = "\x06";
 const std::string kRefused = "\x15";
+const std::string kHistory = "one\r\ntwo\r\n";
 
 const Firmware& Known(std::string_view name) {
-  const Firmware* const firmware = FindFirmware(name);
-  EXPECT_NE(firmware, nullptr) << name;
-  return *firmware;
+  return *FindFirmware(name);
 }
 
 std::string FactoryStream(std::string_view name) {
@@ -39,42 +42,28 @@ std::string FactoryStream(std::string_view name) {
 }
 
 std::string Replaced(std::string text, std::string_view what, std::string_view by) {
-  const std::size_t at = text.find(what);
-  EXPECT_NE(at, std::string::npos) << what;
-  return text.replace(at, what.size(), by);
+  return text.replace(text.find(what), what.size(), by);
 }
 
 // A unit with a tool's hands on it, in simulated time.
 class Bench {
  public:
-  explicit Bench(std::vector<std::string_view> faults = {}, std::string_view firmware = "V1400R12",
+  explicit Bench(const std::string& faults = "", std::string_view firmware = "V1400R12",
                  unsigned speed = 9600, std::uint64_t seed = 1) {
     std::vector<Fault> parsed;
-    for (const std::string_view fault : faults) parsed.push_back(ParseFault(fault).fault.value());
-    Surroundings surroundings;
-    surroundings.complain = [this](const std::string& text) { complaints.push_back(text); };
-    surroundings.note = [](const std::string&) {};
-    surroundings.send = [this](const std::string& bytes) { sent += bytes; };
-    surroundings.keep_image = [this](const std::string& image) { return kept_image = image, failure; };
-    surroundings.keep_clock = [this](const std::string& clock) { return kept_clock = clock, failure; };
-    UnitSetup setup{&Known(firmware), FactoryImage(Known(firmware)), "one\r\ntwo\r\n", speed,
+    std::istringstream words(faults);
+    for (std::string fault; words >> fault;) parsed.push_back(ParseFault(fault).fault.value());
+    UnitSetup setup{&Known(firmware), FactoryImage(Known(firmware)), kHistory, speed,
                     Faults(std::move(parsed), seed)};
+    Surroundings surroundings{[this](const std::string& text) { complaints.push_back(text); },
+                              [](const std::string&) {}, [this](const std::string& bytes) { sent += bytes; },
+                              [this](const std::string& image) { return kept_image = image, failure; },
+                              [this](const std::string& clock) { return kept_clock = clock, failure; }};
     unit.emplace(std::move(setup), std::move(surroundings));
   }
 
-  // The tool sends `text`; what the unit sends until it has nothing more to send.
-  std::string Say(std::string_view text) {
+  void Hear(std::string_view text) {
     for (const char c : text) unit->Receive(c, now);
-    return Settle();
-  }
-
-  std::string Settle() {
-    unit->Advance(now);
-    for (auto due = unit->NextDue(); due && *due < now + kPatience - 1s; due = unit->NextDue()) {
-      now = *due;
-      unit->Advance(now);
-    }
-    return std::exchange(sent, {});
   }
 
   void Pass(Time time) {
@@ -82,158 +71,81 @@ class Bench {
     unit->Advance(now);
   }
 
-  std::string Enter() { return Say(kEnterRemote); }
+  // The tool sends `text`; what the unit sends until it has nothing more to send.
+  std::string Say(std::string_view text) {
+    Hear(text);
+    unit->Advance(now);
+    for (auto due = unit->NextDue(); due && *due < now + kPatience - 1s; due = unit->NextDue())
+      Pass(*due - now);
+    return std::exchange(sent, {});
+  }
+
+  // The same in remote mode, asked for first.
+  std::string Order(std::string_view text) {
+    Say(kEnterRemote);
+    return Say(text);
+  }
 
   Time now = 5s;
-  std::string sent;
-  std::string failure;
-  std::string kept_image;
-  std::string kept_clock;
-  std::vector<std::string> complaints;
+  std::string sent, failure, kept_image, kept_clock;
+  Texts complaints;
   std::optional<Unit> unit;
 };
 
-std::vector<std::string> ErrorsOf(std::string_view firmware, std::string_view stream) {
-  StreamChecker checker(RegionOf(Known(firmware)));
-  for (const char c : stream) {
-    if (checker.Feed(c)) break;
+// ---- images and streams
+
+TEST(UnitFirmware, FactoryImagesHoldWhatDistinguishesTheFirmware) {
+  for (const auto* row : {// Eight bits without parity, the interface, 9600 both ways.
+                          "V1400R6 1 040A0303", "V1400R7 2 0E", "V1324R24 2 0A", "V1324R25 2 0E",
+                          // Alarms that are not triggered and last for 1.
+                          "V1400R12 51 00FF000000FF0000", "V1310R1 67 00FF0000FF00",
+                          // Demonstration byte, behind the daylight saving that is switched off by 01.
+                          "V1400R1 122 0101", "V1400R12 124 0100", "V1324R18 118 0101", "V1300R14 122 0101",
+                          "V1300R26 124 0101", "V1310R1 124 0100",
+                          // The first free exception slot, behind the title.
+                          "V1400R12 186 10", "V1400R12 198 20", "V1334R1 185 10", "V1334R1 193 20"}) {
+    std::string firmware, bytes;
+    std::size_t at = 0;
+    std::istringstream(row) >> firmware >> at >> bytes;
+    EXPECT_EQ(FactoryImage(Known(firmware)).substr(2 * at, bytes.size()), bytes) << row;
   }
-  EXPECT_EQ(checker.Correct(), checker.Errors().empty() && stream.find('#') != std::string_view::npos);
-  return checker.Errors();
 }
-
-// ---- firmware and streams
-
-struct ExpectedRegion {
-  std::string_view prefix;
-  std::vector<int> releases;
-  std::string_view first;
-  std::string_view last;
-  std::size_t records;
-  std::size_t digits;
-};
-
-const std::vector<ExpectedRegion> kExpectedRegions{
-    {"V1400R", {1, 2, 4}, "$2000", "$2840", 67, 4272},
-    {"V1400R", {6}, "$2000", "$2860", 68, 4304},
-    {"V1400R", {7}, "$2000", "$2860", 68, 4322},
-    {"V1400R", {11, 12}, "$2000", "$2860", 68, 4324},
-    {"V1300R", {14, 15, 16, 17, 18, 19, 20, 21, 23}, "$7800", "$7FE0", 64, 4066},
-    {"V1324R", {17, 18, 19, 20, 21, 23, 24}, "$7800", "$7FE0", 64, 4066},
-    {"V1300R", {26, 27}, "$77F0", "$7FF0", 65, 4098},
-    {"V1324R", {25, 26}, "$77F0", "$7FF0", 65, 4098},
-    {"V1310R", {1}, "$77F0", "$7FF0", 65, 4098},
-    {"V1334R", {1}, "$77F0", "$7FF0", 65, 4098},
-};
-
-TEST(UnitFirmware, EveryFactoryStreamFillsItsRegionAndIsAcceptedOnlyThere) {
-  std::size_t count = 0;
-  for (const ExpectedRegion& expected : kExpectedRegions) {
-    for (const int release : expected.releases) {
-      const std::string name = std::string(expected.prefix) + std::to_string(release);
-      SCOPED_TRACE(name);
-      ++count;
-      EXPECT_EQ(FactoryImage(Known(name)).size(), expected.digits);
-      const std::string stream = FactoryStream(name);
-      EXPECT_TRUE(stream.starts_with(expected.first));
-      EXPECT_EQ(stream.rfind('$'), (expected.records - 1) * 71);
-      EXPECT_EQ(stream.substr(stream.rfind('$'), 5), expected.last);
-      EXPECT_EQ(stream.size(), expected.digits + expected.records * 5 + (expected.records - 1) * 2 + 1);
-      EXPECT_TRUE(ErrorsOf(name, stream).empty());
-      const bool newest = name == "V1400R11" || name == "V1400R12";
-      EXPECT_FALSE(ErrorsOf(newest ? "V1400R6" : "V1400R12", stream).empty());
-    }
-  }
-  EXPECT_EQ(count, AllFirmware().size());
-  EXPECT_EQ(FindFirmware("V1400R3"), nullptr);
-  EXPECT_EQ(FindFirmware("v1400R12"), nullptr);
-}
-
-TEST(UnitFirmware, FactoryImageHoldsWhatDistinguishesTheFirmware) {
-  const auto byte = [](std::string_view name, std::size_t at) {
-    return FactoryImage(Known(name)).substr(2 * at, 2);
-  };
-  // Eight bits without parity, 9600 both ways.
-  EXPECT_EQ(byte("V1400R6", 1) + byte("V1400R6", 3) + byte("V1400R6", 4), "040303");
-  EXPECT_EQ(byte("V1400R6", 2), "0A");
-  EXPECT_EQ(byte("V1400R7", 2), "0E");
-  EXPECT_EQ(byte("V1324R24", 2), "0A");
-  EXPECT_EQ(byte("V1324R25", 2), "0E");
-  // Demonstration byte, behind the daylight saving that is switched off by 01.
-  EXPECT_EQ(byte("V1400R1", 32 + 90) + byte("V1400R1", 32 + 91), "0101");
-  EXPECT_EQ(byte("V1400R12", 32 + 92) + byte("V1400R12", 32 + 93), "0100");
-  EXPECT_EQ(byte("V1324R18", 48 + 70) + byte("V1324R18", 48 + 71), "0101");
-  EXPECT_EQ(byte("V1300R14", 48 + 74) + byte("V1300R14", 48 + 75), "0101");
-  EXPECT_EQ(byte("V1300R26", 48 + 76) + byte("V1300R26", 48 + 77), "0101");
-  EXPECT_EQ(byte("V1310R1", 48 + 76) + byte("V1310R1", 48 + 77), "0100");
-  // The first free exception slot, behind the title.
-  EXPECT_EQ(byte("V1400R12", 32 + 113 + 41), "10");
-  EXPECT_EQ(byte("V1400R12", 32 + 113 + 41 + 12), "20");
-  EXPECT_EQ(byte("V1334R1", 48 + 96 + 41), "10");
-  EXPECT_EQ(byte("V1334R1", 48 + 96 + 41 + 8), "20");
-}
-
-struct Damage {
-  std::string stream;
-  std::string error;
-};
 
 TEST(UnitStream, EveryDamageIsToldOnceAndExactly) {
   const std::string good = FactoryStream("V1400R12");
-  const std::string hex = "expected an upper-case hexadecimal digit, found ";
-  const std::vector<Damage> damages{
-      {Replaced(good, "$2040", "$2060"),
-       "record 3, address 2040, position 2: expected address 2040, found 2060"},
-      {Replaced(good, "$2040", "$20a0"), "record 3, address 2040, position 4: " + hex + "\"a\""},
-      {Replaced(good, "$2860", "$2880"),
-       "record 68, address 2860, position 2: expected address 2860, found 2880"},
-      {Replaced(good, "0E0303", "0e0303"), "record 1, address 2000, position 11: " + hex + "\"e\""},
-      {Replaced(good, "0E0303", "E0303"), "record 1, address 2000, position 69: " + hex + "<CR>"},
-      {Replaced(good, "0E0303", "00E0303"),
-       "record 1, address 2000, position 70: expected <CR>, found \"1\""},
-      {Replaced(good, "\r\n", "\n"), "record 1, address 2000, position 70: expected <CR>, found <LF>"},
-      {Replaced(good, "\r\n", "\r"), "record 1, address 2000, position 71: expected <LF>, found \"$\""},
-      {Replaced(good, "\r\n$2020", "$2020"),
-       "record 1, address 2000, position 70: expected <CR>, found \"$\""},
-      {Replaced(good, "\r\n$2020", "\r\n\r\n$2020"),
-       "record 2, address 2020, position 1: expected \"$\", found <CR>"},
-      {"\n\r" + good, "record 1, address 2000, position 1: expected \"$\", found <LF>"},
-      {Replaced(good, "#", "00#"),
-       "record 68, address 2860, position 42: expected \"#\", the end of the stream, found \"0\""},
-      {Replaced(good, "00#", "#"),
-       "record 68, address 2860, position 40: expected 36 digits in the last record, found \"#\" after 34"},
-      {good.substr(0, 2 * 71 + 20) + "#",
-       "record 3, address 2040, position 21: expected more, up to address 2860, found \"#\", the end of the "
-       "stream"},
-      {good.substr(0, 71) + good.substr(2 * 71),
-       "record 2, address 2020, position 2: expected address 2020, found 2040"},
-      {good.substr(0, 2 * 71) + good.substr(71),
-       "record 3, address 2040, position 2: expected address 2040, found 2020"},
-      {Replaced(good, "#", "\r\n$2880#"),
-       "record 68, address 2860, position 42: expected \"#\", the end of the stream, found <CR>"},
+  const auto with = [&](std::string_view what, std::string_view by) { return Replaced(good, what, by); };
+  const std::string hex = "an upper-case hexadecimal digit, found ";
+  const std::string after = "found \"#\" after ";
+  const std::string end = "\"#\", the end of the stream";
+  const std::vector<std::tuple<std::string, std::string, std::string>> damages{
+      {with("$2040", "$2060"), "3, address 2040, position 2", "address 2040, found 2060"},
+      {with("$2040", "$20a0"), "3, address 2040, position 4", hex + "\"a\""},
+      {with("0E0303", "0e0303"), "1, address 2000, position 11", hex + "\"e\""},
+      {with("0E0303", "E0303"), "1, address 2000, position 69", hex + "<CR>"},
+      {with("0E0303", "00E0303"), "1, address 2000, position 70", "<CR>, found \"1\""},
+      {with("\r\n", "\n"), "1, address 2000, position 70", "<CR>, found <LF>"},
+      {with("\r\n", "\r"), "1, address 2000, position 71", "<LF>, found \"$\""},
+      {with("\r\n", ""), "1, address 2000, position 70", "<CR>, found \"$\""},
+      {with("\r\n", "\r\n\r\n"), "2, address 2020, position 1", "\"$\", found <CR>"},
+      {with("#", "00#"), "68, address 2860, position 42", end + ", found \"0\""},
+      {with("00#", "#"), "68, address 2860, position 40", "36 digits in the last record, " + after + "34"},
+      {good.substr(0, 162) + "#", "3, address 2040, position 21", "more, up to address 2860, found " + end},
+      {std::string(good).erase(66 * 71, 71), "67, address 2840, position 2", "address 2840, found 2860"},
+      {with("#", "\r\n#"), "68, address 2860, position 42", end + ", found <CR>"},
   };
-  for (const Damage& damage : damages) {
-    const auto errors = ErrorsOf("V1400R12", damage.stream);
-    ASSERT_FALSE(errors.empty()) << damage.error;
-    EXPECT_EQ(errors.front(), damage.error);
-    const bool extra_record = damage.stream.ends_with("$2880#");
-    EXPECT_EQ(errors.size(), extra_record ? 2U : 1U) << damage.error;
+  const Region& region = RegionOf(Known("V1400R12"));
+  for (const auto& [stream, place, problem] : damages) {
+    StreamChecker checker(region);
+    for (const char c : stream) checker.Feed(c);
+    EXPECT_EQ(checker.Errors(), Texts{"record " + place + ": expected " + problem});
+    EXPECT_FALSE(checker.Correct());
   }
-}
-
-TEST(UnitStream, ManyErrorsAreCountedAndASilentEndIsOne) {
-  std::string lower = FactoryStream("V1310R1");
-  for (char& c : lower) c = c == 'F' ? 'f' : c;
-  const auto errors = ErrorsOf("V1310R1", lower);
+  EXPECT_EQ(ReadStreamText(region, with("#", "\r\n$2880#")).errors.size(), 2U);
+  std::string many = good;
+  std::ranges::replace(many, '2', 'g');
+  const Texts errors = ReadStreamText(region, many).errors;
   ASSERT_EQ(errors.size(), 6U);
   EXPECT_TRUE(errors.back().ends_with("more errors"));
-
-  StreamChecker checker(RegionOf(Known("V1310R1")));
-  for (const char c : std::string("$77F000")) checker.Feed(c);
-  checker.BreakOff("silence");
-  EXPECT_FALSE(checker.Correct());
-  EXPECT_EQ(checker.Errors().front(),
-            "the stream broke off after 7 characters, in record 1, address 77F0: silence");
 }
 
 // ---- remote mode
@@ -245,339 +157,206 @@ TEST(UnitRemote, OnlyTheExactRequestWakesIt) {
     EXPECT_EQ(bench.Say(noise), "") << noise;
     EXPECT_FALSE(bench.unit->Remote());
   }
-  EXPECT_EQ(bench.Say("noise~~~SOH_~" + kEnterRemote), kAcked);
-  EXPECT_TRUE(bench.unit->Remote());
+  EXPECT_EQ(bench.Say("noise~~~SOH_~" + kEnterRemote + kEnterRemote + "\x05"), "\x06\x06\x0C");
   EXPECT_TRUE(bench.complaints.empty());
 }
 
 TEST(UnitRemote, HoldsByEnqEndsByCanAndByPatience) {
   Bench bench;
-  bench.Enter();
-  EXPECT_EQ(bench.Enter(), kAcked);
-  for (int i = 0; i < 3; ++i) {
-    bench.Pass(20s);
+  EXPECT_EQ(bench.Order("\x18\x05"), "");
+  bench.Order("");
+  for (const Time pause : {20s, 20s, 29s}) {
+    bench.Pass(pause);
     EXPECT_EQ(bench.Say("\x05"), "\x0C");
   }
-  bench.Pass(29s);
-  EXPECT_TRUE(bench.unit->Remote());
-  bench.Pass(1s);
+  bench.Hear("\x05");
+  bench.Pass(30s);
   EXPECT_FALSE(bench.unit->Remote());
-
-  bench.Enter();
-  EXPECT_EQ(bench.Say("\x18"), "");
-  EXPECT_FALSE(bench.unit->Remote());
-  EXPECT_EQ(bench.Say("\x18\x05"), "");
-  EXPECT_TRUE(bench.complaints.empty());
-}
-
-TEST(UnitRemote, WrongCommandsAreRefusedOnceEach) {
-  for (const std::string_view wrong :
-       {"/XX\r", "/XX\r\n\r", "LU\r", "/lu\r", "/LUX\r", "\r", "/LH\rX", "/MR\r\r"}) {
-    Bench bench;
-    bench.Enter();
-    EXPECT_EQ(bench.Say(wrong), kRefused) << wrong;
-    EXPECT_EQ(bench.complaints.size(), 1U) << wrong;
-    EXPECT_TRUE(bench.unit->Remote());
-    EXPECT_EQ(bench.Say("/LU\r").back(), '#') << wrong;
+  for (const auto* begun : {"/L", "/LD\r"}) {
+    bench.Order(begun);
+    bench.Pass(30s);
   }
-  Bench bench;
-  bench.Enter();
-  EXPECT_EQ(bench.Say(std::string(81, 'x')), kRefused);
-  EXPECT_EQ(bench.Say("/L" + kEnterRemote), kAcked);
-  EXPECT_EQ(bench.complaints.back(), "unexpected ahead of the request for remote mode: \"/L\"");
+  EXPECT_EQ(bench.Say(""), kRefused);
+  const std::string broken = "the stream broke off before its first character: the tool fell silent";
+  EXPECT_EQ(bench.complaints, (Texts{"a command without its end: \"/L\"", broken}));
 }
 
-// ---- commands
-
-TEST(UnitCommand, UploadSendsTheMemoryAtTheRateOfTheLine) {
-  Bench bench({}, "V1324R18", 1200);
-  bench.Enter();
-  const Time begin = bench.now;
-  const std::string stream = bench.Say("/LU\r");
-  EXPECT_EQ(stream, FactoryStream("V1324R18"));
-  EXPECT_EQ((bench.now - begin).count(), static_cast<long long>(stream.size()) * 1'000'000'000 / 120);
-  EXPECT_FALSE(bench.unit->Remote());
-  EXPECT_TRUE(bench.complaints.empty());
-}
-
-TEST(UnitCommand, UploadIsStoppedByCanAndByARequest) {
-  Bench bench;
-  bench.Enter();
-  for (const char c : std::string("/LU\r")) bench.unit->Receive(c, bench.now);
-  bench.Pass(100ms);
-  EXPECT_EQ(bench.sent.size(), 96U);
-  bench.sent.clear();
-  EXPECT_EQ(bench.Say("\x18"), "");
-  EXPECT_FALSE(bench.unit->Remote());
-
-  bench.Enter();
-  for (const char c : "/LU\r" + kEnterRemote) bench.unit->Receive(c, bench.now);
-  EXPECT_EQ(bench.Settle(), kAcked);
-  EXPECT_TRUE(bench.complaints.empty());
-
-  EXPECT_EQ(bench.Say("/LU\r\n\r").back(), '#');
-  EXPECT_EQ(bench.complaints, std::vector<std::string>{"a character while the unit is sending: <LF>"});
-}
-
-TEST(UnitCommand, DownloadStoresOnlyACorrectStream) {
-  Bench bench;
-  const std::string before = bench.unit->Image();
-  const std::string stream = Replaced(FactoryStream("V1400R12"), "0E0303", "0E0808");
-  bench.Enter();
-  EXPECT_EQ(bench.Say("/LD\r"), kAcked);
-  EXPECT_EQ(bench.Say(Replaced(stream, "\r\n", "\n")), kRefused);
-  EXPECT_EQ(bench.unit->Image(), before);
-  EXPECT_EQ(bench.kept_image, "");
-  EXPECT_EQ(bench.complaints.size(), 1U);
-  EXPECT_FALSE(bench.unit->Remote());
-
-  bench.complaints.clear();
-  bench.Enter();
-  EXPECT_EQ(bench.Say("/LD\r"), kAcked);
-  EXPECT_EQ(bench.Say(stream), kAcked);
-  EXPECT_EQ(ComposeStream(RegionOf(Known("V1400R12")), bench.unit->Image()), stream);
-  EXPECT_EQ(bench.kept_image, bench.unit->Image());
-  EXPECT_TRUE(bench.complaints.empty());
-  EXPECT_EQ(bench.Say("\r\n"), "");
-  EXPECT_EQ(bench.complaints.size(), 1U);
-}
-
-TEST(UnitCommand, DownloadThatCannotBeKeptIsRefused) {
-  Bench bench;
-  const std::string before = bench.unit->Image();
-  bench.failure = "cannot write unit.bin: No space left on device";
-  bench.Enter();
-  bench.Say("/LD\r");
-  EXPECT_EQ(bench.Say(Replaced(FactoryStream("V1400R12"), "0303", "0808")), kRefused);
-  EXPECT_EQ(bench.complaints, std::vector<std::string>{bench.failure});
-  EXPECT_EQ(bench.unit->Image(), before);
-}
-
-TEST(UnitCommand, DownloadBrokenOffLeavesTheMemory) {
-  const std::string half = FactoryStream("V1400R12").substr(0, 2000);
-  Bench bench;
-  const std::string before = bench.unit->Image();
-  bench.Enter();
-  bench.Say("/LD\r");
-  EXPECT_EQ(bench.Say(half + "\x18"), "");
-  EXPECT_FALSE(bench.unit->Remote());
-  EXPECT_TRUE(bench.complaints.empty());
-
-  bench.Enter();
-  bench.Say("/LD\r");
-  EXPECT_EQ(bench.Say(half + kEnterRemote), kAcked);
-  EXPECT_EQ(bench.complaints,
-            std::vector<std::string>{"the stream broke off after 2000 characters, in record 29, "
-                                     "address 2380: the tool asks for remote mode"});
-  bench.Say("/LD\r");
-  bench.Say(half);
-  bench.Pass(kPatience);
-  EXPECT_EQ(bench.Settle(), kRefused);
-  EXPECT_EQ(bench.complaints.size(), 2U);
-  EXPECT_EQ(bench.unit->Image(), before);
-}
-
-TEST(UnitCommand, ReleaseSevenTakesOneByteMoreWithAComplaint) {
-  Bench bench({}, "V1400R7");
-  bench.Enter();
-  bench.Say("/LD\r");
-  EXPECT_EQ(bench.Say(Replaced(FactoryStream("V1400R7"), "#", "0A#")), kAcked);
-  EXPECT_EQ(bench.complaints.size(), 1U);
-  EXPECT_EQ(bench.unit->Image(), FactoryImage(Known("V1400R7")));
-  EXPECT_FALSE(ErrorsOf("V1400R7", Replaced(FactoryStream("V1400R7"), "#", "0#")).empty());
-  EXPECT_FALSE(ErrorsOf("V1400R7", Replaced(FactoryStream("V1400R7"), "#", "000#")).empty());
-}
-
-TEST(UnitCommand, ClockTakesOnlyTimesThatExist) {
-  for (const std::string_view good : {"03-05-26 14:07:09", "02-29-00 00:00:00", "12-31-99 23:59:59"}) {
-    Bench bench;
-    bench.Enter();
-    EXPECT_EQ(bench.Say("/TD" + std::string(good) + "\r\n\r"), kAcked);
-    EXPECT_EQ(bench.kept_clock, good);
-    EXPECT_FALSE(bench.unit->Remote());
-  }
-  for (const std::string_view bad :
+TEST(UnitRemote, WhatIsWrongRefusedOrUnheardChangesNothing) {
+  // The fault, and what the unit is told, which is the request if nothing; without a fault it is wrong.
+  std::istringstream written(
+      " /XX\r| /XX\r\n\r| LU\r| /lu\r| /LUX\r| \r| /LH\rX| /MR\r\r|refuse:upload /LU\r|silent:upload /LU\r|"
+      "refuse:download /LD\r|silent:download-ack /LD\r|refuse:history /LH\r\n\r|silent:history /LH\r\n\r|"
+      "refuse:reset /MR\r\n\r|silent:reset /MR\r\n\r|refuse:clock /TD03-05-26 14:07:09\r\n\r|"
+      "silent:clock /TD03-05-26 14:07:09\r\n\r|silent:enq \x05|refuse:request |silent:request |refuse "
+      "|silent ");
+  Texts rows{" " + std::string(81, 'x')};
+  for (std::string row; std::getline(written, row, '|');) rows.push_back(row);
+  for (const std::string time :
        {"02-29-26 14:07:09", "04-31-26 14:07:09", "13-01-26 14:07:09", "00-01-26 14:07:09",
         "03-00-26 14:07:09", "03-05-26 24:00:00", "03-05-26 14:60:09", "03-05-26 14:07:60",
         " 03-05-26 14:07:09", "03-05-2026 14:07:09", "3-5-26 14:07:09", "03/05/26 14:07:09", "03-05-26 14:07",
         "03-05-26 14:07:09 ", ""}) {
+    rows.push_back(" /TD" + time + "\r\n\r");
+  }
+  for (const std::string& row : rows) {
+    SCOPED_TRACE(row);
+    const std::string fault = row.substr(0, row.find(' '));
+    const std::string told = row.size() == fault.size() + 1 ? kEnterRemote : row.substr(fault.size() + 1);
+    Bench bench(fault);
+    EXPECT_EQ(bench.Order(told), fault.starts_with("silent") ? "" : kRefused);
+    EXPECT_EQ(bench.complaints.size(), fault.empty() ? 1U : 0U);
+    EXPECT_EQ(bench.kept_clock + bench.kept_image, "");
+    EXPECT_NE(bench.unit->Remote(), told == kEnterRemote);
+    EXPECT_TRUE(!fault.empty() || bench.Say("/LU\r").ends_with('#'));
+  }
+  Bench bench;
+  EXPECT_EQ(bench.Order("/L" + kEnterRemote + "/L\x05U\r"), "\x06\x0C" + FactoryStream("V1400R12"));
+  const std::string ahead = "unexpected ahead of the request for remote mode: \"/L\"";
+  EXPECT_EQ(bench.complaints, (Texts{ahead, "ENQ in the middle of \"/L\""}));
+}
+
+// ---- commands
+
+// Microseconds that the unit takes to say what is expected.
+std::size_t TimeFor(Bench&& bench, std::string_view command, std::string_view expected) {
+  bench.Say(kEnterRemote);
+  const Time begin = bench.now;
+  EXPECT_EQ(bench.Say(command), expected);
+  return static_cast<std::size_t>((bench.now - begin) / 1us);
+}
+
+TEST(UnitCommand, TextsGoOutAtTheRateOfTheLineAndStalledOrLate) {
+  const std::string stream = FactoryStream("V1400R12");
+  const std::size_t time = stream.size() * 10'000'000 / 9600;
+  EXPECT_EQ(TimeFor(Bench("", "V1400R12", 1200), "/LU\r", stream), stream.size() * 10'000'000 / 1200);
+  EXPECT_EQ(TimeFor(Bench("stall:500,7000"), "/LU\r", stream), time + 7'000'000);
+  EXPECT_EQ(TimeFor(Bench("late:400"), "/LU\r", stream), time + 400'000);
+  EXPECT_EQ(TimeFor(Bench("late:400"), "/LH\r\n\r", kHistory + kAcked), 11U * 10'000'000 / 9600 + 400'000);
+  EXPECT_EQ(TimeFor(Bench("late:400"), "/MR\r\n\r", kAcked), 10'000'000U / 9600 + 400'000);
+}
+
+TEST(UnitCommand, UploadIsStoppedByCanAndByARequest) {
+  Bench bench;
+  bench.Say(kEnterRemote);
+  bench.Hear("/LU\r");
+  bench.Pass(100ms);
+  EXPECT_EQ(std::exchange(bench.sent, {}).size(), 96U);
+  bench.Hear("\x18" + kEnterRemote);
+  bench.Pass(2ms);
+  EXPECT_EQ(std::exchange(bench.sent, {}), kAcked);
+  EXPECT_EQ(bench.Say("/LU\r" + kEnterRemote), kAcked);
+  EXPECT_EQ(bench.Say("/LU\r\n\r").back(), '#');
+  EXPECT_EQ(bench.complaints, Texts{"a character while the unit is sending: <LF>"});
+}
+
+TEST(UnitCommand, OnlyWhatIsRightIsKept) {
+  const std::string factory = FactoryImage(Known("V1400R12"));
+  const std::string image = Replaced(factory, "0E0303", "0E0808");
+  const std::string load = "/LD\r" + Replaced(FactoryStream("V1400R12"), "0E0303", "0E0808");
+  const std::string clock = "/TD03-05-26 14:07:09\r\n\r";
+  const std::string reset = "/MR\r\n\r";
+  // The unit's fault, what it is told, what it answers, keeps and tells.
+  const std::vector<std::tuple<std::string, std::string, std::string, std::string, std::string>> rows{
+      {"", load + "\x18", "\x06\x06", image, ""},
+      {"", load + "\r\n", "\x06\x06", image, "a character behind the end mark of the stream: <CR>"},
+      {"", load + kEnterRemote + reset, "\x06\x06\x06\x06", factory, ""},
+      {"silent:final-ack", load, "\x06", image, ""},
+      {"", Replaced(load, "\r\n", "\r"), "\x06\x15", "",
+       "record 1, address 2000, position 71: expected <LF>, found \"$\""},
+      {"", "/LD\r$2000\x18", "\x06", "", ""},
+      {"", "/LD\r$2000" + kEnterRemote, "\x06\x06", "",
+       "the stream broke off after 5 characters, in record 1, address 2000: the tool asks for remote mode"},
+      {"", clock, "\x06", "03-05-26 14:07:09", ""},
+      {"", "/TD02-29-00 00:00:00\r\n\r", "\x06", "02-29-00 00:00:00", ""},
+      {"", "/TD12-31-99 23:59:59\r\n\r", "\x06", "12-31-99 23:59:59", ""}};
+  for (const auto& [faults, said, answer, kept, complaint] : rows) {
+    SCOPED_TRACE(said);
+    Bench bench(faults);
+    EXPECT_EQ(bench.Order(said), answer);
+    EXPECT_EQ(bench.kept_image + bench.kept_clock, kept);
+    EXPECT_EQ(bench.unit->Image(), bench.kept_image.empty() ? factory : bench.kept_image);
+    EXPECT_EQ(bench.unit->Remote(), said.ends_with(kEnterRemote));
+    EXPECT_EQ(bench.complaints, Texts(complaint.empty() ? 0 : 1, complaint));
+  }
+  for (const std::string& said : {load, clock, reset}) {
     Bench bench;
-    bench.Enter();
-    EXPECT_EQ(bench.Say("/TD" + std::string(bad) + "\r\n\r"), kRefused) << bad;
-    EXPECT_EQ(bench.complaints.size(), 1U) << bad;
-    EXPECT_EQ(bench.kept_clock, "");
+    bench.failure = "cannot write unit.bin: No space left on device";
+    EXPECT_EQ(bench.Order(said).back(), '\x15');
+    EXPECT_EQ(bench.unit->Image(), factory);
+    EXPECT_EQ(bench.complaints, Texts{bench.failure});
   }
 }
 
-TEST(UnitCommand, HistoryEndsWithAckAndResetBringsTheFactoryBack) {
-  Bench bench;
-  bench.Enter();
-  EXPECT_EQ(bench.Say("/LH\r\n\r"), "one\r\ntwo\r\n" + kAcked);
-  EXPECT_FALSE(bench.unit->Remote());
-
-  bench.Enter();
-  bench.Say("/LD\r");
-  bench.Say(Replaced(FactoryStream("V1400R12"), "0303", "0808"));
-  EXPECT_NE(bench.unit->Image(), FactoryImage(Known("V1400R12")));
-  bench.Enter();
-  EXPECT_EQ(bench.Say("/MR\r\n\r"), kAcked);
-  EXPECT_EQ(bench.unit->Image(), FactoryImage(Known("V1400R12")));
-  EXPECT_EQ(bench.kept_image, bench.unit->Image());
-  EXPECT_FALSE(bench.unit->Remote());
+TEST(UnitCommand, ReleaseSevenTakesOneByteMoreWithAComplaint) {
+  for (const std::string rest : {"0", "0A", "000"}) {
+    Bench bench("", "V1400R7");
+    EXPECT_EQ(bench.Order("/LD\r" + Replaced(FactoryStream("V1400R7"), "#", rest + "#")),
+              rest == "0A" ? "\x06\x06" : "\x06\x15");
+    EXPECT_FALSE(bench.complaints.empty());
+    EXPECT_EQ(bench.unit->Image(), FactoryImage(Known("V1400R7")));
+  }
 }
 
 // ---- faults
 
-TEST(UnitFaults, RefusedAndUnheardOperationsChangeNothing) {
-  const std::vector<std::pair<std::string, std::string>> operations{{"upload", "/LU\r"},
-                                                                    {"clock", "/TD03-05-26 14:07:09\r\n\r"},
-                                                                    {"history", "/LH\r\n\r"},
-                                                                    {"reset", "/MR\r\n\r"}};
-  for (const auto& [name, command] : operations) {
-    SCOPED_TRACE(name);
-    Bench refusing({"refuse:" + name});
-    refusing.Enter();
-    EXPECT_EQ(refusing.Say(command), kRefused);
-    Bench silent({"silent:" + name});
-    silent.Enter();
-    EXPECT_EQ(silent.Say(command), "");
-    for (const Bench* bench : {&refusing, &silent}) {
-      EXPECT_TRUE(bench->unit->Remote());
-      EXPECT_EQ(bench->kept_clock + bench->kept_image, "");
-      EXPECT_TRUE(bench->complaints.empty());
-    }
-  }
-  Bench asked_in_vain({"refuse:request"});
-  EXPECT_EQ(asked_in_vain.Enter(), kRefused);
-  EXPECT_FALSE(asked_in_vain.unit->Remote());
-  Bench deaf({"silent"});
-  EXPECT_EQ(deaf.Enter(), "");
-  EXPECT_FALSE(deaf.unit->Remote());
-  Bench no_keep_alive({"silent:enq"});
-  no_keep_alive.Enter();
-  EXPECT_EQ(no_keep_alive.Say("\x05"), "");
+std::string AnswerUnder(const std::string& fault, std::uint64_t seed = 1,
+                        std::string_view command = "/LU\r") {
+  Bench bench(fault, "V1400R12", 0, seed);
+  const std::string answer = bench.Order(command);
+  EXPECT_EQ(bench.unit->Remote(), fault.starts_with("silent"));
+  return answer;
 }
 
-TEST(UnitFaults, DownloadWithoutItsAnswers) {
-  Bench refusing({"refuse:download"});
-  refusing.Enter();
-  EXPECT_EQ(refusing.Say("/LD\r"), kRefused);
-  Bench silent({"silent:download-ack"});
-  silent.Enter();
-  EXPECT_EQ(silent.Say("/LD\r"), "");
-  Bench unconfirmed({"silent:final-ack"});
-  unconfirmed.Enter();
-  unconfirmed.Say("/LD\r");
-  EXPECT_EQ(unconfirmed.Say(FactoryStream("V1400R12")), "");
-  EXPECT_EQ(unconfirmed.kept_image, FactoryImage(Known("V1400R12")));
-  EXPECT_FALSE(unconfirmed.unit->Remote());
-}
-
-TEST(UnitFaults, StreamsAreCutStalledAndHeadedByJunk) {
+TEST(UnitFaults, TextsAreCutGarbledAndHeadedByJunk) {
   const std::string stream = FactoryStream("V1400R12");
-  Bench cut({"cut:1000"});
-  cut.Enter();
-  EXPECT_EQ(cut.Say("/LU\r"), stream.substr(0, 1000));
-  EXPECT_FALSE(cut.unit->Remote());
-  Bench cut_late({"cut:99999"});
-  cut_late.Enter();
-  EXPECT_EQ(cut_late.Say("/LU\r"), stream.substr(0, stream.size() - 1));
-
-  Bench hanging({"silent:after=11"});
-  hanging.Enter();
-  EXPECT_EQ(hanging.Say("/LU\r"), stream.substr(0, 10));
-  EXPECT_TRUE(hanging.unit->Remote());
-
-  Bench stalled({"stall:500,7000"});
-  stalled.Enter();
-  const Time begin = stalled.now;
-  EXPECT_EQ(stalled.Say("/LU\r"), stream);
-  EXPECT_EQ((stalled.now - begin - 7s).count(), static_cast<long long>(stream.size()) * 1'000'000'000 / 960);
-
-  Bench junk({"junk:40"});
-  junk.Enter();
-  const std::string with_junk = junk.Say("/LU\r");
-  EXPECT_EQ(with_junk.size(), stream.size() + 40);
-  EXPECT_EQ(with_junk.find('$'), 40U);
-  EXPECT_TRUE(with_junk.ends_with(stream));
-
-  Bench late({"late:400"});
-  const Time asked = late.now;
-  EXPECT_EQ(late.Enter(), kAcked);
-  EXPECT_GE(late.now - asked, 400ms);
-}
-
-std::string UploadWith(std::string_view fault, std::uint64_t seed) {
-  Bench bench({fault}, "V1400R12", 0, seed);
-  bench.Enter();
-  return bench.Say("/LU\r");
-}
-
-TEST(UnitFaults, ChanceFollowsTheSeed) {
-  const std::string stream = FactoryStream("V1400R12");
-  for (const std::string_view fault : {"drop:20", "garble:20", "junk:9"}) {
-    EXPECT_EQ(UploadWith(fault, 7), UploadWith(fault, 7));
-    EXPECT_NE(UploadWith(fault, 7), UploadWith(fault, 8));
+  EXPECT_EQ(AnswerUnder("cut:1000"), stream.substr(0, 1000));
+  EXPECT_EQ(AnswerUnder("cut:99999"), stream.substr(0, stream.size() - 1));
+  EXPECT_EQ(AnswerUnder("silent:after=11"), stream.substr(0, 10));
+  EXPECT_EQ(AnswerUnder("drop:0"), stream);
+  EXPECT_EQ(AnswerUnder("drop:1000", 1, "/LH\r\n\r"), kAcked);
+  const std::string junk = AnswerUnder("junk:4000");
+  EXPECT_EQ(junk.find_first_of("$?"), 4000U);
+  EXPECT_EQ(junk.substr(4000), stream);
+  for (const auto* fault : {"drop:20", "garble:20", "junk:9"}) {
+    EXPECT_EQ(AnswerUnder(fault, 7), AnswerUnder(fault, 7));
+    EXPECT_NE(AnswerUnder(fault, 7), AnswerUnder(fault, 8));
   }
-  EXPECT_LT(UploadWith("drop:20", 7).size(), stream.size());
-  const std::string garbled = UploadWith("garble:20", 7);
+  const std::string garbled = AnswerUnder("garble:1000");
   ASSERT_EQ(garbled.size(), stream.size());
-  int changed = 0;
   for (std::size_t i = 0; i < stream.size(); ++i) {
-    const int bits = __builtin_popcount(static_cast<unsigned char>(garbled[i] ^ stream[i]));
-    EXPECT_LE(bits, 1);
-    changed += bits;
+    EXPECT_EQ(__builtin_popcount(static_cast<unsigned char>(garbled[i] ^ stream[i])), 1);
   }
-  EXPECT_GT(changed, 20);
-  EXPECT_LT(changed, 400);
-  EXPECT_EQ(UploadWith("drop:0", 7), stream);
+  const std::size_t dropped = stream.size() - AnswerUnder("drop:20", 7).size();
+  EXPECT_TRUE(dropped > 20 && dropped < 400) << dropped;
+  Bench once("refuse:upload cut:100 once");
+  EXPECT_EQ(once.Order("/LU\r"), kRefused);
+  EXPECT_EQ(once.Say("/LU\r").size(), 100U);
+  EXPECT_EQ(once.Order("/LU\r"), stream);
   // The generator must give these on every machine, or recorded failures could not be replayed.
-  Random random(7);
-  EXPECT_EQ(random.Below(1000), 389U);
-}
-
-TEST(UnitFaults, OnceIsOver) {
-  Bench bench({"refuse:upload", "cut:100", "once"});
-  bench.Enter();
-  EXPECT_EQ(bench.Say("/LU\r"), kRefused);
-  EXPECT_EQ(bench.Say("/LU\r").size(), 100U);
-  bench.Enter();
-  EXPECT_EQ(bench.Say("/LU\r"), FactoryStream("V1400R12"));
+  EXPECT_EQ(Random(7).Below(1000), 389U);
 }
 
 // ---- command line, files, log
 
 TEST(UnitOptions, WrongOnesNameOptionAndValue) {
-  const std::vector<std::pair<std::vector<std::string_view>, std::string_view>> wrong{
-      {{"--speed", "9601"}, "--speed 9601"},
-      {{"--firmware", "V1400"}, "--firmware V1400"},
-      {{"--speed"}, "--speed needs"},
-      {{"--sped", "9600"}, "--sped: "},
-      {{"--pace", "slow"}, "--pace slow"},
-      {{"--help=1"}, "--help takes no value"},
-      {{"--seed", "-1"}, "--seed -1"},
-      {{"--history", "lines:x"}, "--history lines:x"},
-      {{"--fault", "dorp:5"}, "--fault dorp:5"},
-      {{"--fault", "drop"}, "--fault drop"},
-      {{"--fault", "drop:x"}, "--fault drop:x"},
-      {{"--fault", "drop:1001"}, "--fault drop:1001"},
-      {{"--fault", "stall:5"}, "--fault stall:5"},
-      {{"--fault", "refuse:enq"}, "--fault refuse:enq"},
-      {{"--fault", "once:1"}, "--fault once:1"},
-      {{"--fault", "silent:after=x"}, "--fault silent:after=x"},
-      {{"--memory", ""}, "--memory : expected"},
-      {{"extra"}, "extra: "},
-  };
-  for (const auto& [arguments, begin] : wrong) {
-    const ParsedOptions parsed = ParseOptions(arguments);
-    EXPECT_TRUE(parsed.error.starts_with(begin)) << begin << " / " << parsed.error;
+  const auto parse = [](const std::vector<std::string_view>& arguments) { return ParseOptions(arguments); };
+  for (const std::string_view row :
+       {"--speed 9601", "--firmware V1400R3", "--firmware v1400R12", "--pace slow", "--seed -1",
+        "--history lines:x", "--history lines:100001", "--memory ", "--fault dorp:5", "--fault drop",
+        "--fault drop:x", "--fault drop:1001", "--fault stall:5", "--fault refuse:enq", "--fault once:1",
+        "--fault silent:after=x"}) {
+    const std::string error = parse({row.substr(0, row.find(' ')), row.substr(row.find(' ') + 1)}).error;
+    EXPECT_TRUE(error.starts_with(std::string(row) + ": ")) << row << " / " << error;
   }
-  const std::vector<std::string_view> right{"--speed=115200", "--fault", "stall:5,100", "--pace", "off"};
-  const ParsedOptions parsed = ParseOptions(right);
-  EXPECT_EQ(parsed.error, "");
-  EXPECT_EQ(parsed.options.speed, 115200U);
-  EXPECT_FALSE(parsed.options.paced);
-  EXPECT_EQ(parsed.options.faults.size(), 1U);
+  EXPECT_EQ(parse({"--speed"}).error, "--speed needs a value, N");
+  EXPECT_EQ(parse({"--sped", "9600"}).error, "--sped: there is no such option");
+  EXPECT_EQ(parse({"--help=1"}).error, "--help takes no value");
+  const auto [options, error] =
+      parse({"--speed=115200", "--fault", "stall:5,100", "--pace", "off", "--history=lines:100000"});
+  EXPECT_EQ(error, "");
+  EXPECT_EQ(options.speed, 115200U);
+  EXPECT_FALSE(options.paced);
+  EXPECT_EQ(MadeUpLines(options.history), 100000U);
 }
 
 TEST(UnitFiles, ImagesSurviveAndForeignOnesAreNamed) {
@@ -585,14 +364,16 @@ TEST(UnitFiles, ImagesSurviveAndForeignOnesAreNamed) {
   ASSERT_NE(::mkdtemp(place.data()), nullptr);
   const std::string path = place + "/unit.bin";
   const Firmware& firmware = Known("V1310R1");
-  ASSERT_EQ(SaveImage(path, firmware, FactoryImage(firmware)), "");
+  const std::string image = FactoryImage(firmware);
+  ASSERT_EQ(SaveImage(path, firmware, image), "");
   EXPECT_EQ(ReadFile(path).text, FactoryStream("V1310R1") + "\r\n");
-  EXPECT_EQ(LoadImage(path, firmware).text, FactoryImage(firmware));
+  EXPECT_EQ(LoadImage(path, firmware).text, image);
   EXPECT_TRUE(LoadImage(path, Known("V1400R12")).error.starts_with(path));
   ASSERT_EQ(WriteFile(path, FactoryStream("V1310R1") + "\r\n$"), "");
   EXPECT_NE(LoadImage(path, firmware).error, "");
-  EXPECT_NE(LoadImage(place + "/none", firmware).error.find("/none: No such file"), std::string::npos);
-  EXPECT_NE(SaveImage(place + "/none/unit.bin", firmware, FactoryImage(firmware)), "");
+  EXPECT_EQ(LoadImage(place + "/none", firmware).error,
+            "cannot open " + place + "/none: No such file or directory");
+  EXPECT_NE(SaveImage(place + "/none/unit.bin", firmware, image), "");
   ASSERT_EQ(WriteFile(path, "a\nb\r\n"), "");
   EXPECT_EQ(LoadHistory(path).text, "a\r\nb\r\n");
   ASSERT_EQ(WriteFile(path, "a\x06"), "");
@@ -601,16 +382,18 @@ TEST(UnitFiles, ImagesSurviveAndForeignOnesAreNamed) {
 }
 
 TEST(UnitJournal, OneLineForEachTurnAndLongTextsShortened) {
-  std::vector<std::string> lines;
+  const std::string stream = FactoryStream("V1310R1");
+  Texts lines;
   Journal journal([&lines](const std::string& line) { lines.push_back(line); });
   journal.Add(Journal::Side::kTool, "/L", 1s);
   journal.Add(Journal::Side::kTool, "U\r", 1s + 1ms);
-  journal.Add(Journal::Side::kUnit, FactoryStream("V1310R1"), 2s);
-  journal.Flush();
-  ASSERT_EQ(lines.size(), 2U);
-  EXPECT_EQ(lines[0], "      1.000 > /LU<CR>");
-  EXPECT_TRUE(lines[1].starts_with("      2.000 < $77F0"));
-  EXPECT_TRUE(lines[1].ends_with("<CR><LF> ... $7FF000# (65 lines, 4552 characters)"));
+  journal.Add(Journal::Side::kTool, "\x05", 1s + 501ms);
+  journal.Add(Journal::Side::kUnit, stream, 2s);
+  journal.Remark("over", 3s);
+  EXPECT_EQ(lines, (Texts{"      1.000 > /LU<CR>", "      1.501 > <ENQ>",
+                          "      2.000 < " + stream.substr(0, 69) +
+                              "<CR><LF> ... $7FF000# (65 lines, 4552 characters)",
+                          "      3.000 -- over"}));
 }
 
 }  // namespace
