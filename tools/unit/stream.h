@@ -31,7 +31,7 @@ class StreamChecker {
   bool Correct() const { return ended_ && error_count_ == 0; }
 
   // The stream is correct but carries more digits than the region has room for, as far as that is tolerated.
-  bool Oversized() const { return digits_.size() > region_.Digits(); }
+  bool Oversized() const { return Correct() && digits_.size() > region_.Digits(); }
 
   // What is wrong, one sentence each, in the order of the stream. Only the first few are told one by one.
   std::vector<std::string> Errors() const;
