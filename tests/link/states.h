@@ -1,59 +1,129 @@
-// How a test gets into the states that the link can be in, and single steps from there.
+// A program in each state that the link can be in, and single steps from there.
 #pragma once
+
+#include <gtest/gtest.h>
 
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "support/harness.h"
 #include "support/state_table.h"
 
 namespace ovl::testing {
 
+inline const FirmwareId kV1400 = {"V1400", "R12"};
+inline const FirmwareId kV1300 = {"V1300", "R14"};
+
 inline constexpr const char* kAck = "\x06";
 inline constexpr const char* kNak = "\x15";
 inline constexpr const char* kCan = "\x18";
-inline constexpr const char* kEnq = "\x05";
-inline constexpr const char* kFormFeed = "\x0C";
 inline constexpr const char* kRequest = "~~~SOH_REQUEST_EOT~~~k";
+inline constexpr const char* kRemoteButton = "CmdUpDow(4)";
+inline constexpr int kEnqAt = 5;     // ticks of the keep-alive
 inline constexpr int kSilence = 6;   // ticks of the watchdog
 inline constexpr int kTimeOut = 30;  // ticks of the keep-alive
 
-inline constexpr const char* kFailTitle = "- Connection Fail -";
-inline constexpr const char* kFailText =
-    "                            !!! Remote Connection Fail. !!!\n"
-    "Cable Disconnected Or Communication Setting Wrong ,Try Again";
-inline constexpr const char* kParityText = "Check Parity and Data Bit Setting that Same OVL ,Try again !!!";
-inline constexpr const char* kTimeOutTitle = "- Connection Time Out -";
-inline constexpr const char* kTimeOutText = "!!! Remote Connection Time out. !!!";
-inline constexpr const char* kLost = "Input/output error";
+struct Words {
+  std::string title{}, text{};
+};
+inline const Words kFail = {"- Connection Fail -",
+                            "                            !!! Remote Connection Fail. !!!\n"
+                            "Cable Disconnected Or Communication Setting Wrong ,Try Again"};
 
-// A program that was started and stands in the state, with nothing sent and no box left to ask for. A scan
-// runs over a line that was held before, so that it can find the unit.
-struct InState : Harness {
-  explicit InState(State state, const FirmwareId& firmware = {"V1400", "R12"},
-                   const std::vector<std::string>& further_registers = {});
+inline void ExpectState(const Application& app, State state) {
+  EXPECT_EQ(DifferenceFrom(state, app), "")
+      << "from " << NameOf(state) << ", mode " << app.LinkMode << ", timers " << RunningTimers(app);
+}
+
+// The oldest box, which bears no icon.
+inline void ExpectBox(Harness& program, const Words& words) {
+  const auto box = program.TakeBox();
+  EXPECT_EQ(box.title, words.title);
+  EXPECT_EQ(box.text, words.text);
+  EXPECT_EQ(box.icon, BoxIcon::kNone);
+}
+
+// Started and led into the state, with nothing sent and no box left to ask for. A scan runs over a line that
+// was held before, so that it can find the unit.
+class InState : public Harness {
+ public:
+  explicit InState(State state, const FirmwareId& firmware = kV1400,
+                   const std::vector<std::string>& further_registers = {})
+      : Harness(firmware, further_registers) {
+    EXPECT_EQ(Start(), Outcome::kDone);
+    app.frmMain.CmdUpDow[kMasterReset].visible = true;
+    if (state != State::kClosed) OpenPort();
+    if (state == State::kAsked) Press(kRemoteButton);
+    if (state > State::kAsked) FromHeld(state);
+    TakeSent();
+    EXPECT_TRUE(NoBoxLeft());
+  }
+
+  // The transmitter runs empty behind it.
+  void Press(const char* button) {
+    EXPECT_EQ(Click(button), Outcome::kDone) << button;
+    DrainAll();
+  }
+  void OpenPort() {
+    Press("cmdConnect");
+    EXPECT_EQ(Click("cmdSET"), Outcome::kDone);
+  }
+  void Scan() {
+    EXPECT_EQ(Click("cmdConnect"), Outcome::kDone);
+    EXPECT_EQ(Click("BaudrateCMD"), Outcome::kDone);
+  }
+  // Remote mode on an open port, its first tick over.
+  void Hold() {
+    Press(kRemoteButton);
+    Unit(kAck);
+    Tick(app.frmMain.General_timer);
+    ExpectState(app, State::kHeld);
+    TakeSent();
+  }
+  // The command and all that the unit answers.
+  void Upload(std::string_view answer) {
+    Press("CmdUpDow(0)");
+    Unit(answer);
+  }
+  // The command and its acknowledgement; the stream is the result.
+  std::string Download() {
+    Press("CmdUpDow(1)");
+    TakeSent();
+    Unit(kAck);
+    DrainAll();
+    return TakeSent();
+  }
+
+ private:
+  void FromHeld(State state) {
+    Hold();
+    if (state == State::kUploading) Press("CmdUpDow(0)");
+    if (state >= State::kDownloadCommand && state <= State::kTransferDone) Press("CmdUpDow(1)");
+    if (state == State::kDownloadStream) Unit(kAck);
+    if (state == State::kTransferDone) Unit(kAck), DrainAll();
+    if (state == State::kSettingClock) Press("CmdUpDow(2)");
+    if (state == State::kReadingHistory) Press("CmdUpDow(3)");
+    if (state == State::kResetting) Press("CmdUpDow(5)");
+    if (state != State::kScanning) return;
+    Press("cmdDisConnect");
+    Scan();
+  }
 };
 
-void OpenPort(Harness& program);
-// Remote mode on an open port, its first tick over.
-void Hold(Harness& program);
-void Disconnect(Harness& program);
-void PressOk(Harness& program);
+using Act = std::function<void(InState&)>;
 
-// The command and all that the unit answers.
-void RunUpload(Harness& program, std::string_view answer);
-// The command, its acknowledgement, and the whole stream, which is the result.
-std::string RunDownload(Harness& program);
+inline Act Press(const char* button) {
+  return [button](InState& program) { program.Press(button); };
+}
 
-void ExpectState(const Application& app, State state);
-// The oldest box, which bears no icon.
-void ExpectBox(Harness& program, std::string_view title, std::string_view text);
+inline Act Arrives(const std::string& text) {
+  return [text](InState& program) { program.Unit(text); };
+}
 
-// Single steps for tables.
-using Act = std::function<void(Harness&)>;
-Act Press(const char* button);  // and the transmitter runs empty
-Act Arrives(const std::string& text);
-Act Ticks(Timer MainForm::*timer, int count);
+inline Act Ticks(Timer MainForm::*timer, int count) {
+  return [timer, count](InState& program) { program.Tick(program.app.frmMain.*timer, count); };
+}
 
 }  // namespace ovl::testing
