@@ -62,11 +62,12 @@ TEST(Clock, StandsWhileTheBoxIsClearedAndFollowsAtOnceWhenTicked) {
   EXPECT_EQ(Shown(main), "03-05/31-26 14:07:00");
   EXPECT_EQ(program.app.ClockSecond, "00");
   EXPECT_EQ(program.app.ClockTickCount, 0);
+  EXPECT_EQ(main.Timer.interval, 100);
   EXPECT_EQ(program.Tick(main.Timer), Outcome::kRefused);
 
-  program.now = {2026, 4, 30, 1, 2, 3};
+  program.now = {2026, 3, 30, 1, 2, 3};
   program.Click("CheckTD");
-  EXPECT_EQ(Shown(main), "04-30/30-26 01:02:03");
+  EXPECT_EQ(Shown(main), "03-30/31-26 01:02:03");
 }
 
 TEST(Clock, ADayThatFallsTwiceIsStoredTwice) {

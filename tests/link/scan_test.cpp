@@ -35,25 +35,6 @@ TEST(PortSettings, StartAtTheSameValuesButForThePort) {
   EXPECT_EQ(program.opened, (std::vector<std::string>{"COM5:38400,E,7,1", "COM5:9600,O,8,1"}));
 }
 
-TEST(PortSettings, APortThatDoesNotOpenIsTold) {
-  InState program(State::kClosed);
-  program.open_error = "Permission denied";
-  for (const auto* button : {"BaudrateCMD", "cmdSET"}) {
-    SCOPED_TRACE(button);
-    program.Click("cmdConnect");
-    program.Click(button);
-    ExpectBox(program, {"", "           Permission denied"});
-    EXPECT_EQ(program.app.StatusNote, "Comport 1: Permission denied");
-    ExpectState(program.app, State::kClosed);
-    EXPECT_FALSE(program.app.frmScanBProgress.form.loaded);
-    // The dialog stands until SET.
-    EXPECT_EQ(program.app.frmSettSR.form.visible, std::string_view(button) != "cmdSET");
-  }
-  program.open_error.reset();
-  program.OpenPort();
-  EXPECT_EQ(program.app.StatusNote, "");
-}
-
 TEST(PortSettings, APortThatStandsOpenIsClosedFirst) {
   InState program(State::kHeld);
   auto& main = program.app.frmMain;
@@ -83,6 +64,7 @@ TEST(Scan, TriesEveryRateInVainUntilALinkWasAskedFor) {
   program.Pick("OpDataBits", 0);
   program.Click("BaudrateCMD");
   EXPECT_EQ(on_top, std::vector<std::string>{"frmScanBProgress"});
+  EXPECT_TRUE(app.frmScanBProgress.form.top_most);
   std::vector<std::string> expected = {"COM1:9600,O,7,1"};
   EXPECT_EQ(program.TakeSent(), kRequest);
   for (const std::string rate :

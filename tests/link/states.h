@@ -82,11 +82,6 @@ class InState : public Harness {
     ExpectState(app, State::kHeld);
     TakeSent();
   }
-  // The command and all that the unit answers.
-  void Upload(std::string_view answer) {
-    Press("CmdUpDow(0)");
-    Unit(answer);
-  }
   // The command and its acknowledgement; the stream is the result.
   std::string Download() {
     Press("CmdUpDow(1)");
@@ -101,8 +96,8 @@ class InState : public Harness {
     Hold();
     if (state == State::kUploading) Press("CmdUpDow(0)");
     if (state >= State::kDownloadCommand && state <= State::kTransferDone) Press("CmdUpDow(1)");
-    if (state == State::kDownloadStream) Unit(kAck);
-    if (state == State::kTransferDone) Unit(kAck), DrainAll();
+    if (state == State::kDownloadStream || state == State::kTransferDone) Unit(kAck);
+    if (state == State::kTransferDone) DrainAll();
     if (state == State::kSettingClock) Press("CmdUpDow(2)");
     if (state == State::kReadingHistory) Press("CmdUpDow(3)");
     if (state == State::kResetting) Press("CmdUpDow(5)");

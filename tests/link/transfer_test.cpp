@@ -17,9 +17,9 @@ void ExpectEnd(const Application& app, std::string_view text) {
 }
 
 TEST(Upload, SelectsTheUnitsRegisterWithoutItsDefaults) {
-  InState program(State::kHeld, kV1400, {"TCPIP"});
+  InState program(State::kUploading, kV1400, {"TCPIP"});
   const auto stream = PatternStream(kV1400, 7, 1);
-  program.Upload("#\r\nnoise" + stream + "\r\n");
+  program.Unit("#\r\nnoise" + stream + "\r\n");
   ExpectEnd(program.app, "Upload Completed.");
   EXPECT_EQ(program.app.frmMain.ComboReg.Text(), "TCPIP");
   EXPECT_TRUE(ReadWhole(UploadFile(program)) == stream + "\r\n");
@@ -47,7 +47,7 @@ TEST(Upload, MovesTheBarByEveryFiftyOneCharactersUpToItsEnd) {
 TEST(Upload, ThatFailsInsideStopsUntilTheWatchdogEndsIt) {
   for (const bool no_file : {true, false}) {
     SCOPED_TRACE(no_file ? "no file to keep it in" : "a panel that cannot show it");
-    InState program(State::kHeld, kV1400, {"TCPIP"});
+    InState program(State::kUploading, kV1400, {"TCPIP"});
     auto& app = program.app;
     const auto image = app.image;
     if (no_file) {
@@ -55,7 +55,7 @@ TEST(Upload, ThatFailsInsideStopsUntilTheWatchdogEndsIt) {
     } else {
       app.Setting_Code.push_back({[](Application&) { throw Failure("panel", "broken"); }, false});
     }
-    program.Upload(PatternStream(kV1400, 7));
+    program.Unit(PatternStream(kV1400, 7));
     EXPECT_TRUE(program.NoBoxLeft());
     EXPECT_EQ(app.StatusNote, no_file ? app.CurrentFilePath + ": Is a directory" : "panel: broken");
     EXPECT_FALSE(app.frmOK_buttom.form.visible);
@@ -71,11 +71,11 @@ TEST(Upload, ThatFailsInsideStopsUntilTheWatchdogEndsIt) {
 }
 
 TEST(UnknownFamily, TouchesNoFileAndHasNothingToSend) {
-  InState program(State::kHeld, {"V1500", "R1"});
+  InState program(State::kUploading, {"V1500", "R1"});
   auto& app = program.app;
   WriteWhole(UploadFile(program), "kept");
   const auto entry = app.image[FieldId::EXECENTRY], type = app.image[FieldId::REGTYPE];
-  program.Upload(PatternStream(kV1400, 7));
+  program.Unit(PatternStream(kV1400, 7));
   ExpectEnd(app, "Upload Completed.");
   EXPECT_EQ(ReadWhole(UploadFile(program)), "kept");
   EXPECT_EQ(std::pair(app.image[FieldId::EXECENTRY], app.image[FieldId::REGTYPE]), std::pair(entry, type));
@@ -134,6 +134,7 @@ TEST(TransferEnd, StaysOnTopAndItsWindowButtonConfirmsToo) {
   const auto confirm = [&](std::string_view text) {
     ExpectEnd(app, text);
     EXPECT_EQ(std::exchange(on_top, {}), "frmOK_buttom over 100 100%");
+    EXPECT_TRUE(app.frmOK_buttom.form.top_most);
     EXPECT_EQ(program.Click("cmdDisConnect"), Outcome::kRefused);
     Dispatch(app, CloseEvent{&app.frmOK_buttom.form});
     ExpectState(app, State::kOpen);

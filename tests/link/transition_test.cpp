@@ -16,6 +16,8 @@ const Words kForeign = {"",
 const Words kBroken = {"", "                System File Error. \nPlease ReInstall Ovalon PC Software !!"};
 const Words kClockSet = {"", "SET TIME DATE FINISHED."};
 const Words kClockRefused = {"", "Please Send Time Date agian."};
+const Words kResetFailed = {"", "Cannot Master Reset to Device."};
+const Words kNotOpened = {"", std::string(11, ' ') + kLost};
 const Words kEnqLost = {"", kLost};
 const Words kSendLost = {"", std::string(23, ' ') + kLost};
 
@@ -33,14 +35,24 @@ void CloseTheScan(InState& program) {
   Dispatch(program.app, CloseEvent{&program.app.frmScanBProgress.form});
 }
 
-void Lose(InState& program) {
-  program.line_error = kLost;
+// A click begins the watchdog's count anew, also when its command has not gone out yet.
+void ClickAmidSilence(InState& program) {
+  for (const auto* button : {"CmdUpDow(3)", "CmdUpDow(5)", "CmdUpDow(0)"}) {
+    program.Tick(program.app.frmMain.Timer_Operating, kSilence - 1);
+    program.Click(button);
+  }
+  program.Tick(program.app.frmMain.Timer_Operating, kSilence - 1);
 }
 
-// What the acts before it have sent and told is not the row's.
+void Lose(InState& program) {
+  program.line_error = program.open_error = kLost;
+}
+
+// What the acts before it have sent, told and broken is not the row's.
 void Forget(InState& program) {
   program.TakeSent();
   program.boxes.clear();
+  program.line_error = program.open_error = std::nullopt;
 }
 
 std::vector<Transition> Rows() {
@@ -56,6 +68,8 @@ std::vector<Transition> Rows() {
   const auto open = &InState::OpenPort, scan = &InState::Scan;
   return {
       {"a good port", kClosed, {open}, kOpen, 255, "", kNoBox},
+      {"a lost port", kClosed, {Lose, open}, kClosed, 255, "", kNotOpened},
+      {"a port found again", kClosed, {Lose, open, Forget, open}, kOpen, 255, "", kNoBox},
       {"no port to ask on", kClosed, {remote}, kClosed, 255, "", kNoPort},
       {"asked", kOpen, {remote}, kAsked, 0, kRequest, kNoBox},
       {"granted", kAsked, {ack, grant_due}, kHeld, 0, "", kNoBox},
@@ -86,9 +100,9 @@ std::vector<Transition> Rows() {
       {"lost in the stream", kDownloadStream, {Lose, drained}, kDownloadStream, 2, "", kSendLost},
       {"download, closed by hand", kDownloadStream, {disconnect}, kClosed, 2, kCan, kNoBox},
       {"download confirmed", kTransferDone, {ack, ok}, kOpen, 255, "", kNoBox},
+      {"its last ACK missing", kTransferDone, {ok, disconnect}, kClosed, 255, kCan, kNoBox},
 
       {"clock set", kSettingClock, {noise, ack}, kOpen, 0, "", kClockSet},
-      {"clock silent", kSettingClock, {silence}, kClosed, 255, "", kFail},
       {"clock refused", kSettingClock, {nak}, kClosed, 255, kCan, kFail},
       // The flag that a refusal leaves behind takes the next answer for its own.
       {"then set", kSettingClock, {nak, open, remote, Forget, ack, grant_due}, kOpen, 0, "", kClockSet},
@@ -98,9 +112,12 @@ std::vector<Transition> Rows() {
       {"history read", kReadingHistory, {ack}, kOpen, 0, "", kNoBox},
       {"reset", kHeld, {Press("CmdUpDow(5)")}, kResetting, 0, "/MR\r\n\r", kNoBox},
       {"reset done", kResetting, {ack}, kOpen, 0, "", {"", "       Master Reset Done."}},
-      {"reset failed", kResetting, {noise}, kOpen, 0, "", {"", "Cannot Master Reset to Device."}},
+      {"reset failed", kResetting, {noise}, kOpen, 0, "", kResetFailed},
+      {"reset failed in an upload", kResetting, {upload, noise}, kOpen, 1, "/LU\r", kResetFailed},
+      {"clicks amid silence", kSettingClock, {ClickAmidSilence}, kUploading, 1, "///", kNoBox},
 
       {"unit found", kScanning, {garbled, nak, ack}, kHeld, 0, "", kNoBox},
+      {"scan over a lost port", kClosed, {Lose, scan}, kClosed, 255, "", kNotOpened},
       {"scan cancelled", kScanning, {Press("frmScanBProgress.Command1")}, kClosed, 0, kCan, kNoBox},
       {"scan closed", kScanning, {CloseTheScan}, kOpen, 0, "", kNoBox},
       // A scan finds the unit only where the last link was asked for and did not fail.
@@ -121,6 +138,7 @@ TEST(Transitions, EveryRowLeadsWhereItShould) {
     ExpectBox(program, row.box);
     EXPECT_TRUE(program.NoBoxLeft());
     EXPECT_EQ(program.app.StatusNote, program.line_error ? std::string("Comport 1: ") + kLost : "");
+    EXPECT_FALSE(program.app.FinalAckExpected);
     EXPECT_EQ(program.app.ended, row.box.text == kBroken.text);
   }
 }
