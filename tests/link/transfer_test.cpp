@@ -19,9 +19,11 @@ void ExpectEnd(const Application& app, std::string_view text) {
 TEST(Upload, SelectsTheUnitsRegisterWithoutItsDefaults) {
   InState program(State::kUploading, kV1400, {"TCPIP"});
   const auto stream = PatternStream(kV1400, 7, 1);
+  EXPECT_EQ(program.Pick("ComboExcp(0)", 1), Outcome::kDone);
   program.Unit("#\r\nnoise" + stream + "\r\n");
   ExpectEnd(program.app, "Upload Completed.");
   EXPECT_EQ(program.app.frmMain.ComboReg.Text(), "TCPIP");
+  EXPECT_EQ(program.app.frmMain.ComboExcp[0].position, 0);
   EXPECT_TRUE(ReadWhole(UploadFile(program)) == stream + "\r\n");
   program.Press("frmOK_buttom.Command1");
   program.Hold();
@@ -94,7 +96,7 @@ TEST(Download, TakesTheHistoryIdsFromThePanelInTheOlderFamilies) {
     std::string fields;  // recorder, destination, source; two blanks: as it was
   };
   const Row rows[] = {{0, {1, 2, 3, 4}, "00    "},   {1, {6, 31, 3, 4}, "010720"},
-                      {2, {6, 31, 0, 15}, "020110"}, {1, {-1, 4, 7, 7}, "01  05"},
+                      {2, {6, 31, 0, 15}, "020110"}, {1, {-1, 0, 7, 7}, "01  01"},
                       {2, {4, 4, 9, -1}, "020A  "},  {-1, {1, 2, 3, 4}, "      "}};
   constexpr std::size_t kPlace = 5 + 2 * 29, kRecord = 71;
   for (const auto& firmware : {kV1300, {"V1324", "R17"}, {"V1310", "R1"}, {"V1334", "R1"}, kV1400}) {
