@@ -1,4 +1,3 @@
-#include "image/files.h"
 #include "link/states.h"
 
 namespace ovl::testing {
@@ -32,14 +31,6 @@ TEST(SetTime, SendsWhatWasPicked) {
   EXPECT_EQ(program.TakeSent(), "/TD02-29-00 23:59:01\r\n\r");
 }
 
-TEST(History, GoesIntoTheFileThatWasChosen) {
-  InState program(State::kReadingHistory);
-  const auto path = program.folder.File("chosen.txt");
-  program.file_answers.push_back(path);
-  program.Unit(std::string("01/02/26 SALE\r\n$#/TD\xE9\x80\r\n") + kAck);
-  EXPECT_EQ(ReadWhole(path), "OVLH\r\n01/02/26 SALE\r\n$#/TD\xE9\x80\r\n\r\n");
-}
-
 TEST(Clock, FollowsTheComputerEveryEleventhTick) {
   InState program(State::kClosed);
   auto& main = program.app.frmMain;
@@ -68,6 +59,7 @@ TEST(Clock, StandsWhileTheBoxIsClearedAndFollowsAtOnceWhenTicked) {
   program.now = {2026, 3, 30, 1, 2, 3};
   program.Click("CheckTD");
   EXPECT_EQ(Shown(main), "03-30/31-26 01:02:03");
+  EXPECT_TRUE(main.Timer.enabled);
 }
 
 TEST(Clock, ADayThatFallsTwiceIsStoredTwice) {

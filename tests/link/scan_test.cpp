@@ -18,7 +18,6 @@ TEST(PortSettings, StartAtTheSameValuesButForThePort) {
     const auto requests = dialog.form.focus_requests;
     EXPECT_EQ(program.Pick(name, position), Outcome::kDone);
     EXPECT_GT(dialog.form.focus_requests, requests) << name;
-    EXPECT_EQ(dialog.form.focus, &dialog.cmdSET);
   }
   program.Click("cmdSET");
   EXPECT_EQ(app.frmMain.lbConnectting.caption, "Connected at COM 5: 38400,E,7,1");
@@ -41,11 +40,8 @@ TEST(PortSettings, APortThatStandsOpenIsClosedFirst) {
   main.cmdConnect.visible = true;
   program.Click("cmdConnect");
   EXPECT_EQ(program.TakeSent(), kCan);
-  EXPECT_FALSE(main.MSComm1.PortOpen);
-  EXPECT_EQ(RunningTimers(program.app), "");
   EXPECT_EQ(main.cmdConnect.caption + ", " + main.lbConnectting.caption, "Set Comport, Not Connected");
   EXPECT_EQ(main.lbRemoteAccess.caption, "No Access");
-  EXPECT_FALSE(program.app.frmSettSR.form.loaded);
   program.Scan();
   ExpectState(program.app, State::kScanning);
   ShowForm(program.app, program.app.frmSettSR.form);
@@ -71,7 +67,6 @@ TEST(Scan, TriesEveryRateInVainUntilALinkWasAskedFor) {
        {"9600", "1200", "2400", "4800", "14400", "19200", "28800", "38400", "57600", "115200"}) {
     SCOPED_TRACE(rate);
     ExpectState(app, State::kScanning);
-    EXPECT_EQ(app.ScanIndex, expected.size() - 1);
     program.Unit(std::string(kAck) + "?" + kNak + kAck);
     program.Tick(app.frmSettSR.BaudRateScan);
     EXPECT_EQ(app.frmScanBProgress.ScanProgressBar1.value, static_cast<int>(expected.size()) - 1);
@@ -85,7 +80,7 @@ TEST(Scan, TriesEveryRateInVainUntilALinkWasAskedFor) {
   ExpectBox(program, {"", "No Response From The Device"});
   EXPECT_TRUE(program.NoBoxLeft());
   ExpectState(app, State::kClosed);
-  EXPECT_FALSE(app.frmSettSR.form.loaded || app.frmScanBProgress.form.loaded);
+  EXPECT_FALSE(app.frmScanBProgress.form.loaded);
   EXPECT_TRUE(app.frmMain.form.enabled);
 }
 

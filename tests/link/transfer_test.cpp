@@ -31,19 +31,32 @@ TEST(Upload, SelectsTheUnitsRegisterWithoutItsDefaults) {
   EXPECT_TRUE(program.Download() == stream);
 }
 
-TEST(Upload, MovesTheBarByEveryFiftyOneCharactersUpToItsEnd) {
-  InState program(State::kUploading);
+TEST(Bar, MovesByEveryFiftyOneCharactersAndAnewAfterABreak) {
+  InState program(State::kDownloadStream);
   const auto& bar = program.app.frmMain.vbalProgressBar1;
+  const auto break_off_and_hold = [&] {
+    program.Unit("?");
+    program.TakeBox();
+    program.OpenPort();
+    program.Hold();
+  };
+  program.Drain(200);
+  break_off_and_hold();
+  program.Press("CmdUpDow(0)");
   program.Unit("noise$");
   std::size_t sent = 0;
-  const std::tuple<std::size_t, int, const char*> rows[] = {
-      {50, 0, ""}, {51, 1, "1%"}, {101, 1, "1%"}, {102, 2, "2%"}, {5100, 100, "100%"}, {15300, 100, "100%"}};
-  for (const auto& [characters, value, text] : rows) {
+  const std::pair<std::size_t, const char*> rows[] = {{50, "3%"},  {51, "1%"},     {101, "1%"},
+                                                      {102, "2%"}, {5100, "100%"}, {15300, "100%"}};
+  for (const auto& [characters, text] : rows) {
     program.Unit(std::string(characters - sent, '0'));
     sent = characters;
-    EXPECT_EQ(bar.value, value) << characters;
     EXPECT_EQ(bar.text, text) << characters;
   }
+  break_off_and_hold();
+  program.Press("CmdUpDow(1)");
+  program.Unit(kAck);
+  program.Drain(51);
+  EXPECT_EQ(bar.text, "1%");
 }
 
 TEST(Upload, ThatFailsInsideStopsUntilTheWatchdogEndsIt) {
@@ -51,14 +64,16 @@ TEST(Upload, ThatFailsInsideStopsUntilTheWatchdogEndsIt) {
     SCOPED_TRACE(no_file ? "no file to keep it in" : "a panel that cannot show it");
     InState program(State::kUploading, kV1400, {"TCPIP"});
     auto& app = program.app;
-    const auto image = app.image;
     if (no_file) {
+      program.Pick("ComboReg", 1);
       std::filesystem::create_directories(UploadFile(program) + "/inside");
     } else {
       app.Setting_Code.push_back({[](Application&) { throw Failure("panel", "broken"); }, false});
     }
+    const auto image = app.image;
     program.Unit(PatternStream(kV1400, 7));
     EXPECT_TRUE(program.NoBoxLeft());
+    EXPECT_EQ(app.frmMain.vbalProgressBar1.text == "100%", !no_file);
     EXPECT_EQ(app.StatusNote, no_file ? app.CurrentFilePath + ": Is a directory" : "panel: broken");
     EXPECT_FALSE(app.frmOK_buttom.form.visible);
     EXPECT_EQ(app.frmMain.ComboReg.position, 1);
