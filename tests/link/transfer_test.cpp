@@ -60,19 +60,19 @@ TEST(Bar, MovesByEveryFiftyOneCharactersAndAnewAfterABreak) {
 }
 
 TEST(Upload, ThatFailsInsideStopsUntilTheWatchdogEndsIt) {
-  for (const bool no_file : {true, false}) {
-    SCOPED_TRACE(no_file ? "no file to keep it in" : "a panel that cannot show it");
+  for (const std::string_view fault : {"no file", "no file, with the second register", "a panel"}) {
+    SCOPED_TRACE(fault);
+    const bool no_file = fault != "a panel";
     InState program(State::kUploading, kV1400, {"TCPIP"});
     auto& app = program.app;
+    if (fault.ends_with("register")) program.Pick("ComboReg", 1);
     if (no_file) {
-      program.Pick("ComboReg", 1);
       std::filesystem::create_directories(UploadFile(program) + "/inside");
     } else {
       app.Setting_Code.push_back({[](Application&) { throw Failure("panel", "broken"); }, false});
     }
     const auto image = app.image;
     program.Unit(PatternStream(kV1400, 7));
-    EXPECT_TRUE(program.NoBoxLeft());
     EXPECT_EQ(app.frmMain.vbalProgressBar1.text == "100%", !no_file);
     EXPECT_EQ(app.StatusNote, no_file ? app.CurrentFilePath + ": Is a directory" : "panel: broken");
     EXPECT_FALSE(app.frmOK_buttom.form.visible);
