@@ -1,12 +1,11 @@
 // One fault at every character of an upload and of a download, and what becomes of it.
 //   ovl-campaign [EVERY]     with EVERY only each so many-th point
-#include <chrono>
-#include <cstdlib>
 #include <iostream>
 #include <map>
 #include <memory>
 
 #include "campaign/expectation.h"
+#include "campaign/long_run.h"
 #include "image/files.h"
 #include "image/record_stream.h"
 #include "support/site.h"
@@ -15,16 +14,9 @@
 namespace ovl::testing {
 namespace {
 
-constexpr const char* kFailBox =
-    "                            !!! Remote Connection Fail. !!!\n"
-    "Cable Disconnected Or Communication Setting Wrong ,Try Again";
-constexpr const char* kParityBox = "Check Parity and Data Bit Setting that Same OVL ,Try again !!!";
-constexpr const char* kSendBox = "                       No such device";
-constexpr const char* kForeignBox =
-    "The Ovalon Version is not compatible !!!\n       Try with the same version again.";
-constexpr const char* kBrokenBox =
-    "                System File Error. \nPlease ReInstall Ovalon PC Software !!";
-constexpr const char* kScanBox = "No Response From The Device";
+using enum Fault;
+using enum Ending;
+
 constexpr std::size_t kCommandLength = 4;
 constexpr int kLongSilence = 8000, kWholeScan = 12000;
 
@@ -45,18 +37,23 @@ class Campaign {
     Inject(at, fault);
     CheckBoxes(fault);
     CheckFiles(before, file_before);
-    const bool unharmed = fault < Fault::kLost || fault > Fault::kGarbled;
-    if (!talk_.upload && at >= kCommandLength && unharmed && expected_.ending == Ending::kDone) {
+    const bool unharmed = fault < kLost || fault > kGarbled;
+    if (!talk_.upload && at >= kCommandLength && unharmed && expected_.ending == kDone)
       Want(site_->taken == talk_.stream, "the unit's stream");
+    if (expected_.ending == kBrokenFile) {
+      Want(site_->app.ended, "the program goes on");
+      return wrong_;
     }
-    if (expected_.ending == Ending::kBrokenFile) return End();
     CheckState(fault);
     WayBack(fault);
     NextTransfers();
     return wrong_;
   }
-  Ending Reached() const { return expected_.ending; }
-  bool RepetitionEnded() const { return site_->app.ended && expected_.ending != Ending::kBrokenFile; }
+  std::string Reached() const {
+    const bool later = site_->app.ended && expected_.ending != kBrokenFile;
+    return std::string(kEndingNames.at(static_cast<std::size_t>(expected_.ending))) +
+           (later ? ", its repetition ends the program" : "");
+  }
 
  private:
   void Want(bool met, const std::string& what) {
@@ -65,6 +62,9 @@ class Campaign {
   void ExpectIn(State state) {
     const auto difference = DifferenceFrom(state, site_->app);
     Want(difference.empty(), "not " + std::string(NameOf(state)) + ": " + difference);
+  }
+  void ExpectFile(const std::string& text, const char* when) {
+    Want(UploadFile() == text, std::string("upload.bin ") + when);
   }
   std::string UploadFile() const {
     const auto path = site_->folder.File(talk_.firmware.version + "/upload.bin");
@@ -75,82 +75,69 @@ class Campaign {
     site_ = std::make_unique<Site>(talk_.firmware);
     twin_ = std::make_unique<Site>(talk_.firmware);
     talk_.stream = PatternStream(talk_.firmware);
-    if (talk_.upload) Choose();
+    Choose();
     site_->Hold();
     ExpectIn(State::kHeld);
   }
   // The next stream to be uploaded, other than the last.
   void Choose() {
+    if (!talk_.upload) return;
     seed_ = seed_ % 3 + 2;
     talk_.stream = PatternStream(talk_.firmware, seed_);
     site_->configuration = talk_.stream + "\r\n";
   }
-  // The program ended, as it had to.
-  std::string End() {
-    Want(site_->app.ended, "the program goes on");
-    return wrong_;
-  }
+  void Begin(Site& site) const { site.Click(talk_.upload ? "CmdUpDow(0)" : "CmdUpDow(1)"); }
 
   void Inject(std::size_t at, Fault fault) {
-    site_->Click(talk_.upload ? "CmdUpDow(0)" : "CmdUpDow(1)");
-    for (std::size_t passed = 0; passed < at; ++passed) {
-      if (!site_->Character()) Want(false, "the conversation stands still");
-    }
+    Begin(*site_);
+    for (std::size_t passed = 0; passed < at; ++passed)
+      Want(site_->Character(), "the conversation stands still");
     ExpectIn(talk_.upload                                 ? State::kUploading
              : at <= kCommandLength                       ? State::kDownloadCommand
              : at <= talk_.stream.size() + kCommandLength ? State::kDownloadStream
                                                           : State::kTransferDone);
-    using enum Fault;
-    const auto passing = fault == kDropped   ? Site::Passing::kDropped
-                         : fault == kDoubled ? Site::Passing::kDoubled
-                         : fault == kGarbled ? Site::Passing::kGarbled
-                                             : Site::Passing::kWhole;
-    site_->Character(passing, GarbleAt(at));
+    site_->Character(fault == kDropped   ? Site::Passing::kDropped
+                     : fault == kDoubled ? Site::Passing::kDoubled
+                     : fault == kGarbled ? Site::Passing::kGarbled
+                                         : Site::Passing::kWhole,
+                     GarbleAt(at));
     if (fault == kSilence) site_->Silence();
     if (fault == kStall) site_->Stall();
     if (fault == kLost) site_->Lose();
-    if (fault == kParity) site_->Unit("?");
-    if (fault == kNak) site_->Unit("\x15");
-    if (fault == kAck) site_->Unit("\x06");
-    if (fault >= kDisconnect) {
-      const bool reachable = expected_.ending == Ending::kDisconnected;
-      const auto outcome = site_->Click("cmdDisConnect");
-      Want((outcome == Outcome::kDone) == reachable, "Disconnect");
+    site_->Unit(PutIn(fault));
+    if (fault >= kHangUp) {
+      const bool done = site_->Click("cmdDisConnect") == Outcome::kDone;
+      Want(done == (expected_.ending == kHungUp), "Disconnect");
     }
+    site_->UntilQuiet();
     if (fault == kScan) Scan();
     site_->UntilQuiet();
     site_->Live(kLongSilence);
     site_->Mend();
   }
   void Scan() {
-    site_->UntilQuiet();
-    if (expected_.ending != Ending::kDisconnected) {
-      site_->Click("frmOK_buttom.Command1");
-      site_->Click("cmdDisConnect");
-    }
-    site_->Click("cmdConnect");
-    site_->Click("BaudrateCMD");
+    for (const auto* button : {"frmOK_buttom.Command1", "cmdDisConnect", "cmdConnect", "BaudrateCMD"})
+      site_->Click(button);
     ExpectIn(State::kScanning);
     site_->Live(kWholeScan);
   }
 
   void CheckBoxes(Fault fault) {
-    std::vector<const char*> texts;
-    if (expected_.send_failure) texts.push_back(kSendBox);
-    if (expected_.ending == Ending::kForeign) texts.push_back(kForeignBox);
-    if (expected_.ending == Ending::kBrokenFile) texts.push_back(kBrokenBox);
-    if (expected_.ending == Ending::kSilence) texts.push_back(kFailBox);
-    if (expected_.ending == Ending::kParity || expected_.parity_behind) texts.push_back(kParityBox);
-    if (fault == Fault::kScan && expected_.ending != Ending::kBrokenFile) texts.push_back(kScanBox);
-    for (const auto* text : texts) Want(site_->TakeBox().text == text, "box");
+    const auto ending = expected_.ending;
+    const std::pair<bool, const char*> boxes[] = {{expected_.send_failure, kSendBox},
+                                                  {ending == kForeign, kForeignBox},
+                                                  {ending == kBrokenFile, kBrokenBox},
+                                                  {ending == kTimeOut, kFailBox},
+                                                  {ending == kParity || expected_.parity_behind, kParityBox},
+                                                  {fault == kScan && ending != kBrokenFile, kScanBox}};
+    for (const auto& [due, text] : boxes) Want(!due || site_->TakeBox().text == text, "box");
     Want(site_->NoBoxLeft(), "a box too many");
     site_->boxes.clear();
   }
 
   void CheckFiles(const ConfigImage& before, const std::string& file_before) {
-    const bool stored = !expected_.stored.empty();
-    Want(UploadFile() == (stored ? expected_.stored + "\r\n" : file_before), "upload.bin");
-    if (talk_.upload && expected_.ending == Ending::kDone) {
+    ExpectFile(expected_.stored.empty() ? file_before : expected_.stored + "\r\n", "");
+    if (talk_.upload && expected_.ending == kDone) {
       ExpectTwin(expected_.stored);
     } else {
       Want(site_->app.image == before, "the image has changed");
@@ -162,7 +149,7 @@ class Campaign {
     if (text == talk_.stream) Want(SectionsToStream(site_->app) == text, "not the stream's image");
     twin_->configuration = text;
     twin_->Hold();
-    twin_->Click("CmdUpDow(0)");
+    Begin(*twin_);
     twin_->UntilQuiet();
     twin_->Click("frmOK_buttom.Command1");
     twin_->Click("cmdDisConnect");
@@ -171,22 +158,20 @@ class Campaign {
 
   void CheckState(Fault fault) {
     const auto& app = site_->app;
-    const auto& label = app.frmMain.Label64[talk_.upload ? 1 : 0];
-    const bool closing = expected_.ending == Ending::kDone || expected_.ending == Ending::kForeign;
-    const bool still = expected_.ending == Ending::kStandsStill;
-    const bool window = closing && fault != Fault::kScan;
+    const auto ending = expected_.ending;
+    const bool still = ending == kStandsStill;
+    const bool window = (ending == kDone || ending == kForeign) && fault != kScan;
     ExpectIn(still                                ? State::kDownloadStream
              : window && !expected_.parity_behind ? State::kTransferDone
                                                   : State::kClosed);
     Want(app.frmOK_buttom.form.visible == window, "closing window");
-    if (window) {
-      Want(app.frmOK_buttom.Label1.caption == (expected_.ending == Ending::kForeign ? "Upload Incompleted."
-                                               : talk_.upload                       ? "Upload Completed."
-                                                                                    : "Download Completed."),
-           "its text");
-    }
-    const bool shown = still || expected_.ending == Ending::kSilence || expected_.ending == Ending::kParity;
-    Want(app.frmMain.vbalProgressBar1.visible == shown && label.visible == shown, "progress bar");
+    const auto* told = ending == kForeign ? "Upload Incompleted."
+                       : talk_.upload     ? "Upload Completed."
+                                          : "Download Completed.";
+    Want(!window || app.frmOK_buttom.Label1.caption == told, "its text");
+    const bool shown = still || ending == kTimeOut || ending == kParity;
+    Want(app.frmMain.vbalProgressBar1.visible == shown, "progress bar");
+    Want(app.frmMain.Label64[talk_.upload ? 1 : 0].visible == shown, "its label");
     Want(!app.DownloadRequested && app.DownloadActive == (still && !expected_.send_failure),
          "download flags");
     Want(app.PanelsReady && !app.UploadApplying, "panels");
@@ -199,7 +184,7 @@ class Campaign {
       ExpectIn(expected_.parity_behind ? State::kClosed : State::kOpen);
     }
     if (app.frmMain.MSComm1.PortOpen) {
-      Want(fault != Fault::kScan, "open after a scan");
+      Want(fault != kScan, "open after a scan");
       Want(site_->Click("cmdDisConnect") == Outcome::kDone, "Disconnect");
       ExpectIn(State::kClosed);
     }
@@ -216,23 +201,20 @@ class Campaign {
       if (site_->app.ended || !wrong_.empty()) return;
       site_->Click("cmdDisConnect");
     }
-    if (talk_.upload) Choose();
+    Choose();
     Transfer(talk_.stream);
   }
   void Transfer(const std::string& stored) {
     site_->Hold();
     ExpectIn(State::kHeld);
-    site_->Click(talk_.upload ? "CmdUpDow(0)" : "CmdUpDow(1)");
+    Begin(*site_);
     site_->UntilQuiet();
-    if (talk_.upload && Judge(talk_.firmware, stored) == Ending::kBrokenFile) {
-      Want(site_->TakeBox().text == kBrokenBox && site_->app.ended, "a broken file");
-      Want(UploadFile() == stored + "\r\n", "upload.bin of a broken repetition");
-      return;
-    }
+    if (talk_.upload) ExpectFile(stored + "\r\n", "of the next transfer");
+    if (talk_.upload && Judge(talk_.firmware, stored) == kBrokenFile)
+      return Want(site_->TakeBox().text == kBrokenBox && site_->app.ended, "a broken file");
     ExpectIn(State::kTransferDone);
     Want(site_->NoBoxLeft(), "a box in the next transfer");
     if (talk_.upload) {
-      Want(UploadFile() == stored + "\r\n", "upload.bin of the next transfer");
       ExpectTwin(stored);
     } else {
       Want(site_->taken == talk_.stream, "the unit's stream");
@@ -246,8 +228,7 @@ class Campaign {
   }
 
   Conversation talk_;
-  std::unique_ptr<Site> site_;
-  std::unique_ptr<Site> twin_;
+  std::unique_ptr<Site> site_, twin_;
   Expectation expected_;
   std::string wrong_;
   int seed_ = 2;
@@ -255,44 +236,37 @@ class Campaign {
 
 struct Totals {
   std::map<std::pair<Fault, std::string>, int> led_to;
-  int points = 0, wrong = 0;
+  std::size_t points = 0, wrong = 0;
 };
 
 void Run(const FirmwareId& firmware, bool upload, std::size_t every, Totals& totals) {
   auto campaign = std::make_unique<Campaign>(firmware, upload);
-  constexpr int kShown = 20;
-  for (std::size_t point = static_cast<std::size_t>(totals.points) % every;
-       point < campaign->Length() * kFaultNames.size(); point += every) {
-    const auto at = point / kFaultNames.size();
-    const auto fault = static_cast<Fault>(point % kFaultNames.size());
-    const auto wrong = campaign->Meet(at, fault);
+  constexpr std::size_t kShown = 20, kFaults = kFaultNames.size();
+  for (auto point = totals.points % every; point < campaign->Length() * kFaults; point += every) {
+    const auto fault = static_cast<Fault>(point % kFaults);
+    const auto wrong = campaign->Meet(point / kFaults, fault);
     ++totals.points;
-    std::string ending = kEndingNames.at(static_cast<std::size_t>(campaign->Reached()));
-    if (campaign->RepetitionEnded()) ending += ", its repetition ends the program";
-    ++totals.led_to[{fault, ending}];
+    ++totals.led_to[{fault, campaign->Reached()}];
     if (wrong.empty()) continue;
     if (++totals.wrong <= kShown) {
-      std::cout << firmware.Joined() << (upload ? " upload" : " download") << " character " << at << ' '
-                << kFaultNames.at(point % kFaultNames.size()) << ": " << wrong << std::endl;
+      std::cout << firmware.Joined() << (upload ? " upload" : " download") << " character " << point / kFaults
+                << ' ' << kFaultNames.at(point % kFaults) << ": " << wrong << std::endl;
     }
     campaign = std::make_unique<Campaign>(firmware, upload);
   }
 }
 
 int RunAll(std::size_t every) {
-  const auto start = std::chrono::steady_clock::now();
+  const StopWatch watch;
   Totals totals;
-  for (const auto& firmware :
-       {FirmwareId{"V1400", "R12"}, {"V1400", "R4"}, {"V1300", "R14"}, {"V1334", "R1"}}) {
+  for (const auto& firmware : kUnlike) {
     for (const bool upload : {true, false}) Run(firmware, upload, every, totals);
   }
   for (const auto& [what, count] : totals.led_to) {
-    std::cout << kFaultNames.at(static_cast<std::size_t>(what.first)) << ": " << what.second << ' ' << count
-              << '\n';
+    const auto& [fault, ending] = what;
+    std::cout << kFaultNames.at(static_cast<std::size_t>(fault)) << ": " << ending << ' ' << count << '\n';
   }
-  const auto seconds =
-      std::chrono::duration_cast<std::chrono::seconds>(std::chrono::steady_clock::now() - start);
-  std::cout << totals.points << " points, " << totals.wrong << " wrong, " << seconds.count() << " s\n";
+  std::cout << totals.points << " points, " << totals.wrong << " wrong, " << watch.Told() << '\n';
   return totals.wrong == 0 && totals.points > 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
@@ -300,6 +274,6 @@ int RunAll(std::size_t every) {
 }  // namespace ovl::testing
 
 int main(int count, char** words) {
-  const auto every = count > 1 ? std::strtoul(words[1], nullptr, 10) : 1UL;
-  return ovl::testing::RunAll(every == 0 ? 1 : every);
+  const auto every = ovl::testing::NumberIn(count, words, 1, 1);
+  return ovl::testing::RunAll(every < 1 ? 1 : static_cast<std::size_t>(every));
 }
