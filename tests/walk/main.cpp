@@ -2,12 +2,11 @@
 // the same walk. A walk that fails is printed as the shortest script for ovl-script that still fails; it runs
 // in a folder made by ovl-images.
 //   ovl-walk [ACTS [SEED]]
-#include <chrono>
-#include <cstdlib>
 #include <filesystem>
 #include <iostream>
 #include <random>
 
+#include "campaign/long_run.h"
 #include "catalogue/firmware.h"
 #include "core/codecs.h"
 #include "default_images.h"
@@ -27,34 +26,26 @@ using Script = std::vector<std::string>;
 
 constexpr const char* kFiles[] = {"first.bin", "second.bin", "history.txt", "upload.bin"};
 
-// The option frame that a control stands in, and the frame inside it; -1: none.
-struct Place {
-  int frame = -1, inner = -1;
-};
-
-// By the control's place in the registry.
-std::vector<Place> PlacesOf(const Application& app) {
-  const auto& all = app.registry.All();
-  std::vector<Place> places(all.size());
-  for (int frame = 0; frame < static_cast<int>(app.frmMain.frmAddress.size()); ++frame) {
-    for (const auto& row : RowsOfFrame(frame)) {
-      const auto* inner = row.inner.empty() ? nullptr : app.registry.Find(row.inner);
-      for (std::size_t at = 0; at < all.size(); ++at) {
-        const auto name = std::string_view(all[at].name);
-        const bool listed = name == row.control || name.substr(0, name.find('(')) == row.control;
-        if (listed && all[at].form == &app.frmMain.form)
-          places[at] = {frame, inner == nullptr ? -1 : static_cast<int>(inner - all.data())};
+// The row of an option frame that a control stands in, if any, by the control's place in the registry.
+std::vector<const FrameRow*> RowsOf(const Application& app) {
+  std::vector<const FrameRow*> rows;
+  const int frames = static_cast<int>(app.frmMain.frmAddress.size());
+  for (const auto& named : app.registry.All()) {
+    const auto array = named.name.substr(0, named.name.find('('));
+    rows.push_back(nullptr);
+    for (int frame = 0; frame < frames && named.form == &app.frmMain.form; ++frame) {
+      for (const auto& row : RowsOfFrame(frame)) {
+        if (row.control == named.name || row.control == array) rows.back() = &row;
       }
     }
   }
-  return places;
+  return rows;
 }
 
-bool InSight(const Application& app, const Place& place) {
-  if (place.frame < 0) return true;
-  const auto& all = app.registry.All();
-  return app.frmMain.frmAddress[static_cast<std::size_t>(place.frame)].visible &&
-         (place.inner < 0 || FaceOf(all[static_cast<std::size_t>(place.inner)].control).visible);
+bool InSight(const Application& app, const FrameRow* row) {
+  if (row == nullptr) return true;
+  return app.frmMain.frmAddress[static_cast<std::size_t>(row->frame)].visible &&
+         (row->inner.empty() || FaceOf(app.registry.Find(row->inner)->control).visible);
 }
 
 bool Reachable(const NamedControl& named) {
@@ -71,30 +62,20 @@ class Hand {
 
   Script Next(const Application& app) {
     if (app.ended) return {"start"};
-    switch (Below(40)) {
-      case 0:
-        return Upload(app);
-      case 1:
-        return {"answer " + std::string(File()), "click menuSave"};
-      case 2:
-        return {"answer " + std::string(Below(3) == 0 ? "cancel" : File()), "click OpenMenu"};
-      case 3:
-      case 8:
-        return {PickIn("ComboReg", app.frmMain.ComboReg)};
-      case 4:
-      case 5:
-        return {PickIn("ComboExcp(0)", app.frmMain.ComboExcp[0])};
-      case 6:
-      case 7:
-        return {PickIn("ComboALM(0)", app.frmMain.ComboALM[0])};
-      default:
-        return {OnAnyControl(app, Below(3) == 0)};
-    }
+    const auto& form = app.frmMain;
+    const int kind = Below(40);
+    if (kind == 0) return Upload(app);
+    if (kind == 1) return {"answer " + File(), "click menuSave"};
+    if (kind == 2) return {"answer " + (Below(3) == 0 ? "cancel" : File()), "click OpenMenu"};
+    if (kind < 5) return {PickIn("ComboReg", form.ComboReg.items.size())};
+    if (kind < 7) return {PickIn("ComboExcp(0)", form.ComboExcp[0].items.size())};
+    if (kind < 9) return {PickIn("ComboALM(0)", form.ComboALM[0].items.size())};
+    return {OnAnyControl(app, Below(3) == 0)};
   }
 
  private:
   int Below(std::size_t limit) { return static_cast<int>(chance_() % limit); }
-  const char* File() { return kFiles[Below(std::size(kFiles))]; }
+  std::string File() { return kFiles[Below(std::size(kFiles))]; }
 
   std::string Text() {
     if (Below(3) == 0) return std::to_string(Below(Below(2) == 0 ? 100 : 100'000'000));
@@ -105,21 +86,21 @@ class Hand {
     return text;
   }
 
-  std::string PickIn(const std::string& name, const List& list) {
-    return list.items.empty() ? "sent" : "pick " + name + " " + std::to_string(Below(list.items.size()));
+  std::string PickIn(const std::string& name, std::size_t size) {
+    return size == 0 ? "sent" : "pick " + name + " " + std::to_string(Below(size));
   }
 
   // All the way from a closed port, or whatever of it can be done.
   Script Upload(const Application& app) {
-    const auto stream =
-        RawPatternStream(app.firmware, Below(256), Below(app.frmMain.ComboReg.items.size() + 2));
+    const int code = Below(app.frmMain.ComboReg.items.size() + 2);
+    const auto stream = "unit " + script::Quoted(RawPatternStream(app.firmware, Below(256), code));
     return {"click cmdConnect",
             "click frmSettSR.cmdSET",
             "click CmdUpDow(4)",
             "unit hex 06",
             "click CmdUpDow(0)",
             "drain",
-            "unit " + script::Quoted(stream),
+            stream,
             "click frmOK_buttom.Command1"};
   }
 
@@ -127,15 +108,15 @@ class Hand {
   std::string OnAnyControl(const Application& app, bool options) {
     constexpr int kTries = 500;
     const auto& all = app.registry.All();
-    if (places_.size() != all.size()) places_ = PlacesOf(app);
+    if (rows_.size() != all.size()) rows_ = RowsOf(app);
     const bool any = !options && Below(16) == 0;
     const auto* window = options && Below(2) == 0 ? WindowBeside(app) : nullptr;
     for (int tries = 0; tries < kTries; ++tries) {
       const auto at = static_cast<std::size_t>(Below(all.size()));
       const auto& named = all[at];
-      if (window != nullptr ? named.form != window : options && places_[at].frame < 0) continue;
-      if (!InSight(app, places_[at]) || (!any && !Reachable(named))) continue;
-      const auto name = NameOf(app, named);
+      if (window != nullptr ? named.form != window : options && rows_[at] == nullptr) continue;
+      if (!InSight(app, rows_[at]) || (!any && !Reachable(named))) continue;
+      const auto name = FullName(app, named);
       auto line = std::visit([&](const auto& control) { return On(name, control); }, named.control);
       if (!line.empty()) return line;
     }
@@ -147,23 +128,16 @@ class Hand {
     }
     return nullptr;
   }
-  static std::string NameOf(const Application& app, const NamedControl& named) {
-    const bool plain = named.form == &app.frmMain.form || std::holds_alternative<Form*>(named.control);
-    return plain ? named.name : named.form->name + "." + named.name;
-  }
 
-  std::string On(const std::string& name, const List* list) { return PickIn(name, *list); }
-  std::string On(const std::string& name, const OptionElement&) { return "click " + name; }
+  std::string On(const std::string& name, const List* list) { return PickIn(name, list->items.size()); }
   std::string On(const std::string& name, const OptionArray* array) {
-    return array->elements.empty() ? ""
-                                   : "pick " + name + " " + std::to_string(Below(array->elements.size()));
+    return PickIn(name, array->elements.size());
   }
+  std::string On(const std::string& name, const OptionElement&) { return "click " + name; }
   std::string On(const std::string& name, const CheckBox*) { return "click " + name; }
   std::string On(const std::string& name, const Button*) { return "click " + name; }
   std::string On(const std::string& name, const TextBox*) {
-    const int kind = Below(4);
-    if (kind == 0) return "leave " + name;
-    return "type " + name + " " + script::Quoted(Text());
+    return Below(4) == 0 ? "leave " + name : "type " + name + " " + script::Quoted(Text());
   }
   // Ways out of the program are taken rarely.
   std::string On(const std::string& name, const MenuItem*) { return Below(8) == 0 ? "click " + name : ""; }
@@ -180,7 +154,7 @@ class Hand {
   }
 
   std::mt19937 chance_;
-  std::vector<Place> places_;
+  std::vector<const FrameRow*> rows_;
 };
 
 void RemoveFiles() {
@@ -198,27 +172,15 @@ std::string Replay(const FirmwareId& stored, const Script& script, ConfigImage* 
   return {};
 }
 
-bool Fails(const FirmwareId& stored, const Script& script) {
-  const auto wrong = Replay(stored, script);
-  return !wrong.empty() && !wrong.starts_with("stopped");
-}
-
-void TellShortest(const FirmwareId& stored, Script script) {
-  for (std::size_t length = script.size() / 2; length > 0; length = length == 1 ? 0 : length / 2) {
-    for (std::size_t at = 0; at + length <= script.size();) {
-      auto fewer = script;
-      const auto first = fewer.begin() + static_cast<std::ptrdiff_t>(at);
-      fewer.erase(first, first + static_cast<std::ptrdiff_t>(length));
-      if (Fails(stored, fewer)) {
-        script = std::move(fewer);
-      } else {
-        at += length;
-      }
-    }
-  }
+void TellShortest(const FirmwareId& stored, const Script& whole, const std::string& wrong) {
+  const auto script = Shortest(whole, [&](const Script& fewer) {
+    const auto found = Replay(stored, fewer);
+    return !found.empty() && !found.starts_with("stopped");
+  });
   std::cout << "setting Version " << stored.version << "\nsetting Release " << stored.release << "\nstart\n";
   for (const auto& line : script) std::cout << line << '\n';
-  std::istringstream reason(Replay(stored, script));
+  const auto again = Replay(stored, script);
+  std::istringstream reason(again.empty() ? "not again: " + wrong : again);
   for (std::string line; std::getline(reason, line);) std::cout << "# " << line << '\n';
 }
 
@@ -254,13 +216,18 @@ std::string OtherwiseElsewhere(Watched& program) {
   ShowRecords(other);
   std::string wrong;
   for (const auto& row : FieldTable()) {
-    if (OwnerNamed("ComboReg").fields.find(" " + std::string(row.name) + " ") != std::string_view::npos)
-      continue;
+    if (MayWrite(OwnerNamed("ComboReg"), row.name)) continue;
     for (int entry = 1; entry <= EntryCount(row.id); ++entry) {
       const auto here = Settled(row.id, program.Image().at(row.id, entry));
       const auto there = Settled(row.id, other.Image().at(row.id, entry));
       if (here != there && (row.layouts & Bit(LayoutOf(program.App().firmware))) != 0)
-        wrong.append(row.name).append(" ").append(here).append(" ").append(there).append("\n");
+        wrong.append("as a file: ")
+            .append(row.name)
+            .append(" ")
+            .append(here)
+            .append(" ")
+            .append(there)
+            .append("\n");
     }
   }
   return wrong;
@@ -278,24 +245,16 @@ bool Walk(const FirmwareId& stored, unsigned seed, long acts) {
       script.push_back(std::move(line));
       const auto wrong = program.Do(script.back());
       if (wrong.empty()) continue;
-      if (Fails(stored, script)) {
-        TellShortest(stored, script);
-      } else {
-        std::cout << stored.Joined() << " seed " << seed << " line " << script.size()
-                  << ", not again: " << wrong;
-      }
+      TellShortest(stored, script, wrong);
       return false;
     }
   }
   ConfigImage again;
-  const auto wrong = Replay(stored, script, &again);
-  if (!wrong.empty() || !(again == program.Image())) {
-    std::cout << stored.Joined() << " seed " << seed << ": another image the second time " << wrong << '\n';
-    return false;
-  }
-  const auto otherwise = OtherwiseElsewhere(program);
-  if (!otherwise.empty()) std::cout << stored.Joined() << " seed " << seed << ", as a file: " << otherwise;
-  return otherwise.empty();
+  auto wrong = Replay(stored, script, &again);
+  if (wrong.empty() && !(again == program.Image())) wrong = "another image the second time\n";
+  if (wrong.empty()) wrong = OtherwiseElsewhere(program);
+  if (!wrong.empty()) std::cout << stored.Joined() << " seed " << seed << ": " << wrong;
+  return wrong.empty();
 }
 
 int Run(long acts, unsigned seed) {
@@ -303,12 +262,11 @@ int Run(long acts, unsigned seed) {
   const TemporaryFolder folder;
   fs::current_path(folder.Path());
   std::vector<FirmwareId> all;
-  for (const auto& entry : FirmwareTable())
-    all.push_back({std::string(entry.version), std::string(entry.release)});
-  for (const auto& firmware : all) {
+  for (const auto& entry : FirmwareTable()) {
+    const auto& firmware = all.emplace_back(std::string(entry.version), std::string(entry.release));
     if (IsKnownFamily(firmware.version)) WriteDefaultImages(".", firmware);
   }
-  const auto start = std::chrono::steady_clock::now();
+  const StopWatch watch;
   long done = 0;
   std::size_t walks = 0, failed = 0;
   constexpr std::size_t kFailures = 10;
@@ -317,10 +275,7 @@ int Run(long acts, unsigned seed) {
     failed += Walk(all[walks % all.size()], seed + static_cast<unsigned>(walks), length) ? 0U : 1U;
     done += length;
   }
-  const auto seconds =
-      std::chrono::duration_cast<std::chrono::seconds>(std::chrono::steady_clock::now() - start);
-  std::cout << done << " acts in " << walks << " walks, " << failed << " failed, " << seconds.count()
-            << " s\n";
+  std::cout << done << " acts in " << walks << " walks, " << failed << " failed, " << watch.Told() << '\n';
   fs::current_path("/");
   return failed == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }
@@ -329,7 +284,6 @@ int Run(long acts, unsigned seed) {
 }  // namespace ovl::testing
 
 int main(int count, char** words) {
-  const long acts = count > 1 ? std::atol(words[1]) : 1'000'000L;
-  const auto seed = count > 2 ? std::strtoul(words[2], nullptr, 10) : 1UL;
-  return ovl::testing::Run(acts, static_cast<unsigned>(seed));
+  const auto seed = ovl::testing::NumberIn(count, words, 2, 1);
+  return ovl::testing::Run(ovl::testing::NumberIn(count, words, 1, 1'000'000), static_cast<unsigned>(seed));
 }

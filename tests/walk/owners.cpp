@@ -42,11 +42,9 @@ constexpr Owner kOwners[] = {
     // the register itself: its own defaults, and what its options force
     {" ComboReg ",
      " EXECENTRY COMMCFG_BAK IOCFG_BAK RX_BAUDRATE TX_BAUDRATE UNITADDR DV_ADDRIND_BAK TCIADDBAK_1 "
-     "TCIADDBAK_2 TCIADDBAK_3 GTITLE_NF_BAK GPS_CONFIG_BAK "
-     "DEVICE_INDEX_BAK REGDV_TYPE_BAK REG_GNA_BAK REG_LNA_BAK REG_IDNA_BAK PCDV_TYPE_BAK PC_GNA_BAK "
-     "PC_LNA_BAK "
-     "PC_IDNA_BAK MICROS_STATUS REGTYPE REGTYPE_MINOR REGTYPE_EXT1 REGTYPE_EXT2 IPADDRESS TIMESTAMP_ENA "
-     "DSPCFG_BAK DSPLINES_BAK "},
+     "TCIADDBAK_2 TCIADDBAK_3 GTITLE_NF_BAK GPS_CONFIG_BAK DEVICE_INDEX_BAK REGDV_TYPE_BAK REG_GNA_BAK "
+     "REG_LNA_BAK REG_IDNA_BAK PCDV_TYPE_BAK PC_GNA_BAK PC_LNA_BAK PC_IDNA_BAK MICROS_STATUS REGTYPE "
+     "REGTYPE_MINOR REGTYPE_EXT1 REGTYPE_EXT2 IPADDRESS TIMESTAMP_ENA DSPCFG_BAK DSPLINES_BAK "},
     // line and network
     {" ComboCOMM(0) ", " IOCFG_BAK "},
     {" ComboCOMM(1) ", " RX_BAUDRATE "},
@@ -96,44 +94,31 @@ constexpr Owner kOwners[] = {
     {" ComboKLM4011(1) ComboKLM4011(3) ", " HIST_SRC_ID "},
 };
 
-const Owner* Named(std::string_view name) {
-  const auto word = " " + std::string(name) + " ";
-  const auto found = std::find_if(std::begin(kOwners), std::end(kOwners), [&](const Owner& owner) {
-    return owner.controls.find(word) != std::string_view::npos;
-  });
-  return found == std::end(kOwners) ? nullptr : found;
-}
-
 }  // namespace
 
 const Owner& OwnerNamed(std::string_view control) {
   static constexpr Owner kNobody = {"", " "};
-  const auto* owner = Named(control);
-  if (owner == nullptr) owner = Named(control.substr(0, control.find('(')));
-  return owner == nullptr ? kNobody : *owner;
+  for (const auto name : {control, control.substr(0, control.find('('))}) {
+    const auto word = " " + std::string(name) + " ";
+    for (const auto& owner : kOwners) {
+      if (owner.controls.find(word) != std::string_view::npos) return owner;
+    }
+  }
+  return kNobody;
 }
 
-bool DifferIn(Part part, std::size_t range, std::string_view one, std::string_view other) {
-  const auto same = [&](std::size_t first, std::size_t digits) {
-    return one.substr(std::min(first, one.size()), digits) ==
-           other.substr(std::min(first, other.size()), digits);
-  };
+bool MayWrite(const Owner& owner, std::string_view field) {
+  return owner.fields.find(" " + std::string(field) + " ") != std::string_view::npos;
+}
+
+std::string Without(Part part, std::size_t range, std::string record) {
   constexpr std::size_t kByte = 2;
-  constexpr auto kRest = std::string_view::npos;
-  switch (part) {
-    case Part::kFirstByte:
-      return same(kByte, kRest);
-    case Part::kDuration:
-      return same(0, kByte) && same(3 * kByte, kRest);
-    case Part::kLastByte:
-      return same(0, one.size() - kByte);
-    case Part::kRange:
-      return same(0, kByte) && same(kByte + range, kRest);
-    case Part::kAllButRange:
-      return same(kByte, range);
-    default:
-      return true;
-  }
+  if (part == Part::kAll) return {};
+  if (record.size() < kByte) return record;
+  if (part == Part::kAllButRange) return record.substr(kByte, range);
+  if (part == Part::kFirstByte) return record.substr(kByte);
+  if (part == Part::kDuration) return record.erase(kByte, 2 * kByte);
+  return part == Part::kRange ? record.erase(kByte, range) : record.erase(record.size() - kByte);
 }
 
 }  // namespace ovl::testing

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace ovl::testing {
@@ -19,7 +20,10 @@ struct Owner {
 // one have the form in front. A control that is not listed writes nothing.
 const Owner& OwnerNamed(std::string_view control);
 
-// Whether two records of the field differ in the part alone; the numbers of a range have so many digits.
-bool DifferIn(Part part, std::size_t range, std::string_view one, std::string_view other);
+// Whether the owner's fields have one of this name.
+bool MayWrite(const Owner& owner, std::string_view field);
+
+// What the part leaves of a record; the numbers of a range have so many digits.
+std::string Without(Part part, std::size_t range, std::string record);
 
 }  // namespace ovl::testing

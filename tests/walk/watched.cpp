@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "image/field_map.h"
+#include "parser.h"
 #include "runner.h"
 #include "support/harness.h"
 #include "walk/owners.h"
@@ -15,23 +16,11 @@ bool IsHex(const std::string& text) {
   return text.find_first_not_of("0123456789ABCDEF") == std::string::npos;
 }
 
-struct Lengths {
-  std::size_t syscfg, sysfixed;
-};
-
-// The digits of the sections that have a fixed number, written down apart from the field table.
-Lengths LengthsOf(const FirmwareId& firmware) {
+// The digits of SYSCFG and SYSFIXED, which have a fixed number, written down apart from the field table.
+std::pair<std::size_t, std::size_t> LengthsOf(const FirmwareId& firmware) {
   if (firmware.version != "V1400") return {96, 192};
   const int release = firmware.Number();
-  if (release < 7) return {64, 206};
-  return {64, release == 7 ? 224U : 226U};
-}
-
-// What the line acts on: the word behind the statement.
-std::string ControlIn(const std::string& line) {
-  const auto begin = line.find(' ');
-  if (begin == std::string::npos) return {};
-  return line.substr(begin + 1, line.find(' ', begin + 1) - begin - 1);
+  return {64, release < 7 ? 206 : release == 7 ? 224 : 226};
 }
 
 // A whole image is taken in, or another program is started.
@@ -39,8 +28,25 @@ bool Loads(const std::string& line) {
   return line.starts_with("start") || line.starts_with("unit") || line == "click OpenMenu";
 }
 
-bool MayWrite(std::string_view fields, std::string_view field) {
-  return fields.find(" " + std::string(field) + " ") != std::string_view::npos;
+std::string CheckLists(const Application& app) {
+  for (const auto& named : app.registry.All()) {
+    const auto* list = std::get_if<List*>(&named.control);
+    const auto* array = std::get_if<OptionArray*>(&named.control);
+    if (list == nullptr && array == nullptr) continue;
+    const int at = list != nullptr ? (*list)->position : (*array)->chosen;
+    const auto size = list != nullptr ? (*list)->items.size() : (*array)->elements.size();
+    if (at < -1 || at >= static_cast<int>(size))
+      return named.name + " stands at " + std::to_string(at) + "\n";
+  }
+  return {};
+}
+
+std::string CheckFrames(const Application& app) {
+  const auto& frames = app.frmMain.frmAddress;
+  const auto count =
+      std::count_if(frames.begin(), frames.end(), [](const Frame& frame) { return frame.visible; });
+  if (count <= 1 || (count == 2 && frames[18].visible && frames[49].visible)) return {};
+  return std::to_string(count) + " option frames\n";
 }
 
 }  // namespace
@@ -60,33 +66,29 @@ std::string Watched::Do(const std::string& line) {
     return "stopped: " + errors.str();
   printed_.str({});
   session_.TakeSent();
-  while (session_.TakeBox()) {
-  }
-  if (Ended()) return {};
-  auto wrong = CheckImage(line);
-  if (wrong.empty()) wrong = CheckLists();
-  return wrong.empty() ? CheckFrames() : wrong;
+  while (session_.TakeBox()) continue;
+  return Ended() ? std::string() : CheckImage(line) + CheckLists(App()) + CheckFrames(App());
 }
 
 std::string Watched::CheckImage(const std::string& line) {
   if (Image() == before_) return {};
   const bool loads = Loads(line);
-  const auto wrong = CheckFields(ControlIn(line), loads) + CheckLengths(loads, line == "click OpenMenu");
+  const auto words = script::SplitWords(line);
+  const auto wrong = CheckFields(words.size() < 2 ? "" : words[1].text, loads) +
+                     CheckLengths(loads, line == "click OpenMenu");
   before_ = Image();
   return wrong;
 }
 
-// The form stands in front of a control that the main form lacks.
-std::string Watched::FullName(const std::string& control) {
-  const auto* named = App().registry.Find(control);
-  const bool plain =
-      named == nullptr || named->form == &App().frmMain.form || control.find('.') != std::string::npos;
-  return plain || std::holds_alternative<Form*>(named->control) ? control : named->form->name + "." + control;
+std::string FullName(const Application& app, const NamedControl& named) {
+  const bool plain = named.form == &app.frmMain.form || std::holds_alternative<Form*>(named.control);
+  return plain ? named.name : named.form->name + "." + named.name;
 }
 
 std::string Watched::CheckFields(const std::string& control, bool loads) {
   const auto& form = App().frmMain;
-  const auto& owner = OwnerNamed(FullName(control));
+  const auto* named = App().registry.Find(control);
+  const auto& owner = OwnerNamed(named == nullptr ? control : FullName(App(), *named));
   const std::size_t range = App().firmware.IsV1400() ? 20 : 12;
   std::string wrong;
   for (const auto& row : FieldTable()) {
@@ -103,8 +105,10 @@ std::string Watched::CheckFields(const std::string& control, bool loads) {
       const bool record =
           whole_ && (row.id == FieldId::EXCPSTRS || row.id == FieldId::ALMSTRUCT_BAK ||
                      (row.id == FieldId::TRIGGER_TEXT && owner.of_records == Part::kFirstByte));
-      const bool may_write = loads || ((shown == 0 || entry == shown) && MayWrite(owner.fields, row.name) &&
-                                       (!record || DifferIn(owner.of_records, range, was, is)));
+      const bool may_write =
+          loads ||
+          ((shown == 0 || entry == shown) && MayWrite(owner, row.name) &&
+           (!record || Without(owner.of_records, range, was) == Without(owner.of_records, range, is)));
       if (in_form && may_write) continue;
       wrong.append(control).append(" wrote ").append(row.name).append(" ").append(std::to_string(entry));
       wrong.append(": ").append(was).append(", now ").append(is).append("\n");
@@ -126,28 +130,6 @@ std::string Watched::CheckLengths(bool loads, bool from_file) {
   // Saved files follow one layout whatever the release; some releases read their own as a shorter image.
   if (loads) whole_ = whole || !from_file;
   return whole_ && !whole ? "the sections' lengths\n" : "";
-}
-
-std::string Watched::CheckLists() {
-  for (const auto& named : App().registry.All()) {
-    const auto* list = std::get_if<List*>(&named.control);
-    const auto* array = std::get_if<OptionArray*>(&named.control);
-    const int at = list != nullptr ? (*list)->position : array != nullptr ? (*array)->chosen : -1;
-    const auto size = list != nullptr    ? (*list)->items.size()
-                      : array != nullptr ? (*array)->elements.size()
-                                         : 0;
-    if (at < -1 || at >= static_cast<int>(size))
-      return named.name + " stands at " + std::to_string(at) + "\n";
-  }
-  return {};
-}
-
-std::string Watched::CheckFrames() {
-  const auto& frames = App().frmMain.frmAddress;
-  const auto count =
-      std::count_if(frames.begin(), frames.end(), [](const Frame& frame) { return frame.visible; });
-  if (count <= 1 || (count == 2 && frames[18].visible && frames[49].visible)) return {};
-  return std::to_string(count) + " option frames\n";
 }
 
 }  // namespace ovl::testing

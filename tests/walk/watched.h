@@ -1,15 +1,16 @@
 // A program under script whose image is looked at after every line.
 #pragma once
 
-#include <memory>
 #include <sstream>
 #include <string>
-#include <vector>
 
 #include "core/config_image.h"
 #include "session.h"
 
 namespace ovl::testing {
+
+// The form stands in front of a control that the main form lacks.
+std::string FullName(const Application& app, const NamedControl& named);
 
 class Watched {
  public:
@@ -26,12 +27,9 @@ class Watched {
   const ConfigImage& Image() { return App().image; }
 
  private:
-  std::string FullName(const std::string& control);
   std::string CheckImage(const std::string& line);
   std::string CheckFields(const std::string& control, bool loads);
   std::string CheckLengths(bool loads, bool from_file);
-  std::string CheckLists();
-  std::string CheckFrames();
 
   std::ostringstream printed_;  // by the script; nobody reads it
   script::Session session_;
