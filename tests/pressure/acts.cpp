@@ -1,5 +1,3 @@
-#include "acts.h"
-
 #include <QFile>
 #include <fstream>
 #include <memory>
@@ -8,13 +6,12 @@
 #include "core/settings.h"
 #include "image/files.h"
 #include "parser.h"
+#include "pressures.h"
 #include "runner.h"
 #include "shell/platform/settings_store.h"
 
 namespace ovl::testing {
 namespace {
-
-namespace fs = std::filesystem;
 
 const FirmwareId kFirmware{"V1400", "R12"};
 constexpr const char* kOld = "what was there before\r\n";
@@ -26,80 +23,74 @@ std::shared_ptr<Harness> Started() {
 }
 
 Act Save() {
-  return {"Save", "kept.bin", true, kOld, [program = Started()](const std::string&, const std::string& path) {
-            program->file_answers.emplace_back(path);
-            program->Click("menuSave");
-            const auto text = program->TakeBox().text;
-            const bool done = text == "Save Completed.        ";
-            return Told{done, text, done || text == "NoFile Save. !!!        "};
-          }};
+  const auto run = [program = Started()](const std::string&, const std::string& path) {
+    program->file_answers.emplace_back(path);
+    program->Click("menuSave");
+    const auto text = program->TakeBox().text;
+    const bool done = text == "Save Completed.        ";
+    return Told{done, text, done || text == "NoFile Save. !!!        "};
+  };
+  return {"Save", "kept.bin", true, kOld, run};
 }
 
 // Nothing is told but in the status bar.
 Act History() {
-  return {"history", "History.txt", true, kOld,
-          [program = Started()](const std::string&, const std::string& path) {
-            program->OpenAndHold();
-            program->file_answers.emplace_back(path);
-            program->Click("CmdUpDow(3)");
-            program->DrainAll();
-            program->Unit("00001 NO SALE\r\n\x06");
-            const auto& note = program->app.StatusNote;
-            const bool named = note.starts_with(path + ": ");
-            return Told{note.empty(), note, (note.empty() || named) && program->NoBoxLeft()};
-          }};
+  const auto run = [program = Started()](const std::string&, const std::string& path) {
+    program->OpenAndHold();
+    program->file_answers.emplace_back(path);
+    program->Click("CmdUpDow(3)");
+    program->DrainAll();
+    program->Unit("00001 NO SALE\r\n\x06");
+    const auto& note = program->app.StatusNote;
+    return Told{note.empty(), note, (note.empty() || note.starts_with(path + ": ")) && program->NoBoxLeft()};
+  };
+  return {"history", "History.txt", true, kOld, run};
 }
 
 // An upload that cannot be kept is not taken in.
 Act Upload() {
-  return {"upload.bin", "V1400/upload.bin", false, kOld,
-          [program = Started()](const std::string& folder, const std::string&) {
-            auto& app = program->app;
-            app.platform.program_folder = folder;
-            app.frmOK_buttom.Label1.caption.clear();
-            const auto image = app.image;
-            program->OpenAndHold();
-            program->Click("CmdUpDow(0)");
-            program->DrainAll();
-            program->Unit(PatternStream(kFirmware, 5));
-            const bool done = app.frmOK_buttom.Label1.caption == "Upload Completed.";
-            const bool right = done ? app.image != image
-                                    : app.image == image && app.frmMain.ComboReg.position <= 1 &&
-                                          !app.StatusNote.empty() && !app.frmOK_buttom.form.visible;
-            return Told{done, done ? app.frmOK_buttom.Label1.caption : app.StatusNote, right};
-          }};
-}
-
-std::string Conf(const char* version, const char* release) {
-  return std::string("[General]\nRelease=").append(release).append("\nVersion=").append(version) + "\n";
+  const auto run = [program = Started()](const std::string& folder, const std::string&) {
+    auto& app = program->app;
+    auto& end = app.frmOK_buttom;
+    app.platform.program_folder = folder;
+    end.Label1.caption.clear();
+    const auto image = app.image;
+    program->OpenAndHold();
+    program->Click("CmdUpDow(0)");
+    program->DrainAll();
+    program->Unit(PatternStream(kFirmware, 5));
+    const bool done = end.Label1.caption == "Upload Completed.";
+    const bool kept = app.image == image && app.frmMain.ComboReg.position <= 1 && !app.StatusNote.empty() &&
+                      !end.form.visible;
+    return Told{done, done ? end.Label1.caption : app.StatusNote, done ? app.image != image : kept};
+  };
+  return {"upload.bin", "V1400/upload.bin", false, kOld, run};
 }
 
 // A failed write is silent; the box comes either way, and the program ends.
 Act Settings() {
-  return {"settings",
-          "ORB/OVL Software.conf",
-          false,
-          Conf("V1400", "R12"),
-          [program = Started()](const std::string& folder, const std::string&) {
-            const SettingsStore store(QFile::decodeName(folder.c_str()));
-            bool done = true;
-            program->app.platform.write_setting = [&](auto key, auto value, auto text) {
-              return done = store.Write(key, value, text) && done;
-            };
-            const bool ended = program->Click("V1300R14mnu") == Outcome::kEnded;
-            const auto text = program->TakeBox().text;
-            return Told{done, text, ended && text.find("V1300R14") != std::string::npos};
-          },
-          true,
-          // The two values are written one after the other, and the file can be gone in between.
-          {Conf("V1300", "R12"), "[General]\nVersion=V1300\n", "[General]\nRelease=R14\n"}};
+  const auto run = [program = Started()](const std::string& folder, const std::string&) {
+    const SettingsStore store(QFile::decodeName(folder.c_str()));
+    bool done = true;
+    program->app.platform.write_setting = [&](auto key, auto value, auto text) {
+      return done = store.Write(key, value, text) && done;
+    };
+    const bool ended = program->Click("V1300R14mnu") == Outcome::kEnded;
+    const auto text = program->TakeBox().text;
+    return Told{done, text, ended && text.find("V1300R14") != std::string::npos};
+  };
+  // The two values are written one after the other, and the file can be gone in between.
+  const std::string head = "[General]\n", release = "Release=R12\n", version = "Version=V1300\n";
+  return {"settings", "ORB/OVL Software.conf",
+          false,      head + release + "Version=V1400\n",
+          run,        {head + release + version, head + version, head + "Release=R14\n"}};
 }
 
 // Its exit status and its reason.
-Told RunStatement(const std::string& folder, const std::string& statement, std::ostream& output) {
+Told RunStatement(const Harness& site, const std::string& statement, std::ostream& output) {
   std::ostringstream errors;
   script::Session session(output, errors);
-  std::istringstream text("folder " + script::Quoted(folder) +
+  std::istringstream text("folder " + script::Quoted(site.folder.Path().string()) +
                           "\nsetting Version V1400\nsetting Release R12\nstart\n" + statement + "\n");
   const auto status = RunScript(session, text, "script", errors);
   const bool done = status == script::ExitStatus::kDone;
@@ -108,23 +99,17 @@ Told RunStatement(const std::string& folder, const std::string& statement, std::
   return {done, words, done || (status == script::ExitStatus::kWrongStatement && !words.empty())};
 }
 
-// A row's process may have become an ordinary user.
-void ReadableForAll(const fs::path& folder) {
-  constexpr auto kReadable = fs::perms::others_read | fs::perms::others_exec;
-  fs::permissions(folder, kReadable, fs::perm_options::add);
-  for (const auto& entry : fs::recursive_directory_iterator(folder)) {
-    fs::permissions(entry.path(), kReadable, fs::perm_options::add);
-  }
-}
-
 Act Script(const std::string& word) {
+  using enum std::filesystem::perms;
   const auto site = Started();
-  ReadableForAll(site->folder.Path());
-  return {"script " + word, "output.txt", true, kOld,
-          [word, site](const std::string&, const std::string& path) {
-            std::ostringstream output;
-            return RunStatement(site->folder.Path().string(), word + " " + script::Quoted(path), output);
-          }};
+  // A row's process may have become an ordinary user.
+  std::filesystem::permissions(site->folder.Path(), others_read | others_exec,
+                               std::filesystem::perm_options::add);
+  const auto run = [word, site](const std::string&, const std::string& path) {
+    std::ostringstream output;
+    return RunStatement(*site, word + " " + script::Quoted(path), output);
+  };
+  return {"script " + word, "output.txt", true, kOld, run};
 }
 
 }  // namespace
@@ -134,9 +119,8 @@ std::vector<Act> AllActs() {
 }
 
 Told PrintTo(const std::string& device) {
-  const Harness site(kFirmware);
   std::ofstream output(device);
-  return RunStatement(site.folder.Path().string(), "echo text", output);
+  return RunStatement(Harness(kFirmware), "echo text", output);
 }
 
 }  // namespace ovl::testing

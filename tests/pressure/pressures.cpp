@@ -17,12 +17,11 @@ namespace ovl::testing {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr uid_t kNobody = 65534;
-constexpr std::size_t kLongestName = 255;
+using Path = const fs::path&;
 
 // The superuser would be refused nothing. The process stays an ordinary user to its end.
-bool BecomeOrdinary(const fs::path& file, bool own_folder) {
+bool BecomeOrdinary(Path file, bool own_folder) {
+  constexpr uid_t kNobody = 65534;
   if (geteuid() != 0) return true;
   const auto folder = file.parent_path();
   for (auto above = folder; above != fs::temp_directory_path(); above = above.parent_path()) {
@@ -34,7 +33,7 @@ bool BecomeOrdinary(const fs::path& file, bool own_folder) {
 }
 
 // A file system of a few pages, gone with this process, filled to the last byte.
-bool FillFileSystem(const fs::path& file) {
+bool FillFileSystem(Path file) {
   if (unshare(CLONE_NEWNS) != 0) return false;
   const auto before = ReadWhole(file.string());
   const auto folder = file.parent_path();
@@ -47,77 +46,60 @@ bool FillFileSystem(const fs::path& file) {
   return true;
 }
 
-bool LimitFileSize(const fs::path&) {
+bool LimitFileSize(Path) {
   OutliveSizeLimit();
   const rlimit limit{10, 10};
   return setrlimit(RLIMIT_FSIZE, &limit) == 0;
 }
 
-bool MakeFolderReadOnly(const fs::path& file) {
+bool MakeFolderReadOnly(Path file) {
   fs::permissions(file.parent_path(), fs::perms::owner_write, fs::perm_options::remove);
   return BecomeOrdinary(file, false);
 }
 
-bool ProtectFile(const fs::path& file) {
+bool ProtectFile(Path file) {
   fs::permissions(file, fs::perms::owner_read);
   return BecomeOrdinary(file, true);
 }
 
-bool PutFolder(const fs::path& file) {
-  fs::remove(file);
-  return fs::create_directory(file);
+bool PutLink(Path file, Path target) {
+  return fs::remove(file) && symlink(target.c_str(), file.c_str()) == 0;
 }
 
-bool PutPipe(const fs::path& file) {
-  fs::remove(file);
-  return mkfifo(file.c_str(), 0600) == 0;
-}
-
-bool PutLink(const fs::path& file, const fs::path& target) {
-  fs::remove(file);
-  fs::create_symlink(target, file);
-  return true;
-}
-
-bool PutCircle(const fs::path& file) {
+bool PutCircle(Path file) {
   const auto other = file.parent_path() / "other";
-  fs::create_symlink(file, other);
-  return PutLink(file, other);
+  return symlink(file.c_str(), other.c_str()) == 0 && PutLink(file, other);
 }
 
 // The descriptor stays open as long as this process.
-bool Hold(const fs::path& file) {
+bool Hold(Path file) {
   const int descriptor = open(file.c_str(), O_RDWR | O_CLOEXEC);
   return descriptor >= 0 && flock(descriptor, LOCK_EX) == 0;
-}
-
-bool RemoveFolder(const fs::path& file) {
-  return fs::remove_all(file.parent_path()) > 0;
 }
 
 }  // namespace
 
 std::vector<Pressure> AllPressures() {
-  const auto link_to = [](const char* target) {
-    return [target](const fs::path& file) { return PutLink(file, target); };
-  };
+  constexpr bool kWritten = true, kRefused = false, kNoStore = false;
+  const auto nothing = [](Path) { return true; };
   return {
-      {"nothing", End::kWritten, [](const fs::path&) { return true; }},
-      {"no file there yet", End::kWritten, [](const fs::path& file) { return fs::remove(file); }},
-      {"full file system", End::kRefused, FillFileSystem},
-      {"limit on file size", End::kRefused, LimitFileSize},
-      {"read-only folder", End::kRefused, MakeFolderReadOnly},
-      {"write-protected file", End::kRefused, ProtectFile},
-      {"folder in its place", End::kRefused, PutFolder},
-      {"pipe in its place", End::kRefused, PutPipe, {}, true},
-      {"link to nothing", End::kWritten, link_to("missing")},
-      {"link into no folder", End::kRefused, link_to("missing/file"), {}, true},
-      {"links in a circle", End::kRefused, PutCircle, {}, true},
-      {"another holds it", End::kWritten, Hold},
-      {"folder gone", End::kRefused, RemoveFolder, {}, true},
-      {"name of 255 bytes", End::kWritten, [](const fs::path&) { return true; },
-       std::string(kLongestName, 'n')},
-      {"name of 300 bytes", End::kRefused, [](const fs::path&) { return true; }, std::string(300, 'n')},
+      {"nothing", kWritten, nothing},
+      {"no file there yet", kWritten, [](Path file) { return fs::remove(file); }},
+      {"full file system", kRefused, FillFileSystem},
+      {"limit on file size", kRefused, LimitFileSize},
+      {"read-only folder", kRefused, MakeFolderReadOnly},
+      {"write-protected file", kRefused, ProtectFile},
+      {"folder in its place", kRefused,
+       [](Path file) { return fs::remove(file) && fs::create_directory(file); }},
+      {"pipe in its place", kRefused,
+       [](Path file) { return fs::remove(file) && mkfifo(file.c_str(), 0600) == 0; }, kNoStore},
+      {"link to nothing", kWritten, [](Path file) { return PutLink(file, "missing"); }},
+      {"link into no folder", kRefused, [](Path file) { return PutLink(file, "missing/file"); }, kNoStore},
+      {"links in a circle", kRefused, PutCircle, kNoStore},
+      {"another holds it", kWritten, Hold},
+      {"folder gone", kRefused, [](Path file) { return fs::remove_all(file.parent_path()) > 0; }, kNoStore},
+      {"name of 255 bytes", kWritten, nothing, true, std::string(255, 'n')},
+      {"name of 300 bytes", kRefused, nothing, true, std::string(300, 'n')},
   };
 }
 
