@@ -1,6 +1,7 @@
 // What a fuzzer's input is taken apart with, and how it says what does not hold.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -19,6 +20,12 @@ class Bytes {
     const auto byte = static_cast<std::uint8_t>(rest_.front());
     rest_.remove_prefix(1);
     return byte;
+  }
+  // As far as a NUL, or all.
+  std::string_view NextText() {
+    const auto text = rest_.substr(0, rest_.find('\0'));
+    rest_.remove_prefix(std::min(text.size() + 1, rest_.size()));
+    return text;
   }
   std::string_view Rest() const { return rest_; }
 

@@ -13,14 +13,11 @@ using ovl::fuzz::Require;
 // The lines of a history, told apart from the program's own reader: CR LF or CR ends one.
 std::string Shown(std::string_view bytes) {
   std::string text;
-  bool begun = false;
   for (std::size_t place = 0; place < bytes.size(); ++place) {
-    const bool ends = bytes[place] == '\r';
-    if (ends && place + 1 < bytes.size() && bytes[place + 1] == '\n') ++place;
-    text += ends ? "\r\n" : std::string(1, bytes[place]);
-    begun = !ends;
+    if (bytes[place] == '\n' && place > 0 && bytes[place - 1] == '\r') continue;
+    text += bytes[place] == '\r' ? "\r\n" : std::string(1, bytes[place]);
   }
-  return begun ? text + "\r\n" : text;
+  return text.empty() || text.ends_with("\r\n") ? text : text + "\r\n";
 }
 
 struct Viewer {
@@ -43,13 +40,6 @@ struct Viewer {
   int boxes = 0;
 };
 
-void Put(const std::string& path, std::string_view bytes) {
-  std::FILE* file = std::fopen(path.c_str(), "wb");
-  Require(file != nullptr, "the file can be written");
-  std::fwrite(bytes.data(), 1, bytes.size(), file);
-  std::fclose(file);
-}
-
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -57,7 +47,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
   const auto& text = viewer.app.frmView.Text.text;
 
-  Put(viewer.path, bytes);
+  ovl::WriteWhole(viewer.path, bytes);
   viewer.Open();
   const bool tagged = bytes.substr(0, bytes.find('\r')) == "OVLH";
   Require(viewer.boxes == (tagged ? 0 : 1), "only a tagged file opens");

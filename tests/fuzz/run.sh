@@ -16,9 +16,8 @@ cmake --build --preset fuzz --target fuzz_seeds $(printf 'fuzz_%s ' "${targets[@
 bin=$PWD/build/fuzz/bin
 corpus=$PWD/build/fuzz/corpus
 findings=$PWD/build/fuzz/findings
-export TMPDIR
-export ASAN_OPTIONS=malloc_context_size=4:quarantine_size_mb=16
 TMPDIR=$(mktemp -d -p /dev/shm 2> /dev/null || mktemp -d)
+export TMPDIR ASAN_OPTIONS=malloc_context_size=4:quarantine_size_mb=16
 trap 'rm -rf "$TMPDIR"' EXIT
 mkdir -p "$findings"
 "$bin/fuzz_seeds" "$TMPDIR/seeds"
@@ -33,17 +32,16 @@ for target in "${targets[@]}"; do
   words=(-max_total_time="$share" -max_len=512 -timeout=20 -rss_limit_mb=2048 -detect_leaks=0
     -entropic=0 -print_final_stats=1)
   [ ! -f "$TMPDIR/seeds/$target.dict" ] || words+=(-dict="$TMPDIR/seeds/$target.dict")
-  begun=$(find "$findings" -name "$target-*" | wc -l)
   status=0
   "$bin/fuzz_$target" "${words[@]}" -artifact_prefix="$findings/$target-" "$corpus/$target" \
     "$TMPDIR/seeds/$target" > "$log" 2>&1 || status=$?
   runs=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")
   speed=$(sed -n 's/^stat::average_exec_per_sec: *//p' "$log")
   coverage=$(sed -n 's/.* cov: \([0-9]*\) .*/\1/p' "$log" | tail -n 1)
-  new=$(($(find "$findings" -name "$target-*" | wc -l) - begun))
-  # Whoever stops a target has found nothing.
+  new=0
+  # A target ends at what it finds first. Whoever stops one has found nothing.
   if [ "$status" -ne 0 ] && ! grep -q 'run interrupted' "$log"; then
-    [ "$new" -gt 0 ] || new=1
+    new=1
     cp "$log" "$findings/$target.log"
   fi
   printf '%-10s %12s %10s %10s %9s\n' "$target" "${runs:-0}" "${speed:-0}" "${coverage:-0}" "$new"

@@ -1,12 +1,12 @@
 // Settings values. The first byte chooses: what the catalogue makes of a version and a release, a whole start
 // with them, or any bytes as the store's file.
-#include <QByteArray>
 #include <QFile>
 
 #include "bytes.h"
 #include "catalogue/firmware.h"
 #include "catalogue/register_lists.h"
 #include "core/settings.h"
+#include "image/files.h"
 #include "image/record_stream.h"
 #include "shell/platform/settings_store.h"
 #include "start_up.h"
@@ -21,29 +21,17 @@ constexpr unsigned kFile = 0xFF;
 constexpr unsigned kStart = 0xFE;
 constexpr unsigned kRarely = 64;
 
-struct Values {
-  std::string version, release;
-};
-
-// The values stand one behind the other with a NUL between them.
-Values Split(std::string_view bytes) {
-  const auto end = bytes.find('\0');
-  return {std::string(bytes.substr(0, end)),
-          std::string(end == std::string_view::npos ? "" : bytes.substr(end + 1))};
-}
-
 std::string Read(const ovl::Application& app, std::string_view value) {
   return ovl::ReadSetting(app, ovl::SettingRoot::kLocalMachine, ovl::kSettingsKey, value);
 }
 
-void Serve(ovl::Platform& platform, const Values& values) {
-  platform.read_setting = [&values](std::string_view,
-                                    std::string_view value) -> std::optional<ovl::SettingValue> {
+void Serve(ovl::Platform& platform, const ovl::FirmwareId& values) {
+  platform.read_setting = [&values](auto, auto value) -> std::optional<ovl::SettingValue> {
     return value == ovl::kVersionValue ? values.version : values.release;
   };
 }
 
-void CheckCatalogue(ovl::Application& app, const Values& values) {
+void CheckCatalogue(ovl::Application& app, const ovl::FirmwareId& values) {
   Serve(app.platform, values);
   app.firmware = {Read(app, ovl::kVersionValue), Read(app, ovl::kReleaseValue)};
   Require(app.firmware.version.size() < 255 && app.firmware.release.size() < 255, "a long value is missing");
@@ -56,7 +44,7 @@ void CheckCatalogue(ovl::Application& app, const Values& values) {
   }
 }
 
-void CheckStart(const std::string& folder, const Values& values) {
+void CheckStart(const std::string& folder, const ovl::FirmwareId& values) {
   ovl::Application app;
   int boxes = 0;
   Serve(app.platform, values);
@@ -69,11 +57,8 @@ void CheckStart(const std::string& folder, const Values& values) {
 }
 
 void CheckFile(const ovl::testing::TemporaryFolder& folder, std::string_view bytes) {
-  const auto path = QFile::decodeName(folder.File("ORB/OVL Software.conf").c_str());
-  QFile file(path);
-  Require(file.open(QIODevice::WriteOnly), "the store can be written");
-  file.write(bytes.data(), static_cast<qint64>(bytes.size()));
-  file.close();
+  std::filesystem::create_directories(folder.Path() / "ORB");
+  ovl::WriteWhole(folder.File("ORB/OVL Software.conf"), bytes);
   const ovl::SettingsStore store(QFile::decodeName(folder.Path().c_str()));
   store.Read(ovl::kSettingsKey, ovl::kVersionValue);
   if (!store.Write(ovl::kSettingsKey, ovl::kVersionValue, "V1400")) return;
@@ -85,19 +70,16 @@ void CheckFile(const ovl::testing::TemporaryFolder& folder, std::string_view byt
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const ovl::testing::Harness site({"V1400", "R12"});
-  static const bool made = std::filesystem::create_directories(site.folder.Path() / "ORB");
   static ovl::Application app;
-  Require(made, "a new folder");
-
   ovl::fuzz::Bytes input(data, size);
   const unsigned first = input.Next();
   const unsigned choice = OneIn(kRarely, input.Rest()) ? first : 0;
   if (choice == kFile) {
     CheckFile(site.folder, input.Rest());
-  } else if (choice == kStart) {
-    CheckStart(site.folder.Path().string(), Split(input.Rest()));
-  } else {
-    CheckCatalogue(app, Split(input.Rest()));
+    return 0;
   }
+  const std::string version(input.NextText());
+  const ovl::FirmwareId values{version, std::string(input.Rest())};
+  choice == kStart ? CheckStart(site.folder.Path().string(), values) : CheckCatalogue(app, values);
   return 0;
 }

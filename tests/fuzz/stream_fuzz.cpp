@@ -11,35 +11,29 @@ namespace {
 using ovl::fuzz::Bytes;
 using ovl::fuzz::Require;
 
-constexpr unsigned kPanelsReady = 1;
-constexpr unsigned kChanges = 2;
+constexpr unsigned kPanelsReady = 1, kChanges = 2;
 
 struct Served {
   ovl::FirmwareId firmware;
   std::string stream;
-  std::size_t digits = 0;
 };
 
 // As it comes out of a file: without the line ends. A lone LF is none.
 std::string Joined(std::string_view stream) {
   std::string joined;
-  for (auto end = stream.find('\r'); end != std::string_view::npos; end = stream.find('\r')) {
-    joined += stream.substr(0, end);
-    stream.remove_prefix(stream.substr(end).starts_with("\r\n") ? end + 2 : end + 1);
+  for (std::size_t at = 0; at < stream.size(); ++at) {
+    const bool of_end = stream[at] == '\r' || (at > 0 && stream.substr(at - 1, 2) == "\r\n");
+    if (!of_end) joined += stream[at];
   }
-  return joined += stream;
+  return joined;
 }
 
 std::vector<Served> AllServed() {
   std::vector<Served> all;
   for (const auto& entry : ovl::FirmwareTable()) {
     if (!entry.in_menu) continue;
-    Served served{{std::string(entry.version), std::string(entry.release)}, {}, 0};
-    served.stream = Joined(ovl::testing::RawPatternStream(served.firmware));
-    std::string digits;
-    ovl::ParseRecords(served.stream, ovl::ReadRegion(served.firmware), digits);
-    served.digits = digits.size();
-    all.push_back(std::move(served));
+    const ovl::FirmwareId firmware{std::string(entry.version), std::string(entry.release)};
+    all.push_back({firmware, Joined(ovl::testing::RawPatternStream(firmware))});
   }
   return all;
 }
@@ -54,32 +48,23 @@ std::string Changed(std::string text, Bytes input) {
   return text;
 }
 
-bool IsTaken(const ovl::FieldRow& row) {
-  return row.is_default || !row.sentinel.empty() || row.id == ovl::FieldId::BLNKRTS_BAK;
-}
-
 // What a register's default image brings in leaves all other fields alone.
 void CheckKept(const ovl::ConfigImage& before, const ovl::ConfigImage& after) {
   for (const auto& row : ovl::FieldTable()) {
-    if (IsTaken(row)) continue;
-    for (int entry = 1; entry <= ovl::EntryCount(row.id); ++entry) {
+    const bool taken = row.is_default || !row.sentinel.empty() || row.id == ovl::FieldId::BLNKRTS_BAK;
+    for (int entry = 1; entry <= ovl::EntryCount(row.id) && !taken; ++entry)
       Require(before.at(row.id, entry) == after.at(row.id, entry), "a field of no default stays");
-    }
   }
 }
 
 // An image that came in complete goes out and comes in again as it was.
-void CheckRoundTrip(ovl::Application& app, const Served& served) {
+void CheckRoundTrip(ovl::Application& app) {
   std::string digits;
-  ovl::ParseRecords(app.StreamText, ovl::ReadRegion(served.firmware), digits);
-  if (digits.size() != served.digits) return;
+  ovl::ParseRecords(app.StreamText, ovl::ReadRegion(app.firmware), digits);
+  if (digits.size() != ovl::testing::DigitsOfImage(app.firmware)) return;
   const auto sent = ovl::SectionsToStream(app);
   Require(ovl::LoadStream(app, Joined(sent)), "what was composed loads");
   Require(ovl::SectionsToStream(app) == sent, "what was loaded composes to the same");
-}
-
-void Load(ovl::Application& app) {
-  app.ImageTouched = ovl::LoadStream(app, app.StreamText);
 }
 
 }  // namespace
@@ -99,13 +84,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (app.ImageTouched) app.image = before;
   app.ImageTouched = app.ended = false;
   ovl::PrepareCapabilities(app);
-  ovl::DispatchStart(app, Load);
+  ovl::DispatchStart(app, [](ovl::Application& at) { at.ImageTouched = ovl::LoadStream(at, at.StreamText); });
   if (!app.ImageTouched) {
     Require(app.image == before, "a stream that is not taken leaves the image alone");
   } else if (app.PanelsReady) {
     CheckKept(before, app.image);
   } else {
-    CheckRoundTrip(app, served);
+    CheckRoundTrip(app);
   }
   return 0;
 }

@@ -1,5 +1,6 @@
 // What the unit hears and reads. The first byte chooses: a conversation in simulated time, a stream from a
 // file, or a command line.
+#include <algorithm>
 #include <array>
 #include <utility>
 #include <vector>
@@ -16,13 +17,10 @@ namespace {
 using ovl::fuzz::Bytes;
 using ovl::fuzz::Require;
 
-constexpr unsigned kCommandLine = 0xFF;
-constexpr unsigned kFile = 0xFE;
+constexpr unsigned kCommandLine = 0xFF, kFile = 0xFE;
 
 // Bytes of a conversation that are none of its characters.
-constexpr unsigned kTimePasses = 0xFF;
-constexpr unsigned kWholeStream = 0xFE;
-constexpr unsigned kRequest = 0xFD;
+constexpr unsigned kTimePasses = 0xFF, kWholeStream = 0xFE, kRequest = 0xFD;
 
 // A whole stream takes a hundred times as long as the rest, so only one input in so many has one.
 constexpr unsigned kRarely = 8;
@@ -37,24 +35,21 @@ constexpr std::array<std::string_view, 10> kFaults{
 
 struct Model {
   const unit::Firmware* firmware;
-  std::string factory;
-  std::string stream;
+  std::string factory, stream;
 };
 
 std::vector<Model> AllModels() {
   std::vector<Model> models;
   for (const auto& firmware : unit::AllFirmware()) {
-    auto factory = unit::FactoryImage(firmware);
-    auto stream = unit::ComposeStream(unit::RegionOf(firmware), factory);
-    models.push_back({&firmware, std::move(factory), std::move(stream)});
+    const auto factory = unit::FactoryImage(firmware);
+    models.push_back({&firmware, factory, unit::ComposeStream(unit::RegionOf(firmware), factory)});
   }
   return models;
 }
 
 bool IsImageOf(const std::string& image, const unit::Firmware& firmware) {
-  bool digits = true;
-  for (const char c : image) digits = digits && unit::UpperHexDigit(c).has_value();
-  return digits && image.size() == unit::RegionOf(firmware).Digits();
+  return image.size() == unit::RegionOf(firmware).Digits() &&
+         std::ranges::all_of(image, [](char c) { return unit::UpperHexDigit(c).has_value(); });
 }
 
 class Conversation {
@@ -67,16 +62,14 @@ class Conversation {
               MakeSurroundings()) {}
 
   void Hear(std::uint8_t code, Bytes& input) {
+    std::string_view text(reinterpret_cast<const char*>(&code), 1);
     if (code == kTimePasses) {
       now_ += std::chrono::milliseconds(1U << (input.Next() % 16U));
-    } else if (code == kWholeStream) {
-      const std::string_view stream = std::exchange(streamed_, true) ? "" : std::string_view(model_.stream);
-      for (const char c : stream) unit_.Receive(c, now_);
-    } else if (code == kRequest) {
-      for (const char c : unit::kRequest) unit_.Receive(c, now_);
-    } else {
-      unit_.Receive(static_cast<char>(code), now_);
+      text = "";
     }
+    if (code == kWholeStream) text = std::exchange(streamed_, true) ? "" : std::string_view(model_.stream);
+    if (code == kRequest) text = unit::kRequest;
+    for (const char c : text) unit_.Receive(c, now_);
     unit_.Advance(now_);
   }
 
@@ -95,26 +88,23 @@ class Conversation {
  private:
   static std::vector<unit::Fault> TakeFaults(Bytes& input) {
     std::vector<unit::Fault> faults;
-    const unsigned first = input.Next();
-    const unsigned second = input.Next();
-    for (const unsigned choice : {first, second}) {
+    for (int count = 0; count < 2; ++count) {
+      const unsigned choice = input.Next();
       if (choice < kFaults.size()) faults.push_back(unit::ParseFault(kFaults.at(choice)).fault.value());
     }
     return faults;
   }
 
   unit::Surroundings MakeSurroundings() {
-    unit::Surroundings surroundings;
-    surroundings.complain = surroundings.note = [](const std::string& text) {
+    const auto tell = [](const std::string& text) {
       for (const char c : text) Require(c >= ' ' && c <= '~', "what is told can be read");
     };
-    surroundings.send = [](const std::string&) {};
-    surroundings.keep_image = [this](const std::string& image) {
+    const auto keep_image = [this](const std::string& image) {
       Require(IsImageOf(image, *model_.firmware), "only a whole image is kept");
       return std::string();
     };
-    surroundings.keep_clock = [](const std::string&) { return std::string(); };
-    return surroundings;
+    return {tell, tell, [](const std::string&) {}, keep_image,
+            [](const std::string&) { return std::string(); }};
   }
 
   const Model& model_;
@@ -132,13 +122,9 @@ void CheckFile(const Model& model, std::string_view text) {
   Require(again.errors.empty() && again.image == read.image, "what was read composes to the same");
 }
 
-void CheckCommandLine(std::string_view text) {
+void CheckCommandLine(Bytes& input) {
   std::vector<std::string_view> words;
-  while (!text.empty()) {
-    const auto end = std::min(text.find('\0'), text.size());
-    words.push_back(text.substr(0, end));
-    text.remove_prefix(std::min(end + 1, text.size()));
-  }
+  while (!input.Empty()) words.push_back(input.NextText());
   const auto parsed = unit::ParseOptions(words);
   Require(!parsed.error.empty() || parsed.options.firmware != nullptr, "good options name a firmware");
 }
@@ -150,16 +136,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Bytes input(data, size);
   const unsigned choice = input.Next();
   if (choice == kCommandLine) {
-    CheckCommandLine(input.Rest());
-    return 0;
-  }
-  if (choice == kFile) {
+    CheckCommandLine(input);
+  } else if (choice == kFile) {
     const auto& model = models[input.Next() % models.size()];
     CheckFile(model, input.Rest());
-    return 0;
+  } else {
+    Conversation conversation(models[choice % models.size()], input);
+    while (!input.Empty()) conversation.Hear(input.Next(), input);
+    conversation.FallAsleep();
   }
-  Conversation conversation(models[choice % models.size()], input);
-  while (!input.Empty()) conversation.Hear(input.Next(), input);
-  conversation.FallAsleep();
   return 0;
 }
