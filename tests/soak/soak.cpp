@@ -3,7 +3,6 @@
 // port. The first ten of each warm up, and every register once, as its frames come into being when they are
 // first shown; what is told counts from there. Exit status 0: all within its bounds, on a machine that is not
 // busy with other things.
-#include <dirent.h>
 #include <unistd.h>
 
 #include <QApplication>
@@ -12,6 +11,7 @@
 #include <QTimer>
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <utility>
 
@@ -23,37 +23,24 @@
 namespace ovl::bench {
 namespace {
 
-constexpr int kSpeed = 115200;
-constexpr int kSpeedElement = 9;
-constexpr int kRegisterTab = 0;
-constexpr int kRemoteTab = 6;
 constexpr int kWarmUp = 10;
-constexpr int kTransfers = 200;  // of each direction
-constexpr int kPicks = 500;
-constexpr int kLosses = 50;
 constexpr long kMostGrowth = 2048;   // KiB
 constexpr double kLongestHold = 20;  // milliseconds
-constexpr int kBarAtLoss = 20;
 
 long ResidentKiB() {
-  long total = 0;
-  long resident = 0;
+  long total = 0, resident = 0;
   std::ifstream("/proc/self/statm") >> total >> resident;
   return resident * (sysconf(_SC_PAGESIZE) / 1024);
 }
 
-int OpenDescriptors() {
-  int count = 0;
-  DIR* folder = opendir("/proc/self/fd");
-  while (folder != nullptr && readdir(folder) != nullptr) ++count;
-  if (folder != nullptr) closedir(folder);
-  return count;
+long OpenDescriptors() {
+  return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
 }
 
-struct Figures {
-  long resident = ResidentKiB();
-  int descriptors = OpenDescriptors();
-};
+bool Check(const char* what, bool held) {
+  if (!held) std::printf("FAILED: %s\n", what);
+  return held;
+}
 
 class Soak {
  public:
@@ -63,6 +50,7 @@ class Soak {
   }
 
   bool Connect() {
+    constexpr int kSpeed = 115200, kSpeedElement = 9;
     if (!site_.StartUnit(kSpeed)) return false;
     Click("cmdConnect");
     Act(PickEvent{&Model().frmSettSR.OpBaud, kSpeedElement});
@@ -70,20 +58,43 @@ class Soak {
     return Model().frmMain.MSComm1.PortOpen;
   }
 
+  // Every kind of act, counted from so many to so many; tells the longest hold of each.
+  bool Run(int from, int transfers, int picks, int losses) {
+    longest_ = 0;
+    bool right = Repeat("uploads", from, transfers, [this](int) { return Transfer(true); });
+    right = Repeat("downloads", from, transfers, [this](int) { return Transfer(false); }) && right;
+    right = Repeat("picks", from, picks, [this](int number) { return PickRegister(number); }) && right;
+    return Repeat("port losses", from, losses, [this](int number) { return LosePort(number); }) && right;
+  }
+
+  int Registers() { return static_cast<int>(Model().frmMain.ComboReg.items.size()); }
+  double LongestHold() const { return longest_; }
+  int Boxes() const { return boxes_; }
+
+ private:
+  bool Repeat(const char* what, int from, int to, const std::function<bool(int)>& act) {
+    loop_.Restart();
+    const int count = std::max(to - from, 0);
+    int done = 0;
+    for (int number = from; number < to; ++number) done += act(number) ? 1 : 0;
+    std::printf("%-12s %3d of %3d, longest hold %.1f ms, most work at once %.1f ms, then %ld KiB\n", what,
+                done, count, loop_.LongestHold(), loop_.MostWork(), ResidentKiB());
+    longest_ = std::max(longest_, loop_.LongestHold());
+    return done == count;
+  }
+
   bool Transfer(bool upload) {
-    if (!Begin(upload)) return false;
-    if (!loop_.RunUntil([&] { return Model().frmOK_buttom.form.visible; })) return false;
+    if (!Begin(upload) || !loop_.RunUntil([&] { return Model().frmOK_buttom.form.visible; })) return false;
     Click("frmOK_buttom.Command1");
     Settle();
     return IsKnown(SectionsToStream(Model())) && Model().frmMain.form.enabled;
   }
 
-  int Registers() { return static_cast<int>(Model().frmMain.ComboReg.items.size()); }
-
-  void PickRegister(int number) {
-    ShowTab(kRegisterTab);
+  bool PickRegister(int number) {
+    ShowTab(0);
     Act(PickEvent{&Model().frmMain.ComboReg, number % Registers()});
     Settle();
+    return true;
   }
 
   // Idle, with remote mode held, or in the middle of a transfer; then the unit comes back.
@@ -91,7 +102,7 @@ class Soak {
     if (number % 4 == 1 && !Hold()) return false;
     if (number % 4 >= 2) {
       if (!Begin(number % 4 == 2)) return false;
-      if (!loop_.RunUntil([&] { return Model().frmMain.vbalProgressBar1.value > kBarAtLoss; })) return false;
+      if (!loop_.RunUntil([&] { return Model().frmMain.vbalProgressBar1.value > 20; })) return false;
     }
     broken_off_ = broken_off_ || Model().FrameState != 0;
     site_.StopUnit();
@@ -101,9 +112,6 @@ class Soak {
     return !Model().frmMain.MSComm1.PortOpen && Connect();
   }
 
-  int Boxes() const { return boxes_; }
-
- private:
   // The unit holds the same configuration all the time. What an upload that broke off had brought stands
   // ahead of the next one.
   bool IsKnown(const std::string& stream) {
@@ -125,18 +133,19 @@ class Soak {
     loop_.RunUntil([&] { return done; });
   }
 
+  // The registers' is the first, that of the link the seventh.
   void ShowTab(int tab) { program_.OnScreen().Main().findChild<QTabWidget*>()->setCurrentIndex(tab); }
 
   bool Hold() {
-    ShowTab(kRemoteTab);
+    ShowTab(6);
     Click("CmdUpDow(4)");
     return loop_.RunUntil([&] { return Model().RemoteHeld && !Model().frmMain.General_timer.enabled; });
   }
 
   bool Begin(bool upload) {
-    if (!Hold()) return false;
-    Click(upload ? "CmdUpDow(0)" : "CmdUpDow(1)");
-    return true;
+    const bool held = Hold();
+    if (held) Click(upload ? "CmdUpDow(0)" : "CmdUpDow(1)");
+    return held;
   }
 
   // Frames and answers that are on their way.
@@ -157,52 +166,9 @@ class Soak {
   EventLoop& loop_;
   QTimer closer_;
   int boxes_ = 0;
+  double longest_ = 0;
   bool broken_off_ = false;
   std::string known_;
-};
-
-bool Check(const char* what, bool held) {
-  if (!held) std::printf("FAILED: %s\n", what);
-  return held;
-}
-
-struct Amounts {
-  int transfers, picks, losses;
-};
-
-// Does every kind of act, counted from so many to so many, and tells the longest hold of each.
-class Runner {
- public:
-  Runner(Soak& soak, EventLoop& loop) : soak_(soak), loop_(loop) {}
-
-  bool Run(int from, const Amounts& to) {
-    longest_ = 0;
-    bool right = Repeat("uploads", from, to.transfers, [this](int) { return soak_.Transfer(true); });
-    right = Repeat("downloads", from, to.transfers, [this](int) { return soak_.Transfer(false); }) && right;
-    right =
-        Repeat("picks", from, to.picks, [this](int number) { return soak_.PickRegister(number), true; }) &&
-        right;
-    return Repeat("port losses", from, to.losses, [this](int number) { return soak_.LosePort(number); }) &&
-           right;
-  }
-
-  double LongestHold() const { return longest_; }
-
- private:
-  bool Repeat(const char* what, int from, int to, const std::function<bool(int)>& step) {
-    loop_.Restart();
-    int done = 0;
-    for (int number = from; number < to; ++number) done += step(number) ? 1 : 0;
-    const int count = std::max(to - from, 0);
-    std::printf("%-12s %3d of %3d, longest hold %.1f ms, most work at once %.1f ms, then %ld KiB\n", what,
-                done, count, loop_.LongestHold(), loop_.MostWork(), ResidentKiB());
-    longest_ = std::max(longest_, loop_.LongestHold());
-    return done == count;
-  }
-
-  Soak& soak_;
-  EventLoop& loop_;
-  double longest_ = 0;
 };
 
 bool Run(Site& site, int percent) {
@@ -211,24 +177,20 @@ bool Run(Site& site, int percent) {
   EventLoop loop;
   Soak soak(site, program, loop);
   if (!Check("the port opens", soak.Connect())) return false;
-  Runner runner(soak, loop);
   std::printf("Warming up\n");
-  bool right = Check("the warm-up", runner.Run(0, {kWarmUp, soak.Registers(), kWarmUp}));
-  const Figures begun;
+  bool right = Check("the warm-up", soak.Run(0, kWarmUp, soak.Registers(), kWarmUp));
+  const long resident = ResidentKiB(), descriptors = OpenDescriptors();
 
   std::printf("The run\n");
-  const Amounts whole{kTransfers * percent / 100, kPicks * percent / 100, kLosses * percent / 100};
-  right = runner.Run(kWarmUp, whole) && right;
-  const double hold = runner.LongestHold();
-  const Figures ended;
-  const long growth = ended.resident - begun.resident;
-  std::printf("memory       %ld KiB, %+ld since the warm-up (bound %ld)\n", ended.resident, growth,
-              kMostGrowth);
-  std::printf("descriptors  %d, %+d\n", ended.descriptors, ended.descriptors - begun.descriptors);
+  right = soak.Run(kWarmUp, 2 * percent, 5 * percent, percent / 2) && right;
+  const double hold = soak.LongestHold();
+  const long growth = ResidentKiB() - resident, more = OpenDescriptors() - descriptors;
+  std::printf("memory       %+ld KiB since the warm-up (bound %ld)\n", growth, kMostGrowth);
+  std::printf("descriptors  %+ld\n", more);
   std::printf("longest hold %.1f ms (bound %.0f)\n", hold, kLongestHold);
   std::printf("boxes        %d\n", soak.Boxes());
   right = Check("memory", growth <= kMostGrowth) && right;
-  right = Check("descriptors", ended.descriptors == begun.descriptors) && right;
+  right = Check("descriptors", more == 0) && right;
   return Check("hold", hold <= kLongestHold) && right;
 }
 
