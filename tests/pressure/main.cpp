@@ -25,7 +25,7 @@ struct Row {
   Verdict verdict = Verdict::kRight;
   std::string outcome;
 };
-constexpr Row kNotHere{Row::Verdict::kNotPossible, {}};
+const Row kNotHere{Row::Verdict::kNotPossible, {}};
 
 Row Judged(bool right, const std::string& outcome) {
   return {right ? Row::Verdict::kRight : Row::Verdict::kWrong, outcome};

@@ -263,7 +263,8 @@ int Run(long acts, unsigned seed) {
   fs::current_path(folder.Path());
   std::vector<FirmwareId> all;
   for (const auto& entry : FirmwareTable()) {
-    const auto& firmware = all.emplace_back(std::string(entry.version), std::string(entry.release));
+    const auto& firmware =
+        all.emplace_back(FirmwareId{std::string(entry.version), std::string(entry.release)});
     if (IsKnownFamily(firmware.version)) WriteDefaultImages(".", firmware);
   }
   const StopWatch watch;
