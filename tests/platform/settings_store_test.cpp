@@ -60,6 +60,23 @@ TEST_F(Settings, AFileWrittenByHandIsReadAsFarAsItHasTextsOfTheProgramsCharacter
   EXPECT_FALSE(store_.Write("SOFTWARE\\ORB", "Version", "V1400"));
 }
 
+// A list that says it has two thousand million entries, and the same behind an escaped sign.
+TEST_F(Settings, AFileWithOtherTypesIsToldAndPutAsideByTheNextWrite) {
+  for (const QByteArray sign : {"@", "\\x40", "\\100"}) {
+    const auto content = "Release=R12\nVersion=" + sign + "Variant(\\0\\0\\0\\x9\\0\\x7f\\xff\\xff\\xff)\n";
+    Content(content);
+    EXPECT_EQ(At("Release"), kNone);
+    EXPECT_EQ(store_.WhyNotRead(),
+              File().toStdString() + ": it holds a value that is neither text nor number");
+    EXPECT_TRUE(store_.Write(kKey, "Version", "V1400"));
+    EXPECT_EQ(At("Version"), SettingValue("V1400"));
+    QFile aside(File() + ".unsound");
+    EXPECT_TRUE(aside.open(QIODevice::ReadOnly) && aside.readAll() == content);
+  }
+  EXPECT_TRUE(store_.Write(kKey, "Version", "@V1400"));
+  EXPECT_EQ(At("Version"), SettingValue("@V1400"));
+}
+
 TEST_F(Settings, WhatStandsInThePlaceOfFileOrFolderHoldsNothingAndIsNotWritten) {
   ASSERT_TRUE(QFile(folder_.filePath("ORB")).open(QIODevice::WriteOnly));
   EXPECT_FALSE(store_.Write(kKey, "Version", "V1400"));

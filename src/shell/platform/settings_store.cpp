@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLibraryInfo>
+#include <QRegularExpression>
 #include <QSaveFile>
 #include <QSettings>
 #include <QStandardPaths>
@@ -60,6 +61,17 @@ QString SettingsStore::Path() const {
 #endif
 }
 
+// The toolkit makes any of its types from a value that begins with "@", and as large as the value says. The
+// program keeps texts and numbers; "@@" is a text that begins so.
+bool SettingsStore::IsSound() const {
+  static const QRegularExpression other(
+      QStringLiteral(R"(@(?!Variant\(\\0\\0\\0\\x[23]\\0)|\\x0*40(?![0-9A-Fa-f])|\\0?100)"));
+  QFile file(Path());
+  if (!file.open(QIODevice::ReadOnly)) return true;
+  auto text = QString::fromLatin1(file.readAll());
+  return !text.remove(QStringLiteral("@@")).contains(other);
+}
+
 std::unique_ptr<QSettings> SettingsStore::Open() const {
   const auto path = Path();
   auto settings = path.isEmpty()
@@ -70,7 +82,7 @@ std::unique_ptr<QSettings> SettingsStore::Open() const {
 }
 
 std::optional<SettingValue> SettingsStore::Read(std::string_view key, std::string_view value) const {
-  if (!IsOwnValue(key, value)) return std::nullopt;
+  if (!IsOwnValue(key, value) || !IsSound()) return std::nullopt;
   const auto settings = Open();
   const auto name = FromWindows1252(value);
   if (settings->status() == QSettings::AccessError || !settings->contains(name)) return std::nullopt;
@@ -81,6 +93,11 @@ std::optional<SettingValue> SettingsStore::Read(std::string_view key, std::strin
 
 bool SettingsStore::Write(std::string_view key, std::string_view value, std::string_view text) const {
   if (!IsOwnValue(key, value)) return false;
+  if (!IsSound()) {
+    const auto aside = Path() + QStringLiteral(".unsound");
+    QFile::remove(aside);
+    if (!QFile::rename(Path(), aside)) return false;
+  }
   const auto settings = Open();
   settings->setValue(FromWindows1252(value), FromWindows1252(text));
   settings->sync();
@@ -90,7 +107,10 @@ bool SettingsStore::Write(std::string_view key, std::string_view value, std::str
 std::string SettingsStore::WhyNotRead() const {
   QFile file(Path());
   const bool opened = file.open(QIODevice::ReadOnly);
-  return Told(file.fileName(), opened ? QStringLiteral("it lacks the value") : file.errorString());
+  if (!opened) return Told(file.fileName(), file.errorString());
+  return Told(file.fileName(), IsSound()
+                                   ? QStringLiteral("it lacks the value")
+                                   : QStringLiteral("it holds a value that is neither text nor number"));
 }
 
 std::string SettingsStore::WhyNotWritten() const {

@@ -20,11 +20,12 @@ class SettingsStore {
   // "ORB/OVL Software.conf" below it.
   explicit SettingsStore(QString folder = {});
 
-  // Nothing if the store holds no such value or can't be read, or if the text has characters that the
-  // program's texts lack. An INI file holds texts only, the registry also numbers.
+  // Nothing if the store holds no such value or can't be read, if its file holds what is neither text nor
+  // number, or if the text has characters that the program's texts lack.
   std::optional<SettingValue> Read(std::string_view key, std::string_view value) const;
 
-  // False if the store can't be written.
+  // False if the store can't be written. A file that holds what is neither text nor number is put aside
+  // first, under the ending ".unsound".
   bool Write(std::string_view key, std::string_view value, std::string_view text) const;
 
   // After a Read without a value, after a Write that failed: "PATH: Permission denied".
@@ -34,6 +35,7 @@ class SettingsStore {
  private:
   // Empty where the toolkit keeps no file.
   QString Path() const;
+  bool IsSound() const;
   std::unique_ptr<QSettings> Open() const;
 
   QString folder_;
