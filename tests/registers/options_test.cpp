@@ -1,306 +1,261 @@
 // What a choice in an option frame writes, which selections it forces, and what else it shows.
 #include <gtest/gtest.h>
 
-#include <optional>
-#include <sstream>
-#include <vector>
-
-#include "catalogue/firmware.h"
+#include "registers/rows.h"
+#include "registers/selection_driver.h"
 #include "support/installed.h"
 
 namespace ovl::testing {
 namespace {
 
-std::vector<FirmwareId> EveryFirmware() {
-  std::vector<FirmwareId> firmware;
-  for (const auto& entry : FirmwareTable()) {
-    if (entry.in_menu) firmware.push_back({std::string(entry.version), std::string(entry.release)});
+using F = FieldId;
+
+// A register, the field that one of its options shows (M and X are the two extensions), and the option. One
+// that does nothing but store its position has the number of its choices. "-": only some models show it.
+const std::pair<FirmwareId, const char*> kOptions[] = {
+    {kLatest,
+     "ADDRESSABLE OVL M ComboAddress=256|ADS M ComboDisplay=2|BLEEP M BleepOP=2|CASIO M CASIOOP|"
+     "CLARITY EPOS UNITADDR ComboCLARITYEPOS=256|DELTA SONO 3.1 M OpDelta=4|DIGIPOS M DIGIOP=4|"
+     "EDACOM M OpEDA=2|EPSON GENERIC X OpRI_QT2|FUJITSU M FUJIOP=2|FUJITSU X Combo1=2|"
+     "GASBOY GTITLE_NF_BAK ComboDeviceGas=3|GASBOY M ComboDeviceADD=18|GELLER M GELLEROP=17|"
+     "GILBARCO M OpGilbraco|IBM M IBMOP|IBM X IBMCombo=3|ICL M ICLOP|ICL X TEAMOP=2|JCM M JCMOp=4|"
+     "MERIT TCIADDBAK_1 ComboUNI_ID(2)|MERIT X ComboUniFor14R7up=2|MICRELEC UNITADDR OpMicrelec|"
+     "MICROS M OpMicros|NCR M NCROP|NCR X JRNLRCPT_SLP_OP=3|NIXDORF M NIXDORF14OP|NIXDORF X BEETLEOp=2|"
+     "NORAND 1200 DV_ADDRIND_BAK ComboCONSOLEID=9|NORAND 1200 GTITLE_NF_BAK ComboTITLEDIP|"
+     "NORAND 1200 M ComboWoring|OMEGA 2000 X OpNIXDORF|PANASONIC GTITLE_NF_BAK ComboPana(0)=2|"
+     "PANASONIC M ComboPana(1)|RIVA M OpVerifone=4|SAMSUNG M SamOP=14|SCHLUMBERGER M ComboDIPMIXED=3|"
+     "SENSORS X ST6105C=2|SHARP M SharpOP|SICOM M ComboSICOM|SUNTRONIC M OpSun=2|"
+     "TCI TCIADDBAK_1 ComboTCI_ID(2)|TCI TCIADDBAK_2 ComboTCI_ID(1)|TCI TCIADDBAK_3 ComboTCI_ID(0)|"
+     "TEAM POS 2000 X TEAMPOSOP=2|TEC M TECOP|UNIWELL M UNIWOP|UNIWELL TCIADDBAK_2 ComboUNI_ID(1)|"
+     "UNIWELL X ComboUniFor14R7up=2|WEIGH SCALE M OpWEIGHS=9|- X NIXDORF14OPSelect=2|- X POS50OP=2|"
+     "- X Combo4610TF6=2|- X RDSCombo=2|- X ComboXML=2"},
+    {{"V1400", "R4"},
+     "DRESSER WAYNE M OpDYWAYE|EPSON GENERIC M OpRI_QT2|NCR M OpNCR=7|OMEGA 2000 M OpNIXDORF|SHARP M OpSharp|"
+     "SHARP UP600/700 M OpSHARPUP600|UNIWELL UN4025 M ComboUni=2|UP3000/3300 M ComboAddr=17"},
+    {{"V1310", "R1"},
+     "CASIO TK-T500 M ComboTk500(1)|CASIO TE-2200 M ComboTE2200(1)|NE134 COUNTER M ComboNE134=256|"
+     "NIXDORF BEETLE M OpBEETLE=2|POLE DISPLAY M OpPoleDisplay=2|TEC SLIP PRINTER EMULATE M ComboTEC(1)|"
+     "VISHAY WEIGHBRIDGE M OpVWEIGHBRIDGE=2|WEIGH SCALE M OpNUCP=3"},
+    {{"V1324", "R26"},
+     "BEETLE 50 PRINTERS M OpBEETLE=2|NUCLEUS PRINTER M OpNUCP=3|SHARP ER-A410 420 M OpA410=4"},
+};
+
+// A byte without its choice hides the frame.
+void ExpectShown(Installed& program, const std::string& field, const std::string& control) {
+  const auto frame = program.Frames();
+  const auto* array = std::get_if<OptionArray*>(&program.app.registry.Find(control)->control);
+  const auto size = array != nullptr ? (*array)->elements.size() : program.ListOf(control).items.size();
+  const auto id = field == "M" ? F::REGTYPE_MINOR : field == "X" ? F::REGTYPE_EXT2 : FindField(field)->id;
+  const int choices = static_cast<int>(size);
+  for (const int choice : {choices - 1, choices, 0}) {
+    if (choice > 0xFF) continue;
+    program.app.image[id] = ByteToHex(choice);
+    ShowRegisterOptions(program.app);
+    EXPECT_EQ(program.Frames(), choice == choices ? "" : frame) << choice;
+    EXPECT_TRUE(choice == choices || program.Selected(control) == choice) << choice;
   }
-  return firmware;
 }
 
-TEST(OptionMembers, APlainOneWritesItsPositionToOneByteAndNothingElse) {
-  const std::pair<const char*, const char*> members[] = {
-      {"M",
-       "BleepOP 2 DIGIOP 4 FUJIOP 2 GELLEROP 17 JCMOp 4 OpA410 4 OpBEETLE 2 OpDelta 4 OpEDA 2 OpNCR 7 OpNUCP "
-       "3 "
-       "OpPoleDisplay 2 OpSun 2 OpVerifone 4 OpVWEIGHBRIDGE 2 OpWEIGHS 9 SamOP 14 ComboAddress 256 ComboAddr "
-       "17 "
-       "ComboDisplay 2 ComboDeviceADD 18 ComboDIPMIXED 3 ComboNE134 256 ComboUni 2"},
-      {"X",
-       "BEETLEOp 2 JRNLRCPT_SLP_OP 3 NIXDORF14OPSelect 2 POS50OP 2 TEAMOP 2 TEAMPOSOP 2 Combo1 2 "
-       "Combo4610TF6 2 "
-       "IBMCombo 3 RDSCombo 2 ST6105C 2 ComboUniFor14R7up 2 ComboXML 2"},
-      {"UNITADDR", "ComboCLARITYEPOS 256"},
-      {"GTITLE_NF_BAK", "ComboDeviceGas 3 ComboPana(0) 2"},
-      {"DV_ADDRIND_BAK", "ComboCONSOLEID 9"},
-  };
-  for (const auto& firmware : EveryFirmware()) {
-    Installed program(firmware, Images::kFirstRegister);
-    program.ListOf("ComboDIPMIXED").items = {"RECEIPT", "JOURNAL", "MIXED"};
-    for (const auto& [field, controls] : members) {
-      std::istringstream list(controls);
-      std::string control;
-      for (int choices = 0; list >> control >> choices;) {
-        SCOPED_TRACE(firmware.Joined() + " " + control);
-        program.Reveal(control);
-        for (int position = 0; position < choices; ++position) {
-          program.Fill(position == 0xEE ? "11" : "EE");
-          ASSERT_EQ(program.Pick(control, position), Outcome::kDone);
-          EXPECT_EQ(program.Written(), field + ("=" + ByteToHex(position)));
-        }
-        EXPECT_EQ(program.Effect(control, choices), "refused");
+void ExpectStored(Installed& program, const std::string& field, const std::string& control, int choices) {
+  program.Reveal(control);
+  for (int position = 0; position < choices; ++position) {
+    program.Fill(position == 0xEE ? "11" : "EE");
+    ASSERT_EQ(program.Pick(control, position), Outcome::kDone);
+    EXPECT_EQ(program.Written(), field + "=" + ByteToHex(position));
+  }
+  EXPECT_EQ(program.Effect(control, choices), "refused");
+}
+
+TEST(OptionMembers, EachShowsItsByteAndAPlainOneWritesItAndNothingElse) {
+  for (const auto& [firmware, rows] : kOptions) {
+    Installed program(firmware);
+    for (const auto& row : Split(rows, '|')) {
+      SCOPED_TRACE(firmware.Joined() + " " + row);
+      const auto words = NameAndTwoWords(row);
+      const auto control = Split(words[2], '=');
+      if (words[0] != "-") {
+        ASSERT_EQ(program.Register(words[0]), Outcome::kDone);
+        ExpectShown(program, words[1], control[0]);
       }
+      if (control.size() > 1) ExpectStored(program, words[1], control[0], LeadingNumber(control[1]));
     }
+    EXPECT_TRUE(program.NoBoxLeft());
   }
 }
 
-// The line flags are a row of bits, so what they become is told for none and for all of them set before.
+constexpr const char* kForced[] = {"ComboCOMM(0)", "ComboCOMM(1)", "ComboCOMM(2)",
+                                   "ComboCOMM(3)", "ComboCOMM(4)", "ComboExcepRe(0)"};
+
 struct Member {
   const char* control;
   int position;
-  const char* written;           // AUTO: the code of that speed in the firmware
-  const char* forced = "-----";  // ComboCOMM(0) to ComboCOMM(4): the position, "A" for AUTO, "-" left alone
-  const char *flags_from_00 = "00", *flags_from_FF = "FF";
-  int report = -1;  // ComboExcepRe(0), if forced
+  const char* written;
+  const char* forced;          // the places of these lists; "-" is left alone
+  const char* flags = "00FF";  // the line flags, with none and with all of them set before
 };
 
 constexpr Member kMembers[] = {
-    {"ComboSICOM", 0, "RX=AUTO TX=03 M=00", "-A3--"},
-    {"ComboSICOM", 255, "RX=AUTO TX=03 M=FF", "-A3--"},
-    {"ComboTk500(0)", 0, ""},
-    {"ComboTk500(1)", 0, "RX=AUTO TX=03 M=00", "-A3--"},
-    {"ComboTk500(1)", 1, "RX=05 TX=05 M=01", "-55--"},
-    {"ComboTE2200(0)", 0, ""},
-    {"ComboTE2200(1)", 0, "RX=AUTO TX=03 M=00", "-A3--"},
-    {"ComboTE2200(1)", 1, "RX=05 TX=05 M=01", "-55--"},
-    {"ComboTEC(0)", 0, ""},
-    {"ComboTEC(1)", 0, "RX=08 TX=03 M=00", "-83--"},
-    {"ComboTEC(1)", 1, "RX=02 TX=02 M=01", "-22--"},
-    {"OpDYWAYE", 0, "RX=AUTO TX=03 M=00", "-A3--"},
-    {"OpDYWAYE", 1, "RX=AUTO TX=03 M=01", "-A3--"},
-    {"OpDYWAYE", 2, "RX=03 TX=03 M=02", "-33--"},
-    {"OpDYWAYE", 9, "RX=03 TX=03 M=09", "-33--"},
-    {"OpSHARPUP600", 0, "RX=AUTO TX=03 M=00", "-A3--"},
-    {"OpSHARPUP600", 1, "RX=03 TX=03 M=01", "-33--"},
-    {"ComboPana(1)", 0, "RX=03 TX=01 M=00 TIMESTAMP_ENA=00", "-33--", "10", "FF", 1},
-    {"ComboPana(1)", 1, "RX=03 TX=03 M=01 TIMESTAMP_ENA=00", "-33--", "00", "EF", 0},
-    {"ComboWoring", 0, "RX=02 TX=01 M=00 TIMESTAMP_ENA=00", "-21--", "10", "FF", 1},
-    {"ComboWoring", 1, "RX=02 TX=02 M=01 TIMESTAMP_ENA=00", "-22--", "00", "EF", 0},
-    {"OpMicrelec", 0, "RX=04 TX=01 UNITADDR=00 M=00", "-5110", "03", "FB"},
-    {"OpMicrelec", 2, "RX=04 TX=01 UNITADDR=02 M=00", "-5110", "03", "FB"},
-    {"OpMicrelec9500", 3, "RX=03 TX=01 UNITADDR=03 M=01", "-3100", "00", "F8"},
-    {"ComboTCI_ID(0)", 0, "IOCFG_BAK=0E RX=00 TX=01 TCIADDBAK_3=00", "00101", "04", "FC"},
-    {"ComboTCI_ID(1)", 7, "IOCFG_BAK=0E RX=00 TX=01 TCIADDBAK_2=07", "00101", "04", "FC"},
-    {"ComboTCI_ID(2)", 9, "IOCFG_BAK=0E RX=00 TX=01 TCIADDBAK_1=09", "00101", "04", "FC"},
-    {"ComboUNI_ID(0)", 0, "TCIADDBAK_3=00"},
-    {"ComboUNI_ID(1)", 4, "TCIADDBAK_2=04"},
-    {"ComboUNI_ID(2)", 9, "TCIADDBAK_1=09"},
-};
-constexpr Member kDresserWayneMembers[] = {
-    {"POSOP", 1, "IOCFG_BAK=1D RX=0A TX=03 M=00 X=01", "1A3--"},
-    {"TEROP", 7, "IOCFG_BAK=0E RX=03 TX=03 M=01 E=00 X=07", "033--"},
-    {"PRNOP", 1, "IOCFG_BAK=0E RX=0A TX=03 M=01 E=01 X=01", "0A3--"},
-    {"SECUOP", 0, "IOCFG_BAK=0E RX=0A TX=03 M=01 E=02", "0A3--"},
+    {"ComboSICOM", 255, "RX=0A TX=03 M=FF", "-A3---"},
+    {"ComboTk500(1)", 0, "RX=0A TX=03 M=00", "-A3---"},
+    {"ComboTk500(1)", 1, "RX=05 TX=05 M=01", "-55---"},
+    {"ComboTE2200(1)", 0, "RX=0A TX=03 M=00", "-A3---"},
+    {"ComboTE2200(1)", 1, "RX=05 TX=05 M=01", "-55---"},
+    {"ComboTEC(1)", 0, "RX=08 TX=03 M=00", "-83---"},
+    {"ComboTEC(1)", 1, "RX=02 TX=02 M=01", "-22---"},
+    {"OpDYWAYE", 1, "RX=0A TX=03 M=01", "-A3---"},
+    {"OpDYWAYE", 2, "RX=03 TX=03 M=02", "-33---"},
+    {"OpSHARPUP600", 0, "RX=0A TX=03 M=00", "-A3---"},
+    {"OpSHARPUP600", 1, "RX=03 TX=03 M=01", "-33---"},
+    {"ComboPana(1)", 0, "RX=03 TX=01 M=00 TIMESTAMP_ENA=00", "-33--1", "10FF"},
+    {"ComboPana(1)", 1, "RX=03 TX=03 M=01 TIMESTAMP_ENA=00", "-33--0", "00EF"},
+    {"ComboWoring", 0, "RX=02 TX=01 M=00 TIMESTAMP_ENA=00", "-21--1", "10FF"},
+    {"ComboWoring", 1, "RX=02 TX=02 M=01 TIMESTAMP_ENA=00", "-22--0", "00EF"},
+    {"OpMicrelec", 2, "RX=04 TX=01 UNITADDR=02 M=00", "-5110-", "03FB"},
+    {"OpMicrelec9500", 3, "RX=03 TX=01 UNITADDR=03 M=01", "-3100-", "00F8"},
+    {"ComboTCI_ID(0)", 0, "IOCFG_BAK=0E RX=00 TX=01 TCIADDBAK_3=00", "00101-", "04FC"},
+    {"ComboTCI_ID(1)", 7, "IOCFG_BAK=0E RX=00 TX=01 TCIADDBAK_2=07", "00101-", "04FC"},
+    {"ComboTCI_ID(2)", 9, "IOCFG_BAK=0E RX=00 TX=01 TCIADDBAK_1=09", "00101-", "04FC"},
+    {"ComboUNI_ID(1)", 4, "TCIADDBAK_2=04", "------"},
+    {"POSOP", 1, "IOCFG_BAK=1D RX=0A TX=03 M=00 X=01", "1A3---"},
+    {"TEROP", 7, "IOCFG_BAK=0E RX=03 TX=03 M=01 E=00 X=07", "033---"},
+    {"PRNOP", 1, "IOCFG_BAK=0E RX=0A TX=03 M=01 E=01 X=01", "0A3---"},
+    {"SECUOP", 0, "IOCFG_BAK=0E RX=0A TX=03 M=01 E=02", "0A3---"},
 };
 
-void ExpectMember(Installed& program, int automatic, const Member& row) {
-  const std::string_view forced = row.forced;
-  const auto line = [](std::size_t member) { return "ComboCOMM(" + std::to_string(member) + ")"; };
-  program.Reveal(row.control);
-  for (const std::string flags : {"00", "FF"}) {
-    for (std::size_t member = 0; member < forced.size(); ++member) {
-      if (forced[member] != '-') program.Pick(line(member), forced[member] == '0' ? 1 : 0);
-    }
-    if (row.report >= 0) program.Pick("ComboExcepRe(0)", 1 - row.report);
-    program.Fill("EE", {{FieldId::COMMCFG_BAK, flags}});
-    ASSERT_EQ(program.Pick(row.control, row.position), Outcome::kDone);
-    EXPECT_EQ(program.app.image[FieldId::COMMCFG_BAK], flags == "00" ? row.flags_from_00 : row.flags_from_FF);
-    program.app.image[FieldId::COMMCFG_BAK] = flags;
-    std::string written = row.written;
-    if (const auto place = written.find("AUTO"); place != std::string::npos) {
-      written.replace(place, 4, ByteToHex(automatic));
-    }
-    EXPECT_EQ(program.Written(), written);
-    for (std::size_t member = 0; member < forced.size(); ++member) {
-      if (forced[member] == '-') continue;
-      EXPECT_EQ(program.Selected(line(member)), forced[member] == 'A' ? automatic : forced[member] - '0')
-          << line(member);
-    }
-    EXPECT_TRUE(row.report < 0 || program.Selected("ComboExcepRe(0)") == row.report);
-  }
-}
-
-// Older firmware have another code for RS-232.
-std::string WithInterface(std::string written, const FirmwareId& firmware) {
-  const int number = firmware.Number();
-  const bool old = firmware.IsV1400() ? number <= 6
-                                      : (firmware.version == "V1300" && number < 26) ||
-                                            (firmware.version == "V1324" && number < 25);
-  const auto place = written.find("IOCFG_BAK=0E");
-  if (old && place != std::string::npos) written.replace(place, 12, "IOCFG_BAK=0A");
-  return written;
+std::string Forced(Installed& program) {
+  constexpr std::string_view kPlaces = "-0123456789A";
+  std::string places;
+  for (const char* list : kForced) places += kPlaces.at(static_cast<std::size_t>(program.Selected(list) + 1));
+  return places;
 }
 
 TEST(OptionMembers, SomeForceTheLineThatTheirProtocolDictates) {
-  for (const auto& firmware : EveryFirmware()) {
-    Installed program(firmware);
-    for (const auto& row : kMembers) {
-      SCOPED_TRACE(firmware.Joined() + " " + row.control + " " + std::to_string(row.position));
-      auto of_firmware = row;
-      const auto written = WithInterface(row.written, firmware);
-      of_firmware.written = written.c_str();
-      ExpectMember(program, firmware.IsV1400() ? 10 : 8, of_firmware);
+  Installed program(kLatest);
+  auto& flags = program.app.image[F::COMMCFG_BAK];
+  for (const auto& row : kMembers) {
+    SCOPED_TRACE(row.control + (" " + std::to_string(row.position)));
+    std::string flags_after;
+    program.Reveal(row.control);
+    for (const char* before : {"00", "FF"}) {
+      for (const char* list : kForced) program.ListOf(list).position = -1;
+      program.Fill("EE", {{F::COMMCFG_BAK, before}});
+      ASSERT_EQ(program.Pick(row.control, row.position), Outcome::kDone);
+      flags_after += std::exchange(flags, before);
+      EXPECT_EQ(program.Written(), row.written);
+      EXPECT_EQ(Forced(program), row.forced);
     }
+    EXPECT_EQ(flags_after, row.flags);
   }
-  for (const char* release : {"R7", "R11", "R12"}) {
-    Installed program({"V1400", release});
-    for (const auto& row : kDresserWayneMembers) {
-      SCOPED_TRACE(std::string(release) + " " + row.control);
-      ExpectMember(program, 10, row);
-    }
-  }
+  Installed other({"V1310", "R1"});  // AUTO is 8 there
+  for (const char* control :
+       {"ComboSICOM", "ComboTk500(1)", "ComboTE2200(1)", "ComboTEC(1)", "OpDYWAYE", "OpSHARPUP600"})
+    EXPECT_EQ(other.Effect(control, 0), "RX=08 TX=03 M=00") << control;
 }
 
 TEST(OptionMembers, TheTitleSwitchTakesTheTitlerAlong) {
-  for (const auto& firmware : EveryFirmware()) {
-    SCOPED_TRACE(firmware.Joined());
-    Installed program(firmware, Images::kFirstRegister);
-    program.Reveal("ComboTITLEDIP");
-    program.Pick("ComboDIP(1)", 6);
-    program.Pick("ComboTD(5)", 0);
-    EXPECT_EQ(program.Effect("ComboTITLEDIP", 1), "GTITLE_NF_BAK=01 DSPCFG_BAK=FE");
-    EXPECT_EQ(program.Selected("ComboTD(5)"), 1);
-    EXPECT_EQ(program.Effect("ComboTITLEDIP", 0, {{FieldId::DSPCFG_BAK, "FF"}}),
-              "GTITLE_NF_BAK=00 DSPCFG_BAK=EF");
-    EXPECT_EQ(program.Selected("ComboTD(5)"), 0);
-  }
-}
-
-// The byte that a member writes in a firmware: none, or its name.
-struct Target {
-  const char* control;
-  int choices;
-  std::string field;
-  bool sharp_codes = false;  // the tenth model came later and took the code 5 from its neighbours
-};
-
-std::vector<Target> TargetsOf(const FirmwareId& firmware) {
-  const int release = firmware.Number();
-  const bool v1300 = firmware.version == "V1300", v1400 = firmware.IsV1400();
-  const bool first_sharp = (v1300 && release < 26) || (firmware.version == "V1324" && release < 25);
-  return {
-      {"OpNIXDORF", 2, release < 7 ? "M" : "X"},
-      {"OpRI_QT2", 11, v1400 && release >= 7 ? "X" : "M"},
-      {"OpSharp", 10, v1400 ? "" : "M", !v1400 && !first_sharp},
-      {"OpGilbraco", 6, v1300 || firmware.version == "V1310" ? "M" : ""},
-  };
+  Installed program(kLatest, Images::kFirstRegister);
+  program.Reveal("ComboTITLEDIP");
+  program.Pick("ComboDIP(1)", 6);
+  program.Pick("ComboTD(5)", 0);
+  EXPECT_EQ(program.Effect("ComboTITLEDIP", 1), "GTITLE_NF_BAK=01 DSPCFG_BAK=FE");
+  EXPECT_EQ(program.Selected("ComboTD(5)"), 1);
+  EXPECT_EQ(program.Effect("ComboTITLEDIP", 0, {{F::DSPCFG_BAK, "FF"}}), "GTITLE_NF_BAK=00 DSPCFG_BAK=EF");
+  EXPECT_EQ(program.Selected("ComboTD(5)"), 0);
 }
 
 TEST(OptionMembers, TheTargetDependsOnTheFirmware) {
   for (const auto& firmware : EveryFirmware()) {
     Installed program(firmware, Images::kFirstRegister);
-    for (const auto& [control, choices, field, sharp_codes] : TargetsOf(firmware)) {
+    const int release = firmware.Number();
+    const bool v1300 = firmware.version == "V1300", v1400 = firmware.IsV1400();
+    // The tenth model of SHARP came later and took the code 5 from its neighbours.
+    const bool first_sharp = (v1300 && release < 26) || (firmware.version == "V1324" && release < 25);
+    const std::tuple<const char*, int, std::string> rows[] = {
+        {"OpNIXDORF", 2, release < 7 ? "M" : "X"},
+        {"OpRI_QT2", 11, v1400 && release >= 7 ? "X" : "M"},
+        {"OpSharp", 10, v1400 ? "" : "M"},
+        {"OpGilbraco", 6, v1300 || firmware.version == "V1310" ? "M" : ""}};
+    for (const auto& [control, choices, field] : rows) {
       SCOPED_TRACE(firmware.Joined() + " " + control);
       program.Reveal(control);
       for (int element = 0; element < choices; ++element) {
-        const int moved = element < 5 ? element : (element == 9 ? 5 : element + 1);
-        const auto effect = program.Effect(control, element);
-        EXPECT_EQ(effect, field.empty() ? "" : field + "=" + ByteToHex(sharp_codes ? moved : element));
+        const bool coded = choices == 10 && !first_sharp && element >= 5;
+        const int code = !coded ? element : element == 9 ? 5 : element + 1;
+        EXPECT_EQ(program.Effect(control, element), field.empty() ? "" : field + "=" + ByteToHex(code));
       }
     }
   }
 }
 
-TEST(OptionMembers, TheXmlChoiceIsOfferedForItsProtocolAlone) {
-  for (const FirmwareId& firmware : {FirmwareId{"V1300", "R27"}, {"V1310", "R1"}}) {
-    SCOPED_TRACE(firmware.Joined());
-    Installed program(firmware);
-    ASSERT_EQ(program.Register("GILBARCO"), Outcome::kDone);
-    for (const bool xml : {true, false, true}) {
-      for (const char* stored : {"01", "EE"}) {  // the list lacks the second
-        EXPECT_EQ(program.Effect("OpGilbraco", xml ? 5 : 4, {{FieldId::REGTYPE_EXT2, stored}}),
-                  xml ? "M=05" : "M=04");
-        EXPECT_EQ(program.Selected("ComboXML"), 1);
-        for (const char* name : {"Label84", "Label85", "ComboXML"}) {
-          EXPECT_EQ(program.Control(name).visible, xml) << name;
-        }
-      }
-    }
-    EXPECT_EQ(program.Control("Label84").caption, "DESCRIPTION/XML");
-    EXPECT_EQ(program.Control("Label85").caption, "*** MAKE SURE HAVE UART DAUGHTER BOARD INSTALLED ***");
-  }
-}
-
-// A choice that brings other controls of its frame along; the member, if there is one, takes the position X.
+// A choice that brings other controls of its frame along; the last that it shows, if it is a list or an
+// array, takes the position X.
 struct Bringer {
   const char* control;
   int position;
-  const char* member;
-  std::vector<const char*> shown, hidden;
+  const char *shown, *hidden;
 };
 
 void ExpectBrought(Installed& program, const Bringer& row) {
+  SCOPED_TRACE(program.app.firmware.Joined() + " " + row.control + " " + std::to_string(row.position));
   program.Reveal(row.control);
-  for (const int stored : {0, 1, 0xEE}) {
-    EXPECT_EQ(program.Effect(row.control, row.position, {{FieldId::REGTYPE_EXT2, ByteToHex(stored)}}),
+  for (const int stored : {0, 1, 0xEE}) {  // no list has the last
+    EXPECT_EQ(program.Effect(row.control, row.position, {{F::REGTYPE_EXT2, ByteToHex(stored)}}),
               "M=" + ByteToHex(row.position));
-    for (const char* name : row.shown) EXPECT_TRUE(program.Control(name).visible) << name;
-    for (const char* name : row.hidden) EXPECT_FALSE(program.Control(name).visible) << name;
-    EXPECT_TRUE(row.member == nullptr || program.Selected(row.member) == std::min(stored, 1)) << stored;
+    for (const auto& name : Split(row.shown, ' ')) EXPECT_TRUE(program.Control(name).visible) << name;
+    for (const auto& name : Split(row.hidden, ' ')) EXPECT_FALSE(program.Control(name).visible) << name;
+    if (*row.shown == '\0') continue;
+    EXPECT_EQ(program.Selected(Split(row.shown, ' ').back()), std::min(stored, 1)) << stored;
   }
 }
 
 TEST(OptionMembers, AChoiceBringsTheControlsOfItsModelAlong) {
   const Bringer rows[] = {
-      {"IBMOP", 8, "Combo4610TF6", {"IBMFrame", "Combo4610TF6"}, {"RDSCombo", "IBMCombo", "Label82(0)"}},
-      {"IBMOP", 0, "IBMCombo", {"IBMFrame", "IBMCombo", "Label82(0)"}, {"RDSCombo", "Combo4610TF6"}},
-      {"IBMOP", 8, "Combo4610TF6", {"IBMFrame", "Combo4610TF6"}, {"RDSCombo", "IBMCombo", "Label82(0)"}},
-      {"IBMOP", 4, "RDSCombo", {"IBMFrame", "RDSCombo", "Label82(0)"}, {"IBMCombo", "Combo4610TF6"}},
-      {"IBMOP", 1, nullptr, {}, {"IBMFrame", "RDSCombo", "IBMCombo", "Combo4610TF6"}},
-      {"IBMOP", 0, "IBMCombo", {"IBMFrame", "IBMCombo"}, {"RDSCombo", "Combo4610TF6"}},
-      {"IBMOP", 7, nullptr, {}, {"IBMFrame"}},
-      {"ICLOP", 1, "POS50OP", {"POS5000"}, {"POS2000"}},
-      {"ICLOP", 0, "TEAMOP", {"POS2000"}, {"POS5000"}},
-      {"NCROP", 1, "JRNLRCPT_SLP_OP", {"NCRFrame"}, {}},
-      {"NCROP", 0, nullptr, {}, {"NCRFrame"}},
-      {"NCROP", 11, nullptr, {}, {"NCRFrame"}},
-      {"NIXDORF14OP", 1, "NIXDORF14OPSelect", {"NIXDORFrm"}, {"BEETLEFrm"}},
-      {"NIXDORF14OP", 0, "BEETLEOp", {"BEETLEFrm"}, {"NIXDORFrm"}},
+      {"IBMOP", 8, "IBMFrame Combo4610TF6", "RDSCombo IBMCombo Label82(0)"},
+      {"IBMOP", 0, "IBMFrame Label82(0) IBMCombo", "RDSCombo Combo4610TF6"},
+      {"IBMOP", 8, "IBMFrame Combo4610TF6", "RDSCombo IBMCombo Label82(0)"},
+      {"IBMOP", 4, "IBMFrame Label82(0) RDSCombo", "IBMCombo Combo4610TF6"},
+      {"IBMOP", 1, "", "IBMFrame RDSCombo IBMCombo Combo4610TF6"},
+      {"IBMOP", 0, "IBMFrame IBMCombo", "RDSCombo Combo4610TF6"},
+      {"IBMOP", 7, "", "IBMFrame"},
+      {"ICLOP", 1, "POS5000 POS50OP", "POS2000"},
+      {"ICLOP", 0, "POS2000 TEAMOP", "POS5000"},
+      {"NCROP", 1, "NCRFrame JRNLRCPT_SLP_OP", ""},
+      {"NCROP", 0, "", "NCRFrame"},
+      {"NCROP", 11, "", "NCRFrame"},
+      {"NIXDORF14OP", 1, "NIXDORFrm NIXDORF14OPSelect", "BEETLEFrm"},
+      {"NIXDORF14OP", 0, "BEETLEFrm BEETLEOp", "NIXDORFrm"},
   };
-  for (const auto& firmware : EveryFirmware()) {
-    Installed program(firmware, Images::kFirstRegister);
-    for (const auto& row : rows) {
-      SCOPED_TRACE(firmware.Joined() + " " + row.control + " " + std::to_string(row.position));
-      ExpectBrought(program, row);
-    }
+  Installed program(kLatest, Images::kFirstRegister);
+  for (const auto& row : rows) ExpectBrought(program, row);
+
+  // Some firmware have the board that the XML format needs.
+  const Bringer xml = {"OpGilbraco", 5, "Label84 Label85 ComboXML", ""};
+  const Bringer without = {"OpGilbraco", 4, "", "Label84 Label85 ComboXML"};
+  for (const FirmwareId& firmware : {FirmwareId{"V1300", "R27"}, {"V1310", "R1"}}) {
+    Installed with_board(firmware, Images::kFirstRegister);
+    for (const auto& row : {xml, without, xml}) ExpectBrought(with_board, row);
   }
+  Installed lacks_board({"V1300", "R26"}, Images::kFirstRegister);
+  ExpectBrought(lacks_board, {"OpGilbraco", 5, "", "Label84 Label85 ComboXML"});
 }
 
 TEST(OptionMembers, SomeUniwellModelsShowTheSecondFrame) {
-  int firmware_with_models = 0;
-  for (const auto& firmware : EveryFirmware()) {
-    SCOPED_TRACE(firmware.Joined());
-    Installed program(firmware);
-    if (program.Register("UNIWELL") != Outcome::kDone || program.Frames().rfind("49", 0) != 0) continue;
-    ++firmware_with_models;
-    for (int model = 0; model < 13; ++model) {
-      EXPECT_EQ(program.Effect("UNIWOP", model), "M=" + ByteToHex(model));
-      const bool second = model == 1 || model == 2 || model == 6 || model == 7 || model == 10;
-      EXPECT_EQ(program.Frames(), second ? "49 18" : "49") << model;
-    }
+  Installed program(kLatest);
+  program.Register("UNIWELL");
+  std::string with_second;
+  for (int model = 0; model < 13; ++model) {
+    EXPECT_EQ(program.Effect("UNIWOP", model), "M=" + ByteToHex(model));
+    if (program.Frames() == "49 18") with_second += " " + std::to_string(model);
   }
-  EXPECT_EQ(firmware_with_models, 3);  // V1400 from R7 on
+  EXPECT_EQ(with_second, " 1 2 6 7 10");
 }
 
 TEST(OptionMembers, ArraysOfOneFrameExcludeEachOther) {
-  const std::vector<std::vector<const char*>> frames = {{"POSOP", "TEROP", "PRNOP", "SECUOP"},
-                                                        {"OpMicrelec", "OpMicrelec9500"}};
-  Installed program({"V1400", "R12"});
-  for (const auto& frame : frames) {
-    for (const char* chosen : frame) {
+  Installed program(kLatest);
+  for (const auto& frame : {"POSOP TEROP PRNOP SECUOP", "OpMicrelec OpMicrelec9500"}) {
+    for (const auto& chosen : Split(frame, ' ')) {
       ASSERT_EQ(program.Pick(chosen, 0), Outcome::kDone);
-      for (const char* name : frame)
+      for (const auto& name : Split(frame, ' '))
         EXPECT_EQ(program.Selected(name), name == chosen ? 0 : -1) << chosen << name;
     }
   }

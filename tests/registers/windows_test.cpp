@@ -2,17 +2,14 @@
 // address frames of TCPIP.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <vector>
-
+#include "registers/rows.h"
+#include "registers/selection_driver.h"
 #include "support/installed.h"
 
 namespace ovl::testing {
 namespace {
 
 using F = FieldId;
-
-const FirmwareId kLatest{"V1400", "R12"};
 
 // MICROS selected, its window closed.
 class Micros : public ::testing::Test {
@@ -26,18 +23,6 @@ class Micros : public ::testing::Test {
   std::string Panels() const {
     return std::string(window.frmIDN.visible ? "IDN " : "") + (window.frmISN.visible ? "ISN " : "") +
            (window.frm3700.visible ? "3700 " : "") + (window.form.visible ? "shown" : "closed");
-  }
-  void TypeNumber(const char* text) {
-    ASSERT_EQ(Dispatch(program.app, TypeEvent{&window.ECRNumber, text}), Outcome::kDone);
-  }
-  void LeaveNumber() { Dispatch(program.app, LeaveEvent{&window.ECRNumber}); }
-  std::string StoredNumber() const {
-    std::string digits;
-    for (const F digit : {F::ECRDIGIT_1, F::ECRDIGIT_2, F::ECRDIGIT_3, F::ECRDIGIT_4, F::ECRDIGIT_5,
-                          F::ECRDIGIT_6, F::ECRDIGIT_7}) {
-      digits += program.app.image[digit];
-    }
-    return digits;
   }
 
   Installed program{kLatest};
@@ -71,74 +56,76 @@ TEST_F(Micros, NoWindowOpensWhileAnUploadIsApplied) {
   EXPECT_EQ(Panels(), "IDN shown");
 }
 
-TEST_F(Micros, TheIdnPanelShowsTheFieldsAndStoresThemWithSetAlone) {
-  program.Effect("OpMicros", 1,
-                 {{F::DEVICE_INDEX_BAK, "01"}, {F::DV_ADDRIND_BAK, "10"}, {F::MICROS_STATUS, "01"}});
-  EXPECT_EQ(window.ComboMICROS.Text() + window.ComboMICROSADD.Text() + window.ComboMODE.Text(),
-            "VIDEO15EMULATE");
-  for (const char* list : {"ComboMICROS", "ComboMICROSADD", "ComboMODE"})
-    EXPECT_EQ(program.Effect(list, 0), "");
+TEST_F(Micros, TheIdnPanelStoresWithSetAloneAndShowsWhatIsStored) {
+  const auto texts = [&] {
+    return window.ComboMICROS.Text() + window.ComboMICROSADD.Text() + window.ComboMODE.Text();
+  };
+  program.Pick("OpMicros", 1);
+  program.Fill("EE");
+  for (const auto& [list, last] : {std::pair{"ComboMICROS", 1}, {"ComboMICROSADD", 16}, {"ComboMODE", 1}}) {
+    EXPECT_EQ(program.Pick(list, last + 1), Outcome::kRefused);
+    program.Pick(list, last);
+  }
+  EXPECT_EQ(program.Written(), "");
   program.Click("cmdSetMicros");
-  EXPECT_EQ(program.Written(), "DV_ADDRIND_BAK=00 DEVICE_INDEX_BAK=00 MICROS_STATUS=00");
+  EXPECT_EQ(program.Written(), "DV_ADDRIND_BAK=10 DEVICE_INDEX_BAK=01 MICROS_STATUS=01");
   EXPECT_FALSE(window.form.visible);
-  program.Effect("OpMicros", 1);
-  EXPECT_EQ(window.ComboMICROSADD.Text(), "")
-      << "a window opened anew selects nothing for a byte that the list lacks";
+  program.Click("cmdMicros");
+  EXPECT_EQ(texts(), "VIDEO15EMULATE");
+  Close();
+
+  EXPECT_EQ(program.Effect("OpMicros", 1), "M=01");
+  EXPECT_EQ(texts(), "") << "a window opened anew selects nothing for a byte that the list lacks";
+  program.Pick("ComboMODE", 1);
+  Close();
+  program.Click("cmdMicros");
+  program.Click("cmdSetMicros");
+  EXPECT_EQ(program.Written(), "M=01") << "closing forgets what was picked";
 }
 
 TEST_F(Micros, TheIsnPanelHoldsEightFields) {
-  program.Effect("OpMicros", 2,
-                 {{F::REGDV_TYPE_BAK, "01"},
-                  {F::REG_GNA_BAK, "02"},
-                  {F::REG_LNA_BAK, "03"},
-                  {F::REG_IDNA_BAK, "04"},
-                  {F::PCDV_TYPE_BAK, "05"},
-                  {F::PC_GNA_BAK, "06"},
-                  {F::PC_LNA_BAK, "07"},
-                  {F::PC_IDNA_BAK, "08"}});
   const std::size_t entries[] = {11, 34, 34, 17, 11, 34, 34, 17};
-  for (int member = 0; member < 8; ++member) {
-    const auto& list = window.ComboISN[static_cast<std::size_t>(member)];
-    EXPECT_EQ(list.items.size(), entries[member]);
-    EXPECT_EQ(list.items[0] + list.items[1] + list.Text(), "ANY000" + std::to_string(member));
-    EXPECT_EQ(program.Effect("ComboISN(" + std::to_string(member) + ")", 10 - member), "");
+  program.Effect("OpMicros", 2);
+  for (const bool stored : {false, true}) {
+    for (std::size_t member = 0; member < 8; ++member) {
+      const auto& list = window.ComboISN[member];
+      const auto position = 10 - static_cast<int>(member);
+      EXPECT_EQ(list.position, stored ? position : -1);
+      EXPECT_EQ(list.items.size(), entries[member]);
+      EXPECT_EQ(list.items[0] + list.items[1], "ANY00");
+      program.Pick("ComboISN(" + std::to_string(member) + ")", position);
+    }
+    program.Mark();
+    program.Click("cmdISNset");
+    EXPECT_EQ(program.Written(), stored ? ""
+                                        : "REGDV_TYPE_BAK=0A REG_GNA_BAK=09 REG_LNA_BAK=08 REG_IDNA_BAK=07 "
+                                          "PCDV_TYPE_BAK=06 PC_GNA_BAK=05 PC_LNA_BAK=04 PC_IDNA_BAK=03");
+    EXPECT_FALSE(window.form.visible);
+    program.Click("cmdMicros");
   }
-  program.Click("cmdISNset");
-  EXPECT_EQ(program.Written(),
-            "REGDV_TYPE_BAK=0A REG_GNA_BAK=09 REG_LNA_BAK=08 REG_IDNA_BAK=07 PCDV_TYPE_BAK=06 PC_GNA_BAK=05 "
-            "PC_LNA_BAK=04 PC_IDNA_BAK=03");
-  EXPECT_FALSE(window.form.visible);
 }
 
 TEST_F(Micros, TheEcrNumberIsSevenDigits) {
-  program.Effect("OpMicros", 3,
-                 {{F::REGTYPE_EXT2, "01"},
-                  {F::ECRDIGIT_1, "01"},
-                  {F::ECRDIGIT_2, "02"},
-                  {F::ECRDIGIT_3, "03"},
-                  {F::ECRDIGIT_4, "04"},
-                  {F::ECRDIGIT_5, "05"},
-                  {F::ECRDIGIT_6, "06"},
-                  {F::ECRDIGIT_7, "07"}});
-  EXPECT_EQ(window.ECRNumber.text + window.HandSHKCombo.Text(), "1234567ON");
-
-  const std::tuple<const char*, const char*, const char*> rows[] = {
-      {"123", "0000123", "00000000010203"},     {"", "0000000", "00000000000000"},
-      {"12AB", "0000012", "00000000000102"},    {"AB12", "0000000", "00000000000000"},
-      {"9999999", "9999999", "09090909090909"}, {"123456789", "123456789", "01020304050607"}};
-  for (const auto& [typed, left, stored] : rows) {
+  const std::pair<const char*, std::string> rows[] = {
+      {"123", "0000123"},     {"", "0000000"},        {"12AB", "0000012"},       {"AB12", "0000000"},
+      {"9999999", "9999999"}, {"1234567", "1234567"}, {"123456789", "123456789"}};
+  program.Pick("OpMicros", 3);
+  for (const auto& [typed, left] : rows) {
     for (const bool leaves : {true, false}) {
-      program.Click("cmdMicros");
       program.Fill("EE");
-      TypeNumber(typed);
-      if (leaves) LeaveNumber();
+      ASSERT_EQ(Dispatch(program.app, TypeEvent{&window.ECRNumber, typed}), Outcome::kDone);
+      if (leaves) Dispatch(program.app, LeaveEvent{&window.ECRNumber});
       EXPECT_EQ(window.ECRNumber.text, leaves ? left : typed);
-      program.Pick("HandSHKCombo", 0);
+      program.Pick("HandSHKCombo", 1);
       EXPECT_EQ(program.Written(), "");
       program.Click("CMD3700Set");
-      EXPECT_EQ(StoredNumber(), stored);
-      EXPECT_EQ(program.app.image[F::REGTYPE_EXT2], "00");
+      std::string written = "X=01";
+      for (std::size_t digit = 7; digit > 0; --digit)
+        written += " ECRDIGIT_" + std::to_string(digit) + "=0" + left[digit - 1];
+      EXPECT_EQ(program.Written(), written);
       EXPECT_FALSE(window.form.visible);
+      program.Click("cmdMicros");
+      EXPECT_EQ(window.ECRNumber.text + window.HandSHKCombo.Text(), left.substr(0, 7) + "ON");
     }
   }
 }
@@ -153,79 +140,66 @@ std::string Titles(const SubMenuForm& menu) {
   return shown;
 }
 
-struct Family {
-  const char *name, *models, *button;
-  int count;
-  std::vector<int> opening;
+struct Menu {
+  const char* models;
+  int model;
+  const char *titles, *member, *offered;  // the member holds REGTYPE_EXT2
 };
-const Family kCasio{"CASIO", "CASIOOP", "Command1", 35, {18, 19, 20, 21, 33}};
-const Family kSharp{"SHARP", "SharpOP", "SharpCom", 27, {12, 19, 21, 22}};
-const Family kTec{"TEC", "TECOP", "Command2", 11, {9}};
+constexpr const char *kMode = "FrmSubMenu.Combo1(1)", *kModes = "TAPPING|EMULATING";
+constexpr Menu kMenus[] = {
+    {"CASIOOP", 18, "CASIO SUBMENU: TE2200 TE2200", kMode, kModes},
+    {"CASIOOP", 19, "CASIO SUBMENU: TE3000", kMode, kModes},
+    {"CASIOOP", 20, "CASIO SUBMENU: TE4000", kMode, kModes},
+    {"CASIOOP", 21, "CASIO SUBMENU: TE4500", kMode, kModes},
+    {"CASIOOP", 33, "CASIO SUBMENU: TK-T500", kMode, kModes},
+    {"SharpOP", 12, "SHARP SUBMENU: A410,420", "Option1", "TAP|EMULATE|TAP US|EMULATE US"},
+    {"SharpOP", 19, "SHARP SUBMENU: A-750/A-770 ER-01PU", "Option1", "RECEIPT|JOURNAL"},
+    {"SharpOP", 21, "SHARP SUBMENU: UP600/700", "Option1", "TAP|EMULATE"},
+    {"SharpOP", 22, "SHARP SUBMENU: UP300/3300", "Combo2", "ANY|1|2|3|4|5|6|7|8|9|10|11|12|13|14|15|16"},
+    {"TECOP", 9, "TEC SUBMENU: TEC SLIP PRINTER", kMode, kModes},
+};
 
-TEST(SubMenus, OpenForTheModelsThatHaveOneAndStoreAtOnce) {
-  const char *mode = "FrmSubMenu.Combo1(1)", *modes = "TAPPING|EMULATING";
-  struct Row {
-    const Family& family;
-    int model;
-    const char *titles, *member, *offered;  // the member holds REGTYPE_EXT2
-  };
-  const Row rows[] = {
-      {kCasio, 18, "CASIO SUBMENU: TE2200 TE2200", mode, modes},
-      {kCasio, 19, "CASIO SUBMENU: TE3000", mode, modes},
-      {kCasio, 20, "CASIO SUBMENU: TE4000", mode, modes},
-      {kCasio, 21, "CASIO SUBMENU: TE4500", mode, modes},
-      {kCasio, 33, "CASIO SUBMENU: TK-T500", mode, modes},
-      {kSharp, 12, "SHARP SUBMENU: A410,420", "Option1", "TAP|EMULATE|TAP US|EMULATE US"},
-      {kSharp, 19, "SHARP SUBMENU: A-750/A-770 ER-01PU", "Option1", "RECEIPT|JOURNAL"},
-      {kSharp, 21, "SHARP SUBMENU: UP600/700", "Option1", "TAP|EMULATE"},
-      {kSharp, 22, "SHARP SUBMENU: UP300/3300", "Combo2", "ANY|1|2|3|4|5|6|7|8|9|10|11|12|13|14|15|16"},
-      {kTec, 9, "TEC SUBMENU: TEC SLIP PRINTER", mode, modes},
-  };
-  Installed program(kLatest);
-  auto& menu = program.app.FrmSubMenu;
-  for (const auto& [family, model, titles, member, offered] : rows) {
-    SCOPED_TRACE(family.name + std::to_string(model));
-    ASSERT_EQ(program.Register(family.name), Outcome::kDone);
-    for (const int stored : {1, 0}) {
-      const auto byte = ByteToHex(stored);
-      EXPECT_EQ(program.Effect(family.models, model, {{F::REGTYPE_EXT1, "00"}, {F::REGTYPE_EXT2, byte}}),
-                "M=" + ByteToHex(model));
-      EXPECT_EQ(Titles(menu), titles);
-      EXPECT_TRUE(program.Control(family.button).enabled);
-      EXPECT_EQ(program.Selected(member), stored);
-    }
-    EXPECT_EQ(program.Offered(member), offered);
-    EXPECT_EQ(program.Effect(member, 1), "X=01");
-    EXPECT_EQ(Dispatch(program.app, CloseEvent{&menu.form}), Outcome::kDone);
-    EXPECT_EQ(Titles(menu), "closed");
-    EXPECT_EQ(program.Click(family.button), Outcome::kDone);
-    EXPECT_EQ(Titles(menu), titles);
-    EXPECT_EQ(program.Written(), "M=" + ByteToHex(model) + " X=01");
+void ExpectMenu(Installed& program, const Menu& row, const char* button) {
+  const auto& menu = program.app.FrmSubMenu;
+  for (const int stored : {1, 0}) {
+    const auto byte = ByteToHex(stored);
+    program.Effect(row.models, row.model, {{F::REGTYPE_EXT1, "00"}, {F::REGTYPE_EXT2, byte}});
+    EXPECT_EQ(Titles(menu), row.titles);
+    EXPECT_EQ(program.Selected(row.member), stored);
   }
+  EXPECT_EQ(program.Offered(row.member), row.offered);
+  EXPECT_EQ(program.Effect(row.member, 1), "X=01");
+  EXPECT_EQ(Dispatch(program.app, CloseEvent{&program.app.FrmSubMenu.form}), Outcome::kDone);
+  EXPECT_EQ(Titles(menu), "closed");
+  EXPECT_EQ(program.Click(button), Outcome::kDone);
+  EXPECT_EQ(Titles(menu), row.titles);
+  EXPECT_EQ(program.Written(), "M=" + ByteToHex(row.model) + " X=01");
 }
 
-TEST(SubMenus, StayClosedForEveryOtherModel) {
+TEST(SubMenus, OpenForTheModelsThatHaveOneAndStoreAtOnce) {
+  const std::tuple<const char*, const char*, const char*, int> families[] = {
+      {"CASIO", "CASIOOP", "Command1", 35},
+      {"SHARP", "SharpOP", "SharpCom", 27},
+      {"TEC", "TECOP", "Command2", 11}};
   Installed program(kLatest);
-  const auto& menu = program.app.FrmSubMenu;
-  for (const auto& family : {kCasio, kSharp, kTec}) {
-    ASSERT_EQ(program.Register(family.name), Outcome::kDone);
-    program.Reveal(family.models);
-    EXPECT_EQ(program.Pick(family.models, family.count), Outcome::kRefused);
-    for (int model = 0; model < family.count; ++model) {
-      SCOPED_TRACE(std::string(family.models) + " " + std::to_string(model));
-      program.Pick(family.models, family.opening.front());
-      ASSERT_TRUE(menu.form.visible);
-      EXPECT_EQ(program.Effect(family.models, model), "M=" + ByteToHex(model));
-      const bool opens = std::count(family.opening.begin(), family.opening.end(), model) == 1;
-      EXPECT_EQ(menu.form.visible, opens);
-      EXPECT_EQ(program.Control(family.button).enabled, opens);
+  for (const auto& [name, models, button, count] : families) {
+    ASSERT_EQ(program.Register(name), Outcome::kDone);
+    EXPECT_EQ(program.Pick(models, count), Outcome::kRefused);
+    for (int model = 0; model < count; ++model) {
+      SCOPED_TRACE(std::string(models) + " " + std::to_string(model));
+      const auto* row =
+          std::find_if(std::begin(kMenus), std::end(kMenus), [&, &array = models](const Menu& menu) {
+            return menu.models == std::string_view(array) && menu.model == model;
+          });
+      EXPECT_EQ(program.Effect(models, model), "M=" + ByteToHex(model));
+      EXPECT_EQ(program.Control(button).enabled, row != std::end(kMenus));
+      if (row == std::end(kMenus)) {
+        EXPECT_EQ(Titles(program.app.FrmSubMenu), "closed");
+      } else {
+        ExpectMenu(program, *row, button);
+      }
     }
   }
-  program.Pick("SharpOP", 26);
-  program.Reveal("SharpCom");
-  program.Fill("EE");
-  EXPECT_EQ(program.Click("SharpCom"), Outcome::kDone);
-  EXPECT_EQ(program.Written(), "") << "the last model is not among those that the button looks at";
 }
 
 TEST(SubMenus, Te2200HidesItsModeBehindThePrinterAdapter) {
@@ -247,79 +221,50 @@ TEST(SubMenus, Te2200HidesItsModeBehindThePrinterAdapter) {
   EXPECT_EQ(menu.Combo1[0].Text(), "TEC SLIP PRINTER");
 }
 
-TEST(IpAddress, FrameAndImageAgreeByteByByte) {
-  const std::pair<FirmwareId, int> rows[] = {
-      {kLatest, 83}, {{"V1300", "R16"}, 65}, {{"V1324", "R19"}, 65}, {{"V1334", "R1"}, 67}};
-  for (const auto& [firmware, address] : rows) {
+TEST(RegisterWindows, StayOpenAtAPickOfTheirOwnModelAndCloseAtAnyOther) {
+  const std::tuple<std::string, const char*, int> rows[] = {
+      {"CASIO", "CASIOOP", 18}, {"SHARP", "SharpOP", 12}, {"TEC", "TECOP", 9}, {"MICROS", "OpMicros", 1}};
+  Installed program(kLatest);
+  for (const auto& [name, models, model] : rows) {
+    SCOPED_TRACE(name);
+    const auto& form = name == "MICROS" ? program.app.frmMicros.form : program.app.FrmSubMenu.form;
+    for (const char* next : {"GENERIC", name.c_str()}) {
+      program.SetByte(name, program.Minor(), ByteToHex(model));
+      program.Register(name);
+      ASSERT_EQ(program.Pick(models, model), Outcome::kDone);
+      program.Register(name);
+      EXPECT_TRUE(form.visible);
+      program.SetByte(name, program.Minor(), "00");
+      program.Register(next);
+      EXPECT_FALSE(form.visible) << next;
+    }
+  }
+}
+
+TEST(IpAddress, FrameAndImageAgreeByteByByteButTheOldFrameStoresNothing) {
+  for (const FirmwareId& firmware : {kLatest, FirmwareId{"V1300", "R15"}}) {
     SCOPED_TRACE(firmware.Joined());
     Installed program(firmware);
-    for (int byte = 0; byte < 4; ++byte) {
-      program.SetByte("TCPIP", program.Fixed(address + byte), ByteToHex(250 + byte));
-    }
-    program.SetByte("TCPIP", program.Minor(), "05");
     ASSERT_EQ(program.Register("TCPIP"), Outcome::kDone);
+    auto& image = program.app.image;
+    for (int byte = 0; byte < 4; ++byte) image.at(F::IPADDRESS, byte + 1) = ByteToHex(250 + byte);
+    image[F::REGTYPE_MINOR] = "05";
+    ShowRegisterOptions(program.app);
+    const bool old = firmware != kLatest;
     for (int byte = 0; byte < 4; ++byte) {
-      const auto list = "ComboTCPIP(" + std::to_string(byte + 4) + ")";
+      const auto list = "ComboTCPIP(" + std::to_string(old ? byte : byte + 4) + ")";
+      const auto information = "ComboTCPINFO(" + std::to_string(byte) + ")";
       EXPECT_EQ(program.Selected(list), 250 + byte);
-      EXPECT_EQ(program.Selected("ComboTCPINFO(" + std::to_string(byte) + ")"), byte % 2 == 0 ? 1 : 0);
-      EXPECT_EQ(program.Effect(list, 192 + byte),
-                "IPADDRESS(" + std::to_string(byte + 1) + ")=" + ByteToHex(192 + byte));
+      EXPECT_EQ(program.Selected(information), old ? -1 : 1 - byte % 2);
+      const auto written = "IPADDRESS(" + std::to_string(byte + 1) + ")=" + ByteToHex(192 + byte);
+      EXPECT_EQ(program.Effect(list, 192 + byte), old ? "" : written);
+      for (const int others : {0x00, 0xFF}) {
+        const int bit = 1 << byte, on = others | bit, off = others & ~bit;
+        EXPECT_EQ(program.Effect(information, 1, {{F::REGTYPE_MINOR, ByteToHex(off)}}), "M=" + ByteToHex(on));
+        EXPECT_EQ(program.Effect(information, 0, {{F::REGTYPE_MINOR, ByteToHex(on)}}), "M=" + ByteToHex(off));
+      }
     }
   }
-}
-
-TEST(IpAddress, AnInformationSwitchIsOneBit) {
-  const std::tuple<const char*, const char*, const char*> rows[] = {{"ComboTCPINFO(0)", "00", "01"},
-                                                                    {"ComboTCPINFO(1)", "05", "07"},
-                                                                    {"ComboTCPINFO(2)", "A0", "A4"},
-                                                                    {"ComboTCPINFO(3)", "F0", "F8"}};
-  Installed program(kLatest);
-  for (const auto& [list, off, on] : rows) {
-    EXPECT_EQ(program.Effect(list, 1, {{F::REGTYPE_MINOR, off}}), std::string("M=") + on);
-    EXPECT_EQ(program.Effect(list, 0, {{F::REGTYPE_MINOR, on}}), std::string("M=") + off);
-    EXPECT_EQ(program.Effect(list, 0, {{F::REGTYPE_MINOR, off}}), "");
-  }
-}
-
-TEST(IpAddress, TheOldFrameShowsAndStoresNothing) {
-  Installed program({"V1300", "R15"});
-  for (int byte = 0; byte < 4; ++byte)
-    program.SetByte("TCPIP", program.Fixed(65 + byte), ByteToHex(10 + byte));
-  ASSERT_EQ(program.Register("TCPIP"), Outcome::kDone);
-  for (int byte = 0; byte < 4; ++byte) {
-    const auto list = "ComboTCPIP(" + std::to_string(byte) + ")";
-    EXPECT_EQ(program.Selected(list), 10 + byte);
-    EXPECT_EQ(program.Effect(list, 192), "");
-  }
-}
-
-TEST(RegisterWindows, ASubMenuClosesWhenAnotherRegisterWithoutOneIsPicked) {
-  Installed program({"V1400", "R12"});
-  program.Register("CASIO");
-  ASSERT_EQ(program.Pick("CASIOOP", 18), Outcome::kDone);
-  EXPECT_TRUE(program.app.FrmSubMenu.form.visible);
-  program.Register("GENERIC");
-  EXPECT_FALSE(program.app.FrmSubMenu.form.visible);
-}
-
-TEST(RegisterWindows, ALongNumberKeepsItsFirstSevenDigitsAndClosingForgetsWhatWasPicked) {
-  Installed program({"V1400", "R12"});
-  program.Register("MICROS");
-  auto& form = program.app.frmMicros;
-  ASSERT_EQ(program.Pick("OpMicros", 3), Outcome::kDone);
-  Dispatch(program.app, TypeEvent{&form.ECRNumber, "1234567890"});
-  program.Click("CMD3700Set");
-  EXPECT_EQ(program.app.image[FieldId::ECRDIGIT_1], "01");
-  EXPECT_EQ(program.app.image[FieldId::ECRDIGIT_7], "07");
-
-  program.app.image[FieldId::MICROS_STATUS] = "05";
-  ASSERT_EQ(program.Pick("OpMicros", 1), Outcome::kDone);
-  program.app.image[FieldId::MICROS_STATUS] = "05";
-  program.Pick("ComboMODE", 1);
-  Dispatch(program.app, CloseEvent{&form.form});
-  program.Click("cmdMicros");
-  program.Click("cmdSetMicros");
-  EXPECT_EQ(program.app.image[FieldId::MICROS_STATUS], "05");
 }
 
 }  // namespace
