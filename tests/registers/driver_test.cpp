@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "registers/rows.h"
+#include "registers/selection_driver.h"
 #include "support/installed.h"
 
 namespace ovl::testing {
@@ -32,6 +33,11 @@ TEST(RegisterPick, ACodeOutsideTheListLeavesTheListAndStillShowsTheFrame) {
   EXPECT_EQ(program.Frames(), "1");
   ASSERT_EQ(program.Register("BLEEP"), Outcome::kDone);
   EXPECT_EQ(program.Frames(), "33");
+
+  Installed without_list({"V1400", "R13"}, Images::kOwn);
+  ASSERT_EQ(without_list.Start(), Outcome::kDone);
+  ShowRegisterOptions(without_list.app);
+  EXPECT_EQ(without_list.Frames(), "");
 }
 
 TEST(RegisterPick, DresserWayneChoosesByThreeBytes) {

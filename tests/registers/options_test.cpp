@@ -1,6 +1,8 @@
 // What a choice in an option frame writes, which selections it forces, and what else it shows.
 #include <gtest/gtest.h>
 
+#include <span>
+
 #include "registers/rows.h"
 #include "registers/selection_driver.h"
 #include "support/installed.h"
@@ -83,8 +85,23 @@ TEST(OptionMembers, EachShowsItsByteAndAPlainOneWritesItAndNothingElse) {
   }
 }
 
-constexpr const char* kForced[] = {"ComboCOMM(0)", "ComboCOMM(1)", "ComboCOMM(2)",
-                                   "ComboCOMM(3)", "ComboCOMM(4)", "ComboExcepRe(0)"};
+// The first two entries and the last.
+constexpr const char* kNumbers =
+    "ComboAddress ANY 1 255|ComboSICOM ANY 1 255|ComboCLARITYEPOS ALL 1 255|ComboNE134 0 1 255|"
+    "ComboTCPIP(0) 0 1 255|ComboTCPIP(7) 0 1 255|ComboAddr ANY 1 16|ComboDeviceADD ANY 01 17|"
+    "ComboCONSOLEID ANY 1 8|ComboTCI_ID(0) 0 1 9|ComboUNI_ID(2) 0 1 9|ComboMICROSADD ANY 00 15";
+
+TEST(OptionMembers, ListsOfNumbersHaveTheirHeadAndTheirDigits) {
+  Installed program(kLatest, Images::kFirstRegister);
+  for (const auto& row : Split(kNumbers, '|')) {
+    const auto name = row.substr(0, row.find(' '));
+    const auto& items = program.ListOf(name).items;
+    EXPECT_EQ(name + " " + items[0] + " " + items[1] + " " + items.back(), row);
+  }
+}
+
+constexpr const char* kForced[] = {"ComboCOMM(0)", "ComboCOMM(1)",    "ComboCOMM(2)", "ComboCOMM(3)",
+                                   "ComboCOMM(4)", "ComboExcepRe(0)", "ComboTD(5)"};
 
 struct Member {
   const char* control;
@@ -95,31 +112,33 @@ struct Member {
 };
 
 constexpr Member kMembers[] = {
-    {"ComboSICOM", 255, "RX=0A TX=03 M=FF", "-A3---"},
-    {"ComboTk500(1)", 0, "RX=0A TX=03 M=00", "-A3---"},
-    {"ComboTk500(1)", 1, "RX=05 TX=05 M=01", "-55---"},
-    {"ComboTE2200(1)", 0, "RX=0A TX=03 M=00", "-A3---"},
-    {"ComboTE2200(1)", 1, "RX=05 TX=05 M=01", "-55---"},
-    {"ComboTEC(1)", 0, "RX=08 TX=03 M=00", "-83---"},
-    {"ComboTEC(1)", 1, "RX=02 TX=02 M=01", "-22---"},
-    {"OpDYWAYE", 1, "RX=0A TX=03 M=01", "-A3---"},
-    {"OpDYWAYE", 2, "RX=03 TX=03 M=02", "-33---"},
-    {"OpSHARPUP600", 0, "RX=0A TX=03 M=00", "-A3---"},
-    {"OpSHARPUP600", 1, "RX=03 TX=03 M=01", "-33---"},
-    {"ComboPana(1)", 0, "RX=03 TX=01 M=00 TIMESTAMP_ENA=00", "-33--1", "10FF"},
-    {"ComboPana(1)", 1, "RX=03 TX=03 M=01 TIMESTAMP_ENA=00", "-33--0", "00EF"},
-    {"ComboWoring", 0, "RX=02 TX=01 M=00 TIMESTAMP_ENA=00", "-21--1", "10FF"},
-    {"ComboWoring", 1, "RX=02 TX=02 M=01 TIMESTAMP_ENA=00", "-22--0", "00EF"},
-    {"OpMicrelec", 2, "RX=04 TX=01 UNITADDR=02 M=00", "-5110-", "03FB"},
-    {"OpMicrelec9500", 3, "RX=03 TX=01 UNITADDR=03 M=01", "-3100-", "00F8"},
-    {"ComboTCI_ID(0)", 0, "IOCFG_BAK=0E RX=00 TX=01 TCIADDBAK_3=00", "00101-", "04FC"},
-    {"ComboTCI_ID(1)", 7, "IOCFG_BAK=0E RX=00 TX=01 TCIADDBAK_2=07", "00101-", "04FC"},
-    {"ComboTCI_ID(2)", 9, "IOCFG_BAK=0E RX=00 TX=01 TCIADDBAK_1=09", "00101-", "04FC"},
-    {"ComboUNI_ID(1)", 4, "TCIADDBAK_2=04", "------"},
-    {"POSOP", 1, "IOCFG_BAK=1D RX=0A TX=03 M=00 X=01", "1A3---"},
-    {"TEROP", 7, "IOCFG_BAK=0E RX=03 TX=03 M=01 E=00 X=07", "033---"},
-    {"PRNOP", 1, "IOCFG_BAK=0E RX=0A TX=03 M=01 E=01 X=01", "0A3---"},
-    {"SECUOP", 0, "IOCFG_BAK=0E RX=0A TX=03 M=01 E=02", "0A3---"},
+    {"ComboSICOM", 255, "RX=0A TX=03 M=FF", "-A3----"},
+    {"ComboTk500(1)", 0, "RX=0A TX=03 M=00", "-A3----"},
+    {"ComboTk500(1)", 1, "RX=05 TX=05 M=01", "-55----"},
+    {"ComboTE2200(1)", 0, "RX=0A TX=03 M=00", "-A3----"},
+    {"ComboTE2200(1)", 1, "RX=05 TX=05 M=01", "-55----"},
+    {"ComboTEC(1)", 0, "RX=08 TX=03 M=00", "-83----"},
+    {"ComboTEC(1)", 1, "RX=02 TX=02 M=01", "-22----"},
+    {"OpDYWAYE", 1, "RX=0A TX=03 M=01", "-A3----"},
+    {"OpDYWAYE", 2, "RX=03 TX=03 M=02", "-33----"},
+    {"OpSHARPUP600", 0, "RX=0A TX=03 M=00", "-A3----"},
+    {"OpSHARPUP600", 1, "RX=03 TX=03 M=01", "-33----"},
+    {"ComboPana(1)", 0, "RX=03 TX=01 M=00 TIMESTAMP_ENA=00", "-33--1-", "10FF"},
+    {"ComboPana(1)", 1, "RX=03 TX=03 M=01 TIMESTAMP_ENA=00", "-33--0-", "00EF"},
+    {"ComboWoring", 0, "RX=02 TX=01 M=00 TIMESTAMP_ENA=00", "-21--1-", "10FF"},
+    {"ComboWoring", 1, "RX=02 TX=02 M=01 TIMESTAMP_ENA=00", "-22--0-", "00EF"},
+    {"OpMicrelec", 2, "RX=04 TX=01 UNITADDR=02 M=00", "-5110--", "03FB"},
+    {"OpMicrelec9500", 3, "RX=03 TX=01 UNITADDR=03 M=01", "-3100--", "00F8"},
+    {"ComboTCI_ID(0)", 0, "IOCFG_BAK=0E RX=00 TX=01 TCIADDBAK_3=00", "00101--", "04FC"},
+    {"ComboTCI_ID(1)", 7, "IOCFG_BAK=0E RX=00 TX=01 TCIADDBAK_2=07", "00101--", "04FC"},
+    {"ComboTCI_ID(2)", 9, "IOCFG_BAK=0E RX=00 TX=01 TCIADDBAK_1=09", "00101--", "04FC"},
+    {"ComboUNI_ID(1)", 4, "TCIADDBAK_2=04", "-------"},
+    {"POSOP", 1, "IOCFG_BAK=1D RX=0A TX=03 M=00 X=01", "1A3----"},
+    {"TEROP", 7, "IOCFG_BAK=0E RX=03 TX=03 M=01 E=00 X=07", "033----"},
+    {"PRNOP", 1, "IOCFG_BAK=0E RX=0A TX=03 M=01 E=01 X=01", "0A3----"},
+    {"SECUOP", 0, "IOCFG_BAK=0E RX=0A TX=03 M=01 E=02", "0A3----"},
+    {"ComboTITLEDIP", 1, "GTITLE_NF_BAK=01 DSPCFG_BAK=FE", "------1"},
+    {"ComboTITLEDIP", 0, "GTITLE_NF_BAK=00", "------0"},
 };
 
 std::string Forced(Installed& program) {
@@ -131,6 +150,7 @@ std::string Forced(Installed& program) {
 
 TEST(OptionMembers, SomeForceTheLineThatTheirProtocolDictates) {
   Installed program(kLatest);
+  program.Pick("ComboDIP(1)", 6);  // lines enough for a title
   auto& flags = program.app.image[F::COMMCFG_BAK];
   for (const auto& row : kMembers) {
     SCOPED_TRACE(row.control + (" " + std::to_string(row.position)));
@@ -150,17 +170,6 @@ TEST(OptionMembers, SomeForceTheLineThatTheirProtocolDictates) {
   for (const char* control :
        {"ComboSICOM", "ComboTk500(1)", "ComboTE2200(1)", "ComboTEC(1)", "OpDYWAYE", "OpSHARPUP600"})
     EXPECT_EQ(other.Effect(control, 0), "RX=08 TX=03 M=00") << control;
-}
-
-TEST(OptionMembers, TheTitleSwitchTakesTheTitlerAlong) {
-  Installed program(kLatest, Images::kFirstRegister);
-  program.Reveal("ComboTITLEDIP");
-  program.Pick("ComboDIP(1)", 6);
-  program.Pick("ComboTD(5)", 0);
-  EXPECT_EQ(program.Effect("ComboTITLEDIP", 1), "GTITLE_NF_BAK=01 DSPCFG_BAK=FE");
-  EXPECT_EQ(program.Selected("ComboTD(5)"), 1);
-  EXPECT_EQ(program.Effect("ComboTITLEDIP", 0, {{F::DSPCFG_BAK, "FF"}}), "GTITLE_NF_BAK=00 DSPCFG_BAK=EF");
-  EXPECT_EQ(program.Selected("ComboTD(5)"), 0);
 }
 
 TEST(OptionMembers, TheTargetDependsOnTheFirmware) {
@@ -187,56 +196,60 @@ TEST(OptionMembers, TheTargetDependsOnTheFirmware) {
   }
 }
 
-// A choice that brings other controls of its frame along; the last that it shows, if it is a list or an
-// array, takes the position X.
-struct Bringer {
-  const char* control;
-  int position;
-  const char *shown, *hidden;
+// A choice, and what it brings along of the other controls of its frame: "!" is hidden. The last that is
+// shown takes the position X.
+const std::pair<FirmwareId, std::vector<std::string>> kBringers[] = {
+    {kLatest,
+     {"IBMOP 8 !RDSCombo !IBMCombo !Label82(0) IBMFrame Combo4610TF6",
+      "IBMOP 0 !RDSCombo !Combo4610TF6 IBMFrame Label82(0) IBMCombo",
+      "IBMOP 8 !RDSCombo !IBMCombo !Label82(0) IBMFrame Combo4610TF6",
+      "IBMOP 4 !IBMCombo !Combo4610TF6 IBMFrame Label82(0) RDSCombo",
+      "IBMOP 1 !IBMFrame !RDSCombo !IBMCombo !Combo4610TF6", "IBMOP 0 IBMFrame IBMCombo", "IBMOP 7 !IBMFrame",
+      "ICLOP 1 !POS2000 POS5000 POS50OP", "ICLOP 0 !POS5000 POS2000 TEAMOP",
+      "NCROP 1 NCRFrame JRNLRCPT_SLP_OP", "NCROP 0 !NCRFrame", "NCROP 1 NCRFrame JRNLRCPT_SLP_OP",
+      "NCROP 11 !NCRFrame", "NIXDORF14OP 1 !BEETLEFrm NIXDORFrm NIXDORF14OPSelect",
+      "NIXDORF14OP 0 !NIXDORFrm BEETLEFrm BEETLEOp"}},
+    // The XML format needs a board that other firmware lack.
+    {{"V1300", "R27"}, {"OpGilbraco 5 Label84 Label85 ComboXML", "OpGilbraco 4 !Label84 !Label85 !ComboXML"}},
+    {{"V1310", "R1"}, {"OpGilbraco 5 Label84 Label85 ComboXML", "OpGilbraco 4 !Label84 !Label85 !ComboXML"}},
+    {{"V1300", "R26"}, {"OpGilbraco 5 !Label84 !Label85 !ComboXML"}},
 };
 
-void ExpectBrought(Installed& program, const Bringer& row) {
-  SCOPED_TRACE(program.app.firmware.Joined() + " " + row.control + " " + std::to_string(row.position));
-  program.Reveal(row.control);
-  for (const int stored : {0, 1, 0xEE}) {  // no list has the last
-    EXPECT_EQ(program.Effect(row.control, row.position, {{F::REGTYPE_EXT2, ByteToHex(stored)}}),
-              "M=" + ByteToHex(row.position));
-    for (const auto& name : Split(row.shown, ' ')) EXPECT_TRUE(program.Control(name).visible) << name;
-    for (const auto& name : Split(row.hidden, ' ')) EXPECT_FALSE(program.Control(name).visible) << name;
-    if (*row.shown == '\0') continue;
-    EXPECT_EQ(program.Selected(Split(row.shown, ' ').back()), std::min(stored, 1)) << stored;
+void ExpectSeen(Installed& program, std::span<const std::string> controls) {
+  for (const auto& control : controls) {
+    const bool hidden = control[0] == '!';
+    EXPECT_EQ(program.Control(control.substr(hidden ? 1 : 0)).visible, !hidden) << control;
   }
 }
 
 TEST(OptionMembers, AChoiceBringsTheControlsOfItsModelAlong) {
-  const Bringer rows[] = {
-      {"IBMOP", 8, "IBMFrame Combo4610TF6", "RDSCombo IBMCombo Label82(0)"},
-      {"IBMOP", 0, "IBMFrame Label82(0) IBMCombo", "RDSCombo Combo4610TF6"},
-      {"IBMOP", 8, "IBMFrame Combo4610TF6", "RDSCombo IBMCombo Label82(0)"},
-      {"IBMOP", 4, "IBMFrame Label82(0) RDSCombo", "IBMCombo Combo4610TF6"},
-      {"IBMOP", 1, "", "IBMFrame RDSCombo IBMCombo Combo4610TF6"},
-      {"IBMOP", 0, "IBMFrame IBMCombo", "RDSCombo Combo4610TF6"},
-      {"IBMOP", 7, "", "IBMFrame"},
-      {"ICLOP", 1, "POS5000 POS50OP", "POS2000"},
-      {"ICLOP", 0, "POS2000 TEAMOP", "POS5000"},
-      {"NCROP", 1, "NCRFrame JRNLRCPT_SLP_OP", ""},
-      {"NCROP", 0, "", "NCRFrame"},
-      {"NCROP", 11, "", "NCRFrame"},
-      {"NIXDORF14OP", 1, "NIXDORFrm NIXDORF14OPSelect", "BEETLEFrm"},
-      {"NIXDORF14OP", 0, "BEETLEFrm BEETLEOp", "NIXDORFrm"},
-  };
-  Installed program(kLatest, Images::kFirstRegister);
-  for (const auto& row : rows) ExpectBrought(program, row);
-
-  // Some firmware have the board that the XML format needs.
-  const Bringer xml = {"OpGilbraco", 5, "Label84 Label85 ComboXML", ""};
-  const Bringer without = {"OpGilbraco", 4, "", "Label84 Label85 ComboXML"};
-  for (const FirmwareId& firmware : {FirmwareId{"V1300", "R27"}, {"V1310", "R1"}}) {
-    Installed with_board(firmware, Images::kFirstRegister);
-    for (const auto& row : {xml, without, xml}) ExpectBrought(with_board, row);
+  for (const auto& [firmware, rows] : kBringers) {
+    Installed program(firmware, Images::kFirstRegister);
+    for (const auto& row : rows) {
+      SCOPED_TRACE(firmware.Joined() + " " + row);
+      const auto words = Split(row, ' ');
+      const int position = LeadingNumber(words[1]);
+      program.Reveal(words[0]);
+      for (const int stored : {0, 1, 0xEE}) {  // no list has the last
+        EXPECT_EQ(program.Effect(words[0], position, {{F::REGTYPE_EXT2, ByteToHex(stored)}}),
+                  "M=" + ByteToHex(position));
+        ExpectSeen(program, std::span(words).subspan(2));
+        const auto& member = words.back();
+        EXPECT_TRUE(member[0] == '!' || program.Selected(member) == std::min(stored, 1)) << stored;
+      }
+    }
   }
-  Installed lacks_board({"V1300", "R26"}, Images::kFirstRegister);
-  ExpectBrought(lacks_board, {"OpGilbraco", 5, "", "Label84 Label85 ComboXML"});
+}
+
+// One of the frames inside is then seen, or not, whatever the model.
+TEST(OptionMembers, APickOfTheRegisterHasItsOwnMindOfTheFramesInside) {
+  Installed program(kLatest);
+  for (const auto& [name, frames] :
+       {std::pair{"ICL", "POS2000 POS5000"}, {"NCR", "!NCRFrame"}, {"NIXDORF", "BEETLEFrm NIXDORFrm"}}) {
+    program.SetByte(name, program.Minor(), "01");
+    ASSERT_EQ(program.Register(name), Outcome::kDone);
+    ExpectSeen(program, Split(frames, ' '));
+  }
 }
 
 TEST(OptionMembers, SomeUniwellModelsShowTheSecondFrame) {
@@ -248,6 +261,10 @@ TEST(OptionMembers, SomeUniwellModelsShowTheSecondFrame) {
     if (program.Frames() == "49 18") with_second += " " + std::to_string(model);
   }
   EXPECT_EQ(with_second, " 1 2 6 7 10");
+  program.SetByte("UNIWELL", program.Minor(), "01");
+  program.SetByte("UNIWELL", program.Ext2(), "02");  // the list lacks it
+  program.Register("UNIWELL");
+  EXPECT_EQ(program.Frames(), "");
 }
 
 TEST(OptionMembers, ArraysOfOneFrameExcludeEachOther) {
