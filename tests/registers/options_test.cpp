@@ -241,8 +241,7 @@ TEST(OptionMembers, AChoiceBringsTheControlsOfItsModelAlong) {
   }
 }
 
-// One of the frames inside is then seen, or not, whatever the model.
-TEST(OptionMembers, APickOfTheRegisterHasItsOwnMindOfTheFramesInside) {
+TEST(OptionMembers, APickOfTheRegisterShowsOrHidesAFrameInsideWhateverTheModel) {
   Installed program(kLatest);
   for (const auto& [name, frames] :
        {std::pair{"ICL", "POS2000 POS5000"}, {"NCR", "!NCRFrame"}, {"NIXDORF", "BEETLEFrm NIXDORFrm"}}) {
