@@ -243,10 +243,13 @@ TEST(OptionMembers, AChoiceBringsTheControlsOfItsModelAlong) {
 
 TEST(OptionMembers, APickOfTheRegisterShowsOrHidesAFrameInsideWhateverTheModel) {
   Installed program(kLatest);
-  for (const auto& [name, frames] :
-       {std::pair{"ICL", "POS2000 POS5000"}, {"NCR", "!NCRFrame"}, {"NIXDORF", "BEETLEFrm NIXDORFrm"}}) {
+  for (const auto& [name, frames] : {std::pair{"ICL", "POS2000 POS5000"},
+                                     {"NCR", "!NCRFrame"},
+                                     {"NIXDORF", "BEETLEFrm NIXDORFrm"},
+                                     {"IBM", "!IBMFrame"}}) {
     program.SetByte(name, program.Minor(), "01");
     ASSERT_EQ(program.Register(name), Outcome::kDone);
+    EXPECT_NE(program.Frames(), "") << name;
     ExpectSeen(program, Split(frames, ' '));
   }
 }
