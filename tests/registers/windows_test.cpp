@@ -230,10 +230,13 @@ TEST(RegisterWindows, StayOpenAtAPickOfTheirOwnModelAndCloseAtAnyOther) {
   Installed program(kLatest);
   for (const auto& [name, models, model] : rows) {
     SCOPED_TRACE(name);
-    const auto& form = name == "MICROS" ? program.app.frmMicros.form : program.app.FrmSubMenu.form;
+    auto& form = name == "MICROS" ? program.app.frmMicros.form : program.app.FrmSubMenu.form;
     for (const char* next : {"GENERIC", name.c_str()}) {
       program.SetByte(name, program.Minor(), ByteToHex(model));
       program.Register(name);
+      Dispatch(program.app, CloseEvent{&form});
+      program.Register(name);
+      EXPECT_EQ(form.visible, name == "MICROS") << "the others open with a choice alone";
       ASSERT_EQ(program.Pick(models, model), Outcome::kDone);
       program.Register(name);
       EXPECT_TRUE(form.visible);
