@@ -6,11 +6,33 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "catalogue/firmware.h"
 #include "image/record_stream.h"
 #include "support/installed.h"
 
 namespace ovl::testing {
+
+inline std::vector<FirmwareId> AllFirmware() {
+  std::vector<FirmwareId> all;
+  for (const auto& entry : FirmwareTable()) {
+    if (entry.in_menu) all.push_back({std::string(entry.version), std::string(entry.release)});
+  }
+  return all;
+}
+
+// A release before the one in which its family changed; V1310 and V1334 have no such one.
+inline bool Before(const FirmwareId& firmware, int v1400, int v1300, int v1324) {
+  const auto& version = firmware.version;
+  const int first = version == "V1400" ? v1400 : version == "V1300" ? v1300 : version == "V1324" ? v1324 : 0;
+  return firmware.Number() < first;
+}
+
+// The firmware whose demo counts its lists from 1.
+inline bool HasOldDemo(const FirmwareId& firmware) {
+  return Before(firmware, 2, 27, 26);
+}
 
 // The image that a firmware's first register brings in whole. A firmware's images are written once.
 inline const std::string& FirstImage(const FirmwareId& firmware) {
@@ -40,11 +62,21 @@ inline std::string Digits(std::string_view text) {
   return digits;
 }
 
-// The characters first to last.
-inline std::string Characters(int first, int last) {
-  std::string text;
-  for (int code = first; code <= last; ++code) text += static_cast<char>(code);
-  return text;
+// A wide range in the slots, and a narrow one.
+inline const FirmwareId kFamilies[] = {{"V1400", "R12"}, {"V1300", "R14"}};
+
+// Ten or six bytes that no two places share.
+inline std::string RangeOf(const FirmwareId& firmware) {
+  return firmware.IsV1400() ? "01234567899876543210" : "012345678987";
+}
+
+// An exception as the unit has to get it.
+inline std::string Slot(int flags, const std::string& range, std::string text) {
+  text.resize(40, ' ');
+  const auto last = text.find_last_not_of(' ', 38);
+  std::replace(text.begin(), text.end(), '?', '\x7F');
+  const int length = last == std::string::npos ? 0 : static_cast<int>(last) + 1;
+  return ByteToHex(flags) + range + ByteToHex(length) + Digits(text) + "00";
 }
 
 class PanelProgram : public Installed {
@@ -64,6 +96,8 @@ class PanelProgram : public Installed {
   bool Visible(std::string_view name) { return Control(name).visible; }
   bool Enabled(std::string_view name) { return Control(name).enabled; }
   std::string& Byte(FieldId field, int entry = 1) { return app.image.at(field, entry); }
+  Outcome ShowAlarm(int alarm) { return Pick("ComboALM(0)", alarm - 1); }
+  Outcome ShowSlot(int slot) { return Pick("ComboExcp(0)", slot - 1); }
 
   Outcome Open(std::string_view stream) {
     const auto path = folder.File("opened.bin");
@@ -85,6 +119,13 @@ class PanelProgram : public Installed {
   Outcome Reload(bool by_upload = false) {
     const auto stream = SectionsToStream(app);
     return by_upload ? Upload(stream) : Open(stream);
+  }
+  // Takes the image in with these bytes in it, and tells what that changed.
+  std::string Load(Bytes bytes) {
+    for (const auto& [field, byte] : bytes) app.image[field] = byte;
+    Mark();
+    EXPECT_EQ(Reload(), Outcome::kDone);
+    return Written();
   }
 
   // Through the text dialog that the button opens.

@@ -1,7 +1,6 @@
 // All settings panels of all firmware: what is set comes back.
 #include <set>
 
-#include "catalogue/firmware.h"
 #include "panels/acts.h"
 
 namespace ovl::testing {
@@ -104,7 +103,7 @@ class EveryPosition {
     if (round % 3 != 0) writer_.Click("DemoMode");
 
     // Where the demonstration counts its lists from 1, a running one always shows the second.
-    const bool old_demo = (HexToInt(writer_.Byte(DEMO_ENABLE)) & 0x40) == 0 && OldDemo();
+    const bool old_demo = (HexToInt(writer_.Byte(DEMO_ENABLE)) & 0x40) == 0 && HasOldDemo(firmware_);
     if (old_demo && writer_.app.frmMain.DemoMode.checked) set_.erase("CharacterList");
     // Clock and title each need a line of the picture.
     const int least = set_["ComboTD(0)"] + set_["ComboTD(5)"];
@@ -115,12 +114,6 @@ class EveryPosition {
       auto& timeout = set_["ComboScroll(1)"];
       timeout = set_["ComboScroll(0)"] == 0 ? 0 : std::max(timeout, 1);
     }
-  }
-
-  bool OldDemo() const {
-    const int number = firmware_.Number();
-    return (firmware_.version == "V1400" && number == 1) || (firmware_.version == "V1300" && number < 27) ||
-           (firmware_.version == "V1324" && number < 26);
   }
 
   // V1400 R7 does not read the flag of the blank time that a download writes for it: all strings stand a byte
@@ -172,9 +165,7 @@ class EveryPosition {
 };
 
 TEST(SettingsWalk, EverySelectionComesBackAtEveryPosition) {
-  for (const auto& entry : FirmwareTable()) {
-    if (!entry.in_menu) continue;
-    const FirmwareId firmware{std::string(entry.version), std::string(entry.release)};
+  for (const auto& firmware : AllFirmware()) {
     SCOPED_TRACE(firmware.Joined());
     EveryPosition(firmware).Run();
     if (HasFatalFailure()) return;

@@ -1,0 +1,157 @@
+// The texts of title, alarms and exceptions, and the one dialog that edits them.
+#include "panels/acts.h"
+
+namespace ovl::testing {
+namespace {
+
+using enum FieldId;
+
+// Among them every character but NUL.
+std::vector<std::string> Texts() {
+  const std::string y(37, 'y');
+  std::vector<std::string> texts = {"A", "",     " ", " x",     "x ",      "  A B  ",     "What?",
+                                    "?", "\x7F", y,   y + "yy", y + "yyy", " " + y + " ", " " + y + "y "};
+  texts.insert(texts.end(), {std::string(40, ' '), std::string(40, '?'), std::string(39, ' ') + "."});
+  for (int code = 1; code < 256; ++code) {
+    if (code % 40 == 1) texts.emplace_back();
+    texts.back() += static_cast<char>(code);
+  }
+  return texts;
+}
+
+const std::string kCut("AB\0CD", 5);
+
+// The rule of triggered texts and title: no blanks at the ends, no length, filled up with zeros.
+std::string Filled(const std::string& text) {
+  const auto first = text.find_first_not_of(' ');
+  auto digits =
+      first == std::string::npos ? "" : Digits(text.substr(first, text.find_last_not_of(' ') - first + 1));
+  digits.resize(82, '0');
+  return digits;
+}
+
+TEST(Texts, TriggeredTextAndTitleAreTrimmedAndFilledUp) {
+  for (const auto& firmware : {FirmwareId{"V1400", "R12"}, {"V1324", "R17"}}) {
+    PanelProgram program(firmware);
+    auto& main = program.app.frmMain;
+    const auto enter = [&](const char* button, const std::string& text) {
+      program.EnterText(button, "something else");
+      if (main.ComboALM[0].position == 11) program.Byte(TRIGGER_TEXT, 12).replace(0, 2, "AC");
+      program.Mark();
+      EXPECT_EQ(program.EnterText(button, text), Outcome::kDone);
+      return program.Written();
+    };
+    for (const auto& text : Texts()) {
+      SCOPED_TRACE(firmware.Joined() + " [" + text + "]");
+      const auto filled = Filled(text);
+      program.ShowAlarm(12);
+      EXPECT_EQ(enter("cmdSetTrigger", text), "TRIGGER_TEXT(12)=AC" + filled);
+      program.Byte(TRIGGER_TEXT, 13) = "AC" + filled;
+      program.ShowAlarm(13);
+      EXPECT_EQ(Filled(main.TextTrigger.text), filled);
+      EXPECT_EQ(main.TextTrigger.text.find('\0'), std::string::npos);
+      EXPECT_EQ(program.Byte(TRIGGER_TEXT, 13), "AC" + filled);
+
+      EXPECT_EQ(enter("cmdTitle", text), "ONSCRNTITL=" + filled);
+      program.EnterText("cmdTitle", "something else");
+      EXPECT_EQ(program.Load({{ONSCRNTITL, filled}}), "");
+      EXPECT_EQ(Filled(main.Title_Text.text), filled);
+    }
+    program.Byte(TRIGGER_TEXT, 4) = "00" + Digits(kCut) + Repeat("0", 72);
+    program.ShowAlarm(4);
+    EXPECT_EQ(main.TextTrigger.text, "AB");
+    EXPECT_EQ(program.Byte(TRIGGER_TEXT, 4).size(), 84U);
+  }
+}
+
+TEST(Texts, TheTwoFlagsOfATriggeredTextAreShown) {
+  PanelProgram program({"V1400", "R2"});
+  for (int before = 0; before < 4; ++before) {
+    for (int loaded = 0; loaded < 4; ++loaded) {
+      program.Byte(TRIGGER_TEXT, 2).replace(0, 2, ByteToHex(before));
+      program.Byte(TRIGGER_TEXT, 3).replace(0, 2, ByteToHex(0xF0 | loaded));
+      program.ShowAlarm(2);
+      program.ShowAlarm(3);
+      EXPECT_EQ(program.At("ComboTrigger(0)"), loaded & 1);
+      EXPECT_EQ(program.At("ComboTrigger(1)"), loaded >> 1);
+      EXPECT_EQ(program.Byte(TRIGGER_TEXT, 3), ByteToHex(0xF0 | loaded) + Repeat("0", 82));
+    }
+  }
+}
+
+TEST(Texts, AnExceptionIsPaddedCountedAndMarkedFreeWhenBlank) {
+  for (const auto& firmware : kFamilies) {
+    PanelProgram program(firmware);
+    const auto range = RangeOf(firmware);
+    const auto& shown = program.app.frmMain.TextException.text;
+    for (const auto& text : Texts()) {
+      SCOPED_TRACE(firmware.Joined() + " [" + text + "]");
+      const bool blank = text.find_first_not_of(' ') == std::string::npos;
+      const auto stored = Slot(blank ? 0xB3 : 0xA3, range, text);
+      auto padded = text;
+      std::replace(padded.begin(), padded.end(), '\x7F', '?');
+      padded.resize(40, ' ');
+      for (const int flags : {0xA3, 0xB3}) {
+        program.Byte(EXCPSTRS, 7) = Slot(flags, range, "before");
+        program.ShowSlot(8);
+        program.ShowSlot(7);
+        ASSERT_EQ(program.EnterText("cmdSetExcpstr", text), Outcome::kDone);
+        EXPECT_EQ(program.Byte(EXCPSTRS, 7), stored);
+        program.ShowSlot(8);
+        program.ShowSlot(7);
+        EXPECT_EQ(shown, padded);
+        EXPECT_EQ(program.Byte(EXCPSTRS, 7), stored);
+      }
+    }
+    program.Byte(EXCPSTRS, 6) = Slot(0, range, kCut);
+    program.ShowSlot(6);
+    EXPECT_EQ(shown, "AB");
+    EXPECT_EQ(program.Byte(EXCPSTRS, 6), Slot(0, range, "AB"));
+    program.EnterText("cmdSetExcpstr", "else");
+    ASSERT_EQ(program.EnterText("cmdSetExcpstr", kCut), Outcome::kDone);
+    EXPECT_EQ(program.Byte(EXCPSTRS, 6), Slot(0, range, "AB")) << "a typed text ends there too";
+  }
+}
+
+TEST(TextDialog, HoldsOneTextAndGivesItBackOnlyWhenSet) {
+  PanelProgram program({"V1400", "R7"});
+  auto& dialog = program.app.frmSetEXCPSTR;
+  auto& main = program.app.frmMain;
+  const std::tuple<const char*, const char*, TextBox*> rows[] = {
+      {"cmdSetTrigger", "ALARM TRIGGER SETUP", &main.TextTrigger},
+      {"cmdSetExcpstr", "EXCEPTION SETUP", &main.TextException},
+      {"cmdTitle", "TITLE SETUP", &main.Title_Text}};
+  enum class Way { kEscape, kClose, kSet };
+  int mode = 0;
+  for (const auto& [button, title, target] : rows) {
+    SCOPED_TRACE(button);
+    ASSERT_EQ(program.EnterText(button, "FIRST"), Outcome::kDone);
+    program.Mark();
+    for (const auto way : {Way::kEscape, Way::kClose, Way::kSet}) {
+      ASSERT_EQ(program.Click(button), Outcome::kDone);
+      EXPECT_EQ(program.app.TextEntryMode, mode);
+      EXPECT_EQ(dialog.form.caption, title);
+      EXPECT_EQ(dialog.Text1.text, "FIRST");
+      EXPECT_EQ(program.Pick("ComboExcp(0)", 3), Outcome::kRefused) << "the main form is held back";
+      EXPECT_EQ(program.Type(dialog.Text1, std::string(41, 'x')), Outcome::kRefused);
+      ASSERT_EQ(program.Click("frmSetEXCPSTR.cmdClr"), Outcome::kDone);
+      EXPECT_EQ(dialog.Text1.text, "");
+      ASSERT_EQ(program.Type(dialog.Text1, "SECOND"), Outcome::kDone);
+      EXPECT_EQ(target->text, "FIRST");
+      EXPECT_EQ(program.Written(), "");
+      if (way == Way::kEscape) program.Press(dialog.form, Key::kEscape);
+      if (way == Way::kClose) program.Close(dialog.form);
+      if (way == Way::kSet) program.Click("frmSetEXCPSTR.cmdSET");
+      EXPECT_FALSE(dialog.form.visible);
+      EXPECT_TRUE(main.form.enabled);
+      EXPECT_EQ(target->text, way == Way::kSet ? "SECOND" : "FIRST");
+    }
+    EXPECT_NE(program.Written(), "");
+    EXPECT_EQ(program.Written().find(' '), std::string::npos) << "one record and no more";
+    EXPECT_EQ(program.Type(*target, "typed"), Outcome::kRefused);
+    ++mode;
+  }
+}
+
+}  // namespace
+}  // namespace ovl::testing
