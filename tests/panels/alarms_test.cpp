@@ -9,58 +9,52 @@ using enum FieldId;
 // "1", "3" and so on to "240", and the pulse: what the unit counts from.
 constexpr const char* kDurations[] = {"FF", "FD", "FB", "F6", "F1", "EC", "E2", "C4", "88", "4C", "10", "00"};
 
-std::string Alarm(const FirmwareId& firmware, const std::string& three_bytes) {
-  return three_bytes + (firmware.IsV1400() ? "07" : "");
+// Trigger, duration and its place, and what one family alone has behind them.
+std::string Alarm(const FirmwareId& firmware, const std::string& four_bytes) {
+  return four_bytes.substr(0, firmware.IsV1400() ? 8 : 6);
 }
 
-TEST(Alarms, TheTriggerIsTheFirstByteAndTellsAnException) {
+TEST(Alarms, ARecordHasItsTriggerItsDurationAndItsVideoLoss) {
   for (const auto& firmware : kFamilies) {
     PanelProgram program(firmware);
-    for (int trigger = 0; trigger <= 28; ++trigger) {
-      SCOPED_TRACE(firmware.Joined() + " " + std::to_string(trigger));
-      program.Byte(ALMSTRUCT_BAK, 2) = Alarm(firmware, "EEF603");
+    const auto expect = [&](const char* list, int position, const std::string& stored, bool exception) {
+      SCOPED_TRACE(firmware.Joined() + " " + list + " " + std::to_string(position));
+      program.Byte(ALMSTRUCT_BAK, 2) = Alarm(firmware, "EEF60307");
       program.ShowAlarm(2);
-      ASSERT_EQ(program.Pick("ComboALM(1)", trigger), Outcome::kDone);
+      ASSERT_EQ(program.Pick(list, position), Outcome::kDone);
       for (const bool again : {false, true}) {
         if (again) program.ShowAlarm(2);
-        EXPECT_EQ(program.At("ComboALM(1)"), trigger);
-        EXPECT_EQ(program.Visible("lbAlmTrig"), trigger != 0 && trigger != 28);
-        EXPECT_EQ(program.Byte(ALMSTRUCT_BAK, 2), Alarm(firmware, ByteToHex(trigger) + "F603"));
+        EXPECT_EQ(program.Byte(ALMSTRUCT_BAK, 2), Alarm(firmware, stored));
+        EXPECT_EQ(program.At(list), position);
+        EXPECT_EQ(program.Visible("lbAlmTrig"), exception);
         program.ShowAlarm(1);
         EXPECT_FALSE(program.Visible("lbAlmTrig"));
       }
-    }
-    program.ShowAlarm(2);
+    };
+    for (int trigger = 0; trigger <= 28; ++trigger)
+      expect("ComboALM(1)", trigger, ByteToHex(trigger) + "F60307", trigger != 0 && trigger != 28);
+    for (int place = 0; place < 12; ++place)
+      expect("ComboALM(3)", place, "EE" + (kDurations[place] + ByteToHex(place)) + "07", true);
+    for (int loss = 0; firmware.IsV1400() && loss < 10; ++loss)
+      expect("ComboALM(6)", loss, "EEF603" + ByteToHex(loss), true);
     EXPECT_EQ(program.Pick("ComboALM(1)", 29), Outcome::kRefused);
-    program.Byte(ALMSTRUCT_BAK, 3) = Alarm(firmware, "1DF603");
-    program.ShowAlarm(3);
-    EXPECT_EQ(program.At("ComboALM(1)"), 28) << "what the list lacks leaves it";
-    EXPECT_EQ(program.Byte(ALMSTRUCT_BAK, 3), Alarm(firmware, "1DF603"));
   }
 }
 
-TEST(Alarms, ADurationIsStoredAsItsCounterAndItsPlace) {
-  for (const auto& firmware : kFamilies) {
-    PanelProgram program(firmware);
-    program.ShowAlarm(16);
-    for (int place = 0; place < 12; ++place) {
-      program.Byte(ALMSTRUCT_BAK, 16) = Alarm(firmware, "1BEEEE");
-      ASSERT_EQ(program.Pick("ComboALM(3)", place), Outcome::kDone);
-      EXPECT_EQ(program.Byte(ALMSTRUCT_BAK, 16),
-                Alarm(firmware, "1B" + (kDurations[place] + ByteToHex(place))));
-    }
-    for (int counter = 0; counter < 256; ++counter) {
-      const auto found = std::find(std::begin(kDurations), std::end(kDurations), ByteToHex(counter));
-      const auto place = found == std::end(kDurations) ? 4 : found - kDurations;
-      const auto record = Alarm(firmware, "00" + ByteToHex(counter) + "09");
-      program.Byte(ALMSTRUCT_BAK, 15) = Alarm(firmware, "00F101");
-      program.Byte(ALMSTRUCT_BAK, 14) = record;
-      program.ShowAlarm(15);
-      program.ShowAlarm(14);
-      EXPECT_EQ(program.At("ComboALM(3)"), place) << counter;
-      if (place == 4) {
-        EXPECT_EQ(program.Byte(ALMSTRUCT_BAK, 14), record);
-      }
+TEST(Alarms, WhatTheListsLackLeavesThem) {
+  PanelProgram program({"V1300", "R14"});
+  for (int number = 0; number < 256; ++number) {
+    const auto found = std::find(std::begin(kDurations), std::end(kDurations), ByteToHex(number));
+    const auto place = found == std::end(kDurations) ? 4 : found - kDurations;
+    const auto record = ByteToHex(number) + ByteToHex(number) + "09";
+    program.Byte(ALMSTRUCT_BAK, 15) = "1CF101";
+    program.Byte(ALMSTRUCT_BAK, 14) = record;
+    program.ShowAlarm(15);
+    program.ShowAlarm(14);
+    EXPECT_EQ(program.At("ComboALM(1)"), std::min(number, 28));
+    EXPECT_EQ(program.At("ComboALM(3)"), place) << number;
+    if (place == 4) {
+      EXPECT_EQ(program.Byte(ALMSTRUCT_BAK, 14), record);
     }
   }
 }
@@ -109,23 +103,23 @@ TEST(Alarms, TheNormalStateIsABitOfTheAlarmButForTheNinth) {
 
 TEST(Alarms, WhatElseAnAlarmHasGoesByTheFirmware) {
   for (const auto& firmware : AllFirmware()) {
-    SCOPED_TRACE(firmware.Joined());
     const bool v1400 = firmware.IsV1400(), type = !Before(firmware, 6, 26, 25);
     PanelProgram program(firmware);
-    const std::tuple<const char*, bool, int, const char*> rows[] = {
-        {"ComboALM(6)", v1400, 9, "ALMSTRUCT_BAK(5)=00FF0004"},
-        {"ComboTrigger(2)", v1400, 8, "TRIGGER_DELAY(5)=04"},
-        {"ComboALM(7)", type, 1, "ALM_MODE(5)=00"}};
-    program.Byte(ALMSTRUCT_BAK, 5) = v1400 ? "00FF0009" : "00FF00";
+    program.Byte(ALMSTRUCT_BAK, 5) = Alarm(firmware, "00FF0009");
     program.Byte(TRIGGER_DELAY, 5) = "08";
     program.Byte(ALM_MODE, 5) = "01";
     program.Mark();
     program.ShowAlarm(5);
     EXPECT_EQ(program.Written(), "");
+    const std::tuple<const char*, bool, int, const char*> rows[] = {
+        {"ComboALM(6)", v1400, 9, "ALMSTRUCT_BAK(5)=00FF0004"},
+        {"ComboTrigger(2)", v1400, 8, "TRIGGER_DELAY(5)=04"},
+        {"ComboALM(7)", type, 1, "ALM_MODE(5)=00"}};
     for (const auto& [list, has, shown, written] : rows) {
-      EXPECT_EQ(program.At(list) == shown, has) << list;
+      SCOPED_TRACE(firmware.Joined() + " " + list);
+      EXPECT_EQ(program.At(list) == shown, has);
       program.Mark();
-      EXPECT_EQ(program.Pick(list, shown == 1 ? 0 : 4), has ? Outcome::kDone : Outcome::kRefused) << list;
+      EXPECT_EQ(program.Pick(list, shown == 1 ? 0 : 4), has ? Outcome::kDone : Outcome::kRefused);
       EXPECT_EQ(program.Written(), has ? written : "");
     }
     if (v1400) continue;
@@ -162,19 +156,18 @@ TEST(ScrollMatching, SwitchAndTimeoutGoTogether) {
   const Row rows[] = {{0, 0, 1, 1}, {0, 0, 0, 0}, {3, 0, 0, 0}, {3, 0, 1, 3}, {0, 1, 5, 5},
                       {3, 1, 0, 0}, {3, 1, 4, 4}, {1, 1, 1, 1}, {5, 0, 0, 0}, {0, 1, 0, 0}};
   PanelProgram program({"V1400", "R12"});
-  for (const auto& row : rows) {
-    const auto list = Member("ComboScroll", row.list);
-    SCOPED_TRACE(std::to_string(row.timeout) + ": " + list + " " + std::to_string(row.position));
-    program.Pick("ComboScroll(1)", row.timeout);
-    ASSERT_EQ(program.Pick(list, row.position), Outcome::kDone);
-    EXPECT_EQ(program.At("ComboScroll(0)"), row.after == 0 ? 0 : 1);
-    EXPECT_EQ(program.At("ComboScroll(1)"), row.after);
-    EXPECT_EQ(program.Byte(SCROLLMATCH_BAK), ByteToHex(row.after));
+  for (const auto& [timeout, list, position, after] : rows) {
+    SCOPED_TRACE(std::to_string(timeout) + ": " + std::to_string(list) + " " + std::to_string(position));
+    program.Pick("ComboScroll(1)", timeout);
+    ASSERT_EQ(program.Pick(Member("ComboScroll", list), position), Outcome::kDone);
+    EXPECT_EQ(program.At("ComboScroll(0)"), after == 0 ? 0 : 1);
+    EXPECT_EQ(program.At("ComboScroll(1)"), after);
+    EXPECT_EQ(program.Byte(SCROLLMATCH_BAK), ByteToHex(after));
   }
-  for (const auto& [stored, timeout] :
-       {std::pair{4, 4}, {0, 0}, {1, 1}, {6, 1}, {5, 5}, {255, 5}, {0, 0}, {9, 0}}) {
-    EXPECT_EQ(program.Load({{SCROLLMATCH_BAK, ByteToHex(stored)}}), "");
-    EXPECT_EQ(program.At("ComboScroll(0)"), stored == 0 ? 0 : 1) << stored;
+  // A timeout that the list lacks is on, and leaves the list.
+  for (const auto& [stored, timeout] : {std::pair{"04", 4}, {"00", 0}, {"06", 0}, {"05", 5}, {"FF", 5}}) {
+    EXPECT_EQ(program.Load({{SCROLLMATCH_BAK, stored}}), "");
+    EXPECT_EQ(program.At("ComboScroll(0)"), stored == std::string("00") ? 0 : 1) << stored;
     EXPECT_EQ(program.At("ComboScroll(1)"), timeout) << stored;
   }
 }

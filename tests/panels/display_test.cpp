@@ -70,33 +70,25 @@ TEST(Display, RtsShowsWhereTheFirmwareHasIt) {
 
 TEST(Display, ClockAndTitleEachNeedALine) {
   PanelProgram program({"V1400", "R7"});
-  const auto set = [&](int clock, int title, int lines) {
-    program.Pick("ComboTD(0)", clock);
-    program.Pick("ComboTD(5)", title);
-    program.Pick("ComboDIP(1)", lines);
-  };
-  for (const int state : {0, 1, 2, 3}) {
-    const int clock = state & 1, title = state >> 1;
-    for (int lines = 0; lines < 11; ++lines) {
-      SCOPED_TRACE(std::to_string(clock) + std::to_string(title) + " lines " + std::to_string(lines));
-      const int raised = std::max(lines, clock + title);
-      const auto expect_raised = [&] {
-        EXPECT_EQ(program.At("ComboDIP(1)"), raised);
-        EXPECT_EQ(program.Byte(DSPLINES_BAK), ByteToHex(raised + 1));
-      };
-      set(clock, title, lines);
-      expect_raised();
-      for (const bool clock_first : {false, true}) {
-        set(0, 0, lines);
-        if (clock_first) program.Pick("ComboTD(0)", clock);
-        program.Pick("ComboTD(5)", title);
-        program.Pick("ComboTD(0)", clock);
-        expect_raised();
-        EXPECT_EQ(program.Byte(DSPCFG_BAK), ByteToHex(0x20 | clock << 7 | title << 4));
+  const std::vector<const char*> orders[] = {{"ComboTD(0)", "ComboTD(5)", "ComboDIP(1)"},
+                                             {"ComboDIP(1)", "ComboTD(0)", "ComboTD(5)"},
+                                             {"ComboDIP(1)", "ComboTD(5)", "ComboTD(0)"}};
+  for (const auto& order : orders) {
+    for (int number = 0; number < 44; ++number) {
+      std::map<std::string_view, int> positions = {
+          {"ComboTD(0)", number & 1}, {"ComboTD(5)", number >> 1 & 1}, {"ComboDIP(1)", number >> 2}};
+      const int clock = number & 1, title = number >> 1 & 1, lines = std::max(number >> 2, clock + title);
+      SCOPED_TRACE(order.front() + (" " + std::to_string(number)));
+      for (const auto* list : order) program.Pick(list, positions[list]);
+      EXPECT_EQ(program.Byte(DSPCFG_BAK), ByteToHex(0x20 | clock << 7 | title << 4));
+      for (const bool later : {false, true}) {
+        EXPECT_EQ(program.At("ComboDIP(1)"), lines);
+        EXPECT_EQ(program.Byte(DSPLINES_BAK), ByteToHex(lines + 1));
+        if (later) continue;
+        // Neither takes its line away again.
+        program.Pick("ComboTD(0)", 0);
+        program.Pick("ComboTD(5)", 0);
       }
-      program.Pick("ComboTD(0)", 0);
-      program.Pick("ComboTD(5)", 0);
-      expect_raised();
     }
   }
   EXPECT_EQ(program.Load({{DSPLINES_BAK, "01"}, {DSPCFG_BAK, "B0"}}), "");

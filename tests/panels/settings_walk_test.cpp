@@ -1,5 +1,6 @@
 // All settings panels of all firmware: what is set comes back.
 #include <set>
+#include <span>
 
 #include "panels/acts.h"
 
@@ -8,40 +9,25 @@ namespace {
 
 using enum FieldId;
 
-struct Selection {
-  const char* name;
-  const char* frame;
-};
-
 // In an order in which a later pick takes nothing from an earlier one.
-constexpr Selection kGlobal[] = {
-    {"ComboDIP(0)", "Frame3"},     {"ComboDIP(2)", "Frame3"},     {"ComboDIP(3)", "Frame3"},
-    {"ComboDIP(4)", "Frame3"},     {"ComboDIP(5)", "Frame3"},     {"ComboDIP(6)", "Frame3"},
-    {"ComboDIP(7)", "Frame3"},     {"ComboDIP(8)", "Frame3"},     {"ComboTD(0)", "Frame2"},
-    {"ComboTD(1)", "Frame2"},      {"ComboTD(2)", "Frame2"},      {"ComboTD(3)", "Frame2"},
-    {"ComboTD(4)", "Frame2"},      {"ComboTD(5)", "Frame2"},      {"ComboDIP(1)", "Frame3"},
-    {"ComboLang", "Frame12"},      {"ComboExcepRe(0)", "Frame7"}, {"ComboExcepRe(1)", "Frame7"},
-    {"ComboExcepRe(2)", "Frame7"}, {"ComboScroll(1)", "Frame14"}, {"ComboScroll(0)", "Frame14"},
-    {"ComboALM(4)", "Frame8"},     {"ComboALM(5)", "Frame8"},     {"CharacterList", "FrameDemo"},
-    {"DemoType", "FrameDemo"},     {"DemoSpeed", "FrameDemo"},    {"ComboKLM4011(0)", "Frame5"},
-    {"ComboKLM4011(1)", "Frame5"}, {"ComboKLM4011(2)", "Frame5"}, {"ComboKLM4011(3)", "Frame5"},
-};
-constexpr Selection kAlarm[] = {
-    {"ComboALM(1)", "Frame8"},      {"ComboALM(2)", "Frame8"},      {"ComboALM(3)", "Frame8"},
-    {"ComboALM(6)", "Frame8"},      {"ComboALM(7)", "Frame8"},      {"ComboTrigger(0)", "Frame15"},
-    {"ComboTrigger(1)", "Frame15"}, {"ComboTrigger(2)", "Frame15"},
-};
-constexpr Selection kSlot[] = {
-    {"ComboExcp(4)", "Frame6"}, {"ComboExcp(1)", "Frame6"}, {"ComboExcp(2)", "Frame6"},
-    {"ComboExcp(3)", "Frame6"}, {"ComboExcp(5)", "Frame6"},
-};
+constexpr const char* kGlobal[] = {
+    "ComboDIP(0)",    "ComboDIP(2)",     "ComboDIP(3)",     "ComboDIP(4)",     "ComboDIP(5)",
+    "ComboDIP(6)",    "ComboDIP(7)",     "ComboDIP(8)",     "ComboTD(0)",      "ComboTD(1)",
+    "ComboTD(2)",     "ComboTD(3)",      "ComboTD(4)",      "ComboTD(5)",      "ComboDIP(1)",
+    "ComboLang",      "ComboExcepRe(0)", "ComboExcepRe(1)", "ComboExcepRe(2)", "ComboScroll(1)",
+    "ComboScroll(0)", "ComboALM(4)",     "ComboALM(5)",     "CharacterList",   "DemoType",
+    "DemoSpeed",      "ComboKLM4011(0)", "ComboKLM4011(1)", "ComboKLM4011(2)", "ComboKLM4011(3)"};
+constexpr const char* kAlarm[] = {"ComboALM(1)", "ComboALM(2)",     "ComboALM(3)",     "ComboALM(6)",
+                                  "ComboALM(7)", "ComboTrigger(0)", "ComboTrigger(1)", "ComboTrigger(2)"};
+constexpr const char* kSlot[] = {"ComboExcp(4)", "ComboExcp(1)", "ComboExcp(2)", "ComboExcp(3)",
+                                 "ComboExcp(5)"};
 
-bool OnScreen(PanelProgram& program, const Selection& selection) {
-  return program.Visible(selection.name) && program.Visible(selection.frame);
-}
-
-bool Offered(PanelProgram& program, const Selection& selection) {
-  return OnScreen(program, selection) && program.Enabled(selection.name);
+// Some firmware hide a list together with its whole frame.
+bool OnScreen(PanelProgram& program, std::string_view list) {
+  const auto* frame = list == "ComboLang"               ? "Frame12"
+                      : list.starts_with("ComboScroll") ? "Frame14"
+                                                        : "Frame3";
+  return program.Visible(list) && program.Visible(frame);
 }
 
 // One program in which everything is set, one into which it is loaded.
@@ -65,11 +51,11 @@ class EveryPosition {
   }
 
  private:
-  void Set(const Selection& selection, int number, const std::string& record = {}) {
-    if (!Offered(writer_, selection)) return;
-    const auto entries = static_cast<int>(writer_.ListOf(selection.name).items.size());
-    ASSERT_EQ(writer_.Pick(selection.name, number % entries), Outcome::kDone) << selection.name;
-    set_[record + selection.name] = number % entries;
+  void Set(const char* list, int number, const std::string& record = {}) {
+    if (!OnScreen(writer_, list) || !writer_.Enabled(list)) return;
+    const auto entries = static_cast<int>(writer_.ListOf(list).items.size());
+    ASSERT_EQ(writer_.Pick(list, number % entries), Outcome::kDone) << list;
+    set_[record + list] = number % entries;
   }
 
   void SetRecords(int round) {
@@ -84,7 +70,7 @@ class EveryPosition {
     for (int alarm = 0; alarm < kAlarms; ++alarm) {
       const auto record = "ComboALM(0)=" + std::to_string(alarm) + " ";
       writer_.Pick("ComboALM(0)", alarm);
-      for (const auto& selection : kAlarm) Set(selection, alarm + round + (round % 2) * 15, record);
+      for (const auto* list : kAlarm) Set(list, alarm + round + (round % 2) * 15, record);
       // The normal state of the ninth alarm is bit 0 of the second byte, which no click reaches.
       if (alarm == 8) set_[record + "ComboALM(2)"] = 0;
     }
@@ -96,10 +82,8 @@ class EveryPosition {
     ASSERT_EQ(writer_.Pick("OpDVR", recorder), Outcome::kDone);
     if (!writer_.app.frmMain.DemoMode.checked) writer_.Click("DemoMode");
     constexpr int kTimeouts = 6;
-    for (const auto& selection : kGlobal) {
-      const bool scroll_switch = std::string_view(selection.name) == "ComboScroll(0)";
-      Set(selection, scroll_switch ? 1 + round / kTimeouts : round);
-    }
+    for (const auto* list : kGlobal)
+      Set(list, std::string_view(list) == "ComboScroll(0)" ? 1 + round / kTimeouts : round);
     if (round % 3 != 0) writer_.Click("DemoMode");
 
     // Where the demonstration counts its lists from 1, a running one always shows the second.
@@ -147,14 +131,12 @@ class EveryPosition {
 
   void ExpectAllCovered() {
     if (!writer_.app.frmMain.DemoMode.checked) writer_.Click("DemoMode");
-    const auto expect = [&](const Selection& selection) {
-      if (!OnScreen(writer_, selection)) return;
-      EXPECT_EQ(covered_[selection.name].size(), writer_.ListOf(selection.name).items.size())
-          << selection.name;
-    };
-    for (const auto& selection : kGlobal) expect(selection);
-    for (const auto& selection : kAlarm) expect(selection);
-    for (const auto& selection : kSlot) expect(selection);
+    for (const auto& lists : {std::span<const char* const>(kGlobal), {kAlarm}, {kSlot}}) {
+      for (const auto* list : lists) {
+        if (!OnScreen(writer_, list)) continue;
+        EXPECT_EQ(covered_[list].size(), writer_.ListOf(list).items.size()) << list;
+      }
+    }
   }
 
   FirmwareId firmware_;

@@ -34,26 +34,29 @@ TEST(Texts, TriggeredTextAndTitleAreTrimmedAndFilledUp) {
   for (const auto& firmware : {FirmwareId{"V1400", "R12"}, {"V1324", "R17"}}) {
     PanelProgram program(firmware);
     auto& main = program.app.frmMain;
-    const auto enter = [&](const char* button, const std::string& text) {
-      program.EnterText(button, "something else");
-      if (main.ComboALM[0].position == 11) program.Byte(TRIGGER_TEXT, 12).replace(0, 2, "AC");
-      program.Mark();
-      EXPECT_EQ(program.EnterText(button, text), Outcome::kDone);
-      return program.Written();
-    };
+    int flags = 0;
     for (const auto& text : Texts()) {
       SCOPED_TRACE(firmware.Joined() + " [" + text + "]");
       const auto filled = Filled(text);
+      const auto record = ByteToHex(0xF0 | ++flags % 4) + filled;
       program.ShowAlarm(12);
-      EXPECT_EQ(enter("cmdSetTrigger", text), "TRIGGER_TEXT(12)=AC" + filled);
-      program.Byte(TRIGGER_TEXT, 13) = "AC" + filled;
+      program.EnterText("cmdSetTrigger", "else");
+      program.Byte(TRIGGER_TEXT, 12).replace(0, 2, record, 0, 2);
+      program.Mark();
+      program.EnterText("cmdSetTrigger", text);
+      EXPECT_EQ(program.Written(), "TRIGGER_TEXT(12)=" + record);
+      program.Byte(TRIGGER_TEXT, 13) = record;
       program.ShowAlarm(13);
       EXPECT_EQ(Filled(main.TextTrigger.text), filled);
       EXPECT_EQ(main.TextTrigger.text.find('\0'), std::string::npos);
-      EXPECT_EQ(program.Byte(TRIGGER_TEXT, 13), "AC" + filled);
+      EXPECT_EQ(program.At("ComboTrigger(0)"), flags & 1);
+      EXPECT_EQ(program.At("ComboTrigger(1)"), flags >> 1 & 1);
+      EXPECT_EQ(program.Byte(TRIGGER_TEXT, 13), record);
 
-      EXPECT_EQ(enter("cmdTitle", text), "ONSCRNTITL=" + filled);
-      program.EnterText("cmdTitle", "something else");
+      program.EnterText("cmdTitle", "else");
+      program.EnterText("cmdTitle", text);
+      EXPECT_EQ(program.Byte(ONSCRNTITL), filled);
+      program.EnterText("cmdTitle", "else");
       EXPECT_EQ(program.Load({{ONSCRNTITL, filled}}), "");
       EXPECT_EQ(Filled(main.Title_Text.text), filled);
     }
@@ -61,21 +64,6 @@ TEST(Texts, TriggeredTextAndTitleAreTrimmedAndFilledUp) {
     program.ShowAlarm(4);
     EXPECT_EQ(main.TextTrigger.text, "AB");
     EXPECT_EQ(program.Byte(TRIGGER_TEXT, 4).size(), 84U);
-  }
-}
-
-TEST(Texts, TheTwoFlagsOfATriggeredTextAreShown) {
-  PanelProgram program({"V1400", "R2"});
-  for (int before = 0; before < 4; ++before) {
-    for (int loaded = 0; loaded < 4; ++loaded) {
-      program.Byte(TRIGGER_TEXT, 2).replace(0, 2, ByteToHex(before));
-      program.Byte(TRIGGER_TEXT, 3).replace(0, 2, ByteToHex(0xF0 | loaded));
-      program.ShowAlarm(2);
-      program.ShowAlarm(3);
-      EXPECT_EQ(program.At("ComboTrigger(0)"), loaded & 1);
-      EXPECT_EQ(program.At("ComboTrigger(1)"), loaded >> 1);
-      EXPECT_EQ(program.Byte(TRIGGER_TEXT, 3), ByteToHex(0xF0 | loaded) + Repeat("0", 82));
-    }
   }
 }
 
