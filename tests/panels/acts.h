@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "catalogue/firmware.h"
+#include "core/codecs.h"
 #include "image/record_stream.h"
 #include "support/installed.h"
 
@@ -50,18 +51,6 @@ inline std::string Member(std::string_view array, int member) {
   return std::string(array) + "(" + std::to_string(member) + ")";
 }
 
-inline std::string Repeat(std::string_view text, int count) {
-  std::string repeated;
-  for (int time = 0; time < count; ++time) repeated += text;
-  return repeated;
-}
-
-inline std::string Digits(std::string_view text) {
-  std::string digits;
-  for (const char character : text) digits += ByteToHex(static_cast<unsigned char>(character));
-  return digits;
-}
-
 // A wide range in the slots, and a narrow one.
 inline const FirmwareId kFamilies[] = {{"V1400", "R12"}, {"V1300", "R14"}};
 
@@ -76,7 +65,7 @@ inline std::string Slot(int flags, const std::string& range, std::string text) {
   const auto last = text.find_last_not_of(' ', 38);
   std::replace(text.begin(), text.end(), '?', '\x7F');
   const int length = last == std::string::npos ? 0 : static_cast<int>(last) + 1;
-  return ByteToHex(flags) + range + ByteToHex(length) + Digits(text) + "00";
+  return ByteToHex(flags) + range + ByteToHex(length) + TextToHex(text) + "00";
 }
 
 class PanelProgram : public Installed {

@@ -47,23 +47,21 @@ TEST(Display, TheBlankTimeIsReadFromItsCounterAlone) {
 }
 
 TEST(Display, RtsShowsWhereTheFirmwareHasIt) {
-  const std::tuple<const char*, const char*, int> rows[] = {{"00", "01", kRts}, {"00", "00", 11},
-                                                            {"FF", "01", kRts}, {"FF", "02", 0},
-                                                            {"F2", "01", kRts}, {"F2", "00", kRts}};
+  struct Row {
+    const char *counter, *flag;
+    int shown, shown_without;
+  };
+  const Row rows[] = {{"00", "01", kRts, 11}, {"00", "00", 11, 11},  {"FF", "01", kRts, 0},
+                      {"FF", "02", 0, 0},     {"F2", "01", kRts, 0}, {"F2", "00", kRts, 0}};
   for (const auto& firmware : AllFirmware()) {
-    SCOPED_TRACE(firmware.Joined());
     PanelProgram program(firmware);
-    if (Before(firmware, 11, 26, 25)) {
-      program.Byte(BLNKRTS_BAK) = "01";
-      program.Byte(BLNKVAL) = "00";
-      ASSERT_EQ(program.Reload(), Outcome::kDone);
-      EXPECT_EQ(program.At("ComboDIP(0)"), 11);
-      EXPECT_EQ(program.Pick("ComboDIP(0)", kRts), Outcome::kRefused);
-      continue;
-    }
-    for (const auto& [counter, flag, shown] : rows) {
-      EXPECT_EQ(program.Load({{BLNKVAL, counter}, {BLNKRTS_BAK, flag}}), "");
-      EXPECT_EQ(program.At("ComboDIP(0)"), shown) << counter << flag;
+    const bool has = !Before(firmware, 11, 26, 25);
+    for (const auto& row : rows) {
+      SCOPED_TRACE(firmware.Joined() + " " + row.counter + row.flag);
+      // One release does not take the flag in again, and all that stands behind it moves.
+      EXPECT_EQ(program.Load({{BLNKVAL, row.counter}, {BLNKRTS_BAK, row.flag}}).empty(),
+                firmware.Joined() != "V1400R7");
+      EXPECT_EQ(program.At("ComboDIP(0)"), has ? row.shown : row.shown_without);
     }
   }
 }
