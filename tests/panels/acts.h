@@ -95,11 +95,8 @@ class PanelProgram : public Installed {
     return Click("OpenMenu");
   }
   Outcome Upload(const std::string& stream) {
-    Click("cmdConnect");
-    Click("frmSettSR.cmdSET");
-    Click("CmdUpDow(4)");
-    Unit("\x06");
-    Tick(app.frmMain.General_timer);
+    Click("cmdDisConnect");
+    OpenAndHold();
     Click("CmdUpDow(0)");
     Unit(stream);
     return Close(app.frmOK_buttom.form);
