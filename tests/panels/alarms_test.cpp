@@ -38,38 +38,16 @@ TEST(Alarms, ARecordHasItsTriggerItsDurationAndItsVideoLoss) {
     for (int loss = 0; firmware.IsV1400() && loss < 10; ++loss)
       expect("ComboALM(6)", loss, "EEF603" + ByteToHex(loss), true);
     EXPECT_EQ(program.Pick("ComboALM(1)", 29), Outcome::kRefused);
-  }
-}
-
-TEST(Alarms, WhatTheListsLackLeavesThem) {
-  PanelProgram program({"V1300", "R14"});
-  for (int number = 0; number < 256; ++number) {
-    const auto found = std::find(std::begin(kDurations), std::end(kDurations), ByteToHex(number));
-    const auto place = found == std::end(kDurations) ? 4 : found - kDurations;
-    const auto record = ByteToHex(number) + ByteToHex(number) + "09";
-    program.Byte(ALMSTRUCT_BAK, 15) = "1CF101";
-    program.Byte(ALMSTRUCT_BAK, 14) = record;
-    program.ShowAlarm(15);
-    program.ShowAlarm(14);
-    EXPECT_EQ(program.At("ComboALM(1)"), std::min(number, 28));
-    EXPECT_EQ(program.At("ComboALM(3)"), place) << number;
-    if (place == 4) {
-      EXPECT_EQ(program.Byte(ALMSTRUCT_BAK, 14), record);
+    program.Byte(ALMSTRUCT_BAK, 3) = Alarm(firmware, "1CF10407");
+    for (const char* unknown : {"1DF20407", "FFF30407", "1E040407"}) {
+      program.Byte(ALMSTRUCT_BAK, 4) = Alarm(firmware, unknown);
+      program.ShowAlarm(3);
+      program.ShowAlarm(4);
+      EXPECT_EQ(program.At("ComboALM(1)"), 28) << "what the lists lack leaves them";
+      EXPECT_EQ(program.At("ComboALM(3)"), 4);
+      EXPECT_EQ(program.Byte(ALMSTRUCT_BAK, 4), Alarm(firmware, unknown));
     }
   }
-}
-
-TEST(Alarms, AnUnknownFamilyKeepsItsDurationAndStoresItsFlag) {
-  Harness program({"V1500", "R1"});
-  ASSERT_EQ(program.Start(), Outcome::kDone);
-  program.app.image[ALMSTRUCT_BAK] = "01FF00";
-  ASSERT_EQ(program.Pick("ComboALM(0)", 0), Outcome::kDone);
-  ASSERT_EQ(program.Pick("ComboALM(3)", 5), Outcome::kDone);
-  EXPECT_EQ(program.app.image[ALMSTRUCT_BAK], "01FF00");
-  EXPECT_FALSE(program.app.ImageTouched);
-  ASSERT_EQ(program.Pick("ComboALM(4)", 3), Outcome::kDone);
-  EXPECT_EQ(program.app.image[ALMCFG_BAK], "03");
-  EXPECT_TRUE(program.app.ImageTouched) << "the next register brings its own fields only";
 }
 
 TEST(Alarms, TheNormalStateIsABitOfTheAlarmButForTheNinth) {

@@ -1,4 +1,4 @@
-// The demonstration after power-up, and the recorder that the unit feeds.
+// The demonstration after power-up, the recorder that the unit feeds, and what an unknown family has.
 #include "panels/acts.h"
 
 namespace ovl::testing {
@@ -84,6 +84,35 @@ TEST(Dvr, ARecorderEnablesItsPairAndALoadShowsTheIds) {
       expect_pairs(loaded, chosen == 1 && !lone_pair_off, chosen == 2);
     }
   }
+}
+
+TEST(UnknownFamily, ShowsItsRecorderAndItsCheckMarkAndKeepsTheRest) {
+  Harness program({"V1500", "R1"});
+  ASSERT_EQ(program.Start(), Outcome::kDone);
+  auto& app = program.app;
+  EXPECT_FALSE(app.ImageTouched);
+  ASSERT_EQ(program.Pick("ComboALM(4)", 3), Outcome::kDone);
+  EXPECT_EQ(app.image[ALMCFG_BAK], "03");
+  EXPECT_TRUE(app.ImageTouched) << "the next register brings its own fields only";
+
+  const std::pair<FieldId, const char*> bytes[] = {{HIST_REG, "01"},
+                                                   {HIST_DEST_ID, "05"},
+                                                   {DEMO_ENABLE, "91"},
+                                                   {IOCFG_BAK, "1D"},
+                                                   {ALMSTRUCT_BAK, "01FF00"}};
+  for (const auto& [field, byte] : bytes) app.image[field] = byte;
+  program.file_answers.emplace_back(program.folder.File("opened.bin"));
+  WriteWhole(program.folder.File("opened.bin"), PatternStream({"V1400", "R12"}) + "\r\n");
+  ASSERT_EQ(program.Click("OpenMenu"), Outcome::kDone);
+  EXPECT_EQ(app.frmMain.OpDVR.chosen, 1);
+  EXPECT_NE(app.frmMain.ComboKLM4011[0].position, 4);
+  EXPECT_TRUE(app.frmMain.DemoMode.checked && app.frmMain.CharacterList.visible);
+  EXPECT_NE(app.frmMain.DemoSpeed.position, 1);
+  EXPECT_NE(app.frmMain.ComboCOMM[0].position, 1);
+  const std::pair<const char*, int> picks[] = {
+      {"ComboALM(0)", 0}, {"ComboALM(3)", 5}, {"ComboCOMM(0)", 2}, {"CharacterList", 1}};
+  for (const auto& [list, position] : picks) ASSERT_EQ(program.Pick(list, position), Outcome::kDone) << list;
+  for (const auto& [field, byte] : bytes) EXPECT_EQ(app.image[field], byte);
 }
 
 }  // namespace

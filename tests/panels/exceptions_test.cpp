@@ -158,6 +158,23 @@ TEST(Range, AFieldTakesItsDigitsAndIsPutInFormWhenLeft) {
   }
 }
 
+TEST(Range, OfAnUnknownFamilyIsThatOfThePanelAndStaysAsTyped) {
+  Harness program({"V1500", "R1"});
+  ASSERT_EQ(program.Start(), Outcome::kDone);
+  auto& form = program.app.frmSetRange;
+  auto& slot = program.app.image.at(EXCPSTRS, 2);
+  slot = Slot(0, "012345678987", "x");
+  program.Pick("ComboExcp(0)", 1);
+  slot.replace(2, 4, "4321");
+  ASSERT_EQ(program.Click("cmdSetRange"), Outcome::kDone);
+  EXPECT_EQ(Fields(form), "0123 45 6789 87 .");
+  for (auto* box : {&form.Range_Hi, &form.SubRange_Hi, &form.Range_Low}) {
+    Dispatch(program.app, TypeEvent{box, "7"});
+    Dispatch(program.app, LeaveEvent{box});
+  }
+  EXPECT_EQ(Fields(form), "7 07 7 87 .");
+}
+
 TEST(Range, SetReplacesTheDigitsAloneAndClearWaitsForIt) {
   for (const auto& firmware : kFamilies) {
     SCOPED_TRACE(firmware.Joined());

@@ -11,12 +11,12 @@ using enum FieldId;
 
 // In an order in which a later pick takes nothing from an earlier one.
 constexpr const char* kGlobal[] = {
-    "ComboDIP(0)",    "ComboDIP(2)",     "ComboDIP(3)",     "ComboDIP(4)",     "ComboDIP(5)",
-    "ComboDIP(6)",    "ComboDIP(7)",     "ComboDIP(8)",     "ComboTD(0)",      "ComboTD(1)",
-    "ComboTD(2)",     "ComboTD(3)",      "ComboTD(4)",      "ComboTD(5)",      "ComboDIP(1)",
-    "ComboLang",      "ComboExcepRe(0)", "ComboExcepRe(1)", "ComboExcepRe(2)", "ComboScroll(1)",
-    "ComboScroll(0)", "ComboALM(4)",     "ComboALM(5)",     "CharacterList",   "DemoType",
-    "DemoSpeed",      "ComboKLM4011(0)", "ComboKLM4011(1)", "ComboKLM4011(2)", "ComboKLM4011(3)"};
+    "ComboDIP(0)",     "ComboDIP(2)",     "ComboDIP(3)",     "ComboDIP(4)",     "ComboDIP(5)",
+    "ComboDIP(6)",     "ComboDIP(7)",     "ComboDIP(8)",     "ComboTD(0)",      "ComboTD(1)",
+    "ComboTD(2)",      "ComboTD(3)",      "ComboTD(4)",      "ComboTD(5)",      "ComboDIP(1)",
+    "ComboLang",       "ComboExcepRe(0)", "ComboExcepRe(1)", "ComboExcepRe(2)", "ComboScroll(1)",
+    "ComboALM(4)",     "ComboALM(5)",     "CharacterList",   "DemoType",        "DemoSpeed",
+    "ComboKLM4011(0)", "ComboKLM4011(1)", "ComboKLM4011(2)", "ComboKLM4011(3)"};
 constexpr const char* kAlarm[] = {"ComboALM(1)", "ComboALM(2)",     "ComboALM(3)",     "ComboALM(6)",
                                   "ComboALM(7)", "ComboTrigger(0)", "ComboTrigger(1)", "ComboTrigger(2)"};
 constexpr const char* kSlot[] = {"ComboExcp(4)", "ComboExcp(1)", "ComboExcp(2)", "ComboExcp(3)",
@@ -24,9 +24,7 @@ constexpr const char* kSlot[] = {"ComboExcp(4)", "ComboExcp(1)", "ComboExcp(2)",
 
 // Some firmware hide a list together with its whole frame.
 bool OnScreen(PanelProgram& program, std::string_view list) {
-  const auto* frame = list == "ComboLang"               ? "Frame12"
-                      : list.starts_with("ComboScroll") ? "Frame14"
-                                                        : "Frame3";
+  const auto* frame = list == "ComboLang" ? "Frame12" : list == "ComboScroll(1)" ? "Frame14" : "Frame3";
   return program.Visible(list) && program.Visible(frame);
 }
 
@@ -81,9 +79,7 @@ class EveryPosition {
     const int recorder = round % 3 % (recorders.elements[2].visible ? 3 : 2);
     ASSERT_EQ(writer_.Pick("OpDVR", recorder), Outcome::kDone);
     if (!writer_.app.frmMain.DemoMode.checked) writer_.Click("DemoMode");
-    constexpr int kTimeouts = 6;
-    for (const auto* list : kGlobal)
-      Set(list, std::string_view(list) == "ComboScroll(0)" ? 1 + round / kTimeouts : round);
+    for (const auto* list : kGlobal) Set(list, round);
     if (round % 3 != 0) writer_.Click("DemoMode");
 
     // Where the demonstration counts its lists from 1, a running one always shows the second.
@@ -92,12 +88,6 @@ class EveryPosition {
     // Clock and title each need a line of the picture.
     const int least = set_["ComboTD(0)"] + set_["ComboTD(5)"];
     set_["ComboDIP(1)"] = std::max(set_["ComboDIP(1)"], least);
-    // The switch of scroll matching follows the timeout; switched off it stops the timeout, switched on it
-    // starts one.
-    if (set_.count("ComboScroll(0)") != 0) {
-      auto& timeout = set_["ComboScroll(1)"];
-      timeout = set_["ComboScroll(0)"] == 0 ? 0 : std::max(timeout, 1);
-    }
   }
 
   // V1400 R7 does not read the flag of the blank time that a download writes for it.

@@ -116,6 +116,7 @@ TEST(TextDialog, HoldsOneTextAndTheMainFormBack) {
     for (const char* way : {"Escape", "close", "SET"}) {
       ASSERT_EQ(program.Click(button), Outcome::kDone);
       EXPECT_EQ(dialog.form.caption + ": " + dialog.Text1.text, title + std::string(": FIRST"));
+      EXPECT_EQ(dialog.form.focus, &dialog.Text1);
       EXPECT_EQ(program.Pick("ComboExcp(0)", 3), Outcome::kRefused);
       EXPECT_EQ(program.Type(dialog.Text1, std::string(41, 'x')), Outcome::kRefused);
       program.Click("frmSetEXCPSTR.cmdClr");
