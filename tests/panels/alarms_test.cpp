@@ -44,6 +44,7 @@ TEST(Alarms, ARecordHasItsTriggerItsDurationAndItsVideoLoss) {
       program.ShowAlarm(3);
       program.ShowAlarm(4);
       EXPECT_EQ(program.At("ComboALM(1)"), 28) << "what the lists lack leaves them";
+      EXPECT_TRUE(program.Visible("lbAlmTrig"));
       EXPECT_EQ(program.At("ComboALM(3)"), 4);
       EXPECT_EQ(program.Byte(ALMSTRUCT_BAK, 4), Alarm(firmware, unknown));
     }

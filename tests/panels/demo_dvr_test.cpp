@@ -90,6 +90,19 @@ TEST(UnknownFamily, ShowsItsRecorderAndItsCheckMarkAndKeepsTheRest) {
   Harness program({"V1500", "R1"});
   ASSERT_EQ(program.Start(), Outcome::kDone);
   auto& app = program.app;
+  // No alarm and no slot was picked yet.
+  app.image[DECIMAL_POINT_BAK] = "00";
+  const auto untouched = app.image;
+  for (const char* list : {"ComboALM(1)", "ComboALM(2)", "ComboALM(3)", "ComboTrigger(0)", "ComboTrigger(2)",
+                           "ComboExcp(1)", "ComboExcp(5)"})
+    ASSERT_EQ(program.Pick(list, 1), Outcome::kDone) << list;
+  for (const char* button : {"cmdSetTrigger", "frmSetEXCPSTR.cmdSET", "cmdSetExcpstr", "frmSetEXCPSTR.cmdSET",
+                             "cmdSetRange", "frmSetRange.cmdSetRange"}) {
+    ASSERT_EQ(program.Click(button), Outcome::kDone) << button;
+    app.frmSetEXCPSTR.Text1.text = "typed";
+  }
+  EXPECT_EQ(app.frmMain.TextException.text, "typed");
+  EXPECT_TRUE(app.image == untouched);
   EXPECT_FALSE(app.ImageTouched);
   ASSERT_EQ(program.Pick("ComboALM(4)", 3), Outcome::kDone);
   EXPECT_EQ(app.image[ALMCFG_BAK], "03");

@@ -175,7 +175,7 @@ TEST(Range, OfAnUnknownFamilyIsThatOfThePanelAndStaysAsTyped) {
   EXPECT_EQ(Fields(form), "7 07 7 87 .");
 }
 
-TEST(Range, SetReplacesTheDigitsAloneAndClearWaitsForIt) {
+TEST(Range, SetReplacesTheDigitsAloneAndTheSeparatorIsStoredAtOnce) {
   for (const auto& firmware : kFamilies) {
     SCOPED_TRACE(firmware.Joined());
     const bool wide = firmware.IsV1400();
@@ -189,40 +189,32 @@ TEST(Range, SetReplacesTheDigitsAloneAndClearWaitsForIt) {
     program.Type(form.SubRange_Hi, "");
     program.Type(form.Range_Low, "5x");
     program.Type(form.SubRange_Low, "3");
+    program.Pick("ComboDec", 1);
+    EXPECT_EQ(program.Written(), "DECIMAL_POINT_BAK=01");
     program.Click("frmSetRange.cmdSetRange");
     EXPECT_TRUE(program.app.frmMain.form.enabled && !form.form.visible);
     const auto set = Slot(0xAF, wide ? "00000100000000000503" : "010000000503", " keep? ");
-    EXPECT_EQ(program.Written(), "EXCPSTRS(6)=" + set);
-    EXPECT_EQ(Shown(program), wide ? "00000100.00 00000005.03" : "0100.00 0005.03");
-
-    program.Click("cmdSetRange");
-    program.Click("frmSetRange.cmdClr");
-    EXPECT_EQ(Fields(form), wide ? "00000000 00 00000000 00 ." : "0000 00 0000 00 .");
     EXPECT_EQ(program.Byte(EXCPSTRS, 6), set);
+    EXPECT_EQ(std::ranges::count(program.Written(), '='), 2) << program.Written();
+    EXPECT_EQ(Shown(program), wide ? "00000100,00 00000005,03" : "0100,00 0005,03");
+
+    for (const bool closed : {true, false}) {
+      program.Click("cmdSetRange");
+      program.Pick("ComboDec", 1);
+      EXPECT_EQ(form.lbDec.caption, ",");
+      program.Click("frmSetRange.cmdClr");
+      EXPECT_EQ(Fields(form), wide ? "00000000 00 00000000 00 ." : "0000 00 0000 00 .");
+      EXPECT_EQ(form.ComboDec.position, 0);
+      EXPECT_EQ(program.Written(), "EXCPSTRS(6)=" + set);
+      EXPECT_EQ(Shown(program)[wide ? 8 : 4], closed ? ',' : '.')
+          << "the sign is shown from the next load on";
+      if (!closed) continue;
+      program.Close(form.form);
+      program.ShowSlot(6);
+    }
     ASSERT_EQ(program.Click("frmSetRange.cmdSetRange"), Outcome::kDone);
     EXPECT_EQ(program.Byte(EXCPSTRS, 6), Slot(0xAF, std::string(wide ? 20 : 12, '0'), " keep? "));
   }
-}
-
-TEST(Range, TheSeparatorHoldsForAllSlotsAndIsStoredAtOnce) {
-  PanelProgram program({"V1310", "R1"});
-  auto& form = program.app.frmSetRange;
-  program.Click("cmdSetRange");
-  ASSERT_EQ(program.Pick("ComboDec", 1), Outcome::kDone);
-  EXPECT_EQ(Fields(form), "0000 00 0000 00 ,");
-  program.Close(form.form);
-  EXPECT_EQ(program.Written(), "DECIMAL_POINT_BAK=01");
-  EXPECT_EQ(Shown(program), "0000.00 0000.00") << "shown from the next load on";
-  program.ShowSlot(2);
-  EXPECT_EQ(Shown(program), "0000,00 0000,00");
-  program.Click("cmdSetRange");
-  EXPECT_EQ(Fields(form), "0000 00 0000 00 ,");
-  program.Click("frmSetRange.cmdClr");
-  EXPECT_EQ(form.ComboDec.Text() + form.lbDec.caption, "..");
-  EXPECT_EQ(program.Written(), "");
-  program.Pick("ComboDec", 1);
-  program.Click("frmSetRange.cmdSetRange");
-  EXPECT_EQ(Shown(program), "0000,00 0000,00");
 }
 
 }  // namespace
