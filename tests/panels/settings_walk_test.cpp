@@ -11,12 +11,14 @@ using enum FieldId;
 
 // In an order in which a later pick takes nothing from an earlier one.
 constexpr const char* kGlobal[] = {
-    "ComboDIP(0)",     "ComboDIP(2)",     "ComboDIP(3)",     "ComboDIP(4)",     "ComboDIP(5)",
-    "ComboDIP(6)",     "ComboDIP(7)",     "ComboDIP(8)",     "ComboTD(0)",      "ComboTD(1)",
-    "ComboTD(2)",      "ComboTD(3)",      "ComboTD(4)",      "ComboTD(5)",      "ComboDIP(1)",
-    "ComboLang",       "ComboExcepRe(0)", "ComboExcepRe(1)", "ComboExcepRe(2)", "ComboScroll(1)",
-    "ComboALM(4)",     "ComboALM(5)",     "CharacterList",   "DemoType",        "DemoSpeed",
-    "ComboKLM4011(0)", "ComboKLM4011(1)", "ComboKLM4011(2)", "ComboKLM4011(3)"};
+    "ComboCOMM(0)",    "ComboCOMM(1)",    "ComboCOMM(2)",   "ComboCOMM(3)",    "ComboCOMM(4)",
+    "ComboCOMM(5)",    "ComboCOMM(7)",    "ComboCOMM(8)",   "ComboDIP(0)",     "ComboDIP(2)",
+    "ComboDIP(3)",     "ComboDIP(4)",     "ComboDIP(5)",    "ComboDIP(6)",     "ComboDIP(7)",
+    "ComboDIP(8)",     "ComboTD(0)",      "ComboTD(1)",     "ComboTD(2)",      "ComboTD(3)",
+    "ComboTD(4)",      "ComboTD(5)",      "ComboDIP(1)",    "ComboLang",       "ComboExcepRe(0)",
+    "ComboExcepRe(1)", "ComboExcepRe(2)", "ComboScroll(1)", "ComboALM(4)",     "ComboALM(5)",
+    "CharacterList",   "DemoType",        "DemoSpeed",      "ComboKLM4011(0)", "ComboKLM4011(1)",
+    "ComboKLM4011(2)", "ComboKLM4011(3)"};
 constexpr const char* kAlarm[] = {"ComboALM(1)", "ComboALM(2)",     "ComboALM(3)",     "ComboALM(6)",
                                   "ComboALM(7)", "ComboTrigger(0)", "ComboTrigger(1)", "ComboTrigger(2)"};
 constexpr const char* kSlot[] = {"ComboExcp(4)", "ComboExcp(1)", "ComboExcp(2)", "ComboExcp(3)",
