@@ -110,7 +110,7 @@ TEST(UnknownFamily, ShowsItsRecorderAndItsCheckMarkAndKeepsTheRest) {
 
   const std::pair<FieldId, const char*> bytes[] = {{HIST_REG, "01"},
                                                    {HIST_DEST_ID, "05"},
-                                                   {DEMO_ENABLE, "91"},
+                                                   {DEMO_ENABLE, "81"},
                                                    {IOCFG_BAK, "1D"},
                                                    {ALMSTRUCT_BAK, "01FF00"}};
   for (const auto& [field, byte] : bytes) app.image[field] = byte;
@@ -120,7 +120,7 @@ TEST(UnknownFamily, ShowsItsRecorderAndItsCheckMarkAndKeepsTheRest) {
   EXPECT_EQ(app.frmMain.OpDVR.chosen, 1);
   EXPECT_NE(app.frmMain.ComboKLM4011[0].position, 4);
   EXPECT_TRUE(app.frmMain.DemoMode.checked && app.frmMain.CharacterList.visible);
-  EXPECT_NE(app.frmMain.DemoSpeed.position, 1);
+  EXPECT_NE(app.frmMain.CharacterList.position, 1);
   EXPECT_NE(app.frmMain.ComboCOMM[0].position, 1);
   const std::pair<const char*, int> picks[] = {
       {"ComboALM(0)", 0}, {"ComboALM(3)", 5}, {"ComboCOMM(0)", 2}, {"CharacterList", 1}};
