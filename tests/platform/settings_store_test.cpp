@@ -73,8 +73,10 @@ TEST_F(Settings, AFileWithOtherTypesIsToldAndPutAsideByTheNextWrite) {
     QFile aside(File() + ".unsound");
     EXPECT_TRUE(aside.open(QIODevice::ReadOnly) && aside.readAll() == content);
   }
-  EXPECT_TRUE(store_.Write(kKey, "Version", "@V1400"));
-  EXPECT_EQ(At("Version"), SettingValue("@V1400"));
+  for (const auto& text : {"@V1400"s, "@Variant("s, "a\0b"s}) {
+    EXPECT_TRUE(store_.Write(kKey, "Version", text));
+    EXPECT_EQ(At("Version"), SettingValue(text));
+  }
 }
 
 TEST_F(Settings, WhatStandsInThePlaceOfFileOrFolderHoldsNothingAndIsNotWritten) {

@@ -61,11 +61,11 @@ QString SettingsStore::Path() const {
 #endif
 }
 
-// The toolkit makes any of its types from a value that begins with "@", and as large as the value says. The
-// program keeps texts and numbers; "@@" is a text that begins so.
+// The toolkit makes any of its types from such a value, as large as the value says. The program keeps texts
+// and numbers; "@@" is a text that begins with the sign.
 bool SettingsStore::IsSound() const {
   static const QRegularExpression other(
-      QStringLiteral(R"(@(?!Variant\(\\0\\0\\0\\x[23]\\0)|\\x0*40(?![0-9A-Fa-f])|\\0?100)"));
+      QStringLiteral(R"((@|\\x0*40|\\0?100)(Variant\((?!\\0\\0\\0\\x[23]\\0)|DateTime\())"));
   QFile file(Path());
   if (!file.open(QIODevice::ReadOnly)) return true;
   auto text = QString::fromLatin1(file.readAll());
