@@ -6,6 +6,12 @@
 namespace ovl::testing {
 namespace {
 
+// The firmware of the next start.
+std::string Stored(Harness& program) {
+  return std::get<std::string>(program.settings["Version"]) +
+         std::get<std::string>(program.settings["Release"]);
+}
+
 TEST(StartUp, LoadsTheFirstRegisterWholeAndEndsIdle) {
   Harness program({"V1400", "R12"});
   ASSERT_EQ(program.Start(), Outcome::kDone);
@@ -54,18 +60,15 @@ TEST(StartUp, ANumberInTheStoreIsAFirmwareText) {
 }
 
 TEST(StartUp, ADefaultImageThatCannotBeReadEndsTheProgram) {
-  Harness missing({"V1400", "R12"});
-  std::filesystem::remove(missing.folder.File("V1400/R12/GENERIC.bin"));
-  EXPECT_EQ(missing.Start(), Outcome::kEnded);
-  EXPECT_EQ(missing.TakeBox().text,
-            "                   No such file or directory\nPlease ReInstall Ovalon PC Software !!");
-
-  Harness folder({"V1400", "R12"});
-  std::filesystem::remove(folder.folder.File("V1400/R12/GENERIC.bin"));
-  std::filesystem::create_directory(folder.folder.File("V1400/R12/GENERIC.bin"));
-  EXPECT_EQ(folder.Start(), Outcome::kEnded);
-  EXPECT_EQ(folder.TakeBox().text,
-            "                   Is a directory\nPlease ReInstall Ovalon PC Software !!");
+  for (const auto* reason : {"No such file or directory", "Is a directory"}) {
+    Harness program({"V1400", "R12"});
+    const auto image = program.folder.File("V1400/R12/GENERIC.bin");
+    std::filesystem::remove(image);
+    if (std::string(reason) == "Is a directory") std::filesystem::create_directory(image);
+    EXPECT_EQ(program.Start(), Outcome::kEnded);
+    EXPECT_EQ(program.TakeBox().text,
+              "                   " + std::string(reason) + "\nPlease ReInstall Ovalon PC Software !!");
+  }
 }
 
 TEST(StartUp, TheCompactFirmwareRunsMappedAndKeepsItsCaptions) {
@@ -77,8 +80,7 @@ TEST(StartUp, TheCompactFirmwareRunsMappedAndKeepsItsCaptions) {
   EXPECT_EQ(program.Control("lbVersionID(0)").caption, "V1410R1");
   for (const auto& item : program.app.frmMain.version_items) EXPECT_FALSE(item.checked);
   EXPECT_EQ(program.Click("V1400R7mnu"), Outcome::kEnded);
-  EXPECT_EQ(std::get<std::string>(program.settings["Version"]), "V1400");
-  EXPECT_EQ(std::get<std::string>(program.settings["Release"]), "R7");
+  EXPECT_EQ(Stored(program), "V1400R7");
 }
 
 TEST(VersionMenu, TheRunningFirmwareDoesNothingAndAnotherOneEndsTheProgram) {
@@ -87,15 +89,14 @@ TEST(VersionMenu, TheRunningFirmwareDoesNothingAndAnotherOneEndsTheProgram) {
   EXPECT_EQ(program.Click("V1400R12mnu"), Outcome::kDone);
   EXPECT_TRUE(program.NoBoxLeft());
   EXPECT_EQ(program.Click("V1300R14mnu"), Outcome::kEnded);
-  EXPECT_EQ(std::get<std::string>(program.settings["Version"]), "V1300");
-  EXPECT_EQ(std::get<std::string>(program.settings["Release"]), "R14");
+  EXPECT_EQ(Stored(program), "V1300R14");
   EXPECT_EQ(program.TakeBox().text, "V1300R14 WILL TAKE EFFECT WHEN THE APPLICATION NEXT START");
 
   Harness read_only({"V1400", "R12"});
   ASSERT_EQ(read_only.Start(), Outcome::kDone);
   read_only.store_writable = false;
   EXPECT_EQ(read_only.Click("V1334R1mnu"), Outcome::kEnded);
-  EXPECT_EQ(std::get<std::string>(read_only.settings["Version"]), "V1400");
+  EXPECT_EQ(Stored(read_only), "V1400R12");
 }
 
 TEST(Exit, EndsAtOnceAndNothingIsLetInAfterwards) {

@@ -28,17 +28,18 @@ TEST(Editors, NameOnlyTheControlsThatStoreWhatDiffers) {
       {ALMSTRUCT_BAK, 7, '1', "ALARM OUTPUTS: VIDEO LOSS"},
       {TRIGGER_TEXT, 1, '2', "ALARM OUTPUTS: OUTPUT TEXT"},
       {TRIGGER_TEXT, 7, '7', "ALARM OUTPUTS: TRIGGER TEXT"},
+      {SCROLLMATCH_BAK, 0, '1', "EXCEPTION REPORT: SCROLL MATCHING, TIMEOUT"},
       {COMMCFG_BAK, 1, '4', "COMMUNICATION: DATA BITS"},
       {COMMCFG_BAK, 0, '1', "EXCEPTION REPORT: OUTPUT"},
   };
   Harness harness({"V1400", "R12"});
   harness.Start();
   for (const auto& row : kRows) {
-    const std::string before(row.field == EXCPSTRS ? 104 : 8, '0');
-    auto after = row.field == COMMCFG_BAK ? before.substr(0, 2) : before;
-    const auto was = after;
+    const bool one_byte = row.field == COMMCFG_BAK || row.field == SCROLLMATCH_BAK;
+    const std::string before(row.field == EXCPSTRS ? 104 : one_byte ? 2 : 8, '0');
+    auto after = before;
     after[row.digit] = row.other;
-    EXPECT_EQ(EditedBy(harness.app, row.field, "options", was, after), row.words) << after;
+    EXPECT_EQ(EditedBy(harness.app, row.field, "options", before, after), row.words) << after;
   }
 }
 

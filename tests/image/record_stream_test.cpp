@@ -13,25 +13,24 @@ namespace {
 // record.
 struct FirmwareLine {
   const char* version;
-  std::vector<const char*> releases;
-  const char* first;
-  const char* last;
-  std::size_t records;
+  std::vector<int> releases;
+  const char *first, *last;
+  int records;
   std::size_t last_digits;
 };
 
 const std::vector<FirmwareLine>& Lines() {
   static const std::vector<FirmwareLine> lines = {
-      {"V1400", {"R1", "R2", "R4"}, "$2000", "$2840", 67, 48},
-      {"V1400", {"R6"}, "$2000", "$2860", 68, 16},
-      {"V1400", {"R7"}, "$2000", "$2860", 68, 34},
-      {"V1400", {"R11", "R12"}, "$2000", "$2860", 68, 36},
-      {"V1300", {"R14", "R15", "R16", "R17", "R18", "R19", "R20", "R21", "R23"}, "$7800", "$7FE0", 64, 34},
-      {"V1324", {"R17", "R18", "R19", "R20", "R21", "R23", "R24"}, "$7800", "$7FE0", 64, 34},
-      {"V1300", {"R26", "R27"}, "$77F0", "$7FF0", 65, 2},
-      {"V1324", {"R25", "R26"}, "$77F0", "$7FF0", 65, 2},
-      {"V1310", {"R1"}, "$77F0", "$7FF0", 65, 2},
-      {"V1334", {"R1"}, "$77F0", "$7FF0", 65, 2},
+      {"V1400", {1, 2, 4}, "$2000", "$2840", 67, 48},
+      {"V1400", {6}, "$2000", "$2860", 68, 16},
+      {"V1400", {7}, "$2000", "$2860", 68, 34},
+      {"V1400", {11, 12}, "$2000", "$2860", 68, 36},
+      {"V1300", {14, 15, 16, 17, 18, 19, 20, 21, 23}, "$7800", "$7FE0", 64, 34},
+      {"V1324", {17, 18, 19, 20, 21, 23, 24}, "$7800", "$7FE0", 64, 34},
+      {"V1300", {26, 27}, "$77F0", "$7FF0", 65, 2},
+      {"V1324", {25, 26}, "$77F0", "$7FF0", 65, 2},
+      {"V1310", {1}, "$77F0", "$7FF0", 65, 2},
+      {"V1334", {1}, "$77F0", "$7FF0", 65, 2},
   };
   return lines;
 }
@@ -41,33 +40,33 @@ std::string Joined(std::string stream) {
   return stream;
 }
 
-struct Loaded {
-  explicit Loaded(const FirmwareId& firmware) : program(firmware) {
-    program.app.firmware = firmware;
-    PrepareCapabilities(program.app);
+// An image that came out of a stream.
+struct Loaded : Application {
+  Loaded(const FirmwareId& its_firmware, std::string_view stream) {
+    firmware = its_firmware;
+    PrepareCapabilities(*this);
+    Load(stream);
   }
-  bool Load(std::string_view stream) { return LoadStream(program.app, stream); }
-
-  Harness program;
+  void Load(std::string_view stream) { EXPECT_TRUE(LoadStream(*this, stream)); }
 };
+
+const FirmwareId kLatest{"V1400", "R12"};
 
 TEST(RecordStream, EveryFirmwareComposesWhatItDecoded) {
   int firmware_count = 0;
   for (const auto& line : Lines()) {
-    for (const auto* release : line.releases) {
-      const FirmwareId firmware{line.version, release};
+    for (const int release : line.releases) {
+      const FirmwareId firmware{line.version, "R" + std::to_string(release)};
       SCOPED_TRACE(firmware.Joined());
       const auto stream = RawPatternStream(firmware);
       EXPECT_EQ(stream.substr(0, 5), line.first);
-      EXPECT_EQ(std::count(stream.begin(), stream.end(), '$'), static_cast<long>(line.records));
+      EXPECT_EQ(std::count(stream.begin(), stream.end(), '$'), line.records);
       const auto tail = stream.substr(stream.rfind('$'));
       EXPECT_EQ(tail.substr(0, 5), line.last);
       EXPECT_EQ(tail.size(), 5 + line.last_digits + 1);
-
-      Loaded loaded(firmware);
-      ASSERT_TRUE(loaded.Load(Joined(stream)));
-      EXPECT_EQ(SectionsToStream(loaded.program.app), stream);
-      EXPECT_EQ(ReopenableStream(loaded.program.app), stream);
+      Loaded app(firmware, Joined(stream));
+      EXPECT_EQ(SectionsToStream(app), stream);
+      EXPECT_EQ(ReopenableStream(app), stream);
       ++firmware_count;
     }
   }
@@ -85,7 +84,7 @@ struct Place {
 
 TEST(FieldMap, FieldsStandWhereTheUnitKeepsThem) {
   using enum FieldId;
-  const std::vector<Place> places = {
+  const Place places[] = {
       {UNITADDR, 1, true, 11, 11, 11, 11},        {REGDV_TYPE_BAK, 1, true, 20, 20, 20, 20},
       {HIST_SRC_ID, 1, true, 31, 31, 31, 31},     {REGTYPE_MINOR, 1, false, 1, 1, 1, 1},
       {REGTYPE_EXT2, 1, false, -1, 3, -1, 3},     {HPADDR_BAK, 1, false, 2, 4, 2, 4},
@@ -95,23 +94,20 @@ TEST(FieldMap, FieldsStandWhereTheUnitKeepsThem) {
       {SW_HANDSHAKE, 1, false, 102, 104, -1, -1}, {ECRDIGIT_1, 1, false, -1, 111, -1, -1},
       {BLNKRTS_BAK, 1, false, -1, 112, -1, 79},
   };
-  const std::vector<std::pair<FirmwareId, int Place::*>> layouts = {
-      {{"V1400", "R4"}, &Place::early},
-      {{"V1400", "R12"}, &Place::late},
-      {{"V1300", "R14"}, &Place::old_v13},
-      {{"V1334", "R1"}, &Place::new_v13},
-  };
+  const std::pair<FirmwareId, int Place::*> layouts[] = {{{"V1400", "R4"}, &Place::early},
+                                                         {kLatest, &Place::late},
+                                                         {{"V1300", "R14"}, &Place::old_v13},
+                                                         {{"V1334", "R1"}, &Place::new_v13}};
   for (const auto& [firmware, offset] : layouts) {
-    Loaded loaded(firmware);
     const auto stream = Joined(RawPatternStream(firmware, 7));
+    const Loaded app(firmware, stream);
     std::string digits;
     ASSERT_EQ(ParseRecords(stream, ReadRegion(firmware), digits), ParseResult::kOk);
-    ASSERT_TRUE(loaded.Load(stream));
     const std::size_t syscfg = firmware.IsV1400() ? 64 : 96;
     for (const auto& place : places) {
       if (place.*offset < 0) continue;
       const auto at = (place.in_syscfg ? 0 : syscfg) + 2 * static_cast<std::size_t>(place.*offset);
-      EXPECT_EQ(loaded.program.app.image.at(place.field, place.entry), digits.substr(at, 2))
+      EXPECT_EQ(app.image.at(place.field, place.entry), digits.substr(at, 2))
           << firmware.Joined() << " offset " << place.*offset;
     }
   }
@@ -119,16 +115,17 @@ TEST(FieldMap, FieldsStandWhereTheUnitKeepsThem) {
 
 TEST(FieldMap, FirmwareThatLackAFieldHoldItsSentinelOrZero) {
   using enum FieldId;
-  Loaded v1324({"V1324", "R18"});
-  ASSERT_TRUE(v1324.Load(Joined(RawPatternStream({"V1324", "R18"}))));
-  for (int entry = 1; entry <= 4; ++entry) {
-    EXPECT_EQ(v1324.program.app.image.at(IPADDRESS, entry), " ........ATCPIP MODE");
+  const FirmwareId firmware{"V1324", "R18"};
+  const Loaded app(firmware, Joined(RawPatternStream(firmware)));
+  const std::pair<FieldId, const char*> rows[] = {{IPADDRESS, " ........ATCPIP MODE"},
+                                                  {IGSCFG_BAK, " ........ATM INTERFACE"},
+                                                  {DSPROW, " ........ANSI TERM"},
+                                                  {DSPCOL, " ........AANSI TERM"},
+                                                  {REGTYPE_EXT1, "00"},
+                                                  {REGTYPE_EXT2, "00"}};
+  for (const auto& [field, held] : rows) {
+    for (int entry = 1; entry <= EntryCount(field); ++entry) EXPECT_EQ(app.image.at(field, entry), held);
   }
-  EXPECT_EQ(v1324.program.app.image[IGSCFG_BAK], " ........ATM INTERFACE");
-  EXPECT_EQ(v1324.program.app.image[DSPROW], " ........ANSI TERM");
-  EXPECT_EQ(v1324.program.app.image[DSPCOL], " ........AANSI TERM");
-  EXPECT_EQ(v1324.program.app.image[REGTYPE_EXT1], "00");
-  EXPECT_EQ(v1324.program.app.image[REGTYPE_EXT2], "00");
 }
 
 TEST(FieldMap, ADefaultLoadTakesOnlyTheRegistersFields) {
@@ -140,19 +137,17 @@ TEST(FieldMap, ADefaultLoadTakesOnlyTheRegistersFields) {
       PC_LNA_BAK,     PC_IDNA_BAK,  MICROS_STATUS, DEVICE_INDEX_BAK, REGTYPE,       REGTYPE_MINOR,
       REGTYPE_EXT1,   REGTYPE_EXT2, IPADDRESS};
   for (const auto& line : Lines()) {
-    const FirmwareId firmware{line.version, line.releases.back()};
+    const FirmwareId firmware{line.version, "R" + std::to_string(line.releases.back())};
     SCOPED_TRACE(firmware.Joined());
-    Loaded loaded(firmware), whole(firmware);
-    const auto& image = loaded.program.app.image;
-    ASSERT_TRUE(loaded.Load(Joined(RawPatternStream(firmware, 1))));
-    const auto before = image;
-    loaded.program.app.PanelsReady = true;
-    ASSERT_TRUE(loaded.Load(Joined(RawPatternStream(firmware, 2, 9))));
-    ASSERT_TRUE(whole.Load(Joined(RawPatternStream(firmware, 2, 9))));
+    const Loaded old(firmware, Joined(RawPatternStream(firmware, 1)));
+    const Loaded whole(firmware, Joined(RawPatternStream(firmware, 2, 9)));
+    Loaded app(firmware, Joined(RawPatternStream(firmware, 1)));
+    app.PanelsReady = true;
+    app.Load(Joined(RawPatternStream(firmware, 2, 9)));
     for (const auto& field : FieldTable()) {
-      const auto& from = kRegisters.contains(field.id) ? whole.program.app.image : before;
+      const auto& from = kRegisters.contains(field.id) ? whole.image : old.image;
       for (int entry = 1; entry <= EntryCount(field.id); ++entry) {
-        EXPECT_EQ(image.at(field.id, entry), from.at(field.id, entry)) << field.name;
+        EXPECT_EQ(app.image.at(field.id, entry), from.at(field.id, entry)) << field.name;
       }
     }
   }
@@ -160,104 +155,46 @@ TEST(FieldMap, ADefaultLoadTakesOnlyTheRegistersFields) {
 
 TEST(RecordStream, BlankTimeFlagOfR7GoesOutOnceAPanelWroteIt) {
   const FirmwareId firmware{"V1400", "R7"};
-  Loaded loaded(firmware);
-  auto& app = loaded.program.app;
   const auto stream = RawPatternStream(firmware);
-  ASSERT_TRUE(loaded.Load(Joined(stream)));
+  Loaded app(firmware, Joined(stream));
   EXPECT_EQ(app.image[FieldId::BLNKRTS_BAK], "");
   app.image[FieldId::BLNKRTS_BAK] = "01";
   const auto longer = SectionsToStream(app);
   EXPECT_EQ(app.SYSFIXED.size(), 226U);
   EXPECT_EQ(longer.size(), stream.size() + 2);
-  ASSERT_TRUE(loaded.Load(Joined(stream)));
+  app.Load(Joined(stream));
   EXPECT_EQ(SectionsToStream(app), stream);
 }
 
-TEST(RecordStream, OldV13PaddingIsZeroAfterTheNextWrite) {
-  const FirmwareId firmware{"V1300", "R14"};
-  auto stream = Joined(RawPatternStream(firmware));
-  const std::size_t padding = 2 * 69 + 5;  // the tail of the first section begins in the second record
-  stream.replace(69 + 5 + 4, 2, "AB");
-  ASSERT_LT(padding, stream.size());
-  Loaded loaded(firmware);
-  ASSERT_TRUE(loaded.Load(stream));
-  EXPECT_EQ(Joined(SectionsToStream(loaded.program.app)), Joined(RawPatternStream(firmware)));
-}
-
-TEST(RecordStream, JunkAroundAndWrongAddressesInsideAreIgnored) {
-  const FirmwareId firmware{"V1400", "R12"};
-  const auto stream = Joined(RawPatternStream(firmware));
-  auto addresses = stream;
-  addresses.replace(69, 5, "$ZZZZ");
+TEST(RecordStream, WhatStandsOutsideTheFieldsIsIgnoredAndLowerCaseStays) {
+  const FirmwareId old{"V1300", "R14"};
+  const auto stream = Joined(RawPatternStream(kLatest)), padded = Joined(RawPatternStream(old));
+  const auto with = [](std::string text, std::size_t at, const std::string& other) {
+    return text.replace(at, other.size(), other);
+  };
   std::string every_byte;
   for (int code = 0; code < 256; ++code) every_byte += static_cast<char>(code);
-  for (const auto& text : {"junk #$20" + stream, stream + "#$2000trailing", addresses, every_byte + stream}) {
-    Loaded loaded(firmware);
-    ASSERT_TRUE(loaded.Load(text));
-    EXPECT_EQ(Joined(SectionsToStream(loaded.program.app)), stream);
+  const std::tuple<FirmwareId, std::string, std::string> rows[] = {
+      {kLatest, "junk #$20" + stream, stream},
+      {kLatest, stream + "#$2000trailing", stream},
+      {kLatest, with(stream, 69, "$ZZZZ"), stream},
+      {kLatest, every_byte + stream, stream},
+      {kLatest, with(stream, 5, "a5"), with(stream, 5, "a5")},
+      // The tail of the first section begins in the second record.
+      {old, with(padded, 69 + 5 + 4, "AB"), padded},
+  };
+  for (const auto& [firmware, text, composed] : rows) {
+    Loaded app(firmware, text);
+    EXPECT_EQ(Joined(SectionsToStream(app)), composed);
   }
-}
-
-TEST(RecordStream, LowerCaseDigitsSurviveTheLoad) {
-  const FirmwareId firmware{"V1400", "R12"};
-  auto stream = Joined(RawPatternStream(firmware));
-  stream.replace(5, 2, "a5");
-  Loaded loaded(firmware);
-  ASSERT_TRUE(loaded.Load(stream));
-  EXPECT_EQ(loaded.program.app.image[FieldId::EXECENTRY], "a5");
-  EXPECT_EQ(HexToInt("a5"), 5);
 }
 
 TEST(RecordStream, AShortStreamLeavesMissingFieldsEmpty) {
-  const FirmwareId firmware{"V1400", "R12"};
-  Loaded loaded(firmware);
-  ASSERT_TRUE(loaded.Load("$2000" + std::string(64, '1') + "$2860" + "22#"));
-  EXPECT_EQ(loaded.program.app.image[FieldId::HIST_SRC_ID], "11");
-  EXPECT_EQ(loaded.program.app.image[FieldId::REGTYPE], "22");
-  EXPECT_EQ(loaded.program.app.image[FieldId::REGTYPE_MINOR], "");
-  EXPECT_EQ(loaded.program.app.image.at(FieldId::EXCPSTRS, 24), "");
-}
-
-TEST(RecordStream, AnotherFamilyIsToldAndLeavesTheImage) {
-  Loaded loaded({"V1334", "R1"});
-  auto& app = loaded.program.app;
-  ASSERT_TRUE(loaded.Load(Joined(RawPatternStream({"V1334", "R1"}))));
-  const auto before = app.image;
-  app.frmMain.Timer_Operating.enabled = true;
-  app.OperatingCount = 3;
-  for (const auto& text :
-       {Joined(RawPatternStream({"V1400", "R12"})), Joined(RawPatternStream({"V1300", "R14"})), std::string(),
-        std::string(1 << 20, 'A')}) {
-    EXPECT_FALSE(loaded.Load(text));
-    EXPECT_EQ(loaded.program.TakeBox().text,
-              "The Ovalon Version is not compatible !!!\n       Try with the same version again.");
-    EXPECT_TRUE(app.image == before);
-  }
-  EXPECT_FALSE(app.frmMain.Timer_Operating.enabled);
-  EXPECT_EQ(app.OperatingCount, 0);
-}
-
-TEST(RecordStream, AStreamWithoutItsEndEndsTheProgram) {
-  const FirmwareId firmware{"V1400", "R4"};
-  const auto stream = Joined(RawPatternStream(firmware));
-  const std::vector<std::string> broken = {
-      Joined(RawPatternStream({"V1400", "R7"})),  // another last marker
-      stream.substr(0, stream.size() - 1),        // no "#"
-      "$2000" + std::string(1 << 20, 'A'),        // one megabyte without "#"
-      "$2000#",
-      RawPatternStream(firmware),  // line ends that were not taken out shift the records
-  };
-  for (const auto& text : broken) {
-    Loaded loaded(firmware);
-    loaded.program.app.image[FieldId::EXECENTRY] = "77";
-    static const std::string* current = nullptr;
-    current = &text;
-    EXPECT_EQ(DispatchStart(loaded.program.app, [](Application& app) { LoadStream(app, *current); }),
-              Outcome::kEnded);
-    EXPECT_EQ(loaded.program.TakeBox().text,
-              "                System File Error. \nPlease ReInstall Ovalon PC Software !!");
-    EXPECT_EQ(loaded.program.app.image[FieldId::EXECENTRY], "77");
-  }
+  const Loaded app(kLatest, "$2000" + std::string(64, '1') + "$2860" + "22#");
+  EXPECT_EQ(app.image[FieldId::HIST_SRC_ID], "11");
+  EXPECT_EQ(app.image[FieldId::REGTYPE], "22");
+  EXPECT_EQ(app.image[FieldId::REGTYPE_MINOR], "");
+  EXPECT_EQ(app.image.at(FieldId::EXCPSTRS, 24), "");
 }
 
 }  // namespace

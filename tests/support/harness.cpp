@@ -15,22 +15,58 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::size_t FirstDigitOfRegisterCode(const FirmwareId& firmware) {
-  return firmware.version == "V1400" ? 64 : 96;
+template <class Thing>
+Thing TakeFrom(std::deque<Thing>& things) {
+  if (things.empty()) return {};
+  auto first = std::move(things.front());
+  things.pop_front();
+  return first;
+}
+
+// Where the fixed section begins, with the register's code.
+std::size_t FixedOf(const FirmwareId& firmware) {
+  return firmware.IsV1400() ? 64 : 96;
+}
+
+std::string PatternDigits(const FirmwareId& firmware, int seed, int register_code) {
+  const auto size = DigitsOfImage(firmware);
+  std::string digits;
+  for (int byte = seed; digits.size() < size; byte = (byte * 5 + 3) % 256) digits += ByteToHex(byte);
+  if (!firmware.IsV1400()) {
+    const bool without_ip = firmware.version == "V1324" && firmware.Number() < 19;
+    const std::size_t used = size != 4066 ? 160 : (without_ip ? 146 : 154);
+    digits.replace(64, 32, 32, '0');
+    digits.replace(96 + used, 192 - used, 192 - used, '0');
+  }
+  return digits.replace(FixedOf(firmware), 2, ByteToHex(register_code));
+}
+
+// What the panels show after a load, in the form in which they would store it themselves.
+void PutInOrder(const FirmwareId& firmware, std::string& digits) {
+  const bool v1400 = firmware.IsV1400();
+  const std::size_t size = digits.size();
+  const std::size_t fixed = FixedOf(firmware) + ((v1400 ? size >= 4322 : size == 4098) ? 36 : 32);
+  const std::size_t strings = v1400 ? (size < 4322 ? 270 : (size == 4322 ? 288 : 290)) : 288;
+  const std::size_t slot = v1400 ? 106 : 98, record = v1400 ? 8 : 6;
+  const auto put = [&](std::size_t at, const std::string& value) { digits.replace(at, value.size(), value); };
+  put(fixed, "10");
+  const auto text = "VOID" + std::string(36, ' ');
+  const std::string rest(72, '0');
+  for (std::size_t shown = 0; shown < 2; ++shown) {
+    put(fixed + 2 + shown * record, v1400 ? "01FF0000" : "01FF00");
+    put(strings + 82 + shown * slot, "01" + std::string(v1400 ? 20 : 12, '1') + TextToCountedHex(text));
+    put(strings + 82 + 24 * slot + shown * 84, "01" + TextToHex("ALARM") + rest);
+  }
+  put(strings, TextToHex("TITLE") + rest);
 }
 
 }  // namespace
 
 std::size_t DigitsOfImage(const FirmwareId& firmware) {
   const int release = firmware.Number();
-  if (firmware.version == "V1400") {
-    if (release < 6) return 4272;
-    if (release == 6) return 4304;
-    return release == 7 ? 4322 : 4324;
-  }
-  const bool old =
-      (firmware.version == "V1300" && release < 26) || (firmware.version == "V1324" && release < 25);
-  return old ? 4066 : 4098;
+  if (firmware.IsV1400()) return release < 6 ? 4272 : release == 6 ? 4304 : release == 7 ? 4322 : 4324;
+  const int first_new = firmware.version == "V1300" ? 26 : firmware.version == "V1324" ? 25 : 0;
+  return release < first_new ? 4066 : 4098;
 }
 
 TemporaryFolder::TemporaryFolder() {
@@ -56,54 +92,6 @@ Locked::~Locked() {
   fs::permissions(path_, fs::perms::owner_all, ignored);
 }
 
-namespace {
-
-std::string PatternDigits(const FirmwareId& firmware, int seed, int register_code) {
-  std::string digits;
-  int byte = seed;
-  for (std::size_t place = 0; place < DigitsOfImage(firmware); place += 2) {
-    digits += ByteToHex(byte);
-    byte = (byte * 5 + 3) % 256;
-  }
-  if (firmware.version != "V1400") {
-    for (std::size_t place = 64; place < 96; ++place) digits[place] = '0';
-    const bool old = DigitsOfImage(firmware) == 4066;
-    const bool without_ip = firmware.version == "V1324" && firmware.Number() < 19;
-    const std::size_t used = old ? (without_ip ? 73 : 77) : 80;
-    for (std::size_t place = 96 + 2 * used; place < 96 + 192; ++place) digits[place] = '0';
-  }
-  return digits.replace(FirstDigitOfRegisterCode(firmware), 2, ByteToHex(register_code));
-}
-
-std::string Filled(const std::string& text, std::size_t digits) {
-  auto hex = TextToHex(text);
-  hex.resize(digits, '0');
-  return hex;
-}
-
-// What the panels show after a load, in the form in which they would store it themselves.
-void PutInOrder(const FirmwareId& firmware, std::string& digits) {
-  const bool v1400 = firmware.version == "V1400";
-  const std::size_t size = digits.size();
-  const bool extended = v1400 ? size >= 4322 : size == 4098;
-  const std::size_t fixed = v1400 ? 64 : 96;
-  const std::size_t strings = v1400 ? (size < 4322 ? 270 : (size == 4322 ? 288 : 290)) : 288;
-  const std::size_t slot = v1400 ? 106 : 98;
-  const std::size_t record = v1400 ? 8 : 6;
-  const auto put = [&](std::size_t at, const std::string& value) { digits.replace(at, value.size(), value); };
-  put(fixed + (extended ? 36 : 32), "10");
-  std::string text = "VOID";
-  text.resize(40, ' ');
-  for (std::size_t shown = 0; shown < 2; ++shown) {
-    put(fixed + (extended ? 38 : 34) + shown * record, v1400 ? "01FF0000" : "01FF00");
-    put(strings + 82 + shown * slot, "01" + std::string(v1400 ? 20 : 12, '1') + TextToCountedHex(text));
-    put(strings + 82 + 24 * slot + shown * 84, "01" + Filled("ALARM", 82));
-  }
-  put(strings, Filled("TITLE", 82));
-}
-
-}  // namespace
-
 std::string RawPatternStream(const FirmwareId& firmware, int seed, int register_code) {
   return BlockRecords(PatternDigits(firmware, seed, register_code), WriteRegion(firmware));
 }
@@ -119,9 +107,10 @@ Harness::Harness(const FirmwareId& firmware, const std::vector<std::string>& fur
   settings["Release"] = firmware.release;
   const auto images = folder.Path() / firmware.version / firmware.release;
   fs::create_directories(images);
-  WriteWhole((images / "GENERIC.bin").string(), PatternStream(firmware) + "\r\n");
-  int code = 1;
-  for (const auto& name : further_registers) {
+  auto names = further_registers;
+  names.insert(names.begin(), "GENERIC");
+  int code = 0;
+  for (const auto& name : names) {
     WriteWhole((images / (name + ".bin")).string(), PatternStream(firmware, code + 1, code) + "\r\n");
     ++code;
   }
@@ -134,14 +123,10 @@ void Harness::FillPlatform() {
   platform.show_message = [this](const MessageBox& box) { boxes.push_back(box); };
   platform.ask_file = [this](const FileDialog& dialog) -> std::optional<FileAnswer> {
     dialogs.push_back(dialog);
-    if (file_answers.empty()) return std::nullopt;
-    const auto answer = file_answers.front();
-    file_answers.pop_front();
-    if (!answer) return std::nullopt;
-    return FileAnswer{*answer, 0};
+    const auto answer = TakeFrom(file_answers);
+    return answer ? std::optional(FileAnswer{*answer, 0}) : std::nullopt;
   };
-  platform.read_setting = [this](std::string_view key,
-                                 std::string_view value) -> std::optional<SettingValue> {
+  platform.read_setting = [this](auto key, auto value) -> std::optional<SettingValue> {
     const auto found = settings.find(value);
     if (key != "SOFTWARE\\ORB\\OVL Software" || found == settings.end()) return std::nullopt;
     return found->second;
@@ -170,12 +155,7 @@ void Harness::FillPlatform() {
     wrote_ = true;
     return std::nullopt;
   };
-  serial.read = [this] {
-    if (incoming_.empty()) return std::string();
-    const std::string character(1, incoming_.front());
-    incoming_.pop_front();
-    return character;
-  };
+  serial.read = [this] { return TakeFrom(incoming_); };
   serial.clear_input = [this] { incoming_.clear(); };
   serial.clear_output = [] {};
 }
@@ -185,28 +165,16 @@ Outcome Harness::Start() {
 }
 
 void Harness::OpenAndHold() {
-  Click("cmdConnect");
-  Click("cmdSET");
-  Click("CmdUpDow(4)");
+  for (const auto* button : {"cmdConnect", "cmdSET", "CmdUpDow(4)"}) Click(button);
   Unit("\x06");
   Tick(app.frmMain.General_timer);
   TakeSent();
 }
 
-Face& Harness::Control(std::string_view name) {
+const ControlRef& Harness::Known(std::string_view name) const {
   const auto* found = app.registry.Find(name);
   if (found == nullptr) throw std::invalid_argument("no control " + std::string(name));
-  return FaceOf(found->control);
-}
-
-Outcome Harness::Click(std::string_view name) {
-  Control(name);
-  return Dispatch(app, ClickEvent{app.registry.Find(name)->control});
-}
-
-Outcome Harness::Pick(std::string_view name, int position) {
-  Control(name);
-  return Dispatch(app, PickEvent{app.registry.Find(name)->control, position});
+  return found->control;
 }
 
 Outcome Harness::Tick(Timer& timer, int count) {
@@ -218,7 +186,7 @@ Outcome Harness::Tick(Timer& timer, int count) {
 void Harness::Unit(std::string_view text) {
   for (const char character : text) {
     if (!line_open_) return;
-    incoming_.push_back(character);
+    incoming_.emplace_back(1, character);
     Dispatch(app, ReceivedEvent{});
   }
 }
@@ -234,15 +202,8 @@ void Harness::DrainAll() {
   } while (wrote_);
 }
 
-std::string Harness::TakeSent() {
-  return std::exchange(sent_, {});
-}
-
 MessageBox Harness::TakeBox() {
-  if (boxes.empty()) return {};
-  auto box = boxes.front();
-  boxes.pop_front();
-  return box;
+  return TakeFrom(boxes);
 }
 
 }  // namespace ovl::testing

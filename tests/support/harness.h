@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/gate.h"
@@ -18,8 +19,7 @@ class TemporaryFolder {
  public:
   TemporaryFolder();
   ~TemporaryFolder();
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+  TemporaryFolder(TemporaryFolder&&) = delete;
 
   const std::filesystem::path& Path() const { return path_; }
   std::string File(std::string_view below) const { return (path_ / below).string(); }
@@ -34,8 +34,7 @@ class Locked {
  public:
   explicit Locked(std::string path);
   ~Locked();
-  Locked(const Locked&) = delete;
-  Locked& operator=(const Locked&) = delete;
+  Locked(Locked&&) = delete;
 
  private:
   std::string path_;
@@ -60,8 +59,10 @@ class Harness {
   // A port opened, remote mode held, and its first tick over.
   void OpenAndHold();
 
-  Outcome Click(std::string_view name);
-  Outcome Pick(std::string_view name, int position);
+  Outcome Click(std::string_view name) { return Dispatch(app, ClickEvent{Known(name)}); }
+  Outcome Pick(std::string_view name, int position) {
+    return Dispatch(app, PickEvent{Known(name), position});
+  }
   Outcome Tick(Timer& timer, int count = 1);
   // Characters arrive one by one; those for a closed port are lost.
   void Unit(std::string_view text);
@@ -70,12 +71,12 @@ class Harness {
   void DrainAll();
 
   // What was written since it was last asked.
-  std::string TakeSent();
+  std::string TakeSent() { return std::exchange(sent_, {}); }
   // The oldest box not yet asked for; an empty text if there is none.
   MessageBox TakeBox();
   bool NoBoxLeft() const { return boxes.empty(); }
 
-  Face& Control(std::string_view name);
+  Face& Control(std::string_view name) { return FaceOf(Known(name)); }
 
   TemporaryFolder folder;
   Application app;
@@ -89,13 +90,17 @@ class Harness {
   ClockTime now;
   bool store_writable = true;
 
+ protected:
+  const ControlRef& Known(std::string_view name) const;
+
+  std::string sent_;
+  bool wrote_ = false;  // since the transmitter last ran empty
+
  private:
   void FillPlatform();
 
-  std::string sent_;
-  std::deque<char> incoming_;
+  std::deque<std::string> incoming_;
   bool line_open_ = false;
-  bool wrote_ = false;
 };
 
 }  // namespace ovl::testing

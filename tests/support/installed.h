@@ -3,15 +3,18 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <map>
 #include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "default_images.h"
 #include "image/field_map.h"
 #include "image/files.h"
+#include "image/report.h"
 #include "support/harness.h"
 
 namespace ovl::testing {
@@ -42,10 +45,8 @@ class Installed : public Harness {
   int Ext2() const { return Fixed(3); }
 
   std::string PathOf(std::string name) const {
-    if (firmware_.IsV1400()) {
-      std::replace(name.begin(), name.end(), '/', ' ');
-      std::replace(name.begin(), name.end(), ',', ' ');
-    }
+    const auto stands_for_blank = [](char character) { return character == '/' || character == ','; };
+    if (firmware_.IsV1400()) std::replace_if(name.begin(), name.end(), stands_for_blank, ' ');
     return folder.File(firmware_.version + "/" + firmware_.release + "/" + name + ".bin");
   }
 
@@ -63,10 +64,12 @@ class Installed : public Harness {
     return found == names.end() ? -1 : static_cast<int>(found - names.begin());
   }
   Outcome Register(std::string_view name) { return Pick("ComboReg", CodeOf(name)); }
-  Outcome Open(const std::optional<std::string>& path) {
+  // Presses what asks for a file, and answers.
+  Outcome Answer(std::string_view button, const std::optional<std::string>& path) {
     file_answers.push_back(path);
-    return Click("OpenMenu");
+    return Click(button);
   }
+  Outcome Open(const std::optional<std::string>& path) { return Answer("OpenMenu", path); }
 
   // From here on Written() tells every field that changes, by its name; the commonest have short ones. Where
   // all bytes were filled with one that nothing writes, no write hides behind the value that was there.
@@ -79,13 +82,19 @@ class Installed : public Harness {
     Mark();
   }
   std::string Written() const {
+    using enum FieldId;
+    static const std::map<FieldId, std::string_view> kShort = {{RX_BAUDRATE, "RX"},
+                                                               {TX_BAUDRATE, "TX"},
+                                                               {REGTYPE_MINOR, "M"},
+                                                               {REGTYPE_EXT1, "E"},
+                                                               {REGTYPE_EXT2, "X"}};
     std::string written;
     for (const auto& row : FieldTable()) {
       for (int entry = 1; entry <= EntryCount(row.id); ++entry) {
         if (app.image.at(row.id, entry) == before_.at(row.id, entry)) continue;
-        written += written.empty() ? "" : " ";
-        written += ShortName(row) + (EntryCount(row.id) > 1 ? "(" + std::to_string(entry) + ")" : "");
-        written += "=" + app.image.at(row.id, entry);
+        const auto name = kShort.contains(row.id) ? kShort.at(row.id) : row.name;
+        written.append(written.empty() ? "" : " ").append(EntryName(name, EntryCount(row.id), entry));
+        written.append("=").append(app.image.at(row.id, entry));
       }
     }
     return written;
@@ -101,31 +110,27 @@ class Installed : public Harness {
 
   // The entry selected in a list, or the element chosen in an option array.
   int Selected(std::string_view name) {
-    const auto& control = Known(name);
-    if (const auto* list = std::get_if<List*>(&control)) return (*list)->position;
-    return std::get<OptionArray*>(control)->chosen;
+    return std::holds_alternative<List*>(Known(name)) ? ListOf(name).position : ArrayOf(name).chosen;
   }
   // What a list or an option array offers, as "A|B|C".
   std::string Offered(std::string_view name) {
-    std::string texts;
-    const auto add = [&](const std::string& text) { texts += (texts.empty() ? "" : "|") + text; };
-    const auto& control = Known(name);
-    if (const auto* list = std::get_if<List*>(&control)) {
-      for (const auto& item : (*list)->items) add(item);
+    std::vector<std::string> texts;
+    if (std::holds_alternative<List*>(Known(name))) {
+      texts = ListOf(name).items;
     } else {
-      for (const auto& element : std::get<OptionArray*>(control)->elements) {
-        if (element.visible) add(element.caption);
+      for (const auto& element : ArrayOf(name).elements) {
+        if (element.visible) texts.push_back(element.caption);
       }
     }
-    return texts;
+    std::string all;
+    for (const auto& text : texts) all += (all.empty() ? "" : "|") + text;
+    return all;
   }
   // A control that this firmware, or the register selected, does not offer.
   void Reveal(std::string_view name) {
-    const auto& control = Known(name);
-    FaceOf(control).visible = FaceOf(control).enabled = true;
-    if (const auto* array = std::get_if<OptionArray*>(&control)) {
-      for (auto& element : (*array)->elements) element.visible = true;
-    }
+    Control(name).visible = Control(name).enabled = true;
+    if (!std::holds_alternative<OptionArray*>(Known(name))) return;
+    for (auto& element : ArrayOf(name).elements) element.visible = true;
   }
   // The option frames on the screen, "49 18" at the most.
   std::string Frames() const {
@@ -137,27 +142,6 @@ class Installed : public Harness {
   }
 
  private:
-  static std::string ShortName(const FieldRow& row) {
-    switch (row.id) {
-      case FieldId::RX_BAUDRATE:
-        return "RX";
-      case FieldId::TX_BAUDRATE:
-        return "TX";
-      case FieldId::REGTYPE_MINOR:
-        return "M";
-      case FieldId::REGTYPE_EXT1:
-        return "E";
-      case FieldId::REGTYPE_EXT2:
-        return "X";
-      default:
-        return std::string(row.name);
-    }
-  }
-  const ControlRef& Known(std::string_view name) {
-    Control(name);
-    return app.registry.Find(name)->control;
-  }
-
   FirmwareId firmware_;
   ConfigImage before_;
 };

@@ -3,9 +3,11 @@
 // remote mode, and gives up whatever it was doing when the line is closed.
 #pragma once
 
-#include <array>
+#include <algorithm>
 #include <cstdint>
+#include <limits>
 #include <string>
+#include <vector>
 
 #include "support/harness.h"
 
@@ -15,22 +17,68 @@ class Site : public Harness {
  public:
   enum class Passing { kWhole, kDropped, kDoubled, kGarbled };
 
-  explicit Site(const FirmwareId& firmware);
+  explicit Site(const FirmwareId& firmware) : Harness(firmware) {
+    for (const auto& control : app.registry.All()) {
+      if (auto* const* timer = std::get_if<Timer*>(&control.control)) timers_.push_back({*timer});
+    }
+    app.platform.serial.close = [this, close = app.platform.serial.close] {
+      close();
+      for (auto* text : {&sent_, &in_, &heard_}) text->clear();
+      wrote_ = remote_ = taking_ = false;
+    };
+    Start();
+  }
 
   // One character in either direction, and the event that it causes. False: nothing is under way.
-  bool Character(Passing passing = Passing::kWhole, unsigned garble = 0);
-  void UntilQuiet();
-  void Live(std::int64_t milliseconds);
+  bool Character(Passing passing = Passing::kWhole, unsigned garble = 0) {
+    if (app.ended) return false;
+    if (wrote_ && !stalled_) {
+      for (const char character : Arriving(sent_, passing, garble)) Hear(character);
+      if (sent_.empty()) {
+        wrote_ = false;
+        Dispatch(app, DrainedEvent{});
+      }
+    } else if (!in_.empty() && !silent_) {
+      Unit(Arriving(in_, passing, garble));
+    } else {
+      return false;
+    }
+    ++time_;
+    TickDue();
+    return true;
+  }
+  void UntilQuiet() {
+    while (Character()) continue;
+  }
+  void Live(std::int64_t milliseconds) {
+    const auto end = time_ + milliseconds;
+    while (time_ < end && !app.ended) {
+      if (Character()) continue;
+      time_ = std::min(NextDue(), end);
+      TickDue();
+    }
+  }
 
   // From now on the unit says nothing, the transmitter never runs empty, the device is gone, all is well
   // again.
   void Silence() { silent_ = true; }
   void Stall() { stalled_ = true; }
-  void Lose();
-  void Mend();
+  void Lose() {
+    line_error = "No such device";
+    silent_ = true;
+    in_.clear();
+    sent_.clear();
+  }
+  void Mend() {
+    line_error.reset();
+    silent_ = stalled_ = false;
+  }
 
   // From a closed port to remote mode.
-  void Hold();
+  void Hold() {
+    for (const auto* button : {"cmdConnect", "cmdSET", "CmdUpDow(4)"}) Click(button);
+    Live(400);
+  }
 
   std::string configuration;  // what the unit sends when it is asked to
   std::string taken;          // the last stream that it was sent
@@ -42,19 +90,67 @@ class Site : public Harness {
     std::int64_t at = 0;
   };
 
-  void Hear(char character);
-  void ToUnit(Passing passing, unsigned garble);
-  void ToProgram(Passing passing, unsigned garble);
-  std::int64_t NextDue();
-  void TickDue();
+  // The line's first character, as the other end hears it.
+  static std::string Arriving(std::string& line, Passing passing, unsigned garble) {
+    if (line.empty()) return {};
+    const auto bits = static_cast<unsigned char>(line.front()) ^ (passing == Passing::kGarbled ? garble : 0U);
+    line.erase(0, 1);
+    if (passing == Passing::kDropped) return {};
+    return std::string(passing == Passing::kDoubled ? 2 : 1, static_cast<char>(bits));
+  }
 
-  std::array<Due, 5> timers_;
+  void Hear(char character) {
+    if (!opened.back().ends_with(":9600,N,8,1")) return;
+    if (taking_) {
+      taken += character;
+      if (character != '#') return;
+      taking_ = remote_ = false;
+      in_ += '\x06';
+      return;
+    }
+    heard_ += character;
+    const auto told = [this](std::string_view text) { return heard_.ends_with(text); };
+    if (told("~~~SOH_REQUEST_EOT~~~k")) {
+      remote_ = true;
+      in_ += '\x06';
+    } else if (remote_ && told("\x05")) {
+      in_ += '\x0C';
+    } else if (remote_ && told("/LU\r")) {
+      remote_ = false;
+      in_ += configuration;
+    } else if (remote_ && told("/LD\r")) {
+      taking_ = true;
+      taken.clear();
+      in_ += '\x06';
+    }
+  }
+
+  // A timer that was started since the last look comes due a whole interval from now.
+  std::int64_t NextDue() {
+    auto next = std::numeric_limits<std::int64_t>::max();
+    for (auto& due : timers_) {
+      if (!due.timer->enabled) continue;
+      if (due.starts != due.timer->starts) due.at = time_ + due.timer->interval;
+      due.starts = due.timer->starts;
+      next = std::min(next, due.at);
+    }
+    return next;
+  }
+  void TickDue() {
+    while (NextDue() <= time_) {
+      for (auto& due : timers_) {
+        if (!due.timer->enabled || due.at > time_) continue;
+        due.at = time_ + due.timer->interval;
+        Tick(*due.timer);
+      }
+    }
+  }
+
+  std::vector<Due> timers_;
   std::int64_t time_ = 0;
-  std::string out_, in_;  // on their way to the unit and from it
-  std::size_t in_at_ = 0;
+  std::string in_;  // on its way from the unit
   std::string heard_;
-  bool owed_ = false;  // the transmitter will run empty
-  bool silent_ = false, stalled_ = false, remote_ = false, taking_ = false, out_of_tune_ = false;
+  bool silent_ = false, stalled_ = false, remote_ = false, taking_ = false;
 };
 
 }  // namespace ovl::testing

@@ -7,32 +7,28 @@ namespace {
 
 constexpr int kAnyMode = -1;
 
+// `actions` are the five buttons that need remote mode; `connect` is enabled or not where the state fixes it.
 struct StateRow {
-  const char* name;
-  bool open;
+  const char *name, *timers;
   int link_mode;
-  bool held;
-  const char* timers;
-  bool actions;  // the five buttons that need remote mode
-  bool remote;
-  std::optional<bool> connect;  // enabled, where the state fixes it
-  bool access;
+  bool open, held, actions, remote, access;
+  std::optional<bool> connect;
 };
 
 const StateRow& RowOf(State state) {
   static const std::array<StateRow, kStates.size()> rows = {{
-      {"Closed", false, kAnyMode, false, "", false, true, true, false},
-      {"Open", true, kAnyMode, false, "", false, true, {}, false},
-      {"Asked", true, 0, false, "General_timer", false, true, {}, false},
-      {"Held", true, 0, true, "Time_handcheck", true, true, {}, true},
-      {"Uploading", true, 1, true, "Timer_Operating", false, false, false, true},
-      {"DownloadCommand", true, 2, true, "Timer_Operating", false, false, false, true},
-      {"DownloadStream", true, 2, true, "", false, false, false, true},
-      {"TransferDone", true, kAnyMode, false, "", false, false, false, false},
-      {"SettingClock", true, 0, true, "Timer_Operating", true, true, {}, true},
-      {"ReadingHistory", true, 0, true, "", true, true, {}, true},
-      {"Resetting", true, 0, true, "", true, true, {}, true},
-      {"Scanning", true, kAnyMode, false, "BaudRateScan", false, true, {}, false},
+      {"Closed", "", kAnyMode, false, false, false, true, false, true},
+      {"Open", "", kAnyMode, true, false, false, true, false, {}},
+      {"Asked", "General_timer", 0, true, false, false, true, false, {}},
+      {"Held", "Time_handcheck", 0, true, true, true, true, true, {}},
+      {"Uploading", "Timer_Operating", 1, true, true, false, false, true, false},
+      {"DownloadCommand", "Timer_Operating", 2, true, true, false, false, true, false},
+      {"DownloadStream", "", 2, true, true, false, false, true, false},
+      {"TransferDone", "", kAnyMode, true, false, false, false, false, false},
+      {"SettingClock", "Timer_Operating", 0, true, true, true, true, true, {}},
+      {"ReadingHistory", "", 0, true, true, true, true, true, {}},
+      {"Resetting", "", 0, true, true, true, true, true, {}},
+      {"Scanning", "BaudRateScan", kAnyMode, true, false, false, true, false, {}},
   }};
   return rows.at(static_cast<std::size_t>(state));
 }
@@ -45,13 +41,11 @@ const char* NameOf(State state) {
 
 std::string RunningTimers(const Application& app) {
   std::string names;
-  const auto add = [&](const Timer& timer, const char* name) {
-    if (timer.enabled) names += (names.empty() ? "" : " ") + std::string(name);
-  };
-  add(app.frmMain.General_timer, "General_timer");
-  add(app.frmMain.Time_handcheck, "Time_handcheck");
-  add(app.frmMain.Timer_Operating, "Timer_Operating");
-  add(app.frmSettSR.BaudRateScan, "BaudRateScan");
+  for (const auto& control : app.registry.All()) {
+    const auto* timer = std::get_if<Timer*>(&control.control);
+    if (timer == nullptr || !(*timer)->enabled || *timer == &app.frmMain.Timer) continue;
+    names.append(names.empty() ? "" : " ").append(control.name);
+  }
   return names;
 }
 
@@ -68,9 +62,7 @@ std::string DifferenceFrom(State state, const Application& app) {
   expect(app.ScanActive == (state == State::kScanning), "ScanActive");
   expect(RunningTimers(app) == row.timers, "timers");
   expect(main.Timer.enabled, "Timer");
-  for (const auto action : {0U, 1U, 2U, 3U, 5U}) {
-    expect(main.CmdUpDow[action].enabled == row.actions, "CmdUpDow");
-  }
+  for (const auto at : {0U, 1U, 2U, 3U, 5U}) expect(main.CmdUpDow[at].enabled == row.actions, "CmdUpDow");
   expect(main.CmdUpDow[4].enabled == row.remote, "CmdUpDow(4)");
   expect(main.cmdConnect.visible != row.open && main.cmdDisConnect.visible == row.open, "cmdConnect visible");
   expect(main.cmdConnect.enabled == row.connect.value_or(main.cmdConnect.enabled), "cmdConnect enabled");
