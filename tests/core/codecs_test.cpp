@@ -6,9 +6,10 @@ namespace ovl {
 namespace {
 
 TEST(HexToInt, CountsWhatIsNoDigitAsZero) {
-  const std::vector<std::pair<std::string, int>> cases = {{"1G", 16},  {"G1", 1},   {"a5", 5}, {"F", 240},
-                                                          {"", 0},     {"FF", 255}, {" .", 0}, {"0A9", 10},
-                                                          {"A0", 160}, {".1", 1}};
+  const std::vector<std::pair<std::string, int>> cases = {
+      {"1G", 16},  {"G1", 1}, {"a5", 5},   {"F", 240},  {"", 0},
+      {"FF", 255}, {" .", 0}, {"0A9", 10}, {"A0", 160}, {".1", 1},
+  };
   for (const auto& [hex, value] : cases) EXPECT_EQ(HexToInt(hex), value) << hex;
 }
 

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "core/settings.h"
 #include "image/files.h"
 #include "support/harness.h"
+#include "support/state_table.h"
 
 namespace ovl::testing {
 namespace {
@@ -12,7 +14,7 @@ std::string Stored(Harness& program) {
          std::get<std::string>(program.settings["Release"]);
 }
 
-TEST(StartUp, LoadsTheFirstRegisterWholeAndEndsIdle) {
+TEST(StartUp, LoadsTheFirstRegisterWholeStandsIdleAndEndsAtOnce) {
   Harness program({"V1400", "R12"});
   ASSERT_EQ(program.Start(), Outcome::kDone);
   const auto& app = program.app;
@@ -21,20 +23,21 @@ TEST(StartUp, LoadsTheFirstRegisterWholeAndEndsIdle) {
   EXPECT_TRUE(app.ImageTouched);
   EXPECT_TRUE(app.PanelsReady);
   EXPECT_EQ(app.LinkMode, 255);
-  EXPECT_TRUE(app.frmMain.Timer.enabled);
-  EXPECT_FALSE(app.frmMain.MSComm1.PortOpen);
+  EXPECT_EQ(DifferenceFrom(State::kClosed, app), "");
   EXPECT_TRUE(program.Control("V1400R12mnu").enabled);
   EXPECT_TRUE(app.frmMain.version_items.at(6).checked);
   EXPECT_EQ(program.Control("lbVersionID(6)").caption, "V1400R12");
-  EXPECT_TRUE(program.Control("CmdUpDow(4)").enabled);
-  for (const auto* name : {"CmdUpDow(0)", "CmdUpDow(1)", "CmdUpDow(2)", "CmdUpDow(3)", "CmdUpDow(5)"}) {
-    EXPECT_FALSE(program.Control(name).enabled) << name;
-  }
   EXPECT_TRUE(program.NoBoxLeft());
+
+  program.OpenAndHold();
+  EXPECT_EQ(program.Click("menuExit"), Outcome::kEnded);
+  program.Unit("\x06");
+  EXPECT_EQ(program.Click("CmdUpDow(0)"), Outcome::kEnded);
+  EXPECT_EQ(program.TakeSent(), "");
 }
 
 TEST(StartUp, EndsWithoutAFirmware) {
-  const std::string too_long(300, 'V');
+  const std::string too_long(255, 'V');
   const std::vector<std::pair<SettingValue, SettingValue>> stores = {
       {"", "R12"}, {"V1400", ""}, {too_long, "R12"}, {"V1400", too_long}};
   for (const auto& [version, release] : stores) {
@@ -57,6 +60,17 @@ TEST(StartUp, ANumberInTheStoreIsAFirmwareText) {
   EXPECT_EQ(program.app.firmware.version, "1400");
   EXPECT_TRUE(program.app.frmMain.ComboReg.items.empty());
   EXPECT_TRUE(program.app.PanelsReady);
+  program.Click("menuSave");
+  EXPECT_EQ(program.TakeBox().text, "NoFile Save. !!!        ");
+  EXPECT_TRUE(program.dialogs.empty());
+}
+
+TEST(Settings, AnEmptyTextIsKeptAsABlankAndAnUnknownRootKeepsNothing) {
+  Harness program({"V1400", "R12"});
+  WriteSetting(program.app, SettingRoot::kLocalMachine, kSettingsKey, kVersionValue, "");
+  WriteSetting(program.app, SettingRoot::kNone, kSettingsKey, kReleaseValue, "R7");
+  EXPECT_EQ(Stored(program), " R12");
+  EXPECT_EQ(ReadSetting(program.app, SettingRoot::kNone, kSettingsKey, kReleaseValue), "");
 }
 
 TEST(StartUp, ADefaultImageThatCannotBeReadEndsTheProgram) {
@@ -91,22 +105,6 @@ TEST(VersionMenu, TheRunningFirmwareDoesNothingAndAnotherOneEndsTheProgram) {
   EXPECT_EQ(program.Click("V1300R14mnu"), Outcome::kEnded);
   EXPECT_EQ(Stored(program), "V1300R14");
   EXPECT_EQ(program.TakeBox().text, "V1300R14 WILL TAKE EFFECT WHEN THE APPLICATION NEXT START");
-
-  Harness read_only({"V1400", "R12"});
-  ASSERT_EQ(read_only.Start(), Outcome::kDone);
-  read_only.store_writable = false;
-  EXPECT_EQ(read_only.Click("V1334R1mnu"), Outcome::kEnded);
-  EXPECT_EQ(Stored(read_only), "V1400R12");
-}
-
-TEST(Exit, EndsAtOnceAndNothingIsLetInAfterwards) {
-  Harness program({"V1400", "R12"});
-  ASSERT_EQ(program.Start(), Outcome::kDone);
-  program.OpenAndHold();
-  EXPECT_EQ(program.Click("menuExit"), Outcome::kEnded);
-  program.Unit("\x06");
-  EXPECT_EQ(program.Click("CmdUpDow(0)"), Outcome::kEnded);
-  EXPECT_EQ(program.TakeSent(), "");
 }
 
 }  // namespace

@@ -23,15 +23,6 @@ std::string DigitsIn(const std::string& path) {
   return std::regex_replace(ReadWhole(path), kAround, "");
 }
 
-// Loads the first register's image with other bytes where no panel looks, so that a shift by one shows.
-void LoadMarkedImage(Installed& program, bool extended) {
-  for (const int byte : {5, 6, 7, 8, 9, 10, 12, 18}) program.SetByte("GENERIC", byte, ByteToHex(0xA0 + byte));
-  for (int byte = 2; byte < (extended ? 8 : 6); ++byte) {
-    program.SetByte("GENERIC", program.Fixed(byte), ByteToHex(0x60 + byte));
-  }
-  ASSERT_EQ(program.Open(program.PathOf("GENERIC")), Outcome::kDone);
-}
-
 TEST(FileCommands, AskWithTheirNamesAndFilters) {
   using Kind = FileDialog::Kind;
   constexpr const char* kTexts = "Text Files(*.txt)|*.txt|All Files(*.*)|*.*";
@@ -67,6 +58,7 @@ TEST(FileCommands, SaveAndOpenDifferByFirmware) {
     Reopened reopened;
   };
   using enum Reopened;
+  constexpr auto kOwnersAlone = std::filesystem::perms::owner_all;
   const Row rows[] = {
       {{"V1400", "R2"}, {0x2000, 0x2840}, kSame},     {{"V1400", "R6"}, {0x2000, 0x2860}, kSame},
       {{"V1400", "R7"}, {0x2000, 0x2860}, kShifted},  {{"V1400", "R11"}, {0x2000, 0x2860}, kShifted},
@@ -78,7 +70,11 @@ TEST(FileCommands, SaveAndOpenDifferByFirmware) {
   for (const auto& row : rows) {
     SCOPED_TRACE(row.firmware.Joined());
     Installed program(row.firmware);
-    LoadMarkedImage(program, row.reopened != kSame);
+    // The first register's image with other bytes where no panel looks, so that a shift by one shows.
+    const auto mark = [&](int byte, int value) { program.SetByte("GENERIC", byte, ByteToHex(value)); };
+    for (const int byte : {5, 6, 7, 8, 9, 10, 12, 18}) mark(byte, 0xA0 + byte);
+    for (int byte = 2; byte < (row.reopened == kSame ? 6 : 8); ++byte) mark(program.Fixed(byte), 0x60 + byte);
+    ASSERT_EQ(program.Open(program.PathOf("GENERIC")), Outcome::kDone);
     auto expected = DigitsIn(program.PathOf("GENERIC"));
     if (row.reopened == kShifted) {
       // Without the two bytes behind the variant, and without what stands behind the software handshake.
@@ -87,12 +83,14 @@ TEST(FileCommands, SaveAndOpenDifferByFirmware) {
     const auto path = program.folder.File("saved.bin");
     WriteWhole(path, "what stood there before");
     WriteWhole(path + ".0.new", "a name beside it that is taken");
+    std::filesystem::permissions(path, kOwnersAlone);
     ASSERT_EQ(program.Answer("menuSave", path), Outcome::kDone);
     const auto box = program.TakeBox();
     EXPECT_EQ(box.text, "Save Completed.        ");
     EXPECT_EQ(box.icon, BoxIcon::kInformation);
     EXPECT_EQ(ReadWhole(path), BlockRecords(expected, row.region) + "\r\n");
     EXPECT_EQ(ReadWhole(path + ".0.new"), "a name beside it that is taken");
+    EXPECT_EQ(std::filesystem::status(path).permissions(), kOwnersAlone);
 
     const auto& image = program.app.image;
     const auto kept = image;
@@ -126,19 +124,21 @@ TEST(FileCommands, ASaveThatComesToNothingSaysSo) {
     EXPECT_EQ(box.icon, BoxIcon::kInformation);
     EXPECT_TRUE(program.NoBoxLeft());
     EXPECT_EQ(program.Written(), "");
-    EXPECT_FALSE(program.app.UploadApplying);
   }
 }
 
 TEST(FileCommands, AnOpenWithoutAFileLeavesAllButTheNextPick) {
   Installed program(kLatest);
-  const auto kept_from_us = program.folder.File("locked.bin");
+  const auto kept_from_us = program.folder.File("locked.bin"), huge = program.folder.File("huge.bin");
   WriteWhole(kept_from_us, ReadWhole(program.PathOf("ADS")));
+  WriteWhole(huge, "");
+  std::filesystem::resize_file(huge, (64 << 20) + 1);
   const std::pair<std::optional<std::string>, const char*> sources[] = {
       {std::nullopt, "Operation canceled"},
       {program.folder.File("missing.bin"), "No such file or directory"},
       {program.folder.Path().string(), "Is a directory"},
       {kept_from_us, "Permission denied"},
+      {huge, "File too large"},
       {"/dev/null", "Invalid argument"},
       {"/proc/self/mem", "Input/output error"},
   };
@@ -165,16 +165,11 @@ TEST(FileCommands, AnOpenWithoutAFileLeavesAllButTheNextPick) {
   EXPECT_EQ(program.Frames(), "1");
 }
 
-// Every byte, as many times.
-std::string Noise(int times) {
-  std::string noise;
-  for (int at = 0; at < 256 * times; ++at) noise += static_cast<char>(at);
-  return noise;
-}
-
 TEST(FileCommands, AFileOfNoUseIsToldAndThePanelsShowTheOldImage) {
   Installed program(kLatest);
-  const std::string contents[] = {"", "\r\n", Noise(4096), PatternStream({"V1300", "R14"}) + "\r\n",
+  std::string noise;
+  for (int at = 0; at < 1 << 20; ++at) noise += static_cast<char>(at);
+  const std::string contents[] = {"", "\r\n", noise, PatternStream({"V1300", "R14"}) + "\r\n",
                                   PatternStream({"V1334", "R1"}) + "\r\n"};
   for (const auto& content : contents) {
     SCOPED_TRACE(content.substr(0, 5));
@@ -207,7 +202,7 @@ TEST(FileCommands, AFileWithoutItsEndEndsTheProgram) {
       {kLatest, "same start, other end", PatternStream({"V1400", "R4"}) + "\r\n"},
       {kLatest, "no end mark", whole.substr(0, whole.size() - 1) + "\r\n"},
       {kLatest, "nothing between the marks", "$2000#"},
-      {kLatest, "noise behind the start", "$2000" + Noise(4096)},
+      {kLatest, "letters behind the start", "$2000" + std::string(1 << 20, 'A')},
       {kLatest, "LF alone is no line end", line_feeds_only},
   };
   for (const auto& [firmware, what, content] : rows) {

@@ -19,21 +19,18 @@ struct FirmwareLine {
   std::size_t last_digits;
 };
 
-const std::vector<FirmwareLine>& Lines() {
-  static const std::vector<FirmwareLine> lines = {
-      {"V1400", {1, 2, 4}, "$2000", "$2840", 67, 48},
-      {"V1400", {6}, "$2000", "$2860", 68, 16},
-      {"V1400", {7}, "$2000", "$2860", 68, 34},
-      {"V1400", {11, 12}, "$2000", "$2860", 68, 36},
-      {"V1300", {14, 15, 16, 17, 18, 19, 20, 21, 23}, "$7800", "$7FE0", 64, 34},
-      {"V1324", {17, 18, 19, 20, 21, 23, 24}, "$7800", "$7FE0", 64, 34},
-      {"V1300", {26, 27}, "$77F0", "$7FF0", 65, 2},
-      {"V1324", {25, 26}, "$77F0", "$7FF0", 65, 2},
-      {"V1310", {1}, "$77F0", "$7FF0", 65, 2},
-      {"V1334", {1}, "$77F0", "$7FF0", 65, 2},
-  };
-  return lines;
-}
+const FirmwareLine kLines[] = {
+    {"V1400", {1, 2, 4}, "$2000", "$2840", 67, 48},
+    {"V1400", {6}, "$2000", "$2860", 68, 16},
+    {"V1400", {7}, "$2000", "$2860", 68, 34},
+    {"V1400", {11, 12}, "$2000", "$2860", 68, 36},
+    {"V1300", {14, 15, 16, 17, 18, 19, 20, 21, 23}, "$7800", "$7FE0", 64, 34},
+    {"V1324", {17, 18, 19, 20, 21, 23, 24}, "$7800", "$7FE0", 64, 34},
+    {"V1300", {26, 27}, "$77F0", "$7FF0", 65, 2},
+    {"V1324", {25, 26}, "$77F0", "$7FF0", 65, 2},
+    {"V1310", {1}, "$77F0", "$7FF0", 65, 2},
+    {"V1334", {1}, "$77F0", "$7FF0", 65, 2},
+};
 
 std::string Joined(std::string stream) {
   std::erase_if(stream, [](char character) { return character == '\r' || character == '\n'; });
@@ -53,8 +50,7 @@ struct Loaded : Application {
 const FirmwareId kLatest{"V1400", "R12"};
 
 TEST(RecordStream, EveryFirmwareComposesWhatItDecoded) {
-  int firmware_count = 0;
-  for (const auto& line : Lines()) {
+  for (const auto& line : kLines) {
     for (const int release : line.releases) {
       const FirmwareId firmware{line.version, "R" + std::to_string(release)};
       SCOPED_TRACE(firmware.Joined());
@@ -67,10 +63,8 @@ TEST(RecordStream, EveryFirmwareComposesWhatItDecoded) {
       Loaded app(firmware, Joined(stream));
       EXPECT_EQ(SectionsToStream(app), stream);
       EXPECT_EQ(ReopenableStream(app), stream);
-      ++firmware_count;
     }
   }
-  EXPECT_EQ(firmware_count, 29);
 }
 
 // Field, byte offset in its section for the early and late V1400, the old and the new V13xx layout; -1:
@@ -136,7 +130,7 @@ TEST(FieldMap, ADefaultLoadTakesOnlyTheRegistersFields) {
       REGDV_TYPE_BAK, REG_GNA_BAK,  REG_LNA_BAK,   REG_IDNA_BAK,     PCDV_TYPE_BAK, PC_GNA_BAK,
       PC_LNA_BAK,     PC_IDNA_BAK,  MICROS_STATUS, DEVICE_INDEX_BAK, REGTYPE,       REGTYPE_MINOR,
       REGTYPE_EXT1,   REGTYPE_EXT2, IPADDRESS};
-  for (const auto& line : Lines()) {
+  for (const auto& line : kLines) {
     const FirmwareId firmware{line.version, "R" + std::to_string(line.releases.back())};
     SCOPED_TRACE(firmware.Joined());
     const Loaded old(firmware, Joined(RawPatternStream(firmware, 1)));
@@ -160,7 +154,6 @@ TEST(RecordStream, BlankTimeFlagOfR7GoesOutOnceAPanelWroteIt) {
   EXPECT_EQ(app.image[FieldId::BLNKRTS_BAK], "");
   app.image[FieldId::BLNKRTS_BAK] = "01";
   const auto longer = SectionsToStream(app);
-  EXPECT_EQ(app.SYSFIXED.size(), 226U);
   EXPECT_EQ(longer.size(), stream.size() + 2);
   app.Load(Joined(stream));
   EXPECT_EQ(SectionsToStream(app), stream);

@@ -88,7 +88,6 @@ class Harness {
   std::optional<std::string> open_error;
   std::optional<std::string> line_error;  // the device is lost: every write fails
   ClockTime now;
-  bool store_writable = true;
 
  protected:
   const ControlRef& Known(std::string_view name) const;
