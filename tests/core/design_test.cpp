@@ -75,6 +75,9 @@ TEST(Design, CaptionsGroupsWindowsAndWordsBesideThem) {
     ASSERT_NE(control, nullptr) << row;
     EXPECT_EQ(FaceOf(control->control).caption, row.substr(end + 1)) << row;
   }
+  const auto& port = app.frmSettSR;
+  EXPECT_EQ(port.comport_frame.caption + "," + port.baudrate_frame.caption, "Comport,Baudrate");
+  EXPECT_EQ(port.data_bits_frame.caption + "," + port.parity_frame.caption, "Data Bits,Parity");
 }
 
 TEST(Design, HidesAndHoldsBackWhatWaits) {

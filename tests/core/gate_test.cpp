@@ -25,6 +25,7 @@ TEST(Gate, LetsInOnlyWhatAPersonCanReach) {
                            TypeEvent{&window.Text1, "X"},
                            ClickEvent{&window.cmdSET},
                            LeaveEvent{&window.Text1},
+                           PointEvent{&window.Text1},
                            CloseEvent{&window.form},
                            PickEvent{&main.ComboKLM4011[0], 3},
                            PickEvent{&main.ComboXML, 0},
