@@ -24,6 +24,7 @@ TEST(StartUp, LoadsTheFirstRegisterWholeStandsIdleAndEndsAtOnce) {
   EXPECT_TRUE(app.PanelsReady);
   EXPECT_EQ(app.LinkMode, 255);
   EXPECT_EQ(DifferenceFrom(State::kClosed, app), "");
+  for (const auto& days : app.frmMain.ComboDay) EXPECT_EQ(days.visible, days.index == 0);
   EXPECT_TRUE(program.Control("V1400R12mnu").enabled);
   EXPECT_TRUE(app.frmMain.version_items.at(6).checked);
   EXPECT_EQ(program.Control("lbVersionID(6)").caption, "V1400R12");

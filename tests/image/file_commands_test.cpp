@@ -154,7 +154,6 @@ TEST(FileCommands, AnOpenWithoutAFileLeavesAllButTheNextPick) {
     EXPECT_EQ(program.Written(), "");
     EXPECT_TRUE(program.app.PanelsReady);
     EXPECT_TRUE(program.app.UploadApplying);
-    EXPECT_EQ(program.app.StreamText, "");
     ASSERT_EQ(program.Register("ADS"), Outcome::kDone);
     EXPECT_EQ(program.Written(), "");
     EXPECT_FALSE(program.app.UploadApplying);
