@@ -81,16 +81,19 @@ TEST(FileCommands, SaveAndOpenDifferByFirmware) {
       expected.erase(64 + 210, row.firmware.release == "R7" ? 14 : 16).erase(64 + 4, 4);
     }
     const auto path = program.folder.File("saved.bin");
-    WriteWhole(path, "what stood there before");
-    WriteWhole(path + ".0.new", "a name beside it that is taken");
-    std::filesystem::permissions(path, kOwnersAlone);
+    const auto target = program.folder.File("target.bin");
+    WriteWhole(target, "what stood there before");
+    WriteWhole(target + ".0.new", "a name beside it that is taken");
+    std::filesystem::permissions(target, kOwnersAlone);
+    std::filesystem::create_symlink("target.bin", path);
     ASSERT_EQ(program.Answer("menuSave", path), Outcome::kDone);
     const auto box = program.TakeBox();
     EXPECT_EQ(box.text, "Save Completed.        ");
     EXPECT_EQ(box.icon, BoxIcon::kInformation);
     EXPECT_EQ(ReadWhole(path), BlockRecords(expected, row.region) + "\r\n");
-    EXPECT_EQ(ReadWhole(path + ".0.new"), "a name beside it that is taken");
-    EXPECT_EQ(std::filesystem::status(path).permissions(), kOwnersAlone);
+    EXPECT_EQ(ReadWhole(target + ".0.new"), "a name beside it that is taken");
+    EXPECT_EQ(std::filesystem::status(target).permissions(), kOwnersAlone);
+    EXPECT_TRUE(std::filesystem::is_symlink(path));
 
     const auto& image = program.app.image;
     const auto kept = image;
@@ -99,10 +102,7 @@ TEST(FileCommands, SaveAndOpenDifferByFirmware) {
     ASSERT_EQ(program.Open(path), Outcome::kDone);
     EXPECT_EQ(program.TakeBox().text, row.reopened == kRefused ? kForeign : "");
     EXPECT_TRUE(program.NoBoxLeft());
-    EXPECT_TRUE(program.app.PanelsReady);
-    EXPECT_TRUE(program.app.ImageTouched);
-    EXPECT_FALSE(program.app.UploadApplying);
-    EXPECT_EQ(program.app.CurrentFilePath, path);
+    EXPECT_TRUE(program.app.PanelsReady && program.app.ImageTouched && !program.app.UploadApplying);
     EXPECT_EQ(program.Selected("ComboReg"), HexToInt(image[FieldId::REGTYPE]));
     if (row.reopened == kShifted) {
       EXPECT_EQ(image[FieldId::REGTYPE_EXT1] + image[FieldId::REGTYPE_EXT2], "6465");
@@ -110,6 +110,7 @@ TEST(FileCommands, SaveAndOpenDifferByFirmware) {
       EXPECT_EQ(image[FieldId::SITE_NO_BAK], "AC");
     } else {
       EXPECT_TRUE(image == (row.reopened == kSame ? kept : other));
+      EXPECT_EQ(program.app.known_image == image, row.reopened == kSame);
     }
   }
 }
