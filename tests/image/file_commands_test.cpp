@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <regex>
 
 #include "core/actions.h"
 #include "image/record_stream.h"
@@ -19,8 +18,11 @@ constexpr const char* kBroken = "                System File Error. \nPlease ReI
 
 // A file's digits, taken out of it without the program's help.
 std::string DigitsIn(const std::string& path) {
-  static const std::regex kAround("[$]....|[\r\n#]");
-  return std::regex_replace(ReadWhole(path), kAround, "");
+  auto text = ReadWhole(path);
+  for (std::size_t at = 0; (at = text.find('$')) != std::string::npos;) text.erase(at, 5);
+  std::erase_if(text,
+                [](char character) { return character == '\r' || character == '\n' || character == '#'; });
+  return text;
 }
 
 TEST(FileCommands, AskWithTheirNamesAndFilters) {

@@ -16,7 +16,7 @@ struct StateRow {
 };
 
 const StateRow& RowOf(State state) {
-  static const std::array<StateRow, kStates.size()> rows = {{
+  static const StateRow rows[] = {
       {"Closed", "", kAnyMode, false, false, false, true, false, true},
       {"Open", "", kAnyMode, true, false, false, true, false, {}},
       {"Asked", "General_timer", 0, true, false, false, true, false, {}},
@@ -29,8 +29,8 @@ const StateRow& RowOf(State state) {
       {"ReadingHistory", "", 0, true, true, true, true, true, {}},
       {"Resetting", "", 0, true, true, true, true, true, {}},
       {"Scanning", "BaudRateScan", kAnyMode, true, false, false, true, false, {}},
-  }};
-  return rows.at(static_cast<std::size_t>(state));
+  };
+  return rows[static_cast<std::size_t>(state)];
 }
 
 }  // namespace

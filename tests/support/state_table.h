@@ -1,7 +1,6 @@
 // The states that the link can be in, and what every one of them shows.
 #pragma once
 
-#include <array>
 #include <string>
 
 #include "core/application.h"
@@ -22,10 +21,6 @@ enum class State {
   kResetting,
   kScanning,
 };
-inline constexpr std::array kStates = {State::kClosed,         State::kOpen,         State::kAsked,
-                                       State::kHeld,           State::kUploading,    State::kDownloadCommand,
-                                       State::kDownloadStream, State::kTransferDone, State::kSettingClock,
-                                       State::kReadingHistory, State::kResetting,    State::kScanning};
 
 const char* NameOf(State state);
 
