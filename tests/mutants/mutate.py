@@ -70,7 +70,7 @@ def notices(folder):
     for program in sorted(PROGRAMS, key=lambda name: name != "test_" + folder):
         name, *words = program.split()
         options = ["--gtest_fail_fast"] if name.startswith("test_") else words
-        if run("build/bin/" + name, *options, seconds=120) != 0:
+        if run("build/bin/" + name, *options, seconds=60) != 0:
             return name
     return None
 
@@ -101,9 +101,14 @@ def main():
                 if by is None:
                     print(f"missed {path.relative_to(COPY)}:{at + 1}\n  - {before.strip()}\n  + {text.strip()}", flush=True)
             path.write_text(whole)
-        told.append((folder, tried, noticed))
-    for folder, tried, noticed in told + [("all", sum(row[1] for row in told), sum(row[2] for row in told))]:
-        print(f"{folder:10} {noticed:4} of {tried:4} noticed, {100 * noticed / max(tried, 1):5.1f} %")
+        told.append((tried, noticed))
+        tell(folder, tried, noticed)
+    tell("all", *(sum(column) for column in zip(*told)))
 
 
-main()
+def tell(what, tried, noticed):
+    print(f"{what:10} {noticed:4} of {tried:4} noticed, {100 * noticed / max(tried, 1):5.1f} %", flush=True)
+
+
+if __name__ == "__main__":
+    main()
