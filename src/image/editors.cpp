@@ -134,13 +134,16 @@ std::string CaptionOf(const Application& app, std::string_view name) {
   return caption;
 }
 
-std::string Captions(const Application& app, std::string_view controls, std::string_view options) {
+std::string Captions(const Application& app, std::string_view controls, std::string_view options,
+                     bool hidden_too) {
   if (controls.empty()) return std::string(options);
   std::string words;
   while (!controls.empty()) {
     const auto name = controls.substr(0, controls.find(' '));
     controls.remove_prefix(std::min(controls.size(), name.size() + 1));
-    words += (words.empty() ? "" : ", ") + CaptionOf(app, name);
+    const auto caption = CaptionOf(app, name);
+    if (hidden_too || FaceOf(app.registry.Find(name)->control).visible)
+      words += (words.empty() ? "" : ", ") + caption;
   }
   return words;
 }
@@ -175,14 +178,16 @@ bool Stores(const Editor& editor, std::string_view before, std::string_view afte
 }
 
 template <class Wanted>
-std::string Words(const Application& app, std::string_view options, const Wanted& wanted) {
+std::string Words(const Application& app, std::string_view options, bool hidden_too, const Wanted& wanted) {
   std::string words;
   const Editor* last = nullptr;
   for (const auto& editor : kEditors) {
     if (!wanted(editor)) continue;
+    const auto captions = Captions(app, editor.controls, options, hidden_too);
+    if (captions.empty()) continue;
     if (last != nullptr) words += last->place == editor.place ? ", " : "; ";
     if (last == nullptr || last->place != editor.place) words += PlaceOf(app, editor.place) + ": ";
-    words += Captions(app, editor.controls, options);
+    words += captions;
     last = &editor;
   }
   return words;
@@ -195,14 +200,16 @@ std::span<const Editor> Editors() {
 }
 
 std::string EditedBy(const Application& app, FieldId field, std::string_view options) {
-  return Words(app, options, [&](const Editor& editor) { return editor.field == field; });
+  return Words(app, options, true, [&](const Editor& editor) { return editor.field == field; });
 }
 
 std::string EditedBy(const Application& app, FieldId field, std::string_view options, std::string_view before,
                      std::string_view after) {
-  const auto words = Words(app, options, [&](const Editor& editor) {
+  const auto stores = [&](const Editor& editor) {
     return editor.field == field && Stores(editor, before, after);
-  });
+  };
+  auto words = Words(app, options, false, stores);
+  if (words.empty()) words = Words(app, options, true, stores);
   return words.empty() ? EditedBy(app, field, options) : words;
 }
 

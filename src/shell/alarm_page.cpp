@@ -47,16 +47,17 @@ QString TriggeredText(const std::string& record) {
 
 QWidget* AlarmOverview(Bindings& bindings) {
   const auto& app = bindings.Model();
-  return BuildOverview(bindings, bindings.Model().frmMain.ComboALM[0],
-                       {QStringLiteral("AlarmOverview"),
-                        QStringLiteral("Overview of the alarms"),
-                        {{QStringLiteral("No."), QStringLiteral("16")},
-                         {QStringLiteral("Trigger"), QStringLiteral("EX. 13-24")},
-                         {QStringLiteral("Duration"), QStringLiteral("PLUSE")},
-                         {QStringLiteral("Normal"), QStringLiteral("NC")},
-                         {QStringLiteral("Text"), {}}},
-                        [&app] { return AlarmLines(app); },
-                        [] { return QStringLiteral("EX. exceptions   NO normally open   NC normally closed"); }});
+  return BuildOverview(
+      bindings, bindings.Model().frmMain.ComboALM[0],
+      {QStringLiteral("AlarmOverview"),
+       QStringLiteral("Overview of the alarms"),
+       {{QStringLiteral("No."), QStringLiteral("16")},
+        {QStringLiteral("Trigger"), QStringLiteral("EX. 13-24")},
+        {QStringLiteral("Duration"), QStringLiteral("PLUSE")},
+        {QStringLiteral("Normal"), QStringLiteral("NC")},
+        {QStringLiteral("Text"), {}}},
+       [&app] { return AlarmLines(app); },
+       [] { return QStringLiteral("EX. exceptions   NO normally open   NC normally closed"); }});
 }
 
 void AddEditor(PageColumn& column, const MainForm& form) {

@@ -17,7 +17,7 @@
 namespace ovl {
 namespace {
 
-constexpr QSize kStartSize(940, 420);
+constexpr QSize kStartSize(1100, 460);
 constexpr qsizetype kShownDigits = 16;
 constexpr int kWas = 3, kIs = 4;
 constexpr std::array kSections = {"SYSCFG", "SYSFIXED", "SYSSTR"};

@@ -48,6 +48,7 @@ void FormWindow::Open() {
   show();
   raise();
   activateWindow();
+  if (focusWidget() == nullptr) focusNextChild();
 }
 
 void FormWindow::PlaceBeside() {

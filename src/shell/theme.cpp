@@ -27,6 +27,8 @@ constexpr int kHeaderPadding = 6;
 constexpr int kFieldHeight = 26;
 constexpr int kLeastListWidth = 64;
 constexpr int kThumbInset = 3;
+constexpr int kFocusWidth = 2;
+constexpr int kLighter = 140;
 
 QPalette PaletteOf(const Scheme& scheme) {
   QPalette palette(QColor::fromRgb(scheme.button), QColor::fromRgb(scheme.window));
@@ -50,6 +52,10 @@ QPalette PaletteOf(const Scheme& scheme) {
   set(QPalette::Link, scheme.accent, scheme.disabled);
   set(QPalette::BrightText, scheme.highlighted, scheme.highlighted);
   return palette;
+}
+
+bool IsDark(const QPalette& palette) {
+  return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
 }
 
 // Flat tabs with a line below the current one, and lists that open at most ten lines high.
@@ -116,6 +122,8 @@ class OvlStyle : public QProxyStyle {
       centred.text = tab->text.trimmed();
       return QProxyStyle::drawControl(element, &centred, painter, widget);
     }
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (button != nullptr && element == CE_PushButtonBevel) return DrawBevel(*button, painter, widget);
     const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option);
     if (bar != nullptr && element == CE_ProgressBarGroove) {
       painter->fillRect(bar->rect, bar->palette.color(QPalette::Base));
@@ -129,7 +137,7 @@ class OvlStyle : public QProxyStyle {
                           const QWidget* widget) const override {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
     if (control == CC_ComboBox && option->state.testFlag(State_HasFocus)) {
-      DrawRing(option->rect, option->palette.color(QPalette::Highlight), painter);
+      DrawRing(option->rect, FocusColor(option->palette), painter, kFocusWidth);
     }
     if (control != CC_ScrollBar) return;
     const auto thumb = proxy()->subControlRect(control, option, SC_ScrollBarSlider, widget);
@@ -138,6 +146,26 @@ class OvlStyle : public QProxyStyle {
   }
 
  private:
+  // The default button has a darker edge, and only the one with the focus its colour.
+  void DrawBevel(const QStyleOptionButton& button, QPainter* painter, const QWidget* widget) const {
+    auto plain = button;
+    plain.features.setFlag(QStyleOptionButton::DefaultButton, false);
+    plain.state.setFlag(State_HasFocus, false);
+    QProxyStyle::drawControl(CE_PushButtonBevel, &plain, painter, widget);
+    const auto edge = button.rect.adjusted(1, 1, -1, -1);
+    if (button.state.testFlag(State_HasFocus)) {
+      DrawRing(edge, FocusColor(button.palette), painter, kFocusWidth);
+    } else if (button.features.testFlag(QStyleOptionButton::DefaultButton)) {
+      DrawRing(edge, MutedColor(button.palette), painter);
+    }
+  }
+
+  // Light enough on dark ground.
+  static QColor FocusColor(const QPalette& palette) {
+    const auto accent = palette.color(QPalette::Highlight);
+    return IsDark(palette) ? accent.lighter(kLighter) : accent;
+  }
+
   // Half way from a hairline to muted text: an outline that stands out on every ground.
   static QColor EdgeColor(const QPalette& palette) {
     const auto line = HairlineColor(palette), text = MutedColor(palette);
@@ -149,16 +177,17 @@ class OvlStyle : public QProxyStyle {
     const bool focused = option.state.testFlag(State_HasFocus);
     const bool enabled = option.state.testFlag(State_Enabled);
     const auto& palette = option.palette;
-    const auto edge = enabled ? EdgeColor(palette) : HairlineColor(palette);
-    DrawRing(option.rect, focused ? palette.color(QPalette::Highlight) : edge, painter);
+    if (focused) return DrawRing(option.rect, FocusColor(palette), painter, kFocusWidth);
+    DrawRing(option.rect, enabled ? EdgeColor(palette) : HairlineColor(palette), painter);
   }
 
-  static void DrawRing(const QRect& around, const QColor& color, QPainter* painter) {
+  static void DrawRing(const QRect& around, const QColor& color, QPainter* painter, int width = 1) {
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setBrush(Qt::NoBrush);
-    painter->setPen(color);
-    painter->drawRoundedRect(QRectF(around).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+    painter->setPen(QPen(color, width));
+    const auto inset = width / 2.0;
+    painter->drawRoundedRect(QRectF(around).adjusted(inset, inset, -inset, -inset), 2, 2);
     painter->restore();
   }
 
@@ -215,15 +244,11 @@ class OvlStyle : public QProxyStyle {
       painter->fillRect(place.adjusted(0, 0, 0, -1), tab.palette.color(QPalette::Button));
     }
     if (tab.state.testFlag(State_HasFocus)) {
-      DrawRing(place.adjusted(kTabLine, kTabLine, -kTabLine, -2 * kTabLine),
-               tab.palette.color(QPalette::Highlight), painter);
+      DrawRing(place.adjusted(kTabLine, kTabLine, -kTabLine, -2 * kTabLine), FocusColor(tab.palette),
+               painter);
     }
   }
 };
-
-bool IsDark(const QPalette& palette) {
-  return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
-}
 
 }  // namespace
 
