@@ -12,6 +12,7 @@
 #include "default_images.h"
 #include "image/field_map.h"
 #include "image/files.h"
+#include "panels/panel.h"
 #include "parser.h"
 #include "shell/register_frames.h"
 #include "support/harness.h"
@@ -190,14 +191,15 @@ void ShowRecords(Watched& program) {
   for (int alarm = kAlarms - 1; alarm >= 0; --alarm) program.Do("pick ComboALM(0) " + std::to_string(alarm));
 }
 
-// Two bytes of records depend on what was shown before: a slot that matches while scrolling loses three
-// flags, but not behind one that matches too; and the place of a duration follows its value only when the
-// list moves.
+// Three bytes depend on what was shown before: a slot that matches while scrolling loses three flags, but not
+// behind one that matches too; and the place of a duration follows its value, as an odd dwell of the flag
+// becomes even, only when the list moves.
 std::string Settled(FieldId field, std::string record) {
   constexpr int kScrollFlag = 0x40, kScrollRule = 0x23;
   constexpr std::size_t kDurationPlace = 4;
   if (field == FieldId::EXCPSTRS && (HexToInt(record) & kScrollFlag) != 0)
     record.replace(0, 2, ByteToHex(HexToInt(record) & ~kScrollRule));
+  if (field == FieldId::FLAGDWLIND) record = ByteToHex(2 * HalfToEven(HexToInt(record)));
   if (field == FieldId::ALMSTRUCT_BAK) record.erase(kDurationPlace, 2);
   return record;
 }
