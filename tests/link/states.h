@@ -3,9 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "support/harness.h"
@@ -17,32 +15,19 @@ inline const FirmwareId kV1400 = {"V1400", "R12"};
 inline const FirmwareId kV1300 = {"V1300", "R14"};
 
 inline constexpr const char* kAck = "\x06";
-inline constexpr const char* kNak = "\x15";
 inline constexpr const char* kCan = "\x18";
 inline constexpr const char* kRequest = "~~~SOH_REQUEST_EOT~~~k";
 inline constexpr const char* kRemoteButton = "CmdUpDow(4)";
-inline constexpr int kEnqAt = 5;     // ticks of the keep-alive
-inline constexpr int kSilence = 6;   // ticks of the watchdog
-inline constexpr int kTimeOut = 30;  // ticks of the keep-alive
+inline constexpr int kEnqAt = 5;    // ticks of the keep-alive
+inline constexpr int kSilence = 6;  // ticks of the watchdog
 
-struct Words {
-  std::string title{}, text{};
-};
-inline const Words kFail = {"- Connection Fail -",
-                            "                            !!! Remote Connection Fail. !!!\n"
-                            "Cable Disconnected Or Communication Setting Wrong ,Try Again"};
+inline constexpr const char* kFailBox =
+    "                            !!! Remote Connection Fail. !!!\n"
+    "Cable Disconnected Or Communication Setting Wrong ,Try Again";
 
 inline void ExpectState(const Application& app, State state) {
   EXPECT_EQ(DifferenceFrom(state, app), "")
       << "from " << NameOf(state) << ", mode " << app.LinkMode << ", timers " << RunningTimers(app);
-}
-
-// The oldest box, which bears no icon.
-inline void ExpectBox(Harness& program, const Words& words) {
-  const auto box = program.TakeBox();
-  EXPECT_EQ(box.title, words.title);
-  EXPECT_EQ(box.text, words.text);
-  EXPECT_EQ(box.icon, BoxIcon::kNone);
 }
 
 // Started and led into the state, with nothing sent and no box left to ask for. A scan runs over a line that
@@ -106,19 +91,5 @@ class InState : public Harness {
     Scan();
   }
 };
-
-using Act = std::function<void(InState&)>;
-
-inline Act Press(const char* button) {
-  return [button](InState& program) { program.Press(button); };
-}
-
-inline Act Arrives(const std::string& text) {
-  return [text](InState& program) { program.Unit(text); };
-}
-
-inline Act Ticks(Timer MainForm::*timer, int count) {
-  return [timer, count](InState& program) { program.Tick(program.app.frmMain.*timer, count); };
-}
 
 }  // namespace ovl::testing

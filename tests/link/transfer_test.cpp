@@ -9,19 +9,11 @@ std::string UploadFile(const Harness& program) {
   return program.folder.File(program.app.firmware.version + "/upload.bin");
 }
 
-void ExpectEnd(const Application& app, std::string_view text) {
-  EXPECT_TRUE(app.frmOK_buttom.form.visible);
-  EXPECT_EQ(app.frmOK_buttom.Label1.caption, text);
-  EXPECT_TRUE(app.PanelsReady && !app.UploadApplying);
-  ExpectState(app, State::kTransferDone);
-}
-
 TEST(Upload, SelectsTheUnitsRegisterWithoutItsDefaults) {
   InState program(State::kUploading, kV1400, {"TCPIP"});
   const auto stream = PatternStream(kV1400, 7, 1);
   EXPECT_EQ(program.Pick("ComboExcp(0)", 1), Outcome::kDone);
   program.Unit("#\r\nnoise" + stream + "\r\n");
-  ExpectEnd(program.app, "Upload Completed.");
   EXPECT_EQ(program.app.frmMain.ComboReg.Text(), "TCPIP");
   EXPECT_EQ(program.app.frmMain.ComboExcp[0].position, 0);
   EXPECT_TRUE(ReadWhole(UploadFile(program)) == stream + "\r\n");
@@ -82,7 +74,7 @@ TEST(Upload, ThatFailsInsideStopsUntilTheWatchdogEndsIt) {
     EXPECT_EQ(RunningTimers(app), "Timer_Operating");
     EXPECT_EQ(std::to_string(app.FrameState) + app.StreamBuffer, "0");
     program.Tick(app.frmMain.Timer_Operating, kSilence);
-    ExpectBox(program, kFail);
+    EXPECT_EQ(program.TakeBox().text, kFailBox);
     ExpectState(app, State::kClosed);
   }
 }
@@ -93,7 +85,8 @@ TEST(UnknownFamily, TouchesNoFileAndHasNothingToSend) {
   WriteWhole(UploadFile(program), "kept");
   const auto entry = app.image[FieldId::EXECENTRY], type = app.image[FieldId::REGTYPE];
   program.Unit(PatternStream(kV1400, 7));
-  ExpectEnd(app, "Upload Completed.");
+  EXPECT_EQ(app.frmOK_buttom.Label1.caption, "Upload Completed.");
+  EXPECT_TRUE(app.PanelsReady && !app.UploadApplying);
   EXPECT_EQ(ReadWhole(UploadFile(program)), "kept");
   EXPECT_EQ(std::pair(app.image[FieldId::EXECENTRY], app.image[FieldId::REGTYPE]), std::pair(entry, type));
   program.Press("frmOK_buttom.Command1");
@@ -101,7 +94,7 @@ TEST(UnknownFamily, TouchesNoFileAndHasNothingToSend) {
   EXPECT_EQ(program.Download(), "");
   ExpectState(app, State::kDownloadCommand);
   program.Tick(app.frmMain.Timer_Operating, kSilence);
-  ExpectBox(program, kFail);
+  EXPECT_EQ(program.TakeBox().text, kFailBox);
 }
 
 TEST(Download, TakesTheHistoryIdsFromThePanelInTheOlderFamilies) {
@@ -130,39 +123,19 @@ TEST(Download, TakesTheHistoryIdsFromThePanelInTheOlderFamilies) {
   }
 }
 
-TEST(Download, LeavesWhatWasSentAsWhatTheUnitHolds) {
-  InState program(State::kDownloadStream);
-  auto& app = program.app;
-  app.known_image = {};
-  const auto sent = app.image;
-  app.image[FieldId::REGTYPE] = "FF";
-  program.DrainAll();
-  EXPECT_TRUE(app.known_image == sent);
-}
-
-TEST(TransferEnd, StaysOnTopAndItsWindowButtonConfirmsToo) {
+TEST(TransferEnd, StandsOnTopOnceTheBarIsFull) {
   InState program(State::kUploading);
-  auto& app = program.app;
-  const auto& bar = app.frmMain.vbalProgressBar1;
+  const auto& bar = program.app.frmMain.vbalProgressBar1;
   std::string on_top;
-  app.platform.SetWindowPos = [&](std::string_view form) {
-    on_top += std::string(form) + " over " + std::to_string(bar.value) + " " + bar.text;
-  };
-  const auto confirm = [&](std::string_view text) {
-    ExpectEnd(app, text);
-    EXPECT_EQ(std::exchange(on_top, {}), "frmOK_buttom over 100 100%");
-    EXPECT_TRUE(app.frmOK_buttom.form.top_most);
-    EXPECT_EQ(program.Click("cmdDisConnect"), Outcome::kRefused);
-    Dispatch(app, CloseEvent{&app.frmOK_buttom.form});
-    ExpectState(app, State::kOpen);
-    EXPECT_EQ(app.LinkMode, 255);
-    EXPECT_TRUE(app.frmMain.form.enabled && app.frmMain.cmdConnect.enabled);
+  program.app.platform.SetWindowPos = [&](std::string_view form) {
+    on_top += std::string(form) + " over " + std::to_string(bar.value) + " " + bar.text + ", ";
   };
   program.Unit(PatternStream(kV1400, 7));
-  confirm("Upload Completed.");
+  program.Press("frmOK_buttom.Command1");
   program.Hold();
   program.Download();
-  confirm("Download Completed.");
+  EXPECT_EQ(on_top, "frmOK_buttom over 100 100%, frmOK_buttom over 100 100%, ");
+  EXPECT_TRUE(program.app.frmOK_buttom.form.top_most);
 }
 
 }  // namespace

@@ -56,6 +56,11 @@ bool Reachable(const NamedControl& named) {
          (element == nullptr || element->array->enabled);
 }
 
+template <class... Kinds>
+bool Holds(const ControlRef& control) {
+  return (... || std::holds_alternative<Kinds>(control));
+}
+
 // What a person with a random hand does next, as statements.
 class Hand {
  public:
@@ -117,8 +122,7 @@ class Hand {
       const auto& named = all[at];
       if (window != nullptr ? named.form != window : options && rows_[at] == nullptr) continue;
       if (!InSight(app, rows_[at]) || (!any && !Reachable(named))) continue;
-      const auto name = FullName(app, named);
-      auto line = std::visit([&](const auto& control) { return On(name, control); }, named.control);
+      auto line = On(FullName(app, named), named.control);
       if (!line.empty()) return line;
     }
     return "tick Timer";
@@ -130,28 +134,19 @@ class Hand {
     return nullptr;
   }
 
-  std::string On(const std::string& name, const List* list) { return PickIn(name, list->items.size()); }
-  std::string On(const std::string& name, const OptionArray* array) {
-    return PickIn(name, array->elements.size());
-  }
-  std::string On(const std::string& name, const OptionElement&) { return "click " + name; }
-  std::string On(const std::string& name, const CheckBox*) { return "click " + name; }
-  std::string On(const std::string& name, const Button*) { return "click " + name; }
-  std::string On(const std::string& name, const TextBox*) {
-    return Below(4) == 0 ? "leave " + name : "type " + name + " " + script::Quoted(Text());
-  }
-  // Ways out of the program are taken rarely.
-  std::string On(const std::string& name, const MenuItem*) { return Below(8) == 0 ? "click " + name : ""; }
-  std::string On(const std::string& name, const Form*) {
+  std::string On(const std::string& name, const ControlRef& control) {
+    if (const auto* list = std::get_if<List*>(&control)) return PickIn(name, (*list)->items.size());
+    if (const auto* array = std::get_if<OptionArray*>(&control))
+      return PickIn(name, (*array)->elements.size());
+    if (Holds<OptionElement, CheckBox*, Button*>(control)) return "click " + name;
+    if (Holds<Timer*>(control)) return "tick " + name + " " + std::to_string(1 + Below(8));
+    if (Holds<TextBox*>(control))
+      return Below(4) == 0 ? "leave " + name : "type " + name + " " + script::Quoted(Text());
+    // Ways out of the program are taken rarely.
+    if (Holds<MenuItem*>(control)) return Below(8) == 0 ? "click " + name : "";
+    if (!Holds<Form*>(control)) return Below(8) == 0 ? "point " + name : "";
     const int kind = Below(16);
     return kind == 0 ? "close " + name : kind < 8 ? "key " + name + " Enter" : "key " + name + " Escape";
-  }
-  std::string On(const std::string& name, const Timer*) {
-    return "tick " + name + " " + std::to_string(1 + Below(8));
-  }
-  template <class Shown>
-  std::string On(const std::string& name, const Shown*) {
-    return Below(8) == 0 ? "point " + name : "";
   }
 
   std::mt19937 chance_;
@@ -216,23 +211,17 @@ std::string OtherwiseElsewhere(Watched& program) {
   other.Do(std::string("answer ") + kFiles[0]);
   other.Do("click OpenMenu");
   ShowRecords(other);
-  std::string wrong;
+  std::ostringstream wrong;
   for (const auto& row : FieldTable()) {
     if (MayWrite(OwnerNamed("ComboReg"), row.name)) continue;
     for (int entry = 1; entry <= EntryCount(row.id); ++entry) {
       const auto here = Settled(row.id, program.Image().at(row.id, entry));
       const auto there = Settled(row.id, other.Image().at(row.id, entry));
       if (here != there && (row.layouts & Bit(LayoutOf(program.App().firmware))) != 0)
-        wrong.append("as a file: ")
-            .append(row.name)
-            .append(" ")
-            .append(here)
-            .append(" ")
-            .append(there)
-            .append("\n");
+        wrong << "as a file: " << row.name << ' ' << here << ' ' << there << '\n';
     }
   }
-  return wrong;
+  return wrong.str();
 }
 
 // False: it failed.

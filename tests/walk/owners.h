@@ -11,8 +11,7 @@ namespace ovl::testing {
 enum class Part { kAll, kFirstByte, kDuration, kLastByte, kRange, kAllButRange };
 
 struct Owner {
-  std::string_view controls;
-  std::string_view fields;  // with blanks between and around them
+  std::string controls, fields;  // with blanks between and around them
   Part of_records = Part::kAll;
 };
 

@@ -1,4 +1,7 @@
+// The port, from its dialog to its loss, and the scan.
+#include "link/port.h"
 #include "core/actions.h"
+#include "core/messages.h"
 #include "link/states.h"
 
 namespace ovl::testing {
@@ -62,26 +65,75 @@ TEST(Scan, TriesEveryRateInVainUntilALinkWasAskedFor) {
   EXPECT_EQ(on_top, std::vector<std::string>{"frmScanBProgress"});
   EXPECT_TRUE(app.frmScanBProgress.form.top_most);
   std::vector<std::string> expected = {"COM1:9600,O,7,1"};
-  EXPECT_EQ(program.TakeSent(), kRequest);
   for (const std::string rate :
        {"9600", "1200", "2400", "4800", "14400", "19200", "28800", "38400", "57600", "115200"}) {
-    SCOPED_TRACE(rate);
-    ExpectState(app, State::kScanning);
-    program.Unit(std::string(kAck) + "?" + kNak + kAck);
+    program.Unit(std::string(kAck) + "?\x15" + kAck);
     program.Tick(app.frmSettSR.BaudRateScan);
-    EXPECT_EQ(app.frmScanBProgress.ScanProgressBar1.value, static_cast<int>(expected.size()) - 1);
     expected.push_back("COM1:" + rate + ",O,7,1");
     EXPECT_EQ(program.opened, expected);
     EXPECT_EQ(app.frmMain.lbConnectting.caption, "Connected at COM 1: " + rate + ",O,7,1");
-    EXPECT_EQ(program.TakeSent(), kRequest);
   }
   program.Tick(app.frmSettSR.BaudRateScan);
-  EXPECT_EQ(program.TakeSent(), kCan);
-  ExpectBox(program, {"", "No Response From The Device"});
-  EXPECT_TRUE(program.NoBoxLeft());
+  EXPECT_EQ(program.TakeBox().text, "No Response From The Device");
   ExpectState(app, State::kClosed);
-  EXPECT_FALSE(app.frmScanBProgress.form.loaded);
-  EXPECT_TRUE(app.frmMain.form.enabled);
+}
+
+// What else a line can bring is compared under random events, in tests/opinion.
+TEST(LostDevice, IsToldInTheBoxAndInTheNoteUntilAPortOpens) {
+  struct Row {
+    const char* name;
+    State from;
+    std::function<void(InState&)> act;
+    State to;
+    std::size_t blanks;
+  };
+  const auto enq = [](InState& program) { program.Tick(program.app.frmMain.Time_handcheck, kEnqAt); };
+  const auto upload = [](InState& program) { program.Press("CmdUpDow(0)"); };
+  const auto ack = [](InState& program) { program.Unit(kAck); };
+  const auto drained = [](InState& program) { program.Drain(1); };
+  const Row rows[] = {{"opened", State::kClosed, &InState::OpenPort, State::kClosed, 11},
+                      {"scanned", State::kClosed, &InState::Scan, State::kClosed, 11},
+                      {"asked", State::kHeld, enq, State::kHeld, 0},
+                      {"upload", State::kHeld, upload, State::kUploading, 23},
+                      {"let in", State::kDownloadCommand, ack, State::kDownloadCommand, 23},
+                      {"stream", State::kDownloadStream, drained, State::kDownloadStream, 23}};
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    InState program(row.from);
+    program.line_error = program.open_error = "Input/output error";
+    row.act(program);
+    ExpectState(program.app, row.to);
+    EXPECT_EQ(program.TakeBox().text, std::string(row.blanks, ' ') + "Input/output error");
+    EXPECT_EQ(program.app.StatusNote, "Comport 1: Input/output error");
+    program.open_error = std::nullopt;
+    OpenPort(program.app);
+    EXPECT_EQ(program.app.StatusNote, "");
+  }
+}
+
+TEST(WrongParity, LeadsBackToTheFirstRegister) {
+  InState program(State::kAsked, kV1400, {"TCPIP"});
+  program.Pick("ComboReg", 1);
+  program.Unit("?");
+  EXPECT_EQ(program.TakeBox().text, "Check Parity and Data Bit Setting that Same OVL ,Try again !!!");
+  EXPECT_EQ(program.app.frmMain.ComboReg.Text(), "GENERIC");
+}
+
+TEST(Boxes, OfTheLinkBearNoIcon) {
+  for (const auto& box : BoxTable())
+    EXPECT_TRUE(box.box < Box::kPortFailed || box.icon == BoxIcon::kNone) << box.topic;
+}
+
+TEST(Hints, ThePointerOverATransferShowsItsOwn) {
+  InState program(State::kHeld);
+  const auto& pictures = program.app.frmMain.Picture1;
+  const std::pair<const char*, int> moves[] = {{"CmdUpDow(0)", 1}, {"CmdUpDow(1)", 2}, {"CmdUpDow(4)", 0},
+                                               {"CmdUpDow(1)", 2}, {"Frame11", 0},     {"CmdUpDow(0)", 1},
+                                               {"Frame11", 0}};
+  for (const auto& [name, picture] : moves) {
+    Dispatch(program.app, PointEvent{program.app.registry.Find(name)->control});
+    EXPECT_EQ((pictures[1].visible ? 1 : 0) + (pictures[2].visible ? 2 : 0), picture) << name;
+  }
 }
 
 }  // namespace
