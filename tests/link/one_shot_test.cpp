@@ -31,7 +31,7 @@ TEST(SetTime, SendsWhatWasPicked) {
   EXPECT_EQ(program.TakeSent(), "/TD02-29-00 23:59:01\r\n\r");
 }
 
-TEST(Clock, FollowsTheComputerEveryEleventhTick) {
+TEST(Clock, FollowsTheComputerEveryEleventhTickAndAtOnceWhenTheBoxIsTicked) {
   InState program(State::kClosed);
   auto& main = program.app.frmMain;
   ShowTime(program, {2024, 2, 29, 23, 59, 58});
@@ -42,11 +42,7 @@ TEST(Clock, FollowsTheComputerEveryEleventhTick) {
   EXPECT_EQ(Shown(main), "02-29/29-24 07:59:58");
   program.Tick(main.Timer);
   EXPECT_EQ(Shown(main), "12-31/31-00 00:00:05");
-}
 
-TEST(Clock, StandsWhileTheBoxIsClearedAndFollowsAtOnceWhenTicked) {
-  InState program(State::kClosed);
-  auto& main = program.app.frmMain;
   ShowTime(program, {2026, 3, 5, 14, 7, 9});
   program.Tick(main.Timer, 4);
   program.Click("CheckTD");
@@ -75,13 +71,7 @@ TEST(Clock, ADayThatFallsTwiceIsStoredTwice) {
 }
 
 TEST(Clock, ADayThatTheMonthLacksFallsToItsLast) {
-  struct Row {
-    ClockTime start;
-    const char* list;
-    int position;
-    std::string shown;
-  };
-  const Row rows[] = {
+  const std::tuple<ClockTime, const char*, int, std::string> rows[] = {
       {{2023, 1, 31}, "ComboMonth", 1, "02-28/28-23"},  {{2024, 1, 31}, "ComboMonth", 1, "02-29/29-24"},
       {{2023, 1, 29}, "ComboMonth", 1, "02-28/28-23"},  {{2023, 1, 9}, "ComboMonth", 1, "02-09/28-23"},
       {{2024, 2, 29}, "ComboYear", 23, "02-28/28-23"},  {{2024, 2, 29}, "ComboYear", 0, "02-29/29-00"},
@@ -90,16 +80,15 @@ TEST(Clock, ADayThatTheMonthLacksFallsToItsLast) {
       {{2023, 1, 31}, "ComboMonth", 4, "05-31/31-23"},  {{2023, 1, 31}, "ComboMonth", 5, "06-30/30-23"},
       {{2023, 1, 31}, "ComboMonth", 6, "07-31/31-23"},  {{2023, 1, 31}, "ComboMonth", 7, "08-31/31-23"},
       {{2023, 1, 31}, "ComboMonth", 8, "09-30/30-23"},  {{2023, 1, 31}, "ComboMonth", 9, "10-31/31-23"},
-      {{2023, 1, 31}, "ComboMonth", 10, "11-30/30-23"}, {{2023, 1, 31}, "ComboMonth", 11, "12-31/31-23"},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.shown);
+      {{2023, 1, 31}, "ComboMonth", 10, "11-30/30-23"}, {{2023, 1, 31}, "ComboMonth", 11, "12-31/31-23"}};
+  for (const auto& [start, list, position, shown] : rows) {
+    SCOPED_TRACE(shown);
     InState program(State::kClosed);
-    ShowTime(program, row.start);
+    ShowTime(program, start);
     program.Click("CheckTD");
-    EXPECT_EQ(program.Pick(row.list, row.position), Outcome::kDone);
-    EXPECT_EQ(Shown(program.app.frmMain), row.shown + " 00:00:00");
-    EXPECT_EQ(program.app.ClockDay, row.shown.substr(3, 2));
+    EXPECT_EQ(program.Pick(list, position), Outcome::kDone);
+    EXPECT_EQ(Shown(program.app.frmMain), shown + " 00:00:00");
+    EXPECT_EQ(program.app.ClockDay, shown.substr(3, 2));
   }
 }
 

@@ -1,5 +1,9 @@
 // The port, from its dialog to its loss, and the scan.
 #include "link/port.h"
+
+#include <functional>
+#include <tuple>
+
 #include "core/actions.h"
 #include "core/messages.h"
 #include "link/states.h"
@@ -80,30 +84,24 @@ TEST(Scan, TriesEveryRateInVainUntilALinkWasAskedFor) {
 
 // What else a line can bring is compared under random events, in tests/opinion.
 TEST(LostDevice, IsToldInTheBoxAndInTheNoteUntilAPortOpens) {
-  struct Row {
-    const char* name;
-    State from;
-    std::function<void(InState&)> act;
-    State to;
-    std::size_t blanks;
-  };
   const auto enq = [](InState& program) { program.Tick(program.app.frmMain.Time_handcheck, kEnqAt); };
   const auto upload = [](InState& program) { program.Press("CmdUpDow(0)"); };
   const auto ack = [](InState& program) { program.Unit(kAck); };
   const auto drained = [](InState& program) { program.Drain(1); };
-  const Row rows[] = {{"opened", State::kClosed, &InState::OpenPort, State::kClosed, 11},
-                      {"scanned", State::kClosed, &InState::Scan, State::kClosed, 11},
-                      {"asked", State::kHeld, enq, State::kHeld, 0},
-                      {"upload", State::kHeld, upload, State::kUploading, 23},
-                      {"let in", State::kDownloadCommand, ack, State::kDownloadCommand, 23},
-                      {"stream", State::kDownloadStream, drained, State::kDownloadStream, 23}};
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.name);
-    InState program(row.from);
+  const std::tuple<const char*, State, std::function<void(InState&)>, State, std::size_t> rows[] = {
+      {"opened", State::kClosed, &InState::OpenPort, State::kClosed, 11},
+      {"scanned", State::kClosed, &InState::Scan, State::kClosed, 11},
+      {"asked", State::kHeld, enq, State::kHeld, 0},
+      {"upload", State::kHeld, upload, State::kUploading, 23},
+      {"let in", State::kDownloadCommand, ack, State::kDownloadCommand, 23},
+      {"stream", State::kDownloadStream, drained, State::kDownloadStream, 23}};
+  for (const auto& [name, from, act, to, blanks] : rows) {
+    SCOPED_TRACE(name);
+    InState program(from);
     program.line_error = program.open_error = "Input/output error";
-    row.act(program);
-    ExpectState(program.app, row.to);
-    EXPECT_EQ(program.TakeBox().text, std::string(row.blanks, ' ') + "Input/output error");
+    act(program);
+    ExpectState(program.app, to);
+    EXPECT_EQ(program.TakeBox().text, std::string(blanks, ' ') + "Input/output error");
     EXPECT_EQ(program.app.StatusNote, "Comport 1: Input/output error");
     program.open_error = std::nullopt;
     OpenPort(program.app);

@@ -23,32 +23,22 @@ TEST(Upload, SelectsTheUnitsRegisterWithoutItsDefaults) {
   EXPECT_TRUE(program.Download() == stream);
 }
 
-TEST(Bar, MovesByEveryFiftyOneCharactersAndAnewAfterABreak) {
+TEST(Bar, BeginsAnewAfterABreakAndStandsStillAtItsEnd) {
   InState program(State::kDownloadStream);
   const auto& bar = program.app.frmMain.vbalProgressBar1;
-  const auto break_off_and_hold = [&] {
+  program.Drain(200);
+  for (const auto& [button, full] : {std::pair("CmdUpDow(0)", "100%"), std::pair("CmdUpDow(1)", "1%")}) {
     program.Unit("?");
     program.TakeBox();
     program.OpenPort();
     program.Hold();
-  };
-  program.Drain(200);
-  break_off_and_hold();
-  program.Press("CmdUpDow(0)");
-  program.Unit("noise$");
-  std::size_t sent = 0;
-  const std::pair<std::size_t, const char*> rows[] = {{50, "3%"},  {51, "1%"},     {101, "1%"},
-                                                      {102, "2%"}, {5100, "100%"}, {15300, "100%"}};
-  for (const auto& [characters, text] : rows) {
-    program.Unit(std::string(characters - sent, '0'));
-    sent = characters;
-    EXPECT_EQ(bar.text, text) << characters;
+    program.Press(button);
+    program.Unit("noise$" + std::string(51, '0') + kAck);
+    program.Drain(51);
+    EXPECT_EQ(bar.text, "1%") << button;
+    program.Unit(std::string(15300, '0'));
+    EXPECT_EQ(bar.text, full) << button;
   }
-  break_off_and_hold();
-  program.Press("CmdUpDow(1)");
-  program.Unit(kAck);
-  program.Drain(51);
-  EXPECT_EQ(bar.text, "1%");
 }
 
 TEST(Upload, ThatFailsInsideStopsUntilTheWatchdogEndsIt) {
@@ -98,25 +88,21 @@ TEST(UnknownFamily, TouchesNoFileAndHasNothingToSend) {
 }
 
 TEST(Download, TakesTheHistoryIdsFromThePanelInTheOlderFamilies) {
-  struct Row {
-    int chosen;
-    std::array<int, 4> lists;
-    std::string fields;  // recorder, destination, source; two blanks: as it was
-  };
-  const Row rows[] = {{0, {1, 2, 3, 4}, "00    "},   {1, {6, 31, 3, 4}, "010720"},
-                      {2, {6, 31, 0, 15}, "020110"}, {1, {-1, 0, 7, 7}, "01  01"},
-                      {2, {4, 4, 9, -1}, "020A  "},  {-1, {1, 2, 3, 4}, "      "}};
+  // The recorder chosen, the lists, and the fields: recorder, destination, source; two blanks: as it was.
+  const std::tuple<int, std::array<int, 4>, std::string> rows[] = {
+      {0, {1, 2, 3, 4}, "00    "},  {1, {6, 31, 3, 4}, "010720"}, {2, {6, 31, 0, 15}, "020110"},
+      {1, {-1, 0, 7, 7}, "01  01"}, {2, {4, 4, 9, -1}, "020A  "}, {-1, {1, 2, 3, 4}, "      "}};
   constexpr std::size_t kPlace = 5 + 2 * 29, kRecord = 71;
   for (const auto& firmware : {kV1300, {"V1324", "R17"}, {"V1310", "R1"}, {"V1334", "R1"}, kV1400}) {
-    for (const auto& row : rows) {
-      SCOPED_TRACE(firmware.Joined() + " with " + row.fields);
+    for (const auto& [chosen, lists, fields] : rows) {
+      SCOPED_TRACE(firmware.Joined() + " with " + fields);
       InState program(State::kHeld, firmware);
       auto& main = program.app.frmMain;
-      main.OpDVR.chosen = row.chosen;
-      for (std::size_t list = 0; list < 4; ++list) main.ComboKLM4011[list].position = row.lists[list];
+      main.OpDVR.chosen = chosen;
+      for (std::size_t list = 0; list < 4; ++list) main.ComboKLM4011[list].position = lists[list];
       auto expected = PatternStream(firmware).substr(0, kRecord);
-      for (std::size_t digit = 0; digit < row.fields.size(); ++digit) {
-        if (!firmware.IsV1400() && row.fields[digit] != ' ') expected[kPlace + digit] = row.fields[digit];
+      for (std::size_t digit = 0; digit < fields.size(); ++digit) {
+        if (!firmware.IsV1400() && fields[digit] != ' ') expected[kPlace + digit] = fields[digit];
       }
       EXPECT_EQ(program.Download().substr(0, kRecord), expected);
     }

@@ -1,6 +1,10 @@
 #include "shell/platform/serial_port.h"
 
+#include <asm/termbits.h>
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
@@ -8,17 +12,64 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <array>
+#include <cstdlib>
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <variant>
-
-#include "platform/pseudo_terminal.h"
 
 namespace ovl {
 namespace {
 
 using namespace std::string_literals;
+
+// The unit's end of the line, played by the master of a pseudo-terminal.
+class PseudoTerminal {
+ public:
+  PseudoTerminal() : master_(::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK)) {
+    EXPECT_TRUE(::grantpt(master_) == 0 && ::unlockpt(master_) == 0);
+    device_ = ::ptsname(master_);
+  }
+  ~PseudoTerminal() { HangUp(); }
+  PseudoTerminal(PseudoTerminal&&) = delete;
+
+  const std::string& Device() const { return device_; }
+  void HangUp() { ::close(std::exchange(master_, -1)); }
+
+  void Send(std::string_view bytes) const {
+    EXPECT_EQ(::write(master_, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
+  }
+  // A pseudo-terminal has no parity errors of its own. With the driver's marking off, what is sent reaches
+  // the program as it stands, marks included.
+  void SendRaw(std::string_view bytes) const {
+    auto settings = Settings();
+    settings.c_iflag &= ~static_cast<tcflag_t>(PARMRK);
+    EXPECT_EQ(::ioctl(master_, TCSETS2, &settings), 0);
+    Send(bytes);
+  }
+  std::string Receive() const {
+    std::array<char, 4096> bytes = {};
+    const auto count = ::read(master_, bytes.data(), bytes.size());
+    return count > 0 ? std::string(bytes.data(), static_cast<std::size_t>(count)) : std::string();
+  }
+
+  unsigned Speed() const { return Settings().c_ospeed; }
+  bool MarksParityErrors() const {
+    return (Settings().c_iflag & (PARMRK | INPCK | IGNPAR)) == (PARMRK | INPCK);
+  }
+
+ private:
+  struct termios2 Settings() const {
+    struct termios2 settings {};
+    EXPECT_EQ(::ioctl(master_, TCGETS2, &settings), 0);
+    return settings;
+  }
+
+  int master_;
+  std::string device_;
+};
 
 // Runs the loop until the condition holds; false if it still doesn't when the patience ends.
 bool RunUntil(const std::function<bool()>& condition, int patience = 10'000) {

@@ -4,6 +4,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTreeWidget>
 #include <QWheelEvent>
 #include <cmath>
 #include <map>
@@ -121,15 +122,12 @@ TEST_F(WindowsTest, ATransferShowsHowFarItIsAndItsEndStaysUntilAnswered) {
 }
 
 TEST_F(WindowsTest, ThePointerOverUploadAndDownloadShowsTheHint) {
-  const auto& pictures = App().frmMain.Picture1;
-  const std::pair<const char*, const Picture*> hints[] = {{"CmdUpDow(0)", &pictures[1]},
-                                                          {"CmdUpDow(1)", &pictures[2]}};
-  for (auto& button : App().frmMain.CmdUpDow) button.enabled = true;
-  for (const auto& [button, hint] : hints) {
+  for (const std::size_t button : {0, 1}) {
+    App().frmMain.CmdUpDow[button].enabled = true;
     for (const auto type : {QEvent::Enter, QEvent::Leave}) {
       QEvent event(type);
-      QCoreApplication::sendEvent(&Find(button), &event);
-      EXPECT_EQ(hint->visible, type == QEvent::Enter) << button;
+      QCoreApplication::sendEvent(&Find("CmdUpDow(" + std::to_string(button) + ")"), &event);
+      EXPECT_EQ(App().frmMain.Picture1[button + 1].visible, type == QEvent::Enter) << button;
     }
   }
 }
@@ -146,6 +144,43 @@ TEST_F(WindowsTest, TheVersionMenuMarksTheFirmwareAndAnotherPickEndsTheProgram) 
   EXPECT_EQ(boxes.size(), 1U);
   EXPECT_FALSE(Main().isVisible());
   EXPECT_EQ(program->Act(ClickEvent{&App().frmMain.cmdConnect}), Outcome::kEnded);
+}
+
+std::string Listed(Screen& screen) {
+  QStringList cells;
+  const auto& list = screen.Find<QTreeWidget>("ChangesList");
+  for (int line = 0; line < list.topLevelItemCount(); ++line) {
+    for (int at = 0; at < list.columnCount(); ++at) cells.append(list.topLevelItem(line)->text(at));
+  }
+  return cells.join('|').toStdString();
+}
+
+TEST_F(WindowsTest, ChangesAreListedByFieldPlaceAndLabelWithTheBytesThenAndNow) {
+  auto& app = App();
+  const auto& button = Find<QPushButton>("StatusChanges");
+  EXPECT_FALSE(button.isVisible());
+  const auto other = [&](const List& list) { return list.position == 0 ? 1 : 0; };
+  const auto& line = app.image[FieldId::COMMCFG_BAK];
+  const auto expected = "COMMCFG_BAK|SYSCFG 1|COMMUNICATION: PARITY|" + line + "|";
+  Pick("ComboCOMM(3)", other(app.frmMain.ComboCOMM[3]));
+  EXPECT_EQ(button.text(), "1 change since the last load");
+  Click("StatusChanges");
+  EXPECT_EQ(Listed(*this), expected + line);
+
+  app.image.at(FieldId::EXCPSTRS, 2).replace(0, 2, "55");
+  Show();
+  EXPECT_EQ(button.text(), "2 changes since the last load");
+  EXPECT_NE(Listed(*this).find("|EXCPSTRS(2)|SYSSTR "), std::string::npos);
+
+  StartDownload(app);
+  const auto sent = app.image;
+  Pick("ComboTD(2)", other(app.frmMain.ComboTD[2]));
+  FinishDownload(app);
+  Show();
+  EXPECT_EQ(button.text(), "1 change since the last load")
+      << "the unit holds what was sent, not what was picked meanwhile";
+  EXPECT_TRUE(app.known_image == sent);
+  EXPECT_EQ(Listed(*this).find("DATE_FORMAT_BAK|SYSFIXED "), 0U);
 }
 
 TEST_F(WindowsTest, ARefreshWithoutAChangeTouchesNoWidget) {

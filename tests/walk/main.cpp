@@ -100,14 +100,10 @@ class Hand {
   Script Upload(const Application& app) {
     const int code = Below(app.frmMain.ComboReg.items.size() + 2);
     const auto stream = "unit " + script::Quoted(RawPatternStream(app.firmware, Below(256), code));
-    return {"click cmdConnect",
-            "click frmSettSR.cmdSET",
-            "click CmdUpDow(4)",
-            "unit hex 06",
-            "click CmdUpDow(0)",
-            "drain",
-            stream,
-            "click frmOK_buttom.Command1"};
+    Script way = {"click cmdConnect", "click frmSettSR.cmdSET", "click CmdUpDow(4)",
+                  "unit hex 06",      "click CmdUpDow(0)",      "drain"};
+    way.insert(way.end(), {stream, "click frmOK_buttom.Command1"});
+    return way;
   }
 
   // With `options` one of the shown option frame, or of a window beside the main one.

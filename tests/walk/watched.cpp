@@ -90,7 +90,7 @@ std::string Watched::CheckFields(const std::string& control, bool loads) {
   const auto* named = App().registry.Find(control);
   const auto& owner = OwnerNamed(named == nullptr ? control : FullName(App(), *named));
   const std::size_t range = App().firmware.IsV1400() ? 20 : 12;
-  std::string wrong;
+  std::ostringstream wrong;
   for (const auto& row : FieldTable()) {
     const auto entries = EntryCount(row.id);
     const auto digits = static_cast<std::size_t>(DigitsOf(row, LayoutOf(App().firmware)));
@@ -110,11 +110,10 @@ std::string Watched::CheckFields(const std::string& control, bool loads) {
           ((shown == 0 || entry == shown) && MayWrite(owner, row.name) &&
            (!record || Without(owner.of_records, range, was) == Without(owner.of_records, range, is)));
       if (in_form && may_write) continue;
-      wrong.append(control).append(" wrote ").append(row.name).append(" ").append(std::to_string(entry));
-      wrong.append(": ").append(was).append(", now ").append(is).append("\n");
+      wrong << control << " wrote " << row.name << ' ' << entry << ": " << was << ", now " << is << '\n';
     }
   }
-  return wrong;
+  return wrong.str();
 }
 
 std::string Watched::CheckLengths(bool loads, bool from_file) {
