@@ -122,7 +122,7 @@ TEST_F(WindowsTest, ATransferShowsHowFarItIsAndItsEndStaysUntilAnswered) {
 }
 
 TEST_F(WindowsTest, ThePointerOverUploadAndDownloadShowsTheHint) {
-  for (const std::size_t button : {0, 1}) {
+  for (const std::size_t button : {0U, 1U}) {
     App().frmMain.CmdUpDow[button].enabled = true;
     for (const auto type : {QEvent::Enter, QEvent::Leave}) {
       QEvent event(type);
