@@ -129,7 +129,7 @@ std::string CaptionOf(const Application& app, std::string_view name) {
   const auto* control = app.registry.Find(name);
   if (control == nullptr) throw std::logic_error("there is no control " + std::string(name));
   auto caption = Trimmed(FaceOf(control->control).caption);
-  if (caption.empty()) caption = control->name;
+  if (caption.empty()) throw std::logic_error(control->name + " has no caption");
   if (caption.back() == ':') caption.pop_back();
   return caption;
 }

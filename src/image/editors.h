@@ -50,7 +50,7 @@ std::span<const Editor> Editors();
 
 // The captions under which a person finds the field, such as "COMMUNICATION: PARITY, DATA BITS"; with two
 // contents only those on the form that store what differs. Empty if no control edits it. `options` stands for
-// the options of a register. A control that is not there is a `std::logic_error`.
+// the options of a register. A control that is not there or has no caption is a `std::logic_error`.
 std::string EditedBy(const Application& app, FieldId field, std::string_view options);
 std::string EditedBy(const Application& app, FieldId field, std::string_view options, std::string_view before,
                      std::string_view after);

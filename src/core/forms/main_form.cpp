@@ -29,6 +29,7 @@ void DesignFrames(MainForm& form) {
 
 void DesignDvr(MainForm& form) {
   SetElements(form.OpDVR, {"KLM-4001", "KLR-4011, 4021", "TRVX3000/TRVX5000"});
+  form.OpDVR.caption = form.Frame5.caption;
   for (auto& list : form.ComboKLM4011) {
     list.items = Numbers(1, 32);
     list.enabled = false;
@@ -107,6 +108,7 @@ MainForm::MainForm() {
   SSTab1.captions = {" REGISTER SELECT ", "    TEXT SETUP   ", "  ALARM OUTPUTS  ", "   COMMUNICATION ",
                      " EXCEPTION REPORT", " TIME / LANGUAGE ", "      REMOTE     "};
   for (auto& label : lbVersionID) label.caption = "Version ID";
+  ComboReg.caption = "Register";
   DesignFrames(*this);
   DesignDvr(*this);
   DesignLink(*this);
