@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QMenuBar>
 #include <QRegularExpression>
 #include <QTextBrowser>
 #include <QTimer>
@@ -78,6 +79,22 @@ TEST_F(HelpPagesTest, NameEveryTabWindowAndControlAsTheToolTipsDo) {
     const auto text = form == &main.form ? tabs : pages_.Text(HelpPageOfWindow(Latin(form->name)));
     const auto name = Latin(own_name), array = name.section('(', 0, 0);
     EXPECT_TRUE(text.contains('`' + name + '`') || text.contains('`' + array + '`'));
+  }
+}
+
+TEST_F(HelpPagesTest, NameEveryMenuItemUnderItsMenuAndEveryShortcut) {
+  Screen screen;
+  const auto page = pages_.Text("main_form.md");
+  const auto shown = [](const QAction* action) { return action->text().remove('&'); };
+  for (const auto* menu : screen.Main().menuBar()->actions()) {
+    const auto head = "\n## " + shown(menu) + '\n';
+    const auto part = page.mid(page.indexOf(head) + 1).section("\n## ", 0, 0);
+    EXPECT_TRUE(page.contains(head)) << head.toStdString();
+    for (const auto* item : menu->menu()->actions()) {
+      const auto keys = item->shortcut().toString();
+      EXPECT_TRUE(part.contains(shown(item))) << "lacks " << shown(item).toStdString();
+      EXPECT_TRUE(page.section("\n## Keys\n", 1).contains(keys)) << "lacks " << keys.toStdString();
+    }
   }
 }
 
