@@ -211,7 +211,7 @@ TEST_F(Script, AFailedExpectationNamesThePlace) {
 
 TEST_F(Script, WrongStatementsAreToldWithTheirPlace) {
   std::istringstream statements(
-      "pick NoSuch 1\npick ComboReg 111\npick ComboReg -1\npick ComboReg \"no such\"\npick ComboReg GENERIC\n"
+      "pick NoSuch 1\npick ComboReg 999\npick ComboReg -1\npick ComboReg \"no such\"\npick ComboReg GENERIC\n"
       "pick \"ComboReg\" 0\npick cmdConnect 0\nclick ComboReg\nclick Label64(0)\nclick OpDVR\n"
       "click NoSuch(1)\nclick cmdConnect twice\n\"click\" cmdConnect\ntype cmdConnect \"x\"\n"
       "key ComboReg Space\nclose ComboReg\ntick ComboReg\ntick Timer x\ntick Timer -1\nunit 06\nunit hex\n"
