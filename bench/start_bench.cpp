@@ -52,6 +52,7 @@ int PaintOnce(int argc, char** argv) {
   ApplyTheme(Theme::kDesktop);
   Program program(QString::fromLocal8Bit(argv[2]), QString::fromLocal8Bit(argv[3]));
   if (program.Start() != Outcome::kDone) return EXIT_FAILURE;
+  program.GuardUnsaved();
   PaintWatch watch;
   for (auto* window : QApplication::topLevelWidgets()) window->installEventFilter(&watch);
   QApplication::exec();

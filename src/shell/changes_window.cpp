@@ -3,6 +3,7 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
@@ -50,7 +51,7 @@ QString CountOf(std::size_t count) {
 ChangesWindow::ChangesWindow(const Application& app, QWidget* parent) : QDialog(parent), app_(app) {
   setObjectName(QStringLiteral("Changes"));
   setWindowTitle(QStringLiteral("Changes"));
-  resize(kStartSize);
+  resize(kStartSize.boundedTo(screen()->availableSize()));
 }
 
 void ChangesWindow::Build() {

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QTextBlock>
@@ -73,7 +74,7 @@ HelpWindow::HelpWindow(const HelpPages& pages, QWidget* parent) : QDialog(parent
   setObjectName(QStringLiteral("Help"));
   setWindowTitle(QStringLiteral("Help"));
   setWindowFlag(Qt::WindowMaximizeButtonHint);
-  resize(kStartSize);
+  resize(kStartSize.boundedTo(screen()->availableSize()));
   auto* across = new QHBoxLayout(this);
   across->setContentsMargins(0, 0, 0, 0);
   auto* halves = new QSplitter;

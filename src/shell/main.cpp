@@ -118,12 +118,17 @@ int main(int argc, char** argv) {
   ovl::ApplyTheme(ovl::Theme::kDesktop);
   const auto folder = FindFolder(*options);
   if (!folder) return EXIT_FAILURE;
-  if (!options->pictures.isEmpty() && !ovl::SavePictures(*folder, options->store, options->pictures)) {
-    return EXIT_FAILURE;
+  if (!options->pictures.isEmpty()) {
+    const auto problem = ovl::SavePictures(*folder, options->store, options->pictures);
+    if (!problem.isEmpty()) {
+      std::cerr << "ovl: the pictures cannot be taken: " << problem.toLocal8Bit().constData() << "\n";
+      return EXIT_FAILURE;
+    }
   }
   if (!options->guide.isEmpty()) return SaveGuide(*options);
   if (!options->pictures.isEmpty()) return EXIT_SUCCESS;
   ovl::Program program(*folder, options->store);
   if (program.Start() == ovl::Outcome::kEnded) return EXIT_FAILURE;
+  program.GuardUnsaved();
   return QApplication::exec();
 }

@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QStatusBar>
 #include <QTabBar>
@@ -18,8 +19,7 @@
 namespace ovl {
 namespace {
 
-constexpr QSize kStartSize(1040, 700);
-constexpr QSize kLeastSize(800, 480);
+constexpr QSize kLeastSize(640, 360);  // the pages scroll
 
 }  // namespace
 
@@ -32,7 +32,7 @@ MainWindow::MainWindow(Bindings& bindings)
   setObjectName(FromWindows1252(form.name));
   setWindowTitle(FromWindows1252(form.caption));
   setMinimumSize(kLeastSize);
-  resize(kStartSize);
+  resize(kStartSize.boundedTo(screen()->availableSize()));
   BuildTabs();
   BuildMenus();
   statusBar()->setSizeGripEnabled(false);

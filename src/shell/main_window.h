@@ -18,6 +18,9 @@ class StatusStrip;
 
 class MainWindow : public QMainWindow {
  public:
+  // What it takes of a screen that has the room.
+  static constexpr QSize kStartSize{1040, 700};
+
   explicit MainWindow(Bindings& bindings);
 
   QTabWidget& Tabs() const { return *tabs_; }

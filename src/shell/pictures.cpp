@@ -3,9 +3,11 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QSaveFile>
 #include <QTabWidget>
 #include <algorithm>
 #include <array>
+#include <filesystem>
 
 #include "image/record_stream.h"
 #include "shell/changes_window.h"
@@ -68,9 +70,11 @@ class Photographer {
   Photographer(Program& program, PlayedLine& line, QDir folder)
       : program_(program), line_(line), folder_(std::move(folder)) {}
 
-  bool Done() const { return done_; }
+  // What could not be written; empty if everything was.
+  const QString& Problem() const { return problem_; }
 
   void TakeAll() {
+    Main().resize(MainWindow::kStartSize);
     for (int tick = 0; tick <= kClockTicks; ++tick) program_.Act(TickEvent{&App().frmMain.Timer});
     MakeSampleSettings(program_);
     TakeTabs();
@@ -92,7 +96,9 @@ class Photographer {
     program_.RefreshNow();
     QApplication::setActiveWindow(&window);
     QCoreApplication::sendPostedEvents();
-    done_ = window.grab().save(folder_.filePath(name + QStringLiteral(".png"))) && done_;
+    QSaveFile file(folder_.filePath(name + QStringLiteral(".png")));
+    if (!file.open(QIODevice::WriteOnly) || !window.grab().save(&file, "PNG") || !file.commit())
+      problem_ = file.fileName() + QStringLiteral(": ") + file.errorString();
   }
 
   void TakeForm(const Form& form, const QString& name) {
@@ -304,33 +310,38 @@ class Photographer {
   Program& program_;
   PlayedLine& line_;
   QDir folder_;
-  bool done_ = true;
+  QString problem_;
 };
 
 // A program of its own for each theme: what the first one did to its link would show in the other.
-bool SaveTheme(const QString& program_folder, const QString& store, const QString& folder) {
+QString SaveTheme(const QString& program_folder, const QString& store, const QString& folder) {
   Program program(program_folder, store);
   auto& platform = program.Model().platform;
-  platform.show_message = [](const MessageBox&) {};
   platform.ask_file = [](const FileDialog&) { return std::optional<FileAnswer>(); };
   platform.clock = [] { return kPictureTime; };
   PlayedLine line(program);
-  if (program.Start() == Outcome::kEnded) return false;
+  QString why;
+  platform.show_message = [&why](const MessageBox& box) { why = FromWindows1252(box.text); };
+  if (program.Start() == Outcome::kEnded) return why;
+  platform.show_message = [](const MessageBox&) {};
   Photographer photographer(program, line, QDir(folder));
   photographer.TakeAll();
-  return photographer.Done();
+  return photographer.Problem();
 }
 
 }  // namespace
 
-bool SavePictures(const QString& program_folder, const QString& store, const QString& folder) {
+QString SavePictures(const QString& program_folder, const QString& store, const QString& folder) {
   for (const auto& [theme, name] : {std::pair(Theme::kLight, "light"), std::pair(Theme::kDark, "dark")}) {
-    const QDir below(QDir(folder).filePath(QString::fromLatin1(name)));
-    if (!QDir().mkpath(below.path())) return false;
+    const auto below = QDir(folder).filePath(QString::fromLatin1(name));
+    std::error_code error;
+    std::filesystem::create_directories(QFile::encodeName(below).toStdString(), error);
+    if (error) return below + QStringLiteral(": ") + QString::fromStdString(error.message());
     ApplyTheme(theme);
-    if (!SaveTheme(program_folder, store, below.path())) return false;
+    const auto problem = SaveTheme(program_folder, store, below);
+    if (!problem.isEmpty()) return problem;
   }
-  return true;
+  return {};
 }
 
 }  // namespace ovl

@@ -23,8 +23,7 @@ constexpr const char* kNotKept =
 Program::Program(QString folder, QString store_folder)
     : folder_(std::move(folder)),
       store_(std::move(store_folder)),
-      port_(folder_, [this](const Event& event) { return Act(event); }),
-      unsaved_(app_, folder_) {
+      port_(folder_, [this](const Event& event) { return Act(event); }) {
   frame_.setSingleShot(true);
   frame_.setInterval(kFrame);
   frame_.callOnTimeout([this] { RefreshNow(); });
@@ -33,7 +32,7 @@ Program::Program(QString folder, QString store_folder)
 
 // Windows on their way out still tell of lost focus; there is nothing left for it to change.
 Program::~Program() {
-  if (!app_.ended) unsaved_.Drop();
+  if (unsaved_ && !app_.ended) unsaved_->Drop();
   const auto going = std::move(windows_);
   app_.ended = true;
 }
@@ -73,7 +72,6 @@ Outcome Program::Start() {
   if (outcome == Outcome::kEnded) return outcome;
   windows_ = std::make_unique<Windows>(app_, [this](const Event& event) { return Act(event); });
   windows_->Main().Status().port_problem = [this] { return port_.LastProblem(); };
-  GuardUnsaved();
   CollectTimers();
   RefreshNow();
   Follow(outcome);
@@ -82,13 +80,15 @@ Outcome Program::Start() {
 
 void Program::GuardUnsaved() {
   auto& status = windows_->Main().Status();
-  const auto rescued = RescueCopies(folder_);
-  if (!rescued.isEmpty())
-    status.SetNotice(QStringLiteral("Changes of a run that ended suddenly; File > Open reads them: ") +
-                     rescued);
-  unsaved_.problem = [&status](const QString& reason) {
+  const auto rescued = RescueCopies(folder_).join(QStringLiteral(", "));
+  if (!rescued.isEmpty()) {
+    status.SetNotice(rescued + QStringLiteral(": changes of a run that ended suddenly, for File > Open"));
+  }
+  unsaved_ = std::make_unique<UnsavedCopy>(app_, folder_);
+  unsaved_->problem = [&status](const QString& reason) {
     status.SetNotice(QStringLiteral("Changes are not guarded against a sudden end. ") + reason);
   };
+  RefreshNow();
 }
 
 void Program::CollectTimers() {
@@ -104,7 +104,7 @@ void Program::CollectTimers() {
 
 Outcome Program::Act(const Event& event) {
   const auto outcome = windows_ && !app_.handling && IsAct(event) ? ActAndTell(event) : Dispatch(app_, event);
-  if (outcome == Outcome::kEnded) IsLeaving(event) ? unsaved_.Drop() : unsaved_.Keep();
+  if (unsaved_ && outcome == Outcome::kEnded) IsLeaving(event) ? unsaved_->Drop() : unsaved_->Keep();
   Follow(outcome);
   return outcome;
 }
@@ -161,7 +161,7 @@ void Program::RefreshNow() {
   frame_.stop();
   if (!windows_ || app_.ended) return;
   windows_->Refresh();
-  unsaved_.Follow();
+  if (unsaved_) unsaved_->Follow();
 }
 
 void Program::End() {

@@ -28,6 +28,10 @@ class Program {
   // Starts the model, builds the windows and shows them. kEnded: the program told why and is over.
   Outcome Start();
 
+  // For the program that a person works in, once it has started: names what an earlier run left, and keeps a
+  // copy of the changes from now on.
+  void GuardUnsaved();
+
   // Hands one event to the model and follows what it led to. When the program ends by it, the windows go at
   // once and the event loop is told to stop.
   Outcome Act(const Event& event);
@@ -50,7 +54,6 @@ class Program {
   void FillPlatform();
   bool IsLeaving(const Event& event);
   Outcome ActAndTell(const Event& event);
-  void GuardUnsaved();
   void CollectTimers();
   void Follow(Outcome outcome);
   void FollowTimer(TimerState& timer);
@@ -63,7 +66,7 @@ class Program {
   SettingsStore store_;
   std::string store_problem_;
   SerialPort port_;
-  UnsavedCopy unsaved_;
+  std::unique_ptr<UnsavedCopy> unsaved_;
   std::unique_ptr<Windows> windows_;
   std::vector<TimerState> timers_;
   QTimer frame_;

@@ -1,8 +1,7 @@
 #include "shell/unsaved_copy.h"
 
-#include <QCoreApplication>
-#include <QDir>
 #include <QFile>
+#include <utility>
 
 #include "core/failure.h"
 #include "image/files.h"
@@ -13,39 +12,59 @@ namespace ovl {
 namespace {
 
 constexpr int kSoon = 1000;
-constexpr QLatin1String kName("unsaved-");
-constexpr QLatin1String kEnding(".bin");
+constexpr QLatin1String kUnsaved("unsaved"), kRescued("rescued");
 
-bool Runs(const QString& process) {
-  return QFile::exists(QStringLiteral("/proc/") + process);
+QString NameOf(QLatin1String what, const QString& firmware, int number) {
+  return QStringLiteral("%1 %2 %3.bin").arg(what, firmware).arg(number);
 }
 
-QString FreeName(const QDir& folder) {
-  for (int number = 1;; ++number) {
-    const auto path = folder.filePath(QStringLiteral("rescued %1.bin").arg(number));
-    if (!QFile::exists(path)) return path;
-  }
+// A lock is free once its process is gone, however long it has stood.
+std::unique_ptr<QLockFile> Lock(const QString& path) {
+  auto lock = std::make_unique<QLockFile>(path + QStringLiteral(".lock"));
+  lock->setStaleLockTime(0);
+  return lock;
+}
+
+int FreeNumber(const QDir& folder, QLatin1String what, const QString& firmware, int from = 1) {
+  while (folder.exists(NameOf(what, firmware, from))) ++from;
+  return from;
 }
 
 }  // namespace
 
-QString RescueCopies(const QString& folder) {
+QStringList RescueCopies(const QString& folder) {
   const QDir in(folder);
   QStringList rescued;
-  for (const auto& name : in.entryList({kName + QLatin1Char('*') + kEnding}, QDir::Files)) {
-    if (Runs(name.mid(kName.size()).chopped(kEnding.size()))) continue;
-    const auto path = FreeName(in);
-    if (QFile::rename(in.filePath(name), path)) rescued.append(path);
+  for (const auto& name : in.entryList({kUnsaved + QStringLiteral(" * *.bin")}, QDir::Files)) {
+    const auto lock = Lock(in.filePath(name));
+    if (!lock->tryLock(0)) continue;
+    const auto firmware = name.section(QLatin1Char(' '), 1, 1);
+    const auto kept = NameOf(kRescued, firmware, FreeNumber(in, kRescued, firmware));
+    if (QFile::rename(in.filePath(name), in.filePath(kept))) rescued.append(kept);
   }
-  return rescued.join(QLatin1Char('\n'));
+  return rescued;
 }
 
-UnsavedCopy::UnsavedCopy(const Application& app, const QString& folder)
-    : app_(app),
-      path_(QDir(folder).filePath(kName + QString::number(QCoreApplication::applicationPid()) + kEnding)) {
+UnsavedCopy::UnsavedCopy(const Application& app, const QString& folder) : app_(app), folder_(folder) {
   soon_.setSingleShot(true);
   soon_.setInterval(kSoon);
   soon_.callOnTimeout([this] { Keep(); });
+}
+
+// A name that nothing has and nobody else is about to take.
+bool UnsavedCopy::TakeName() {
+  constexpr int kNamesToTry = 100;
+  const auto firmware = FromWindows1252(app_.firmware.Joined());
+  for (int number = 0; lock_ == nullptr && number < kNamesToTry;) {
+    number = FreeNumber(folder_, kUnsaved, firmware, number + 1);
+    path_ = folder_.filePath(NameOf(kUnsaved, firmware, number));
+    auto lock = Lock(path_);
+    if (lock->tryLock(0))
+      lock_ = std::move(lock);
+    else if (lock->error() != QLockFile::LockFailedError)
+      break;
+  }
+  return lock_ != nullptr;
 }
 
 void UnsavedCopy::Follow() {
@@ -53,7 +72,12 @@ void UnsavedCopy::Follow() {
 }
 
 void UnsavedCopy::Keep() {
+  soon_.stop();
   if (app_.image == app_.known_image) return Drop();
+  if (!TakeName()) {
+    if (problem) problem(folder_.path());
+    return;
+  }
   try {
     WriteWhole(QFile::encodeName(path_).toStdString(), ReopenableStream(app_) + "\r\n");
   } catch (const Failure& failure) {
@@ -63,7 +87,9 @@ void UnsavedCopy::Keep() {
 
 void UnsavedCopy::Drop() {
   soon_.stop();
+  if (lock_ == nullptr) return;
   QFile::remove(path_);
+  lock_.reset();
 }
 
 }  // namespace ovl

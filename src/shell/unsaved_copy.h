@@ -2,21 +2,26 @@
 // outside: its display goes away, the machine is switched off, somebody kills it.
 #pragma once
 
-#include <QString>
+#include <QDir>
+#include <QLockFile>
+#include <QStringList>
 #include <QTimer>
 #include <functional>
+#include <memory>
 
 #include "shell/bindings.h"
 
 namespace ovl {
 
-// Gives the copies that ended programs left in the folder lasting names ("rescued 1.bin") under which File >
-// Open finds them. The paths, one to a line; empty if there is none.
-QString RescueCopies(const QString& folder);
+// Gives the copies that ended programs left in the folder lasting names ("rescued V1400R12 1.bin": the
+// firmware under which File > Open reads them). Copies of programs that still run are locked. Returns the new
+// names.
+QStringList RescueCopies(const QString& folder);
 
 class UnsavedCopy {
  public:
-  // The copy stands in the folder under a name of this process. The application object must outlive this.
+  // The copy stands in the folder under a name that is this object's as long as it is locked. The application
+  // object must outlive this.
   UnsavedCopy(const Application& app, const QString& folder);
 
   // Has the copy written soon if the image is another one by now, or taken away once nothing differs from
@@ -33,8 +38,12 @@ class UnsavedCopy {
   std::function<void(const QString& reason)> problem;
 
  private:
+  bool TakeName();
+
   const Application& app_;
+  QDir folder_;
   QString path_;
+  std::unique_ptr<QLockFile> lock_;
   QTimer soon_;
   Shadow<ConfigImage> seen_;
 };

@@ -219,7 +219,12 @@ TEST(Pictures, EveryStateIsTakenInBothThemes) {
   const TemporaryFolder site, shots;
   MakeSite(site, {"V1400", "R12"});
   const auto folder = QString::fromStdString(site.Path().string());
-  ASSERT_TRUE(SavePictures(folder, folder, QString::fromStdString(shots.Path().string())));
+  WriteWhole(shots.File("file"), "");
+  const auto blocked = QString::fromStdString(shots.File("file"));
+  EXPECT_EQ(SavePictures(folder, folder, blocked), blocked + "/light: Not a directory");
+  WriteWhole(site.File("unsaved V1400R12 1.bin"), "a person's");
+  ASSERT_EQ(SavePictures(folder, folder, QString::fromStdString(shots.Path().string())), QString());
+  EXPECT_EQ(ReadWhole(site.File("unsaved V1400R12 1.bin")), "a person's");
   for (const std::string theme : {"light", "dark"}) {
     const auto load = [&](const char* name) {
       return QImage(QString::fromStdString(shots.File(theme + "/" + name + ".png")));
