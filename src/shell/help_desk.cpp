@@ -12,9 +12,10 @@
 namespace ovl {
 namespace {
 
+// A folder that nobody put pages into must not hide those of the program.
 QString PagesFolder(const QString& program_folder) {
   const auto own = QDir(program_folder).filePath(QStringLiteral("Help"));
-  return QDir(own).exists() ? own : kEmbeddedHelp;
+  return QDir(own).exists(QStringLiteral("contents.md")) ? own : kEmbeddedHelp;
 }
 
 }  // namespace

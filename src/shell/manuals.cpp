@@ -2,22 +2,48 @@
 
 #include <QDesktopServices>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QMenu>
+#include <QProcess>
 #include <QUrl>
+#include <filesystem>
+#include <utility>
 
 namespace ovl {
 namespace {
+
+using Tell = std::function<void(const QString&)>;
 
 bool OpenPath(const QString& path) {
   return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
 }
 
-QString WhyNotRead(const QString& folder) {
-  const QFileInfo info(folder);
-  if (!info.exists()) return QStringLiteral("it does not exist");
-  return info.isReadable() ? QStringLiteral("no program of the desktop opens folders")
-                           : QStringLiteral("it may not be read");
+// Opening tells no more than that the desktop's opener was started, so the desktop is asked before whether it
+// knows a reader. Where it has nothing to ask, opening tells.
+void AskForReader(QObject& owner, std::function<void(bool)> then) {
+  auto* question = new QProcess(&owner);
+  QObject::connect(question, &QProcess::errorOccurred, question,
+                   [question, then](QProcess::ProcessError error) {
+                     if (error != QProcess::FailedToStart) return;
+                     question->deleteLater();
+                     then(true);
+                   });
+  QObject::connect(question, &QProcess::finished, question, [question, then] {
+    question->deleteLater();
+    then(!question->readAllStandardOutput().trimmed().isEmpty());
+  });
+  question->start(QStringLiteral("xdg-mime"),
+                  {QStringLiteral("query"), QStringLiteral("default"), QStringLiteral("application/pdf")});
+}
+
+void OpenFolder(const QString& folder, const Tell& tell) {
+  std::error_code failed;
+  std::filesystem::directory_iterator(QFile::encodeName(folder).toStdString(), failed);
+  if (!failed && OpenPath(folder)) return;
+  tell(QStringLiteral("The manual folder cannot be opened.\n\n%1: %2")
+           .arg(QDir::toNativeSeparators(folder), failed ? QString::fromLocal8Bit(failed.message().c_str())
+                                                         : QStringLiteral("no program opens folders")));
 }
 
 }  // namespace
@@ -31,18 +57,16 @@ QStringList ListManuals(const QString& folder) {
                                 QDir::Name | QDir::IgnoreCase);
 }
 
-QString OpenManual(const QString& folder, const QString& file) {
-  if (!file.isEmpty() && OpenPath(QDir(folder).filePath(file))) return {};
-  const QFileInfo info(folder);
-  if (info.isDir() && info.isReadable() && OpenPath(folder)) return {};
-  return QStringLiteral("The manual folder %1 cannot be opened: %2.")
-      .arg(QDir::toNativeSeparators(folder), WhyNotRead(folder));
+void OpenManual(QObject& owner, const QString& folder, const QString& file, Tell tell) {
+  if (file.isEmpty()) return OpenFolder(folder, tell);
+  AskForReader(owner, [folder, file, tell = std::move(tell)](bool knows_reader) {
+    if (!knows_reader || !OpenPath(QDir(folder).filePath(file))) OpenFolder(folder, tell);
+  });
 }
 
-void FillManualMenu(QMenu& menu, const QString& folder, std::function<void(const QString&)> tell) {
-  const auto open = [folder, tell = std::move(tell)](const QString& file) {
-    const auto problem = OpenManual(folder, file);
-    if (!problem.isEmpty()) tell(problem);
+void FillManualMenu(QMenu& menu, const QString& folder, Tell tell) {
+  const auto open = [&menu, folder, tell = std::move(tell)](const QString& file) {
+    OpenManual(menu, folder, file, tell);
   };
   QObject::connect(&menu, &QMenu::aboutToShow, &menu, [&menu, folder, open] {
     menu.clear();

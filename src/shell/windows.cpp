@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "shell/about_window.h"
+#include "shell/boxes.h"
 #include "shell/link_windows.h"
 #include "shell/manuals.h"
 #include "shell/mnemonics.h"
@@ -63,8 +64,9 @@ void Windows::FillHelpMenu() {
   contents->setObjectName(QStringLiteral("menuHelp"));
   auto* manuals = menu.addMenu(QStringLiteral("Manual"));
   manuals->setObjectName(QStringLiteral("menuManual"));
-  FillManualMenu(*manuals, ManualFolder(folder),
-                 [this](const QString& problem) { main_->Status().ShowHint(problem); });
+  FillManualMenu(*manuals, ManualFolder(folder), [this](const QString& problem) {
+    ShowBox(main_.get(), {{}, problem.toStdString()});
+  });
   menu.addSeparator();
   bindings_.Item(menu, app_.frmMain.menuAbout);
 }

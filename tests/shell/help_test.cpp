@@ -1,4 +1,5 @@
 // The help has a word for everything that a person can meet, and its window leads there.
+#include <QDeadlineTimer>
 #include <QDesktopServices>
 #include <QDialog>
 #include <QDir>
@@ -208,21 +209,47 @@ class Desktop : public QObject {
   void Open(const QUrl& url) { opened.append(url.fileName()); }
 };
 
-TEST_F(HelpWindowTest, ListsAndOpensTheManuals) {
+// What the desktop answers when it is asked for the reader of a kind of file.
+void AnswerReader(const TemporaryFolder& folder, const std::string& reader) {
+  WriteWhole(folder.File("xdg-mime"), "#!/bin/sh\necho " + reader + "\n");
+  std::filesystem::permissions(folder.File("xdg-mime"), std::filesystem::perms::owner_all);
+}
+
+TEST_F(HelpWindowTest, OpensAManualOrItsFolderOrTellsWhy) {
   Desktop desktop;
+  const TemporaryFolder tools;
+  const auto path = qgetenv("PATH");
+  qputenv("PATH", QByteArray::fromStdString(tools.Path().string()) + ':' + path);
   const auto manuals = ManualFolder(Path(""));
-  EXPECT_TRUE(OpenManual(manuals, {}).contains(manuals + " cannot be opened: it does not exist"));
-  EXPECT_TRUE(desktop.opened.isEmpty());
+  QString told;
+  const auto opened_by = [&](const std::function<void()>& open) {
+    desktop.opened.clear();
+    told.clear();
+    open();
+    for (const QDeadlineTimer late(10000); desktop.opened.isEmpty() && told.isEmpty() && !late.hasExpired();)
+      QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+    return desktop.opened.join(',') + told;
+  };
+  const auto opened = [&](const QString& in, const char* file) {
+    return opened_by([&] { OpenManual(Main(), in, file, [&](const QString& why) { told = why; }); });
+  };
+  EXPECT_EQ(opened(manuals, ""),
+            "The manual folder cannot be opened.\n\n" + manuals + ": No such file or directory");
   QDir().mkpath(manuals);
   for (const char* name : {"/B.pdf", "/a.PDF", "/notes.txt"}) {
     ASSERT_TRUE(QFile(manuals + name).open(QIODevice::WriteOnly));
   }
+  AnswerReader(tools, "reader.desktop");
   EXPECT_EQ(ListManuals(manuals), QStringList({"a.PDF", "B.pdf"}));
   auto& menu = *Main().HelpMenu().findChild<QMenu*>("menuManual");
   emit menu.aboutToShow();
   ASSERT_EQ(menu.actions().size(), 4);
-  for (const int entry : {1, 3}) menu.actions().at(entry)->trigger();
-  EXPECT_EQ(desktop.opened, QStringList({"B.pdf", "Manual"}));
+  EXPECT_EQ(opened_by([&] { menu.actions().at(1)->trigger(); }), "B.pdf");
+  EXPECT_EQ(opened_by([&] { menu.actions().at(3)->trigger(); }), "Manual");
+  AnswerReader(tools, "");
+  EXPECT_EQ(opened(manuals, "B.pdf"), "Manual");
+  EXPECT_TRUE(opened(manuals + "/B.pdf", "B.pdf").endsWith("/B.pdf: Not a directory"));
+  qputenv("PATH", path);
 }
 
 }  // namespace
