@@ -170,8 +170,8 @@ QWidget* BuildOverview(Bindings& bindings, List& list, Overview overview) {
   auto* legend = MutedLabel({});
   auto* use = MutedLabel({});
   use->setObjectName(overview.name + QStringLiteral("Use"));
-  below->addWidget(legend);
-  below->addStretch(1);
+  legend->setWordWrap(true);
+  below->addWidget(legend, 1);
   below->addWidget(use);
   down->addWidget(table, 1);
   down->addLayout(below);

@@ -9,6 +9,7 @@
 #include <QSet>
 #include <QTreeView>
 #include <set>
+#include <tuple>
 
 #include "screen.h"
 
@@ -45,9 +46,9 @@ std::multiset<std::string> Controls(const QWidget& page, const Registry& registr
   return controls;
 }
 
-void ExpectLettersOfTheirOwn(const QMenuBar& menus, const QWidget& page) {
+void ExpectLettersOfTheirOwn(const QList<QAction*>& menus, const QWidget& page) {
   QStringList texts;
-  for (const auto* action : menus.actions()) texts.append(action->isVisible() ? action->text() : "");
+  for (const auto* action : menus) texts.append(action->isVisible() ? action->text() : "");
   for (const auto* widget : VisibleIn<QAbstractButton, QLabel>(page)) {
     const auto* label = qobject_cast<const QLabel*>(widget);
     const bool taken = label == nullptr ? !IsOne<QRadioButton>(widget) : label->buddy() != nullptr;
@@ -73,13 +74,13 @@ TEST(KeyboardWalk, ReachesEveryControlOfATabOnceByItsNameAndFindsNoTextCut) {
       SCOPED_TRACE(firmware.Joined() + " tab " + std::to_string(tab));
       window.Tabs().setCurrentIndex(tab);
       const auto& page = *window.Tabs().currentWidget();
-      for (const QSize size : {QSize(1040, 700), QSize(960, 600)}) {
+      for (const QSize size : {QSize(1040, 700), QSize(683, 384), QSize(960, 600)}) {
         window.resize(size);
         screen.Show();
         EXPECT_EQ(window.size(), size);
         ExpectRoom(page);
       }
-      ExpectLettersOfTheirOwn(*window.menuBar(), page);
+      ExpectLettersOfTheirOwn(window.menuBar()->actions(), page);
       std::multiset<std::string> visited;
       window.Tabs().setFocus();
       for (const auto* stop : screen.Round()) {
@@ -88,6 +89,35 @@ TEST(KeyboardWalk, ReachesEveryControlOfATabOnceByItsNameAndFindsNoTextCut) {
       EXPECT_EQ(visited, Controls(page, screen.App().registry));
       EXPECT_FALSE(visited.empty());
     }
+  }
+}
+
+TEST(KeyboardWalk, FindsNamesLettersAndRoomInEverySmallWindow) {
+  Screen screen;
+  auto& app = screen.App();
+  const auto look = [&](const Form& form) {
+    SCOPED_TRACE(form.name);
+    screen.Show();
+    auto& window = screen.Window(form);
+    ASSERT_TRUE(window.isVisible());
+    ExpectRoom(window);
+    ExpectLettersOfTheirOwn({}, window);
+    Controls(window, app.registry);
+  };
+  for (auto* form : {&app.frmSettSR.form, &app.frmScanBProgress.form, &app.frmOK_buttom.form,
+                     &app.frmSetEXCPSTR.form, &app.frmSetRange.form, &app.frmView.form, &app.frmAbout.form}) {
+    form->loaded = form->visible = true;
+    look(*form);
+    form->loaded = form->visible = false;
+  }
+  const std::tuple<const char*, const char*, const Form*> options[] = {
+      {"MICROS", "OpMicros(1)", &app.frmMicros.form}, {"MICROS", "OpMicros(2)", &app.frmMicros.form},
+      {"MICROS", "OpMicros(3)", &app.frmMicros.form}, {"CASIO", "CASIOOP(18)", &app.FrmSubMenu.form},
+      {"SHARP", "SharpOP(12)", &app.FrmSubMenu.form}, {"SHARP", "SharpOP(22)", &app.FrmSubMenu.form}};
+  for (const auto& [name, option, form] : options) {
+    screen.Select(name);
+    screen.Click(option);
+    look(*form);
   }
 }
 

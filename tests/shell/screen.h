@@ -46,7 +46,7 @@ std::vector<QWidget*> VisibleIn(const QWidget& page) {
 // Whatever is read has room for its text.
 inline void ExpectRoom(const QWidget& page) {
   for (const auto* widget : VisibleIn<QLabel, QAbstractButton, QComboBox>(page)) {
-    SCOPED_TRACE(widget->objectName().toStdString() + " " + widget->accessibleName().toStdString());
+    SCOPED_TRACE((widget->objectName() + ' ' + widget->property("text").toString()).toStdString());
     const auto* label = qobject_cast<const QLabel*>(widget);
     if (label != nullptr && label->wordWrap()) continue;
     EXPECT_GE(widget->width(), widget->sizeHint().width());
