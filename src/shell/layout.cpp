@@ -402,20 +402,25 @@ bool PageColumn::AnySectionShown() const {
   return std::any_of(state_->sections.begin(), state_->sections.end(), State::Shows);
 }
 
+QScrollArea* Scrolled(QWidget* content) {
+  auto* area = new QScrollArea;
+  area->setFrameShape(QFrame::NoFrame);
+  area->setWidgetResizable(true);
+  area->setFocusPolicy(Qt::NoFocus);
+  area->setWidget(content);
+  return area;
+}
+
 Page::Page(Bindings& bindings, const Form& form, int left)
     : bindings_(bindings),
       form_(form),
-      area_(new QScrollArea),
       content_(new QWidget),
+      area_(Scrolled(content_)),
       down_(new QVBoxLayout(content_)),
       across_(new QHBoxLayout) {
   down_->setContentsMargins(left, kMargin, kMargin, kMargin);
   down_->setSpacing(kSectionGap);
   across_->setSpacing(kColumnGap);
-  area_->setFrameShape(QFrame::NoFrame);
-  area_->setWidgetResizable(true);
-  area_->setFocusPolicy(Qt::NoFocus);
-  area_->setWidget(content_);
 }
 
 PageColumn& Page::Column(int share, int least) {

@@ -145,6 +145,9 @@ class PageColumn {
   const Frame* within_ = nullptr;
 };
 
+// Takes the content as its own; the bars come where the room is too small for it.
+QScrollArea* Scrolled(QWidget* content);
+
 class Page {
  public:
   // What stands to the left of the page, if anything, is `left` pixels away.
@@ -163,8 +166,8 @@ class Page {
  private:
   Bindings& bindings_;
   const Form& form_;
-  QScrollArea* area_;
   QWidget* content_;
+  QScrollArea* area_;
   QVBoxLayout* down_;
   QHBoxLayout* across_;
   std::deque<PageColumn> columns_;

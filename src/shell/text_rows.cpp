@@ -51,7 +51,8 @@ QWidget* BesideOverview(Bindings& bindings, QWidget* overview, QScrollArea* edit
     if (editor->minimumWidth() != least) editor->setFixedWidth(least);
     return false;
   });
-  return page;
+  // A window too narrow for both shows one after the other.
+  return Scrolled(page);
 }
 
 }  // namespace ovl

@@ -25,10 +25,11 @@ std::string ControlOf(const QWidget& widget) {
 // The whole of a widget lies on the page, or on what is scrolled of it.
 bool Reachable(const QWidget* widget, const QWidget* page) {
   const auto* ground = widget;
-  while (ground != page && !IsOne<QScrollArea>(ground->parentWidget()->parentWidget()))
-    ground = ground->parentWidget();
+  const auto area = [&] { return ground->parentWidget()->parentWidget(); };
+  while (ground != page && !IsOne<QScrollArea>(area())) ground = ground->parentWidget();
   const QRect place(widget->mapTo(ground, QPoint()), widget->size());
-  return !place.isEmpty() && ground->rect().contains(place);
+  const bool inside = !place.isEmpty() && ground->rect().contains(place);
+  return inside && (ground == page || Reachable(area(), page));
 }
 
 std::multiset<std::string> Controls(const QWidget& page, const Registry& registry) {
@@ -79,6 +80,7 @@ TEST(KeyboardWalk, ReachesEveryControlOfATabOnceByItsNameAndFindsNoTextCut) {
         screen.Show();
         EXPECT_EQ(window.size(), size);
         ExpectRoom(page);
+        Controls(page, screen.App().registry);
       }
       ExpectLettersOfTheirOwn(window.menuBar()->actions(), page);
       std::multiset<std::string> visited;
