@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Tries the package in a Debian 12 of its own, as root: installs it, starts it and transfers a configuration as an
-# ordinary user, removes it and lists what is left. try.sh [FOLDER] keeps the root file system in the folder.
+# ordinary user, removes it and fails if anything is left. try.sh [FOLDER] keeps the root file system in the folder.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 [ "${TRY_ALONE:-}" ] || TRY_ALONE=1 exec unshare --mount --propagation private "packaging/try.sh" "$@"
@@ -32,15 +32,16 @@ cp "${packages[@]}" "$root/tmp"
 inside sh -c 'apt-get install -q -y --no-install-recommends fonts-dejavu-core /tmp/ovl-software_*.deb'
 
 echo "== As an ordinary user, before the firmware is set"
-as_user 'ovl; echo "status $?"; /usr/sbin/ovl-setup V1400 R12; echo "status $?"'
+as_user '! ovl && ! /usr/sbin/ovl-setup V1400 R12'
 echo "== ovl-setup"
-inside ovl-setup V1400 R99 || echo "status $?"
+if inside ovl-setup V1400 R99; then exit 1; fi
 inside ovl-setup V1400 R12
 inside cat "/etc/xdg/ORB/OVL Software.conf"
 echo "== Pictures and a transfer, as an ordinary user"
-as_user 'QT_QPA_PLATFORM=offscreen ovl --pictures pictures 2> /dev/null; echo "status $?, $(ls pictures/light | wc -l) pictures"'
+as_user 'QT_QPA_PLATFORM=offscreen ovl --pictures pictures 2> /dev/null && echo "$(ls pictures/light | wc -l) pictures"'
 as_user 'ls -l ".local/share/OVL Software/V1400"'
 cat > "$root/tmp/transfer" <<'END'
+set -e
 ovl-unit --link ".local/share/OVL Software/ports/com1" --memory unit.bin > /dev/null & unit=$!
 sleep 2
 ovl-script 2> /dev/null <<STATEMENTS
@@ -57,16 +58,20 @@ upload
 expect field DATE_FORMAT_BAK 02
 expect no box
 STATEMENTS
-echo "script $?"
 kill $unit
 wait $unit
-echo "unit $?"
+echo "transferred, and the unit had nothing to complain of"
 END
 as_user 'bash /tmp/transfer'
 
-echo "== Removed: what is left of the package, then what is left at all"
+echo "== Removed"
+inside touch "/etc/xdg/ORB/OVL Software.conf.unsound" "/etc/xdg/ORB/OVL Software.conf.new"
 inside apt-get remove -q -y ovl-software
-inside find / -xdev \( -path /proc -o -path /dev -o -path /tmp -o -path /home \) -prune -o -iname '*ovl*' -print
+left=$(inside find / -xdev \( -path /proc -o -path /dev -o -path /tmp -o -path /home -o -path /etc/xdg/ORB -o -path /var \) -prune \
+  -o -iname '*ovl*' -print)
 inside apt-get purge -q -y --autoremove ovl-software fonts-dejavu-core > /dev/null
 files > "$root/tmp/after"
-diff "$root/tmp/before" "$root/tmp/after" | grep '^>' || true
+left+=$(diff "$root/tmp/before" "$root/tmp/after" | grep '^>' | grep -v '^> /home/installer/' || true)
+inside find /home/installer -type f
+[ -z "$left" ] || { printf 'Left behind:\n%s\n' "$left" >&2; exit 1; }
+echo "Nothing is left but the files of the user."
