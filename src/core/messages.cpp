@@ -10,11 +10,12 @@ constexpr auto kInformation = BoxIcon::kInformation;
 constexpr std::array kBoxes = {
     BoxWords{Box::kRegistryError, "Registry Error.", "Registry Error.", "Please ReInstall Ovalon PC Software",
              kInformation},
-    BoxWords{Box::kStartFailed, "The program does not start", "", " ! Please Reinstall OVL PC Software !"},
+    BoxWords{Box::kStartFailed, "The program does not start", "", " ! Please Reinstall OVL PC Software !",
+             BoxIcon::kNone, true},
     BoxWords{Box::kFirmwareChosen, "Another firmware was picked", "",
              "%1 WILL TAKE EFFECT WHEN THE APPLICATION NEXT START", kInformation},
     BoxWords{Box::kNoDefaultImage, "A register has no default image", "",
-             "                   %1\nPlease ReInstall Ovalon PC Software !!"},
+             "                   %1\nPlease ReInstall Ovalon PC Software !!", BoxIcon::kNone, true},
     BoxWords{Box::kOtherFirmware, "The version is not compatible", "",
              "The Ovalon Version is not compatible !!!\n       Try with the same version again."},
     BoxWords{Box::kSystemFile, "System File Error", "",
@@ -56,7 +57,8 @@ std::span<const BoxWords> BoxTable() {
 
 MessageBox BoxOf(Box box, std::string_view detail) {
   const auto& words = kBoxes.at(static_cast<std::size_t>(box));
-  MessageBox shown{std::string(words.title), std::string(words.text), words.icon, words.topic};
+  MessageBox shown{std::string(words.title), std::string(words.text), words.icon, words.topic,
+                   words.tells_note};
   if (const auto place = shown.text.find(kDetail); place != std::string::npos) {
     shown.text.replace(place, kDetail.size(), detail);
   }

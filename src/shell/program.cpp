@@ -42,7 +42,7 @@ void Program::FillPlatform() {
   platform.program_folder = QFile::encodeName(folder_).toStdString();
   platform.show_message = [this](const MessageBox& box) {
     RefreshNow();
-    ShowBox(windows_ ? windows_->Front() : nullptr, box, BoxDetail());
+    ShowBox(windows_ ? windows_->Front() : nullptr, box, BoxDetail(box));
   };
   platform.ask_file = [this](const FileDialog& request) {
     RefreshNow();
@@ -171,10 +171,10 @@ void Program::End() {
   QCoreApplication::exit(EXIT_SUCCESS);
 }
 
-// What the words of a box do not tell: nobody can read the status bar of a program that does not start.
-QString Program::BoxDetail() const {
+// What the words of a box do not tell.
+QString Program::BoxDetail(const MessageBox& box) const {
   if (!store_problem_.empty()) return FromSystem(store_problem_);
-  return windows_ ? QString() : FromSystem(app_.StatusNote);
+  return box.tells_note ? FromSystem(app_.StatusNote) : QString();
 }
 
 }  // namespace ovl

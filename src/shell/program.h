@@ -59,7 +59,7 @@ class Program {
   void FollowTimer(TimerState& timer);
   void Tick(Timer& timer);
   void End();
-  QString BoxDetail() const;
+  QString BoxDetail(const MessageBox& box) const;
 
   QString folder_;
   Application app_;

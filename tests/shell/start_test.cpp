@@ -38,6 +38,9 @@ TEST(ProgramFolder, WhatIsShippedIsLinkedIntoRealFamilyFolders) {
 
 // The boxes that come up while it runs, each closed at once.
 QString BoxesOf(const std::function<void()>& run) {
+  // A program that ended before asked the event loop to end, and no box stays up until one has.
+  QTimer::singleShot(0, [] { QCoreApplication::exit(); });
+  QApplication::exec();
   QStringList boxes;
   QTimer closing;
   closing.callOnTimeout([&] {
@@ -67,6 +70,14 @@ TEST(Store, WhatIsWrongWithItStandsInTheBox) {
   EXPECT_TRUE(start().endsWith(folder + "/V1400/R12/GENERIC.bin: No such file or directory"));
 
   MakeSite(site, {"V1400", "R12"});
+  {
+    Program program(folder, folder);
+    EXPECT_EQ(BoxesOf([&] { program.Start(); }), "");
+    auto& list = program.Model().frmMain.ComboReg;
+    EXPECT_TRUE(BoxesOf([&] {
+                  program.Act(PickEvent{&list, 2});
+                }).endsWith(folder + "/V1400/R12/ALOHA.bin: No such file or directory"));
+  }
   Program program(folder, folder);
   EXPECT_EQ(BoxesOf([&] { program.Start(); }), "");
   fs::remove(settings);

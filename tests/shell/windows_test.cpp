@@ -121,6 +121,18 @@ TEST_F(WindowsTest, ATransferShowsHowFarItIsAndItsEndStaysUntilAnswered) {
   EXPECT_EQ(TransferProgressText(app), "");
 }
 
+TEST_F(WindowsTest, TheAboutBoxTellsProgramFirmwareToolkitAndLicence) {
+  Find<QAction>("menuAbout").trigger();
+  Show();
+  const auto& window = Window(App().frmAbout.form);
+  EXPECT_TRUE(window.isVisible());
+  QStringList texts;
+  for (const auto* label : window.findChildren<QLabel*>()) texts.append(label->text());
+  const auto told = texts.join('|');
+  for (const QString part : {"OVL Software", "Version 1.", "V1400R12", qVersion(), "MIT licence"})
+    EXPECT_TRUE(told.contains(part)) << part.toStdString() << " in " << told.toStdString();
+}
+
 TEST_F(WindowsTest, ThePointerOverUploadAndDownloadShowsTheHint) {
   for (const std::size_t button : {0U, 1U}) {
     App().frmMain.CmdUpDow[button].enabled = true;
