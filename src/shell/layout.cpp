@@ -4,6 +4,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -34,9 +35,10 @@ QWidget* TitleBlock(QLabel& title) {
   return block;
 }
 
-// A label that has a letter for the keyboard stands for the field behind it.
+// A label that has a letter for the keyboard stands for the field behind it; a button has one of its own.
 void Attach(QLabel& label, QWidget& field) {
-  if (field.focusPolicy() != Qt::NoFocus) label.setBuddy(&field);
+  if (field.focusPolicy() != Qt::NoFocus && qobject_cast<QPushButton*>(&field) == nullptr)
+    label.setBuddy(&field);
 }
 
 QLabel* QuietLabel(Bindings& bindings) {

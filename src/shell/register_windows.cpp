@@ -91,6 +91,7 @@ FormWindow* BuildSubMenuWindow(Bindings& bindings, QWidget* parent) {
       .Row(RowLabel::FromModel("Label1(1)"), "Combo1(1)");
   column.Section("SharpSubMenuFrame").Options("Option1", 1);
   column.Section("UP3000Frm").Row(RowLabel::FromModel("Label2"), "Combo2");
+  down->addWidget(MutedLabel(QStringLiteral("A pick is stored at once.")));
   return window;
 }
 
