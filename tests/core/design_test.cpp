@@ -50,7 +50,7 @@ TEST(Design, CaptionsFieldsButtonsAndMenusAreThoseOfTheHelp) {
       ++compared;
     }
   }
-  EXPECT_EQ(compared, 105);
+  EXPECT_GE(compared, 105);
 }
 
 TEST(Design, CaptionsGroupsWindowsAndWordsBesideThem) {
