@@ -1,20 +1,30 @@
 #!/usr/bin/env bash
-# Makes the same change on every unit of a list: change_all.sh devices.txt DATE_FORMAT_BAK=02 TITLE_BAK(1)=41 ...
+# Makes the same change on every unit of a list: change_all.sh devices.txt DATE_FORMAT_BAK=02 'TRIGGER_DELAY(2)=0A' ...
 # The help's page "Fields" tells the names. Each unit is read first, so that the rest of it stays as it is.
 . "$(dirname "$0")/common.sh"
+. "$(dirname "$0")/lists.sh"
+. "$(dirname "$0")/configurations.sh"
 [ $# -ge 2 ] || usage DEVICES FIELD=HEX...
-list=$1
-shift
+read_list "$1"
+
+# The image that the program starts with has every field of the firmware at its length.
+changes=()
+for change in "${@:2}"; do
+  [[ $change =~ ^([A-Z0-9_]+(\([0-9]+\))?)=([0-9A-Fa-f]+)$ ]] || refuse "$change: not FIELD=HEX"
+  field=${BASH_REMATCH[1]} value=${BASH_REMATCH[3]^^}
+  held=$(started <<< "field $field") || refuse "$change: no unit was changed"
+  [[ $held =~ ^"$field = "[0-9A-F]{${#value}}$ ]] || refuse "$change: does not fit ${held%%$'\n'*}"
+  changes+=("$field $value")
+done
 
 change() {
+  read_unit "$1" && cp "$unit" "$work/before" || return 1
   {
-    echo upload
+    printf 'answer %s\nclick OpenMenu\n' "$(quoted "$work/before")"
     printf 'set %s\n' "${changes[@]}"
-    echo download
-    echo upload
-    printf 'expect field %s\n' "${changes[@]}"
-  } | on_unit "$1"
+    printf 'stream %s\ndownload\nupload\n' "$(quoted "$work/changed")"
+  } | on_unit "$1" || return 1
+  cmp -s "$work/changed" "$unit" || { echo "$1: came back otherwise than it was sent" >&2; return 1; }
 }
 
-changes=("${@/=/ }")
-each "$list" change
+each change

@@ -1,7 +1,10 @@
 #!/usr/bin/env bash
-# Checks that a folder holds a default image for every register of a firmware: check_images.sh site/V1400/R12
+# Checks that a folder holds the default image of every register of a firmware: check_images.sh site/V1400/R12
 . "$(dirname "$0")/common.sh"
+. "$(dirname "$0")/configurations.sh"
 [ $# -eq 1 ] || usage FOLDER
+[ -d "$1" ] || refuse "$1: no such folder"
+registers=$(started <<< "list ComboReg") || refuse "$1: was not checked"
 wrong=0
 
 complain() {
@@ -9,21 +12,17 @@ complain() {
   wrong=1
 }
 
-while read -r name; do
-  # V1400 spells the two characters that no file name of its may hold as blanks.
+while read -r register; do
+  name=${register:1:-1}
+  # In the file names of V1400 a blank stands for each slash and comma.
   [ "$version" != V1400 ] || name=${name//[\/,]/ }
   file=$1/$name.bin
-  if [ ! -r "$file" ]; then
+  if [ ! -e "$file" ]; then
     complain "$file" "missing"
-    continue
+  elif ! found=$(fits "$file" 2> "$work/said"); then
+    complain "$file" "$(sed '$!d; s/^stdin:[0-9]*: //; s/.*: //' "$work/said")"
+  elif [ "$found" != "$register" ]; then
+    complain "$file" "the image of register $found"
   fi
-  printf 'inspect %s\n' "$(quoted "$file")" >> "$work/inspections"
-  echo "$file" >> "$work/files"
-done < <(started <<< "list ComboReg" | sed 's/^"//; s/"$//')
-
-[ -s "$work/files" ] || { echo "$1: not one image of $version $release"; exit 1; }
-started < "$work/inspections" | grep "^opening it under " > "$work/verdicts"
-while IFS=$'\t' read -r file verdict; do
-  [ "${verdict##* loads it}" = "" ] || complain "$file" "$verdict"
-done < <(paste "$work/files" "$work/verdicts")
+done <<< "$registers"
 exit $wrong

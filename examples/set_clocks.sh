@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
 # Sets the clock of every unit of a list to the time of this machine: set_clocks.sh devices.txt
 . "$(dirname "$0")/common.sh"
+. "$(dirname "$0")/lists.sh"
 [ $# -eq 1 ] || usage DEVICES
+read_list "$1"
 
 # CmdUpDow(4) asks for remote mode, CmdUpDow(2) sets the clock that the panel shows.
 set_clock() {
@@ -16,4 +18,4 @@ expect box "SET TIME DATE FINISHED."
 END
 }
 
-each "$1" set_clock
+each set_clock
