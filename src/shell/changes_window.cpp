@@ -93,9 +93,9 @@ void ChangesWindow::Fill(const std::vector<FieldDifference>& differences) {
   told_->setText(
       differences.empty()
           ? QStringLiteral("A download would change nothing in a unit that holds the configuration "
-                           "last loaded.")
+                           "last loaded or sent.")
           : QStringLiteral("What a download would change in a unit that holds the configuration "
-                           "last loaded: %1.")
+                           "last loaded or sent: %1.")
                 .arg(CountOf(differences.size())));
   std::vector<OverviewLine> lines;
   for (const auto& difference : differences) {
@@ -127,7 +127,7 @@ QPushButton* BuildChangesButton(Bindings& bindings, ChangesWindow& window) {
     const bool other_known = known.Update(app.known_image), other_image = image.Update(app.image);
     if (!other_known && !other_image) return false;
     const auto count = Differences(app.known_image, app.image, app.firmware).size();
-    button->setText(CountOf(count) + QStringLiteral(" since the last load"));
+    button->setText(CountOf(count) + QStringLiteral(" since the last load or download"));
     button->setAccessibleName(button->text());
     const bool comes_or_goes = button->isHidden() != (count == 0);
     button->setVisible(count != 0);

@@ -175,13 +175,13 @@ TEST_F(WindowsTest, ChangesAreListedByFieldPlaceAndLabelWithTheBytesThenAndNow) 
   const auto& line = app.image[FieldId::COMMCFG_BAK];
   const auto expected = "COMMCFG_BAK|SYSCFG 1|COMMUNICATION: PARITY|" + line + "|";
   Pick("ComboCOMM(3)", other(app.frmMain.ComboCOMM[3]));
-  EXPECT_EQ(button.text(), "1 change since the last load");
+  EXPECT_EQ(button.text(), "1 change since the last load or download");
   Click("StatusChanges");
   EXPECT_EQ(Listed(*this), expected + line);
 
   app.image.at(FieldId::EXCPSTRS, 2).replace(0, 2, "55");
   Show();
-  EXPECT_EQ(button.text(), "2 changes since the last load");
+  EXPECT_EQ(button.text(), "2 changes since the last load or download");
   EXPECT_NE(Listed(*this).find("|EXCPSTRS(2)|SYSSTR "), std::string::npos);
 
   StartDownload(app);
@@ -189,7 +189,7 @@ TEST_F(WindowsTest, ChangesAreListedByFieldPlaceAndLabelWithTheBytesThenAndNow) 
   Pick("ComboTD(2)", other(app.frmMain.ComboTD[2]));
   FinishDownload(app);
   Show();
-  EXPECT_EQ(button.text(), "1 change since the last load")
+  EXPECT_EQ(button.text(), "1 change since the last load or download")
       << "the unit holds what was sent, not what was picked meanwhile";
   EXPECT_TRUE(app.known_image == sent);
   EXPECT_EQ(Listed(*this).find("DATE_FORMAT_BAK|SYSFIXED "), 0U);
