@@ -8,20 +8,14 @@
 #include <string_view>
 #include <vector>
 
-#include "catalogue/firmware.h"
 #include "core/codecs.h"
 #include "image/record_stream.h"
+#include "registers/rows.h"
 #include "support/installed.h"
 
 namespace ovl::testing {
 
-inline std::vector<FirmwareId> AllFirmware() {
-  std::vector<FirmwareId> all;
-  for (const auto& entry : FirmwareTable()) {
-    if (entry.in_menu) all.push_back({std::string(entry.version), std::string(entry.release)});
-  }
-  return all;
-}
+using enum FieldId;
 
 // A release before the one in which its family changed; V1310 and V1334 have no such one.
 inline bool Before(const FirmwareId& firmware, int v1400, int v1300, int v1324) {
@@ -52,7 +46,7 @@ inline std::string Member(std::string_view array, int member) {
 }
 
 // A wide range in the slots, and a narrow one.
-inline const FirmwareId kFamilies[] = {{"V1400", "R12"}, {"V1300", "R14"}};
+inline const FirmwareId kFamilies[] = {kLatest, {"V1300", "R14"}};
 
 // Ten or six bytes that no two places share.
 inline std::string RangeOf(const FirmwareId& firmware) {
@@ -68,6 +62,9 @@ inline std::string Slot(int flags, const std::string& range, std::string text) {
   return ByteToHex(flags) + range + ByteToHex(length) + TextToHex(text) + "00";
 }
 
+// "1", "3" and so on to "240", and the last: what the unit counts down from.
+constexpr const char* kDurations[] = {"FF", "FD", "FB", "F6", "F1", "EC", "E2", "C4", "88", "4C", "10", "00"};
+
 class PanelProgram : public Installed {
  public:
   explicit PanelProgram(const FirmwareId& firmware) : Installed(firmware, Images::kOwn) {
@@ -76,10 +73,7 @@ class PanelProgram : public Installed {
     Mark();
   }
 
-  Outcome Type(TextBox& box, std::string text) { return Dispatch(app, TypeEvent{&box, std::move(text)}); }
-  Outcome Leave(TextBox& box) { return Dispatch(app, LeaveEvent{&box}); }
   Outcome Press(Form& form, Key key) { return Dispatch(app, KeyEvent{&form, key}); }
-  Outcome Close(Form& form) { return Dispatch(app, CloseEvent{&form}); }
 
   int At(std::string_view name) { return ListOf(name).position; }
   bool Visible(std::string_view name) { return Control(name).visible; }
@@ -91,20 +85,17 @@ class PanelProgram : public Installed {
   Outcome Open(std::string_view stream) {
     const auto path = folder.File("opened.bin");
     WriteWhole(path, std::string(stream) + "\r\n");
-    file_answers.emplace_back(path);
-    return Click("OpenMenu");
+    return Installed::Open(path);
   }
-  Outcome Upload(const std::string& stream) {
+  // Sends the image out and takes it in again, from a file or from the unit.
+  Outcome Reload(bool by_upload = false) {
+    const auto stream = SectionsToStream(app);
+    if (!by_upload) return Open(stream);
     Click("cmdDisConnect");
     OpenAndHold();
     Click("CmdUpDow(0)");
     Unit(stream);
     return Close(app.frmOK_buttom.form);
-  }
-  // Sends the image out and takes it in again.
-  Outcome Reload(bool by_upload = false) {
-    const auto stream = SectionsToStream(app);
-    return by_upload ? Upload(stream) : Open(stream);
   }
   // Takes the image in with these bytes in it, and tells what that changed.
   std::string Load(Bytes bytes) {

@@ -4,11 +4,6 @@
 namespace ovl::testing {
 namespace {
 
-using enum FieldId;
-
-// "1", "3" and so on to "240", and the pulse: what the unit counts from.
-constexpr const char* kDurations[] = {"FF", "FD", "FB", "F6", "F1", "EC", "E2", "C4", "88", "4C", "10", "00"};
-
 // Trigger, duration and its place, and what one family alone has behind them.
 std::string Alarm(const FirmwareId& firmware, const std::string& four_bytes) {
   return four_bytes.substr(0, firmware.IsV1400() ? 8 : 6);
@@ -17,8 +12,9 @@ std::string Alarm(const FirmwareId& firmware, const std::string& four_bytes) {
 TEST(Alarms, ARecordHasItsTriggerItsDurationAndItsVideoLoss) {
   for (const auto& firmware : kFamilies) {
     PanelProgram program(firmware);
-    const auto expect = [&](const char* list, int position, const std::string& stored, bool exception) {
-      SCOPED_TRACE(firmware.Joined() + " " + list + " " + std::to_string(position));
+    const auto expect = [&](const char* list, int position, const std::string& stored,
+                            bool exception = true) {
+      SCOPED_TRACE(Member(list, position));
       program.Byte(ALMSTRUCT_BAK, 2) = Alarm(firmware, "EEF60307");
       program.ShowAlarm(2);
       ASSERT_EQ(program.Pick(list, position), Outcome::kDone);
@@ -31,12 +27,9 @@ TEST(Alarms, ARecordHasItsTriggerItsDurationAndItsVideoLoss) {
         EXPECT_FALSE(program.Visible("lbAlmTrig"));
       }
     };
-    for (int trigger = 0; trigger <= 28; ++trigger)
-      expect("ComboALM(1)", trigger, ByteToHex(trigger) + "F60307", trigger != 0 && trigger != 28);
-    for (int place = 0; place < 12; ++place)
-      expect("ComboALM(3)", place, "EE" + (kDurations[place] + ByteToHex(place)) + "07", true);
-    for (int loss = 0; firmware.IsV1400() && loss < 10; ++loss)
-      expect("ComboALM(6)", loss, "EEF603" + ByteToHex(loss), true);
+    for (int at = 0; at <= 28; ++at) expect("ComboALM(1)", at, ByteToHex(at) + "F60307", at != 0 && at != 28);
+    for (int at = 0; at < 12; ++at) expect("ComboALM(3)", at, "EE" + (kDurations[at] + ByteToHex(at)) + "07");
+    for (int at = 0; firmware.IsV1400() && at < 10; ++at) expect("ComboALM(6)", at, "EEF603" + ByteToHex(at));
     EXPECT_EQ(program.Pick("ComboALM(1)", 29), Outcome::kRefused);
     program.Byte(ALMSTRUCT_BAK, 3) = Alarm(firmware, "1CF10407");
     for (const char* unknown : {"1DF20407", "FFF30407", "1E040407"}) {
@@ -53,27 +46,26 @@ TEST(Alarms, ARecordHasItsTriggerItsDurationAndItsVideoLoss) {
 
 TEST(Alarms, TheNormalStateIsABitOfTheAlarmButForTheNinth) {
   PanelProgram program({"V1300", "R26"});
-  const auto states = [&] {
-    return HexToInt(program.Byte(ALMNORMAL_BAK, 2)) << 8 | HexToInt(program.Byte(ALMNORMAL_BAK, 1));
-  };
+  auto &lower = program.Byte(ALMNORMAL_BAK, 1), &upper = program.Byte(ALMNORMAL_BAK, 2);
   for (int alarm = 1; alarm <= 16; ++alarm) {
     const int bit = alarm == 9 ? 0 : 1 << (alarm - 1);
     for (const int closed : {1, 0}) {
-      program.Byte(ALMNORMAL_BAK, 1) = program.Byte(ALMNORMAL_BAK, 2) = closed == 1 ? "00" : "FF";
+      lower = upper = closed == 1 ? "00" : "FF";
       program.ShowAlarm(alarm);
       ASSERT_EQ(program.Pick("ComboALM(2)", closed), Outcome::kDone);
       EXPECT_EQ(program.At("ComboALM(2)"), closed);
+      const int states = closed == 1 ? bit : 0xFFFF - bit;
       for (const int shown : {9, 16, 1, 10, 8, 2, 15, 3, 14, 4, 13, 5, 12, 6, 11, 7, 9}) {
         program.ShowAlarm(shown);
-        EXPECT_EQ(program.At("ComboALM(2)"), states() >> (shown - 1) & 1) << alarm << ", shown " << shown;
+        EXPECT_EQ(program.At("ComboALM(2)"), states >> (shown - 1) & 1) << alarm << ", shown " << shown;
       }
-      EXPECT_EQ(states(), closed == 1 ? bit : 0xFFFF - bit) << alarm;
+      EXPECT_EQ(upper + lower, ByteToHex(states >> 8) + ByteToHex(states & 0xFF)) << alarm;
     }
   }
 }
 
 TEST(Alarms, WhatElseAnAlarmHasGoesByTheFirmware) {
-  for (const auto& firmware : AllFirmware()) {
+  for (const auto& firmware : EveryFirmware()) {
     const bool v1400 = firmware.IsV1400(), type = !Before(firmware, 6, 26, 25);
     PanelProgram program(firmware);
     program.Byte(ALMSTRUCT_BAK, 5) = Alarm(firmware, "00FF0009");
@@ -87,7 +79,7 @@ TEST(Alarms, WhatElseAnAlarmHasGoesByTheFirmware) {
         {"ComboTrigger(2)", v1400, 8, "TRIGGER_DELAY(5)=04"},
         {"ComboALM(7)", type, 1, "ALM_MODE(5)=00"}};
     for (const auto& [list, has, shown, written] : rows) {
-      SCOPED_TRACE(firmware.Joined() + " " + list);
+      SCOPED_TRACE(list);
       EXPECT_EQ(program.At(list) == shown, has);
       program.Mark();
       EXPECT_EQ(program.Pick(list, shown == 1 ? 0 : 4), has ? Outcome::kDone : Outcome::kRefused);
@@ -97,7 +89,7 @@ TEST(Alarms, WhatElseAnAlarmHasGoesByTheFirmware) {
 }
 
 TEST(Alarms, ALoadShowsTheFirstAlarmAndSlotAnewWhicheverWereShown) {
-  PanelProgram program({"V1400", "R12"});
+  PanelProgram program(kLatest);
   int trigger = 0;
   for (const bool upload : {false, true}) {
     for (const int before : {1, 2, 16}) {
@@ -116,12 +108,9 @@ TEST(Alarms, ALoadShowsTheFirstAlarmAndSlotAnewWhicheverWereShown) {
 }
 
 TEST(ScrollMatching, SwitchAndTimeoutGoTogether) {
-  struct Row {
-    int timeout, list, position, after;
-  };
-  const Row rows[] = {{0, 0, 1, 1}, {0, 0, 0, 0}, {3, 0, 0, 0}, {3, 0, 1, 3}, {0, 1, 5, 5},
-                      {3, 1, 0, 0}, {3, 1, 4, 4}, {1, 1, 1, 1}, {5, 0, 0, 0}, {0, 1, 0, 0}};
-  PanelProgram program({"V1400", "R12"});
+  const int rows[][4] = {{0, 0, 1, 1}, {0, 0, 0, 0}, {3, 0, 0, 0}, {3, 0, 1, 3}, {0, 1, 5, 5},
+                         {3, 1, 0, 0}, {3, 1, 4, 4}, {1, 1, 1, 1}, {5, 0, 0, 0}, {0, 1, 0, 0}};
+  PanelProgram program(kLatest);
   for (const auto& [timeout, list, position, after] : rows) {
     SCOPED_TRACE(std::to_string(timeout) + ": " + std::to_string(list) + " " + std::to_string(position));
     program.Pick("ComboScroll(1)", timeout);

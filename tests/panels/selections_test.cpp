@@ -4,8 +4,6 @@
 namespace ovl::testing {
 namespace {
 
-using enum FieldId;
-
 // The first position stores `first`, each further one `step` more, within the bits of the mask.
 struct Selection {
   const char* list;
@@ -77,7 +75,7 @@ void ExpectShown(PanelProgram& program, const Selection& row, const std::vector<
 }
 
 TEST(Selections, EveryOneHasItsFieldOrItsBits) {
-  PanelProgram picked({"V1400", "R12"}), loaded({"V1400", "R12"});
+  PanelProgram picked(kLatest), loaded(kLatest);
   picked.Pick("ComboDIP(1)", 10);  // else clock and title raise it
   for (const auto& row : kSelections) {
     ExpectStored(picked, row, StoredBy(row));
@@ -120,32 +118,30 @@ TEST(Selections, ANumberThatIsHalvedGoesToTheEvenNeighbour) {
 }
 
 TEST(Selections, TheDemosBitsGoByTheFirmware) {
-  for (const auto& firmware : AllFirmware()) {
-    SCOPED_TRACE(firmware.Joined());
+  for (const auto& firmware : EveryFirmware()) {
     PanelProgram picked(firmware), loaded(firmware);
     const bool old = HasOldDemo(firmware), v1400 = firmware.IsV1400();
+    const int step = v1400 ? 1 : 0;
     const auto expect = [&](const Selection& row, bool shown) {
       ExpectStored(picked, row, StoredBy(row));
       if (shown) ExpectShown(loaded, row, StoredBy(row));
     };
     expect({"CharacterList", DEMO_ENABLE, old ? 0x7F : 0x40, old ? 1 : 0, old ? 1 : 0x40, 2}, !old);
-    expect({"DemoType", DEMO_ENABLE, !v1400 ? 0x00 : old ? 0x3F : 0x0F, 0, v1400 ? 1 : 0, 6}, v1400 && !old);
-    if (!old) expect({"DemoSpeed", DEMO_ENABLE, 0x30, 0, 0x10, 4}, true);
-    if (old) expect({"DemoSpeed", DEMO_ENABLE, v1400 ? 0x3F : 0x00, v1400 ? 1 : 0, v1400 ? 1 : 0, 4}, false);
+    expect({"DemoType", DEMO_ENABLE, !v1400 ? 0x00 : old ? 0x3F : 0x0F, 0, step, 6}, v1400 && !old);
+    expect({"DemoSpeed", DEMO_ENABLE, !old ? 0x30 : 0x3F * step, old ? step : 0, old ? step : 0x10, 4}, !old);
     if (!old) continue;
     const int type = loaded.At("DemoType"), speed = loaded.At("DemoSpeed");
     for (const auto& [byte, characters] :
          {std::pair{"01", 0}, {"81", 1}, {"41", 0}, {"02", 1}, {"C1", 1}, {"01", 0}, {"35", 1}}) {
       EXPECT_EQ(loaded.Load({{DEMO_ENABLE, byte}}), "");
-      EXPECT_EQ(loaded.At("CharacterList"), characters)
-          << byte << ": the demo's own bit counts, bit 6 does not";
+      EXPECT_EQ(loaded.At("CharacterList"), characters) << byte << ": its own bit counts, bit 6 does not";
       EXPECT_TRUE(loaded.At("DemoType") == type && loaded.At("DemoSpeed") == speed);
     }
   }
 }
 
 TEST(Selections, EveryPickIsNoted) {
-  PanelProgram program({"V1400", "R12"});
+  PanelProgram program(kLatest);
   program.Click("OpDVR(1)");
   const std::tuple<const char*, int, int> rows[] = {
       {"ComboCOMM", 13, 4}, {"ComboDIP", 9, 2},     {"ComboTD", 6, 1},   {"ComboKLM4011", 4, 1},

@@ -4,8 +4,6 @@
 namespace ovl::testing {
 namespace {
 
-using enum FieldId;
-
 // Among them every character but NUL.
 std::vector<std::string> Texts() {
   const std::string y(37, 'y');
@@ -31,12 +29,12 @@ std::string Filled(const std::string& text) {
 }
 
 TEST(Texts, TriggeredTextAndTitleAreTrimmedAndFilledUp) {
-  for (const auto& firmware : {FirmwareId{"V1400", "R12"}, {"V1324", "R17"}}) {
+  for (const auto& firmware : {kLatest, FirmwareId{"V1324", "R17"}}) {
     PanelProgram program(firmware);
     auto& main = program.app.frmMain;
     int flags = 0;
     for (const auto& text : Texts()) {
-      SCOPED_TRACE(firmware.Joined() + " [" + text + "]");
+      SCOPED_TRACE("[" + text + "]");
       const auto filled = Filled(text);
       const auto record = ByteToHex(0xF0 | ++flags % 4) + filled;
       program.ShowAlarm(12);
@@ -73,7 +71,7 @@ TEST(Texts, AnExceptionIsPaddedCountedAndMarkedFreeWhenBlank) {
     const auto range = RangeOf(firmware);
     const auto& shown = program.app.frmMain.TextException.text;
     for (const auto& text : Texts()) {
-      SCOPED_TRACE(firmware.Joined() + " [" + text + "]");
+      SCOPED_TRACE("[" + text + "]");
       const bool blank = text.find_first_not_of(' ') == std::string::npos;
       const auto stored = Slot(blank ? 0xB3 : 0xA3, range, text);
       auto padded = text;

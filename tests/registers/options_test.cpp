@@ -10,37 +10,30 @@
 namespace ovl::testing {
 namespace {
 
-using F = FieldId;
-
 // A register, the field that one of its options shows (M and X are the two extensions), and the option. One
 // that does nothing but store its position has the number of its choices. "-": only some models show it.
-const std::pair<FirmwareId, const char*> kOptions[] = {
-    {kLatest,
-     "ADDRESSABLE OVL M ComboAddress=256|ADS M ComboDisplay=2|BLEEP M BleepOP=2|CASIO M CASIOOP|"
-     "CLARITY EPOS UNITADDR ComboCLARITYEPOS=256|DELTA SONO 3.1 M OpDelta=4|DIGIPOS M DIGIOP=4|"
-     "EDACOM M OpEDA=2|EPSON GENERIC X OpRI_QT2|FUJITSU M FUJIOP=2|FUJITSU X Combo1=2|"
-     "GASBOY GTITLE_NF_BAK ComboDeviceGas=3|GASBOY M ComboDeviceADD=18|GELLER M GELLEROP=17|"
-     "GILBARCO M OpGilbraco|IBM M IBMOP|IBM X IBMCombo=3|ICL M ICLOP|ICL X TEAMOP=2|JCM M JCMOp=4|"
-     "MERIT TCIADDBAK_1 ComboUNI_ID(2)|MERIT X ComboUniFor14R7up=2|MICRELEC UNITADDR OpMicrelec|"
-     "MICROS M OpMicros|NCR M NCROP|NCR X JRNLRCPT_SLP_OP=3|NIXDORF M NIXDORF14OP|NIXDORF X BEETLEOp=2|"
-     "NORAND 1200 DV_ADDRIND_BAK ComboCONSOLEID=9|NORAND 1200 GTITLE_NF_BAK ComboTITLEDIP|"
-     "NORAND 1200 M ComboWoring|OMEGA 2000 X OpNIXDORF|PANASONIC GTITLE_NF_BAK ComboPana(0)=2|"
-     "PANASONIC M ComboPana(1)|RIVA M OpVerifone=4|SAMSUNG M SamOP=14|SCHLUMBERGER M ComboDIPMIXED=3|"
-     "SENSORS X ST6105C=2|SHARP M SharpOP|SICOM M ComboSICOM|SUNTRONIC M OpSun=2|"
-     "TCI TCIADDBAK_1 ComboTCI_ID(2)|TCI TCIADDBAK_2 ComboTCI_ID(1)|TCI TCIADDBAK_3 ComboTCI_ID(0)|"
-     "TEAM POS 2000 X TEAMPOSOP=2|TEC M TECOP|UNIWELL M UNIWOP|UNIWELL TCIADDBAK_2 ComboUNI_ID(1)|"
-     "UNIWELL X ComboUniFor14R7up=2|WEIGH SCALE M OpWEIGHS=9|- X NIXDORF14OPSelect=2|- X POS50OP=2|"
-     "- X Combo4610TF6=2|- X RDSCombo=2|- X ComboXML=2"},
-    {{"V1400", "R4"},
-     "DRESSER WAYNE M OpDYWAYE|EPSON GENERIC M OpRI_QT2|NCR M OpNCR=7|OMEGA 2000 M OpNIXDORF|SHARP M OpSharp|"
-     "SHARP UP600/700 M OpSHARPUP600|UNIWELL UN4025 M ComboUni=2|UP3000/3300 M ComboAddr=17"},
-    {{"V1310", "R1"},
-     "CASIO TK-T500 M ComboTk500(1)|CASIO TE-2200 M ComboTE2200(1)|NE134 COUNTER M ComboNE134=256|"
-     "NIXDORF BEETLE M OpBEETLE=2|POLE DISPLAY M OpPoleDisplay=2|TEC SLIP PRINTER EMULATE M ComboTEC(1)|"
-     "VISHAY WEIGHBRIDGE M OpVWEIGHBRIDGE=2|WEIGH SCALE M OpNUCP=3"},
-    {{"V1324", "R26"},
-     "BEETLE 50 PRINTERS M OpBEETLE=2|NUCLEUS PRINTER M OpNUCP=3|SHARP ER-A410 420 M OpA410=4"},
-};
+constexpr const char* kOptions[] = {
+    "V1400R12|ADDRESSABLE OVL M ComboAddress=256|ADS M ComboDisplay=2|BLEEP M BleepOP=2|CASIO M CASIOOP|"
+    "CLARITY EPOS UNITADDR ComboCLARITYEPOS=256|DELTA SONO 3.1 M OpDelta=4|DIGIPOS M DIGIOP=4|"
+    "EDACOM M OpEDA=2|EPSON GENERIC X OpRI_QT2|FUJITSU M FUJIOP=2|FUJITSU X Combo1=2|"
+    "GASBOY GTITLE_NF_BAK ComboDeviceGas=3|GASBOY M ComboDeviceADD=18|GELLER M GELLEROP=17|"
+    "GILBARCO M OpGilbraco|IBM M IBMOP|IBM X IBMCombo=3|ICL M ICLOP|ICL X TEAMOP=2|JCM M JCMOp=4|"
+    "MERIT TCIADDBAK_1 ComboUNI_ID(2)|MERIT X ComboUniFor14R7up=2|MICRELEC UNITADDR OpMicrelec|"
+    "MICROS M OpMicros|NCR M NCROP|NCR X JRNLRCPT_SLP_OP=3|NIXDORF M NIXDORF14OP|NIXDORF X BEETLEOp=2|"
+    "NORAND 1200 DV_ADDRIND_BAK ComboCONSOLEID=9|NORAND 1200 GTITLE_NF_BAK ComboTITLEDIP|"
+    "NORAND 1200 M ComboWoring|OMEGA 2000 X OpNIXDORF|PANASONIC GTITLE_NF_BAK ComboPana(0)=2|"
+    "PANASONIC M ComboPana(1)|RIVA M OpVerifone=4|SAMSUNG M SamOP=14|SCHLUMBERGER M ComboDIPMIXED=3|"
+    "SENSORS X ST6105C=2|SHARP M SharpOP|SICOM M ComboSICOM|SUNTRONIC M OpSun=2|"
+    "TCI TCIADDBAK_1 ComboTCI_ID(2)|TCI TCIADDBAK_2 ComboTCI_ID(1)|TCI TCIADDBAK_3 ComboTCI_ID(0)|"
+    "TEAM POS 2000 X TEAMPOSOP=2|TEC M TECOP|UNIWELL M UNIWOP|UNIWELL TCIADDBAK_2 ComboUNI_ID(1)|"
+    "UNIWELL X ComboUniFor14R7up=2|WEIGH SCALE M OpWEIGHS=9|- X NIXDORF14OPSelect=2|- X POS50OP=2|"
+    "- X Combo4610TF6=2|- X RDSCombo=2|- X ComboXML=2",
+    "V1400R4|DRESSER WAYNE M OpDYWAYE|EPSON GENERIC M OpRI_QT2|NCR M OpNCR=7|OMEGA 2000 M OpNIXDORF|"
+    "SHARP M OpSharp|SHARP UP600/700 M OpSHARPUP600|UNIWELL UN4025 M ComboUni=2|UP3000/3300 M ComboAddr=17",
+    "V1310R1|CASIO TK-T500 M ComboTk500(1)|CASIO TE-2200 M ComboTE2200(1)|NE134 COUNTER M ComboNE134=256|"
+    "NIXDORF BEETLE M OpBEETLE=2|POLE DISPLAY M OpPoleDisplay=2|TEC SLIP PRINTER EMULATE M ComboTEC(1)|"
+    "VISHAY WEIGHBRIDGE M OpVWEIGHBRIDGE=2|WEIGH SCALE M OpNUCP=3",
+    "V1324R26|BEETLE 50 PRINTERS M OpBEETLE=2|NUCLEUS PRINTER M OpNUCP=3|SHARP ER-A410 420 M OpA410=4"};
 
 // A byte without its choice hides the frame.
 void ExpectShown(Installed& program, const std::string& field, const std::string& control) {
@@ -69,10 +62,11 @@ void ExpectStored(Installed& program, const std::string& field, const std::strin
 }
 
 TEST(OptionMembers, EachShowsItsByteAndAPlainOneWritesItAndNothingElse) {
-  for (const auto& [firmware, rows] : kOptions) {
+  for (const auto* options : kOptions) {
+    const auto [firmware, rows] = FirmwareAndRows(options, '|');
     Installed program(firmware);
-    for (const auto& row : Split(rows, '|')) {
-      SCOPED_TRACE(firmware.Joined() + " " + row);
+    for (const auto& row : rows) {
+      SCOPED_TRACE(row);
       const auto words = NameAndTwoWords(row);
       const auto control = Split(words[2], '=');
       if (words[0] != "-") {
@@ -103,43 +97,30 @@ TEST(OptionMembers, ListsOfNumbersHaveTheirHeadAndTheirDigits) {
 constexpr const char* kForced[] = {"ComboCOMM(0)", "ComboCOMM(1)",    "ComboCOMM(2)", "ComboCOMM(3)",
                                    "ComboCOMM(4)", "ComboExcepRe(0)", "ComboTD(5)"};
 
-struct Member {
-  const char* control;
-  int position;
-  const char* written;
-  const char* forced;          // the places of these lists; "-" is left alone
-  const char* flags = "00FF";  // the line flags, with none and with all of them set before
-};
-
-constexpr Member kMembers[] = {
-    {"ComboSICOM", 255, "RX=0A TX=03 M=FF", "-A3----"},
-    {"ComboTk500(1)", 0, "RX=0A TX=03 M=00", "-A3----"},
-    {"ComboTk500(1)", 1, "RX=05 TX=05 M=01", "-55----"},
-    {"ComboTE2200(1)", 0, "RX=0A TX=03 M=00", "-A3----"},
-    {"ComboTE2200(1)", 1, "RX=05 TX=05 M=01", "-55----"},
-    {"ComboTEC(1)", 0, "RX=08 TX=03 M=00", "-83----"},
-    {"ComboTEC(1)", 1, "RX=02 TX=02 M=01", "-22----"},
-    {"OpDYWAYE", 1, "RX=0A TX=03 M=01", "-A3----"},
-    {"OpDYWAYE", 2, "RX=03 TX=03 M=02", "-33----"},
-    {"OpSHARPUP600", 0, "RX=0A TX=03 M=00", "-A3----"},
-    {"OpSHARPUP600", 1, "RX=03 TX=03 M=01", "-33----"},
-    {"ComboPana(1)", 0, "RX=03 TX=01 M=00 TIMESTAMP_ENA=00", "-33--1-", "10FF"},
-    {"ComboPana(1)", 1, "RX=03 TX=03 M=01 TIMESTAMP_ENA=00", "-33--0-", "00EF"},
-    {"ComboWoring", 0, "RX=02 TX=01 M=00 TIMESTAMP_ENA=00", "-21--1-", "10FF"},
-    {"ComboWoring", 1, "RX=02 TX=02 M=01 TIMESTAMP_ENA=00", "-22--0-", "00EF"},
-    {"OpMicrelec", 2, "RX=04 TX=01 UNITADDR=02 M=00", "-5110--", "03FB"},
-    {"OpMicrelec9500", 3, "RX=03 TX=01 UNITADDR=03 M=01", "-3100--", "00F8"},
-    {"ComboTCI_ID(0)", 0, "IOCFG_BAK=0E RX=00 TX=01 TCIADDBAK_3=00", "00101--", "04FC"},
-    {"ComboTCI_ID(1)", 7, "IOCFG_BAK=0E RX=00 TX=01 TCIADDBAK_2=07", "00101--", "04FC"},
-    {"ComboTCI_ID(2)", 9, "IOCFG_BAK=0E RX=00 TX=01 TCIADDBAK_1=09", "00101--", "04FC"},
-    {"ComboUNI_ID(1)", 4, "TCIADDBAK_2=04", "-------"},
-    {"POSOP", 1, "IOCFG_BAK=1D RX=0A TX=03 M=00 X=01", "1A3----"},
-    {"TEROP", 7, "IOCFG_BAK=0E RX=03 TX=03 M=01 E=00 X=07", "033----"},
-    {"PRNOP", 1, "IOCFG_BAK=0E RX=0A TX=03 M=01 E=01 X=01", "0A3----"},
-    {"SECUOP", 0, "IOCFG_BAK=0E RX=0A TX=03 M=01 E=02", "0A3----"},
-    {"ComboTITLEDIP", 1, "GTITLE_NF_BAK=01 DSPCFG_BAK=FE", "------1"},
-    {"ComboTITLEDIP", 0, "GTITLE_NF_BAK=00", "------0"},
-};
+// A control and a position; the places of the forced lists, "-" is left alone; the line flags, with none and
+// with all of them set before; what is written beside.
+constexpr const char* kMembers =
+    "ComboSICOM;255;-A3----;00FF;RX=0A TX=03 M=FF|ComboTk500(1);0;-A3----;00FF;RX=0A TX=03 M=00|"
+    "ComboTk500(1);1;-55----;00FF;RX=05 TX=05 M=01|ComboTE2200(1);0;-A3----;00FF;RX=0A TX=03 M=00|"
+    "ComboTE2200(1);1;-55----;00FF;RX=05 TX=05 M=01|ComboTEC(1);0;-83----;00FF;RX=08 TX=03 M=00|"
+    "ComboTEC(1);1;-22----;00FF;RX=02 TX=02 M=01|OpDYWAYE;1;-A3----;00FF;RX=0A TX=03 M=01|"
+    "OpDYWAYE;2;-33----;00FF;RX=03 TX=03 M=02|OpSHARPUP600;0;-A3----;00FF;RX=0A TX=03 M=00|"
+    "OpSHARPUP600;1;-33----;00FF;RX=03 TX=03 M=01|"
+    "ComboPana(1);0;-33--1-;10FF;RX=03 TX=01 M=00 TIMESTAMP_ENA=00|"
+    "ComboPana(1);1;-33--0-;00EF;RX=03 TX=03 M=01 TIMESTAMP_ENA=00|"
+    "ComboWoring;0;-21--1-;10FF;RX=02 TX=01 M=00 TIMESTAMP_ENA=00|"
+    "ComboWoring;1;-22--0-;00EF;RX=02 TX=02 M=01 TIMESTAMP_ENA=00|"
+    "OpMicrelec;2;-5110--;03FB;RX=04 TX=01 UNITADDR=02 M=00|"
+    "OpMicrelec9500;3;-3100--;00F8;RX=03 TX=01 UNITADDR=03 M=01|"
+    "ComboTCI_ID(0);0;00101--;04FC;IOCFG_BAK=0E RX=00 TX=01 TCIADDBAK_3=00|"
+    "ComboTCI_ID(1);7;00101--;04FC;IOCFG_BAK=0E RX=00 TX=01 TCIADDBAK_2=07|"
+    "ComboTCI_ID(2);9;00101--;04FC;IOCFG_BAK=0E RX=00 TX=01 TCIADDBAK_1=09|"
+    "ComboUNI_ID(1);4;-------;00FF;TCIADDBAK_2=04|POSOP;1;1A3----;00FF;IOCFG_BAK=1D RX=0A TX=03 M=00 X=01|"
+    "TEROP;7;033----;00FF;IOCFG_BAK=0E RX=03 TX=03 M=01 E=00 X=07|"
+    "PRNOP;1;0A3----;00FF;IOCFG_BAK=0E RX=0A TX=03 M=01 E=01 X=01|"
+    "SECUOP;0;0A3----;00FF;IOCFG_BAK=0E RX=0A TX=03 M=01 E=02|"
+    "ComboTITLEDIP;1;------1;00FF;GTITLE_NF_BAK=01 DSPCFG_BAK=FE|"
+    "ComboTITLEDIP;0;------0;00FF;GTITLE_NF_BAK=00";
 
 std::string Forced(Installed& program) {
   constexpr std::string_view kPlaces = "-0123456789A";
@@ -152,19 +133,19 @@ TEST(OptionMembers, SomeForceTheLineThatTheirProtocolDictates) {
   Installed program(kLatest);
   program.Pick("ComboDIP(1)", 6);  // lines enough for a title
   auto& flags = program.app.image[F::COMMCFG_BAK];
-  for (const auto& row : kMembers) {
-    SCOPED_TRACE(row.control + (" " + std::to_string(row.position)));
+  for (const auto& row : Split(kMembers, '|')) {
+    SCOPED_TRACE(row);
+    const auto cells = Split(row, ';');
     std::string flags_after;
-    program.Reveal(row.control);
+    program.Reveal(cells[0]);
     for (const char* before : {"00", "FF"}) {
       for (const char* list : kForced) program.ListOf(list).position = -1;
       program.Fill("EE", {{F::COMMCFG_BAK, before}});
-      ASSERT_EQ(program.Pick(row.control, row.position), Outcome::kDone);
+      ASSERT_EQ(program.Pick(cells[0], LeadingNumber(cells[1])), Outcome::kDone);
       flags_after += std::exchange(flags, before);
-      EXPECT_EQ(program.Written(), row.written);
-      EXPECT_EQ(Forced(program), row.forced);
+      EXPECT_EQ(Forced(program) + ";" + program.Written(), cells[2] + ";" + cells[4]);
     }
-    EXPECT_EQ(flags_after, row.flags);
+    EXPECT_EQ(flags_after, cells[3]);
   }
   Installed other({"V1310", "R1"});  // AUTO is 8 there
   for (const char* control :
@@ -185,7 +166,7 @@ TEST(OptionMembers, TheTargetDependsOnTheFirmware) {
         {"OpSharp", 10, v1400 ? "" : "M"},
         {"OpGilbraco", 6, v1300 || firmware.version == "V1310" ? "M" : ""}};
     for (const auto& [control, choices, field] : rows) {
-      SCOPED_TRACE(firmware.Joined() + " " + control);
+      SCOPED_TRACE(control);
       program.Reveal(control);
       for (int element = 0; element < choices; ++element) {
         const bool coded = choices == 10 && !first_sharp && element >= 5;
@@ -198,22 +179,19 @@ TEST(OptionMembers, TheTargetDependsOnTheFirmware) {
 
 // A choice, and what it brings along of the other controls of its frame: "!" is hidden. The last that is
 // shown takes the position X.
-const std::pair<FirmwareId, std::vector<std::string>> kBringers[] = {
-    {kLatest,
-     {"IBMOP 8 !RDSCombo !IBMCombo !Label82(0) IBMFrame Combo4610TF6",
-      "IBMOP 0 !RDSCombo !Combo4610TF6 IBMFrame Label82(0) IBMCombo",
-      "IBMOP 8 !RDSCombo !IBMCombo !Label82(0) IBMFrame Combo4610TF6",
-      "IBMOP 4 !IBMCombo !Combo4610TF6 IBMFrame Label82(0) RDSCombo",
-      "IBMOP 1 !IBMFrame !RDSCombo !IBMCombo !Combo4610TF6", "IBMOP 0 IBMFrame IBMCombo", "IBMOP 7 !IBMFrame",
-      "ICLOP 1 !POS2000 POS5000 POS50OP", "ICLOP 0 !POS5000 POS2000 TEAMOP",
-      "NCROP 1 NCRFrame JRNLRCPT_SLP_OP", "NCROP 0 !NCRFrame", "NCROP 1 NCRFrame JRNLRCPT_SLP_OP",
-      "NCROP 11 !NCRFrame", "NIXDORF14OP 1 !BEETLEFrm NIXDORFrm NIXDORF14OPSelect",
-      "NIXDORF14OP 0 !NIXDORFrm BEETLEFrm BEETLEOp"}},
+constexpr const char* kBringers[] = {
+    "V1400R12|IBMOP 8 !RDSCombo !IBMCombo !Label82(0) IBMFrame Combo4610TF6|"
+    "IBMOP 0 !RDSCombo !Combo4610TF6 IBMFrame Label82(0) IBMCombo|"
+    "IBMOP 8 !RDSCombo !IBMCombo !Label82(0) IBMFrame Combo4610TF6|"
+    "IBMOP 4 !IBMCombo !Combo4610TF6 IBMFrame Label82(0) RDSCombo|"
+    "IBMOP 1 !IBMFrame !RDSCombo !IBMCombo !Combo4610TF6|IBMOP 0 IBMFrame IBMCombo|IBMOP 7 !IBMFrame|"
+    "ICLOP 1 !POS2000 POS5000 POS50OP|ICLOP 0 !POS5000 POS2000 TEAMOP|NCROP 1 NCRFrame JRNLRCPT_SLP_OP|"
+    "NCROP 0 !NCRFrame|NCROP 1 NCRFrame JRNLRCPT_SLP_OP|NCROP 11 !NCRFrame|"
+    "NIXDORF14OP 1 !BEETLEFrm NIXDORFrm NIXDORF14OPSelect|NIXDORF14OP 0 !NIXDORFrm BEETLEFrm BEETLEOp",
     // The XML format needs a board that other firmware lack.
-    {{"V1300", "R27"}, {"OpGilbraco 5 Label84 Label85 ComboXML", "OpGilbraco 4 !Label84 !Label85 !ComboXML"}},
-    {{"V1310", "R1"}, {"OpGilbraco 5 Label84 Label85 ComboXML", "OpGilbraco 4 !Label84 !Label85 !ComboXML"}},
-    {{"V1300", "R26"}, {"OpGilbraco 5 !Label84 !Label85 !ComboXML"}},
-};
+    "V1300R27|OpGilbraco 5 Label84 Label85 ComboXML|OpGilbraco 4 !Label84 !Label85 !ComboXML",
+    "V1310R1|OpGilbraco 5 Label84 Label85 ComboXML|OpGilbraco 4 !Label84 !Label85 !ComboXML",
+    "V1300R26|OpGilbraco 5 !Label84 !Label85 !ComboXML"};
 
 void ExpectSeen(Installed& program, std::span<const std::string> controls) {
   for (const auto& control : controls) {
@@ -223,10 +201,11 @@ void ExpectSeen(Installed& program, std::span<const std::string> controls) {
 }
 
 TEST(OptionMembers, AChoiceBringsTheControlsOfItsModelAlong) {
-  for (const auto& [firmware, rows] : kBringers) {
+  for (const auto* bringers : kBringers) {
+    const auto [firmware, rows] = FirmwareAndRows(bringers, '|');
     Installed program(firmware, Images::kFirstRegister);
     for (const auto& row : rows) {
-      SCOPED_TRACE(firmware.Joined() + " " + row);
+      SCOPED_TRACE(row);
       const auto words = Split(row, ' ');
       const int position = LeadingNumber(words[1]);
       program.Reveal(words[0]);

@@ -3,12 +3,16 @@
 
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "catalogue/firmware.h"
+#include "core/config_image.h"
 #include "core/firmware_id.h"
 
 namespace ovl::testing {
+
+using F = FieldId;
 
 inline const FirmwareId kLatest{"V1400", "R12"};
 
@@ -25,6 +29,13 @@ inline std::vector<std::string> Split(const std::string& text, char separator) {
   std::vector<std::string> parts;
   for (std::string part; std::getline(stream, part, separator);) parts.push_back(part);
   return parts;
+}
+
+// A table's text begins with the firmware that its rows are about: "V1400R12|...".
+inline std::pair<FirmwareId, std::vector<std::string>> FirmwareAndRows(const std::string& text,
+                                                                       char separator) {
+  const auto parts = Split(text, separator);
+  return {{parts[0].substr(0, 5), parts[0].substr(5)}, {parts.begin() + 1, parts.end()}};
 }
 
 // The name of a register, which may have blanks in it, and the last two words of the row.

@@ -9,8 +9,6 @@
 namespace ovl::testing {
 namespace {
 
-using F = FieldId;
-
 // MICROS selected, its window closed.
 class Micros : public ::testing::Test {
  protected:
@@ -19,7 +17,7 @@ class Micros : public ::testing::Test {
     Close();
   }
 
-  void Close() { Dispatch(program.app, CloseEvent{&window.form}); }
+  void Close() { program.Close(window.form); }
   std::string Panels() const {
     return std::string(window.frmIDN.visible ? "IDN " : "") + (window.frmISN.visible ? "ISN " : "") +
            (window.frm3700.visible ? "3700 " : "") + (window.form.visible ? "shown" : "closed");
@@ -108,15 +106,15 @@ TEST_F(Micros, TheIsnPanelHoldsEightFields) {
 }
 
 TEST_F(Micros, TheEcrNumberIsSevenDigits) {
-  const std::pair<const char*, std::string> rows[] = {
-      {"123", "0000123"},     {"", "0000000"},           {"12AB", "0000012"},       {"AB12", "0000000"},
-      {"9999999", "9999999"}, {"0000000012", "0000012"}, {"123456789", "123456789"}};
+  const std::string rows =
+      "123 0000123| 0000000|12AB 0000012|AB12 0000000|9999999 9999999|0000000012 0000012|123456789 123456789";
   program.Pick("OpMicros", 3);
-  for (const auto& [typed, left] : rows) {
+  for (const auto& row : Split(rows, '|')) {
+    const auto typed = row.substr(0, row.find(' ')), left = row.substr(row.find(' ') + 1);
     for (const bool leaves : {true, false}) {
       program.Fill("EE");
-      ASSERT_EQ(Dispatch(program.app, TypeEvent{&window.ECRNumber, typed}), Outcome::kDone);
-      if (leaves) Dispatch(program.app, LeaveEvent{&window.ECRNumber});
+      ASSERT_EQ(program.Type(window.ECRNumber, typed), Outcome::kDone);
+      if (leaves) program.Leave(window.ECRNumber);
       EXPECT_EQ(window.ECRNumber.text, leaves ? left : typed);
       program.Pick("HandSHKCombo", 1);
       EXPECT_EQ(program.Written(), "");
@@ -142,65 +140,54 @@ std::string Titles(const SubMenuForm& menu) {
   return menu.Frame2.visible ? shown + " (" + menu.Combo1[0].Text() + ")" : shown;
 }
 
-struct Menu {
-  const char* models;
-  int model;
-  const char *titles, *member, *offered;  // the member holds REGTYPE_EXT2
-};
+// By the option array and the model: the titles, what holds REGTYPE_EXT2, and what that offers.
+using Menu = std::tuple<const char*, const char*, const char*>;
 constexpr const char *kMode = "FrmSubMenu.Combo1(1)", *kModes = "TAPPING|EMULATING";
-constexpr Menu kMenus[] = {
-    {"CASIOOP", 18, "CASIO SUBMENU: TE2200 TE2200 (TE-2200)", kMode, kModes},
-    {"CASIOOP", 19, "CASIO SUBMENU: TE3000 (TE3000)", kMode, kModes},
-    {"CASIOOP", 20, "CASIO SUBMENU: TE4000 (TE4000)", kMode, kModes},
-    {"CASIOOP", 21, "CASIO SUBMENU: TE4500 (TE4500)", kMode, kModes},
-    {"CASIOOP", 33, "CASIO SUBMENU: TK-T500 (TK-T500)", kMode, kModes},
-    {"SharpOP", 12, "SHARP SUBMENU: A410,420", "Option1", "TAP|EMULATE|TAP US|EMULATE US"},
-    {"SharpOP", 19, "SHARP SUBMENU: A-750/A-770 ER-01PU", "Option1", "RECEIPT|JOURNAL"},
-    {"SharpOP", 21, "SHARP SUBMENU: UP600/700", "Option1", "TAP|EMULATE"},
-    {"SharpOP", 22, "SHARP SUBMENU: UP300/3300", "Combo2", "ANY|1|2|3|4|5|6|7|8|9|10|11|12|13|14|15|16"},
-    {"TECOP", 9, "TEC SUBMENU: TEC SLIP PRINTER (TEC SLIP PRINTER)", kMode, kModes},
-};
+const std::map<std::pair<std::string, int>, Menu> kMenus = {
+    {{"CASIOOP", 18}, {"CASIO SUBMENU: TE2200 TE2200 (TE-2200)", kMode, kModes}},
+    {{"CASIOOP", 19}, {"CASIO SUBMENU: TE3000 (TE3000)", kMode, kModes}},
+    {{"CASIOOP", 20}, {"CASIO SUBMENU: TE4000 (TE4000)", kMode, kModes}},
+    {{"CASIOOP", 21}, {"CASIO SUBMENU: TE4500 (TE4500)", kMode, kModes}},
+    {{"CASIOOP", 33}, {"CASIO SUBMENU: TK-T500 (TK-T500)", kMode, kModes}},
+    {{"SharpOP", 12}, {"SHARP SUBMENU: A410,420", "Option1", "TAP|EMULATE|TAP US|EMULATE US"}},
+    {{"SharpOP", 19}, {"SHARP SUBMENU: A-750/A-770 ER-01PU", "Option1", "RECEIPT|JOURNAL"}},
+    {{"SharpOP", 21}, {"SHARP SUBMENU: UP600/700", "Option1", "TAP|EMULATE"}},
+    {{"SharpOP", 22}, {"SHARP SUBMENU: UP300/3300", "Combo2", "ANY|1|2|3|4|5|6|7|8|9|10|11|12|13|14|15|16"}},
+    {{"TECOP", 9}, {"TEC SUBMENU: TEC SLIP PRINTER (TEC SLIP PRINTER)", kMode, kModes}}};
 
-const Menu* MenuOf(std::string_view models, int model) {
-  for (const auto& menu : kMenus) {
-    if (menu.models == models && menu.model == model) return &menu;
-  }
-  return nullptr;
-}
-
-void ExpectMenu(Installed& program, const Menu& row, const char* button) {
-  const auto& menu = program.app.FrmSubMenu;
+void ExpectMenu(Installed& program, const std::string& models, int model, const std::string& button) {
+  auto& menu = program.app.FrmSubMenu;
+  const auto& [titles, member, offered] = kMenus.at({models, model});
+  EXPECT_EQ(Titles(menu), titles);
   for (const int stored : {1, 0}) {
-    const auto byte = ByteToHex(stored);
-    program.Effect(row.models, row.model, {{F::REGTYPE_EXT1, "00"}, {F::REGTYPE_EXT2, byte}});
-    EXPECT_EQ(Titles(menu), row.titles);
-    EXPECT_EQ(program.Selected(row.member), stored);
+    program.Effect(models, model, {{F::REGTYPE_EXT1, "00"}, {F::REGTYPE_EXT2, ByteToHex(stored)}});
+    EXPECT_EQ(Titles(menu), titles);
+    EXPECT_EQ(program.Selected(member), stored);
   }
-  EXPECT_EQ(program.Offered(row.member), row.offered);
-  EXPECT_EQ(program.Effect(row.member, 1), "X=01");
-  EXPECT_EQ(Dispatch(program.app, CloseEvent{&program.app.FrmSubMenu.form}), Outcome::kDone);
+  EXPECT_EQ(program.Offered(member), offered);
+  EXPECT_EQ(program.Effect(member, 1), "X=01");
+  EXPECT_EQ(program.Close(menu.form), Outcome::kDone);
   EXPECT_EQ(Titles(menu), "closed");
   EXPECT_EQ(program.Click(button), Outcome::kDone);
-  EXPECT_EQ(Titles(menu), row.titles);
-  EXPECT_EQ(program.Written(), "M=" + ByteToHex(row.model) + " X=01");
+  EXPECT_EQ(Titles(menu), titles);
+  EXPECT_EQ(program.Written(), "M=" + ByteToHex(model) + " X=01");
 }
 
 TEST(SubMenus, OpenForTheModelsThatHaveOneAndStoreAtOnce) {
-  const std::tuple<const char*, const char*, const char*, int> families[] = {
-      {"CASIO", "CASIOOP", "Command1", 35},
-      {"SHARP", "SharpOP", "SharpCom", 27},
-      {"TEC", "TECOP", "Command2", 11}};
   Installed program(kLatest);
-  for (const auto& [name, models, button, count] : families) {
-    ASSERT_EQ(program.Register(name), Outcome::kDone);
-    EXPECT_EQ(program.Pick(models, count), Outcome::kRefused);
+  for (const auto* row :
+       {"CASIO CASIOOP Command1 35", "SHARP SharpOP SharpCom 27", "TEC TECOP Command2 11"}) {
+    const auto words = Split(row, ' ');
+    const int count = LeadingNumber(words[3]);
+    ASSERT_EQ(program.Register(words[0]), Outcome::kDone);
+    EXPECT_EQ(program.Pick(words[1], count), Outcome::kRefused);
     for (int model = 0; model < count; ++model) {
-      SCOPED_TRACE(std::string(models) + " " + std::to_string(model));
-      const auto* row = MenuOf(models, model);
-      EXPECT_EQ(program.Effect(models, model), "M=" + ByteToHex(model));
-      EXPECT_EQ(program.Control(button).enabled, row != nullptr);
-      EXPECT_EQ(Titles(program.app.FrmSubMenu), row != nullptr ? row->titles : "closed");
-      if (row != nullptr) ExpectMenu(program, *row, button);
+      SCOPED_TRACE(words[1] + " " + std::to_string(model));
+      const bool has_menu = kMenus.contains({words[1], model});
+      EXPECT_EQ(program.Effect(words[1], model), "M=" + ByteToHex(model));
+      EXPECT_EQ(program.Control(words[2]).enabled, has_menu);
+      EXPECT_EQ(program.app.FrmSubMenu.form.visible, has_menu);
+      if (has_menu) ExpectMenu(program, words[1], model, words[2]);
     }
   }
 }
@@ -234,7 +221,7 @@ TEST(RegisterWindows, StayOpenAtAPickOfTheirOwnModelAndCloseAtAnyOther) {
     for (const char* next : {"GENERIC", name.c_str()}) {
       program.SetByte(name, program.Minor(), ByteToHex(model));
       program.Register(name);
-      Dispatch(program.app, CloseEvent{&form});
+      program.Close(form);
       program.Register(name);
       EXPECT_EQ(form.visible, name == "MICROS") << "the others open with a choice alone";
       ASSERT_EQ(program.Pick(models, model), Outcome::kDone);
@@ -249,7 +236,6 @@ TEST(RegisterWindows, StayOpenAtAPickOfTheirOwnModelAndCloseAtAnyOther) {
 
 TEST(IpAddress, FrameAndImageAgreeByteByByteButTheOldFrameStoresNothing) {
   for (const FirmwareId& firmware : {kLatest, FirmwareId{"V1300", "R15"}}) {
-    SCOPED_TRACE(firmware.Joined());
     Installed program(firmware);
     ASSERT_EQ(program.Register("TCPIP"), Outcome::kDone);
     auto& image = program.app.image;

@@ -1,6 +1,8 @@
 // A program started on the default images of its firmware, and what an act left in the configuration.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <initializer_list>
 #include <map>
@@ -32,7 +34,7 @@ class Installed : public Harness {
   using Bytes = std::initializer_list<std::pair<FieldId, std::string>>;
 
   explicit Installed(const FirmwareId& firmware, Images images = Images::kAll)
-      : Harness(firmware), firmware_(firmware) {
+      : Harness(firmware), firmware_(firmware), trace_(__FILE__, __LINE__, firmware.Joined()) {
     if (images == Images::kAll) WriteDefaultImages(folder.Path().string(), firmware);
     if (images != Images::kOwn && Start() != Outcome::kDone)
       throw std::runtime_error(firmware.Joined() + " does not start");
@@ -70,6 +72,9 @@ class Installed : public Harness {
     return Click(button);
   }
   Outcome Open(const std::optional<std::string>& path) { return Answer("OpenMenu", path); }
+  Outcome Type(TextBox& box, std::string text) { return Dispatch(app, TypeEvent{&box, std::move(text)}); }
+  Outcome Leave(TextBox& box) { return Dispatch(app, LeaveEvent{&box}); }
+  Outcome Close(Form& form) { return Dispatch(app, CloseEvent{&form}); }
 
   // From here on Written() tells every field that changes, by its name; the commonest have short ones. Where
   // all bytes were filled with one that nothing writes, no write hides behind the value that was there.
@@ -143,6 +148,7 @@ class Installed : public Harness {
 
  private:
   FirmwareId firmware_;
+  ::testing::ScopedTrace trace_;  // what fails while the program runs names its firmware
   ConfigImage before_;
 };
 
