@@ -3,12 +3,15 @@
 
 mutate.py [--places N] [--seed N] [FOLDER...]
 
-Works in a copy of the committed tree below build/mutants. A change that does not build does not count; one is
-noticed when a test program fails. What slips through is printed with its place."""
+Works in a copy of the committed tree below build/mutants. A change that does not build does not count, nor does
+one from which the compiler makes the very same object file: no test can tell it from the original. One is noticed
+when a test program fails. What slips through is printed with its place."""
 import argparse
+import json
 import pathlib
 import random
 import re
+import shlex
 import subprocess
 import sys
 
@@ -55,7 +58,8 @@ def prepare():
     subprocess.run(["git", "reset", "--quiet", "--hard", "origin/HEAD"], cwd=COPY, check=True)
     # With the model as a shared library a change links one file anew instead of every program.
     subprocess.run(["cmake", "-S", ".", "-B", "build", "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
-                    "-DCMAKE_CXX_FLAGS_DEBUG=-O1", "-DBUILD_SHARED_LIBS=ON", "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON"],
+                    "-DCMAKE_CXX_FLAGS_DEBUG=-O1", "-DBUILD_SHARED_LIBS=ON", "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON",
+                    "-DCMAKE_EXPORT_COMPILE_COMMANDS=ON"],
                    cwd=COPY, check=True, stdout=subprocess.DEVNULL)
     if not build() or notices(FOLDERS[0]):
         sys.exit("The unchanged tree does not build, or its tests fail.")
@@ -63,6 +67,15 @@ def prepare():
 
 def build():
     return run("ninja", "-C", "build", *(program.split()[0] for program in PROGRAMS)) == 0
+
+
+def compiled(path):
+    """The optimised object file without anything for a debugger, or nothing."""
+    commands = json.loads((COPY / "build" / "compile_commands.json").read_text())
+    words = next(shlex.split(command["command"]) for command in commands if command["file"] == str(path))
+    made = COPY / "build" / "compared.o"
+    words[words.index("-o") + 1] = str(made)
+    return made.read_bytes() if run(*words, "-O2", "-g0") == 0 else None
 
 
 def notices(folder):
@@ -86,28 +99,33 @@ def main():
     told = []
     for folder in options.folders:
         steps = [(path, at, text) for path in sorted((COPY / "src" / folder).rglob("*.cpp")) for at, text in places_of(path)]
-        noticed, tried = 0, 0
+        noticed, tried, same = 0, 0, 0
         for path, at, text in chance.sample(steps, len(steps)):
             if tried == options.places // len(options.folders):
                 break
             whole = path.read_text()
+            original = compiled(path)
             lines = whole.split("\n")
             before, lines[at] = lines[at], text
             path.write_text("\n".join(lines))
-            if build():
+            changed = compiled(path)
+            if changed is not None and changed == original:
+                same += 1
+            elif changed is not None and build():
                 tried += 1
                 by = notices(folder)
                 noticed += by is not None
                 if by is None:
                     print(f"missed {path.relative_to(COPY)}:{at + 1}\n  - {before.strip()}\n  + {text.strip()}", flush=True)
             path.write_text(whole)
-        told.append((tried, noticed))
-        tell(folder, tried, noticed)
+        told.append((tried, noticed, same))
+        tell(folder, *told[-1])
     tell("all", *(sum(column) for column in zip(*told)))
 
 
-def tell(what, tried, noticed):
-    print(f"{what:10} {noticed:4} of {tried:4} noticed, {100 * noticed / max(tried, 1):5.1f} %", flush=True)
+def tell(what, tried, noticed, same):
+    share = 100 * noticed / max(tried, 1)
+    print(f"{what:10} {noticed:4} of {tried:4} noticed, {share:5.1f} %; {same} more compile to the same code", flush=True)
 
 
 if __name__ == "__main__":
