@@ -32,8 +32,8 @@ void ApplyDvr(Application& app) {
   ChooseElement(app, form.OpDVR, recorder);
   if (!IsKnownFamily(app.firmware.version)) return;
   const bool both = HasSecondPair(app.firmware);
-  if (recorder == 1 || !both) EnablePair(form, 0, recorder == 1);
-  if (recorder == 2 && both) EnablePair(form, 1, true);
+  // The choice has enabled its pair by its click; only here does a recorder that is not known disable one.
+  if (!both) EnablePair(form, 0, recorder == 1);
   for (std::size_t pair = 0; pair < (both ? 2U : 1U); ++pair) {
     AssignPosition(app, form.ComboKLM4011[2 * pair], destination);
     AssignPosition(app, form.ComboKLM4011[2 * pair + 1], source);
