@@ -1,6 +1,5 @@
 #include "catalogue/variants.h"
 
-#include <algorithm>
 #include <array>
 #include <initializer_list>
 #include <string_view>
@@ -9,7 +8,6 @@ namespace ovl {
 namespace {
 
 constexpr const char* kAuto = "AUTO";
-constexpr int kRtsPosition = 12;
 
 void Show(MainForm& form, int label, List& list, bool visible) {
   form.Label1[label].visible = visible;
@@ -21,14 +19,9 @@ void Rename(MainForm& form, int label, List& list, const char* caption) {
   list.caption = caption;
 }
 
-void InsertAt(List& list, int position, const char* entry) {
-  const auto place = std::min<std::ptrdiff_t>(position, static_cast<std::ptrdiff_t>(list.items.size()));
-  list.items.insert(list.items.begin() + place, entry);
-}
-
 void LanguageAndNetwork(MainForm& form) {
-  InsertAt(form.ComboLang, 2, "Spanish");
-  InsertAt(form.ComboCOMM[7], 4, "NORBAIN VISTA");
+  form.ComboLang.items.emplace_back("Spanish");
+  form.ComboCOMM[7].items.emplace_back("NORBAIN VISTA");
 }
 
 void AlarmType(MainForm& form) {
@@ -36,7 +29,7 @@ void AlarmType(MainForm& form) {
 }
 
 void BlankByRts(MainForm& form) {
-  InsertAt(form.ComboDIP[0], kRtsPosition, "RTS");
+  form.ComboDIP[0].items.emplace_back("RTS");
 }
 
 void EleventhRelease(MainForm& form) {
