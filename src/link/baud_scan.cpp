@@ -32,7 +32,6 @@ void BaudRateScan_Timer(Application& app, int) {
     Disconnect(app);
     UnloadForm(app, app.frmScanBProgress.form);
     MsgBox(app, Box::kNoResponse);
-    EndScan(app);
     return;
   }
   if (app.RemoteHeld) {
@@ -51,10 +50,6 @@ void BaudRateScan_Timer(Application& app, int) {
 
 void EndScan(Application& app) {
   UnloadForm(app, app.frmScanBProgress.form);
-  app.ScanActive = false;
-  EnableTimer(app.frmSettSR.BaudRateScan, false);
-  app.ScanIndex = 0;
-  UnloadForm(app, app.frmSettSR.form);
 }
 
 void frmScanBProgress_Load(Application& app, int) {
