@@ -9,7 +9,6 @@ namespace ovl {
 namespace {
 
 constexpr int kShortestMonth = 28;
-constexpr int kRefreshInterval = 100;
 constexpr std::int16_t kTicksToRefresh = 10;
 
 std::string TwoDigits(int number) {
@@ -99,22 +98,17 @@ void CheckTD_Click(Application& app, int) {
   }
   AssignPosition(app, app.frmMain.ComboSec, 0);
   EnableTimer(app.frmMain.Timer, false);
-  app.frmMain.Timer.interval = kRefreshInterval;
   app.ClockTickCount = 0;
 }
 
 void Timer_Timer(Application& app, int) {
-  if (app.frmMain.CheckTD.checked) {
-    if (app.ClockTickCount == kTicksToRefresh) {
-      ReadSystemClock(app);
-      ShowClock(app);
-      app.ClockTickCount = 0;
-    } else {
-      Increment(app.ClockTickCount);
-    }
+  if (app.ClockTickCount == kTicksToRefresh) {
+    ReadSystemClock(app);
+    ShowClock(app);
+    app.ClockTickCount = 0;
+  } else {
+    Increment(app.ClockTickCount);
   }
-  app.frmMain.Timer.interval = kRefreshInterval;
-  EnableTimer(app.frmMain.Timer, true);
 }
 
 }  // namespace ovl
