@@ -183,7 +183,6 @@ void FinishDownload(Application& app) {
   app.DownloadActive = false;
   app.known_image = app.sent_image;
   EndRemoteMode(app);
-  app.PendingOutput.clear();
 }
 
 void frmOK_buttom_Load(Application& app, int) {
@@ -204,8 +203,6 @@ void frmOK_buttom_Unload(Application& app, int) {
 
 void TransferEnd_Click(Application& app, int) {
   app.LinkMode = kLinkIdle;
-  app.frmMain.cmdConnect.enabled = true;
-  app.frmMain.CmdUpDow[kRemote].enabled = true;
   UnloadForm(app, app.frmOK_buttom.form);
 }
 
