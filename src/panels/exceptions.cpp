@@ -52,9 +52,9 @@ void ShowText(Application& app, const std::string& slot) {
   AssignText(app, app.frmMain.TextException, std::move(text));
 }
 
+// Both bits name no entry: the list then goes on showing the operator of the slot before.
 void ShowOperator(Application& app, int flags) {
-  const int bits = flags >> kOperatorShift & 3;
-  if (bits != 3) AssignPosition(app, app.frmMain.ComboExcp[5], bits);
+  AssignPosition(app, app.frmMain.ComboExcp[5], flags >> kOperatorShift & 3);
 }
 
 // A slot that matches while scrolling has no display, output or history action of its own.

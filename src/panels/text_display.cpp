@@ -1,5 +1,6 @@
 #include "panels/text_display.h"
 
+#include <algorithm>
 #include <array>
 
 #include "panels/panel.h"
@@ -95,7 +96,7 @@ void ApplyLineRule(Application& app) {
   const auto& form = app.frmMain;
   const int lines_taken = (form.ComboTD[0].position == 1 ? 1 : 0) + (form.ComboTD[5].position == 1 ? 1 : 0);
   const int position = Member(app, 1).position;
-  if (position >= 0 && position < lines_taken) AssignPosition(app, Member(app, 1), lines_taken);
+  if (position >= 0) AssignPosition(app, Member(app, 1), std::max(position, lines_taken));
 }
 
 }  // namespace ovl
