@@ -34,14 +34,19 @@ struct Since {
   bool readers_only = false;
 };
 
+// The hexadecimal digits of an entry: a byte, or a record.
+struct Width {
+  std::int16_t digits = 2;  // in the V1400 layouts
+  std::int16_t digits_v13 = digits;
+};
+
 struct FieldRow {
   FieldId id;
   std::string_view name;
   Section section;
-  std::int16_t digits;      // an entry, in the V1400 layouts
-  std::int16_t digits_v13;  // the same in the V13xx layouts
   LayoutSet layouts;
   bool is_default;  // taken from a register's default image
+  Width width = {};
   Capability capability = Capability::kNone;
   std::string_view sentinel = {};  // what the field holds when the capability is missing
   Since since = {};

@@ -120,8 +120,9 @@ class Page {
   }
 
   static std::string WidthOf(const FieldRow& row) {
-    auto width = std::to_string(row.digits / 2);
-    if (row.digits_v13 != row.digits) width += ", V13xx " + std::to_string(row.digits_v13 / 2);
+    auto width = std::to_string(row.width.digits / 2);
+    if (row.width.digits_v13 != row.width.digits)
+      width += ", V13xx " + std::to_string(row.width.digits_v13 / 2);
     const int entries = EntryCount(row.id);
     return entries == 1 ? width : std::to_string(entries) + " times " + width;
   }
