@@ -65,6 +65,8 @@ TEST(Scan, TriesEveryRateInVainUntilALinkWasAskedFor) {
   program.Pick("OpBaud", 9);
   program.Pick("OpParity", 1);
   program.Pick("OpDataBits", 0);
+  int thrown_away = 0;
+  app.platform.serial.clear_output = [&] { ++thrown_away; };
   program.Click("BaudrateCMD");
   EXPECT_EQ(on_top, std::vector<std::string>{"frmScanBProgress"});
   EXPECT_TRUE(app.frmScanBProgress.form.top_most);
@@ -75,6 +77,7 @@ TEST(Scan, TriesEveryRateInVainUntilALinkWasAskedFor) {
     program.Tick(app.frmSettSR.BaudRateScan);
     expected.push_back("COM1:" + rate + ",O,7,1");
     EXPECT_EQ(program.opened, expected);
+    EXPECT_EQ(app.frmScanBProgress.ScanProgressBar1.value, thrown_away - 1);
     EXPECT_EQ(app.frmMain.lbConnectting.caption, "Connected at COM 1: " + rate + ",O,7,1");
   }
   program.Tick(app.frmSettSR.BaudRateScan);
