@@ -2,9 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <set>
 
+#include "catalogue/register_catalogue.h"
+#include "core/application.h"
 #include "registers/rows.h"
 
 namespace ovl::testing {
@@ -13,15 +14,14 @@ namespace {
 // What start-up keeps of a list: the names, and for every key the number that recognises it.
 struct Catalogue {
   explicit Catalogue(const FirmwareId& firmware) {
-    for (const auto key : RegisterKeys()) index[std::string(key)] = -1;
-    for (const auto& entry : BuildRegisterEntries(firmware.version, firmware.release)) {
-      names.emplace_back(entry.name);
-      if (!entry.key.empty()) index.at(std::string(entry.key)) = entry.key_index;
-    }
+    app.firmware = firmware;
+    ResetRegisterIndexes(app);
+    BuildRegisterList(app);
   }
 
-  std::vector<std::string> names;
-  std::map<std::string, int> index;
+  Application app;
+  const std::vector<std::string>& names = app.frmMain.ComboReg.items;
+  const decltype(app.RegisterIndex)& index = app.RegisterIndex;
 };
 
 TEST(RegisterLists, EveryFirmwareHasItsListOfDistinctNames) {
@@ -126,6 +126,7 @@ TEST(RegisterKeys, AreDistinctAndEachServesAFirmware) {
       if (entry.key.empty()) continue;
       EXPECT_TRUE(in_list.insert(entry.key).second) << firmware.Joined() << " has twice " << entry.key;
     }
+    EXPECT_EQ(Catalogue(firmware).index.size(), keys.size());
     served.insert(in_list.begin(), in_list.end());
   }
   EXPECT_EQ(served, keys);

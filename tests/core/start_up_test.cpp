@@ -101,6 +101,10 @@ TEST(StartUp, TheCompactFirmwareRunsMappedAndKeepsItsCaptions) {
 TEST(VersionMenu, TheRunningFirmwareDoesNothingAndAnotherOneEndsTheProgram) {
   Harness program({"V1400", "R12"});
   ASSERT_EQ(program.Start(), Outcome::kDone);
+  std::string menu;
+  for (const auto& family : program.app.frmMain.version_families)
+    menu += family.parent.caption + " " + std::to_string(family.items.size()) + " ";
+  EXPECT_EQ(menu, "V1400 7 V1300 11 V1324 9 V1310 1 V1334 1 ");
   EXPECT_EQ(program.Click("V1400R12mnu"), Outcome::kDone);
   EXPECT_TRUE(program.NoBoxLeft());
   EXPECT_EQ(program.Click("V1300R14mnu"), Outcome::kEnded);

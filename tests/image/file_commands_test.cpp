@@ -148,6 +148,7 @@ TEST(FileCommands, AnOpenWithoutAFileLeavesAllButTheNextPick) {
   for (const auto& [source, reason] : sources) {
     SCOPED_TRACE(reason);
     program.Mark();
+    program.app.ImageTouched = false;
     std::optional<Locked> locked;
     if (source == kept_from_us) locked.emplace(kept_from_us);
     ASSERT_EQ(program.Open(source), Outcome::kDone);
@@ -156,7 +157,7 @@ TEST(FileCommands, AnOpenWithoutAFileLeavesAllButTheNextPick) {
     EXPECT_TRUE(program.NoBoxLeft());
     EXPECT_EQ(program.Written(), "");
     EXPECT_TRUE(program.app.PanelsReady);
-    EXPECT_TRUE(program.app.UploadApplying);
+    EXPECT_TRUE(program.app.UploadApplying && program.app.ImageTouched);
     ASSERT_EQ(program.Register("ADS"), Outcome::kDone);
     EXPECT_EQ(program.Written(), "");
     EXPECT_FALSE(program.app.UploadApplying);

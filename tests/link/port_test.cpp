@@ -26,7 +26,9 @@ TEST(PortSettings, StartAtTheSameValuesButForThePort) {
     EXPECT_EQ(program.Pick(name, position), Outcome::kDone);
     EXPECT_GT(dialog.form.focus_requests, requests) << name;
   }
+  app.frmMain.CmdUpDow[kRemote].enabled = false;
   program.Click("cmdSET");
+  EXPECT_TRUE(app.frmMain.CmdUpDow[kRemote].enabled);
   EXPECT_EQ(app.frmMain.lbConnectting.caption, "Connected at COM 5: 38400,E,7,1");
   const auto& comm = app.frmMain.MSComm1;
   EXPECT_EQ(std::tuple(comm.SThreshold, comm.RThreshold, comm.InputLen), std::tuple(1, 1, 1));
