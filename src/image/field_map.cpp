@@ -126,11 +126,6 @@ constexpr auto kFields = std::to_array<FieldRow>({
 });
 static_assert(kFields.size() == kFieldCount);
 
-// A register's default image is read only as far as the last field that it sets.
-bool IsLastDefault(const FieldRow& row) {
-  return row.id == FieldId::MICROS_STATUS || row.id == FieldId::IPADDRESS;
-}
-
 bool IsExtension(FieldId id) {
   return id == FieldId::REGTYPE_EXT1 || id == FieldId::REGTYPE_EXT2;
 }
@@ -226,7 +221,7 @@ Capabilities CapabilitiesOf(const FirmwareId& firmware) {
   Capabilities capabilities;
   if (firmware.version != "V1324") return capabilities;
   const std::string_view release = firmware.release;
-  const auto tail = release.substr(release.size() < 2 ? 0 : release.size() - 2);
+  const auto tail = release.substr(std::max<std::size_t>(release.size(), 2) - 2);
   capabilities.HasTcpIp = LeadingNumber(tail) >= 19;
   return capabilities;
 }
@@ -242,16 +237,12 @@ void ReadSections(const Sections& sections, const FirmwareId& firmware, const Ca
                   Scope scope, ConfigImage& image) {
   const auto layout = LayoutOf(firmware);
   std::array<std::string_view, 3> rest = {sections.SYSCFG, sections.SYSFIXED, sections.SYSSTR};
-  std::array<bool, 3> done = {};
   for (const auto& row : kFields) {
-    const auto section = static_cast<std::size_t>(row.section);
-    if (scope == Scope::kRegisterDefault && (done[section] || row.section == Section::kSysstr)) continue;
     if (InStream(row, layout, firmware.Number(), capabilities, Direction::kRead)) {
-      ReadField(rest[section], row, layout, scope, image);
+      ReadField(rest[static_cast<std::size_t>(row.section)], row, layout, scope, image);
     } else {
       SettleAbsent(row, layout, capabilities, scope, image);
     }
-    done[section] = IsLastDefault(row);
   }
 }
 

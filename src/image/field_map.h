@@ -74,7 +74,7 @@ struct Sections {
 
 enum class Scope {
   kWhole,
-  kRegisterDefault,  // only the fields marked as defaults, as far as the last of them
+  kRegisterDefault,  // only the fields marked as defaults
 };
 
 // Fields that the layout lacks keep what they held, but for those that every load sets.
