@@ -56,7 +56,6 @@ void RequireWritable(const fs::path& target) {
   if (fs::is_directory(status)) Fail(target.string(), std::errc::is_a_directory);
   if (!fs::exists(status)) return;
   if (!fs::is_regular_file(status)) Fail(target.string(), std::errc::invalid_argument);
-  errno = 0;
   if (!File{std::fopen(target.c_str(), "r+b")}) FailWithErrno(target.string());
 }
 
@@ -68,7 +67,6 @@ File CreateBeside(const fs::path& target, fs::path& beside) {
   const auto stem = target.filename().string().substr(0, kLongestStem);
   for (int number = 0; number < kNamesToTry; ++number) {
     beside = target.parent_path() / (stem + "." + std::to_string(number) + ".new");
-    errno = 0;
     if (File file{std::fopen(beside.c_str(), "wbx")}) return file;
     if (errno != EEXIST) break;
   }
