@@ -97,6 +97,7 @@ def main():
     prepare()
     chance = random.Random(options.seed)
     told = []
+    originals = {}
     for folder in options.folders:
         steps = [(path, at, text) for path in sorted((COPY / "src" / folder).rglob("*.cpp")) for at, text in places_of(path)]
         noticed, tried, same = 0, 0, 0
@@ -104,12 +105,13 @@ def main():
             if tried == options.places // len(options.folders):
                 break
             whole = path.read_text()
-            original = compiled(path)
+            if path not in originals:
+                originals[path] = compiled(path)
             lines = whole.split("\n")
             before, lines[at] = lines[at], text
             path.write_text("\n".join(lines))
             changed = compiled(path)
-            if changed is not None and changed == original:
+            if changed is not None and changed == originals[path]:
                 same += 1
             elif changed is not None and build():
                 tried += 1
