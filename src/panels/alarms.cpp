@@ -27,10 +27,6 @@ int Shown(const Application& app) {
   return app.frmMain.ComboALM[0].position + 1;
 }
 
-std::string Slice(const std::string& record, std::size_t first, std::size_t count = std::string::npos) {
-  return first < record.size() ? record.substr(first, count) : std::string();
-}
-
 bool HasAlarmType(const FirmwareId& firmware) {
   const int release = firmware.Number();
   if (firmware.IsV1400()) return release >= 6;
@@ -60,14 +56,15 @@ void ShowTriggeredText(Application& app, int number) {
   const int flags = HexToInt(record);
   AssignPosition(app, app.frmMain.ComboTrigger[0], flags & 1);
   AssignPosition(app, app.frmMain.ComboTrigger[1], flags >> 1 & 1);
-  const auto text = std::string_view(record).substr(std::min<std::size_t>(record.size(), 2));
-  AssignText(app, app.frmMain.TextTrigger, StoredText(text.substr(0, text.size() < 2 ? 0 : text.size() - 2)));
+  const auto text = Slice(record, 2);
+  AssignText(app, app.frmMain.TextTrigger,
+             StoredText(Slice(text, 0, std::max<std::size_t>(text.size(), 2) - 2)));
 }
 
 void ShowByFirmware(Application& app, int number) {
   if (app.firmware.IsV1400()) {
     const auto& record = app.image.at(ALMSTRUCT_BAK, number);
-    AssignPosition(app, Member(app, 6), HexToInt(Slice(record, record.size() < 2 ? 0 : record.size() - 2)));
+    AssignPosition(app, Member(app, 6), HexToInt(Slice(record, std::max<std::size_t>(record.size(), 2) - 2)));
     AssignPosition(app, app.frmMain.ComboTrigger[2], HexToInt(app.image.at(TRIGGER_DELAY, number)));
   }
   if (HasAlarmType(app.firmware))

@@ -33,10 +33,6 @@ void StoreFlags(std::string& slot, int flags) {
   slot.replace(0, std::min<std::size_t>(slot.size(), 2), ByteToHex(flags));
 }
 
-std::string Slice(const std::string& slot, std::size_t first, std::size_t count) {
-  return first < slot.size() ? slot.substr(first, count) : std::string();
-}
-
 void ShowRange(Application& app, const std::string& slot) {
   const auto place = RangePlaceOf(app);
   for (std::size_t value = 0; value < 2; ++value) {
@@ -47,7 +43,7 @@ void ShowRange(Application& app, const std::string& slot) {
 }
 
 void ShowText(Application& app, const std::string& slot) {
-  auto text = StoredText(Slice(slot, RangePlaceOf(app).End() + kLengthDigits, std::string::npos));
+  auto text = StoredText(Slice(slot, RangePlaceOf(app).End() + kLengthDigits));
   std::replace(text.begin(), text.end(), kStoredWildcard, kWildcard);
   AssignText(app, app.frmMain.TextException, std::move(text));
 }

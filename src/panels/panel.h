@@ -1,6 +1,7 @@
 // What the settings panels share.
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,12 @@ void RefreshSavedIndexes(Application& app, const std::string& family, const Arra
 inline int HalfToEven(int number) {
   const int half = number / 2;
   return number % 2 != 0 && half % 2 != 0 ? half + 1 : half;
+}
+
+// What a record holds from a place on; nothing behind its end.
+inline std::string Slice(const std::string& record, std::size_t first,
+                         std::size_t count = std::string::npos) {
+  return record.substr(std::min(first, record.size()), count);
 }
 
 inline bool HasBit(int byte, int bit) {

@@ -2,8 +2,8 @@
 
 #include <array>
 
-#include "core/actions.h"
 #include "panels/exceptions.h"
+#include "panels/panel.h"
 
 namespace ovl {
 namespace {
@@ -42,13 +42,9 @@ void FillFromSlot(Application& app) {
   std::size_t field = 0;
   for (auto* box : Fields(app.frmSetRange)) {
     const auto width = WidthOf(app, field++);
-    box->text = first < slot->size() ? slot->substr(first, width) : std::string();
+    box->text = Slice(*slot, first, width);
     first += width;
   }
-}
-
-std::string Part(const std::string& text, std::size_t first, std::size_t count) {
-  return first < text.size() ? text.substr(first, count) : std::string();
 }
 
 }  // namespace
@@ -63,8 +59,8 @@ void frmSetRange_Load(Application& app, int) {
   const auto fields = Fields(dialog);
   for (std::size_t value = 0; value < 2; ++value) {
     const auto& shown = app.frmMain.TextRANGE[value].caption;
-    fields[2 * value]->text = Part(shown, 0, integers);
-    fields[2 * value + 1]->text = Part(shown, integers + 1, RangePlace::kDecimals);
+    fields[2 * value]->text = Slice(shown, 0, integers);
+    fields[2 * value + 1]->text = Slice(shown, integers + 1, RangePlace::kDecimals);
   }
   ShowSeparator(app);
   app.frmMain.form.enabled = false;
@@ -78,7 +74,6 @@ void cmdSetRange_Click(Application& app, int) {
   LoadForm(app, app.frmSetRange.form);
   FillFromSlot(app);
   ShowForm(app, app.frmSetRange.form);
-  ShowSeparator(app);
 }
 
 void RangeField_Leave(Application& app, int index) {
@@ -111,8 +106,7 @@ void RangeSet_Click(Application& app, int) {
   if (auto* slot = ShownSlot(app)) {
     std::string digits;
     for (const auto* box : Fields(dialog)) digits += box->text;
-    *slot = slot->substr(0, RangePlace::kFirst) + digits +
-            Part(*slot, RangePlaceOf(app).End(), std::string::npos);
+    *slot = slot->substr(0, RangePlace::kFirst) + digits + Slice(*slot, RangePlaceOf(app).End());
   }
   UnloadForm(app, dialog.form);
 }

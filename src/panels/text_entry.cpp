@@ -1,5 +1,6 @@
 #include "panels/text_entry.h"
 
+#include <algorithm>
 #include <array>
 
 #include "core/actions.h"
@@ -74,7 +75,7 @@ void TextEntry_Escape(Application& app, int) {
 
 void ApplyTitle(Application& app) {
   const auto& digits = app.image[FieldId::ONSCRNTITL];
-  const auto text = std::string_view(digits).substr(0, digits.size() < 2 ? 0 : digits.size() - 2);
+  const auto text = std::string_view(digits).substr(0, std::max<std::size_t>(digits.size(), 2) - 2);
   AssignText(app, app.frmMain.Title_Text, StoredText(text));
 }
 

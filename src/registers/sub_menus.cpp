@@ -18,11 +18,8 @@ void HideFrames(SubMenuForm& form) {
 void ShowModel(SubMenuForm& form, const std::string& title, const std::string& model) {
   form.Frame2.visible = true;
   form.Frame2.caption = title;
-  form.Label1[0].caption = "Model :";
-  form.Label1[1].caption = "Mode :";
   form.Combo1[0].items = {model};
   form.Combo1[0].position = 0;
-  for (auto& list : form.Combo1) list.visible = true;
 }
 
 void ShowMode(Application& app) {
