@@ -153,7 +153,7 @@ std::string Captions(const Application& app, std::string_view controls, std::str
 std::string_view Cut(Part part, FieldId field, std::string_view record) {
   constexpr std::size_t kByte = 2, kCommon = 6, kExceptionText = kByte + 2 * 40;
   const auto rest = record.substr(std::min(kByte, record.size()));
-  const auto range = rest.substr(0, rest.size() < kExceptionText ? 0 : rest.size() - kExceptionText);
+  const auto range = rest.substr(0, std::max(rest.size(), kExceptionText) - kExceptionText);
   switch (part) {
     case Part::kFirstByte:
       return record.substr(0, kByte);

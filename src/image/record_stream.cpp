@@ -1,5 +1,6 @@
 #include "image/record_stream.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "core/actions.h"
@@ -63,7 +64,7 @@ ParseResult ParseRecords(std::string_view stream, const Region& region, std::str
   if (end == std::string_view::npos || stream.find(AddressMarker(region.last)) == std::string_view::npos) {
     return ParseResult::kBroken;
   }
-  if (end > kMarkerLength) digits.append(stream.substr(kMarkerLength, end - kMarkerLength));
+  digits.append(stream, kMarkerLength, std::max(end, kMarkerLength) - kMarkerLength);
   return ParseResult::kOk;
 }
 
