@@ -85,7 +85,7 @@ void StoreNormalState(Application& app) {
 void StoreTrigger(Application& app, std::string& record) {
   const int trigger = Member(app, 1).position;
   ShowTriggerMark(app, trigger);
-  record = ByteToHex(trigger) + Slice(record, 2, app.firmware.IsV1400() ? 6 : 4);
+  record = ByteToHex(trigger) + Slice(record, 2);
 }
 
 void StoreDuration(Application& app, std::string& record) {
@@ -147,7 +147,7 @@ void LoadAlarm(Application& app, int number) {
   ShowTriggerMark(app, trigger);
   AssignPosition(app, Member(app, 1), trigger);
   ShowNormalState(app, number);
-  ShowDuration(app, HexToInt(Slice(record, 2, 2)));
+  ShowDuration(app, HexToInt(Slice(record, 2)));
   ShowTriggeredText(app, number);
   ShowByFirmware(app, number);
 }

@@ -150,8 +150,8 @@ void ApplyNetworkRules(Application& app) {
 void ApplyProtocolBaud(Application& app) {
   constexpr std::array kSpeeds = {3, 8, 5};
   const int protocol = Member(app, 11).position;
-  if (protocol < 0 || protocol >= static_cast<int>(kSpeeds.size())) return;
-  AssignPosition(app, Member(app, 12), kSpeeds[static_cast<std::size_t>(protocol)]);
+  if (protocol < 0) return;
+  AssignPosition(app, Member(app, 12), kSpeeds.at(static_cast<std::size_t>(protocol)));
 }
 
 }  // namespace ovl

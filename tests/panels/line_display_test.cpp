@@ -65,6 +65,12 @@ TEST(Communication, TheNetworkTypeRulesItsPanelAndALoadStoresNothing) {
     EXPECT_EQ(loaded.Load({{NET_TYPE, "FF"}, {NET_PROTOCOL, "FF"}}), "");
     EXPECT_EQ(loaded.At(Comm(9)), 3);
     EXPECT_EQ(loaded.At(Comm(11)), 2);
+    // Types and protocols that never stood anywhere rule nothing.
+    for (const auto& [type, address] : {std::pair{"FF", 5}, {"02", 5}, {"01", 0}}) {
+      loaded.ListOf(Comm(9)).position = loaded.ListOf(Comm(11)).position = -1;
+      loaded.Load({{NET_TYPE, type}, {NET_ADDRESS, "05"}, {NET_PROTOCOL, "FF"}, {NET_BAUDRATE, "06"}});
+      EXPECT_EQ(std::pair(loaded.At(Comm(10)), loaded.At(Comm(12))), std::pair(address, 6)) << type;
+    }
   }
 }
 
