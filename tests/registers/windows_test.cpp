@@ -187,6 +187,11 @@ TEST(SubMenus, OpenForTheModelsThatHaveOneAndStoreAtOnce) {
       EXPECT_EQ(program.Effect(words[1], model), "M=" + ByteToHex(model));
       EXPECT_EQ(program.Control(words[2]).enabled, has_menu);
       EXPECT_EQ(program.app.FrmSubMenu.form.visible, has_menu);
+      // The button shows the model anew, but for one that it does not look for.
+      program.Reveal(words[2]);
+      program.Fill("EE");
+      program.Click(words[2]);
+      EXPECT_EQ(program.Written(), words[0] == "SHARP" && model == 26 ? "" : "M=" + ByteToHex(model));
       if (has_menu) ExpectMenu(program, words[1], model, words[2]);
     }
   }
