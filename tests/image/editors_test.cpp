@@ -3,44 +3,37 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
+
+#include "image/field_map.h"
 #include "support/harness.h"
 
 namespace ovl::testing {
 namespace {
 
 TEST(Editors, NameOnlyTheControlsThatStoreWhatDiffers) {
-  struct Row {
-    FieldId field;
-    std::size_t digit;
-    char other;
-    const char* words;
-  };
-  using enum FieldId;
-  constexpr Row kRows[] = {
-      {EXCPSTRS, 0, '4', "EXCEPTION REPORT: SCROLL MATCHING"},
-      {EXCPSTRS, 1, '1', "EXCEPTION REPORT: DISPLAY"},
-      {EXCPSTRS, 1, 'C', "EXCEPTION REPORT: OPERATOR"},
-      {EXCPSTRS, 5, '7', "EXCEPTION REPORT: Set RANGE"},
-      {EXCPSTRS, 22, '7', "EXCEPTION REPORT: EXCEPTION STRING"},
-      {EXCPSTRS, 103, '7', "EXCEPTION REPORT: EXCEPTION STRING"},
-      {ALMSTRUCT_BAK, 1, '7', "ALARM OUTPUTS: ALARM TRIGGER"},
-      {ALMSTRUCT_BAK, 5, '7', "ALARM OUTPUTS: ALARM DURATION"},
-      {ALMSTRUCT_BAK, 7, '1', "ALARM OUTPUTS: VIDEO LOSS"},
-      {TRIGGER_TEXT, 1, '2', "ALARM OUTPUTS: OUTPUT TEXT"},
-      {TRIGGER_TEXT, 7, '7', "ALARM OUTPUTS: TRIGGER TEXT"},
-      {SCROLLMATCH_BAK, 0, '1', "EXCEPTION REPORT: SCROLL MATCHING, TIMEOUT"},
-      {COMMCFG_BAK, 1, '4', "COMMUNICATION: DATA BITS"},
-      {COMMCFG_BAK, 0, '1', "EXCEPTION REPORT: OUTPUT"},
-  };
+  // The field, the digit that differs, what it becomes, and the words.
+  std::istringstream rows(
+      "EXCPSTRS 0 4 EXCEPTION REPORT: SCROLL MATCHING;EXCPSTRS 1 1 EXCEPTION REPORT: DISPLAY;"
+      "EXCPSTRS 1 C EXCEPTION REPORT: OPERATOR;EXCPSTRS 5 7 EXCEPTION REPORT: Set RANGE;"
+      "EXCPSTRS 22 7 EXCEPTION REPORT: EXCEPTION STRING;EXCPSTRS 103 7 EXCEPTION REPORT: EXCEPTION STRING;"
+      "ALMSTRUCT_BAK 1 7 ALARM OUTPUTS: ALARM TRIGGER;ALMSTRUCT_BAK 5 7 ALARM OUTPUTS: ALARM DURATION;"
+      "ALMSTRUCT_BAK 7 1 ALARM OUTPUTS: VIDEO LOSS;TRIGGER_TEXT 1 2 ALARM OUTPUTS: OUTPUT TEXT;"
+      "TRIGGER_TEXT 7 7 ALARM OUTPUTS: TRIGGER TEXT;"
+      "SCROLLMATCH_BAK 0 1 EXCEPTION REPORT: SCROLL MATCHING, TIMEOUT;"
+      "COMMCFG_BAK 1 4 COMMUNICATION: DATA BITS;COMMCFG_BAK 0 1 EXCEPTION REPORT: OUTPUT");
   Harness harness({"V1400", "R12"});
   harness.Start();
-  for (const auto& row : kRows) {
-    const bool one_byte = row.field == COMMCFG_BAK || row.field == SCROLLMATCH_BAK;
-    const std::string before(row.field == EXCPSTRS ? 104 : one_byte ? 2 : 8, '0');
+  std::string name, words;
+  std::size_t digit = 0;
+  for (char other = 0; rows >> name >> digit >> other && std::getline(rows >> std::ws, words, ';');) {
+    const bool one_byte = name == "COMMCFG_BAK" || name == "SCROLLMATCH_BAK";
+    const std::string before(name == "EXCPSTRS" ? 104 : one_byte ? 2 : 8, '0');
     auto after = before;
-    after[row.digit] = row.other;
-    EXPECT_EQ(EditedBy(harness.app, row.field, "options", before, after), row.words) << after;
+    after[digit] = other;
+    EXPECT_EQ(EditedBy(harness.app, FindField(name)->id, "options", before, after), words) << after;
   }
+  EXPECT_EQ(words, "EXCEPTION REPORT: OUTPUT") << "the last row was compared";
 }
 
 // What ComboCOMM(6) stores follows the handshaking.

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
-
 #include "support/harness.h"
 
 namespace ovl::testing {
@@ -123,13 +121,11 @@ TEST(FieldMap, FirmwareThatLackAFieldHoldItsSentinelOrZero) {
 }
 
 TEST(FieldMap, ADefaultLoadTakesOnlyTheRegistersFields) {
-  using enum FieldId;
-  const std::set<FieldId> kRegisters = {
-      EXECENTRY,      COMMCFG_BAK,  IOCFG_BAK,     RX_BAUDRATE,      TX_BAUDRATE,   UNITADDR,
-      DV_ADDRIND_BAK, TCIADDBAK_1,  TCIADDBAK_2,   TCIADDBAK_3,      GTITLE_NF_BAK, GPS_CONFIG_BAK,
-      REGDV_TYPE_BAK, REG_GNA_BAK,  REG_LNA_BAK,   REG_IDNA_BAK,     PCDV_TYPE_BAK, PC_GNA_BAK,
-      PC_LNA_BAK,     PC_IDNA_BAK,  MICROS_STATUS, DEVICE_INDEX_BAK, REGTYPE,       REGTYPE_MINOR,
-      REGTYPE_EXT1,   REGTYPE_EXT2, IPADDRESS};
+  const std::string registers =
+      " EXECENTRY COMMCFG_BAK IOCFG_BAK RX_BAUDRATE TX_BAUDRATE UNITADDR DV_ADDRIND_BAK TCIADDBAK_1 "
+      "TCIADDBAK_2 TCIADDBAK_3 GTITLE_NF_BAK GPS_CONFIG_BAK REGDV_TYPE_BAK REG_GNA_BAK REG_LNA_BAK "
+      "REG_IDNA_BAK PCDV_TYPE_BAK PC_GNA_BAK PC_LNA_BAK PC_IDNA_BAK MICROS_STATUS DEVICE_INDEX_BAK REGTYPE "
+      "REGTYPE_MINOR REGTYPE_EXT1 REGTYPE_EXT2 IPADDRESS ";
   for (const auto& line : kLines) {
     const FirmwareId firmware{line.version, "R" + std::to_string(line.releases.back())};
     SCOPED_TRACE(firmware.Joined());
@@ -139,7 +135,8 @@ TEST(FieldMap, ADefaultLoadTakesOnlyTheRegistersFields) {
     app.PanelsReady = true;
     app.Load(Joined(RawPatternStream(firmware, 2, 9)));
     for (const auto& field : FieldTable()) {
-      const auto& from = kRegisters.contains(field.id) ? whole.image : old.image;
+      const bool taken = registers.find(std::string(" ").append(field.name).append(" ")) != std::string::npos;
+      const auto& from = taken ? whole.image : old.image;
       for (int entry = 1; entry <= EntryCount(field.id); ++entry) {
         EXPECT_EQ(app.image.at(field.id, entry), from.at(field.id, entry)) << field.name;
       }
