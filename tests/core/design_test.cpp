@@ -66,16 +66,16 @@ TEST(Design, CaptionsGroupsWindowsAndWordsBesideThem) {
       "frmSettSR.Label1=Make sure you are select correct the comport.;"
       "frmScanBProgress.Label1=Baudrate Scaning..;frmIDN=MICROS IDN NETWORK;frmISN=MICROS ISN NETWORK;"
       "frm3700=MICROSS 3700 V4.X;Label2=TERMINAL;ComboKLM4011(2)=DEST ID;ComboKLM4011(3)=SRC ID;"
-      "ScanProgressBar1=;frmMain=OVL Software;frmSettSR=Communication Setting;frmScanBProgress=Scan Baudrate;"
-      "frmOK_buttom=Program Download;frmMicros=MICROS;frmSetRange=RANGE;frmAbout=About OVL Software;"
-      "Range_Hi=First value;Range_Low=Second value;SubRange_Hi=First value, decimals;"
-      "SubRange_Low=Second value, decimals;ComboDec=Decimal separator;ComboNone(0)=TX PROTOCOL;"
-      "ComboNone(1)=ADDRESS;ComboNone(2)=PROTOCOL;Label1(0)=T/D DISPLAY;Label1(8)=TITLER;Label1(12)=DEST ID;"
-      "Label1(15)=SRC ID;Label1(20)=DISPLAY;Label1(23)=SCROLL MATCHING;Label1(24)=OUTPUT;"
-      "Label1(26)=DUPLICATE LINE;Label1(32)=TX PROTOCOL;Label1(33)=PARITY;Label1(34)=DATA BITS;"
-      "Label1(35)=HW HANDSHAKING;Label1(36)=SW HANDSHAKING;Label1(37)=AUTO LINEFEED;Label1(46)=FLAG TYPE;"
-      "Label1(49)=ALARM TYPE;Label1(50)=DISPLAY TEXT;Label1(52)=RTS TRIGGERED TEXT DELAY;"
-      "Label1(54)=SCREEN BLANK;Label1(62)=DISPLAY CHARACTER / LINE");
+      "ScanProgressBar1=;frmMain=OVL Software;frmSettSR=Communication Setting;"
+      "frmScanBProgress=Scan Baudrate;frmOK_buttom=Program Download;frmMicros=MICROS;frmSetRange=RANGE;"
+      "frmAbout=About OVL Software;Range_Hi=First value;Range_Low=Second value;"
+      "SubRange_Hi=First value, decimals;SubRange_Low=Second value, decimals;ComboDec=Decimal separator;"
+      "lbLicence=MIT licence;ComboNone(0)=TX PROTOCOL;ComboNone(1)=ADDRESS;ComboNone(2)=PROTOCOL;"
+      "Label1(0)=T/D DISPLAY;Label1(8)=TITLER;Label1(12)=DEST ID;Label1(15)=SRC ID;Label1(20)=DISPLAY;"
+      "Label1(23)=SCROLL MATCHING;Label1(24)=OUTPUT;Label1(26)=DUPLICATE LINE;Label1(32)=TX PROTOCOL;"
+      "Label1(33)=PARITY;Label1(34)=DATA BITS;Label1(35)=HW HANDSHAKING;Label1(36)=SW HANDSHAKING;"
+      "Label1(37)=AUTO LINEFEED;Label1(46)=FLAG TYPE;Label1(49)=ALARM TYPE;Label1(50)=DISPLAY TEXT;"
+      "Label1(52)=RTS TRIGGERED TEXT DELAY;Label1(54)=SCREEN BLANK;Label1(62)=DISPLAY CHARACTER / LINE");
   const Application app;
   for (std::string row; std::getline(captions, row, ';');) {
     const auto end = row.find('=');
@@ -93,12 +93,13 @@ TEST(Design, NumbersRunFromTheFirstToTheLast) {
   // A list, how many entries it has, the first and the last.
   std::istringstream lists(
       "ComboHR 24 00 23 ComboMin 60 00 59 ComboSec 60 00 59 ComboMonth 12 01 12 ComboYear 100 00 99 "
-      "ComboDay(0) 28 01 28 ComboDay(1) 29 01 29 ComboDay(2) 30 01 30 ComboDay(3) 31 01 31 "
-      "ComboCOMM(10) 17 N/A 16 ComboDIP(1) 11 1 11 ComboDIP(8) 31 10 40 ComboKLM4011(0) 32 1 32 "
-      "ComboKLM4011(3) 32 1 32 ComboExcp(0) 24 1 24 ComboALM(0) 16 1 16 ComboMICROSADD 17 ANY 15 "
-      "ComboISN(0) 11 ANY 09 ComboISN(1) 34 ANY 32 ComboISN(2) 34 ANY 32 ComboISN(3) 17 ANY 15 "
-      "ComboISN(4) 11 ANY 09 ComboISN(5) 34 ANY 32 ComboISN(6) 34 ANY 32 ComboISN(7) 17 ANY 15 "
-      "Combo2 17 ANY 16 ComboTCPIP(0) 256 0 255 ComboTCPIP(7) 256 0 255");
+      "ComboALM(5) 121 000 240 ComboALM(1) 29 NONE RTS ComboDay(0) 28 01 28 ComboDay(1) 29 01 29 "
+      "ComboDay(2) 30 01 30 ComboDay(3) 31 01 31 ComboCOMM(10) 17 N/A 16 ComboDIP(1) 11 1 11 "
+      "ComboDIP(8) 31 10 40 ComboKLM4011(0) 32 1 32 ComboKLM4011(3) 32 1 32 ComboExcp(0) 24 1 24 "
+      "ComboALM(0) 16 1 16 ComboMICROSADD 17 ANY 15 ComboISN(0) 11 ANY 09 ComboISN(1) 34 ANY 32 "
+      "ComboISN(2) 34 ANY 32 ComboISN(3) 17 ANY 15 ComboISN(4) 11 ANY 09 ComboISN(5) 34 ANY 32 "
+      "ComboISN(6) 34 ANY 32 ComboISN(7) 17 ANY 15 Combo2 17 ANY 16 ComboTCPIP(0) 256 0 255 "
+      "ComboTCPIP(7) 256 0 255");
   const Application app;
   std::string name, first, last;
   for (std::size_t count = 0; lists >> name >> count >> first >> last;) {
