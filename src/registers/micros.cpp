@@ -47,7 +47,6 @@ void ForgetSelections(Application& app) {
   for (auto* list : {&form.ComboMICROS, &form.ComboMICROSADD, &form.ComboMODE, &form.HandSHKCombo})
     list->position = -1;
   for (auto& list : form.ComboISN) list.position = -1;
-  form.ECRNumber.text.clear();
 }
 
 void HidePanels(Application& app) {
