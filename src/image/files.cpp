@@ -99,7 +99,6 @@ std::string ReadWhole(const std::string& path) {
   if (const auto size = fs::file_size(path, error); !error && size > kLargestFile) {
     Fail(path, std::errc::file_too_large);
   }
-  errno = 0;
   std::ifstream file(path, std::ios::binary);
   if (!file) FailWithErrno(path);
   std::string bytes;

@@ -51,6 +51,7 @@ TEST(LeadingNumber, StopsAtTheFirstOtherCharacter) {
   EXPECT_EQ(LeadingNumber("12AB"), 12);
   EXPECT_EQ(LeadingNumber("AB"), 0);
   EXPECT_EQ(LeadingNumber(" 1"), 0);
+  EXPECT_EQ(LeadingNumber("999999990"), 999'999'990);
   EXPECT_EQ(LeadingNumber("99999999999999"), 999'999'999);
 }
 

@@ -34,6 +34,15 @@ TEST(Editors, NameOnlyTheControlsThatStoreWhatDiffers) {
     EXPECT_EQ(EditedBy(harness.app, FindField(name)->id, "options", before, after), words) << after;
   }
   EXPECT_EQ(words, "EXCEPTION REPORT: OUTPUT") << "the last row was compared";
+
+  std::istringstream fields(
+      "COMMCFG_BAK COMMUNICATION: PARITY, DATA BITS, HW HANDSHAKING, AUTO LINEFEED; EXCEPTION REPORT: OUTPUT|"
+      "REGTYPE_EXT2 REGISTER SELECT: options; MICROS: HANDSHAKING|REGDV_TYPE_BAK MICROS: SOURCE TYPE|"
+      "REG_GNA_BAK MICROS: SRC ISN GNA|REG_LNA_BAK MICROS: SRC ISN LNA|REG_IDNA_BAK MICROS: SRC IDN ID|"
+      "PCDV_TYPE_BAK MICROS: DESTIN TYPE|PC_GNA_BAK MICROS: DST ISN GNA|PC_LNA_BAK MICROS: DST ISN LNA|"
+      "PC_IDNA_BAK MICROS: DST IDN ID");
+  while (fields >> name && std::getline(fields >> std::ws, words, '|'))
+    EXPECT_EQ(EditedBy(harness.app, FindField(name)->id, "options"), words);
 }
 
 // What ComboCOMM(6) stores follows the handshaking.

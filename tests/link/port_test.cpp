@@ -83,6 +83,8 @@ TEST(Scan, TriesEveryRateInVainUntilALinkWasAskedFor) {
     EXPECT_EQ(app.frmMain.lbConnectting.caption, "Connected at COM 1: " + rate + ",O,7,1");
   }
   program.Tick(app.frmSettSR.BaudRateScan);
+  const auto& bar = app.frmScanBProgress.ScanProgressBar1;
+  EXPECT_EQ(bar.value, bar.maximum);
   EXPECT_EQ(program.TakeBox().text, "No Response From The Device");
   ExpectState(app, State::kClosed);
 }
