@@ -1,5 +1,7 @@
 #include "core/forms/main_form.h"
 
+#include <span>
+
 #include "core/forms/design.h"
 #include "core/registry.h"
 
@@ -70,23 +72,23 @@ void DesignClock(MainForm& form) {
 // The numbered labels with the lists that they stand beside.
 void DesignLabels(MainForm& form) {
   const auto label = [&](int number, List& list) { form.Label1[number].caption = list.caption; };
+  const auto labels = [&](int first, const auto& lists) {
+    for (const auto& list : lists) form.Label1[first++].caption = list.caption;
+  };
   label(0, form.ComboTD[0]), label(8, form.ComboTD[5]);
   form.ComboKLM4011[0].caption = form.ComboKLM4011[2].caption = "DEST ID";
   form.ComboKLM4011[1].caption = form.ComboKLM4011[3].caption = "SRC ID";
-  for (std::size_t list = 0; list < 4; ++list) {
-    const int number = 12 + static_cast<int>(list);
-    label(number, form.ComboKLM4011[list]);
-    form.Label1[number].enabled = false;
-  }
-  for (std::size_t list = 1; list <= 4; ++list) label(19 + static_cast<int>(list), form.ComboExcp[list]);
+  labels(12, form.ComboKLM4011);
+  for (const int number : {12, 13, 14, 15}) form.Label1[number].enabled = false;
+  labels(20, std::span(form.ComboExcp).subspan(1, 4));
   form.Label1[23].visible = false;
-  for (std::size_t list = 0; list < 3; ++list) label(24 + static_cast<int>(list), form.ComboExcepRe[list]);
+  labels(24, form.ComboExcepRe);
   label(32, form.ComboCOMM[7]), label(33, form.ComboCOMM[3]), label(34, form.ComboCOMM[4]);
   label(35, form.ComboCOMM[5]), label(36, form.ComboCOMM[8]), label(37, form.ComboCOMM[6]);
-  for (std::size_t list = 4; list < 8; ++list) label(42 + static_cast<int>(list), form.ComboALM[list]);
+  labels(46, std::span(form.ComboALM).subspan(4));
   form.Label1[49].visible = false;
-  for (std::size_t list = 0; list < 3; ++list) label(50 + static_cast<int>(list), form.ComboTrigger[list]);
-  for (std::size_t list = 0; list < 9; ++list) label(54 + static_cast<int>(list), form.ComboDIP[list]);
+  labels(50, form.ComboTrigger);
+  labels(54, form.ComboDIP);
 }
 
 void DesignMenus(MainForm& form) {
