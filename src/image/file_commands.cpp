@@ -64,7 +64,6 @@ void OpenMenu_Click(Application& app, int) {
   app.ImageTouched = true;
   app.UploadApplying = true;
   app.PanelsReady = false;
-  app.StreamText.clear();
   try {
     ReadChosenFile(app);
     TakeStream(app);
