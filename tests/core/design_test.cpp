@@ -83,6 +83,12 @@ TEST(Design, CaptionsGroupsWindowsAndWordsBesideThem) {
     ASSERT_NE(control, nullptr) << row;
     EXPECT_EQ(FaceOf(control->control).caption, row.substr(end + 1)) << row;
   }
+  for (const auto& list : app.frmMain.ComboTCPIP) {
+    const auto number = std::to_string(list.index % 4 + 1);
+    EXPECT_EQ(list.caption, "IP  ADDRESS  " + number + (list.index < 4 ? "  :" : "   :"));
+  }
+  for (const auto& list : app.frmMain.ComboTCPINFO)
+    EXPECT_EQ(list.caption, "INFORMATION " + std::to_string(list.index) + "  :");
   EXPECT_EQ(app.frmMicros.ecr_hint.caption, "( 0-9999999 )");
   const auto& port = app.frmSettSR;
   EXPECT_EQ(port.comport_frame.caption + "," + port.baudrate_frame.caption, "Comport,Baudrate");

@@ -1,5 +1,6 @@
 // Open and Save: what they ask, write, read and say.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -120,7 +121,10 @@ TEST(FileCommands, SaveAndOpenDifferByFirmware) {
 TEST(FileCommands, ASaveThatComesToNothingSaysSo) {
   Installed program(kLatest, Images::kFirstRegister);
   program.Mark();
-  for (const auto& target : {std::optional<std::string>(), {program.folder.File("no such folder/a.bin")}}) {
+  const auto pipe = program.folder.File("pipe");
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  for (const auto& target :
+       {std::optional<std::string>(), {program.folder.File("no such folder/a.bin")}, {pipe}}) {
     ASSERT_EQ(program.Answer("menuSave", target), Outcome::kDone);
     const auto box = program.TakeBox();
     EXPECT_EQ(box.text, "NoFile Save. !!!        ");

@@ -113,6 +113,9 @@ TEST(LostDevice, IsToldInTheBoxAndInTheNoteUntilAPortOpens) {
     program.open_error = std::nullopt;
     OpenPort(program.app);
     EXPECT_EQ(program.app.StatusNote, "");
+    // Where the end of the link is told in words of its own, the note alone has the reason.
+    Disconnect(program.app);
+    EXPECT_EQ(program.app.StatusNote, "Comport 1: Input/output error");
   }
 }
 

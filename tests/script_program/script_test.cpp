@@ -287,6 +287,7 @@ TEST_F(Script, WarnsOfWhatOpeningAFileWouldDo) {
             "fits V1400R4: register 5 \"ANSI\"\nopening it under V1400R12 ends the program\n");
   const auto unlisted = inspect({"V1310", "R1"}, 200);
   EXPECT_NE(unlisted.find("fits V1310R1: register 200 is not in its list\n"), std::string::npos) << unlisted;
+  EXPECT_EQ(unlisted.find("fits V1410"), std::string::npos) << "the menu does not offer it";
   WriteWhole(folder_.File("some.bin"), "noise");
   EXPECT_EQ(RunStarted("inspect \"" + folder_.File("some.bin") + "\"\n"),
             "fits no firmware\nopening it under V1400R12 refuses it and keeps the image\n");
