@@ -20,7 +20,7 @@ COPY = TOP / "build" / "mutants"
 FOLDERS = ["core", "catalogue", "image", "link", "panels", "registers"]
 # The tests of a folder come first: most changes are noticed there.
 PROGRAMS = ["test_core", "test_catalogue", "test_image", "test_link", "test_panels", "test_registers", "test_script_program",
-            "test_end_to_end", "ovl-opinion 50000", "ovl-campaign 1499", "ovl-walk 3000"]
+            "test_end_to_end", "pressure", "ovl-opinion 50000", "ovl-campaign 1499", "ovl-walk 3000", "test_shell"]
 SWAPS = [(r" == ", " != "), (r" != ", " == "), (r" < ", " <= "), (r" <= ", " < "), (r" > ", " >= "), (r" >= ", " > "),
          (r" && ", " || "), (r" \|\| ", " && "), (r"\btrue\b", "false"), (r"\bfalse\b", "true"), (r" \+ ", " - ")]
 NUMBER = re.compile(r"(?<![\w.\"'])(0x[0-9A-Fa-f]+|[1-9]\d*|0)(?![\w.\"'])")
