@@ -84,7 +84,7 @@ def notices(folder):
     for program in sorted(PROGRAMS, key=lambda name: name != "test_" + folder):
         name, *words = program.split()
         options = ["--gtest_fail_fast"] if name.startswith("test_") else words
-        if run("build/bin/" + name, *options, seconds=60) != 0:
+        if run("build/bin/" + name, *options, seconds=120) != 0:
             return name
     return None
 
