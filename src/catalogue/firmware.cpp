@@ -77,9 +77,7 @@ void StoreFirmware(Application& app) {
 }
 
 void SelectFirmware(Application& app, const FirmwareEntry& entry) {
-  auto& mark = app.FirmwareMark[Joined(entry)];
-  if (mark) return;
-  mark = true;
+  app.FirmwareMark[Joined(entry)] = true;
   app.firmware = {std::string(entry.version), std::string(entry.release)};
   StoreFirmware(app);
   MsgBox(app, Box::kFirmwareChosen, Joined(entry));
