@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
+
+#include "core/actions.h"
 #include "core/settings.h"
 #include "image/files.h"
 #include "support/harness.h"
@@ -64,6 +68,18 @@ TEST(StartUp, ANumberInTheStoreIsAFirmwareText) {
   program.Click("menuSave");
   EXPECT_EQ(program.TakeBox().text, "NoFile Save. !!!        ");
   EXPECT_TRUE(program.dialogs.empty());
+}
+
+TEST(Timers, HaveTheirIntervalsAndStartOnceUntilTheyAreStopped) {
+  Application app;
+  auto& main = app.frmMain;
+  const int intervals[] = {main.Timer.interval, main.General_timer.interval, main.Time_handcheck.interval,
+                           main.Timer_Operating.interval, app.frmSettSR.BaudRateScan.interval};
+  EXPECT_TRUE(std::ranges::equal(intervals, std::array{100, 300, 1000, 1000, 1000}));
+  auto& timer = main.General_timer;
+  const auto before = timer.starts;
+  for (const bool enabled : {true, true, false, false, true}) EnableTimer(timer, enabled);
+  EXPECT_EQ(timer.starts, before + 2);
 }
 
 TEST(Settings, AnEmptyTextIsKeptAsABlankAndAnUnknownRootKeepsNothing) {

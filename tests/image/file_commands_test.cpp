@@ -161,7 +161,7 @@ TEST(FileCommands, AnOpenWithoutAFileLeavesAllButTheNextPick) {
     EXPECT_TRUE(program.NoBoxLeft());
     EXPECT_EQ(program.Written(), "");
     EXPECT_TRUE(program.app.PanelsReady);
-    EXPECT_TRUE(program.app.UploadApplying && program.app.ImageTouched);
+    EXPECT_TRUE(program.app.UploadApplying && program.app.ImageTouched && program.app.StreamText.empty());
     ASSERT_EQ(program.Register("ADS"), Outcome::kDone);
     EXPECT_EQ(program.Written(), "");
     EXPECT_FALSE(program.app.UploadApplying);
