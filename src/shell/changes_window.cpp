@@ -56,6 +56,7 @@ ChangesWindow::ChangesWindow(const Application& app, QWidget* parent) : QDialog(
 
 void ChangesWindow::Build() {
   told_ = MutedLabel({});
+  told_->setWordWrap(true);
   list_ = new OverviewList({{QStringLiteral("Field"), QStringLiteral("DEVICE_INDEX_BAK")},
                             {QStringLiteral("Byte"), QStringLiteral("SYSFIXED 112")},
                             {QStringLiteral("Panel and label"), {}},

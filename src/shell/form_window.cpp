@@ -29,7 +29,11 @@ FormWindow::FormWindow(Bindings& bindings, Form& form, QWidget* parent)
 }
 
 bool FormWindow::Follow() {
-  if (OnScreen() == isVisible()) return false;
+  if (OnScreen() == isVisible()) {
+    // Another frame may show by now.
+    if (isVisible() && focusWidget() != nullptr && !focusWidget()->isVisible()) focusNextChild();
+    return false;
+  }
   if (OnScreen()) {
     Open();
   } else {

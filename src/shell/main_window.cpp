@@ -21,6 +21,16 @@ namespace {
 
 constexpr QSize kLeastSize(640, 360);  // the pages scroll
 
+// Another control may stand in the place of the one that had the focus by now.
+void FocusFrom(QWidget& start) {
+  auto* widget = &start;
+  do {
+    if (widget->isVisible() && widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus) != 0)
+      return widget->setFocus(Qt::OtherFocusReason);
+    widget = widget->nextInFocusChain();
+  } while (widget != &start);
+}
+
 }  // namespace
 
 MainWindow::MainWindow(Bindings& bindings)
@@ -159,7 +169,8 @@ void MainWindow::FollowEnabled() {
   // Not the window as a whole: that would disable the windows over it as well.
   menuBar()->setEnabled(form.enabled);
   tabs_->setEnabled(form.enabled);
-  if (form.enabled && last_focus_ != nullptr) last_focus_->setFocus(Qt::OtherFocusReason);
+  changes_button_->setEnabled(form.enabled);
+  if (form.enabled && last_focus_ != nullptr) FocusFrom(*last_focus_);
 }
 
 void MainWindow::RenewMnemonics() {

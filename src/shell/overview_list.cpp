@@ -89,7 +89,6 @@ OverviewList::OverviewList(const std::vector<OverviewColumn>& columns, QWidget* 
   setUniformRowHeights(true);
   setAlternatingRowColors(true);
   setSelectionBehavior(QAbstractItemView::SelectRows);
-  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setTabKeyNavigation(false);
   setColumnCount(static_cast<int>(columns.size()));
   const QFontMetrics metrics(Strong(font()));

@@ -175,6 +175,7 @@ class Photographer {
     if (PickRegister("DRESSER WAYNE")) {
       Choose(form.POSOP, 0);
       Choose(form.TEROP, 2);
+      Choose(form.OpDYWAYE, 2);
       Take(Main(), QStringLiteral("register_dresser_wayne"));
       tabs.setCurrentIndex(kCommunicationTab);
       Take(Main(), QStringLiteral("communication_forced"));

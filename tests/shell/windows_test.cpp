@@ -94,6 +94,7 @@ TEST_F(WindowsTest, FormsComeAndGoAsTheModelSaysAndTheirOptionsMoveByArrows) {
   Keys({Qt::Key_Return});
   EXPECT_TRUE(app.frmMain.MSComm1.PortOpen);
   EXPECT_TRUE(IsShown("cmdDisConnect") && !IsShown("cmdConnect"));
+  EXPECT_EQ(Focus(), "cmdDisConnect");
 }
 
 TEST_F(WindowsTest, ATransferShowsHowFarItIsAndItsEndStaysUntilAnswered) {
