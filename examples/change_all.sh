@@ -17,13 +17,21 @@ for change in "${@:2}"; do
   changes+=("$field $value")
 done
 
+# What is to be sent, as the program makes it of the file: some registers set the line whenever they are opened.
+changed() {
+  printf 'answer %s\nclick OpenMenu\n' "$(quoted "$work/before")"
+  printf 'set %s\n' "${changes[@]}"
+  printf 'stream %s\n' "$(quoted "$work/changed")"
+}
+
 change() {
+  local others
   read_unit "$1" && cp "$unit" "$work/before" || return 1
-  {
-    printf 'answer %s\nclick OpenMenu\n' "$(quoted "$work/before")"
-    printf 'set %s\n' "${changes[@]}"
-    printf 'stream %s\ndownload\nupload\n' "$(quoted "$work/changed")"
-  } | on_unit "$1" || return 1
+  { changed; printf 'diff %s %s\n' "$(quoted "$work/before")" "$(quoted "$work/changed")"; } |
+    started > "$work/report" || return 1
+  others=$(sed -n 's/: .* -> .*//p' "$work/report" | grep -vxFf <(printf '%s\n' "${changes[@]%% *}") | paste -sd ' ')
+  [ -z "$others" ] || { echo "$1: would change $others too; name it with the value that it is to have" >&2; return 1; }
+  { changed; printf 'download\nupload\n'; } | on_unit "$1" || return 1
   cmp -s "$work/changed" "$unit" || { echo "$1: came back otherwise than it was sent" >&2; return 1; }
 }
 

@@ -6,7 +6,7 @@
 fits() {
   local lines others
   lines=$(started <<< "inspect $(quoted "$1")") || return 1
-  sed -n "s/^fits $version$release: register [0-9]* //p" <<< "$lines" | grep . && return
+  sed -n "s/^fits $version$release: register [0-9]* \(\".*\"\)$/\1/p" <<< "$lines" | grep . && return
   others=$(sed -n 's/^fits \([^:]*\): .*/\1/p' <<< "$lines" | paste -sd ' ')
   echo "${2-$1}: no configuration of $version$release, it fits ${others:-no firmware}" >&2
   return 1

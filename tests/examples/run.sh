@@ -58,6 +58,10 @@ case $3 in
     [ "$(grep -c ': done$' said) $(wc -l < said)" = "2 3" ]
     cmp memory1 memory2
     fails 1 differ cmp memory1 before
+    "$examples/restore.sh" unit1 images/V1400/R12/PANASONIC.bin
+    "$examples/change_all.sh" one RX_BAUDRATE=01
+    fails 1 'RX_BAUDRATE' "$examples/change_all.sh" one DATE_FORMAT_BAK=02
+    "$examples/change_all.sh" one DATE_FORMAT_BAK=02 RX_BAUDRATE=01
     ;;
   set_clocks)
     "$examples/set_clocks.sh" devices
