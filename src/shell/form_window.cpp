@@ -4,8 +4,12 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
 #include <algorithm>
 
+#include "shell/layout.h"
 #include "shell/mnemonics.h"
 #include "shell/platform/text_codec.h"
 
@@ -45,8 +49,10 @@ bool FormWindow::Follow() {
 void FormWindow::Open() {
   setWindowFlag(Qt::WindowStaysOnTopHint, form_.top_most);
   for (auto* button : findChildren<QPushButton*>()) button->installEventFilter(this);
-  // A window of its own choice of size may take all of a small screen.
-  resize(sizeHint().boundedTo(screen()->availableSize()));
+  // A window of its own choice of size may take all of a small screen; one that needs more is scrolled.
+  const auto room = screen()->availableSize();
+  if (!scrolled_ && minimumSizeHint().boundedTo(room) != minimumSizeHint()) Scroll();
+  resize(sizeHint().boundedTo(room));
   if (beside_) PlaceBeside();
   AssignPageMnemonics(*this, {});
   show();
@@ -55,11 +61,25 @@ void FormWindow::Open() {
   if (focusWidget() == nullptr) focusNextChild();
 }
 
+void FormWindow::Scroll() {
+  scrolled_ = true;
+  const auto size = sizeHint();
+  auto* content = new QWidget;
+  content->setLayout(layout());
+  auto* around = new QVBoxLayout(this);
+  around->setContentsMargins(0, 0, 0, 0);
+  auto* area = Scrolled(content);
+  const int bar = area->verticalScrollBar()->sizeHint().width();
+  area->setMinimumWidth(std::min(size.width() + bar, screen()->availableSize().width()));
+  around->addWidget(area);
+}
+
 void FormWindow::PlaceBeside() {
   const auto parent = parentWidget()->window()->frameGeometry();
   const auto room = parentWidget()->screen()->availableGeometry();
   const int right = std::min(parent.right() + kGapToParent, room.right() - width());
-  move(std::max(right, room.left()), parent.top() + kFromTop);
+  const int low = std::min(parent.top() + kFromTop, room.bottom() - height());
+  move(std::max(right, room.left()), std::max(low, room.top()));
 }
 
 void FormWindow::reject() {

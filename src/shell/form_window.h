@@ -31,12 +31,14 @@ class FormWindow : public QDialog {
 
   bool OnScreen() const { return form_.loaded && form_.visible; }
   void Open();
+  void Scroll();
   void PlaceBeside();
 
   Bindings& bindings_;
   Form& form_;
   Shadow<bool> enabled_;
   bool beside_ = false;
+  bool scrolled_ = false;
 };
 
 // Moves the focus where the model wants it, once for each time it asked.
