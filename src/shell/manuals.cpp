@@ -20,8 +20,8 @@ bool OpenPath(const QString& path) {
 }
 
 // Opening tells no more than that the desktop's opener was started, so the desktop is asked before whether it
-// knows a reader. Where it has nothing to ask, opening tells.
-void AskForReader(QObject& owner, std::function<void(bool)> then) {
+// has a program for this kind of file. Where there is nobody to ask, opening tells.
+void AskForProgram(QObject& owner, const char* kind, std::function<void(bool)> then) {
   auto* question = new QProcess(&owner);
   QObject::connect(question, &QProcess::errorOccurred, question,
                    [question, then](QProcess::ProcessError error) {
@@ -34,16 +34,20 @@ void AskForReader(QObject& owner, std::function<void(bool)> then) {
     then(!question->readAllStandardOutput().trimmed().isEmpty());
   });
   question->start(QStringLiteral("xdg-mime"),
-                  {QStringLiteral("query"), QStringLiteral("default"), QStringLiteral("application/pdf")});
+                  {QStringLiteral("query"), QStringLiteral("default"), QString::fromLatin1(kind)});
 }
 
-void OpenFolder(const QString& folder, const Tell& tell) {
+void OpenFolder(QObject& owner, const QString& folder, const Tell& tell) {
+  const auto fail = [folder, tell](const QString& reason) {
+    tell(QStringLiteral("The manual folder cannot be opened.\n\n%1: %2")
+             .arg(QDir::toNativeSeparators(folder), reason));
+  };
   std::error_code failed;
   std::filesystem::directory_iterator(QFile::encodeName(folder).toStdString(), failed);
-  if (!failed && OpenPath(folder)) return;
-  tell(QStringLiteral("The manual folder cannot be opened.\n\n%1: %2")
-           .arg(QDir::toNativeSeparators(folder), failed ? QString::fromLocal8Bit(failed.message().c_str())
-                                                         : QStringLiteral("no program opens folders")));
+  if (failed) return fail(QString::fromLocal8Bit(failed.message().c_str()));
+  AskForProgram(owner, "inode/directory", [folder, fail](bool has_browser) {
+    if (!has_browser || !OpenPath(folder)) fail(QStringLiteral("no program opens folders"));
+  });
 }
 
 }  // namespace
@@ -58,9 +62,9 @@ QStringList ListManuals(const QString& folder) {
 }
 
 void OpenManual(QObject& owner, const QString& folder, const QString& file, Tell tell) {
-  if (file.isEmpty()) return OpenFolder(folder, tell);
-  AskForReader(owner, [folder, file, tell = std::move(tell)](bool knows_reader) {
-    if (!knows_reader || !OpenPath(QDir(folder).filePath(file))) OpenFolder(folder, tell);
+  if (file.isEmpty()) return OpenFolder(owner, folder, tell);
+  AskForProgram(owner, "application/pdf", [&owner, folder, file, tell = std::move(tell)](bool has_reader) {
+    if (!has_reader || !OpenPath(QDir(folder).filePath(file))) OpenFolder(owner, folder, tell);
   });
 }
 

@@ -80,13 +80,15 @@ Outcome Program::Start() {
 
 void Program::GuardUnsaved() {
   auto& status = windows_->Main().Status();
-  const auto rescued = RescueCopies(folder_).join(QStringLiteral(", "));
+  auto rescued = RescueCopies(folder_).join(QStringLiteral(", "));
   if (!rescued.isEmpty()) {
-    status.SetNotice(rescued + QStringLiteral(": changes of a run that ended suddenly, for File > Open"));
+    rescued += QStringLiteral(": changes of a run that ended suddenly, for File > Open");
+    status.SetNotice(rescued);
   }
   unsaved_ = std::make_unique<UnsavedCopy>(app_, folder_);
-  unsaved_->problem = [&status](const QString& reason) {
-    status.SetNotice(QStringLiteral("Changes are not guarded against a sudden end. ") + reason);
+  unsaved_->problem = [&status, rescued](const QString& reason) {
+    const auto unguarded = QStringLiteral("Changes are not guarded against a sudden end. ") + reason;
+    status.SetNotice(reason.isEmpty() ? rescued : unguarded);
   };
   RefreshNow();
 }

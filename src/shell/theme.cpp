@@ -101,8 +101,7 @@ class OvlStyle : public QProxyStyle {
     }
     if (element == PE_FrameStatusBarItem) return;
     // Where the keyboard is can always be seen, also after a click.
-    if (element == PE_FrameFocusRect)
-      return DrawRing(option->rect, FocusColor(option->palette), painter);
+    if (element == PE_FrameFocusRect) return DrawRing(option->rect, FocusColor(option->palette), painter);
     if (element == PE_FrameLineEdit ||
         (element == PE_Frame && qobject_cast<const QLabel*>(widget) != nullptr)) {
       return DrawFieldEdge(*option, painter);

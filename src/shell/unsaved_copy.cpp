@@ -30,6 +30,14 @@ int FreeNumber(const QDir& folder, QLatin1String what, const QString& firmware, 
   return from;
 }
 
+// A lock tells no reason.
+QString WhyNotCreated(const QString& path) {
+  QFile file(path);
+  if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) return file.errorString();
+  file.remove();
+  return QStringLiteral("its lock cannot be made");
+}
+
 }  // namespace
 
 QStringList RescueCopies(const QString& folder) {
@@ -74,15 +82,17 @@ void UnsavedCopy::Follow() {
 void UnsavedCopy::Keep() {
   soon_.stop();
   if (app_.image == app_.known_image) return Drop();
-  if (!TakeName()) {
-    if (problem) problem(folder_.path());
-    return;
-  }
+  if (!TakeName()) return Tell(path_ + QStringLiteral(": ") + WhyNotCreated(path_));
   try {
     WriteWhole(QFile::encodeName(path_).toStdString(), ReopenableStream(app_) + "\r\n");
+    Tell({});
   } catch (const Failure& failure) {
-    if (problem) problem(FromSystem(failure.Subject() + ": " + failure.what()));
+    Tell(FromSystem(failure.Subject() + ": " + failure.what()));
   }
+}
+
+void UnsavedCopy::Tell(const QString& reason) {
+  if (problem) problem(reason);
 }
 
 void UnsavedCopy::Drop() {

@@ -34,11 +34,12 @@ class UnsavedCopy {
   // The program ends as the person wanted: no copy is left.
   void Drop();
 
-  // Is told why the copy cannot be kept.
+  // Is told why the copy cannot be kept, with an empty reason when it is kept.
   std::function<void(const QString& reason)> problem;
 
  private:
   bool TakeName();
+  void Tell(const QString& reason);
 
   const Application& app_;
   QDir folder_;

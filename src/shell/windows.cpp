@@ -65,7 +65,7 @@ void Windows::FillHelpMenu() {
   auto* manuals = menu.addMenu(QStringLiteral("Manual"));
   manuals->setObjectName(QStringLiteral("menuManual"));
   FillManualMenu(*manuals, ManualFolder(folder), [this](const QString& problem) {
-    ShowBox(main_.get(), {{}, problem.toStdString()});
+    ShowBox(main_.get(), {{}, problem.toStdString(), BoxIcon::kNone, "The manual folder cannot be opened"});
   });
   menu.addSeparator();
   bindings_.Item(menu, app_.frmMain.menuAbout);

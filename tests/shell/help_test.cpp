@@ -209,9 +209,10 @@ class Desktop : public QObject {
   void Open(const QUrl& url) { opened.append(url.fileName()); }
 };
 
-// What the desktop answers when it is asked for the reader of a kind of file.
-void AnswerReader(const TemporaryFolder& folder, const std::string& reader) {
-  WriteWhole(folder.File("xdg-mime"), "#!/bin/sh\necho " + reader + "\n");
+// What the desktop answers when it is asked for the program of a kind of file.
+void Answer(const TemporaryFolder& folder, const std::string& reader, const std::string& browser) {
+  WriteWhole(folder.File("xdg-mime"), "#!/bin/sh\ncase $3 in application/pdf) echo " + reader +
+                                          ";; inode/directory) echo " + browser + ";; esac\n");
   std::filesystem::permissions(folder.File("xdg-mime"), std::filesystem::perms::owner_all);
 }
 
@@ -239,15 +240,17 @@ TEST_F(HelpWindowTest, OpensAManualOrItsFolderOrTellsWhy) {
   for (const char* name : {"/B.pdf", "/a.PDF", "/notes.txt"}) {
     ASSERT_TRUE(QFile(manuals + name).open(QIODevice::WriteOnly));
   }
-  AnswerReader(tools, "reader.desktop");
+  Answer(tools, "reader", "browser");
   EXPECT_EQ(ListManuals(manuals), QStringList({"a.PDF", "B.pdf"}));
   auto& menu = *Main().HelpMenu().findChild<QMenu*>("menuManual");
   emit menu.aboutToShow();
   ASSERT_EQ(menu.actions().size(), 4);
   EXPECT_EQ(opened_by([&] { menu.actions().at(1)->trigger(); }), "B.pdf");
   EXPECT_EQ(opened_by([&] { menu.actions().at(3)->trigger(); }), "Manual");
-  AnswerReader(tools, "");
+  Answer(tools, "", "browser");
   EXPECT_EQ(opened(manuals, "B.pdf"), "Manual");
+  Answer(tools, "", "");
+  EXPECT_TRUE(opened(manuals, "B.pdf").endsWith(manuals + ": no program opens folders"));
   EXPECT_TRUE(opened(manuals + "/B.pdf", "B.pdf").endsWith("/B.pdf: Not a directory"));
   qputenv("PATH", path);
 }
