@@ -71,7 +71,7 @@ left=$(inside find / -xdev \( -path /proc -o -path /dev -o -path /tmp -o -path /
   -o -iname '*ovl*' -print)
 inside apt-get purge -q -y --autoremove ovl-software fonts-dejavu-core > /dev/null
 files > "$root/tmp/after"
-left+=$(diff "$root/tmp/before" "$root/tmp/after" | grep '^>' | grep -v '^> /home/installer/' || true)
-inside find /home/installer -type f
+left+=$(diff "$root/tmp/before" "$root/tmp/after" | grep '^>' | grep -vF "> $(as_user 'echo ~')/" || true)
+as_user 'find ~ -type f'
 [ -z "$left" ] || { printf 'Left behind:\n%s\n' "$left" >&2; exit 1; }
 echo "Nothing is left but the files of the user."
