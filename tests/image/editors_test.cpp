@@ -5,6 +5,7 @@
 
 #include <sstream>
 
+#include "catalogue/firmware.h"
 #include "image/field_map.h"
 #include "support/harness.h"
 
@@ -44,6 +45,16 @@ TEST(Editors, NameOnlyTheControlsThatStoreWhatDiffers) {
       "PC_IDNA_BAK MICROS: DST IDN ID");
   while (fields >> name && std::getline(fields >> std::ws, words, '|'))
     EXPECT_EQ(EditedBy(harness.app, FindField(name)->id, "options"), words);
+}
+
+// A caption that is missing under some firmware would be met first by whoever looks at its changes.
+TEST(Editors, HaveCaptionsUnderEveryFirmware) {
+  for (const auto& entry : FirmwareTable()) {
+    Harness harness({std::string(entry.version), std::string(entry.release)});
+    harness.Start();
+    for (const auto& field : FieldTable())
+      EXPECT_NO_THROW(EditedBy(harness.app, field.id, "options")) << entry.release << ' ' << field.name;
+  }
 }
 
 // What ComboCOMM(6) stores follows the handshaking.
