@@ -56,6 +56,7 @@ int Run(long events, unsigned seed) {
   constexpr std::size_t kLongestSequence = 2000, kLongestBurst = 32;
   const StopWatch watch;
   std::mt19937 chance(seed);
+  Digest digest;
   long done = 0;
   std::size_t sequences = 0;
   for (; done < events; ++sequences) {
@@ -70,13 +71,15 @@ int Run(long events, unsigned seed) {
       for (; times > 0 && found.empty() && !pair.Ended(); --times, ++done) {
         steps.push_back(step);
         found = pair.Step(*step);
+        pair.AddTo(digest);
       }
     }
     if (found.empty() && pair.KeptImage()) continue;
     TellShortest(firmware, steps);
     return EXIT_FAILURE;
   }
-  std::cout << done << " events in " << sequences << " sequences, no difference, " << watch.Told() << '\n';
+  std::cout << done << " events in " << sequences << " sequences, no difference, digest " << digest.Text()
+            << ", " << watch.Told() << '\n';
   return EXIT_SUCCESS;
 }
 

@@ -6,6 +6,7 @@
 
 #include "image/record_stream.h"
 #include "opinion/link.h"
+#include "support/digest.h"
 
 namespace ovl::testing {
 
@@ -80,6 +81,12 @@ class Pair {
     link_.stream = [&app] { return SectionsToStream(app); };
   }
 
+  // Adds all that was seen so far of what the program did.
+  void AddTo(Digest& digest) {
+    digest.Add(std::exchange(seen_, {}));
+    digest.AddState(program_.app);
+  }
+
   // What differs after the step; empty: nothing.
   std::string Step(const LinkEvent& event) {
     return Step(event, event.kind == kWholeStream ? std::string_view(stream_) : event.name.substr(0, 1));
@@ -150,8 +157,10 @@ class Pair {
     };
     std::string boxes;
     for (const auto& box : std::exchange(program_.boxes, {})) boxes += box.title + "|" + box.text + "\n";
+    const auto sent = program_.TakeSent();
+    seen_ += boxes + sent;
     same("boxes", boxes, std::exchange(link_.boxes, {}));
-    same("sent", program_.TakeSent(), std::exchange(link_.sent, {}));
+    same("sent", sent, std::exchange(link_.sent, {}));
     same("ended", app.ended, link_.ended);
     if (app.ended) return found.str();
     same("LinkMode", app.LinkMode, link_.mode);
@@ -205,7 +214,7 @@ class Pair {
   }
 
   Harness program_;
-  std::string stream_;
+  std::string stream_, seen_;
   Link link_;
   ConfigImage begun_;
   bool wrote_ = false, uploaded_ = false;

@@ -221,9 +221,9 @@ std::string OtherwiseElsewhere(Watched& program) {
 }
 
 // False: it failed.
-bool Walk(const FirmwareId& stored, unsigned seed, long acts) {
+bool Walk(const FirmwareId& stored, unsigned seed, long acts, Digest& digest) {
   RemoveFiles();
-  Watched program(stored);
+  Watched program(stored, &digest);
   Hand hand(seed);
   Script script;
   for (long act = 0; act < acts; ++act) {
@@ -256,14 +256,16 @@ int Run(long acts, unsigned seed) {
   }
   const StopWatch watch;
   long done = 0;
+  Digest digest;
   std::size_t walks = 0, failed = 0;
   constexpr std::size_t kFailures = 10;
   for (; done < acts && failed < kFailures; ++walks) {
     const long length = std::min(kActsOfAWalk, acts - done);
-    failed += Walk(all[walks % all.size()], seed + static_cast<unsigned>(walks), length) ? 0U : 1U;
+    failed += Walk(all[walks % all.size()], seed + static_cast<unsigned>(walks), length, digest) ? 0U : 1U;
     done += length;
   }
-  std::cout << done << " acts in " << walks << " walks, " << failed << " failed, " << watch.Told() << '\n';
+  std::cout << done << " acts in " << walks << " walks, " << failed << " failed, digest " << digest.Text()
+            << ", " << watch.Told() << '\n';
   fs::current_path("/");
   return failed == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -51,7 +51,7 @@ std::string CheckFrames(const Application& app) {
 
 }  // namespace
 
-Watched::Watched(const FirmwareId& stored) : session_(printed_, printed_) {
+Watched::Watched(const FirmwareId& stored, Digest* digest) : digest_(digest), session_(printed_, printed_) {
   session_.SetClock({});
   session_.StoreSetting("Version", stored.version);
   session_.StoreSetting("Release", stored.release);
@@ -64,10 +64,18 @@ std::string Watched::Do(const std::string& line) {
   std::ostringstream errors;
   if (script::RunScript(session_, script, "walk", errors) != script::ExitStatus::kDone)
     return "stopped: " + errors.str();
+  if (digest_ != nullptr) AddToDigest();
   printed_.str({});
   session_.TakeSent();
   while (session_.TakeBox()) continue;
   return Ended() ? std::string() : CheckImage(line) + CheckLists(App()) + CheckFrames(App());
+}
+
+void Watched::AddToDigest() {
+  for (const auto& box : session_.Boxes()) digest_->Add(box.title + box.text);
+  digest_->Add(printed_.str());
+  digest_->Add(session_.TakeSent());
+  digest_->AddState(App());
 }
 
 std::string Watched::CheckImage(const std::string& line) {

@@ -6,6 +6,7 @@
 
 #include "core/config_image.h"
 #include "session.h"
+#include "support/digest.h"
 
 namespace ovl::testing {
 
@@ -14,8 +15,8 @@ std::string FullName(const Application& app, const NamedControl& named);
 
 class Watched {
  public:
-  // Started, in the current folder.
-  explicit Watched(const FirmwareId& stored);
+  // Started, in the current folder. With a digest, every statement adds what it did to it.
+  explicit Watched(const FirmwareId& stored, Digest* digest = nullptr);
 
   // One statement. What is wrong after it; empty: nothing.
   std::string Do(const std::string& line);
@@ -27,11 +28,13 @@ class Watched {
   const ConfigImage& Image() { return App().image; }
 
  private:
+  void AddToDigest();
   std::string CheckImage(const std::string& line);
   std::string CheckFields(const std::string& control, bool loads);
   std::string CheckLengths(bool loads, bool from_file);
 
-  std::ostringstream printed_;  // by the script; nobody reads it
+  Digest* digest_;
+  std::ostringstream printed_;  // by the script
   script::Session session_;
   ConfigImage before_;
   bool whole_ = true;

@@ -47,6 +47,7 @@ class Session {
   // The program.
   void Start();
   Application& App();
+  bool Started() const { return app_ != nullptr; }
   bool Ended() const { return app_ != nullptr && app_->ended; }
   ControlRef Control(const std::string& name);
 

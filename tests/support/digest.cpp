@@ -1,0 +1,141 @@
+#include "support/digest.h"
+
+#include <iomanip>
+#include <sstream>
+
+#include "core/registry.h"
+
+namespace ovl::testing {
+namespace {
+
+void AddFace(Digest& digest, const Face& face) {
+  digest.Add(face.caption);
+  digest.Add((face.visible ? 1 : 0) + (face.enabled ? 2 : 0) + 4 * face.index);
+}
+
+// What a kind of control has beside its face.
+void AddRest(Digest&, const Face*) {}
+void AddRest(Digest& digest, const CheckBox* box) {
+  digest.Add(box->checked ? 1 : 0);
+}
+void AddRest(Digest& digest, const MenuItem* item) {
+  digest.Add(item->checked ? 1 : 0);
+}
+void AddRest(Digest& digest, const List* list) {
+  for (const auto& item : list->items) digest.Add(item);
+  digest.Add(list->position);
+}
+void AddRest(Digest& digest, const OptionArray* array) {
+  digest.Add(array->chosen);
+}
+void AddRest(Digest& digest, const TextBox* box) {
+  digest.Add(box->text);
+  digest.Add(static_cast<std::int64_t>(box->max_length));
+  digest.Add((box->read_only ? 1 : 0) + (box->multi_line ? 2 : 0));
+}
+void AddRest(Digest& digest, const ProgressBar* bar) {
+  digest.Add(bar->value);
+  digest.Add(bar->maximum);
+  digest.Add(bar->text);
+}
+void AddRest(Digest& digest, const Timer* timer) {
+  digest.Add(timer->interval);
+  digest.Add(timer->starts);
+}
+void AddRest(Digest& digest, const Tabs* tabs) {
+  digest.Add(tabs->current);
+}
+void AddRest(Digest& digest, const Form* form) {
+  digest.Add((form->loaded ? 1 : 0) + (form->top_most ? 2 : 0));
+  digest.Add(form->focus_requests);
+}
+
+void AddControl(Digest& digest, const ControlRef& control) {
+  AddFace(digest, FaceOf(control));
+  if (std::holds_alternative<OptionElement>(control)) return;
+  std::visit(
+      [&](const auto& held) {
+        if constexpr (!std::is_same_v<std::decay_t<decltype(held)>, OptionElement>) AddRest(digest, held);
+      },
+      control);
+}
+
+// The program folder of a test has another name in each run.
+std::string WithoutFolder(std::string text, const std::string& folder) {
+  const auto at = folder.size() > 1 ? text.find(folder) : std::string::npos;
+  return at == std::string::npos ? text : text.erase(at, folder.size());
+}
+
+void AddLink(Digest& digest, const Application& app) {
+  for (const std::int64_t number :
+       {std::int64_t{app.LinkMode}, std::int64_t{app.FrameState}, std::int64_t{app.ProgressChars},
+        std::int64_t{app.ProgressValue}, std::int64_t{app.HandcheckCount}, std::int64_t{app.OperatingCount},
+        std::int64_t{app.ClockTickCount}, std::int64_t{app.ScanIndex}, std::int64_t{app.PortNumber},
+        std::int64_t{app.TextEntryMode}, std::int64_t{app.frmMain.MSComm1.CommEvent},
+        std::int64_t{app.frmMain.MSComm1.CommPort}})
+    digest.Add(number);
+  std::int64_t flags = 0;
+  for (const bool flag :
+       {app.RemoteHeld, app.ScanActive, app.DownloadRequested, app.DownloadActive, app.FinalAckExpected,
+        app.SetTimePending, app.HistoryPending, app.MasterResetPending, app.ImageTouched, app.PanelsReady,
+        app.UploadApplying, app.ComboTouched, app.handling, app.ended, app.frmMain.MSComm1.PortOpen})
+    flags = 2 * flags + (flag ? 1 : 0);
+  digest.Add(flags);
+  for (const auto* text : {&app.SYSCFG,
+                           &app.SYSFIXED,
+                           &app.SYSSTR,
+                           &app.PendingOutput,
+                           &app.LastSent,
+                           &app.LastReceived,
+                           &app.StreamBuffer,
+                           &app.StreamScratch,
+                           &app.HistoryText,
+                           &app.PortBaud,
+                           &app.PortParity,
+                           &app.PortDataBits,
+                           &app.ClockHour,
+                           &app.ClockMinute,
+                           &app.ClockSecond,
+                           &app.ClockDay,
+                           &app.ClockMonth,
+                           &app.ClockYear,
+                           &app.CurrentFilePath,
+                           &app.StreamText,
+                           &app.DiagnosticText,
+                           &app.StatusNote,
+                           &app.frmMain.MSComm1.Settings})
+    digest.Add(WithoutFolder(*text, app.platform.program_folder));
+}
+
+void AddImage(Digest& digest, const ConfigImage& image) {
+  for (std::size_t field = 0; field < kFieldCount; ++field) {
+    const auto id = static_cast<FieldId>(field);
+    for (int entry = 1; entry <= EntryCount(id); ++entry) digest.Add(image.at(id, entry));
+  }
+}
+
+}  // namespace
+
+void Digest::Add(std::int64_t number) {
+  constexpr std::uint64_t kOdd = 0x9E3779B97F4A7C15;
+  value_ = (value_ ^ static_cast<std::uint64_t>(number)) * kOdd;
+  value_ ^= value_ >> 29;
+}
+
+void Digest::Add(std::string_view text) {
+  Add(static_cast<std::int64_t>(std::hash<std::string_view>()(text)));
+}
+
+void Digest::AddState(const Application& app) {
+  AddImage(*this, app.image);
+  AddLink(*this, app);
+  for (const auto& named : app.registry.All()) AddControl(*this, named.control);
+}
+
+std::string Digest::Text() const {
+  std::ostringstream text;
+  text << std::hex << std::setfill('0') << std::setw(16) << value_;
+  return text.str();
+}
+
+}  // namespace ovl::testing
