@@ -2,8 +2,9 @@
 #include <cstdio>
 
 #include "bench.h"
-#include "default_images.h"
+#include "core/configuration.h"
 #include "image/record_stream.h"
+#include "images/default_images.h"
 
 namespace ovl::bench {
 namespace {

@@ -1,7 +1,7 @@
 #include "model.h"
 
 #include "site.h"
-#include "start_up.h"
+#include "start/start_up.h"
 
 namespace ovl::bench {
 

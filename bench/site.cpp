@@ -4,7 +4,7 @@
 #include <QDir>
 #include <QFile>
 
-#include "default_images.h"
+#include "images/default_images.h"
 
 namespace ovl::bench {
 

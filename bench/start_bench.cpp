@@ -8,9 +8,9 @@
 
 #include "bench.h"
 #include "paint_watch.h"
-#include "shell/program.h"
-#include "shell/theme.h"
 #include "site.h"
+#include "ui/app/program.h"
+#include "ui/kit/theme.h"
 
 namespace ovl::bench {
 namespace {

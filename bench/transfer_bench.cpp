@@ -4,10 +4,11 @@
 #include <cstdio>
 
 #include "bench.h"
+#include "core/configuration.h"
 #include "event_loop.h"
 #include "image/record_stream.h"
-#include "shell/program.h"
 #include "site.h"
+#include "ui/app/program.h"
 
 namespace ovl::bench {
 namespace {

@@ -37,8 +37,8 @@ echo "== ovl-setup"
 if inside ovl-setup V1400 R99; then exit 1; fi
 inside ovl-setup V1400 R12
 inside cat "/etc/xdg/ORB/OVL Software.conf"
-echo "== Pictures and a transfer, as an ordinary user"
-as_user 'QT_QPA_PLATFORM=offscreen ovl --pictures pictures 2> /dev/null && echo "$(ls pictures/light | wc -l) pictures"'
+echo "== The guide and a transfer, as an ordinary user"
+as_user 'QT_QPA_PLATFORM=offscreen ovl --guide guide.pdf 2> /dev/null && ls -l guide.pdf'
 as_user 'ls -l ".local/share/OVL Software/V1400"'
 cat > "$root/tmp/transfer" <<'END'
 set -e

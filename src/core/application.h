@@ -9,15 +9,14 @@
 #include <string_view>
 #include <vector>
 
-#include "core/config_image.h"
-#include "core/firmware_id.h"
-#include "core/forms/about_form.h"
-#include "core/forms/link_forms.h"
-#include "core/forms/main_form.h"
-#include "core/forms/register_forms.h"
-#include "core/forms/viewer_form.h"
+#include "controls/forms/information_forms.h"
+#include "controls/forms/link_forms.h"
+#include "controls/forms/main_form.h"
+#include "controls/forms/register_forms.h"
+#include "controls/registry.h"
 #include "core/platform.h"
-#include "core/registry.h"
+#include "firmware/firmware_id.h"
+#include "image/config_image.h"
 
 namespace ovl {
 

@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
-#include "core/config_image.h"
-#include "core/firmware_id.h"
+#include "firmware/firmware_id.h"
+#include "image/config_image.h"
 
 namespace ovl {
 

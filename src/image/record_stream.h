@@ -6,7 +6,6 @@
 #include <string>
 #include <string_view>
 
-#include "core/application.h"
 #include "image/field_map.h"
 
 namespace ovl {
@@ -41,19 +40,5 @@ ParseResult ParseRecords(std::string_view stream, const Region& region, std::str
 
 // Cuts the digits at the firmware's section lengths; the last section takes what there is.
 Sections CutSections(std::string_view digits, const FirmwareId& firmware);
-
-// Sets the capability flags of the firmware. Every load and save calls it first.
-void PrepareCapabilities(Application& app);
-
-// Takes a stream, its lines joined, into the image: whole while the panels are not ready, else only the
-// fields that a register's default image sets. False, with a message, if it is another firmware's: the image
-// stays as it was. A stream without its end shows the fatal message and ends the program.
-bool LoadStream(Application& app, std::string_view stream);
-
-// The stream that a download sends. The sections are left in the application object.
-std::string SectionsToStream(Application& app);
-
-// The image as a stream that opens again under the same firmware.
-std::string ReopenableStream(const Application& app);
 
 }  // namespace ovl

@@ -2,9 +2,9 @@
 
 #include <array>
 
-#include "catalogue/firmware.h"
-#include "catalogue/register_lists.h"
-#include "core/codecs.h"
+#include "codecs/codecs.h"
+#include "firmware/firmware_table.h"
+#include "firmware/register_lists.h"
 #include "image/field_map.h"
 #include "image/record_stream.h"
 

@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "core/config_image.h"
-#include "core/firmware_id.h"
+#include "firmware/firmware_id.h"
+#include "image/config_image.h"
 #include "image/field_map.h"
 
 namespace ovl {

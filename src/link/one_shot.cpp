@@ -1,7 +1,7 @@
 #include "link/one_shot.h"
 
 #include "core/actions.h"
-#include "image/history.h"
+#include "files/history.h"
 #include "link/link_state.h"
 
 namespace ovl {

@@ -1,8 +1,9 @@
 #include "link/transfer.h"
 
 #include "core/actions.h"
+#include "core/configuration.h"
 #include "core/failure.h"
-#include "image/files.h"
+#include "files/files.h"
 #include "image/record_stream.h"
 #include "link/link_state.h"
 

@@ -2,8 +2,8 @@
 
 #include <array>
 
+#include "panels/exceptions/text_entry.h"
 #include "panels/panel.h"
-#include "panels/text_entry.h"
 
 namespace ovl {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <array>
 
+#include "panels/exceptions/text_entry.h"
 #include "panels/panel.h"
 #include "panels/text_display.h"
-#include "panels/text_entry.h"
 
 namespace ovl {
 namespace {

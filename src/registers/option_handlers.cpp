@@ -4,7 +4,7 @@
 
 #include "core/actions.h"
 #include "image/field_map.h"
-#include "registers/ip_settings.h"
+#include "registers/forcing_options.h"
 #include "registers/micros.h"
 #include "registers/sub_menus.h"
 
@@ -14,12 +14,6 @@ namespace {
 using enum FieldId;
 using Form = RegisterOptions;
 
-constexpr int kBaud1200 = 0;
-constexpr int kBaud2400 = 1;
-constexpr int kBaud4800 = 2;
-constexpr int kBaud9600 = 3;
-constexpr int kBaud19200 = 5;
-
 template <FieldId kField>
 void StoreElement(Application& app, int element) {
   app.image[kField] = ByteToHex(element);
@@ -28,157 +22,6 @@ void StoreElement(Application& app, int element) {
 template <auto kList, FieldId kField>
 void StorePosition(Application& app, int) {
   app.image[kField] = ByteToHex((app.frmMain.*kList).position);
-}
-
-void ForceSpeeds(Application& app, int receive, int transmit) {
-  ForceLine(app, 1, receive);
-  ForceLine(app, 2, transmit);
-}
-
-void ForceReport(Application& app, int position) {
-  AssignPosition(app, app.frmMain.ComboExcepRe[0], position, Raise::kAlways);
-}
-
-void StoreSpeeds(Application& app, int receive, int transmit) {
-  app.image[RX_BAUDRATE] = ByteToHex(receive);
-  app.image[TX_BAUDRATE] = ByteToHex(transmit);
-}
-
-void ComboSICOM_Click(Application& app, int) {
-  app.image[REGTYPE_MINOR] = ByteToHex(app.frmMain.ComboSICOM.position);
-  ForceSpeeds(app, AutoSpeed(app), kBaud9600);
-}
-
-// The mode list stands second, behind the fixed model name.
-void StoreMode(Application& app, int index, int position, std::array<int, 2> tapping,
-               std::array<int, 2> emulating) {
-  if (index != 1) return;
-  app.image[REGTYPE_MINOR] = ByteToHex(position);
-  const auto& speeds = position == 0 ? tapping : emulating;
-  ForceSpeeds(app, speeds[0], speeds[1]);
-}
-
-void ComboTk500_Click(Application& app, int index) {
-  StoreMode(app, index, app.frmMain.ComboTk500[1].position, {AutoSpeed(app), kBaud9600},
-            {kBaud19200, kBaud19200});
-}
-
-void ComboTE2200_Click(Application& app, int index) {
-  StoreMode(app, index, app.frmMain.ComboTE2200[1].position, {AutoSpeed(app), kBaud9600},
-            {kBaud19200, kBaud19200});
-}
-
-// Its tapping speed is the same position in every family, whatever the list reads there.
-void ComboTEC_Click(Application& app, int index) {
-  constexpr int kTappingSpeed = 8;
-  StoreMode(app, index, app.frmMain.ComboTEC[1].position, {kTappingSpeed, kBaud9600}, {kBaud4800, kBaud4800});
-}
-
-void OpDYWAYE_Click(Application& app, int element) {
-  app.image[REGTYPE_MINOR] = ByteToHex(element);
-  ForceSpeeds(app, element < 2 ? AutoSpeed(app) : kBaud9600, kBaud9600);
-}
-
-void OpSHARPUP600_Click(Application& app, int element) {
-  app.image[REGTYPE_MINOR] = ByteToHex(element);
-  ForceSpeeds(app, element == 0 ? AutoSpeed(app) : kBaud9600, kBaud9600);
-}
-
-// Of the next four the list shows the forced position, and the field then takes the unit's own speed code.
-void ComboPana_Click(Application& app, int index) {
-  if (index == 0) {
-    app.image[GTITLE_NF_BAK] = ByteToHex(app.frmMain.ComboPana[0].position);
-    return;
-  }
-  const bool tap = app.frmMain.ComboPana[1].position == 0;
-  ForceSpeeds(app, kBaud9600, kBaud9600);
-  ForceReport(app, tap ? 1 : 0);
-  app.image[REGTYPE_MINOR] = tap ? "00" : "01";
-  StoreSpeeds(app, 3, tap ? 1 : 3);
-}
-
-void ComboWoring_Click(Application& app, int) {
-  const bool tap = app.frmMain.ComboWoring.position == 0;
-  ForceSpeeds(app, kBaud4800, tap ? kBaud2400 : kBaud4800);
-  ForceReport(app, tap ? 1 : 0);
-  app.image[REGTYPE_MINOR] = tap ? "00" : "01";
-  StoreSpeeds(app, 2, tap ? 1 : 2);
-}
-
-void OpMicrelec_Click(Application& app, int element) {
-  ForceSpeeds(app, kBaud19200, kBaud2400);
-  ForceLine(app, 3, 1);
-  ForceLine(app, 4, 0);
-  app.image[REGTYPE_MINOR] = "00";
-  app.image[UNITADDR] = ByteToHex(element);
-  StoreSpeeds(app, 4, 1);
-}
-
-void OpMicrelec9500_Click(Application& app, int element) {
-  ForceSpeeds(app, kBaud9600, kBaud2400);
-  ForceLine(app, 3, 0);
-  ForceLine(app, 4, 0);
-  app.image[REGTYPE_MINOR] = "01";
-  app.image[UNITADDR] = ByteToHex(element);
-  StoreSpeeds(app, 3, 1);
-}
-
-void ComboTITLEDIP_Click(Application& app, int) {
-  const int position = app.frmMain.ComboTITLEDIP.position;
-  app.image[GTITLE_NF_BAK] = ByteToHex(position);
-  AssignPosition(app, app.frmMain.ComboTD[5], position == 0 ? 0 : 1, Raise::kAlways);
-}
-
-constexpr int kAutoOfModels = 10;
-
-void ForceInterface(Application& app, int type, int receive) {
-  ForceLine(app, 0, type);
-  ForceSpeeds(app, receive, kBaud9600);
-}
-
-void POSOP_Click(Application& app, int element) {
-  app.image[REGTYPE_MINOR] = "00";
-  app.image[REGTYPE_EXT2] = ByteToHex(element);
-  ForceInterface(app, 1, kAutoOfModels);
-}
-
-void TEROP_Click(Application& app, int element) {
-  app.image[REGTYPE_MINOR] = "01";
-  app.image[REGTYPE_EXT1] = "00";
-  app.image[REGTYPE_EXT2] = ByteToHex(element);
-  ForceInterface(app, 0, kBaud9600);
-}
-
-void PRNOP_Click(Application& app, int element) {
-  app.image[REGTYPE_MINOR] = "01";
-  app.image[REGTYPE_EXT1] = "01";
-  app.image[REGTYPE_EXT2] = ByteToHex(element);
-  ForceInterface(app, 0, kAutoOfModels);
-}
-
-void SECUOP_Click(Application& app, int) {
-  app.image[REGTYPE_MINOR] = "01";
-  app.image[REGTYPE_EXT1] = "02";
-  ForceInterface(app, 0, kAutoOfModels);
-}
-
-// The lists run from the last digit to the first.
-void StoreDigit(Application& app, const std::array<List, 3>& lists, int index) {
-  constexpr std::array kFields = {TCIADDBAK_3, TCIADDBAK_2, TCIADDBAK_1};
-  const auto place = static_cast<std::size_t>(index);
-  app.image[kFields.at(place)] = "0" + lists.at(place).Text();
-}
-
-void ComboTCI_ID_Click(Application& app, int index) {
-  StoreDigit(app, app.frmMain.ComboTCI_ID, index);
-  ForceLine(app, 0, 0);
-  ForceSpeeds(app, kBaud1200, kBaud2400);
-  ForceLine(app, 3, 0);
-  ForceLine(app, 4, 1);
-}
-
-void ComboUNI_ID_Click(Application& app, int index) {
-  StoreDigit(app, app.frmMain.ComboUNI_ID, index);
 }
 
 // Members whose target depends on the firmware. What reads them does not follow in every one.
@@ -231,6 +74,21 @@ void Command2_Click(Application& app, int) {
   ChooseAgain(app, app.frmMain.TECOP, 11);
 }
 
+// The first four lists stand in the old frame, which can be looked at only.
+void ComboTCPIP_Click(Application& app, int index) {
+  const int entry = index - 3;
+  if (entry < 1) return;
+  const auto& list = app.frmMain.ComboTCPIP.at(static_cast<std::size_t>(index));
+  app.image.at(IPADDRESS, entry) = ByteToHex(list.position);
+}
+
+void ComboTCPINFO_Click(Application& app, int index) {
+  const int mask = 1 << index;
+  const int flags = HexToInt(app.image[REGTYPE_MINOR]);
+  const bool on = app.frmMain.ComboTCPINFO.at(static_cast<std::size_t>(index)).position == 1;
+  app.image[REGTYPE_MINOR] = ByteToHex(on ? flags | mask : flags & ~mask);
+}
+
 struct ArrayHandler {
   OptionArray Form::*array;
   Handler handler;
@@ -263,14 +121,6 @@ constexpr std::array kArrayHandlers = {
     ArrayHandler{&Form::POS50OP, kExtension},
     ArrayHandler{&Form::TEAMOP, kExtension},
     ArrayHandler{&Form::TEAMPOSOP, kExtension},
-    ArrayHandler{&Form::OpDYWAYE, OpDYWAYE_Click},
-    ArrayHandler{&Form::OpSHARPUP600, OpSHARPUP600_Click},
-    ArrayHandler{&Form::OpMicrelec, OpMicrelec_Click},
-    ArrayHandler{&Form::OpMicrelec9500, OpMicrelec9500_Click},
-    ArrayHandler{&Form::POSOP, POSOP_Click},
-    ArrayHandler{&Form::TEROP, TEROP_Click},
-    ArrayHandler{&Form::PRNOP, PRNOP_Click},
-    ArrayHandler{&Form::SECUOP, SECUOP_Click},
     ArrayHandler{&Form::OpNIXDORF, OpNIXDORF_Click},
     ArrayHandler{&Form::OpRI_QT2, OpRI_QT2_Click},
     ArrayHandler{&Form::OpSharp, OpSharp_Click},
@@ -297,26 +147,15 @@ constexpr ListHandler Plain() {
 }
 
 constexpr std::array kListHandlers = {
-    Plain<&Form::ComboAddress, REGTYPE_MINOR>(),
-    Plain<&Form::ComboAddr, REGTYPE_MINOR>(),
-    Plain<&Form::ComboDisplay, REGTYPE_MINOR>(),
-    Plain<&Form::ComboDeviceADD, REGTYPE_MINOR>(),
-    Plain<&Form::ComboDIPMIXED, REGTYPE_MINOR>(),
-    Plain<&Form::ComboNE134, REGTYPE_MINOR>(),
-    Plain<&Form::ComboUni, REGTYPE_MINOR>(),
-    Plain<&Form::Combo1, REGTYPE_EXT2>(),
-    Plain<&Form::Combo4610TF6, REGTYPE_EXT2>(),
-    Plain<&Form::IBMCombo, REGTYPE_EXT2>(),
-    Plain<&Form::RDSCombo, REGTYPE_EXT2>(),
-    Plain<&Form::ST6105C, REGTYPE_EXT2>(),
-    Plain<&Form::ComboUniFor14R7up, REGTYPE_EXT2>(),
-    Plain<&Form::ComboXML, REGTYPE_EXT2>(),
-    Plain<&Form::ComboCLARITYEPOS, UNITADDR>(),
-    Plain<&Form::ComboDeviceGas, GTITLE_NF_BAK>(),
+    Plain<&Form::ComboAddress, REGTYPE_MINOR>(),     Plain<&Form::ComboAddr, REGTYPE_MINOR>(),
+    Plain<&Form::ComboDisplay, REGTYPE_MINOR>(),     Plain<&Form::ComboDeviceADD, REGTYPE_MINOR>(),
+    Plain<&Form::ComboDIPMIXED, REGTYPE_MINOR>(),    Plain<&Form::ComboNE134, REGTYPE_MINOR>(),
+    Plain<&Form::ComboUni, REGTYPE_MINOR>(),         Plain<&Form::Combo1, REGTYPE_EXT2>(),
+    Plain<&Form::Combo4610TF6, REGTYPE_EXT2>(),      Plain<&Form::IBMCombo, REGTYPE_EXT2>(),
+    Plain<&Form::RDSCombo, REGTYPE_EXT2>(),          Plain<&Form::ST6105C, REGTYPE_EXT2>(),
+    Plain<&Form::ComboUniFor14R7up, REGTYPE_EXT2>(), Plain<&Form::ComboXML, REGTYPE_EXT2>(),
+    Plain<&Form::ComboCLARITYEPOS, UNITADDR>(),      Plain<&Form::ComboDeviceGas, GTITLE_NF_BAK>(),
     Plain<&Form::ComboCONSOLEID, DV_ADDRIND_BAK>(),
-    ListHandler{&Form::ComboSICOM, ComboSICOM_Click},
-    ListHandler{&Form::ComboWoring, ComboWoring_Click},
-    ListHandler{&Form::ComboTITLEDIP, ComboTITLEDIP_Click},
 };
 
 template <class Lists>
@@ -329,26 +168,13 @@ void Handle(Lists& lists, Handler handler) {
 void WireRegisterOptions(MainForm& form) {
   for (const auto& row : kArrayHandlers) (form.*row.array).handler = row.handler;
   for (const auto& row : kListHandlers) (form.*row.list).handler = row.handler;
-  Handle(form.ComboPana, ComboPana_Click);
-  Handle(form.ComboTk500, ComboTk500_Click);
-  Handle(form.ComboTE2200, ComboTE2200_Click);
-  Handle(form.ComboTEC, ComboTEC_Click);
-  Handle(form.ComboTCI_ID, ComboTCI_ID_Click);
-  Handle(form.ComboUNI_ID, ComboUNI_ID_Click);
   Handle(form.ComboTCPIP, ComboTCPIP_Click);
   Handle(form.ComboTCPINFO, ComboTCPINFO_Click);
+  WireForcingOptions(form);
   form.Command1.handler = Command1_Click;
   form.SharpCom.handler = SharpCom_Click;
   form.Command2.handler = Command2_Click;
   form.cmdMicros.handler = cmdMicros_Click;
-}
-
-void ForceLine(Application& app, int member, int position) {
-  AssignPosition(app, app.frmMain.ComboCOMM.at(static_cast<std::size_t>(member)), position, Raise::kAlways);
-}
-
-int AutoSpeed(const Application& app) {
-  return app.firmware.IsV1400() ? 10 : 8;
 }
 
 void ShowIbm(Application& app, int element) {

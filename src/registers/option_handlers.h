@@ -8,12 +8,6 @@ namespace ovl {
 // Gives every control of the option frames its handler.
 void WireRegisterOptions(MainForm& form);
 
-// The line settings that a protocol dictates; each runs the selection's own handler.
-void ForceLine(Application& app, int member, int position);
-
-// The position of "AUTO" in the speed lists.
-int AutoSpeed(const Application& app);
-
 // The showing and hiding that goes with the main option of a frame. They run at every apply, and after the
 // write of the option's own handler.
 void ShowIbm(Application& app, int element);

@@ -4,11 +4,12 @@
 #include <array>
 #include <system_error>
 
-#include "catalogue/register_catalogue.h"
 #include "core/actions.h"
+#include "core/configuration.h"
 #include "core/failure.h"
-#include "image/files.h"
+#include "files/files.h"
 #include "image/record_stream.h"
+#include "registers/register_catalogue.h"
 #include "registers/register_table.h"
 
 namespace ovl {

@@ -3,7 +3,7 @@
 #include <iomanip>
 #include <sstream>
 
-#include "core/registry.h"
+#include "controls/registry.h"
 
 namespace ovl::testing {
 namespace {

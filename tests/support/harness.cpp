@@ -6,9 +6,9 @@
 #include <stdexcept>
 #include <utility>
 
-#include "image/files.h"
+#include "files/files.h"
 #include "image/record_stream.h"
-#include "start_up.h"
+#include "start/start_up.h"
 
 namespace ovl::testing {
 namespace {

@@ -13,10 +13,10 @@
 #include <utility>
 #include <vector>
 
-#include "default_images.h"
+#include "files/files.h"
 #include "image/field_map.h"
-#include "image/files.h"
 #include "image/report.h"
+#include "images/default_images.h"
 #include "support/harness.h"
 
 namespace ovl::testing {

@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "catalogue/firmware.h"
+#include "changes/editors.h"
 #include "core/application.h"
-#include "image/editors.h"
+#include "firmware/firmware_table.h"
 #include "image/field_map.h"
 
 namespace ovl {

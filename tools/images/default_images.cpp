@@ -1,16 +1,17 @@
-#include "default_images.h"
+#include "images/default_images.h"
 
 #include <algorithm>
 #include <filesystem>
 
-#include "catalogue/register_catalogue.h"
-#include "catalogue/register_lists.h"
+#include "core/configuration.h"
 #include "core/failure.h"
+#include "files/files.h"
+#include "firmware/register_lists.h"
 #include "image/field_map.h"
-#include "image/files.h"
 #include "image/record_stream.h"
+#include "registers/register_catalogue.h"
 #include "registers/selection_driver.h"
-#include "start_up.h"
+#include "start/start_up.h"
 
 namespace ovl {
 namespace {

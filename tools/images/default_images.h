@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "core/config_image.h"
-#include "core/firmware_id.h"
+#include "firmware/firmware_id.h"
+#include "image/config_image.h"
 
 namespace ovl {
 

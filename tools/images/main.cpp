@@ -2,10 +2,10 @@
 #include <string>
 #include <vector>
 
-#include "catalogue/firmware.h"
 #include "core/failure.h"
-#include "default_images.h"
-#include "image/files.h"
+#include "files/files.h"
+#include "firmware/firmware_table.h"
+#include "images/default_images.h"
 
 namespace {
 

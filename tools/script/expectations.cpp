@@ -1,4 +1,4 @@
-#include "expectations.h"
+#include "script/expectations.h"
 
 #include <algorithm>
 #include <array>
@@ -6,10 +6,10 @@
 #include <string_view>
 #include <vector>
 
-#include "image_fields.h"
-#include "inspection.h"
-#include "stop.h"
-#include "variables.h"
+#include "script/image_fields.h"
+#include "script/inspection.h"
+#include "script/stop.h"
+#include "script/variables.h"
 
 namespace ovl::script {
 namespace {

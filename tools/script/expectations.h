@@ -1,7 +1,7 @@
 #pragma once
 
-#include "parser.h"
-#include "session.h"
+#include "script/parser.h"
+#include "script/session.h"
 
 namespace ovl::script {
 

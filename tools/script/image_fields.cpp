@@ -1,12 +1,13 @@
-#include "image_fields.h"
+#include "script/image_fields.h"
 
 #include <charconv>
 
-#include "image/files.h"
+#include "core/configuration.h"
+#include "files/files.h"
 #include "image/record_stream.h"
 #include "image/report.h"
-#include "parser.h"
-#include "stop.h"
+#include "script/parser.h"
+#include "script/stop.h"
 
 namespace ovl::script {
 

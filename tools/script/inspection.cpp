@@ -1,6 +1,6 @@
-#include "inspection.h"
+#include "script/inspection.h"
 
-#include "parser.h"
+#include "script/parser.h"
 
 namespace ovl::script {
 namespace {

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/registry.h"
+#include "controls/registry.h"
 
 namespace ovl::script {
 

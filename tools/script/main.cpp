@@ -6,8 +6,8 @@
 #include <system_error>
 #include <vector>
 
-#include "image/files.h"
-#include "runner.h"
+#include "files/files.h"
+#include "script/runner.h"
 
 namespace {
 

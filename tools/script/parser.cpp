@@ -1,11 +1,11 @@
-#include "parser.h"
+#include "script/parser.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <utility>
 
-#include "stop.h"
+#include "script/stop.h"
 
 namespace ovl::script {
 namespace {

@@ -1,4 +1,4 @@
-#include "real_transfer.h"
+#include "script/real_transfer.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -8,11 +8,11 @@
 #include <limits>
 
 #include "core/failure.h"
-#include "image/files.h"
-#include "image_fields.h"
-#include "session.h"
-#include "shell/platform/serial_port.h"
-#include "stop.h"
+#include "files/files.h"
+#include "host/serial_port.h"
+#include "script/image_fields.h"
+#include "script/session.h"
+#include "script/stop.h"
 
 namespace ovl::script {
 namespace {

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "core/platform.h"
-#include "simulated_time.h"
+#include "script/simulated_time.h"
 
 namespace ovl::script {
 

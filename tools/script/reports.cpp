@@ -1,11 +1,11 @@
-#include "reports.h"
+#include "script/reports.h"
 
 #include <ostream>
 
-#include "image/files.h"
+#include "files/files.h"
 #include "image/report.h"
-#include "session.h"
-#include "stop.h"
+#include "script/session.h"
+#include "script/stop.h"
 
 namespace ovl::script {
 namespace {

@@ -1,7 +1,7 @@
 // Statements that tell by field names what an image or a file holds.
 #pragma once
 
-#include "parser.h"
+#include "script/parser.h"
 
 namespace ovl::script {
 

@@ -1,8 +1,8 @@
-#include "runner.h"
+#include "script/runner.h"
 
 #include "core/failure.h"
-#include "parser.h"
-#include "statements.h"
+#include "script/parser.h"
+#include "script/statements.h"
 
 namespace ovl::script {
 namespace {

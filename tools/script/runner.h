@@ -5,8 +5,8 @@
 #include <ostream>
 #include <string>
 
-#include "session.h"
-#include "stop.h"
+#include "script/session.h"
+#include "script/stop.h"
 
 namespace ovl::script {
 

@@ -1,11 +1,11 @@
-#include "session.h"
+#include "script/session.h"
 
 #include "core/settings.h"
-#include "parser.h"
-#include "real_transfer.h"
-#include "shell/platform/system_clock.h"
-#include "start_up.h"
-#include "stop.h"
+#include "host/system_clock.h"
+#include "script/parser.h"
+#include "script/real_transfer.h"
+#include "script/stop.h"
+#include "start/start_up.h"
 
 namespace ovl::script {
 

@@ -10,9 +10,9 @@
 #include <utility>
 
 #include "core/gate.h"
-#include "shell/platform/settings_store.h"
-#include "simulated_line.h"
-#include "simulated_time.h"
+#include "host/settings_store.h"
+#include "script/simulated_line.h"
+#include "script/simulated_time.h"
 
 namespace ovl::script {
 

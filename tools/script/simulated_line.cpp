@@ -1,4 +1,4 @@
-#include "simulated_line.h"
+#include "script/simulated_line.h"
 
 #include <utility>
 

@@ -1,10 +1,10 @@
-#include "simulated_time.h"
+#include "script/simulated_time.h"
 
 #include <algorithm>
 #include <chrono>
 #include <utility>
 
-#include "core/codecs.h"
+#include "codecs/codecs.h"
 
 namespace ovl::script {
 namespace {

@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "controls/registry.h"
 #include "core/platform.h"
-#include "core/registry.h"
 
 namespace ovl::script {
 

@@ -1,17 +1,17 @@
-#include "statements.h"
+#include "script/statements.h"
 
 #include <algorithm>
 #include <array>
 #include <string>
 
-#include "expectations.h"
 #include "image/field_map.h"
-#include "image_fields.h"
-#include "inspection.h"
-#include "real_transfer.h"
-#include "reports.h"
-#include "stop.h"
-#include "variables.h"
+#include "script/expectations.h"
+#include "script/image_fields.h"
+#include "script/inspection.h"
+#include "script/real_transfer.h"
+#include "script/reports.h"
+#include "script/stop.h"
+#include "script/variables.h"
 
 namespace ovl::script {
 namespace {

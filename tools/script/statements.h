@@ -4,8 +4,8 @@
 #include <span>
 #include <string_view>
 
-#include "parser.h"
-#include "session.h"
+#include "script/parser.h"
+#include "script/session.h"
 
 namespace ovl::script {
 

@@ -1,4 +1,4 @@
-#include "variables.h"
+#include "script/variables.h"
 
 #include <algorithm>
 #include <array>

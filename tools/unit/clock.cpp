@@ -1,8 +1,8 @@
-#include "clock.h"
+#include "unit/clock.h"
 
 #include <array>
 
-#include "text.h"
+#include "unit/text.h"
 
 namespace unit {
 namespace {

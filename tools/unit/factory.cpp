@@ -1,4 +1,4 @@
-#include "factory.h"
+#include "unit/factory.h"
 
 #include <string_view>
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "firmware.h"
+#include "unit/firmware.h"
 
 namespace unit {
 

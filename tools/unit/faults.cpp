@@ -1,10 +1,10 @@
-#include "faults.h"
+#include "unit/faults.h"
 
 #include <algorithm>
 #include <array>
 #include <span>
 
-#include "text.h"
+#include "unit/text.h"
 
 namespace unit {
 namespace {

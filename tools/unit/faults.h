@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "transmitter.h"
+#include "unit/transmitter.h"
 
 namespace unit {
 

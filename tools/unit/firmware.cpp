@@ -1,4 +1,4 @@
-#include "firmware.h"
+#include "unit/firmware.h"
 
 #include <array>
 

@@ -1,10 +1,10 @@
-#include "journal.h"
+#include "unit/journal.h"
 
 #include <array>
 #include <cstdio>
 #include <vector>
 
-#include "text.h"
+#include "unit/text.h"
 
 namespace unit {
 namespace {

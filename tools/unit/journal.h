@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "transmitter.h"
+#include "unit/transmitter.h"
 
 namespace unit {
 

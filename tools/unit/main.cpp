@@ -4,8 +4,8 @@
 #include <string_view>
 #include <vector>
 
-#include "options.h"
-#include "session.h"
+#include "unit/options.h"
+#include "unit/session.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "memory.h"
+#include "unit/memory.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -8,9 +8,9 @@
 #include <cerrno>
 #include <cstdio>
 
-#include "descriptor.h"
-#include "stream.h"
-#include "text.h"
+#include "unit/descriptor.h"
+#include "unit/stream.h"
+#include "unit/text.h"
 
 namespace unit {
 namespace {

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "firmware.h"
+#include "unit/firmware.h"
 
 namespace unit {
 

@@ -1,10 +1,10 @@
-#include "options.h"
+#include "unit/options.h"
 
 #include <algorithm>
 #include <array>
 #include <limits>
 
-#include "text.h"
+#include "unit/text.h"
 
 namespace unit {
 namespace {

@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "faults.h"
-#include "firmware.h"
+#include "unit/faults.h"
+#include "unit/firmware.h"
 
 namespace unit {
 

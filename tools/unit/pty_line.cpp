@@ -1,4 +1,4 @@
-#include "pty_line.h"
+#include "unit/pty_line.h"
 
 #include <fcntl.h>
 #include <poll.h>
@@ -14,8 +14,8 @@
 #include <system_error>
 #include <utility>
 
-#include "text.h"
-#include "tty_speed.h"
+#include "unit/text.h"
+#include "unit/tty_speed.h"
 
 namespace unit {
 namespace {

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "descriptor.h"
+#include "unit/descriptor.h"
 
 namespace unit {
 

@@ -1,4 +1,4 @@
-#include "session.h"
+#include "unit/session.h"
 
 #include <poll.h>
 #include <signal.h>
@@ -9,9 +9,9 @@
 #include <cerrno>
 #include <iostream>
 
-#include "factory.h"
-#include "memory.h"
-#include "text.h"
+#include "unit/factory.h"
+#include "unit/memory.h"
+#include "unit/text.h"
 
 namespace unit {
 namespace {

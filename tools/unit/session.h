@@ -6,11 +6,11 @@
 #include <optional>
 #include <string>
 
-#include "descriptor.h"
-#include "journal.h"
-#include "options.h"
-#include "pty_line.h"
-#include "unit.h"
+#include "unit/descriptor.h"
+#include "unit/journal.h"
+#include "unit/options.h"
+#include "unit/pty_line.h"
+#include "unit/unit.h"
 
 namespace unit {
 

@@ -1,9 +1,9 @@
-#include "stream.h"
+#include "unit/stream.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "text.h"
+#include "unit/text.h"
 
 namespace unit {
 namespace {

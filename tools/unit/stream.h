@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "firmware.h"
+#include "unit/firmware.h"
 
 namespace unit {
 

@@ -1,4 +1,4 @@
-#include "text.h"
+#include "unit/text.h"
 
 #include <array>
 #include <charconv>

@@ -1,4 +1,4 @@
-#include "transmitter.h"
+#include "unit/transmitter.h"
 
 #include <algorithm>
 

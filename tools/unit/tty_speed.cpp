@@ -1,4 +1,4 @@
-#include "tty_speed.h"
+#include "unit/tty_speed.h"
 
 // The kernel's own view of a terminal; it cannot be included beside the C library's.
 #include <asm/termbits.h>

@@ -1,12 +1,12 @@
-#include "unit.h"
+#include "unit/unit.h"
 
 #include <algorithm>
 #include <array>
 #include <utility>
 
-#include "clock.h"
-#include "factory.h"
-#include "text.h"
+#include "unit/clock.h"
+#include "unit/factory.h"
+#include "unit/text.h"
 
 namespace unit {
 namespace {

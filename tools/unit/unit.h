@@ -5,10 +5,10 @@
 #include <string>
 #include <string_view>
 
-#include "faults.h"
-#include "firmware.h"
-#include "stream.h"
-#include "transmitter.h"
+#include "unit/faults.h"
+#include "unit/firmware.h"
+#include "unit/stream.h"
+#include "unit/transmitter.h"
 
 namespace unit {
 

@@ -1,0 +1,74 @@
+// The main form: seven tabs, the menus, the serial control and the timers of the link.
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "controls/controls.h"
+#include "controls/forms/communication_panel.h"
+#include "controls/forms/display_panel.h"
+#include "controls/forms/register_options.h"
+#include "controls/forms/text_panels.h"
+
+namespace ovl {
+
+class Registry;
+
+// The actions of the link, by the index of their button.
+enum LinkAction { kUpload = 0, kDownload = 1, kSetTime = 2, kLoadHistory = 3, kRemote = 4, kMasterReset = 5 };
+
+// One family of the Version menu: "V1400" and its releases.
+struct VersionFamily {
+  MenuItem parent;
+  std::vector<std::size_t> items;  // places in version_items
+};
+
+// The panels' controls are the form's own: app.frmMain.ComboCOMM[3].
+struct MainForm : RegisterOptions, CommunicationPanel, DisplayPanel, TextPanels {
+  Form form;
+  Tabs SSTab1;
+  std::array<Label, 7> lbVersionID;
+
+  // REGISTER SELECT
+  List ComboReg;
+  std::array<Frame, 54> frmAddress;
+
+  // TEXT SETUP, ALARM OUTPUTS, COMMUNICATION, EXCEPTION REPORT, TIME / LANGUAGE
+  Frame Frame3, Frame8, Frame15, Frame4, Frame13, Frame6, Frame10, Frame7, Frame14, Frame5, Frame2, Frame12;
+
+  OptionArray OpDVR;
+  std::array<List, 4> ComboKLM4011;  // destination and source id of the second recorder, then of the third
+
+  // REMOTE
+  Frame Frame11, FrameDemo;
+  std::array<Button, 6> CmdUpDow;
+  Button cmdConnect, cmdDisConnect;
+  Label lbConnectting, lbRemoteAccess;
+  std::array<Picture, 4> Picture1;  // no access, hint for Upload, hint for Download, access
+  std::array<Label, 2> Label64;     // downloading, uploading
+  ProgressBar vbalProgressBar1;
+  List ComboHR, ComboMin, ComboSec, ComboMonth, ComboYear;
+  std::array<List, 4> ComboDay;  // 28, 29, 30 and 31 days, one above the other
+  CheckBox CheckTD;
+
+  // Menus
+  MenuItem FileMenu, OpenMenu, menuSave, OpenHistory_menu, menuExit, VersionMenu, HelpMenu, menuAbout;
+  std::vector<VersionFamily> version_families;
+  std::vector<MenuItem> version_items;  // in the order of the firmware table
+
+  std::map<int, Label> Label1;  // the labels that a firmware's variant of the form hides or renames
+
+  SerialControl MSComm1;
+  ovl::Timer Timer;            // refreshes the clock lists
+  ovl::Timer General_timer;    // the grant must have come by its tick
+  ovl::Timer Time_handcheck;   // keep-alive
+  ovl::Timer Timer_Operating;  // silence watchdog
+
+  MainForm();
+  void Register(Registry& registry);
+
+  // The five buttons that need remote mode; "Remote" itself is not among them.
+  void EnableActions(bool enabled);
+};
+
+}  // namespace ovl

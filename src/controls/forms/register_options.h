@@ -1,0 +1,39 @@
+// What the register panel offers beside the list: the controls of the option frames. They stand on the main
+// form.
+#pragma once
+
+#include <array>
+
+#include "controls/controls.h"
+
+namespace ovl {
+
+class Registry;
+
+struct RegisterOptions {
+  OptionArray OpDelta, OpEDA, OpNCR, OpBEETLE, BEETLEOp, OpNIXDORF, NIXDORF14OPSelect, OpSun, OpVerifone,
+      OpA410, OpSHARPUP600, OpGilbraco, OpDYWAYE, OpMicrelec, OpMicrelec9500, OpSharp, OpRI_QT2,
+      OpPoleDisplay, OpVWEIGHBRIDGE, FUJIOP, BleepOP, DIGIOP, ICLOP, TEAMOP, TEAMPOSOP, POS50OP, NIXDORF14OP,
+      IBMOP, JRNLRCPT_SLP_OP, NCROP, SamOP, GELLEROP, UNIWOP, TECOP, CASIOOP, SharpOP, OpMicros, OpNUCP,
+      OpWEIGHS, JCMOp, EASYOP, SenOP, POSOP, TEROP, PRNOP, SECUOP;
+
+  List ComboAddress, ComboDisplay, Combo1, ComboDeviceADD, ComboDeviceGas, ComboDIPMIXED, ComboWoring,
+      ComboTITLEDIP, ComboCONSOLEID, ComboSICOM, ComboUni, ComboUniFor14R7up, ComboAddr, ComboCLARITYEPOS,
+      ST6105C, ComboNE134, RDSCombo, IBMCombo, Combo4610TF6, ComboXML;
+  std::array<List, 2> ComboPana, ComboTk500, ComboTE2200,
+      ComboTEC;                                  // of three, the fixed model name and the mode
+  std::array<List, 3> ComboTCI_ID, ComboUNI_ID;  // the last digit first
+  std::array<List, 8> ComboTCPIP;                // the address of the old frame, then that of the present one
+  std::array<List, 4> ComboTCPINFO;
+
+  Frame IBMFrame, POS2000, POS5000, NCRFrame, BEETLEFrm, NIXDORFrm;
+  std::array<Label, 1> Label82;
+  Label Label84, Label85;
+  Button Command1, SharpCom, Command2;  // "Show Detail" of CASIO, SHARP and TEC
+  Button cmdMicros;
+
+  RegisterOptions();
+  void Register(Registry& registry, Form& form);
+};
+
+}  // namespace ovl

@@ -1,0 +1,59 @@
+// The panels for what the unit watches for and what it then does: exceptions, alarms and their texts, scroll
+// matching, the title, the demonstration. A list's caption is its label.
+#pragma once
+
+#include <array>
+#include <map>
+
+#include "controls/controls.h"
+
+namespace ovl {
+
+class Registry;
+
+struct TextPanels {
+  std::array<List, 6> ComboExcp;
+  TextBox TextException;
+  std::array<Label, 2> TextRANGE;
+  Button cmdSetExcpstr, cmdSetRange;
+  std::array<List, 2> ComboScroll;
+
+  std::array<List, 8> ComboALM;
+  Label lbAlmTrig;
+  std::array<List, 3> ComboTrigger;
+  TextBox TextTrigger;
+  Button cmdSetTrigger;
+
+  TextBox Title_Text;
+  Button cmdTitle;
+
+  CheckBox DemoMode;
+  List CharacterList, DemoType, DemoSpeed;
+
+  TextPanels();
+  void Register(Registry& registry, Form& form);
+};
+
+// One dialog for three kinds of text; the caption tells which.
+struct TextEntryForm {
+  Form form;
+  TextBox Text1;
+  Button cmdSET, cmdClr;
+
+  TextEntryForm();
+  void Register(Registry& registry);
+};
+
+// The numeric test of an exception.
+struct RangeForm {
+  Form form;
+  TextBox Range_Hi, SubRange_Hi, Range_Low, SubRange_Low;
+  List ComboDec;
+  Label lbDec;
+  Button cmdSetRange, cmdClr;
+
+  RangeForm();
+  void Register(Registry& registry);
+};
+
+}  // namespace ovl

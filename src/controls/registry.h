@@ -1,0 +1,79 @@
+// Every control answers to its system name: "ComboCOMM(3)", "FrmSubMenu.Combo1(1)", "OpBaud(3)" for an
+// element of an option array, "OpBaud" for the whole array. Windows, script tool and tests all go through it.
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "controls/controls.h"
+
+namespace ovl {
+
+struct OptionElement {
+  OptionArray* array = nullptr;
+  int element = 0;
+
+  Face& Of() const { return array->elements.at(static_cast<std::size_t>(element)); }
+  bool operator==(const OptionElement&) const = default;
+};
+
+using ControlRef = std::variant<List*, OptionArray*, OptionElement, TextBox*, Label*, Button*, CheckBox*,
+                                Frame*, Picture*, ProgressBar*, Timer*, MenuItem*, Tabs*, Form*>;
+
+// Caption and state of whatever the reference names.
+Face& FaceOf(const ControlRef& control);
+
+struct NamedControl {
+  std::string name;  // without the form
+  ControlRef control;
+  Form* form = nullptr;
+};
+
+class Registry {
+ public:
+  // Later registrations of a name under another form need the form's name in front.
+  void Add(Form& form, std::string name, ControlRef control);
+
+  template <class Control>
+  void Add(Form& form, const std::string& name, Control& control) {
+    Add(form, name, ControlRef(&control));
+  }
+
+  // The members of a control array, "name(0)" first; each learns its index.
+  template <class Array>
+  void AddArray(Form& form, const std::string& name, Array& controls) {
+    int index = 0;
+    for (auto& control : controls) {
+      control.index = index;
+      Add(form, name + "(" + std::to_string(index++) + ")", ControlRef(&control));
+    }
+  }
+
+  void AddOptions(Form& form, const std::string& name, OptionArray& array);
+  void AddForm(Form& form);
+
+  // Nothing if no control has the name. A name that several forms share means the main form's control if it
+  // has one, else that of the one form among them which is on the screen; otherwise the form must stand in
+  // front.
+  const NamedControl* Find(std::string_view name) const;
+  const NamedControl* Find(const Form& form, std::string_view name) const;
+
+  // The first name under which a control was added, for messages; empty for an unknown one.
+  std::string NameOf(const ControlRef& control) const;
+  Form* FormOf(const ControlRef& control) const;
+
+  const std::vector<NamedControl>& All() const { return controls_; }
+  const std::vector<Form*>& Forms() const { return forms_; }
+
+ private:
+  const NamedControl* Known(const ControlRef& control) const;
+
+  std::vector<NamedControl> controls_;
+  std::vector<Form*> forms_;
+  std::multimap<std::string, std::size_t, std::less<>> by_name_;
+};
+
+}  // namespace ovl

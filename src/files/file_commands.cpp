@@ -1,0 +1,95 @@
+#include "files/file_commands.h"
+
+#include <system_error>
+
+#include "core/actions.h"
+#include "core/configuration.h"
+#include "core/failure.h"
+#include "files/files.h"
+#include "firmware/firmware_id.h"
+#include "image/record_stream.h"
+
+namespace ovl {
+namespace {
+
+constexpr Region kSavedV13Region = {0x7800, 0x7FE0};
+constexpr const char* kTextFiles = "Text Files(*.txt)|*.txt";
+constexpr const char* kBinFiles = "Bin Files(*bin)|*.bin";
+constexpr const char* kAllFiles = "All Files(*.*)|*.*";
+
+// The stream as a saved file holds it. It follows the early layout in V1400 and the lower region in the other
+// families, whatever the release.
+std::string SavedStream(Application& app) {
+  PrepareCapabilities(app);
+  if (!IsKnownFamily(app.firmware.version)) {
+    throw Failure(app.firmware.Joined(), std::make_error_code(std::errc::not_supported).message());
+  }
+  const auto layout = app.firmware.IsV1400() ? Layout::kEarlyV1400 : LayoutOf(app.firmware);
+  auto sections = WriteSections(app.image, layout, app.firmware, app.capabilities);
+  app.SYSCFG = std::move(sections.SYSCFG);
+  app.SYSFIXED = std::move(sections.SYSFIXED);
+  app.SYSSTR = std::move(sections.SYSSTR);
+  const auto region = app.firmware.IsV1400() ? WriteRegion(app.firmware) : kSavedV13Region;
+  return BlockRecords(app.SYSCFG + app.SYSFIXED + app.SYSSTR, region);
+}
+
+std::string AskForPath(Application& app, const FileDialog& dialog) {
+  const auto answer = app.platform.ask_file(dialog);
+  if (!answer) throw Failure(dialog.file_name, std::make_error_code(std::errc::operation_canceled).message());
+  app.CurrentFilePath = answer->file_name;
+  return app.CurrentFilePath;
+}
+
+void ReadChosenFile(Application& app) {
+  FileDialog dialog;
+  dialog.kind = FileDialog::Kind::kOpen;
+  dialog.file_name = PathBelow(app.platform.program_folder, "\\*.bin");
+  dialog.filter = std::string(kTextFiles) + "|" + kBinFiles + "|" + kAllFiles;
+  dialog.filter_index = 2;
+  app.StreamText = ReadJoined(AskForPath(app, dialog));
+}
+
+void TakeStream(Application& app) {
+  PrepareCapabilities(app);
+  LoadStream(app, app.StreamText);
+  for (const auto& routine : app.Setting_Code) routine.run(app);
+  auto& shown = app.frmMain.ComboExcp[0];
+  if (shown.position != 0) return;
+  AssignPosition(app, shown, 1);
+  AssignPosition(app, shown, 0);
+}
+
+}  // namespace
+
+void OpenMenu_Click(Application& app, int) {
+  app.ImageTouched = true;
+  app.UploadApplying = true;
+  app.PanelsReady = false;
+  try {
+    ReadChosenFile(app);
+    TakeStream(app);
+  } catch (const Failure& failure) {
+    app.StreamText.clear();
+    app.StatusNote = failure.Subject() + ": " + failure.what();
+  }
+  app.PanelsReady = true;
+}
+
+void menuSave_Click(Application& app, int) {
+  FileDialog dialog;
+  dialog.kind = FileDialog::Kind::kSave;
+  dialog.file_name = PathBelow(app.platform.program_folder, "\\*.Bin");
+  dialog.filter = std::string(kTextFiles) + "|" + kAllFiles;
+  dialog.filter_index = 2;
+  try {
+    const auto stream = SavedStream(app);
+    WriteWhole(AskForPath(app, dialog), stream + "\r\n");
+  } catch (const Failure& failure) {
+    app.StatusNote = failure.Subject() + ": " + failure.what();
+    MsgBox(app, Box::kNotSaved);
+    return;
+  }
+  MsgBox(app, Box::kSaved);
+}
+
+}  // namespace ovl

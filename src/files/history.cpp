@@ -1,0 +1,79 @@
+#include "files/history.h"
+
+#include <span>
+
+#include "core/actions.h"
+#include "core/failure.h"
+#include "files/files.h"
+
+namespace ovl {
+namespace {
+
+constexpr const char* kTag = "OVLH";
+constexpr const char* kFilter = "Text Files(*.txt)|*.txt|All Files(*.*)|*.*";
+constexpr int kAllFiles = 2;
+
+// The dialog's answer that the viewer is to stay as it is.
+constexpr unsigned kDoNotShow = 4096;
+
+FileDialog Dialog(const Application& app, FileDialog::Kind kind, const char* name) {
+  FileDialog dialog;
+  dialog.kind = kind;
+  dialog.file_name = PathBelow(app.platform.program_folder, name);
+  dialog.filter = kFilter;
+  dialog.filter_index = kAllFiles;
+  return dialog;
+}
+
+std::string WithLineEnds(std::span<const std::string> lines) {
+  std::string text;
+  for (const auto& line : lines) text.append(line).append("\r\n");
+  return text;
+}
+
+void FillViewer(Application& app, const std::string& caption, std::string text) {
+  app.frmView.form.caption = caption;
+  app.frmView.Text.text = std::move(text);
+}
+
+void OpenHistory(Application& app, const FileAnswer& answer) {
+  app.CurrentFilePath = answer.file_name;
+  const auto lines = ReadLines(answer.file_name);
+  if (lines.empty() || lines.front() != kTag) {
+    MsgBox(app, Box::kNotHistory);
+    return;
+  }
+  FillViewer(app, answer.file_name, WithLineEnds(std::span(lines).subspan(1)));
+  if (answer.flags != kDoNotShow) ShowForm(app, app.frmView.form);
+}
+
+}  // namespace
+
+void SaveHistory(Application& app) {
+  const auto dialog = Dialog(app, FileDialog::Kind::kSave, "\\History.txt");
+  const auto answer = app.platform.ask_file(dialog);
+  app.CurrentFilePath = answer ? answer->file_name : dialog.file_name;
+  try {
+    WriteWhole(app.CurrentFilePath, std::string(kTag) + "\r\n" + app.HistoryText + "\r\n");
+  } catch (const Failure& failure) {
+    app.StatusNote = failure.Subject() + ": " + failure.what();
+  }
+}
+
+void OpenHistory_menu_Click(Application& app, int) {
+  const auto answer = app.platform.ask_file(Dialog(app, FileDialog::Kind::kOpen, "\\*.txt"));
+  if (!answer) return;
+  try {
+    OpenHistory(app, *answer);
+  } catch (const Failure& failure) {
+    app.StatusNote = failure.Subject() + ": " + failure.what();
+  }
+}
+
+void ShowDataDump(Application& app) {
+  const auto lines = ReadLines(PathBelow(app.platform.program_folder, "\\DataDump.log"));
+  FillViewer(app, "Debuging Windwos", WithLineEnds(lines));
+  ShowForm(app, app.frmView.form);
+}
+
+}  // namespace ovl

@@ -1,0 +1,22 @@
+// The firmware that exist, in the order of the Version menu.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "firmware/firmware_id.h"
+
+namespace ovl {
+
+struct FirmwareEntry {
+  std::string_view version;
+  std::string_view release;
+  bool in_menu;
+
+  FirmwareId Id() const { return {std::string(version), std::string(release)}; }
+};
+
+// In menu order; the last one is reached only through the settings store.
+std::span<const FirmwareEntry> FirmwareTable();
+
+}  // namespace ovl

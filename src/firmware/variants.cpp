@@ -1,0 +1,153 @@
+#include "firmware/variants.h"
+
+#include <array>
+#include <initializer_list>
+#include <string_view>
+
+namespace ovl {
+namespace {
+
+constexpr const char* kAuto = "AUTO";
+
+void Show(MainForm& form, int label, List& list, bool visible) {
+  form.Label1[label].visible = visible;
+  list.visible = visible;
+}
+
+void Rename(MainForm& form, int label, List& list, const char* caption) {
+  form.Label1[label].caption = caption;
+  list.caption = caption;
+}
+
+void LanguageAndNetwork(MainForm& form) {
+  form.ComboLang.items.emplace_back("Spanish");
+  form.ComboCOMM[7].items.emplace_back("NORBAIN VISTA");
+}
+
+void AlarmType(MainForm& form) {
+  Show(form, 49, form.ComboALM[7], true);
+}
+
+void BlankByRts(MainForm& form) {
+  form.ComboDIP[0].items.emplace_back("RTS");
+}
+
+void EleventhRelease(MainForm& form) {
+  form.SharpOP.elements.at(26).visible = true;
+  BlankByRts(form);
+}
+
+void TwelfthRelease(MainForm& form) {
+  form.CmdUpDow[kMasterReset].visible = true;
+  form.ComboLang.items.at(0) = "English";
+  form.ComboLang.items.at(1) = "Spanish";
+  form.IBMOP.elements.at(7).visible = true;
+  form.IBMOP.elements.at(8).visible = true;
+}
+
+void SharpAdditions(MainForm& form) {
+  form.OpSharp.elements.at(9).visible = true;
+  BlankByRts(form);
+  AlarmType(form);
+}
+
+void EpsonAdditions(MainForm& form) {
+  form.OpRI_QT2.elements.at(10).visible = true;
+  BlankByRts(form);
+  AlarmType(form);
+}
+
+// These families know no speed above 38400.
+void LimitSpeeds(List& list) {
+  list.items.resize(8);
+  list.items.emplace_back(kAuto);
+}
+
+void ReduceForm(MainForm& form) {
+  Show(form, 62, form.ComboDIP[8], false);
+  Show(form, 48, form.ComboALM[6], false);
+  Show(form, 52, form.ComboTrigger[2], false);
+  form.Frame13.visible = false;
+  Show(form, 32, form.ComboCOMM[7], false);
+  form.ComboNone[0].visible = false;
+  Rename(form, 35, form.ComboCOMM[5], "HANDSHAKE");
+  Show(form, 36, form.ComboCOMM[8], false);
+  Show(form, 26, form.ComboExcepRe[2], false);
+  form.Frame14.visible = false;
+  Show(form, 23, form.ComboExcp[4], true);
+  form.Frame12.visible = false;
+  form.SSTab1.captions.at(5) = "           TIME             ";
+  form.SSTab1.current = 0;
+  LimitSpeeds(form.ComboCOMM[1]);
+  LimitSpeeds(form.ComboCOMM[2]);
+}
+
+void NoSecondPair(MainForm& form) {
+  form.OpDVR.elements.at(2).visible = false;
+  Show(form, 14, form.ComboKLM4011[2], false);
+  Show(form, 15, form.ComboKLM4011[3], false);
+}
+
+void NoDemo(MainForm& form) {
+  form.FrameDemo.visible = false;
+  Show(form, 61, form.ComboDIP[7], false);
+}
+
+using Step = void (*)(MainForm&);
+
+// The steps of a firmware, in order; the numbers are its first and last release.
+struct Variant {
+  std::string_view version;
+  int first_release;
+  int last_release;
+  Step step;
+};
+constexpr int kNewest = 9999;
+constexpr std::array kVariants = {
+    Variant{"V1400", 2, kNewest, LanguageAndNetwork}, Variant{"V1400", 6, kNewest, AlarmType},
+    Variant{"V1400", 11, kNewest, EleventhRelease},   Variant{"V1400", 12, kNewest, TwelfthRelease},
+    Variant{"V1300", 26, kNewest, SharpAdditions},    Variant{"V1310", 1, kNewest, SharpAdditions},
+    Variant{"V1324", 25, kNewest, EpsonAdditions},    Variant{"V1334", 1, kNewest, EpsonAdditions},
+};
+
+// These go by family and number, also for releases that no unit has.
+constexpr std::array kReductions = {
+    Variant{"V1300", 0, kNewest, ReduceForm}, Variant{"V1324", 0, kNewest, ReduceForm},
+    Variant{"V1310", 0, kNewest, ReduceForm}, Variant{"V1334", 0, kNewest, ReduceForm},
+    Variant{"V1300", 0, 26, NoSecondPair},    Variant{"V1324", 0, 25, NoSecondPair},
+    Variant{"V1300", 14, 17, NoDemo},         Variant{"V1324", 17, 20, NoDemo},
+};
+
+template <class Variants>
+void Run(MainForm& form, const FirmwareId& firmware, const Variants& variants) {
+  const int release = firmware.Number();
+  for (const auto& row : variants) {
+    const bool applies =
+        row.version == firmware.version && release >= row.first_release && release <= row.last_release;
+    if (applies) row.step(form);
+  }
+}
+
+}  // namespace
+
+void ApplyFirmwareVariants(MainForm& form, const FirmwareId& firmware) {
+  if (!form.ComboReg.items.empty()) Run(form, firmware, kVariants);
+  Run(form, firmware, kReductions);
+}
+
+void ApplyCompactForm(MainForm& form) {
+  Rename(form, 62, form.ComboDIP[8], "OUTPUT CHARACTER / LINE");
+  for (int list = 0; list < 8; ++list)
+    Show(form, 54 + list, form.ComboDIP.at(static_cast<std::size_t>(list)), false);
+  for (int list = 4; list < 7; ++list)
+    Show(form, 42 + list, form.ComboALM.at(static_cast<std::size_t>(list)), false);
+  Show(form, 50, form.ComboTrigger[0], false);
+  Show(form, 20, form.ComboExcp[1], false);
+  form.Frame12.visible = false;
+  Show(form, 0, form.ComboTD[0], false);
+  Show(form, 8, form.ComboTD[5], false);
+  form.cmdTitle.visible = false;
+  form.Title_Text.visible = false;
+}
+
+}  // namespace ovl

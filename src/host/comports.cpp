@@ -1,0 +1,63 @@
+#include "host/comports.h"
+
+#include <QFileInfo>
+#include <QSerialPortInfo>
+#include <cerrno>
+
+#include "host/posix/posix_line.h"
+#include "host/text_codec.h"
+
+namespace ovl {
+namespace {
+
+QString TableDevice(int number) {
+#ifdef Q_OS_WIN
+  return QStringLiteral("COM%1").arg(number);
+#else
+  constexpr int kFirstUsb = 9;
+  if (number < kFirstUsb) return QStringLiteral("/dev/ttyS%1").arg(number - 1);
+  return QStringLiteral("/dev/ttyUSB%1").arg(number - kFirstUsb);
+#endif
+}
+
+bool Matches(const QSerialPortInfo& info, const QString& device) {
+  return info.systemLocation() == device || info.portName() == device;
+}
+
+}  // namespace
+
+QString ComportDevice(const QString& program_folder, int number) {
+  const QFileInfo link(QStringLiteral("%1/ports/com%2").arg(program_folder).arg(number));
+  if (!link.isSymLink()) return link.exists() ? link.absoluteFilePath() : TableDevice(number);
+  // The device's own name, not the link's, so that the lock against a second program holds for both.
+  const auto target = link.canonicalFilePath();
+  return target.isEmpty() ? link.symLinkTarget() : target;
+}
+
+std::vector<Comport> ListComports(const QString& program_folder) {
+  const auto known = QSerialPortInfo::availablePorts();
+  std::vector<Comport> comports;
+  for (int number = 1; number <= kComports; ++number) {
+    Comport comport{number, ComportDevice(program_folder, number), {}, false};
+    comport.present = QFileInfo::exists(comport.device);
+    for (const auto& info : known) {
+      if (!Matches(info, comport.device)) continue;
+      comport.description = info.description();
+      comport.present = true;
+    }
+    comports.push_back(comport);
+  }
+  return comports;
+}
+
+QString ComportProblem(int number, const QString& device, const std::string& reason) {
+  auto sentence =
+      QStringLiteral("Comport %1, %2: %3.").arg(QString::number(number), device, FromWindows1252(reason));
+  if (reason == SystemText(EACCES)) {
+    const auto group = DeviceGroup(device);
+    if (!group.isEmpty()) sentence += QStringLiteral(" The device belongs to the group %1.").arg(group);
+  }
+  return sentence;
+}
+
+}  // namespace ovl

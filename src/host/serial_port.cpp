@@ -1,0 +1,331 @@
+#include "host/serial_port.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+
+#include "host/comports.h"
+#include "host/text_codec.h"
+
+namespace ovl {
+namespace {
+
+using std::chrono::microseconds;
+
+constexpr auto kDelivery = QEvent::User;
+
+// How long one turn of the event loop may be held by events that wait in a row.
+constexpr auto kTurn = std::chrono::milliseconds(2);
+
+// The event loop is too coarse for the last bit of the way to the end of a character: that much is spun. The
+// timer is set to wake a little inside this time, as it is late by some of it. A drained event is due one bit
+// ahead of the character's end, so that on a slow line the timer may be late by a bit without loss and little
+// is left to spin.
+constexpr auto kSpin = microseconds(300);
+constexpr auto kWakeAhead = microseconds(160);
+
+// A transmitter that is slower than the clock says is asked again at growing intervals.
+constexpr auto kFirstRetry = microseconds(100);
+constexpr auto kLastRetry = microseconds(20'000);
+
+// A driver may round a speed to what its divisor gives; a receiver stands no more than this.
+constexpr int kSpeedTolerancePercent = 3;
+
+struct LineFormat {
+  int baud = 0;
+  QSerialPort::Parity parity = QSerialPort::NoParity;
+  QSerialPort::DataBits data_bits = QSerialPort::Data8;
+  char parity_letter = 'N';
+};
+
+std::optional<QSerialPort::Parity> ParityOf(const QByteArray& letter) {
+  if (letter == "N") return QSerialPort::NoParity;
+  if (letter == "O") return QSerialPort::OddParity;
+  if (letter == "E") return QSerialPort::EvenParity;
+  return std::nullopt;
+}
+
+std::optional<LineFormat> ParseFormat(const std::string& text) {
+  const auto parts = QByteArray::fromStdString(text).split(',');
+  if (parts.size() != 4 || parts[3] != "1") return std::nullopt;
+  const auto parity = ParityOf(parts[1]);
+  const int baud = parts[0].toInt();
+  if (!parity || baud <= 0 || (parts[2] != "7" && parts[2] != "8")) return std::nullopt;
+  return LineFormat{baud, *parity, parts[2] == "7" ? QSerialPort::Data7 : QSerialPort::Data8,
+                    parts[1].front()};
+}
+
+}  // namespace
+
+SerialPort::SerialPort(QString program_folder, std::function<Outcome(const Event&)> dispatch)
+    : program_folder_(std::move(program_folder)), dispatch_(std::move(dispatch)), timer_([this] { Post(); }) {
+  connect(&port_, &QSerialPort::readyRead, this, [this] {
+    TakeReceived();
+    Post();
+  });
+  connect(&port_, &QSerialPort::bytesWritten, this, [this] { ScheduleDrain(); });
+  connect(&port_, &QSerialPort::errorOccurred, this, &SerialPort::OnPortError);
+}
+
+SerialPort::~SerialPort() {
+  Close();
+}
+
+SerialLine SerialPort::Operations() {
+  SerialLine line;
+  line.open = [this](const LineSettings& settings) { return Open(settings); };
+  line.close = [this] { Close(); };
+  line.write = [this](std::string_view bytes) { return Write(bytes); };
+  line.read = [this] { return Read(); };
+  line.clear_input = [this] { ClearInput(); };
+  line.clear_output = [this] { ClearOutput(); };
+  return line;
+}
+
+SerialPort::Error SerialPort::Open(const LineSettings& settings) {
+  Close();
+  number_ = settings.port;
+  device_ = ComportDevice(program_folder_, number_);
+  const auto format = ParseFormat(settings.text);
+  if (!format) return Report(SystemText(EINVAL));
+
+  port_.setPortName(device_);
+  // Once the port is open, drivers that can't do 7 bits or a parity refuse them, pseudo-terminals first of
+  // all.
+  port_.setBaudRate(format->baud);
+  port_.setDataBits(format->data_bits);
+  port_.setParity(format->parity);
+  port_.setStopBits(QSerialPort::OneStop);
+  port_.setFlowControl(QSerialPort::NoFlowControl);
+  const LinePreset preset(device_, format->baud, format->data_bits, format->parity_letter);
+  if (!port_.open(QIODevice::ReadWrite)) return Report(OpenReason());
+  if (const auto error = Prepare()) {
+    Close();
+    return Report(*error);
+  }
+  problem_.clear();
+  return std::nullopt;
+}
+
+// The toolkit has wordings of its own, so the system is asked once more what stands against the device.
+std::string SerialPort::OpenReason() const {
+  if (const int error = ProbeDevice(device_)) return SystemText(error);
+  if (port_.error() == QSerialPort::PermissionError && CanLockDevices()) return SystemText(EBUSY);
+  if (port_.error() == QSerialPort::UnsupportedOperationError) return SystemText(EINVAL);
+  return ToWindows1252(port_.errorString()).value_or(SystemText(EIO));
+}
+
+// What is left to do with a port that has just been opened.
+SerialPort::Error SerialPort::Prepare() {
+  const int asked = port_.baudRate();
+  const int speed = LineSpeed(port_.handle());
+  if (speed != 0 && std::abs(speed - asked) > asked / 100 * kSpeedTolerancePercent) return SystemText(EINVAL);
+
+  const bool parity = port_.parity() != QSerialPort::NoParity;
+  if (parity) {
+    if (const int error = MarkParityErrors(port_.handle())) return SystemText(error);
+    marks_.emplace();
+  }
+  bit_time_ = std::chrono::nanoseconds(std::chrono::seconds(1)) / asked;
+  character_bits_ = 1 + port_.dataBits() + (parity ? 1 : 0) + 1;
+  line_free_ = Clock::now();
+  return std::nullopt;
+}
+
+void SerialPort::Close() {
+  if (port_.isOpen()) port_.close();
+  lost_.reset();
+  Forget();
+}
+
+void SerialPort::Forget() {
+  timer_.Stop();
+  QCoreApplication::removePostedEvents(this, kDelivery);
+  posted_ = false;
+  held_ = false;
+  drain_owed_ = false;
+  marks_.reset();
+  received_.clear();
+  untold_ = 0;
+}
+
+SerialPort::Error SerialPort::Write(std::string_view bytes) {
+  if (lost_) return lost_;
+  if (!port_.isOpen()) return SystemText(EBADF);
+  if (bytes.empty()) return std::nullopt;
+
+  const auto start = Clock::now();
+  WriteResult result;
+  if (port_.bytesToWrite() == 0) result = WriteAtOnce(port_.handle(), bytes);
+  if (result.error != 0) {
+    Lose(SystemText(result.error));
+    return lost_;
+  }
+  const auto rest = bytes.substr(result.taken);
+  if (!rest.empty()) port_.write(rest.data(), static_cast<qint64>(rest.size()));
+
+  const auto length = bit_time_ * character_bits_ * static_cast<int>(bytes.size());
+  line_free_ = std::max(start, line_free_) + std::chrono::duration_cast<Clock::duration>(length);
+  drain_owed_ = true;
+  retry_ = kFirstRetry;
+  ScheduleDrain();
+  return std::nullopt;
+}
+
+std::string SerialPort::Read() {
+  if (received_.empty()) return {};
+  const std::string character(1, received_.front());
+  received_.pop_front();
+  untold_ = std::min(untold_, received_.size());
+  return character;
+}
+
+void SerialPort::ClearInput() {
+  if (port_.isOpen()) port_.clear(QSerialPort::Input);
+  if (marks_) marks_.emplace();
+  received_.clear();
+  untold_ = 0;
+}
+
+void SerialPort::ClearOutput() {
+  if (!port_.isOpen()) return;
+  port_.clear(QSerialPort::Output);
+  // No more than the character that is in the chip is still to leave.
+  line_free_ = std::min(line_free_, Clock::now() + bit_time_ * character_bits_);
+  ScheduleDrain();
+}
+
+void SerialPort::OnPortError(QSerialPort::SerialPortError error) {
+  const bool fatal = error == QSerialPort::ReadError || error == QSerialPort::WriteError ||
+                     error == QSerialPort::ResourceError;
+  if (!fatal || !port_.isOpen()) return;
+  // Input that was thrown away after the event loop had seen it looks like a failing read.
+  if (error == QSerialPort::ReadError && LineAlive(port_.handle())) return;
+  Lose(SystemText(ProbeDevice(device_) == ENOENT ? ENODEV : EIO));
+}
+
+// A device that is gone reports so without end, hence the port is closed at once. What was received before
+// stays, and a drained event that is owed is told, so that a sender goes on and meets the failing write.
+void SerialPort::Lose(const std::string& reason) {
+  TakeReceived();
+  lost_ = Report(reason);
+  port_.close();
+  timer_.Stop();
+  if (drain_owed_ || untold_ > 0) Post();
+}
+
+std::string SerialPort::Report(const std::string& reason) {
+  problem_ = ComportProblem(number_, device_, reason);
+  return reason;
+}
+
+void SerialPort::Post() {
+  if (posted_) return;
+  posted_ = true;
+  QCoreApplication::postEvent(this, new QEvent(kDelivery));
+}
+
+bool SerialPort::event(QEvent* event) {
+  if (event->type() != kDelivery) return QObject::event(event);
+  posted_ = false;
+  Deliver(Turn::kShort);
+  return true;
+}
+
+void SerialPort::Resume() {
+  if (!held_) return;
+  held_ = false;
+  Post();
+}
+
+void SerialPort::DeliverPending() {
+  // What the kernel holds counts as well: it came ahead of the tick.
+  if (port_.isOpen()) port_.waitForReadyRead(0);
+  Deliver(Turn::kWhole);
+}
+
+void SerialPort::TakeReceived() {
+  if (!port_.isOpen() || port_.bytesAvailable() == 0) return;
+  const auto bytes = port_.readAll().toStdString();
+  const auto text = marks_ ? marks_->Decode(bytes) : bytes;
+  received_.insert(received_.end(), text.begin(), text.end());
+  untold_ += text.size();
+}
+
+void SerialPort::Deliver(Turn turn) {
+  held_ = false;
+  TakeReceived();
+  const auto end = Clock::now() + kTurn;
+  while (DeliverOne()) {
+    if (turn == Turn::kWhole || Clock::now() < end) continue;
+    Post();
+    return;
+  }
+  if (turn == Turn::kShort && drain_owed_ && !held_) AwaitDrain();
+}
+
+// The unit answers what has left the transmitter, so a drained event is older than what waits to be read.
+bool SerialPort::DeliverOne() {
+  if (drain_owed_ && Drained()) return OfferDrained();
+  if (untold_ > 0) return OfferReceived();
+  return false;
+}
+
+bool SerialPort::OfferDrained() {
+  drain_owed_ = false;
+  const auto outcome = dispatch_(DrainedEvent{});
+  if (outcome == Outcome::kBusy) drain_owed_ = true;
+  return !Kept(outcome);
+}
+
+bool SerialPort::OfferReceived() {
+  --untold_;
+  const auto outcome = dispatch_(ReceivedEvent{});
+  if (outcome == Outcome::kBusy) ++untold_;
+  // Nobody will ask for it, and the next event must not find it in the place of its own.
+  if (outcome == Outcome::kRefused && received_.size() > untold_) received_.pop_front();
+  return !Kept(outcome);
+}
+
+bool SerialPort::Kept(Outcome outcome) {
+  if (outcome == Outcome::kEnded) Forget();
+  if (outcome == Outcome::kBusy) held_ = true;
+  return outcome == Outcome::kBusy || outcome == Outcome::kEnded;
+}
+
+// The lead is the stop bit: while it is on the line, the next character can already be handed over.
+SerialPort::Clock::time_point SerialPort::DrainDue() const {
+  return line_free_ - std::chrono::duration_cast<Clock::duration>(bit_time_);
+}
+
+bool SerialPort::Drained() const {
+  if (lost_) return true;
+  if (port_.bytesToWrite() > 0) return false;
+  return !CharactersWait(port_.handle()) && Clock::now() >= DrainDue();
+}
+
+// Never waits and never tells: this runs inside the handler that wrote.
+void SerialPort::ScheduleDrain() {
+  if (!drain_owed_) return;
+  const auto left = std::chrono::duration_cast<microseconds>(DrainDue() - Clock::now());
+  if (left <= kSpin) return Post();
+  timer_.Start(left -
+               std::max(kWakeAhead - std::chrono::duration_cast<microseconds>(bit_time_), microseconds(0)));
+}
+
+void SerialPort::AwaitDrain() {
+  const auto due = DrainDue();
+  if (due - Clock::now() > kSpin) return ScheduleDrain();
+  for (bool late = false; !late;) {
+    late = Clock::now() >= due;
+    if (!Drained()) continue;
+    OfferDrained();
+    return;
+  }
+  timer_.Start(retry_);
+  retry_ = std::min(retry_ * 2, kLastRetry);
+}
+
+}  // namespace ovl

@@ -1,0 +1,31 @@
+#include "panels/exceptions/exception_report.h"
+
+#include "panels/panel.h"
+
+namespace ovl {
+namespace {
+
+constexpr int kReportBit = 4;
+constexpr int kDuplicateLine = 2;
+
+}  // namespace
+
+void ApplyTimeStamp(Application& app) {
+  AssignPosition(app, app.frmMain.ComboExcepRe[1], app.image[FieldId::TIMESTAMP_ENA] == "00" ? 0 : 1);
+}
+
+void ApplyDuplicateLine(Application& app) {
+  AssignPosition(app, app.frmMain.ComboExcepRe[2], HexToInt(app.image[FieldId::DUPLINE_BAK]));
+}
+
+void ComboExcepRe_Click(Application& app, int index) {
+  if (!app.PanelsReady) return;
+  const auto& lists = app.frmMain.ComboExcepRe;
+  auto& flags = app.image[FieldId::COMMCFG_BAK];
+  flags = ByteToHex(WithBit(HexToInt(flags), kReportBit, lists[0].position == 1));
+  app.image[FieldId::TIMESTAMP_ENA] = lists[1].position == 1 ? "01" : "00";
+  if (index == kDuplicateLine) app.image[FieldId::DUPLINE_BAK] = ByteToHex(lists[2].position);
+  RefreshSavedIndexes(app, "ComboExcepRe", lists);
+}
+
+}  // namespace ovl

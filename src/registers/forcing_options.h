@@ -1,0 +1,11 @@
+// The options whose protocol dictates line settings: their picks move the selections of other panels too.
+#pragma once
+
+#include "core/application.h"
+
+namespace ovl {
+
+// Gives these options their handlers.
+void WireForcingOptions(RegisterOptions& form);
+
+}  // namespace ovl

@@ -1,9 +1,0 @@
-#pragma once
-
-#include "shell/form_window.h"
-
-namespace ovl {
-
-FormWindow* BuildAboutWindow(Bindings& bindings, QWidget* parent);
-
-}  // namespace ovl

@@ -1,0 +1,85 @@
+#include "start/version_menu.h"
+
+#include <algorithm>
+
+#include "core/actions.h"
+#include "core/settings.h"
+#include "firmware/variants.h"
+
+namespace ovl {
+namespace {
+
+std::string Joined(const FirmwareEntry& entry) {
+  return std::string(entry.version).append(entry.release);
+}
+
+VersionFamily& FamilyOf(MainForm& form, const FirmwareEntry& entry) {
+  auto& families = form.version_families;
+  if (families.empty() || families.back().parent.caption != entry.version) {
+    families.emplace_back().parent.caption = entry.version;
+  }
+  return families.back();
+}
+
+}  // namespace
+
+void BuildVersionMenu(Application& app) {
+  auto& form = app.frmMain;
+  for (const auto& entry : FirmwareTable()) {
+    if (!entry.in_menu) continue;
+    FamilyOf(form, entry).items.push_back(form.version_items.size());
+    auto& item = form.version_items.emplace_back();
+    item.caption = entry.release;
+    item.index = static_cast<int>(form.version_items.size()) - 1;
+    item.handler = VersionItem_Click;
+  }
+  for (auto& item : form.version_items) {
+    app.registry.Add(form.form, Joined(FirmwareTable()[static_cast<std::size_t>(item.index)]) + "mnu", item);
+  }
+  for (auto& family : form.version_families) {
+    app.registry.Add(form.form, family.parent.caption + "mnu", family.parent);
+  }
+}
+
+void MarkFirmwareMenu(Application& app, bool mark) {
+  const auto table = FirmwareTable();
+  const auto found = std::find_if(table.begin(), table.end(),
+                                  [&](const FirmwareEntry& entry) { return entry.Id() == app.firmware; });
+  if (found == table.end()) return;
+  app.FirmwareMark[Joined(*found)] = mark;
+  if (!found->in_menu) return;
+  app.frmMain.version_items[static_cast<std::size_t>(found - table.begin())].checked = true;
+}
+
+void ClearFirmwareMarks(Application& app) {
+  for (const auto& entry : FirmwareTable()) app.FirmwareMark[Joined(entry)] = false;
+}
+
+void StoreFirmware(Application& app) {
+  WriteSetting(app, SettingRoot::kLocalMachine, kSettingsKey, kVersionValue, app.firmware.version);
+  WriteSetting(app, SettingRoot::kLocalMachine, kSettingsKey, kReleaseValue, app.firmware.release);
+}
+
+void SelectFirmware(Application& app, const FirmwareEntry& entry) {
+  app.FirmwareMark[Joined(entry)] = true;
+  app.firmware = entry.Id();
+  StoreFirmware(app);
+  MsgBox(app, Box::kFirmwareChosen, Joined(entry));
+  EndProgram(app);
+}
+
+void VersionItem_Click(Application& app, int item) {
+  const auto& entry = FirmwareTable()[static_cast<std::size_t>(item)];
+  if (app.FirmwareMark[Joined(entry)]) return;
+  ClearFirmwareMarks(app);
+  SelectFirmware(app, entry);
+}
+
+void ApplyCompactFirmware(Application& app) {
+  if (app.firmware.version != "V1410") return;
+  app.firmware.version = "V1400";
+  if (app.firmware.release == "R1") app.firmware.release = "R7";
+  ApplyCompactForm(app.frmMain);
+}
+
+}  // namespace ovl

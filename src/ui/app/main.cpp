@@ -1,0 +1,64 @@
+#include <QApplication>
+#include <cstdlib>
+#include <iostream>
+#include <optional>
+
+#include "core/failure.h"
+#include "files/files.h"
+#include "host/program_folder.h"
+#include "ui/app/launch.h"
+#include "ui/app/program.h"
+#include "ui/dialogs/boxes.h"
+#include "ui/help/guide.h"
+#include "ui/help/help_pages.h"
+#include "ui/kit/theme.h"
+
+namespace {
+
+const QString kDescription = QStringLiteral(
+    "Configures an overlay unit over a serial line.\n"
+    "\n"
+    "Exit status: 0 done; 1 the program could not start or the guide could not be written; 2 wrong usage.");
+
+// Nothing when there is no folder to work in.
+std::optional<QString> FindFolder(const QString& given) {
+  try {
+    return ovl::ProgramFolder(given);
+  } catch (const ovl::Failure& failure) {
+    const auto text = "The program's folder cannot be made.\n\n" + failure.Subject() + ": " + failure.what();
+    std::cerr << "ovl: " << text << std::endl;
+    ovl::ShowBox(nullptr, {{}, text});
+    return std::nullopt;
+  }
+}
+
+int SaveGuide(const QString& file) {
+  const auto problem = ovl::WriteGuide(ovl::HelpPages(ovl::kEmbeddedHelp), {}, file);
+  if (problem.isEmpty()) return EXIT_SUCCESS;
+  std::cerr << "ovl: the guide cannot be written: " << problem.toLocal8Bit().constData() << "\n";
+  return EXIT_FAILURE;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const auto guide_option = QStringLiteral("guide");
+  ovl::CommandLine command_line(QStringLiteral("ovl"), kDescription);
+  command_line.AddOption(guide_option, QStringLiteral("FILE"),
+                         QStringLiteral("writes the installer's guide as a PDF and ends"));
+  if (const auto status = command_line.Read(argc, argv)) return *status;
+  ovl::OutliveSizeLimit();
+  std::optional<ovl::DisplayMessage> no_display(std::in_place);
+  QApplication application(argc, argv);
+  no_display.reset();
+  ovl::NameApplication();
+  QApplication::setQuitOnLastWindowClosed(false);
+  ovl::ApplyTheme(ovl::Theme::kDesktop);
+  if (const auto guide = command_line.Value(guide_option); !guide.isEmpty()) return SaveGuide(guide);
+  const auto folder = FindFolder(command_line.Folder());
+  if (!folder) return EXIT_FAILURE;
+  ovl::Program program(*folder, command_line.Store());
+  if (program.Start() == ovl::Outcome::kEnded) return EXIT_FAILURE;
+  program.GuardUnsaved();
+  return QApplication::exec();
+}

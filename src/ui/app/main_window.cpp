@@ -1,0 +1,198 @@
+#include "ui/app/main_window.h"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "host/text_codec.h"
+#include "ui/app/status_strip.h"
+#include "ui/dialogs/changes_window.h"
+#include "ui/pages/pages.h"
+
+namespace ovl {
+namespace {
+
+constexpr QSize kLeastSize(640, 360);  // the pages scroll
+
+// Another control may stand in the place of the one that had the focus by now.
+void FocusFrom(QWidget& start) {
+  auto* widget = &start;
+  do {
+    if (widget->isVisible() && widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus) != 0)
+      return widget->setFocus(Qt::OtherFocusReason);
+    widget = widget->nextInFocusChain();
+  } while (widget != &start);
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Bindings& bindings)
+    : bindings_(bindings),
+      tabs_(new QTabWidget),
+      status_(new StatusStrip(bindings)),
+      changes_(new ChangesWindow(bindings.Model(), this)) {
+  const auto& form = bindings_.Model().frmMain.form;
+  setObjectName(FromWindows1252(form.name));
+  setWindowTitle(FromWindows1252(form.caption));
+  setMinimumSize(kLeastSize);
+  resize(kStartSize.boundedTo(screen()->availableSize()));
+  BuildTabs();
+  BuildMenus();
+  statusBar()->setSizeGripEnabled(false);
+  statusBar()->addWidget(status_, 1);
+  changes_button_ = BuildChangesButton(bindings, *changes_);
+  changes_button_->setFixedHeight(StatusStrip::LineHeight(*changes_button_));
+  status_->AddButton(changes_button_);
+}
+
+void MainWindow::BuildTabs() {
+  tabs_->setDocumentMode(true);
+  tabs_->setObjectName(QStringLiteral("SSTab1"));
+  tabs_->tabBar()->setExpanding(false);
+  tabs_->tabBar()->setElideMode(Qt::ElideNone);
+  const auto& model = bindings_.Model().frmMain.SSTab1;
+  int tab = 0;
+  for (const auto& caption : model.captions) {
+    tabs_->addTab(new QWidget, FromWindows1252(caption));
+    const auto keys = QStringLiteral("Alt+%1").arg(tab + 1);
+    tabs_->setTabToolTip(tab, keys);
+    auto* shortcut = new QShortcut(QKeySequence(keys), this);
+    connect(shortcut, &QShortcut::activated, this, [this, tab] { tabs_->setCurrentIndex(tab); });
+    ++tab;
+  }
+  setCentralWidget(tabs_);
+  BuildPage(model.current);
+  connect(tabs_, &QTabWidget::currentChanged, this, [this](int current) {
+    if (BuildPage(current) && page_added) page_added();
+    status_->ShowTab(current);
+    RenewMnemonics();
+  });
+  FollowTabs();
+}
+
+bool MainWindow::BuildPage(int tab) {
+  auto* holder = tabs_->widget(tab);
+  if (holder->layout() != nullptr) return false;
+  auto* down = new QVBoxLayout(holder);
+  down->setContentsMargins(0, 0, 0, 0);
+  auto* page = kPages.at(static_cast<std::size_t>(tab))(bindings_);
+  down->addWidget(page);
+  page->show();
+  // What comes later stands at the end of the focus chain; the button of the status bar stays the last stop.
+  if (changes_button_ == nullptr) return true;
+  auto* last = previousInFocusChain();
+  while (last != changes_button_ && (last->focusPolicy() & Qt::TabFocus) == 0)
+    last = last->previousInFocusChain();
+  setTabOrder(last, changes_button_);
+  return true;
+}
+
+bool MainWindow::BuildNextPage() {
+  for (int tab = 0; tab < tabs_->count(); ++tab) {
+    if (BuildPage(tab)) return true;
+  }
+  return false;
+}
+
+void MainWindow::FollowTabs() {
+  const auto& model = bindings_.Model().frmMain.SSTab1;
+  bindings_.Follow([this, &model, captions = Shadow<std::vector<std::string>>()]() mutable {
+    if (!captions.Update(model.captions)) return false;
+    for (int at = 0; at < tabs_->count(); ++at) {
+      const auto caption = FromWindows1252(model.captions.at(static_cast<std::size_t>(at)));
+      tabs_->setTabText(at, caption);
+      tabs_->widget(at)->setAccessibleName(caption.trimmed());
+    }
+    return true;
+  });
+  bindings_.Follow([this, &model, current = Shadow<int>()]() mutable {
+    if (current.Update(model.current)) tabs_->setCurrentIndex(model.current);
+    return false;
+  });
+}
+
+void MainWindow::BuildMenus() {
+  auto& form = bindings_.Model().frmMain;
+  auto* file = bindings_.SubMenu(*menuBar(), form.FileMenu);
+  const auto keys = [](QAction* action, const QKeySequence& sequence) { action->setShortcut(sequence); };
+  keys(bindings_.Item(*file, form.OpenMenu), QKeySequence::Open);
+  keys(bindings_.Item(*file, form.menuSave), QKeySequence::Save);
+  bindings_.Item(*file, form.OpenHistory_menu);
+  file->addSeparator();
+  auto* changes = file->addAction(QStringLiteral("Changes"), changes_, &ChangesWindow::Open);
+  keys(changes, QKeySequence(Qt::CTRL | Qt::Key_D));
+  file->addSeparator();
+  keys(bindings_.Item(*file, form.menuExit), QKeySequence(Qt::CTRL | Qt::Key_Q));
+  BuildVersionMenu();
+  help_menu_ = bindings_.SubMenu(*menuBar(), form.HelpMenu);
+}
+
+void MainWindow::BuildVersionMenu() {
+  auto& form = bindings_.Model().frmMain;
+  auto* version = bindings_.SubMenu(*menuBar(), form.VersionMenu);
+  for (auto& family : form.version_families) {
+    auto* menu = bindings_.SubMenu(*version, family.parent);
+    for (const auto item : family.items) bindings_.Item(*menu, form.version_items.at(item));
+    // The family of the running firmware is marked as well, so that it is found without opening them all.
+    bindings_.Follow([menu, &form, &family, marked = Shadow<bool>()]() mutable {
+      const bool runs = std::any_of(family.items.begin(), family.items.end(), [&form](std::size_t item) {
+        return form.version_items.at(item).checked;
+      });
+      if (!marked.Update(runs)) return false;
+      menu->menuAction()->setCheckable(runs);
+      menu->menuAction()->setChecked(runs);
+      return false;
+    });
+  }
+}
+
+bool MainWindow::Follow() {
+  const auto& form = bindings_.Model().frmMain.form;
+  FollowEnabled();
+  const bool on_screen = form.loaded && form.visible;
+  if (on_screen == isVisible()) return false;
+  setVisible(on_screen);
+  if (auto* first = bindings_.WidgetOf(bindings_.Model().frmMain.ComboReg)) first->setFocus();
+  return true;
+}
+
+void MainWindow::FollowEnabled() {
+  const auto& form = bindings_.Model().frmMain.form;
+  if (!enabled_.Update(form.enabled)) return;
+  if (!form.enabled) last_focus_ = focusWidget();
+  // Not the window as a whole: that would disable the windows over it as well.
+  menuBar()->setEnabled(form.enabled);
+  tabs_->setEnabled(form.enabled);
+  changes_button_->setEnabled(form.enabled);
+  if (form.enabled && last_focus_ != nullptr) FocusFrom(*last_focus_);
+}
+
+void MainWindow::RenewMnemonics() {
+  menu_letters_ = AssignMenuMnemonics(*menuBar());
+  if (auto* page = tabs_->currentWidget()) AssignPageMnemonics(*page, menu_letters_);
+}
+
+void MainWindow::paintEvent(QPaintEvent* event) {
+  QMainWindow::paintEvent(event);
+  if (seen) std::exchange(seen, nullptr)();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  bindings_.Act(CloseEvent{&bindings_.Model().frmMain.form});
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  const bool activated = event->type() == QEvent::ActivationChange && isActiveWindow();
+  if (activated && !bindings_.Model().frmMain.form.enabled && held_back) held_back();
+}
+
+}  // namespace ovl

@@ -1,0 +1,182 @@
+#include "ui/app/program.h"
+
+#include <QApplication>
+#include <QFile>
+
+#include "changes/also_stored.h"
+#include "host/system_clock.h"
+#include "host/text_codec.h"
+#include "start/start_up.h"
+#include "ui/app/status_strip.h"
+#include "ui/dialogs/boxes.h"
+
+namespace ovl {
+namespace {
+
+constexpr int kFrame = 16;
+constexpr const char* kHowToSetUp = "\nRoot sets the firmware, for instance: ovl-setup V1400 R12";
+constexpr const char* kNotKept =
+    "\nThe next start serves the same firmware as this one. Root sets another: ovl-setup ";
+
+}  // namespace
+
+Program::Program(QString folder, QString store_folder)
+    : folder_(std::move(folder)),
+      store_(std::move(store_folder)),
+      port_(folder_, [this](const Event& event) { return Act(event); }) {
+  frame_.setSingleShot(true);
+  frame_.setInterval(kFrame);
+  frame_.callOnTimeout([this] { RefreshNow(); });
+  FillPlatform();
+}
+
+// Windows on their way out still tell of lost focus; there is nothing left for it to change.
+Program::~Program() {
+  if (unsaved_ && !app_.ended) unsaved_->Drop();
+  const auto going = std::move(windows_);
+  app_.ended = true;
+}
+
+void Program::FillPlatform() {
+  auto& platform = app_.platform;
+  platform.program_folder = QFile::encodeName(folder_).toStdString();
+  platform.show_message = [this](const MessageBox& box) {
+    RefreshNow();
+    ShowBox(windows_ ? windows_->Front() : nullptr, box, BoxDetail(box));
+  };
+  platform.ask_file = [this](const FileDialog& request) {
+    RefreshNow();
+    return AskFile(windows_ ? windows_->Front() : nullptr, request);
+  };
+  platform.read_setting = [this](std::string_view key, std::string_view value) {
+    auto found = store_.Read(key, value);
+    if (!found) store_problem_ = store_.WhyNotRead() + kHowToSetUp;
+    return found;
+  };
+  platform.write_setting = [this](std::string_view key, std::string_view value, std::string_view text) {
+    const bool kept = store_.Write(key, value, text);
+    if (!kept) {
+      store_problem_ =
+          store_.WhyNotWritten() + kNotKept + app_.firmware.version + " " + app_.firmware.release;
+    }
+    return kept;
+  };
+  platform.clock = LocalClockTime;
+  // The form remembers the request itself, and its window follows when it is shown.
+  platform.SetWindowPos = [](std::string_view) {};
+  platform.serial = port_.Operations();
+}
+
+Outcome Program::Start() {
+  const auto outcome = StartProgram(app_);
+  if (outcome == Outcome::kEnded) return outcome;
+  windows_ = std::make_unique<Windows>(app_, [this](const Event& event) { return Act(event); });
+  windows_->Main().Status().port_problem = [this] { return port_.LastProblem(); };
+  CollectTimers();
+  RefreshNow();
+  Follow(outcome);
+  return outcome;
+}
+
+void Program::GuardUnsaved() {
+  auto& status = windows_->Main().Status();
+  auto rescued = RescueCopies(folder_).join(QStringLiteral(", "));
+  if (!rescued.isEmpty()) {
+    rescued += QStringLiteral(": changes of a run that ended suddenly, for File > Open");
+    status.SetNotice(rescued);
+  }
+  unsaved_ = std::make_unique<UnsavedCopy>(app_, folder_);
+  unsaved_->problem = [&status, rescued](const QString& reason) {
+    const auto unguarded = QStringLiteral("Changes are not guarded against a sudden end. ") + reason;
+    status.SetNotice(reason.isEmpty() ? rescued : unguarded);
+  };
+  RefreshNow();
+}
+
+void Program::CollectTimers() {
+  for (const auto& control : app_.registry.All()) {
+    auto* const* timer = std::get_if<Timer*>(&control.control);
+    if (timer == nullptr) continue;
+    auto clock = std::make_unique<QTimer>();
+    clock->setTimerType(Qt::PreciseTimer);
+    clock->callOnTimeout([this, model = *timer] { Tick(*model); });
+    timers_.push_back({*timer, std::move(clock)});
+  }
+}
+
+Outcome Program::Act(const Event& event) {
+  const auto outcome = windows_ && !app_.handling && IsAct(event) ? ActAndTell(event) : Dispatch(app_, event);
+  if (unsaved_ && outcome == Outcome::kEnded) IsLeaving(event) ? unsaved_->Drop() : unsaved_->Keep();
+  Follow(outcome);
+  return outcome;
+}
+
+// Whether a person leaves by it, and not a file or an upload that ends the program.
+bool Program::IsLeaving(const Event& event) {
+  const auto& main = app_.frmMain;
+  if (const auto* close = std::get_if<CloseEvent>(&event)) return close->form == &main.form;
+  const auto* click = std::get_if<ClickEvent>(&event);
+  return click != nullptr && click->control == ControlRef(&app_.frmMain.menuExit);
+}
+
+Outcome Program::ActAndTell(const Event& event) {
+  const auto before = app_.image;
+  const auto outcome = Dispatch(app_, event);
+  if (outcome == Outcome::kDone) {
+    windows_->SetQuietLine(FromWindows1252(AlsoStored(app_, event, before)));
+  }
+  return outcome;
+}
+
+// After the outermost handler. An event that met a running one changes nothing but has to be taken back on
+// the screen.
+void Program::Follow(Outcome outcome) {
+  if (app_.handling) {
+    frame_.start();
+    return;
+  }
+  if (outcome == Outcome::kEnded) return End();
+  port_.Resume();
+  for (auto& timer : timers_) FollowTimer(timer);
+  if (windows_ && windows_->FormsMoved()) return RefreshNow();
+  if (!frame_.isActive()) frame_.start();
+}
+
+void Program::FollowTimer(TimerState& timer) {
+  const auto& model = *timer.model;
+  if (!model.enabled) return timer.clock->stop();
+  const bool runs =
+      timer.clock->isActive() && timer.starts == model.starts && timer.interval == model.interval;
+  if (runs) return;
+  timer.starts = model.starts;
+  timer.interval = model.interval;
+  timer.clock->start(model.interval);
+}
+
+// What the line has told by now comes first. A tick that meets a running handler is lost.
+void Program::Tick(Timer& timer) {
+  if (!app_.handling) port_.DeliverPending();
+  Act(TickEvent{&timer});
+}
+
+void Program::RefreshNow() {
+  frame_.stop();
+  if (!windows_ || app_.ended) return;
+  windows_->Refresh();
+  if (unsaved_) unsaved_->Follow();
+}
+
+void Program::End() {
+  frame_.stop();
+  for (auto& timer : timers_) timer.clock->stop();
+  if (windows_) windows_->HideAll();
+  QCoreApplication::exit(EXIT_SUCCESS);
+}
+
+// What the words of a box do not tell.
+QString Program::BoxDetail(const MessageBox& box) const {
+  if (!store_problem_.empty()) return FromSystem(store_problem_);
+  return box.tells_note ? FromSystem(app_.StatusNote) : QString();
+}
+
+}  // namespace ovl

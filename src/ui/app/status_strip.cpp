@@ -1,0 +1,181 @@
+#include "ui/app/status_strip.h"
+
+#include <QFile>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QStackedWidget>
+
+#include "host/comports.h"
+#include "host/text_codec.h"
+#include "ui/kit/theme.h"
+
+namespace ovl {
+namespace {
+
+constexpr int kHintTime = 6000;
+constexpr int kDotSize = 12;
+constexpr int kGap = 18;
+constexpr int kAboveLine = 6;
+constexpr int kStripMargin = 2;
+
+}  // namespace
+
+CutLabel::CutLabel(QWidget* parent) : QWidget(parent) {
+  setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+}
+
+void CutLabel::SetText(const QString& text) {
+  if (text == text_) return;
+  text_ = text;
+  setAccessibleName(text);
+  UpdateTip();
+  update();
+}
+
+QSize CutLabel::sizeHint() const {
+  return {fontMetrics().horizontalAdvance(text_), fontMetrics().height()};
+}
+
+void CutLabel::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setPen(palette().color(QPalette::WindowText));
+  painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter,
+                   fontMetrics().elidedText(text_, Qt::ElideRight, width()));
+}
+
+void CutLabel::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  UpdateTip();
+}
+
+void CutLabel::UpdateTip() {
+  setToolTip(fontMetrics().horizontalAdvance(text_) > width() ? text_ : QString());
+}
+
+StateDot::StateDot(QWidget* parent) : QWidget(parent) {
+  setFixedSize(kDotSize, kDotSize);
+}
+
+void StateDot::Set(LinkPicture picture) {
+  picture_ = picture;
+  update();
+}
+
+void StateDot::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF circle = QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5);
+  switch (picture_) {
+    case LinkPicture::kClosed:
+      painter.setPen(QPen(MutedColor(palette()), 2, Qt::SolidLine, Qt::RoundCap));
+      painter.drawLine(QPointF(circle.left(), circle.center().y()),
+                       QPointF(circle.right(), circle.center().y()));
+      break;
+    case LinkPicture::kOpen:
+    case LinkPicture::kAsked:
+    case LinkPicture::kScanning:
+      painter.setPen(QPen(palette().color(QPalette::WindowText), 1.6));
+      painter.drawEllipse(circle);
+      break;
+    default:
+      painter.setPen(Qt::NoPen);
+      painter.setBrush(AccentColor(palette()));
+      painter.drawEllipse(circle);
+  }
+}
+
+StatusStrip::StatusStrip(Bindings& bindings)
+    : app_(bindings.Model()),
+      dot_(new StateDot),
+      state_(new QLabel),
+      port_(new QLabel),
+      note_(new CutLabel),
+      firmware_(new QStackedWidget) {
+  auto* across = new QHBoxLayout(this);
+  across->setContentsMargins(kMargin - kFieldGap, kStripMargin, kFieldGap, kStripMargin);
+  setMinimumHeight(LineHeight(*this) + 2 * kStripMargin);
+  across->setSpacing(kRowGap);
+  state_->setObjectName(QStringLiteral("StatusState"));
+  port_->setObjectName(QStringLiteral("StatusPort"));
+  note_->setObjectName(QStringLiteral("StatusNote"));
+  across->addWidget(dot_);
+  across->addWidget(state_);
+  across->addSpacing(kGap - kRowGap);
+  across->addWidget(port_);
+  across->addSpacing(kGap - kRowGap);
+  across->addWidget(note_, 1);
+  across->addWidget(FirmwareLabels(bindings));
+  hint_end_.setSingleShot(true);
+  hint_end_.callOnTimeout(this, [this] {
+    hint_.clear();
+    note_->SetText(Note());
+  });
+  bindings.Follow([this, picture = Shadow<LinkPicture>(), port = Shadow<std::string>()]() mutable {
+    const auto now = LinkPictureOf(app_);
+    if (picture.Update(now)) {
+      dot_->Set(now);
+      state_->setText(WordOf(now));
+    }
+    const auto& comm = app_.frmMain.MSComm1;
+    const auto opened = comm.PortOpen ? comm.Settings : std::string();
+    if (port.Update(std::to_string(app_.PortNumber) + ' ' + opened)) port_->setText(PortText());
+    note_->SetText(Note());
+    return false;
+  });
+}
+
+QWidget* StatusStrip::FirmwareLabels(Bindings& bindings) {
+  const auto& form = bindings.Model().frmMain;
+  for (std::size_t tab = 0; tab < form.lbVersionID.size(); ++tab) {
+    auto* page = new QWidget;
+    auto* across = new QHBoxLayout(page);
+    across->setContentsMargins(0, 0, 0, 0);
+    const auto name = "lbVersionID(" + std::to_string(tab) + ")";
+    across->addWidget(bindings.Make(bindings.Named(form.form, name), QStringLiteral("Firmware")));
+    firmware_->addWidget(page);
+  }
+  firmware_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  return firmware_;
+}
+
+int StatusStrip::LineHeight(const QWidget& widget) {
+  return widget.fontMetrics().height() + kAboveLine;
+}
+
+void StatusStrip::AddButton(QPushButton* button) {
+  auto* across = static_cast<QHBoxLayout*>(layout());
+  across->insertWidget(across->indexOf(firmware_), button);
+}
+
+void StatusStrip::ShowHint(const QString& hint) {
+  hint_ = hint;
+  note_->SetText(Note());
+  hint_end_.start(kHintTime);
+}
+
+void StatusStrip::ShowTab(int tab) {
+  // The labels of the tabs stand in the order 0, 1, 2, 5, 4, 6, 3.
+  constexpr std::array kLabelOfTab{0, 1, 2, 5, 4, 6, 3};
+  firmware_->setCurrentIndex(kLabelOfTab.at(static_cast<std::size_t>(tab)));
+}
+
+QString StatusStrip::Note() const {
+  if (!hint_.isEmpty()) return hint_;
+  const auto problem = port_problem ? port_problem() : QString();
+  if (!problem.isEmpty()) return problem;
+  return app_.StatusNote.empty() ? notice_ : FromSystem(app_.StatusNote);
+}
+
+QString StatusStrip::PortText() const {
+  const int number = app_.PortNumber;
+  if (number == 0) return QStringLiteral("No comport chosen");
+  const auto device = ComportDevice(QFile::decodeName(app_.platform.program_folder.c_str()), number);
+  auto text = QStringLiteral("Comport %1, %2").arg(QString::number(number), device);
+  if (!app_.frmMain.MSComm1.PortOpen) return text;
+  return text + QStringLiteral(", ") +
+         FromWindows1252(app_.frmMain.MSComm1.Settings).replace(QLatin1Char(','), QLatin1Char(' '));
+}
+
+}  // namespace ovl

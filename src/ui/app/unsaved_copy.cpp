@@ -1,0 +1,106 @@
+#include "ui/app/unsaved_copy.h"
+
+#include <QFile>
+#include <utility>
+
+#include "core/configuration.h"
+#include "core/failure.h"
+#include "files/files.h"
+#include "host/text_codec.h"
+#include "image/record_stream.h"
+
+namespace ovl {
+namespace {
+
+constexpr int kSoon = 1000;
+constexpr QLatin1String kUnsaved("unsaved"), kRescued("rescued");
+
+QString NameOf(QLatin1String what, const QString& firmware, int number) {
+  return QStringLiteral("%1 %2 %3.bin").arg(what, firmware).arg(number);
+}
+
+// A lock is free once its process is gone, however long it has stood.
+std::unique_ptr<QLockFile> Lock(const QString& path) {
+  auto lock = std::make_unique<QLockFile>(path + QStringLiteral(".lock"));
+  lock->setStaleLockTime(0);
+  return lock;
+}
+
+int FreeNumber(const QDir& folder, QLatin1String what, const QString& firmware, int from = 1) {
+  while (folder.exists(NameOf(what, firmware, from))) ++from;
+  return from;
+}
+
+// A lock tells no reason.
+QString WhyNotCreated(const QString& path) {
+  QFile file(path);
+  if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) return file.errorString();
+  file.remove();
+  return QStringLiteral("its lock cannot be made");
+}
+
+}  // namespace
+
+QStringList RescueCopies(const QString& folder) {
+  const QDir in(folder);
+  QStringList rescued;
+  for (const auto& name : in.entryList({kUnsaved + QStringLiteral(" * *.bin")}, QDir::Files)) {
+    const auto lock = Lock(in.filePath(name));
+    if (!lock->tryLock(0)) continue;
+    const auto firmware = name.section(QLatin1Char(' '), 1, 1);
+    const auto kept = NameOf(kRescued, firmware, FreeNumber(in, kRescued, firmware));
+    if (QFile::rename(in.filePath(name), in.filePath(kept))) rescued.append(kept);
+  }
+  return rescued;
+}
+
+UnsavedCopy::UnsavedCopy(const Application& app, const QString& folder) : app_(app), folder_(folder) {
+  soon_.setSingleShot(true);
+  soon_.setInterval(kSoon);
+  soon_.callOnTimeout([this] { Keep(); });
+}
+
+// A name that nothing has and nobody else is about to take.
+bool UnsavedCopy::TakeName() {
+  constexpr int kNamesToTry = 100;
+  const auto firmware = FromWindows1252(app_.firmware.Joined());
+  for (int number = 0; lock_ == nullptr && number < kNamesToTry;) {
+    number = FreeNumber(folder_, kUnsaved, firmware, number + 1);
+    path_ = folder_.filePath(NameOf(kUnsaved, firmware, number));
+    auto lock = Lock(path_);
+    if (lock->tryLock(0))
+      lock_ = std::move(lock);
+    else if (lock->error() != QLockFile::LockFailedError)
+      break;
+  }
+  return lock_ != nullptr;
+}
+
+void UnsavedCopy::Follow() {
+  if (seen_.Update(app_.image) && !soon_.isActive()) soon_.start();
+}
+
+void UnsavedCopy::Keep() {
+  soon_.stop();
+  if (app_.image == app_.known_image) return Drop();
+  if (!TakeName()) return Tell(path_ + QStringLiteral(": ") + WhyNotCreated(path_));
+  try {
+    WriteWhole(QFile::encodeName(path_).toStdString(), ReopenableStream(app_) + "\r\n");
+    Tell({});
+  } catch (const Failure& failure) {
+    Tell(FromSystem(failure.Subject() + ": " + failure.what()));
+  }
+}
+
+void UnsavedCopy::Tell(const QString& reason) {
+  if (problem) problem(reason);
+}
+
+void UnsavedCopy::Drop() {
+  soon_.stop();
+  if (lock_ == nullptr) return;
+  QFile::remove(path_);
+  lock_.reset();
+}
+
+}  // namespace ovl

@@ -1,0 +1,52 @@
+// A copy of what is in the program and perhaps nowhere else, for the case that the program is ended from
+// outside: its display goes away, the machine is switched off, somebody kills it.
+#pragma once
+
+#include <QDir>
+#include <QLockFile>
+#include <QStringList>
+#include <QTimer>
+#include <functional>
+#include <memory>
+
+#include "ui/kit/bindings.h"
+
+namespace ovl {
+
+// Gives the copies that ended programs left in the folder lasting names ("rescued V1400R12 1.bin": the
+// firmware under which File > Open reads them). Copies of programs that still run are locked. Returns the new
+// names.
+QStringList RescueCopies(const QString& folder);
+
+class UnsavedCopy {
+ public:
+  // The copy stands in the folder under a name that is this object's as long as it is locked. The application
+  // object must outlive this.
+  UnsavedCopy(const Application& app, const QString& folder);
+
+  // Has the copy written soon if the image is another one by now, or taken away once nothing differs from
+  // what was last loaded.
+  void Follow();
+
+  // Writes the copy at once, or takes it away.
+  void Keep();
+
+  // The program ends as the person wanted: no copy is left.
+  void Drop();
+
+  // Is told why the copy cannot be kept, with an empty reason when it is kept.
+  std::function<void(const QString& reason)> problem;
+
+ private:
+  bool TakeName();
+  void Tell(const QString& reason);
+
+  const Application& app_;
+  QDir folder_;
+  QString path_;
+  std::unique_ptr<QLockFile> lock_;
+  QTimer soon_;
+  Shadow<ConfigImage> seen_;
+};
+
+}  // namespace ovl

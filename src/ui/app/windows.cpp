@@ -1,0 +1,158 @@
+#include "ui/app/windows.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QFile>
+#include <QMenu>
+#include <algorithm>
+
+#include "ui/app/status_strip.h"
+#include "ui/dialogs/about_window.h"
+#include "ui/dialogs/boxes.h"
+#include "ui/dialogs/link_windows.h"
+#include "ui/dialogs/register_windows.h"
+#include "ui/dialogs/text_windows.h"
+#include "ui/help/manuals.h"
+#include "ui/kit/mnemonics.h"
+
+namespace ovl {
+namespace {
+
+constexpr int kNesting = 12;  // layouts within layouts, at the most
+
+// Layouts learn of a change from the inside out, one level in each round of events. Settled at once, no state
+// on the way is painted.
+void SettleLayouts() {
+  for (int level = 0; level < kNesting; ++level) {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+  }
+}
+
+}  // namespace
+
+Windows::Windows(Application& app, ActFunction act)
+    : app_(app),
+      bindings_(app, std::move(act), [this](const QString& hint) { main_->Status().ShowHint(hint); }),
+      main_(std::make_unique<MainWindow>(bindings_)),
+      forms_({{app.frmSettSR.form, BuildPortSettingsWindow, false},
+              {app.frmScanBProgress.form, BuildScanProgressWindow, false},
+              {app.frmOK_buttom.form, BuildTransferEndWindow, false},
+              {app.frmSetEXCPSTR.form, BuildTextEntryWindow, false},
+              {app.frmSetRange.form, BuildRangeWindow, false},
+              {app.frmMicros.form, BuildMicrosWindow, true},
+              {app.FrmSubMenu.form, BuildSubMenuWindow, true},
+              {app.frmView.form, BuildViewerWindow, true},
+              {app.frmAbout.form, BuildAboutWindow, true}}) {
+  idle_.callOnTimeout([this] {
+    if (app_.ended || !BuildNext()) return idle_.stop();
+    Refresh();
+  });
+  main_->page_added = [this] { Refresh(); };
+  main_->seen = [this] { idle_.start(0); };
+  main_->held_back = [this] {
+    if (auto* front = Front(); front != main_.get()) front->activateWindow();
+  };
+  FillHelpMenu();
+}
+
+void Windows::FillHelpMenu() {
+  const auto folder = QFile::decodeName(app_.platform.program_folder.c_str());
+  help_ = std::make_unique<HelpDesk>(*main_, folder);
+  auto& menu = main_->HelpMenu();
+  auto* contents = menu.addAction(QStringLiteral("Help"), help_.get(), &HelpDesk::OpenPageInFront);
+  contents->setShortcut(QKeySequence::HelpContents);
+  contents->setObjectName(QStringLiteral("menuHelp"));
+  auto* manuals = menu.addMenu(QStringLiteral("Manual"));
+  manuals->setObjectName(QStringLiteral("menuManual"));
+  FillManualMenu(*manuals, ManualFolder(folder), [this](const QString& problem) {
+    ShowBox(main_.get(), {{}, problem.toStdString(), BoxIcon::kNone, "The manual folder cannot be opened"});
+  });
+  menu.addSeparator();
+  bindings_.Item(menu, app_.frmMain.menuAbout);
+}
+
+void Windows::Build(Follower& form) {
+  building_ = true;
+  form.window = form.build(bindings_, main_.get());
+  building_ = false;
+  if (form.beside) form.window->StandBeside();
+}
+
+bool Windows::BuildNext() {
+  if (main_->BuildNextPage()) return true;
+  const auto missing =
+      std::find_if(forms_.begin(), forms_.end(), [](const Follower& form) { return form.window == nullptr; });
+  if (missing == forms_.end()) return false;
+  Build(*missing);
+  return true;
+}
+
+void Windows::BuildAll() {
+  while (BuildNext()) continue;
+  Refresh();
+}
+
+void Windows::Refresh() {
+  if (building_) return;
+  for (auto& form : forms_) {
+    if (form.window == nullptr && form.Wanted()) Build(form);
+  }
+  const bool reshaped = bindings_.Refresh();
+  if (reshaped) RenewMnemonics();
+  ShowForms();
+  if (reshaped) SettleLayouts();
+}
+
+void Windows::RenewMnemonics() {
+  main_->RenewMnemonics();
+  for (const auto& form : forms_) {
+    if (form.window != nullptr && form.window->isVisible()) AssignPageMnemonics(*form.window, {});
+  }
+}
+
+void Windows::ShowForms() {
+  main_->Follow();
+  for (auto& form : forms_) {
+    if (form.window == nullptr) continue;
+    form.window->Follow();
+    form.focus.Follow(bindings_, form.form);
+  }
+  main_focus_.Follow(bindings_, app_.frmMain.form);
+}
+
+bool Windows::FormsMoved() const {
+  const auto moved = [](const QWidget* window, const Form& form) {
+    return (window != nullptr && window->isVisible()) != (form.loaded && form.visible);
+  };
+  return moved(main_.get(), app_.frmMain.form) ||
+         std::any_of(forms_.begin(), forms_.end(),
+                     [&](const Follower& form) { return moved(form.window, form.form); });
+}
+
+void Windows::HideAll() {
+  for (const auto& form : forms_) {
+    if (form.window != nullptr) form.window->hide();
+  }
+  main_->hide();
+}
+
+QWidget* Windows::Front() const {
+  for (const auto& form : forms_) {
+    if (form.window == nullptr || !form.window->isVisible()) continue;
+    if (!form.beside || form.window->isActiveWindow()) return form.window;
+  }
+  return main_.get();
+}
+
+FormWindow* Windows::WindowOf(const Form& form) {
+  const auto found =
+      std::find_if(forms_.begin(), forms_.end(), [&](const Follower& at) { return &at.form == &form; });
+  if (found == forms_.end()) return nullptr;
+  if (found->window == nullptr) {
+    Build(*found);
+    Refresh();
+  }
+  return found->window;
+}
+
+}  // namespace ovl

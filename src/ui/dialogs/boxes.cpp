@@ -1,0 +1,72 @@
+#include "ui/dialogs/boxes.h"
+
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+#include "host/text_codec.h"
+
+namespace ovl {
+namespace {
+
+const QString kProgramName = QStringLiteral("OVL Software");
+
+// "Text Files(*.txt)|*.txt|..." as the toolkit's rows of "Text Files (*.txt)".
+QStringList NameFilters(const std::string& filter) {
+  const auto parts = FromWindows1252(filter).split(QLatin1Char('|'));
+  QStringList filters;
+  for (qsizetype at = 0; at + 1 < parts.size(); at += 2) {
+    auto words = parts[at];
+    words.truncate(words.contains(QLatin1Char('(')) ? words.indexOf(QLatin1Char('(')) : words.size());
+    auto patterns = parts[at + 1];
+    patterns.replace(QLatin1Char(';'), QLatin1Char(' ')).replace(QStringLiteral("*.*"), QStringLiteral("*"));
+    filters.append(words.trimmed() + QStringLiteral(" (") + patterns + QLatin1Char(')'));
+  }
+  return filters;
+}
+
+// The ending that a name without one gets: that of the chosen filter, if it has just one.
+QString SuffixOf(const QString& filter) {
+  const auto pattern = filter.section(QLatin1Char('('), 1).chopped(1);
+  const bool single = pattern.startsWith(QStringLiteral("*.")) && !pattern.contains(QLatin1Char(' '));
+  return single ? pattern.mid(2) : QString();
+}
+
+}  // namespace
+
+void ShowBox(QWidget* parent, const MessageBox& box, const QString& detail) {
+  const auto icon = box.icon == BoxIcon::kInformation ? QMessageBox::Information : QMessageBox::NoIcon;
+  const auto title = box.title.empty() ? kProgramName : FromWindows1252(box.title);
+  QMessageBox window(icon, title, FromSystem(box.text), QMessageBox::Ok, parent);
+  window.setTextFormat(Qt::PlainText);
+  window.setInformativeText(detail);
+  window.setObjectName(QStringLiteral("MessageBox"));
+  window.setProperty(kBoxTopic, FromWindows1252(box.topic));
+  window.exec();
+}
+
+std::optional<FileAnswer> AskFile(QWidget* parent, const FileDialog& request) {
+  const bool saves = request.kind == FileDialog::Kind::kSave;
+  QFileDialog dialog(parent, saves ? QStringLiteral("Save") : QStringLiteral("Open"));
+  dialog.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialog.setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  const auto filters = NameFilters(request.filter);
+  if (!filters.isEmpty()) {
+    dialog.setNameFilters(filters);
+    const auto chosen = filters.value(request.filter_index - 1, filters.front());
+    dialog.selectNameFilter(chosen);
+    dialog.setDefaultSuffix(SuffixOf(chosen));
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
+                     [&dialog](const QString& filter) { dialog.setDefaultSuffix(SuffixOf(filter)); });
+  }
+  const QFileInfo start(QFile::decodeName(request.file_name.c_str()));
+  if (!request.file_name.empty()) {
+    dialog.setDirectory(start.absolutePath());
+    dialog.selectFile(start.fileName());
+  }
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+  return FileAnswer{QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString(), 0};
+}
+
+}  // namespace ovl

@@ -1,0 +1,124 @@
+#include "ui/dialogs/form_window.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "host/text_codec.h"
+#include "ui/kit/layout.h"
+#include "ui/kit/mnemonics.h"
+
+namespace ovl {
+namespace {
+
+constexpr int kGapToParent = 8;
+constexpr int kFromTop = 96;
+
+}  // namespace
+
+FormWindow::FormWindow(Bindings& bindings, Form& form, QWidget* parent)
+    : QDialog(parent), bindings_(bindings), form_(form) {
+  setObjectName(FromWindows1252(form.name));
+  setModal(false);
+  bindings_.Follow([this, caption = Shadow<std::string>()]() mutable {
+    if (caption.Update(form_.caption)) setWindowTitle(FromSystem(form_.caption));
+    if (enabled_.Update(form_.enabled)) setEnabled(form_.enabled);
+    return false;
+  });
+}
+
+bool FormWindow::Follow() {
+  if (OnScreen() == isVisible()) {
+    // Another frame may show by now.
+    if (isVisible() && focusWidget() != nullptr && !focusWidget()->isVisible()) focusNextChild();
+    return false;
+  }
+  if (OnScreen()) {
+    Open();
+  } else {
+    hide();
+  }
+  return true;
+}
+
+void FormWindow::Open() {
+  setWindowFlag(Qt::WindowStaysOnTopHint, form_.top_most);
+  for (auto* button : findChildren<QPushButton*>()) button->installEventFilter(this);
+  // A window of its own choice of size may take all of a small screen; one that needs more is scrolled.
+  const auto room = screen()->availableSize();
+  if (!scrolled_ && minimumSizeHint().boundedTo(room) != minimumSizeHint()) Scroll();
+  resize(sizeHint().boundedTo(room));
+  if (beside_) PlaceBeside();
+  AssignPageMnemonics(*this, {});
+  show();
+  raise();
+  activateWindow();
+  if (focusWidget() == nullptr) focusNextChild();
+}
+
+void FormWindow::Scroll() {
+  scrolled_ = true;
+  const auto size = sizeHint();
+  auto* content = new QWidget;
+  content->setLayout(layout());
+  auto* around = new QVBoxLayout(this);
+  around->setContentsMargins(0, 0, 0, 0);
+  auto* area = Scrolled(content);
+  const int bar = area->verticalScrollBar()->sizeHint().width();
+  area->setMinimumWidth(std::min(size.width() + bar, screen()->availableSize().width()));
+  around->addWidget(area);
+}
+
+void FormWindow::PlaceBeside() {
+  const auto parent = parentWidget()->window()->frameGeometry();
+  const auto room = parentWidget()->screen()->availableGeometry();
+  const int right = std::min(parent.right() + kGapToParent, room.right() - width());
+  const int low = std::min(parent.top() + kFromTop, room.bottom() - height());
+  move(std::max(right, room.left()), std::max(low, room.top()));
+}
+
+void FormWindow::reject() {
+  bindings_.Act(CloseEvent{&form_});
+}
+
+bool FormWindow::TakesEnter(const QKeyEvent& event) const {
+  return form_.enter != nullptr && (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter);
+}
+
+// A button that has the focus would take the key for itself.
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return QDialog::eventFilter(watched, event);
+  auto* key = static_cast<QKeyEvent*>(event);
+  if (!TakesEnter(*key)) return QDialog::eventFilter(watched, event);
+  keyPressEvent(key);
+  return true;
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  if (TakesEnter(*event)) {
+    bindings_.Act(KeyEvent{&form_, Key::kEnter});
+  } else if (event->key() == Qt::Key_Escape && form_.escape != nullptr) {
+    bindings_.Act(KeyEvent{&form_, Key::kEscape});
+  } else {
+    QDialog::keyPressEvent(event);
+  }
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  bindings_.Act(CloseEvent{&form_});
+}
+
+void FocusFollower::Follow(const Bindings& bindings, const Form& form) {
+  if (seen_ == form.focus_requests) return;
+  seen_ = form.focus_requests;
+  auto* widget = form.focus == nullptr ? nullptr : bindings.WidgetOf(*form.focus);
+  if (widget != nullptr) widget->setFocus(Qt::OtherFocusReason);
+}
+
+}  // namespace ovl

@@ -1,0 +1,204 @@
+#include "ui/dialogs/text_windows.h"
+
+#include <QFocusEvent>
+#include <QFontDatabase>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "host/text_codec.h"
+#include "panels/exceptions/text_entry.h"
+#include "ui/kit/theme.h"
+
+namespace ovl {
+namespace {
+
+constexpr int kButtonWidth = 112;
+constexpr int kTextWidth = 440;
+constexpr QSize kViewerSize(720, 480);
+constexpr int kTextMargin = 12;
+
+QWidget* Part(Bindings& bindings, const Form& form, std::string_view name, const QString& label = {}) {
+  return bindings.Make(bindings.Named(form, name), label);
+}
+
+QVBoxLayout* WindowLayout(FormWindow& window) {
+  auto* down = new QVBoxLayout(&window);
+  down->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  down->setSpacing(kSectionGap);
+  return down;
+}
+
+// Clear at the left, the default at the right.
+QHBoxLayout* Buttons(Bindings& bindings, const Form& form, const char* set_name, const char* clear_name) {
+  auto* across = new QHBoxLayout;
+  auto* set = static_cast<QPushButton*>(Part(bindings, form, set_name));
+  auto* clear = static_cast<QPushButton*>(Part(bindings, form, clear_name));
+  for (auto* button : {clear, set}) button->setMinimumWidth(kButtonWidth);
+  set->setDefault(true);
+  across->addWidget(clear);
+  across->addStretch(1);
+  across->addWidget(set);
+  return across;
+}
+
+QLabel* LabelFor(QWidget& field) {
+  auto* label = new QLabel(field.accessibleName());
+  label->setBuddy(&field);
+  return label;
+}
+
+// Marks the whole text whenever the field gets the focus. A click that brings the focus would set the caret
+// afterwards.
+class WholeTextMarker : public QObject {
+ public:
+  explicit WholeTextMarker(QLineEdit& line) : QObject(&line), line_(line) { line.installEventFilter(this); }
+
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != QEvent::FocusIn) return false;
+    const bool by_click = static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason;
+    if (by_click) QTimer::singleShot(0, &line_, &QLineEdit::selectAll);
+    if (!by_click) line_.selectAll();
+    return false;
+  }
+
+ private:
+  QLineEdit& line_;
+};
+
+// How full the text is. Blanks that fill it up leave room.
+QString TextHint(const Application& app) {
+  const auto& box = app.frmSetEXCPSTR.Text1;
+  const auto seen = box.text.find_last_not_of(' ') + 1;
+  auto hint = QStringLiteral("%1 of %2 characters").arg(seen).arg(box.max_length);
+  if (app.TextEntryMode == static_cast<int>(TextTarget::kException)) {
+    hint += QStringLiteral(". A ? stands for any character");
+  }
+  return hint + QLatin1Char('.');
+}
+
+// One value: integer digits, separator, decimal digits.
+struct ValueRow {
+  const char* whole;
+  const char* decimals;
+};
+
+void AddValue(Bindings& bindings, QGridLayout& grid, int row, const ValueRow& value, QLabel* separator) {
+  const auto& form = bindings.Model().frmSetRange.form;
+  auto* whole = static_cast<QLineEdit*>(Part(bindings, form, value.whole));
+  auto* decimals = static_cast<QLineEdit*>(Part(bindings, form, value.decimals));
+  const auto room = [](QLineEdit& line, int digits) {
+    line.setFixedWidth(line.fontMetrics().horizontalAdvance(QString(digits + 2, QLatin1Char('0'))));
+  };
+  room(*whole, 8);
+  room(*decimals, 2);
+  whole->setAlignment(Qt::AlignRight);
+  grid.addWidget(LabelFor(*whole), row, 0);
+  grid.addWidget(whole, row, 1);
+  grid.addWidget(separator, row, 2);
+  grid.addWidget(decimals, row, 3);
+}
+
+// A second place for the one label of the model.
+QLabel* Likeness(Bindings& bindings, const Label& label) {
+  auto* copy = new QLabel;
+  copy->setTextFormat(Qt::PlainText);
+  bindings.Follow([copy, &label, caption = Shadow<std::string>()]() mutable {
+    if (caption.Update(label.caption)) copy->setText(FromWindows1252(label.caption));
+    return false;
+  });
+  return copy;
+}
+
+// Opens at a good size for a text; a person may make it larger or smaller.
+class ViewerPane : public QWidget {
+ public:
+  QSize sizeHint() const override { return kViewerSize; }
+};
+
+}  // namespace
+
+FormWindow* BuildTextEntryWindow(Bindings& bindings, QWidget* parent) {
+  auto& app = bindings.Model();
+  auto& model = app.frmSetEXCPSTR;
+  auto* window = new FormWindow(bindings, model.form, parent);
+  auto* down = WindowLayout(*window);
+  auto* fields = new QVBoxLayout;
+  fields->setSpacing(kRowGap);
+  auto* text = static_cast<QLineEdit*>(Part(bindings, model.form, "Text1"));
+  text->setMinimumWidth(kTextWidth);
+  new WholeTextMarker(*text);
+  auto* hint = MutedLabel({});
+  hint->setObjectName(QStringLiteral("TextHint"));
+  fields->addWidget(LabelFor(*text));
+  fields->addWidget(text);
+  fields->addWidget(hint);
+  down->addLayout(fields);
+  down->addLayout(Buttons(bindings, model.form, "cmdSET", "cmdClr"));
+  bindings.Follow([hint, &app, shown = Shadow<QString>()]() mutable {
+    const auto words = TextHint(app);
+    if (shown.Update(words)) hint->setText(words);
+    return false;
+  });
+  return window;
+}
+
+FormWindow* BuildRangeWindow(Bindings& bindings, QWidget* parent) {
+  auto& model = bindings.Model().frmSetRange;
+  auto* window = new FormWindow(bindings, model.form, parent);
+  auto* down = WindowLayout(*window);
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(kFieldGap);
+  grid->setVerticalSpacing(kRowGap);
+  grid->setColumnStretch(4, 1);
+  auto* separator = static_cast<QLabel*>(Part(bindings, model.form, "lbDec"));
+  AddValue(bindings, *grid, 0, {"Range_Hi", "SubRange_Hi"}, separator);
+  AddValue(bindings, *grid, 1, {"Range_Low", "SubRange_Low"}, Likeness(bindings, model.lbDec));
+  auto* list = Part(bindings, model.form, "ComboDec");
+  grid->addWidget(LabelFor(*list), 2, 0);
+  grid->addWidget(list, 2, 1, 1, 4, Qt::AlignLeft);
+  down->addLayout(grid);
+  down->addWidget(
+      MutedLabel(QStringLiteral("The separator holds for all exceptions and is stored at once.")));
+  down->addLayout(Buttons(bindings, model.form, "cmdSetRange", "cmdClr"));
+
+  auto* first = static_cast<QLineEdit*>(bindings.WidgetOf(model.Range_Hi));
+  bindings.Follow([first, &form = model.form, open = Shadow<bool>()]() mutable {
+    if (!open.Update(form.visible) || !form.visible) return false;
+    first->setFocus(Qt::TabFocusReason);
+    first->selectAll();
+    return false;
+  });
+  return window;
+}
+
+FormWindow* BuildViewerWindow(Bindings& bindings, QWidget* parent) {
+  auto& model = bindings.Model().frmView;
+  auto* window = new FormWindow(bindings, model.form, parent);
+  window->setWindowFlag(Qt::WindowMaximizeButtonHint);
+  window->setSizeGripEnabled(true);
+  auto* down = new QVBoxLayout(window);
+  down->setContentsMargins(0, 0, 0, 0);
+  auto* pane = new ViewerPane;
+  auto* inside = new QVBoxLayout(pane);
+  inside->setContentsMargins(0, 0, 0, 0);
+  auto* lines = static_cast<QPlainTextEdit*>(Part(bindings, model.form, "Text"));
+  lines->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  lines->setLineWrapMode(QPlainTextEdit::NoWrap);
+  lines->setUndoRedoEnabled(false);
+  lines->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  lines->setFrameShape(QFrame::NoFrame);
+  const QSignalBlocker no_change_of_text(lines);
+  lines->document()->setDocumentMargin(kTextMargin);
+  inside->addWidget(lines);
+  down->addWidget(pane);
+  return window;
+}
+
+}  // namespace ovl

@@ -1,0 +1,96 @@
+#include "ui/help/guide.h"
+
+#include <QDir>
+#include <QImage>
+#include <QPdfWriter>
+#include <QSaveFile>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
+#include <QUrl>
+#include <algorithm>
+
+#include "ui/help/help_style.h"
+#include "ui/kit/theme.h"
+
+namespace ovl {
+namespace {
+
+constexpr qreal kPictureWidth = 560;
+constexpr qreal kPictureScale = 0.75;
+constexpr qreal kFontSize = 9;
+const QColor kRule(0xb0, 0xb0, 0xb0);
+const QString kTitle = QStringLiteral("OVL Software: installer's guide");
+
+// A picture is never wider than the column, and keeps its shape. The guide keeps the pictures by their names.
+void TakePictures(QTextDocument& guide, QTextDocument& page, const QString& pictures) {
+  for (auto block = page.begin(); block.isValid(); block = block.next()) {
+    const auto first = block.begin();
+    if (first.atEnd()) continue;
+    const auto fragment = first.fragment();
+    if (!fragment.charFormat().isImageFormat()) continue;
+    auto format = fragment.charFormat().toImageFormat();
+    const QImage picture(QDir(pictures).filePath(format.name()));
+    guide.addResource(QTextDocument::ImageResource, QUrl(format.name()), picture);
+    format.setWidth(std::min<qreal>(picture.width() * kPictureScale, kPictureWidth));
+    QTextCursor cursor(block);
+    cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
+    cursor.setCharFormat(format);
+  }
+}
+
+void AddPage(QTextDocument& guide, const QString& text, const QString& pictures) {
+  QTextDocument page;
+  page.setDefaultFont(guide.defaultFont());
+  page.setMarkdown(text);
+  TakePictures(guide, page, pictures);
+  StyleHelp(page, kRule);
+  QTextCursor end(&guide);
+  end.movePosition(QTextCursor::End);
+  QTextBlockFormat begin;
+  begin.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+  end.insertBlock(begin);
+  const auto head = end.position();
+  end.insertFragment(QTextDocumentFragment(&page));
+  // The first block of what is inserted brings a format of its own.
+  QTextCursor first(&guide);
+  first.setPosition(head);
+  first.mergeBlockFormat(begin);
+}
+
+void AddFront(QTextDocument& guide, const HelpPages& pages) {
+  auto text = QStringLiteral("# ") + kTitle + QStringLiteral("\n\n");
+  for (const auto& entry : pages.Contents()) {
+    text += entry.file.isEmpty() ? QStringLiteral("\n**%1**\n\n").arg(entry.title)
+                                 : QStringLiteral("- %1\n").arg(entry.title);
+  }
+  guide.setMarkdown(text);
+  StyleHelp(guide, kRule);
+}
+
+}  // namespace
+
+QString WriteGuide(const HelpPages& pages, const QString& pictures, const QString& file) {
+  if (pages.Contents().empty()) return QStringLiteral("there are no help pages in %1").arg(pages.Folder());
+  ApplyTheme(Theme::kLight);  // it is printed on white paper
+  QTextDocument guide;
+  auto font = guide.defaultFont();
+  font.setPointSizeF(kFontSize);
+  guide.setDefaultFont(font);
+  AddFront(guide, pages);
+  for (const auto& entry : pages.Contents()) {
+    if (!entry.file.isEmpty()) AddPage(guide, pages.Text(entry.file, pictures), pictures);
+  }
+  QSaveFile target(file);
+  if (!target.open(QIODevice::WriteOnly)) return file + QStringLiteral(": ") + target.errorString();
+  {
+    QPdfWriter writer(&target);
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    writer.setTitle(kTitle);
+    guide.print(&writer);
+  }
+  return target.commit() ? QString() : file + QStringLiteral(": ") + target.errorString();
+}
+
+}  // namespace ovl

@@ -1,0 +1,87 @@
+#include "ui/help/manuals.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QMenu>
+#include <QProcess>
+#include <QUrl>
+#include <filesystem>
+#include <utility>
+
+namespace ovl {
+namespace {
+
+using Tell = std::function<void(const QString&)>;
+
+bool OpenPath(const QString& path) {
+  return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}
+
+// Opening tells no more than that the desktop's opener was started, so the desktop is asked before whether it
+// has a program for this kind of file. Where there is nobody to ask, opening tells.
+void AskForProgram(QObject& owner, const char* kind, std::function<void(bool)> then) {
+  auto* question = new QProcess(&owner);
+  QObject::connect(question, &QProcess::errorOccurred, question,
+                   [question, then](QProcess::ProcessError error) {
+                     if (error != QProcess::FailedToStart) return;
+                     question->deleteLater();
+                     then(true);
+                   });
+  QObject::connect(question, &QProcess::finished, question, [question, then] {
+    question->deleteLater();
+    then(!question->readAllStandardOutput().trimmed().isEmpty());
+  });
+  question->start(QStringLiteral("xdg-mime"),
+                  {QStringLiteral("query"), QStringLiteral("default"), QString::fromLatin1(kind)});
+}
+
+void OpenFolder(QObject& owner, const QString& folder, const Tell& tell) {
+  const auto fail = [folder, tell](const QString& reason) {
+    tell(QStringLiteral("The manual folder cannot be opened.\n\n%1: %2")
+             .arg(QDir::toNativeSeparators(folder), reason));
+  };
+  std::error_code failed;
+  std::filesystem::directory_iterator(QFile::encodeName(folder).toStdString(), failed);
+  if (failed) return fail(QString::fromLocal8Bit(failed.message().c_str()));
+  AskForProgram(owner, "inode/directory", [folder, fail](bool has_browser) {
+    if (!has_browser || !OpenPath(folder)) fail(QStringLiteral("no program opens folders"));
+  });
+}
+
+}  // namespace
+
+QString ManualFolder(const QString& program_folder) {
+  return QDir(program_folder).filePath(QStringLiteral("Manual"));
+}
+
+QStringList ListManuals(const QString& folder) {
+  return QDir(folder).entryList({QStringLiteral("*.pdf")}, QDir::Files | QDir::Readable,
+                                QDir::Name | QDir::IgnoreCase);
+}
+
+void OpenManual(QObject& owner, const QString& folder, const QString& file, Tell tell) {
+  if (file.isEmpty()) return OpenFolder(owner, folder, tell);
+  AskForProgram(owner, "application/pdf", [&owner, folder, file, tell = std::move(tell)](bool has_reader) {
+    if (!has_reader || !OpenPath(QDir(folder).filePath(file))) OpenFolder(owner, folder, tell);
+  });
+}
+
+void FillManualMenu(QMenu& menu, const QString& folder, Tell tell) {
+  const auto open = [&menu, folder, tell = std::move(tell)](const QString& file) {
+    OpenManual(menu, folder, file, tell);
+  };
+  QObject::connect(&menu, &QMenu::aboutToShow, &menu, [&menu, folder, open] {
+    menu.clear();
+    for (const auto& file : ListManuals(folder)) {
+      auto title = QFileInfo(file).completeBaseName();
+      menu.addAction(title.replace(QLatin1Char('&'), QStringLiteral("&&")), &menu,
+                     [open, file] { open(file); });
+    }
+    if (!menu.isEmpty()) menu.addSeparator();
+    menu.addAction(QStringLiteral("Open the manual folder"), &menu, [open] { open({}); });
+  });
+}
+
+}  // namespace ovl

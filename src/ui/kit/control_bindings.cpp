@@ -1,0 +1,275 @@
+// One binding for each kind of control.
+#include <QGridLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+#include "host/text_codec.h"
+#include "ui/kit/bindings.h"
+#include "ui/kit/widgets.h"
+
+namespace ovl {
+namespace {
+
+constexpr int kOptionGap = 24;
+
+QStringList Texts(const std::vector<std::string>& items) {
+  QStringList texts;
+  texts.reserve(static_cast<qsizetype>(items.size()));
+  for (const auto& item : items) texts.append(FromWindows1252(item));
+  return texts;
+}
+
+struct ListShadow {
+  Shadow<std::vector<std::string>> items;
+  Shadow<int> position;
+};
+
+// Only one button of an array is a stop of the Tab key; arrows reach the others.
+int TabStop(const OptionArray& array) {
+  const auto reachable = [&](int at) {
+    const auto& element = array.elements.at(static_cast<std::size_t>(at));
+    return element.visible && element.enabled;
+  };
+  if (array.chosen >= 0 && reachable(array.chosen)) return array.chosen;
+  for (int at = 0; at < static_cast<int>(array.elements.size()); ++at) {
+    if (reachable(at)) return at;
+  }
+  return -1;
+}
+
+void Arrange(QGridLayout& grid, const std::vector<QWidget*>& buttons, const OptionArray& array, int columns) {
+  std::vector<QWidget*> shown;
+  for (std::size_t at = 0; at < buttons.size(); ++at) {
+    grid.removeWidget(buttons[at]);
+    if (array.elements[at].visible) shown.push_back(buttons[at]);
+  }
+  const int rows = (static_cast<int>(shown.size()) + columns - 1) / columns;
+  int place = 0;
+  for (auto* button : shown) {
+    grid.addWidget(button, place % rows, place / rows);
+    ++place;
+  }
+}
+
+}  // namespace
+
+QWidget* Bindings::MakeList(List& list) {
+  auto* box = new PickList;
+  auto shadow = std::make_shared<ListShadow>();
+  QObject::connect(box, &QComboBox::activated, box, [this, &list, shadow](int position) {
+    shadow->position.Forget();
+    act_(PickEvent{&list, position});
+  });
+  const auto show = [box, &list, shadow] {
+    const QSignalBlocker blocker(box);
+    const bool renewed = shadow->items.Update(list.items);
+    if (renewed) {
+      box->clear();
+      box->addItems(Texts(list.items));
+      shadow->position.Forget();
+    }
+    if (shadow->position.Update(list.position)) box->setCurrentIndex(list.position);
+    return renewed;
+  };
+  // At once, so that a layout measures the list with its entries.
+  show();
+  FollowFace(*box, list);
+  Follow(show);
+  return box;
+}
+
+PickList* Bindings::Fixed(const NamedControl& control, const QString& label) {
+  auto& text = *std::get<TextBox*>(control.control);
+  auto* box = new PickList;
+  Introduce(*box, control, label);
+  box->setEnabled(false);
+  box->addItem(FromWindows1252(text.text));
+  Follow([box, &text, visible = Shadow<bool>(), shown = Shadow<std::string>()]() mutable {
+    if (shown.Update(text.text)) box->setItemText(0, FromWindows1252(text.text));
+    if (!visible.Update(text.visible)) return false;
+    box->setVisible(text.visible);
+    return true;
+  });
+  return box;
+}
+
+TallList* Bindings::Tall(const NamedControl& control, const QString& label) {
+  auto& list = *std::get<List*>(control.control);
+  auto* box = new TallList;
+  auto shadow = std::make_shared<ListShadow>();
+  box->picked = [this, &list, shadow](int position) {
+    shadow->position.Forget();
+    act_(PickEvent{&list, position});
+  };
+  FollowFace(*box, list);
+  Follow([box, &list, shadow] {
+    if (shadow->items.Update(list.items)) {
+      box->clear();
+      box->addItems(Texts(list.items));
+      shadow->position.Forget();
+    }
+    if (shadow->position.Update(list.position)) box->SetMarked(list.position);
+    return false;
+  });
+  Introduce(*box, control, label);
+  return box;
+}
+
+QWidget* Bindings::MakeOption(const OptionElement& element) {
+  auto* button = new OptionButton;
+  const auto& face = element.Of();
+  button->setText(CaptionText(face.caption));
+  button->step = [this, element](int step) { StepOption(element, step); };
+  QObject::connect(button, &QRadioButton::clicked, button, [this, element] { act_(ClickEvent{element}); });
+  FollowFace(*button, face, element.array);
+  FollowCaption(*button, face);
+  Follow([this, button, element, chosen = Shadow<bool>(), stop = Shadow<bool>()]() mutable {
+    const bool is_chosen = element.array->chosen == element.element;
+    if (chosen.Update(is_chosen)) {
+      button->setChecked(is_chosen);
+      if (is_chosen) widgets_[element.array] = button;
+    }
+    const bool is_stop = TabStop(*element.array) == element.element;
+    if (stop.Update(is_stop)) button->setFocusPolicy(is_stop ? Qt::StrongFocus : Qt::ClickFocus);
+    return false;
+  });
+  return button;
+}
+
+void Bindings::StepOption(const OptionElement& from, int step) {
+  const int count = static_cast<int>(from.array->elements.size());
+  for (int tried = 1; tried < count; ++tried) {
+    const OptionElement next{from.array, ((from.element + step * tried) % count + count) % count};
+    if (!next.Of().visible || !next.Of().enabled) continue;
+    if (auto* button = WidgetOf(next.Of())) button->setFocus(Qt::TabFocusReason);
+    act_(ClickEvent{next});
+    return;
+  }
+}
+
+QWidget* Bindings::Options(const NamedControl& control, int columns, const QString& label) {
+  auto& array = *std::get<OptionArray*>(control.control);
+  auto* holder = new QWidget;
+  auto* grid = new QGridLayout(holder);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setHorizontalSpacing(kOptionGap);
+  std::vector<QWidget*> buttons;
+  for (int element = 0; element < static_cast<int>(array.elements.size()); ++element) {
+    const auto name = control.name + "(" + std::to_string(element) + ")";
+    auto* button = Make(Named(*control.form, name));
+    button->setParent(holder);
+    buttons.push_back(button);
+  }
+  holder->setObjectName(FromWindows1252(control.name));
+  holder->setAccessibleName(label);
+  auto shown = std::make_shared<Shadow<std::vector<bool>>>();
+  const auto arrange = [grid, buttons, &array, columns, shown] {
+    std::vector<bool> visible;
+    visible.reserve(array.elements.size());
+    for (const auto& element : array.elements) visible.push_back(element.visible);
+    if (!shown->Update(visible)) return false;
+    Arrange(*grid, buttons, array, columns);
+    return true;
+  };
+  // At once, so that a layout measures the buttons.
+  arrange();
+  FollowFace(*holder, array);
+  Follow(arrange);
+  return holder;
+}
+
+QWidget* Bindings::MakeText(TextBox& box) {
+  auto* line = new TextLine;
+  auto shadow = std::make_shared<Shadow<std::string>>();
+  line->refused = hint_;
+  QObject::connect(line, &QLineEdit::textEdited, line, [this, &box, shadow](const QString& text) {
+    const auto typed = ToWindows1252(text).value_or(std::string());
+    shadow->Forget();
+    if (act_(TypeEvent{&box, typed}) == Outcome::kDone) shadow->Update(typed);
+  });
+  FollowFace(*line, box);
+  Follow([line, &box, shadow, limit = Shadow<std::size_t>(), fixed = Shadow<bool>()]() mutable {
+    if (limit.Update(box.max_length)) line->SetLimit(static_cast<int>(box.max_length));
+    if (fixed.Update(box.read_only)) line->setReadOnly(box.read_only);
+    if (shadow->Update(box.text)) line->setText(FromWindows1252(box.text));
+    return false;
+  });
+  return line;
+}
+
+QWidget* Bindings::MakeLines(TextBox& box) {
+  auto* lines = new QPlainTextEdit;
+  lines->setTabChangesFocus(true);
+  auto shadow = std::make_shared<Shadow<std::string>>();
+  QObject::connect(lines, &QPlainTextEdit::textChanged, lines, [this, lines, &box, shadow] {
+    const auto text = lines->toPlainText();
+    shadow->Forget();
+    if (!ToWindows1252(text)) return hint_(QStringLiteral("Only characters of Windows-1252 can be kept."));
+    if (act_(TypeEvent{&box, ToWindows1252(text).value_or(std::string())}) == Outcome::kDone)
+      shadow->Update(box.text);
+  });
+  FollowFace(*lines, box);
+  Follow([lines, &box, shadow, fixed = Shadow<bool>()]() mutable {
+    if (fixed.Update(box.read_only)) lines->setReadOnly(box.read_only);
+    if (!shadow->Update(box.text)) return false;
+    const QSignalBlocker blocker(lines);
+    lines->setPlainText(FromWindows1252(box.text));
+    return false;
+  });
+  return lines;
+}
+
+QWidget* Bindings::MakeLabel(Label& label) {
+  auto* text = new QLabel;
+  text->setTextFormat(Qt::PlainText);
+  FollowFace(*text, label);
+  Follow([text, &label, caption = Shadow<std::string>()]() mutable {
+    if (!caption.Update(label.caption)) return false;
+    text->setText(FromWindows1252(label.caption));
+    text->setAccessibleName(FromWindows1252(label.caption));
+    return true;
+  });
+  return text;
+}
+
+QWidget* Bindings::MakeButton(Button& button) {
+  auto* push = new QPushButton;
+  push->setAutoDefault(true);
+  QObject::connect(push, &QPushButton::clicked, push, [this, &button] { act_(ClickEvent{&button}); });
+  FollowFace(*push, button);
+  FollowCaption(*push, button);
+  return push;
+}
+
+QWidget* Bindings::MakeCheck(CheckBox& box) {
+  auto* check = new TurnBox;
+  QObject::connect(check, &QCheckBox::clicked, check, [this, &box] { act_(ClickEvent{&box}); });
+  FollowFace(*check, box);
+  FollowCaption(*check, box);
+  Follow([check, &box, checked = Shadow<bool>()]() mutable {
+    if (checked.Update(box.checked)) check->setChecked(box.checked);
+    return false;
+  });
+  return check;
+}
+
+QWidget* Bindings::MakeBar(ProgressBar& bar) {
+  auto* progress = new QProgressBar;
+  FollowFace(*progress, bar);
+  Follow([progress, &bar, maximum = Shadow<int>(), value = Shadow<int>(),
+          text = Shadow<std::string>()]() mutable {
+    if (maximum.Update(bar.maximum)) progress->setMaximum(bar.maximum);
+    if (value.Update(bar.value)) progress->setValue(bar.value);
+    if (text.Update(bar.text)) {
+      progress->setTextVisible(!bar.text.empty());
+      progress->setFormat(FromWindows1252(bar.text));
+    }
+    return false;
+  });
+  return progress;
+}
+
+}  // namespace ovl

@@ -1,0 +1,86 @@
+#include "ui/kit/layout.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "host/text_codec.h"
+#include "ui/kit/widgets.h"
+
+namespace ovl {
+namespace {
+
+QLabel* QuietLabel(Bindings& bindings) {
+  auto* label = MutedLabel({});
+  label->setObjectName(QStringLiteral("QuietLine"));
+  label->setWordWrap(true);
+  label->setVisible(false);
+  bindings.Follow([&bindings, label, shown = Shadow<QString>()]() mutable {
+    if (!shown.Update(bindings.QuietLine())) return false;
+    label->setText(bindings.QuietLine());
+    label->setVisible(!bindings.QuietLine().isEmpty());
+    return false;
+  });
+  return label;
+}
+
+}  // namespace
+
+QScrollArea* Scrolled(QWidget* content) {
+  auto* area = new QScrollArea;
+  area->setFrameShape(QFrame::NoFrame);
+  area->setWidgetResizable(true);
+  area->setFocusPolicy(Qt::NoFocus);
+  area->setWidget(content);
+  return area;
+}
+
+Page::Page(Bindings& bindings, const Form& form, int left)
+    : bindings_(bindings),
+      form_(form),
+      content_(new QWidget),
+      area_(Scrolled(content_)),
+      down_(new QVBoxLayout(content_)),
+      across_(new QHBoxLayout) {
+  down_->setContentsMargins(left, kMargin, kMargin, kMargin);
+  down_->setSpacing(kSectionGap);
+  across_->setSpacing(kColumnGap);
+}
+
+PageColumn& Page::Column(int share, int least) {
+  auto* holder = new QWidget;
+  holder->setMinimumWidth(least);
+  across_->addWidget(holder, share);
+  return columns_.emplace_back(bindings_, form_, *holder);
+}
+
+QScrollArea* Page::Finish(const QString& calm) {
+  auto* line = MutedLabel(calm);
+  across_->addWidget(line, 0, Qt::AlignTop | Qt::AlignLeft);
+  down_->addLayout(across_, fills_ ? 1 : 0);
+  down_->addWidget(QuietLabel(bindings_));
+  if (!fills_) down_->addStretch(1);
+  for (auto& column : columns_) {
+    bindings_.Follow([column, shown = Shadow<bool>()]() mutable {
+      const bool show = column.AnySectionShown();
+      if (!shown.Update(show)) return false;
+      column.Holder().setVisible(show);
+      return true;
+    });
+  }
+  bindings_.Follow([line, columns = columns_, shown = Shadow<bool>()]() mutable {
+    const bool any = std::any_of(columns.begin(), columns.end(),
+                                 [](const PageColumn& column) { return column.AnySectionShown(); });
+    if (!shown.Update(!any)) return false;
+    line->setVisible(!any);
+    return true;
+  });
+  return area_;
+}
+
+}  // namespace ovl

@@ -1,0 +1,107 @@
+#include "ui/pages/pages.h"
+
+#include <QLabel>
+#include <QScrollArea>
+#include <algorithm>
+
+#include "codecs/codecs.h"
+#include "host/text_codec.h"
+#include "panels/exceptions/text_entry.h"
+#include "panels/panel.h"
+#include "ui/pages/text_rows.h"
+
+namespace ovl {
+namespace {
+
+using enum FieldId;
+
+constexpr int kRtsTrigger = 28;
+
+QString EntryText(const List& list, int position) {
+  const bool known = position >= 0 && position < static_cast<int>(list.items.size());
+  return known ? FromWindows1252(list.items[static_cast<std::size_t>(position)]) : QStringLiteral("?");
+}
+
+QString TriggerText(const MainForm& form, int trigger) {
+  if (trigger == 0) return QStringLiteral("free");
+  const auto entry = EntryText(form.ComboALM[1], trigger);
+  return trigger < kRtsTrigger ? FromWindows1252(form.lbAlmTrig.caption) + QLatin1Char(' ') + entry : entry;
+}
+
+// The counter runs up to 256; 0 is the last entry, the pulse.
+QString DurationText(const MainForm& form, int counter) {
+  const auto& list = form.ComboALM[3];
+  return counter == 0 ? EntryText(list, static_cast<int>(list.items.size()) - 1)
+                      : QString::number(256 - counter);
+}
+
+bool NormallyOn(const Application& app, int number) {
+  const int states = HexToInt(app.image.at(ALMNORMAL_BAK, (number - 1) / 8 + 1));
+  return HasBit(states, (number - 1) % 8);
+}
+
+QString TriggeredText(const std::string& record) {
+  return FromWindows1252(
+      StoredText(std::string_view(record).substr(std::min<std::size_t>(record.size(), 2))));
+}
+
+QWidget* AlarmOverview(Bindings& bindings) {
+  const auto& app = bindings.Model();
+  return BuildOverview(
+      bindings, bindings.Model().frmMain.ComboALM[0],
+      {QStringLiteral("AlarmOverview"),
+       QStringLiteral("Overview of the alarms"),
+       {{QStringLiteral("No."), QStringLiteral("16")},
+        {QStringLiteral("Trigger"), QStringLiteral("EX. 13-24")},
+        {QStringLiteral("Duration"), QStringLiteral("PLUSE")},
+        {QStringLiteral("Normal"), QStringLiteral("NC")},
+        {QStringLiteral("Text"), {}}},
+       [&app] { return AlarmLines(app); },
+       [] { return QStringLiteral("EX. exceptions   NO normally open   NC normally closed"); }});
+}
+
+void AddEditor(PageColumn& column, const MainForm& form) {
+  column.Section("Frame8")
+      .Row("ComboALM(0)")
+      .Row("ComboALM(1)")
+      .Mark("lbAlmTrig")
+      .Row("ComboALM(2)")
+      .Row("ComboALM(3)")
+      .Row("ComboALM(6)")
+      .Row("ComboALM(7)")
+      .Note(QStringLiteral("All alarms"),
+            [&form] { return form.ComboALM[4].visible || form.ComboALM[5].visible; })
+      .Row("ComboALM(4)")
+      .Row("ComboALM(5)");
+}
+
+}  // namespace
+
+std::vector<OverviewLine> AlarmLines(const Application& app) {
+  const auto& form = app.frmMain;
+  std::vector<OverviewLine> lines;
+  for (int number = 1; number <= kAlarms; ++number) {
+    const auto& record = app.image.at(ALMSTRUCT_BAK, number);
+    const int trigger = HexToInt(record);
+    const int counter = HexToInt(std::string_view(record).substr(std::min<std::size_t>(record.size(), 2)));
+    lines.push_back({{QString::number(number), TriggerText(form, trigger), DurationText(form, counter),
+                      EntryText(form.ComboALM[2], NormallyOn(app, number) ? 1 : 0),
+                      TriggeredText(app.image.at(TRIGGER_TEXT, number))},
+                     trigger != 0});
+  }
+  return lines;
+}
+
+QWidget* BuildAlarmPage(Bindings& bindings) {
+  const auto& form = bindings.Model().frmMain;
+  Page page(bindings, form.form, kColumnGap);
+  auto& column = page.Column();
+  column.LabelsAtLeast(CaptionWidth({&form.ComboALM[1]}) + kFieldGap + CaptionWidth({&form.lbAlmTrig}));
+  AddEditor(column, form);
+  column.Section("Frame15");
+  AddTextRow(bindings, column, "TextTrigger", "cmdSetTrigger", ButtonPlace::kBelow);
+  column.Row("ComboTrigger(0)").Row("ComboTrigger(1)").Row("ComboTrigger(2)");
+  return BesideOverview(bindings, AlarmOverview(bindings), page.Finish({}));
+}
+
+}  // namespace ovl

@@ -1,0 +1,208 @@
+#include "ui/pages/pages.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QScrollArea>
+#include <algorithm>
+#include <array>
+
+#include "codecs/codecs.h"
+#include "host/text_codec.h"
+#include "panels/exceptions/exceptions.h"
+#include "panels/exceptions/text_entry.h"
+#include "panels/panel.h"
+#include "ui/pages/text_rows.h"
+
+namespace ovl {
+namespace {
+
+constexpr std::size_t kLengthDigits = 2;
+constexpr int kFreeBit = 4;
+constexpr int kRangeBoxWidth = 96;
+constexpr int kBoxPadding = 4;
+constexpr int kBelowOption = 20;
+constexpr int kShortRowWidth = 210;
+
+// What an exception can set off: its list, its bit in the slot's flags, and how the overview shows it.
+struct Act {
+  std::size_t list;
+  int bit;
+  char letter;
+  const char* word;
+};
+constexpr std::array kActs = {Act{1, 0, 'D', "D display"}, Act{2, 1, 'O', "O output"},
+                              Act{3, 5, 'H', "H history"}, Act{4, 6, 'S', "S scroll matching"}};
+constexpr std::size_t kScrollMatching = 4;
+
+// Scroll matching is told also where the panel has no list for it: it holds the other acts off.
+bool Told(const MainForm& form, const Act& act) {
+  return act.list == kScrollMatching || form.ComboExcp[act.list].visible;
+}
+
+std::string Slice(const std::string& slot, std::size_t first, std::size_t count = std::string::npos) {
+  return first < slot.size() ? slot.substr(first, count) : std::string();
+}
+
+QString ValueText(const Application& app, const std::string& slot, std::size_t value) {
+  const auto place = RangePlaceOf(app);
+  const auto first = RangePlace::kFirst + value * place.Value();
+  auto whole = Slice(slot, first, place.integers);
+  whole.erase(0,
+              std::min(whole.find_first_not_of('0'), whole.size() - std::min<std::size_t>(1, whole.size())));
+  return QString::fromStdString(whole + DecimalSeparator(app) +
+                                Slice(slot, first + place.integers, RangePlace::kDecimals));
+}
+
+QString RangeText(const Application& app, const std::string& slot) {
+  constexpr std::array kOperators = {"", "IN ", "OUT ", "IN OUT "};
+  const auto operation = static_cast<std::size_t>(HexToInt(slot) >> 2 & 3);
+  if (operation == 0) return {};
+  return QLatin1String(kOperators[operation]) + ValueText(app, slot, 0) + QStringLiteral(" - ") +
+         ValueText(app, slot, 1);
+}
+
+QString TextOf(const Application& app, const std::string& slot) {
+  constexpr char kStoredWildcard = '\x7F';
+  auto text = StoredText(Slice(slot, RangePlaceOf(app).End() + kLengthDigits));
+  std::replace(text.begin(), text.end(), kStoredWildcard, '?');
+  text.erase(text.find_last_not_of(' ') + 1);
+  return FromWindows1252(text);
+}
+
+QString ActsText(const Application& app, int flags) {
+  QStringList letters;
+  for (const auto& act : kActs) {
+    if (Told(app.frmMain, act) && HasBit(flags, act.bit)) letters.append(QChar::fromLatin1(act.letter));
+  }
+  return letters.join(QLatin1Char(' '));
+}
+
+QString Legend(const Application& app) {
+  QStringList words;
+  for (const auto& act : kActs) {
+    if (Told(app.frmMain, act)) words.append(QString::fromLatin1(act.word));
+  }
+  return words.join(QStringLiteral("   "));
+}
+
+QWidget* ExceptionOverview(Bindings& bindings) {
+  const auto& app = bindings.Model();
+  const auto widest = app.firmware.IsV1400() ? QStringLiteral("OUT 99999.99 - 99999.99")
+                                             : QStringLiteral("OUT 9999.99 - 9999.99");
+  return BuildOverview(bindings, bindings.Model().frmMain.ComboExcp[0],
+                       {QStringLiteral("ExceptionOverview"),
+                        QStringLiteral("Overview of the exceptions"),
+                        {{QStringLiteral("No."), QStringLiteral("24")},
+                         {QStringLiteral("Exception string"), {}},
+                         {QStringLiteral("Range"), widest},
+                         {QStringLiteral("Acts"), QStringLiteral("D O H S")}},
+                        [&app] { return ExceptionLines(app); },
+                        [&app] { return Legend(app); }});
+}
+
+// The two values as they stand, in the look of fields that can't be typed into.
+void AddRange(Bindings& bindings, PageColumn& column) {
+  column.Row("RANGE", {"TextRANGE(0)", "TextRANGE(1)", "cmdSetRange"});
+  auto& form = bindings.Model().frmMain;
+  auto* button = bindings.WidgetOf(form.cmdSetRange);
+  button->setMinimumWidth(kSetButtonWidth);
+  const int height = button->sizeHint().height();
+  for (const auto& value : form.TextRANGE) {
+    auto* box = static_cast<QLabel*>(bindings.WidgetOf(value));
+    box->setFrameShape(QFrame::StyledPanel);
+    box->setBackgroundRole(QPalette::Base);
+    box->setAutoFillBackground(true);
+    box->setIndent(kBoxPadding);
+    box->setFixedSize(kRangeBoxWidth, height);
+  }
+  auto* row = button->parentWidget()->parentWidget();
+  auto* dash = new QLabel(QStringLiteral("-"));
+  dash->setAlignment(Qt::AlignCenter);
+  dash->setFixedWidth(kStoredTextWidth - 2 * (kRangeBoxWidth + kFieldGap));
+  static_cast<QHBoxLayout*>(row->layout())->insertWidget(1, dash);
+  for (auto* label : column.Holder().findChildren<QLabel*>()) {
+    if (label->text() == QLatin1String("RANGE")) label->setMinimumHeight(height);
+  }
+}
+
+void AddEditor(Bindings& bindings, PageColumn& column) {
+  column.Section("Frame6").Row("ComboExcp(0)");
+  AddTextRow(bindings, column, "TextException", "cmdSetExcpstr", ButtonPlace::kBeside);
+  column.Row("ComboExcp(1)").Row("ComboExcp(2)").Row("ComboExcp(3)").Row("ComboExcp(4)").Row("ComboExcp(5)");
+  AddRange(bindings, column);
+}
+
+void AddRecorder(Bindings& bindings, PageColumn& column) {
+  column.Section("Frame5")
+      .Alone("OpDVR(0)")
+      .Alone("OpDVR(1)")
+      .Row(RowLabel::FromModel("Label1(12)"), "ComboKLM4011(0)")
+      .Row(RowLabel::FromModel("Label1(13)"), "ComboKLM4011(1)")
+      .Alone("OpDVR(2)")
+      .Row(RowLabel::FromModel("Label1(14)"), "ComboKLM4011(2)")
+      .Row(RowLabel::FromModel("Label1(15)"), "ComboKLM4011(3)");
+  const auto& form = bindings.Model().frmMain;
+  for (std::size_t list = 0; list < form.ComboKLM4011.size(); ++list) {
+    const auto& recorder = form.OpDVR.elements.at(1 + list / 2).caption;
+    auto* widget = bindings.WidgetOf(form.ComboKLM4011[list]);
+    widget->setAccessibleName(FromWindows1252(recorder + " " + form.ComboKLM4011[list].caption));
+    for (auto* label : column.Holder().findChildren<QLabel*>()) {
+      if (label->buddy() == widget) label->setIndent(kBelowOption);
+    }
+  }
+}
+
+// Report and scroll matching beside the recorder, so that the tab is seen as a whole.
+QWidget* LowerPart(Bindings& bindings, int labels) {
+  auto* holder = new QWidget;
+  auto* across = new QHBoxLayout(holder);
+  across->setContentsMargins(0, kSectionGap - kRowGap, 0, 0);
+  across->setSpacing(kColumnGap);
+  const auto& form = bindings.Model().frmMain.form;
+  auto* left = new QWidget;
+  left->setMinimumWidth(kShortRowWidth);
+  PageColumn(bindings, form, *left)
+      .LabelsAtLeast(labels)
+      .Section("Frame7")
+      .Row("ComboExcepRe(0)")
+      .Row("ComboExcepRe(1)")
+      .Row("ComboExcepRe(2)")
+      .Section("Frame14")
+      .Row("ComboScroll(0)")
+      .Row("ComboScroll(1)");
+  auto* right = new QWidget;
+  PageColumn recorder(bindings, form, *right);
+  AddRecorder(bindings, recorder);
+  across->addWidget(left, 1);
+  across->addWidget(right, 1);
+  return holder;
+}
+
+}  // namespace
+
+std::vector<OverviewLine> ExceptionLines(const Application& app) {
+  std::vector<OverviewLine> lines;
+  for (int number = 1; number <= kExceptions; ++number) {
+    const auto& slot = app.image.at(FieldId::EXCPSTRS, number);
+    const auto text = TextOf(app, slot);
+    const bool used = !HasBit(HexToInt(slot), kFreeBit) && !text.trimmed().isEmpty();
+    lines.push_back({{QString::number(number), used ? text : QStringLiteral("free"), RangeText(app, slot),
+                      ActsText(app, HexToInt(slot))},
+                     used});
+  }
+  return lines;
+}
+
+QWidget* BuildExceptionPage(Bindings& bindings) {
+  const auto& form = bindings.Model().frmMain;
+  Page page(bindings, form.form, kColumnGap);
+  auto& column = page.Column();
+  const int labels = CaptionWidth({&form.TextException, &form.ComboExcp[3], &form.ComboExcp[4],
+                                   &form.ComboExcepRe[2], &form.ComboScroll[0]});
+  column.LabelsAtLeast(labels);
+  AddEditor(bindings, column);
+  column.Wide(LowerPart(bindings, labels));
+  return BesideOverview(bindings, ExceptionOverview(bindings), page.Finish({}));
+}
+
+}  // namespace ovl

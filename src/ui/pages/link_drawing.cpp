@@ -1,0 +1,217 @@
+#include "ui/pages/link_drawing.h"
+
+#include <QLabel>
+#include <QPainter>
+#include <QPainterPath>
+
+#include "core/application.h"
+#include "ui/kit/theme.h"
+
+namespace ovl {
+namespace {
+
+constexpr QSize kSize(440, 116);
+constexpr qreal kStroke = 1.8;
+
+// The line runs from one device to the other at this height.
+constexpr qreal kLineY = 52;
+constexpr qreal kLineLeft = 116;
+constexpr qreal kLineRight = 318;
+constexpr qreal kLineMiddle = (kLineLeft + kLineRight) / 2;
+
+constexpr QRectF kScreen(14, 20, 82, 52);
+constexpr QRectF kUnit(332, 28, 100, 44);
+constexpr qreal kWordHeight = 20;
+
+bool IsLive(LinkPicture picture) {
+  return picture == LinkPicture::kAccess || picture == LinkPicture::kUploading ||
+         picture == LinkPicture::kDownloading;
+}
+
+}  // namespace
+
+LinkPicture LinkPictureOf(const Application& app) {
+  const auto& form = app.frmMain;
+  if (app.ScanActive) return LinkPicture::kScanning;
+  if (!form.MSComm1.PortOpen) return LinkPicture::kClosed;
+  if (form.General_timer.enabled) return LinkPicture::kAsked;
+  const bool access = form.Picture1[3].visible;
+  if (access && app.LinkMode == kLinkUpload) return LinkPicture::kUploading;
+  if (access && app.LinkMode == kLinkDownload) return LinkPicture::kDownloading;
+  return access ? LinkPicture::kAccess : LinkPicture::kOpen;
+}
+
+QString WordOf(LinkPicture picture) {
+  switch (picture) {
+    case LinkPicture::kClosed:
+      return QStringLiteral("Port closed");
+    case LinkPicture::kOpen:
+      return QStringLiteral("Port open");
+    case LinkPicture::kAsked:
+      return QStringLiteral("Asking for remote");
+    case LinkPicture::kAccess:
+      return QStringLiteral("Remote held");
+    case LinkPicture::kUploading:
+      return QStringLiteral("Uploading");
+    case LinkPicture::kDownloading:
+      return QStringLiteral("Downloading");
+    case LinkPicture::kScanning:
+      return QStringLiteral("Scanning");
+  }
+  return {};
+}
+
+LinkDrawing::LinkDrawing(const Application& app, QLabel& access) : app_(app), access_(access) {
+  setObjectName(QStringLiteral("LinkDrawing"));
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  access_.setParent(this);
+  access_.setAlignment(Qt::AlignCenter);
+  access_.setGeometry(
+      QRectF(kLineLeft, kLineY - 14 - kWordHeight, kLineRight - kLineLeft, kWordHeight).toRect());
+  auto strong = access_.font();
+  strong.setWeight(QFont::DemiBold);
+  access_.setFont(strong);
+  shown_ = FromModel();
+}
+
+QSize LinkDrawing::sizeHint() const {
+  return kSize;
+}
+
+LinkDrawing::Shown LinkDrawing::FromModel() const {
+  const auto& form = app_.frmMain;
+  Shown shown;
+  shown.picture = LinkPictureOf(app_);
+  if (form.Picture1[1].visible) shown.hint = Hint::kToComputer;
+  if (form.Picture1[2].visible) shown.hint = Hint::kToUnit;
+  shown.port = app_.PortNumber == 0 ? QStringLiteral("Computer")
+                                    : QStringLiteral("Comport %1").arg(static_cast<int>(app_.PortNumber));
+  return shown;
+}
+
+void LinkDrawing::Refresh() {
+  auto now = FromModel();
+  if (now == shown_ && !accessibleName().isEmpty()) return;
+  shown_ = std::move(now);
+  setAccessibleName(QStringLiteral("Link to the unit: ") + WordOf(shown_.picture));
+  access_.setForegroundRole(IsLive(shown_.picture) ? QPalette::Link : QPalette::WindowText);
+  update();
+}
+
+void LinkDrawing::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(palette().color(QPalette::WindowText), kStroke, Qt::SolidLine, Qt::RoundCap));
+  DrawComputer(painter);
+  DrawUnit(painter);
+  DrawLine(painter);
+  DrawMark(painter);
+  DrawWords(painter);
+}
+
+void LinkDrawing::DrawComputer(QPainter& painter) const {
+  painter.drawRoundedRect(kScreen, 4, 4);
+  const qreal foot = kScreen.bottom() + 6;
+  painter.drawLine(QPointF(kScreen.left() - 11, foot), QPointF(kScreen.right() + 11, foot));
+}
+
+void LinkDrawing::DrawUnit(QPainter& painter) const {
+  painter.drawRoundedRect(kUnit, 4, 4);
+  const qreal middle = kUnit.center().y();
+  for (const qreal x : {16.0, 30.0, 44.0}) {
+    const QPointF lamp(kUnit.left() + x, middle);
+    const bool lit = IsLive(shown_.picture);
+    painter.setBrush(lit ? QBrush(AccentColor(palette())) : QBrush(Qt::NoBrush));
+    painter.drawEllipse(lamp, 3.2, 3.2);
+  }
+  painter.setBrush(Qt::NoBrush);
+  for (const qreal y : {-9.0, 0.0, 9.0}) {
+    painter.drawLine(QPointF(kUnit.right() - 30, middle + y), QPointF(kUnit.right() - 13, middle + y));
+  }
+}
+
+void LinkDrawing::DrawLine(QPainter& painter) const {
+  auto pen = painter.pen();
+  const bool live = IsLive(shown_.picture);
+  const bool waits = shown_.picture == LinkPicture::kAsked || shown_.picture == LinkPicture::kScanning;
+  QPen line(live ? AccentColor(palette()) : pen.color(), live ? 2.4 : kStroke, Qt::SolidLine, Qt::RoundCap);
+  if (waits) line.setDashPattern({2, 3});
+  if (shown_.picture == LinkPicture::kClosed) line.setColor(MutedColor(palette()));
+  painter.setPen(line);
+  if (shown_.picture == LinkPicture::kClosed) {
+    constexpr qreal kGap = 22;
+    constexpr qreal kPin = 6;
+    for (const qreal end : {kLineMiddle - kGap, kLineMiddle + kGap}) {
+      painter.drawLine(QPointF(end < kLineMiddle ? kLineLeft : kLineRight, kLineY), QPointF(end, kLineY));
+      painter.drawLine(QPointF(end, kLineY - kPin), QPointF(end, kLineY + kPin));
+    }
+  } else {
+    painter.drawLine(QPointF(kLineLeft, kLineY), QPointF(kLineRight, kLineY));
+  }
+  painter.setPen(pen);
+}
+
+void LinkDrawing::DrawMark(QPainter& painter) const {
+  const QPointF middle(kLineMiddle, kLineY);
+  const auto pen = painter.pen();
+  switch (shown_.picture) {
+    case LinkPicture::kAsked:
+      painter.setBrush(palette().color(QPalette::Window));
+      painter.drawEllipse(middle, 7, 7);
+      break;
+    case LinkPicture::kScanning:
+      painter.setBrush(palette().color(QPalette::Window));
+      painter.drawEllipse(middle + QPointF(-2, -2), 7, 7);
+      painter.drawLine(middle + QPointF(3, 3), middle + QPointF(9, 9));
+      break;
+    case LinkPicture::kAccess:
+      painter.setPen(Qt::NoPen);
+      painter.setBrush(AccentColor(palette()));
+      painter.drawEllipse(middle, 7, 7);
+      break;
+    case LinkPicture::kUploading:
+    case LinkPicture::kDownloading:
+      DrawArrows(painter, shown_.picture == LinkPicture::kDownloading, true);
+      break;
+    default:
+      break;
+  }
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(pen);
+  const bool moving =
+      shown_.picture == LinkPicture::kUploading || shown_.picture == LinkPicture::kDownloading;
+  if (shown_.hint != Hint::kNone && !moving) DrawArrows(painter, shown_.hint == Hint::kToUnit, false);
+}
+
+void LinkDrawing::DrawArrows(QPainter& painter, bool to_unit, bool filled) const {
+  constexpr qreal kHead = 8;
+  constexpr qreal kFirst = 44;
+  const auto color = filled ? AccentColor(palette()) : MutedColor(palette());
+  painter.setPen(QPen(color, kStroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setBrush(filled ? QBrush(color) : QBrush(Qt::NoBrush));
+  const qreal back = to_unit ? -kHead : kHead;
+  for (const qreal shift : {-kFirst, 0.0, kFirst}) {
+    if (!filled && shift == 0.0) continue;
+    const QPointF tip(kLineMiddle + shift - back / 2, kLineY);
+    QPainterPath head(tip + QPointF(back, -kHead * 0.8));
+    head.lineTo(tip);
+    head.lineTo(tip + QPointF(back, kHead * 0.8));
+    if (filled) head.closeSubpath();
+    painter.drawPath(head);
+  }
+}
+
+void LinkDrawing::DrawWords(QPainter& painter) const {
+  const auto put = [&](const QRectF& place, const QString& text) {
+    painter.drawText(place, Qt::AlignCenter, text);
+  };
+  const QRectF under(kLineLeft, kLineY + 14, kLineRight - kLineLeft, kWordHeight);
+  const qreal foot = kScreen.bottom() + 16;
+
+  painter.setPen(MutedColor(palette()));
+  put(QRectF(kScreen.left() - 20, foot, kScreen.width() + 40, kWordHeight), shown_.port);
+  put(QRectF(kUnit.left() - 10, foot, kUnit.width() + 20, kWordHeight), QStringLiteral("Unit"));
+  put(under, WordOf(shown_.picture));
+}
+
+}  // namespace ovl

@@ -1,0 +1,199 @@
+#include "ui/pages/overview_list.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QSignalBlocker>
+#include <QStyledItemDelegate>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "ui/kit/theme.h"
+
+namespace ovl {
+namespace {
+
+constexpr int kLineHeight = 19;
+constexpr int kCellPadding = 6;
+constexpr int kMarkWidth = 3;
+constexpr int kUsedRole = Qt::UserRole + 1;
+
+// The same marks as in other lists that stay open: weight and a bar for the line that counts, the strong
+// colour for the cursor while the list has the focus.
+class LineDelegate : public QStyledItemDelegate {
+ public:
+  explicit LineDelegate(OverviewList* list) : QStyledItemDelegate(list), list_(list) {}
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    auto size = QStyledItemDelegate::sizeHint(option, index);
+    size.setHeight(std::max(option.fontMetrics.height() + 2, kLineHeight));
+    return size;
+  }
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const bool marked = index.row() == list_->Marked();
+    const bool selected = option.state.testFlag(QStyle::State_Selected);
+    const bool strong = selected && list_->hasFocus();
+    const auto& palette = option.palette;
+    if (strong) {
+      painter->fillRect(option.rect, palette.color(QPalette::Highlight));
+    } else if (selected || marked) {
+      painter->fillRect(option.rect, HairlineColor(palette));
+    }
+    if (marked && index.column() == 0) {
+      painter->fillRect(QRect(option.rect.topLeft(), QSize(kMarkWidth, option.rect.height())),
+                        palette.color(QPalette::Highlight));
+    }
+    auto font = option.font;
+    if (marked) font.setWeight(QFont::DemiBold);
+    painter->setFont(font);
+    painter->setPen(strong                                     ? palette.color(QPalette::HighlightedText)
+                    : marked || index.data(kUsedRole).toBool() ? palette.color(QPalette::Text)
+                                                               : MutedColor(palette));
+    const auto place = option.rect.adjusted(kCellPadding, 0, -kCellPadding, 0);
+    const auto text = QFontMetrics(font).elidedText(index.data().toString(), Qt::ElideRight, place.width());
+    painter->drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
+  }
+
+ private:
+  OverviewList* list_;
+};
+
+QFont Strong(QFont font) {
+  font.setWeight(QFont::DemiBold);
+  return font;
+}
+
+void FillItem(QTreeWidgetItem& item, const OverviewLine& line) {
+  for (int cell = 0; cell < line.cells.size(); ++cell) {
+    item.setText(cell, line.cells[cell]);
+    item.setData(cell, kUsedRole, line.used);
+    // What the column cuts short is read where the pointer rests.
+    item.setToolTip(cell, line.cells[cell]);
+  }
+}
+
+QString UseText(const std::vector<OverviewLine>& lines) {
+  const auto used = std::count_if(lines.begin(), lines.end(), [](const auto& line) { return line.used; });
+  return QStringLiteral("%1 of %2 in use").arg(used).arg(lines.size());
+}
+
+}  // namespace
+
+OverviewList::OverviewList(const std::vector<OverviewColumn>& columns, QWidget* parent)
+    : QTreeWidget(parent) {
+  setItemDelegate(new LineDelegate(this));
+  setRootIsDecorated(false);
+  setItemsExpandable(false);
+  setUniformRowHeights(true);
+  setAlternatingRowColors(true);
+  setSelectionBehavior(QAbstractItemView::SelectRows);
+  setTabKeyNavigation(false);
+  setColumnCount(static_cast<int>(columns.size()));
+  const QFontMetrics metrics(Strong(font()));
+  header()->setStretchLastSection(false);
+  header()->setSectionsMovable(false);
+  header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  QStringList heads;
+  int column = 0;
+  for (const auto& about : columns) {
+    heads.append(about.head);
+    const bool stretches = about.widest.isEmpty();
+    header()->setSectionResizeMode(column, stretches ? QHeaderView::Stretch : QHeaderView::Fixed);
+    if (!stretches) {
+      const int width =
+          std::max(metrics.horizontalAdvance(about.widest), metrics.horizontalAdvance(about.head));
+      header()->resizeSection(column, width + 2 * kCellPadding + 2);
+    }
+    ++column;
+  }
+  setHeaderLabels(heads);
+  connect(this, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) {
+    if (picked) picked(indexOfTopLevelItem(item));
+  });
+}
+
+void OverviewList::Show(const std::vector<OverviewLine>& lines) {
+  const int count = static_cast<int>(lines.size());
+  while (topLevelItemCount() < count) addTopLevelItem(new QTreeWidgetItem);
+  while (topLevelItemCount() > count) delete takeTopLevelItem(count);
+  for (int line = 0; line < count; ++line) {
+    FillItem(*topLevelItem(line), lines[static_cast<std::size_t>(line)]);
+  }
+}
+
+void OverviewList::MoveTo(int line) {
+  const QSignalBlocker blocker(this);
+  setCurrentItem(topLevelItem(line));
+}
+
+void OverviewList::SetMarked(int line) {
+  marked_ = line;
+  MoveTo(line);
+  viewport()->update();
+}
+
+void OverviewList::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      if (picked && CurrentLine() >= 0) picked(CurrentLine());
+      return;
+    case Qt::Key_Escape:
+      if (marked_ < 0) return QTreeWidget::keyPressEvent(event);
+      MoveTo(marked_);
+      return;
+    default:
+      QTreeWidget::keyPressEvent(event);
+  }
+}
+
+void OverviewList::focusOutEvent(QFocusEvent* event) {
+  QTreeWidget::focusOutEvent(event);
+  const bool stays =
+      event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
+  if (!stays && marked_ >= 0) MoveTo(marked_);
+}
+
+QWidget* BuildOverview(Bindings& bindings, List& list, Overview overview) {
+  auto* side = new QWidget;
+  auto* down = new QVBoxLayout(side);
+  down->setContentsMargins(kMargin, kMargin, 0, kMargin);
+  down->setSpacing(kRowGap);
+  auto* table = new OverviewList(overview.columns);
+  table->setObjectName(overview.name);
+  table->setAccessibleName(overview.called);
+  table->setAccessibleDescription(QStringLiteral("Arrows move, Enter picks."));
+  auto* below = new QHBoxLayout;
+  auto* legend = MutedLabel({});
+  auto* use = MutedLabel({});
+  use->setObjectName(overview.name + QStringLiteral("Use"));
+  legend->setWordWrap(true);
+  below->addWidget(legend, 1);
+  below->addWidget(use);
+  down->addWidget(table, 1);
+  down->addLayout(below);
+
+  auto marked = std::make_shared<Shadow<int>>();
+  table->picked = [&bindings, &list, marked](int line) {
+    marked->Forget();
+    bindings.Act(PickEvent{&list, line});
+  };
+  bindings.Follow([table, use, legend, &list, marked, lines = std::move(overview.lines),
+                   words = std::move(overview.legend), shown = Shadow<std::vector<OverviewLine>>(),
+                   told = Shadow<QString>()]() mutable {
+    const auto now = lines();
+    if (shown.Update(now)) {
+      table->Show(now);
+      use->setText(UseText(now));
+      marked->Forget();
+    }
+    if (told.Update(words())) legend->setText(words());
+    if (marked->Update(list.position)) table->SetMarked(list.position);
+    return false;
+  });
+  return side;
+}
+
+}  // namespace ovl

@@ -1,0 +1,177 @@
+#include "ui/pages/pages.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QScrollArea>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <array>
+#include <memory>
+#include <optional>
+
+#include "host/text_codec.h"
+#include "ui/kit/layout.h"
+#include "ui/kit/theme.h"
+#include "ui/kit/widgets.h"
+#include "ui/pages/register_frames.h"
+
+namespace ovl {
+namespace {
+
+constexpr int kRegisterListWidth = 270;
+constexpr int kSignSize = 18;
+constexpr int kButtonWidth = 112;
+
+// The one pair of frames that show together, the second below the first.
+constexpr int kModels = 49;
+constexpr int kModelsCompanion = 18;
+
+QWidget* RegisterList(Bindings& bindings) {
+  auto& form = bindings.Model().frmMain;
+  auto* side = new QWidget;
+  auto* down = new QVBoxLayout(side);
+  down->setContentsMargins(kMargin, kMargin, 0, kMargin);
+  down->setSpacing(kRowGap);
+  auto* title = TitleLabel(QStringLiteral("Register"));
+  auto* list = bindings.Tall(bindings.Named(form.form, "ComboReg"), title->text());
+  title->setBuddy(list);
+  auto* count = MutedLabel({});
+  down->addWidget(title);
+  down->addWidget(list, 1);
+  down->addWidget(count);
+  side->setFixedWidth(kMargin + kRegisterListWidth);
+  bindings.Follow([count, &form, entries = Shadow<std::size_t>()]() mutable {
+    if (!entries.Update(form.ComboReg.items.size())) return false;
+    count->setText(
+        QStringLiteral("Type to find, Enter picks. %1 registers.").arg(form.ComboReg.items.size()));
+    return true;
+  });
+  return side;
+}
+
+// Builds a frame's lines when the frame is first shown: a person sees a few of them in a day, and all of them
+// would slow every start.
+class FrameBuilder {
+ public:
+  FrameBuilder(Bindings& bindings, PageColumn column) : bindings_(bindings), column_(std::move(column)) {}
+
+  void BuildShown() {
+    const auto& frames = bindings_.Model().frmMain.frmAddress;
+    for (std::size_t frame = 0; frame < frames.size(); ++frame) {
+      if (frames[frame].visible) Build(static_cast<int>(frame));
+    }
+  }
+
+ private:
+  void Build(int frame) {
+    auto& built = built_.at(static_cast<std::size_t>(frame));
+    if (built) return;
+    built = true;
+    if (frame == kModelsCompanion) Build(kModels);
+    column_.Section("frmAddress(" + std::to_string(frame) + ")");
+    const auto rows = RowsOfFrame(frame);
+    for (auto row = rows.begin(); row != rows.end();) {
+      const auto end =
+          std::find_if(row + 1, rows.end(), [](const FrameRow& next) { return next.place == Place::kBelow; });
+      AddLine({row, end});
+      row = end;
+    }
+  }
+
+  const NamedControl& Named(std::string_view name) const {
+    return bindings_.Named(bindings_.Model().frmMain.form, name);
+  }
+
+  void AddLine(std::span<const FrameRow> line) {
+    const auto& first = line.front();
+    const auto& control = Named(first.control).control;
+    if (std::holds_alternative<OptionArray*>(control)) return AddOptions(line);
+    if (std::holds_alternative<Label*>(control)) return AddWarning(first);
+    if (!first.inner.empty()) column_.Within(first.inner);
+    std::vector<Field> fields;
+    for (const auto& row : line) fields.emplace_back(std::string(row.control));
+    if (first.words.empty()) {
+      column_.Alone(fields.front().names.front().c_str());
+    } else {
+      column_.Row(LabelOf(first), fields);
+    }
+    if (std::holds_alternative<Button*>(control)) {
+      bindings_.WidgetOf(FaceOf(control))->setMinimumWidth(kButtonWidth);
+    }
+  }
+
+  RowLabel LabelOf(const FrameRow& row) const {
+    const auto& model = bindings_.Model();
+    const auto* label = model.registry.Find(model.frmMain.form, row.words);
+    if (label != nullptr) return RowLabel::FromModel(label->name);
+    return QString::fromLatin1(row.words.data(), static_cast<qsizetype>(row.words.size()));
+  }
+
+  void AddOptions(std::span<const FrameRow> line) {
+    std::vector<OptionColumn> arrays;
+    for (const auto& row : line) {
+      const auto head = QString::fromLatin1(row.words.data(), static_cast<qsizetype>(row.words.size()));
+      arrays.push_back({head, std::string(row.control), row.columns, std::string(row.inner)});
+    }
+    column_.Options(arrays);
+  }
+
+  void AddWarning(const FrameRow& row) {
+    const auto& named = Named(row.control);
+    auto* holder = new QWidget;
+    auto* across = new QHBoxLayout(holder);
+    across->setContentsMargins(0, 0, 0, 0);
+    across->setSpacing(kFieldGap);
+    auto* sign = new QLabel;
+    sign->setPixmap(
+        holder->style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(QSize(kSignSize, kSignSize)));
+    auto* words = bindings_.Make(named);
+    auto font = words->font();
+    font.setWeight(QFont::DemiBold);
+    words->setFont(font);
+    across->addWidget(sign);
+    across->addWidget(words);
+    across->addStretch(1);
+    column_.Wide(holder, [&face = FaceOf(named.control)] { return face.visible; });
+  }
+
+  Bindings& bindings_;
+  PageColumn column_;
+  std::array<bool, std::tuple_size_v<decltype(MainForm::frmAddress)>> built_{};
+};
+
+// The options of the selected register, or the calm line of one that has none.
+QWidget* RegisterOptionsPage(Bindings& bindings) {
+  auto& form = bindings.Model().frmMain;
+  // Followed ahead of the column, so that what is built shows in the same refresh.
+  auto builder = std::make_shared<std::optional<FrameBuilder>>();
+  bindings.Follow([builder] {
+    (*builder)->BuildShown();
+    return false;
+  });
+  Page page(bindings, form.form, kColumnGap);
+  auto& column = page.Column();
+  builder->emplace(bindings, column);
+  const auto without_options = [&form] {
+    return std::none_of(form.frmAddress.begin(), form.frmAddress.end(),
+                        [](const Frame& frame) { return frame.visible; });
+  };
+  column.OwnSection([&form] { return FromWindows1252(form.ComboReg.Text()); },
+                    [&form, without_options] { return form.ComboReg.position >= 0 && without_options(); });
+  column.Note(QStringLiteral("This register has no options of its own."));
+  return page.Finish(QStringLiteral("No register is selected."));
+}
+
+}  // namespace
+
+QWidget* BuildRegisterPage(Bindings& bindings) {
+  auto* page = new QWidget;
+  auto* across = new QHBoxLayout(page);
+  across->setContentsMargins(0, 0, 0, 0);
+  across->setSpacing(0);
+  across->addWidget(RegisterList(bindings));
+  across->addWidget(RegisterOptionsPage(bindings), 1);
+  return page;
+}
+
+}  // namespace ovl

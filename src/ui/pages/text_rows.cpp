@@ -1,0 +1,58 @@
+#include "ui/pages/text_rows.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <algorithm>
+
+namespace ovl {
+
+void AddTextRow(Bindings& bindings, PageColumn& column, const char* name, const char* button,
+                ButtonPlace place) {
+  if (place == ButtonPlace::kBeside) {
+    column.Row(RowLabel::OfField(), {name, button});
+  } else {
+    column.Row(name).Row("", button);
+  }
+  const auto& form = bindings.Model().frmMain.form;
+  const auto widget = [&](const char* control) {
+    return bindings.WidgetOf(FaceOf(bindings.Named(form, control).control));
+  };
+  widget(button)->setMinimumWidth(kSetButtonWidth);
+  auto* line = static_cast<QLineEdit*>(widget(name));
+  line->setFixedWidth(kStoredTextWidth);
+  QObject::connect(line, &QLineEdit::textChanged, line, [line] { line->home(false); });
+}
+
+void AddTitleRows(Bindings& bindings, PageColumn& column) {
+  AddTextRow(bindings, column, "Title_Text", "cmdTitle", ButtonPlace::kBeside);
+}
+
+int CaptionWidth(std::initializer_list<const Face*> faces) {
+  int widest = 0;
+  for (const auto* face : faces)
+    widest = std::max(widest, QLabel(CaptionText(face->caption)).sizeHint().width());
+  return widest + 2 * kLetterRoom;
+}
+
+QWidget* BesideOverview(Bindings& bindings, QWidget* overview, QScrollArea* editor) {
+  auto* page = new QWidget;
+  auto* across = new QHBoxLayout(page);
+  across->setContentsMargins(0, 0, 0, 0);
+  across->setSpacing(0);
+  across->addWidget(overview, 1);
+  across->addWidget(editor);
+  editor->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  bindings.Follow([editor] {
+    const int bar = editor->verticalScrollBar()->sizeHint().width();
+    const int least = editor->widget()->minimumSizeHint().width() + bar;
+    if (editor->minimumWidth() != least) editor->setFixedWidth(least);
+    return false;
+  });
+  // A window too narrow for both shows one after the other.
+  return Scrolled(page);
+}
+
+}  // namespace ovl

@@ -1,0 +1,65 @@
+#include <array>
+
+#include "ui/tips/tip_texts.h"
+
+namespace ovl {
+namespace {
+
+constexpr std::array kTips{
+    Tip{"frmMain", "ComboCOMM(0)",
+        "How the unit is wired to the register: on a line of its own, listening on someone else's, or on a "
+        "bus."},
+    Tip{"frmMain", "ComboCOMM(1)",
+        "The speed at which the unit listens to the register; AUTO finds it by itself."},
+    Tip{"frmMain", "ComboCOMM(2)", "The speed at which the unit sends."},
+    Tip{"frmMain", "ComboCOMM(3)", "The parity of a character on the register line."},
+    Tip{"frmMain", "ComboCOMM(4)", "The data bits of a character on the register line."},
+    Tip{"frmMain", "ComboCOMM(5)", "Whether the unit heeds the control wires of the register line."},
+    Tip{"frmMain", "ComboCOMM(6)",
+        "Whether the unit begins a new line of text at every carriage return; what is stored follows the "
+        "handshaking."},
+    Tip{"frmMain", "ComboCOMM(7)",
+        "The form in which the unit sends its text on to the recorder; a choice for a MASTER only."},
+    Tip{"frmMain", "ComboCOMM(8)", "How unit and register hold each other up by characters on the line."},
+    Tip{"frmMain", "ComboCOMM(9)",
+        "The unit's part in a chain of units: none, the one that calls, one that is called, or a generic "
+        "network."},
+    Tip{"frmMain", "ComboCOMM(10)", "The number under which the master calls this unit."},
+    Tip{"frmMain", "ComboCOMM(11)", "The language of the chain; it sets the chain's speed."},
+    Tip{"frmMain", "ComboCOMM(12)", "The speed of the chain."},
+    Tip{"frmMain", "ComboNone(0)", "Only a master has a choice of transmit protocol."},
+    Tip{"frmMain", "ComboNone(1)", "This part in the network has no address."},
+    Tip{"frmMain", "ComboNone(2)", "Without a chain of units there is no protocol to choose."},
+    Tip{"frmMain", "ComboDIP(0)",
+        "Minutes without text after which the unit clears the picture; every pick but 10 also resets format, "
+        "line compression and delay."},
+    Tip{"frmMain", "ComboDIP(1)", "How many lines of text the unit shows; title and clock need a line each."},
+    Tip{"frmMain", "ComboDIP(2)", "Whether the text stands at the top or at the bottom of the picture."},
+    Tip{"frmMain", "ComboDIP(3)", "Whether the unit leaves out empty lines."},
+    Tip{"frmMain", "ComboDIP(4)", "Whether the unit moves each line to the edge of the picture."},
+    Tip{"frmMain", "ComboDIP(5)",
+        "Whether the unit holds lines back so that they can be read as they scroll."},
+    Tip{"frmMain", "ComboDIP(6)", "Whether the unit shows the register's text at all."},
+    Tip{"frmMain", "ComboDIP(7)", "How many blanks in a row the unit leaves standing; OFF leaves all."},
+    Tip{"frmMain", "ComboDIP(8)", "How many characters a line of the picture holds."},
+    Tip{"frmMain", "ComboTD(0)",
+        "Whether the unit shows its clock in the picture; it takes a line of the text."},
+    Tip{"frmMain", "ComboTD(1)", "How the unit writes the hour."},
+    Tip{"frmMain", "ComboTD(2)", "The order in which the unit writes day, month and year."},
+    Tip{"frmMain", "ComboTD(3)", "The rule by which the unit goes over to summer time and back."},
+    Tip{"frmMain", "ComboTD(4)", "Whether the unit's clock is locked."},
+    Tip{"frmMain", "ComboTD(5)",
+        "Whether the unit shows the title in the picture; it takes a line of the text."},
+    Tip{"frmMain", "ComboLang", "The language of the unit's own texts."},
+    Tip{"frmMain", "ComboExcepRe(0)", "Whether the unit reports exceptions on its line."},
+    Tip{"frmMain", "ComboExcepRe(1)", "Whether the unit puts the time in front of a report."},
+    Tip{"frmMain", "ComboExcepRe(2)", "Whether the unit reports a line again that is the same as the last."},
+};
+
+}  // namespace
+
+std::span<const Tip> SettingTips() {
+  return kTips;
+}
+
+}  // namespace ovl

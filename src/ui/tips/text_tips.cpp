@@ -1,0 +1,87 @@
+#include <array>
+
+#include "ui/tips/tip_texts.h"
+
+namespace ovl {
+namespace {
+
+constexpr std::array kTips{
+    Tip{"frmMain", "ComboExcp(0)",
+        "Which of the 24 exceptions is shown here; the overview picks it as well."},
+    Tip{"frmMain", "ComboExcp(1)",
+        "Whether the unit shows a line in the picture when this exception matches."},
+    Tip{"frmMain", "ComboExcp(2)", "Whether the unit passes a line on when this exception matches."},
+    Tip{"frmMain", "ComboExcp(3)",
+        "Whether the unit keeps a line in its history buffer when this exception matches."},
+    Tip{"frmMain", "ComboExcp(4)",
+        "Whether this exception starts a scroll match; it then has no display, output or history of its "
+        "own."},
+    Tip{"frmMain", "ComboExcp(5)",
+        "How the unit compares the amount on the line with the two values of the range."},
+    Tip{"frmMain", "TextException",
+        "The text that the unit looks for in what the register prints; ? stands for any character."},
+    Tip{"frmMain", "cmdSetExcpstr", "Opens a window in which the text to look for is typed."},
+    Tip{"frmMain", "TextRANGE(0)", "The first value with which the unit compares the amount on the line."},
+    Tip{"frmMain", "TextRANGE(1)", "The second value with which the unit compares the amount on the line."},
+    Tip{"frmMain", "cmdSetRange", "Opens a window in which the two values are typed."},
+    Tip{"frmMain", "ComboScroll(0)", "Whether the unit matches texts that run over several lines."},
+    Tip{"frmMain", "ComboScroll(1)",
+        "How long the unit waits for the rest of a match that runs over several lines."},
+
+    Tip{"frmMain", "ComboALM(0)", "Which of the 16 alarms is shown here; the overview picks it as well."},
+    Tip{"frmMain", "ComboALM(1)",
+        "What sets the alarm off: nothing, one exception, a group of exceptions, or the RTS line."},
+    Tip{"frmMain", "lbAlmTrig", "The number beside it is that of the exception that sets the alarm off."},
+    Tip{"frmMain", "ComboALM(2)",
+        "How the alarm's contact stands while there is no alarm: NO open, NC closed. Alarm 9 keeps the state "
+        "it has."},
+    Tip{"frmMain", "ComboALM(3)", "For how long the unit holds the alarm; PLUSE gives a pulse."},
+    Tip{"frmMain", "ComboALM(4)",
+        "How the unit marks the picture while an alarm is on; the same for all alarms."},
+    Tip{"frmMain", "ComboALM(5)",
+        "For how long the unit marks the picture, from 000 to 240 in steps of 2; the same for all alarms."},
+    Tip{"frmMain", "ComboALM(6)",
+        "How this alarm answers a loss of the video signal: OFF not at all, MANUAL by hand, or with the time "
+        "chosen."},
+    Tip{"frmMain", "ComboALM(7)", "Which of the unit's two types this alarm has, DWELL or TIMED."},
+    Tip{"frmMain", "TextTrigger", "The text that the unit shows or sends when this alarm goes off."},
+    Tip{"frmMain", "cmdSetTrigger", "Opens a window in which this alarm's text is typed."},
+    Tip{"frmMain", "ComboTrigger(0)",
+        "Whether the unit shows the text in the picture when this alarm goes off."},
+    Tip{"frmMain", "ComboTrigger(1)",
+        "Whether the unit sends the text on its line when this alarm goes off."},
+    Tip{"frmMain", "ComboTrigger(2)", "How long after the RTS line the unit brings this alarm's text."},
+
+    Tip{"frmMain", "Title_Text",
+        "The fixed text that the unit writes in the picture, such as the shop's name."},
+    Tip{"frmMain", "cmdTitle", "Opens a window in which the title of the picture is typed."},
+    Tip{"frmMain", "DemoMode",
+        "After power up the unit plays a built-in register, so that the picture can be tried without one."},
+    Tip{"frmMain", "CharacterList", "How many characters a line of the demo has."},
+    Tip{"frmMain", "DemoType", "The kind of shop whose receipts the demo plays."},
+    Tip{"frmMain", "DemoSpeed", "How much time the demo takes for a line."},
+
+    Tip{"frmSetEXCPSTR", "Text1", "The text that the unit keeps, 40 characters at most."},
+    Tip{"frmSetEXCPSTR", "cmdSET", "Takes the text over and closes this window."},
+    Tip{"frmSetEXCPSTR", "cmdClr", "Empties the text; it is taken over with SET only."},
+    Tip{"frmSetRange", "Range_Hi", "The first value with which the unit compares the amount on the line."},
+    Tip{"frmSetRange", "SubRange_Hi", "The two digits of the first value behind the separator."},
+    Tip{"frmSetRange", "Range_Low", "The second value with which the unit compares the amount on the line."},
+    Tip{"frmSetRange", "SubRange_Low", "The two digits of the second value behind the separator."},
+    Tip{"frmSetRange", "ComboDec",
+        "The sign that the register prints between whole and decimal digits; it holds for all exceptions and "
+        "is "
+        "stored at once."},
+    Tip{"frmSetRange", "cmdSetRange", "Takes the two values over and closes this window."},
+    Tip{"frmSetRange", "cmdClr",
+        "Puts both values to zero, which is taken over with SET only, and the separator to a point at once."},
+    Tip{"frmView", "Text", "The text of the file; it can be marked and copied."},
+};
+
+}  // namespace
+
+std::span<const Tip> TextTips() {
+  return kTips;
+}
+
+}  // namespace ovl

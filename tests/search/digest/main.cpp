@@ -1,0 +1,38 @@
+// Runs each script and prints a digest of it: what the program holds and shows after every line, and what the
+// script printed.
+//   ovl-digest FILE...
+#include <fstream>
+#include <iostream>
+#include <sstream>
+
+#include "script/runner.h"
+#include "script/session.h"
+#include "support/digest.h"
+
+namespace ovl::testing {
+namespace {
+
+bool Run(const char* path) {
+  std::ifstream file(path);
+  std::ostringstream printed, errors;
+  script::Session session(printed, printed);
+  Digest digest;
+  for (std::string line; std::getline(file, line);) {
+    std::istringstream statement(line);
+    if (script::RunScript(session, statement, path, errors) != script::ExitStatus::kDone) break;
+    if (session.Started()) digest.AddState(session.App());
+  }
+  digest.Add(printed.str());
+  std::cout << digest.Text() << ' ' << path << '\n';
+  std::cerr << errors.str();
+  return file.eof() && errors.str().empty();
+}
+
+}  // namespace
+}  // namespace ovl::testing
+
+int main(int count, char** paths) {
+  bool well = count > 1;
+  for (int at = 1; at < count; ++at) well = ovl::testing::Run(paths[at]) && well;
+  return well ? 0 : 1;
+}

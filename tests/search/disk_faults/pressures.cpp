@@ -1,0 +1,106 @@
+#include "pressures.h"
+
+#include <fcntl.h>
+#include <grp.h>
+#include <sched.h>
+#include <sys/file.h>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <fstream>
+
+#include "files/files.h"
+
+namespace ovl::testing {
+namespace {
+
+namespace fs = std::filesystem;
+using Path = const fs::path&;
+
+// The superuser would be refused nothing. The process stays an ordinary user to its end.
+bool BecomeOrdinary(Path file, bool own_folder) {
+  constexpr uid_t kNobody = 65534;
+  if (geteuid() != 0) return true;
+  const auto folder = file.parent_path();
+  for (auto above = folder; above != fs::temp_directory_path(); above = above.parent_path()) {
+    fs::permissions(above, fs::perms::others_read | fs::perms::others_exec, fs::perm_options::add);
+  }
+  return chown(file.c_str(), kNobody, kNobody) == 0 &&
+         (!own_folder || chown(folder.c_str(), kNobody, kNobody) == 0) && setgroups(0, nullptr) == 0 &&
+         setresgid(kNobody, kNobody, kNobody) == 0 && setresuid(kNobody, kNobody, kNobody) == 0;
+}
+
+// A file system of a few pages, gone with this process, filled to the last byte.
+bool FillFileSystem(Path file) {
+  if (unshare(CLONE_NEWNS) != 0) return false;
+  const auto before = ReadWhole(file.string());
+  const auto folder = file.parent_path();
+  const bool mounted = mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+                       mount("tmpfs", folder.c_str(), "tmpfs", 0, "size=64k") == 0;
+  if (!mounted) return false;
+  WriteWhole(file.string(), before);
+  std::ofstream filler(folder / "filler", std::ios::binary);
+  while (filler.put('x').flush()) continue;
+  return true;
+}
+
+bool LimitFileSize(Path) {
+  OutliveSizeLimit();
+  const rlimit limit{10, 10};
+  return setrlimit(RLIMIT_FSIZE, &limit) == 0;
+}
+
+bool MakeFolderReadOnly(Path file) {
+  fs::permissions(file.parent_path(), fs::perms::owner_write, fs::perm_options::remove);
+  return BecomeOrdinary(file, false);
+}
+
+bool ProtectFile(Path file) {
+  fs::permissions(file, fs::perms::owner_read);
+  return BecomeOrdinary(file, true);
+}
+
+bool PutLink(Path file, Path target) {
+  return fs::remove(file) && symlink(target.c_str(), file.c_str()) == 0;
+}
+
+bool PutCircle(Path file) {
+  const auto other = file.parent_path() / "other";
+  return symlink(file.c_str(), other.c_str()) == 0 && PutLink(file, other);
+}
+
+// The descriptor stays open as long as this process.
+bool Hold(Path file) {
+  const int descriptor = open(file.c_str(), O_RDWR | O_CLOEXEC);
+  return descriptor >= 0 && flock(descriptor, LOCK_EX) == 0;
+}
+
+}  // namespace
+
+std::vector<Pressure> AllPressures() {
+  constexpr bool kWritten = true, kRefused = false, kNoStore = false;
+  const auto nothing = [](Path) { return true; };
+  return {
+      {"nothing", kWritten, nothing},
+      {"no file there yet", kWritten, [](Path file) { return fs::remove(file); }},
+      {"full file system", kRefused, FillFileSystem},
+      {"limit on file size", kRefused, LimitFileSize},
+      {"read-only folder", kRefused, MakeFolderReadOnly},
+      {"write-protected file", kRefused, ProtectFile},
+      {"folder in its place", kRefused,
+       [](Path file) { return fs::remove(file) && fs::create_directory(file); }},
+      {"pipe in its place", kRefused,
+       [](Path file) { return fs::remove(file) && mkfifo(file.c_str(), 0600) == 0; }, kNoStore},
+      {"link to nothing", kWritten, [](Path file) { return PutLink(file, "missing"); }},
+      {"link into no folder", kRefused, [](Path file) { return PutLink(file, "missing/file"); }, kNoStore},
+      {"links in a circle", kRefused, PutCircle, kNoStore},
+      {"another holds it", kWritten, Hold},
+      {"folder gone", kRefused, [](Path file) { return fs::remove_all(file.parent_path()) > 0; }, kNoStore},
+      {"name of 255 bytes", kWritten, nothing, true, std::string(255, 'n')},
+      {"name of 300 bytes", kRefused, nothing, true, std::string(300, 'n')},
+  };
+}
+
+}  // namespace ovl::testing

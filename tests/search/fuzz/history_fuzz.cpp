@@ -1,0 +1,63 @@
+// Any bytes as a history file: what the viewer shows of it, and what a history that holds the same text looks
+// like when it was saved and opened again.
+#include "bytes.h"
+#include "core/actions.h"
+#include "files/files.h"
+#include "files/history.h"
+#include "support/harness.h"
+
+namespace {
+
+using ovl::fuzz::Require;
+
+// The lines of a history, told apart from the program's own reader: CR LF or CR ends one.
+std::string Shown(std::string_view bytes) {
+  std::string text;
+  for (std::size_t place = 0; place < bytes.size(); ++place) {
+    if (bytes[place] == '\n' && place > 0 && bytes[place - 1] == '\r') continue;
+    text += bytes[place] == '\r' ? "\r\n" : std::string(1, bytes[place]);
+  }
+  return text.empty() || text.ends_with("\r\n") ? text : text + "\r\n";
+}
+
+struct Viewer {
+  Viewer() : path(folder.File("History.txt")) {
+    app.platform.program_folder = folder.Path().string();
+    app.platform.show_message = [this](const ovl::MessageBox&) { ++boxes; };
+    app.platform.ask_file = [this](const ovl::FileDialog&) { return ovl::FileAnswer{path}; };
+  }
+
+  void Open() {
+    boxes = 0;
+    ovl::UnloadForm(app, app.frmView.form);
+    app.frmView.Text.text.clear();
+    ovl::OpenHistory_menu_Click(app, 0);
+  }
+
+  ovl::testing::TemporaryFolder folder;
+  std::string path;
+  ovl::Application app;
+  int boxes = 0;
+};
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static Viewer viewer;
+  const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+  const auto& text = viewer.app.frmView.Text.text;
+
+  ovl::WriteWhole(viewer.path, bytes);
+  viewer.Open();
+  const bool tagged = bytes.substr(0, bytes.find('\r')) == "OVLH";
+  Require(viewer.boxes == (tagged ? 0 : 1), "only a tagged file opens");
+  if (tagged) Require(text == Shown(bytes).substr(6), "the viewer shows all lines behind the tag");
+  if (!tagged) return 0;
+
+  viewer.app.HistoryText = text;
+  ovl::SaveHistory(viewer.app);
+  const auto before = text;
+  viewer.Open();
+  Require(text == before + "\r\n", "a saved history opens as it was");
+  return 0;
+}

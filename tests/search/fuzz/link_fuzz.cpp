@@ -1,0 +1,93 @@
+// A conversation with the firmware that the first byte chooses: every further byte is a received character,
+// or an event of another kind, for the program and for the table of rules.
+#include <deque>
+#include <tuple>
+#include <utility>
+
+#include "bytes.h"
+#include "search/fault_sweep/long_run.h"
+#include "search/reference_model/pair.h"
+
+namespace {
+
+using namespace ovl::testing;
+using ovl::fuzz::Bytes;
+using ovl::fuzz::Require;
+
+// All that an event can change, to begin every run from there: making a program anew takes a hundred times as
+// long. Controls refer to one another by address, so a state goes back only to the application that it was
+// taken from.
+auto StateOf(ovl::Application& app) {
+  return std::tie(
+      app.frmMain, app.frmSettSR, app.frmScanBProgress, app.frmOK_buttom, app.frmMicros, app.FrmSubMenu,
+      app.frmView, app.frmSetEXCPSTR, app.frmSetRange, app.firmware, app.capabilities, app.FirmwareMark,
+      app.RegisterIndex, app.image, app.known_image, app.sent_image, app.SYSCFG, app.SYSFIXED, app.SYSSTR,
+      app.LinkMode, app.RemoteHeld, app.ScanActive, app.ScanIndex, app.PendingOutput, app.LastSent,
+      app.LastReceived, app.StreamBuffer, app.StreamScratch, app.FrameState, app.ProgressChars,
+      app.ProgressValue, app.DownloadRequested, app.DownloadActive, app.FinalAckExpected, app.SetTimePending,
+      app.HistoryPending, app.MasterResetPending, app.HistoryText, app.HandcheckCount, app.OperatingCount,
+      app.ClockTickCount, app.PortNumber, app.PortBaud, app.PortParity, app.PortDataBits, app.TextEntryMode,
+      app.ClockHour, app.ClockMinute, app.ClockSecond, app.ClockDay, app.ClockMonth, app.ClockYear,
+      app.ImageTouched, app.PanelsReady, app.UploadApplying, app.picks_under_way, app.ComboTouched,
+      app.SavedIndexes, app.CurrentFilePath, app.StreamText, app.DiagnosticText, app.handling, app.ended,
+      app.StatusNote);
+}
+
+template <class... Member>
+std::tuple<Member...> ValuesOf(const std::tuple<Member&...>& members) {
+  return members;
+}
+
+// A whole stream takes a hundred times as long as the rest, so only one input in so many has one.
+constexpr unsigned kRarely = 32;
+
+// The bytes behind those of the characters are the table's events.
+constexpr std::size_t kFirstEvent = 0x100 - std::size(kLinkEvents);
+constexpr LinkEvent kAnyCharacter = *std::ranges::find(kLinkEvents, kCharacter, &LinkEvent::kind);
+
+class Fuzzed : Pair {
+ public:
+  explicit Fuzzed(const ovl::FirmwareId& firmware) : Pair(firmware) {
+    start_ = ValuesOf(StateOf(program_.app));
+    start_of_table_ = link_;
+  }
+
+  void Run(Bytes input) {
+    Reset();
+    bool streamed = !ovl::fuzz::OneIn(kRarely, input.Rest());
+    while (!input.Empty() && !Ended()) {
+      const auto byte = input.Next();
+      const auto& event = byte < kFirstEvent ? kAnyCharacter : kLinkEvents[byte - kFirstEvent];
+      if (event.kind == kWholeStream && std::exchange(streamed, true)) continue;
+      const char character = static_cast<char>(byte);
+      const auto found = byte < kFirstEvent ? Step(event, {&character, 1}) : Step(event);
+      Require(found.empty(), found.c_str());
+    }
+    Require(KeptImage(), "only an upload changes the image");
+  }
+
+ private:
+  void Reset() {
+    program_.app.platform.serial.close();
+    StateOf(program_.app) = start_;
+    link_ = start_of_table_;
+    uploaded_ = false;
+    program_.dialogs.clear();
+    program_.file_answers.clear();
+    program_.opened.clear();
+    program_.open_error.reset();
+    program_.line_error.reset();
+  }
+
+  decltype(ValuesOf(StateOf(std::declval<ovl::Application&>()))) start_;
+  Link start_of_table_;
+};
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static std::deque<Fuzzed> pairs(kUnlike.begin(), kUnlike.end());
+  Bytes input(data, size);
+  pairs[input.Next() % pairs.size()].Run(input);
+  return 0;
+}

@@ -1,0 +1,97 @@
+// Texts as record streams under every firmware: any text, or the firmware's own stream with changes to it.
+// The first byte chooses the firmware, the second what is done.
+#include "bytes.h"
+#include "core/configuration.h"
+#include "core/gate.h"
+#include "firmware/firmware_table.h"
+#include "image/record_stream.h"
+#include "support/harness.h"
+
+namespace {
+
+using ovl::fuzz::Bytes;
+using ovl::fuzz::Require;
+
+constexpr unsigned kPanelsReady = 1, kChanges = 2;
+
+struct Served {
+  ovl::FirmwareId firmware;
+  std::string stream;
+};
+
+// As it comes out of a file: without the line ends. A lone LF is none.
+std::string Joined(std::string_view stream) {
+  std::string joined;
+  for (std::size_t at = 0; at < stream.size(); ++at) {
+    const bool of_end = stream[at] == '\r' || (at > 0 && stream.substr(at - 1, 2) == "\r\n");
+    if (!of_end) joined += stream[at];
+  }
+  return joined;
+}
+
+std::vector<Served> AllServed() {
+  std::vector<Served> all;
+  for (const auto& entry : ovl::FirmwareTable()) {
+    if (!entry.in_menu) continue;
+    const ovl::FirmwareId firmware{std::string(entry.version), std::string(entry.release)};
+    all.push_back({firmware, Joined(ovl::testing::RawPatternStream(firmware))});
+  }
+  return all;
+}
+
+// Every four bytes put something in the place of a piece of the stream: place, length, character.
+std::string Changed(std::string text, Bytes input) {
+  while (!input.Empty()) {
+    const std::size_t place = (input.Next() * 256U + input.Next()) % (text.size() + 1);
+    const std::size_t length = input.Next();
+    text.replace(place, length, 1, static_cast<char>(input.Next()));
+  }
+  return text;
+}
+
+// What a register's default image brings in leaves all other fields alone.
+void CheckKept(const ovl::ConfigImage& before, const ovl::ConfigImage& after) {
+  for (const auto& row : ovl::FieldTable()) {
+    const bool taken = row.is_default || !row.sentinel.empty() || row.id == ovl::FieldId::BLNKRTS_BAK;
+    for (int entry = 1; entry <= ovl::EntryCount(row.id) && !taken; ++entry)
+      Require(before.at(row.id, entry) == after.at(row.id, entry), "a field of no default stays");
+  }
+}
+
+// An image that came in complete goes out and comes in again as it was.
+void CheckRoundTrip(ovl::Application& app) {
+  std::string digits;
+  ovl::ParseRecords(app.StreamText, ovl::ReadRegion(app.firmware), digits);
+  if (digits.size() != ovl::testing::DigitsOfImage(app.firmware)) return;
+  const auto sent = ovl::SectionsToStream(app);
+  Require(ovl::LoadStream(app, Joined(sent)), "what was composed loads");
+  Require(ovl::SectionsToStream(app) == sent, "what was loaded composes to the same");
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static const auto all = AllServed();
+  static const ovl::ConfigImage before;
+  static ovl::Application app;
+  app.platform.show_message = [](const ovl::MessageBox&) {};
+
+  Bytes input(data, size);
+  const auto& served = all[input.Next() % all.size()];
+  const unsigned choice = input.Next();
+  app.firmware = served.firmware;
+  app.StreamText = Joined((choice & kChanges) != 0 ? Changed(served.stream, input) : input.Rest());
+  app.PanelsReady = (choice & kPanelsReady) != 0;
+  if (app.ImageTouched) app.image = before;
+  app.ImageTouched = app.ended = false;
+  ovl::PrepareCapabilities(app);
+  ovl::DispatchStart(app, [](ovl::Application& at) { at.ImageTouched = ovl::LoadStream(at, at.StreamText); });
+  if (!app.ImageTouched) {
+    Require(app.image == before, "a stream that is not taken leaves the image alone");
+  } else if (app.PanelsReady) {
+    CheckKept(before, app.image);
+  } else {
+    CheckRoundTrip(app);
+  }
+  return 0;
+}

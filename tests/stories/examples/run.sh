@@ -1,0 +1,111 @@
+#!/usr/bin/env bash
+# Runs one of the examples against units in software: run.sh PROGRAMS IMAGES EXAMPLE
+set -euo pipefail
+examples=$(cd "$(dirname "$0")/../../../examples" && pwd)
+place=$(mktemp -d)
+units=()
+trap 'kill "${units[@]}" 2>/dev/null || true; rm -rf "$place"' EXIT
+site="$place/the \"new\" site"
+export PATH=$1:$PATH OVL_IMAGES=$site/images TMPDIR=$site
+mkdir -p "$site/images/V1400" "$site/images/V1300"
+cd "$site"
+ln -s "$2"/V1400/R* images/V1400
+ln -s "$2"/V1300/R* images/V1300
+
+for unit in 1 2; do
+  ovl-unit --memory "memory$unit" --link "unit$unit" --history lines:5 --clock-file "clock$unit" --pace off > said$unit &
+  units+=($!)
+  for _ in $(seq 100); do [ -s said$unit ] && break; sleep 0.1; done
+  echo "$site/unit$unit" >> devices
+done
+
+# A command must end with this status and say what the pattern matches: fails STATUS PATTERN COMMAND...
+fails() {
+  local status=0
+  "${@:3}" > said 2>&1 || status=$?
+  [ "$status" = "$1" ] && grep -q -- "$2" said && return
+  echo "${*:3}: status $status, not $1, or not \"$2\":" >&2
+  cat said >&2
+  exit 1
+}
+
+echo unit1 > one
+case $3 in
+  backup)
+    "$examples/backup.sh" unit1 saved
+    cp memory1 before
+    cp saved kept
+    fails 1 '^gone/unit3: No such file' "$examples/backup.sh" gone/unit3 saved
+    OVL_FIRMWARE="V1400 R7" fails 1 'it fits V1400R11 V1400R12$' "$examples/backup.sh" unit1 saved
+    cmp saved kept
+    "$examples/change_all.sh" one DATE_FORMAT_BAK=02
+    fails 1 differ cmp memory1 before
+    fails 2 'it fits V1400R7$' "$examples/restore.sh" unit1 images/V1400/R7/GENERIC.bin
+    "$examples/restore.sh" unit1 saved
+    cmp memory1 before
+    ;;
+  change_all)
+    cp memory1 before
+    for wrong in TITLE_BAK=41 EXCPSTRS=41 DATE_FORMAT_BAK=2 DATE_FORMAT_BAK=0G DSPROW=01; do
+      fails 2 "$wrong: " "$examples/change_all.sh" devices DECIMAL_POINT_BAK=01 "$wrong"
+    done
+    cmp memory1 before
+    echo '# none' > none
+    fails 2 'none: no device' "$examples/change_all.sh" none DECIMAL_POINT_BAK=01
+    fails 2 'no list: No such file' "$examples/change_all.sh" 'no list' DECIMAL_POINT_BAK=01
+    printf '# kitchen\r\nunit1 # left\r\n\ngone/unit3\n unit2' > devices
+    fails 1 '^gone/unit3: failed: gone/unit3: No such' "$examples/change_all.sh" devices DATE_FORMAT_BAK=02 SITE_NO_BAK=0a
+    [ "$(grep -c ': done$' said) $(wc -l < said)" = "2 3" ]
+    cmp memory1 memory2
+    fails 1 differ cmp memory1 before
+    "$examples/restore.sh" unit1 images/V1400/R12/PANASONIC.bin
+    "$examples/change_all.sh" one RX_BAUDRATE=01
+    fails 1 'RX_BAUDRATE' "$examples/change_all.sh" one DATE_FORMAT_BAK=02
+    "$examples/change_all.sh" one DATE_FORMAT_BAK=02 RX_BAUDRATE=01
+    ;;
+  set_clocks)
+    "$examples/set_clocks.sh" devices
+    for unit in 1 2; do
+      set_to=$(sed 's/^\(..\)-\(..\)-\(..\)/20\3-\1-\2/' clock$unit)
+      [ $(($(date +%s) - $(date -d "$set_to" +%s))) -lt 60 ]
+    done
+    ;;
+  collect_histories)
+    "$examples/collect_histories.sh" devices histories
+    [ "$(head -n 1 histories/unit1.txt | tr -d '\r') $(wc -l < histories/unit2.txt)" = "OVLH 7" ]
+    mkdir -p old/unit1.txt
+    fails 1 '^unit1: failed: .' "$examples/collect_histories.sh" one old
+    echo other/unit1 >> one
+    fails 2 'unit1.txt$' "$examples/collect_histories.sh" one histories
+    ;;
+  compare)
+    "$examples/backup.sh" unit1 saved
+    "$examples/compare.sh" unit1 saved
+    "$examples/change_all.sh" one DATE_FORMAT_BAK=02
+    fails 1 '^DATE_FORMAT_BAK: .* -> 02$' "$examples/compare.sh" unit1 saved
+    fails 3 '^gone/unit3: No such file' "$examples/compare.sh" gone/unit3 saved
+    fails 3 'it fits V1400R7$' "$examples/compare.sh" unit1 images/V1400/R7/GENERIC.bin
+    ;;
+  check_images)
+    "$examples/check_images.sh" images/V1400/R12
+    OVL_FIRMWARE="V1300 R14" "$examples/check_images.sh" images/V1300/R14
+    cp -r images/V1400/R12/ copy
+    rm copy/ALOHA.bin copy/CASIO.bin
+    mkdir copy/CASIO.bin
+    cp copy/IBM.bin copy/NCR.bin
+    cp images/V1300/R14/GENERIC.bin copy
+    fails 1 '^copy/ALOHA.bin: missing$' "$examples/check_images.sh" copy
+    found=$(grep -c -e '^copy/GENERIC.bin: .* V1300R14 ' -e '^copy/NCR.bin: .*"IBM"$' -e '^copy/CASIO.bin: Is a d' said)
+    [ "$found $(wc -l < said)" = "3 4" ]
+    OVL_IMAGES=none fails 2 '^none/V1400/R12/GENERIC.bin: ' "$examples/check_images.sh" copy
+    ;;
+esac
+[ ! -e images/V1400/upload.bin ]
+
+for unit in "${units[@]}"; do
+  kill -TERM "$unit"
+  wait "$unit"
+done
+
+# What the example left, to be compared with what another build leaves. Clocks and terminals differ from run to run.
+find . -type f ! -name 'clock*' ! -name 'said*' ! -name devices -exec sha256sum {} + | sort -k 2

@@ -1,0 +1,83 @@
+// The labels under which a person finds what differs in a record.
+#include "changes/editors.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "firmware/firmware_table.h"
+#include "image/field_map.h"
+#include "support/harness.h"
+
+namespace ovl::testing {
+namespace {
+
+TEST(Editors, NameOnlyTheControlsThatStoreWhatDiffers) {
+  // The field, the digit that differs, what it becomes, and the words.
+  std::istringstream rows(
+      "EXCPSTRS 0 4 EXCEPTION REPORT: SCROLL MATCHING;EXCPSTRS 1 1 EXCEPTION REPORT: DISPLAY;"
+      "EXCPSTRS 1 C EXCEPTION REPORT: OPERATOR;EXCPSTRS 5 7 EXCEPTION REPORT: Set RANGE;"
+      "EXCPSTRS 22 7 EXCEPTION REPORT: EXCEPTION STRING;EXCPSTRS 103 7 EXCEPTION REPORT: EXCEPTION STRING;"
+      "ALMSTRUCT_BAK 1 7 ALARM OUTPUTS: ALARM TRIGGER;ALMSTRUCT_BAK 5 7 ALARM OUTPUTS: ALARM DURATION;"
+      "ALMSTRUCT_BAK 7 1 ALARM OUTPUTS: VIDEO LOSS;ALMSTRUCT_BAK 6 1 ALARM OUTPUTS: VIDEO LOSS;TRIGGER_TEXT "
+      "1 2 ALARM OUTPUTS: OUTPUT TEXT;"
+      "TRIGGER_TEXT 7 7 ALARM OUTPUTS: TRIGGER TEXT;"
+      "SCROLLMATCH_BAK 0 1 EXCEPTION REPORT: SCROLL MATCHING, TIMEOUT;"
+      "COMMCFG_BAK 1 4 COMMUNICATION: DATA BITS;COMMCFG_BAK 0 1 EXCEPTION REPORT: OUTPUT");
+  Harness harness({"V1400", "R12"});
+  harness.Start();
+  std::string name, words;
+  std::size_t digit = 0;
+  for (char other = 0; rows >> name >> digit >> other && std::getline(rows >> std::ws, words, ';');) {
+    const bool one_byte = name == "COMMCFG_BAK" || name == "SCROLLMATCH_BAK";
+    const std::string before(name == "EXCPSTRS" ? 104 : one_byte ? 2 : 8, '0');
+    auto after = before;
+    after[digit] = other;
+    EXPECT_EQ(EditedBy(harness.app, FindField(name)->id, "options", before, after), words) << after;
+  }
+  EXPECT_EQ(words, "EXCEPTION REPORT: OUTPUT") << "the last row was compared";
+
+  std::istringstream fields(
+      "COMMCFG_BAK COMMUNICATION: PARITY, DATA BITS, HW HANDSHAKING, AUTO LINEFEED; EXCEPTION REPORT: OUTPUT|"
+      "REGTYPE_EXT2 REGISTER SELECT: options; MICROS: HANDSHAKING|REGDV_TYPE_BAK MICROS: SOURCE TYPE|"
+      "REG_GNA_BAK MICROS: SRC ISN GNA|REG_LNA_BAK MICROS: SRC ISN LNA|REG_IDNA_BAK MICROS: SRC IDN ID|"
+      "PCDV_TYPE_BAK MICROS: DESTIN TYPE|PC_GNA_BAK MICROS: DST ISN GNA|PC_LNA_BAK MICROS: DST ISN LNA|"
+      "PC_IDNA_BAK MICROS: DST IDN ID");
+  while (fields >> name && std::getline(fields >> std::ws, words, '|'))
+    EXPECT_EQ(EditedBy(harness.app, FindField(name)->id, "options"), words);
+}
+
+// A caption that is missing under some firmware would be met first by whoever looks at its changes.
+TEST(Editors, HaveCaptionsUnderEveryFirmware) {
+  for (const auto& entry : FirmwareTable()) {
+    Harness harness({std::string(entry.version), std::string(entry.release)});
+    harness.Start();
+    for (const auto& field : FieldTable())
+      EXPECT_NO_THROW(EditedBy(harness.app, field.id, "options")) << entry.release << ' ' << field.name;
+  }
+}
+
+// What ComboCOMM(6) stores follows the handshaking.
+TEST(Editors, TellOfListsWhosePicksChangeJustTheirBits) {
+  int tried = 0;
+  Harness harness({"V1400", "R12"});
+  harness.Start();
+  auto& app = harness.app;
+  for (const auto& editor : Editors()) {
+    const bool of_main = editor.tells != Tells::kNothing && editor.place != Place::kMicros;
+    if (!of_main || editor.controls == "ComboCOMM(6)") continue;
+    const auto& list = *std::get<List*>(app.registry.Find(editor.controls)->control);
+    int changed = 0;
+    for (int position = 0; position < static_cast<int>(list.items.size()); ++position) {
+      const int before = HexToInt(app.image[editor.field]);
+      harness.Pick(editor.controls, position);
+      changed |= before ^ HexToInt(app.image[editor.field]);
+    }
+    EXPECT_TRUE(editor.bits == kWholeByte ? changed != 0 : changed == editor.bits) << editor.controls;
+    ++tried;
+  }
+  EXPECT_EQ(tried, 28);
+}
+
+}  // namespace
+}  // namespace ovl::testing

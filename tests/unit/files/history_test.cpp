@@ -1,0 +1,121 @@
+// Histories as files: saved from the unit, opened in the viewer.
+#include "files/history.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "support/installed.h"
+
+namespace ovl::testing {
+namespace {
+
+struct Viewing : Installed {
+  Viewing() : Installed({"V1400", "R12"}, Images::kFirstRegister) {}
+
+  std::string Write(std::string_view bytes) const {
+    WriteWhole(folder.File("log.txt"), bytes);
+    return folder.File("log.txt");
+  }
+  Outcome Open(const std::optional<std::string>& path) { return Answer("OpenHistory_menu", path); }
+  // Lets the unit send a history that ends with its acknowledgement.
+  void Receive(const std::string& text, const std::optional<std::string>& path) {
+    OpenAndHold();
+    EXPECT_EQ(Answer("CmdUpDow(3)", path), Outcome::kDone);
+    Unit(text + "\x06");
+  }
+  // The file's name, and what is read of it.
+  void ExpectShown(const std::string& caption, const std::string& text) {
+    EXPECT_TRUE(app.frmView.form.visible);
+    EXPECT_EQ(app.frmView.form.caption, caption);
+    EXPECT_EQ(app.frmView.Text.text, text);
+    EXPECT_TRUE(NoBoxLeft());
+  }
+};
+
+TEST(History, GoesIntoTheChosenOrTheOfferedFileAndEndsAllTheSameIfNeitherCanBeWritten) {
+  Viewing program;
+  const auto path = program.Write("an older and longer file that is replaced as a whole");
+  program.Receive("one\r\n\r\n two ", path);
+  EXPECT_EQ(ReadWhole(path), "OVLH\r\none\r\n\r\n two \r\n");
+  ASSERT_EQ(program.Open(path), Outcome::kDone);
+  program.ExpectShown(path, "one\r\n\r\n two \r\n");
+  program.Click("cmdDisConnect");
+  program.Receive("kept\r\n", std::nullopt);
+  EXPECT_EQ(ReadWhole(program.folder.File("History.txt")), "OVLH\r\nkept\r\n\r\n");
+  program.Click("cmdDisConnect");
+  program.Receive("lost", program.folder.File("no such folder/log.txt"));
+  EXPECT_TRUE(program.app.StatusNote.ends_with("No such file or directory")) << program.app.StatusNote;
+  EXPECT_FALSE(program.app.HistoryPending);
+  EXPECT_EQ(program.app.frmMain.lbRemoteAccess.caption, "No Access");
+}
+
+TEST(History, OnlyTheTagOpensAFileAndWhatCannotBeReadLeavesTheViewerInSilence) {
+  std::string line;
+  for (int code = 0; code < 256; ++code) {
+    if (code != '\r') line += static_cast<char>(code);
+  }
+  const std::pair<std::string, std::string> shown[] = {
+      {"OVLH", ""},
+      {"OVLH\r\n", ""},
+      {"OVLH\r", ""},
+      {"OVLH\r\n" + line + "\r\n\r" + line, line + "\r\n\r\n" + line + "\r\n"},
+  };
+  using namespace std::string_literals;
+  // Whole files, with a bar behind each.
+  std::istringstream refused(
+      "ovlh\r\nx|OVLH \r\nx| OVLH\r\nx|OVLHX\r\nx|OVL\r\nx|\r\nOVLH\r\n|OVLH\nx\r\n|$2000\r\nOVLH|"
+      "OVLH\0\r\nx|\xEF\xBB\xBFOVLH\r\nx||"s);
+  Viewing program;
+  const auto tested = program.folder.File("tested.txt");
+  for (const auto& [bytes, text] : shown) {
+    WriteWhole(tested, bytes);
+    ASSERT_EQ(program.Open(tested), Outcome::kDone);
+    program.ExpectShown(tested, text);
+  }
+  const auto earlier = program.Write("OVLH\r\nearlier");
+  ASSERT_EQ(program.Open(earlier), Outcome::kDone);
+  for (std::string bytes; std::getline(refused, bytes, '|');) {
+    SCOPED_TRACE(bytes);
+    WriteWhole(tested, bytes);
+    ASSERT_EQ(program.Open(tested), Outcome::kDone);
+    EXPECT_EQ(program.TakeBox().text, "Incompatible File !!!, try again.");
+    program.ExpectShown(earlier, "earlier\r\n");
+  }
+  WriteWhole(tested, "OVLH\r\nlater");
+  const Locked file(tested);
+  const auto folder = program.folder.Path().string();
+  for (const auto& path :
+       std::vector<std::optional<std::string>>{folder + "/missing.txt", folder, tested, {}}) {
+    ASSERT_EQ(program.Open(path), Outcome::kDone);
+    program.ExpectShown(earlier, "earlier\r\n");
+  }
+}
+
+TEST(History, TheViewerIsReadOnlyAndOpensAgainForTheDiagnosticLogToo) {
+  Viewing program;
+  const auto& view = program.app.frmView;
+  program.Open(program.Write("OVLH\r\nfirst"));
+  program.Open(program.Write("OVLH\r\nsecond"));
+  EXPECT_EQ(DispatchStart(program.app, ShowDataDump), Outcome::kDone);
+  program.ExpectShown(program.folder.File("log.txt"), "second\r\n");
+  EXPECT_NE(program.app.StatusNote.find("DataDump.log"), std::string::npos);
+  EXPECT_EQ(Dispatch(program.app, TypeEvent{&program.app.frmView.Text, "typed"}), Outcome::kRefused);
+  // The one word of the dialog's flags that keeps it from being shown.
+  for (const unsigned flags : {0U, 4096U, 4097U, 4095U, 8192U}) {
+    SCOPED_TRACE(flags);
+    Dispatch(program.app, CloseEvent{&program.app.frmView.form});
+    EXPECT_FALSE(view.form.visible);
+    const auto path = program.Write("OVLH\r\nline " + std::to_string(flags));
+    program.app.platform.ask_file = [&](const FileDialog&) { return FileAnswer{path, flags}; };
+    ASSERT_EQ(program.Click("OpenHistory_menu"), Outcome::kDone);
+    EXPECT_EQ(view.form.visible, flags != 4096);
+    EXPECT_EQ(view.Text.text, "line " + std::to_string(flags) + "\r\n");
+  }
+  WriteWhole(program.folder.File("DataDump.log"), "any line\r\n\r\nlast");
+  EXPECT_EQ(DispatchStart(program.app, ShowDataDump), Outcome::kDone);
+  program.ExpectShown("Debuging Windwos", "any line\r\n\r\nlast\r\n");
+}
+
+}  // namespace
+}  // namespace ovl::testing

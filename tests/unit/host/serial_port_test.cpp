@@ -1,0 +1,326 @@
+#include "host/serial_port.h"
+
+#include <asm/termbits.h>
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include <QAbstractEventDispatcher>
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <array>
+#include <cstdlib>
+#include <functional>
+#include <optional>
+#include <string>
+#include <utility>
+#include <variant>
+
+namespace ovl {
+namespace {
+
+using namespace std::string_literals;
+
+// The unit's end of the line, played by the master of a pseudo-terminal.
+class PseudoTerminal {
+ public:
+  PseudoTerminal() : master_(::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK)) {
+    EXPECT_TRUE(::grantpt(master_) == 0 && ::unlockpt(master_) == 0);
+    device_ = ::ptsname(master_);
+  }
+  ~PseudoTerminal() { HangUp(); }
+  PseudoTerminal(PseudoTerminal&&) = delete;
+
+  const std::string& Device() const { return device_; }
+  void HangUp() { ::close(std::exchange(master_, -1)); }
+
+  void Send(std::string_view bytes) const {
+    EXPECT_EQ(::write(master_, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
+  }
+  // A pseudo-terminal has no parity errors of its own. With the driver's marking off, what is sent reaches
+  // the program as it stands, marks included.
+  void SendRaw(std::string_view bytes) const {
+    auto settings = Settings();
+    settings.c_iflag &= ~static_cast<tcflag_t>(PARMRK);
+    EXPECT_EQ(::ioctl(master_, TCSETS2, &settings), 0);
+    Send(bytes);
+  }
+  std::string Receive() const {
+    std::array<char, 4096> bytes = {};
+    const auto count = ::read(master_, bytes.data(), bytes.size());
+    return count > 0 ? std::string(bytes.data(), static_cast<std::size_t>(count)) : std::string();
+  }
+
+  unsigned Speed() const { return Settings().c_ospeed; }
+  bool MarksParityErrors() const {
+    return (Settings().c_iflag & (PARMRK | INPCK | IGNPAR)) == (PARMRK | INPCK);
+  }
+
+ private:
+  struct termios2 Settings() const {
+    struct termios2 settings {};
+    EXPECT_EQ(::ioctl(master_, TCGETS2, &settings), 0);
+    return settings;
+  }
+
+  int master_;
+  std::string device_;
+};
+
+// Runs the loop until the condition holds; false if it still doesn't when the patience ends.
+bool RunUntil(const std::function<bool()>& condition, int patience = 10'000) {
+  for (const QDeadlineTimer end(patience); !condition();) {
+    if (end.hasExpired()) return false;
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+  }
+  return true;
+}
+
+// Runs the loop for a while in which something that must not happen could happen.
+void RunForAWhile() {
+  RunUntil([] { return false; }, 50);
+}
+
+// Runs the loop until it has nothing left to do; false if it is never idle.
+bool BecomesIdle() {
+  int turns = 1000;
+  while (turns > 0 && QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents)) --turns;
+  return turns > 0;
+}
+
+// Comport 1 is a pseudo-terminal, the program a stub that notes what it is told.
+class SerialPortTest : public testing::Test {
+ protected:
+  SerialPortTest() {
+    Link(1, terminal_.Device());
+    port_.emplace(folder_.path(), [this](const Event& event) { return Take(event); });
+    line_ = port_->Operations();
+  }
+
+  void Link(int number, const std::string& target) const {
+    QDir(folder_.path()).mkpath("ports");
+    ASSERT_TRUE(QFile::link(target.c_str(), folder_.filePath(QString("ports/com%1").arg(number))));
+  }
+
+  Outcome Take(const Event& event) {
+    ++offers_;
+    if (busy_) return Outcome::kBusy;
+    const auto now = std::holds_alternative<DrainedEvent>(event) ? "<drained>"s : line_.read();
+    told_ += now;
+    if (on_told_) on_told_(now);
+    return Outcome::kDone;
+  }
+
+  bool Tells(const std::string& text) const {
+    return RunUntil([&] { return told_.size() >= text.size(); }) && told_ == text;
+  }
+
+  void Open(const std::string& settings = "115200,N,8,1") const {
+    ASSERT_EQ(line_.open({1, settings}), std::nullopt);
+  }
+
+  // What comes meanwhile waits in the port.
+  void SendWhileBusy(std::string_view text) {
+    busy_ = true;
+    terminal_.Send(text);
+    EXPECT_TRUE(RunUntil([&, offers = offers_] { return offers_ > offers; }));
+    RunForAWhile();
+  }
+  void Resume() {
+    busy_ = false;
+    port_->Resume();
+  }
+
+  QTemporaryDir folder_;
+  PseudoTerminal terminal_;
+  std::optional<SerialPort> port_;
+  SerialLine line_;
+  std::string told_;
+  int offers_ = 0;
+  bool busy_ = false;
+  std::function<void(const std::string&)> on_told_;
+};
+
+TEST_F(SerialPortTest, OpeningSetsTheSpeed) {
+  for (const char* speed : {"1200", "14400", "28800", "115200"}) {
+    Open(speed + ",E,7,1"s);
+    EXPECT_EQ(std::to_string(terminal_.Speed()), speed);
+    EXPECT_TRUE(terminal_.MarksParityErrors());
+  }
+  Open("9600,N,8,1");
+  EXPECT_FALSE(terminal_.MarksParityErrors());
+}
+
+TEST_F(SerialPortTest, OpeningFailsInTheSystemsWords) {
+  Link(2, "/dev/no-such-device");
+  Link(3, folder_.path().toStdString());
+  Link(4, "/dev/null");
+  EXPECT_EQ(line_.open({3, "9600,N,8,1"}), "Is a directory");
+  EXPECT_EQ(line_.open({4, "9600,N,8,1"}), "Inappropriate ioctl for device");
+  EXPECT_EQ(line_.open({1, "9600,N,9,1"}), "Invalid argument");
+  EXPECT_EQ(line_.open({2, "9600,N,8,1"}), "No such file or directory");
+  EXPECT_EQ(port_->LastProblem(), "Comport 2, /dev/no-such-device: No such file or directory.");
+  EXPECT_NE(line_.write("x"), std::nullopt);
+
+  Open();
+  EXPECT_EQ(port_->LastProblem(), "");
+  SerialPort second(folder_.path(), [](const Event&) { return Outcome::kDone; });
+  EXPECT_EQ(second.Operations().open({1, "9600,N,8,1"}), "Device or resource busy");
+}
+
+TEST_F(SerialPortTest, EveryCharacterIsAnEventOfItsOwnAndWritesDrainOnceAndLater) {
+  Open();
+  terminal_.Send("abc\0\xFF"s);
+  EXPECT_TRUE(Tells("abc\0\xFF"s));
+  EXPECT_EQ(offers_, 5);
+  EXPECT_EQ(line_.read(), "");
+
+  Open("300,N,8,1");  // so slow that a busy machine is back before the last character has left
+  told_.clear();
+  EXPECT_EQ(line_.write("x"), std::nullopt);
+  EXPECT_EQ(line_.write("request"), std::nullopt);
+  port_->DeliverPending();
+  EXPECT_EQ(told_, "");
+  std::string arrived;
+  for (const QDeadlineTimer late(10'000); arrived.size() < 8 && !late.hasExpired();)
+    arrived += terminal_.Receive();
+  EXPECT_EQ(arrived, "xrequest");
+  EXPECT_TRUE(Tells("<drained>"));
+  RunForAWhile();
+  EXPECT_EQ(told_, "<drained>");
+}
+
+TEST_F(SerialPortTest, AStreamGoesOutCharacterByCharacterAndNoneIsLostWhereTheyAreNotRead) {
+  std::string left, arrived;
+  const auto arrives = [&](const std::string& stream) {
+    return RunUntil([&] { return (arrived += terminal_.Receive()).size() >= stream.size(); }) &&
+           arrived == stream;
+  };
+  on_told_ = [&](const std::string&) {
+    EXPECT_EQ(line_.write(left.substr(0, 1)), std::nullopt);
+    left.erase(0, 1);
+  };
+  for (const char* speed : {"4800", "115200"}) {
+    Open(speed + ",N,8,1"s);
+    left = "/LD\r$2000";
+    arrived.clear();
+    line_.write("*");
+    EXPECT_TRUE(arrives("*/LD\r$2000"));
+  }
+
+  arrived.clear();
+  const std::string stream(200'000, 'x');
+  EXPECT_EQ(line_.write(stream), std::nullopt);
+  arrived = terminal_.Receive();
+  EXPECT_EQ(line_.write("end"), std::nullopt);
+  EXPECT_TRUE(arrives(stream + "end"));
+}
+
+TEST_F(SerialPortTest, ClosingDropsWhatIsOutstanding) {
+  Open();
+  line_.write("x");
+  line_.close();
+  RunForAWhile();
+  EXPECT_EQ(offers_, 0);
+
+  Open();
+  line_.write("y");
+  SendWhileBusy("old");
+  line_.close();
+  Open();
+  Resume();
+  // So does a handler that closes.
+  on_told_ = [&](const std::string& character) {
+    if (character == "?") line_.close();
+  };
+  terminal_.Send("new?er");
+  EXPECT_TRUE(Tells("new?"));
+  RunForAWhile();
+  EXPECT_EQ(told_, "new?");
+}
+
+TEST_F(SerialPortTest, EventsWaitInOrderWhileTheProgramIsBusy) {
+  Open();
+  line_.write("x");
+  std::string sent = "<drained>";
+  for (int part = 0; part < 20; ++part) {
+    const auto text = std::to_string(part) + std::string(500, '.');
+    SendWhileBusy(text);
+    sent += text;
+  }
+  EXPECT_EQ(told_, "");
+  EXPECT_TRUE(BecomesIdle());
+  Resume();
+  EXPECT_TRUE(Tells(sent));
+
+  // A tick finds everything told.
+  const std::string ahead(3000, 'a');
+  SendWhileBusy(ahead);
+  busy_ = false;
+  port_->DeliverPending();
+  EXPECT_EQ(told_, sent + ahead);
+}
+
+TEST_F(SerialPortTest, ClearingThrowsAwayWhatWaits) {
+  Open();
+  SendWhileBusy("old");
+  terminal_.Send("older still");
+  line_.clear_input();
+  line_.clear_output();
+  EXPECT_EQ(line_.read(), "");
+  Resume();
+  RunForAWhile();
+  terminal_.Send("new");
+  EXPECT_TRUE(Tells("new"));
+}
+
+TEST_F(SerialPortTest, BadCharactersBecomeQuestionMarksAndHalfAMarkIsForgottenByTheNextOpening) {
+  Open("9600,E,7,1");
+  terminal_.Send("a\xFF"s);
+  EXPECT_TRUE(Tells("a\xFF"));
+  terminal_.SendRaw("b\xFF"s);
+  RunForAWhile();
+  terminal_.SendRaw("\0c\xFF\xFF\xFF\0\xFFz\xFF"s);
+  EXPECT_TRUE(Tells("a\xFF\x62?\xFF?z"));
+  Open("9600,N,8,1");
+  terminal_.SendRaw("\0d"s);
+  EXPECT_TRUE(Tells("a\xFF\x62?\xFF?z\0d"s));
+}
+
+TEST_F(SerialPortTest, ALostPortIsQuietAndFailsTheNextWrite) {
+  Open("1200,N,8,1");
+  SerialLine::Error failure;
+  on_told_ = [&](const std::string&) { failure = line_.write("y"); };
+  line_.write("x");
+  terminal_.HangUp();
+  EXPECT_TRUE(Tells("<drained>"));
+  EXPECT_EQ(failure, "No such device");
+  EXPECT_TRUE(BecomesIdle());
+  EXPECT_EQ(line_.write("z"), failure);
+  EXPECT_EQ(told_, "<drained>");
+  EXPECT_EQ(port_->LastProblem(), QString("Comport 1, %1: No such device.").arg(terminal_.Device().c_str()));
+}
+
+TEST_F(SerialPortTest, WhatCameBeforeTheLossIsStillTold) {
+  Open();
+  SendWhileBusy("last");
+  terminal_.HangUp();
+  EXPECT_TRUE(RunUntil([&] { return !port_->LastProblem().isEmpty(); }));
+  EXPECT_TRUE(BecomesIdle());
+  Resume();
+  EXPECT_TRUE(Tells("last"));
+}
+
+}  // namespace
+}  // namespace ovl
+
+// The event loop's application object stands as long as the tests run.
+int main(int count, char** words) {
+  const QCoreApplication application(count, words);
+  ::testing::InitGoogleTest(&count, words);
+  return RUN_ALL_TESTS();
+}

@@ -1,0 +1,148 @@
+// The port, from its dialog to its loss, and the scan.
+#include "link/port.h"
+
+#include <functional>
+#include <tuple>
+
+#include "core/actions.h"
+#include "core/messages.h"
+#include "unit/link/states.h"
+
+namespace ovl::testing {
+namespace {
+
+TEST(PortSettings, StartAtTheSameValuesButForThePort) {
+  InState program(State::kClosed);
+  auto& app = program.app;
+  auto& dialog = app.frmSettSR;
+  program.Click("cmdConnect");
+  EXPECT_FALSE(app.frmMain.form.enabled);
+  EXPECT_EQ(dialog.form.focus, &dialog.cmdSET);
+  EXPECT_EQ(dialog.Comport_Select.position, 0);
+  const std::pair<const char*, int> picks[] = {
+      {"Comport_Select", 4}, {"OpBaud", 7}, {"OpParity", 2}, {"OpDataBits", 0}};
+  for (const auto& [name, position] : picks) {
+    const auto requests = dialog.form.focus_requests;
+    EXPECT_EQ(program.Pick(name, position), Outcome::kDone);
+    EXPECT_GT(dialog.form.focus_requests, requests) << name;
+  }
+  app.frmMain.CmdUpDow[kRemote].enabled = false;
+  program.Click("cmdSET");
+  EXPECT_TRUE(app.frmMain.CmdUpDow[kRemote].enabled);
+  EXPECT_EQ(app.frmMain.lbConnectting.caption, "Connected at COM 5: 38400,E,7,1");
+  const auto& comm = app.frmMain.MSComm1;
+  EXPECT_EQ(std::tuple(comm.SThreshold, comm.RThreshold, comm.InputLen), std::tuple(1, 1, 1));
+  program.Click("cmdDisConnect");
+
+  program.Click("cmdConnect");
+  EXPECT_EQ(dialog.Comport_Select.position, 4);
+  EXPECT_EQ(std::tuple(dialog.OpBaud.chosen, dialog.OpDataBits.chosen, dialog.OpParity.chosen),
+            std::tuple(3, 1, 0));
+  program.Pick("OpParity", 1);
+  program.Click("cmdSET");
+  EXPECT_EQ(program.opened, (std::vector<std::string>{"COM5:38400,E,7,1", "COM5:9600,O,8,1"}));
+}
+
+TEST(PortSettings, APortThatStandsOpenIsClosedFirst) {
+  InState program(State::kHeld);
+  auto& main = program.app.frmMain;
+  main.cmdConnect.visible = true;
+  program.Click("cmdConnect");
+  EXPECT_EQ(program.TakeSent(), kCan);
+  EXPECT_EQ(main.cmdConnect.caption + ", " + main.lbConnectting.caption, "Set Comport, Not Connected");
+  EXPECT_EQ(main.lbRemoteAccess.caption, "No Access");
+  program.Scan();
+  ExpectState(program.app, State::kScanning);
+  ShowForm(program.app, program.app.frmSettSR.form);
+  program.Click("BaudrateCMD");
+  EXPECT_EQ(program.opened, std::vector<std::string>(3, "COM1:9600,N,8,1"));
+}
+
+TEST(Scan, TriesEveryRateInVainUntilALinkWasAskedFor) {
+  InState program(State::kClosed);
+  auto& app = program.app;
+  std::vector<std::string> on_top;
+  app.platform.SetWindowPos = [&](std::string_view form) { on_top.emplace_back(form); };
+  program.Click("cmdConnect");
+  program.Pick("OpBaud", 9);
+  program.Pick("OpParity", 1);
+  program.Pick("OpDataBits", 0);
+  int thrown_away = 0;
+  app.platform.serial.clear_output = [&] { ++thrown_away; };
+  program.Click("BaudrateCMD");
+  EXPECT_EQ(on_top, std::vector<std::string>{"frmScanBProgress"});
+  EXPECT_TRUE(app.frmScanBProgress.form.top_most);
+  std::vector<std::string> expected = {"COM1:9600,O,7,1"};
+  for (const std::string rate :
+       {"9600", "1200", "2400", "4800", "14400", "19200", "28800", "38400", "57600", "115200"}) {
+    program.Unit(std::string(kAck) + "?\x15" + kAck);
+    program.Tick(app.frmSettSR.BaudRateScan);
+    expected.push_back("COM1:" + rate + ",O,7,1");
+    EXPECT_EQ(program.opened, expected);
+    EXPECT_EQ(app.frmScanBProgress.ScanProgressBar1.value, thrown_away - 1);
+    EXPECT_EQ(app.frmMain.lbConnectting.caption, "Connected at COM 1: " + rate + ",O,7,1");
+  }
+  program.Tick(app.frmSettSR.BaudRateScan);
+  const auto& bar = app.frmScanBProgress.ScanProgressBar1;
+  EXPECT_EQ(bar.value, bar.maximum);
+  EXPECT_EQ(program.TakeBox().text, "No Response From The Device");
+  ExpectState(app, State::kClosed);
+}
+
+// What else a line can bring is compared under random events, in tests/opinion.
+TEST(LostDevice, IsToldInTheBoxAndInTheNoteUntilAPortOpens) {
+  const auto enq = [](InState& program) { program.Tick(program.app.frmMain.Time_handcheck, kEnqAt); };
+  const auto upload = [](InState& program) { program.Press("CmdUpDow(0)"); };
+  const auto ack = [](InState& program) { program.Unit(kAck); };
+  const auto drained = [](InState& program) { program.Drain(1); };
+  const std::tuple<const char*, State, std::function<void(InState&)>, State, std::size_t> rows[] = {
+      {"opened", State::kClosed, &InState::OpenPort, State::kClosed, 11},
+      {"scanned", State::kClosed, &InState::Scan, State::kClosed, 11},
+      {"asked", State::kHeld, enq, State::kHeld, 0},
+      {"upload", State::kHeld, upload, State::kUploading, 23},
+      {"let in", State::kDownloadCommand, ack, State::kDownloadCommand, 23},
+      {"stream", State::kDownloadStream, drained, State::kDownloadStream, 23}};
+  for (const auto& [name, from, act, to, blanks] : rows) {
+    SCOPED_TRACE(name);
+    InState program(from);
+    program.line_error = program.open_error = "Input/output error";
+    act(program);
+    ExpectState(program.app, to);
+    EXPECT_EQ(program.TakeBox().text, std::string(blanks, ' ') + "Input/output error");
+    EXPECT_EQ(program.app.StatusNote, "Comport 1: Input/output error");
+    program.open_error = std::nullopt;
+    OpenPort(program.app);
+    EXPECT_EQ(program.app.StatusNote, "");
+    // Where the end of the link is told in words of its own, the note alone has the reason.
+    Disconnect(program.app);
+    EXPECT_EQ(program.app.StatusNote, "Comport 1: Input/output error");
+  }
+}
+
+TEST(WrongParity, LeadsBackToTheFirstRegister) {
+  InState program(State::kAsked, kV1400, {"TCPIP"});
+  program.Pick("ComboReg", 1);
+  program.Unit("?");
+  EXPECT_EQ(program.TakeBox().text, "Check Parity and Data Bit Setting that Same OVL ,Try again !!!");
+  EXPECT_EQ(program.app.frmMain.ComboReg.Text(), "GENERIC");
+}
+
+TEST(Boxes, OfTheLinkBearNoIcon) {
+  for (const auto& box : BoxTable())
+    EXPECT_TRUE(box.box < Box::kPortFailed || box.icon == BoxIcon::kNone) << box.topic;
+}
+
+TEST(Hints, ThePointerOverATransferShowsItsOwn) {
+  InState program(State::kHeld);
+  const auto& pictures = program.app.frmMain.Picture1;
+  const std::pair<const char*, int> moves[] = {{"CmdUpDow(0)", 1}, {"CmdUpDow(1)", 2}, {"CmdUpDow(4)", 0},
+                                               {"CmdUpDow(1)", 2}, {"Frame11", 0},     {"CmdUpDow(0)", 1},
+                                               {"Frame11", 0}};
+  for (const auto& [name, picture] : moves) {
+    Dispatch(program.app, PointEvent{program.app.registry.Find(name)->control});
+    EXPECT_EQ((pictures[1].visible ? 1 : 0) + (pictures[2].visible ? 2 : 0), picture) << name;
+  }
+}
+
+}  // namespace
+}  // namespace ovl::testing

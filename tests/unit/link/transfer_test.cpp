@@ -1,0 +1,128 @@
+#include "core/failure.h"
+#include "files/files.h"
+#include "unit/link/states.h"
+
+namespace ovl::testing {
+namespace {
+
+std::string UploadFile(const Harness& program) {
+  return program.folder.File(program.app.firmware.version + "/upload.bin");
+}
+
+TEST(Upload, SelectsTheUnitsRegisterWithoutItsDefaults) {
+  InState program(State::kUploading, kV1400, {"TCPIP"});
+  const auto stream = PatternStream(kV1400, 7, 1);
+  EXPECT_EQ(program.Pick("ComboExcp(0)", 1), Outcome::kDone);
+  program.Unit("#\r\nnoise" + stream + "\r\n");
+  EXPECT_EQ(program.app.frmMain.ComboReg.Text(), "TCPIP");
+  EXPECT_EQ(program.app.frmMain.ComboExcp[0].position, 0);
+  EXPECT_TRUE(ReadWhole(UploadFile(program)) == stream + "\r\n");
+  program.Press("frmOK_buttom.Command1");
+  program.Hold();
+  program.app.frmMain.OpDVR.chosen = -1;
+  EXPECT_TRUE(program.Download() == stream);
+}
+
+TEST(Bar, BeginsAnewAfterABreakAndStandsStillAtItsEnd) {
+  InState program(State::kDownloadStream);
+  const auto& bar = program.app.frmMain.vbalProgressBar1;
+  program.Drain(200);
+  for (const auto& [button, full] : {std::pair("CmdUpDow(0)", "100%"), std::pair("CmdUpDow(1)", "1%")}) {
+    program.Unit("?");
+    program.TakeBox();
+    program.OpenPort();
+    program.Hold();
+    program.Press(button);
+    program.Unit("noise$" + std::string(51, '0') + kAck);
+    program.Drain(51);
+    EXPECT_EQ(bar.text, "1%") << button;
+    program.Unit(std::string(15300, '0'));
+    EXPECT_EQ(bar.text, full) << button;
+  }
+}
+
+TEST(Upload, ThatFailsInsideStopsUntilTheWatchdogEndsIt) {
+  for (const std::string_view fault : {"no file", "no file, with the second register", "a panel"}) {
+    SCOPED_TRACE(fault);
+    const bool no_file = fault != "a panel";
+    InState program(State::kUploading, kV1400, {"TCPIP"});
+    auto& app = program.app;
+    if (fault.ends_with("register")) program.Pick("ComboReg", 1);
+    if (no_file) {
+      std::filesystem::create_directories(UploadFile(program) + "/inside");
+    } else {
+      app.Setting_Code.push_back({[](Application&) { throw Failure("panel", "broken"); }, false});
+    }
+    const auto image = app.image;
+    program.Unit(PatternStream(kV1400, 7));
+    EXPECT_EQ(app.frmMain.vbalProgressBar1.text == "100%", !no_file);
+    EXPECT_EQ(app.StatusNote, no_file ? app.CurrentFilePath + ": Is a directory" : "panel: broken");
+    EXPECT_FALSE(app.frmOK_buttom.form.visible);
+    EXPECT_EQ(app.frmMain.ComboReg.position, 1);
+    EXPECT_EQ(app.image == image, no_file);
+    EXPECT_TRUE(app.PanelsReady && !app.UploadApplying);
+    EXPECT_EQ(RunningTimers(app), "Timer_Operating");
+    EXPECT_EQ(std::to_string(app.FrameState) + app.StreamBuffer, "0");
+    program.Tick(app.frmMain.Timer_Operating, kSilence);
+    EXPECT_EQ(program.TakeBox().text, kFailBox);
+    ExpectState(app, State::kClosed);
+  }
+}
+
+TEST(UnknownFamily, TouchesNoFileAndHasNothingToSend) {
+  InState program(State::kUploading, {"V1500", "R1"});
+  auto& app = program.app;
+  WriteWhole(UploadFile(program), "kept");
+  const auto entry = app.image[FieldId::EXECENTRY], type = app.image[FieldId::REGTYPE];
+  program.Unit(PatternStream(kV1400, 7));
+  EXPECT_EQ(app.frmOK_buttom.Label1.caption, "Upload Completed.");
+  EXPECT_TRUE(app.PanelsReady && !app.UploadApplying);
+  EXPECT_EQ(ReadWhole(UploadFile(program)), "kept");
+  EXPECT_EQ(std::pair(app.image[FieldId::EXECENTRY], app.image[FieldId::REGTYPE]), std::pair(entry, type));
+  program.Press("frmOK_buttom.Command1");
+  program.Hold();
+  EXPECT_EQ(program.Download(), "");
+  ExpectState(app, State::kDownloadCommand);
+  program.Tick(app.frmMain.Timer_Operating, kSilence);
+  EXPECT_EQ(program.TakeBox().text, kFailBox);
+}
+
+TEST(Download, TakesTheHistoryIdsFromThePanelInTheOlderFamilies) {
+  // The recorder chosen, the lists, and the fields: recorder, destination, source; two blanks: as it was.
+  const std::tuple<int, std::array<int, 4>, std::string> rows[] = {
+      {0, {1, 2, 3, 4}, "00    "},  {1, {6, 31, 3, 4}, "010720"}, {2, {6, 31, 0, 15}, "020110"},
+      {1, {-1, 0, 7, 7}, "01  01"}, {2, {4, 4, 9, -1}, "020A  "}, {-1, {1, 2, 3, 4}, "      "}};
+  constexpr std::size_t kPlace = 5 + 2 * 29, kRecord = 71;
+  for (const auto& firmware : {kV1300, {"V1324", "R17"}, {"V1310", "R1"}, {"V1334", "R1"}, kV1400}) {
+    for (const auto& [chosen, lists, fields] : rows) {
+      SCOPED_TRACE(firmware.Joined() + " with " + fields);
+      InState program(State::kHeld, firmware);
+      auto& main = program.app.frmMain;
+      main.OpDVR.chosen = chosen;
+      for (std::size_t list = 0; list < 4; ++list) main.ComboKLM4011[list].position = lists[list];
+      auto expected = PatternStream(firmware).substr(0, kRecord);
+      for (std::size_t digit = 0; digit < fields.size(); ++digit) {
+        if (!firmware.IsV1400() && fields[digit] != ' ') expected[kPlace + digit] = fields[digit];
+      }
+      EXPECT_EQ(program.Download().substr(0, kRecord), expected);
+    }
+  }
+}
+
+TEST(TransferEnd, StandsOnTopOnceTheBarIsFull) {
+  InState program(State::kUploading);
+  const auto& bar = program.app.frmMain.vbalProgressBar1;
+  std::string on_top;
+  program.app.platform.SetWindowPos = [&](std::string_view form) {
+    on_top += std::string(form) + " over " + std::to_string(bar.value) + " " + bar.text + ", ";
+  };
+  program.Unit(PatternStream(kV1400, 7));
+  program.Press("frmOK_buttom.Command1");
+  program.Hold();
+  program.Download();
+  EXPECT_EQ(on_top, "frmOK_buttom over 100 100%, frmOK_buttom over 100 100%, ");
+  EXPECT_TRUE(program.app.frmOK_buttom.form.top_most);
+}
+
+}  // namespace
+}  // namespace ovl::testing

@@ -1,0 +1,158 @@
+// The selections that stand for a number or for some bits: what a pick stores, and how that is shown again.
+#include "unit/panels/acts.h"
+
+namespace ovl::testing {
+namespace {
+
+// The first position stores `first`, each further one `step` more, within the bits of the mask.
+struct Selection {
+  const char* list;
+  FieldId field;
+  int mask, first, step, entries;
+};
+
+std::vector<int> StoredBy(const Selection& row) {
+  std::vector<int> stored;
+  for (int at = 0; at < row.entries; ++at) stored.push_back(row.first + at * row.step);
+  return stored;
+}
+
+constexpr Selection kSelections[] = {
+    {"ComboCOMM(1)", RX_BAUDRATE, 0xFF, 0, 1, 11},       {"ComboCOMM(2)", TX_BAUDRATE, 0xFF, 0, 1, 11},
+    {"ComboCOMM(7)", TX_PROTOCOL, 0xFF, 0, 1, 5},        {"ComboCOMM(8)", SW_HANDSHAKE, 0xFF, 0, 1, 3},
+    {"ComboCOMM(12)", NET_BAUDRATE, 0xFF, 0, 1, 10},     {"ComboCOMM(4)", COMMCFG_BAK, 0x04, 0, 0x04, 2},
+    {"ComboCOMM(5)", COMMCFG_BAK, 0x20, 0x20, -0x20, 2}, {"ComboExcepRe(0)", COMMCFG_BAK, 0x10, 0, 0x10, 2},
+    {"ComboExcepRe(1)", TIMESTAMP_ENA, 0xFF, 0, 1, 2},   {"ComboExcepRe(2)", DUPLINE_BAK, 0xFF, 0, 1, 2},
+    {"ComboDIP(2)", DSPCFG_BAK, 0x02, 0, 0x02, 2},       {"ComboDIP(3)", DSPCFG_BAK, 0x04, 0, 0x04, 2},
+    {"ComboDIP(4)", DSPCFG_BAK, 0x40, 0, 0x40, 2},       {"ComboDIP(5)", DSPCFG_BAK, 0x08, 0, 0x08, 2},
+    {"ComboDIP(6)", DSPCFG_BAK, 0x20, 0, 0x20, 2},       {"ComboTD(5)", DSPCFG_BAK, 0x10, 0, 0x10, 2},
+    {"ComboTD(0)", DSPCFG_BAK, 0x80, 0, 0x80, 2},        {"ComboDIP(1)", DSPLINES_BAK, 0xFF, 1, 1, 11},
+    {"ComboDIP(7)", SPCOMPRES_BAK, 0xFF, 0, 1, 6},       {"ComboDIP(8)", DSPCHARS_BAK, 0xFF, 10, 1, 31},
+    {"ComboTD(1)", TIME_FORMAT_BAK, 0xFF, 0, 1, 2},      {"ComboTD(2)", DATE_FORMAT_BAK, 0xFF, 0, 1, 3},
+    {"ComboTD(4)", TD_LOCKING_BAK, 0xFF, 0, 1, 2},       {"ComboLang", LANGUAGE_BAK, 0xFF, 0, 1, 3},
+    {"ComboScroll(1)", SCROLLMATCH_BAK, 0xFF, 0, 1, 6},  {"ComboALM(4)", ALMCFG_BAK, 0x07, 0, 1, 5},
+    {"ComboALM(5)", FLAGDWLIND, 0xFF, 0, 2, 121},        {"OpDVR", HIST_REG, 0xFF, 0, 1, 3},
+    {"ComboKLM4011(0)", HIST_DEST_ID, 0xFF, 1, 1, 32},   {"ComboKLM4011(1)", HIST_SRC_ID, 0xFF, 1, 1, 32},
+    {"ComboKLM4011(2)", HIST_DEST_ID, 0xFF, 1, 1, 32},   {"ComboKLM4011(3)", HIST_SRC_ID, 0xFF, 1, 1, 32}};
+
+// Those whose load needs more than one byte.
+constexpr Selection kRecords[] = {
+    {"ComboTrigger(0)", TRIGGER_TEXT, 0x01, 0, 0x01, 2}, {"ComboTrigger(1)", TRIGGER_TEXT, 0x02, 0, 0x02, 2},
+    {"ComboExcp(1)", EXCPSTRS, 0x01, 0, 0x01, 2},        {"ComboExcp(2)", EXCPSTRS, 0x02, 0, 0x02, 2},
+    {"ComboExcp(3)", EXCPSTRS, 0x20, 0, 0x20, 2},        {"ComboExcp(5)", EXCPSTRS, 0x0C, 0, 0x04, 3},
+    {"ComboExcp(4)", EXCPSTRS, 0x40, 0, 0x40, 2},        {"ComboCOMM(10)", NET_ADDRESS, 0xFF, 0, 1, 17}};
+
+// A pick stores in its field and in no other. OUTPUT of the exception report stores the time stamp as well.
+void ExpectStored(PanelProgram& program, const Selection& row, const std::vector<int>& stored) {
+  SCOPED_TRACE(row.list);
+  program.Reveal(row.list);
+  for (int position = row.entries - 1; position >= 0; --position) {
+    for (const int before : {0x00, 0xFF, 0x5B}) {
+      const int after = (before & ~row.mask) | stored[static_cast<std::size_t>(position)];
+      const auto written =
+          program.Effect(row.list, position, {{TIMESTAMP_ENA, "00"}, {row.field, ByteToHex(before)}});
+      EXPECT_EQ(program.Byte(row.field), ByteToHex(after)) << position << " over " << before;
+      EXPECT_EQ(std::count(written.begin(), written.end(), '='), after == before ? 0 : 1) << written;
+    }
+  }
+  EXPECT_EQ(program.Pick(row.list, row.entries), Outcome::kRefused);
+}
+
+void ExpectShown(PanelProgram& program, const Selection& row, const std::vector<int>& stored) {
+  SCOPED_TRACE(row.list);
+  for (int position = 0; position < row.entries; ++position) {
+    for (const int others : {0x00, 0xFF & ~row.mask}) {
+      const auto byte = ByteToHex(stored[static_cast<std::size_t>(position)] | others);
+      EXPECT_EQ(program.Load({{row.field, byte}}), "");
+      EXPECT_EQ(program.Selected(row.list), position) << byte;
+    }
+  }
+  for (const int odd : {row.first - 1, stored.back() + 1, 255}) {
+    if (odd < 0 || std::find(stored.begin(), stored.end(), odd & row.mask) != stored.end()) continue;
+    EXPECT_EQ(program.Load({{row.field, ByteToHex(odd)}}), "");
+    EXPECT_EQ(program.Selected(row.list), row.entries - 1) << "what the list lacks leaves it";
+  }
+}
+
+TEST(Selections, EveryOneHasItsFieldOrItsBits) {
+  PanelProgram picked(kLatest), loaded(kLatest);
+  picked.Pick("ComboDIP(1)", 10);  // else clock and title raise it
+  for (const auto& row : kSelections) {
+    ExpectStored(picked, row, StoredBy(row));
+    ExpectShown(loaded, row, StoredBy(row));
+  }
+  for (const auto& row : kRecords) ExpectStored(picked, row, StoredBy(row));
+
+  const Selection parity{"ComboCOMM(3)", COMMCFG_BAK, 0x03, 0, 0, 3};
+  ExpectStored(picked, parity, {0, 3, 2});
+  ExpectShown(loaded, parity, {0, 3, 2});
+  EXPECT_EQ(loaded.Load({{COMMCFG_BAK, "01"}}), "");
+  EXPECT_EQ(loaded.At(parity.list), 0) << "no parity, whatever kind";
+  const Selection linefeed{"ComboCOMM(6)", COMMCFG_BAK, 0x08, 0, 0, 2};
+  ExpectShown(loaded, linefeed, {8, 0});
+  for (const int handshake : {0, 1}) {
+    SCOPED_TRACE("the line feed is stored by the handshake");
+    picked.Pick("ComboCOMM(5)", handshake);
+    ExpectStored(picked, linefeed, {8 * handshake, 8 * handshake});
+  }
+  ExpectStored(picked, {"ComboTD(3)", DAYLIGHT_BAK, 0xFF, 0, 0, 6}, {1, 2, 4, 6, 8, 10});
+}
+
+TEST(Selections, ANumberThatIsHalvedGoesToTheEvenNeighbour) {
+  const std::pair<int, int> halves[] = {{0, 0},  {1, 0},  {2, 1},     {3, 2},     {4, 2},     {5, 2},
+                                        {6, 3},  {7, 4},  {8, 4},     {9, 4},     {10, 5},    {11, 6},
+                                        {12, 6}, {13, 6}, {240, 120}, {241, 120}, {242, 121}, {255, 128}};
+  PanelProgram program({"V1300", "R26"});
+  for (const auto& [stored, half] : halves) {
+    SCOPED_TRACE(stored);
+    program.Pick("ComboTD(3)", 3);
+    program.Pick("ComboALM(5)", 3);
+    const auto byte = ByteToHex(stored);
+    // The duration of the flag is stored anew by the list that moves.
+    const bool anew = half <= 120 && half != 3 && stored != 2 * half;
+    EXPECT_EQ(program.Load({{DAYLIGHT_BAK, byte}, {FLAGDWLIND, byte}}),
+              anew ? "FLAGDWLIND=" + ByteToHex(2 * half) : "");
+    EXPECT_EQ(program.At("ComboTD(3)"), half <= 5 ? half : 3);
+    EXPECT_EQ(program.At("ComboALM(5)"), half <= 120 ? half : 3);
+  }
+}
+
+TEST(Selections, TheDemosBitsGoByTheFirmware) {
+  for (const auto& firmware : EveryFirmware()) {
+    PanelProgram picked(firmware), loaded(firmware);
+    const bool old = HasOldDemo(firmware), v1400 = firmware.IsV1400();
+    const int step = v1400 ? 1 : 0;
+    const auto expect = [&](const Selection& row, bool shown) {
+      ExpectStored(picked, row, StoredBy(row));
+      if (shown) ExpectShown(loaded, row, StoredBy(row));
+    };
+    expect({"CharacterList", DEMO_ENABLE, old ? 0x7F : 0x40, old ? 1 : 0, old ? 1 : 0x40, 2}, !old);
+    expect({"DemoType", DEMO_ENABLE, !v1400 ? 0x00 : old ? 0x3F : 0x0F, 0, step, 6}, v1400 && !old);
+    expect({"DemoSpeed", DEMO_ENABLE, !old ? 0x30 : 0x3F * step, old ? step : 0, old ? step : 0x10, 4}, !old);
+    if (!old) continue;
+    const int type = loaded.At("DemoType"), speed = loaded.At("DemoSpeed");
+    for (const auto& [byte, characters] :
+         {std::pair{"01", 0}, {"81", 1}, {"41", 0}, {"02", 1}, {"C1", 1}, {"01", 0}, {"35", 1}}) {
+      EXPECT_EQ(loaded.Load({{DEMO_ENABLE, byte}}), "");
+      EXPECT_EQ(loaded.At("CharacterList"), characters) << byte << ": its own bit counts, bit 6 does not";
+      EXPECT_TRUE(loaded.At("DemoType") == type && loaded.At("DemoSpeed") == speed);
+    }
+  }
+}
+
+TEST(Selections, EveryPickIsNoted) {
+  PanelProgram program(kLatest);
+  program.Click("OpDVR(1)");
+  const std::tuple<const char*, int, int> rows[] = {
+      {"ComboCOMM", 13, 4}, {"ComboDIP", 9, 2},     {"ComboTD", 6, 1},   {"ComboKLM4011", 4, 1},
+      {"ComboALM", 8, 4},   {"ComboTrigger", 3, 1}, {"ComboExcp", 6, 3}, {"ComboExcepRe", 3, 0}};
+  for (const auto& [family, members, picked] : rows) {
+    ASSERT_EQ(program.Pick(Member(family, picked), 1), Outcome::kDone) << family;
+    std::vector<int> positions;
+    for (int member = 0; member < members; ++member) positions.push_back(program.At(Member(family, member)));
+    EXPECT_EQ(program.app.SavedIndexes[family], positions) << family;
+  }
+}
+
+}  // namespace
+}  // namespace ovl::testing

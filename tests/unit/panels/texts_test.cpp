@@ -1,0 +1,135 @@
+// The texts of title, alarms and exceptions, and the one dialog that edits them.
+#include "unit/panels/acts.h"
+
+namespace ovl::testing {
+namespace {
+
+// Among them every character but NUL.
+std::vector<std::string> Texts() {
+  const std::string y(37, 'y');
+  std::vector<std::string> texts = {"A", "",     " ", " x",     "x ",      "  A B  ",     "What?",
+                                    "?", "\x7F", y,   y + "yy", y + "yyy", " " + y + " ", " " + y + "y "};
+  texts.insert(texts.end(), {std::string(40, ' '), std::string(40, '?'), std::string(39, ' ') + "."});
+  for (int code = 1; code < 256; ++code) {
+    if (code % 40 == 1) texts.emplace_back();
+    texts.back() += static_cast<char>(code);
+  }
+  return texts;
+}
+
+const std::string kCut("AB\0CD", 5);
+
+// The rule of triggered texts and title: no blanks at the ends, no length, filled up with zeros.
+std::string Filled(const std::string& text) {
+  const auto first = text.find_first_not_of(' ');
+  auto digits =
+      first == std::string::npos ? "" : TextToHex(text.substr(first, text.find_last_not_of(' ') - first + 1));
+  digits.resize(82, '0');
+  return digits;
+}
+
+TEST(Texts, TriggeredTextAndTitleAreTrimmedAndFilledUp) {
+  for (const auto& firmware : {kLatest, FirmwareId{"V1324", "R17"}}) {
+    PanelProgram program(firmware);
+    auto& main = program.app.frmMain;
+    int flags = 0;
+    for (const auto& text : Texts()) {
+      SCOPED_TRACE("[" + text + "]");
+      const auto filled = Filled(text);
+      const auto record = ByteToHex(0xF0 | ++flags % 4) + filled;
+      program.ShowAlarm(12);
+      program.EnterText("cmdSetTrigger", "else");
+      program.Byte(TRIGGER_TEXT, 12).replace(0, 2, record, 0, 2);
+      program.Mark();
+      program.EnterText("cmdSetTrigger", text);
+      EXPECT_EQ(program.Written(), "TRIGGER_TEXT(12)=" + record);
+      program.Byte(TRIGGER_TEXT, 13) = record;
+      program.ShowAlarm(13);
+      EXPECT_EQ(Filled(main.TextTrigger.text), filled);
+      EXPECT_EQ(main.TextTrigger.text.find('\0'), std::string::npos);
+      EXPECT_EQ(program.At("ComboTrigger(0)"), flags & 1);
+      EXPECT_EQ(program.At("ComboTrigger(1)"), flags >> 1 & 1);
+      EXPECT_EQ(program.Byte(TRIGGER_TEXT, 13), record);
+
+      program.EnterText("cmdTitle", "else");
+      program.EnterText("cmdTitle", text);
+      EXPECT_EQ(program.Byte(ONSCRNTITL), filled);
+      program.EnterText("cmdTitle", "else");
+      EXPECT_EQ(program.Load({{ONSCRNTITL, filled}}), "");
+      EXPECT_EQ(Filled(main.Title_Text.text), filled);
+    }
+    program.Byte(TRIGGER_TEXT, 4) = "00" + TextToHex(kCut) + std::string(72, '0');
+    program.ShowAlarm(4);
+    EXPECT_EQ(main.TextTrigger.text, "AB");
+    EXPECT_EQ(program.Byte(TRIGGER_TEXT, 4).size(), 84U);
+  }
+}
+
+TEST(Texts, AnExceptionIsPaddedCountedAndMarkedFreeWhenBlank) {
+  for (const auto& firmware : kFamilies) {
+    PanelProgram program(firmware);
+    const auto range = RangeOf(firmware);
+    const auto& shown = program.app.frmMain.TextException.text;
+    for (const auto& text : Texts()) {
+      SCOPED_TRACE("[" + text + "]");
+      const bool blank = text.find_first_not_of(' ') == std::string::npos;
+      const auto stored = Slot(blank ? 0xB3 : 0xA3, range, text);
+      auto padded = text;
+      std::replace(padded.begin(), padded.end(), '\x7F', '?');
+      padded.resize(40, ' ');
+      for (const int flags : {0xA3, 0xB3}) {
+        program.Byte(EXCPSTRS, 7) = Slot(flags, range, "before");
+        program.ShowSlot(8);
+        program.ShowSlot(7);
+        ASSERT_EQ(program.EnterText("cmdSetExcpstr", text), Outcome::kDone);
+        EXPECT_EQ(program.Byte(EXCPSTRS, 7), stored);
+        program.ShowSlot(8);
+        program.ShowSlot(7);
+        EXPECT_EQ(shown, padded);
+        EXPECT_EQ(program.Byte(EXCPSTRS, 7), stored);
+      }
+    }
+    program.Byte(EXCPSTRS, 6) = Slot(0, range, kCut);
+    program.ShowSlot(6);
+    EXPECT_EQ(shown, "AB");
+    EXPECT_EQ(program.Byte(EXCPSTRS, 6), Slot(0, range, "AB"));
+    program.EnterText("cmdSetExcpstr", "else");
+    ASSERT_EQ(program.EnterText("cmdSetExcpstr", kCut), Outcome::kDone);
+    EXPECT_EQ(program.Byte(EXCPSTRS, 6), Slot(0, range, "AB")) << "a typed text ends there too";
+  }
+}
+
+TEST(TextDialog, HoldsOneTextAndTheMainFormBack) {
+  PanelProgram program({"V1400", "R7"});
+  auto& dialog = program.app.frmSetEXCPSTR;
+  auto& main = program.app.frmMain;
+  const std::tuple<const char*, const char*, TextBox*> rows[] = {
+      {"cmdSetTrigger", "ALARM TRIGGER SETUP", &main.TextTrigger},
+      {"cmdSetExcpstr", "EXCEPTION SETUP", &main.TextException},
+      {"cmdTitle", "TITLE SETUP", &main.Title_Text}};
+  for (const auto& [button, title, target] : rows) {
+    SCOPED_TRACE(button);
+    program.EnterText(button, "FIRST");
+    program.Mark();
+    for (const char* way : {"Escape", "close", "SET"}) {
+      ASSERT_EQ(program.Click(button), Outcome::kDone);
+      EXPECT_EQ(dialog.form.caption + ": " + dialog.Text1.text, title + std::string(": FIRST"));
+      EXPECT_EQ(dialog.form.focus, &dialog.Text1);
+      EXPECT_EQ(program.Pick("ComboExcp(0)", 3), Outcome::kRefused);
+      EXPECT_EQ(program.Type(dialog.Text1, std::string(41, 'x')), Outcome::kRefused);
+      program.Click("frmSetEXCPSTR.cmdClr");
+      EXPECT_EQ(dialog.Text1.text, "");
+      program.Type(dialog.Text1, "SECOND");
+      EXPECT_EQ(program.Written(), "");
+      if (*way == 'E') program.Press(dialog.form, Key::kEscape);
+      if (*way == 'c') program.Close(dialog.form);
+      if (*way == 'S') program.Click("frmSetEXCPSTR.cmdSET");
+      EXPECT_TRUE(main.form.enabled && !dialog.form.visible);
+      EXPECT_EQ(target->text, *way == 'S' ? "SECOND" : "FIRST");
+    }
+    EXPECT_EQ(program.Type(*target, "typed"), Outcome::kRefused);
+  }
+}
+
+}  // namespace
+}  // namespace ovl::testing

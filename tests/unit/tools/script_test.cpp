@@ -1,0 +1,304 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <sstream>
+#include <string>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+#include "files/files.h"
+#include "script/inspection.h"
+#include "script/parser.h"
+#include "script/runner.h"
+#include "script/simulated_line.h"
+#include "script/simulated_time.h"
+#include "script/statements.h"
+#include "support/harness.h"
+
+namespace ovl::script {
+namespace {
+
+using ovl::testing::TemporaryFolder;
+
+std::vector<std::string> Texts(std::string_view line) {
+  std::vector<std::string> texts;
+  for (const auto& word : SplitWords(line)) texts.push_back((word.quoted ? "'" : "") + word.text);
+  return texts;
+}
+
+TEST(Parser, SplitsWordsTextsAndComments) {
+  using Words = std::vector<std::string>;
+  EXPECT_EQ(Texts("  pick\tComboCOMM(3) \"a # b\" # note"), (Words{"pick", "ComboCOMM(3)", "'a # b"}));
+  EXPECT_EQ(Texts(R"(unit "\"\\\r\n\t\x06\xfF")"), (Words{"unit", "'\"\\\r\n\t\x06\xFF"}));
+  EXPECT_EQ(Texts("type Title_Text \"\"\r"), (Words{"type", "Title_Text", "'"}));
+  EXPECT_TRUE(Texts("# \"unclosed").empty());
+  EXPECT_TRUE(Texts(" \t").empty());
+}
+
+TEST(Parser, RefusesBrokenTexts) {
+  for (const auto* line : {R"(echo "open)", R"(echo "end\)", R"(echo "\q")", R"(echo "\x4")",
+                           R"(echo "\xG0")", R"(echo "a""b")", R"(echo a"b")", R"(echo "a"b)"}) {
+    EXPECT_THROW(SplitWords(line), Stop) << line;
+  }
+}
+
+TEST(Parser, PrintsWhatItReadsBackTheSame) {
+  std::string every;
+  for (int byte = 0; byte < 256; ++byte) every += static_cast<char>(static_cast<unsigned char>(byte));
+  EXPECT_EQ(SplitWords(Quoted(every)).at(0).text, every);
+  EXPECT_EQ(Quoted("a\"\\\r\n\t\x18\x80"), R"("a\"\\\r\n\t\x18\x80")");
+  for (const std::string text : {"", "FF", "two words", "a#b", "a\"b", "\x06"}) {
+    EXPECT_EQ(SplitWords(AsWord(text)).at(0).text, text) << AsWord(text);
+  }
+}
+
+TEST(SimulatedTime, TicksInTheOrderInWhichTimersComeDue) {
+  Registry registry;
+  ::ovl::Form form;
+  form.name = "form";
+  Timer slow, fast, idle;
+  const std::vector<std::tuple<Timer*, const char*, int>> timers{
+      {&slow, "slow", 250}, {&fast, "fast", 100}, {&idle, "idle", 0}};
+  for (const auto& [timer, name, interval] : timers) {
+    registry.Add(form, name, *timer);
+    timer->interval = interval;
+    timer->enabled = true;
+    ++timer->starts;
+  }
+  SimulatedTime time;
+  std::string ticks;
+  const auto note = [&](Timer& timer) {
+    ticks += std::to_string(time.Now()) + " " + registry.NameOf(&timer) + ", ";
+    if (time.Now() == 300) ++slow.starts;  // restarted by a handler
+    if (time.Now() == 500 && &timer == &fast) fast.enabled = false;
+    return true;
+  };
+  time.Advance(registry, 800, note);
+  EXPECT_EQ(ticks, "100 fast, 200 fast, 250 slow, 300 fast, 400 fast, 500 fast, 550 slow, 800 slow, ");
+  EXPECT_EQ(time.Now(), 800);
+}
+
+TEST(SimulatedTime, ClockMovesAcrossTheEndOfTheYear) {
+  SimulatedTime time;
+  time.MoveTo(5000);
+  time.SetClock(*ParseClock("2027-12-31 23:59:59"));
+  time.MoveTo(6999);
+  const auto clock = time.Clock();
+  EXPECT_EQ((std::vector{clock.year, clock.month, clock.day, clock.second}), (std::vector{2028, 1, 1, 0}));
+  for (const auto* wrong : {"2026-02-29 00:00:00", "2026-13-01 00:00:00", "2026-01-01 24:00:00",
+                            "2026-1-1 0:0:0", "2026-01-01 00:00:00 ", "2026-01-01T00:00:00"}) {
+    EXPECT_FALSE(ParseClock(wrong)) << wrong;
+  }
+}
+
+TEST(SimulatedLine, LosesWhatMeetsNoOpenPortAndStaysDeadUntilItIsOpenedAgain) {
+  SimulatedLine line;
+  const auto operations = line.Operations();
+  line.Arrive('a');
+  operations.write("x");
+  EXPECT_FALSE(line.TakeReceived() || line.TakeDrained());
+  ASSERT_FALSE(operations.open({1, "9600,N,8,1"}));
+  line.Arrive('b');
+  EXPECT_TRUE(line.TakeReceived());
+  line.KeepReceived();
+  EXPECT_TRUE(line.TakeReceived());
+  EXPECT_EQ(operations.read(), "b");
+  EXPECT_EQ(operations.read(), "");
+
+  operations.write("");
+  EXPECT_FALSE(line.TakeDrained());
+  for (const auto* text : {"xy", "z"}) operations.write(text);
+  EXPECT_TRUE(line.TakeDrained());
+  EXPECT_FALSE(line.TakeDrained());
+  operations.write("x");
+  line.Arrive('c');
+  operations.close();
+  EXPECT_FALSE(line.TakeReceived() || line.TakeDrained());
+
+  ASSERT_FALSE(operations.open({}));
+  line.Unplug();
+  line.Arrive('d');
+  EXPECT_FALSE(line.TakeReceived());
+  EXPECT_TRUE(operations.write("x") && operations.open({}));
+  line.Restore();
+  EXPECT_TRUE(operations.write("x"));
+  EXPECT_FALSE(operations.open({}) || operations.write("x"));
+  line.Refuse("");
+  EXPECT_EQ(operations.open({}), std::optional<std::string>(""));
+}
+
+// A program folder with the default image of one register, and scripts run in it.
+class Script : public ::testing::Test {
+ protected:
+  Script() {
+    const FirmwareId firmware{"V1400", "R12"};
+    std::filesystem::create_directories(folder_.File("V1400/R12"));
+    WriteWhole(folder_.File("V1400/R12/GENERIC.bin"), ovl::testing::PatternStream(firmware) + "\r\n");
+  }
+
+  // What is printed, and how the script ends if not well.
+  std::string Run(const std::string& lines) {
+    std::ostringstream output, errors;
+    Session session(output, errors);
+    session.SetFolder(folder_.Path().string() + "/");
+    std::istringstream script(lines);
+    const auto status = RunScript(session, script, "test.ovl", errors);
+    if (status != ExitStatus::kDone) errors << "exit " << static_cast<int>(status);
+    return output.str() + errors.str();
+  }
+
+  std::string RunStarted(const std::string& lines) {
+    return Run("setting Version \"V1400\"\nsetting Release \"R12\"\nstart\n" + lines);
+  }
+
+  TemporaryFolder folder_;
+};
+
+TEST_F(Script, PrintsControlsFieldsAndVariables) {
+  EXPECT_EQ(
+      RunStarted(
+          "show ComboReg\nshow CmdUpDow(4)\nshow CmdUpDow(0)\nshow OpBaud\nshow OpBaud(1)\nshow CheckTD\n"
+          "show vbalProgressBar1\nshow frmSettSR\nshow Label64(1)\nclick cmdConnect\nshow OpParity\n"
+          "tick Timer_Operating 3\nvar OperatingCount\nset UNITADDR \"\"\nfield UNITADDR\nfield IGSCFG_BAK\n"
+          "set IPADDRESS(2) 0A\nfield IPADDRESS(2)\nset ALMNORMAL_BAK(1) 01\nset ALMNORMAL_BAK(2) 02\n"
+          "field ALMNORMAL_BAK\nvar PanelsReady\nvar LastReceived\nvar UploadCommandText\nclick cmdSET\n"
+          "answer cancel\nclick OpenMenu\nvar StatusNote\ndrain 0\nclick cmdTitle\n"
+          "type frmSetEXCPSTR.Text1 \"A B\"\nkey frmSetEXCPSTR.Text1 Enter\nshow Title_Text\n"),
+      "ComboReg = 0 \"GENERIC\" visible enabled\nCmdUpDow(4) = - \"Remote\" visible enabled\n"
+      "CmdUpDow(0) = - \"Upload\" visible disabled\nOpBaud = -1 \"\" visible enabled\n"
+      "OpBaud(1) = 0 \"2400\" visible enabled\nCheckTD = 1 \"Use Current Time Date\" visible enabled\n"
+      "vbalProgressBar1 = 0 \"\" hidden enabled\nfrmSettSR = - \"Communication Setting\" hidden enabled\n"
+      "Label64(1) = - \"Uploading . . .\" hidden enabled\nOpParity = 0 \"NONE\" visible enabled\n"
+      "OperatingCount = 0\nUNITADDR = \"\"\nIGSCFG_BAK = \" ........ATM INTERFACE\"\nIPADDRESS(2) = 0A\n"
+      "ALMNORMAL_BAK(1) = 01\nALMNORMAL_BAK(2) = 02\nPanelsReady = true\nLastReceived = \"\"\n"
+      "UploadCommandText = \"/LU\\r\"\nStatusNote = \"" +
+          folder_.File("*.bin: Operation canceled\"\nTitle_Text = - \"A B\" visible enabled\n"));
+}
+
+TEST_F(Script, PrintsBoxesRefusalsSentTextsAndTheEnd) {
+  EXPECT_EQ(RunStarted("click CmdUpDow(4)\nclick CmdUpDow(0)\npick OpBaud 3\ntype ComboReg \"x\"\n"
+                       "click cmdConnect\npick OpBaud \"1200\"\nclick cmdSET\nclick CmdUpDow(4)\nsent\nsent\n"
+                       "unit hex 15\nsent\nlist OpParity\necho \"one  two\"\nclose frmMain\nsent\n"
+                       "echo last\nstart\nclick menuExit"),
+            "box \"\" \"        Please Select Comport.\"\nrefused CmdUpDow(0)\nrefused OpBaud\n"
+            "\"~~~SOH_REQUEST_EOT~~~k\"\n\"\"\n"
+            "box \"- Connection Fail -\" \"                            !!! Remote Connection Fail. !!!\\n"
+            "Cable Disconnected Or Communication Setting Wrong ,Try Again\"\n"
+            "\"\\x18\"\n\"NONE\"\n\"ODD\"\n\"EVEN\"\none  two\nended\n\"\"\nlast\nended\n");
+}
+
+TEST_F(Script, AFailedExpectationNamesThePlace) {
+  const std::vector<std::pair<std::string, std::string>> cases = {
+      {"ComboReg 1", "ComboReg 1, found 0"},
+      {"ComboReg \"CASIO\"", "ComboReg \"CASIO\", found \"GENERIC\""},
+      {"visible cmdDisConnect", "cmdDisConnect to be visible, found hidden"},
+      {"hidden cmdConnect", "cmdConnect to be hidden, found visible"},
+      {"unchecked CheckTD", "CheckTD to be unchecked, found checked"},
+      {"var RemoteHeld true", "RemoteHeld = true, found false"},
+      {"count OpParity 4", "4 entries of OpParity, found 3"},
+      {"sent \"x\"", "sent \"x\", found \"\""},
+      {"box \"x\"", "box \"x\", found no box"},
+      {"ended", "the program to have ended, found it running"},
+      {"list OpParity \"NONE\"", "the entries of OpParity to be \"NONE\", found \"NONE\" \"ODD\" \"EVEN\""},
+  };
+  for (const auto& [expectation, told] : cases) {
+    EXPECT_EQ(RunStarted("expect " + expectation + "\necho x"), "test.ovl:4: expected " + told + "\nexit 1");
+  }
+  EXPECT_TRUE(RunStarted("click CmdUpDow(4)\nexpect box \"title\" \"        Please Select Comport.\"")
+                  .ends_with("found box \"\" \"        Please Select Comport.\"\nexit 1"));
+}
+
+TEST_F(Script, WrongStatementsAreToldWithTheirPlace) {
+  std::istringstream statements(
+      "pick NoSuch 1\npick ComboReg 999\npick ComboReg -1\npick ComboReg \"no such\"\npick ComboReg GENERIC\n"
+      "pick \"ComboReg\" 0\npick cmdConnect 0\nclick ComboReg\nclick Label64(0)\nclick OpDVR\n"
+      "click NoSuch(1)\nclick cmdConnect twice\n\"click\" cmdConnect\ntype cmdConnect \"x\"\n"
+      "key ComboReg Space\nclose ComboReg\ntick ComboReg\ntick Timer x\ntick Timer -1\nunit 06\nunit hex\n"
+      "unit hex 6\ndrain -1\nwait x\nwait 1x\nclock \"2026-02-30 00:00:00\"\nport down\nlist Timer\n"
+      "field NOFIELD\nfield EXCPSTRS(25)\nfield EXCPSTRS(0)\nset IPADDRESS 00\nvar NoSuch\nupload\n"
+      "download x\nexpect Timer 1\nexpect checked Timer\nexpect no sent\nexpect box\n"
+      "expect field IPADDRESS 00\nfrobnicate\nstore memory\nstream /no/such/folder/file\necho\n"
+      "diff missing.bin missing.bin\n");
+  for (std::string statement; std::getline(statements, statement);) {
+    const auto told = RunStarted(statement);
+    EXPECT_TRUE(told.starts_with("test.ovl:4: ") && told.ends_with("\nexit 2")) << statement << ": " << told;
+  }
+  EXPECT_EQ(Run("\n# before the start\nshow ComboReg"), "test.ovl:3: the program was not started\nexit 2");
+}
+
+TEST_F(Script, AfterTheEndAStatementThatNeedsTheProgramEndsTheScript) {
+  for (const std::string word : {"click", "wait", "show", "setting", "port"}) {
+    EXPECT_EQ(RunStarted("click menuExit\n" + word + " x"),
+              "ended\ntest.ovl:5: the program has ended, " + word + " needs it\nexit 3");
+  }
+}
+
+TEST(Texts, LineBreaksCompareAlike) {
+  for (const auto* line_break : {"\n", "\r\n", "\r"}) {
+    EXPECT_TRUE(ReadTheSame(std::string("one") + line_break + "two", "one\ntwo"));
+    EXPECT_FALSE(ReadTheSame(std::string("one") + line_break + "two", "one\n\ntwo"));
+  }
+}
+
+TEST_F(Script, AStreamInAFileEndsEveryLineAlikeAndLookingChangesNothing) {
+  const auto path = folder_.File("a folder.txt");
+  const auto printed = RunStarted("var SYSCFG\nstream \"" + path + "\"\nstream\nvar SYSCFG\n");
+  const auto written = ReadWhole(path);
+  ASSERT_TRUE(written.ends_with("#\r\n")) << written;
+  EXPECT_EQ(written.find('\n'), 70U);
+  EXPECT_EQ(printed, "SYSCFG = \"\"\n" + Quoted(written.substr(0, written.size() - 2)) + "\nSYSCFG = \"\"\n");
+}
+
+TEST_F(Script, DumpsTheImageByNamesUnderItsHeadings) {
+  const auto path = folder_.File("dump.txt");
+  EXPECT_EQ(RunStarted("set RX_BAUDRATE 03\nset EXCPSTRS(24) AB\ndump \"" + path + "\"\ndump\n"), "");
+  const auto text = ReadWhole(path);
+  EXPECT_TRUE(text.starts_with("::SYSCFG::\r\nEXECENTRY = "));
+  for (const auto* line : {"RX_BAUDRATE = 03\r\n", "::SYSFIXED::\r\nREGTYPE = 00\r\n",
+                           "::SYSSTR::\r\nONSCRNTITL = ", "EXCPSTRS(24) = AB\r\n"}) {
+    EXPECT_NE(text.find(std::string("\r\n") + line), std::string::npos) << line;
+  }
+  EXPECT_EQ(text.find("IGSCFG_BAK"), std::string::npos);
+  EXPECT_EQ(ReadWhole(folder_.File("V1400/SaveReport.Bin")), text);
+}
+
+TEST_F(Script, ComparesFilesFieldByField) {
+  const auto first = "\"" + folder_.File("first.bin") + "\"";
+  const auto second = "\"" + folder_.File("second.bin") + "\"";
+  EXPECT_EQ(RunStarted("set TX_BAUDRATE 01\nset ALMNORMAL_BAK(2) 00\nstream " + first +
+                       "\nset TX_BAUDRATE 0A\nset ALMNORMAL_BAK(2) FF\nstream " + second + "\ndiff " + first +
+                       " " + second + "\ndiff " + first + " " + first),
+            "TX_BAUDRATE: 01 -> 0A\nALMNORMAL_BAK(2): 00 -> FF\nno difference\n");
+  WriteWhole(folder_.File("second.bin"), "noise");
+  EXPECT_TRUE(RunStarted("diff " + first + " " + second).ends_with("exit 2"));
+}
+
+TEST_F(Script, WarnsOfWhatOpeningAFileWouldDo) {
+  const auto inspect = [&](const FirmwareId& firmware, int code) {
+    WriteWhole(folder_.File("some.bin"), ovl::testing::PatternStream(firmware, 1, code));
+    return RunStarted("inspect \"" + folder_.File("some.bin") + "\"\n");
+  };
+  EXPECT_EQ(inspect({"V1400", "R12"}, 110),
+            "fits V1400R11: register 110 \"WEIGH SCALE\"\nfits V1400R12: register 110 \"WEIGH SCALE\"\n"
+            "opening it under V1400R12 loads it\n");
+  EXPECT_EQ(inspect({"V1400", "R4"}, 5),
+            "fits V1400R1: register 5 \"ANSI\"\nfits V1400R2: register 5 \"ANSI\"\n"
+            "fits V1400R4: register 5 \"ANSI\"\nopening it under V1400R12 ends the program\n");
+  const auto unlisted = inspect({"V1310", "R1"}, 200);
+  EXPECT_NE(unlisted.find("fits V1310R1: register 200 is not in its list\n"), std::string::npos) << unlisted;
+  EXPECT_EQ(unlisted.find("fits V1410"), std::string::npos) << "the menu does not offer it";
+  WriteWhole(folder_.File("some.bin"), "noise");
+  EXPECT_EQ(RunStarted("inspect \"" + folder_.File("some.bin") + "\"\n"),
+            "fits no firmware\nopening it under V1400R12 refuses it and keeps the image\n");
+}
+
+TEST(Help, NamesEveryStatement) {
+  const auto help = HelpText();
+  for (const auto& statement : Statements()) {
+    EXPECT_NE(help.find("\n" + std::string(statement.forms)), std::string::npos) << statement.word;
+  }
+}
+
+}  // namespace
+}  // namespace ovl::script

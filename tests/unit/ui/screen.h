@@ -1,0 +1,180 @@
+// A program with windows, for tests of what they show and of what a person does in them.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QTabWidget>
+#include <algorithm>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <stdexcept>
+
+#include "files/files.h"
+#include "images/default_images.h"
+#include "support/harness.h"
+#include "ui/app/program.h"
+#include "ui/app/status_strip.h"
+#include "ui/kit/theme.h"
+
+namespace ovl::testing {
+
+enum class Pages { kAll, kFirst };
+enum Tab { kRegisterTab, kTextTab, kAlarmTab, kLineTab, kExceptionTab, kTitleTab, kRemoteTab };
+
+template <class... Kinds>
+bool IsOne(const QWidget* widget) {
+  return (... || (qobject_cast<const Kinds*>(widget) != nullptr));
+}
+
+// The widgets of these kinds that a person sees, without the parts of lists.
+template <class... Kinds>
+std::vector<QWidget*> VisibleIn(const QWidget& page) {
+  std::vector<QWidget*> visible;
+  for (auto* widget : page.findChildren<QWidget*>()) {
+    const bool part = widget->objectName().startsWith("qt_") || IsOne<QComboBox>(widget->parentWidget());
+    if (widget->isVisible() && !part && IsOne<Kinds...>(widget)) visible.push_back(widget);
+  }
+  return visible;
+}
+
+// Whatever is read has room for its text.
+inline void ExpectRoom(const QWidget& page) {
+  for (const auto* widget : VisibleIn<QLabel, QAbstractButton, QComboBox>(page)) {
+    SCOPED_TRACE((widget->objectName() + ' ' + widget->property("text").toString()).toStdString());
+    const auto* label = qobject_cast<const QLabel*>(widget);
+    if (label != nullptr && label->wordWrap()) continue;
+    EXPECT_GE(widget->width(), widget->sizeHint().width());
+    EXPECT_GE(widget->height(), widget->sizeHint().height());
+  }
+}
+
+// A program folder with the first register's image, and the store that names its firmware.
+inline void MakeSite(const TemporaryFolder& folder, const FirmwareId& firmware) {
+  const auto images = folder.Path() / firmware.version / firmware.release;
+  std::filesystem::create_directories(images);
+  std::filesystem::create_directories(folder.Path() / "ORB");
+  WriteWhole((images / "GENERIC.bin").string(), PatternStream(firmware) + "\r\n");
+  WriteWhole(folder.File("ORB/OVL Software.conf"),
+             "[General]\nVersion=" + firmware.version + "\nRelease=" + firmware.release + "\n");
+}
+
+// A program with its windows, over the default images of its firmware and a line in memory.
+class Screen {
+ public:
+  explicit Screen(const FirmwareId& firmware = {"V1400", "R12"}, Pages pages = Pages::kAll) {
+    ApplyTheme(Theme::kLight);
+    MakeSite(folder, firmware);
+    WriteDefaultImages(folder.Path().string(), firmware);
+    const auto path = QString::fromStdString(folder.Path().string());
+    program = std::make_unique<Program>(path, path);
+    App().platform.show_message = [this](const MessageBox& box) {
+      boxes.push_back(box.text);
+      while_box();
+    };
+    auto& serial = App().platform.serial;
+    serial.open = [](const LineSettings&) { return SerialLine::Error(); };
+    serial.write = [](std::string_view) { return SerialLine::Error(); };
+    serial.close = serial.clear_input = serial.clear_output = [] {};
+    if (program->Start() != Outcome::kDone) throw std::runtime_error("no start");
+    if (pages == Pages::kAll) OnScreen().BuildAll();
+    Main().resize(960, 600);
+  }
+
+  Application& App() { return program->Model(); }
+  MainWindow& Main() { return program->OnScreen().Main(); }
+  Windows& OnScreen() { return program->OnScreen(); }
+  FormWindow& Window(const Form& form) { return *OnScreen().WindowOf(form); }
+
+  void Select(std::string_view register_name) {
+    auto& list = App().frmMain.ComboReg;
+    const auto found = std::find(list.items.begin(), list.items.end(), register_name);
+    program->Act(PickEvent{&list, static_cast<int>(found - list.items.begin())});
+    Show();
+  }
+
+  void Show() {
+    program->RefreshNow();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  }
+  template <class Kind = QWidget>
+  Kind& Find(const std::string& name) {
+    auto* found = Main().findChild<Kind*>(QString::fromStdString(name));
+    if (found == nullptr) throw std::runtime_error("no widget " + name);
+    return *found;
+  }
+  bool IsShown(const std::string& name) { return Find(name).isVisible(); }
+  void Click(const std::string& name) {
+    Find<QAbstractButton>(name).click();
+    Show();
+  }
+  void Pick(const std::string& name, int position) {
+    emit Find<QComboBox>(name).activated(position);
+    Show();
+  }
+
+  static void Press(QWidget& widget, int key, const QString& text = {}, QEvent::Type way = QEvent::KeyPress) {
+    QKeyEvent press(way, key, Qt::NoModifier, text);
+    QCoreApplication::sendEvent(&widget, &press);
+  }
+  // These keys go to the window in front.
+  void Keys(std::initializer_list<int> keys) {
+    for (const int key : keys) PressInFront(key, key == Qt::Key_Space ? " " : "");
+  }
+  void Type(const QString& text) {
+    for (const QChar letter : text) PressInFront(letter.toUpper().unicode(), letter);
+  }
+  std::string Focus() { return FocusWidget().objectName().toStdString(); }
+  // Where the Tab key leads, around the window in front once.
+  std::vector<QWidget*> Round() {
+    std::vector<QWidget*> round;
+    while (std::find(round.begin(), round.end(), &FocusWidget()) == round.end()) {
+      round.push_back(&FocusWidget());
+      Keys({Qt::Key_Tab});
+    }
+    return round;
+  }
+  std::string NamesOfRound() {
+    std::string names;
+    for (const auto* stop : Round()) names += stop->objectName().toStdString() + " ";
+    return names;
+  }
+  void Stand(const std::string& name, int tab) {
+    Main().Tabs().setCurrentIndex(tab);
+    Find(name).setFocus();
+  }
+
+  std::string Note() { return Find<CutLabel>("StatusNote").Text().toStdString(); }
+  std::string QuietLine() {
+    const auto* line = Main().Tabs().currentWidget()->findChild<QLabel*>("QuietLine");
+    return line->isVisible() ? line->text().toStdString() : std::string();
+  }
+
+  TemporaryFolder folder;
+  std::vector<std::string> boxes;
+  std::function<void()> while_box = [] {};
+  std::unique_ptr<Program> program;
+
+ private:
+  QWidget& FocusWidget() {
+    auto* window = OnScreen().Front();
+    return window->focusWidget() == nullptr ? *window : *window->focusWidget();
+  }
+  void PressInFront(int key, const QString& text) {
+    OnScreen().Front()->activateWindow();
+    Show();
+    Press(FocusWidget(), key, text);
+    Press(FocusWidget(), key, text, QEvent::KeyRelease);
+    Show();
+  }
+};
+
+// For tests with such a program each.
+class ScreenTest : public ::testing::Test, protected Screen {};
+
+}  // namespace ovl::testing

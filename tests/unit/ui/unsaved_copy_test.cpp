@@ -1,0 +1,80 @@
+// What is left for the next start when the program is ended from outside.
+#include "ui/app/unsaved_copy.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QDeadlineTimer>
+#include <QDir>
+
+#include "unit/ui/screen.h"
+
+namespace ovl::testing {
+namespace {
+
+QStringList Copies(const QString& folder) {
+  return QDir(folder).entryList({QStringLiteral("*.bin")}, QDir::Files);
+}
+
+// Changes a setting and waits for the copy.
+QString ChangeAndWait(Screen& screen) {
+  auto& app = screen.App();
+  screen.program->GuardUnsaved();
+  const auto folder = QString::fromStdString(app.platform.program_folder);
+  screen.Pick("ComboTD(2)", app.frmMain.ComboTD[2].position == 0 ? 1 : 0);
+  for (const QDeadlineTimer late(10000); Copies(folder).isEmpty() && !late.hasExpired();) screen.Show();
+  return folder;
+}
+
+TEST(UnsavedCopy, StandsUntilAPersonLeavesAndOpensAgainAfterASuddenEnd) {
+  Screen screen({"V1400", "R12"});
+  auto& app = screen.App();
+  const auto folder = ChangeAndWait(screen);
+  ASSERT_EQ(Copies(folder).size(), 1);
+  EXPECT_EQ(RescueCopies(folder), QStringList()) << "the program that keeps the copy still runs";
+
+  // As if a process that is gone by now had left it.
+  const QDir in(folder);
+  ASSERT_TRUE(QFile::rename(in.filePath(Copies(folder).front()), in.filePath("unsaved V1400R12 9.bin")));
+  EXPECT_EQ(RescueCopies(folder), QStringList("rescued V1400R12 1.bin"));
+  const auto rescued = in.filePath("rescued V1400R12 1.bin");
+  const auto changed = app.image;
+  app.image = app.known_image;
+  app.platform.ask_file = [&](const FileDialog&) {
+    return std::optional(FileAnswer{rescued.toStdString(), {}});
+  };
+  screen.Find<QAction>("OpenMenu").trigger();
+  EXPECT_TRUE(app.image == changed);
+
+  // A file that ends the program leaves the changes, a person who closes it does not.
+  screen.Pick("ComboTD(2)", app.frmMain.ComboTD[2].position == 0 ? 1 : 0);
+  WriteWhole(rescued.toStdString(), "$2000");
+  screen.Find<QAction>("OpenMenu").trigger();
+  ASSERT_TRUE(app.ended);
+  EXPECT_EQ(Copies(folder).size(), 2);
+}
+
+TEST(UnsavedCopy, IsTakenAwayWhenAPersonLeaves) {
+  Screen screen({"V1400", "R12"});
+  const auto folder = ChangeAndWait(screen);
+  EXPECT_EQ(Copies(folder).size(), 1);
+  screen.Find<QAction>("menuExit").trigger();
+  EXPECT_EQ(Copies(folder), QStringList());
+}
+
+// The number of a process that is gone may be another's by now: what counts is the lock, and who made it.
+TEST(UnsavedCopy, OfAnotherFirmwareIsNamedThoughItsProcessNumberIsInUseAgain) {
+  Screen screen({"V1400", "R12"});
+  const auto file = [&](const char* name) { return screen.folder.File(name); };
+  WriteWhole(file("unsaved V1300R14 1.bin"), "x");
+  WriteWhole(file("unsaved V1300R14 1.bin.lock"),
+             "1\nanother\n" + QSysInfo::machineHostName().toStdString() + "\n");
+  WriteWhole(file("rescued V1300R14 1.bin"), "older");
+  screen.program->GuardUnsaved();
+  EXPECT_EQ(screen.Note().find("rescued V1300R14 2.bin: "), 0U);
+  EXPECT_EQ(ReadWhole(file("rescued V1300R14 1.bin")), "older");
+  EXPECT_EQ(ReadWhole(file("rescued V1300R14 2.bin")), "x");
+}
+
+}  // namespace
+}  // namespace ovl::testing

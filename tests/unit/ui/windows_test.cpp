@@ -1,0 +1,262 @@
+// The windows offscreen: they show the model, and a person's acts reach it.
+#include <QAction>
+#include <QImage>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTreeWidget>
+#include <QWheelEvent>
+#include <cmath>
+#include <map>
+
+#include "link/transfer.h"
+#include "pictures/pictures.h"
+#include "screen.h"
+#include "ui/pages/transfer_progress.h"
+
+namespace ovl::testing {
+namespace {
+
+// One of them ends the program, so that no event loop runs afterwards: these stand behind those of other
+// files.
+using WindowsTest = ScreenTest;
+
+TEST_F(WindowsTest, TheTabKeyVisitsWhatCanActInReadingOrder) {
+  for (auto& button : App().frmMain.CmdUpDow) button.enabled = button.visible = true;
+  Stand("cmdConnect", kRemoteTab);
+  const auto names = NamesOfRound();
+  EXPECT_TRUE(names.starts_with(
+      "cmdConnect CmdUpDow(4) CmdUpDow(0) CmdUpDow(1) CmdUpDow(3) CmdUpDow(5) CheckTD ComboMonth "
+      "ComboDay(0) ComboYear ComboHR ComboMin ComboSec "))
+      << names;
+}
+
+TEST_F(WindowsTest, TheWheelNeverChangesAListAndTheSameEntryCanBePickedAgain) {
+  const auto& hour = App().ClockHour;
+  auto& hours = Find<QComboBox>("ComboHR");
+  Click("CheckTD");
+  Pick("ComboHR", 7);
+  Stand("ComboHR", kRemoteTab);
+  QWheelEvent wheel({5, 5}, hours.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {}, {}, false);
+  QCoreApplication::sendEvent(&hours, &wheel);
+  EXPECT_EQ(hour, "07");
+  EXPECT_EQ(hours.currentIndex(), 7);
+  App().ClockHour = "99";
+  Pick("ComboHR", 7);
+  EXPECT_EQ(hour, "07");
+  Keys({Qt::Key_Down});
+  EXPECT_EQ(hour, "08");
+}
+
+TEST_F(WindowsTest, AnActDuringAHandlerIsLostAndTakenBackOnTheScreen) {
+  auto& hours = Find<QComboBox>("ComboHR");
+  App().frmMain.ComboHR.position = 3;
+  Show();
+  while_box = [&] {
+    hours.setCurrentIndex(9);
+    Pick("ComboHR", 9);
+    Click("CheckTD");
+  };
+  Click("CmdUpDow(4)");
+  ASSERT_EQ(boxes, std::vector<std::string>{"        Please Select Comport."});
+  EXPECT_EQ(hours.currentIndex(), 3);
+  EXPECT_TRUE(Find<QAbstractButton>("CheckTD").isChecked() && App().frmMain.CheckTD.checked);
+}
+
+TEST_F(WindowsTest, FormsComeAndGoAsTheModelSaysAndTheirOptionsMoveByArrows) {
+  auto& app = App();
+  auto& options = app.frmSettSR.OpBaud;
+  auto& settings = Window(app.frmSettSR.form);
+  auto& set = Find<QPushButton>("frmSettSR.cmdSET");
+  Stand("cmdConnect", kRemoteTab);
+  Keys({Qt::Key_Return});
+  EXPECT_TRUE(settings.isVisible() && !Main().Tabs().isEnabled());
+  EXPECT_TRUE(set.isEnabled() && set.isDefault() && settings.focusWidget() == &set);
+  Keys({Qt::Key_Escape});
+  EXPECT_FALSE(settings.isVisible() || app.frmMain.MSComm1.PortOpen);
+  EXPECT_TRUE(Main().Tabs().isEnabled());
+
+  Keys({Qt::Key_Return});
+  auto& slow = Find<QRadioButton>("OpBaud(3)");
+  auto& fast = Find<QRadioButton>("OpBaud(4)");
+  slow.setFocus();
+  Keys({Qt::Key_Down});
+  EXPECT_TRUE(fast.isChecked() && !slow.isChecked());
+  EXPECT_EQ(app.PortBaud, "14400");
+  options.elements[5].enabled = false;
+  fast.setFocus();
+  Keys({Qt::Key_Down});
+  EXPECT_EQ(options.chosen, 6);
+  fast.click();
+  Click("OpBaud(4)");
+  EXPECT_TRUE(fast.isChecked());
+
+  Keys({Qt::Key_Return});
+  EXPECT_TRUE(app.frmMain.MSComm1.PortOpen);
+  EXPECT_TRUE(IsShown("cmdDisConnect") && !IsShown("cmdConnect"));
+  EXPECT_EQ(Focus(), "cmdDisConnect");
+}
+
+TEST_F(WindowsTest, ATransferShowsHowFarItIsAndItsEndStaysUntilAnswered) {
+  auto& app = App();
+  auto& end = Window(app.frmOK_buttom.form);
+  const auto& bar = Find<QProgressBar>("vbalProgressBar1");
+  Main().Tabs().setCurrentIndex(kRemoteTab);
+  BeginUpload(app);
+  Show();
+  EXPECT_TRUE(bar.isVisible());
+  EXPECT_EQ(TransferProgressText(app), "waiting for the unit");
+  app.FrameState = 1;
+  app.StreamBuffer.assign(1530, '0');
+  app.frmMain.vbalProgressBar1.value = 30;
+  Show();
+  EXPECT_TRUE(TransferProgressText(app).startsWith("1,530 characters, "));
+  EXPECT_EQ(bar.value(), 30);
+  FinishUpload(app);
+  Show();
+  EXPECT_TRUE(end.isVisible() && end.windowFlags().testFlag(Qt::WindowStaysOnTopHint) && !bar.isVisible());
+  EXPECT_EQ(app.LinkMode, kLinkUpload);
+  end.close();
+  EXPECT_EQ(app.LinkMode, kLinkIdle);
+  EXPECT_TRUE(!end.isVisible() && Main().Tabs().isEnabled());
+  EXPECT_EQ(TransferProgressText(app), "");
+}
+
+TEST_F(WindowsTest, TheAboutBoxTellsProgramFirmwareToolkitAndLicence) {
+  Find<QAction>("menuAbout").trigger();
+  Show();
+  const auto& window = Window(App().frmAbout.form);
+  EXPECT_TRUE(window.isVisible());
+  QStringList texts;
+  for (const auto* label : window.findChildren<QLabel*>()) texts.append(label->text());
+  const auto told = texts.join('|');
+  for (const QString part : {"OVL Software", "Version 1.", "V1400R12", qVersion(), "MIT licence"})
+    EXPECT_TRUE(told.contains(part)) << part.toStdString() << " in " << told.toStdString();
+}
+
+TEST_F(WindowsTest, ThePointerOverUploadAndDownloadShowsTheHint) {
+  for (const std::size_t button : {0U, 1U}) {
+    App().frmMain.CmdUpDow[button].enabled = true;
+    for (const auto type : {QEvent::Enter, QEvent::Leave}) {
+      QEvent event(type);
+      QCoreApplication::sendEvent(&Find("CmdUpDow(" + std::to_string(button) + ")"), &event);
+      EXPECT_EQ(App().frmMain.Picture1[button + 1].visible, type == QEvent::Enter) << button;
+    }
+  }
+}
+
+TEST_F(WindowsTest, TheVersionMenuMarksTheFirmwareAndAnotherPickEndsTheProgram) {
+  auto& own = *Main().findChild<QAction*>("V1400R12mnu");
+  EXPECT_TRUE(own.isChecked());
+  own.trigger();
+  Show();
+  EXPECT_TRUE(own.isChecked() && Main().isVisible());
+
+  Main().findChild<QAction*>("V1300R14mnu")->trigger();
+  EXPECT_NE(ReadWhole(folder.File("ORB/OVL Software.conf")).find("Version=V1300"), std::string::npos);
+  EXPECT_EQ(boxes.size(), 1U);
+  EXPECT_FALSE(Main().isVisible());
+  EXPECT_EQ(program->Act(ClickEvent{&App().frmMain.cmdConnect}), Outcome::kEnded);
+}
+
+std::string Listed(Screen& screen) {
+  QStringList cells;
+  const auto& list = screen.Find<QTreeWidget>("ChangesList");
+  for (int line = 0; line < list.topLevelItemCount(); ++line) {
+    for (int at = 0; at < list.columnCount(); ++at) cells.append(list.topLevelItem(line)->text(at));
+  }
+  return cells.join('|').toStdString();
+}
+
+TEST_F(WindowsTest, ChangesAreListedByFieldPlaceAndLabelWithTheBytesThenAndNow) {
+  auto& app = App();
+  const auto& button = Find<QPushButton>("StatusChanges");
+  EXPECT_FALSE(button.isVisible());
+  const auto other = [&](const List& list) { return list.position == 0 ? 1 : 0; };
+  const auto& line = app.image[FieldId::COMMCFG_BAK];
+  const auto expected = "COMMCFG_BAK|SYSCFG 1|COMMUNICATION: PARITY|" + line + "|";
+  Pick("ComboCOMM(3)", other(app.frmMain.ComboCOMM[3]));
+  EXPECT_EQ(button.text(), "1 change since the last load or download");
+  Click("StatusChanges");
+  EXPECT_EQ(Listed(*this), expected + line);
+
+  app.image.at(FieldId::EXCPSTRS, 2).replace(0, 2, "55");
+  Show();
+  EXPECT_EQ(button.text(), "2 changes since the last load or download");
+  EXPECT_NE(Listed(*this).find("|EXCPSTRS(2)|SYSSTR "), std::string::npos);
+
+  StartDownload(app);
+  const auto sent = app.image;
+  Pick("ComboTD(2)", other(app.frmMain.ComboTD[2]));
+  FinishDownload(app);
+  Show();
+  EXPECT_EQ(button.text(), "1 change since the last load or download")
+      << "the unit holds what was sent, not what was picked meanwhile";
+  EXPECT_TRUE(app.known_image == sent);
+  EXPECT_EQ(Listed(*this).find("DATE_FORMAT_BAK|SYSFIXED "), 0U);
+}
+
+TEST_F(WindowsTest, ARefreshWithoutAChangeTouchesNoWidget) {
+  auto& label = Find<QLabel>("lbConnectting");
+  label.setText("as left by the test");
+  Show();
+  EXPECT_EQ(label.text(), "as left by the test");
+}
+
+// As accessibility rules reckon it.
+double Luminance(const QColor& color) {
+  const auto linear = [](double part) { return std::pow((part + 0.055) / 1.055, 2.4); };
+  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+TEST(Theme, TextStandsOutInBothThemes) {
+  using P = QPalette;
+  std::multimap<P::ColorRole, P::ColorRole> texts = {{P::Button, P::ButtonText},
+                                                     {P::Highlight, P::HighlightedText}};
+  for (const auto ground : {P::Window, P::Base, P::AlternateBase}) {
+    for (const auto text : {P::WindowText, P::PlaceholderText, P::Link}) texts.emplace(ground, text);
+  }
+  for (const auto theme : {Theme::kLight, Theme::kDark}) {
+    ApplyTheme(theme);
+    const auto palette = QApplication::palette();
+    for (const auto& [ground, text] : texts) {
+      const auto [less, more] =
+          std::minmax({Luminance(palette.color(text)), Luminance(palette.color(ground))});
+      EXPECT_GE((more + 0.05) / (less + 0.05), 4.5) << text << " on " << ground;
+    }
+    EXPECT_NE(palette.color(P::Disabled, P::WindowText), MutedColor(palette));
+  }
+}
+
+TEST(Pictures, EveryStateIsTakenInBothThemes) {
+  const TemporaryFolder site, shots;
+  MakeSite(site, {"V1400", "R12"});
+  const auto folder = QString::fromStdString(site.Path().string());
+  WriteWhole(shots.File("file"), "");
+  const auto blocked = QString::fromStdString(shots.File("file"));
+  EXPECT_EQ(SavePictures(folder, folder, blocked), blocked + "/light: Not a directory");
+  WriteWhole(site.File("unsaved V1400R12 1.bin"), "a person's");
+  ASSERT_EQ(SavePictures(folder, folder, QString::fromStdString(shots.Path().string())), QString());
+  EXPECT_EQ(ReadWhole(site.File("unsaved V1400R12 1.bin")), "a person's");
+  for (const std::string theme : {"light", "dark"}) {
+    const auto load = [&](const char* name) {
+      return QImage(QString::fromStdString(shots.File(theme + "/" + name + ".png")));
+    };
+    EXPECT_EQ(load("remote_access").size(), QSize(1040, 700));
+    for (const char* other : {"remote_open", "remote_asked", "remote_uploading", "remote_hint"}) {
+      EXPECT_NE(load(other), load("remote_access")) << other;
+    }
+    EXPECT_FALSE(load("transfer_end").isNull() || load("scan_progress").isNull());
+  }
+}
+
+}  // namespace
+}  // namespace ovl::testing
+
+// The toolkit's application object stands as long as the tests run.
+int main(int count, char** words) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication application(count, words);
+  ::testing::InitGoogleTest(&count, words);
+  return RUN_ALL_TESTS();
+}

@@ -1,0 +1,54 @@
+// Writes pictures of all windows, for people to look at and for the documents.
+#include <QApplication>
+#include <QDir>
+#include <cstdlib>
+#include <iostream>
+
+#include "core/failure.h"
+#include "host/program_folder.h"
+#include "pictures/pictures.h"
+#include "ui/app/launch.h"
+#include "ui/help/guide.h"
+#include "ui/help/help_pages.h"
+
+namespace {
+
+const QString kDescription = QStringLiteral(
+    "Writes pictures of all windows of OVL Software into the folder, light and dark.\n"
+    "\n"
+    "Exit status: 0 done; 1 a picture or the guide could not be written; 2 wrong usage.");
+
+int Fail(const char* what, const QString& problem) {
+  std::cerr << "ovl-pictures: " << what << " cannot be written: " << problem.toLocal8Bit().constData()
+            << "\n";
+  return EXIT_FAILURE;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const auto guide_option = QStringLiteral("guide");
+  ovl::CommandLine command_line(QStringLiteral("ovl-pictures"), kDescription);
+  command_line.AddWord(QStringLiteral("FOLDER"), QStringLiteral("where the pictures go"));
+  command_line.AddOption(guide_option, QStringLiteral("FILE"),
+                         QStringLiteral("writes the installer's guide with the pictures as a PDF"));
+  if (const auto status = command_line.Read(argc, argv)) return *status;
+  // The pictures are the same on every machine only without its display.
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  ovl::NameApplication();
+  QApplication::setQuitOnLastWindowClosed(false);
+  const auto pictures = command_line.Word();
+  try {
+    const auto folder = ovl::ProgramFolder(command_line.Folder());
+    const auto problem = ovl::SavePictures(folder, command_line.Store(), pictures);
+    if (!problem.isEmpty()) return Fail("the pictures", problem);
+  } catch (const ovl::Failure& failure) {
+    return Fail("the program's folder", QString::fromStdString(failure.Subject() + ": " + failure.what()));
+  }
+  const auto guide = command_line.Value(guide_option);
+  if (guide.isEmpty()) return EXIT_SUCCESS;
+  const auto problem = ovl::WriteGuide(ovl::HelpPages(ovl::kEmbeddedHelp),
+                                       QDir(pictures).filePath(QStringLiteral("light")), guide);
+  return problem.isEmpty() ? EXIT_SUCCESS : Fail("the guide", problem);
+}

@@ -1,0 +1,349 @@
+#include "pictures/pictures.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+#include <QTabWidget>
+#include <algorithm>
+#include <array>
+#include <filesystem>
+
+#include "core/configuration.h"
+#include "host/text_codec.h"
+#include "image/record_stream.h"
+#include "pictures/sample_settings.h"
+#include "ui/app/program.h"
+#include "ui/dialogs/changes_window.h"
+#include "ui/kit/theme.h"
+
+namespace ovl {
+namespace {
+
+constexpr ClockTime kPictureTime{2026, 11, 24, 14, 7, 9};
+constexpr std::size_t kPartOfUpload = 2870;
+constexpr char kAck = '\x06';
+constexpr int kRegisterTab = 0;
+constexpr int kCommunicationTab = 3;
+constexpr int kExceptionTab = 4;
+constexpr int kTimeTab = 5;
+constexpr int kRemoteTab = 6;
+constexpr int kClockTicks = 10;  // until the clock lists are set
+
+// A line whose unit says what the pictures need.
+class PlayedLine {
+ public:
+  explicit PlayedLine(Program& program) : program_(program) {
+    auto& serial = program.Model().platform.serial;
+    serial.open = [](const LineSettings&) { return SerialLine::Error(); };
+    serial.close = [] {};
+    serial.write = [this](std::string_view) {
+      written_ = true;
+      return SerialLine::Error();
+    };
+    serial.read = [this] { return std::string(1, character_); };
+    serial.clear_input = [] {};
+    serial.clear_output = [] {};
+  }
+
+  void Unit(std::string_view text) {
+    for (const char character : text) {
+      character_ = character;
+      program_.Act(ReceivedEvent{});
+    }
+  }
+
+  void Drain(int count) {
+    for (written_ = true; written_ && count > 0; --count) {
+      written_ = false;
+      program_.Act(DrainedEvent{});
+    }
+  }
+
+ private:
+  Program& program_;
+  char character_ = '\0';
+  bool written_ = false;
+};
+
+class Photographer {
+ public:
+  Photographer(Program& program, PlayedLine& line, QDir folder)
+      : program_(program), line_(line), folder_(std::move(folder)) {}
+
+  // What could not be written; empty if everything was.
+  const QString& Problem() const { return problem_; }
+
+  void TakeAll() {
+    Main().resize(MainWindow::kStartSize);
+    for (int tick = 0; tick <= kClockTicks; ++tick) program_.Act(TickEvent{&App().frmMain.Timer});
+    MakeSampleSettings(program_);
+    TakeTabs();
+    TakeChanges();
+    TakeTextWindows();
+    TakeRegisters();
+    TakePortSettings();
+    TakeLink();
+    TakeScan();
+    TakeHelp();
+    TakeFocus();
+  }
+
+ private:
+  Application& App() { return program_.Model(); }
+  MainWindow& Main() { return program_.OnScreen().Main(); }
+
+  void Take(QWidget& window, const QString& name) {
+    program_.RefreshNow();
+    QApplication::setActiveWindow(&window);
+    QCoreApplication::sendPostedEvents();
+    QSaveFile file(folder_.filePath(name + QStringLiteral(".png")));
+    if (!file.open(QIODevice::WriteOnly) || !window.grab().save(&file, "PNG") || !file.commit())
+      problem_ = file.fileName() + QStringLiteral(": ") + file.errorString();
+  }
+
+  void TakeForm(const Form& form, const QString& name) {
+    program_.RefreshNow();
+    if (auto* window = program_.OnScreen().WindowOf(form)) Take(*window, name);
+  }
+
+  void TakeTabs() {
+    auto& tabs = Main().Tabs();
+    for (int tab = 0; tab < tabs.count(); ++tab) {
+      tabs.setCurrentIndex(tab);
+      auto name = tabs.tabText(tab).trimmed().toLower();
+      name.remove(QLatin1Char('/'));
+      Take(Main(),
+           QStringLiteral("tab%1_").arg(tab) + name.simplified().replace(QLatin1Char(' '), QLatin1Char('_')));
+    }
+    tabs.setCurrentIndex(kRemoteTab);
+  }
+
+  void TakeChanges() {
+    Main().Changes().Open();
+    Take(Main().Changes(), QStringLiteral("changes"));
+    Main().Changes().close();
+  }
+
+  void TakeTextWindows() {
+    Click(App().frmMain.cmdSetExcpstr);
+    TakeForm(App().frmSetEXCPSTR.form, QStringLiteral("text_entry"));
+    program_.Act(CloseEvent{&App().frmSetEXCPSTR.form});
+    Click(App().frmMain.cmdSetRange);
+    TakeForm(App().frmSetRange.form, QStringLiteral("range"));
+    program_.Act(CloseEvent{&App().frmSetRange.form});
+    ShowSampleHistory(program_);
+    TakeForm(App().frmView.form, QStringLiteral("viewer"));
+    program_.Act(CloseEvent{&App().frmView.form});
+  }
+
+  // Registers whose default image the program folder lacks are left out: a pick would end the program.
+  bool PickRegister(std::string_view name) {
+    auto& list = App().frmMain.ComboReg;
+    const auto found = std::find(list.items.begin(), list.items.end(), name);
+    const QDir images(QFile::decodeName(App().platform.program_folder.c_str()));
+    const auto image = QStringLiteral("%1/%2/%3.bin")
+                           .arg(QString::fromStdString(App().firmware.version),
+                                QString::fromStdString(App().firmware.release),
+                                QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+    if (found == list.items.end() || !images.exists(image)) return false;
+    program_.Act(PickEvent{&list, static_cast<int>(found - list.items.begin())});
+    return true;
+  }
+
+  // False for an option that this firmware does not offer.
+  bool Choose(OptionArray& array, int element) {
+    program_.RefreshNow();
+    const auto& face = array.elements.at(static_cast<std::size_t>(element));
+    const auto* button = program_.OnScreen().Controls().WidgetOf(face);
+    if (button == nullptr || !button->isVisible()) return false;
+    program_.Act(ClickEvent{OptionElement{&array, element}});
+    return true;
+  }
+
+  void TakeRegisters() {
+    auto& form = App().frmMain;
+    auto& tabs = Main().Tabs();
+    tabs.setCurrentIndex(kRegisterTab);
+    for (const std::string_view name : {"IBM", "NCR", "TCPIP", "UNIWELL", "GILBARCO"}) {
+      if (!PickRegister(name)) continue;
+      if (name == "IBM") Choose(form.IBMOP, 0);
+      if (name == "NCR") Choose(form.NCROP, 1);
+      if (name == "UNIWELL") Choose(form.UNIWOP, 1);
+      if (name == "GILBARCO") Choose(form.OpGilbraco, 5);
+      Take(Main(), QStringLiteral("register_") + QString::fromLatin1(name.data()).toLower());
+    }
+    if (PickRegister("DRESSER WAYNE")) {
+      Choose(form.POSOP, 0);
+      Choose(form.TEROP, 2);
+      Choose(form.OpDYWAYE, 2);
+      Take(Main(), QStringLiteral("register_dresser_wayne"));
+      tabs.setCurrentIndex(kCommunicationTab);
+      Take(Main(), QStringLiteral("communication_forced"));
+      tabs.setCurrentIndex(kRegisterTab);
+    }
+    TakeMicros();
+    TakeSubMenus();
+    PickRegister("GENERIC");
+  }
+
+  void TakeMicros() {
+    constexpr std::array kPanels = {"", "micros_idn", "micros_isn", "micros_3700"};
+    if (!PickRegister("MICROS")) return;
+    for (int mode = 0; mode < static_cast<int>(kPanels.size()); ++mode) {
+      if (!Choose(App().frmMain.OpMicros, mode)) continue;
+      const auto name = QString::fromLatin1(kPanels.at(static_cast<std::size_t>(mode)));
+      if (!name.isEmpty()) TakeForm(App().frmMicros.form, name);
+    }
+    Take(Main(), QStringLiteral("register_micros"));
+    program_.Act(CloseEvent{&App().frmMicros.form});
+  }
+
+  void TakeSubMenus() {
+    constexpr int kWithPort = 18, kFourWays = 12, kTerminal = 22;
+    auto& form = App().frmMain;
+    if (PickRegister("CASIO") && Choose(form.CASIOOP, kWithPort)) {
+      Take(Main(), QStringLiteral("register_casio"));
+      TakeForm(App().FrmSubMenu.form, QStringLiteral("sub_menu_casio"));
+    }
+    if (PickRegister("SHARP") && Choose(form.SharpOP, kFourWays)) {
+      TakeForm(App().FrmSubMenu.form, QStringLiteral("sub_menu_sharp"));
+      Choose(form.SharpOP, kTerminal);
+      TakeForm(App().FrmSubMenu.form, QStringLiteral("sub_menu_terminal"));
+      Take(Main(), QStringLiteral("register_sharp"));
+    }
+    program_.Act(CloseEvent{&App().FrmSubMenu.form});
+  }
+
+  void TakePortSettings() {
+    Main().Tabs().setCurrentIndex(kRemoteTab);
+    Click(App().frmMain.cmdConnect);
+    TakeForm(App().frmSettSR.form, QStringLiteral("port_settings"));
+    Take(Main(), QStringLiteral("held_back"));
+    Click(App().frmSettSR.cmdSET);
+  }
+
+  void TakeLink() {
+    Take(Main(), QStringLiteral("remote_open"));
+    Click(App().frmMain.CmdUpDow[kRemote]);
+    Take(Main(), QStringLiteral("remote_asked"));
+    Grant();
+    Take(Main(), QStringLiteral("remote_access"));
+    program_.Act(PointEvent{&App().frmMain.CmdUpDow[kDownload]});
+    Take(Main(), QStringLiteral("remote_hint"));
+    program_.Act(PointEvent{&App().frmMain.Frame11});
+    TakeUpload();
+    TakeDownload();
+  }
+
+  void Grant() {
+    line_.Unit({&kAck, 1});
+    program_.Act(TickEvent{&App().frmMain.General_timer});
+  }
+
+  void TakeUpload() {
+    const auto stream = SectionsToStream(App());
+    Click(App().frmMain.CmdUpDow[kUpload]);
+    line_.Drain(static_cast<int>(App().UploadCommandText.size()));
+    line_.Unit(std::string_view(stream).substr(0, kPartOfUpload));
+    Take(Main(), QStringLiteral("remote_uploading"));
+    line_.Unit(std::string_view(stream).substr(kPartOfUpload));
+    TakeForm(App().frmOK_buttom.form, QStringLiteral("transfer_end"));
+    Click(App().frmOK_buttom.Command1);
+  }
+
+  void TakeDownload() {
+    Click(App().frmMain.CmdUpDow[kRemote]);
+    Grant();
+    Click(App().frmMain.CmdUpDow[kDownload]);
+    line_.Drain(static_cast<int>(App().DownloadCommandText.size()));
+    line_.Unit({&kAck, 1});
+    line_.Drain(static_cast<int>(kPartOfUpload / 2));
+    Take(Main(), QStringLiteral("remote_downloading"));
+    Click(App().frmMain.cmdDisConnect);
+  }
+
+  void TakeScan() {
+    Click(App().frmMain.cmdConnect);
+    Click(App().frmSettSR.BaudrateCMD);
+    for (int step = 0; step < 4; ++step) program_.Act(TickEvent{&App().frmSettSR.BaudRateScan});
+    TakeForm(App().frmScanBProgress.form, QStringLiteral("scan_progress"));
+    Take(Main(), QStringLiteral("remote_scanning"));
+    Click(App().frmScanBProgress.Command1);
+  }
+
+  void TakeHelp() {
+    program_.Act(ClickEvent{&App().frmMain.menuAbout});
+    TakeForm(App().frmAbout.form, QStringLiteral("about"));
+    Click(App().frmAbout.Command1);
+    auto& help = program_.OnScreen().Help();
+    help.OpenPageInFront();
+    Take(*help.Window(), QStringLiteral("help"));
+    help.Window()->close();
+  }
+
+  // Where the keyboard is, for each kind of control.
+  void TakeFocus() {
+    const auto& form = App().frmMain;
+    struct Row {
+      int tab;
+      const Face* control;
+      const char* name;
+    };
+    const Row rows[] = {{kCommunicationTab, &form.ComboCOMM[3], "focus_list"},
+                        {kTimeTab, &form.Title_Text, "focus_text"},
+                        {kRemoteTab, &form.cmdConnect, "focus_button"},
+                        {kRemoteTab, &form.CheckTD, "focus_check"},
+                        {kExceptionTab, &form.OpDVR.elements[0], "focus_option"},
+                        {kRegisterTab, &form.ComboReg, "focus_registers"}};
+    for (const auto& row : rows) {
+      Main().Tabs().setCurrentIndex(row.tab);
+      program_.RefreshNow();
+      if (auto* widget = program_.OnScreen().Controls().WidgetOf(*row.control))
+        widget->setFocus(Qt::TabFocusReason);
+      Take(Main(), QString::fromLatin1(row.name));
+    }
+    Main().Tabs().setFocus(Qt::TabFocusReason);
+    Take(Main(), QStringLiteral("focus_tabs"));
+  }
+
+  void Click(Button& button) { program_.Act(ClickEvent{&button}); }
+
+  Program& program_;
+  PlayedLine& line_;
+  QDir folder_;
+  QString problem_;
+};
+
+// A program of its own for each theme: what the first one did to its link would show in the other.
+QString SaveTheme(const QString& program_folder, const QString& store, const QString& folder) {
+  Program program(program_folder, store);
+  auto& platform = program.Model().platform;
+  platform.ask_file = [](const FileDialog&) { return std::optional<FileAnswer>(); };
+  platform.clock = [] { return kPictureTime; };
+  PlayedLine line(program);
+  QString why;
+  platform.show_message = [&why](const MessageBox& box) { why = FromWindows1252(box.text); };
+  if (program.Start() == Outcome::kEnded) return why;
+  platform.show_message = [](const MessageBox&) {};
+  Photographer photographer(program, line, QDir(folder));
+  photographer.TakeAll();
+  return photographer.Problem();
+}
+
+}  // namespace
+
+QString SavePictures(const QString& program_folder, const QString& store, const QString& folder) {
+  for (const auto& [theme, name] : {std::pair(Theme::kLight, "light"), std::pair(Theme::kDark, "dark")}) {
+    const auto below = QDir(folder).filePath(QString::fromLatin1(name));
+    std::error_code error;
+    std::filesystem::create_directories(QFile::encodeName(below).toStdString(), error);
+    if (error) return below + QStringLiteral(": ") + QString::fromStdString(error.message());
+    ApplyTheme(theme);
+    const auto problem = SaveTheme(program_folder, store, below);
+    if (!problem.isEmpty()) return problem;
+  }
+  return {};
+}
+
+}  // namespace ovl

@@ -1,0 +1,126 @@
+#include "pictures/sample_settings.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <array>
+
+#include "files/files.h"
+#include "ui/app/program.h"
+
+namespace ovl {
+namespace {
+
+// Positions of the lists DISPLAY to OPERATOR, and the two values for firmware with short and long numbers.
+struct SampleException {
+  const char* text;
+  std::array<int, 5> acts;
+  const char* first;
+  const char* second;
+};
+constexpr std::array kExceptionSamples = {
+    SampleException{"VOID", {1, 1, 1, 0, 0}, "", ""},
+    SampleException{"NO SALE", {1, 1, 0, 0, 0}, "", ""},
+    SampleException{"REFUND", {1, 0, 1, 0, 1}, "10", "250"},
+    SampleException{"T?TAL", {0, 1, 0, 0, 2}, "0", "99"},
+    SampleException{"DISCOUNT", {0, 0, 0, 1, 0}, "", ""},
+};
+constexpr int kShownException = 2;
+
+// Positions of the lists ALARM TRIGGER, NORMAL STATE and ALARM DURATION.
+struct SampleAlarm {
+  std::array<int, 3> lists;
+  const char* text;
+};
+constexpr std::array kAlarmSamples = {
+    SampleAlarm{{3, 0, 2}, "REFUND AT THE TILL"},
+    SampleAlarm{{27, 1, 7}, "ANY EXCEPTION"},
+    SampleAlarm{{28, 0, 11}, "DOOR"},
+};
+
+class Installer {
+ public:
+  explicit Installer(Program& program) : program_(program), app_(program.Model()) {}
+
+  void SetExceptions() {
+    int number = 0;
+    for (const auto& sample : kExceptionSamples) {
+      auto& lists = app_.frmMain.ComboExcp;
+      Pick(lists[0], number++);
+      SetText(app_.frmMain.cmdSetExcpstr, sample.text);
+      for (std::size_t list = 0; list < sample.acts.size(); ++list) Pick(lists[1 + list], sample.acts[list]);
+      if (*sample.second != '\0') SetRange(sample);
+    }
+    Pick(app_.frmMain.ComboExcp[0], kShownException);
+  }
+
+  void SetAlarms() {
+    int number = 0;
+    for (const auto& sample : kAlarmSamples) {
+      auto& lists = app_.frmMain.ComboALM;
+      Pick(lists[0], number++);
+      for (std::size_t list = 0; list < sample.lists.size(); ++list)
+        Pick(lists[1 + list], sample.lists[list]);
+      SetText(app_.frmMain.cmdSetTrigger, sample.text);
+    }
+    Pick(app_.frmMain.ComboALM[0], 0);
+  }
+
+  void SetTitleAndDemo() {
+    SetText(app_.frmMain.cmdTitle, "CORNER SHOP");
+    const auto& form = app_.frmMain;
+    if (form.FrameDemo.visible && !form.DemoMode.checked) program_.Act(ClickEvent{&app_.frmMain.DemoMode});
+  }
+
+ private:
+  void Pick(List& list, int position) { program_.Act(PickEvent{&list, position}); }
+
+  void SetText(Button& button, const char* text) {
+    if (program_.Act(ClickEvent{&button}) != Outcome::kDone) return;
+    program_.Act(TypeEvent{&app_.frmSetEXCPSTR.Text1, text});
+    program_.Act(ClickEvent{&app_.frmSetEXCPSTR.cmdSET});
+  }
+
+  void SetRange(const SampleException& sample) {
+    auto& dialog = app_.frmSetRange;
+    program_.Act(ClickEvent{&app_.frmMain.cmdSetRange});
+    program_.Act(TypeEvent{&dialog.Range_Hi, sample.first});
+    program_.Act(TypeEvent{&dialog.SubRange_Hi, "00"});
+    program_.Act(TypeEvent{&dialog.Range_Low, sample.second});
+    program_.Act(TypeEvent{&dialog.SubRange_Low, "00"});
+    program_.Act(ClickEvent{&dialog.cmdSetRange});
+  }
+
+  Program& program_;
+  Application& app_;
+};
+
+}  // namespace
+
+void MakeSampleSettings(Program& program) {
+  Installer installer(program);
+  installer.SetExceptions();
+  installer.SetAlarms();
+  installer.SetTitleAndDemo();
+}
+
+void ShowSampleHistory(Program& program) {
+  const QTemporaryDir folder;
+  const auto path = folder.filePath(QStringLiteral("History.txt"));
+  std::string text = "OVLH\r\n";
+  for (int hour = 9; hour < 21; ++hour) {
+    auto time = std::to_string(hour);
+    if (time.size() < 2) time.insert(time.begin(), '0');
+    text += "11/24/26 " + time + ":04:17  NO SALE\r\n";
+    text += "11/24/26 " + time + ":31:50  REFUND                 12.40\r\n";
+  }
+  WriteWhole(QFile::encodeName(path).toStdString(), text);
+  auto& ask = program.Model().platform.ask_file;
+  const auto usual = ask;
+  ask = [&](const FileDialog&) { return FileAnswer{QFile::encodeName(path).toStdString()}; };
+  program.Act(ClickEvent{&program.Model().frmMain.OpenHistory_menu});
+  program.Model().platform.ask_file = usual;
+  // A path that is the same in every run.
+  program.Model().frmView.form.caption = "History.txt";
+}
+
+}  // namespace ovl
