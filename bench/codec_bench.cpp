@@ -22,9 +22,9 @@ double MicrosecondsEach(const Work& work) {
 }  // namespace
 
 void MeasureCodecs() {
-  Application app;
+  core::Application app;
   app.firmware = {"V1400", "R12"};
-  app.image = FactoryImage(app.firmware);
+  app.image = images::FactoryImage(app.firmware);
   auto stream = SectionsToStream(app);
   std::erase_if(stream, [](char character) { return character == '\r' || character == '\n'; });
   std::size_t length = 0;

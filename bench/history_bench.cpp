@@ -10,18 +10,18 @@ namespace ovl::bench {
 namespace {
 
 // A history of so many characters, collected one by one and saved.
-double MicrosecondsForEach(Application& app, char& received, std::size_t characters) {
+double MicrosecondsForEach(core::Application& app, char& received, std::size_t characters) {
   constexpr std::string_view kLine = "0123456789 TOTAL\r\n";
   const auto receive = [&](char character) {
     received = character;
-    Dispatch(app, ReceivedEvent{});
+    Dispatch(app, core::ReceivedEvent{});
   };
   Click(app, "CmdUpDow(4)");
-  receive(*kAck);
+  receive(*link::kAck);
   Click(app, "CmdUpDow(3)");
   const auto start = std::chrono::steady_clock::now();
   for (std::size_t at = 0; at < characters; ++at) receive(kLine[at % kLine.size()]);
-  receive(*kAck);
+  receive(*link::kAck);
   const std::chrono::duration<double, std::micro> taken = std::chrono::steady_clock::now() - start;
   return taken.count() / static_cast<double>(characters);
 }
@@ -29,7 +29,7 @@ double MicrosecondsForEach(Application& app, char& received, std::size_t charact
 }  // namespace
 
 void MeasureHistory(Site& site) {
-  Application app;
+  core::Application app;
   char received = '\0';
   StartModel(app, site, received);
   Click(app, "cmdConnect");

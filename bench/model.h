@@ -9,8 +9,8 @@ class Site;
 
 // Fills the platform record and starts the program in the site's folder. What a received event reads is
 // `received`, which must outlive the model.
-void StartModel(Application& app, const Site& site, const char& received);
+void StartModel(core::Application& app, const Site& site, const char& received);
 
-void Click(Application& app, const char* name);
+void Click(core::Application& app, const char* name);
 
 }  // namespace ovl::bench

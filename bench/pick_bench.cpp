@@ -9,14 +9,14 @@
 namespace ovl::bench {
 
 void MeasureRegisterPick(Site& site) {
-  Application app;
+  core::Application app;
   const char received = '\0';
   StartModel(app, site, received);
   std::vector<double> taken;
   const int names = static_cast<int>(app.frmMain.ComboReg.items.size());
   for (int position = 0; position < names; ++position) {
     const auto start = std::chrono::steady_clock::now();
-    Dispatch(app, PickEvent{&app.frmMain.ComboReg, position});
+    Dispatch(app, core::PickEvent{&app.frmMain.ComboReg, position});
     const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - start;
     taken.push_back(time.count());
   }

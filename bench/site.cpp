@@ -9,7 +9,7 @@
 namespace ovl::bench {
 
 Site::Site() {
-  WriteDefaultImages(folder_.path().toStdString(), {kVersion, kRelease});
+  images::WriteDefaultImages(folder_.path().toStdString(), {kVersion, kRelease});
   QDir(folder_.path()).mkpath(QStringLiteral("store/ORB"));
   QFile settings(folder_.filePath(QStringLiteral("store/ORB/OVL Software.conf")));
   if (settings.open(QIODevice::WriteOnly)) {

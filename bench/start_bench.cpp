@@ -49,9 +49,9 @@ struct Starts {
 
 int PaintOnce(int argc, char** argv) {
   QApplication application(argc, argv);
-  ApplyTheme(Theme::kDesktop);
-  Program program(QString::fromLocal8Bit(argv[2]), QString::fromLocal8Bit(argv[3]));
-  if (program.Start() != Outcome::kDone) return EXIT_FAILURE;
+  ui::ApplyTheme(ui::Theme::kDesktop);
+  ui::Program program(QString::fromLocal8Bit(argv[2]), QString::fromLocal8Bit(argv[3]));
+  if (program.Start() != core::Outcome::kDone) return EXIT_FAILURE;
   program.GuardUnsaved();
   PaintWatch watch;
   for (auto* window : QApplication::topLevelWidgets()) window->installEventFilter(&watch);

@@ -31,13 +31,13 @@ double ProcessorSeconds() {
 }
 
 struct Bench {
-  Program& program;
+  ui::Program& program;
   EventLoop& loop;
   int speed;
 
-  Application& Model() const { return program.Model(); }
+  core::Application& Model() const { return program.Model(); }
 
-  void Click(const char* name) const { program.Act(ClickEvent{Model().registry.Find(name)->control}); }
+  void Click(const char* name) const { program.Act(core::ClickEvent{Model().registry.Find(name)->control}); }
 
   bool Hold() const {
     Click("CmdUpDow(4)");
@@ -59,7 +59,7 @@ struct Bench {
     }
     const double taken = Seconds(Clock::now() - start);
     const double busy = ProcessorSeconds() - processor;
-    const auto characters = static_cast<double>(SectionsToStream(Model()).size() + 4);
+    const auto characters = static_cast<double>(core::SectionsToStream(Model()).size() + 4);
     const double rate = characters / taken;
     std::printf(
         "%-8s at %6d   %8.1f characters/s, %.3f of the line (aim %.2f); processor %.3f of the time, "
@@ -75,8 +75,8 @@ void MeasureTransfers(Site& site) {
   constexpr int kBaud9600 = 3;
   constexpr int kBaud115200 = 9;
   for (const int element : {kBaud9600, kBaud115200}) {
-    Program program(site.Folder(), site.Store());
-    if (program.Start() != Outcome::kDone) return;
+    ui::Program program(site.Folder(), site.Store());
+    if (program.Start() != core::Outcome::kDone) return;
     auto& app = program.Model();
     const int speed = std::stoi(app.frmSettSR.OpBaud.elements[static_cast<std::size_t>(element)].caption);
     if (!site.StartUnit(speed)) {
@@ -86,7 +86,7 @@ void MeasureTransfers(Site& site) {
     EventLoop loop;
     const Bench bench{program, loop, speed};
     bench.Click("cmdConnect");
-    program.Act(PickEvent{&app.frmSettSR.OpBaud, element});
+    program.Act(core::PickEvent{&app.frmSettSR.OpBaud, element});
     bench.Click("cmdSET");
     bench.Measure("upload", "CmdUpDow(0)", 0.98);
     bench.Measure("download", "CmdUpDow(1)", element == kBaud9600 ? 0.99 : 0.95);

@@ -6,13 +6,14 @@
 
 #include "core/gate.h"
 
-namespace ovl {
+namespace ovl::changes {
 
 // Whether the event is a person's act on a control. Others leave standing what was told last.
-bool IsAct(const Event& event);
+bool IsAct(const core::Event& event);
 
 // One line of the model's own captions and entries, such as "Also stored: RX BAUDRATE AUTO, TX BAUDRATE
 // 9600."; empty if the act stored nothing beyond itself. What brings in a whole image tells nothing.
-std::string AlsoStored(const Application& app, const Event& event, const ConfigImage& before);
+std::string AlsoStored(const core::Application& app, const core::Event& event,
+                       const image::ConfigImage& before);
 
-}  // namespace ovl
+}  // namespace ovl::changes

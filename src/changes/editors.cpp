@@ -6,11 +6,11 @@
 
 #include "codecs/codecs.h"
 
-namespace ovl {
+namespace ovl::changes {
 namespace {
 
-using enum FieldId;
-using enum Tells;
+using enum image::FieldId;
+using enum ValueDisplay;
 using At = Place;
 
 constexpr std::array kEditors = {
@@ -119,22 +119,22 @@ std::string Trimmed(const std::string& text) {
                                     : text.substr(begin, text.find_last_not_of(' ') + 1 - begin);
 }
 
-std::string PlaceOf(const Application& app, Place place) {
+std::string PlaceOf(const core::Application& app, Place place) {
   const auto at = static_cast<std::size_t>(place);
   if (at >= kTabs) return place == Place::kRange ? "range window" : app.frmMicros.form.caption;
   return Trimmed(app.frmMain.SSTab1.captions.at(at));
 }
 
-std::string CaptionOf(const Application& app, std::string_view name) {
+std::string CaptionOf(const core::Application& app, std::string_view name) {
   const auto* control = app.registry.Find(name);
   if (control == nullptr) throw std::logic_error("there is no control " + std::string(name));
-  auto caption = Trimmed(FaceOf(control->control).caption);
+  auto caption = Trimmed(controls::StateOf(control->control).caption);
   if (caption.empty()) throw std::logic_error(control->name + " has no caption");
   if (caption.back() == ':') caption.pop_back();
   return caption;
 }
 
-std::string Captions(const Application& app, std::string_view controls, std::string_view options,
+std::string Captions(const core::Application& app, std::string_view controls, std::string_view options,
                      bool hidden_too) {
   if (controls.empty()) return std::string(options);
   std::string words;
@@ -142,7 +142,7 @@ std::string Captions(const Application& app, std::string_view controls, std::str
     const auto name = controls.substr(0, controls.find(' '));
     controls.remove_prefix(std::min(controls.size(), name.size() + 1));
     const auto caption = CaptionOf(app, name);
-    if (hidden_too || FaceOf(app.registry.Find(name)->control).visible)
+    if (hidden_too || controls::StateOf(app.registry.Find(name)->control).visible)
       words += (words.empty() ? "" : ", ") + caption;
   }
   return words;
@@ -150,7 +150,7 @@ std::string Captions(const Application& app, std::string_view controls, std::str
 
 // A text is the last of its record: its length, then the characters. What stands between it and the first
 // byte of an exception is its range, as wide as the firmware has it.
-std::string_view Cut(Part part, FieldId field, std::string_view record) {
+std::string_view Cut(Part part, image::FieldId field, std::string_view record) {
   constexpr std::size_t kByte = 2, kCommon = 6, kExceptionText = kByte + 2 * 40;
   const auto rest = record.substr(std::min(kByte, record.size()));
   const auto range = rest.substr(0, std::max(rest.size(), kExceptionText) - kExceptionText);
@@ -174,11 +174,12 @@ std::string_view Cut(Part part, FieldId field, std::string_view record) {
 bool Stores(const Editor& editor, std::string_view before, std::string_view after) {
   const auto was = Cut(editor.part, editor.field, before), is = Cut(editor.part, editor.field, after);
   if (was.size() != 2 || is.size() != 2) return was != is;
-  return ((HexToInt(was) ^ HexToInt(is)) & editor.bits) != 0;
+  return ((codecs::HexToInt(was) ^ codecs::HexToInt(is)) & editor.bits) != 0;
 }
 
 template <class Wanted>
-std::string Words(const Application& app, std::string_view options, bool hidden_too, const Wanted& wanted) {
+std::string Words(const core::Application& app, std::string_view options, bool hidden_too,
+                  const Wanted& wanted) {
   std::string words;
   const Editor* last = nullptr;
   for (const auto& editor : kEditors) {
@@ -199,12 +200,12 @@ std::span<const Editor> Editors() {
   return kEditors;
 }
 
-std::string EditedBy(const Application& app, FieldId field, std::string_view options) {
+std::string EditedBy(const core::Application& app, image::FieldId field, std::string_view options) {
   return Words(app, options, true, [&](const Editor& editor) { return editor.field == field; });
 }
 
-std::string EditedBy(const Application& app, FieldId field, std::string_view options, std::string_view before,
-                     std::string_view after) {
+std::string EditedBy(const core::Application& app, image::FieldId field, std::string_view options,
+                     std::string_view before, std::string_view after) {
   const auto stores = [&](const Editor& editor) {
     return editor.field == field && Stores(editor, before, after);
   };
@@ -213,8 +214,8 @@ std::string EditedBy(const Application& app, FieldId field, std::string_view opt
   return words.empty() ? EditedBy(app, field, options) : words;
 }
 
-std::span<const FieldId> CarriedThrough() {
+std::span<const image::FieldId> CarriedThrough() {
   return kCarried;
 }
 
-}  // namespace ovl
+}  // namespace ovl::changes

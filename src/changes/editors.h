@@ -7,7 +7,7 @@
 
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::changes {
 
 // In the order of the form's tabs; the windows of a register stand with their register.
 enum class Place {
@@ -26,7 +26,7 @@ enum class Place {
 enum class Part { kAll, kFirstByte, kDuration, kVideoLoss, kRange, kText };
 
 // How a list tells what a value means, once it is stored.
-enum class Tells {
+enum class ValueDisplay {
   kNothing,
   kPicked,    // the entry that is picked
   kSetIsOn,   // the second entry stands for a set bit
@@ -37,11 +37,11 @@ enum class Tells {
 inline constexpr int kWholeByte = 0xFF;
 
 struct Editor {
-  FieldId field;
+  image::FieldId field;
   Place place;
   std::string_view controls;  // names of controls, blanks between them; none: an option of the register
   int bits = kWholeByte;      // of the (first) byte, those that the controls store
-  Tells tells = Tells::kNothing;
+  ValueDisplay tells = ValueDisplay::kNothing;
   Part part = Part::kAll;
 };
 
@@ -51,11 +51,11 @@ std::span<const Editor> Editors();
 // The captions under which a person finds the field, such as "COMMUNICATION: PARITY, DATA BITS"; with two
 // contents only those on the form that store what differs. Empty if no control edits it. `options` stands for
 // the options of a register. A control that is not there or has no caption is a `std::logic_error`.
-std::string EditedBy(const Application& app, FieldId field, std::string_view options);
-std::string EditedBy(const Application& app, FieldId field, std::string_view options, std::string_view before,
-                     std::string_view after);
+std::string EditedBy(const core::Application& app, image::FieldId field, std::string_view options);
+std::string EditedBy(const core::Application& app, image::FieldId field, std::string_view options,
+                     std::string_view before, std::string_view after);
 
 // Fields that no control edits: read, kept and written back.
-std::span<const FieldId> CarriedThrough();
+std::span<const image::FieldId> CarriedThrough();
 
-}  // namespace ovl
+}  // namespace ovl::changes

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace ovl {
+namespace ovl::codecs {
 namespace {
 
 constexpr std::string_view kDigits = "0123456789ABCDEF";
@@ -78,4 +78,4 @@ int LeadingNumber(std::string_view text) {
   return number;
 }
 
-}  // namespace ovl
+}  // namespace ovl::codecs

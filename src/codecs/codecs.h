@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace ovl {
+namespace ovl::codecs {
 
 // 0 to 255 from the first two characters; whatever is no upper-case digit, or is missing, counts 0.
 int HexToInt(std::string_view hex);
@@ -34,4 +34,4 @@ std::string PeelChars(std::string_view& section, std::int16_t count);
 // The number that the leading decimal digits of a text form; 0 without any. Saturates at 999,999,999.
 int LeadingNumber(std::string_view text);
 
-}  // namespace ovl
+}  // namespace ovl::codecs

@@ -5,16 +5,18 @@
 #include <string>
 #include <vector>
 
-namespace ovl {
-
+namespace ovl::core {
 struct Application;
+}
+
+namespace ovl::controls {
 
 // What a control sets off. The index is the control's place in its control array, for an option array
 // the element that was chosen.
-using Handler = void (*)(Application&, int index);
+using Handler = void (*)(core::Application&, int index);
 
 // What every control has. The structs below add to it; there are no virtual functions.
-struct Face {
+struct ControlState {
   std::string caption;
   bool visible = true;
   bool enabled = true;
@@ -24,17 +26,17 @@ struct Face {
   Handler leave = nullptr;    // the control loses the focus
 };
 
-struct Label : Face {};
-struct Picture : Face {};
-struct Frame : Face {};
-struct Button : Face {};
+struct Label : ControlState {};
+struct Picture : ControlState {};
+struct Frame : ControlState {};
+struct Button : ControlState {};
 
-struct CheckBox : Face {
+struct CheckBox : ControlState {
   bool checked = false;
 };
 
 // A pick-only list. The position is -1 until something was picked or assigned.
-struct List : Face {
+struct List : ControlState {
   std::vector<std::string> items;
   int position = -1;
 
@@ -45,14 +47,14 @@ struct List : Face {
 
 // A group of option buttons of which at most one is chosen; -1 is none. Arrays in `excludes` stand in the
 // same frame: choosing here clears them without an event.
-struct OptionArray : Face {
-  std::vector<Face> elements;
+struct OptionArray : ControlState {
+  std::vector<ControlState> elements;
   int chosen = -1;
   std::vector<OptionArray*> excludes;
 };
 
 // Text is bytes of Windows-1252. A max_length of 0 is no limit.
-struct TextBox : Face {
+struct TextBox : ControlState {
   std::string text;
   std::size_t max_length = 0;
   bool read_only = false;
@@ -60,7 +62,7 @@ struct TextBox : Face {
 };
 
 // A value from 0 to maximum; the text stands in the bar.
-struct ProgressBar : Face {
+struct ProgressBar : ControlState {
   int value = 0;
   int maximum = 100;
   std::string text;
@@ -68,18 +70,18 @@ struct ProgressBar : Face {
 
 // A timer of the given interval in milliseconds. `starts` counts its changes from stopped to running, so
 // that whoever keeps the time can tell a restart from a timer that went on.
-struct Timer : Face {
+struct Timer : ControlState {
   int interval = 0;
   unsigned starts = 0;
 
   Timer() { enabled = false; }
 };
 
-struct MenuItem : Face {
+struct MenuItem : ControlState {
   bool checked = false;
 };
 
-struct Tabs : Face {
+struct Tabs : ControlState {
   std::vector<std::string> captions;
   int current = 0;
 };
@@ -87,7 +89,7 @@ struct Tabs : Face {
 // A window. `visible` tells whether it is on the screen; a loaded form can be hidden. Unloading it runs
 // `unload`. `window_close` is the window's own close button (without one: unload); `enter` and `escape` are
 // keys pressed anywhere in the form.
-struct Form : Face {
+struct Form : ControlState {
   std::string name;
   bool loaded = false;
   bool top_most = false;
@@ -97,8 +99,8 @@ struct Form : Face {
   Handler window_close = nullptr;
   Handler enter = nullptr;
   Handler escape = nullptr;
-  Face* focus = nullptr;        // the control that was last given the focus
-  unsigned focus_requests = 0;  // counts, so that a presentation follows each one
+  ControlState* focus = nullptr;  // the control that was last given the focus
+  unsigned focus_requests = 0;    // counts, so that a presentation follows each one
 
   Form() { visible = false; }
 };
@@ -116,4 +118,4 @@ struct SerialControl {
   Handler handler = nullptr;
 };
 
-}  // namespace ovl
+}  // namespace ovl::controls

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace ovl {
+namespace ovl::controls {
 
 std::vector<std::string> Numbers(int first, int last, int width) {
   std::vector<std::string> texts;
@@ -23,10 +23,10 @@ std::vector<std::string> HeadAndNumbers(const std::string& head, int first, int 
 void SetElements(OptionArray& array, std::initializer_list<const char*> captions) {
   array.elements.clear();
   for (const char* caption : captions) {
-    Face element;
+    ControlState element;
     element.caption = caption;
     array.elements.push_back(std::move(element));
   }
 }
 
-}  // namespace ovl
+}  // namespace ovl::controls

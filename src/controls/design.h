@@ -7,7 +7,7 @@
 
 #include "controls/controls.h"
 
-namespace ovl {
+namespace ovl::controls {
 
 // The numbers from first to last as texts, with leading zeros up to the width.
 std::vector<std::string> Numbers(int first, int last, int width = 1);
@@ -26,4 +26,4 @@ void SetCaptions(Array& controls, std::initializer_list<const char*> captions) {
   }
 }
 
-}  // namespace ovl
+}  // namespace ovl::controls

@@ -2,22 +2,22 @@
 
 #include <algorithm>
 
-namespace ovl {
+namespace ovl::controls {
 namespace {
 
 template <class Control>
-Face& FaceIn(Control* control) {
+ControlState& FaceIn(Control* control) {
   return *control;
 }
 
-Face& FaceIn(const OptionElement& element) {
+ControlState& FaceIn(const OptionElement& element) {
   return element.Of();
 }
 
 }  // namespace
 
-Face& FaceOf(const ControlRef& control) {
-  return std::visit([](const auto& held) -> Face& { return FaceIn(held); }, control);
+ControlState& StateOf(const ControlRef& control) {
+  return std::visit([](const auto& held) -> ControlState& { return FaceIn(held); }, control);
 }
 
 void Registry::Add(Form& form, std::string name, ControlRef control) {
@@ -78,4 +78,4 @@ Form* Registry::FormOf(const ControlRef& control) const {
   return known == nullptr ? nullptr : known->form;
 }
 
-}  // namespace ovl
+}  // namespace ovl::controls

@@ -10,13 +10,13 @@
 
 #include "controls/controls.h"
 
-namespace ovl {
+namespace ovl::controls {
 
 struct OptionElement {
   OptionArray* array = nullptr;
   int element = 0;
 
-  Face& Of() const { return array->elements.at(static_cast<std::size_t>(element)); }
+  ControlState& Of() const { return array->elements.at(static_cast<std::size_t>(element)); }
   bool operator==(const OptionElement&) const = default;
 };
 
@@ -24,7 +24,7 @@ using ControlRef = std::variant<List*, OptionArray*, OptionElement, TextBox*, La
                                 Frame*, Picture*, ProgressBar*, Timer*, MenuItem*, Tabs*, Form*>;
 
 // Caption and state of whatever the reference names.
-Face& FaceOf(const ControlRef& control);
+ControlState& StateOf(const ControlRef& control);
 
 struct NamedControl {
   std::string name;  // without the form
@@ -76,4 +76,4 @@ class Registry {
   std::multimap<std::string, std::size_t, std::less<>> by_name_;
 };
 
-}  // namespace ovl
+}  // namespace ovl::controls

@@ -2,10 +2,10 @@
 
 #include "core/failure.h"
 
-namespace ovl {
+namespace ovl::core {
 namespace {
 
-void Run(Application& app, Handler handler, int index) {
+void Run(Application& app, controls::Handler handler, int index) {
   if (handler != nullptr) handler(app, index);
 }
 
@@ -15,7 +15,7 @@ std::string PortName(const Application& app) {
 
 }  // namespace
 
-bool AssignPosition(Application& app, List& list, int position, Raise raise) {
+bool AssignPosition(Application& app, controls::List& list, int position, Raise raise) {
   if (position < 0 || position >= static_cast<int>(list.items.size())) return false;
   const bool changed = list.position != position;
   list.position = position;
@@ -23,7 +23,7 @@ bool AssignPosition(Application& app, List& list, int position, Raise raise) {
   return true;
 }
 
-bool ChooseElement(Application& app, OptionArray& array, int element, Raise raise) {
+bool ChooseElement(Application& app, controls::OptionArray& array, int element, Raise raise) {
   if (element < 0 || element >= static_cast<int>(array.elements.size())) return false;
   const bool changed = array.chosen != element;
   array.chosen = element;
@@ -32,34 +32,34 @@ bool ChooseElement(Application& app, OptionArray& array, int element, Raise rais
   return true;
 }
 
-void AssignText(Application& app, TextBox& box, std::string text, Raise raise) {
+void AssignText(Application& app, controls::TextBox& box, std::string text, Raise raise) {
   const bool changed = box.text != text;
   box.text = std::move(text);
   if (changed || raise == Raise::kAlways) Run(app, box.handler, box.index);
 }
 
-void EnableTimer(Timer& timer, bool enabled) {
+void EnableTimer(controls::Timer& timer, bool enabled) {
   if (enabled && !timer.enabled) ++timer.starts;
   timer.enabled = enabled;
 }
 
-void LoadForm(Application& app, Form& form) {
+void LoadForm(Application& app, controls::Form& form) {
   if (form.loaded) return;
   form.loaded = true;
   Run(app, form.load, 0);
 }
 
-void ShowForm(Application& app, Form& form) {
+void ShowForm(Application& app, controls::Form& form) {
   LoadForm(app, form);
   form.visible = true;
   Run(app, form.shown, 0);
 }
 
-void HideForm(Form& form) {
+void HideForm(controls::Form& form) {
   form.visible = false;
 }
 
-void UnloadForm(Application& app, Form& form) {
+void UnloadForm(Application& app, controls::Form& form) {
   if (!form.loaded) return;
   form.loaded = false;
   form.visible = false;
@@ -71,7 +71,7 @@ void ReleaseMain(Application& app) {
                              !app.frmSetRange.form.loaded && !app.frmOK_buttom.form.loaded;
 }
 
-void SetFocus(Form& form, Face& control) {
+void SetFocus(controls::Form& form, controls::ControlState& control) {
   form.focus = &control;
   ++form.focus_requests;
 }
@@ -121,4 +121,4 @@ void OutputOrSkip(Application& app, std::string_view text) {
   }
 }
 
-}  // namespace ovl
+}  // namespace ovl::core

@@ -7,31 +7,33 @@
 #include "core/application.h"
 #include "core/messages.h"
 
-namespace ovl {
+namespace ovl::core {
 
 // Whether an assignment by code runs the control's handler when nothing changes.
 enum class Raise { kWhenChanged, kAlways };
 
 // Selects an entry. A position that the list lacks, -1 included, is refused without an event: false.
-bool AssignPosition(Application& app, List& list, int position, Raise raise = Raise::kWhenChanged);
+bool AssignPosition(Application& app, controls::List& list, int position, Raise raise = Raise::kWhenChanged);
 
 // Chooses an element, hidden ones included, and clears the arrays that share its frame. Refuses as above.
-bool ChooseElement(Application& app, OptionArray& array, int element, Raise raise = Raise::kWhenChanged);
+bool ChooseElement(Application& app, controls::OptionArray& array, int element,
+                   Raise raise = Raise::kWhenChanged);
 
-void AssignText(Application& app, TextBox& box, std::string text, Raise raise = Raise::kWhenChanged);
+void AssignText(Application& app, controls::TextBox& box, std::string text,
+                Raise raise = Raise::kWhenChanged);
 
 // A disabled timer that is enabled starts afresh; one that runs goes on.
-void EnableTimer(Timer& timer, bool enabled);
+void EnableTimer(controls::Timer& timer, bool enabled);
 
 // Loads the form if need be and brings it on the screen.
-void LoadForm(Application& app, Form& form);
-void ShowForm(Application& app, Form& form);
-void HideForm(Form& form);
-void UnloadForm(Application& app, Form& form);
+void LoadForm(Application& app, controls::Form& form);
+void ShowForm(Application& app, controls::Form& form);
+void HideForm(controls::Form& form);
+void UnloadForm(Application& app, controls::Form& form);
 // The main form can be used again, unless another of the windows that hold it back is still there.
 void ReleaseMain(Application& app);
 
-void SetFocus(Form& form, Face& control);
+void SetFocus(controls::Form& form, controls::ControlState& control);
 
 // Shows a box and returns when it is closed. The detail stands where its words leave room for one.
 void MsgBox(Application& app, Box box, std::string_view detail = {});
@@ -48,4 +50,4 @@ void ClearCommBuffers(Application& app);
 // Writes where a lost device must not keep the rest from being done: a failure is noted and skipped.
 void OutputOrSkip(Application& app, std::string_view text);
 
-}  // namespace ovl
+}  // namespace ovl::core

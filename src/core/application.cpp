@@ -1,6 +1,6 @@
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::core {
 
 Application::Application() {
   frmMain.Register(registry);
@@ -15,4 +15,4 @@ Application::Application() {
   frmAbout.Register(registry);
 }
 
-}  // namespace ovl
+}  // namespace ovl::core

@@ -18,7 +18,7 @@
 #include "firmware/firmware_id.h"
 #include "image/config_image.h"
 
-namespace ovl {
+namespace ovl::core {
 
 // What the link is doing. The value is a plain number because the program leaves it standing in places.
 inline constexpr std::int16_t kLinkRemote = 0;  // remote mode asked for or held
@@ -38,30 +38,31 @@ struct Application {
   Application& operator=(const Application&) = delete;
 
   Platform platform;
-  Registry registry;
+  controls::Registry registry;
 
-  MainForm frmMain;
-  PortSettingsForm frmSettSR;
-  ScanProgressForm frmScanBProgress;
-  TransferEndForm frmOK_buttom;
-  MicrosForm frmMicros;
-  SubMenuForm FrmSubMenu;
-  ViewerForm frmView;
-  TextEntryForm frmSetEXCPSTR;
-  RangeForm frmSetRange;
-  AboutForm frmAbout;
+  controls::MainForm frmMain;
+  controls::PortSettingsForm frmSettSR;
+  controls::ScanProgressForm frmScanBProgress;
+  controls::TransferEndForm frmOK_buttom;
+  controls::MicrosForm frmMicros;
+  controls::SubMenuForm FrmSubMenu;
+  controls::ViewerForm frmView;
+  controls::TextEntryForm frmSetEXCPSTR;
+  controls::RangeForm frmSetRange;
+  controls::AboutForm frmAbout;
 
   // Firmware, read once at start
-  FirmwareId firmware;
-  Capabilities capabilities;
+  firmware::FirmwareId firmware;
+  firmware::Capabilities capabilities;
   std::map<std::string, bool, std::less<>> FirmwareMark;           // by the joined firmware text
   std::map<std::string, std::int16_t, std::less<>> RegisterIndex;  // by register key; -1: not in this list
 
   // The configuration, and the three sections that streams are made of
-  ConfigImage image;
+  image::ConfigImage image;
   std::string SYSCFG, SYSFIXED, SYSSTR;
-  ConfigImage known_image;  // what the start, a file or the unit gave, or a download left in the unit, last
-  ConfigImage sent_image;   // of the download under way
+  image::ConfigImage
+      known_image;  // what the start, a file or the unit gave, or a download left in the unit, last
+  image::ConfigImage sent_image;           // of the download under way
   std::vector<ApplyRoutine> Setting_Code;  // in the order in which panels are refreshed
 
   // Link and transfers
@@ -116,4 +117,4 @@ struct Application {
       StatusNote;  // what last went wrong, naming file or port and the system's reason; presentation only
 };
 
-}  // namespace ovl
+}  // namespace ovl::core

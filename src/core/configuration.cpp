@@ -7,50 +7,53 @@
 #include "image/field_map.h"
 #include "image/record_stream.h"
 
-namespace ovl {
+namespace ovl::core {
 
 void PrepareCapabilities(Application& app) {
-  app.capabilities = CapabilitiesOf(app.firmware);
+  app.capabilities = image::CapabilitiesOf(app.firmware);
 }
 
 bool LoadStream(Application& app, std::string_view stream) {
   std::string digits;
-  switch (ParseRecords(stream, ReadRegion(app.firmware), digits)) {
-    case ParseResult::kOtherFirmware:
+  switch (image::ParseRecords(stream, image::ReadRegion(app.firmware), digits)) {
+    case image::ParseResult::kOtherFirmware:
       EnableTimer(app.frmMain.Timer_Operating, false);
       app.OperatingCount = 0;
       MsgBox(app, Box::kOtherFirmware);
       return false;
-    case ParseResult::kBroken:
+    case image::ParseResult::kBroken:
       MsgBox(app, Box::kSystemFile);
       EndProgram(app);
-    case ParseResult::kOk:
+    case image::ParseResult::kOk:
       break;
   }
-  const auto scope = app.PanelsReady ? Scope::kRegisterDefault : Scope::kWhole;
-  const auto sections = CutSections(digits, app.firmware);
+  const auto scope = app.PanelsReady ? image::Scope::kRegisterDefault : image::Scope::kWhole;
+  const auto sections = image::CutSections(digits, app.firmware);
   auto image = app.image;
-  ReadSections(sections, app.firmware, app.capabilities, scope, image);
+  image::ReadSections(sections, app.firmware, app.capabilities, scope, image);
   app.image = std::move(image);
-  if (scope == Scope::kWhole) app.known_image = app.image;
-  if (scope == Scope::kWhole && LayoutOf(app.firmware) != Layout::kLateV1400) app.DiagnosticText.clear();
+  if (scope == image::Scope::kWhole) app.known_image = app.image;
+  if (scope == image::Scope::kWhole && image::LayoutOf(app.firmware) != firmware::Layout::kLateV1400)
+    app.DiagnosticText.clear();
   return true;
 }
 
 std::string SectionsToStream(Application& app) {
   PrepareCapabilities(app);
-  auto sections = WriteSections(app.image, LayoutOf(app.firmware), app.firmware, app.capabilities);
+  auto sections =
+      image::WriteSections(app.image, image::LayoutOf(app.firmware), app.firmware, app.capabilities);
   app.SYSCFG = std::move(sections.SYSCFG);
   app.SYSFIXED = std::move(sections.SYSFIXED);
   app.SYSSTR = std::move(sections.SYSSTR);
-  return BlockRecords(app.SYSCFG + app.SYSFIXED + app.SYSSTR, WriteRegion(app.firmware));
+  return image::BlockRecords(app.SYSCFG + app.SYSFIXED + app.SYSSTR, image::WriteRegion(app.firmware));
 }
 
 std::string ReopenableStream(const Application& app) {
   auto image = app.image;
-  const auto sections =
-      WriteSections(image, LayoutOf(app.firmware), app.firmware, CapabilitiesOf(app.firmware));
-  return BlockRecords(sections.SYSCFG + sections.SYSFIXED + sections.SYSSTR, ReadRegion(app.firmware));
+  const auto sections = image::WriteSections(image, image::LayoutOf(app.firmware), app.firmware,
+                                             image::CapabilitiesOf(app.firmware));
+  return image::BlockRecords(sections.SYSCFG + sections.SYSFIXED + sections.SYSSTR,
+                             image::ReadRegion(app.firmware));
 }
 
-}  // namespace ovl
+}  // namespace ovl::core

@@ -6,7 +6,7 @@
 
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::core {
 
 // Sets the capability flags of the firmware. Every load and save calls it first.
 void PrepareCapabilities(Application& app);
@@ -22,4 +22,4 @@ std::string SectionsToStream(Application& app);
 // The image as a stream that opens again under the same firmware.
 std::string ReopenableStream(const Application& app);
 
-}  // namespace ovl
+}  // namespace ovl::core

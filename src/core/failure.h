@@ -4,7 +4,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace ovl {
+namespace ovl::core {
 
 // A step that failed at run time. what() is the system's own description of the error; the subject names the
 // file or port concerned.
@@ -22,4 +22,4 @@ class Failure : public std::runtime_error {
 // skips a failed step can swallow it.
 struct ProgramEnd {};
 
-}  // namespace ovl
+}  // namespace ovl::core

@@ -3,21 +3,21 @@
 #include "core/actions.h"
 #include "core/failure.h"
 
-namespace ovl {
+namespace ovl::core {
 namespace {
 
 constexpr int kCommSend = 1;
 constexpr int kCommReceive = 2;
 
 // A window that a person can reach: on the screen and not held back by another one.
-bool Reachable(const Form* form) {
+bool Reachable(const controls::Form* form) {
   return form != nullptr && form->loaded && form->visible && form->enabled;
 }
 
-bool CanAct(const Application& app, const ControlRef& control) {
-  const auto& face = FaceOf(control);
+bool CanAct(const Application& app, const controls::ControlRef& control) {
+  const auto& face = controls::StateOf(control);
   if (!face.visible || !face.enabled) return false;
-  if (const auto* element = std::get_if<OptionElement>(&control);
+  if (const auto* element = std::get_if<controls::OptionElement>(&control);
       element != nullptr && !element->array->enabled) {
     return false;
   }
@@ -29,24 +29,25 @@ struct Admission {
   Application& app;
 
   bool operator()(const PickEvent& event) const {
-    if (const auto* list = std::get_if<List*>(&event.control)) {
+    if (const auto* list = std::get_if<controls::List*>(&event.control)) {
       return CanAct(app, event.control) && AssignPosition(app, **list, event.position, Raise::kAlways);
     }
-    const auto* array = std::get_if<OptionArray*>(&event.control);
+    const auto* array = std::get_if<controls::OptionArray*>(&event.control);
     if (array == nullptr || event.position < 0 ||
         event.position >= static_cast<int>((*array)->elements.size())) {
       return false;
     }
-    return (*this)(ClickEvent{OptionElement{*array, event.position}});
+    return (*this)(ClickEvent{controls::OptionElement{*array, event.position}});
   }
 
   bool operator()(const ClickEvent& event) const {
     if (!CanAct(app, event.control)) return false;
-    if (const auto* element = std::get_if<OptionElement>(&event.control)) {
+    if (const auto* element = std::get_if<controls::OptionElement>(&event.control)) {
       return ChooseElement(app, *element->array, element->element, Raise::kAlways);
     }
-    if (const auto* box = std::get_if<CheckBox*>(&event.control)) (*box)->checked = !(*box)->checked;
-    return Run(FaceOf(event.control).handler, FaceOf(event.control).index);
+    if (const auto* box = std::get_if<controls::CheckBox*>(&event.control))
+      (*box)->checked = !(*box)->checked;
+    return Run(controls::StateOf(event.control).handler, controls::StateOf(event.control).index);
   }
 
   bool operator()(const TypeEvent& event) const {
@@ -59,12 +60,12 @@ struct Admission {
 
   bool operator()(const LeaveEvent& event) const {
     if (!CanAct(app, event.control)) return false;
-    return Run(FaceOf(event.control).leave, FaceOf(event.control).index);
+    return Run(controls::StateOf(event.control).leave, controls::StateOf(event.control).index);
   }
 
   bool operator()(const PointEvent& event) const {
     if (!Reachable(app.registry.FormOf(event.control))) return false;
-    return Run(FaceOf(event.control).point, FaceOf(event.control).index);
+    return Run(controls::StateOf(event.control).point, controls::StateOf(event.control).index);
   }
 
   bool operator()(const KeyEvent& event) const {
@@ -93,7 +94,7 @@ struct Admission {
     return Run(comm.handler, 0);
   }
 
-  bool Run(Handler handler, int index) const {
+  bool Run(controls::Handler handler, int index) const {
     if (handler != nullptr) handler(app, index);
     return true;
   }
@@ -129,4 +130,4 @@ Outcome DispatchStart(Application& app, void (*start)(Application&)) {
   });
 }
 
-}  // namespace ovl
+}  // namespace ovl::core

@@ -7,38 +7,39 @@
 
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::core {
 
 // What a person does.
 struct PickEvent {
-  ControlRef control;  // a list, or an option array
+  controls::ControlRef control;  // a list, or an option array
   int position = 0;
 };
 struct ClickEvent {
-  ControlRef control;  // a button, a menu item, an element of an option array, a check box (turned over)
+  controls::ControlRef
+      control;  // a button, a menu item, an element of an option array, a check box (turned over)
 };
 struct TypeEvent {
-  TextBox* box = nullptr;
+  controls::TextBox* box = nullptr;
   std::string text;  // what the box then holds
 };
 struct LeaveEvent {
-  ControlRef control;
+  controls::ControlRef control;
 };
 struct PointEvent {
-  ControlRef control;
+  controls::ControlRef control;
 };
 enum class Key { kEnter, kEscape };
 struct KeyEvent {
-  Form* form = nullptr;
+  controls::Form* form = nullptr;
   Key key = Key::kEnter;
 };
 struct CloseEvent {
-  Form* form = nullptr;
+  controls::Form* form = nullptr;
 };
 
 // What time and the line do.
 struct TickEvent {
-  Timer* timer = nullptr;
+  controls::Timer* timer = nullptr;
 };
 struct ReceivedEvent {};
 struct DrainedEvent {};
@@ -58,4 +59,4 @@ Outcome Dispatch(Application& app, const Event& event);
 // Runs the start of the program under the same rules.
 Outcome DispatchStart(Application& app, void (*start)(Application&));
 
-}  // namespace ovl
+}  // namespace ovl::core

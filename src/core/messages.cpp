@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace ovl {
+namespace ovl::core {
 namespace {
 
 constexpr auto kInformation = BoxIcon::kInformation;
@@ -65,4 +65,4 @@ MessageBox BoxOf(Box box, std::string_view detail) {
   return shown;
 }
 
-}  // namespace ovl
+}  // namespace ovl::core

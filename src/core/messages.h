@@ -7,7 +7,7 @@
 
 #include "core/platform.h"
 
-namespace ovl {
+namespace ovl::core {
 
 enum class Box {
   kRegistryError,
@@ -50,4 +50,4 @@ std::span<const BoxWords> BoxTable();
 
 MessageBox BoxOf(Box box, std::string_view detail);
 
-}  // namespace ovl
+}  // namespace ovl::core

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <variant>
 
-namespace ovl {
+namespace ovl::core {
 
 enum class BoxIcon { kNone, kInformation };
 
@@ -76,4 +76,4 @@ struct Platform {
   SerialLine serial;
 };
 
-}  // namespace ovl
+}  // namespace ovl::core

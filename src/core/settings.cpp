@@ -1,6 +1,6 @@
 #include "core/settings.h"
 
-namespace ovl {
+namespace ovl::core {
 namespace {
 
 constexpr std::size_t kBufferLength = 255;
@@ -23,4 +23,4 @@ void WriteSetting(Application& app, SettingRoot root, std::string_view key, std:
   app.platform.write_setting(key, value, text.empty() ? " " : text);
 }
 
-}  // namespace ovl
+}  // namespace ovl::core

@@ -6,7 +6,7 @@
 
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::core {
 
 // The predefined hives, of which the program uses one.
 enum class SettingRoot { kNone, kLocalMachine };
@@ -24,4 +24,4 @@ std::string ReadSetting(const Application& app, SettingRoot root, std::string_vi
 void WriteSetting(Application& app, SettingRoot root, std::string_view key, std::string_view value,
                   std::string_view text);
 
-}  // namespace ovl
+}  // namespace ovl::core

@@ -9,47 +9,48 @@
 #include "firmware/firmware_id.h"
 #include "image/record_stream.h"
 
-namespace ovl {
+namespace ovl::files {
 namespace {
 
-constexpr Region kSavedV13Region = {0x7800, 0x7FE0};
+constexpr image::Region kSavedV13Region = {0x7800, 0x7FE0};
 constexpr const char* kTextFiles = "Text Files(*.txt)|*.txt";
 constexpr const char* kBinFiles = "Bin Files(*bin)|*.bin";
 constexpr const char* kAllFiles = "All Files(*.*)|*.*";
 
 // The stream as a saved file holds it. It follows the early layout in V1400 and the lower region in the other
 // families, whatever the release.
-std::string SavedStream(Application& app) {
+std::string SavedStream(core::Application& app) {
   PrepareCapabilities(app);
-  if (!IsKnownFamily(app.firmware.version)) {
-    throw Failure(app.firmware.Joined(), std::make_error_code(std::errc::not_supported).message());
+  if (!firmware::IsKnownFamily(app.firmware.version)) {
+    throw core::Failure(app.firmware.Joined(), std::make_error_code(std::errc::not_supported).message());
   }
-  const auto layout = app.firmware.IsV1400() ? Layout::kEarlyV1400 : LayoutOf(app.firmware);
-  auto sections = WriteSections(app.image, layout, app.firmware, app.capabilities);
+  const auto layout = app.firmware.IsV1400() ? firmware::Layout::kEarlyV1400 : image::LayoutOf(app.firmware);
+  auto sections = image::WriteSections(app.image, layout, app.firmware, app.capabilities);
   app.SYSCFG = std::move(sections.SYSCFG);
   app.SYSFIXED = std::move(sections.SYSFIXED);
   app.SYSSTR = std::move(sections.SYSSTR);
-  const auto region = app.firmware.IsV1400() ? WriteRegion(app.firmware) : kSavedV13Region;
-  return BlockRecords(app.SYSCFG + app.SYSFIXED + app.SYSSTR, region);
+  const auto region = app.firmware.IsV1400() ? image::WriteRegion(app.firmware) : kSavedV13Region;
+  return image::BlockRecords(app.SYSCFG + app.SYSFIXED + app.SYSSTR, region);
 }
 
-std::string AskForPath(Application& app, const FileDialog& dialog) {
+std::string AskForPath(core::Application& app, const core::FileDialog& dialog) {
   const auto answer = app.platform.ask_file(dialog);
-  if (!answer) throw Failure(dialog.file_name, std::make_error_code(std::errc::operation_canceled).message());
+  if (!answer)
+    throw core::Failure(dialog.file_name, std::make_error_code(std::errc::operation_canceled).message());
   app.CurrentFilePath = answer->file_name;
   return app.CurrentFilePath;
 }
 
-void ReadChosenFile(Application& app) {
-  FileDialog dialog;
-  dialog.kind = FileDialog::Kind::kOpen;
+void ReadChosenFile(core::Application& app) {
+  core::FileDialog dialog;
+  dialog.kind = core::FileDialog::Kind::kOpen;
   dialog.file_name = PathBelow(app.platform.program_folder, "\\*.bin");
   dialog.filter = std::string(kTextFiles) + "|" + kBinFiles + "|" + kAllFiles;
   dialog.filter_index = 2;
   app.StreamText = ReadJoined(AskForPath(app, dialog));
 }
 
-void TakeStream(Application& app) {
+void TakeStream(core::Application& app) {
   PrepareCapabilities(app);
   LoadStream(app, app.StreamText);
   for (const auto& routine : app.Setting_Code) routine.run(app);
@@ -61,35 +62,35 @@ void TakeStream(Application& app) {
 
 }  // namespace
 
-void OpenMenu_Click(Application& app, int) {
+void OpenMenu_Click(core::Application& app, int) {
   app.ImageTouched = true;
   app.UploadApplying = true;
   app.PanelsReady = false;
   try {
     ReadChosenFile(app);
     TakeStream(app);
-  } catch (const Failure& failure) {
+  } catch (const core::Failure& failure) {
     app.StreamText.clear();
     app.StatusNote = failure.Subject() + ": " + failure.what();
   }
   app.PanelsReady = true;
 }
 
-void menuSave_Click(Application& app, int) {
-  FileDialog dialog;
-  dialog.kind = FileDialog::Kind::kSave;
+void menuSave_Click(core::Application& app, int) {
+  core::FileDialog dialog;
+  dialog.kind = core::FileDialog::Kind::kSave;
   dialog.file_name = PathBelow(app.platform.program_folder, "\\*.Bin");
   dialog.filter = std::string(kTextFiles) + "|" + kAllFiles;
   dialog.filter_index = 2;
   try {
     const auto stream = SavedStream(app);
     WriteWhole(AskForPath(app, dialog), stream + "\r\n");
-  } catch (const Failure& failure) {
+  } catch (const core::Failure& failure) {
     app.StatusNote = failure.Subject() + ": " + failure.what();
-    MsgBox(app, Box::kNotSaved);
+    MsgBox(app, core::Box::kNotSaved);
     return;
   }
-  MsgBox(app, Box::kSaved);
+  MsgBox(app, core::Box::kSaved);
 }
 
-}  // namespace ovl
+}  // namespace ovl::files

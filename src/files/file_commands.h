@@ -3,9 +3,9 @@
 
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::files {
 
-void OpenMenu_Click(Application& app, int index);
-void menuSave_Click(Application& app, int index);
+void OpenMenu_Click(core::Application& app, int index);
+void menuSave_Click(core::Application& app, int index);
 
-}  // namespace ovl
+}  // namespace ovl::files

@@ -12,7 +12,7 @@
 
 #include "core/failure.h"
 
-namespace ovl {
+namespace ovl::files {
 namespace {
 
 namespace fs = std::filesystem;
@@ -21,12 +21,12 @@ constexpr std::uintmax_t kLargestFile = 64U * 1024U * 1024U;
 constexpr std::size_t kPart = 16U * 1024U;
 
 [[noreturn]] void Fail(const std::string& path, std::errc reason) {
-  throw Failure(path, std::make_error_code(reason).message());
+  throw core::Failure(path, std::make_error_code(reason).message());
 }
 
 // The stream library tells the reason only through errno.
 [[noreturn]] void FailWithErrno(const std::string& path) {
-  throw Failure(path, std::generic_category().message(errno != 0 ? errno : EIO));
+  throw core::Failure(path, std::generic_category().message(errno != 0 ? errno : EIO));
 }
 
 // Where the bytes really go: the end of a chain of links, also if nothing is there yet.
@@ -37,7 +37,7 @@ fs::path TargetOf(const std::string& path) {
   for (int link = 0; fs::is_symlink(target, error); ++link) {
     if (link == kLongestChain) Fail(path, std::errc::too_many_symbolic_link_levels);
     const auto next = fs::read_symlink(target, error);
-    if (error) throw Failure(path, error.message());
+    if (error) throw core::Failure(path, error.message());
     target = next.is_absolute() ? next : target.parent_path() / next;
   }
   return target;
@@ -142,10 +142,10 @@ void WriteWhole(const std::string& path, std::string_view bytes) {
     fs::rename(beside, target);
   } catch (const fs::filesystem_error& reason) {
     fs::remove(beside, error);
-    throw Failure(path, reason.code().message());
-  } catch (const Failure& reason) {
+    throw core::Failure(path, reason.code().message());
+  } catch (const core::Failure& reason) {
     fs::remove(beside, error);
-    throw Failure(path, reason.what());
+    throw core::Failure(path, reason.what());
   }
 }
 
@@ -155,4 +155,4 @@ void OutliveSizeLimit() {
 #endif
 }
 
-}  // namespace ovl
+}  // namespace ovl::files

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-namespace ovl {
+namespace ovl::files {
 
 // A path below a folder, from the written form with backslashes: "\V1400\upload.bin".
 std::string PathBelow(std::string_view folder, std::string_view written);
@@ -29,4 +29,4 @@ void WriteWhole(const std::string& path, std::string_view bytes);
 // start of every program.
 void OutliveSizeLimit();
 
-}  // namespace ovl
+}  // namespace ovl::files

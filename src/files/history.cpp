@@ -6,7 +6,7 @@
 #include "core/failure.h"
 #include "files/files.h"
 
-namespace ovl {
+namespace ovl::files {
 namespace {
 
 constexpr const char* kTag = "OVLH";
@@ -16,8 +16,8 @@ constexpr int kAllFiles = 2;
 // The dialog's answer that the viewer is to stay as it is.
 constexpr unsigned kDoNotShow = 4096;
 
-FileDialog Dialog(const Application& app, FileDialog::Kind kind, const char* name) {
-  FileDialog dialog;
+core::FileDialog Dialog(const core::Application& app, core::FileDialog::Kind kind, const char* name) {
+  core::FileDialog dialog;
   dialog.kind = kind;
   dialog.file_name = PathBelow(app.platform.program_folder, name);
   dialog.filter = kFilter;
@@ -31,16 +31,16 @@ std::string WithLineEnds(std::span<const std::string> lines) {
   return text;
 }
 
-void FillViewer(Application& app, const std::string& caption, std::string text) {
+void FillViewer(core::Application& app, const std::string& caption, std::string text) {
   app.frmView.form.caption = caption;
   app.frmView.Text.text = std::move(text);
 }
 
-void OpenHistory(Application& app, const FileAnswer& answer) {
+void OpenHistory(core::Application& app, const core::FileAnswer& answer) {
   app.CurrentFilePath = answer.file_name;
   const auto lines = ReadLines(answer.file_name);
   if (lines.empty() || lines.front() != kTag) {
-    MsgBox(app, Box::kNotHistory);
+    MsgBox(app, core::Box::kNotHistory);
     return;
   }
   FillViewer(app, answer.file_name, WithLineEnds(std::span(lines).subspan(1)));
@@ -49,31 +49,31 @@ void OpenHistory(Application& app, const FileAnswer& answer) {
 
 }  // namespace
 
-void SaveHistory(Application& app) {
-  const auto dialog = Dialog(app, FileDialog::Kind::kSave, "\\History.txt");
+void SaveHistory(core::Application& app) {
+  const auto dialog = Dialog(app, core::FileDialog::Kind::kSave, "\\History.txt");
   const auto answer = app.platform.ask_file(dialog);
   app.CurrentFilePath = answer ? answer->file_name : dialog.file_name;
   try {
     WriteWhole(app.CurrentFilePath, std::string(kTag) + "\r\n" + app.HistoryText + "\r\n");
-  } catch (const Failure& failure) {
+  } catch (const core::Failure& failure) {
     app.StatusNote = failure.Subject() + ": " + failure.what();
   }
 }
 
-void OpenHistory_menu_Click(Application& app, int) {
-  const auto answer = app.platform.ask_file(Dialog(app, FileDialog::Kind::kOpen, "\\*.txt"));
+void OpenHistory_menu_Click(core::Application& app, int) {
+  const auto answer = app.platform.ask_file(Dialog(app, core::FileDialog::Kind::kOpen, "\\*.txt"));
   if (!answer) return;
   try {
     OpenHistory(app, *answer);
-  } catch (const Failure& failure) {
+  } catch (const core::Failure& failure) {
     app.StatusNote = failure.Subject() + ": " + failure.what();
   }
 }
 
-void ShowDataDump(Application& app) {
+void ShowDataDump(core::Application& app) {
   const auto lines = ReadLines(PathBelow(app.platform.program_folder, "\\DataDump.log"));
   FillViewer(app, "Debuging Windwos", WithLineEnds(lines));
   ShowForm(app, app.frmView.form);
 }
 
-}  // namespace ovl
+}  // namespace ovl::files

@@ -8,11 +8,11 @@
 
 #include "codecs/codecs.h"
 
-namespace ovl {
+namespace ovl::firmware {
 
 // The number behind the "R" of a release. All release rules compare it, never the text.
 inline int ReleaseNumber(std::string_view release) {
-  return release.empty() ? 0 : LeadingNumber(release.substr(1));
+  return release.empty() ? 0 : codecs::LeadingNumber(release.substr(1));
 }
 
 // The families that have a folder of images and an upload file.
@@ -42,4 +42,4 @@ struct Capabilities {
   bool HasAnsiTerm = false;
 };
 
-}  // namespace ovl
+}  // namespace ovl::firmware

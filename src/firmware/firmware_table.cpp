@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace ovl {
+namespace ovl::firmware {
 namespace {
 
 constexpr auto kFirmware = std::to_array<FirmwareEntry>({
@@ -22,4 +22,4 @@ std::span<const FirmwareEntry> FirmwareTable() {
   return kFirmware;
 }
 
-}  // namespace ovl
+}  // namespace ovl::firmware

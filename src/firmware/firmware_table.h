@@ -6,7 +6,7 @@
 
 #include "firmware/firmware_id.h"
 
-namespace ovl {
+namespace ovl::firmware {
 
 struct FirmwareEntry {
   std::string_view version;
@@ -19,4 +19,4 @@ struct FirmwareEntry {
 // In menu order; the last one is reached only through the settings store.
 std::span<const FirmwareEntry> FirmwareTable();
 
-}  // namespace ovl
+}  // namespace ovl::firmware

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <iterator>
 
-namespace ovl {
+namespace ovl::firmware {
 namespace {
 
 // A family of lists that grow out of one another. Single bits, so that a row can name several.
@@ -325,4 +325,4 @@ std::vector<RegisterEntry> BuildRegisterEntries(std::string_view version, std::s
   return entries;
 }
 
-}  // namespace ovl
+}  // namespace ovl::firmware

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace ovl {
+namespace ovl::firmware {
 
 struct RegisterEntry {
   std::string_view name;  // as ComboReg shows it; its place in the list is the register code
@@ -27,4 +27,4 @@ std::span<const std::string_view> RegisterKeys();
 // R12, whose key takes the position of the entry before it. The texts live as long as the program.
 std::vector<RegisterEntry> BuildRegisterEntries(std::string_view version, std::string_view release);
 
-}  // namespace ovl
+}  // namespace ovl::firmware

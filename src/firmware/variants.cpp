@@ -4,66 +4,66 @@
 #include <initializer_list>
 #include <string_view>
 
-namespace ovl {
+namespace ovl::firmware {
 namespace {
 
 constexpr const char* kAuto = "AUTO";
 
-void Show(MainForm& form, int label, List& list, bool visible) {
+void Show(controls::MainForm& form, int label, controls::List& list, bool visible) {
   form.Label1[label].visible = visible;
   list.visible = visible;
 }
 
-void Rename(MainForm& form, int label, List& list, const char* caption) {
+void Rename(controls::MainForm& form, int label, controls::List& list, const char* caption) {
   form.Label1[label].caption = caption;
   list.caption = caption;
 }
 
-void LanguageAndNetwork(MainForm& form) {
+void LanguageAndNetwork(controls::MainForm& form) {
   form.ComboLang.items.emplace_back("Spanish");
   form.ComboCOMM[7].items.emplace_back("NORBAIN VISTA");
 }
 
-void AlarmType(MainForm& form) {
+void AlarmType(controls::MainForm& form) {
   Show(form, 49, form.ComboALM[7], true);
 }
 
-void BlankByRts(MainForm& form) {
+void BlankByRts(controls::MainForm& form) {
   form.ComboDIP[0].items.emplace_back("RTS");
 }
 
-void EleventhRelease(MainForm& form) {
+void EleventhRelease(controls::MainForm& form) {
   form.SharpOP.elements.at(26).visible = true;
   BlankByRts(form);
 }
 
-void TwelfthRelease(MainForm& form) {
-  form.CmdUpDow[kMasterReset].visible = true;
+void TwelfthRelease(controls::MainForm& form) {
+  form.CmdUpDow[controls::kMasterReset].visible = true;
   form.ComboLang.items.at(0) = "English";
   form.ComboLang.items.at(1) = "Spanish";
   form.IBMOP.elements.at(7).visible = true;
   form.IBMOP.elements.at(8).visible = true;
 }
 
-void SharpAdditions(MainForm& form) {
+void SharpAdditions(controls::MainForm& form) {
   form.OpSharp.elements.at(9).visible = true;
   BlankByRts(form);
   AlarmType(form);
 }
 
-void EpsonAdditions(MainForm& form) {
+void EpsonAdditions(controls::MainForm& form) {
   form.OpRI_QT2.elements.at(10).visible = true;
   BlankByRts(form);
   AlarmType(form);
 }
 
 // These families know no speed above 38400.
-void LimitSpeeds(List& list) {
+void LimitSpeeds(controls::List& list) {
   list.items.resize(8);
   list.items.emplace_back(kAuto);
 }
 
-void ReduceForm(MainForm& form) {
+void ReduceForm(controls::MainForm& form) {
   Show(form, 62, form.ComboDIP[8], false);
   Show(form, 48, form.ComboALM[6], false);
   Show(form, 52, form.ComboTrigger[2], false);
@@ -82,18 +82,18 @@ void ReduceForm(MainForm& form) {
   LimitSpeeds(form.ComboCOMM[2]);
 }
 
-void NoSecondPair(MainForm& form) {
+void NoSecondPair(controls::MainForm& form) {
   form.OpDVR.elements.at(2).visible = false;
   Show(form, 14, form.ComboKLM4011[2], false);
   Show(form, 15, form.ComboKLM4011[3], false);
 }
 
-void NoDemo(MainForm& form) {
+void NoDemo(controls::MainForm& form) {
   form.FrameDemo.visible = false;
   Show(form, 61, form.ComboDIP[7], false);
 }
 
-using Step = void (*)(MainForm&);
+using Step = void (*)(controls::MainForm&);
 
 // The steps of a firmware, in order; the numbers are its first and last release.
 struct Variant {
@@ -119,7 +119,7 @@ constexpr std::array kReductions = {
 };
 
 template <class Variants>
-void Run(MainForm& form, const FirmwareId& firmware, const Variants& variants) {
+void Run(controls::MainForm& form, const FirmwareId& firmware, const Variants& variants) {
   const int release = firmware.Number();
   for (const auto& row : variants) {
     const bool applies =
@@ -130,12 +130,12 @@ void Run(MainForm& form, const FirmwareId& firmware, const Variants& variants) {
 
 }  // namespace
 
-void ApplyFirmwareVariants(MainForm& form, const FirmwareId& firmware) {
+void ApplyFirmwareVariants(controls::MainForm& form, const FirmwareId& firmware) {
   if (!form.ComboReg.items.empty()) Run(form, firmware, kVariants);
   Run(form, firmware, kReductions);
 }
 
-void ApplyCompactForm(MainForm& form) {
+void ApplyCompactForm(controls::MainForm& form) {
   Rename(form, 62, form.ComboDIP[8], "OUTPUT CHARACTER / LINE");
   for (int list = 0; list < 8; ++list)
     Show(form, 54 + list, form.ComboDIP.at(static_cast<std::size_t>(list)), false);
@@ -150,4 +150,4 @@ void ApplyCompactForm(MainForm& form) {
   form.Title_Text.visible = false;
 }
 
-}  // namespace ovl
+}  // namespace ovl::firmware

@@ -5,12 +5,12 @@
 #include "controls/forms/main_form.h"
 #include "firmware/firmware_id.h"
 
-namespace ovl {
+namespace ovl::firmware {
 
 // Hides, shows and renames by the firmware's steps. Once for each start; nothing is undone.
-void ApplyFirmwareVariants(MainForm& form, const FirmwareId& firmware);
+void ApplyFirmwareVariants(controls::MainForm& form, const FirmwareId& firmware);
 
 // The form of the compact firmware. What it hides stays in the image.
-void ApplyCompactForm(MainForm& form);
+void ApplyCompactForm(controls::MainForm& form);
 
-}  // namespace ovl
+}  // namespace ovl::firmware

@@ -7,7 +7,7 @@
 #include "host/posix/posix_line.h"
 #include "host/text_codec.h"
 
-namespace ovl {
+namespace ovl::host {
 namespace {
 
 QString TableDevice(int number) {
@@ -60,4 +60,4 @@ QString ComportProblem(int number, const QString& device, const std::string& rea
   return sentence;
 }
 
-}  // namespace ovl
+}  // namespace ovl::host

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace ovl {
+namespace ovl::host {
 
 inline constexpr int kComports = 16;
 
@@ -28,4 +28,4 @@ std::vector<Comport> ListComports(const QString& program_folder);
 // Windows-1252), and for a refused permission the group whose members may use the device.
 QString ComportProblem(int number, const QString& device, const std::string& reason);
 
-}  // namespace ovl
+}  // namespace ovl::host

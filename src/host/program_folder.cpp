@@ -9,7 +9,7 @@
 
 #include "core/failure.h"
 
-namespace ovl {
+namespace ovl::host {
 namespace {
 
 namespace fs = std::filesystem;
@@ -19,7 +19,7 @@ fs::path PathOf(const QString& path) {
 }
 
 [[noreturn]] void Fail(const fs::path& path, const std::error_code& reason) {
-  throw Failure(path.string(), reason.message());
+  throw core::Failure(path.string(), reason.message());
 }
 
 void MakeFolder(const fs::path& path) {
@@ -63,4 +63,4 @@ QString ProgramFolder(const QString& given) {
   return own;
 }
 
-}  // namespace ovl
+}  // namespace ovl::host

@@ -3,7 +3,7 @@
 
 #include <QString>
 
-namespace ovl {
+namespace ovl::host {
 
 // The folder given; else the one of the executable if images lie there and it can be written; else the user's
 // data folder, into which what was installed beside the program is linked. Throws Failure when that folder
@@ -15,4 +15,4 @@ QString ProgramFolder(const QString& given);
 // copied.
 void LinkShipped(const QString& shipped, const QString& folder);
 
-}  // namespace ovl
+}  // namespace ovl::host

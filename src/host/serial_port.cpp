@@ -9,7 +9,7 @@
 #include "host/comports.h"
 #include "host/text_codec.h"
 
-namespace ovl {
+namespace ovl::host {
 namespace {
 
 using std::chrono::microseconds;
@@ -59,7 +59,7 @@ std::optional<LineFormat> ParseFormat(const std::string& text) {
 
 }  // namespace
 
-SerialPort::SerialPort(QString program_folder, std::function<Outcome(const Event&)> dispatch)
+SerialPort::SerialPort(QString program_folder, std::function<core::Outcome(const core::Event&)> dispatch)
     : program_folder_(std::move(program_folder)), dispatch_(std::move(dispatch)), timer_([this] { Post(); }) {
   connect(&port_, &QSerialPort::readyRead, this, [this] {
     TakeReceived();
@@ -73,9 +73,9 @@ SerialPort::~SerialPort() {
   Close();
 }
 
-SerialLine SerialPort::Operations() {
-  SerialLine line;
-  line.open = [this](const LineSettings& settings) { return Open(settings); };
+core::SerialLine SerialPort::Operations() {
+  core::SerialLine line;
+  line.open = [this](const core::LineSettings& settings) { return Open(settings); };
   line.close = [this] { Close(); };
   line.write = [this](std::string_view bytes) { return Write(bytes); };
   line.read = [this] { return Read(); };
@@ -84,7 +84,7 @@ SerialLine SerialPort::Operations() {
   return line;
 }
 
-SerialPort::Error SerialPort::Open(const LineSettings& settings) {
+SerialPort::Error SerialPort::Open(const core::LineSettings& settings) {
   Close();
   number_ = settings.port;
   device_ = ComportDevice(program_folder_, number_);
@@ -275,24 +275,24 @@ bool SerialPort::DeliverOne() {
 
 bool SerialPort::OfferDrained() {
   drain_owed_ = false;
-  const auto outcome = dispatch_(DrainedEvent{});
-  if (outcome == Outcome::kBusy) drain_owed_ = true;
+  const auto outcome = dispatch_(core::DrainedEvent{});
+  if (outcome == core::Outcome::kBusy) drain_owed_ = true;
   return !Kept(outcome);
 }
 
 bool SerialPort::OfferReceived() {
   --untold_;
-  const auto outcome = dispatch_(ReceivedEvent{});
-  if (outcome == Outcome::kBusy) ++untold_;
+  const auto outcome = dispatch_(core::ReceivedEvent{});
+  if (outcome == core::Outcome::kBusy) ++untold_;
   // Nobody will ask for it, and the next event must not find it in the place of its own.
-  if (outcome == Outcome::kRefused && received_.size() > untold_) received_.pop_front();
+  if (outcome == core::Outcome::kRefused && received_.size() > untold_) received_.pop_front();
   return !Kept(outcome);
 }
 
-bool SerialPort::Kept(Outcome outcome) {
-  if (outcome == Outcome::kEnded) Forget();
-  if (outcome == Outcome::kBusy) held_ = true;
-  return outcome == Outcome::kBusy || outcome == Outcome::kEnded;
+bool SerialPort::Kept(core::Outcome outcome) {
+  if (outcome == core::Outcome::kEnded) Forget();
+  if (outcome == core::Outcome::kBusy) held_ = true;
+  return outcome == core::Outcome::kBusy || outcome == core::Outcome::kEnded;
 }
 
 // The lead is the stop bit: while it is on the line, the next character can already be handed over.
@@ -328,4 +328,4 @@ void SerialPort::AwaitDrain() {
   retry_ = std::min(retry_ * 2, kLastRetry);
 }
 
-}  // namespace ovl
+}  // namespace ovl::host

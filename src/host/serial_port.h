@@ -16,7 +16,7 @@
 #include "host/posix/parity_marks.h"
 #include "host/posix/posix_line.h"
 
-namespace ovl {
+namespace ovl::host {
 
 // Must be made after the application object of the toolkit, whose event loop it lives in, and must not be
 // destroyed by an event that it dispatches.
@@ -24,11 +24,11 @@ class SerialPort : public QObject {
  public:
   // The dispatch takes a ReceivedEvent for every character and a DrainedEvent when the transmitter has run
   // empty. When it answers kBusy the event is kept until Resume.
-  SerialPort(QString program_folder, std::function<Outcome(const Event&)> dispatch);
+  SerialPort(QString program_folder, std::function<core::Outcome(const core::Event&)> dispatch);
   ~SerialPort() override;
 
   // For Platform::serial; valid as long as this object.
-  SerialLine Operations();
+  core::SerialLine Operations();
 
   // To be called when a handler has ended: what had to wait is offered again by the event loop.
   void Resume();
@@ -44,10 +44,10 @@ class SerialPort : public QObject {
 
  private:
   using Clock = std::chrono::steady_clock;
-  using Error = SerialLine::Error;
+  using Error = core::SerialLine::Error;
   enum class Turn { kWhole, kShort };
 
-  Error Open(const LineSettings& settings);
+  Error Open(const core::LineSettings& settings);
   std::string OpenReason() const;
   Error Prepare();
   void Close();
@@ -67,7 +67,7 @@ class SerialPort : public QObject {
   bool DeliverOne();
   bool OfferDrained();
   bool OfferReceived();
-  bool Kept(Outcome outcome);
+  bool Kept(core::Outcome outcome);
 
   Clock::time_point DrainDue() const;
   bool Drained() const;
@@ -75,7 +75,7 @@ class SerialPort : public QObject {
   void AwaitDrain();
 
   QString program_folder_;
-  std::function<Outcome(const Event&)> dispatch_;
+  std::function<core::Outcome(const core::Event&)> dispatch_;
   QSerialPort port_;
   ShortTimer timer_;
   int number_ = 0;
@@ -97,4 +97,4 @@ class SerialPort : public QObject {
   bool held_ = false;  // an event was met by kBusy
 };
 
-}  // namespace ovl
+}  // namespace ovl::host

@@ -14,7 +14,7 @@
 
 #include "host/text_codec.h"
 
-namespace ovl {
+namespace ovl::host {
 namespace {
 
 constexpr std::string_view kStoreKey = "SOFTWARE\\ORB\\OVL Software";
@@ -81,7 +81,7 @@ std::unique_ptr<QSettings> SettingsStore::Open() const {
   return settings;
 }
 
-std::optional<SettingValue> SettingsStore::Read(std::string_view key, std::string_view value) const {
+std::optional<core::SettingValue> SettingsStore::Read(std::string_view key, std::string_view value) const {
   if (!IsOwnValue(key, value) || !IsSound()) return std::nullopt;
   const auto settings = Open();
   const auto name = FromWindows1252(value);
@@ -124,4 +124,4 @@ std::string SettingsStore::WhyNotWritten() const {
   return Told(path, opened ? QStringLiteral("it cannot be written") : file.errorString());
 }
 
-}  // namespace ovl
+}  // namespace ovl::host

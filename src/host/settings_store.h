@@ -12,7 +12,7 @@
 
 class QSettings;
 
-namespace ovl {
+namespace ovl::host {
 
 class SettingsStore {
  public:
@@ -22,7 +22,7 @@ class SettingsStore {
 
   // Nothing if the store holds no such value or can't be read, if its file holds what is neither text nor
   // number, or if the text has characters that the program's texts lack.
-  std::optional<SettingValue> Read(std::string_view key, std::string_view value) const;
+  std::optional<core::SettingValue> Read(std::string_view key, std::string_view value) const;
 
   // False if the store can't be written. A file that holds what is neither text nor number is put aside
   // first, under the ending ".unsound".
@@ -41,4 +41,4 @@ class SettingsStore {
   QString folder_;
 };
 
-}  // namespace ovl
+}  // namespace ovl::host

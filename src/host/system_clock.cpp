@@ -2,9 +2,9 @@
 
 #include <QDateTime>
 
-namespace ovl {
+namespace ovl::host {
 
-ClockTime LocalClockTime() {
+core::ClockTime LocalClockTime() {
   const auto now = QDateTime::currentDateTime();
   const auto date = now.date();
   const auto time = now.time();
@@ -16,4 +16,4 @@ ClockTime LocalClockTime() {
           .second = time.second()};
 }
 
-}  // namespace ovl
+}  // namespace ovl::host

@@ -2,9 +2,9 @@
 
 #include "core/platform.h"
 
-namespace ovl {
+namespace ovl::host {
 
 // The computer's local time, for Platform::clock.
-ClockTime LocalClockTime();
+core::ClockTime LocalClockTime();
 
-}  // namespace ovl
+}  // namespace ovl::host

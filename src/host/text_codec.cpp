@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <array>
 
-namespace ovl {
+namespace ovl::host {
 namespace {
 
 constexpr unsigned kFirst = 0x80;
@@ -53,4 +53,4 @@ std::optional<std::string> ToWindows1252(QStringView text) {
   return bytes;
 }
 
-}  // namespace ovl
+}  // namespace ovl::host

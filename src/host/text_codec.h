@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace ovl {
+namespace ovl::host {
 
 // Every byte has a character; the five codes that Windows-1252 leaves unused (81 8D 8F 90 9D) stand for
 // the control characters of the same number, so that all 256 make the round trip.
@@ -19,4 +19,4 @@ QString FromSystem(std::string_view text);
 // Nothing when the text holds a character without a code.
 std::optional<std::string> ToWindows1252(QStringView text);
 
-}  // namespace ovl
+}  // namespace ovl::host

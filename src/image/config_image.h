@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace ovl {
+namespace ovl::image {
 
 enum class FieldId {
   // system configuration
@@ -149,4 +149,4 @@ class ConfigImage {
   std::array<std::vector<std::string>, kFieldCount> fields_;
 };
 
-}  // namespace ovl
+}  // namespace ovl::image

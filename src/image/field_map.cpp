@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-namespace ovl {
+namespace ovl::image {
 namespace {
 
 using enum FieldId;
@@ -117,12 +117,12 @@ constexpr auto kFields = std::to_array<FieldRow>({
     {ALM_MODE,
      "ALM_MODE",
      kSysstr,
-     kV1400 | Bit(Layout::kNewV13),
+     kV1400 | Bit(firmware::Layout::kNewV13),
      false,
      {},
      Capability::kNone,
      {},
-     Since{Bit(Layout::kEarlyV1400), 6, false}},
+     Since{Bit(firmware::Layout::kEarlyV1400), 6, false}},
 });
 static_assert(kFields.size() == kFieldCount);
 
@@ -132,8 +132,8 @@ bool IsExtension(FieldId id) {
 
 // What a field that the stream does not hold becomes. The register options of the longer layouts read as zero
 // elsewhere; the flag that only some releases of its layout store is empty until a panel writes it.
-void SettleAbsent(const FieldRow& row, Layout layout, const Capabilities& capabilities, Scope scope,
-                  ConfigImage& image) {
+void SettleAbsent(const FieldRow& row, firmware::Layout layout, const firmware::Capabilities& capabilities,
+                  Scope scope, ConfigImage& image) {
   const bool in_layout = (row.layouts & Bit(layout)) != 0;
   for (int entry = 1; entry <= EntryCount(row.id); ++entry) {
     if (!HasCapability(capabilities, row.capability)) {
@@ -146,15 +146,15 @@ void SettleAbsent(const FieldRow& row, Layout layout, const Capabilities& capabi
   }
 }
 
-void ReadField(std::string_view& section, const FieldRow& row, Layout layout, Scope scope,
+void ReadField(std::string_view& section, const FieldRow& row, firmware::Layout layout, Scope scope,
                ConfigImage& image) {
   const auto digits = static_cast<std::int16_t>(DigitsOf(row, layout));
   for (int entry = 1; entry <= EntryCount(row.id); ++entry) {
     if (scope == Scope::kWhole || row.is_default) {
-      image.at(row.id, entry) = PeelChars(section, digits);
+      image.at(row.id, entry) = codecs::PeelChars(section, digits);
       continue;
     }
-    for (int pair = 0; pair < digits / 2; ++pair) DropPair(section);
+    for (int pair = 0; pair < digits / 2; ++pair) codecs::DropPair(section);
   }
 }
 
@@ -186,23 +186,23 @@ const FieldRow* FindField(std::string_view name) {
   return found == kFields.end() ? nullptr : &*found;
 }
 
-Layout LayoutOf(const FirmwareId& firmware) {
+firmware::Layout LayoutOf(const firmware::FirmwareId& firmware) {
   const int release = firmware.Number();
   if (firmware.IsV1400()) {
     const bool early = firmware.release == "R1" || firmware.release == "R2" || firmware.release == "R4" ||
                        firmware.release == "R6";
-    return early ? Layout::kEarlyV1400 : Layout::kLateV1400;
+    return early ? firmware::Layout::kEarlyV1400 : firmware::Layout::kLateV1400;
   }
   const bool old =
       (firmware.version == "V1300" && release < 26) || (firmware.version == "V1324" && release < 25);
-  return old ? Layout::kOldV13 : Layout::kNewV13;
+  return old ? firmware::Layout::kOldV13 : firmware::Layout::kNewV13;
 }
 
-int DigitsOf(const FieldRow& row, Layout layout) {
+int DigitsOf(const FieldRow& row, firmware::Layout layout) {
   return (kV1400 & Bit(layout)) != 0 ? row.width.digits : row.width.digits_v13;
 }
 
-bool HasCapability(const Capabilities& capabilities, Capability capability) {
+bool HasCapability(const firmware::Capabilities& capabilities, Capability capability) {
   switch (capability) {
     case Capability::kAtmInterface:
       return capabilities.HasAtmInterface;
@@ -217,24 +217,24 @@ bool HasCapability(const Capabilities& capabilities, Capability capability) {
   }
 }
 
-Capabilities CapabilitiesOf(const FirmwareId& firmware) {
-  Capabilities capabilities;
+firmware::Capabilities CapabilitiesOf(const firmware::FirmwareId& firmware) {
+  firmware::Capabilities capabilities;
   if (firmware.version != "V1324") return capabilities;
   const std::string_view release = firmware.release;
   const auto tail = release.substr(std::max<std::size_t>(release.size(), 2) - 2);
-  capabilities.HasTcpIp = LeadingNumber(tail) >= 19;
+  capabilities.HasTcpIp = codecs::LeadingNumber(tail) >= 19;
   return capabilities;
 }
 
-bool InStream(const FieldRow& row, Layout layout, int release, const Capabilities& capabilities,
-              Direction direction) {
+bool InStream(const FieldRow& row, firmware::Layout layout, int release,
+              const firmware::Capabilities& capabilities, Direction direction) {
   if ((row.layouts & Bit(layout)) == 0 || !HasCapability(capabilities, row.capability)) return false;
   if ((row.since.layouts & Bit(layout)) == 0 || release >= row.since.release) return true;
   return row.since.readers_only && direction == Direction::kWrite;
 }
 
-void ReadSections(const Sections& sections, const FirmwareId& firmware, const Capabilities& capabilities,
-                  Scope scope, ConfigImage& image) {
+void ReadSections(const Sections& sections, const firmware::FirmwareId& firmware,
+                  const firmware::Capabilities& capabilities, Scope scope, ConfigImage& image) {
   const auto layout = LayoutOf(firmware);
   std::array<std::string_view, 3> rest = {sections.SYSCFG, sections.SYSFIXED, sections.SYSSTR};
   for (const auto& row : kFields) {
@@ -246,8 +246,8 @@ void ReadSections(const Sections& sections, const FirmwareId& firmware, const Ca
   }
 }
 
-Sections WriteSections(ConfigImage& image, Layout layout, const FirmwareId& firmware,
-                       const Capabilities& capabilities) {
+Sections WriteSections(ConfigImage& image, firmware::Layout layout, const firmware::FirmwareId& firmware,
+                       const firmware::Capabilities& capabilities) {
   Sections sections;
   sections.SYSSTR.reserve(4096);
   for (const auto& row : kFields) {
@@ -267,4 +267,4 @@ Sections WriteSections(ConfigImage& image, Layout layout, const FirmwareId& firm
   return sections;
 }
 
-}  // namespace ovl
+}  // namespace ovl::image

@@ -10,7 +10,7 @@
 #include "firmware/firmware_id.h"
 #include "image/config_image.h"
 
-namespace ovl {
+namespace ovl::image {
 
 enum class Section { kSyscfg, kSysfixed, kSysstr };
 enum class Capability { kNone, kAtmInterface, kTcpIp, kTimeFields, kAnsiTerm };
@@ -18,14 +18,14 @@ enum class Direction { kRead, kWrite };
 
 // Which layouts hold a field, as bits.
 using LayoutSet = unsigned;
-constexpr LayoutSet Bit(Layout layout) {
+constexpr LayoutSet Bit(firmware::Layout layout) {
   return 1U << static_cast<unsigned>(layout);
 }
-inline constexpr LayoutSet kV1400 = Bit(Layout::kEarlyV1400) | Bit(Layout::kLateV1400);
-inline constexpr LayoutSet kV13 = Bit(Layout::kOldV13) | Bit(Layout::kNewV13);
+inline constexpr LayoutSet kV1400 = Bit(firmware::Layout::kEarlyV1400) | Bit(firmware::Layout::kLateV1400);
+inline constexpr LayoutSet kV13 = Bit(firmware::Layout::kOldV13) | Bit(firmware::Layout::kNewV13);
 inline constexpr LayoutSet kEvery = kV1400 | kV13;
-inline constexpr LayoutSet kLate = Bit(Layout::kLateV1400);
-inline constexpr LayoutSet kExtended = kLate | Bit(Layout::kNewV13);
+inline constexpr LayoutSet kLate = Bit(firmware::Layout::kLateV1400);
+inline constexpr LayoutSet kExtended = kLate | Bit(firmware::Layout::kNewV13);
 
 // A layout has the field only from this release on; for readers alone, or for writers too.
 struct Since {
@@ -55,17 +55,17 @@ struct FieldRow {
 std::span<const FieldRow> FieldTable();
 const FieldRow* FindField(std::string_view name);
 
-Layout LayoutOf(const FirmwareId& firmware);
-int DigitsOf(const FieldRow& row, Layout layout);
-bool HasCapability(const Capabilities& capabilities, Capability capability);
+firmware::Layout LayoutOf(const firmware::FirmwareId& firmware);
+int DigitsOf(const FieldRow& row, firmware::Layout layout);
+bool HasCapability(const firmware::Capabilities& capabilities, Capability capability);
 
 // What the firmware has.
-Capabilities CapabilitiesOf(const FirmwareId& firmware);
+firmware::Capabilities CapabilitiesOf(const firmware::FirmwareId& firmware);
 
 // Whether a stream of this firmware holds the field. The layout is given apart, since files can be written in
 // another one than the firmware's own.
-bool InStream(const FieldRow& row, Layout layout, int release, const Capabilities& capabilities,
-              Direction direction);
+bool InStream(const FieldRow& row, firmware::Layout layout, int release,
+              const firmware::Capabilities& capabilities, Direction direction);
 
 // The three sections of an image, as rows of hexadecimal digits.
 struct Sections {
@@ -78,12 +78,12 @@ enum class Scope {
 };
 
 // Fields that the layout lacks keep what they held, but for those that every load sets.
-void ReadSections(const Sections& sections, const FirmwareId& firmware, const Capabilities& capabilities,
-                  Scope scope, ConfigImage& image);
+void ReadSections(const Sections& sections, const firmware::FirmwareId& firmware,
+                  const firmware::Capabilities& capabilities, Scope scope, ConfigImage& image);
 
 // The fields in the given layout, padded to the section lengths of the V13xx layouts. Fields of a
 // missing capability become their sentinel.
-Sections WriteSections(ConfigImage& image, Layout layout, const FirmwareId& firmware,
-                       const Capabilities& capabilities);
+Sections WriteSections(ConfigImage& image, firmware::Layout layout, const firmware::FirmwareId& firmware,
+                       const firmware::Capabilities& capabilities);
 
-}  // namespace ovl
+}  // namespace ovl::image

@@ -5,7 +5,7 @@
 
 #include "codecs/codecs.h"
 
-namespace ovl {
+namespace ovl::image {
 namespace {
 
 constexpr std::size_t kMarkerLength = 5;
@@ -18,23 +18,23 @@ constexpr Region kV1400Long = {0x2000, 0x2860};
 constexpr Region kOldV13Region = {0x7800, 0x7FE0};
 constexpr Region kNewV13Region = {0x77F0, 0x7FF0};
 
-Region ByRelease(const FirmwareId& firmware) {
+Region ByRelease(const firmware::FirmwareId& firmware) {
   if (firmware.IsV1400()) return firmware.Number() < 6 ? kV1400Short : kV1400Long;
-  return LayoutOf(firmware) == Layout::kOldV13 ? kOldV13Region : kNewV13Region;
+  return LayoutOf(firmware) == firmware::Layout::kOldV13 ? kOldV13Region : kNewV13Region;
 }
 
 }  // namespace
 
-Region ReadRegion(const FirmwareId& firmware) {
-  return LayoutOf(firmware) == Layout::kLateV1400 ? kV1400Long : ByRelease(firmware);
+Region ReadRegion(const firmware::FirmwareId& firmware) {
+  return LayoutOf(firmware) == firmware::Layout::kLateV1400 ? kV1400Long : ByRelease(firmware);
 }
 
-Region WriteRegion(const FirmwareId& firmware) {
+Region WriteRegion(const firmware::FirmwareId& firmware) {
   return ByRelease(firmware);
 }
 
 std::string AddressMarker(int address) {
-  return "$" + ByteToHex(address >> 8) + ByteToHex(address);
+  return "$" + codecs::ByteToHex(address >> 8) + codecs::ByteToHex(address);
 }
 
 std::string BlockRecords(std::string_view digits, const Region& region) {
@@ -68,12 +68,12 @@ ParseResult ParseRecords(std::string_view stream, const Region& region, std::str
   return ParseResult::kOk;
 }
 
-Sections CutSections(std::string_view digits, const FirmwareId& firmware) {
+Sections CutSections(std::string_view digits, const firmware::FirmwareId& firmware) {
   const auto [syscfg, sysfixed] = [&]() -> std::pair<std::size_t, std::size_t> {
     switch (LayoutOf(firmware)) {
-      case Layout::kEarlyV1400:
+      case firmware::Layout::kEarlyV1400:
         return {64, 206};
-      case Layout::kLateV1400:
+      case firmware::Layout::kLateV1400:
         return {64, firmware.Number() >= 11 ? 226 : 224};
       default:
         return {96, 192};
@@ -91,4 +91,4 @@ Sections CutSections(std::string_view digits, const FirmwareId& firmware) {
   return sections;
 }
 
-}  // namespace ovl
+}  // namespace ovl::image

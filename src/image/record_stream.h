@@ -8,7 +8,7 @@
 
 #include "image/field_map.h"
 
-namespace ovl {
+namespace ovl::image {
 
 // The memory addresses of the first and the last record.
 struct Region {
@@ -18,8 +18,8 @@ struct Region {
 
 // Where a reader expects the firmware's image, and where a download puts it. They differ only for releases
 // that no unit has.
-Region ReadRegion(const FirmwareId& firmware);
-Region WriteRegion(const FirmwareId& firmware);
+Region ReadRegion(const firmware::FirmwareId& firmware);
+Region WriteRegion(const firmware::FirmwareId& firmware);
 
 // "$" and four digits, the head of a record.
 std::string AddressMarker(int address);
@@ -39,6 +39,6 @@ enum class ParseResult {
 ParseResult ParseRecords(std::string_view stream, const Region& region, std::string& digits);
 
 // Cuts the digits at the firmware's section lengths; the last section takes what there is.
-Sections CutSections(std::string_view digits, const FirmwareId& firmware);
+Sections CutSections(std::string_view digits, const firmware::FirmwareId& firmware);
 
-}  // namespace ovl
+}  // namespace ovl::image

@@ -8,14 +8,14 @@
 #include "image/field_map.h"
 #include "image/record_stream.h"
 
-namespace ovl {
+namespace ovl::image {
 namespace {
 
 constexpr std::array kHeadings = {"::SYSCFG::", "::SYSFIXED::", "::SYSSTR::"};
 
 // Calls the function with row and entry for every field that a download of the firmware holds.
 template <class Function>
-void ForEachEntry(const FirmwareId& firmware, const Function& function) {
+void ForEachEntry(const firmware::FirmwareId& firmware, const Function& function) {
   const auto layout = LayoutOf(firmware);
   const auto capabilities = CapabilitiesOf(firmware);
   for (const auto& row : FieldTable()) {
@@ -25,7 +25,7 @@ void ForEachEntry(const FirmwareId& firmware, const Function& function) {
 }
 
 // The digits that an image of the firmware has in all.
-std::size_t DigitsOfImage(const FirmwareId& firmware) {
+std::size_t DigitsOfImage(const firmware::FirmwareId& firmware) {
   const auto layout = LayoutOf(firmware);
   const auto capabilities = CapabilitiesOf(firmware);
   ConfigImage image;
@@ -39,9 +39,9 @@ std::size_t DigitsOfImage(const FirmwareId& firmware) {
   return sections.SYSCFG.size() + sections.SYSFIXED.size() + sections.SYSSTR.size();
 }
 
-FirmwareFit FitOf(const FirmwareId& firmware, std::string_view digits) {
-  FirmwareFit fit{firmware, HexToInt(CutSections(digits, firmware).SYSFIXED), {}};
-  const auto entries = BuildRegisterEntries(firmware.version, firmware.release);
+FirmwareFit FitOf(const firmware::FirmwareId& firmware, std::string_view digits) {
+  FirmwareFit fit{firmware, codecs::HexToInt(CutSections(digits, firmware).SYSFIXED), {}};
+  const auto entries = firmware::BuildRegisterEntries(firmware.version, firmware.release);
   const auto code = static_cast<std::size_t>(fit.register_code);
   if (code < entries.size()) fit.register_name = entries[code].name;
   return fit;
@@ -54,7 +54,7 @@ std::string EntryName(std::string_view field, int entries, int entry) {
   return entries == 1 ? name : name + "(" + std::to_string(entry) + ")";
 }
 
-std::string LabelledDump(const ConfigImage& image, const FirmwareId& firmware) {
+std::string LabelledDump(const ConfigImage& image, const firmware::FirmwareId& firmware) {
   std::string text;
   std::size_t headings = 0;
   ForEachEntry(firmware, [&](const FieldRow& row, int entry) {
@@ -65,7 +65,7 @@ std::string LabelledDump(const ConfigImage& image, const FirmwareId& firmware) {
   return text;
 }
 
-std::optional<ConfigImage> DecodeStream(std::string_view stream, const FirmwareId& firmware) {
+std::optional<ConfigImage> DecodeStream(std::string_view stream, const firmware::FirmwareId& firmware) {
   std::string digits;
   if (ParseRecords(stream, ReadRegion(firmware), digits) != ParseResult::kOk) return std::nullopt;
   ConfigImage image;
@@ -74,7 +74,7 @@ std::optional<ConfigImage> DecodeStream(std::string_view stream, const FirmwareI
 }
 
 std::vector<FieldDifference> Differences(const ConfigImage& before, const ConfigImage& after,
-                                         const FirmwareId& firmware) {
+                                         const firmware::FirmwareId& firmware) {
   std::vector<FieldDifference> differences;
   const auto layout = LayoutOf(firmware);
   std::array<std::size_t, kHeadings.size()> next_digit = {};
@@ -93,9 +93,9 @@ std::vector<FieldDifference> Differences(const ConfigImage& before, const Config
 
 std::vector<FirmwareFit> FittingFirmware(std::string_view stream) {
   std::vector<FirmwareFit> fits;
-  for (const auto& entry : FirmwareTable()) {
+  for (const auto& entry : firmware::FirmwareTable()) {
     if (!entry.in_menu) continue;
-    const FirmwareId firmware{std::string(entry.version), std::string(entry.release)};
+    const firmware::FirmwareId firmware{std::string(entry.version), std::string(entry.release)};
     std::string digits;
     if (ParseRecords(stream, ReadRegion(firmware), digits) != ParseResult::kOk) continue;
     if (digits.size() == DigitsOfImage(firmware)) fits.push_back(FitOf(firmware, digits));
@@ -103,7 +103,7 @@ std::vector<FirmwareFit> FittingFirmware(std::string_view stream) {
   return fits;
 }
 
-OpenOutcome OutcomeOfOpening(std::string_view stream, const FirmwareId& firmware) {
+OpenOutcome OutcomeOfOpening(std::string_view stream, const firmware::FirmwareId& firmware) {
   std::string digits;
   switch (ParseRecords(stream, ReadRegion(firmware), digits)) {
     case ParseResult::kOk:
@@ -115,4 +115,4 @@ OpenOutcome OutcomeOfOpening(std::string_view stream, const FirmwareId& firmware
   }
 }
 
-}  // namespace ovl
+}  // namespace ovl::image

@@ -10,17 +10,17 @@
 #include "image/config_image.h"
 #include "image/field_map.h"
 
-namespace ovl {
+namespace ovl::image {
 
 // "EXCPSTRS(3)", or "RX_BAUDRATE" for a field with one entry.
 std::string EntryName(std::string_view field, int entries, int entry);
 
 // Every field of the firmware's stream, a line each, under the headings of the three sections. Lines end with
 // CR LF.
-std::string LabelledDump(const ConfigImage& image, const FirmwareId& firmware);
+std::string LabelledDump(const ConfigImage& image, const firmware::FirmwareId& firmware);
 
 // The image that a stream holds, its lines joined; nothing if it is not one of the firmware's.
-std::optional<ConfigImage> DecodeStream(std::string_view stream, const FirmwareId& firmware);
+std::optional<ConfigImage> DecodeStream(std::string_view stream, const firmware::FirmwareId& firmware);
 
 struct FieldDifference {
   const FieldRow* field = nullptr;
@@ -29,11 +29,11 @@ struct FieldDifference {
   std::string before, after;
 };
 std::vector<FieldDifference> Differences(const ConfigImage& before, const ConfigImage& after,
-                                         const FirmwareId& firmware);
+                                         const firmware::FirmwareId& firmware);
 
 // A firmware of the catalogue whose markers and length a stream has, and the register it would be under it.
 struct FirmwareFit {
-  FirmwareId firmware;
+  firmware::FirmwareId firmware;
   int register_code = 0;
   std::string register_name;  // empty if the firmware's list has no such code
 };
@@ -41,6 +41,6 @@ std::vector<FirmwareFit> FittingFirmware(std::string_view stream);
 
 // What opening a stream does under a firmware.
 enum class OpenOutcome { kLoads, kRefused, kEndsProgram };
-OpenOutcome OutcomeOfOpening(std::string_view stream, const FirmwareId& firmware);
+OpenOutcome OutcomeOfOpening(std::string_view stream, const firmware::FirmwareId& firmware);
 
-}  // namespace ovl
+}  // namespace ovl::image

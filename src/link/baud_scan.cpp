@@ -4,7 +4,7 @@
 #include "link/link_state.h"
 #include "link/port.h"
 
-namespace ovl {
+namespace ovl::link {
 namespace {
 
 constexpr std::array<const char*, 10> kScanOrder = {"9600",  "1200",  "2400",  "4800",  "14400",
@@ -12,7 +12,7 @@ constexpr std::array<const char*, 10> kScanOrder = {"9600",  "1200",  "2400",  "
 
 }  // namespace
 
-void BaudrateCMD_Click(Application& app, int) {
+void BaudrateCMD_Click(core::Application& app, int) {
   if (app.frmMain.MSComm1.PortOpen) CloseCommPort(app);
   app.PortBaud = kScanOrder[0];
   OpenPort(app);
@@ -21,17 +21,17 @@ void BaudrateCMD_Click(Application& app, int) {
   app.ScanActive = true;
   SendWhole(app, app.RemoteRequestText);
   app.ScanIndex = 0;
-  EnableTimer(app.frmSettSR.BaudRateScan, true);
-  HideForm(app.frmSettSR.form);
+  core::EnableTimer(app.frmSettSR.BaudRateScan, true);
+  core::HideForm(app.frmSettSR.form);
   ShowForm(app, app.frmScanBProgress.form);
 }
 
-void BaudRateScan_Timer(Application& app, int) {
+void BaudRateScan_Timer(core::Application& app, int) {
   app.frmScanBProgress.ScanProgressBar1.value = app.ScanIndex;
   if (app.ScanIndex >= kScanOrder.size()) {
     Disconnect(app);
     UnloadForm(app, app.frmScanBProgress.form);
-    MsgBox(app, Box::kNoResponse);
+    MsgBox(app, core::Box::kNoResponse);
     return;
   }
   if (app.RemoteHeld) {
@@ -48,26 +48,26 @@ void BaudRateScan_Timer(Application& app, int) {
   SendWhole(app, app.RemoteRequestText);
 }
 
-void EndScan(Application& app) {
+void EndScan(core::Application& app) {
   UnloadForm(app, app.frmScanBProgress.form);
 }
 
-void frmScanBProgress_Load(Application& app, int) {
+void frmScanBProgress_Load(core::Application& app, int) {
   app.frmScanBProgress.ScanProgressBar1.value = 0;
   app.frmScanBProgress.form.top_most = true;
   app.platform.SetWindowPos(app.frmScanBProgress.form.name);
 }
 
-void frmScanBProgress_Unload(Application& app, int) {
+void frmScanBProgress_Unload(core::Application& app, int) {
   app.ScanActive = false;
-  EnableTimer(app.frmSettSR.BaudRateScan, false);
+  core::EnableTimer(app.frmSettSR.BaudRateScan, false);
   app.ScanIndex = 0;
   UnloadForm(app, app.frmSettSR.form);
 }
 
-void ScanCancel_Click(Application& app, int) {
+void ScanCancel_Click(core::Application& app, int) {
   Disconnect(app);
   UnloadForm(app, app.frmScanBProgress.form);
 }
 
-}  // namespace ovl
+}  // namespace ovl::link

@@ -3,21 +3,21 @@
 
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::link {
 
 // The computer's time and date into the six texts.
-void ReadSystemClock(Application& app);
+void ReadSystemClock(core::Application& app);
 
 // The lists from the texts.
-void ShowClock(Application& app);
+void ShowClock(core::Application& app);
 
-void ComboHR_Click(Application& app, int index);
-void ComboMin_Click(Application& app, int index);
-void ComboSec_Click(Application& app, int index);
-void ComboDay_Click(Application& app, int index);
-void ComboMonth_Click(Application& app, int index);
-void ComboYear_Click(Application& app, int index);
-void CheckTD_Click(Application& app, int index);
-void Timer_Timer(Application& app, int index);
+void ComboHR_Click(core::Application& app, int index);
+void ComboMin_Click(core::Application& app, int index);
+void ComboSec_Click(core::Application& app, int index);
+void ComboDay_Click(core::Application& app, int index);
+void ComboMonth_Click(core::Application& app, int index);
+void ComboYear_Click(core::Application& app, int index);
+void CheckTD_Click(core::Application& app, int index);
+void Timer_Timer(core::Application& app, int index);
 
-}  // namespace ovl
+}  // namespace ovl::link

@@ -4,14 +4,14 @@
 
 #include "core/actions.h"
 
-namespace ovl {
+namespace ovl::link {
 namespace {
 
 constexpr std::int16_t kCharsBeforeStep = 50;
 
 }  // namespace
 
-void ShowNoAccess(Application& app) {
+void ShowNoAccess(core::Application& app) {
   auto& form = app.frmMain;
   form.EnableActions(false);
   form.lbRemoteAccess.caption = "No Access";
@@ -19,7 +19,7 @@ void ShowNoAccess(Application& app) {
   form.Picture1[0].visible = true;
 }
 
-void ShowAccess(Application& app) {
+void ShowAccess(core::Application& app) {
   auto& form = app.frmMain;
   form.EnableActions(true);
   form.lbRemoteAccess.caption = "ACCESS";
@@ -27,33 +27,33 @@ void ShowAccess(Application& app) {
   form.Picture1[3].visible = true;
 }
 
-void ShowPortClosed(Application& app) {
+void ShowPortClosed(core::Application& app) {
   app.frmMain.cmdConnect.caption = "Set Comport";
   app.frmMain.lbConnectting.caption = "Not Connected";
 }
 
-void StopHandcheck(Application& app) {
-  EnableTimer(app.frmMain.Time_handcheck, false);
+void StopHandcheck(core::Application& app) {
+  core::EnableTimer(app.frmMain.Time_handcheck, false);
   app.HandcheckCount = 0;
 }
 
-void StopOperating(Application& app) {
-  EnableTimer(app.frmMain.Timer_Operating, false);
+void StopOperating(core::Application& app) {
+  core::EnableTimer(app.frmMain.Timer_Operating, false);
   app.OperatingCount = 0;
 }
 
-void StartOperating(Application& app) {
-  EnableTimer(app.frmMain.Timer_Operating, true);
+void StartOperating(core::Application& app) {
+  core::EnableTimer(app.frmMain.Timer_Operating, true);
   app.OperatingCount = 0;
 }
 
-void ShowBarFull(Application& app) {
+void ShowBarFull(core::Application& app) {
   auto& bar = app.frmMain.vbalProgressBar1;
   bar.value = bar.maximum;
   bar.text = "100%";
 }
 
-void ResetProgress(Application& app) {
+void ResetProgress(core::Application& app) {
   auto& bar = app.frmMain.vbalProgressBar1;
   bar.value = 0;
   bar.text.clear();
@@ -61,13 +61,13 @@ void ResetProgress(Application& app) {
   app.ProgressValue = 0;
 }
 
-void HideTransfer(Application& app, Label& label) {
+void HideTransfer(core::Application& app, controls::Label& label) {
   app.frmMain.vbalProgressBar1.visible = false;
   label.visible = false;
   ResetProgress(app);
 }
 
-void CountProgress(Application& app) {
+void CountProgress(core::Application& app) {
   if (app.ProgressChars != kCharsBeforeStep) {
     Increment(app.ProgressChars);
     return;
@@ -79,20 +79,20 @@ void CountProgress(Application& app) {
   bar.text = std::to_string(bar.value) + "%";
 }
 
-void SendWhole(Application& app, const std::string& text) {
+void SendWhole(core::Application& app, const std::string& text) {
   app.PendingOutput = text;
   OutputOrSkip(app, text);
 }
 
-void TellSendFailure(Application& app, const Failure& failure) {
+void TellSendFailure(core::Application& app, const core::Failure& failure) {
   app.StatusNote = failure.Subject() + ": " + failure.what();
   ClearDownload(app);
-  MsgBox(app, Box::kSendFailed, failure.what());
+  MsgBox(app, core::Box::kSendFailed, failure.what());
 }
 
-void ClearDownload(Application& app) {
+void ClearDownload(core::Application& app) {
   app.DownloadRequested = false;
   app.DownloadActive = false;
 }
 
-}  // namespace ovl
+}  // namespace ovl::link

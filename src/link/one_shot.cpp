@@ -4,12 +4,12 @@
 #include "files/history.h"
 #include "link/link_state.h"
 
-namespace ovl {
+namespace ovl::link {
 namespace {
 
 constexpr const char* kCommandEnd = "\r\n\r";
 
-void EndOneShot(Application& app) {
+void EndOneShot(core::Application& app) {
   ShowNoAccess(app);
   StopOperating(app);
   app.RemoteHeld = false;
@@ -17,7 +17,7 @@ void EndOneShot(Application& app) {
 
 }  // namespace
 
-void BeginSetTime(Application& app) {
+void BeginSetTime(core::Application& app) {
   StopHandcheck(app);
   StartOperating(app);
   app.SetTimePending = true;
@@ -25,35 +25,35 @@ void BeginSetTime(Application& app) {
                       app.ClockHour + ":" + app.ClockMinute + ":" + app.ClockSecond + kCommandEnd;
 }
 
-void BeginLoadHistory(Application& app) {
-  EnableTimer(app.frmMain.Time_handcheck, false);
+void BeginLoadHistory(core::Application& app) {
+  core::EnableTimer(app.frmMain.Time_handcheck, false);
   app.OperatingCount = 0;
   app.HistoryPending = true;
   app.HistoryText.clear();
   app.PendingOutput = std::string("/LH") + kCommandEnd;
 }
 
-void BeginMasterReset(Application& app) {
-  EnableTimer(app.frmMain.Time_handcheck, false);
+void BeginMasterReset(core::Application& app) {
+  core::EnableTimer(app.frmMain.Time_handcheck, false);
   app.OperatingCount = 0;
   app.MasterResetPending = true;
   app.PendingOutput = std::string("/MR") + kCommandEnd;
 }
 
-void SetTimeStep(Application& app) {
+void SetTimeStep(core::Application& app) {
   const bool done = app.LastReceived == kAck;
   if (!done && app.LastReceived != kNak) return;
   app.SetTimePending = false;
-  if (done) app.frmMain.CmdUpDow[kRemote].enabled = true;
+  if (done) app.frmMain.CmdUpDow[controls::kRemote].enabled = true;
   EndOneShot(app);
-  MsgBox(app, done ? Box::kClockSet : Box::kClockRefused);
+  MsgBox(app, done ? core::Box::kClockSet : core::Box::kClockRefused);
 }
 
-void HistoryStep(Application& app) {
+void HistoryStep(core::Application& app) {
   if (app.LastReceived == kAck) {
-    SaveHistory(app);
+    files::SaveHistory(app);
     app.HistoryPending = false;
-    app.frmMain.CmdUpDow[kRemote].enabled = true;
+    app.frmMain.CmdUpDow[controls::kRemote].enabled = true;
     ShowNoAccess(app);
   } else {
     app.HistoryText += app.LastReceived;
@@ -62,11 +62,11 @@ void HistoryStep(Application& app) {
   app.RemoteHeld = false;
 }
 
-void MasterResetStep(Application& app) {
+void MasterResetStep(core::Application& app) {
   app.MasterResetPending = false;
-  app.frmMain.CmdUpDow[kRemote].enabled = true;
+  app.frmMain.CmdUpDow[controls::kRemote].enabled = true;
   EndOneShot(app);
-  MsgBox(app, app.LastReceived == kAck ? Box::kResetDone : Box::kResetRefused);
+  MsgBox(app, app.LastReceived == kAck ? core::Box::kResetDone : core::Box::kResetRefused);
 }
 
-}  // namespace ovl
+}  // namespace ovl::link

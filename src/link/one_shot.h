@@ -3,16 +3,16 @@
 
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::link {
 
 // Each fills PendingOutput; the button's common tail sends it.
-void BeginSetTime(Application& app);
-void BeginLoadHistory(Application& app);
-void BeginMasterReset(Application& app);
+void BeginSetTime(core::Application& app);
+void BeginLoadHistory(core::Application& app);
+void BeginMasterReset(core::Application& app);
 
 // What a received character means while the command's answer is awaited.
-void SetTimeStep(Application& app);
-void HistoryStep(Application& app);
-void MasterResetStep(Application& app);
+void SetTimeStep(core::Application& app);
+void HistoryStep(core::Application& app);
+void MasterResetStep(core::Application& app);
 
-}  // namespace ovl
+}  // namespace ovl::link

@@ -4,18 +4,18 @@
 #include "core/failure.h"
 #include "link/link_state.h"
 
-namespace ovl {
+namespace ovl::link {
 namespace {
 
 constexpr int kFirstBaud = 3;  // "9600"
 constexpr int kFirstDataBits = 1;
 constexpr int kFirstParity = 0;
 
-std::string SettingsText(const Application& app) {
+std::string SettingsText(const core::Application& app) {
   return app.PortBaud + "," + app.PortParity + "," + app.PortDataBits + ",1";
 }
 
-void SetUpComm(Application& app) {
+void SetUpComm(core::Application& app) {
   auto& comm = app.frmMain.MSComm1;
   comm.CommPort = app.PortNumber;
   comm.Settings = SettingsText(app);
@@ -25,23 +25,23 @@ void SetUpComm(Application& app) {
   OpenCommPort(app);
 }
 
-void MoveFocusToSet(Application& app) {
-  SetFocus(app.frmSettSR.form, app.frmSettSR.cmdSET);
+void MoveFocusToSet(core::Application& app) {
+  core::SetFocus(app.frmSettSR.form, app.frmSettSR.cmdSET);
 }
 
 }  // namespace
 
-void OpenPort(Application& app) {
+void OpenPort(core::Application& app) {
   try {
     SetUpComm(app);
-  } catch (const Failure& failure) {
+  } catch (const core::Failure& failure) {
     app.StatusNote = failure.Subject() + ": " + failure.what();
-    MsgBox(app, Box::kPortFailed, failure.what());
+    MsgBox(app, core::Box::kPortFailed, failure.what());
     return;
   }
   auto& form = app.frmMain;
   app.StatusNote.clear();
-  form.CmdUpDow[kRemote].enabled = true;
+  form.CmdUpDow[controls::kRemote].enabled = true;
   form.lbConnectting.caption =
       "Connected at COM " + std::to_string(app.PortNumber) + ": " + SettingsText(app);
   form.cmdConnect.caption = "Disconnect";
@@ -49,23 +49,23 @@ void OpenPort(Application& app) {
   form.cmdDisConnect.visible = true;
 }
 
-void Disconnect(Application& app) {
+void Disconnect(core::Application& app) {
   auto& form = app.frmMain;
   form.cmdDisConnect.visible = false;
   form.cmdConnect.visible = true;
   form.cmdConnect.enabled = true;
   SendWhole(app, kCan);
-  EnableTimer(form.General_timer, false);
+  core::EnableTimer(form.General_timer, false);
   StopHandcheck(app);
   StopOperating(app);
   CloseCommPort(app);
   ShowPortClosed(app);
   ShowNoAccess(app);
-  form.CmdUpDow[kRemote].enabled = true;
+  form.CmdUpDow[controls::kRemote].enabled = true;
   app.RemoteHeld = false;
 
-  if (app.LinkMode == kLinkUpload) HideTransfer(app, form.Label64[1]);
-  if (app.LinkMode == kLinkDownload) HideTransfer(app, form.Label64[0]);
+  if (app.LinkMode == core::kLinkUpload) HideTransfer(app, form.Label64[1]);
+  if (app.LinkMode == core::kLinkDownload) HideTransfer(app, form.Label64[0]);
   app.DownloadRequested = false;
   app.DownloadActive = false;
   app.SetTimePending = false;
@@ -77,7 +77,7 @@ void Disconnect(Application& app) {
   app.LastReceived.clear();
 }
 
-void cmdConnect_Click(Application& app, int) {
+void cmdConnect_Click(core::Application& app, int) {
   if (!app.frmMain.MSComm1.PortOpen) {
     ShowForm(app, app.frmSettSR.form);
     MoveFocusToSet(app);
@@ -90,47 +90,48 @@ void cmdConnect_Click(Application& app, int) {
   ShowNoAccess(app);
 }
 
-void cmdDisConnect_Click(Application& app, int) {
+void cmdDisConnect_Click(core::Application& app, int) {
   Disconnect(app);
 }
 
-void frmSettSR_Load(Application& app, int) {
+void frmSettSR_Load(core::Application& app, int) {
   auto& dialog = app.frmSettSR;
   app.frmMain.form.enabled = false;
-  AssignPosition(app, dialog.Comport_Select, app.PortNumber == 0 ? 0 : app.PortNumber - 1, Raise::kAlways);
-  ChooseElement(app, dialog.OpBaud, kFirstBaud, Raise::kAlways);
-  ChooseElement(app, dialog.OpDataBits, kFirstDataBits, Raise::kAlways);
-  ChooseElement(app, dialog.OpParity, kFirstParity, Raise::kAlways);
+  AssignPosition(app, dialog.Comport_Select, app.PortNumber == 0 ? 0 : app.PortNumber - 1,
+                 core::Raise::kAlways);
+  ChooseElement(app, dialog.OpBaud, kFirstBaud, core::Raise::kAlways);
+  ChooseElement(app, dialog.OpDataBits, kFirstDataBits, core::Raise::kAlways);
+  ChooseElement(app, dialog.OpParity, kFirstParity, core::Raise::kAlways);
 }
 
-void frmSettSR_Unload(Application& app, int) {
+void frmSettSR_Unload(core::Application& app, int) {
   ReleaseMain(app);
 }
 
-void Comport_Select_Click(Application& app, int) {
+void Comport_Select_Click(core::Application& app, int) {
   app.PortNumber = static_cast<std::uint8_t>(app.frmSettSR.Comport_Select.position + 1);
   MoveFocusToSet(app);
 }
 
-void OpBaud_Click(Application& app, int element) {
+void OpBaud_Click(core::Application& app, int element) {
   app.PortBaud = app.frmSettSR.OpBaud.elements.at(static_cast<std::size_t>(element)).caption;
   MoveFocusToSet(app);
 }
 
-void OpDataBits_Click(Application& app, int element) {
+void OpDataBits_Click(core::Application& app, int element) {
   app.PortDataBits = element == 0 ? "7" : "8";
   MoveFocusToSet(app);
 }
 
-void OpParity_Click(Application& app, int element) {
+void OpParity_Click(core::Application& app, int element) {
   constexpr std::string_view kLetters = "NOE";
   app.PortParity = kLetters.substr(static_cast<std::size_t>(element), 1);
   MoveFocusToSet(app);
 }
 
-void cmdSET_Click(Application& app, int) {
+void cmdSET_Click(core::Application& app, int) {
   OpenPort(app);
   UnloadForm(app, app.frmSettSR.form);
 }
 
-}  // namespace ovl
+}  // namespace ovl::link

@@ -3,34 +3,34 @@
 
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::link {
 
 // Opens the port with the four port settings. On failure a message tells the system's reason, and buttons and
 // labels stay as they were.
-void OpenPort(Application& app);
+void OpenPort(core::Application& app);
 
 // Closes the port and undoes everything that a link has set up. Safe with the port closed.
-void Disconnect(Application& app);
+void Disconnect(core::Application& app);
 
-void cmdConnect_Click(Application& app, int index);
-void cmdDisConnect_Click(Application& app, int index);
+void cmdConnect_Click(core::Application& app, int index);
+void cmdDisConnect_Click(core::Application& app, int index);
 
-void frmSettSR_Load(Application& app, int index);
-void frmSettSR_Unload(Application& app, int index);
-void Comport_Select_Click(Application& app, int index);
-void OpBaud_Click(Application& app, int element);
-void OpDataBits_Click(Application& app, int element);
-void OpParity_Click(Application& app, int element);
-void cmdSET_Click(Application& app, int index);
+void frmSettSR_Load(core::Application& app, int index);
+void frmSettSR_Unload(core::Application& app, int index);
+void Comport_Select_Click(core::Application& app, int index);
+void OpBaud_Click(core::Application& app, int element);
+void OpDataBits_Click(core::Application& app, int element);
+void OpParity_Click(core::Application& app, int element);
+void cmdSET_Click(core::Application& app, int index);
 
 // The scan
-void BaudrateCMD_Click(Application& app, int index);
-void BaudRateScan_Timer(Application& app, int index);
-void frmScanBProgress_Load(Application& app, int index);
-void frmScanBProgress_Unload(Application& app, int index);
-void ScanCancel_Click(Application& app, int index);
+void BaudrateCMD_Click(core::Application& app, int index);
+void BaudRateScan_Timer(core::Application& app, int index);
+void frmScanBProgress_Load(core::Application& app, int index);
+void frmScanBProgress_Unload(core::Application& app, int index);
+void ScanCancel_Click(core::Application& app, int index);
 
 // The unit has answered a scan.
-void EndScan(Application& app);
+void EndScan(core::Application& app);
 
-}  // namespace ovl
+}  // namespace ovl::link

@@ -7,7 +7,7 @@
 #include "link/port.h"
 #include "link/transfer.h"
 
-namespace ovl {
+namespace ovl::link {
 namespace {
 
 constexpr int kCommSend = 1;
@@ -16,22 +16,22 @@ constexpr std::int16_t kEnqAt = 5;  // ticks of the keep-alive
 constexpr std::int16_t kHandcheckLimit = 30;
 constexpr std::int16_t kSilenceLimit = 6;  // ticks of the watchdog
 
-void ShowConnectionFailure(Application& app) {
-  MsgBox(app, Box::kConnectionFail);
+void ShowConnectionFailure(core::Application& app) {
+  MsgBox(app, core::Box::kConnectionFail);
 }
 
-void FailWrongParity(Application& app) {
+void FailWrongParity(core::Application& app) {
   app.LastReceived.clear();
-  EnableTimer(app.frmMain.General_timer, false);
+  core::EnableTimer(app.frmMain.General_timer, false);
   SendWhole(app, kCan);
   CloseLink(app);
   StopOperating(app);
   ClearDownload(app);
   AssignPosition(app, app.frmMain.ComboReg, 0);
-  MsgBox(app, Box::kWrongParity);
+  MsgBox(app, core::Box::kWrongParity);
 }
 
-void FailRefused(Application& app) {
+void FailRefused(core::Application& app) {
   SendWhole(app, kCan);
   CloseLink(app);
   ClearDownload(app);
@@ -39,40 +39,40 @@ void FailRefused(Application& app) {
   StopOperating(app);
 }
 
-void FailKeepAlive(Application& app) {
+void FailKeepAlive(core::Application& app) {
   auto& form = app.frmMain;
   CloseCommPort(app);
   ShowNoAccess(app);
   ShowPortClosed(app);
-  form.CmdUpDow[kRemote].enabled = true;
+  form.CmdUpDow[controls::kRemote].enabled = true;
   form.cmdDisConnect.visible = false;
   form.cmdConnect.visible = true;
   ClearDownload(app);
-  MsgBox(app, Box::kTimeOut);
+  MsgBox(app, core::Box::kTimeOut);
   StopHandcheck(app);
   app.RemoteHeld = false;
 }
 
-void Grant(Application& app) {
+void Grant(core::Application& app) {
   ShowAccess(app);
-  EnableTimer(app.frmMain.Time_handcheck, true);
+  core::EnableTimer(app.frmMain.Time_handcheck, true);
   app.HandcheckCount = 0;
   app.RemoteHeld = true;
   if (app.ScanActive) EndScan(app);
 }
 
-void LeaveRemoteMode(Application& app) {
+void LeaveRemoteMode(core::Application& app) {
   app.RemoteHeld = false;
-  app.LinkMode = kLinkIdle;
+  app.LinkMode = core::kLinkIdle;
   SendWhole(app, kCan);
   StopHandcheck(app);
   StopOperating(app);
   ShowNoAccess(app);
 }
 
-void Remote(Application& app) {
+void Remote(core::Application& app) {
   if (!app.frmMain.MSComm1.PortOpen) {
-    MsgBox(app, Box::kSelectComport);
+    MsgBox(app, core::Box::kSelectComport);
     return;
   }
   if (app.RemoteHeld) {
@@ -80,24 +80,24 @@ void Remote(Application& app) {
     return;
   }
   app.LastReceived.clear();
-  EnableTimer(app.frmMain.General_timer, true);
-  app.LinkMode = kLinkRemote;
+  core::EnableTimer(app.frmMain.General_timer, true);
+  app.LinkMode = core::kLinkRemote;
   SendWhole(app, app.RemoteRequestText);
 }
 
 // Takes the first character off what is to be sent; the send event pulls out the rest.
-void SendFirstChar(Application& app) {
+void SendFirstChar(core::Application& app) {
   app.LastSent = app.PendingOutput.substr(0, 1);
   app.PendingOutput.erase(0, app.LastSent.size());
   OutputOrSkip(app, app.LastSent);
 }
 
-void ShowHints(Application& app, bool upload, bool download) {
+void ShowHints(core::Application& app, bool upload, bool download) {
   app.frmMain.Picture1[1].visible = upload;
   app.frmMain.Picture1[2].visible = download;
 }
 
-void TickHandcheck(Application& app) {
+void TickHandcheck(core::Application& app) {
   Increment(app.HandcheckCount);
   if (app.HandcheckCount == kEnqAt) {
     app.PendingOutput = kEnq;
@@ -117,7 +117,7 @@ void TickHandcheck(Application& app) {
 
 }  // namespace
 
-void MSComm1_OnComm(Application& app, int) {
+void MSComm1_OnComm(core::Application& app, int) {
   const int event = app.frmMain.MSComm1.CommEvent;
   if (event != kCommSend && event != kCommReceive) return;
   app.OperatingCount = 0;
@@ -128,42 +128,42 @@ void MSComm1_OnComm(Application& app, int) {
   }
 }
 
-void OnSendDrained(Application& app) {
+void OnSendDrained(core::Application& app) {
   const bool one_shot = app.SetTimePending || app.HistoryPending || app.MasterResetPending;
-  if (!one_shot && app.LinkMode == kLinkRemote) return;
+  if (!one_shot && app.LinkMode == core::kLinkRemote) return;
   try {
     if (!app.PendingOutput.empty()) {
       SendNextChar(app);
       return;
     }
     if (app.DownloadRequested) {
-      app.LinkMode = kLinkDownload;
+      app.LinkMode = core::kLinkDownload;
       app.DownloadRequested = false;
     }
     if (app.DownloadActive) FinishDownload(app);
-  } catch (const Failure& failure) {
+  } catch (const core::Failure& failure) {
     TellSendFailure(app, failure);
   }
 }
 
-void OnCharReceived(Application& app) {
+void OnCharReceived(core::Application& app) {
   app.LastReceived = Input(app);
   if (!app.ScanActive) {
     if (app.LastReceived == kBadParity) return FailWrongParity(app);
-    if (app.LastReceived == kNak && app.LinkMode == kLinkRemote) return FailRefused(app);
+    if (app.LastReceived == kNak && app.LinkMode == core::kLinkRemote) return FailRefused(app);
     if (app.HistoryPending) return HistoryStep(app);
     if (app.MasterResetPending) return MasterResetStep(app);
     if (app.SetTimePending) return SetTimeStep(app);
   }
   const bool acknowledged = app.LastReceived == kAck;
   switch (app.LinkMode) {
-    case kLinkRemote:
+    case core::kLinkRemote:
       if (acknowledged) Grant(app);
       break;
-    case kLinkUpload:
+    case core::kLinkUpload:
       CollectUploadChar(app);
       break;
-    case kLinkDownload:
+    case core::kLinkDownload:
       if (acknowledged) DownloadAcknowledged(app);
       break;
     default:
@@ -171,14 +171,14 @@ void OnCharReceived(Application& app) {
   }
 }
 
-void SendNextChar(Application& app) {
+void SendNextChar(core::Application& app) {
   app.LastSent = app.PendingOutput.substr(0, 1);
   app.PendingOutput.erase(0, app.LastSent.size());
   Output(app, app.LastSent);
   if (app.DownloadActive) CountProgress(app);
 }
 
-void CloseLink(Application& app) {
+void CloseLink(core::Application& app) {
   auto& form = app.frmMain;
   if (form.MSComm1.PortOpen) CloseCommPort(app);
   ShowNoAccess(app);
@@ -186,31 +186,31 @@ void CloseLink(Application& app) {
   form.cmdDisConnect.visible = false;
   form.cmdConnect.visible = true;
   form.cmdConnect.enabled = true;
-  form.CmdUpDow[kRemote].enabled = true;
+  form.CmdUpDow[controls::kRemote].enabled = true;
   app.RemoteHeld = false;
-  EnableTimer(form.General_timer, false);
+  core::EnableTimer(form.General_timer, false);
   StopHandcheck(app);
-  app.LinkMode = kLinkIdle;
+  app.LinkMode = core::kLinkIdle;
   app.PendingOutput.clear();
   app.LastReceived.clear();
 }
 
-void CmdUpDow_Click(Application& app, int index) {
+void CmdUpDow_Click(core::Application& app, int index) {
   app.FinalAckExpected = false;
   switch (index) {
-    case kUpload:
+    case controls::kUpload:
       BeginUpload(app);
       break;
-    case kDownload:
+    case controls::kDownload:
       BeginDownload(app);
       break;
-    case kSetTime:
+    case controls::kSetTime:
       BeginSetTime(app);
       break;
-    case kLoadHistory:
+    case controls::kLoadHistory:
       BeginLoadHistory(app);
       break;
-    case kMasterReset:
+    case controls::kMasterReset:
       BeginMasterReset(app);
       break;
     default:
@@ -220,15 +220,15 @@ void CmdUpDow_Click(Application& app, int index) {
   SendFirstChar(app);
 }
 
-void CmdUpDow_Point(Application& app, int index) {
-  ShowHints(app, index == kUpload, index == kDownload);
+void CmdUpDow_Point(core::Application& app, int index) {
+  ShowHints(app, index == controls::kUpload, index == controls::kDownload);
 }
 
-void Frame11_Point(Application& app, int) {
+void Frame11_Point(core::Application& app, int) {
   ShowHints(app, false, false);
 }
 
-void General_timer_Timer(Application& app, int) {
+void General_timer_Timer(core::Application& app, int) {
   if (app.LastReceived != kAck) {
     SendWhole(app, kCan);
     CloseLink(app);
@@ -236,19 +236,19 @@ void General_timer_Timer(Application& app, int) {
     ShowConnectionFailure(app);
   }
   app.LastReceived.clear();
-  EnableTimer(app.frmMain.General_timer, false);
+  core::EnableTimer(app.frmMain.General_timer, false);
 }
 
-void Time_handcheck_Timer(Application& app, int) {
+void Time_handcheck_Timer(core::Application& app, int) {
   try {
     TickHandcheck(app);
-  } catch (const Failure& failure) {
+  } catch (const core::Failure& failure) {
     app.StatusNote = failure.Subject() + ": " + failure.what();
-    MsgBox(app, Box::kKeepAliveFailed, failure.what());
+    MsgBox(app, core::Box::kKeepAliveFailed, failure.what());
   }
 }
 
-void Timer_Operating_Timer(Application& app, int) {
+void Timer_Operating_Timer(core::Application& app, int) {
   Increment(app.OperatingCount);
   if (app.OperatingCount != kSilenceLimit) return;
   CloseLink(app);
@@ -257,4 +257,4 @@ void Timer_Operating_Timer(Application& app, int) {
   ShowConnectionFailure(app);
 }
 
-}  // namespace ovl
+}  // namespace ovl::link

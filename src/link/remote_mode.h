@@ -4,27 +4,27 @@
 
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::link {
 
 // The serial control's event.
-void MSComm1_OnComm(Application& app, int index);
+void MSComm1_OnComm(core::Application& app, int index);
 
-void OnSendDrained(Application& app);
-void OnCharReceived(Application& app);
+void OnSendDrained(core::Application& app);
+void OnCharReceived(core::Application& app);
 
 // Sends the next character of PendingOutput. Throws Failure if the device is lost.
-void SendNextChar(Application& app);
+void SendNextChar(core::Application& app);
 
 // Drops the link after a failure. The silence watchdog, the progress display and the pending flags are the
 // caller's.
-void CloseLink(Application& app);
+void CloseLink(core::Application& app);
 
-void CmdUpDow_Click(Application& app, int index);
-void CmdUpDow_Point(Application& app, int index);
-void Frame11_Point(Application& app, int index);
+void CmdUpDow_Click(core::Application& app, int index);
+void CmdUpDow_Point(core::Application& app, int index);
+void Frame11_Point(core::Application& app, int index);
 
-void General_timer_Timer(Application& app, int index);
-void Time_handcheck_Timer(Application& app, int index);
-void Timer_Operating_Timer(Application& app, int index);
+void General_timer_Timer(core::Application& app, int index);
+void Time_handcheck_Timer(core::Application& app, int index);
+void Timer_Operating_Timer(core::Application& app, int index);
 
-}  // namespace ovl
+}  // namespace ovl::link

@@ -7,33 +7,34 @@
 #include "image/record_stream.h"
 #include "link/link_state.h"
 
-namespace ovl {
+namespace ovl::link {
 namespace {
 
 // Where an upload that could not be taken in leaves the register list.
 constexpr int kRegisterAfterFailure = 1;
 
-void BeginTransfer(Application& app, std::int16_t mode, const std::string& command, Label& label) {
+void BeginTransfer(core::Application& app, std::int16_t mode, const std::string& command,
+                   controls::Label& label) {
   auto& form = app.frmMain;
   StopHandcheck(app);
   StartOperating(app);
   app.LinkMode = mode;
   app.PendingOutput = command;
   form.EnableActions(false);
-  form.CmdUpDow[kRemote].enabled = false;
+  form.CmdUpDow[controls::kRemote].enabled = false;
   form.cmdConnect.enabled = false;
   form.vbalProgressBar1.visible = true;
   label.visible = true;
 }
 
 // Remote mode counts as over after a transfer: the unit has left it by itself.
-void EndRemoteMode(Application& app) {
+void EndRemoteMode(core::Application& app) {
   ShowNoAccess(app);
   app.RemoteHeld = false;
 }
 
 // The panels and the list are put into a defined state; nothing of the upload is taken in.
-void AbandonUpload(Application& app, const Failure& failure) {
+void AbandonUpload(core::Application& app, const core::Failure& failure) {
   app.StatusNote = failure.Subject() + ": " + failure.what();
   app.UploadApplying = true;
   AssignPosition(app, app.frmMain.ComboReg, kRegisterAfterFailure);
@@ -42,32 +43,32 @@ void AbandonUpload(Application& app, const Failure& failure) {
 }
 
 // False if the stream does not fit the running firmware.
-bool TakeUpload(Application& app) {
+bool TakeUpload(core::Application& app) {
   app.ImageTouched = true;
   app.UploadApplying = true;
   app.PanelsReady = false;
   app.StreamText.clear();
-  if (!IsKnownFamily(app.firmware.version)) {
+  if (!firmware::IsKnownFamily(app.firmware.version)) {
     PrepareCapabilities(app);
     return true;
   }
-  app.StreamText = ReadJoined(app.CurrentFilePath);
+  app.StreamText = files::ReadJoined(app.CurrentFilePath);
   PrepareCapabilities(app);
   return LoadStream(app, app.StreamText);
 }
 
-void StoreUpload(Application& app) {
-  if (!IsKnownFamily(app.firmware.version)) return;
+void StoreUpload(core::Application& app) {
+  if (!firmware::IsKnownFamily(app.firmware.version)) return;
   const auto& version = app.firmware.version;
-  app.CurrentFilePath = PathBelow(app.platform.program_folder, "\\" + version + "\\upload.bin");
-  WriteWhole(app.CurrentFilePath, app.StreamBuffer + "\r\n");
+  app.CurrentFilePath = files::PathBelow(app.platform.program_folder, "\\" + version + "\\upload.bin");
+  files::WriteWhole(app.CurrentFilePath, app.StreamBuffer + "\r\n");
 }
 
-void FinishStream(Application& app) {
+void FinishStream(core::Application& app) {
   app.FrameState = 0;
   try {
     StoreUpload(app);
-  } catch (const Failure& failure) {
+  } catch (const core::Failure& failure) {
     app.StreamBuffer.clear();
     AbandonUpload(app, failure);
     return;
@@ -78,31 +79,32 @@ void FinishStream(Application& app) {
 }
 
 // The history ids of a recorder's pair of lists; a list that shows nothing is skipped.
-void TakeHistoryIds(Application& app, const List& destination, const List& source) {
-  if (destination.position >= 0) app.image[FieldId::HIST_DEST_ID] = ByteToHex(destination.position + 1);
-  if (source.position >= 0) app.image[FieldId::HIST_SRC_ID] = ByteToHex(source.position + 1);
+void TakeHistoryIds(core::Application& app, const controls::List& destination, const controls::List& source) {
+  if (destination.position >= 0)
+    app.image[image::FieldId::HIST_DEST_ID] = codecs::ByteToHex(destination.position + 1);
+  if (source.position >= 0) app.image[image::FieldId::HIST_SRC_ID] = codecs::ByteToHex(source.position + 1);
 }
 
-void TakeHistoryDestination(Application& app) {
+void TakeHistoryDestination(core::Application& app) {
   const auto& form = app.frmMain;
   if (form.OpDVR.chosen < 0) return;
-  app.image[FieldId::HIST_REG] = ByteToHex(form.OpDVR.chosen);
+  app.image[image::FieldId::HIST_REG] = codecs::ByteToHex(form.OpDVR.chosen);
   if (form.OpDVR.chosen == 1) TakeHistoryIds(app, form.ComboKLM4011[0], form.ComboKLM4011[1]);
   if (form.OpDVR.chosen == 2) TakeHistoryIds(app, form.ComboKLM4011[2], form.ComboKLM4011[3]);
 }
 
 }  // namespace
 
-void BeginUpload(Application& app) {
-  BeginTransfer(app, kLinkUpload, app.UploadCommandText, app.frmMain.Label64[1]);
+void BeginUpload(core::Application& app) {
+  BeginTransfer(app, core::kLinkUpload, app.UploadCommandText, app.frmMain.Label64[1]);
 }
 
-void BeginDownload(Application& app) {
+void BeginDownload(core::Application& app) {
   app.DownloadRequested = true;
-  BeginTransfer(app, kLinkDownload, app.DownloadCommandText, app.frmMain.Label64[0]);
+  BeginTransfer(app, core::kLinkDownload, app.DownloadCommandText, app.frmMain.Label64[0]);
 }
 
-void CollectUploadChar(Application& app) {
+void CollectUploadChar(core::Application& app) {
   if (!app.RemoteHeld) return;
   if (app.FrameState == 0) {
     if (app.LastReceived != "$") return;
@@ -120,15 +122,15 @@ void CollectUploadChar(Application& app) {
   }
 }
 
-void FinishUpload(Application& app) {
+void FinishUpload(core::Application& app) {
   bool taken = false;
   try {
     taken = TakeUpload(app);
     if (taken) {
       for (const auto& routine : app.Setting_Code) routine.run(app);
-      AssignPosition(app, app.frmMain.ComboExcp[0], 0, Raise::kAlways);
+      AssignPosition(app, app.frmMain.ComboExcp[0], 0, core::Raise::kAlways);
     }
-  } catch (const Failure& failure) {
+  } catch (const core::Failure& failure) {
     AbandonUpload(app, failure);
     return;
   }
@@ -143,8 +145,8 @@ void FinishUpload(Application& app) {
   app.UploadApplying = false;
 }
 
-void DownloadAcknowledged(Application& app) {
-  if (IsKnownFamily(app.firmware.version) && !app.firmware.IsV1400()) TakeHistoryDestination(app);
+void DownloadAcknowledged(core::Application& app) {
+  if (firmware::IsKnownFamily(app.firmware.version) && !app.firmware.IsV1400()) TakeHistoryDestination(app);
   if (app.FinalAckExpected) {
     app.FinalAckExpected = false;
     return;
@@ -152,16 +154,16 @@ void DownloadAcknowledged(Application& app) {
   if (!app.RemoteHeld || app.DownloadActive) return;
   try {
     StartDownload(app);
-  } catch (const Failure& failure) {
+  } catch (const core::Failure& failure) {
     TellSendFailure(app, failure);
   }
 }
 
-void StartDownload(Application& app) {
+void StartDownload(core::Application& app) {
   app.SYSCFG.clear();
   app.SYSFIXED.clear();
   app.SYSSTR.clear();
-  if (IsKnownFamily(app.firmware.version)) app.StreamBuffer = SectionsToStream(app);
+  if (firmware::IsKnownFamily(app.firmware.version)) app.StreamBuffer = SectionsToStream(app);
   app.sent_image = app.image;
   app.PendingOutput = app.StreamBuffer;
   if (app.PendingOutput.empty())
@@ -176,7 +178,7 @@ void StartDownload(Application& app) {
   app.StreamBuffer.clear();
 }
 
-void FinishDownload(Application& app) {
+void FinishDownload(core::Application& app) {
   ShowBarFull(app);
   ShowForm(app, app.frmOK_buttom.form);
   app.FinalAckExpected = true;
@@ -186,25 +188,25 @@ void FinishDownload(Application& app) {
   EndRemoteMode(app);
 }
 
-void frmOK_buttom_Load(Application& app, int) {
-  app.frmOK_buttom.Label1.caption = TransferEndForm::kDesignText;
+void frmOK_buttom_Load(core::Application& app, int) {
+  app.frmOK_buttom.Label1.caption = controls::TransferEndForm::kDesignText;
   app.frmOK_buttom.form.top_most = true;
   app.platform.SetWindowPos(app.frmOK_buttom.form.name);
 }
 
-void frmOK_buttom_Shown(Application& app, int) {
+void frmOK_buttom_Shown(core::Application& app, int) {
   app.frmMain.form.enabled = false;
 }
 
-void frmOK_buttom_Unload(Application& app, int) {
+void frmOK_buttom_Unload(core::Application& app, int) {
   ReleaseMain(app);
   app.frmMain.cmdConnect.enabled = true;
-  app.frmMain.CmdUpDow[kRemote].enabled = true;
+  app.frmMain.CmdUpDow[controls::kRemote].enabled = true;
 }
 
-void TransferEnd_Click(Application& app, int) {
-  app.LinkMode = kLinkIdle;
+void TransferEnd_Click(core::Application& app, int) {
+  app.LinkMode = core::kLinkIdle;
   UnloadForm(app, app.frmOK_buttom.form);
 }
 
-}  // namespace ovl
+}  // namespace ovl::link

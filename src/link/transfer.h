@@ -3,27 +3,27 @@
 
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::link {
 
-void BeginUpload(Application& app);
-void BeginDownload(Application& app);
+void BeginUpload(core::Application& app);
+void BeginDownload(core::Application& app);
 
 // One character of an upload: collected from "$" to "#", then stored and taken in.
-void CollectUploadChar(Application& app);
+void CollectUploadChar(core::Application& app);
 
 // Reads the stored upload back into the image and refreshes the panels.
-void FinishUpload(Application& app);
+void FinishUpload(core::Application& app);
 
 // The unit's ACK during a download: to the command, or to the finished stream.
-void DownloadAcknowledged(Application& app);
+void DownloadAcknowledged(core::Application& app);
 
 // Sends the first character of the stream. Throws Failure if the device is lost.
-void StartDownload(Application& app);
-void FinishDownload(Application& app);
+void StartDownload(core::Application& app);
+void FinishDownload(core::Application& app);
 
-void frmOK_buttom_Load(Application& app, int index);
-void frmOK_buttom_Shown(Application& app, int index);
-void frmOK_buttom_Unload(Application& app, int index);
-void TransferEnd_Click(Application& app, int index);
+void frmOK_buttom_Load(core::Application& app, int index);
+void frmOK_buttom_Shown(core::Application& app, int index);
+void frmOK_buttom_Unload(core::Application& app, int index);
+void TransferEnd_Click(core::Application& app, int index);
 
-}  // namespace ovl
+}  // namespace ovl::link

@@ -3,19 +3,19 @@
 
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::panels {
 
-void ApplyAlarmGlobals(Application& app);
+void ApplyAlarmGlobals(core::Application& app);
 
 // An alarm, 1 to 16, onto the panel; its triggered text with it.
-void LoadAlarm(Application& app, int number);
+void LoadAlarm(core::Application& app, int number);
 
-void ComboALM_Click(Application& app, int index);
-void save_Alarm_Type(Application& app);
+void ComboALM_Click(core::Application& app, int index);
+void save_Alarm_Type(core::Application& app);
 
-void ComboTrigger_Click(Application& app, int index);
-void save_RTS_TRGGERED(Application& app);
-void TextTrigger_Change(Application& app, int index);
-void cmdSetTrigger_Click(Application& app, int index);
+void ComboTrigger_Click(core::Application& app, int index);
+void save_RTS_TRGGERED(core::Application& app);
+void TextTrigger_Change(core::Application& app, int index);
+void cmdSetTrigger_Click(core::Application& app, int index);
 
-}  // namespace ovl
+}  // namespace ovl::panels

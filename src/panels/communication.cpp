@@ -5,10 +5,10 @@
 
 #include "panels/panel.h"
 
-namespace ovl {
+namespace ovl::panels {
 namespace {
 
-using enum FieldId;
+using enum image::FieldId;
 
 constexpr int kDataBitsBit = 2;
 constexpr int kLinefeedBit = 3;
@@ -22,8 +22,8 @@ constexpr InterfaceCodes kLateV1400Codes = {"0E", "1D", "36"};
 constexpr InterfaceCodes kOldV13Codes = {"0A", "19", "26"};
 constexpr InterfaceCodes kNewV13Codes = {"0E", "1D", "26"};
 
-std::optional<InterfaceCodes> CodesOf(const FirmwareId& firmware) {
-  if (!IsKnownFamily(firmware.version)) return std::nullopt;
+std::optional<InterfaceCodes> CodesOf(const firmware::FirmwareId& firmware) {
+  if (!firmware::IsKnownFamily(firmware.version)) return std::nullopt;
   const auto& release = firmware.release;
   if (firmware.IsV1400()) {
     const bool early = release == "R1" || release == "R2" || release == "R4" || release == "R6";
@@ -37,7 +37,7 @@ std::optional<InterfaceCodes> CodesOf(const FirmwareId& firmware) {
 // The members that store their position in a field of their own.
 struct PositionField {
   int member;
-  FieldId field;
+  image::FieldId field;
 };
 constexpr std::array kPositionFields = {
     PositionField{1, RX_BAUDRATE},   PositionField{2, TX_BAUDRATE},   PositionField{7, TX_PROTOCOL},
@@ -45,16 +45,16 @@ constexpr std::array kPositionFields = {
     PositionField{11, NET_PROTOCOL}, PositionField{12, NET_BAUDRATE},
 };
 
-List& Member(Application& app, int member) {
+controls::List& Member(core::Application& app, int member) {
   return app.frmMain.ComboCOMM.at(static_cast<std::size_t>(member));
 }
 
-void ApplyField(Application& app, int member, FieldId field) {
-  AssignPosition(app, Member(app, member), HexToInt(app.image[field]));
+void ApplyField(core::Application& app, int member, image::FieldId field) {
+  AssignPosition(app, Member(app, member), codecs::HexToInt(app.image[field]));
 }
 
-void ApplyFlags(Application& app) {
-  const int flags = HexToInt(app.image[COMMCFG_BAK]);
+void ApplyFlags(core::Application& app) {
+  const int flags = codecs::HexToInt(app.image[COMMCFG_BAK]);
   const bool parity = HasBit(flags, 1);
   AssignPosition(app, Member(app, 3), !parity ? 0 : (HasBit(flags, 0) ? 1 : 2));
   AssignPosition(app, Member(app, 4), HasBit(flags, kDataBitsBit) ? 1 : 0);
@@ -63,7 +63,7 @@ void ApplyFlags(Application& app) {
   AssignPosition(app, app.frmMain.ComboExcepRe[0], HasBit(flags, kReportBit) ? 1 : 0);
 }
 
-void ApplyInterfaceType(Application& app) {
+void ApplyInterfaceType(core::Application& app) {
   const auto codes = CodesOf(app.firmware);
   if (!codes) return;
   for (int position = 0; position < static_cast<int>(codes->size()); ++position) {
@@ -75,7 +75,7 @@ void ApplyInterfaceType(Application& app) {
 
 // The flags after a click of one of the four members that live in them. The line feed follows the handshake's
 // selection, not its own: the unit's images were made that way.
-int GatherFlags(Application& app, int member, int flags) {
+int GatherFlags(core::Application& app, int member, int flags) {
   switch (member) {
     case 3: {
       constexpr std::array kParityBits = {0, 3, 2};
@@ -94,13 +94,13 @@ int GatherFlags(Application& app, int member, int flags) {
 
 }  // namespace
 
-void GatherInterfaceType(Application& app) {
+void GatherInterfaceType(core::Application& app) {
   const auto codes = CodesOf(app.firmware);
   const int position = Member(app, 0).position;
   if (codes && position >= 0) app.image[IOCFG_BAK] = codes->at(static_cast<std::size_t>(position));
 }
 
-void ApplyCommunication(Application& app) {
+void ApplyCommunication(core::Application& app) {
   const PanelsQuiet quiet(app);
   ApplyFlags(app);
   ApplyInterfaceType(app);
@@ -116,20 +116,20 @@ void ApplyCommunication(Application& app) {
   ApplyNetworkRules(app);
 }
 
-void ComboCOMM_Click(Application& app, int index) {
+void ComboCOMM_Click(core::Application& app, int index) {
   if (!app.PanelsReady) return;
-  const int flags = GatherFlags(app, index, HexToInt(app.image[COMMCFG_BAK]));
+  const int flags = GatherFlags(app, index, codecs::HexToInt(app.image[COMMCFG_BAK]));
   if (index == 0) GatherInterfaceType(app);
   for (const auto& row : kPositionFields) {
-    if (row.member == index) app.image[row.field] = ByteToHex(Member(app, index).position);
+    if (row.member == index) app.image[row.field] = codecs::ByteToHex(Member(app, index).position);
   }
   if (index == 9) ApplyNetworkRules(app);
   if (index == 11) ApplyProtocolBaud(app);
-  app.image[COMMCFG_BAK] = ByteToHex(flags);
+  app.image[COMMCFG_BAK] = codecs::ByteToHex(flags);
   RefreshSavedIndexes(app, "ComboCOMM", app.frmMain.ComboCOMM);
 }
 
-void ApplyNetworkRules(Application& app) {
+void ApplyNetworkRules(core::Application& app) {
   auto& form = app.frmMain;
   constexpr int kMaster = 1;
   constexpr int kSlave = 2;
@@ -147,11 +147,11 @@ void ApplyNetworkRules(Application& app) {
   Member(app, 12).enabled = !chained;
 }
 
-void ApplyProtocolBaud(Application& app) {
+void ApplyProtocolBaud(core::Application& app) {
   constexpr std::array kSpeeds = {3, 8, 5};
   const int protocol = Member(app, 11).position;
   if (protocol < 0) return;
   AssignPosition(app, Member(app, 12), kSpeeds.at(static_cast<std::size_t>(protocol)));
 }
 
-}  // namespace ovl
+}  // namespace ovl::panels

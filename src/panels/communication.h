@@ -3,16 +3,16 @@
 
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::panels {
 
-void ApplyCommunication(Application& app);
-void ComboCOMM_Click(Application& app, int index);
+void ApplyCommunication(core::Application& app);
+void ComboCOMM_Click(core::Application& app, int index);
 
 // Writes the firmware's code of the selected interface; a family without codes writes nothing.
-void GatherInterfaceType(Application& app);
+void GatherInterfaceType(core::Application& app);
 
 // What the type of the network leaves to choose.
-void ApplyNetworkRules(Application& app);
-void ApplyProtocolBaud(Application& app);
+void ApplyNetworkRules(core::Application& app);
+void ApplyProtocolBaud(core::Application& app);
 
-}  // namespace ovl
+}  // namespace ovl::panels

@@ -5,53 +5,53 @@
 
 #include "panels/panel.h"
 
-namespace ovl {
+namespace ovl::panels {
 namespace {
 
 constexpr int kOnBit = 7;
 constexpr int kCharactersBit = 6;
 constexpr int kSpeedShift = 4;
 
-bool Is(const FirmwareId& firmware, std::string_view version, int first_release) {
+bool Is(const firmware::FirmwareId& firmware, std::string_view version, int first_release) {
   return firmware.version == version && firmware.Number() >= first_release;
 }
 
 // Later firmware pack four selections into the byte; older ones keep one value below the demo's own bit.
-bool HasNewForm(const FirmwareId& firmware) {
+bool HasNewForm(const firmware::FirmwareId& firmware) {
   return Is(firmware, "V1400", 2) || Is(firmware, "V1300", 27) || Is(firmware, "V1324", 26) ||
          firmware.version == "V1310" || firmware.version == "V1334";
 }
 
-bool StoresNothing(const FirmwareId& firmware) {
-  return !IsKnownFamily(firmware.version) || (firmware.IsV1400() && firmware.Number() < 1);
+bool StoresNothing(const firmware::FirmwareId& firmware) {
+  return !firmware::IsKnownFamily(firmware.version) || (firmware.IsV1400() && firmware.Number() < 1);
 }
 
-bool ShowsType(const FirmwareId& firmware) {
+bool ShowsType(const firmware::FirmwareId& firmware) {
   constexpr std::array kReleases = {2, 4, 6, 7, 11, 12};
   const int release = firmware.Number();
   return firmware.IsV1400() &&
          (release >= 13 || std::find(kReleases.begin(), kReleases.end(), release) != kReleases.end());
 }
 
-bool ShowsSpeed(const FirmwareId& firmware) {
+bool ShowsSpeed(const firmware::FirmwareId& firmware) {
   return firmware.IsV1400() ? firmware.Number() >= 13 : HasNewForm(firmware);
 }
 
-std::string& Field(Application& app) {
-  return app.image[FieldId::DEMO_ENABLE];
+std::string& Field(core::Application& app) {
+  return app.image[image::FieldId::DEMO_ENABLE];
 }
 
-void Store(Application& app, int keep, int value) {
+void Store(core::Application& app, int keep, int value) {
   if (!app.PanelsReady || StoresNothing(app.firmware)) return;
-  Field(app) = ByteToHex((HexToInt(Field(app)) & keep) | value);
+  Field(app) = codecs::ByteToHex((codecs::HexToInt(Field(app)) & keep) | value);
 }
 
 }  // namespace
 
-void ApplyDemo(Application& app) {
+void ApplyDemo(core::Application& app) {
   const PanelsQuiet quiet(app);
   auto& form = app.frmMain;
-  const int byte = HexToInt(Field(app));
+  const int byte = codecs::HexToInt(Field(app));
   if (form.DemoMode.checked != HasBit(byte, kOnBit)) {
     form.DemoMode.checked = HasBit(byte, kOnBit);
     DemoMode_Click(app, 0);
@@ -66,16 +66,16 @@ void ApplyDemo(Application& app) {
   if (app.firmware.IsV1400()) AssignPosition(app, form.DemoType, byte & 0x0F);
 }
 
-void DemoMode_Click(Application& app, int) {
+void DemoMode_Click(core::Application& app, int) {
   auto& form = app.frmMain;
   const bool on = form.DemoMode.checked;
   form.CharacterList.visible = on;
   if (ShowsType(app.firmware)) form.DemoType.visible = on;
   if (ShowsSpeed(app.firmware)) form.DemoSpeed.visible = on;
-  if (app.PanelsReady) Field(app) = ByteToHex(WithBit(HexToInt(Field(app)), kOnBit, on));
+  if (app.PanelsReady) Field(app) = codecs::ByteToHex(WithBit(codecs::HexToInt(Field(app)), kOnBit, on));
 }
 
-void CharacterList_Click(Application& app, int) {
+void CharacterList_Click(core::Application& app, int) {
   const int position = app.frmMain.CharacterList.position;
   if (HasNewForm(app.firmware)) {
     Store(app, 0xBF, position << kCharactersBit);
@@ -84,12 +84,12 @@ void CharacterList_Click(Application& app, int) {
   }
 }
 
-void DemoType_Click(Application& app, int) {
+void DemoType_Click(core::Application& app, int) {
   if (app.firmware.IsV1400())
     Store(app, HasNewForm(app.firmware) ? 0xF0 : 0xC0, app.frmMain.DemoType.position);
 }
 
-void DemoSpeed_Click(Application& app, int) {
+void DemoSpeed_Click(core::Application& app, int) {
   const int position = app.frmMain.DemoSpeed.position;
   if (HasNewForm(app.firmware)) {
     Store(app, 0xCF, position << kSpeedShift);
@@ -98,4 +98,4 @@ void DemoSpeed_Click(Application& app, int) {
   }
 }
 
-}  // namespace ovl
+}  // namespace ovl::panels

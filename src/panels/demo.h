@@ -3,12 +3,12 @@
 
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::panels {
 
-void ApplyDemo(Application& app);
-void DemoMode_Click(Application& app, int index);
-void CharacterList_Click(Application& app, int index);
-void DemoType_Click(Application& app, int index);
-void DemoSpeed_Click(Application& app, int index);
+void ApplyDemo(core::Application& app);
+void DemoMode_Click(core::Application& app, int index);
+void CharacterList_Click(core::Application& app, int index);
+void DemoType_Click(core::Application& app, int index);
+void DemoSpeed_Click(core::Application& app, int index);
 
-}  // namespace ovl
+}  // namespace ovl::panels

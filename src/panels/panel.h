@@ -7,25 +7,27 @@
 
 #include "core/actions.h"
 
-namespace ovl {
+namespace ovl::panels {
 
 // While a panel is being refreshed it must not write into the image. The flag takes its earlier value at the
 // end.
 class PanelsQuiet {
  public:
-  explicit PanelsQuiet(Application& app) : app_(app), before_(app.PanelsReady) { app.PanelsReady = false; }
+  explicit PanelsQuiet(core::Application& app) : app_(app), before_(app.PanelsReady) {
+    app.PanelsReady = false;
+  }
   ~PanelsQuiet() { app_.PanelsReady = before_; }
   PanelsQuiet(const PanelsQuiet&) = delete;
   PanelsQuiet& operator=(const PanelsQuiet&) = delete;
 
  private:
-  Application& app_;
+  core::Application& app_;
   bool before_;
 };
 
 // Every click of a guarded family ends by noting where its selections stand.
 template <class Array>
-void RefreshSavedIndexes(Application& app, const std::string& family, const Array& lists) {
+void RefreshSavedIndexes(core::Application& app, const std::string& family, const Array& lists) {
   auto& saved = app.SavedIndexes[family];
   saved.clear();
   for (const auto& list : lists) saved.push_back(list.position);
@@ -52,8 +54,8 @@ inline int WithBit(int byte, int bit, bool set) {
 }
 
 // The byte with the bit set when the list stands at another than its first entry.
-inline int WithSelection(int byte, int bit, const List& list) {
+inline int WithSelection(int byte, int bit, const controls::List& list) {
   return WithBit(byte, bit, list.position != 0);
 }
 
-}  // namespace ovl
+}  // namespace ovl::panels

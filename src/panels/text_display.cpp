@@ -5,10 +5,10 @@
 
 #include "panels/panel.h"
 
-namespace ovl {
+namespace ovl::panels {
 namespace {
 
-using enum FieldId;
+using enum image::FieldId;
 
 constexpr int kRts = 12;
 constexpr int kFirstCharacters = 10;
@@ -36,13 +36,13 @@ struct FlagMember {
 constexpr std::array kFlagMembers = {FlagMember{2, 1}, FlagMember{3, 2}, FlagMember{5, 3}, FlagMember{4, 6},
                                      FlagMember{6, 5}};
 
-List& Member(Application& app, int member) {
+controls::List& Member(core::Application& app, int member) {
   return app.frmMain.ComboDIP.at(static_cast<std::size_t>(member));
 }
 
 // A value that no blank time has is refused, also where the number would be a position.
-void ApplyBlankTime(Application& app) {
-  const int value = HexToInt(app.image[BLNKVAL]);
+void ApplyBlankTime(core::Application& app) {
+  const int value = codecs::HexToInt(app.image[BLNKVAL]);
   for (int position = 0; position < kRts; ++position) {
     if (kBlankTimes[static_cast<std::size_t>(position)].value != value) continue;
     AssignPosition(app, Member(app, 0), position);
@@ -51,52 +51,52 @@ void ApplyBlankTime(Application& app) {
   if (app.image[BLNKRTS_BAK] == "01") AssignPosition(app, Member(app, 0), kRts);
 }
 
-int GatherBlankTime(Application& app, int flags) {
+int GatherBlankTime(core::Application& app, int flags) {
   const int position = Member(app, 0).position;
   const auto& time = kBlankTimes.at(static_cast<std::size_t>(position));
   app.image[BLNKRTS_BAK] = position == kRts ? "01" : "00";
-  app.image[BLNKVAL] = ByteToHex(time.value);
-  app.image[BLNKIND] = ByteToHex(position);
+  app.image[BLNKVAL] = codecs::ByteToHex(time.value);
+  app.image[BLNKIND] = codecs::ByteToHex(position);
   return flags & time.mask;
 }
 
 }  // namespace
 
-void ApplyDisplay(Application& app) {
+void ApplyDisplay(core::Application& app) {
   const PanelsQuiet quiet(app);
-  const int flags = HexToInt(app.image[DSPCFG_BAK]);
+  const int flags = codecs::HexToInt(app.image[DSPCFG_BAK]);
   for (const auto& row : kFlagMembers)
     AssignPosition(app, Member(app, row.member), HasBit(flags, row.bit) ? 1 : 0);
-  AssignPosition(app, Member(app, 1), HexToInt(app.image[DSPLINES_BAK]) - 1);
+  AssignPosition(app, Member(app, 1), codecs::HexToInt(app.image[DSPLINES_BAK]) - 1);
   ApplyBlankTime(app);
   AssignPosition(app, app.frmMain.ComboTD[5], HasBit(flags, kTitlerBit) ? 1 : 0);
   AssignPosition(app, app.frmMain.ComboTD[0], HasBit(flags, kClockBit) ? 1 : 0);
-  AssignPosition(app, Member(app, 7), HexToInt(app.image[SPCOMPRES_BAK]));
-  AssignPosition(app, Member(app, 8), HexToInt(app.image[DSPCHARS_BAK]) - kFirstCharacters);
+  AssignPosition(app, Member(app, 7), codecs::HexToInt(app.image[SPCOMPRES_BAK]));
+  AssignPosition(app, Member(app, 8), codecs::HexToInt(app.image[DSPCHARS_BAK]) - kFirstCharacters);
 }
 
-void ComboDIP_Click(Application& app, int index) {
+void ComboDIP_Click(core::Application& app, int index) {
   if (!app.PanelsReady) return;
-  int flags = HexToInt(app.image[DSPCFG_BAK]);
+  int flags = codecs::HexToInt(app.image[DSPCFG_BAK]);
   if (index == 0) flags = GatherBlankTime(app, flags);
   if (index == 1) {
     ApplyLineRule(app);
-    app.image[DSPLINES_BAK] = ByteToHex(Member(app, 1).position + 1);
+    app.image[DSPLINES_BAK] = codecs::ByteToHex(Member(app, 1).position + 1);
   }
   for (const auto& row : kFlagMembers) {
     if (row.member == index) flags = WithSelection(flags, row.bit, Member(app, index));
   }
-  if (index == 7) app.image[SPCOMPRES_BAK] = ByteToHex(Member(app, 7).position);
-  if (index == 8) app.image[DSPCHARS_BAK] = ByteToHex(Member(app, 8).position + kFirstCharacters);
-  app.image[DSPCFG_BAK] = ByteToHex(flags);
+  if (index == 7) app.image[SPCOMPRES_BAK] = codecs::ByteToHex(Member(app, 7).position);
+  if (index == 8) app.image[DSPCHARS_BAK] = codecs::ByteToHex(Member(app, 8).position + kFirstCharacters);
+  app.image[DSPCFG_BAK] = codecs::ByteToHex(flags);
   RefreshSavedIndexes(app, "ComboDIP", app.frmMain.ComboDIP);
 }
 
-void ApplyLineRule(Application& app) {
+void ApplyLineRule(core::Application& app) {
   const auto& form = app.frmMain;
   const int lines_taken = (form.ComboTD[0].position == 1 ? 1 : 0) + (form.ComboTD[5].position == 1 ? 1 : 0);
   const int position = Member(app, 1).position;
   if (position >= 0) AssignPosition(app, Member(app, 1), std::max(position, lines_taken));
 }
 
-}  // namespace ovl
+}  // namespace ovl::panels

@@ -3,13 +3,13 @@
 
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::panels {
 
-void ApplyDisplay(Application& app);
-void ComboDIP_Click(Application& app, int index);
+void ApplyDisplay(core::Application& app);
+void ComboDIP_Click(core::Application& app, int index);
 
 // The clock and the title can take a line of the picture each: raises the number of display lines to what
 // they need.
-void ApplyLineRule(Application& app);
+void ApplyLineRule(core::Application& app);
 
-}  // namespace ovl
+}  // namespace ovl::panels

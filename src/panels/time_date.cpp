@@ -6,38 +6,38 @@
 #include "panels/panel.h"
 #include "panels/text_display.h"
 
-namespace ovl {
+namespace ovl::panels {
 namespace {
 
-using enum FieldId;
+using enum image::FieldId;
 
 constexpr int kTitlerBit = 4;
 constexpr int kClockBit = 7;
 constexpr std::array kDaylightCodes = {"01", "02", "04", "06", "08", "0A"};
 
-List& Member(Application& app, int member) {
+controls::List& Member(core::Application& app, int member) {
   return app.frmMain.ComboTD.at(static_cast<std::size_t>(member));
 }
 
-void GatherDisplayBit(Application& app, int member, int bit) {
-  const int flags = WithSelection(HexToInt(app.image[DSPCFG_BAK]), bit, Member(app, member));
+void GatherDisplayBit(core::Application& app, int member, int bit) {
+  const int flags = WithSelection(codecs::HexToInt(app.image[DSPCFG_BAK]), bit, Member(app, member));
   ApplyLineRule(app);
-  app.image[DSPCFG_BAK] = ByteToHex(flags);
+  app.image[DSPCFG_BAK] = codecs::ByteToHex(flags);
 }
 
 }  // namespace
 
-void ApplyTimeDate(Application& app) {
+void ApplyTimeDate(core::Application& app) {
   const PanelsQuiet quiet(app);
-  AssignPosition(app, Member(app, 1), HexToInt(app.image[TIME_FORMAT_BAK]));
-  AssignPosition(app, Member(app, 2), HexToInt(app.image[DATE_FORMAT_BAK]));
-  AssignPosition(app, Member(app, 3), HalfToEven(HexToInt(app.image[DAYLIGHT_BAK])));
-  AssignPosition(app, Member(app, 4), HexToInt(app.image[TD_LOCKING_BAK]));
+  AssignPosition(app, Member(app, 1), codecs::HexToInt(app.image[TIME_FORMAT_BAK]));
+  AssignPosition(app, Member(app, 2), codecs::HexToInt(app.image[DATE_FORMAT_BAK]));
+  AssignPosition(app, Member(app, 3), HalfToEven(codecs::HexToInt(app.image[DAYLIGHT_BAK])));
+  AssignPosition(app, Member(app, 4), codecs::HexToInt(app.image[TD_LOCKING_BAK]));
   ApplyTitle(app);
-  AssignPosition(app, app.frmMain.ComboLang, HexToInt(app.image[LANGUAGE_BAK]));
+  AssignPosition(app, app.frmMain.ComboLang, codecs::HexToInt(app.image[LANGUAGE_BAK]));
 }
 
-void ComboTD_Click(Application& app, int index) {
+void ComboTD_Click(core::Application& app, int index) {
   if (!app.PanelsReady) return;
   const int position = Member(app, index).position;
   switch (index) {
@@ -45,10 +45,10 @@ void ComboTD_Click(Application& app, int index) {
       GatherDisplayBit(app, index, kClockBit);
       break;
     case 1:
-      app.image[TIME_FORMAT_BAK] = ByteToHex(position);
+      app.image[TIME_FORMAT_BAK] = codecs::ByteToHex(position);
       break;
     case 2:
-      app.image[DATE_FORMAT_BAK] = ByteToHex(position);
+      app.image[DATE_FORMAT_BAK] = codecs::ByteToHex(position);
       break;
     case 3:
       if (position < static_cast<int>(kDaylightCodes.size())) {
@@ -56,7 +56,7 @@ void ComboTD_Click(Application& app, int index) {
       }
       break;
     case 4:
-      app.image[TD_LOCKING_BAK] = ByteToHex(position);
+      app.image[TD_LOCKING_BAK] = codecs::ByteToHex(position);
       break;
     default:
       GatherDisplayBit(app, index, kTitlerBit);
@@ -65,8 +65,8 @@ void ComboTD_Click(Application& app, int index) {
   RefreshSavedIndexes(app, "ComboTD", app.frmMain.ComboTD);
 }
 
-void ComboLang_Click(Application& app, int) {
-  if (app.PanelsReady) app.image[LANGUAGE_BAK] = ByteToHex(app.frmMain.ComboLang.position);
+void ComboLang_Click(core::Application& app, int) {
+  if (app.PanelsReady) app.image[LANGUAGE_BAK] = codecs::ByteToHex(app.frmMain.ComboLang.position);
 }
 
-}  // namespace ovl
+}  // namespace ovl::panels

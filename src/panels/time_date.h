@@ -3,10 +3,10 @@
 
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::panels {
 
-void ApplyTimeDate(Application& app);
-void ComboTD_Click(Application& app, int index);
-void ComboLang_Click(Application& app, int index);
+void ApplyTimeDate(core::Application& app);
+void ComboTD_Click(core::Application& app, int index);
+void ComboLang_Click(core::Application& app, int index);
 
-}  // namespace ovl
+}  // namespace ovl::panels

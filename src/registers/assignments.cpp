@@ -8,28 +8,28 @@
 #include "registers/option_handlers.h"
 #include "registers/sub_menus.h"
 
-namespace ovl {
+namespace ovl::registers {
 namespace {
 
-using enum FieldId;
+using enum image::FieldId;
 
-int Byte(const Application& app, FieldId field) {
-  return HexToInt(app.image[field]);
+int Byte(const core::Application& app, image::FieldId field) {
+  return codecs::HexToInt(app.image[field]);
 }
 
-bool Assign(Application& app, List& list, int position) {
-  return AssignPosition(app, list, position, Raise::kAlways);
+bool Assign(core::Application& app, controls::List& list, int position) {
+  return AssignPosition(app, list, position, core::Raise::kAlways);
 }
 
 // The three digits, the first one in the last list.
-bool AssignDigits(Application& app, std::array<List, 3>& lists) {
+bool AssignDigits(core::Application& app, std::array<controls::List, 3>& lists) {
   const std::array digits = {Byte(app, TCIADDBAK_1), Byte(app, TCIADDBAK_2), Byte(app, TCIADDBAK_3)};
   return Assign(app, lists[2], digits[0]) && Assign(app, lists[1], digits[1]) &&
          Assign(app, lists[0], digits[2]);
 }
 
 // Gives the first elements their captions and shows them; hides the rest.
-void Offer(OptionArray& array, std::initializer_list<const char*> captions) {
+void Offer(controls::OptionArray& array, std::initializer_list<const char*> captions) {
   auto caption = captions.begin();
   for (auto& element : array.elements) {
     element.visible = caption != captions.end();
@@ -37,13 +37,14 @@ void Offer(OptionArray& array, std::initializer_list<const char*> captions) {
   }
 }
 
-bool AssignOffered(Application& app, OptionArray& array, std::initializer_list<const char*> captions) {
+bool AssignOffered(core::Application& app, controls::OptionArray& array,
+                   std::initializer_list<const char*> captions) {
   Offer(array, captions);
   return ChooseElement(app, array, Byte(app, REGTYPE_MINOR));
 }
 
 // Only one family empties the list ahead of refilling it.
-bool RefillMixed(Application& app, std::initializer_list<const char*> entries) {
+bool RefillMixed(core::Application& app, std::initializer_list<const char*> entries) {
   auto& list = app.frmMain.ComboDIPMIXED;
   if (app.firmware.IsV1400()) {
     list.items.clear();
@@ -53,24 +54,24 @@ bool RefillMixed(Application& app, std::initializer_list<const char*> entries) {
   return Assign(app, list, Byte(app, REGTYPE_MINOR));
 }
 
-bool AssignMode(Application& app, std::array<List, 2>& lists) {
+bool AssignMode(core::Application& app, std::array<controls::List, 2>& lists) {
   const int mode = Byte(app, REGTYPE_MINOR);
   return Assign(app, lists[0], 0) && Assign(app, lists[1], mode);
 }
 
-void ShowUniwellSwitch(Application& app, bool of_models) {
+void ShowUniwellSwitch(core::Application& app, bool of_models) {
   app.frmMain.ComboUni.visible = !of_models;
   app.frmMain.ComboUniFor14R7up.visible = of_models;
 }
 
-bool AssignEasy(Application& app, const char* caption) {
+bool AssignEasy(core::Application& app, const char* caption) {
   app.frmMain.EASYOP.elements[0].caption = caption;
   return ChooseElement(app, app.frmMain.EASYOP, 0);
 }
 
 // A main option from its byte, and what goes with it at every apply.
-template <void (*kShow)(Application&, int)>
-bool AssignMain(Application& app, OptionArray& array) {
+template <void (*kShow)(core::Application&, int)>
+bool AssignMain(core::Application& app, controls::OptionArray& array) {
   const int element = Byte(app, REGTYPE_MINOR);
   if (!ChooseElement(app, array, element)) return false;
   kShow(app, element);
@@ -79,19 +80,19 @@ bool AssignMain(Application& app, OptionArray& array) {
 
 }  // namespace
 
-bool AssignArray(Application& app, const RegisterRow& row) {
+bool AssignArray(core::Application& app, const RegisterRow& row) {
   return ChooseElement(app, app.frmMain.*row.array, Byte(app, row.from));
 }
 
-bool AssignList(Application& app, const RegisterRow& row) {
+bool AssignList(core::Application& app, const RegisterRow& row) {
   return Assign(app, app.frmMain.*row.list, Byte(app, row.from));
 }
 
-bool AssignTcpip(Application& app, const RegisterRow&) {
+bool AssignTcpip(core::Application& app, const RegisterRow&) {
   auto& form = app.frmMain;
   const int flags = Byte(app, REGTYPE_MINOR);
   for (int entry = 1; entry <= 4; ++entry) {
-    const int value = HexToInt(app.image.at(IPADDRESS, entry));
+    const int value = codecs::HexToInt(app.image.at(IPADDRESS, entry));
     if (!Assign(app, form.ComboTCPIP[static_cast<std::size_t>(entry + 3)], value)) return false;
   }
   for (std::size_t bit = 0; bit < form.ComboTCPINFO.size(); ++bit) {
@@ -100,15 +101,15 @@ bool AssignTcpip(Application& app, const RegisterRow&) {
   return true;
 }
 
-bool AssignOldTcpip(Application& app, const RegisterRow&) {
+bool AssignOldTcpip(core::Application& app, const RegisterRow&) {
   for (int entry = 1; entry <= 4; ++entry) {
-    const int value = HexToInt(app.image.at(IPADDRESS, entry));
+    const int value = codecs::HexToInt(app.image.at(IPADDRESS, entry));
     if (!Assign(app, app.frmMain.ComboTCPIP[static_cast<std::size_t>(entry - 1)], value)) return false;
   }
   return true;
 }
 
-bool AssignDresserWayne(Application& app, const RegisterRow&) {
+bool AssignDresserWayne(core::Application& app, const RegisterRow&) {
   auto& form = app.frmMain;
   const int source = Byte(app, REGTYPE_MINOR);
   const int kind = Byte(app, REGTYPE_EXT1);
@@ -127,19 +128,19 @@ bool AssignDresserWayne(Application& app, const RegisterRow&) {
   }
 }
 
-bool AssignFujitsu(Application& app, const RegisterRow&) {
+bool AssignFujitsu(core::Application& app, const RegisterRow&) {
   const int model = Byte(app, REGTYPE_MINOR);
   const int printer = Byte(app, REGTYPE_EXT2);
   return ChooseElement(app, app.frmMain.FUJIOP, model) && Assign(app, app.frmMain.Combo1, printer);
 }
 
-bool AssignGasboy(Application& app, const RegisterRow&) {
+bool AssignGasboy(core::Application& app, const RegisterRow&) {
   const int address = Byte(app, REGTYPE_MINOR);
   const int device = Byte(app, GTITLE_NF_BAK);
   return Assign(app, app.frmMain.ComboDeviceADD, address) && Assign(app, app.frmMain.ComboDeviceGas, device);
 }
 
-bool AssignGilbarco(Application& app, const RegisterRow&) {
+bool AssignGilbarco(core::Application& app, const RegisterRow&) {
   const auto& firmware = app.firmware;
   app.frmMain.OpGilbraco.elements[5].visible = (firmware.IsV1400() && firmware.Number() >= 6) ||
                                                (firmware.version == "V1300" && firmware.Number() >= 23) ||
@@ -147,28 +148,28 @@ bool AssignGilbarco(Application& app, const RegisterRow&) {
   return AssignMain<ShowGilbarco>(app, app.frmMain.OpGilbraco);
 }
 
-bool AssignIbm3151(Application& app, const RegisterRow&) {
+bool AssignIbm3151(core::Application& app, const RegisterRow&) {
   return RefillMixed(app, {"RECEIPT", "JOURNAL", "MIXED"});
 }
 
-bool AssignSchlumberger(Application& app, const RegisterRow&) {
+bool AssignSchlumberger(core::Application& app, const RegisterRow&) {
   return RefillMixed(app, {"RECEIPT", "C .D. U", "CDU(2L)"});
 }
 
-bool AssignMicrelec(Application& app, const RegisterRow&) {
+bool AssignMicrelec(core::Application& app, const RegisterRow&) {
   auto& form = app.frmMain;
   auto& array = Byte(app, REGTYPE_MINOR) == 0 ? form.OpMicrelec : form.OpMicrelec9500;
   return ChooseElement(app, array, Byte(app, UNITADDR));
 }
 
-bool AssignMicros(Application& app, const RegisterRow&) {
+bool AssignMicros(core::Application& app, const RegisterRow&) {
   if (app.firmware.IsV1400() && app.firmware.Number() >= 7) app.frmMain.OpMicros.elements[3].visible = true;
   if (!ChooseElement(app, app.frmMain.OpMicros, Byte(app, REGTYPE_MINOR))) return false;
   ShowMicrosPanel(app);
   return true;
 }
 
-bool AssignNcr(Application& app, const RegisterRow&) {
+bool AssignNcr(core::Application& app, const RegisterRow&) {
   auto& array = app.frmMain.OpNCR;
   if (app.firmware.IsV1400() && app.firmware.Number() >= 6) {
     array.elements[5].visible = true;
@@ -177,7 +178,7 @@ bool AssignNcr(Application& app, const RegisterRow&) {
   return ChooseElement(app, array, Byte(app, REGTYPE_MINOR));
 }
 
-bool AssignNorand(Application& app, const RegisterRow&) {
+bool AssignNorand(core::Application& app, const RegisterRow&) {
   auto& form = app.frmMain;
   const int wiring = Byte(app, REGTYPE_MINOR);
   const int title = Byte(app, GTITLE_NF_BAK);
@@ -186,24 +187,24 @@ bool AssignNorand(Application& app, const RegisterRow&) {
          Assign(app, form.ComboCONSOLEID, console);
 }
 
-bool AssignPanasonic(Application& app, const RegisterRow&) {
+bool AssignPanasonic(core::Application& app, const RegisterRow&) {
   auto& lists = app.frmMain.ComboPana;
   const int title = Byte(app, GTITLE_NF_BAK);
   const int wiring = Byte(app, REGTYPE_MINOR);
   return Assign(app, lists[0], title) && Assign(app, lists[1], wiring);
 }
 
-bool AssignTci(Application& app, const RegisterRow&) {
+bool AssignTci(core::Application& app, const RegisterRow&) {
   return AssignDigits(app, app.frmMain.ComboTCI_ID);
 }
 
-bool AssignUniwell(Application& app, const RegisterRow&) {
+bool AssignUniwell(core::Application& app, const RegisterRow&) {
   ShowUniwellSwitch(app, false);
   return Assign(app, app.frmMain.ComboUni, Byte(app, REGTYPE_MINOR)) &&
          AssignDigits(app, app.frmMain.ComboUNI_ID);
 }
 
-bool AssignUniwellModels(Application& app, const RegisterRow&) {
+bool AssignUniwellModels(core::Application& app, const RegisterRow&) {
   auto& form = app.frmMain;
   const int option = Byte(app, REGTYPE_EXT2);
   form.frmAddress[18].caption.clear();
@@ -214,31 +215,31 @@ bool AssignUniwellModels(Application& app, const RegisterRow&) {
   return false;
 }
 
-bool AssignSerialId(Application& app, const RegisterRow&) {
+bool AssignSerialId(core::Application& app, const RegisterRow&) {
   ShowUniwellSwitch(app, true);
   return Assign(app, app.frmMain.ComboUniFor14R7up, Byte(app, REGTYPE_EXT2)) &&
          AssignDigits(app, app.frmMain.ComboUNI_ID);
 }
 
-bool AssignTk500(Application& app, const RegisterRow&) {
+bool AssignTk500(core::Application& app, const RegisterRow&) {
   return AssignMode(app, app.frmMain.ComboTk500);
 }
 
-bool AssignTe2200(Application& app, const RegisterRow&) {
+bool AssignTe2200(core::Application& app, const RegisterRow&) {
   return AssignMode(app, app.frmMain.ComboTE2200);
 }
 
-bool AssignTec(Application& app, const RegisterRow&) {
+bool AssignTec(core::Application& app, const RegisterRow&) {
   return AssignMode(app, app.frmMain.ComboTEC);
 }
 
-bool AssignClarity(Application& app, const RegisterRow&) {
+bool AssignClarity(core::Application& app, const RegisterRow&) {
   const int address = Byte(app, UNITADDR);
   auto& list = app.frmMain.ComboCLARITYEPOS;
   return Assign(app, list, 0) && Assign(app, list, address);
 }
 
-bool AssignEpson(Application& app, const RegisterRow&) {
+bool AssignEpson(core::Application& app, const RegisterRow&) {
   const auto& firmware = app.firmware;
   const int release = firmware.Number();
   const bool extended = (firmware.IsV1400() && release >= 6) || firmware.version == "V1334" ||
@@ -248,15 +249,15 @@ bool AssignEpson(Application& app, const RegisterRow&) {
   return ChooseElement(app, array, Byte(app, extended ? REGTYPE_EXT2 : REGTYPE_MINOR));
 }
 
-bool AssignNucleus(Application& app, const RegisterRow&) {
+bool AssignNucleus(core::Application& app, const RegisterRow&) {
   return AssignOffered(app, app.frmMain.OpNUCP, {"STANDARD (Both)", "PRINTER WITH POLE", "POLE VIA PRINTER"});
 }
 
-bool AssignScale(Application& app, const RegisterRow&) {
+bool AssignScale(core::Application& app, const RegisterRow&) {
   return AssignOffered(app, app.frmMain.OpNUCP, {"AVERY", "MOLENS", "LEON LD5204"});
 }
 
-bool AssignScaleModels(Application& app, const RegisterRow&) {
+bool AssignScaleModels(core::Application& app, const RegisterRow&) {
   auto& array = app.frmMain.OpWEIGHS;
   const int release = app.firmware.Number();
   if (release <= 3) {
@@ -274,30 +275,30 @@ bool AssignScaleModels(Application& app, const RegisterRow&) {
   return ChooseElement(app, array, Byte(app, REGTYPE_MINOR));
 }
 
-bool AssignOdometer(Application& app, const RegisterRow&) {
+bool AssignOdometer(core::Application& app, const RegisterRow&) {
   return Assign(app, app.frmMain.ComboDIP[1], 0);
 }
 
-bool AssignSensors(Application& app, const RegisterRow&) {
+bool AssignSensors(core::Application& app, const RegisterRow&) {
   return ChooseElement(app, app.frmMain.SenOP, 0) &&
          Assign(app, app.frmMain.ST6105C, Byte(app, REGTYPE_EXT2));
 }
 
-bool AssignEasyTouch(Application& app, const RegisterRow&) {
+bool AssignEasyTouch(core::Application& app, const RegisterRow&) {
   const bool chosen = AssignEasy(app, "TS600/TS700");
   app.image[REGTYPE_EXT2] = "01";
   return chosen;
 }
 
-bool AssignEuropad(Application& app, const RegisterRow&) {
+bool AssignEuropad(core::Application& app, const RegisterRow&) {
   return AssignEasy(app, "EP300/EP3000");
 }
 
-bool AssignPosiflex(Application& app, const RegisterRow&) {
+bool AssignPosiflex(core::Application& app, const RegisterRow&) {
   return AssignEasy(app, "EPOS/PST6000");
 }
 
-bool AssignIbm(Application& app, const RegisterRow&) {
+bool AssignIbm(core::Application& app, const RegisterRow&) {
   auto& form = app.frmMain;
   const int option = Byte(app, REGTYPE_EXT2);
   if (!AssignMain<ShowIbm>(app, form.IBMOP)) return false;
@@ -307,7 +308,7 @@ bool AssignIbm(Application& app, const RegisterRow&) {
   return true;
 }
 
-bool AssignIcl(Application& app, const RegisterRow&) {
+bool AssignIcl(core::Application& app, const RegisterRow&) {
   auto& form = app.frmMain;
   const int option = Byte(app, REGTYPE_EXT2);
   if (!AssignMain<ShowIcl>(app, form.ICLOP) || !ChooseElement(app, form.TEAMOP, option)) return false;
@@ -315,7 +316,7 @@ bool AssignIcl(Application& app, const RegisterRow&) {
   return true;
 }
 
-bool AssignNcrModel(Application& app, const RegisterRow&) {
+bool AssignNcrModel(core::Application& app, const RegisterRow&) {
   auto& form = app.frmMain;
   const int option = Byte(app, REGTYPE_EXT2);
   if (!AssignMain<ShowNcr>(app, form.NCROP) || !ChooseElement(app, form.JRNLRCPT_SLP_OP, option))
@@ -324,7 +325,7 @@ bool AssignNcrModel(Application& app, const RegisterRow&) {
   return true;
 }
 
-bool AssignNixdorf(Application& app, const RegisterRow&) {
+bool AssignNixdorf(core::Application& app, const RegisterRow&) {
   auto& form = app.frmMain;
   const int option = Byte(app, REGTYPE_EXT2);
   if (!AssignMain<ShowNixdorf>(app, form.NIXDORF14OP) || !ChooseElement(app, form.BEETLEOp, option))
@@ -333,45 +334,45 @@ bool AssignNixdorf(Application& app, const RegisterRow&) {
   return true;
 }
 
-bool AssignJcm(Application& app, const RegisterRow&) {
+bool AssignJcm(core::Application& app, const RegisterRow&) {
   return AssignOffered(app, app.frmMain.JCMOp, {"Gold 4800/4850", "Gold G-225", "Gold G-381", "Gold G-556"});
 }
 
-bool AssignOmron(Application& app, const RegisterRow&) {
+bool AssignOmron(core::Application& app, const RegisterRow&) {
   return AssignOffered(app, app.frmMain.JCMOp, {"PROLOGIC", "RS5550/5555"});
 }
 
-bool AssignPar(Application& app, const RegisterRow&) {
+bool AssignPar(core::Application& app, const RegisterRow&) {
   return AssignOffered(app, app.frmMain.JCMOp, {"POS 400", "VIAGRO"});
 }
 
-bool AssignProsper(Application& app, const RegisterRow&) {
+bool AssignProsper(core::Application& app, const RegisterRow&) {
   return AssignOffered(app, app.frmMain.JCMOp, {"ET7626", "ET7826"});
 }
 
-bool AssignVectron(Application& app, const RegisterRow&) {
+bool AssignVectron(core::Application& app, const RegisterRow&) {
   return AssignOffered(app, app.frmMain.JCMOp, {"COLOUR TOUCH", "POS MINI/32", "VARIO"});
 }
 
-bool AssignCasio(Application& app, const RegisterRow&) {
+bool AssignCasio(core::Application& app, const RegisterRow&) {
   const int model = Byte(app, REGTYPE_MINOR);
   if (!ChooseElement(app, app.frmMain.CASIOOP, model)) return false;
   if (!ArrangeCasioSubmenu(app, model)) UnloadForm(app, app.FrmSubMenu.form);
   return true;
 }
 
-bool AssignSharpModels(Application& app, const RegisterRow&) {
+bool AssignSharpModels(core::Application& app, const RegisterRow&) {
   const int model = Byte(app, REGTYPE_MINOR);
   if (!ChooseElement(app, app.frmMain.SharpOP, model)) return false;
   if (!ArrangeSharpSubmenu(app, model)) UnloadForm(app, app.FrmSubMenu.form);
   return true;
 }
 
-bool AssignTecModels(Application& app, const RegisterRow&) {
+bool AssignTecModels(core::Application& app, const RegisterRow&) {
   const int model = Byte(app, REGTYPE_MINOR);
   if (!ChooseElement(app, app.frmMain.TECOP, model)) return false;
   if (!ArrangeTecSubmenu(app, model)) UnloadForm(app, app.FrmSubMenu.form);
   return true;
 }
 
-}  // namespace ovl
+}  // namespace ovl::registers

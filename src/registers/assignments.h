@@ -5,52 +5,52 @@
 
 #include "registers/register_table.h"
 
-namespace ovl {
+namespace ovl::registers {
 
-bool AssignArray(Application& app, const RegisterRow& row);
-bool AssignList(Application& app, const RegisterRow& row);
+bool AssignArray(core::Application& app, const RegisterRow& row);
+bool AssignList(core::Application& app, const RegisterRow& row);
 
-bool AssignTcpip(Application& app, const RegisterRow& row);
-bool AssignOldTcpip(Application& app, const RegisterRow& row);
-bool AssignDresserWayne(Application& app, const RegisterRow& row);
-bool AssignFujitsu(Application& app, const RegisterRow& row);
-bool AssignGasboy(Application& app, const RegisterRow& row);
-bool AssignGilbarco(Application& app, const RegisterRow& row);
-bool AssignIbm3151(Application& app, const RegisterRow& row);
-bool AssignSchlumberger(Application& app, const RegisterRow& row);
-bool AssignMicrelec(Application& app, const RegisterRow& row);
-bool AssignMicros(Application& app, const RegisterRow& row);
-bool AssignNcr(Application& app, const RegisterRow& row);
-bool AssignNorand(Application& app, const RegisterRow& row);
-bool AssignPanasonic(Application& app, const RegisterRow& row);
-bool AssignTci(Application& app, const RegisterRow& row);
-bool AssignUniwell(Application& app, const RegisterRow& row);
-bool AssignUniwellModels(Application& app, const RegisterRow& row);
-bool AssignSerialId(Application& app, const RegisterRow& row);
-bool AssignTk500(Application& app, const RegisterRow& row);
-bool AssignTe2200(Application& app, const RegisterRow& row);
-bool AssignTec(Application& app, const RegisterRow& row);
-bool AssignClarity(Application& app, const RegisterRow& row);
-bool AssignEpson(Application& app, const RegisterRow& row);
-bool AssignNucleus(Application& app, const RegisterRow& row);
-bool AssignScale(Application& app, const RegisterRow& row);
-bool AssignScaleModels(Application& app, const RegisterRow& row);
-bool AssignOdometer(Application& app, const RegisterRow& row);
-bool AssignSensors(Application& app, const RegisterRow& row);
-bool AssignEasyTouch(Application& app, const RegisterRow& row);
-bool AssignEuropad(Application& app, const RegisterRow& row);
-bool AssignPosiflex(Application& app, const RegisterRow& row);
-bool AssignIbm(Application& app, const RegisterRow& row);
-bool AssignIcl(Application& app, const RegisterRow& row);
-bool AssignNcrModel(Application& app, const RegisterRow& row);
-bool AssignNixdorf(Application& app, const RegisterRow& row);
-bool AssignJcm(Application& app, const RegisterRow& row);
-bool AssignOmron(Application& app, const RegisterRow& row);
-bool AssignPar(Application& app, const RegisterRow& row);
-bool AssignProsper(Application& app, const RegisterRow& row);
-bool AssignVectron(Application& app, const RegisterRow& row);
-bool AssignCasio(Application& app, const RegisterRow& row);
-bool AssignSharpModels(Application& app, const RegisterRow& row);
-bool AssignTecModels(Application& app, const RegisterRow& row);
+bool AssignTcpip(core::Application& app, const RegisterRow& row);
+bool AssignOldTcpip(core::Application& app, const RegisterRow& row);
+bool AssignDresserWayne(core::Application& app, const RegisterRow& row);
+bool AssignFujitsu(core::Application& app, const RegisterRow& row);
+bool AssignGasboy(core::Application& app, const RegisterRow& row);
+bool AssignGilbarco(core::Application& app, const RegisterRow& row);
+bool AssignIbm3151(core::Application& app, const RegisterRow& row);
+bool AssignSchlumberger(core::Application& app, const RegisterRow& row);
+bool AssignMicrelec(core::Application& app, const RegisterRow& row);
+bool AssignMicros(core::Application& app, const RegisterRow& row);
+bool AssignNcr(core::Application& app, const RegisterRow& row);
+bool AssignNorand(core::Application& app, const RegisterRow& row);
+bool AssignPanasonic(core::Application& app, const RegisterRow& row);
+bool AssignTci(core::Application& app, const RegisterRow& row);
+bool AssignUniwell(core::Application& app, const RegisterRow& row);
+bool AssignUniwellModels(core::Application& app, const RegisterRow& row);
+bool AssignSerialId(core::Application& app, const RegisterRow& row);
+bool AssignTk500(core::Application& app, const RegisterRow& row);
+bool AssignTe2200(core::Application& app, const RegisterRow& row);
+bool AssignTec(core::Application& app, const RegisterRow& row);
+bool AssignClarity(core::Application& app, const RegisterRow& row);
+bool AssignEpson(core::Application& app, const RegisterRow& row);
+bool AssignNucleus(core::Application& app, const RegisterRow& row);
+bool AssignScale(core::Application& app, const RegisterRow& row);
+bool AssignScaleModels(core::Application& app, const RegisterRow& row);
+bool AssignOdometer(core::Application& app, const RegisterRow& row);
+bool AssignSensors(core::Application& app, const RegisterRow& row);
+bool AssignEasyTouch(core::Application& app, const RegisterRow& row);
+bool AssignEuropad(core::Application& app, const RegisterRow& row);
+bool AssignPosiflex(core::Application& app, const RegisterRow& row);
+bool AssignIbm(core::Application& app, const RegisterRow& row);
+bool AssignIcl(core::Application& app, const RegisterRow& row);
+bool AssignNcrModel(core::Application& app, const RegisterRow& row);
+bool AssignNixdorf(core::Application& app, const RegisterRow& row);
+bool AssignJcm(core::Application& app, const RegisterRow& row);
+bool AssignOmron(core::Application& app, const RegisterRow& row);
+bool AssignPar(core::Application& app, const RegisterRow& row);
+bool AssignProsper(core::Application& app, const RegisterRow& row);
+bool AssignVectron(core::Application& app, const RegisterRow& row);
+bool AssignCasio(core::Application& app, const RegisterRow& row);
+bool AssignSharpModels(core::Application& app, const RegisterRow& row);
+bool AssignTecModels(core::Application& app, const RegisterRow& row);
 
-}  // namespace ovl
+}  // namespace ovl::registers

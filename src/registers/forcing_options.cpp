@@ -4,10 +4,10 @@
 
 #include "core/actions.h"
 
-namespace ovl {
+namespace ovl::registers {
 namespace {
 
-using enum FieldId;
+using enum image::FieldId;
 
 constexpr int kBaud1200 = 0;
 constexpr int kBaud2400 = 1;
@@ -16,73 +16,74 @@ constexpr int kBaud9600 = 3;
 constexpr int kBaud19200 = 5;
 
 // The line settings that a protocol dictates; each runs the selection's own handler.
-void ForceLine(Application& app, int member, int position) {
-  AssignPosition(app, app.frmMain.ComboCOMM.at(static_cast<std::size_t>(member)), position, Raise::kAlways);
+void ForceLine(core::Application& app, int member, int position) {
+  AssignPosition(app, app.frmMain.ComboCOMM.at(static_cast<std::size_t>(member)), position,
+                 core::Raise::kAlways);
 }
 
 // The position of "AUTO" in the speed lists.
-int AutoSpeed(const Application& app) {
+int AutoSpeed(const core::Application& app) {
   return app.firmware.IsV1400() ? 10 : 8;
 }
 
-void ForceSpeeds(Application& app, int receive, int transmit) {
+void ForceSpeeds(core::Application& app, int receive, int transmit) {
   ForceLine(app, 1, receive);
   ForceLine(app, 2, transmit);
 }
 
-void ForceReport(Application& app, int position) {
-  AssignPosition(app, app.frmMain.ComboExcepRe[0], position, Raise::kAlways);
+void ForceReport(core::Application& app, int position) {
+  AssignPosition(app, app.frmMain.ComboExcepRe[0], position, core::Raise::kAlways);
 }
 
-void StoreSpeeds(Application& app, int receive, int transmit) {
-  app.image[RX_BAUDRATE] = ByteToHex(receive);
-  app.image[TX_BAUDRATE] = ByteToHex(transmit);
+void StoreSpeeds(core::Application& app, int receive, int transmit) {
+  app.image[RX_BAUDRATE] = codecs::ByteToHex(receive);
+  app.image[TX_BAUDRATE] = codecs::ByteToHex(transmit);
 }
 
-void ComboSICOM_Click(Application& app, int) {
-  app.image[REGTYPE_MINOR] = ByteToHex(app.frmMain.ComboSICOM.position);
+void ComboSICOM_Click(core::Application& app, int) {
+  app.image[REGTYPE_MINOR] = codecs::ByteToHex(app.frmMain.ComboSICOM.position);
   ForceSpeeds(app, AutoSpeed(app), kBaud9600);
 }
 
 // The mode list stands second, behind the fixed model name.
-void StoreMode(Application& app, int index, int position, std::array<int, 2> tapping,
+void StoreMode(core::Application& app, int index, int position, std::array<int, 2> tapping,
                std::array<int, 2> emulating) {
   if (index != 1) return;
-  app.image[REGTYPE_MINOR] = ByteToHex(position);
+  app.image[REGTYPE_MINOR] = codecs::ByteToHex(position);
   const auto& speeds = position == 0 ? tapping : emulating;
   ForceSpeeds(app, speeds[0], speeds[1]);
 }
 
-void ComboTk500_Click(Application& app, int index) {
+void ComboTk500_Click(core::Application& app, int index) {
   StoreMode(app, index, app.frmMain.ComboTk500[1].position, {AutoSpeed(app), kBaud9600},
             {kBaud19200, kBaud19200});
 }
 
-void ComboTE2200_Click(Application& app, int index) {
+void ComboTE2200_Click(core::Application& app, int index) {
   StoreMode(app, index, app.frmMain.ComboTE2200[1].position, {AutoSpeed(app), kBaud9600},
             {kBaud19200, kBaud19200});
 }
 
 // Its tapping speed is the same position in every family, whatever the list reads there.
-void ComboTEC_Click(Application& app, int index) {
+void ComboTEC_Click(core::Application& app, int index) {
   constexpr int kTappingSpeed = 8;
   StoreMode(app, index, app.frmMain.ComboTEC[1].position, {kTappingSpeed, kBaud9600}, {kBaud4800, kBaud4800});
 }
 
-void OpDYWAYE_Click(Application& app, int element) {
-  app.image[REGTYPE_MINOR] = ByteToHex(element);
+void OpDYWAYE_Click(core::Application& app, int element) {
+  app.image[REGTYPE_MINOR] = codecs::ByteToHex(element);
   ForceSpeeds(app, element < 2 ? AutoSpeed(app) : kBaud9600, kBaud9600);
 }
 
-void OpSHARPUP600_Click(Application& app, int element) {
-  app.image[REGTYPE_MINOR] = ByteToHex(element);
+void OpSHARPUP600_Click(core::Application& app, int element) {
+  app.image[REGTYPE_MINOR] = codecs::ByteToHex(element);
   ForceSpeeds(app, element == 0 ? AutoSpeed(app) : kBaud9600, kBaud9600);
 }
 
 // Of the next four the list shows the forced position, and the field then takes the unit's own speed code.
-void ComboPana_Click(Application& app, int index) {
+void ComboPana_Click(core::Application& app, int index) {
   if (index == 0) {
-    app.image[GTITLE_NF_BAK] = ByteToHex(app.frmMain.ComboPana[0].position);
+    app.image[GTITLE_NF_BAK] = codecs::ByteToHex(app.frmMain.ComboPana[0].position);
     return;
   }
   const bool tap = app.frmMain.ComboPana[1].position == 0;
@@ -92,7 +93,7 @@ void ComboPana_Click(Application& app, int index) {
   StoreSpeeds(app, 3, tap ? 1 : 3);
 }
 
-void ComboWoring_Click(Application& app, int) {
+void ComboWoring_Click(core::Application& app, int) {
   const bool tap = app.frmMain.ComboWoring.position == 0;
   ForceSpeeds(app, kBaud4800, tap ? kBaud2400 : kBaud4800);
   ForceReport(app, tap ? 1 : 0);
@@ -100,71 +101,71 @@ void ComboWoring_Click(Application& app, int) {
   StoreSpeeds(app, 2, tap ? 1 : 2);
 }
 
-void OpMicrelec_Click(Application& app, int element) {
+void OpMicrelec_Click(core::Application& app, int element) {
   ForceSpeeds(app, kBaud19200, kBaud2400);
   ForceLine(app, 3, 1);
   ForceLine(app, 4, 0);
   app.image[REGTYPE_MINOR] = "00";
-  app.image[UNITADDR] = ByteToHex(element);
+  app.image[UNITADDR] = codecs::ByteToHex(element);
   StoreSpeeds(app, 4, 1);
 }
 
-void OpMicrelec9500_Click(Application& app, int element) {
+void OpMicrelec9500_Click(core::Application& app, int element) {
   ForceSpeeds(app, kBaud9600, kBaud2400);
   ForceLine(app, 3, 0);
   ForceLine(app, 4, 0);
   app.image[REGTYPE_MINOR] = "01";
-  app.image[UNITADDR] = ByteToHex(element);
+  app.image[UNITADDR] = codecs::ByteToHex(element);
   StoreSpeeds(app, 3, 1);
 }
 
-void ComboTITLEDIP_Click(Application& app, int) {
+void ComboTITLEDIP_Click(core::Application& app, int) {
   const int position = app.frmMain.ComboTITLEDIP.position;
-  app.image[GTITLE_NF_BAK] = ByteToHex(position);
-  AssignPosition(app, app.frmMain.ComboTD[5], position == 0 ? 0 : 1, Raise::kAlways);
+  app.image[GTITLE_NF_BAK] = codecs::ByteToHex(position);
+  AssignPosition(app, app.frmMain.ComboTD[5], position == 0 ? 0 : 1, core::Raise::kAlways);
 }
 
 constexpr int kAutoOfModels = 10;
 
-void ForceInterface(Application& app, int type, int receive) {
+void ForceInterface(core::Application& app, int type, int receive) {
   ForceLine(app, 0, type);
   ForceSpeeds(app, receive, kBaud9600);
 }
 
-void POSOP_Click(Application& app, int element) {
+void POSOP_Click(core::Application& app, int element) {
   app.image[REGTYPE_MINOR] = "00";
-  app.image[REGTYPE_EXT2] = ByteToHex(element);
+  app.image[REGTYPE_EXT2] = codecs::ByteToHex(element);
   ForceInterface(app, 1, kAutoOfModels);
 }
 
-void TEROP_Click(Application& app, int element) {
+void TEROP_Click(core::Application& app, int element) {
   app.image[REGTYPE_MINOR] = "01";
   app.image[REGTYPE_EXT1] = "00";
-  app.image[REGTYPE_EXT2] = ByteToHex(element);
+  app.image[REGTYPE_EXT2] = codecs::ByteToHex(element);
   ForceInterface(app, 0, kBaud9600);
 }
 
-void PRNOP_Click(Application& app, int element) {
+void PRNOP_Click(core::Application& app, int element) {
   app.image[REGTYPE_MINOR] = "01";
   app.image[REGTYPE_EXT1] = "01";
-  app.image[REGTYPE_EXT2] = ByteToHex(element);
+  app.image[REGTYPE_EXT2] = codecs::ByteToHex(element);
   ForceInterface(app, 0, kAutoOfModels);
 }
 
-void SECUOP_Click(Application& app, int) {
+void SECUOP_Click(core::Application& app, int) {
   app.image[REGTYPE_MINOR] = "01";
   app.image[REGTYPE_EXT1] = "02";
   ForceInterface(app, 0, kAutoOfModels);
 }
 
 // The lists run from the last digit to the first.
-void StoreDigit(Application& app, const std::array<List, 3>& lists, int index) {
+void StoreDigit(core::Application& app, const std::array<controls::List, 3>& lists, int index) {
   constexpr std::array kFields = {TCIADDBAK_3, TCIADDBAK_2, TCIADDBAK_1};
   const auto place = static_cast<std::size_t>(index);
   app.image[kFields.at(place)] = "0" + lists.at(place).Text();
 }
 
-void ComboTCI_ID_Click(Application& app, int index) {
+void ComboTCI_ID_Click(core::Application& app, int index) {
   StoreDigit(app, app.frmMain.ComboTCI_ID, index);
   ForceLine(app, 0, 0);
   ForceSpeeds(app, kBaud1200, kBaud2400);
@@ -172,18 +173,18 @@ void ComboTCI_ID_Click(Application& app, int index) {
   ForceLine(app, 4, 1);
 }
 
-void ComboUNI_ID_Click(Application& app, int index) {
+void ComboUNI_ID_Click(core::Application& app, int index) {
   StoreDigit(app, app.frmMain.ComboUNI_ID, index);
 }
 
 template <class Lists>
-void Handle(Lists& lists, Handler handler) {
+void Handle(Lists& lists, controls::Handler handler) {
   for (auto& list : lists) list.handler = handler;
 }
 
 }  // namespace
 
-void WireForcingOptions(RegisterOptions& form) {
+void WireForcingOptions(controls::RegisterOptions& form) {
   form.OpDYWAYE.handler = OpDYWAYE_Click;
   form.OpSHARPUP600.handler = OpSHARPUP600_Click;
   form.OpMicrelec.handler = OpMicrelec_Click;
@@ -203,4 +204,4 @@ void WireForcingOptions(RegisterOptions& form) {
   Handle(form.ComboUNI_ID, ComboUNI_ID_Click);
 }
 
-}  // namespace ovl
+}  // namespace ovl::registers

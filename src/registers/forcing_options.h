@@ -3,9 +3,9 @@
 
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::registers {
 
 // Gives these options their handlers.
-void WireForcingOptions(RegisterOptions& form);
+void WireForcingOptions(controls::RegisterOptions& form);
 
-}  // namespace ovl
+}  // namespace ovl::registers

@@ -5,10 +5,10 @@
 
 #include "core/actions.h"
 
-namespace ovl {
+namespace ovl::registers {
 namespace {
 
-using enum FieldId;
+using enum image::FieldId;
 
 constexpr std::size_t kEcrDigits = 7;
 constexpr std::array kEcrFields = {ECRDIGIT_1, ECRDIGIT_2, ECRDIGIT_3, ECRDIGIT_4,
@@ -16,13 +16,13 @@ constexpr std::array kEcrFields = {ECRDIGIT_1, ECRDIGIT_2, ECRDIGIT_3, ECRDIGIT_
 constexpr std::array kIsnFields = {REGDV_TYPE_BAK, REG_GNA_BAK, REG_LNA_BAK, REG_IDNA_BAK,
                                    PCDV_TYPE_BAK,  PC_GNA_BAK,  PC_LNA_BAK,  PC_IDNA_BAK};
 
-void Show(Application& app, List& list, FieldId field) {
-  AssignPosition(app, list, HexToInt(app.image[field]), Raise::kAlways);
+void Show(core::Application& app, controls::List& list, image::FieldId field) {
+  AssignPosition(app, list, codecs::HexToInt(app.image[field]), core::Raise::kAlways);
 }
 
 // A list that stands nowhere has nothing to store.
-void Store(Application& app, const List& list, FieldId field) {
-  if (list.position >= 0) app.image[field] = ByteToHex(list.position);
+void Store(core::Application& app, const controls::List& list, image::FieldId field) {
+  if (list.position >= 0) app.image[field] = codecs::ByteToHex(list.position);
 }
 
 // The leading number of a text with leading zeros; a longer one keeps its digits.
@@ -34,7 +34,7 @@ std::string SevenDigits(std::string_view text) {
   return digits;
 }
 
-void ShowEcrNumber(Application& app) {
+void ShowEcrNumber(core::Application& app) {
   std::string number;
   for (const auto field : kEcrFields)
     number += app.image[field].substr(std::min<std::size_t>(app.image[field].size(), 1), 1);
@@ -42,20 +42,20 @@ void ShowEcrNumber(Application& app) {
 }
 
 // What stood in the window, or was loaded while it was closed, must not be found again by the next opening.
-void ForgetSelections(Application& app) {
+void ForgetSelections(core::Application& app) {
   auto& form = app.frmMicros;
   for (auto* list : {&form.ComboMICROS, &form.ComboMICROSADD, &form.ComboMODE, &form.HandSHKCombo})
     list->position = -1;
   for (auto& list : form.ComboISN) list.position = -1;
 }
 
-void HidePanels(Application& app) {
+void HidePanels(core::Application& app) {
   auto& form = app.frmMicros;
   for (auto* panel : {&form.frmIDN, &form.frmISN, &form.frm3700}) panel->visible = false;
 }
 
 // False for the mode that has no panel.
-bool ArrangePanel(Application& app) {
+bool ArrangePanel(core::Application& app) {
   auto& form = app.frmMicros;
   if (!form.form.visible) ForgetSelections(app);
   HidePanels(app);
@@ -84,23 +84,23 @@ bool ArrangePanel(Application& app) {
 
 }  // namespace
 
-void ShowMicrosPanel(Application& app) {
+void ShowMicrosPanel(core::Application& app) {
   const int mode = app.frmMain.OpMicros.chosen;
   if (mode < 0) return;
-  app.image[REGTYPE_MINOR] = ByteToHex(mode);
+  app.image[REGTYPE_MINOR] = codecs::ByteToHex(mode);
   if (mode == 2) app.image[MICROS_STATUS] = "00";
-  if (ArrangePanel(app) && app.LinkMode != kLinkUpload) ShowForm(app, app.frmMicros.form);
+  if (ArrangePanel(app) && app.LinkMode != core::kLinkUpload) ShowForm(app, app.frmMicros.form);
 }
 
-void OpMicros_Click(Application& app, int) {
+void OpMicros_Click(core::Application& app, int) {
   ShowMicrosPanel(app);
 }
 
-void cmdMicros_Click(Application& app, int) {
+void cmdMicros_Click(core::Application& app, int) {
   if (ArrangePanel(app)) ShowForm(app, app.frmMicros.form);
 }
 
-void cmdSetMicros_Click(Application& app, int) {
+void cmdSetMicros_Click(core::Application& app, int) {
   const auto& form = app.frmMicros;
   Store(app, form.ComboMICROS, DEVICE_INDEX_BAK);
   Store(app, form.ComboMICROSADD, DV_ADDRIND_BAK);
@@ -108,14 +108,14 @@ void cmdSetMicros_Click(Application& app, int) {
   UnloadForm(app, app.frmMicros.form);
 }
 
-void cmdISNset_Click(Application& app, int) {
+void cmdISNset_Click(core::Application& app, int) {
   for (std::size_t list = 0; list < kIsnFields.size(); ++list) {
     Store(app, app.frmMicros.ComboISN[list], kIsnFields[list]);
   }
   UnloadForm(app, app.frmMicros.form);
 }
 
-void CMD3700Set_Click(Application& app, int) {
+void CMD3700Set_Click(core::Application& app, int) {
   Store(app, app.frmMicros.HandSHKCombo, REGTYPE_EXT2);
   const auto number = SevenDigits(app.frmMicros.ECRNumber.text);
   for (std::size_t digit = kEcrFields.size(); digit-- > 0;) {
@@ -124,12 +124,12 @@ void CMD3700Set_Click(Application& app, int) {
   UnloadForm(app, app.frmMicros.form);
 }
 
-void ECRNumber_Leave(Application& app, int) {
+void ECRNumber_Leave(core::Application& app, int) {
   AssignText(app, app.frmMicros.ECRNumber, SevenDigits(app.frmMicros.ECRNumber.text));
 }
 
-void frmMicros_Unload(Application& app, int) {
+void frmMicros_Unload(core::Application& app, int) {
   ForgetSelections(app);
 }
 
-}  // namespace ovl
+}  // namespace ovl::registers

@@ -3,18 +3,18 @@
 
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::registers {
 
 // Arranges the window for the chosen network mode and writes the mode. The window opens unless an upload is
 // being taken in.
-void ShowMicrosPanel(Application& app);
+void ShowMicrosPanel(core::Application& app);
 
-void OpMicros_Click(Application& app, int element);
-void cmdMicros_Click(Application& app, int index);
-void cmdSetMicros_Click(Application& app, int index);
-void cmdISNset_Click(Application& app, int index);
-void CMD3700Set_Click(Application& app, int index);
-void ECRNumber_Leave(Application& app, int index);
-void frmMicros_Unload(Application& app, int index);
+void OpMicros_Click(core::Application& app, int element);
+void cmdMicros_Click(core::Application& app, int index);
+void cmdSetMicros_Click(core::Application& app, int index);
+void cmdISNset_Click(core::Application& app, int index);
+void CMD3700Set_Click(core::Application& app, int index);
+void ECRNumber_Leave(core::Application& app, int index);
+void frmMicros_Unload(core::Application& app, int index);
 
-}  // namespace ovl
+}  // namespace ovl::registers

@@ -8,94 +8,94 @@
 #include "registers/micros.h"
 #include "registers/sub_menus.h"
 
-namespace ovl {
+namespace ovl::registers {
 namespace {
 
-using enum FieldId;
-using Form = RegisterOptions;
+using enum image::FieldId;
+using Form = controls::RegisterOptions;
 
-template <FieldId kField>
-void StoreElement(Application& app, int element) {
-  app.image[kField] = ByteToHex(element);
+template <image::FieldId kField>
+void StoreElement(core::Application& app, int element) {
+  app.image[kField] = codecs::ByteToHex(element);
 }
 
-template <auto kList, FieldId kField>
-void StorePosition(Application& app, int) {
-  app.image[kField] = ByteToHex((app.frmMain.*kList).position);
+template <auto kList, image::FieldId kField>
+void StorePosition(core::Application& app, int) {
+  app.image[kField] = codecs::ByteToHex((app.frmMain.*kList).position);
 }
 
 // Members whose target depends on the firmware. What reads them does not follow in every one.
-void OpNIXDORF_Click(Application& app, int element) {
-  app.image[app.firmware.Number() < 7 ? REGTYPE_MINOR : REGTYPE_EXT2] = ByteToHex(element);
+void OpNIXDORF_Click(core::Application& app, int element) {
+  app.image[app.firmware.Number() < 7 ? REGTYPE_MINOR : REGTYPE_EXT2] = codecs::ByteToHex(element);
 }
 
-void OpRI_QT2_Click(Application& app, int element) {
+void OpRI_QT2_Click(core::Application& app, int element) {
   const bool extended = app.firmware.IsV1400() && app.firmware.Number() >= 7;
-  app.image[extended ? REGTYPE_EXT2 : REGTYPE_MINOR] = ByteToHex(element);
+  app.image[extended ? REGTYPE_EXT2 : REGTYPE_MINOR] = codecs::ByteToHex(element);
 }
 
-void OpSharp_Click(Application& app, int element) {
-  if (!IsKnownFamily(app.firmware.version) || app.firmware.IsV1400()) return;
-  const bool coded = LayoutOf(app.firmware) == Layout::kNewV13;
-  app.image[REGTYPE_MINOR] = ByteToHex(coded ? Select_Sharp_V13(element) : element);
+void OpSharp_Click(core::Application& app, int element) {
+  if (!firmware::IsKnownFamily(app.firmware.version) || app.firmware.IsV1400()) return;
+  const bool coded = image::LayoutOf(app.firmware) == firmware::Layout::kNewV13;
+  app.image[REGTYPE_MINOR] = codecs::ByteToHex(coded ? Select_Sharp_V13(element) : element);
 }
 
-bool HasXmlBoard(const FirmwareId& firmware) {
+bool HasXmlBoard(const firmware::FirmwareId& firmware) {
   return (firmware.version == "V1300" && firmware.Number() >= 27) || firmware.version == "V1310";
 }
 
-void OpGilbraco_Click(Application& app, int element) {
+void OpGilbraco_Click(core::Application& app, int element) {
   if (app.firmware.version != "V1300" && app.firmware.version != "V1310") return;
   ShowGilbarco(app, element);
-  app.image[REGTYPE_MINOR] = ByteToHex(element);
+  app.image[REGTYPE_MINOR] = codecs::ByteToHex(element);
 }
 
 // A main option: its code, then what it shows.
-template <void (*kShow)(Application&, int)>
-void StoreAndShow(Application& app, int element) {
-  app.image[REGTYPE_MINOR] = ByteToHex(element);
+template <void (*kShow)(core::Application&, int)>
+void StoreAndShow(core::Application& app, int element) {
+  app.image[REGTYPE_MINOR] = codecs::ByteToHex(element);
   kShow(app, element);
 }
 
 // Choosing the first chosen element among the first `count` again.
-void ChooseAgain(Application& app, OptionArray& array, int count) {
+void ChooseAgain(core::Application& app, controls::OptionArray& array, int count) {
   if (array.chosen >= 0 && array.chosen < count) array.handler(app, array.chosen);
 }
 
-void Command1_Click(Application& app, int) {
+void Command1_Click(core::Application& app, int) {
   ChooseAgain(app, app.frmMain.CASIOOP, 35);
 }
 
-void SharpCom_Click(Application& app, int) {
+void SharpCom_Click(core::Application& app, int) {
   ChooseAgain(app, app.frmMain.SharpOP, 26);
 }
 
-void Command2_Click(Application& app, int) {
+void Command2_Click(core::Application& app, int) {
   ChooseAgain(app, app.frmMain.TECOP, 11);
 }
 
 // The first four lists stand in the old frame, which can be looked at only.
-void ComboTCPIP_Click(Application& app, int index) {
+void ComboTCPIP_Click(core::Application& app, int index) {
   const int entry = index - 3;
   if (entry < 1) return;
   const auto& list = app.frmMain.ComboTCPIP.at(static_cast<std::size_t>(index));
-  app.image.at(IPADDRESS, entry) = ByteToHex(list.position);
+  app.image.at(IPADDRESS, entry) = codecs::ByteToHex(list.position);
 }
 
-void ComboTCPINFO_Click(Application& app, int index) {
+void ComboTCPINFO_Click(core::Application& app, int index) {
   const int mask = 1 << index;
-  const int flags = HexToInt(app.image[REGTYPE_MINOR]);
+  const int flags = codecs::HexToInt(app.image[REGTYPE_MINOR]);
   const bool on = app.frmMain.ComboTCPINFO.at(static_cast<std::size_t>(index)).position == 1;
-  app.image[REGTYPE_MINOR] = ByteToHex(on ? flags | mask : flags & ~mask);
+  app.image[REGTYPE_MINOR] = codecs::ByteToHex(on ? flags | mask : flags & ~mask);
 }
 
 struct ArrayHandler {
-  OptionArray Form::*array;
-  Handler handler;
+  controls::OptionArray Form::*array;
+  controls::Handler handler;
 };
 
-constexpr Handler kMinor = StoreElement<REGTYPE_MINOR>;
-constexpr Handler kExtension = StoreElement<REGTYPE_EXT2>;
+constexpr controls::Handler kMinor = StoreElement<REGTYPE_MINOR>;
+constexpr controls::Handler kExtension = StoreElement<REGTYPE_EXT2>;
 
 constexpr std::array kArrayHandlers = {
     ArrayHandler{&Form::BleepOP, kMinor},
@@ -137,11 +137,11 @@ constexpr std::array kArrayHandlers = {
 };
 
 struct ListHandler {
-  List Form::*list;
-  Handler handler;
+  controls::List Form::*list;
+  controls::Handler handler;
 };
 
-template <auto kList, FieldId kField>
+template <auto kList, image::FieldId kField>
 constexpr ListHandler Plain() {
   return {kList, StorePosition<kList, kField>};
 }
@@ -159,13 +159,13 @@ constexpr std::array kListHandlers = {
 };
 
 template <class Lists>
-void Handle(Lists& lists, Handler handler) {
+void Handle(Lists& lists, controls::Handler handler) {
   for (auto& list : lists) list.handler = handler;
 }
 
 }  // namespace
 
-void WireRegisterOptions(MainForm& form) {
+void WireRegisterOptions(controls::MainForm& form) {
   for (const auto& row : kArrayHandlers) (form.*row.array).handler = row.handler;
   for (const auto& row : kListHandlers) (form.*row.list).handler = row.handler;
   Handle(form.ComboTCPIP, ComboTCPIP_Click);
@@ -177,16 +177,16 @@ void WireRegisterOptions(MainForm& form) {
   form.cmdMicros.handler = cmdMicros_Click;
 }
 
-void ShowIbm(Application& app, int element) {
+void ShowIbm(core::Application& app, int element) {
   auto& form = app.frmMain;
   struct Companion {
     int element;
-    List* list;
+    controls::List* list;
     bool label;
   };
   const std::array companions = {Companion{0, &form.IBMCombo, true}, Companion{4, &form.RDSCombo, true},
                                  Companion{8, &form.Combo4610TF6, false}};
-  const int position = HexToInt(app.image[REGTYPE_EXT2]);
+  const int position = codecs::HexToInt(app.image[REGTYPE_EXT2]);
   form.IBMFrame.visible = false;
   for (const auto& companion : companions) companion.list->visible = false;
   for (const auto& companion : companions) {
@@ -194,47 +194,49 @@ void ShowIbm(Application& app, int element) {
     form.Label82[0].visible = companion.label;
     form.IBMFrame.visible = true;
     companion.list->visible = true;
-    AssignPosition(app, *companion.list, position, Raise::kAlways);
+    AssignPosition(app, *companion.list, position, core::Raise::kAlways);
   }
 }
 
-void ShowIcl(Application& app, int element) {
+void ShowIcl(core::Application& app, int element) {
   auto& form = app.frmMain;
   const bool newer = element == 1;
-  ChooseElement(app, newer ? form.POS50OP : form.TEAMOP, HexToInt(app.image[REGTYPE_EXT2]));
+  ChooseElement(app, newer ? form.POS50OP : form.TEAMOP, codecs::HexToInt(app.image[REGTYPE_EXT2]));
   form.POS2000.visible = !newer;
   form.POS5000.visible = newer;
 }
 
-void ShowNcr(Application& app, int element) {
+void ShowNcr(core::Application& app, int element) {
   auto& form = app.frmMain;
-  if (element == 1) ChooseElement(app, form.JRNLRCPT_SLP_OP, HexToInt(app.image[REGTYPE_EXT2]));
+  if (element == 1) ChooseElement(app, form.JRNLRCPT_SLP_OP, codecs::HexToInt(app.image[REGTYPE_EXT2]));
   form.NCRFrame.visible = element == 1;
 }
 
-void ShowNixdorf(Application& app, int element) {
+void ShowNixdorf(core::Application& app, int element) {
   auto& form = app.frmMain;
   const bool beetle = element == 0;
-  ChooseElement(app, beetle ? form.BEETLEOp : form.NIXDORF14OPSelect, HexToInt(app.image[REGTYPE_EXT2]));
+  ChooseElement(app, beetle ? form.BEETLEOp : form.NIXDORF14OPSelect,
+                codecs::HexToInt(app.image[REGTYPE_EXT2]));
   form.BEETLEFrm.visible = beetle;
   form.NIXDORFrm.visible = !beetle;
 }
 
-void ApplyUniwellFrame(Application& app, int element) {
+void ApplyUniwellFrame(core::Application& app, int element) {
   constexpr std::array kWithId = {1, 2, 6, 7, 10};
   bool shown = false;
   for (const int model : kWithId) shown = shown || model == element;
   app.frmMain.frmAddress[18].visible = shown;
 }
 
-void ShowGilbarco(Application& app, int element) {
+void ShowGilbarco(core::Application& app, int element) {
   if (!HasXmlBoard(app.firmware)) return;
   auto& form = app.frmMain;
   const bool xml = element == 5;
   form.Label84.visible = xml;
   form.Label85.visible = xml;
   form.ComboXML.visible = xml;
-  if (xml) AssignPosition(app, form.ComboXML, HexToInt(app.image[REGTYPE_EXT2]), Raise::kAlways);
+  if (xml)
+    AssignPosition(app, form.ComboXML, codecs::HexToInt(app.image[REGTYPE_EXT2]), core::Raise::kAlways);
 }
 
 int Select_Sharp_V13(int element) {
@@ -242,4 +244,4 @@ int Select_Sharp_V13(int element) {
   return kCodes.at(static_cast<std::size_t>(element));
 }
 
-}  // namespace ovl
+}  // namespace ovl::registers

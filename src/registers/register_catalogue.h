@@ -5,15 +5,15 @@
 
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::registers {
 
 // Marks every key absent.
-void ResetRegisterIndexes(Application& app);
+void ResetRegisterIndexes(core::Application& app);
 
 // Fills ComboReg and the indexes for the running firmware; a pair without a list leaves the list empty.
-void BuildRegisterList(Application& app);
+void BuildRegisterList(core::Application& app);
 
 // The key's position in the current list, -1 if the list lacks it.
-int RegisterIndexOf(const Application& app, std::string_view key);
+int RegisterIndexOf(const core::Application& app, std::string_view key);
 
-}  // namespace ovl
+}  // namespace ovl::registers

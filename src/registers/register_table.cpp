@@ -4,12 +4,12 @@
 
 #include "registers/assignments.h"
 
-namespace ovl {
+namespace ovl::registers {
 namespace {
 
-using enum FieldId;
+using enum image::FieldId;
 using Row = RegisterRow;
-using Form = RegisterOptions;
+using Form = controls::RegisterOptions;
 
 constexpr FamilySet k4 = kFamily1400;
 constexpr FamilySet k3 = kFamily1300;
@@ -27,17 +27,17 @@ constexpr int kModels = 7;
 
 // One option array, or one list, from one byte.
 constexpr Row Options(std::string_view key, FamilySet families, int frame, std::string_view title,
-                      OptionArray Form::*array, FieldId from = REGTYPE_MINOR) {
+                      controls::OptionArray Form::*array, image::FieldId from = REGTYPE_MINOR) {
   return {key, families, frame, title, AssignArray, array, nullptr, from};
 }
 
 constexpr Row Selection(std::string_view key, FamilySet families, int frame, std::string_view title,
-                        List Form::*list, FieldId from = REGTYPE_MINOR) {
+                        controls::List Form::*list, image::FieldId from = REGTYPE_MINOR) {
   return {key, families, frame, title, AssignList, nullptr, list, from};
 }
 
 constexpr Row By(std::string_view key, FamilySet families, int frame, std::string_view title,
-                 bool (*assign)(Application&, const Row&)) {
+                 bool (*assign)(core::Application&, const Row&)) {
   return {key, families, frame, title, assign};
 }
 
@@ -152,4 +152,4 @@ std::span<const RegisterRow> RegisterTable() {
   return kRegisters;
 }
 
-}  // namespace ovl
+}  // namespace ovl::registers

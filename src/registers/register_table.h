@@ -7,7 +7,7 @@
 
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::registers {
 
 // Families, as bits.
 using FamilySet = unsigned;
@@ -28,12 +28,12 @@ struct RegisterRow {
   std::string_view title;  // empty: the register's name in the list
 
   // Assigns the frame's selections; false: a stored byte has no control, and the frame stays hidden.
-  bool (*assign)(Application&, const RegisterRow&);
+  bool (*assign)(core::Application&, const RegisterRow&);
 
   // For the assignments that are one control from one byte.
-  OptionArray RegisterOptions::*array = nullptr;
-  List RegisterOptions::*list = nullptr;
-  FieldId from = FieldId::REGTYPE_MINOR;
+  controls::OptionArray controls::RegisterOptions::*array = nullptr;
+  controls::List controls::RegisterOptions::*list = nullptr;
+  image::FieldId from = image::FieldId::REGTYPE_MINOR;
 
   int first_release = 0;
   int last_release = kAnyRelease;
@@ -41,4 +41,4 @@ struct RegisterRow {
 
 std::span<const RegisterRow> RegisterTable();
 
-}  // namespace ovl
+}  // namespace ovl::registers

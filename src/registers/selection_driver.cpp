@@ -12,14 +12,14 @@
 #include "registers/register_catalogue.h"
 #include "registers/register_table.h"
 
-namespace ovl {
+namespace ovl::registers {
 namespace {
 
 // Takes the register's own fields or, the first time, the whole image, and refreshes what shows them.
-void TakeDefaultImage(Application& app) {
+void TakeDefaultImage(core::Application& app) {
   app.StreamText.clear();
   DefaultImagePath(app);
-  app.StreamText = ReadJoined(app.CurrentFilePath);
+  app.StreamText = files::ReadJoined(app.CurrentFilePath);
   const bool first = !app.ImageTouched;
   app.ImageTouched = true;
   PrepareCapabilities(app);
@@ -30,7 +30,7 @@ void TakeDefaultImage(Application& app) {
 }
 
 // The first row of the running family and release whose key stands at the list's position.
-const RegisterRow* RowOfSelected(const Application& app) {
+const RegisterRow* RowOfSelected(const core::Application& app) {
   const int position = app.frmMain.ComboReg.position;
   if (position < 0) return nullptr;
   const auto family = FamilyOf(app.firmware.version);
@@ -44,25 +44,25 @@ const RegisterRow* RowOfSelected(const Application& app) {
 
 }  // namespace
 
-std::string Check_Slash_Comma(const Application& app) {
+std::string Check_Slash_Comma(const core::Application& app) {
   auto name = app.frmMain.ComboReg.Text();
   std::replace(name.begin(), name.end(), '/', ' ');
   std::replace(name.begin(), name.end(), ',', ' ');
   return name;
 }
 
-void DefaultImagePath(Application& app) {
+void DefaultImagePath(core::Application& app) {
   const auto& firmware = app.firmware;
-  if (!IsKnownFamily(firmware.version)) return;
+  if (!firmware::IsKnownFamily(firmware.version)) return;
   const auto name = firmware.IsV1400() ? Check_Slash_Comma(app) : app.frmMain.ComboReg.Text();
   if (name.find_first_of("/\\") != std::string::npos) {
-    throw Failure(name, std::make_error_code(std::errc::invalid_argument).message());
+    throw core::Failure(name, std::make_error_code(std::errc::invalid_argument).message());
   }
-  app.CurrentFilePath = PathBelow(app.platform.program_folder,
-                                  "\\" + firmware.version + "\\" + firmware.release + "\\" + name + ".bin");
+  app.CurrentFilePath = files::PathBelow(
+      app.platform.program_folder, "\\" + firmware.version + "\\" + firmware.release + "\\" + name + ".bin");
 }
 
-void RegisterSelected(Application& app, int) {
+void RegisterSelected(core::Application& app, int) {
   if (app.UploadApplying) {
     app.UploadApplying = false;
     return;
@@ -71,23 +71,23 @@ void RegisterSelected(Application& app, int) {
   if (!app.picks_under_way.insert(position).second) return;
   try {
     TakeDefaultImage(app);
-  } catch (const Failure& failure) {
+  } catch (const core::Failure& failure) {
     app.StatusNote = failure.Subject() + ": " + failure.what();
-    MsgBox(app, Box::kNoDefaultImage, failure.what());
+    MsgBox(app, core::Box::kNoDefaultImage, failure.what());
     EndProgram(app);
   }
   app.picks_under_way.erase(position);
 }
 
-void ApplyRegisterSelection(Application& app) {
-  AssignPosition(app, app.frmMain.ComboReg, HexToInt(app.image[FieldId::REGTYPE]));
+void ApplyRegisterSelection(core::Application& app) {
+  AssignPosition(app, app.frmMain.ComboReg, codecs::HexToInt(app.image[image::FieldId::REGTYPE]));
   app.UploadApplying = false;
   ShowRegisterOptions(app);
 }
 
 namespace {
 
-void ShowOptionFrame(Application& app) {
+void ShowOptionFrame(core::Application& app) {
   auto& form = app.frmMain;
   for (auto& frame : form.frmAddress) frame.visible = false;
   const auto* row = RowOfSelected(app);
@@ -99,7 +99,7 @@ void ShowOptionFrame(Application& app) {
 }
 
 // A window that a register opened must not write into another one's options.
-void CloseForeignWindows(Application& app) {
+void CloseForeignWindows(core::Application& app) {
   constexpr std::array<std::size_t, 3> kWithSubMenu = {34, 46, 48};
   constexpr std::size_t kMicros = 9;
   const auto& frames = app.frmMain.frmAddress;
@@ -111,9 +111,9 @@ void CloseForeignWindows(Application& app) {
 
 }  // namespace
 
-void ShowRegisterOptions(Application& app) {
+void ShowRegisterOptions(core::Application& app) {
   ShowOptionFrame(app);
   CloseForeignWindows(app);
 }
 
-}  // namespace ovl
+}  // namespace ovl::registers

@@ -5,25 +5,26 @@
 
 #include "core/actions.h"
 
-namespace ovl {
+namespace ovl::registers {
 namespace {
 
-using enum FieldId;
+using enum image::FieldId;
 
-void HideFrames(SubMenuForm& form) {
+void HideFrames(controls::SubMenuForm& form) {
   for (auto* frame : {&form.Frame1, &form.Frame2, &form.SharpSubMenuFrame, &form.UP3000Frm})
     frame->visible = false;
 }
 
-void ShowModel(SubMenuForm& form, const std::string& title, const std::string& model) {
+void ShowModel(controls::SubMenuForm& form, const std::string& title, const std::string& model) {
   form.Frame2.visible = true;
   form.Frame2.caption = title;
   form.Combo1[0].items = {model};
   form.Combo1[0].position = 0;
 }
 
-void ShowMode(Application& app) {
-  AssignPosition(app, app.FrmSubMenu.Combo1[1], HexToInt(app.image[REGTYPE_EXT2]), Raise::kAlways);
+void ShowMode(core::Application& app) {
+  AssignPosition(app, app.FrmSubMenu.Combo1[1], codecs::HexToInt(app.image[REGTYPE_EXT2]),
+                 core::Raise::kAlways);
 }
 
 struct CasioModel {
@@ -59,7 +60,7 @@ auto ModelOf(const Models& models, int element) {
                       [&](const auto& model) { return model.element == element; });
 }
 
-void ShowOptions(Application& app, const SharpModel& model) {
+void ShowOptions(core::Application& app, const SharpModel& model) {
   auto& form = app.FrmSubMenu;
   form.SharpSubMenuFrame.visible = true;
   form.SharpSubMenuFrame.caption = model.title;
@@ -68,10 +69,10 @@ void ShowOptions(Application& app, const SharpModel& model) {
     element.visible = *model.options[option] != '\0';
     if (element.visible) element.caption = model.options[option];
   }
-  ChooseElement(app, form.Option1, HexToInt(app.image[REGTYPE_EXT2]));
+  ChooseElement(app, form.Option1, codecs::HexToInt(app.image[REGTYPE_EXT2]));
 }
 
-void OpenOrClose(Application& app, bool has_menu) {
+void OpenOrClose(core::Application& app, bool has_menu) {
   if (has_menu) {
     ShowForm(app, app.FrmSubMenu.form);
   } else {
@@ -79,31 +80,31 @@ void OpenOrClose(Application& app, bool has_menu) {
   }
 }
 
-void Combo1_Click(Application& app, int index) {
-  if (index == 1) app.image[REGTYPE_EXT2] = ByteToHex(app.FrmSubMenu.Combo1[1].position);
+void Combo1_Click(core::Application& app, int index) {
+  if (index == 1) app.image[REGTYPE_EXT2] = codecs::ByteToHex(app.FrmSubMenu.Combo1[1].position);
 }
 
-void Combo2_Click(Application& app, int) {
-  app.image[REGTYPE_EXT2] = ByteToHex(app.FrmSubMenu.Combo2.position);
+void Combo2_Click(core::Application& app, int) {
+  app.image[REGTYPE_EXT2] = codecs::ByteToHex(app.FrmSubMenu.Combo2.position);
 }
 
-void Option1_Click(Application& app, int element) {
-  app.image[REGTYPE_EXT2] = ByteToHex(element);
+void Option1_Click(core::Application& app, int element) {
+  app.image[REGTYPE_EXT2] = codecs::ByteToHex(element);
 }
 
-void F1OP_Click(Application& app, int element) {
-  app.image[REGTYPE_EXT1] = ByteToHex(element);
+void F1OP_Click(core::Application& app, int element) {
+  app.image[REGTYPE_EXT1] = codecs::ByteToHex(element);
   app.FrmSubMenu.Frame2.visible = element == 0;
 }
 
 }  // namespace
 
-bool ArrangeCasioSubmenu(Application& app, int element) {
+bool ArrangeCasioSubmenu(core::Application& app, int element) {
   auto& form = app.FrmSubMenu;
   const auto model = ModelOf(kCasioModels, element);
   app.frmMain.Command1.enabled = model != kCasioModels.end();
   form.form.caption = "CASIO SUBMENU";
-  const int port = HexToInt(app.image[REGTYPE_EXT1]);
+  const int port = codecs::HexToInt(app.image[REGTYPE_EXT1]);
   if (!ChooseElement(app, form.F1OP, port)) form.F1OP.chosen = -1;
   ShowMode(app);
   if (model == kCasioModels.end()) return false;
@@ -117,7 +118,7 @@ bool ArrangeCasioSubmenu(Application& app, int element) {
   return true;
 }
 
-bool ArrangeSharpSubmenu(Application& app, int element) {
+bool ArrangeSharpSubmenu(core::Application& app, int element) {
   auto& form = app.FrmSubMenu;
   const auto model = ModelOf(kSharpModels, element);
   app.frmMain.SharpCom.enabled = model != kSharpModels.end();
@@ -131,11 +132,11 @@ bool ArrangeSharpSubmenu(Application& app, int element) {
   }
   form.UP3000Frm.visible = true;
   form.UP3000Frm.caption = model->title;
-  AssignPosition(app, form.Combo2, HexToInt(app.image[REGTYPE_EXT2]), Raise::kAlways);
+  AssignPosition(app, form.Combo2, codecs::HexToInt(app.image[REGTYPE_EXT2]), core::Raise::kAlways);
   return true;
 }
 
-bool ArrangeTecSubmenu(Application& app, int element) {
+bool ArrangeTecSubmenu(core::Application& app, int element) {
   auto& form = app.FrmSubMenu;
   const bool has_menu = element == kTecSlipPrinter;
   app.frmMain.Command2.enabled = has_menu;
@@ -148,23 +149,23 @@ bool ArrangeTecSubmenu(Application& app, int element) {
   return true;
 }
 
-void ApplyCasioSubmenu(Application& app, int element) {
+void ApplyCasioSubmenu(core::Application& app, int element) {
   OpenOrClose(app, ArrangeCasioSubmenu(app, element));
 }
 
-void ApplySharpSubmenu(Application& app, int element) {
+void ApplySharpSubmenu(core::Application& app, int element) {
   OpenOrClose(app, ArrangeSharpSubmenu(app, element));
 }
 
-void ApplyTecSubmenu(Application& app, int element) {
+void ApplyTecSubmenu(core::Application& app, int element) {
   OpenOrClose(app, ArrangeTecSubmenu(app, element));
 }
 
-void WireSubMenu(SubMenuForm& form) {
+void WireSubMenu(controls::SubMenuForm& form) {
   for (auto& list : form.Combo1) list.handler = Combo1_Click;
   form.Combo2.handler = Combo2_Click;
   form.Option1.handler = Option1_Click;
   form.F1OP.handler = F1OP_Click;
 }
 
-}  // namespace ovl
+}  // namespace ovl::registers

@@ -3,14 +3,14 @@
 
 #include "core/gate.h"
 
-namespace ovl {
+namespace ovl::start {
 
 // Builds the Version menu, sets all handlers and the order of the apply routines. Once for each application
 // object.
-void WireProgram(Application& app);
+void WireProgram(core::Application& app);
 
 // Wires the program and runs the start: settings store, register list, first register. The platform record
 // must be filled. kEnded: the program told why, and is over.
-Outcome StartProgram(Application& app);
+core::Outcome StartProgram(core::Application& app);
 
-}  // namespace ovl
+}  // namespace ovl::start

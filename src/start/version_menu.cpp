@@ -6,14 +6,14 @@
 #include "core/settings.h"
 #include "firmware/variants.h"
 
-namespace ovl {
+namespace ovl::start {
 namespace {
 
-std::string Joined(const FirmwareEntry& entry) {
+std::string Joined(const firmware::FirmwareEntry& entry) {
   return std::string(entry.version).append(entry.release);
 }
 
-VersionFamily& FamilyOf(MainForm& form, const FirmwareEntry& entry) {
+controls::VersionFamily& FamilyOf(controls::MainForm& form, const firmware::FirmwareEntry& entry) {
   auto& families = form.version_families;
   if (families.empty() || families.back().parent.caption != entry.version) {
     families.emplace_back().parent.caption = entry.version;
@@ -23,9 +23,9 @@ VersionFamily& FamilyOf(MainForm& form, const FirmwareEntry& entry) {
 
 }  // namespace
 
-void BuildVersionMenu(Application& app) {
+void BuildVersionMenu(core::Application& app) {
   auto& form = app.frmMain;
-  for (const auto& entry : FirmwareTable()) {
+  for (const auto& entry : firmware::FirmwareTable()) {
     if (!entry.in_menu) continue;
     FamilyOf(form, entry).items.push_back(form.version_items.size());
     auto& item = form.version_items.emplace_back();
@@ -34,52 +34,56 @@ void BuildVersionMenu(Application& app) {
     item.handler = VersionItem_Click;
   }
   for (auto& item : form.version_items) {
-    app.registry.Add(form.form, Joined(FirmwareTable()[static_cast<std::size_t>(item.index)]) + "mnu", item);
+    app.registry.Add(form.form,
+                     Joined(firmware::FirmwareTable()[static_cast<std::size_t>(item.index)]) + "mnu", item);
   }
   for (auto& family : form.version_families) {
     app.registry.Add(form.form, family.parent.caption + "mnu", family.parent);
   }
 }
 
-void MarkFirmwareMenu(Application& app, bool mark) {
-  const auto table = FirmwareTable();
-  const auto found = std::find_if(table.begin(), table.end(),
-                                  [&](const FirmwareEntry& entry) { return entry.Id() == app.firmware; });
+void MarkFirmwareMenu(core::Application& app, bool mark) {
+  const auto table = firmware::FirmwareTable();
+  const auto found = std::find_if(table.begin(), table.end(), [&](const firmware::FirmwareEntry& entry) {
+    return entry.Id() == app.firmware;
+  });
   if (found == table.end()) return;
   app.FirmwareMark[Joined(*found)] = mark;
   if (!found->in_menu) return;
   app.frmMain.version_items[static_cast<std::size_t>(found - table.begin())].checked = true;
 }
 
-void ClearFirmwareMarks(Application& app) {
-  for (const auto& entry : FirmwareTable()) app.FirmwareMark[Joined(entry)] = false;
+void ClearFirmwareMarks(core::Application& app) {
+  for (const auto& entry : firmware::FirmwareTable()) app.FirmwareMark[Joined(entry)] = false;
 }
 
-void StoreFirmware(Application& app) {
-  WriteSetting(app, SettingRoot::kLocalMachine, kSettingsKey, kVersionValue, app.firmware.version);
-  WriteSetting(app, SettingRoot::kLocalMachine, kSettingsKey, kReleaseValue, app.firmware.release);
+void StoreFirmware(core::Application& app) {
+  WriteSetting(app, core::SettingRoot::kLocalMachine, core::kSettingsKey, core::kVersionValue,
+               app.firmware.version);
+  WriteSetting(app, core::SettingRoot::kLocalMachine, core::kSettingsKey, core::kReleaseValue,
+               app.firmware.release);
 }
 
-void SelectFirmware(Application& app, const FirmwareEntry& entry) {
+void SelectFirmware(core::Application& app, const firmware::FirmwareEntry& entry) {
   app.FirmwareMark[Joined(entry)] = true;
   app.firmware = entry.Id();
   StoreFirmware(app);
-  MsgBox(app, Box::kFirmwareChosen, Joined(entry));
+  MsgBox(app, core::Box::kFirmwareChosen, Joined(entry));
   EndProgram(app);
 }
 
-void VersionItem_Click(Application& app, int item) {
-  const auto& entry = FirmwareTable()[static_cast<std::size_t>(item)];
+void VersionItem_Click(core::Application& app, int item) {
+  const auto& entry = firmware::FirmwareTable()[static_cast<std::size_t>(item)];
   if (app.FirmwareMark[Joined(entry)]) return;
   ClearFirmwareMarks(app);
   SelectFirmware(app, entry);
 }
 
-void ApplyCompactFirmware(Application& app) {
+void ApplyCompactFirmware(core::Application& app) {
   if (app.firmware.version != "V1410") return;
   app.firmware.version = "V1400";
   if (app.firmware.release == "R1") app.firmware.release = "R7";
-  ApplyCompactForm(app.frmMain);
+  firmware::ApplyCompactForm(app.frmMain);
 }
 
-}  // namespace ovl
+}  // namespace ovl::start

@@ -58,7 +58,7 @@ void Talk(Harness& program, Partner& partner) {
 }
 
 void HoldRemoteMode(Harness& program, Partner& partner) {
-  ASSERT_EQ(program.Click("CmdUpDow(4)"), Outcome::kDone);
+  ASSERT_EQ(program.Click("CmdUpDow(4)"), core::Outcome::kDone);
   Talk(program, partner);
   program.Tick(program.app.frmMain.General_timer);
   ASSERT_TRUE(program.app.RemoteHeld);
@@ -73,13 +73,13 @@ void Transfer(Harness& program, Partner& partner, const char* button, const char
   program.Click("frmOK_buttom.Command1");
 }
 
-void ChangeEveryTab(const FirmwareId& firmware) {
+void ChangeEveryTab(const firmware::FirmwareId& firmware) {
   Harness program(firmware);
-  WriteDefaultImages(program.folder.Path().string(), firmware);
-  ASSERT_EQ(program.Start(), Outcome::kDone);
+  images::WriteDefaultImages(program.folder.Path().string(), firmware);
+  ASSERT_EQ(program.Start(), core::Outcome::kDone);
   const int names = static_cast<int>(program.app.frmMain.ComboReg.items.size());
   for (int position = 0; position < names; ++position) {
-    ASSERT_EQ(program.Pick("ComboReg", position), Outcome::kDone);
+    ASSERT_EQ(program.Pick("ComboReg", position), core::Outcome::kDone);
   }
   Partner partner(firmware.Joined());
   program.Click("cmdConnect");
@@ -88,7 +88,7 @@ void ChangeEveryTab(const FirmwareId& firmware) {
   const auto uploaded = program.app.image;
   Transfer(program, partner, "CmdUpDow(1)", "Download Completed.");
   const auto untouched = partner.Image();
-  EXPECT_TRUE(Differences(uploaded, program.app.image, firmware).empty());
+  EXPECT_TRUE(image::Differences(uploaded, program.app.image, firmware).empty());
 
   // The field that each pick changes, by the panel's own account.
   const std::vector<std::tuple<const char*, int, std::string>> picks = {
@@ -98,10 +98,10 @@ void ChangeEveryTab(const FirmwareId& firmware) {
       {"ComboTD(2)", 2, "DATE_FORMAT_BAK"},      {"OpDVR", 1, "HIST_REG"}};
   std::set<std::string> expected, changed;
   for (const auto& [control, position, field] : picks) {
-    ASSERT_EQ(program.Pick(control, position), Outcome::kDone) << control;
+    ASSERT_EQ(program.Pick(control, position), core::Outcome::kDone) << control;
     expected.insert(field);
   }
-  for (const auto& difference : Differences(uploaded, program.app.image, firmware))
+  for (const auto& difference : image::Differences(uploaded, program.app.image, firmware))
     changed.insert(difference.name);
   EXPECT_EQ(changed, expected);
 
@@ -117,8 +117,8 @@ void ChangeEveryTab(const FirmwareId& firmware) {
 }
 
 TEST(EveryFirmware, AChangeOnEveryTabReachesTheUnitAndNothingElse) {
-  for (const auto& entry : FirmwareTable()) {
-    const FirmwareId firmware{std::string(entry.version), std::string(entry.release)};
+  for (const auto& entry : firmware::FirmwareTable()) {
+    const firmware::FirmwareId firmware{std::string(entry.version), std::string(entry.release)};
     SCOPED_TRACE(firmware.Joined());
     if (entry.in_menu) ChangeEveryTab(firmware);
   }
@@ -126,7 +126,7 @@ TEST(EveryFirmware, AChangeOnEveryTabReachesTheUnitAndNothingElse) {
 
 // From the start of the program to the end of what the button begins in remote mode; the clock is set.
 void Converse(Harness& program, Partner& partner, const char* button) {
-  ASSERT_EQ(program.Start(), Outcome::kDone);
+  ASSERT_EQ(program.Start(), core::Outcome::kDone);
   program.now = {2026, 3, 5, 14, 7, 9};
   program.Tick(program.app.frmMain.Timer, 11);
   program.Click("cmdConnect");

@@ -8,54 +8,55 @@
 namespace ovl::testing {
 namespace {
 
-void AddFace(Digest& digest, const Face& face) {
+void AddFace(Digest& digest, const controls::ControlState& face) {
   digest.Add(face.caption);
   digest.Add((face.visible ? 1 : 0) + (face.enabled ? 2 : 0) + 4 * face.index);
 }
 
 // What a kind of control has beside its face.
-void AddRest(Digest&, const Face*) {}
-void AddRest(Digest& digest, const CheckBox* box) {
+void AddRest(Digest&, const controls::ControlState*) {}
+void AddRest(Digest& digest, const controls::CheckBox* box) {
   digest.Add(box->checked ? 1 : 0);
 }
-void AddRest(Digest& digest, const MenuItem* item) {
+void AddRest(Digest& digest, const controls::MenuItem* item) {
   digest.Add(item->checked ? 1 : 0);
 }
-void AddRest(Digest& digest, const List* list) {
+void AddRest(Digest& digest, const controls::List* list) {
   for (const auto& item : list->items) digest.Add(item);
   digest.Add(list->position);
 }
-void AddRest(Digest& digest, const OptionArray* array) {
+void AddRest(Digest& digest, const controls::OptionArray* array) {
   digest.Add(array->chosen);
 }
-void AddRest(Digest& digest, const TextBox* box) {
+void AddRest(Digest& digest, const controls::TextBox* box) {
   digest.Add(box->text);
   digest.Add(static_cast<std::int64_t>(box->max_length));
   digest.Add((box->read_only ? 1 : 0) + (box->multi_line ? 2 : 0));
 }
-void AddRest(Digest& digest, const ProgressBar* bar) {
+void AddRest(Digest& digest, const controls::ProgressBar* bar) {
   digest.Add(bar->value);
   digest.Add(bar->maximum);
   digest.Add(bar->text);
 }
-void AddRest(Digest& digest, const Timer* timer) {
+void AddRest(Digest& digest, const controls::Timer* timer) {
   digest.Add(timer->interval);
   digest.Add(timer->starts);
 }
-void AddRest(Digest& digest, const Tabs* tabs) {
+void AddRest(Digest& digest, const controls::Tabs* tabs) {
   digest.Add(tabs->current);
 }
-void AddRest(Digest& digest, const Form* form) {
+void AddRest(Digest& digest, const controls::Form* form) {
   digest.Add((form->loaded ? 1 : 0) + (form->top_most ? 2 : 0));
   digest.Add(form->focus_requests);
 }
 
-void AddControl(Digest& digest, const ControlRef& control) {
-  AddFace(digest, FaceOf(control));
-  if (std::holds_alternative<OptionElement>(control)) return;
+void AddControl(Digest& digest, const controls::ControlRef& control) {
+  AddFace(digest, controls::StateOf(control));
+  if (std::holds_alternative<controls::OptionElement>(control)) return;
   std::visit(
       [&](const auto& held) {
-        if constexpr (!std::is_same_v<std::decay_t<decltype(held)>, OptionElement>) AddRest(digest, held);
+        if constexpr (!std::is_same_v<std::decay_t<decltype(held)>, controls::OptionElement>)
+          AddRest(digest, held);
       },
       control);
 }
@@ -66,7 +67,7 @@ std::string WithoutFolder(std::string text, const std::string& folder) {
   return at == std::string::npos ? text : text.erase(at, folder.size());
 }
 
-void AddLink(Digest& digest, const Application& app) {
+void AddLink(Digest& digest, const core::Application& app) {
   for (const std::int64_t number :
        {std::int64_t{app.LinkMode}, std::int64_t{app.FrameState}, std::int64_t{app.ProgressChars},
         std::int64_t{app.ProgressValue}, std::int64_t{app.HandcheckCount}, std::int64_t{app.OperatingCount},
@@ -107,10 +108,10 @@ void AddLink(Digest& digest, const Application& app) {
     digest.Add(WithoutFolder(*text, app.platform.program_folder));
 }
 
-void AddImage(Digest& digest, const ConfigImage& image) {
-  for (std::size_t field = 0; field < kFieldCount; ++field) {
-    const auto id = static_cast<FieldId>(field);
-    for (int entry = 1; entry <= EntryCount(id); ++entry) digest.Add(image.at(id, entry));
+void AddImage(Digest& digest, const image::ConfigImage& image) {
+  for (std::size_t field = 0; field < image::kFieldCount; ++field) {
+    const auto id = static_cast<image::FieldId>(field);
+    for (int entry = 1; entry <= image::EntryCount(id); ++entry) digest.Add(image.at(id, entry));
   }
 }
 
@@ -126,7 +127,7 @@ void Digest::Add(std::string_view text) {
   Add(static_cast<std::int64_t>(std::hash<std::string_view>()(text)));
 }
 
-void Digest::AddState(const Application& app) {
+void Digest::AddState(const core::Application& app) {
   AddImage(*this, app.image);
   AddLink(*this, app);
   for (const auto& named : app.registry.All()) AddControl(*this, named.control);

@@ -15,7 +15,7 @@ class Digest {
   void Add(std::string_view text);
   void Add(std::int64_t number);
   // The image, all state variables, and the state of every control and form.
-  void AddState(const Application& app);
+  void AddState(const core::Application& app);
 
   // Sixteen hexadecimal digits.
   std::string Text() const;

@@ -24,25 +24,25 @@ Thing TakeFrom(std::deque<Thing>& things) {
 }
 
 // Where the fixed section begins, with the register's code.
-std::size_t FixedOf(const FirmwareId& firmware) {
+std::size_t FixedOf(const firmware::FirmwareId& firmware) {
   return firmware.IsV1400() ? 64 : 96;
 }
 
-std::string PatternDigits(const FirmwareId& firmware, int seed, int register_code) {
+std::string PatternDigits(const firmware::FirmwareId& firmware, int seed, int register_code) {
   const auto size = DigitsOfImage(firmware);
   std::string digits;
-  for (int byte = seed; digits.size() < size; byte = (byte * 5 + 3) % 256) digits += ByteToHex(byte);
+  for (int byte = seed; digits.size() < size; byte = (byte * 5 + 3) % 256) digits += codecs::ByteToHex(byte);
   if (!firmware.IsV1400()) {
     const bool without_ip = firmware.version == "V1324" && firmware.Number() < 19;
     const std::size_t used = size != 4066 ? 160 : (without_ip ? 146 : 154);
     digits.replace(64, 32, 32, '0');
     digits.replace(96 + used, 192 - used, 192 - used, '0');
   }
-  return digits.replace(FixedOf(firmware), 2, ByteToHex(register_code));
+  return digits.replace(FixedOf(firmware), 2, codecs::ByteToHex(register_code));
 }
 
 // What the panels show after a load, in the form in which they would store it themselves.
-void PutInOrder(const FirmwareId& firmware, std::string& digits) {
+void PutInOrder(const firmware::FirmwareId& firmware, std::string& digits) {
   const bool v1400 = firmware.IsV1400();
   const std::size_t size = digits.size();
   const std::size_t fixed = FixedOf(firmware) + ((v1400 ? size >= 4322 : size == 4098) ? 36 : 32);
@@ -54,15 +54,16 @@ void PutInOrder(const FirmwareId& firmware, std::string& digits) {
   const std::string rest(72, '0');
   for (std::size_t shown = 0; shown < 2; ++shown) {
     put(fixed + 2 + shown * record, v1400 ? "01FF0000" : "01FF00");
-    put(strings + 82 + shown * slot, "01" + std::string(v1400 ? 20 : 12, '1') + TextToCountedHex(text));
-    put(strings + 82 + 24 * slot + shown * 84, "01" + TextToHex("ALARM") + rest);
+    put(strings + 82 + shown * slot,
+        "01" + std::string(v1400 ? 20 : 12, '1') + codecs::TextToCountedHex(text));
+    put(strings + 82 + 24 * slot + shown * 84, "01" + codecs::TextToHex("ALARM") + rest);
   }
-  put(strings, TextToHex("TITLE") + rest);
+  put(strings, codecs::TextToHex("TITLE") + rest);
 }
 
 }  // namespace
 
-std::size_t DigitsOfImage(const FirmwareId& firmware) {
+std::size_t DigitsOfImage(const firmware::FirmwareId& firmware) {
   const int release = firmware.Number();
   if (firmware.IsV1400()) return release < 6 ? 4272 : release == 6 ? 4304 : release == 7 ? 4322 : 4324;
   const int first_new = firmware.version == "V1300" ? 26 : firmware.version == "V1324" ? 25 : 0;
@@ -92,17 +93,17 @@ Locked::~Locked() {
   fs::permissions(path_, fs::perms::owner_all, ignored);
 }
 
-std::string RawPatternStream(const FirmwareId& firmware, int seed, int register_code) {
-  return BlockRecords(PatternDigits(firmware, seed, register_code), WriteRegion(firmware));
+std::string RawPatternStream(const firmware::FirmwareId& firmware, int seed, int register_code) {
+  return image::BlockRecords(PatternDigits(firmware, seed, register_code), image::WriteRegion(firmware));
 }
 
-std::string PatternStream(const FirmwareId& firmware, int seed, int register_code) {
+std::string PatternStream(const firmware::FirmwareId& firmware, int seed, int register_code) {
   auto digits = PatternDigits(firmware, seed, register_code);
   PutInOrder(firmware, digits);
-  return BlockRecords(digits, WriteRegion(firmware));
+  return image::BlockRecords(digits, image::WriteRegion(firmware));
 }
 
-Harness::Harness(const FirmwareId& firmware, const std::vector<std::string>& further_registers) {
+Harness::Harness(const firmware::FirmwareId& firmware, const std::vector<std::string>& further_registers) {
   settings["Version"] = firmware.version;
   settings["Release"] = firmware.release;
   const auto images = folder.Path() / firmware.version / firmware.release;
@@ -111,7 +112,7 @@ Harness::Harness(const FirmwareId& firmware, const std::vector<std::string>& fur
   names.insert(names.begin(), "GENERIC");
   int code = 0;
   for (const auto& name : names) {
-    WriteWhole((images / (name + ".bin")).string(), PatternStream(firmware, code + 1, code) + "\r\n");
+    files::WriteWhole((images / (name + ".bin")).string(), PatternStream(firmware, code + 1, code) + "\r\n");
     ++code;
   }
   FillPlatform();
@@ -120,13 +121,13 @@ Harness::Harness(const FirmwareId& firmware, const std::vector<std::string>& fur
 void Harness::FillPlatform() {
   auto& platform = app.platform;
   platform.program_folder = folder.Path().string();
-  platform.show_message = [this](const MessageBox& box) { boxes.push_back(box); };
-  platform.ask_file = [this](const FileDialog& dialog) -> std::optional<FileAnswer> {
+  platform.show_message = [this](const core::MessageBox& box) { boxes.push_back(box); };
+  platform.ask_file = [this](const core::FileDialog& dialog) -> std::optional<core::FileAnswer> {
     dialogs.push_back(dialog);
     const auto answer = TakeFrom(file_answers);
-    return answer ? std::optional(FileAnswer{*answer, 0}) : std::nullopt;
+    return answer ? std::optional(core::FileAnswer{*answer, 0}) : std::nullopt;
   };
-  platform.read_setting = [this](auto key, auto value) -> std::optional<SettingValue> {
+  platform.read_setting = [this](auto key, auto value) -> std::optional<core::SettingValue> {
     const auto found = settings.find(value);
     if (key != "SOFTWARE\\ORB\\OVL Software" || found == settings.end()) return std::nullopt;
     return found->second;
@@ -139,7 +140,7 @@ void Harness::FillPlatform() {
   platform.SetWindowPos = [](std::string_view) {};
 
   auto& serial = platform.serial;
-  serial.open = [this](const LineSettings& line) -> SerialLine::Error {
+  serial.open = [this](const core::LineSettings& line) -> core::SerialLine::Error {
     if (open_error) return open_error;
     line_open_ = true;
     opened.push_back("COM" + std::to_string(line.port) + ":" + line.text);
@@ -149,7 +150,7 @@ void Harness::FillPlatform() {
     line_open_ = false;
     incoming_.clear();
   };
-  serial.write = [this](std::string_view text) -> SerialLine::Error {
+  serial.write = [this](std::string_view text) -> core::SerialLine::Error {
     if (line_error) return line_error;
     sent_ += text;
     wrote_ = true;
@@ -160,8 +161,8 @@ void Harness::FillPlatform() {
   serial.clear_output = [] {};
 }
 
-Outcome Harness::Start() {
-  return StartProgram(app);
+core::Outcome Harness::Start() {
+  return start::StartProgram(app);
 }
 
 void Harness::OpenAndHold() {
@@ -171,15 +172,15 @@ void Harness::OpenAndHold() {
   TakeSent();
 }
 
-const ControlRef& Harness::Known(std::string_view name) const {
+const controls::ControlRef& Harness::Known(std::string_view name) const {
   const auto* found = app.registry.Find(name);
   if (found == nullptr) throw std::invalid_argument("no control " + std::string(name));
   return found->control;
 }
 
-Outcome Harness::Tick(Timer& timer, int count) {
-  auto outcome = Outcome::kDone;
-  for (int tick = 0; tick < count; ++tick) outcome = Dispatch(app, TickEvent{&timer});
+core::Outcome Harness::Tick(controls::Timer& timer, int count) {
+  auto outcome = core::Outcome::kDone;
+  for (int tick = 0; tick < count; ++tick) outcome = Dispatch(app, core::TickEvent{&timer});
   return outcome;
 }
 
@@ -187,22 +188,22 @@ void Harness::Unit(std::string_view text) {
   for (const char character : text) {
     if (!line_open_) return;
     incoming_.emplace_back(1, character);
-    Dispatch(app, ReceivedEvent{});
+    Dispatch(app, core::ReceivedEvent{});
   }
 }
 
 void Harness::Drain(int count) {
-  for (int event = 0; event < count; ++event) Dispatch(app, DrainedEvent{});
+  for (int event = 0; event < count; ++event) Dispatch(app, core::DrainedEvent{});
 }
 
 void Harness::DrainAll() {
   do {
     wrote_ = false;
-    Dispatch(app, DrainedEvent{});
+    Dispatch(app, core::DrainedEvent{});
   } while (wrote_);
 }
 
-MessageBox Harness::TakeBox() {
+core::MessageBox Harness::TakeBox() {
   return TakeFrom(boxes);
 }
 

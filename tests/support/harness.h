@@ -41,29 +41,30 @@ class Locked {
 };
 
 // The digits that each firmware's image has, written down apart from the field table.
-std::size_t DigitsOfImage(const FirmwareId& firmware);
+std::size_t DigitsOfImage(const firmware::FirmwareId& firmware);
 
 // A stream of the firmware whose digits differ from byte to byte by the seed, with the register code given.
-std::string RawPatternStream(const FirmwareId& firmware, int seed = 1, int register_code = 0);
+std::string RawPatternStream(const firmware::FirmwareId& firmware, int seed = 1, int register_code = 0);
 
 // The same with a title, exceptions and alarms that the panels find in order, so that taking it in changes
 // nothing.
-std::string PatternStream(const FirmwareId& firmware, int seed = 1, int register_code = 0);
+std::string PatternStream(const firmware::FirmwareId& firmware, int seed = 1, int register_code = 0);
 
 class Harness {
  public:
   // Writes a default image for the first register (and the further ones named) and fills the settings store.
-  explicit Harness(const FirmwareId& firmware, const std::vector<std::string>& further_registers = {});
+  explicit Harness(const firmware::FirmwareId& firmware,
+                   const std::vector<std::string>& further_registers = {});
 
-  Outcome Start();
+  core::Outcome Start();
   // A port opened, remote mode held, and its first tick over.
   void OpenAndHold();
 
-  Outcome Click(std::string_view name) { return Dispatch(app, ClickEvent{Known(name)}); }
-  Outcome Pick(std::string_view name, int position) {
-    return Dispatch(app, PickEvent{Known(name), position});
+  core::Outcome Click(std::string_view name) { return Dispatch(app, core::ClickEvent{Known(name)}); }
+  core::Outcome Pick(std::string_view name, int position) {
+    return Dispatch(app, core::PickEvent{Known(name), position});
   }
-  Outcome Tick(Timer& timer, int count = 1);
+  core::Outcome Tick(controls::Timer& timer, int count = 1);
   // Characters arrive one by one; those for a closed port are lost.
   void Unit(std::string_view text);
   // The transmitter runs empty: `count` times, or as long as each time something is written.
@@ -73,24 +74,24 @@ class Harness {
   // What was written since it was last asked.
   std::string TakeSent() { return std::exchange(sent_, {}); }
   // The oldest box not yet asked for; an empty text if there is none.
-  MessageBox TakeBox();
+  core::MessageBox TakeBox();
   bool NoBoxLeft() const { return boxes.empty(); }
 
-  Face& Control(std::string_view name) { return FaceOf(Known(name)); }
+  controls::ControlState& Control(std::string_view name) { return controls::StateOf(Known(name)); }
 
   TemporaryFolder folder;
-  Application app;
-  std::map<std::string, SettingValue, std::less<>> settings;
-  std::deque<MessageBox> boxes;
+  core::Application app;
+  std::map<std::string, core::SettingValue, std::less<>> settings;
+  std::deque<core::MessageBox> boxes;
   std::deque<std::optional<std::string>> file_answers;
-  std::vector<FileDialog> dialogs;
+  std::vector<core::FileDialog> dialogs;
   std::vector<std::string> opened;  // the settings of every successful opening
   std::optional<std::string> open_error;
   std::optional<std::string> line_error;  // the device is lost: every write fails
-  ClockTime now;
+  core::ClockTime now;
 
  protected:
-  const ControlRef& Known(std::string_view name) const;
+  const controls::ControlRef& Known(std::string_view name) const;
 
   std::string sent_;
   bool wrote_ = false;  // since the transmitter last ran empty

@@ -31,12 +31,12 @@ enum class Images { kAll, kFirstRegister, kOwn };
 
 class Installed : public Harness {
  public:
-  using Bytes = std::initializer_list<std::pair<FieldId, std::string>>;
+  using Bytes = std::initializer_list<std::pair<image::FieldId, std::string>>;
 
-  explicit Installed(const FirmwareId& firmware, Images images = Images::kAll)
+  explicit Installed(const firmware::FirmwareId& firmware, Images images = Images::kAll)
       : Harness(firmware), firmware_(firmware), trace_(__FILE__, __LINE__, firmware.Joined()) {
-    if (images == Images::kAll) WriteDefaultImages(folder.Path().string(), firmware);
-    if (images != Images::kOwn && Start() != Outcome::kDone)
+    if (images == Images::kAll) images::WriteDefaultImages(folder.Path().string(), firmware);
+    if (images != Images::kOwn && Start() != core::Outcome::kDone)
       throw std::runtime_error(firmware.Joined() + " does not start");
   }
 
@@ -54,10 +54,10 @@ class Installed : public Harness {
 
   // Changes one byte of a register's default image.
   void SetByte(const std::string& name, int byte, std::string_view hex) const {
-    auto text = ReadWhole(PathOf(name));
+    auto text = files::ReadWhole(PathOf(name));
     const auto digit = static_cast<std::size_t>(2 * byte);
     text.replace(digit / 64 * 71 + 5 + digit % 64, 2, hex);
-    WriteWhole(PathOf(name), text);
+    files::WriteWhole(PathOf(name), text);
   }
 
   int CodeOf(std::string_view name) const {
@@ -65,40 +65,43 @@ class Installed : public Harness {
     const auto found = std::find(names.begin(), names.end(), name);
     return found == names.end() ? -1 : static_cast<int>(found - names.begin());
   }
-  Outcome Register(std::string_view name) { return Pick("ComboReg", CodeOf(name)); }
+  core::Outcome Register(std::string_view name) { return Pick("ComboReg", CodeOf(name)); }
   // Presses what asks for a file, and answers.
-  Outcome Answer(std::string_view button, const std::optional<std::string>& path) {
+  core::Outcome Answer(std::string_view button, const std::optional<std::string>& path) {
     file_answers.push_back(path);
     return Click(button);
   }
-  Outcome Open(const std::optional<std::string>& path) { return Answer("OpenMenu", path); }
-  Outcome Type(TextBox& box, std::string text) { return Dispatch(app, TypeEvent{&box, std::move(text)}); }
-  Outcome Leave(TextBox& box) { return Dispatch(app, LeaveEvent{&box}); }
-  Outcome Close(Form& form) { return Dispatch(app, CloseEvent{&form}); }
+  core::Outcome Open(const std::optional<std::string>& path) { return Answer("OpenMenu", path); }
+  core::Outcome Type(controls::TextBox& box, std::string text) {
+    return Dispatch(app, core::TypeEvent{&box, std::move(text)});
+  }
+  core::Outcome Leave(controls::TextBox& box) { return Dispatch(app, core::LeaveEvent{&box}); }
+  core::Outcome Close(controls::Form& form) { return Dispatch(app, core::CloseEvent{&form}); }
 
   // From here on Written() tells every field that changes, by its name; the commonest have short ones. Where
   // all bytes were filled with one that nothing writes, no write hides behind the value that was there.
   void Mark() { before_ = app.image; }
   void Fill(const std::string& byte, Bytes others = {}) {
-    for (const auto& row : FieldTable()) {
-      for (int entry = 1; entry <= EntryCount(row.id); ++entry) app.image.at(row.id, entry) = byte;
+    for (const auto& row : image::FieldTable()) {
+      for (int entry = 1; entry <= image::EntryCount(row.id); ++entry) app.image.at(row.id, entry) = byte;
     }
     for (const auto& [field, other] : others) app.image[field] = other;
     Mark();
   }
   std::string Written() const {
-    using enum FieldId;
-    static const std::map<FieldId, std::string_view> kShort = {{RX_BAUDRATE, "RX"},
-                                                               {TX_BAUDRATE, "TX"},
-                                                               {REGTYPE_MINOR, "M"},
-                                                               {REGTYPE_EXT1, "E"},
-                                                               {REGTYPE_EXT2, "X"}};
+    using enum image::FieldId;
+    static const std::map<image::FieldId, std::string_view> kShort = {{RX_BAUDRATE, "RX"},
+                                                                      {TX_BAUDRATE, "TX"},
+                                                                      {REGTYPE_MINOR, "M"},
+                                                                      {REGTYPE_EXT1, "E"},
+                                                                      {REGTYPE_EXT2, "X"}};
     std::string written;
-    for (const auto& row : FieldTable()) {
-      for (int entry = 1; entry <= EntryCount(row.id); ++entry) {
+    for (const auto& row : image::FieldTable()) {
+      for (int entry = 1; entry <= image::EntryCount(row.id); ++entry) {
         if (app.image.at(row.id, entry) == before_.at(row.id, entry)) continue;
         const auto name = kShort.contains(row.id) ? kShort.at(row.id) : row.name;
-        written.append(written.empty() ? "" : " ").append(EntryName(name, EntryCount(row.id), entry));
+        written.append(written.empty() ? "" : " ")
+            .append(image::EntryName(name, image::EntryCount(row.id), entry));
         written.append("=").append(app.image.at(row.id, entry));
       }
     }
@@ -107,20 +110,23 @@ class Installed : public Harness {
   // What a pick writes into an image of EE bytes.
   std::string Effect(std::string_view control, int position, Bytes others = {}) {
     Fill("EE", others);
-    return Pick(control, position) == Outcome::kDone ? Written() : "refused";
+    return Pick(control, position) == core::Outcome::kDone ? Written() : "refused";
   }
 
-  List& ListOf(std::string_view name) { return *std::get<List*>(Known(name)); }
-  OptionArray& ArrayOf(std::string_view name) { return *std::get<OptionArray*>(Known(name)); }
+  controls::List& ListOf(std::string_view name) { return *std::get<controls::List*>(Known(name)); }
+  controls::OptionArray& ArrayOf(std::string_view name) {
+    return *std::get<controls::OptionArray*>(Known(name));
+  }
 
   // The entry selected in a list, or the element chosen in an option array.
   int Selected(std::string_view name) {
-    return std::holds_alternative<List*>(Known(name)) ? ListOf(name).position : ArrayOf(name).chosen;
+    return std::holds_alternative<controls::List*>(Known(name)) ? ListOf(name).position
+                                                                : ArrayOf(name).chosen;
   }
   // What a list or an option array offers, as "A|B|C".
   std::string Offered(std::string_view name) {
     std::vector<std::string> texts;
-    if (std::holds_alternative<List*>(Known(name))) {
+    if (std::holds_alternative<controls::List*>(Known(name))) {
       texts = ListOf(name).items;
     } else {
       for (const auto& element : ArrayOf(name).elements) {
@@ -134,7 +140,7 @@ class Installed : public Harness {
   // A control that this firmware, or the register selected, does not offer.
   void Reveal(std::string_view name) {
     Control(name).visible = Control(name).enabled = true;
-    if (!std::holds_alternative<OptionArray*>(Known(name))) return;
+    if (!std::holds_alternative<controls::OptionArray*>(Known(name))) return;
     for (auto& element : ArrayOf(name).elements) element.visible = true;
   }
   // The option frames on the screen, "49 18" at the most.
@@ -147,9 +153,9 @@ class Installed : public Harness {
   }
 
  private:
-  FirmwareId firmware_;
+  firmware::FirmwareId firmware_;
   ::testing::ScopedTrace trace_;  // what fails while the program runs names its firmware
-  ConfigImage before_;
+  image::ConfigImage before_;
 };
 
 }  // namespace ovl::testing

@@ -17,9 +17,9 @@ class Site : public Harness {
  public:
   enum class Passing { kWhole, kDropped, kDoubled, kGarbled };
 
-  explicit Site(const FirmwareId& firmware) : Harness(firmware) {
+  explicit Site(const firmware::FirmwareId& firmware) : Harness(firmware) {
     for (const auto& control : app.registry.All()) {
-      if (auto* const* timer = std::get_if<Timer*>(&control.control)) timers_.push_back({*timer});
+      if (auto* const* timer = std::get_if<controls::Timer*>(&control.control)) timers_.push_back({*timer});
     }
     app.platform.serial.close = [this, close = app.platform.serial.close] {
       close();
@@ -36,7 +36,7 @@ class Site : public Harness {
       for (const char character : Arriving(sent_, passing, garble)) Hear(character);
       if (sent_.empty()) {
         wrote_ = false;
-        Dispatch(app, DrainedEvent{});
+        Dispatch(app, core::DrainedEvent{});
       }
     } else if (!in_.empty() && !silent_) {
       Unit(Arriving(in_, passing, garble));
@@ -85,7 +85,7 @@ class Site : public Harness {
 
  private:
   struct Due {
-    Timer* timer = nullptr;
+    controls::Timer* timer = nullptr;
     unsigned starts = 0;
     std::int64_t at = 0;
   };

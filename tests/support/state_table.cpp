@@ -39,17 +39,17 @@ const char* NameOf(State state) {
   return RowOf(state).name;
 }
 
-std::string RunningTimers(const Application& app) {
+std::string RunningTimers(const core::Application& app) {
   std::string names;
   for (const auto& control : app.registry.All()) {
-    const auto* timer = std::get_if<Timer*>(&control.control);
+    const auto* timer = std::get_if<controls::Timer*>(&control.control);
     if (timer == nullptr || !(*timer)->enabled || *timer == &app.frmMain.Timer) continue;
     names.append(names.empty() ? "" : " ").append(control.name);
   }
   return names;
 }
 
-std::string DifferenceFrom(State state, const Application& app) {
+std::string DifferenceFrom(State state, const core::Application& app) {
   const auto& row = RowOf(state);
   const auto& main = app.frmMain;
   std::string found;

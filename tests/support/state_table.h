@@ -25,9 +25,9 @@ enum class State {
 const char* NameOf(State state);
 
 // The names of the link's timers that run, separated by blanks.
-std::string RunningTimers(const Application& app);
+std::string RunningTimers(const core::Application& app);
 
 // Where the program is otherwise than the state's row says; empty if nowhere.
-std::string DifferenceFrom(State state, const Application& app);
+std::string DifferenceFrom(State state, const core::Application& app);
 
 }  // namespace ovl::testing

@@ -27,23 +27,23 @@ struct Column {
   std::string firmware;
 };
 
-Places PlacesOf(const FirmwareId& firmware) {
-  const auto layout = LayoutOf(firmware);
-  const auto capabilities = CapabilitiesOf(firmware);
+Places PlacesOf(const firmware::FirmwareId& firmware) {
+  const auto layout = image::LayoutOf(firmware);
+  const auto capabilities = image::CapabilitiesOf(firmware);
   std::array<int, kSections.size()> next = {};
   Places places;
-  for (const auto& row : FieldTable()) {
+  for (const auto& row : image::FieldTable()) {
     auto& digit = next.at(static_cast<std::size_t>(row.section));
-    const bool has = InStream(row, layout, firmware.Number(), capabilities, Direction::kRead);
+    const bool has = image::InStream(row, layout, firmware.Number(), capabilities, image::Direction::kRead);
     places.push_back(has ? digit : -1);
-    if (has) digit += DigitsOf(row, layout) * EntryCount(row.id);
+    if (has) digit += image::DigitsOf(row, layout) * image::EntryCount(row.id);
   }
   return places;
 }
 
 std::vector<Column> Columns() {
   std::vector<Column> columns;
-  for (const auto& entry : FirmwareTable()) {
+  for (const auto& entry : firmware::FirmwareTable()) {
     if (!entry.in_menu) continue;
     const auto places = PlacesOf({std::string(entry.version), std::string(entry.release)});
     auto column = std::find_if(columns.begin(), columns.end(),
@@ -64,7 +64,7 @@ std::string LetterOf(std::size_t column) {
 
 class Page {
  public:
-  explicit Page(const Application& app) : app_(app), columns_(Columns()) {}
+  explicit Page(const core::Application& app) : app_(app), columns_(Columns()) {}
 
   std::string Text() {
     AddHead();
@@ -95,7 +95,7 @@ class Page {
     text_ += "| Register | Edited by |\n|---|---";
     for (std::size_t at = 0; at < columns_.size(); ++at) text_ += "|---";
     text_ += "|---|---|\n";
-    const auto rows = FieldTable();
+    const auto rows = image::FieldTable();
     std::string notes;
     for (std::size_t field = 0; field < rows.size(); ++field) {
       const auto& row = rows[field];
@@ -110,7 +110,7 @@ class Page {
     text_ += notes;
   }
 
-  void AddRow(const FieldRow& row, std::size_t field) {
+  void AddRow(const image::FieldRow& row, std::size_t field) {
     text_.append("| `").append(row.name).append("` | ").append(WidthOf(row)).append(" ");
     for (const auto& column : columns_) {
       const int digit = column.places.at(field);
@@ -119,18 +119,18 @@ class Page {
     text_.append(row.is_default ? "| yes | " : "| | ").append(Editing(row, field)).append(" |\n");
   }
 
-  static std::string WidthOf(const FieldRow& row) {
+  static std::string WidthOf(const image::FieldRow& row) {
     auto width = std::to_string(row.width.digits / 2);
     if (row.width.digits_v13 != row.width.digits)
       width += ", V13xx " + std::to_string(row.width.digits_v13 / 2);
-    const int entries = EntryCount(row.id);
+    const int entries = image::EntryCount(row.id);
     return entries == 1 ? width : std::to_string(entries) + " times " + width;
   }
 
-  std::string Editing(const FieldRow& row, std::size_t field) const {
-    const auto words = EditedBy(app_, row.id, "[options](register_options.md)");
+  std::string Editing(const image::FieldRow& row, std::size_t field) const {
+    const auto words = changes::EditedBy(app_, row.id, "[options](register_options.md)");
     if (!words.empty()) return words;
-    const auto carried = CarriedThrough();
+    const auto carried = changes::CarriedThrough();
     if (std::find(carried.begin(), carried.end(), row.id) == carried.end()) {
       throw std::runtime_error(std::string(row.name) + " has neither an editor nor is it carried through");
     }
@@ -139,7 +139,7 @@ class Page {
     return somewhere ? "kept" : "in no firmware of today";
   }
 
-  const Application& app_;
+  const core::Application& app_;
   std::vector<Column> columns_;
   std::string text_;
 };
@@ -153,7 +153,7 @@ int main(int argc, char** argv) {
     return 2;
   }
   try {
-    const ovl::Application app;
+    const ovl::core::Application app;
     std::ofstream file(argv[1], std::ios::binary);
     file << ovl::Page(app).Text();
     if (!file.flush()) throw std::runtime_error(std::string(argv[1]) + " cannot be written");

@@ -13,10 +13,10 @@
 #include "registers/selection_driver.h"
 #include "start/start_up.h"
 
-namespace ovl {
+namespace ovl::images {
 namespace {
 
-using enum FieldId;
+using enum image::FieldId;
 
 // The line settings of a register that forces none: 9600 baud, 8 data bits, no parity.
 constexpr const char* kEightDataBits = "04";
@@ -24,35 +24,38 @@ constexpr const char* kBaud9600 = "03";
 constexpr const char* kDisplayOn = "20";
 
 // The code of "RS-232" in the firmware's interface byte.
-const char* InterfaceCode(const FirmwareId& firmware) {
-  const auto layout = LayoutOf(firmware);
-  return layout == Layout::kLateV1400 || layout == Layout::kNewV13 ? "0E" : "0A";
+const char* InterfaceCode(const firmware::FirmwareId& firmware) {
+  const auto layout = image::LayoutOf(firmware);
+  return layout == firmware::Layout::kLateV1400 || layout == firmware::Layout::kNewV13 ? "0E" : "0A";
 }
 
 // Older firmware count the demonstration's character list from 1.
-bool HasOldDemoForm(const FirmwareId& firmware) {
+bool HasOldDemoForm(const firmware::FirmwareId& firmware) {
   const int release = firmware.Number();
   return (firmware.version == "V1400" && release == 1) || (firmware.version == "V1300" && release < 27) ||
          (firmware.version == "V1324" && release < 26);
 }
 
-std::string EmptyException(Layout layout) {
-  const std::string range(LayoutOf({"V1400", "R1"}) == layout || layout == Layout::kLateV1400 ? 20 : 12, '0');
+std::string EmptyException(firmware::Layout layout) {
+  const std::string range(
+      image::LayoutOf({"V1400", "R1"}) == layout || layout == firmware::Layout::kLateV1400 ? 20 : 12, '0');
   std::string slot = "10" + range + "00";
   for (int place = 0; place < 40; ++place) slot += "20";
   return slot + "00";
 }
 
-void SetEvery(ConfigImage& image, FieldId field, const std::string& value) {
-  for (int entry = 1; entry <= EntryCount(field); ++entry) image.at(field, entry) = value;
+void SetEvery(image::ConfigImage& image, image::FieldId field, const std::string& value) {
+  for (int entry = 1; entry <= image::EntryCount(field); ++entry) image.at(field, entry) = value;
 }
 
-std::string StreamOf(ConfigImage image, const FirmwareId& firmware, const Capabilities& capabilities) {
-  const auto sections = WriteSections(image, LayoutOf(firmware), firmware, capabilities);
-  return BlockRecords(sections.SYSCFG + sections.SYSFIXED + sections.SYSSTR, WriteRegion(firmware));
+std::string StreamOf(image::ConfigImage image, const firmware::FirmwareId& firmware,
+                     const firmware::Capabilities& capabilities) {
+  const auto sections = image::WriteSections(image, image::LayoutOf(firmware), firmware, capabilities);
+  return image::BlockRecords(sections.SYSCFG + sections.SYSFIXED + sections.SYSSTR,
+                             image::WriteRegion(firmware));
 }
 
-std::string FileName(const FirmwareId& firmware, std::string_view name) {
+std::string FileName(const firmware::FirmwareId& firmware, std::string_view name) {
   std::string file(name);
   if (firmware.IsV1400()) {
     std::replace(file.begin(), file.end(), '/', ' ');
@@ -62,40 +65,40 @@ std::string FileName(const FirmwareId& firmware, std::string_view name) {
 }
 
 // A program of the firmware without screen, line or files: it only applies images.
-void SetUp(Application& app, const FirmwareId& firmware) {
+void SetUp(core::Application& app, const firmware::FirmwareId& firmware) {
   app.firmware = firmware;
   PrepareCapabilities(app);
-  WireProgram(app);
-  ResetRegisterIndexes(app);
-  BuildRegisterList(app);
+  start::WireProgram(app);
+  registers::ResetRegisterIndexes(app);
+  registers::BuildRegisterList(app);
 }
 
 // Lets the register's own options settle the image: what they force on the line is stored with them, so that
 // a later load of the image finds everything as it wants it. The program is a fresh one, in which every
 // option counts as changed.
-ConfigImage RegisterImage(const FirmwareId& firmware, int code) {
-  Application app;
+image::ConfigImage RegisterImage(const firmware::FirmwareId& firmware, int code) {
+  core::Application app;
   SetUp(app, firmware);
   app.image = FactoryImage(firmware);
-  app.image[REGTYPE] = ByteToHex(code);
+  app.image[REGTYPE] = codecs::ByteToHex(code);
   for (const auto& routine : app.Setting_Code) {
-    if (routine.run != ApplyRegisterSelection) routine.run(app);
+    if (routine.run != registers::ApplyRegisterSelection) routine.run(app);
   }
   app.PanelsReady = true;
   app.UploadApplying = true;
-  ApplyRegisterSelection(app);
+  registers::ApplyRegisterSelection(app);
   return app.image;
 }
 
 }  // namespace
 
-ConfigImage FactoryImage(const FirmwareId& firmware) {
-  const auto layout = LayoutOf(firmware);
-  const auto capabilities = CapabilitiesOf(firmware);
-  ConfigImage image;
-  for (const auto& row : FieldTable()) {
-    if (!InStream(row, layout, firmware.Number(), capabilities, Direction::kRead)) continue;
-    SetEvery(image, row.id, std::string(static_cast<std::size_t>(DigitsOf(row, layout)), '0'));
+image::ConfigImage FactoryImage(const firmware::FirmwareId& firmware) {
+  const auto layout = image::LayoutOf(firmware);
+  const auto capabilities = image::CapabilitiesOf(firmware);
+  image::ConfigImage image;
+  for (const auto& row : image::FieldTable()) {
+    if (!image::InStream(row, layout, firmware.Number(), capabilities, image::Direction::kRead)) continue;
+    SetEvery(image, row.id, std::string(static_cast<std::size_t>(image::DigitsOf(row, layout)), '0'));
   }
   image[COMMCFG_BAK] = kEightDataBits;
   image[IOCFG_BAK] = InterfaceCode(firmware);
@@ -114,20 +117,20 @@ ConfigImage FactoryImage(const FirmwareId& firmware) {
   return image;
 }
 
-int WriteDefaultImages(const std::string& folder, const FirmwareId& firmware) {
+int WriteDefaultImages(const std::string& folder, const firmware::FirmwareId& firmware) {
   namespace fs = std::filesystem;
   const auto images = fs::path(folder) / firmware.version / firmware.release;
   std::error_code error;
   fs::create_directories(images, error);
-  if (error) throw Failure(images.string(), error.message());
+  if (error) throw core::Failure(images.string(), error.message());
 
-  const auto capabilities = CapabilitiesOf(firmware);
+  const auto capabilities = image::CapabilitiesOf(firmware);
   int code = 0;
-  for (const auto& entry : BuildRegisterEntries(firmware.version, firmware.release)) {
+  for (const auto& entry : firmware::BuildRegisterEntries(firmware.version, firmware.release)) {
     const auto stream = StreamOf(RegisterImage(firmware, code++), firmware, capabilities);
-    WriteWhole((images / FileName(firmware, entry.name)).string(), stream + "\r\n");
+    files::WriteWhole((images / FileName(firmware, entry.name)).string(), stream + "\r\n");
   }
   return code;
 }
 
-}  // namespace ovl
+}  // namespace ovl::images

@@ -7,13 +7,13 @@
 #include "firmware/firmware_id.h"
 #include "image/config_image.h"
 
-namespace ovl {
+namespace ovl::images {
 
 // The image that a firmware's first register brings in whole: nothing watched for, nothing triggered, a plain
 // display.
-ConfigImage FactoryImage(const FirmwareId& firmware);
+image::ConfigImage FactoryImage(const firmware::FirmwareId& firmware);
 
 // Writes the images of one firmware below the folder and gives their number. Throws Failure.
-int WriteDefaultImages(const std::string& folder, const FirmwareId& firmware);
+int WriteDefaultImages(const std::string& folder, const firmware::FirmwareId& firmware);
 
-}  // namespace ovl
+}  // namespace ovl::images

@@ -19,7 +19,7 @@ constexpr const char* kHelp =
     "\n"
     "Exit status: 0 done; 1 a file could not be written; 2 wrong usage.\n";
 
-bool Wanted(const ovl::FirmwareId& firmware, const std::vector<std::string>& names) {
+bool Wanted(const ovl::firmware::FirmwareId& firmware, const std::vector<std::string>& names) {
   if (names.empty()) return true;
   for (const auto& name : names) {
     if (name == firmware.Joined()) return true;
@@ -28,7 +28,7 @@ bool Wanted(const ovl::FirmwareId& firmware, const std::vector<std::string>& nam
 }
 
 bool IsFirmware(const std::string& name) {
-  for (const auto& entry : ovl::FirmwareTable()) {
+  for (const auto& entry : ovl::firmware::FirmwareTable()) {
     if (entry.in_menu && name == std::string(entry.version).append(entry.release)) return true;
   }
   return false;
@@ -37,7 +37,7 @@ bool IsFirmware(const std::string& name) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  ovl::OutliveSizeLimit();
+  ovl::files::OutliveSizeLimit();
   const std::vector<std::string> words(argv + 1, argv + argc);
   if (words.empty() || words.front() == "--help") {
     (words.empty() ? std::cerr : std::cout) << kHelp;
@@ -55,11 +55,12 @@ int main(int argc, char** argv) {
   }
   int files = 0;
   try {
-    for (const auto& entry : ovl::FirmwareTable()) {
-      const ovl::FirmwareId firmware{std::string(entry.version), std::string(entry.release)};
-      if (entry.in_menu && Wanted(firmware, names)) files += ovl::WriteDefaultImages(words.front(), firmware);
+    for (const auto& entry : ovl::firmware::FirmwareTable()) {
+      const ovl::firmware::FirmwareId firmware{std::string(entry.version), std::string(entry.release)};
+      if (entry.in_menu && Wanted(firmware, names))
+        files += ovl::images::WriteDefaultImages(words.front(), firmware);
     }
-  } catch (const ovl::Failure& failure) {
+  } catch (const ovl::core::Failure& failure) {
     std::cerr << "ovl-images: " << failure.Subject() << ": " << failure.what() << "\n";
     return 1;
   }

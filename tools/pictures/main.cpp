@@ -28,7 +28,7 @@ int Fail(const char* what, const QString& problem) {
 
 int main(int argc, char** argv) {
   const auto guide_option = QStringLiteral("guide");
-  ovl::CommandLine command_line(QStringLiteral("ovl-pictures"), kDescription);
+  ovl::ui::CommandLine command_line(QStringLiteral("ovl-pictures"), kDescription);
   command_line.AddWord(QStringLiteral("FOLDER"), QStringLiteral("where the pictures go"));
   command_line.AddOption(guide_option, QStringLiteral("FILE"),
                          QStringLiteral("writes the installer's guide with the pictures as a PDF"));
@@ -36,19 +36,19 @@ int main(int argc, char** argv) {
   // The pictures are the same on every machine only without its display.
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
-  ovl::NameApplication();
+  ovl::ui::NameApplication();
   QApplication::setQuitOnLastWindowClosed(false);
   const auto pictures = command_line.Word();
   try {
-    const auto folder = ovl::ProgramFolder(command_line.Folder());
-    const auto problem = ovl::SavePictures(folder, command_line.Store(), pictures);
+    const auto folder = ovl::host::ProgramFolder(command_line.Folder());
+    const auto problem = ovl::pictures::SavePictures(folder, command_line.Store(), pictures);
     if (!problem.isEmpty()) return Fail("the pictures", problem);
-  } catch (const ovl::Failure& failure) {
+  } catch (const ovl::core::Failure& failure) {
     return Fail("the program's folder", QString::fromStdString(failure.Subject() + ": " + failure.what()));
   }
   const auto guide = command_line.Value(guide_option);
   if (guide.isEmpty()) return EXIT_SUCCESS;
-  const auto problem = ovl::WriteGuide(ovl::HelpPages(ovl::kEmbeddedHelp),
-                                       QDir(pictures).filePath(QStringLiteral("light")), guide);
+  const auto problem = ovl::ui::WriteGuide(ovl::ui::HelpPages(ovl::ui::kEmbeddedHelp),
+                                           QDir(pictures).filePath(QStringLiteral("light")), guide);
   return problem.isEmpty() ? EXIT_SUCCESS : Fail("the guide", problem);
 }

@@ -17,10 +17,10 @@
 #include "ui/dialogs/changes_window.h"
 #include "ui/kit/theme.h"
 
-namespace ovl {
+namespace ovl::pictures {
 namespace {
 
-constexpr ClockTime kPictureTime{2026, 11, 24, 14, 7, 9};
+constexpr core::ClockTime kPictureTime{2026, 11, 24, 14, 7, 9};
 constexpr std::size_t kPartOfUpload = 2870;
 constexpr char kAck = '\x06';
 constexpr int kRegisterTab = 0;
@@ -33,13 +33,13 @@ constexpr int kClockTicks = 10;  // until the clock lists are set
 // A line whose unit says what the pictures need.
 class PlayedLine {
  public:
-  explicit PlayedLine(Program& program) : program_(program) {
+  explicit PlayedLine(ui::Program& program) : program_(program) {
     auto& serial = program.Model().platform.serial;
-    serial.open = [](const LineSettings&) { return SerialLine::Error(); };
+    serial.open = [](const core::LineSettings&) { return core::SerialLine::Error(); };
     serial.close = [] {};
     serial.write = [this](std::string_view) {
       written_ = true;
-      return SerialLine::Error();
+      return core::SerialLine::Error();
     };
     serial.read = [this] { return std::string(1, character_); };
     serial.clear_input = [] {};
@@ -49,34 +49,34 @@ class PlayedLine {
   void Unit(std::string_view text) {
     for (const char character : text) {
       character_ = character;
-      program_.Act(ReceivedEvent{});
+      program_.Act(core::ReceivedEvent{});
     }
   }
 
   void Drain(int count) {
     for (written_ = true; written_ && count > 0; --count) {
       written_ = false;
-      program_.Act(DrainedEvent{});
+      program_.Act(core::DrainedEvent{});
     }
   }
 
  private:
-  Program& program_;
+  ui::Program& program_;
   char character_ = '\0';
   bool written_ = false;
 };
 
 class Photographer {
  public:
-  Photographer(Program& program, PlayedLine& line, QDir folder)
+  Photographer(ui::Program& program, PlayedLine& line, QDir folder)
       : program_(program), line_(line), folder_(std::move(folder)) {}
 
   // What could not be written; empty if everything was.
   const QString& Problem() const { return problem_; }
 
   void TakeAll() {
-    Main().resize(MainWindow::kStartSize);
-    for (int tick = 0; tick <= kClockTicks; ++tick) program_.Act(TickEvent{&App().frmMain.Timer});
+    Main().resize(ui::MainWindow::kStartSize);
+    for (int tick = 0; tick <= kClockTicks; ++tick) program_.Act(core::TickEvent{&App().frmMain.Timer});
     MakeSampleSettings(program_);
     TakeTabs();
     TakeChanges();
@@ -90,8 +90,8 @@ class Photographer {
   }
 
  private:
-  Application& App() { return program_.Model(); }
-  MainWindow& Main() { return program_.OnScreen().Main(); }
+  core::Application& App() { return program_.Model(); }
+  ui::MainWindow& Main() { return program_.OnScreen().Main(); }
 
   void Take(QWidget& window, const QString& name) {
     program_.RefreshNow();
@@ -102,7 +102,7 @@ class Photographer {
       problem_ = file.fileName() + QStringLiteral(": ") + file.errorString();
   }
 
-  void TakeForm(const Form& form, const QString& name) {
+  void TakeForm(const controls::Form& form, const QString& name) {
     program_.RefreshNow();
     if (auto* window = program_.OnScreen().WindowOf(form)) Take(*window, name);
   }
@@ -128,13 +128,13 @@ class Photographer {
   void TakeTextWindows() {
     Click(App().frmMain.cmdSetExcpstr);
     TakeForm(App().frmSetEXCPSTR.form, QStringLiteral("text_entry"));
-    program_.Act(CloseEvent{&App().frmSetEXCPSTR.form});
+    program_.Act(core::CloseEvent{&App().frmSetEXCPSTR.form});
     Click(App().frmMain.cmdSetRange);
     TakeForm(App().frmSetRange.form, QStringLiteral("range"));
-    program_.Act(CloseEvent{&App().frmSetRange.form});
+    program_.Act(core::CloseEvent{&App().frmSetRange.form});
     ShowSampleHistory(program_);
     TakeForm(App().frmView.form, QStringLiteral("viewer"));
-    program_.Act(CloseEvent{&App().frmView.form});
+    program_.Act(core::CloseEvent{&App().frmView.form});
   }
 
   // Registers whose default image the program folder lacks are left out: a pick would end the program.
@@ -147,17 +147,17 @@ class Photographer {
                                 QString::fromStdString(App().firmware.release),
                                 QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
     if (found == list.items.end() || !images.exists(image)) return false;
-    program_.Act(PickEvent{&list, static_cast<int>(found - list.items.begin())});
+    program_.Act(core::PickEvent{&list, static_cast<int>(found - list.items.begin())});
     return true;
   }
 
   // False for an option that this firmware does not offer.
-  bool Choose(OptionArray& array, int element) {
+  bool Choose(controls::OptionArray& array, int element) {
     program_.RefreshNow();
     const auto& face = array.elements.at(static_cast<std::size_t>(element));
     const auto* button = program_.OnScreen().Controls().WidgetOf(face);
     if (button == nullptr || !button->isVisible()) return false;
-    program_.Act(ClickEvent{OptionElement{&array, element}});
+    program_.Act(core::ClickEvent{controls::OptionElement{&array, element}});
     return true;
   }
 
@@ -196,7 +196,7 @@ class Photographer {
       if (!name.isEmpty()) TakeForm(App().frmMicros.form, name);
     }
     Take(Main(), QStringLiteral("register_micros"));
-    program_.Act(CloseEvent{&App().frmMicros.form});
+    program_.Act(core::CloseEvent{&App().frmMicros.form});
   }
 
   void TakeSubMenus() {
@@ -212,7 +212,7 @@ class Photographer {
       TakeForm(App().FrmSubMenu.form, QStringLiteral("sub_menu_terminal"));
       Take(Main(), QStringLiteral("register_sharp"));
     }
-    program_.Act(CloseEvent{&App().FrmSubMenu.form});
+    program_.Act(core::CloseEvent{&App().FrmSubMenu.form});
   }
 
   void TakePortSettings() {
@@ -225,25 +225,25 @@ class Photographer {
 
   void TakeLink() {
     Take(Main(), QStringLiteral("remote_open"));
-    Click(App().frmMain.CmdUpDow[kRemote]);
+    Click(App().frmMain.CmdUpDow[controls::kRemote]);
     Take(Main(), QStringLiteral("remote_asked"));
     Grant();
     Take(Main(), QStringLiteral("remote_access"));
-    program_.Act(PointEvent{&App().frmMain.CmdUpDow[kDownload]});
+    program_.Act(core::PointEvent{&App().frmMain.CmdUpDow[controls::kDownload]});
     Take(Main(), QStringLiteral("remote_hint"));
-    program_.Act(PointEvent{&App().frmMain.Frame11});
+    program_.Act(core::PointEvent{&App().frmMain.Frame11});
     TakeUpload();
     TakeDownload();
   }
 
   void Grant() {
     line_.Unit({&kAck, 1});
-    program_.Act(TickEvent{&App().frmMain.General_timer});
+    program_.Act(core::TickEvent{&App().frmMain.General_timer});
   }
 
   void TakeUpload() {
     const auto stream = SectionsToStream(App());
-    Click(App().frmMain.CmdUpDow[kUpload]);
+    Click(App().frmMain.CmdUpDow[controls::kUpload]);
     line_.Drain(static_cast<int>(App().UploadCommandText.size()));
     line_.Unit(std::string_view(stream).substr(0, kPartOfUpload));
     Take(Main(), QStringLiteral("remote_uploading"));
@@ -253,9 +253,9 @@ class Photographer {
   }
 
   void TakeDownload() {
-    Click(App().frmMain.CmdUpDow[kRemote]);
+    Click(App().frmMain.CmdUpDow[controls::kRemote]);
     Grant();
-    Click(App().frmMain.CmdUpDow[kDownload]);
+    Click(App().frmMain.CmdUpDow[controls::kDownload]);
     line_.Drain(static_cast<int>(App().DownloadCommandText.size()));
     line_.Unit({&kAck, 1});
     line_.Drain(static_cast<int>(kPartOfUpload / 2));
@@ -266,14 +266,14 @@ class Photographer {
   void TakeScan() {
     Click(App().frmMain.cmdConnect);
     Click(App().frmSettSR.BaudrateCMD);
-    for (int step = 0; step < 4; ++step) program_.Act(TickEvent{&App().frmSettSR.BaudRateScan});
+    for (int step = 0; step < 4; ++step) program_.Act(core::TickEvent{&App().frmSettSR.BaudRateScan});
     TakeForm(App().frmScanBProgress.form, QStringLiteral("scan_progress"));
     Take(Main(), QStringLiteral("remote_scanning"));
     Click(App().frmScanBProgress.Command1);
   }
 
   void TakeHelp() {
-    program_.Act(ClickEvent{&App().frmMain.menuAbout});
+    program_.Act(core::ClickEvent{&App().frmMain.menuAbout});
     TakeForm(App().frmAbout.form, QStringLiteral("about"));
     Click(App().frmAbout.Command1);
     auto& help = program_.OnScreen().Help();
@@ -287,7 +287,7 @@ class Photographer {
     const auto& form = App().frmMain;
     struct Row {
       int tab;
-      const Face* control;
+      const controls::ControlState* control;
       const char* name;
     };
     const Row rows[] = {{kCommunicationTab, &form.ComboCOMM[3], "focus_list"},
@@ -307,9 +307,9 @@ class Photographer {
     Take(Main(), QStringLiteral("focus_tabs"));
   }
 
-  void Click(Button& button) { program_.Act(ClickEvent{&button}); }
+  void Click(controls::Button& button) { program_.Act(core::ClickEvent{&button}); }
 
-  Program& program_;
+  ui::Program& program_;
   PlayedLine& line_;
   QDir folder_;
   QString problem_;
@@ -317,15 +317,15 @@ class Photographer {
 
 // A program of its own for each theme: what the first one did to its link would show in the other.
 QString SaveTheme(const QString& program_folder, const QString& store, const QString& folder) {
-  Program program(program_folder, store);
+  ui::Program program(program_folder, store);
   auto& platform = program.Model().platform;
-  platform.ask_file = [](const FileDialog&) { return std::optional<FileAnswer>(); };
+  platform.ask_file = [](const core::FileDialog&) { return std::optional<core::FileAnswer>(); };
   platform.clock = [] { return kPictureTime; };
   PlayedLine line(program);
   QString why;
-  platform.show_message = [&why](const MessageBox& box) { why = FromWindows1252(box.text); };
-  if (program.Start() == Outcome::kEnded) return why;
-  platform.show_message = [](const MessageBox&) {};
+  platform.show_message = [&why](const core::MessageBox& box) { why = host::FromWindows1252(box.text); };
+  if (program.Start() == core::Outcome::kEnded) return why;
+  platform.show_message = [](const core::MessageBox&) {};
   Photographer photographer(program, line, QDir(folder));
   photographer.TakeAll();
   return photographer.Problem();
@@ -334,16 +334,17 @@ QString SaveTheme(const QString& program_folder, const QString& store, const QSt
 }  // namespace
 
 QString SavePictures(const QString& program_folder, const QString& store, const QString& folder) {
-  for (const auto& [theme, name] : {std::pair(Theme::kLight, "light"), std::pair(Theme::kDark, "dark")}) {
+  for (const auto& [theme, name] :
+       {std::pair(ui::Theme::kLight, "light"), std::pair(ui::Theme::kDark, "dark")}) {
     const auto below = QDir(folder).filePath(QString::fromLatin1(name));
     std::error_code error;
     std::filesystem::create_directories(QFile::encodeName(below).toStdString(), error);
     if (error) return below + QStringLiteral(": ") + QString::fromStdString(error.message());
-    ApplyTheme(theme);
+    ui::ApplyTheme(theme);
     const auto problem = SaveTheme(program_folder, store, below);
     if (!problem.isEmpty()) return problem;
   }
   return {};
 }
 
-}  // namespace ovl
+}  // namespace ovl::pictures

@@ -7,7 +7,7 @@
 #include "files/files.h"
 #include "ui/app/program.h"
 
-namespace ovl {
+namespace ovl::pictures {
 namespace {
 
 // Positions of the lists DISPLAY to OPERATOR, and the two values for firmware with short and long numbers.
@@ -39,7 +39,7 @@ constexpr std::array kAlarmSamples = {
 
 class Installer {
  public:
-  explicit Installer(Program& program) : program_(program), app_(program.Model()) {}
+  explicit Installer(ui::Program& program) : program_(program), app_(program.Model()) {}
 
   void SetExceptions() {
     int number = 0;
@@ -68,42 +68,43 @@ class Installer {
   void SetTitleAndDemo() {
     SetText(app_.frmMain.cmdTitle, "CORNER SHOP");
     const auto& form = app_.frmMain;
-    if (form.FrameDemo.visible && !form.DemoMode.checked) program_.Act(ClickEvent{&app_.frmMain.DemoMode});
+    if (form.FrameDemo.visible && !form.DemoMode.checked)
+      program_.Act(core::ClickEvent{&app_.frmMain.DemoMode});
   }
 
  private:
-  void Pick(List& list, int position) { program_.Act(PickEvent{&list, position}); }
+  void Pick(controls::List& list, int position) { program_.Act(core::PickEvent{&list, position}); }
 
-  void SetText(Button& button, const char* text) {
-    if (program_.Act(ClickEvent{&button}) != Outcome::kDone) return;
-    program_.Act(TypeEvent{&app_.frmSetEXCPSTR.Text1, text});
-    program_.Act(ClickEvent{&app_.frmSetEXCPSTR.cmdSET});
+  void SetText(controls::Button& button, const char* text) {
+    if (program_.Act(core::ClickEvent{&button}) != core::Outcome::kDone) return;
+    program_.Act(core::TypeEvent{&app_.frmSetEXCPSTR.Text1, text});
+    program_.Act(core::ClickEvent{&app_.frmSetEXCPSTR.cmdSET});
   }
 
   void SetRange(const SampleException& sample) {
     auto& dialog = app_.frmSetRange;
-    program_.Act(ClickEvent{&app_.frmMain.cmdSetRange});
-    program_.Act(TypeEvent{&dialog.Range_Hi, sample.first});
-    program_.Act(TypeEvent{&dialog.SubRange_Hi, "00"});
-    program_.Act(TypeEvent{&dialog.Range_Low, sample.second});
-    program_.Act(TypeEvent{&dialog.SubRange_Low, "00"});
-    program_.Act(ClickEvent{&dialog.cmdSetRange});
+    program_.Act(core::ClickEvent{&app_.frmMain.cmdSetRange});
+    program_.Act(core::TypeEvent{&dialog.Range_Hi, sample.first});
+    program_.Act(core::TypeEvent{&dialog.SubRange_Hi, "00"});
+    program_.Act(core::TypeEvent{&dialog.Range_Low, sample.second});
+    program_.Act(core::TypeEvent{&dialog.SubRange_Low, "00"});
+    program_.Act(core::ClickEvent{&dialog.cmdSetRange});
   }
 
-  Program& program_;
-  Application& app_;
+  ui::Program& program_;
+  core::Application& app_;
 };
 
 }  // namespace
 
-void MakeSampleSettings(Program& program) {
+void MakeSampleSettings(ui::Program& program) {
   Installer installer(program);
   installer.SetExceptions();
   installer.SetAlarms();
   installer.SetTitleAndDemo();
 }
 
-void ShowSampleHistory(Program& program) {
+void ShowSampleHistory(ui::Program& program) {
   const QTemporaryDir folder;
   const auto path = folder.filePath(QStringLiteral("History.txt"));
   std::string text = "OVLH\r\n";
@@ -113,14 +114,14 @@ void ShowSampleHistory(Program& program) {
     text += "11/24/26 " + time + ":04:17  NO SALE\r\n";
     text += "11/24/26 " + time + ":31:50  REFUND                 12.40\r\n";
   }
-  WriteWhole(QFile::encodeName(path).toStdString(), text);
+  files::WriteWhole(QFile::encodeName(path).toStdString(), text);
   auto& ask = program.Model().platform.ask_file;
   const auto usual = ask;
-  ask = [&](const FileDialog&) { return FileAnswer{QFile::encodeName(path).toStdString()}; };
-  program.Act(ClickEvent{&program.Model().frmMain.OpenHistory_menu});
+  ask = [&](const core::FileDialog&) { return core::FileAnswer{QFile::encodeName(path).toStdString()}; };
+  program.Act(core::ClickEvent{&program.Model().frmMain.OpenHistory_menu});
   program.Model().platform.ask_file = usual;
   // A path that is the same in every run.
   program.Model().frmView.form.caption = "History.txt";
 }
 
-}  // namespace ovl
+}  // namespace ovl::pictures

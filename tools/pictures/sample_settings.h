@@ -3,14 +3,16 @@
 
 #include "ui/kit/bindings.h"
 
-namespace ovl {
-
+namespace ovl::ui {
 class Program;
+}
+
+namespace ovl::pictures {
 
 // Everything is set by acts as of a person; a firmware that lacks a list refuses it.
-void MakeSampleSettings(Program& program);
+void MakeSampleSettings(ui::Program& program);
 
 // Opens a history in the viewer, in a file that is gone afterwards.
-void ShowSampleHistory(Program& program);
+void ShowSampleHistory(ui::Program& program);
 
-}  // namespace ovl
+}  // namespace ovl::pictures

@@ -24,7 +24,7 @@ std::string Entries(const std::vector<std::string>& entries) {
   return text.empty() ? "no entry" : text;
 }
 
-std::string Described(const MessageBox& box) {
+std::string Described(const core::MessageBox& box) {
   return "box " + Quoted(box.title) + " " + Quoted(box.text);
 }
 
@@ -110,24 +110,24 @@ void ExpectEnded(Session& session, Arguments& arguments) {
 // Words that name a state of a control; what the state would be called if it did not hold.
 struct StateWord {
   std::string_view word, opposite;
-  std::optional<bool> (*holds)(const ControlRef&);
+  std::optional<bool> (*holds)(const controls::ControlRef&);
 };
 
 using Holds = std::optional<bool>;
 
-Holds IsVisible(const ControlRef& control) {
-  return FaceOf(control).visible;
+Holds IsVisible(const controls::ControlRef& control) {
+  return controls::StateOf(control).visible;
 }
-Holds IsHidden(const ControlRef& control) {
-  return !FaceOf(control).visible;
+Holds IsHidden(const controls::ControlRef& control) {
+  return !controls::StateOf(control).visible;
 }
-Holds IsEnabled(const ControlRef& control) {
-  return FaceOf(control).enabled;
+Holds IsEnabled(const controls::ControlRef& control) {
+  return controls::StateOf(control).enabled;
 }
-Holds IsDisabled(const ControlRef& control) {
-  return !FaceOf(control).enabled;
+Holds IsDisabled(const controls::ControlRef& control) {
+  return !controls::StateOf(control).enabled;
 }
-Holds IsUnchecked(const ControlRef& control) {
+Holds IsUnchecked(const controls::ControlRef& control) {
   const auto checked = CheckedOf(control);
   return checked ? Holds(!*checked) : checked;
 }

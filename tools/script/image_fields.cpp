@@ -12,14 +12,14 @@
 namespace ovl::script {
 
 std::string FieldEntry::Name() const {
-  return EntryName(row->name, EntryCount(row->id), entry);
+  return image::EntryName(row->name, image::EntryCount(row->id), entry);
 }
 
 std::vector<FieldEntry> FieldsNamed(std::string_view name) {
   const auto bracket = name.find('(');
-  const auto* row = FindField(name.substr(0, bracket));
+  const auto* row = image::FindField(name.substr(0, bracket));
   if (row == nullptr) Wrong("no field has the name " + Quoted(name));
-  const int count = EntryCount(row->id);
+  const int count = image::EntryCount(row->id);
   std::vector<FieldEntry> fields;
   if (bracket == std::string_view::npos) {
     for (int entry = 1; entry <= count; ++entry) fields.push_back({row, entry});
@@ -45,10 +45,10 @@ FieldEntry FieldNamed(std::string_view name) {
   return fields.front();
 }
 
-std::string StreamOf(Application& app) {
+std::string StreamOf(core::Application& app) {
   const auto image = app.image;
   const auto capabilities = app.capabilities;
-  const Sections sections{app.SYSCFG, app.SYSFIXED, app.SYSSTR};
+  const image::Sections sections{app.SYSCFG, app.SYSFIXED, app.SYSSTR};
   auto stream = SectionsToStream(app);
   app.image = image;
   app.capabilities = capabilities;
@@ -58,8 +58,8 @@ std::string StreamOf(Application& app) {
   return stream;
 }
 
-void WriteStream(Application& app, const std::string& path) {
-  WriteWhole(path, StreamOf(app) + "\r\n");
+void WriteStream(core::Application& app, const std::string& path) {
+  files::WriteWhole(path, StreamOf(app) + "\r\n");
 }
 
 }  // namespace ovl::script

@@ -36,7 +36,7 @@ ExitStatus Run(const std::vector<std::string>& words) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  ovl::OutliveSizeLimit();
+  ovl::files::OutliveSizeLimit();
   const std::vector<std::string> words(argv + 1, argv + argc);
   if (words.size() == 1 && words[0] == "--help") {
     std::cout << ovl::script::HelpText();

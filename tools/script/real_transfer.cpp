@@ -44,7 +44,7 @@ class EventLoopOwner {
 
 struct RealLine::Parts {
   Parts(Session& owner, const std::string& program_folder)
-      : session(owner), port(QFile::decodeName(program_folder.c_str()), [&owner](const Event& event) {
+      : session(owner), port(QFile::decodeName(program_folder.c_str()), [&owner](const core::Event& event) {
           return owner.Act(event);
         }) {}
 
@@ -52,7 +52,7 @@ struct RealLine::Parts {
 
   EventLoopOwner loop;
   Session& session;
-  SerialPort port;
+  host::SerialPort port;
 };
 
 RealLine::RealLine(Session& session, const std::string& program_folder)
@@ -60,7 +60,7 @@ RealLine::RealLine(Session& session, const std::string& program_folder)
 
 RealLine::~RealLine() = default;
 
-SerialLine RealLine::Operations() {
+core::SerialLine RealLine::Operations() {
   return parts_->port.Operations();
 }
 
@@ -75,7 +75,7 @@ void RealLine::Parts::TickDueTimers() {
     auto* timer = time.TakeDue();
     if (timer == nullptr) return;
     port.DeliverPending();
-    session.Act(TickEvent{timer});
+    session.Act(core::TickEvent{timer});
   }
 }
 
@@ -110,7 +110,7 @@ class Transfer {
   Transfer(Session& session, std::string name)
       : session_(session), app_(session.App()), name_(std::move(name)), boxes_(session.BoxesShown()) {}
 
-  void Run(LinkAction action) {
+  void Run(controls::LinkAction action) {
     HoldRemoteMode();
     Press("CmdUpDow(" + std::to_string(action) + ")");
     RunUntil([&] {
@@ -126,7 +126,7 @@ class Transfer {
 
   // Loads a file as the menu does. The menu tells nothing of a file that it cannot read.
   void Open(const std::string& path) {
-    Checked([&] { ReadWhole(path); });
+    Checked([&] { files::ReadWhole(path); });
     const auto waiting = session_.AnswersWaiting();
     session_.AnswerFirst(path);
     Press("OpenMenu");
@@ -144,7 +144,7 @@ class Transfer {
   void HoldRemoteMode() {
     if (!app_.RemoteHeld) {
       Tell("asking for remote mode");
-      Press("CmdUpDow(" + std::to_string(kRemote) + ")");
+      Press("CmdUpDow(" + std::to_string(controls::kRemote) + ")");
     }
     RunUntil([&] { return app_.RemoteHeld && !app_.frmMain.General_timer.enabled; });
   }
@@ -152,7 +152,8 @@ class Transfer {
   bool Disturbed() const { return session_.Ended() || session_.BoxesShown() != boxes_; }
 
   void Press(const std::string& name) {
-    if (session_.Act(ClickEvent{session_.Control(name)}) == Outcome::kRefused) Fail(name + " is disabled");
+    if (session_.Act(core::ClickEvent{session_.Control(name)}) == core::Outcome::kRefused)
+      Fail(name + " is disabled");
   }
 
   void RunUntil(const std::function<bool()>& reached) {
@@ -166,7 +167,7 @@ class Transfer {
     session_.Real().RunUntil([&] { return !app_.FinalAckExpected || Refused(); }, kConfirmationLimit);
   }
 
-  bool Refused() const { return app_.LinkMode == kLinkDownload && app_.LastReceived == kNak; }
+  bool Refused() const { return app_.LinkMode == core::kLinkDownload && app_.LastReceived == kNak; }
 
   [[noreturn]] void Fail(const std::string& reason) {
     throw Stop(ExitStatus::kTransferFailed, name_ + " failed: " + reason);
@@ -182,7 +183,7 @@ class Transfer {
   void Checked(const Step& step) {
     try {
       step();
-    } catch (const Failure& failure) {
+    } catch (const core::Failure& failure) {
       Fail(failure.Subject() + ": " + failure.what());
     }
   }
@@ -196,7 +197,7 @@ class Transfer {
   }
 
   Session& session_;
-  Application& app_;
+  core::Application& app_;
   std::string name_;
   int boxes_;
   int told_ = 0;
@@ -206,14 +207,14 @@ class Transfer {
 
 void UploadTo(Session& session, const std::string& path) {
   Transfer upload(session, "upload");
-  upload.Run(kUpload);
+  upload.Run(controls::kUpload);
   if (!path.empty()) upload.Save(path);
 }
 
 void DownloadFrom(Session& session, const std::string& path) {
   Transfer download(session, "download");
   if (!path.empty()) download.Open(path);
-  download.Run(kDownload);
+  download.Run(controls::kDownload);
 }
 
 }  // namespace ovl::script

@@ -22,7 +22,7 @@ class RealLine {
   RealLine(const RealLine&) = delete;
   RealLine& operator=(const RealLine&) = delete;
 
-  SerialLine Operations();
+  core::SerialLine Operations();
 
   // After each handler: what the line has to tell meanwhile is told again.
   void Resume();

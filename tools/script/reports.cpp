@@ -10,18 +10,18 @@
 namespace ovl::script {
 namespace {
 
-ConfigImage ImageIn(Session& session, const std::string& path) {
+image::ConfigImage ImageIn(Session& session, const std::string& path) {
   const auto& firmware = session.App().firmware;
-  auto image = DecodeStream(ReadJoined(path), firmware);
+  auto image = image::DecodeStream(files::ReadJoined(path), firmware);
   if (!image) Wrong(path + ": no configuration of " + firmware.Joined());
   return *std::move(image);
 }
 
-const char* WordsFor(OpenOutcome outcome) {
+const char* WordsFor(image::OpenOutcome outcome) {
   switch (outcome) {
-    case OpenOutcome::kLoads:
+    case image::OpenOutcome::kLoads:
       return "loads it";
-    case OpenOutcome::kRefused:
+    case image::OpenOutcome::kRefused:
       return "refuses it and keeps the image";
     default:
       return "ends the program";
@@ -32,11 +32,11 @@ const char* WordsFor(OpenOutcome outcome) {
 
 void Dump(Session& session, Arguments& arguments) {
   const auto& app = session.App();
-  const auto path = arguments.AtEnd() ? PathBelow(app.platform.program_folder,
-                                                  "\\" + app.firmware.version + "\\SaveReport.Bin")
+  const auto path = arguments.AtEnd() ? files::PathBelow(app.platform.program_folder,
+                                                         "\\" + app.firmware.version + "\\SaveReport.Bin")
                                       : arguments.Next("PATH");
   arguments.End();
-  WriteWhole(path, LabelledDump(app.image, app.firmware));
+  files::WriteWhole(path, image::LabelledDump(app.image, app.firmware));
 }
 
 void Diff(Session& session, Arguments& arguments) {
@@ -44,7 +44,7 @@ void Diff(Session& session, Arguments& arguments) {
   const auto after = arguments.Next("PATH");
   arguments.End();
   const auto differences =
-      Differences(ImageIn(session, before), ImageIn(session, after), session.App().firmware);
+      image::Differences(ImageIn(session, before), ImageIn(session, after), session.App().firmware);
   for (const auto& difference : differences) {
     session.Output() << difference.name << ": " << difference.before << " -> " << difference.after << '\n';
   }
@@ -54,8 +54,8 @@ void Diff(Session& session, Arguments& arguments) {
 void Inspect(Session& session, Arguments& arguments) {
   const auto path = arguments.Next("PATH");
   arguments.End();
-  const auto stream = ReadJoined(path);
-  const auto fits = FittingFirmware(stream);
+  const auto stream = files::ReadJoined(path);
+  const auto fits = image::FittingFirmware(stream);
   for (const auto& fit : fits) {
     session.Output() << "fits " << fit.firmware.Joined() << ": register " << fit.register_code << ' '
                      << (fit.register_name.empty() ? "is not in its list" : Quoted(fit.register_name))
@@ -64,7 +64,7 @@ void Inspect(Session& session, Arguments& arguments) {
   if (fits.empty()) session.Output() << "fits no firmware\n";
   const auto& firmware = session.App().firmware;
   session.Output() << "opening it under " << firmware.Joined() << ' '
-                   << WordsFor(OutcomeOfOpening(stream, firmware)) << '\n';
+                   << WordsFor(image::OutcomeOfOpening(stream, firmware)) << '\n';
 }
 
 }  // namespace ovl::script

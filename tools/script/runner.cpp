@@ -72,7 +72,7 @@ ExitStatus RunScript(Session& session, std::istream& script, const std::string& 
       RunLine(session, line);
     } catch (const Stop& stop) {
       return leave(stop.Status(), stop.what());
-    } catch (const Failure& failure) {
+    } catch (const core::Failure& failure) {
       return leave(ExitStatus::kWrongStatement, failure.Subject() + ": " + failure.what());
     }
   }

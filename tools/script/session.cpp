@@ -20,11 +20,11 @@ void Session::SetFolder(std::string folder) {
 }
 
 void Session::StoreSetting(const std::string& value, const std::string& text) {
-  if (WriteStore(kSettingsKey, value, text)) return;
+  if (WriteStore(core::kSettingsKey, value, text)) return;
   Wrong("the machine's settings store cannot be written: " + system_store_->WhyNotWritten());
 }
 
-void Session::SetClock(const ClockTime& time) {
+void Session::SetClock(const core::ClockTime& time) {
   time_.SetClock(time);
   clock_set_ = true;
 }
@@ -63,20 +63,20 @@ RealLine& Session::Real() {
   return *real_;
 }
 
-SerialLine& Session::CurrentLine() {
+core::SerialLine& Session::CurrentLine() {
   return real_ != nullptr ? real_operations_ : simulated_operations_;
 }
 
-Platform Session::MakePlatform() {
-  Platform platform;
+core::Platform Session::MakePlatform() {
+  core::Platform platform;
   platform.program_folder = folder_;
-  platform.show_message = [this](const MessageBox& box) { Show(box); };
-  platform.ask_file = [this](const FileDialog&) { return Answer(); };
+  platform.show_message = [this](const core::MessageBox& box) { Show(box); };
+  platform.ask_file = [this](const core::FileDialog&) { return Answer(); };
   platform.read_setting = [this](auto key, auto value) { return ReadStore(key, value); };
   platform.write_setting = [this](auto key, auto value, auto text) { return WriteStore(key, value, text); };
   platform.clock = [this] { return Clock(); };
   platform.SetWindowPos = [](std::string_view) {};
-  platform.serial.open = [this](const LineSettings& settings) { return CurrentLine().open(settings); };
+  platform.serial.open = [this](const core::LineSettings& settings) { return CurrentLine().open(settings); };
   platform.serial.close = [this] { CurrentLine().close(); };
   platform.serial.write = [this](std::string_view text) {
     const auto error = CurrentLine().write(text);
@@ -93,25 +93,25 @@ void Session::Start() {
   CurrentLine().close();
   if (real_ != nullptr) OpenRealPorts();
   time_.Forget();
-  app_ = std::make_unique<Application>();
+  app_ = std::make_unique<core::Application>();
   app_->platform = MakePlatform();
   end_told_ = false;
-  StartProgram(*app_);
+  start::StartProgram(*app_);
   Settle();
 }
 
-Application& Session::App() {
+core::Application& Session::App() {
   if (app_ == nullptr) Wrong("the program was not started");
   return *app_;
 }
 
-ControlRef Session::Control(const std::string& name) {
+controls::ControlRef Session::Control(const std::string& name) {
   const auto* named = App().registry.Find(name);
   if (named == nullptr) Wrong("no control has the name " + Quoted(name));
   return named->control;
 }
 
-Outcome Session::Act(const Event& event) {
+core::Outcome Session::Act(const core::Event& event) {
   const auto outcome = Dispatch(App(), event);
   Settle();
   DeliverReceived();
@@ -125,8 +125,8 @@ void Session::Settle() {
 
 void Session::DeliverReceived() {
   while (!Ended() && simulated_.TakeReceived()) {
-    const auto outcome = Dispatch(App(), ReceivedEvent{});
-    if (outcome == Outcome::kBusy) return simulated_.KeepReceived();
+    const auto outcome = Dispatch(App(), core::ReceivedEvent{});
+    if (outcome == core::Outcome::kBusy) return simulated_.KeepReceived();
     Settle();
   }
 }
@@ -137,36 +137,36 @@ void Session::Wait(SimulatedTime::Milliseconds duration) {
     real_->RunFor(duration);
     return;
   }
-  time_.Advance(app.registry, duration, [this](Timer& timer) {
-    Act(TickEvent{&timer});
+  time_.Advance(app.registry, duration, [this](controls::Timer& timer) {
+    Act(core::TickEvent{&timer});
     return !Ended();
   });
 }
 
-void Session::Show(const MessageBox& box) {
+void Session::Show(const core::MessageBox& box) {
   output_ << "box " << Quoted(box.title) << ' ' << Quoted(box.text) << std::endl;
   boxes_.push_back(box);
   ++boxes_shown_;
 }
 
-std::optional<MessageBox> Session::TakeBox() {
+std::optional<core::MessageBox> Session::TakeBox() {
   if (boxes_.empty()) return std::nullopt;
   auto box = std::move(boxes_.front());
   boxes_.pop_front();
   return box;
 }
 
-std::optional<FileAnswer> Session::Answer() {
+std::optional<core::FileAnswer> Session::Answer() {
   if (answers_.empty()) return std::nullopt;
   const auto path = std::move(answers_.front());
   answers_.pop_front();
-  return path ? std::optional(FileAnswer{*path}) : std::nullopt;
+  return path ? std::optional(core::FileAnswer{*path}) : std::nullopt;
 }
 
-std::optional<SettingValue> Session::ReadStore(std::string_view key, std::string_view value) const {
+std::optional<core::SettingValue> Session::ReadStore(std::string_view key, std::string_view value) const {
   if (system_store_) return system_store_->Read(key, value);
   const auto found = store_.find({std::string(key), std::string(value)});
-  return found == store_.end() ? std::nullopt : std::optional<SettingValue>(found->second);
+  return found == store_.end() ? std::nullopt : std::optional<core::SettingValue>(found->second);
 }
 
 bool Session::WriteStore(std::string_view key, std::string_view value, std::string_view text) {
@@ -175,8 +175,8 @@ bool Session::WriteStore(std::string_view key, std::string_view value, std::stri
   return true;
 }
 
-ClockTime Session::Clock() const {
-  return real_ != nullptr && !clock_set_ ? LocalClockTime() : time_.Clock();
+core::ClockTime Session::Clock() const {
+  return real_ != nullptr && !clock_set_ ? host::LocalClockTime() : time_.Clock();
 }
 
 }  // namespace ovl::script

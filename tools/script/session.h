@@ -36,7 +36,7 @@ class Session {
   // Ahead of the answers that wait already.
   std::size_t AnswersWaiting() const { return answers_.size(); }
   void AnswerFirst(std::string path) { answers_.emplace_front(std::move(path)); }
-  void SetClock(const ClockTime& time);
+  void SetClock(const core::ClockTime& time);
   // The port must be closed for a change between the simulated line and the machine's ports.
   void UseRealPorts();
   void UseSimulatedPort();
@@ -46,13 +46,13 @@ class Session {
 
   // The program.
   void Start();
-  Application& App();
+  core::Application& App();
   bool Started() const { return app_ != nullptr; }
   bool Ended() const { return app_ != nullptr && app_->ended; }
-  ControlRef Control(const std::string& name);
+  controls::ControlRef Control(const std::string& name);
 
   // One event through the gate; what the line has to tell follows.
-  Outcome Act(const Event& event);
+  core::Outcome Act(const core::Event& event);
   void DeliverReceived();
 
   // Time passes: at once on the simulated line, really with the machine's ports.
@@ -60,8 +60,8 @@ class Session {
 
   // What the script can ask for.
   std::string TakeSent() { return std::exchange(sent_, {}); }
-  std::optional<MessageBox> TakeBox();
-  const std::deque<MessageBox>& Boxes() const { return boxes_; }
+  std::optional<core::MessageBox> TakeBox();
+  const std::deque<core::MessageBox>& Boxes() const { return boxes_; }
   // Since the session began, asked for or not.
   int BoxesShown() const { return boxes_shown_; }
 
@@ -69,34 +69,34 @@ class Session {
   std::ostream& Progress() { return progress_; }
 
  private:
-  Platform MakePlatform();
-  SerialLine& CurrentLine();
+  core::Platform MakePlatform();
+  core::SerialLine& CurrentLine();
   void RequireClosedPort();
   void OpenRealPorts();
-  void Show(const MessageBox& box);
-  std::optional<FileAnswer> Answer();
-  std::optional<SettingValue> ReadStore(std::string_view key, std::string_view value) const;
+  void Show(const core::MessageBox& box);
+  std::optional<core::FileAnswer> Answer();
+  std::optional<core::SettingValue> ReadStore(std::string_view key, std::string_view value) const;
   bool WriteStore(std::string_view key, std::string_view value, std::string_view text);
-  ClockTime Clock() const;
+  core::ClockTime Clock() const;
   void Settle();
 
   std::ostream& output_;
   std::ostream& progress_;
   std::string folder_ = ".";
-  std::optional<SettingsStore> system_store_;
+  std::optional<host::SettingsStore> system_store_;
   std::map<std::pair<std::string, std::string>, std::string> store_;  // by key and value
   std::deque<std::optional<std::string>> answers_;
-  std::deque<MessageBox> boxes_;  // not yet expected
+  std::deque<core::MessageBox> boxes_;  // not yet expected
   int boxes_shown_ = 0;
   std::string sent_;
   bool clock_set_ = false;
   SimulatedTime time_;
   SimulatedLine simulated_;
-  SerialLine simulated_operations_;
-  std::unique_ptr<Application> app_;
+  core::SerialLine simulated_operations_;
+  std::unique_ptr<core::Application> app_;
   bool end_told_ = false;
   std::unique_ptr<RealLine> real_;
-  SerialLine real_operations_;
+  core::SerialLine real_operations_;
 };
 
 }  // namespace ovl::script

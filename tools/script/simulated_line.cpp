@@ -10,9 +10,9 @@ constexpr const char* kLost = "No such device";
 
 }  // namespace
 
-SerialLine SimulatedLine::Operations() {
-  SerialLine line;
-  line.open = [this](const LineSettings&) { return Open(); };
+core::SerialLine SimulatedLine::Operations() {
+  core::SerialLine line;
+  line.open = [this](const core::LineSettings&) { return Open(); };
   line.close = [this] { Close(); };
   line.write = [this](std::string_view text) { return Write(text); };
   line.read = [this] { return Read(); };
@@ -50,7 +50,7 @@ bool SimulatedLine::TakeDrained() {
   return std::exchange(draining_, false);
 }
 
-SerialLine::Error SimulatedLine::Open() {
+core::SerialLine::Error SimulatedLine::Open() {
   if (refusal_) return refusal_;
   open_ = true;
   dead_ = false;
@@ -63,7 +63,7 @@ void SimulatedLine::Close() {
   ClearInput();
 }
 
-SerialLine::Error SimulatedLine::Write(std::string_view text) {
+core::SerialLine::Error SimulatedLine::Write(std::string_view text) {
   if (dead_) return kLost;
   if (open_ && !text.empty()) draining_ = true;
   return std::nullopt;

@@ -11,7 +11,7 @@ namespace ovl::script {
 class SimulatedLine {
  public:
   // The operations for the platform record. They refer to this object, which must outlive them.
-  SerialLine Operations();
+  core::SerialLine Operations();
 
   // What the machine has: a port that opens, one that refuses with this reason, or none any more. A port that
   // was open when it was lost stays dead until it is opened again; that the transmitter ran empty is still
@@ -31,13 +31,13 @@ class SimulatedLine {
   void KeepReceived() { ++untold_; }
 
  private:
-  SerialLine::Error Open();
+  core::SerialLine::Error Open();
   void Close();
-  SerialLine::Error Write(std::string_view text);
+  core::SerialLine::Error Write(std::string_view text);
   std::string Read();
   void ClearInput();
 
-  SerialLine::Error refusal_;  // why no port opens
+  core::SerialLine::Error refusal_;  // why no port opens
   bool open_ = false;
   bool dead_ = false;
   std::deque<char> received_;

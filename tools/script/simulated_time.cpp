@@ -13,21 +13,21 @@ using std::chrono::days;
 using std::chrono::sys_days;
 using std::chrono::year_month_day;
 
-year_month_day DateOf(const ClockTime& time) {
+year_month_day DateOf(const core::ClockTime& time) {
   return {std::chrono::year(time.year), std::chrono::month(static_cast<unsigned>(time.month)),
           std::chrono::day(static_cast<unsigned>(time.day))};
 }
 
 }  // namespace
 
-void SimulatedTime::SetClock(const ClockTime& time) {
+void SimulatedTime::SetClock(const core::ClockTime& time) {
   const std::chrono::milliseconds moment = sys_days(DateOf(time)).time_since_epoch() +
                                            std::chrono::hours(time.hour) + std::chrono::minutes(time.minute) +
                                            std::chrono::seconds(time.second);
   clock_offset_ = moment.count() - now_;
 }
 
-ClockTime SimulatedTime::Clock() const {
+core::ClockTime SimulatedTime::Clock() const {
   const std::chrono::milliseconds moment(clock_offset_ + now_);
   const auto day = std::chrono::floor<days>(moment);
   const year_month_day date{sys_days(day)};
@@ -40,10 +40,10 @@ ClockTime SimulatedTime::Clock() const {
           static_cast<int>(time.seconds().count())};
 }
 
-void SimulatedTime::Watch(const Registry& registry) {
+void SimulatedTime::Watch(const controls::Registry& registry) {
   const auto before = std::exchange(running_, {});
   for (const auto& named : registry.All()) {
-    auto* const* held = std::get_if<Timer*>(&named.control);
+    auto* const* held = std::get_if<controls::Timer*>(&named.control);
     if (held == nullptr || !(*held)->enabled || (*held)->interval <= 0) continue;
     auto& timer = **held;
     const auto same = std::find_if(before.begin(), before.end(), [&](const Running& at) {
@@ -69,7 +69,7 @@ void SimulatedTime::MoveTo(Milliseconds now) {
   now_ = std::max(now_, now);
 }
 
-Timer* SimulatedTime::TakeDue() {
+controls::Timer* SimulatedTime::TakeDue() {
   const auto* first = Earliest();
   if (first == nullptr || first->due > now_) return nullptr;
   auto& taken = running_[static_cast<std::size_t>(first - running_.data())];
@@ -77,8 +77,8 @@ Timer* SimulatedTime::TakeDue() {
   return taken.timer;
 }
 
-void SimulatedTime::Advance(const Registry& registry, Milliseconds duration,
-                            const std::function<bool(Timer&)>& tick) {
+void SimulatedTime::Advance(const controls::Registry& registry, Milliseconds duration,
+                            const std::function<bool(controls::Timer&)>& tick) {
   const auto end = now_ + duration;
   Watch(registry);
   for (auto due = NextDue(); due && *due <= end; due = NextDue()) {
@@ -89,16 +89,17 @@ void SimulatedTime::Advance(const Registry& registry, Milliseconds duration,
   MoveTo(end);
 }
 
-std::optional<ClockTime> ParseClock(std::string_view text) {
+std::optional<core::ClockTime> ParseClock(std::string_view text) {
   constexpr std::string_view kForm = "dddd-dd-dd dd:dd:dd";
   const auto fits = [](char form, char character) {
     return form == 'd' ? character >= '0' && character <= '9' : form == character;
   };
   if (!std::equal(kForm.begin(), kForm.end(), text.begin(), text.end(), fits)) return std::nullopt;
   const auto number = [&](std::size_t place, std::size_t digits) {
-    return LeadingNumber(text.substr(place, digits));
+    return codecs::LeadingNumber(text.substr(place, digits));
   };
-  const ClockTime time{number(0, 4), number(5, 2), number(8, 2), number(11, 2), number(14, 2), number(17, 2)};
+  const core::ClockTime time{number(0, 4),  number(5, 2),  number(8, 2),
+                             number(11, 2), number(14, 2), number(17, 2)};
   if (!DateOf(time).ok() || time.hour > 23 || time.minute > 59 || time.second > 59) return std::nullopt;
   return time;
 }

@@ -17,12 +17,12 @@ class SimulatedTime {
   using Milliseconds = std::int64_t;
 
   // From here on the clock shows this time. Before it was ever set it starts with the year 2000.
-  void SetClock(const ClockTime& time);
-  ClockTime Clock() const;
+  void SetClock(const core::ClockTime& time);
+  core::ClockTime Clock() const;
 
   // Looks which timers of the program run. One that was started, restarted or given another interval since
   // the last look comes due a whole interval from now. A timer without an interval never does.
-  void Watch(const Registry& registry);
+  void Watch(const controls::Registry& registry);
 
   // The timers of a program that is gone.
   void Forget() { running_.clear(); }
@@ -35,15 +35,16 @@ class SimulatedTime {
 
   // The timer that came due first, of several at once the one that was registered first; nothing if none is
   // due by now. It comes due again an interval from now, so that ticks that were missed are lost.
-  Timer* TakeDue();
+  controls::Timer* TakeDue();
 
   // Moves by so much and ticks every timer when it comes due, with a look after each tick. `tick` tells
   // whether to go on.
-  void Advance(const Registry& registry, Milliseconds duration, const std::function<bool(Timer&)>& tick);
+  void Advance(const controls::Registry& registry, Milliseconds duration,
+               const std::function<bool(controls::Timer&)>& tick);
 
  private:
   struct Running {
-    Timer* timer;
+    controls::Timer* timer;
     unsigned starts;
     int interval;
     Milliseconds due;
@@ -57,6 +58,6 @@ class SimulatedTime {
 };
 
 // "2026-03-05 14:07:09"; nothing for another form or a time that no clock shows.
-std::optional<ClockTime> ParseClock(std::string_view text);
+std::optional<core::ClockTime> ParseClock(std::string_view text);
 
 }  // namespace ovl::script

@@ -37,8 +37,8 @@ int Times(Arguments& arguments, int otherwise) {
   return times;
 }
 
-void TellRefusal(Session& session, const std::string& name, Outcome outcome) {
-  if (outcome == Outcome::kRefused) session.Output() << "refused " << name << '\n';
+void TellRefusal(Session& session, const std::string& name, core::Outcome outcome) {
+  if (outcome == core::Outcome::kRefused) session.Output() << "refused " << name << '\n';
 }
 
 // --- the world around the program
@@ -110,7 +110,7 @@ void Pick(Session& session, Arguments& arguments) {
   const auto name = arguments.Bare("NAME");
   const auto control = session.Control(name);
   const auto entries = EntriesOf(control);
-  if (!entries || std::holds_alternative<Tabs*>(control)) Wrong(name + " has no entries to pick");
+  if (!entries || std::holds_alternative<controls::Tabs*>(control)) Wrong(name + " has no entries to pick");
   int position = 0;
   if (arguments.NextIsQuoted()) {
     const auto& entry = arguments.Next("ENTRY");
@@ -124,16 +124,16 @@ void Pick(Session& session, Arguments& arguments) {
     Wrong(name + " has no position " + std::to_string(position));
   }
   arguments.End();
-  TellRefusal(session, name, session.Act(PickEvent{control, position}));
+  TellRefusal(session, name, session.Act(core::PickEvent{control, position}));
 }
 
 void Click(Session& session, Arguments& arguments) {
   const auto name = arguments.Bare("NAME");
   const auto control = session.Control(name);
   arguments.End();
-  const bool clickable = std::holds_alternative<Button*>(control) || CheckedOf(control).has_value();
+  const bool clickable = std::holds_alternative<controls::Button*>(control) || CheckedOf(control).has_value();
   if (!clickable) Wrong(name + " is no button, menu item, check box or element");
-  TellRefusal(session, name, session.Act(ClickEvent{control}));
+  TellRefusal(session, name, session.Act(core::ClickEvent{control}));
 }
 
 void Type(Session& session, Arguments& arguments) {
@@ -141,16 +141,16 @@ void Type(Session& session, Arguments& arguments) {
   const auto control = session.Control(name);
   const auto text = arguments.Next("TEXT");
   arguments.End();
-  if (std::holds_alternative<List*>(control)) return;
-  auto* const* box = std::get_if<TextBox*>(&control);
+  if (std::holds_alternative<controls::List*>(control)) return;
+  auto* const* box = std::get_if<controls::TextBox*>(&control);
   if (box == nullptr) Wrong(name + " is no text box");
-  TellRefusal(session, name, session.Act(TypeEvent{*box, text}));
+  TellRefusal(session, name, session.Act(core::TypeEvent{*box, text}));
 }
 
 void Leave(Session& session, Arguments& arguments) {
   const auto control = session.Control(arguments.Bare("NAME"));
   arguments.End();
-  session.Act(LeaveEvent{control});
+  session.Act(core::LeaveEvent{control});
 }
 
 void Press(Session& session, Arguments& arguments) {
@@ -158,19 +158,20 @@ void Press(Session& session, Arguments& arguments) {
   const bool enter = arguments.Take("Enter");
   if (!enter && !arguments.Take("Escape")) Wrong("the keys are Enter and Escape");
   arguments.End();
-  session.Act(KeyEvent{session.App().registry.FormOf(control), enter ? Key::kEnter : Key::kEscape});
+  session.Act(
+      core::KeyEvent{session.App().registry.FormOf(control), enter ? core::Key::kEnter : core::Key::kEscape});
 }
 
 void Point(Session& session, Arguments& arguments) {
   const auto control = session.Control(arguments.Bare("NAME"));
   arguments.End();
-  session.Act(PointEvent{control});
+  session.Act(core::PointEvent{control});
 }
 
 void Close(Session& session, Arguments& arguments) {
-  auto* form = ControlOf<Form*>(session, arguments, "form");
+  auto* form = ControlOf<controls::Form*>(session, arguments, "form");
   arguments.End();
-  session.Act(CloseEvent{form});
+  session.Act(core::CloseEvent{form});
 }
 
 // --- the unit, the line, the timers
@@ -203,7 +204,7 @@ void Drain(Session& session, Arguments& arguments) {
   session.App();
   int drained = 0;
   while (drained < times && !session.Ended() && line.TakeDrained()) {
-    session.Act(DrainedEvent{});
+    session.Act(core::DrainedEvent{});
     ++drained;
   }
   if (all && drained == kLongestDrain) Wrong("the transmitter never runs empty");
@@ -215,10 +216,10 @@ void Sent(Session& session, Arguments& arguments) {
 }
 
 void Tick(Session& session, Arguments& arguments) {
-  auto* timer = ControlOf<Timer*>(session, arguments, "timer");
+  auto* timer = ControlOf<controls::Timer*>(session, arguments, "timer");
   const int times = Times(arguments, 1);
   for (int tick = 0; tick < times && timer->enabled && !session.Ended(); ++tick) {
-    session.Act(TickEvent{timer});
+    session.Act(core::TickEvent{timer});
   }
 }
 
@@ -318,7 +319,8 @@ constexpr auto kStatements = std::to_array<Statement>({
      "the simulated line opens, refuses, is lost; the machine's own ports", Port},
     {"show", "show NAME", "prints NAME = position \"text\" visible|hidden enabled|disabled", Show},
     {"list", "list NAME", "prints its entries, one a line", PrintList},
-    {"field", "field NAME", "prints an image field, NAME = HEX; entries count from 1: EXCPSTRS(3)", Field},
+    {"field", "field NAME", "prints an image field, NAME = HEX; entries count from 1: EXCPSTRS(3)",
+     Field},
     {"set", "set NAME HEX", "writes an image field as it stands", Set},
     {"var", "var NAME", "prints a state variable, NAME = value", Var},
     {"stream", "stream [PATH]", "prints what a download would send, or writes it into a file", Stream},

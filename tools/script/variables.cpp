@@ -18,36 +18,36 @@ std::string AsText(const std::string& text) {
 
 struct Row {
   std::string_view name;
-  std::string (*value)(const Application&);
+  std::string (*value)(const core::Application&);
 };
 
 // The three places where variables stand.
 template <auto Member>
-std::string Of(const Application& app) {
+std::string Of(const core::Application& app) {
   return AsText(app.*Member);
 }
 template <auto Member>
-std::string OfPort(const Application& app) {
+std::string OfPort(const core::Application& app) {
   return AsText(app.frmMain.MSComm1.*Member);
 }
 template <auto Member>
-std::string OfFirmware(const Application& app) {
+std::string OfFirmware(const core::Application& app) {
   return AsText(app.firmware.*Member);
 }
 template <auto Member>
-std::string OfCapabilities(const Application& app) {
+std::string OfCapabilities(const core::Application& app) {
   return AsText(app.capabilities.*Member);
 }
 
-using A = Application;
+using A = core::Application;
 
 constexpr auto kVariables = std::to_array<Row>({
-    {"FirmwareVersion", OfFirmware<&FirmwareId::version>},
-    {"FirmwareRelease", OfFirmware<&FirmwareId::release>},
-    {"HasAtmInterface", OfCapabilities<&Capabilities::HasAtmInterface>},
-    {"HasTcpIp", OfCapabilities<&Capabilities::HasTcpIp>},
-    {"HasTimeFields", OfCapabilities<&Capabilities::HasTimeFields>},
-    {"HasAnsiTerm", OfCapabilities<&Capabilities::HasAnsiTerm>},
+    {"FirmwareVersion", OfFirmware<&firmware::FirmwareId::version>},
+    {"FirmwareRelease", OfFirmware<&firmware::FirmwareId::release>},
+    {"HasAtmInterface", OfCapabilities<&firmware::Capabilities::HasAtmInterface>},
+    {"HasTcpIp", OfCapabilities<&firmware::Capabilities::HasTcpIp>},
+    {"HasTimeFields", OfCapabilities<&firmware::Capabilities::HasTimeFields>},
+    {"HasAnsiTerm", OfCapabilities<&firmware::Capabilities::HasAnsiTerm>},
     {"SYSCFG", Of<&A::SYSCFG>},
     {"SYSFIXED", Of<&A::SYSFIXED>},
     {"SYSSTR", Of<&A::SYSSTR>},
@@ -80,13 +80,13 @@ constexpr auto kVariables = std::to_array<Row>({
     {"PortBaud", Of<&A::PortBaud>},
     {"PortParity", Of<&A::PortParity>},
     {"PortDataBits", Of<&A::PortDataBits>},
-    {"CommPort", OfPort<&SerialControl::CommPort>},
-    {"Settings", OfPort<&SerialControl::Settings>},
-    {"PortOpen", OfPort<&SerialControl::PortOpen>},
-    {"SThreshold", OfPort<&SerialControl::SThreshold>},
-    {"RThreshold", OfPort<&SerialControl::RThreshold>},
-    {"InputLen", OfPort<&SerialControl::InputLen>},
-    {"CommEvent", OfPort<&SerialControl::CommEvent>},
+    {"CommPort", OfPort<&controls::SerialControl::CommPort>},
+    {"Settings", OfPort<&controls::SerialControl::Settings>},
+    {"PortOpen", OfPort<&controls::SerialControl::PortOpen>},
+    {"SThreshold", OfPort<&controls::SerialControl::SThreshold>},
+    {"RThreshold", OfPort<&controls::SerialControl::RThreshold>},
+    {"InputLen", OfPort<&controls::SerialControl::InputLen>},
+    {"CommEvent", OfPort<&controls::SerialControl::CommEvent>},
     {"ClockHour", Of<&A::ClockHour>},
     {"ClockMinute", Of<&A::ClockMinute>},
     {"ClockSecond", Of<&A::ClockSecond>},
@@ -105,7 +105,7 @@ constexpr auto kVariables = std::to_array<Row>({
 
 }  // namespace
 
-std::optional<std::string> VariableValue(const Application& app, std::string_view name) {
+std::optional<std::string> VariableValue(const core::Application& app, std::string_view name) {
   const auto row =
       std::find_if(kVariables.begin(), kVariables.end(), [name](const Row& at) { return at.name == name; });
   return row == kVariables.end() ? std::nullopt : std::optional(row->value(app));

@@ -10,6 +10,6 @@
 namespace ovl::script {
 
 // The value as text; flags read true or false. Nothing if no variable has the name.
-std::optional<std::string> VariableValue(const Application& app, std::string_view name);
+std::optional<std::string> VariableValue(const core::Application& app, std::string_view name);
 
 }  // namespace ovl::script

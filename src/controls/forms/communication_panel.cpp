@@ -3,7 +3,7 @@
 #include "controls/design.h"
 #include "controls/registry.h"
 
-namespace ovl {
+namespace ovl::controls {
 namespace {
 
 const std::vector<std::string> kSpeeds = {"1200",  "2400",  "4800",  "9600",  "14400",
@@ -47,4 +47,4 @@ void CommunicationPanel::Register(Registry& registry, Form& form) {
   registry.AddArray(form, "ComboNone", ComboNone);
 }
 
-}  // namespace ovl
+}  // namespace ovl::controls

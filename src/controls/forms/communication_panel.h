@@ -6,7 +6,7 @@
 
 #include "controls/controls.h"
 
-namespace ovl {
+namespace ovl::controls {
 
 class Registry;
 
@@ -18,4 +18,4 @@ struct CommunicationPanel {
   void Register(Registry& registry, Form& form);
 };
 
-}  // namespace ovl
+}  // namespace ovl::controls

@@ -3,7 +3,7 @@
 #include "controls/design.h"
 #include "controls/registry.h"
 
-namespace ovl {
+namespace ovl::controls {
 namespace {
 
 const std::vector<std::string> kOffOn = {"OFF", "ON"};
@@ -40,4 +40,4 @@ void DisplayPanel::Register(Registry& registry, Form& form) {
   registry.AddArray(form, "ComboExcepRe", ComboExcepRe);
 }
 
-}  // namespace ovl
+}  // namespace ovl::controls

@@ -6,7 +6,7 @@
 
 #include "controls/controls.h"
 
-namespace ovl {
+namespace ovl::controls {
 
 class Registry;
 
@@ -20,4 +20,4 @@ struct DisplayPanel {
   void Register(Registry& registry, Form& form);
 };
 
-}  // namespace ovl
+}  // namespace ovl::controls

@@ -2,7 +2,7 @@
 
 #include "controls/registry.h"
 
-namespace ovl {
+namespace ovl::controls {
 ViewerForm::ViewerForm() {
   form.name = "frmView";
   Text.caption = "Text";
@@ -33,4 +33,4 @@ void AboutForm::Register(Registry& registry) {
   registry.Add(form, "Command1", Command1);
 }
 
-}  // namespace ovl
+}  // namespace ovl::controls

@@ -3,7 +3,7 @@
 
 #include "controls/controls.h"
 
-namespace ovl {
+namespace ovl::controls {
 
 class Registry;
 
@@ -26,4 +26,4 @@ struct AboutForm {
   void Register(Registry& registry);
 };
 
-}  // namespace ovl
+}  // namespace ovl::controls

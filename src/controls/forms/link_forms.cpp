@@ -3,7 +3,7 @@
 #include "controls/design.h"
 #include "controls/registry.h"
 
-namespace ovl {
+namespace ovl::controls {
 namespace {
 
 constexpr int kPorts = 16;
@@ -70,4 +70,4 @@ void TransferEndForm::Register(Registry& registry) {
   registry.Add(form, "Command1", Command1);
 }
 
-}  // namespace ovl
+}  // namespace ovl::controls

@@ -3,7 +3,7 @@
 
 #include "controls/controls.h"
 
-namespace ovl {
+namespace ovl::controls {
 
 class Registry;
 
@@ -13,7 +13,7 @@ struct PortSettingsForm {
   List Comport_Select;
   OptionArray OpBaud, OpDataBits, OpParity;
   Button cmdSET, BaudrateCMD;
-  ovl::Timer BaudRateScan;
+  controls::Timer BaudRateScan;
   Label Label1;
 
   PortSettingsForm();
@@ -41,4 +41,4 @@ struct TransferEndForm {
   void Register(Registry& registry);
 };
 
-}  // namespace ovl
+}  // namespace ovl::controls

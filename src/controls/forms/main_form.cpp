@@ -5,7 +5,7 @@
 #include "controls/design.h"
 #include "controls/registry.h"
 
-namespace ovl {
+namespace ovl::controls {
 namespace {
 
 constexpr int kClockRefresh = 100;
@@ -165,4 +165,4 @@ void MainForm::EnableActions(bool enabled) {
   }
 }
 
-}  // namespace ovl
+}  // namespace ovl::controls

@@ -10,7 +10,7 @@
 #include "controls/forms/register_options.h"
 #include "controls/forms/text_panels.h"
 
-namespace ovl {
+namespace ovl::controls {
 
 class Registry;
 
@@ -59,10 +59,10 @@ struct MainForm : RegisterOptions, CommunicationPanel, DisplayPanel, TextPanels 
   std::map<int, Label> Label1;  // the labels that a firmware's variant of the form hides or renames
 
   SerialControl MSComm1;
-  ovl::Timer Timer;            // refreshes the clock lists
-  ovl::Timer General_timer;    // the grant must have come by its tick
-  ovl::Timer Time_handcheck;   // keep-alive
-  ovl::Timer Timer_Operating;  // silence watchdog
+  controls::Timer Timer;            // refreshes the clock lists
+  controls::Timer General_timer;    // the grant must have come by its tick
+  controls::Timer Time_handcheck;   // keep-alive
+  controls::Timer Timer_Operating;  // silence watchdog
 
   MainForm();
   void Register(Registry& registry);
@@ -71,4 +71,4 @@ struct MainForm : RegisterOptions, CommunicationPanel, DisplayPanel, TextPanels 
   void EnableActions(bool enabled);
 };
 
-}  // namespace ovl
+}  // namespace ovl::controls

@@ -3,7 +3,7 @@
 #include "controls/design.h"
 #include "controls/registry.h"
 
-namespace ovl {
+namespace ovl::controls {
 
 MicrosForm::MicrosForm() {
   form.name = "frmMicros";
@@ -68,4 +68,4 @@ void SubMenuForm::Register(Registry& registry) {
   add("Label2", Label2), add("Combo2", Combo2);
 }
 
-}  // namespace ovl
+}  // namespace ovl::controls

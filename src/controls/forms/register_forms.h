@@ -5,7 +5,7 @@
 
 #include "controls/controls.h"
 
-namespace ovl {
+namespace ovl::controls {
 
 class Registry;
 
@@ -36,4 +36,4 @@ struct SubMenuForm {
   void Register(Registry& registry);
 };
 
-}  // namespace ovl
+}  // namespace ovl::controls

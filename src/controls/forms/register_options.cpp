@@ -3,7 +3,7 @@
 #include "controls/design.h"
 #include "controls/registry.h"
 
-namespace ovl {
+namespace ovl::controls {
 namespace {
 
 using Items = std::vector<std::string>;
@@ -323,4 +323,4 @@ void RegisterOptions::Register(Registry& registry, Form& form) {
   add("cmdMicros", cmdMicros);
 }
 
-}  // namespace ovl
+}  // namespace ovl::controls

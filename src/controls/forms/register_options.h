@@ -6,7 +6,7 @@
 
 #include "controls/controls.h"
 
-namespace ovl {
+namespace ovl::controls {
 
 class Registry;
 
@@ -36,4 +36,4 @@ struct RegisterOptions {
   void Register(Registry& registry, Form& form);
 };
 
-}  // namespace ovl
+}  // namespace ovl::controls

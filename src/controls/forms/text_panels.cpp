@@ -3,7 +3,7 @@
 #include "controls/design.h"
 #include "controls/registry.h"
 
-namespace ovl {
+namespace ovl::controls {
 namespace {
 
 const std::vector<std::string> kOffOn = {"OFF", "ON"};
@@ -137,4 +137,4 @@ void RangeForm::Register(Registry& registry) {
   add("cmdSetRange", cmdSetRange), add("cmdClr", cmdClr);
 }
 
-}  // namespace ovl
+}  // namespace ovl::controls

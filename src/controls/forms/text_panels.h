@@ -7,7 +7,7 @@
 
 #include "controls/controls.h"
 
-namespace ovl {
+namespace ovl::controls {
 
 class Registry;
 
@@ -56,4 +56,4 @@ struct RangeForm {
   void Register(Registry& registry);
 };
 
-}  // namespace ovl
+}  // namespace ovl::controls

@@ -1,6 +1,6 @@
 #include "host/posix/parity_marks.h"
 
-namespace ovl {
+namespace ovl::host {
 namespace {
 
 constexpr char kEscape = '\xFF';
@@ -31,4 +31,4 @@ std::string ParityMarks::Decode(std::string_view bytes) {
   return text;
 }
 
-}  // namespace ovl
+}  // namespace ovl::host

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace ovl {
+namespace ovl::host {
 
 // Takes the marks out of what was read and puts "?" in the place of a bad character. A mark may be split over
 // any number of reads. One decoder serves one opening of the port.
@@ -18,4 +18,4 @@ class ParityMarks {
   Seen seen_ = Seen::kNothing;
 };
 
-}  // namespace ovl
+}  // namespace ovl::host

@@ -22,7 +22,7 @@
 #include <unistd.h>
 #endif
 
-namespace ovl {
+namespace ovl::host {
 
 std::string SystemText(int error) {
   const auto text = std::generic_category().message(error);
@@ -234,4 +234,4 @@ void ShortTimer::Stop() {
   source_->fallback.stop();
 }
 
-}  // namespace ovl
+}  // namespace ovl::host

@@ -12,7 +12,7 @@
 #include <string>
 #include <string_view>
 
-namespace ovl {
+namespace ovl::host {
 
 using LineHandle = decltype(QSerialPort().handle());
 
@@ -80,4 +80,4 @@ class ShortTimer {
   std::unique_ptr<Source> source_;
 };
 
-}  // namespace ovl
+}  // namespace ovl::host

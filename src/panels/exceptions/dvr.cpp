@@ -2,35 +2,35 @@
 
 #include "panels/panel.h"
 
-namespace ovl {
+namespace ovl::panels {
 namespace {
 
-using enum FieldId;
+using enum image::FieldId;
 
 constexpr int kFirstLabel = 12;  // the lists' labels follow each other
 
 // The second pair is that of the third recorder.
-void EnablePair(MainForm& form, std::size_t pair, bool enabled) {
+void EnablePair(controls::MainForm& form, std::size_t pair, bool enabled) {
   for (std::size_t list = 2 * pair; list < 2 * pair + 2; ++list) {
     form.ComboKLM4011.at(list).enabled = enabled;
     form.Label1[kFirstLabel + static_cast<int>(list)].enabled = enabled;
   }
 }
 
-bool HasSecondPair(const FirmwareId& firmware) {
+bool HasSecondPair(const firmware::FirmwareId& firmware) {
   return !(firmware.version == "V1300" && firmware.Number() < 27) &&
          !(firmware.version == "V1324" && firmware.Number() < 26);
 }
 
 }  // namespace
 
-void ApplyDvr(Application& app) {
+void ApplyDvr(core::Application& app) {
   auto& form = app.frmMain;
-  const int recorder = HexToInt(app.image[HIST_REG]);
-  const int destination = HexToInt(app.image[HIST_DEST_ID]) - 1;
-  const int source = HexToInt(app.image[HIST_SRC_ID]) - 1;
+  const int recorder = codecs::HexToInt(app.image[HIST_REG]);
+  const int destination = codecs::HexToInt(app.image[HIST_DEST_ID]) - 1;
+  const int source = codecs::HexToInt(app.image[HIST_SRC_ID]) - 1;
   ChooseElement(app, form.OpDVR, recorder);
-  if (!IsKnownFamily(app.firmware.version)) return;
+  if (!firmware::IsKnownFamily(app.firmware.version)) return;
   const bool both = HasSecondPair(app.firmware);
   // The choice has enabled its pair by its click; only here does a recorder that is not known disable one.
   if (!both) EnablePair(form, 0, recorder == 1);
@@ -40,17 +40,17 @@ void ApplyDvr(Application& app) {
   }
 }
 
-void OpDVR_Click(Application& app, int element) {
+void OpDVR_Click(core::Application& app, int element) {
   EnablePair(app.frmMain, 0, element == 1);
   EnablePair(app.frmMain, 1, element == 2);
-  app.image[HIST_REG] = ByteToHex(element);
+  app.image[HIST_REG] = codecs::ByteToHex(element);
 }
 
-void ComboKLM4011_Click(Application& app, int index) {
+void ComboKLM4011_Click(core::Application& app, int index) {
   const auto& lists = app.frmMain.ComboKLM4011;
   app.image[index % 2 == 0 ? HIST_DEST_ID : HIST_SRC_ID] =
-      ByteToHex(lists.at(static_cast<std::size_t>(index)).position + 1);
+      codecs::ByteToHex(lists.at(static_cast<std::size_t>(index)).position + 1);
   RefreshSavedIndexes(app, "ComboKLM4011", lists);
 }
 
-}  // namespace ovl
+}  // namespace ovl::panels

@@ -3,10 +3,10 @@
 
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::panels {
 
-void ApplyDvr(Application& app);
-void OpDVR_Click(Application& app, int element);
-void ComboKLM4011_Click(Application& app, int index);
+void ApplyDvr(core::Application& app);
+void OpDVR_Click(core::Application& app, int element);
+void ComboKLM4011_Click(core::Application& app, int index);
 
-}  // namespace ovl
+}  // namespace ovl::panels

@@ -2,7 +2,7 @@
 
 #include "panels/panel.h"
 
-namespace ovl {
+namespace ovl::panels {
 namespace {
 
 constexpr int kReportBit = 4;
@@ -10,22 +10,22 @@ constexpr int kDuplicateLine = 2;
 
 }  // namespace
 
-void ApplyTimeStamp(Application& app) {
-  AssignPosition(app, app.frmMain.ComboExcepRe[1], app.image[FieldId::TIMESTAMP_ENA] == "00" ? 0 : 1);
+void ApplyTimeStamp(core::Application& app) {
+  AssignPosition(app, app.frmMain.ComboExcepRe[1], app.image[image::FieldId::TIMESTAMP_ENA] == "00" ? 0 : 1);
 }
 
-void ApplyDuplicateLine(Application& app) {
-  AssignPosition(app, app.frmMain.ComboExcepRe[2], HexToInt(app.image[FieldId::DUPLINE_BAK]));
+void ApplyDuplicateLine(core::Application& app) {
+  AssignPosition(app, app.frmMain.ComboExcepRe[2], codecs::HexToInt(app.image[image::FieldId::DUPLINE_BAK]));
 }
 
-void ComboExcepRe_Click(Application& app, int index) {
+void ComboExcepRe_Click(core::Application& app, int index) {
   if (!app.PanelsReady) return;
   const auto& lists = app.frmMain.ComboExcepRe;
-  auto& flags = app.image[FieldId::COMMCFG_BAK];
-  flags = ByteToHex(WithBit(HexToInt(flags), kReportBit, lists[0].position == 1));
-  app.image[FieldId::TIMESTAMP_ENA] = lists[1].position == 1 ? "01" : "00";
-  if (index == kDuplicateLine) app.image[FieldId::DUPLINE_BAK] = ByteToHex(lists[2].position);
+  auto& flags = app.image[image::FieldId::COMMCFG_BAK];
+  flags = codecs::ByteToHex(WithBit(codecs::HexToInt(flags), kReportBit, lists[0].position == 1));
+  app.image[image::FieldId::TIMESTAMP_ENA] = lists[1].position == 1 ? "01" : "00";
+  if (index == kDuplicateLine) app.image[image::FieldId::DUPLINE_BAK] = codecs::ByteToHex(lists[2].position);
   RefreshSavedIndexes(app, "ComboExcepRe", lists);
 }
 
-}  // namespace ovl
+}  // namespace ovl::panels

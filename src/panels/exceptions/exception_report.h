@@ -3,10 +3,10 @@
 
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::panels {
 
-void ApplyTimeStamp(Application& app);
-void ApplyDuplicateLine(Application& app);
-void ComboExcepRe_Click(Application& app, int index);
+void ApplyTimeStamp(core::Application& app);
+void ApplyDuplicateLine(core::Application& app);
+void ComboExcepRe_Click(core::Application& app, int index);
 
-}  // namespace ovl
+}  // namespace ovl::panels

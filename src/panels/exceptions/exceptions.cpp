@@ -8,7 +8,7 @@
 #include "panels/exceptions/text_entry.h"
 #include "panels/panel.h"
 
-namespace ovl {
+namespace ovl::panels {
 namespace {
 
 constexpr std::size_t kTextLength = 40;
@@ -26,14 +26,14 @@ struct FlagMember {
 constexpr std::array kFlagMembers = {FlagMember{1, 0}, FlagMember{2, 1}, FlagMember{3, 5}, FlagMember{4, 6}};
 
 int FlagsOf(const std::string& slot) {
-  return HexToInt(slot);
+  return codecs::HexToInt(slot);
 }
 
 void StoreFlags(std::string& slot, int flags) {
-  slot.replace(0, std::min<std::size_t>(slot.size(), 2), ByteToHex(flags));
+  slot.replace(0, std::min<std::size_t>(slot.size(), 2), codecs::ByteToHex(flags));
 }
 
-void ShowRange(Application& app, const std::string& slot) {
+void ShowRange(core::Application& app, const std::string& slot) {
   const auto place = RangePlaceOf(app);
   for (std::size_t value = 0; value < 2; ++value) {
     const auto first = RangePlace::kFirst + value * place.Value();
@@ -42,19 +42,19 @@ void ShowRange(Application& app, const std::string& slot) {
   }
 }
 
-void ShowText(Application& app, const std::string& slot) {
+void ShowText(core::Application& app, const std::string& slot) {
   auto text = StoredText(Slice(slot, RangePlaceOf(app).End() + kLengthDigits));
   std::replace(text.begin(), text.end(), kStoredWildcard, kWildcard);
   AssignText(app, app.frmMain.TextException, std::move(text));
 }
 
 // Both bits name no entry: the list then goes on showing the operator of the slot before.
-void ShowOperator(Application& app, int flags) {
+void ShowOperator(core::Application& app, int flags) {
   AssignPosition(app, app.frmMain.ComboExcp[5], flags >> kOperatorShift & 3);
 }
 
 // A slot that matches while scrolling has no display, output or history action of its own.
-void ApplyScrollRule(Application& app) {
+void ApplyScrollRule(core::Application& app) {
   auto& lists = app.frmMain.ComboExcp;
   const bool matching = lists[4].position == 1;
   for (const std::size_t member : {1U, 2U, 3U}) {
@@ -65,20 +65,20 @@ void ApplyScrollRule(Application& app) {
 
 }  // namespace
 
-RangePlace RangePlaceOf(const Application& app) {
+RangePlace RangePlaceOf(const core::Application& app) {
   return {app.firmware.IsV1400() ? 8U : 4U};
 }
 
-std::string* ShownSlot(Application& app) {
+std::string* ShownSlot(core::Application& app) {
   const int position = app.frmMain.ComboExcp[0].position;
-  return position < 0 ? nullptr : &app.image.at(FieldId::EXCPSTRS, position + 1);
+  return position < 0 ? nullptr : &app.image.at(image::FieldId::EXCPSTRS, position + 1);
 }
 
-const char* DecimalSeparator(const Application& app) {
-  return HexToInt(app.image[FieldId::DECIMAL_POINT_BAK]) != 0 ? "," : ".";
+const char* DecimalSeparator(const core::Application& app) {
+  return codecs::HexToInt(app.image[image::FieldId::DECIMAL_POINT_BAK]) != 0 ? "," : ".";
 }
 
-void ApplyExceptionPanel(Application& app) {
+void ApplyExceptionPanel(core::Application& app) {
   const PanelsQuiet quiet(app);
   ApplyTimeStamp(app);
   AssignPosition(app, app.frmMain.ComboExcp[0], 0);
@@ -86,8 +86,8 @@ void ApplyExceptionPanel(Application& app) {
   ApplyScrollMatching(app);
 }
 
-void LoadExceptionSlot(Application& app, int number) {
-  const auto slot = app.image.at(FieldId::EXCPSTRS, number);
+void LoadExceptionSlot(core::Application& app, int number) {
+  const auto slot = app.image.at(image::FieldId::EXCPSTRS, number);
   const int flags = FlagsOf(slot);
   for (const auto& row : kFlagMembers) {
     AssignPosition(app, app.frmMain.ComboExcp[row.member], HasBit(flags, row.bit) ? 1 : 0);
@@ -97,7 +97,7 @@ void LoadExceptionSlot(Application& app, int number) {
   ShowText(app, slot);
 }
 
-void ComboExcp_Click(Application& app, int index) {
+void ComboExcp_Click(core::Application& app, int index) {
   auto& lists = app.frmMain.ComboExcp;
   auto* slot = ShownSlot(app);
   if (index == 0) {
@@ -115,7 +115,7 @@ void ComboExcp_Click(Application& app, int index) {
   RefreshSavedIndexes(app, "ComboExcp", lists);
 }
 
-void TextException_Change(Application& app, int) {
+void TextException_Change(core::Application& app, int) {
   auto* slot = ShownSlot(app);
   if (slot == nullptr) return;
   auto text = app.frmMain.TextException.text.substr(0, kTextLength);
@@ -124,11 +124,12 @@ void TextException_Change(Application& app, int) {
   text.resize(kTextLength, ' ');
   const auto place = RangePlaceOf(app);
   const auto range = Slice(*slot, RangePlace::kFirst, 2 * place.Value());
-  *slot = ByteToHex(WithBit(FlagsOf(*slot), kFreeBit, blank)) + range + TextToCountedHex(text);
+  *slot =
+      codecs::ByteToHex(WithBit(FlagsOf(*slot), kFreeBit, blank)) + range + codecs::TextToCountedHex(text);
 }
 
-void cmdSetExcpstr_Click(Application& app, int) {
+void cmdSetExcpstr_Click(core::Application& app, int) {
   EnterText(app, TextTarget::kException);
 }
 
-}  // namespace ovl
+}  // namespace ovl::panels

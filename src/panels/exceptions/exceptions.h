@@ -3,17 +3,17 @@
 
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::panels {
 
-void ApplyExceptionPanel(Application& app);
+void ApplyExceptionPanel(core::Application& app);
 
 // A slot, 1 to 24, onto the panel. Selections that change run their clicks, so that a slot that was not
 // written by this program is tidied by being looked at.
-void LoadExceptionSlot(Application& app, int number);
+void LoadExceptionSlot(core::Application& app, int number);
 
-void ComboExcp_Click(Application& app, int index);
-void TextException_Change(Application& app, int index);
-void cmdSetExcpstr_Click(Application& app, int index);
+void ComboExcp_Click(core::Application& app, int index);
+void TextException_Change(core::Application& app, int index);
+void cmdSetExcpstr_Click(core::Application& app, int index);
 
 // Where the range digits of a slot stand, and how many integer digits a value has.
 struct RangePlace {
@@ -24,12 +24,12 @@ struct RangePlace {
   std::size_t Value() const { return integers + kDecimals; }
   std::size_t End() const { return kFirst + 2 * Value(); }
 };
-RangePlace RangePlaceOf(const Application& app);
+RangePlace RangePlaceOf(const core::Application& app);
 
 // The slot that the panel shows; nothing before one was picked.
-std::string* ShownSlot(Application& app);
+std::string* ShownSlot(core::Application& app);
 
 // The sign between integer and decimal digits on the register's printout.
-const char* DecimalSeparator(const Application& app);
+const char* DecimalSeparator(const core::Application& app);
 
-}  // namespace ovl
+}  // namespace ovl::panels

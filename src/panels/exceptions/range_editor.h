@@ -3,15 +3,15 @@
 
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::panels {
 
-void cmdSetRange_Click(Application& app, int index);
+void cmdSetRange_Click(core::Application& app, int index);
 
-void frmSetRange_Load(Application& app, int index);
-void frmSetRange_Unload(Application& app, int index);
-void RangeField_Leave(Application& app, int index);
-void ComboDec_Click(Application& app, int index);
-void RangeClear_Click(Application& app, int index);
-void RangeSet_Click(Application& app, int index);
+void frmSetRange_Load(core::Application& app, int index);
+void frmSetRange_Unload(core::Application& app, int index);
+void RangeField_Leave(core::Application& app, int index);
+void ComboDec_Click(core::Application& app, int index);
+void RangeClear_Click(core::Application& app, int index);
+void RangeSet_Click(core::Application& app, int index);
 
-}  // namespace ovl
+}  // namespace ovl::panels

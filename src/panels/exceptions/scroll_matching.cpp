@@ -2,17 +2,17 @@
 
 #include "core/actions.h"
 
-namespace ovl {
+namespace ovl::panels {
 
-void ApplyScrollMatching(Application& app) {
+void ApplyScrollMatching(core::Application& app) {
   auto& lists = app.frmMain.ComboScroll;
-  const int timeout = HexToInt(app.image[FieldId::SCROLLMATCH_BAK]);
+  const int timeout = codecs::HexToInt(app.image[image::FieldId::SCROLLMATCH_BAK]);
   AssignPosition(app, lists[0], timeout == 0 ? 0 : 1);
   AssignPosition(app, lists[1], timeout);
 }
 
 // Switched on without a timeout cannot be stored: each list takes the other along.
-void ComboScroll_Click(Application& app, int index) {
+void ComboScroll_Click(core::Application& app, int index) {
   if (!app.PanelsReady) return;
   auto& lists = app.frmMain.ComboScroll;
   if (index == 0) {
@@ -22,8 +22,8 @@ void ComboScroll_Click(Application& app, int index) {
     return;
   }
   const int timeout = lists[1].position;
-  app.image[FieldId::SCROLLMATCH_BAK] = ByteToHex(timeout);
+  app.image[image::FieldId::SCROLLMATCH_BAK] = codecs::ByteToHex(timeout);
   AssignPosition(app, lists[0], timeout == 0 ? 0 : 1);
 }
 
-}  // namespace ovl
+}  // namespace ovl::panels

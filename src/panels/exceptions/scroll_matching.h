@@ -3,9 +3,9 @@
 
 #include "core/application.h"
 
-namespace ovl {
+namespace ovl::panels {
 
-void ApplyScrollMatching(Application& app);
-void ComboScroll_Click(Application& app, int index);
+void ApplyScrollMatching(core::Application& app);
+void ComboScroll_Click(core::Application& app, int index);
 
-}  // namespace ovl
+}  // namespace ovl::panels

@@ -5,13 +5,13 @@
 
 #include "core/actions.h"
 
-namespace ovl {
+namespace ovl::panels {
 namespace {
 
 constexpr std::size_t kTextLength = 40;
 constexpr std::array kCaptions = {"ALARM TRIGGER SETUP", "EXCEPTION SETUP", "TITLE SETUP"};
 
-TextBox& TargetOf(Application& app) {
+controls::TextBox& TargetOf(core::Application& app) {
   auto& form = app.frmMain;
   switch (static_cast<TextTarget>(app.TextEntryMode)) {
     case TextTarget::kTrigger:
@@ -30,61 +30,61 @@ std::string UpToNul(std::string text) {
 
 }  // namespace
 
-void EnterText(Application& app, TextTarget target) {
+void EnterText(core::Application& app, TextTarget target) {
   auto& dialog = app.frmSetEXCPSTR;
   app.TextEntryMode = static_cast<int>(target);
   dialog.form.caption = kCaptions.at(static_cast<std::size_t>(app.TextEntryMode));
   dialog.Text1.text = TargetOf(app).text;
   ShowForm(app, dialog.form);
-  SetFocus(dialog.form, dialog.Text1);
+  core::SetFocus(dialog.form, dialog.Text1);
 }
 
 std::string StoredText(std::string_view digits) {
-  return UpToNul(HexToText(digits)).substr(0, kTextLength);
+  return UpToNul(codecs::HexToText(digits)).substr(0, kTextLength);
 }
 
 std::string PaddedText(std::string_view text) {
   const auto first = text.find_first_not_of(' ');
   if (first == std::string_view::npos) return std::string(2 * kTextLength, '0');
   text = text.substr(first, text.find_last_not_of(' ') - first + 1);
-  auto digits = TextToHex(text.substr(0, kTextLength));
+  auto digits = codecs::TextToHex(text.substr(0, kTextLength));
   digits.resize(2 * kTextLength, '0');
   return digits;
 }
 
-void frmSetEXCPSTR_Load(Application& app, int) {
+void frmSetEXCPSTR_Load(core::Application& app, int) {
   app.frmMain.form.enabled = false;
 }
 
-void frmSetEXCPSTR_Unload(Application& app, int) {
+void frmSetEXCPSTR_Unload(core::Application& app, int) {
   ReleaseMain(app);
 }
 
-void TextEntrySet_Click(Application& app, int) {
+void TextEntrySet_Click(core::Application& app, int) {
   AssignText(app, TargetOf(app), UpToNul(app.frmSetEXCPSTR.Text1.text));
   UnloadForm(app, app.frmSetEXCPSTR.form);
 }
 
-void TextEntryClear_Click(Application& app, int) {
+void TextEntryClear_Click(core::Application& app, int) {
   app.frmSetEXCPSTR.Text1.text.clear();
 }
 
-void TextEntry_Escape(Application& app, int) {
+void TextEntry_Escape(core::Application& app, int) {
   UnloadForm(app, app.frmSetEXCPSTR.form);
 }
 
-void ApplyTitle(Application& app) {
-  const auto& digits = app.image[FieldId::ONSCRNTITL];
+void ApplyTitle(core::Application& app) {
+  const auto& digits = app.image[image::FieldId::ONSCRNTITL];
   const auto text = std::string_view(digits).substr(0, std::max<std::size_t>(digits.size(), 2) - 2);
   AssignText(app, app.frmMain.Title_Text, StoredText(text));
 }
 
-void Title_Text_Change(Application& app, int) {
-  app.image[FieldId::ONSCRNTITL] = PaddedText(app.frmMain.Title_Text.text) + "00";
+void Title_Text_Change(core::Application& app, int) {
+  app.image[image::FieldId::ONSCRNTITL] = PaddedText(app.frmMain.Title_Text.text) + "00";
 }
 
-void cmdTitle_Click(Application& app, int) {
+void cmdTitle_Click(core::Application& app, int) {
   EnterText(app, TextTarget::kTitle);
 }
 
-}  // namespace ovl
+}  // namespace ovl::panels

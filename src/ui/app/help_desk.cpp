@@ -9,7 +9,7 @@
 #include "ui/dialogs/boxes.h"
 #include "ui/help/help_topics.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 // A folder that nobody put pages into must not hide those of the program.
@@ -58,4 +58,4 @@ bool HelpDesk::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -7,7 +7,7 @@
 #include "ui/help/help_pages.h"
 #include "ui/help/help_window.h"
 
-namespace ovl {
+namespace ovl::ui {
 
 class MainWindow;
 
@@ -33,4 +33,4 @@ class HelpDesk : public QObject {
   QPointer<HelpWindow> window_;
 };
 
-}  // namespace ovl
+}  // namespace ovl::ui

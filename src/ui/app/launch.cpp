@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <iostream>
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 void SayNoDisplay(QtMsgType type, const QMessageLogContext&, const QString& text) {
@@ -73,4 +73,4 @@ void NameApplication() {
   QGuiApplication::setDesktopFileName(QStringLiteral("ovl-software"));
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -6,7 +6,7 @@
 #include <QString>
 #include <optional>
 
-namespace ovl {
+namespace ovl::ui {
 
 inline constexpr int kWrongUsage = 2;  // exit status
 
@@ -49,4 +49,4 @@ class DisplayMessage {
 // Sets the names that Qt looks up for the desktop and for folders.
 void NameApplication();
 
-}  // namespace ovl
+}  // namespace ovl::ui

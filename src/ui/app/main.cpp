@@ -23,17 +23,17 @@ const QString kDescription = QStringLiteral(
 // Nothing when there is no folder to work in.
 std::optional<QString> FindFolder(const QString& given) {
   try {
-    return ovl::ProgramFolder(given);
-  } catch (const ovl::Failure& failure) {
+    return ovl::host::ProgramFolder(given);
+  } catch (const ovl::core::Failure& failure) {
     const auto text = "The program's folder cannot be made.\n\n" + failure.Subject() + ": " + failure.what();
     std::cerr << "ovl: " << text << std::endl;
-    ovl::ShowBox(nullptr, {{}, text});
+    ovl::ui::ShowBox(nullptr, {{}, text});
     return std::nullopt;
   }
 }
 
 int SaveGuide(const QString& file) {
-  const auto problem = ovl::WriteGuide(ovl::HelpPages(ovl::kEmbeddedHelp), {}, file);
+  const auto problem = ovl::ui::WriteGuide(ovl::ui::HelpPages(ovl::ui::kEmbeddedHelp), {}, file);
   if (problem.isEmpty()) return EXIT_SUCCESS;
   std::cerr << "ovl: the guide cannot be written: " << problem.toLocal8Bit().constData() << "\n";
   return EXIT_FAILURE;
@@ -43,22 +43,22 @@ int SaveGuide(const QString& file) {
 
 int main(int argc, char** argv) {
   const auto guide_option = QStringLiteral("guide");
-  ovl::CommandLine command_line(QStringLiteral("ovl"), kDescription);
+  ovl::ui::CommandLine command_line(QStringLiteral("ovl"), kDescription);
   command_line.AddOption(guide_option, QStringLiteral("FILE"),
                          QStringLiteral("writes the installer's guide as a PDF and ends"));
   if (const auto status = command_line.Read(argc, argv)) return *status;
-  ovl::OutliveSizeLimit();
-  std::optional<ovl::DisplayMessage> no_display(std::in_place);
+  ovl::files::OutliveSizeLimit();
+  std::optional<ovl::ui::DisplayMessage> no_display(std::in_place);
   QApplication application(argc, argv);
   no_display.reset();
-  ovl::NameApplication();
+  ovl::ui::NameApplication();
   QApplication::setQuitOnLastWindowClosed(false);
-  ovl::ApplyTheme(ovl::Theme::kDesktop);
+  ovl::ui::ApplyTheme(ovl::ui::Theme::kDesktop);
   if (const auto guide = command_line.Value(guide_option); !guide.isEmpty()) return SaveGuide(guide);
   const auto folder = FindFolder(command_line.Folder());
   if (!folder) return EXIT_FAILURE;
-  ovl::Program program(*folder, command_line.Store());
-  if (program.Start() == ovl::Outcome::kEnded) return EXIT_FAILURE;
+  ovl::ui::Program program(*folder, command_line.Store());
+  if (program.Start() == ovl::core::Outcome::kEnded) return EXIT_FAILURE;
   program.GuardUnsaved();
   return QApplication::exec();
 }

@@ -16,7 +16,7 @@
 #include "ui/dialogs/changes_window.h"
 #include "ui/pages/pages.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr QSize kLeastSize(640, 360);  // the pages scroll
@@ -39,8 +39,8 @@ MainWindow::MainWindow(Bindings& bindings)
       status_(new StatusStrip(bindings)),
       changes_(new ChangesWindow(bindings.Model(), this)) {
   const auto& form = bindings_.Model().frmMain.form;
-  setObjectName(FromWindows1252(form.name));
-  setWindowTitle(FromWindows1252(form.caption));
+  setObjectName(host::FromWindows1252(form.name));
+  setWindowTitle(host::FromWindows1252(form.caption));
   setMinimumSize(kLeastSize);
   resize(kStartSize.boundedTo(screen()->availableSize()));
   BuildTabs();
@@ -60,7 +60,7 @@ void MainWindow::BuildTabs() {
   const auto& model = bindings_.Model().frmMain.SSTab1;
   int tab = 0;
   for (const auto& caption : model.captions) {
-    tabs_->addTab(new QWidget, FromWindows1252(caption));
+    tabs_->addTab(new QWidget, host::FromWindows1252(caption));
     const auto keys = QStringLiteral("Alt+%1").arg(tab + 1);
     tabs_->setTabToolTip(tab, keys);
     auto* shortcut = new QShortcut(QKeySequence(keys), this);
@@ -103,16 +103,16 @@ bool MainWindow::BuildNextPage() {
 
 void MainWindow::FollowTabs() {
   const auto& model = bindings_.Model().frmMain.SSTab1;
-  bindings_.Follow([this, &model, captions = Shadow<std::vector<std::string>>()]() mutable {
+  bindings_.Follow([this, &model, captions = ChangeDetector<std::vector<std::string>>()]() mutable {
     if (!captions.Update(model.captions)) return false;
     for (int at = 0; at < tabs_->count(); ++at) {
-      const auto caption = FromWindows1252(model.captions.at(static_cast<std::size_t>(at)));
+      const auto caption = host::FromWindows1252(model.captions.at(static_cast<std::size_t>(at)));
       tabs_->setTabText(at, caption);
       tabs_->widget(at)->setAccessibleName(caption.trimmed());
     }
     return true;
   });
-  bindings_.Follow([this, &model, current = Shadow<int>()]() mutable {
+  bindings_.Follow([this, &model, current = ChangeDetector<int>()]() mutable {
     if (current.Update(model.current)) tabs_->setCurrentIndex(model.current);
     return false;
   });
@@ -141,7 +141,7 @@ void MainWindow::BuildVersionMenu() {
     auto* menu = bindings_.SubMenu(*version, family.parent);
     for (const auto item : family.items) bindings_.Item(*menu, form.version_items.at(item));
     // The family of the running firmware is marked as well, so that it is found without opening them all.
-    bindings_.Follow([menu, &form, &family, marked = Shadow<bool>()]() mutable {
+    bindings_.Follow([menu, &form, &family, marked = ChangeDetector<bool>()]() mutable {
       const bool runs = std::any_of(family.items.begin(), family.items.end(), [&form](std::size_t item) {
         return form.version_items.at(item).checked;
       });
@@ -186,7 +186,7 @@ void MainWindow::paintEvent(QPaintEvent* event) {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
-  bindings_.Act(CloseEvent{&bindings_.Model().frmMain.form});
+  bindings_.Act(core::CloseEvent{&bindings_.Model().frmMain.form});
 }
 
 void MainWindow::changeEvent(QEvent* event) {
@@ -195,4 +195,4 @@ void MainWindow::changeEvent(QEvent* event) {
   if (activated && !bindings_.Model().frmMain.form.enabled && held_back) held_back();
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -11,7 +11,7 @@
 class QPushButton;
 class QTabWidget;
 
-namespace ovl {
+namespace ovl::ui {
 
 class ChangesWindow;
 class StatusStrip;
@@ -66,8 +66,8 @@ class MainWindow : public QMainWindow {
   QPushButton* changes_button_ = nullptr;
   QMenu* help_menu_ = nullptr;
   QPointer<QWidget> last_focus_;
-  Shadow<bool> enabled_;
+  ChangeDetector<bool> enabled_;
   Letters menu_letters_;
 };
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -10,7 +10,7 @@
 #include "ui/app/status_strip.h"
 #include "ui/dialogs/boxes.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr int kFrame = 16;
@@ -23,7 +23,7 @@ constexpr const char* kNotKept =
 Program::Program(QString folder, QString store_folder)
     : folder_(std::move(folder)),
       store_(std::move(store_folder)),
-      port_(folder_, [this](const Event& event) { return Act(event); }) {
+      port_(folder_, [this](const core::Event& event) { return Act(event); }) {
   frame_.setSingleShot(true);
   frame_.setInterval(kFrame);
   frame_.callOnTimeout([this] { RefreshNow(); });
@@ -40,11 +40,11 @@ Program::~Program() {
 void Program::FillPlatform() {
   auto& platform = app_.platform;
   platform.program_folder = QFile::encodeName(folder_).toStdString();
-  platform.show_message = [this](const MessageBox& box) {
+  platform.show_message = [this](const core::MessageBox& box) {
     RefreshNow();
     ShowBox(windows_ ? windows_->Front() : nullptr, box, BoxDetail(box));
   };
-  platform.ask_file = [this](const FileDialog& request) {
+  platform.ask_file = [this](const core::FileDialog& request) {
     RefreshNow();
     return AskFile(windows_ ? windows_->Front() : nullptr, request);
   };
@@ -61,16 +61,16 @@ void Program::FillPlatform() {
     }
     return kept;
   };
-  platform.clock = LocalClockTime;
+  platform.clock = host::LocalClockTime;
   // The form remembers the request itself, and its window follows when it is shown.
   platform.SetWindowPos = [](std::string_view) {};
   platform.serial = port_.Operations();
 }
 
-Outcome Program::Start() {
-  const auto outcome = StartProgram(app_);
-  if (outcome == Outcome::kEnded) return outcome;
-  windows_ = std::make_unique<Windows>(app_, [this](const Event& event) { return Act(event); });
+core::Outcome Program::Start() {
+  const auto outcome = start::StartProgram(app_);
+  if (outcome == core::Outcome::kEnded) return outcome;
+  windows_ = std::make_unique<Windows>(app_, [this](const core::Event& event) { return Act(event); });
   windows_->Main().Status().port_problem = [this] { return port_.LastProblem(); };
   CollectTimers();
   RefreshNow();
@@ -95,7 +95,7 @@ void Program::GuardUnsaved() {
 
 void Program::CollectTimers() {
   for (const auto& control : app_.registry.All()) {
-    auto* const* timer = std::get_if<Timer*>(&control.control);
+    auto* const* timer = std::get_if<controls::Timer*>(&control.control);
     if (timer == nullptr) continue;
     auto clock = std::make_unique<QTimer>();
     clock->setTimerType(Qt::PreciseTimer);
@@ -104,38 +104,39 @@ void Program::CollectTimers() {
   }
 }
 
-Outcome Program::Act(const Event& event) {
-  const auto outcome = windows_ && !app_.handling && IsAct(event) ? ActAndTell(event) : Dispatch(app_, event);
-  if (unsaved_ && outcome == Outcome::kEnded) IsLeaving(event) ? unsaved_->Drop() : unsaved_->Keep();
+core::Outcome Program::Act(const core::Event& event) {
+  const auto outcome =
+      windows_ && !app_.handling && changes::IsAct(event) ? ActAndTell(event) : Dispatch(app_, event);
+  if (unsaved_ && outcome == core::Outcome::kEnded) IsLeaving(event) ? unsaved_->Drop() : unsaved_->Keep();
   Follow(outcome);
   return outcome;
 }
 
 // Whether a person leaves by it, and not a file or an upload that ends the program.
-bool Program::IsLeaving(const Event& event) {
+bool Program::IsLeaving(const core::Event& event) {
   const auto& main = app_.frmMain;
-  if (const auto* close = std::get_if<CloseEvent>(&event)) return close->form == &main.form;
-  const auto* click = std::get_if<ClickEvent>(&event);
-  return click != nullptr && click->control == ControlRef(&app_.frmMain.menuExit);
+  if (const auto* close = std::get_if<core::CloseEvent>(&event)) return close->form == &main.form;
+  const auto* click = std::get_if<core::ClickEvent>(&event);
+  return click != nullptr && click->control == controls::ControlRef(&app_.frmMain.menuExit);
 }
 
-Outcome Program::ActAndTell(const Event& event) {
+core::Outcome Program::ActAndTell(const core::Event& event) {
   const auto before = app_.image;
   const auto outcome = Dispatch(app_, event);
-  if (outcome == Outcome::kDone) {
-    windows_->SetQuietLine(FromWindows1252(AlsoStored(app_, event, before)));
+  if (outcome == core::Outcome::kDone) {
+    windows_->SetQuietLine(host::FromWindows1252(changes::AlsoStored(app_, event, before)));
   }
   return outcome;
 }
 
 // After the outermost handler. An event that met a running one changes nothing but has to be taken back on
 // the screen.
-void Program::Follow(Outcome outcome) {
+void Program::Follow(core::Outcome outcome) {
   if (app_.handling) {
     frame_.start();
     return;
   }
-  if (outcome == Outcome::kEnded) return End();
+  if (outcome == core::Outcome::kEnded) return End();
   port_.Resume();
   for (auto& timer : timers_) FollowTimer(timer);
   if (windows_ && windows_->FormsMoved()) return RefreshNow();
@@ -154,9 +155,9 @@ void Program::FollowTimer(TimerState& timer) {
 }
 
 // What the line has told by now comes first. A tick that meets a running handler is lost.
-void Program::Tick(Timer& timer) {
+void Program::Tick(controls::Timer& timer) {
   if (!app_.handling) port_.DeliverPending();
-  Act(TickEvent{&timer});
+  Act(core::TickEvent{&timer});
 }
 
 void Program::RefreshNow() {
@@ -174,9 +175,9 @@ void Program::End() {
 }
 
 // What the words of a box do not tell.
-QString Program::BoxDetail(const MessageBox& box) const {
-  if (!store_problem_.empty()) return FromSystem(store_problem_);
-  return box.tells_note ? FromSystem(app_.StatusNote) : QString();
+QString Program::BoxDetail(const core::MessageBox& box) const {
+  if (!store_problem_.empty()) return host::FromSystem(store_problem_);
+  return box.tells_note ? host::FromSystem(app_.StatusNote) : QString();
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -13,7 +13,7 @@
 #include "ui/app/unsaved_copy.h"
 #include "ui/app/windows.h"
 
-namespace ovl {
+namespace ovl::ui {
 
 // Lives in the event loop of the toolkit's application object, which must outlive it.
 class Program {
@@ -26,7 +26,7 @@ class Program {
   Program& operator=(const Program&) = delete;
 
   // Starts the model, builds the windows and shows them. kEnded: the program told why and is over.
-  Outcome Start();
+  core::Outcome Start();
 
   // For the program that a person works in, once it has started: names what an earlier run left, and keeps a
   // copy of the changes from now on.
@@ -34,42 +34,42 @@ class Program {
 
   // Hands one event to the model and follows what it led to. When the program ends by it, the windows go at
   // once and the event loop is told to stop.
-  Outcome Act(const Event& event);
+  core::Outcome Act(const core::Event& event);
 
   // Shows the model as it is now, without waiting for the next frame.
   void RefreshNow();
 
-  Application& Model() { return app_; }
+  core::Application& Model() { return app_; }
   // Only after a start that did not end the program.
   Windows& OnScreen() { return *windows_; }
 
  private:
   struct TimerState {
-    Timer* model;
+    controls::Timer* model;
     std::unique_ptr<QTimer> clock;
     unsigned starts = 0;
     int interval = 0;
   };
 
   void FillPlatform();
-  bool IsLeaving(const Event& event);
-  Outcome ActAndTell(const Event& event);
+  bool IsLeaving(const core::Event& event);
+  core::Outcome ActAndTell(const core::Event& event);
   void CollectTimers();
-  void Follow(Outcome outcome);
+  void Follow(core::Outcome outcome);
   void FollowTimer(TimerState& timer);
-  void Tick(Timer& timer);
+  void Tick(controls::Timer& timer);
   void End();
-  QString BoxDetail(const MessageBox& box) const;
+  QString BoxDetail(const core::MessageBox& box) const;
 
   QString folder_;
-  Application app_;
-  SettingsStore store_;
+  core::Application app_;
+  host::SettingsStore store_;
   std::string store_problem_;
-  SerialPort port_;
+  host::SerialPort port_;
   std::unique_ptr<UnsavedCopy> unsaved_;
   std::unique_ptr<Windows> windows_;
   std::vector<TimerState> timers_;
   QTimer frame_;
 };
 
-}  // namespace ovl
+}  // namespace ovl::ui

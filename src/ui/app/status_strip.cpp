@@ -11,7 +11,7 @@
 #include "host/text_codec.h"
 #include "ui/kit/theme.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr int kHintTime = 6000;
@@ -112,18 +112,19 @@ StatusStrip::StatusStrip(Bindings& bindings)
     hint_.clear();
     note_->SetText(Note());
   });
-  bindings.Follow([this, picture = Shadow<LinkPicture>(), port = Shadow<std::string>()]() mutable {
-    const auto now = LinkPictureOf(app_);
-    if (picture.Update(now)) {
-      dot_->Set(now);
-      state_->setText(WordOf(now));
-    }
-    const auto& comm = app_.frmMain.MSComm1;
-    const auto opened = comm.PortOpen ? comm.Settings : std::string();
-    if (port.Update(std::to_string(app_.PortNumber) + ' ' + opened)) port_->setText(PortText());
-    note_->SetText(Note());
-    return false;
-  });
+  bindings.Follow(
+      [this, picture = ChangeDetector<LinkPicture>(), port = ChangeDetector<std::string>()]() mutable {
+        const auto now = LinkPictureOf(app_);
+        if (picture.Update(now)) {
+          dot_->Set(now);
+          state_->setText(WordOf(now));
+        }
+        const auto& comm = app_.frmMain.MSComm1;
+        const auto opened = comm.PortOpen ? comm.Settings : std::string();
+        if (port.Update(std::to_string(app_.PortNumber) + ' ' + opened)) port_->setText(PortText());
+        note_->SetText(Note());
+        return false;
+      });
 }
 
 QWidget* StatusStrip::FirmwareLabels(Bindings& bindings) {
@@ -165,17 +166,17 @@ QString StatusStrip::Note() const {
   if (!hint_.isEmpty()) return hint_;
   const auto problem = port_problem ? port_problem() : QString();
   if (!problem.isEmpty()) return problem;
-  return app_.StatusNote.empty() ? notice_ : FromSystem(app_.StatusNote);
+  return app_.StatusNote.empty() ? notice_ : host::FromSystem(app_.StatusNote);
 }
 
 QString StatusStrip::PortText() const {
   const int number = app_.PortNumber;
   if (number == 0) return QStringLiteral("No comport chosen");
-  const auto device = ComportDevice(QFile::decodeName(app_.platform.program_folder.c_str()), number);
+  const auto device = host::ComportDevice(QFile::decodeName(app_.platform.program_folder.c_str()), number);
   auto text = QStringLiteral("Comport %1, %2").arg(QString::number(number), device);
   if (!app_.frmMain.MSComm1.PortOpen) return text;
   return text + QStringLiteral(", ") +
-         FromWindows1252(app_.frmMain.MSComm1.Settings).replace(QLatin1Char(','), QLatin1Char(' '));
+         host::FromWindows1252(app_.frmMain.MSComm1.Settings).replace(QLatin1Char(','), QLatin1Char(' '));
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

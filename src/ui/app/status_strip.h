@@ -10,7 +10,7 @@
 class QPushButton;
 class QStackedWidget;
 
-namespace ovl {
+namespace ovl::ui {
 
 // One line of text, cut at its end where the room is too small; the whole text is its tool tip then.
 class CutLabel : public QWidget {
@@ -72,7 +72,7 @@ class StatusStrip : public QWidget {
   QString PortText() const;
   QWidget* FirmwareLabels(Bindings& bindings);
 
-  const Application& app_;
+  const core::Application& app_;
   StateDot* dot_;
   QLabel* state_;
   QLabel* port_;
@@ -82,4 +82,4 @@ class StatusStrip : public QWidget {
   QTimer hint_end_;
 };
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -9,7 +9,7 @@
 #include "host/text_codec.h"
 #include "image/record_stream.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr int kSoon = 1000;
@@ -54,7 +54,7 @@ QStringList RescueCopies(const QString& folder) {
   return rescued;
 }
 
-UnsavedCopy::UnsavedCopy(const Application& app, const QString& folder) : app_(app), folder_(folder) {
+UnsavedCopy::UnsavedCopy(const core::Application& app, const QString& folder) : app_(app), folder_(folder) {
   soon_.setSingleShot(true);
   soon_.setInterval(kSoon);
   soon_.callOnTimeout([this] { Keep(); });
@@ -63,7 +63,7 @@ UnsavedCopy::UnsavedCopy(const Application& app, const QString& folder) : app_(a
 // A name that nothing has and nobody else is about to take.
 bool UnsavedCopy::TakeName() {
   constexpr int kNamesToTry = 100;
-  const auto firmware = FromWindows1252(app_.firmware.Joined());
+  const auto firmware = host::FromWindows1252(app_.firmware.Joined());
   for (int number = 0; lock_ == nullptr && number < kNamesToTry;) {
     number = FreeNumber(folder_, kUnsaved, firmware, number + 1);
     path_ = folder_.filePath(NameOf(kUnsaved, firmware, number));
@@ -85,10 +85,10 @@ void UnsavedCopy::Keep() {
   if (app_.image == app_.known_image) return Drop();
   if (!TakeName()) return Tell(path_ + QStringLiteral(": ") + WhyNotCreated(path_));
   try {
-    WriteWhole(QFile::encodeName(path_).toStdString(), ReopenableStream(app_) + "\r\n");
+    files::WriteWhole(QFile::encodeName(path_).toStdString(), ReopenableStream(app_) + "\r\n");
     Tell({});
-  } catch (const Failure& failure) {
-    Tell(FromSystem(failure.Subject() + ": " + failure.what()));
+  } catch (const core::Failure& failure) {
+    Tell(host::FromSystem(failure.Subject() + ": " + failure.what()));
   }
 }
 
@@ -103,4 +103,4 @@ void UnsavedCopy::Drop() {
   lock_.reset();
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

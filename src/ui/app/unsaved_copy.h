@@ -11,7 +11,7 @@
 
 #include "ui/kit/bindings.h"
 
-namespace ovl {
+namespace ovl::ui {
 
 // Gives the copies that ended programs left in the folder lasting names ("rescued V1400R12 1.bin": the
 // firmware under which File > Open reads them). Copies of programs that still run are locked. Returns the new
@@ -22,7 +22,7 @@ class UnsavedCopy {
  public:
   // The copy stands in the folder under a name that is this object's as long as it is locked. The application
   // object must outlive this.
-  UnsavedCopy(const Application& app, const QString& folder);
+  UnsavedCopy(const core::Application& app, const QString& folder);
 
   // Has the copy written soon if the image is another one by now, or taken away once nothing differs from
   // what was last loaded.
@@ -41,12 +41,12 @@ class UnsavedCopy {
   bool TakeName();
   void Tell(const QString& reason);
 
-  const Application& app_;
+  const core::Application& app_;
   QDir folder_;
   QString path_;
   std::unique_ptr<QLockFile> lock_;
   QTimer soon_;
-  Shadow<ConfigImage> seen_;
+  ChangeDetector<image::ConfigImage> seen_;
 };
 
-}  // namespace ovl
+}  // namespace ovl::ui

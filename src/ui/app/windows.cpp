@@ -15,7 +15,7 @@
 #include "ui/help/manuals.h"
 #include "ui/kit/mnemonics.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr int kNesting = 12;  // layouts within layouts, at the most
@@ -30,7 +30,7 @@ void SettleLayouts() {
 
 }  // namespace
 
-Windows::Windows(Application& app, ActFunction act)
+Windows::Windows(core::Application& app, ActFunction act)
     : app_(app),
       bindings_(app, std::move(act), [this](const QString& hint) { main_->Status().ShowHint(hint); }),
       main_(std::make_unique<MainWindow>(bindings_)),
@@ -65,7 +65,8 @@ void Windows::FillHelpMenu() {
   auto* manuals = menu.addMenu(QStringLiteral("Manual"));
   manuals->setObjectName(QStringLiteral("menuManual"));
   FillManualMenu(*manuals, ManualFolder(folder), [this](const QString& problem) {
-    ShowBox(main_.get(), {{}, problem.toStdString(), BoxIcon::kNone, "The manual folder cannot be opened"});
+    ShowBox(main_.get(),
+            {{}, problem.toStdString(), core::BoxIcon::kNone, "The manual folder cannot be opened"});
   });
   menu.addSeparator();
   bindings_.Item(menu, app_.frmMain.menuAbout);
@@ -121,7 +122,7 @@ void Windows::ShowForms() {
 }
 
 bool Windows::FormsMoved() const {
-  const auto moved = [](const QWidget* window, const Form& form) {
+  const auto moved = [](const QWidget* window, const controls::Form& form) {
     return (window != nullptr && window->isVisible()) != (form.loaded && form.visible);
   };
   return moved(main_.get(), app_.frmMain.form) ||
@@ -144,7 +145,7 @@ QWidget* Windows::Front() const {
   return main_.get();
 }
 
-FormWindow* Windows::WindowOf(const Form& form) {
+FormWindow* Windows::WindowOf(const controls::Form& form) {
   const auto found =
       std::find_if(forms_.begin(), forms_.end(), [&](const Follower& at) { return &at.form == &form; });
   if (found == forms_.end()) return nullptr;
@@ -155,4 +156,4 @@ FormWindow* Windows::WindowOf(const Form& form) {
   return found->window;
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

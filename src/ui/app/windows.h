@@ -11,12 +11,12 @@
 #include "ui/dialogs/form_window.h"
 #include "ui/kit/bindings.h"
 
-namespace ovl {
+namespace ovl::ui {
 
 class Windows {
  public:
   // The model must have been started: menus and lists are complete.
-  Windows(Application& app, ActFunction act);
+  Windows(core::Application& app, ActFunction act);
 
   // Brings everything on the screen up to the model.
   void Refresh();
@@ -35,7 +35,7 @@ class Windows {
   MainWindow& Main() const { return *main_; }
 
   // The window of a form, built if need be; none for the main form.
-  FormWindow* WindowOf(const Form& form);
+  FormWindow* WindowOf(const controls::Form& form);
   HelpDesk& Help() const { return *help_; }
   const Bindings& Controls() const { return bindings_; }
 
@@ -47,7 +47,7 @@ class Windows {
 
   // A small window, built when its form is first shown or, before that, when there is nothing else to do.
   struct Follower {
-    const Form& form;
+    const controls::Form& form;
     Builder build;
     bool beside;  // stands beside the main window, which can be worked in meanwhile
     FormWindow* window = nullptr;
@@ -63,7 +63,7 @@ class Windows {
   void RenewMnemonics();
   void FillHelpMenu();
 
-  Application& app_;
+  core::Application& app_;
   Bindings bindings_;
   std::unique_ptr<HelpDesk> help_;  // outlives the help window, which the main window owns
   std::unique_ptr<MainWindow> main_;
@@ -73,4 +73,4 @@ class Windows {
   bool building_ = false;  // what a widget tells while its window is built comes too early
 };
 
-}  // namespace ovl
+}  // namespace ovl::ui

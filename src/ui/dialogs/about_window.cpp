@@ -7,7 +7,7 @@
 
 #include "ui/kit/theme.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr int kButtonWidth = 112;
@@ -49,4 +49,4 @@ FormWindow* BuildAboutWindow(Bindings& bindings, QWidget* parent) {
   return window;
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -2,8 +2,8 @@
 
 #include "ui/dialogs/form_window.h"
 
-namespace ovl {
+namespace ovl::ui {
 
 FormWindow* BuildAboutWindow(Bindings& bindings, QWidget* parent);
 
-}  // namespace ovl
+}  // namespace ovl::ui

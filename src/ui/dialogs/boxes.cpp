@@ -7,14 +7,14 @@
 
 #include "host/text_codec.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 const QString kProgramName = QStringLiteral("OVL Software");
 
 // "Text Files(*.txt)|*.txt|..." as the toolkit's rows of "Text Files (*.txt)".
 QStringList NameFilters(const std::string& filter) {
-  const auto parts = FromWindows1252(filter).split(QLatin1Char('|'));
+  const auto parts = host::FromWindows1252(filter).split(QLatin1Char('|'));
   QStringList filters;
   for (qsizetype at = 0; at + 1 < parts.size(); at += 2) {
     auto words = parts[at];
@@ -35,19 +35,19 @@ QString SuffixOf(const QString& filter) {
 
 }  // namespace
 
-void ShowBox(QWidget* parent, const MessageBox& box, const QString& detail) {
-  const auto icon = box.icon == BoxIcon::kInformation ? QMessageBox::Information : QMessageBox::NoIcon;
-  const auto title = box.title.empty() ? kProgramName : FromWindows1252(box.title);
-  QMessageBox window(icon, title, FromSystem(box.text), QMessageBox::Ok, parent);
+void ShowBox(QWidget* parent, const core::MessageBox& box, const QString& detail) {
+  const auto icon = box.icon == core::BoxIcon::kInformation ? QMessageBox::Information : QMessageBox::NoIcon;
+  const auto title = box.title.empty() ? kProgramName : host::FromWindows1252(box.title);
+  QMessageBox window(icon, title, host::FromSystem(box.text), QMessageBox::Ok, parent);
   window.setTextFormat(Qt::PlainText);
   window.setInformativeText(detail);
   window.setObjectName(QStringLiteral("MessageBox"));
-  window.setProperty(kBoxTopic, FromWindows1252(box.topic));
+  window.setProperty(kBoxTopic, host::FromWindows1252(box.topic));
   window.exec();
 }
 
-std::optional<FileAnswer> AskFile(QWidget* parent, const FileDialog& request) {
-  const bool saves = request.kind == FileDialog::Kind::kSave;
+std::optional<core::FileAnswer> AskFile(QWidget* parent, const core::FileDialog& request) {
+  const bool saves = request.kind == core::FileDialog::Kind::kSave;
   QFileDialog dialog(parent, saves ? QStringLiteral("Save") : QStringLiteral("Open"));
   dialog.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
@@ -66,7 +66,7 @@ std::optional<FileAnswer> AskFile(QWidget* parent, const FileDialog& request) {
     dialog.selectFile(start.fileName());
   }
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-  return FileAnswer{QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString(), 0};
+  return core::FileAnswer{QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString(), 0};
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

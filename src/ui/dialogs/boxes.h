@@ -8,14 +8,14 @@
 
 class QWidget;
 
-namespace ovl {
+namespace ovl::ui {
 
 // The name of the property under which a box on the screen keeps its topic in the help.
 inline constexpr const char* kBoxTopic = "topic";
 
-void ShowBox(QWidget* parent, const MessageBox& box, const QString& detail = {});
+void ShowBox(QWidget* parent, const core::MessageBox& box, const QString& detail = {});
 
 // Nothing when the person cancels.
-std::optional<FileAnswer> AskFile(QWidget* parent, const FileDialog& request);
+std::optional<core::FileAnswer> AskFile(QWidget* parent, const core::FileDialog& request);
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -14,7 +14,7 @@
 #include "ui/kit/theme.h"
 #include "ui/pages/overview_list.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr QSize kStartSize(1100, 460);
@@ -22,14 +22,15 @@ constexpr qsizetype kShownDigits = 16;
 constexpr int kWas = 3, kIs = 4;
 constexpr std::array kSections = {"SYSCFG", "SYSFIXED", "SYSSTR"};
 
-QString PlaceOf(const FieldDifference& difference) {
+QString PlaceOf(const image::FieldDifference& difference) {
   const auto section = static_cast<std::size_t>(difference.field->section);
   return QStringLiteral("%1 %2").arg(QLatin1String(kSections.at(section))).arg(difference.byte);
 }
 
-QString EditorsOf(const Application& app, const FieldDifference& difference) {
-  const auto words = EditedBy(app, difference.field->id, "options", difference.before, difference.after);
-  return words.empty() ? QStringLiteral("shown nowhere") : FromWindows1252(words);
+QString EditorsOf(const core::Application& app, const image::FieldDifference& difference) {
+  const auto words =
+      changes::EditedBy(app, difference.field->id, "options", difference.before, difference.after);
+  return words.empty() ? QStringLiteral("shown nowhere") : host::FromWindows1252(words);
 }
 
 // A long content begins with the first byte that differs.
@@ -47,7 +48,7 @@ QString CountOf(std::size_t count) {
 
 }  // namespace
 
-ChangesWindow::ChangesWindow(const Application& app, QWidget* parent) : QDialog(parent), app_(app) {
+ChangesWindow::ChangesWindow(const core::Application& app, QWidget* parent) : QDialog(parent), app_(app) {
   setObjectName(QStringLiteral("Changes"));
   setWindowTitle(QStringLiteral("Changes"));
   resize(kStartSize.boundedTo(screen()->availableSize()));
@@ -86,10 +87,10 @@ void ChangesWindow::Open() {
 void ChangesWindow::Follow() {
   if (!isVisible()) return;
   const bool other_known = known_.Update(app_.known_image), other_image = image_.Update(app_.image);
-  if (other_known || other_image) Fill(Differences(app_.known_image, app_.image, app_.firmware));
+  if (other_known || other_image) Fill(image::Differences(app_.known_image, app_.image, app_.firmware));
 }
 
-void ChangesWindow::Fill(const std::vector<FieldDifference>& differences) {
+void ChangesWindow::Fill(const std::vector<image::FieldDifference>& differences) {
   told_->setText(
       differences.empty()
           ? QStringLiteral("A download would change nothing in a unit that holds the configuration "
@@ -99,16 +100,16 @@ void ChangesWindow::Fill(const std::vector<FieldDifference>& differences) {
                 .arg(CountOf(differences.size())));
   std::vector<OverviewLine> lines;
   for (const auto& difference : differences) {
-    const auto was = FromWindows1252(difference.before), is = FromWindows1252(difference.after);
-    const QStringList cells = {FromWindows1252(difference.name), PlaceOf(difference),
+    const auto was = host::FromWindows1252(difference.before), is = host::FromWindows1252(difference.after);
+    const QStringList cells = {host::FromWindows1252(difference.name), PlaceOf(difference),
                                EditorsOf(app_, difference), FromDifference(was, is), FromDifference(is, was)};
     lines.push_back({cells, true});
   }
   list_->Show(lines);
   for (int line = 0; line < list_->topLevelItemCount(); ++line) {
     const auto& difference = differences[static_cast<std::size_t>(line)];
-    list_->topLevelItem(line)->setToolTip(kWas, FromWindows1252(difference.before));
-    list_->topLevelItem(line)->setToolTip(kIs, FromWindows1252(difference.after));
+    list_->topLevelItem(line)->setToolTip(kWas, host::FromWindows1252(difference.before));
+    list_->topLevelItem(line)->setToolTip(kIs, host::FromWindows1252(difference.after));
   }
   if (!lines.empty()) list_->MoveTo(0);
 }
@@ -120,12 +121,12 @@ QPushButton* BuildChangesButton(Bindings& bindings, ChangesWindow& window) {
   button->setAutoDefault(false);
   button->setToolTip(QStringLiteral("Shows what a download would change in the unit (Ctrl+D)"));
   QObject::connect(button, &QPushButton::clicked, &window, &ChangesWindow::Open);
-  bindings.Follow([&app = bindings.Model(), button, &window, known = Shadow<ConfigImage>(),
-                   image = Shadow<ConfigImage>()]() mutable {
+  bindings.Follow([&app = bindings.Model(), button, &window, known = ChangeDetector<image::ConfigImage>(),
+                   image = ChangeDetector<image::ConfigImage>()]() mutable {
     window.Follow();
     const bool other_known = known.Update(app.known_image), other_image = image.Update(app.image);
     if (!other_known && !other_image) return false;
-    const auto count = Differences(app.known_image, app.image, app.firmware).size();
+    const auto count = image::Differences(app.known_image, app.image, app.firmware).size();
     button->setText(CountOf(count) + QStringLiteral(" since the last load or download"));
     button->setAccessibleName(button->text());
     const bool comes_or_goes = button->isHidden() != (count == 0);
@@ -135,4 +136,4 @@ QPushButton* BuildChangesButton(Bindings& bindings, ChangesWindow& window) {
   return button;
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

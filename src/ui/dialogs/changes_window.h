@@ -11,13 +11,13 @@
 class QLabel;
 class QPushButton;
 
-namespace ovl {
+namespace ovl::ui {
 
 class OverviewList;
 
 class ChangesWindow : public QDialog {
  public:
-  explicit ChangesWindow(const Application& app, QWidget* parent);
+  explicit ChangesWindow(const core::Application& app, QWidget* parent);
 
   // Brings the list up to the model while the window is shown.
   void Follow();
@@ -26,15 +26,15 @@ class ChangesWindow : public QDialog {
 
  private:
   void Build();
-  void Fill(const std::vector<FieldDifference>& differences);
+  void Fill(const std::vector<image::FieldDifference>& differences);
 
-  const Application& app_;
+  const core::Application& app_;
   QLabel* told_ = nullptr;
   OverviewList* list_ = nullptr;
-  Shadow<ConfigImage> known_, image_;
+  ChangeDetector<image::ConfigImage> known_, image_;
 };
 
 // The number of fields that differ, as a button that opens the window; hidden while there is none.
 QPushButton* BuildChangesButton(Bindings& bindings, ChangesWindow& window);
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -13,7 +13,7 @@
 #include "ui/kit/layout.h"
 #include "ui/kit/mnemonics.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr int kGapToParent = 8;
@@ -21,12 +21,12 @@ constexpr int kFromTop = 96;
 
 }  // namespace
 
-FormWindow::FormWindow(Bindings& bindings, Form& form, QWidget* parent)
+FormWindow::FormWindow(Bindings& bindings, controls::Form& form, QWidget* parent)
     : QDialog(parent), bindings_(bindings), form_(form) {
-  setObjectName(FromWindows1252(form.name));
+  setObjectName(host::FromWindows1252(form.name));
   setModal(false);
-  bindings_.Follow([this, caption = Shadow<std::string>()]() mutable {
-    if (caption.Update(form_.caption)) setWindowTitle(FromSystem(form_.caption));
+  bindings_.Follow([this, caption = ChangeDetector<std::string>()]() mutable {
+    if (caption.Update(form_.caption)) setWindowTitle(host::FromSystem(form_.caption));
     if (enabled_.Update(form_.enabled)) setEnabled(form_.enabled);
     return false;
   });
@@ -83,7 +83,7 @@ void FormWindow::PlaceBeside() {
 }
 
 void FormWindow::reject() {
-  bindings_.Act(CloseEvent{&form_});
+  bindings_.Act(core::CloseEvent{&form_});
 }
 
 bool FormWindow::TakesEnter(const QKeyEvent& event) const {
@@ -101,9 +101,9 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
   if (TakesEnter(*event)) {
-    bindings_.Act(KeyEvent{&form_, Key::kEnter});
+    bindings_.Act(core::KeyEvent{&form_, core::Key::kEnter});
   } else if (event->key() == Qt::Key_Escape && form_.escape != nullptr) {
-    bindings_.Act(KeyEvent{&form_, Key::kEscape});
+    bindings_.Act(core::KeyEvent{&form_, core::Key::kEscape});
   } else {
     QDialog::keyPressEvent(event);
   }
@@ -111,14 +111,14 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
 
 void FormWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
-  bindings_.Act(CloseEvent{&form_});
+  bindings_.Act(core::CloseEvent{&form_});
 }
 
-void FocusFollower::Follow(const Bindings& bindings, const Form& form) {
+void FocusFollower::Follow(const Bindings& bindings, const controls::Form& form) {
   if (seen_ == form.focus_requests) return;
   seen_ = form.focus_requests;
   auto* widget = form.focus == nullptr ? nullptr : bindings.WidgetOf(*form.focus);
   if (widget != nullptr) widget->setFocus(Qt::OtherFocusReason);
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

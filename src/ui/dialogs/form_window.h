@@ -6,12 +6,12 @@
 
 #include "ui/kit/bindings.h"
 
-namespace ovl {
+namespace ovl::ui {
 
 class FormWindow : public QDialog {
  public:
   // The content is the caller's to build, as the layout of this widget.
-  FormWindow(Bindings& bindings, Form& form, QWidget* parent);
+  FormWindow(Bindings& bindings, controls::Form& form, QWidget* parent);
 
   // Opens to the right of the parent, so that both can be worked in, as far as the screen has room.
   void StandBeside() { beside_ = true; }
@@ -35,8 +35,8 @@ class FormWindow : public QDialog {
   void PlaceBeside();
 
   Bindings& bindings_;
-  Form& form_;
-  Shadow<bool> enabled_;
+  controls::Form& form_;
+  ChangeDetector<bool> enabled_;
   bool beside_ = false;
   bool scrolled_ = false;
 };
@@ -44,10 +44,10 @@ class FormWindow : public QDialog {
 // Moves the focus where the model wants it, once for each time it asked.
 class FocusFollower {
  public:
-  void Follow(const Bindings& bindings, const Form& form);
+  void Follow(const Bindings& bindings, const controls::Form& form);
 
  private:
   unsigned seen_ = 0;
 };
 
-}  // namespace ovl
+}  // namespace ovl::ui

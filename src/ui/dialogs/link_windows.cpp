@@ -14,7 +14,7 @@
 #include "ui/kit/theme.h"
 #include "ui/kit/widgets.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr int kButtonWidth = 112;
@@ -22,13 +22,13 @@ constexpr int kBaudColumns = 2;
 constexpr int kDialogWidth = 400;
 constexpr int kSmallWidth = 320;
 
-QString DetailOf(const Comport& comport) {
+QString DetailOf(const host::Comport& comport) {
   auto detail = comport.device;
   if (!comport.description.isEmpty()) detail += QStringLiteral(", ") + comport.description;
   return detail + (comport.present ? QStringLiteral(", present") : QStringLiteral(", not present"));
 }
 
-QPushButton* MakePush(Bindings& bindings, const Form& form, std::string_view name) {
+QPushButton* MakePush(Bindings& bindings, const controls::Form& form, std::string_view name) {
   auto* button = static_cast<QPushButton*>(bindings.Make(bindings.Named(form, name)));
   button->setMinimumWidth(kButtonWidth);
   return button;
@@ -46,11 +46,11 @@ QVBoxLayout* WindowLayout(FormWindow& window, int width) {
 void FollowPorts(Bindings& bindings, PickList& list, QLabel& detail) {
   auto& app = bindings.Model();
   auto& dialog = app.frmSettSR;
-  bindings.Follow([&app, &dialog, &list, &detail, open = Shadow<bool>(), picked = Shadow<int>(),
-                   ports = std::vector<Comport>()]() mutable {
+  bindings.Follow([&app, &dialog, &list, &detail, open = ChangeDetector<bool>(),
+                   picked = ChangeDetector<int>(), ports = std::vector<host::Comport>()]() mutable {
     const bool opened = open.Update(dialog.form.visible) && dialog.form.visible;
     if (opened) {
-      ports = ListComports(QFile::decodeName(app.platform.program_folder.c_str()));
+      ports = host::ListComports(QFile::decodeName(app.platform.program_folder.c_str()));
       for (int row = 0; row < list.count(); ++row) {
         list.setItemData(row, DetailOf(ports.at(static_cast<std::size_t>(row))), PickList::kDetailRole);
       }
@@ -63,7 +63,7 @@ void FollowPorts(Bindings& bindings, PickList& list, QLabel& detail) {
   });
 }
 
-QWidget* PortField(Bindings& bindings, const Form& form) {
+QWidget* PortField(Bindings& bindings, const controls::Form& form) {
   auto* holder = new QWidget;
   auto* across = new QHBoxLayout(holder);
   across->setContentsMargins(0, 0, 0, 0);
@@ -80,7 +80,7 @@ QWidget* PortField(Bindings& bindings, const Form& form) {
 }
 
 // Columns of option buttons below one another begin at the same places.
-void AlignOptions(Bindings& bindings, std::initializer_list<const OptionArray*> arrays) {
+void AlignOptions(Bindings& bindings, std::initializer_list<const controls::OptionArray*> arrays) {
   std::vector<QWidget*> buttons;
   int widest = 0;
   for (const auto* array : arrays) {
@@ -100,7 +100,7 @@ FormWindow* BuildPortSettingsWindow(Bindings& bindings, QWidget* parent) {
   auto* down = WindowLayout(*window, kDialogWidth);
   auto* settings = new QWidget;
   PageColumn column(bindings, model.form, *settings);
-  const auto title = [](const Frame& frame) { return QString::fromStdString(frame.caption); };
+  const auto title = [](const controls::Frame& frame) { return QString::fromStdString(frame.caption); };
   column.OwnSection(title(model.comport_frame)).Wide(PortField(bindings, model.form));
   column.OwnSection(title(model.baudrate_frame)).Options("OpBaud", kBaudColumns);
   column.OwnSection(title(model.data_bits_frame)).Options("OpDataBits", 2);
@@ -133,7 +133,7 @@ FormWindow* BuildScanProgressWindow(Bindings& bindings, QWidget* parent) {
   down->addLayout(words);
   down->addWidget(bindings.Make(bindings.Named(model.form, "ScanProgressBar1"),
                                 QStringLiteral("Progress of the baud rate scan")));
-  bindings.Follow([rate, &app = bindings.Model(), shown = Shadow<std::string>()]() mutable {
+  bindings.Follow([rate, &app = bindings.Model(), shown = ChangeDetector<std::string>()]() mutable {
     if (shown.Update(app.PortBaud)) rate->setText(QStringLiteral("%1 baud").arg(app.PortBaud.c_str()));
     return false;
   });
@@ -160,4 +160,4 @@ FormWindow* BuildTransferEndWindow(Bindings& bindings, QWidget* parent) {
   return window;
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -3,11 +3,11 @@
 
 #include "ui/dialogs/form_window.h"
 
-namespace ovl {
+namespace ovl::ui {
 
 // Each is owned by its parent.
 FormWindow* BuildPortSettingsWindow(Bindings& bindings, QWidget* parent);
 FormWindow* BuildScanProgressWindow(Bindings& bindings, QWidget* parent);
 FormWindow* BuildTransferEndWindow(Bindings& bindings, QWidget* parent);
 
-}  // namespace ovl
+}  // namespace ovl::ui

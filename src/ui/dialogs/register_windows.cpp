@@ -10,7 +10,7 @@
 #include "ui/kit/layout.h"
 #include "ui/kit/theme.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr int kButtonWidth = 112;
@@ -32,19 +32,20 @@ QWidget* Content(QVBoxLayout& down) {
   return content;
 }
 
-QWidget* NumberField(Bindings& bindings, const MicrosForm& model) {
+QWidget* NumberField(Bindings& bindings, const controls::MicrosForm& model) {
   auto* holder = new QWidget;
   auto* across = new QHBoxLayout(holder);
   across->setContentsMargins(0, 0, 0, 0);
   across->setSpacing(kFieldGap);
   across->addWidget(
-      bindings.Make(bindings.Named(model.form, "ECRNumber"), FromWindows1252(model.ECRNumber.caption)));
-  across->addWidget(MutedLabel(FromWindows1252(model.ecr_hint.caption)));
+      bindings.Make(bindings.Named(model.form, "ECRNumber"), host::FromWindows1252(model.ECRNumber.caption)));
+  across->addWidget(MutedLabel(host::FromWindows1252(model.ecr_hint.caption)));
   return holder;
 }
 
 // The button of the panel that shows is the window's default.
-QWidget* SetButton(Bindings& bindings, const Form& form, const char* name, const Frame& panel) {
+QWidget* SetButton(Bindings& bindings, const controls::Form& form, const char* name,
+                   const controls::Frame& panel) {
   auto* holder = new QWidget;
   auto* across = new QHBoxLayout(holder);
   across->setContentsMargins(0, 0, 0, 0);
@@ -52,7 +53,7 @@ QWidget* SetButton(Bindings& bindings, const Form& form, const char* name, const
   button->setMinimumWidth(kButtonWidth);
   across->addStretch(1);
   across->addWidget(button);
-  bindings.Follow([holder, button, &panel, shown = Shadow<bool>()]() mutable {
+  bindings.Follow([holder, button, &panel, shown = ChangeDetector<bool>()]() mutable {
     if (!shown.Update(panel.visible)) return false;
     holder->setVisible(panel.visible);
     if (panel.visible) button->setDefault(true);
@@ -95,4 +96,4 @@ FormWindow* BuildSubMenuWindow(Bindings& bindings, QWidget* parent) {
   return window;
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

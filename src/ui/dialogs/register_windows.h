@@ -3,10 +3,10 @@
 
 #include "ui/dialogs/form_window.h"
 
-namespace ovl {
+namespace ovl::ui {
 
 // Each is owned by its parent and as large as what it shows.
 FormWindow* BuildMicrosWindow(Bindings& bindings, QWidget* parent);
 FormWindow* BuildSubMenuWindow(Bindings& bindings, QWidget* parent);
 
-}  // namespace ovl
+}  // namespace ovl::ui

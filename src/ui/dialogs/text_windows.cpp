@@ -16,7 +16,7 @@
 #include "panels/exceptions/text_entry.h"
 #include "ui/kit/theme.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr int kButtonWidth = 112;
@@ -24,7 +24,8 @@ constexpr int kTextWidth = 440;
 constexpr QSize kViewerSize(720, 480);
 constexpr int kTextMargin = 12;
 
-QWidget* Part(Bindings& bindings, const Form& form, std::string_view name, const QString& label = {}) {
+QWidget* Part(Bindings& bindings, const controls::Form& form, std::string_view name,
+              const QString& label = {}) {
   return bindings.Make(bindings.Named(form, name), label);
 }
 
@@ -36,7 +37,8 @@ QVBoxLayout* WindowLayout(FormWindow& window) {
 }
 
 // Clear at the left, the default at the right.
-QHBoxLayout* Buttons(Bindings& bindings, const Form& form, const char* set_name, const char* clear_name) {
+QHBoxLayout* Buttons(Bindings& bindings, const controls::Form& form, const char* set_name,
+                     const char* clear_name) {
   auto* across = new QHBoxLayout;
   auto* set = static_cast<QPushButton*>(Part(bindings, form, set_name));
   auto* clear = static_cast<QPushButton*>(Part(bindings, form, clear_name));
@@ -73,11 +75,11 @@ class WholeTextMarker : public QObject {
 };
 
 // How full the text is. Blanks that fill it up leave room.
-QString TextHint(const Application& app) {
+QString TextHint(const core::Application& app) {
   const auto& box = app.frmSetEXCPSTR.Text1;
   const auto seen = box.text.find_last_not_of(' ') + 1;
   auto hint = QStringLiteral("%1 of %2 characters").arg(seen).arg(box.max_length);
-  if (app.TextEntryMode == static_cast<int>(TextTarget::kException)) {
+  if (app.TextEntryMode == static_cast<int>(panels::TextTarget::kException)) {
     hint += QStringLiteral(". A ? stands for any character");
   }
   return hint + QLatin1Char('.');
@@ -106,11 +108,11 @@ void AddValue(Bindings& bindings, QGridLayout& grid, int row, const ValueRow& va
 }
 
 // A second place for the one label of the model.
-QLabel* Likeness(Bindings& bindings, const Label& label) {
+QLabel* Likeness(Bindings& bindings, const controls::Label& label) {
   auto* copy = new QLabel;
   copy->setTextFormat(Qt::PlainText);
-  bindings.Follow([copy, &label, caption = Shadow<std::string>()]() mutable {
-    if (caption.Update(label.caption)) copy->setText(FromWindows1252(label.caption));
+  bindings.Follow([copy, &label, caption = ChangeDetector<std::string>()]() mutable {
+    if (caption.Update(label.caption)) copy->setText(host::FromWindows1252(label.caption));
     return false;
   });
   return copy;
@@ -141,7 +143,7 @@ FormWindow* BuildTextEntryWindow(Bindings& bindings, QWidget* parent) {
   fields->addWidget(hint);
   down->addLayout(fields);
   down->addLayout(Buttons(bindings, model.form, "cmdSET", "cmdClr"));
-  bindings.Follow([hint, &app, shown = Shadow<QString>()]() mutable {
+  bindings.Follow([hint, &app, shown = ChangeDetector<QString>()]() mutable {
     const auto words = TextHint(app);
     if (shown.Update(words)) hint->setText(words);
     return false;
@@ -169,7 +171,7 @@ FormWindow* BuildRangeWindow(Bindings& bindings, QWidget* parent) {
   down->addLayout(Buttons(bindings, model.form, "cmdSetRange", "cmdClr"));
 
   auto* first = static_cast<QLineEdit*>(bindings.WidgetOf(model.Range_Hi));
-  bindings.Follow([first, &form = model.form, open = Shadow<bool>()]() mutable {
+  bindings.Follow([first, &form = model.form, open = ChangeDetector<bool>()]() mutable {
     if (!open.Update(form.visible) || !form.visible) return false;
     first->setFocus(Qt::TabFocusReason);
     first->selectAll();
@@ -201,4 +203,4 @@ FormWindow* BuildViewerWindow(Bindings& bindings, QWidget* parent) {
   return window;
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -4,10 +4,10 @@
 
 #include "ui/dialogs/form_window.h"
 
-namespace ovl {
+namespace ovl::ui {
 
 FormWindow* BuildTextEntryWindow(Bindings& bindings, QWidget* parent);
 FormWindow* BuildRangeWindow(Bindings& bindings, QWidget* parent);
 FormWindow* BuildViewerWindow(Bindings& bindings, QWidget* parent);
 
-}  // namespace ovl
+}  // namespace ovl::ui

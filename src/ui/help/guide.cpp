@@ -14,7 +14,7 @@
 #include "ui/help/help_style.h"
 #include "ui/kit/theme.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr qreal kPictureWidth = 560;
@@ -93,4 +93,4 @@ QString WriteGuide(const HelpPages& pages, const QString& pictures, const QStrin
   return target.commit() ? QString() : file + QStringLiteral(": ") + target.errorString();
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -5,9 +5,9 @@
 
 #include "ui/help/help_pages.h"
 
-namespace ovl {
+namespace ovl::ui {
 
 // Pictures that the folder lacks are left out. What went wrong, with path and reason; empty when done.
 QString WriteGuide(const HelpPages& pages, const QString& pictures, const QString& file);
 
-}  // namespace ovl
+}  // namespace ovl::ui

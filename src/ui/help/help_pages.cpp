@@ -5,7 +5,7 @@
 #include <QRegularExpression>
 #include <algorithm>
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 struct ReadPage {
@@ -85,4 +85,4 @@ QString PlainLine(const QString& line) {
   return plain.replace(QLatin1Char('|'), QStringLiteral("·")).simplified();
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

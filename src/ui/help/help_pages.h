@@ -6,7 +6,7 @@
 #include <QStringList>
 #include <vector>
 
-namespace ovl {
+namespace ovl::ui {
 
 inline const QString kEmbeddedHelp = QStringLiteral(":/help");
 
@@ -49,4 +49,4 @@ QString AnchorOf(const QString& heading);
 // A line of Markdown as one reads it.
 QString PlainLine(const QString& line);
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <array>
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr qreal kCellPadding = 5;
@@ -64,4 +64,4 @@ void StyleHelp(QTextDocument& document, const QColor& hairline) {
   }
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

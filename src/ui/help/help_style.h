@@ -5,9 +5,9 @@
 
 class QTextDocument;
 
-namespace ovl {
+namespace ovl::ui {
 
 // Rules the tables with hairlines of the colour and gives headings and paragraphs their distances.
 void StyleHelp(QTextDocument& document, const QColor& hairline);
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -5,7 +5,7 @@
 
 #include "ui/help/help_pages.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 struct Topic {
@@ -49,4 +49,4 @@ QString HelpPageOfBox(const QString& topic) {
   return QStringLiteral("messages.md#") + AnchorOf(topic);
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

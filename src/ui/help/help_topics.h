@@ -3,7 +3,7 @@
 
 #include <QString>
 
-namespace ovl {
+namespace ovl::ui {
 
 // The page of a tab, by its place; of a window, by its name. Empty for one without a page.
 QString HelpPageOfTab(int tab);
@@ -12,4 +12,4 @@ QString HelpPageOfWindow(const QString& name);
 // The page of the messages, at what it says about the topic.
 QString HelpPageOfBox(const QString& topic);
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -14,7 +14,7 @@
 #include "ui/help/help_style.h"
 #include "ui/kit/theme.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr QSize kStartSize(960, 640);
@@ -223,4 +223,4 @@ void HelpWindow::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -10,7 +10,7 @@ class QLineEdit;
 class QListWidget;
 class QListWidgetItem;
 
-namespace ovl {
+namespace ovl::ui {
 
 // Shows pages by their address, "help:/remote.md#the-clock"; keeps the way back and forward.
 class HelpBrowser : public QTextBrowser {
@@ -55,4 +55,4 @@ class HelpWindow : public QDialog {
   QString shown_;  // the file of the page
 };
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -10,7 +10,7 @@
 #include <filesystem>
 #include <utility>
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 using Tell = std::function<void(const QString&)>;
@@ -84,4 +84,4 @@ void FillManualMenu(QMenu& menu, const QString& folder, Tell tell) {
   });
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -8,7 +8,7 @@
 class QMenu;
 class QObject;
 
-namespace ovl {
+namespace ovl::ui {
 
 QString ManualFolder(const QString& program_folder);
 
@@ -24,4 +24,4 @@ void OpenManual(QObject& owner, const QString& folder, const QString& file,
 // Lists the manuals anew whenever the menu opens. `tell` shows what went wrong.
 void FillManualMenu(QMenu& menu, const QString& folder, std::function<void(const QString&)> tell);
 
-}  // namespace ovl
+}  // namespace ovl::ui

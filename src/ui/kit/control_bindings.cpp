@@ -10,7 +10,7 @@
 #include "ui/kit/bindings.h"
 #include "ui/kit/widgets.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr int kOptionGap = 24;
@@ -18,17 +18,17 @@ constexpr int kOptionGap = 24;
 QStringList Texts(const std::vector<std::string>& items) {
   QStringList texts;
   texts.reserve(static_cast<qsizetype>(items.size()));
-  for (const auto& item : items) texts.append(FromWindows1252(item));
+  for (const auto& item : items) texts.append(host::FromWindows1252(item));
   return texts;
 }
 
 struct ListShadow {
-  Shadow<std::vector<std::string>> items;
-  Shadow<int> position;
+  ChangeDetector<std::vector<std::string>> items;
+  ChangeDetector<int> position;
 };
 
 // Only one button of an array is a stop of the Tab key; arrows reach the others.
-int TabStop(const OptionArray& array) {
+int TabStop(const controls::OptionArray& array) {
   const auto reachable = [&](int at) {
     const auto& element = array.elements.at(static_cast<std::size_t>(at));
     return element.visible && element.enabled;
@@ -40,7 +40,8 @@ int TabStop(const OptionArray& array) {
   return -1;
 }
 
-void Arrange(QGridLayout& grid, const std::vector<QWidget*>& buttons, const OptionArray& array, int columns) {
+void Arrange(QGridLayout& grid, const std::vector<QWidget*>& buttons, const controls::OptionArray& array,
+             int columns) {
   std::vector<QWidget*> shown;
   for (std::size_t at = 0; at < buttons.size(); ++at) {
     grid.removeWidget(buttons[at]);
@@ -56,12 +57,12 @@ void Arrange(QGridLayout& grid, const std::vector<QWidget*>& buttons, const Opti
 
 }  // namespace
 
-QWidget* Bindings::MakeList(List& list) {
+QWidget* Bindings::MakeList(controls::List& list) {
   auto* box = new PickList;
   auto shadow = std::make_shared<ListShadow>();
   QObject::connect(box, &QComboBox::activated, box, [this, &list, shadow](int position) {
     shadow->position.Forget();
-    act_(PickEvent{&list, position});
+    act_(core::PickEvent{&list, position});
   });
   const auto show = [box, &list, shadow] {
     const QSignalBlocker blocker(box);
@@ -81,14 +82,14 @@ QWidget* Bindings::MakeList(List& list) {
   return box;
 }
 
-PickList* Bindings::Fixed(const NamedControl& control, const QString& label) {
-  auto& text = *std::get<TextBox*>(control.control);
+PickList* Bindings::Fixed(const controls::NamedControl& control, const QString& label) {
+  auto& text = *std::get<controls::TextBox*>(control.control);
   auto* box = new PickList;
   Introduce(*box, control, label);
   box->setEnabled(false);
-  box->addItem(FromWindows1252(text.text));
-  Follow([box, &text, visible = Shadow<bool>(), shown = Shadow<std::string>()]() mutable {
-    if (shown.Update(text.text)) box->setItemText(0, FromWindows1252(text.text));
+  box->addItem(host::FromWindows1252(text.text));
+  Follow([box, &text, visible = ChangeDetector<bool>(), shown = ChangeDetector<std::string>()]() mutable {
+    if (shown.Update(text.text)) box->setItemText(0, host::FromWindows1252(text.text));
     if (!visible.Update(text.visible)) return false;
     box->setVisible(text.visible);
     return true;
@@ -96,13 +97,13 @@ PickList* Bindings::Fixed(const NamedControl& control, const QString& label) {
   return box;
 }
 
-TallList* Bindings::Tall(const NamedControl& control, const QString& label) {
-  auto& list = *std::get<List*>(control.control);
+TallList* Bindings::Tall(const controls::NamedControl& control, const QString& label) {
+  auto& list = *std::get<controls::List*>(control.control);
   auto* box = new TallList;
   auto shadow = std::make_shared<ListShadow>();
   box->picked = [this, &list, shadow](int position) {
     shadow->position.Forget();
-    act_(PickEvent{&list, position});
+    act_(core::PickEvent{&list, position});
   };
   FollowFace(*box, list);
   Follow([box, &list, shadow] {
@@ -118,15 +119,16 @@ TallList* Bindings::Tall(const NamedControl& control, const QString& label) {
   return box;
 }
 
-QWidget* Bindings::MakeOption(const OptionElement& element) {
+QWidget* Bindings::MakeOption(const controls::OptionElement& element) {
   auto* button = new OptionButton;
   const auto& face = element.Of();
   button->setText(CaptionText(face.caption));
   button->step = [this, element](int step) { StepOption(element, step); };
-  QObject::connect(button, &QRadioButton::clicked, button, [this, element] { act_(ClickEvent{element}); });
+  QObject::connect(button, &QRadioButton::clicked, button,
+                   [this, element] { act_(core::ClickEvent{element}); });
   FollowFace(*button, face, element.array);
   FollowCaption(*button, face);
-  Follow([this, button, element, chosen = Shadow<bool>(), stop = Shadow<bool>()]() mutable {
+  Follow([this, button, element, chosen = ChangeDetector<bool>(), stop = ChangeDetector<bool>()]() mutable {
     const bool is_chosen = element.array->chosen == element.element;
     if (chosen.Update(is_chosen)) {
       button->setChecked(is_chosen);
@@ -139,19 +141,19 @@ QWidget* Bindings::MakeOption(const OptionElement& element) {
   return button;
 }
 
-void Bindings::StepOption(const OptionElement& from, int step) {
+void Bindings::StepOption(const controls::OptionElement& from, int step) {
   const int count = static_cast<int>(from.array->elements.size());
   for (int tried = 1; tried < count; ++tried) {
-    const OptionElement next{from.array, ((from.element + step * tried) % count + count) % count};
+    const controls::OptionElement next{from.array, ((from.element + step * tried) % count + count) % count};
     if (!next.Of().visible || !next.Of().enabled) continue;
     if (auto* button = WidgetOf(next.Of())) button->setFocus(Qt::TabFocusReason);
-    act_(ClickEvent{next});
+    act_(core::ClickEvent{next});
     return;
   }
 }
 
-QWidget* Bindings::Options(const NamedControl& control, int columns, const QString& label) {
-  auto& array = *std::get<OptionArray*>(control.control);
+QWidget* Bindings::Options(const controls::NamedControl& control, int columns, const QString& label) {
+  auto& array = *std::get<controls::OptionArray*>(control.control);
   auto* holder = new QWidget;
   auto* grid = new QGridLayout(holder);
   grid->setContentsMargins(0, 0, 0, 0);
@@ -163,9 +165,9 @@ QWidget* Bindings::Options(const NamedControl& control, int columns, const QStri
     button->setParent(holder);
     buttons.push_back(button);
   }
-  holder->setObjectName(FromWindows1252(control.name));
+  holder->setObjectName(host::FromWindows1252(control.name));
   holder->setAccessibleName(label);
-  auto shown = std::make_shared<Shadow<std::vector<bool>>>();
+  auto shown = std::make_shared<ChangeDetector<std::vector<bool>>>();
   const auto arrange = [grid, buttons, &array, columns, shown] {
     std::vector<bool> visible;
     visible.reserve(array.elements.size());
@@ -181,95 +183,98 @@ QWidget* Bindings::Options(const NamedControl& control, int columns, const QStri
   return holder;
 }
 
-QWidget* Bindings::MakeText(TextBox& box) {
+QWidget* Bindings::MakeText(controls::TextBox& box) {
   auto* line = new TextLine;
-  auto shadow = std::make_shared<Shadow<std::string>>();
+  auto shadow = std::make_shared<ChangeDetector<std::string>>();
   line->refused = hint_;
   QObject::connect(line, &QLineEdit::textEdited, line, [this, &box, shadow](const QString& text) {
-    const auto typed = ToWindows1252(text).value_or(std::string());
+    const auto typed = host::ToWindows1252(text).value_or(std::string());
     shadow->Forget();
-    if (act_(TypeEvent{&box, typed}) == Outcome::kDone) shadow->Update(typed);
+    if (act_(core::TypeEvent{&box, typed}) == core::Outcome::kDone) shadow->Update(typed);
   });
   FollowFace(*line, box);
-  Follow([line, &box, shadow, limit = Shadow<std::size_t>(), fixed = Shadow<bool>()]() mutable {
-    if (limit.Update(box.max_length)) line->SetLimit(static_cast<int>(box.max_length));
-    if (fixed.Update(box.read_only)) line->setReadOnly(box.read_only);
-    if (shadow->Update(box.text)) line->setText(FromWindows1252(box.text));
-    return false;
-  });
+  Follow(
+      [line, &box, shadow, limit = ChangeDetector<std::size_t>(), fixed = ChangeDetector<bool>()]() mutable {
+        if (limit.Update(box.max_length)) line->SetLimit(static_cast<int>(box.max_length));
+        if (fixed.Update(box.read_only)) line->setReadOnly(box.read_only);
+        if (shadow->Update(box.text)) line->setText(host::FromWindows1252(box.text));
+        return false;
+      });
   return line;
 }
 
-QWidget* Bindings::MakeLines(TextBox& box) {
+QWidget* Bindings::MakeLines(controls::TextBox& box) {
   auto* lines = new QPlainTextEdit;
   lines->setTabChangesFocus(true);
-  auto shadow = std::make_shared<Shadow<std::string>>();
+  auto shadow = std::make_shared<ChangeDetector<std::string>>();
   QObject::connect(lines, &QPlainTextEdit::textChanged, lines, [this, lines, &box, shadow] {
     const auto text = lines->toPlainText();
     shadow->Forget();
-    if (!ToWindows1252(text)) return hint_(QStringLiteral("Only characters of Windows-1252 can be kept."));
-    if (act_(TypeEvent{&box, ToWindows1252(text).value_or(std::string())}) == Outcome::kDone)
+    if (!host::ToWindows1252(text))
+      return hint_(QStringLiteral("Only characters of Windows-1252 can be kept."));
+    if (act_(core::TypeEvent{&box, host::ToWindows1252(text).value_or(std::string())}) ==
+        core::Outcome::kDone)
       shadow->Update(box.text);
   });
   FollowFace(*lines, box);
-  Follow([lines, &box, shadow, fixed = Shadow<bool>()]() mutable {
+  Follow([lines, &box, shadow, fixed = ChangeDetector<bool>()]() mutable {
     if (fixed.Update(box.read_only)) lines->setReadOnly(box.read_only);
     if (!shadow->Update(box.text)) return false;
     const QSignalBlocker blocker(lines);
-    lines->setPlainText(FromWindows1252(box.text));
+    lines->setPlainText(host::FromWindows1252(box.text));
     return false;
   });
   return lines;
 }
 
-QWidget* Bindings::MakeLabel(Label& label) {
+QWidget* Bindings::MakeLabel(controls::Label& label) {
   auto* text = new QLabel;
   text->setTextFormat(Qt::PlainText);
   FollowFace(*text, label);
-  Follow([text, &label, caption = Shadow<std::string>()]() mutable {
+  Follow([text, &label, caption = ChangeDetector<std::string>()]() mutable {
     if (!caption.Update(label.caption)) return false;
-    text->setText(FromWindows1252(label.caption));
-    text->setAccessibleName(FromWindows1252(label.caption));
+    text->setText(host::FromWindows1252(label.caption));
+    text->setAccessibleName(host::FromWindows1252(label.caption));
     return true;
   });
   return text;
 }
 
-QWidget* Bindings::MakeButton(Button& button) {
+QWidget* Bindings::MakeButton(controls::Button& button) {
   auto* push = new QPushButton;
   push->setAutoDefault(true);
-  QObject::connect(push, &QPushButton::clicked, push, [this, &button] { act_(ClickEvent{&button}); });
+  QObject::connect(push, &QPushButton::clicked, push, [this, &button] { act_(core::ClickEvent{&button}); });
   FollowFace(*push, button);
   FollowCaption(*push, button);
   return push;
 }
 
-QWidget* Bindings::MakeCheck(CheckBox& box) {
+QWidget* Bindings::MakeCheck(controls::CheckBox& box) {
   auto* check = new TurnBox;
-  QObject::connect(check, &QCheckBox::clicked, check, [this, &box] { act_(ClickEvent{&box}); });
+  QObject::connect(check, &QCheckBox::clicked, check, [this, &box] { act_(core::ClickEvent{&box}); });
   FollowFace(*check, box);
   FollowCaption(*check, box);
-  Follow([check, &box, checked = Shadow<bool>()]() mutable {
+  Follow([check, &box, checked = ChangeDetector<bool>()]() mutable {
     if (checked.Update(box.checked)) check->setChecked(box.checked);
     return false;
   });
   return check;
 }
 
-QWidget* Bindings::MakeBar(ProgressBar& bar) {
+QWidget* Bindings::MakeBar(controls::ProgressBar& bar) {
   auto* progress = new QProgressBar;
   FollowFace(*progress, bar);
-  Follow([progress, &bar, maximum = Shadow<int>(), value = Shadow<int>(),
-          text = Shadow<std::string>()]() mutable {
+  Follow([progress, &bar, maximum = ChangeDetector<int>(), value = ChangeDetector<int>(),
+          text = ChangeDetector<std::string>()]() mutable {
     if (maximum.Update(bar.maximum)) progress->setMaximum(bar.maximum);
     if (value.Update(bar.value)) progress->setValue(bar.value);
     if (text.Update(bar.text)) {
       progress->setTextVisible(!bar.text.empty());
-      progress->setFormat(FromWindows1252(bar.text));
+      progress->setFormat(host::FromWindows1252(bar.text));
     }
     return false;
   });
   return progress;
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

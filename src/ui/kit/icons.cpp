@@ -6,7 +6,7 @@
 #include <QPainterPath>
 #include <QPalette>
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 // Glyphs are described on a square of this many units.
@@ -137,4 +137,4 @@ QIcon GlyphIcon(Glyph glyph) {
   return QIcon(new GlyphEngine(glyph));
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -4,7 +4,7 @@
 
 #include <QIcon>
 
-namespace ovl {
+namespace ovl::ui {
 
 enum class Glyph { kUpload, kDownload, kClock, kHistory, kRemote, kReset };
 
@@ -14,4 +14,4 @@ QIcon GlyphIcon(Glyph glyph);
 // Draws the glyph into a square with the painter's own pen colour.
 void DrawGlyph(QPainter& painter, Glyph glyph, const QRectF& square);
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -12,7 +12,7 @@
 #include "host/text_codec.h"
 #include "ui/kit/widgets.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 enum GridColumn { kLabels, kFields, kRest, kGridColumns };
@@ -47,20 +47,20 @@ struct PageColumn::RowState {
   QWidget* label;
   QWidget* fields;
   std::function<bool()> wanted;
-  Shadow<bool> shown;
+  ChangeDetector<bool> shown;
 };
 
 struct PageColumn::SectionState {
-  const Frame* frame = nullptr;
+  const controls::Frame* frame = nullptr;
   std::function<QString()> title;
   std::function<bool()> wanted;
   QLabel* title_label = nullptr;
   QWidget* block = nullptr;
   std::vector<RowState> rows;
-  Shadow<QString> titled;
-  Shadow<bool> shown;
-  Shadow<bool> enabled;
-  Shadow<bool> leads;
+  ChangeDetector<QString> titled;
+  ChangeDetector<bool> shown;
+  ChangeDetector<bool> enabled;
+  ChangeDetector<bool> leads;
 };
 
 struct PageColumn::State {
@@ -122,7 +122,7 @@ struct PageColumn::State {
   }
 };
 
-PageColumn::PageColumn(Bindings& bindings, const Form& form, QWidget& holder)
+PageColumn::PageColumn(Bindings& bindings, const controls::Form& form, QWidget& holder)
     : bindings_(bindings),
       form_(form),
       holder_(&holder),
@@ -141,8 +141,8 @@ PageColumn::PageColumn(Bindings& bindings, const Form& form, QWidget& holder)
 PageColumn& PageColumn::Section(std::string_view frame) {
   within_ = nullptr;
   auto& section = state_->sections.emplace_back();
-  section.frame = std::get<Frame*>(bindings_.Named(form_, frame).control);
-  section.title = [frame = section.frame] { return FromWindows1252(frame->caption); };
+  section.frame = std::get<controls::Frame*>(bindings_.Named(form_, frame).control);
+  section.title = [frame = section.frame] { return host::FromWindows1252(frame->caption); };
   return *this;
 }
 
@@ -159,7 +159,7 @@ PageColumn& PageColumn::OwnSection(std::function<QString()> title, std::function
 }
 
 PageColumn& PageColumn::Within(std::string_view frame) {
-  within_ = std::get<Frame*>(bindings_.Named(form_, frame).control);
+  within_ = std::get<controls::Frame*>(bindings_.Named(form_, frame).control);
   return *this;
 }
 
@@ -188,12 +188,14 @@ void PageColumn::Add(QWidget* label, QWidget* fields, std::function<bool()> show
 }
 
 std::function<bool()> PageColumn::AnyVisible(const std::vector<Field>& fields) const {
-  std::vector<const Face*> faces;
+  std::vector<const controls::ControlState*> faces;
   for (const auto& field : fields) {
-    for (const auto& name : field.names) faces.push_back(&FaceOf(bindings_.Named(form_, name).control));
+    for (const auto& name : field.names)
+      faces.push_back(&controls::StateOf(bindings_.Named(form_, name).control));
   }
   return [faces] {
-    return std::any_of(faces.begin(), faces.end(), [](const Face* face) { return face->visible; });
+    return std::any_of(faces.begin(), faces.end(),
+                       [](const controls::ControlState* face) { return face->visible; });
   };
 }
 
@@ -213,7 +215,7 @@ QWidget* PageColumn::MakeField(const QString& label, const Field& field, QWidget
     }
   }
   if (!field.caption.isEmpty()) down->addWidget(MutedLabel(field.caption));
-  bindings_.Follow([holder, any = AnyVisible({field}), shown = Shadow<bool>()]() mutable {
+  bindings_.Follow([holder, any = AnyVisible({field}), shown = ChangeDetector<bool>()]() mutable {
     if (!shown.Update(any())) return false;
     holder->setVisible(any());
     return true;
@@ -230,7 +232,8 @@ void PageColumn::Cover(QBoxLayout& place, QWidget& covered, const QString& label
   auto* above = bindings_.Fixed(named, label);
   place.addWidget(below, 0, Qt::AlignLeft);
   place.addWidget(above, 0, Qt::AlignLeft);
-  bindings_.Follow([below, &covered, above, &face = FaceOf(named.control), shown = Shadow<bool>()]() mutable {
+  bindings_.Follow([below, &covered, above, &face = controls::StateOf(named.control),
+                    shown = ChangeDetector<bool>()]() mutable {
     above->setMinimumWidth(covered.sizeHint().width());
     if (!shown.Update(face.visible)) return false;
     below->setVisible(!face.visible);
@@ -253,39 +256,39 @@ QWidget* PageColumn::MakeFields(const QString& label, const std::vector<Field>& 
   return holder;
 }
 
-QLabel* PageColumn::MakeRowLabel(const RowLabel& label, const NamedControl& first, const Face* cover) {
+QLabel* PageColumn::MakeRowLabel(const RowLabel& label, const controls::NamedControl& first,
+                                 const controls::ControlState* cover) {
   auto* text = new RowText(CaptionText(label.text.toStdString()));
   text->setTextFormat(Qt::PlainText);
-  const Face* named =
-      label.control.empty() ? nullptr : &FaceOf(bindings_.Named(form_, label.control).control);
+  const controls::ControlState* named =
+      label.control.empty() ? nullptr : &controls::StateOf(bindings_.Named(form_, label.control).control);
   if (named != nullptr) text->setObjectName(QString::fromStdString(label.control));
-  const auto& face = FaceOf(first.control);
+  const auto& face = controls::StateOf(first.control);
   if (label.of_field) {
-    bindings_.Follow([text, &face, caption = Shadow<std::string>()]() mutable {
+    bindings_.Follow([text, &face, caption = ChangeDetector<std::string>()]() mutable {
       if (!caption.Update(face.caption)) return false;
       text->setText(CaptionText(face.caption));
-      if (text->buddy() != nullptr) text->buddy()->setAccessibleName(FromWindows1252(face.caption));
+      if (text->buddy() != nullptr) text->buddy()->setAccessibleName(host::FromWindows1252(face.caption));
       return true;
     });
   }
   // The label of what is covered is as faint as what covers it.
-  bindings_.Follow(
-      [text, named, cover, &face, caption = Shadow<std::string>(), enabled = Shadow<bool>()]() mutable {
-        const bool covered = cover != nullptr && cover->visible;
-        const bool can = face.enabled && !covered && (named == nullptr || named->enabled);
-        if (enabled.Update(can)) text->setEnabled(can);
-        if (named == nullptr || !caption.Update(named->visible ? named->caption : std::string()))
-          return false;
-        text->setText(named->visible ? CaptionText(named->caption) : QString());
-        return true;
-      });
+  bindings_.Follow([text, named, cover, &face, caption = ChangeDetector<std::string>(),
+                    enabled = ChangeDetector<bool>()]() mutable {
+    const bool covered = cover != nullptr && cover->visible;
+    const bool can = face.enabled && !covered && (named == nullptr || named->enabled);
+    if (enabled.Update(can)) text->setEnabled(can);
+    if (named == nullptr || !caption.Update(named->visible ? named->caption : std::string())) return false;
+    text->setText(named->visible ? CaptionText(named->caption) : QString());
+    return true;
+  });
   return text;
 }
 
-QString PageColumn::CalledBy(const RowLabel& label, const NamedControl& first) const {
-  if (label.of_field) return FromWindows1252(FaceOf(first.control).caption);
+QString PageColumn::CalledBy(const RowLabel& label, const controls::NamedControl& first) const {
+  if (label.of_field) return host::FromWindows1252(controls::StateOf(first.control).caption);
   if (label.control.empty()) return label.text;
-  return FromWindows1252(FaceOf(bindings_.Named(form_, label.control).control).caption);
+  return host::FromWindows1252(controls::StateOf(bindings_.Named(form_, label.control).control).caption);
 }
 
 PageColumn& PageColumn::Row(const RowLabel& label, const std::vector<Field>& fields) {
@@ -293,18 +296,19 @@ PageColumn& PageColumn::Row(const RowLabel& label, const std::vector<Field>& fie
   QWidget* first = nullptr;
   auto* holder = MakeFields(CalledBy(label, control), fields, first);
   const auto& cover = fields.front().cover;
-  const auto* above = cover.empty() ? nullptr : &FaceOf(bindings_.Named(form_, cover).control);
+  const auto* above = cover.empty() ? nullptr : &controls::StateOf(bindings_.Named(form_, cover).control);
   return AddRow(label, control, holder, *first, AnyVisible(fields), above);
 }
 
 PageColumn& PageColumn::Row(const char* name, QWidget* holder) {
   const auto& control = bindings_.Named(form_, name);
-  return AddRow(RowLabel::OfField(), control, holder, *bindings_.WidgetOf(FaceOf(control.control)),
+  return AddRow(RowLabel::OfField(), control, holder, *bindings_.WidgetOf(controls::StateOf(control.control)),
                 AnyVisible({name}));
 }
 
-PageColumn& PageColumn::AddRow(const RowLabel& label, const NamedControl& control, QWidget* fields,
-                               QWidget& first, std::function<bool()> shown, const Face* cover) {
+PageColumn& PageColumn::AddRow(const RowLabel& label, const controls::NamedControl& control, QWidget* fields,
+                               QWidget& first, std::function<bool()> shown,
+                               const controls::ControlState* cover) {
   auto* text = MakeRowLabel(label, control, cover);
   text->setMinimumHeight(first.sizeHint().height());
   Attach(*text, first);
@@ -338,7 +342,7 @@ QWidget* PageColumn::MakeOptionColumn(const OptionColumn& column, std::function<
   down->setSpacing(kRowGap);
   if (!column.head.isEmpty()) down->addWidget(MutedLabel(column.head));
   down->addWidget(bindings_.Options(bindings_.Named(form_, column.array), column.columns, column.head));
-  bindings_.Follow([holder, shown = std::move(shown), was = Shadow<bool>()]() mutable {
+  bindings_.Follow([holder, shown = std::move(shown), was = ChangeDetector<bool>()]() mutable {
     const bool shows = shown();
     if (!was.Update(shows)) return false;
     holder->setVisible(shows);
@@ -354,13 +358,14 @@ PageColumn& PageColumn::Options(const std::vector<OptionColumn>& arrays) {
   across->setSpacing(kColumnGap);
   std::vector<std::function<bool()>> columns;
   for (const auto& array : arrays) {
-    const Frame* frame =
-        array.frame.empty() ? nullptr : std::get<Frame*>(bindings_.Named(form_, array.frame).control);
-    const auto& options = *std::get<OptionArray*>(bindings_.Named(form_, array.array).control);
+    const controls::Frame* frame =
+        array.frame.empty() ? nullptr
+                            : std::get<controls::Frame*>(bindings_.Named(form_, array.frame).control);
+    const auto& options = *std::get<controls::OptionArray*>(bindings_.Named(form_, array.array).control);
     columns.push_back([frame, &options] {
       return options.visible && (frame == nullptr || frame->visible) &&
              std::any_of(options.elements.begin(), options.elements.end(),
-                         [](const Face& element) { return element.visible; });
+                         [](const controls::ControlState& element) { return element.visible; });
     });
     across->addWidget(MakeOptionColumn(array, columns.back()), 0, Qt::AlignTop);
   }
@@ -390,4 +395,4 @@ bool PageColumn::AnySectionShown() const {
   return std::any_of(state_->sections.begin(), state_->sections.end(), State::Shows);
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -24,7 +24,7 @@ class QHBoxLayout;
 class QScrollArea;
 class QVBoxLayout;
 
-namespace ovl {
+namespace ovl::ui {
 
 // At the end of a row's label. A letter that is underlined for the keyboard loses its kerning, and the text
 // becomes wider than it was measured.
@@ -81,7 +81,7 @@ struct OptionColumn {
 class PageColumn {
  public:
   // Builds into `holder`, which has no layout yet.
-  PageColumn(Bindings& bindings, const Form& form, QWidget& holder);
+  PageColumn(Bindings& bindings, const controls::Form& form, QWidget& holder);
 
   // Begins a section that shows while the frame does; its caption is the title. A section comes to be with
   // its first row: one without rows is nowhere to be seen.
@@ -129,20 +129,22 @@ class PageColumn {
   void Add(QWidget* label, QWidget* fields, std::function<bool()> shown);
   std::function<bool()> AnyVisible(const std::vector<Field>& fields) const;
   void Cover(QBoxLayout& place, QWidget& covered, const QString& label, const std::string& cover);
-  QString CalledBy(const RowLabel& label, const NamedControl& first) const;
+  QString CalledBy(const RowLabel& label, const controls::NamedControl& first) const;
   QWidget* MakeOptionColumn(const OptionColumn& column, std::function<bool()> shown);
   QWidget* MakeFields(const QString& label, const std::vector<Field>& fields, QWidget*& first);
   QWidget* MakeField(const QString& label, const Field& field, QWidget*& first);
-  PageColumn& AddRow(const RowLabel& label, const NamedControl& control, QWidget* fields, QWidget& first,
-                     std::function<bool()> shown, const Face* cover = nullptr);
-  QLabel* MakeRowLabel(const RowLabel& label, const NamedControl& first, const Face* cover);
+  PageColumn& AddRow(const RowLabel& label, const controls::NamedControl& control, QWidget* fields,
+                     QWidget& first, std::function<bool()> shown,
+                     const controls::ControlState* cover = nullptr);
+  QLabel* MakeRowLabel(const RowLabel& label, const controls::NamedControl& first,
+                       const controls::ControlState* cover);
 
   Bindings& bindings_;
-  const Form& form_;
+  const controls::Form& form_;
   QWidget* holder_;
   QGridLayout* grid_;
   std::shared_ptr<State> state_;
-  const Frame* within_ = nullptr;
+  const controls::Frame* within_ = nullptr;
 };
 
 // Takes the content as its own; the bars come where the room is too small for it.
@@ -151,7 +153,7 @@ QScrollArea* Scrolled(QWidget* content);
 class Page {
  public:
   // What stands to the left of the page, if anything, is `left` pixels away.
-  Page(Bindings& bindings, const Form& form, int left = kMargin);
+  Page(Bindings& bindings, const controls::Form& form, int left = kMargin);
 
   // The next column to the right; its share of the width, and how wide it is at least.
   PageColumn& Column(int share = 1, int least = 0);
@@ -165,7 +167,7 @@ class Page {
 
  private:
   Bindings& bindings_;
-  const Form& form_;
+  const controls::Form& form_;
   QWidget* content_;
   QScrollArea* area_;
   QVBoxLayout* down_;
@@ -174,4 +176,4 @@ class Page {
   bool fills_ = false;
 };
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr QLatin1Char kSign('&');
@@ -181,4 +181,4 @@ void AssignPageMnemonics(QWidget& page, const Letters& taken) {
   Renew(owners, taken, false);
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

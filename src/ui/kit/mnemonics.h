@@ -8,7 +8,7 @@ class QMenu;
 class QMenuBar;
 class QWidget;
 
-namespace ovl {
+namespace ovl::ui {
 
 // Letters that a window uses everywhere, in lower case.
 using Letters = QSet<QChar>;
@@ -21,4 +21,4 @@ Letters AssignMenuMnemonics(QMenuBar& bar);
 // arrays get none: arrows reach them. Digits are left to the tabs.
 void AssignPageMnemonics(QWidget& page, const Letters& taken);
 
-}  // namespace ovl
+}  // namespace ovl::ui

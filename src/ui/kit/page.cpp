@@ -12,7 +12,7 @@
 #include "host/text_codec.h"
 #include "ui/kit/widgets.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 QLabel* QuietLabel(Bindings& bindings) {
@@ -20,7 +20,7 @@ QLabel* QuietLabel(Bindings& bindings) {
   label->setObjectName(QStringLiteral("QuietLine"));
   label->setWordWrap(true);
   label->setVisible(false);
-  bindings.Follow([&bindings, label, shown = Shadow<QString>()]() mutable {
+  bindings.Follow([&bindings, label, shown = ChangeDetector<QString>()]() mutable {
     if (!shown.Update(bindings.QuietLine())) return false;
     label->setText(bindings.QuietLine());
     label->setVisible(!bindings.QuietLine().isEmpty());
@@ -40,7 +40,7 @@ QScrollArea* Scrolled(QWidget* content) {
   return area;
 }
 
-Page::Page(Bindings& bindings, const Form& form, int left)
+Page::Page(Bindings& bindings, const controls::Form& form, int left)
     : bindings_(bindings),
       form_(form),
       content_(new QWidget),
@@ -66,14 +66,14 @@ QScrollArea* Page::Finish(const QString& calm) {
   down_->addWidget(QuietLabel(bindings_));
   if (!fills_) down_->addStretch(1);
   for (auto& column : columns_) {
-    bindings_.Follow([column, shown = Shadow<bool>()]() mutable {
+    bindings_.Follow([column, shown = ChangeDetector<bool>()]() mutable {
       const bool show = column.AnySectionShown();
       if (!shown.Update(show)) return false;
       column.Holder().setVisible(show);
       return true;
     });
   }
-  bindings_.Follow([line, columns = columns_, shown = Shadow<bool>()]() mutable {
+  bindings_.Follow([line, columns = columns_, shown = ChangeDetector<bool>()]() mutable {
     const bool any = std::any_of(columns.begin(), columns.end(),
                                  [](const PageColumn& column) { return column.AnySectionShown(); });
     if (!shown.Update(!any)) return false;
@@ -83,4 +83,4 @@ QScrollArea* Page::Finish(const QString& calm) {
   return area_;
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -9,7 +9,7 @@
 #include <QStyleOption>
 #include <algorithm>
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 struct Scheme {
@@ -293,4 +293,4 @@ QWidget* Hairline() {
   return line;
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -7,7 +7,7 @@
 class QLabel;
 class QWidget;
 
-namespace ovl {
+namespace ovl::ui {
 
 enum class Theme {
   kDesktop,  // light or dark, whichever the desktop's own palette is
@@ -36,4 +36,4 @@ inline constexpr int kSectionGap = 20;
 inline constexpr int kRowGap = 8;
 inline constexpr int kFieldGap = 10;
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -10,7 +10,7 @@
 #include "host/text_codec.h"
 #include "ui/kit/theme.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr int kPopupLines = 10;
@@ -102,7 +102,7 @@ class TextRule : public QValidator {
   using QValidator::QValidator;
 
   State validate(QString& text, int& caret) const override {
-    if (!ToWindows1252(text))
+    if (!host::ToWindows1252(text))
       return Refuse(QStringLiteral("The unit has no such character: only Windows-1252 can be typed."));
     if (limit == 0 || text.size() <= limit) return Acceptable;
     text.truncate(std::max<qsizetype>({limit, caret, SizeWithoutFill(text)}));
@@ -225,4 +225,4 @@ void TextLine::LeaveBlanks(qsizetype from) {
   setCursorPosition(std::min(cursorPosition(), static_cast<int>(SizeWithoutFill(text()))));
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

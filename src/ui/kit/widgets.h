@@ -9,7 +9,7 @@
 #include <QRadioButton>
 #include <functional>
 
-namespace ovl {
+namespace ovl::ui {
 
 class TextRule;
 
@@ -89,4 +89,4 @@ class TextLine : public QLineEdit {
   TextRule* rule_;
 };
 
-}  // namespace ovl
+}  // namespace ovl::ui

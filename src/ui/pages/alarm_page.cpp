@@ -10,39 +10,40 @@
 #include "panels/panel.h"
 #include "ui/pages/text_rows.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
-using enum FieldId;
+using enum image::FieldId;
 
 constexpr int kRtsTrigger = 28;
 
-QString EntryText(const List& list, int position) {
+QString EntryText(const controls::List& list, int position) {
   const bool known = position >= 0 && position < static_cast<int>(list.items.size());
-  return known ? FromWindows1252(list.items[static_cast<std::size_t>(position)]) : QStringLiteral("?");
+  return known ? host::FromWindows1252(list.items[static_cast<std::size_t>(position)]) : QStringLiteral("?");
 }
 
-QString TriggerText(const MainForm& form, int trigger) {
+QString TriggerText(const controls::MainForm& form, int trigger) {
   if (trigger == 0) return QStringLiteral("free");
   const auto entry = EntryText(form.ComboALM[1], trigger);
-  return trigger < kRtsTrigger ? FromWindows1252(form.lbAlmTrig.caption) + QLatin1Char(' ') + entry : entry;
+  return trigger < kRtsTrigger ? host::FromWindows1252(form.lbAlmTrig.caption) + QLatin1Char(' ') + entry
+                               : entry;
 }
 
 // The counter runs up to 256; 0 is the last entry, the pulse.
-QString DurationText(const MainForm& form, int counter) {
+QString DurationText(const controls::MainForm& form, int counter) {
   const auto& list = form.ComboALM[3];
   return counter == 0 ? EntryText(list, static_cast<int>(list.items.size()) - 1)
                       : QString::number(256 - counter);
 }
 
-bool NormallyOn(const Application& app, int number) {
-  const int states = HexToInt(app.image.at(ALMNORMAL_BAK, (number - 1) / 8 + 1));
-  return HasBit(states, (number - 1) % 8);
+bool NormallyOn(const core::Application& app, int number) {
+  const int states = codecs::HexToInt(app.image.at(ALMNORMAL_BAK, (number - 1) / 8 + 1));
+  return panels::HasBit(states, (number - 1) % 8);
 }
 
 QString TriggeredText(const std::string& record) {
-  return FromWindows1252(
-      StoredText(std::string_view(record).substr(std::min<std::size_t>(record.size(), 2))));
+  return host::FromWindows1252(
+      panels::StoredText(std::string_view(record).substr(std::min<std::size_t>(record.size(), 2))));
 }
 
 QWidget* AlarmOverview(Bindings& bindings) {
@@ -60,7 +61,7 @@ QWidget* AlarmOverview(Bindings& bindings) {
        [] { return QStringLiteral("EX. exceptions   NO normally open   NC normally closed"); }});
 }
 
-void AddEditor(PageColumn& column, const MainForm& form) {
+void AddEditor(PageColumn& column, const controls::MainForm& form) {
   column.Section("Frame8")
       .Row("ComboALM(0)")
       .Row("ComboALM(1)")
@@ -77,13 +78,14 @@ void AddEditor(PageColumn& column, const MainForm& form) {
 
 }  // namespace
 
-std::vector<OverviewLine> AlarmLines(const Application& app) {
+std::vector<OverviewLine> AlarmLines(const core::Application& app) {
   const auto& form = app.frmMain;
   std::vector<OverviewLine> lines;
-  for (int number = 1; number <= kAlarms; ++number) {
+  for (int number = 1; number <= image::kAlarms; ++number) {
     const auto& record = app.image.at(ALMSTRUCT_BAK, number);
-    const int trigger = HexToInt(record);
-    const int counter = HexToInt(std::string_view(record).substr(std::min<std::size_t>(record.size(), 2)));
+    const int trigger = codecs::HexToInt(record);
+    const int counter =
+        codecs::HexToInt(std::string_view(record).substr(std::min<std::size_t>(record.size(), 2)));
     lines.push_back({{QString::number(number), TriggerText(form, trigger), DurationText(form, counter),
                       EntryText(form.ComboALM[2], NormallyOn(app, number) ? 1 : 0),
                       TriggeredText(app.image.at(TRIGGER_TEXT, number))},
@@ -104,4 +106,4 @@ QWidget* BuildAlarmPage(Bindings& bindings) {
   return BesideOverview(bindings, AlarmOverview(bindings), page.Finish({}));
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -13,7 +13,7 @@
 #include "panels/panel.h"
 #include "ui/pages/text_rows.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr std::size_t kLengthDigits = 2;
@@ -35,7 +35,7 @@ constexpr std::array kActs = {Act{1, 0, 'D', "D display"}, Act{2, 1, 'O', "O out
 constexpr std::size_t kScrollMatching = 4;
 
 // Scroll matching is told also where the panel has no list for it: it holds the other acts off.
-bool Told(const MainForm& form, const Act& act) {
+bool Told(const controls::MainForm& form, const Act& act) {
   return act.list == kScrollMatching || form.ComboExcp[act.list].visible;
 }
 
@@ -43,41 +43,42 @@ std::string Slice(const std::string& slot, std::size_t first, std::size_t count 
   return first < slot.size() ? slot.substr(first, count) : std::string();
 }
 
-QString ValueText(const Application& app, const std::string& slot, std::size_t value) {
-  const auto place = RangePlaceOf(app);
-  const auto first = RangePlace::kFirst + value * place.Value();
+QString ValueText(const core::Application& app, const std::string& slot, std::size_t value) {
+  const auto place = panels::RangePlaceOf(app);
+  const auto first = panels::RangePlace::kFirst + value * place.Value();
   auto whole = Slice(slot, first, place.integers);
   whole.erase(0,
               std::min(whole.find_first_not_of('0'), whole.size() - std::min<std::size_t>(1, whole.size())));
-  return QString::fromStdString(whole + DecimalSeparator(app) +
-                                Slice(slot, first + place.integers, RangePlace::kDecimals));
+  return QString::fromStdString(whole + panels::DecimalSeparator(app) +
+                                Slice(slot, first + place.integers, panels::RangePlace::kDecimals));
 }
 
-QString RangeText(const Application& app, const std::string& slot) {
+QString RangeText(const core::Application& app, const std::string& slot) {
   constexpr std::array kOperators = {"", "IN ", "OUT ", "IN OUT "};
-  const auto operation = static_cast<std::size_t>(HexToInt(slot) >> 2 & 3);
+  const auto operation = static_cast<std::size_t>(codecs::HexToInt(slot) >> 2 & 3);
   if (operation == 0) return {};
   return QLatin1String(kOperators[operation]) + ValueText(app, slot, 0) + QStringLiteral(" - ") +
          ValueText(app, slot, 1);
 }
 
-QString TextOf(const Application& app, const std::string& slot) {
+QString TextOf(const core::Application& app, const std::string& slot) {
   constexpr char kStoredWildcard = '\x7F';
-  auto text = StoredText(Slice(slot, RangePlaceOf(app).End() + kLengthDigits));
+  auto text = panels::StoredText(Slice(slot, panels::RangePlaceOf(app).End() + kLengthDigits));
   std::replace(text.begin(), text.end(), kStoredWildcard, '?');
   text.erase(text.find_last_not_of(' ') + 1);
-  return FromWindows1252(text);
+  return host::FromWindows1252(text);
 }
 
-QString ActsText(const Application& app, int flags) {
+QString ActsText(const core::Application& app, int flags) {
   QStringList letters;
   for (const auto& act : kActs) {
-    if (Told(app.frmMain, act) && HasBit(flags, act.bit)) letters.append(QChar::fromLatin1(act.letter));
+    if (Told(app.frmMain, act) && panels::HasBit(flags, act.bit))
+      letters.append(QChar::fromLatin1(act.letter));
   }
   return letters.join(QLatin1Char(' '));
 }
 
-QString Legend(const Application& app) {
+QString Legend(const core::Application& app) {
   QStringList words;
   for (const auto& act : kActs) {
     if (Told(app.frmMain, act)) words.append(QString::fromLatin1(act.word));
@@ -145,7 +146,7 @@ void AddRecorder(Bindings& bindings, PageColumn& column) {
   for (std::size_t list = 0; list < form.ComboKLM4011.size(); ++list) {
     const auto& recorder = form.OpDVR.elements.at(1 + list / 2).caption;
     auto* widget = bindings.WidgetOf(form.ComboKLM4011[list]);
-    widget->setAccessibleName(FromWindows1252(recorder + " " + form.ComboKLM4011[list].caption));
+    widget->setAccessibleName(host::FromWindows1252(recorder + " " + form.ComboKLM4011[list].caption));
     for (auto* label : column.Holder().findChildren<QLabel*>()) {
       if (label->buddy() == widget) label->setIndent(kBelowOption);
     }
@@ -180,14 +181,14 @@ QWidget* LowerPart(Bindings& bindings, int labels) {
 
 }  // namespace
 
-std::vector<OverviewLine> ExceptionLines(const Application& app) {
+std::vector<OverviewLine> ExceptionLines(const core::Application& app) {
   std::vector<OverviewLine> lines;
-  for (int number = 1; number <= kExceptions; ++number) {
-    const auto& slot = app.image.at(FieldId::EXCPSTRS, number);
+  for (int number = 1; number <= image::kExceptions; ++number) {
+    const auto& slot = app.image.at(image::FieldId::EXCPSTRS, number);
     const auto text = TextOf(app, slot);
-    const bool used = !HasBit(HexToInt(slot), kFreeBit) && !text.trimmed().isEmpty();
+    const bool used = !panels::HasBit(codecs::HexToInt(slot), kFreeBit) && !text.trimmed().isEmpty();
     lines.push_back({{QString::number(number), used ? text : QStringLiteral("free"), RangeText(app, slot),
-                      ActsText(app, HexToInt(slot))},
+                      ActsText(app, codecs::HexToInt(slot))},
                      used});
   }
   return lines;
@@ -205,4 +206,4 @@ QWidget* BuildExceptionPage(Bindings& bindings) {
   return BesideOverview(bindings, ExceptionOverview(bindings), page.Finish({}));
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

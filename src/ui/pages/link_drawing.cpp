@@ -7,7 +7,7 @@
 #include "core/application.h"
 #include "ui/kit/theme.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr QSize kSize(440, 116);
@@ -30,14 +30,14 @@ bool IsLive(LinkPicture picture) {
 
 }  // namespace
 
-LinkPicture LinkPictureOf(const Application& app) {
+LinkPicture LinkPictureOf(const core::Application& app) {
   const auto& form = app.frmMain;
   if (app.ScanActive) return LinkPicture::kScanning;
   if (!form.MSComm1.PortOpen) return LinkPicture::kClosed;
   if (form.General_timer.enabled) return LinkPicture::kAsked;
   const bool access = form.Picture1[3].visible;
-  if (access && app.LinkMode == kLinkUpload) return LinkPicture::kUploading;
-  if (access && app.LinkMode == kLinkDownload) return LinkPicture::kDownloading;
+  if (access && app.LinkMode == core::kLinkUpload) return LinkPicture::kUploading;
+  if (access && app.LinkMode == core::kLinkDownload) return LinkPicture::kDownloading;
   return access ? LinkPicture::kAccess : LinkPicture::kOpen;
 }
 
@@ -61,7 +61,7 @@ QString WordOf(LinkPicture picture) {
   return {};
 }
 
-LinkDrawing::LinkDrawing(const Application& app, QLabel& access) : app_(app), access_(access) {
+LinkDrawing::LinkDrawing(const core::Application& app, QLabel& access) : app_(app), access_(access) {
   setObjectName(QStringLiteral("LinkDrawing"));
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   access_.setParent(this);
@@ -214,4 +214,4 @@ void LinkDrawing::DrawWords(QPainter& painter) const {
   put(under, WordOf(shown_.picture));
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

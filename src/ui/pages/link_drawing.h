@@ -5,19 +5,21 @@
 
 class QLabel;
 
-namespace ovl {
-
+namespace ovl::core {
 struct Application;
+}
+
+namespace ovl::ui {
 
 enum class LinkPicture { kClosed, kOpen, kAsked, kAccess, kUploading, kDownloading, kScanning };
 
-LinkPicture LinkPictureOf(const Application& app);
+LinkPicture LinkPictureOf(const core::Application& app);
 QString WordOf(LinkPicture picture);
 
 class LinkDrawing : public QWidget {
  public:
   // The label tells whether there is access; it is placed over the line and owned by the drawing.
-  LinkDrawing(const Application& app, QLabel& access);
+  LinkDrawing(const core::Application& app, QLabel& access);
 
   // Takes over what the model shows; repaints only when it changed.
   void Refresh();
@@ -45,9 +47,9 @@ class LinkDrawing : public QWidget {
   void DrawArrows(QPainter& painter, bool to_unit, bool filled) const;
   void DrawWords(QPainter& painter) const;
 
-  const Application& app_;
+  const core::Application& app_;
   QLabel& access_;
   Shown shown_;
 };
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -11,7 +11,7 @@
 
 #include "ui/kit/theme.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr int kLineHeight = 19;
@@ -156,7 +156,7 @@ void OverviewList::focusOutEvent(QFocusEvent* event) {
   if (!stays && marked_ >= 0) MoveTo(marked_);
 }
 
-QWidget* BuildOverview(Bindings& bindings, List& list, Overview overview) {
+QWidget* BuildOverview(Bindings& bindings, controls::List& list, Overview overview) {
   auto* side = new QWidget;
   auto* down = new QVBoxLayout(side);
   down->setContentsMargins(kMargin, kMargin, 0, kMargin);
@@ -175,14 +175,14 @@ QWidget* BuildOverview(Bindings& bindings, List& list, Overview overview) {
   down->addWidget(table, 1);
   down->addLayout(below);
 
-  auto marked = std::make_shared<Shadow<int>>();
+  auto marked = std::make_shared<ChangeDetector<int>>();
   table->picked = [&bindings, &list, marked](int line) {
     marked->Forget();
-    bindings.Act(PickEvent{&list, line});
+    bindings.Act(core::PickEvent{&list, line});
   };
   bindings.Follow([table, use, legend, &list, marked, lines = std::move(overview.lines),
-                   words = std::move(overview.legend), shown = Shadow<std::vector<OverviewLine>>(),
-                   told = Shadow<QString>()]() mutable {
+                   words = std::move(overview.legend), shown = ChangeDetector<std::vector<OverviewLine>>(),
+                   told = ChangeDetector<QString>()]() mutable {
     const auto now = lines();
     if (shown.Update(now)) {
       table->Show(now);
@@ -196,4 +196,4 @@ QWidget* BuildOverview(Bindings& bindings, List& list, Overview overview) {
   return side;
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -9,7 +9,7 @@
 
 #include "ui/kit/bindings.h"
 
-namespace ovl {
+namespace ovl::ui {
 
 // One line of the table. What is not in use is shown muted.
 struct OverviewLine {
@@ -59,6 +59,6 @@ struct Overview {
   std::function<std::vector<OverviewLine>()> lines;
   std::function<QString()> legend;
 };
-QWidget* BuildOverview(Bindings& bindings, List& list, Overview overview);
+QWidget* BuildOverview(Bindings& bindings, controls::List& list, Overview overview);
 
-}  // namespace ovl
+}  // namespace ovl::ui

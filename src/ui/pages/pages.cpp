@@ -6,7 +6,7 @@
 #include "ui/pages/pages.h"
 #include "ui/pages/text_rows.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 const QString kCarriedThrough =
@@ -64,4 +64,4 @@ const std::array<PageBuilder, 7> kPages = {BuildRegisterPage, TextSetupPage,    
                                            CommunicationPage, BuildExceptionPage, TimeLanguagePage,
                                            BuildRemotePage};
 
-}  // namespace ovl
+}  // namespace ovl::ui

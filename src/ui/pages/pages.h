@@ -9,7 +9,7 @@
 
 class QWidget;
 
-namespace ovl {
+namespace ovl::ui {
 
 using PageBuilder = QWidget* (*)(Bindings& bindings);
 
@@ -24,10 +24,10 @@ QWidget* BuildAlarmPage(Bindings& bindings);
 QWidget* BuildExceptionPage(Bindings& bindings);
 
 // The alarms and the exceptions as the image holds them, in the words of the panels' lists.
-std::vector<OverviewLine> AlarmLines(const Application& app);
-std::vector<OverviewLine> ExceptionLines(const Application& app);
+std::vector<OverviewLine> AlarmLines(const core::Application& app);
+std::vector<OverviewLine> ExceptionLines(const core::Application& app);
 
 // The centre of the program: the link to the unit and what is done over it.
 QWidget* BuildRemotePage(Bindings& bindings);
 
-}  // namespace ovl
+}  // namespace ovl::ui

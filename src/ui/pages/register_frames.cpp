@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr auto kBeside = Place::kBeside;
@@ -116,4 +116,4 @@ std::span<const FrameRow> RowsOfFrame(int frame) {
   return {rows.first, rows.second};
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

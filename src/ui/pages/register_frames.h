@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-namespace ovl {
+namespace ovl::ui {
 
 enum class Place {
   kBelow,   // begins a line
@@ -23,4 +23,4 @@ struct FrameRow {
 // The rows of one frame, in reading order; none for a number that has no frame.
 std::span<const FrameRow> RowsOfFrame(int frame);
 
-}  // namespace ovl
+}  // namespace ovl::ui

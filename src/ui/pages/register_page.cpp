@@ -15,7 +15,7 @@
 #include "ui/kit/widgets.h"
 #include "ui/pages/register_frames.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr int kRegisterListWidth = 270;
@@ -40,7 +40,7 @@ QWidget* RegisterList(Bindings& bindings) {
   down->addWidget(list, 1);
   down->addWidget(count);
   side->setFixedWidth(kMargin + kRegisterListWidth);
-  bindings.Follow([count, &form, entries = Shadow<std::size_t>()]() mutable {
+  bindings.Follow([count, &form, entries = ChangeDetector<std::size_t>()]() mutable {
     if (!entries.Update(form.ComboReg.items.size())) return false;
     count->setText(
         QStringLiteral("Type to find, Enter picks. %1 registers.").arg(form.ComboReg.items.size()));
@@ -78,15 +78,15 @@ class FrameBuilder {
     }
   }
 
-  const NamedControl& Named(std::string_view name) const {
+  const controls::NamedControl& Named(std::string_view name) const {
     return bindings_.Named(bindings_.Model().frmMain.form, name);
   }
 
   void AddLine(std::span<const FrameRow> line) {
     const auto& first = line.front();
     const auto& control = Named(first.control).control;
-    if (std::holds_alternative<OptionArray*>(control)) return AddOptions(line);
-    if (std::holds_alternative<Label*>(control)) return AddWarning(first);
+    if (std::holds_alternative<controls::OptionArray*>(control)) return AddOptions(line);
+    if (std::holds_alternative<controls::Label*>(control)) return AddWarning(first);
     if (!first.inner.empty()) column_.Within(first.inner);
     std::vector<Field> fields;
     for (const auto& row : line) fields.emplace_back(std::string(row.control));
@@ -95,8 +95,8 @@ class FrameBuilder {
     } else {
       column_.Row(LabelOf(first), fields);
     }
-    if (std::holds_alternative<Button*>(control)) {
-      bindings_.WidgetOf(FaceOf(control))->setMinimumWidth(kButtonWidth);
+    if (std::holds_alternative<controls::Button*>(control)) {
+      bindings_.WidgetOf(controls::StateOf(control))->setMinimumWidth(kButtonWidth);
     }
   }
 
@@ -132,12 +132,12 @@ class FrameBuilder {
     across->addWidget(sign);
     across->addWidget(words);
     across->addStretch(1);
-    column_.Wide(holder, [&face = FaceOf(named.control)] { return face.visible; });
+    column_.Wide(holder, [&face = controls::StateOf(named.control)] { return face.visible; });
   }
 
   Bindings& bindings_;
   PageColumn column_;
-  std::array<bool, std::tuple_size_v<decltype(MainForm::frmAddress)>> built_{};
+  std::array<bool, std::tuple_size_v<decltype(controls::MainForm::frmAddress)>> built_{};
 };
 
 // The options of the selected register, or the calm line of one that has none.
@@ -154,9 +154,9 @@ QWidget* RegisterOptionsPage(Bindings& bindings) {
   builder->emplace(bindings, column);
   const auto without_options = [&form] {
     return std::none_of(form.frmAddress.begin(), form.frmAddress.end(),
-                        [](const Frame& frame) { return frame.visible; });
+                        [](const controls::Frame& frame) { return frame.visible; });
   };
-  column.OwnSection([&form] { return FromWindows1252(form.ComboReg.Text()); },
+  column.OwnSection([&form] { return host::FromWindows1252(form.ComboReg.Text()); },
                     [&form, without_options] { return form.ComboReg.position >= 0 && without_options(); });
   column.Note(QStringLiteral("This register has no options of its own."));
   return page.Finish(QStringLiteral("No register is selected."));
@@ -174,4 +174,4 @@ QWidget* BuildRegisterPage(Bindings& bindings) {
   return page;
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -12,7 +12,7 @@
 #include "ui/pages/pages.h"
 #include "ui/pages/transfer_progress.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr int kActionHeight = 40;
@@ -28,7 +28,7 @@ QWidget* Plain(Bindings& bindings, std::string_view name) {
   return bindings.Make(bindings.Named(bindings.Model().frmMain.form, name));
 }
 
-QPushButton* ActionButton(Bindings& bindings, LinkAction action) {
+QPushButton* ActionButton(Bindings& bindings, controls::LinkAction action) {
   auto& form = bindings.Model().frmMain;
   auto* button = static_cast<QPushButton*>(Plain(bindings, "CmdUpDow(" + std::to_string(action) + ")"));
   button->setIcon(GlyphIcon(kGlyphs.at(static_cast<std::size_t>(action))));
@@ -72,8 +72,9 @@ QWidget* Actions(Bindings& bindings) {
   auto* down = new QVBoxLayout(holder);
   down->setContentsMargins(0, 0, 0, 0);
   down->setSpacing(kFieldGap);
-  down->addWidget(ActionButton(bindings, kRemote));
-  const std::array<std::array<LinkAction, 2>, 2> pairs{{{kUpload, kDownload}, {kLoadHistory, kMasterReset}}};
+  down->addWidget(ActionButton(bindings, controls::kRemote));
+  const std::array<std::array<controls::LinkAction, 2>, 2> pairs{
+      {{controls::kUpload, controls::kDownload}, {controls::kLoadHistory, controls::kMasterReset}}};
   for (const auto& pair : pairs) {
     auto* across = new QHBoxLayout;
     across->setSpacing(kFieldGap);
@@ -99,7 +100,7 @@ QWidget* Progress(Bindings& bindings) {
   auto* bar = bindings.Make(bindings.Named(bindings.Model().frmMain.form, "vbalProgressBar1"),
                             QStringLiteral("Progress of the transfer"));
   down->addWidget(bar);
-  bindings.Follow([passed, &app = bindings.Model(), shown = Shadow<QString>()]() mutable {
+  bindings.Follow([passed, &app = bindings.Model(), shown = ChangeDetector<QString>()]() mutable {
     const auto text = TransferProgressText(app);
     if (shown.Update(text)) passed->setText(text);
     return false;
@@ -111,7 +112,7 @@ QWidget* SetTime(Bindings& bindings) {
   auto* holder = new QWidget;
   auto* across = new QHBoxLayout(holder);
   across->setContentsMargins(0, 0, 0, 0);
-  auto* button = ActionButton(bindings, kSetTime);
+  auto* button = ActionButton(bindings, controls::kSetTime);
   button->setFixedWidth(kSetTimeWidth);
   across->addWidget(button);
   across->addStretch(1);
@@ -150,4 +151,4 @@ QWidget* BuildRemotePage(Bindings& bindings) {
   return page.Finish({});
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -7,7 +7,7 @@
 #include <QScrollBar>
 #include <algorithm>
 
-namespace ovl {
+namespace ovl::ui {
 
 void AddTextRow(Bindings& bindings, PageColumn& column, const char* name, const char* button,
                 ButtonPlace place) {
@@ -18,7 +18,7 @@ void AddTextRow(Bindings& bindings, PageColumn& column, const char* name, const 
   }
   const auto& form = bindings.Model().frmMain.form;
   const auto widget = [&](const char* control) {
-    return bindings.WidgetOf(FaceOf(bindings.Named(form, control).control));
+    return bindings.WidgetOf(controls::StateOf(bindings.Named(form, control).control));
   };
   widget(button)->setMinimumWidth(kSetButtonWidth);
   auto* line = static_cast<QLineEdit*>(widget(name));
@@ -30,7 +30,7 @@ void AddTitleRows(Bindings& bindings, PageColumn& column) {
   AddTextRow(bindings, column, "Title_Text", "cmdTitle", ButtonPlace::kBeside);
 }
 
-int CaptionWidth(std::initializer_list<const Face*> faces) {
+int CaptionWidth(std::initializer_list<const controls::ControlState*> faces) {
   int widest = 0;
   for (const auto* face : faces)
     widest = std::max(widest, QLabel(CaptionText(face->caption)).sizeHint().width());
@@ -55,4 +55,4 @@ QWidget* BesideOverview(Bindings& bindings, QWidget* overview, QScrollArea* edit
   return Scrolled(page);
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

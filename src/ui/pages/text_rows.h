@@ -4,7 +4,7 @@
 
 #include "ui/kit/layout.h"
 
-namespace ovl {
+namespace ovl::ui {
 
 // A stored text and the button for it take so much of a row together.
 inline constexpr int kStoredTextWidth = 220;
@@ -19,9 +19,9 @@ void AddTextRow(Bindings& bindings, PageColumn& column, const char* name, const 
 void AddTitleRows(Bindings& bindings, PageColumn& column);
 
 // What the widest of the captions takes as a label, whichever of its letters is underlined.
-int CaptionWidth(std::initializer_list<const Face*> faces);
+int CaptionWidth(std::initializer_list<const controls::ControlState*> faces);
 
 // An overview at the left and the editor, which scrolls up and down by itself, at the right.
 QWidget* BesideOverview(Bindings& bindings, QWidget* overview, QScrollArea* editor);
 
-}  // namespace ovl
+}  // namespace ovl::ui

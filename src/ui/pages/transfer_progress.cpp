@@ -6,7 +6,7 @@
 #include "core/application.h"
 #include "image/record_stream.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr int kCharactersPerStep = 51;
@@ -19,27 +19,27 @@ struct Progress {
 };
 
 // "$", four digits, two digits a byte, CR LF; the last record is shorter by an amount that the unit knows.
-std::size_t ExpectedUpload(const FirmwareId& firmware) {
-  const auto region = ReadRegion(firmware);
+std::size_t ExpectedUpload(const firmware::FirmwareId& firmware) {
+  const auto region = image::ReadRegion(firmware);
   const auto records = static_cast<std::size_t>(std::max(0, region.last - region.first)) / kRecordBytes + 1;
   return records * (1 + 4 + 2 * kRecordBytes + 2);
 }
 
-Progress UploadProgress(const Application& app) {
+Progress UploadProgress(const core::Application& app) {
   if (app.FrameState == 0) return {};
   const auto done = app.StreamBuffer.size();
   return {done, std::max(ExpectedUpload(app.firmware), done) - done};
 }
 
-Progress DownloadProgress(const Application& app) {
+Progress DownloadProgress(const core::Application& app) {
   if (!app.DownloadActive) return {};
   const auto counted = app.ProgressValue * kCharactersPerStep + app.ProgressChars + 1;
   return {static_cast<std::size_t>(counted), app.PendingOutput.size()};
 }
 
 // Milliseconds that the line needs for so many characters.
-std::size_t LineTime(const Application& app, std::size_t characters) {
-  const auto baud = static_cast<std::size_t>(std::max(1, LeadingNumber(app.PortBaud)));
+std::size_t LineTime(const core::Application& app, std::size_t characters) {
+  const auto baud = static_cast<std::size_t>(std::max(1, codecs::LeadingNumber(app.PortBaud)));
   const std::size_t data_bits = app.PortDataBits == "7" ? 7 : 8;
   const std::size_t parity_bits = app.PortParity == "N" ? 0 : 1;
   return characters * (1 + data_bits + parity_bits + 1) * kSecond / baud;
@@ -54,12 +54,12 @@ QString TimeText(std::size_t milliseconds) {
 
 }  // namespace
 
-QString TransferProgressText(const Application& app) {
+QString TransferProgressText(const core::Application& app) {
   if (!app.frmMain.vbalProgressBar1.visible) return {};
-  const auto progress = app.LinkMode == kLinkDownload ? DownloadProgress(app) : UploadProgress(app);
+  const auto progress = app.LinkMode == core::kLinkDownload ? DownloadProgress(app) : UploadProgress(app);
   if (progress.done == 0) return QStringLiteral("waiting for the unit");
   const auto done = QLocale(QLocale::English).toString(static_cast<qulonglong>(progress.done));
   return QStringLiteral("%1 characters, %2").arg(done, TimeText(LineTime(app, progress.left)));
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -2,7 +2,7 @@
 
 #include "ui/tips/tip_texts.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr std::array kTips{
@@ -173,4 +173,4 @@ std::span<const Tip> RegisterTips() {
   return kTips;
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

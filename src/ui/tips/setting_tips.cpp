@@ -2,7 +2,7 @@
 
 #include "ui/tips/tip_texts.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr std::array kTips{
@@ -62,4 +62,4 @@ std::span<const Tip> SettingTips() {
   return kTips;
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -2,7 +2,7 @@
 
 #include "ui/tips/tip_texts.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr std::array kTips{
@@ -84,4 +84,4 @@ std::span<const Tip> TextTips() {
   return kTips;
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

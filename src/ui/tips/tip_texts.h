@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-namespace ovl {
+namespace ovl::ui {
 
 struct Tip {
   std::string_view form, control;
@@ -15,4 +15,4 @@ std::span<const Tip> RegisterTips();
 std::span<const Tip> SettingTips();
 std::span<const Tip> TextTips();
 
-}  // namespace ovl
+}  // namespace ovl::ui

@@ -5,7 +5,7 @@
 
 #include "ui/tips/tip_texts.h"
 
-namespace ovl {
+namespace ovl::ui {
 namespace {
 
 constexpr std::array kTips{
@@ -67,4 +67,4 @@ QString ToolTipOf(std::string_view form, std::string_view control) {
   return tip == nullptr ? QString() : QString::fromLatin1(tip->text);
 }
 
-}  // namespace ovl
+}  // namespace ovl::ui

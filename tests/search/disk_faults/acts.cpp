@@ -13,7 +13,7 @@
 namespace ovl::testing {
 namespace {
 
-const FirmwareId kFirmware{"V1400", "R12"};
+const firmware::FirmwareId kFirmware{"V1400", "R12"};
 constexpr const char* kOld = "what was there before\r\n";
 
 std::shared_ptr<Harness> Started() {
@@ -70,12 +70,12 @@ Act Upload() {
 // A failed write is silent; the box comes either way, and the program ends.
 Act Settings() {
   const auto run = [program = Started()](const std::string& folder, const std::string&) {
-    const SettingsStore store(QFile::decodeName(folder.c_str()));
+    const host::SettingsStore store(QFile::decodeName(folder.c_str()));
     bool done = true;
     program->app.platform.write_setting = [&](auto key, auto value, auto text) {
       return done = store.Write(key, value, text) && done;
     };
-    const bool ended = program->Click("V1300R14mnu") == Outcome::kEnded;
+    const bool ended = program->Click("V1300R14mnu") == core::Outcome::kEnded;
     const auto text = program->TakeBox().text;
     return Told{done, text, ended && text.find("V1300R14") != std::string::npos};
   };

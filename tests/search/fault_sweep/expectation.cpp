@@ -12,7 +12,7 @@ constexpr std::size_t kCommand = 4;
 constexpr std::size_t kRecord = 69;
 
 // The heads of the first and the last record.
-std::pair<std::string_view, std::string_view> MarkersOf(const FirmwareId& firmware) {
+std::pair<std::string_view, std::string_view> MarkersOf(const firmware::FirmwareId& firmware) {
   const int release = firmware.Number();
   if (firmware.version == "V1400") return {"$2000", release < 6 ? "$2840" : "$2860"};
   const bool old = release < (firmware.version == "V1300" ? 26 : firmware.version == "V1324" ? 25 : 0);
@@ -30,7 +30,7 @@ std::string Heard(const std::string& text, std::size_t at, Fault fault) {
   return fault >= kDropped && fault <= kAck ? heard + text.substr(at + 1) : heard;
 }
 
-Expectation Collect(const FirmwareId& firmware, const std::string& heard) {
+Expectation Collect(const firmware::FirmwareId& firmware, const std::string& heard) {
   Expectation expected{.ending = kTimeOut};
   for (const char character : heard) {
     if (character == '?') {
@@ -84,7 +84,7 @@ Expectation InDownload(const Conversation& talk, std::size_t at, Fault fault) {
 
 }  // namespace
 
-Ending Judge(const FirmwareId& firmware, std::string_view text) {
+Ending Judge(const firmware::FirmwareId& firmware, std::string_view text) {
   std::string joined;
   for (std::size_t at = 0; at < text.size(); ++at) {
     if (text[at] != '\r') joined += text[at];

@@ -47,7 +47,7 @@ struct Expectation {
 };
 
 struct Conversation {
-  FirmwareId firmware;
+  firmware::FirmwareId firmware;
   bool upload = false;
   std::string stream;
 
@@ -66,7 +66,7 @@ constexpr unsigned GarbleAt(std::size_t at) {
 }
 
 // How a stream is taken: completely, not at all, or as a broken file.
-Ending Judge(const FirmwareId& firmware, std::string_view text);
+Ending Judge(const firmware::FirmwareId& firmware, std::string_view text);
 
 Expectation Expect(const Conversation& talk, std::size_t at, Fault fault);
 

@@ -11,7 +11,7 @@
 namespace ovl::testing {
 
 // The firmware that differ in how a stream is marked, cut and taken.
-inline const std::vector<FirmwareId> kUnlike = {
+inline const std::vector<firmware::FirmwareId> kUnlike = {
     {"V1400", "R12"}, {"V1400", "R4"}, {"V1300", "R14"}, {"V1334", "R1"}};
 
 // The number at a place of the command line.

@@ -24,7 +24,7 @@ constexpr int kLongSilence = 8000, kWholeScan = 12000;
 // A program at its site, beside one to which the texts that the first took in are sent without a fault.
 class Campaign {
  public:
-  Campaign(const FirmwareId& firmware, bool upload) : talk_{firmware, upload, {}} { Restart(); }
+  Campaign(const firmware::FirmwareId& firmware, bool upload) : talk_{firmware, upload, {}} { Restart(); }
 
   std::size_t Length() const { return talk_.Length(); }
 
@@ -69,7 +69,7 @@ class Campaign {
   }
   std::string UploadFile() const {
     const auto path = site_->folder.File(talk_.firmware.version + "/upload.bin");
-    return std::filesystem::exists(path) ? ReadWhole(path) : std::string();
+    return std::filesystem::exists(path) ? files::ReadWhole(path) : std::string();
   }
 
   void Restart() {
@@ -107,7 +107,7 @@ class Campaign {
     if (fault == kLost) site_->Lose();
     site_->Unit(PutIn(fault));
     if (fault >= kHangUp) {
-      const bool done = site_->Click("cmdDisConnect") == Outcome::kDone;
+      const bool done = site_->Click("cmdDisConnect") == core::Outcome::kDone;
       Want(done == (expected_.ending == kHungUp), "Disconnect");
     }
     site_->UntilQuiet();
@@ -136,7 +136,7 @@ class Campaign {
     site_->boxes.clear();
   }
 
-  void CheckFiles(const ConfigImage& before, const std::string& file_before) {
+  void CheckFiles(const image::ConfigImage& before, const std::string& file_before) {
     ExpectFile(expected_.stored.empty() ? file_before : expected_.stored + "\r\n", "");
     if (talk_.upload && expected_.ending == kDone) {
       ExpectTwin(expected_.stored);
@@ -147,7 +147,7 @@ class Campaign {
     Want((site_->app.FrameState == 1) == !expected_.left.empty(), "FrameState");
   }
   void ExpectTwin(const std::string& text) {
-    if (text == talk_.stream) Want(SectionsToStream(site_->app) == text, "not the stream's image");
+    if (text == talk_.stream) Want(core::SectionsToStream(site_->app) == text, "not the stream's image");
     twin_->configuration = text;
     twin_->Hold();
     Begin(*twin_);
@@ -186,7 +186,7 @@ class Campaign {
     }
     if (app.frmMain.MSComm1.PortOpen) {
       Want(fault != kScan, "open after a scan");
-      Want(site_->Click("cmdDisConnect") == Outcome::kDone, "Disconnect");
+      Want(site_->Click("cmdDisConnect") == core::Outcome::kDone, "Disconnect");
       ExpectIn(State::kClosed);
     }
     Want(app.frmMain.form.enabled, "frmMain is held back");
@@ -240,7 +240,7 @@ struct Totals {
   std::size_t points = 0, wrong = 0;
 };
 
-void Run(const FirmwareId& firmware, bool upload, std::size_t every, Totals& totals) {
+void Run(const firmware::FirmwareId& firmware, bool upload, std::size_t every, Totals& totals) {
   auto campaign = std::make_unique<Campaign>(firmware, upload);
   constexpr std::size_t kShown = 20, kFaults = kFaultNames.size();
   for (auto point = totals.points % every; point < campaign->Length() * kFaults; point += every) {

@@ -23,20 +23,20 @@ std::string Shown(std::string_view bytes) {
 struct Viewer {
   Viewer() : path(folder.File("History.txt")) {
     app.platform.program_folder = folder.Path().string();
-    app.platform.show_message = [this](const ovl::MessageBox&) { ++boxes; };
-    app.platform.ask_file = [this](const ovl::FileDialog&) { return ovl::FileAnswer{path}; };
+    app.platform.show_message = [this](const ovl::core::MessageBox&) { ++boxes; };
+    app.platform.ask_file = [this](const ovl::core::FileDialog&) { return ovl::core::FileAnswer{path}; };
   }
 
   void Open() {
     boxes = 0;
-    ovl::UnloadForm(app, app.frmView.form);
+    ovl::core::UnloadForm(app, app.frmView.form);
     app.frmView.Text.text.clear();
-    ovl::OpenHistory_menu_Click(app, 0);
+    ovl::files::OpenHistory_menu_Click(app, 0);
   }
 
   ovl::testing::TemporaryFolder folder;
   std::string path;
-  ovl::Application app;
+  ovl::core::Application app;
   int boxes = 0;
 };
 
@@ -47,7 +47,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
   const auto& text = viewer.app.frmView.Text.text;
 
-  ovl::WriteWhole(viewer.path, bytes);
+  ovl::files::WriteWhole(viewer.path, bytes);
   viewer.Open();
   const bool tagged = bytes.substr(0, bytes.find('\r')) == "OVLH";
   Require(viewer.boxes == (tagged ? 0 : 1), "only a tagged file opens");
@@ -55,7 +55,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (!tagged) return 0;
 
   viewer.app.HistoryText = text;
-  ovl::SaveHistory(viewer.app);
+  ovl::files::SaveHistory(viewer.app);
   const auto before = text;
   viewer.Open();
   Require(text == before + "\r\n", "a saved history opens as it was");

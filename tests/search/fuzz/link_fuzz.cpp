@@ -17,7 +17,7 @@ using ovl::fuzz::Require;
 // All that an event can change, to begin every run from there: making a program anew takes a hundred times as
 // long. Controls refer to one another by address, so a state goes back only to the application that it was
 // taken from.
-auto StateOf(ovl::Application& app) {
+auto controls::StateOf(ovl::core::Application& app) {
   return std::tie(
       app.frmMain, app.frmSettSR, app.frmScanBProgress, app.frmOK_buttom, app.frmMicros, app.FrmSubMenu,
       app.frmView, app.frmSetEXCPSTR, app.frmSetRange, app.firmware, app.capabilities, app.FirmwareMark,
@@ -47,8 +47,8 @@ constexpr LinkEvent kAnyCharacter = *std::ranges::find(kLinkEvents, kCharacter, 
 
 class Fuzzed : Pair {
  public:
-  explicit Fuzzed(const ovl::FirmwareId& firmware) : Pair(firmware) {
-    start_ = ValuesOf(StateOf(program_.app));
+  explicit Fuzzed(const ovl::firmware::FirmwareId& firmware) : Pair(firmware) {
+    start_ = ValuesOf(controls::StateOf(program_.app));
     start_of_table_ = link_;
   }
 
@@ -69,7 +69,7 @@ class Fuzzed : Pair {
  private:
   void Reset() {
     program_.app.platform.serial.close();
-    StateOf(program_.app) = start_;
+    controls::StateOf(program_.app) = start_;
     link_ = start_of_table_;
     uploaded_ = false;
     program_.dialogs.clear();
@@ -79,7 +79,7 @@ class Fuzzed : Pair {
     program_.line_error.reset();
   }
 
-  decltype(ValuesOf(StateOf(std::declval<ovl::Application&>()))) start_;
+  decltype(ValuesOf(controls::StateOf(std::declval<ovl::core::Application&>()))) start_;
   Link start_of_table_;
 };
 

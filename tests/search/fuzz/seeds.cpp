@@ -17,9 +17,9 @@ using namespace std::string_literals;
 
 using Inputs = std::vector<std::string>;
 
-std::vector<ovl::FirmwareId> AllFirmware() {
-  std::vector<ovl::FirmwareId> all;
-  for (const auto& entry : ovl::FirmwareTable()) {
+std::vector<ovl::firmware::FirmwareId> AllFirmware() {
+  std::vector<ovl::firmware::FirmwareId> all;
+  for (const auto& entry : ovl::firmware::FirmwareTable()) {
     if (entry.in_menu) all.push_back({std::string(entry.version), std::string(entry.release)});
   }
   return all;
@@ -89,9 +89,9 @@ std::string Dictionary() {
   std::string words;
   const auto add = [&](std::string_view word) { words.append("\"").append(word).append("\"\n"); };
   for (const auto& statement : ovl::script::Statements()) add(statement.word);
-  const ovl::Application app;
+  const ovl::core::Application app;
   for (const auto& named : app.registry.All()) add(named.name);
-  for (const auto& row : ovl::FieldTable()) add(row.name);
+  for (const auto& row : ovl::image::FieldTable()) add(row.name);
   return words;
 }
 
@@ -129,8 +129,8 @@ int main(int argc, char** argv) {
   for (const auto& [target, inputs] : all) {
     fs::create_directories(folder / target);
     for (std::size_t at = 0; at < inputs.size(); ++at)
-      ovl::WriteWhole((folder / target / std::to_string(at)).string(), inputs[at]);
+      ovl::files::WriteWhole((folder / target / std::to_string(at)).string(), inputs[at]);
   }
-  ovl::WriteWhole((folder / "script.dict").string(), Dictionary());
+  ovl::files::WriteWhole((folder / "script.dict").string(), Dictionary());
   return 0;
 }

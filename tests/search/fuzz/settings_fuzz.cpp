@@ -22,48 +22,48 @@ constexpr unsigned kFile = 0xFF;
 constexpr unsigned kStart = 0xFE;
 constexpr unsigned kRarely = 64;
 
-std::string Read(const ovl::Application& app, std::string_view value) {
-  return ovl::ReadSetting(app, ovl::SettingRoot::kLocalMachine, ovl::kSettingsKey, value);
+std::string Read(const ovl::core::Application& app, std::string_view value) {
+  return ovl::core::ReadSetting(app, ovl::core::SettingRoot::kLocalMachine, ovl::core::kSettingsKey, value);
 }
 
-void Serve(ovl::Platform& platform, const ovl::FirmwareId& values) {
-  platform.read_setting = [&values](auto, auto value) -> std::optional<ovl::SettingValue> {
-    return value == ovl::kVersionValue ? values.version : values.release;
+void Serve(ovl::core::Platform& platform, const ovl::firmware::FirmwareId& values) {
+  platform.read_setting = [&values](auto, auto value) -> std::optional<ovl::core::SettingValue> {
+    return value == ovl::core::kVersionValue ? values.version : values.release;
   };
 }
 
-void CheckCatalogue(ovl::Application& app, const ovl::FirmwareId& values) {
+void CheckCatalogue(ovl::core::Application& app, const ovl::firmware::FirmwareId& values) {
   Serve(app.platform, values);
-  app.firmware = {Read(app, ovl::kVersionValue), Read(app, ovl::kReleaseValue)};
+  app.firmware = {Read(app, ovl::core::kVersionValue), Read(app, ovl::core::kReleaseValue)};
   Require(app.firmware.version.size() < 255 && app.firmware.release.size() < 255, "a long value is missing");
   Require(app.firmware.version.empty() || app.firmware.version == values.version, "a value is not changed");
-  ovl::PrepareCapabilities(app);
-  const auto region = ovl::ReadRegion(app.firmware);
+  ovl::core::PrepareCapabilities(app);
+  const auto region = ovl::image::ReadRegion(app.firmware);
   Require(region.first < region.last, "a region has records");
-  for (const auto& entry : ovl::BuildRegisterEntries(app.firmware.version, app.firmware.release)) {
+  for (const auto& entry : ovl::firmware::BuildRegisterEntries(app.firmware.version, app.firmware.release)) {
     Require(!entry.name.empty(), "a register has a name");
   }
 }
 
-void CheckStart(const std::string& folder, const ovl::FirmwareId& values) {
-  ovl::Application app;
+void CheckStart(const std::string& folder, const ovl::firmware::FirmwareId& values) {
+  ovl::core::Application app;
   int boxes = 0;
   Serve(app.platform, values);
   app.platform.program_folder = folder;
-  app.platform.show_message = [&boxes](const ovl::MessageBox&) { ++boxes; };
-  app.platform.clock = [] { return ovl::ClockTime(); };
-  const bool ended = ovl::StartProgram(app) == ovl::Outcome::kEnded;
+  app.platform.show_message = [&boxes](const ovl::core::MessageBox&) { ++boxes; };
+  app.platform.clock = [] { return ovl::core::ClockTime(); };
+  const bool ended = ovl::start::StartProgram(app) == ovl::core::Outcome::kEnded;
   Require(ended == app.ended && ended == !app.frmMain.form.visible, "the program starts or ends");
   Require(!ended || boxes > 0, "a program that does not start says why");
 }
 
 void CheckFile(const ovl::testing::TemporaryFolder& folder, std::string_view bytes) {
   std::filesystem::create_directories(folder.Path() / "ORB");
-  ovl::WriteWhole(folder.File("ORB/OVL Software.conf"), bytes);
-  const ovl::SettingsStore store(QFile::decodeName(folder.Path().c_str()));
-  store.Read(ovl::kSettingsKey, ovl::kVersionValue);
-  if (!store.Write(ovl::kSettingsKey, ovl::kVersionValue, "V1400")) return;
-  Require(store.Read(ovl::kSettingsKey, ovl::kVersionValue) == ovl::SettingValue("V1400"),
+  ovl::files::WriteWhole(folder.File("ORB/OVL Software.conf"), bytes);
+  const ovl::host::SettingsStore store(QFile::decodeName(folder.Path().c_str()));
+  store.Read(ovl::core::kSettingsKey, ovl::core::kVersionValue);
+  if (!store.Write(ovl::core::kSettingsKey, ovl::core::kVersionValue, "V1400")) return;
+  Require(store.Read(ovl::core::kSettingsKey, ovl::core::kVersionValue) == ovl::core::SettingValue("V1400"),
           "what was written is read");
 }
 
@@ -71,7 +71,7 @@ void CheckFile(const ovl::testing::TemporaryFolder& folder, std::string_view byt
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const ovl::testing::Harness site({"V1400", "R12"});
-  static ovl::Application app;
+  static ovl::core::Application app;
   ovl::fuzz::Bytes input(data, size);
   const unsigned first = input.Next();
   const unsigned choice = OneIn(kRarely, input.Rest()) ? first : 0;
@@ -80,7 +80,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     return 0;
   }
   const std::string version(input.NextText());
-  const ovl::FirmwareId values{version, std::string(input.Rest())};
+  const ovl::firmware::FirmwareId values{version, std::string(input.Rest())};
   choice == kStart ? CheckStart(site.folder.Path().string(), values) : CheckCatalogue(app, values);
   return 0;
 }

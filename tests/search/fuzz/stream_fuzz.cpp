@@ -15,7 +15,7 @@ using ovl::fuzz::Require;
 constexpr unsigned kPanelsReady = 1, kChanges = 2;
 
 struct Served {
-  ovl::FirmwareId firmware;
+  ovl::firmware::FirmwareId firmware;
   std::string stream;
 };
 
@@ -31,9 +31,9 @@ std::string Joined(std::string_view stream) {
 
 std::vector<Served> AllServed() {
   std::vector<Served> all;
-  for (const auto& entry : ovl::FirmwareTable()) {
+  for (const auto& entry : ovl::firmware::FirmwareTable()) {
     if (!entry.in_menu) continue;
-    const ovl::FirmwareId firmware{std::string(entry.version), std::string(entry.release)};
+    const ovl::firmware::FirmwareId firmware{std::string(entry.version), std::string(entry.release)};
     all.push_back({firmware, Joined(ovl::testing::RawPatternStream(firmware))});
   }
   return all;
@@ -50,31 +50,31 @@ std::string Changed(std::string text, Bytes input) {
 }
 
 // What a register's default image brings in leaves all other fields alone.
-void CheckKept(const ovl::ConfigImage& before, const ovl::ConfigImage& after) {
-  for (const auto& row : ovl::FieldTable()) {
-    const bool taken = row.is_default || !row.sentinel.empty() || row.id == ovl::FieldId::BLNKRTS_BAK;
-    for (int entry = 1; entry <= ovl::EntryCount(row.id) && !taken; ++entry)
+void CheckKept(const ovl::image::ConfigImage& before, const ovl::image::ConfigImage& after) {
+  for (const auto& row : ovl::image::FieldTable()) {
+    const bool taken = row.is_default || !row.sentinel.empty() || row.id == ovl::image::FieldId::BLNKRTS_BAK;
+    for (int entry = 1; entry <= ovl::image::EntryCount(row.id) && !taken; ++entry)
       Require(before.at(row.id, entry) == after.at(row.id, entry), "a field of no default stays");
   }
 }
 
 // An image that came in complete goes out and comes in again as it was.
-void CheckRoundTrip(ovl::Application& app) {
+void CheckRoundTrip(ovl::core::Application& app) {
   std::string digits;
-  ovl::ParseRecords(app.StreamText, ovl::ReadRegion(app.firmware), digits);
+  ovl::image::ParseRecords(app.StreamText, ovl::image::ReadRegion(app.firmware), digits);
   if (digits.size() != ovl::testing::DigitsOfImage(app.firmware)) return;
-  const auto sent = ovl::SectionsToStream(app);
-  Require(ovl::LoadStream(app, Joined(sent)), "what was composed loads");
-  Require(ovl::SectionsToStream(app) == sent, "what was loaded composes to the same");
+  const auto sent = ovl::core::SectionsToStream(app);
+  Require(ovl::core::LoadStream(app, Joined(sent)), "what was composed loads");
+  Require(ovl::core::SectionsToStream(app) == sent, "what was loaded composes to the same");
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const auto all = AllServed();
-  static const ovl::ConfigImage before;
-  static ovl::Application app;
-  app.platform.show_message = [](const ovl::MessageBox&) {};
+  static const ovl::image::ConfigImage before;
+  static ovl::core::Application app;
+  app.platform.show_message = [](const ovl::core::MessageBox&) {};
 
   Bytes input(data, size);
   const auto& served = all[input.Next() % all.size()];
@@ -84,8 +84,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   app.PanelsReady = (choice & kPanelsReady) != 0;
   if (app.ImageTouched) app.image = before;
   app.ImageTouched = app.ended = false;
-  ovl::PrepareCapabilities(app);
-  ovl::DispatchStart(app, [](ovl::Application& at) { at.ImageTouched = ovl::LoadStream(at, at.StreamText); });
+  ovl::core::PrepareCapabilities(app);
+  ovl::core::DispatchStart(
+      app, [](ovl::core::Application& at) { at.ImageTouched = ovl::core::LoadStream(at, at.StreamText); });
   if (!app.ImageTouched) {
     Require(app.image == before, "a stream that is not taken leaves the image alone");
   } else if (app.PanelsReady) {

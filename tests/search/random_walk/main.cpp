@@ -28,14 +28,14 @@ using Script = std::vector<std::string>;
 constexpr const char* kFiles[] = {"first.bin", "second.bin", "history.txt", "upload.bin"};
 
 // The row of an option frame that a control stands in, if any, by the control's place in the registry.
-std::vector<const FrameRow*> RowsOf(const Application& app) {
-  std::vector<const FrameRow*> rows;
+std::vector<const ui::FrameRow*> RowsOf(const core::Application& app) {
+  std::vector<const ui::FrameRow*> rows;
   const int frames = static_cast<int>(app.frmMain.frmAddress.size());
   for (const auto& named : app.registry.All()) {
     const auto array = named.name.substr(0, named.name.find('('));
     rows.push_back(nullptr);
     for (int frame = 0; frame < frames && named.form == &app.frmMain.form; ++frame) {
-      for (const auto& row : RowsOfFrame(frame)) {
+      for (const auto& row : ui::RowsOfFrame(frame)) {
         if (row.control == named.name || row.control == array) rows.back() = &row;
       }
     }
@@ -43,21 +43,21 @@ std::vector<const FrameRow*> RowsOf(const Application& app) {
   return rows;
 }
 
-bool InSight(const Application& app, const FrameRow* row) {
+bool InSight(const core::Application& app, const ui::FrameRow* row) {
   if (row == nullptr) return true;
   return app.frmMain.frmAddress[static_cast<std::size_t>(row->frame)].visible &&
-         (row->inner.empty() || FaceOf(app.registry.Find(row->inner)->control).visible);
+         (row->inner.empty() || controls::StateOf(app.registry.Find(row->inner)->control).visible);
 }
 
-bool Reachable(const NamedControl& named) {
-  const auto& face = FaceOf(named.control);
-  const auto* element = std::get_if<OptionElement>(&named.control);
+bool Reachable(const controls::NamedControl& named) {
+  const auto& face = controls::StateOf(named.control);
+  const auto* element = std::get_if<controls::OptionElement>(&named.control);
   return named.form->loaded && named.form->visible && named.form->enabled && face.visible && face.enabled &&
          (element == nullptr || element->array->enabled);
 }
 
 template <class... Kinds>
-bool Holds(const ControlRef& control) {
+bool Holds(const controls::ControlRef& control) {
   return (... || std::holds_alternative<Kinds>(control));
 }
 
@@ -66,7 +66,7 @@ class Hand {
  public:
   explicit Hand(unsigned seed) : chance_(seed) {}
 
-  Script Next(const Application& app) {
+  Script Next(const core::Application& app) {
     if (app.ended) return {"start"};
     const auto& form = app.frmMain;
     const int kind = Below(40);
@@ -97,7 +97,7 @@ class Hand {
   }
 
   // All the way from a closed port, or whatever of it can be done.
-  Script Upload(const Application& app) {
+  Script Upload(const core::Application& app) {
     const int code = Below(app.frmMain.ComboReg.items.size() + 2);
     const auto stream = "unit " + script::Quoted(RawPatternStream(app.firmware, Below(256), code));
     Script way = {"click cmdConnect", "click frmSettSR.cmdSET", "click CmdUpDow(4)",
@@ -107,7 +107,7 @@ class Hand {
   }
 
   // With `options` one of the shown option frame, or of a window beside the main one.
-  std::string OnAnyControl(const Application& app, bool options) {
+  std::string OnAnyControl(const core::Application& app, bool options) {
     constexpr int kTries = 500;
     const auto& all = app.registry.All();
     if (rows_.size() != all.size()) rows_ = RowsOf(app);
@@ -123,30 +123,31 @@ class Hand {
     }
     return "tick Timer";
   }
-  static const Form* WindowBeside(const Application& app) {
+  static const controls::Form* WindowBeside(const core::Application& app) {
     for (const auto* form : app.registry.Forms()) {
       if (form != &app.frmMain.form && form->loaded && form->visible) return form;
     }
     return nullptr;
   }
 
-  std::string On(const std::string& name, const ControlRef& control) {
-    if (const auto* list = std::get_if<List*>(&control)) return PickIn(name, (*list)->items.size());
-    if (const auto* array = std::get_if<OptionArray*>(&control))
+  std::string On(const std::string& name, const controls::ControlRef& control) {
+    if (const auto* list = std::get_if<controls::List*>(&control)) return PickIn(name, (*list)->items.size());
+    if (const auto* array = std::get_if<controls::OptionArray*>(&control))
       return PickIn(name, (*array)->elements.size());
-    if (Holds<OptionElement, CheckBox*, Button*>(control)) return "click " + name;
-    if (Holds<Timer*>(control)) return "tick " + name + " " + std::to_string(1 + Below(8));
-    if (Holds<TextBox*>(control))
+    if (Holds<controls::OptionElement, controls::CheckBox*, controls::Button*>(control))
+      return "click " + name;
+    if (Holds<controls::Timer*>(control)) return "tick " + name + " " + std::to_string(1 + Below(8));
+    if (Holds<controls::TextBox*>(control))
       return Below(4) == 0 ? "leave " + name : "type " + name + " " + script::Quoted(Text());
     // Ways out of the program are taken rarely.
-    if (Holds<MenuItem*>(control)) return Below(8) == 0 ? "click " + name : "";
-    if (!Holds<Form*>(control)) return Below(8) == 0 ? "point " + name : "";
+    if (Holds<controls::MenuItem*>(control)) return Below(8) == 0 ? "click " + name : "";
+    if (!Holds<controls::Form*>(control)) return Below(8) == 0 ? "point " + name : "";
     const int kind = Below(16);
     return kind == 0 ? "close " + name : kind < 8 ? "key " + name + " Enter" : "key " + name + " Escape";
   }
 
   std::mt19937 chance_;
-  std::vector<const FrameRow*> rows_;
+  std::vector<const ui::FrameRow*> rows_;
 };
 
 void RemoveFiles() {
@@ -154,7 +155,8 @@ void RemoveFiles() {
 }
 
 // What is wrong after the script, or an image for comparison.
-std::string Replay(const FirmwareId& stored, const Script& script, ConfigImage* image = nullptr) {
+std::string Replay(const firmware::FirmwareId& stored, const Script& script,
+                   image::ConfigImage* image = nullptr) {
   RemoveFiles();
   Watched program(stored);
   for (const auto& line : script) {
@@ -164,7 +166,7 @@ std::string Replay(const FirmwareId& stored, const Script& script, ConfigImage* 
   return {};
 }
 
-void TellShortest(const FirmwareId& stored, const Script& whole, const std::string& wrong) {
+void TellShortest(const firmware::FirmwareId& stored, const Script& whole, const std::string& wrong) {
   const auto script = Shortest(whole, [&](const Script& fewer) {
     const auto found = Replay(stored, fewer);
     return !found.empty() && !found.starts_with("stopped");
@@ -178,20 +180,23 @@ void TellShortest(const FirmwareId& stored, const Script& whole, const std::stri
 
 // Every record is shown once, so that it is in the order in which the panels store it.
 void ShowRecords(Watched& program) {
-  for (int slot = kExceptions - 1; slot >= 0; --slot) program.Do("pick ComboExcp(0) " + std::to_string(slot));
-  for (int alarm = kAlarms - 1; alarm >= 0; --alarm) program.Do("pick ComboALM(0) " + std::to_string(alarm));
+  for (int slot = image::kExceptions - 1; slot >= 0; --slot)
+    program.Do("pick ComboExcp(0) " + std::to_string(slot));
+  for (int alarm = image::kAlarms - 1; alarm >= 0; --alarm)
+    program.Do("pick ComboALM(0) " + std::to_string(alarm));
 }
 
 // Three bytes depend on what was shown before: a slot that matches while scrolling loses three flags, but not
 // behind one that matches too; and the place of a duration follows its value, as an odd dwell of the flag
 // becomes even, only when the list moves.
-std::string Settled(FieldId field, std::string record) {
+std::string Settled(image::FieldId field, std::string record) {
   constexpr int kScrollFlag = 0x40, kScrollRule = 0x23;
   constexpr std::size_t kDurationPlace = 4;
-  if (field == FieldId::EXCPSTRS && (HexToInt(record) & kScrollFlag) != 0)
-    record.replace(0, 2, ByteToHex(HexToInt(record) & ~kScrollRule));
-  if (field == FieldId::FLAGDWLIND) record = ByteToHex(2 * HalfToEven(HexToInt(record)));
-  if (field == FieldId::ALMSTRUCT_BAK) record.erase(kDurationPlace, 2);
+  if (field == image::FieldId::EXCPSTRS && (codecs::HexToInt(record) & kScrollFlag) != 0)
+    record.replace(0, 2, codecs::ByteToHex(codecs::HexToInt(record) & ~kScrollRule));
+  if (field == image::FieldId::FLAGDWLIND)
+    record = codecs::ByteToHex(2 * panels::HalfToEven(codecs::HexToInt(record)));
+  if (field == image::FieldId::ALMSTRUCT_BAK) record.erase(kDurationPlace, 2);
   return record;
 }
 
@@ -208,12 +213,12 @@ std::string OtherwiseElsewhere(Watched& program) {
   other.Do("click OpenMenu");
   ShowRecords(other);
   std::ostringstream wrong;
-  for (const auto& row : FieldTable()) {
+  for (const auto& row : image::FieldTable()) {
     if (MayWrite(OwnerNamed("ComboReg"), row.name)) continue;
-    for (int entry = 1; entry <= EntryCount(row.id); ++entry) {
+    for (int entry = 1; entry <= image::EntryCount(row.id); ++entry) {
       const auto here = Settled(row.id, program.Image().at(row.id, entry));
       const auto there = Settled(row.id, other.Image().at(row.id, entry));
-      if (here != there && (row.layouts & Bit(LayoutOf(program.App().firmware))) != 0)
+      if (here != there && (row.layouts & image::Bit(image::LayoutOf(program.App().firmware))) != 0)
         wrong << "as a file: " << row.name << ' ' << here << ' ' << there << '\n';
     }
   }
@@ -221,7 +226,7 @@ std::string OtherwiseElsewhere(Watched& program) {
 }
 
 // False: it failed.
-bool Walk(const FirmwareId& stored, unsigned seed, long acts, Digest& digest) {
+bool Walk(const firmware::FirmwareId& stored, unsigned seed, long acts, Digest& digest) {
   RemoveFiles();
   Watched program(stored, &digest);
   Hand hand(seed);
@@ -236,7 +241,7 @@ bool Walk(const FirmwareId& stored, unsigned seed, long acts, Digest& digest) {
       return false;
     }
   }
-  ConfigImage again;
+  image::ConfigImage again;
   auto wrong = Replay(stored, script, &again);
   if (wrong.empty() && !(again == program.Image())) wrong = "another image the second time\n";
   if (wrong.empty()) wrong = OtherwiseElsewhere(program);
@@ -248,11 +253,11 @@ int Run(long acts, unsigned seed) {
   constexpr long kActsOfAWalk = 1000;
   const TemporaryFolder folder;
   fs::current_path(folder.Path());
-  std::vector<FirmwareId> all;
-  for (const auto& entry : FirmwareTable()) {
+  std::vector<firmware::FirmwareId> all;
+  for (const auto& entry : firmware::FirmwareTable()) {
     const auto& firmware =
-        all.emplace_back(FirmwareId{std::string(entry.version), std::string(entry.release)});
-    if (IsKnownFamily(firmware.version)) WriteDefaultImages(".", firmware);
+        all.emplace_back(firmware::FirmwareId{std::string(entry.version), std::string(entry.release)});
+    if (firmware::IsKnownFamily(firmware.version)) images::WriteDefaultImages(".", firmware);
   }
   const StopWatch watch;
   long done = 0;

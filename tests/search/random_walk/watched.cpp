@@ -17,7 +17,7 @@ bool IsHex(const std::string& text) {
 }
 
 // The digits of SYSCFG and SYSFIXED, which have a fixed number, written down apart from the field table.
-std::pair<std::size_t, std::size_t> LengthsOf(const FirmwareId& firmware) {
+std::pair<std::size_t, std::size_t> LengthsOf(const firmware::FirmwareId& firmware) {
   if (firmware.version != "V1400") return {96, 192};
   const int release = firmware.Number();
   return {64, release < 7 ? 206 : release == 7 ? 224 : 226};
@@ -28,10 +28,10 @@ bool Loads(const std::string& line) {
   return line.starts_with("start") || line.starts_with("unit") || line == "click OpenMenu";
 }
 
-std::string CheckLists(const Application& app) {
+std::string CheckLists(const core::Application& app) {
   for (const auto& named : app.registry.All()) {
-    const auto* list = std::get_if<List*>(&named.control);
-    const auto* array = std::get_if<OptionArray*>(&named.control);
+    const auto* list = std::get_if<controls::List*>(&named.control);
+    const auto* array = std::get_if<controls::OptionArray*>(&named.control);
     if (list == nullptr && array == nullptr) continue;
     const int at = list != nullptr ? (*list)->position : (*array)->chosen;
     const auto size = list != nullptr ? (*list)->items.size() : (*array)->elements.size();
@@ -41,17 +41,18 @@ std::string CheckLists(const Application& app) {
   return {};
 }
 
-std::string CheckFrames(const Application& app) {
+std::string CheckFrames(const core::Application& app) {
   const auto& frames = app.frmMain.frmAddress;
   const auto count =
-      std::count_if(frames.begin(), frames.end(), [](const Frame& frame) { return frame.visible; });
+      std::count_if(frames.begin(), frames.end(), [](const controls::Frame& frame) { return frame.visible; });
   if (count <= 1 || (count == 2 && frames[18].visible && frames[49].visible)) return {};
   return std::to_string(count) + " option frames\n";
 }
 
 }  // namespace
 
-Watched::Watched(const FirmwareId& stored, Digest* digest) : digest_(digest), session_(printed_, printed_) {
+Watched::Watched(const firmware::FirmwareId& stored, Digest* digest)
+    : digest_(digest), session_(printed_, printed_) {
   session_.SetClock({});
   session_.StoreSetting("Version", stored.version);
   session_.StoreSetting("Release", stored.release);
@@ -88,8 +89,9 @@ std::string Watched::CheckImage(const std::string& line) {
   return wrong;
 }
 
-std::string FullName(const Application& app, const NamedControl& named) {
-  const bool plain = named.form == &app.frmMain.form || std::holds_alternative<Form*>(named.control);
+std::string FullName(const core::Application& app, const controls::NamedControl& named) {
+  const bool plain =
+      named.form == &app.frmMain.form || std::holds_alternative<controls::Form*>(named.control);
   return plain ? named.name : named.form->name + "." + named.name;
 }
 
@@ -99,20 +101,20 @@ std::string Watched::CheckFields(const std::string& control, bool loads) {
   const auto& owner = OwnerNamed(named == nullptr ? control : FullName(App(), *named));
   const std::size_t range = App().firmware.IsV1400() ? 20 : 12;
   std::ostringstream wrong;
-  for (const auto& row : FieldTable()) {
-    const auto entries = EntryCount(row.id);
-    const auto digits = static_cast<std::size_t>(DigitsOf(row, LayoutOf(App().firmware)));
-    const int shown = entries == kExceptions ? form.ComboExcp[0].position + 1
-                      : entries == kAlarms   ? form.ComboALM[0].position + 1
-                                             : 0;
+  for (const auto& row : image::FieldTable()) {
+    const auto entries = image::EntryCount(row.id);
+    const auto digits = static_cast<std::size_t>(image::DigitsOf(row, image::LayoutOf(App().firmware)));
+    const int shown = entries == image::kExceptions ? form.ComboExcp[0].position + 1
+                      : entries == image::kAlarms   ? form.ComboALM[0].position + 1
+                                                    : 0;
     for (int entry = 1; entry <= entries; ++entry) {
       const auto &is = Image().at(row.id, entry), &was = before_.at(row.id, entry);
       if (is == was) continue;
       const bool absent = is == row.sentinel || (loads && is.empty());
       const bool in_form = absent || (is.size() == digits && IsHex(is));
       const bool record =
-          whole_ && (row.id == FieldId::EXCPSTRS || row.id == FieldId::ALMSTRUCT_BAK ||
-                     (row.id == FieldId::TRIGGER_TEXT && owner.of_records == Part::kFirstByte));
+          whole_ && (row.id == image::FieldId::EXCPSTRS || row.id == image::FieldId::ALMSTRUCT_BAK ||
+                     (row.id == image::FieldId::TRIGGER_TEXT && owner.of_records == Part::kFirstByte));
       const bool may_write =
           loads ||
           ((shown == 0 || entry == shown) && MayWrite(owner, row.name) &&
@@ -128,9 +130,10 @@ std::string Watched::CheckLengths(bool loads, bool from_file) {
   auto& app = App();
   // This release leaves out a flag that a full load empties, and sends it once a panel has set it.
   const std::size_t more =
-      app.firmware.Joined() == "V1400R7" && !Image()[FieldId::BLNKRTS_BAK].empty() ? 2 : 0;
+      app.firmware.Joined() == "V1400R7" && !Image()[image::FieldId::BLNKRTS_BAK].empty() ? 2 : 0;
   auto copy = Image();
-  const auto sections = WriteSections(copy, LayoutOf(app.firmware), app.firmware, app.capabilities);
+  const auto sections =
+      image::WriteSections(copy, image::LayoutOf(app.firmware), app.firmware, app.capabilities);
   const auto [syscfg, sysfixed] = LengthsOf(app.firmware);
   const bool whole = sections.SYSCFG.size() == syscfg && sections.SYSFIXED.size() == sysfixed + more &&
                      syscfg + sysfixed + sections.SYSSTR.size() == DigitsOfImage(app.firmware);

@@ -11,21 +11,21 @@
 namespace ovl::testing {
 
 // The form stands in front of a control that the main form lacks.
-std::string FullName(const Application& app, const NamedControl& named);
+std::string FullName(const core::Application& app, const controls::NamedControl& named);
 
 class Watched {
  public:
   // Started, in the current folder. With a digest, every statement adds what it did to it.
-  explicit Watched(const FirmwareId& stored, Digest* digest = nullptr);
+  explicit Watched(const firmware::FirmwareId& stored, Digest* digest = nullptr);
 
   // One statement. What is wrong after it; empty: nothing.
   std::string Do(const std::string& line);
 
-  Application& App() { return session_.App(); }
+  core::Application& App() { return session_.App(); }
   bool Ended() const { return session_.Ended(); }
   // Whether the image has the digits that its layout says.
   bool Whole() const { return whole_; }
-  const ConfigImage& Image() { return App().image; }
+  const image::ConfigImage& Image() { return App().image; }
 
  private:
   void AddToDigest();
@@ -36,7 +36,7 @@ class Watched {
   Digest* digest_;
   std::ostringstream printed_;  // by the script
   script::Session session_;
-  ConfigImage before_;
+  image::ConfigImage before_;
   bool whole_ = true;
 };
 

@@ -33,7 +33,7 @@ struct Link {
   // the line, and what a download sends
   enum class Line { kWell, kLost, kRefused } line = Line::kWell;
   std::function<std::string()> stream;
-  FirmwareId firmware;
+  firmware::FirmwareId firmware;
 
   static constexpr const char *kRequest = "~~~SOH_REQUEST_EOT~~~k", *kCan = "\x18";
   static constexpr std::string_view kAck = "\x06", kNak = "\x15";

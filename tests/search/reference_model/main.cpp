@@ -14,7 +14,7 @@ namespace {
 
 using Steps = std::vector<const LinkEvent*>;
 
-std::string FirstDifference(const FirmwareId& firmware, const Steps& steps) {
+std::string FirstDifference(const firmware::FirmwareId& firmware, const Steps& steps) {
   Pair pair(firmware);
   std::string found;
   for (std::size_t at = 0; at < steps.size() && found.empty() && !pair.Ended(); ++at)
@@ -22,12 +22,13 @@ std::string FirstDifference(const FirmwareId& firmware, const Steps& steps) {
   return found.empty() && !pair.KeptImage() ? "the image has changed\n" : found;
 }
 
-void TellShortest(const FirmwareId& firmware, const Steps& steps) {
+void TellShortest(const firmware::FirmwareId& firmware, const Steps& steps) {
   const auto fails = [&](const Steps& fewer) { return !FirstDifference(firmware, fewer).empty(); };
   const auto shortest = Shortest(steps, fails);
   std::cout << firmware.Joined() << '\n';
   for (const auto* step : shortest)
-    std::cout << (step->kind == kCharacter ? "unit hex " + TextToHex(step->name) : std::string(step->name))
+    std::cout << (step->kind == kCharacter ? "unit hex " + codecs::TextToHex(step->name)
+                                           : std::string(step->name))
               << '\n';
   std::cout << FirstDifference(firmware, shortest);
 }

@@ -71,7 +71,8 @@ inline bool CanHappen(const Link& link, const LinkEvent& event) {
 // The program and the table side by side.
 class Pair {
  public:
-  explicit Pair(const FirmwareId& firmware) : program_(firmware), stream_(PatternStream(firmware, 7)) {
+  explicit Pair(const firmware::FirmwareId& firmware)
+      : program_(firmware), stream_(PatternStream(firmware, 7)) {
     program_.now = {2026, 3, 5, 14, 7, 9};
     program_.Start();
     auto& app = program_.app;
@@ -121,18 +122,18 @@ class Pair {
   bool Act(const LinkEvent& event, char character) {
     auto& app = program_.app;
     const auto named = [&] { return app.registry.Find(event.name)->control; };
-    const auto done = [&](const Event& act) { return Dispatch(app, act) == Outcome::kDone; };
+    const auto done = [&](const core::Event& act) { return Dispatch(app, act) == core::Outcome::kDone; };
     const bool open = app.frmMain.MSComm1.PortOpen;
     switch (event.kind) {
       case kClick:
-        return done(ClickEvent{named()});
+        return done(core::ClickEvent{named()});
       case kClose:
-        return done(CloseEvent{std::get<Form*>(named())});
+        return done(core::CloseEvent{std::get<controls::Form*>(named())});
       case kTick:
-        return done(TickEvent{std::get<Timer*>(named())});
+        return done(core::TickEvent{std::get<controls::Timer*>(named())});
       case kDrained:
       case kDrainAll:
-        return done(DrainedEvent{});
+        return done(core::DrainedEvent{});
       case kCharacter:
       case kWholeStream:
         program_.Unit({&character, 1});
@@ -217,7 +218,7 @@ class Pair {
   Harness program_;
   std::string stream_, seen_;
   Link link_;
-  ConfigImage begun_;
+  image::ConfigImage begun_;
   bool wrote_ = false, uploaded_ = false;
 };
 

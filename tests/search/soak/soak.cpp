@@ -45,7 +45,7 @@ bool Check(const char* what, bool held) {
 
 class Soak {
  public:
-  Soak(Site& site, Program& program, EventLoop& loop) : site_(site), program_(program), loop_(loop) {
+  Soak(Site& site, ui::Program& program, EventLoop& loop) : site_(site), program_(program), loop_(loop) {
     closer_.callOnTimeout([this] { CloseBox(); });
     closer_.start(1);
   }
@@ -54,7 +54,7 @@ class Soak {
     constexpr int kSpeed = 115200, kSpeedElement = 9;
     if (!site_.StartUnit(kSpeed)) return false;
     Click("cmdConnect");
-    Act(PickEvent{&Model().frmSettSR.OpBaud, kSpeedElement});
+    Act(core::PickEvent{&Model().frmSettSR.OpBaud, kSpeedElement});
     Click("frmSettSR.cmdSET");
     return Model().frmMain.MSComm1.PortOpen;
   }
@@ -88,12 +88,12 @@ class Soak {
     if (!Begin(upload) || !loop_.RunUntil([&] { return Model().frmOK_buttom.form.visible; })) return false;
     Click("frmOK_buttom.Command1");
     Settle();
-    return IsKnown(SectionsToStream(Model())) && Model().frmMain.form.enabled;
+    return IsKnown(core::SectionsToStream(Model())) && Model().frmMain.form.enabled;
   }
 
   bool PickRegister(int number) {
     ShowTab(0);
-    Act(PickEvent{&Model().frmMain.ComboReg, number % Registers()});
+    Act(core::PickEvent{&Model().frmMain.ComboReg, number % Registers()});
     Settle();
     return true;
   }
@@ -121,11 +121,11 @@ class Soak {
     return stream == known_;
   }
 
-  Application& Model() { return program_.Model(); }
-  void Click(const char* name) { Act(ClickEvent{Model().registry.Find(name)->control}); }
+  core::Application& Model() { return program_.Model(); }
+  void Click(const char* name) { Act(core::ClickEvent{Model().registry.Find(name)->control}); }
 
   // From the event loop, like a person's, so that it counts as holding it.
-  void Act(const Event& event) {
+  void Act(const core::Event& event) {
     bool done = false;
     QTimer::singleShot(0, [&] {
       program_.Act(event);
@@ -163,7 +163,7 @@ class Soak {
   }
 
   Site& site_;
-  Program& program_;
+  ui::Program& program_;
   EventLoop& loop_;
   QTimer closer_;
   int boxes_ = 0;
@@ -173,8 +173,8 @@ class Soak {
 };
 
 bool Run(Site& site, int percent) {
-  Program program(site.Folder(), site.Store());
-  if (!Check("the program starts", program.Start() == Outcome::kDone)) return false;
+  ui::Program program(site.Folder(), site.Store());
+  if (!Check("the program starts", program.Start() == core::Outcome::kDone)) return false;
   EventLoop loop;
   Soak soak(site, program, loop);
   if (!Check("the port opens", soak.Connect())) return false;

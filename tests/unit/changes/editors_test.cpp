@@ -33,7 +33,8 @@ TEST(Editors, NameOnlyTheControlsThatStoreWhatDiffers) {
     const std::string before(name == "EXCPSTRS" ? 104 : one_byte ? 2 : 8, '0');
     auto after = before;
     after[digit] = other;
-    EXPECT_EQ(EditedBy(harness.app, FindField(name)->id, "options", before, after), words) << after;
+    EXPECT_EQ(changes::EditedBy(harness.app, image::FindField(name)->id, "options", before, after), words)
+        << after;
   }
   EXPECT_EQ(words, "EXCEPTION REPORT: OUTPUT") << "the last row was compared";
 
@@ -44,16 +45,17 @@ TEST(Editors, NameOnlyTheControlsThatStoreWhatDiffers) {
       "PCDV_TYPE_BAK MICROS: DESTIN TYPE|PC_GNA_BAK MICROS: DST ISN GNA|PC_LNA_BAK MICROS: DST ISN LNA|"
       "PC_IDNA_BAK MICROS: DST IDN ID");
   while (fields >> name && std::getline(fields >> std::ws, words, '|'))
-    EXPECT_EQ(EditedBy(harness.app, FindField(name)->id, "options"), words);
+    EXPECT_EQ(changes::EditedBy(harness.app, image::FindField(name)->id, "options"), words);
 }
 
 // A caption that is missing under some firmware would be met first by whoever looks at its changes.
 TEST(Editors, HaveCaptionsUnderEveryFirmware) {
-  for (const auto& entry : FirmwareTable()) {
+  for (const auto& entry : firmware::FirmwareTable()) {
     Harness harness({std::string(entry.version), std::string(entry.release)});
     harness.Start();
-    for (const auto& field : FieldTable())
-      EXPECT_NO_THROW(EditedBy(harness.app, field.id, "options")) << entry.release << ' ' << field.name;
+    for (const auto& field : image::FieldTable())
+      EXPECT_NO_THROW(changes::EditedBy(harness.app, field.id, "options"))
+          << entry.release << ' ' << field.name;
   }
 }
 
@@ -63,17 +65,19 @@ TEST(Editors, TellOfListsWhosePicksChangeJustTheirBits) {
   Harness harness({"V1400", "R12"});
   harness.Start();
   auto& app = harness.app;
-  for (const auto& editor : Editors()) {
-    const bool of_main = editor.tells != Tells::kNothing && editor.place != Place::kMicros;
+  for (const auto& editor : changes::Editors()) {
+    const bool of_main =
+        editor.tells != changes::ValueDisplay::kNothing && editor.place != changes::Place::kMicros;
     if (!of_main || editor.controls == "ComboCOMM(6)") continue;
-    const auto& list = *std::get<List*>(app.registry.Find(editor.controls)->control);
+    const auto& list = *std::get<controls::List*>(app.registry.Find(editor.controls)->control);
     int changed = 0;
     for (int position = 0; position < static_cast<int>(list.items.size()); ++position) {
-      const int before = HexToInt(app.image[editor.field]);
+      const int before = codecs::HexToInt(app.image[editor.field]);
       harness.Pick(editor.controls, position);
-      changed |= before ^ HexToInt(app.image[editor.field]);
+      changed |= before ^ codecs::HexToInt(app.image[editor.field]);
     }
-    EXPECT_TRUE(editor.bits == kWholeByte ? changed != 0 : changed == editor.bits) << editor.controls;
+    EXPECT_TRUE(editor.bits == changes::kWholeByte ? changed != 0 : changed == editor.bits)
+        << editor.controls;
     ++tried;
   }
   EXPECT_EQ(tried, 28);

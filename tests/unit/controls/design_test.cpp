@@ -22,7 +22,8 @@ std::string Bare(std::string caption) {
 }
 
 // A help page is about one window; its controls are meant ahead of others of the same name.
-const NamedControl* Find(const Application& app, const std::string& page, const std::string& name) {
+const controls::NamedControl* Find(const core::Application& app, const std::string& page,
+                                   const std::string& name) {
   static const std::map<std::string, std::string> kForms = {
       {"text_entry", "frmSetEXCPSTR."},  {"range", "frmSetRange."}, {"scan_progress", "frmScanBProgress."},
       {"transfer_end", "frmOK_buttom."}, {"about", "frmAbout."},    {"viewer", "frmView."}};
@@ -30,7 +31,7 @@ const NamedControl* Find(const Application& app, const std::string& page, const 
 }
 
 TEST(Design, CaptionsFieldsButtonsAndMenusAreThoseOfTheHelp) {
-  const Application app;
+  const core::Application app;
   int compared = 0;
   for (const auto& page : std::filesystem::directory_iterator(std::string(OVL_SOURCE_FOLDER) + "/help")) {
     const auto name_of_page = page.path().stem().string();
@@ -44,7 +45,7 @@ TEST(Design, CaptionsFieldsButtonsAndMenusAreThoseOfTheHelp) {
       const auto name = line.substr(last + 3, line.find('`', last + 3) - last - 3);
       const auto* control = Find(app, name_of_page, name);
       if (control == nullptr) continue;
-      const auto caption = Bare(FaceOf(control->control).caption);
+      const auto caption = Bare(controls::StateOf(control->control).caption);
       if (caption.empty()) continue;
       EXPECT_NE(label.find(caption), std::string::npos) << label << " is not " << caption;
       ++compared;
@@ -76,12 +77,12 @@ TEST(Design, CaptionsGroupsWindowsAndWordsBesideThem) {
       "Label1(33)=PARITY;Label1(34)=DATA BITS;Label1(35)=HW HANDSHAKING;Label1(36)=SW HANDSHAKING;"
       "Label1(37)=AUTO LINEFEED;Label1(46)=FLAG TYPE;Label1(49)=ALARM TYPE;Label1(50)=DISPLAY TEXT;"
       "Label1(52)=RTS TRIGGERED TEXT DELAY;Label1(54)=SCREEN BLANK;Label1(62)=DISPLAY CHARACTER / LINE");
-  const Application app;
+  const core::Application app;
   for (std::string row; std::getline(captions, row, ';');) {
     const auto end = row.find('=');
     const auto* control = app.registry.Find(row.substr(0, end));
     ASSERT_NE(control, nullptr) << row;
-    EXPECT_EQ(FaceOf(control->control).caption, row.substr(end + 1)) << row;
+    EXPECT_EQ(controls::StateOf(control->control).caption, row.substr(end + 1)) << row;
   }
   for (const auto& list : app.frmMain.ComboTCPIP) {
     const auto number = std::to_string(list.index % 4 + 1);
@@ -106,22 +107,22 @@ TEST(Design, NumbersRunFromTheFirstToTheLast) {
       "ComboISN(2) 34 ANY 32 ComboISN(3) 17 ANY 15 ComboISN(4) 11 ANY 09 ComboISN(5) 34 ANY 32 "
       "ComboISN(6) 34 ANY 32 ComboISN(7) 17 ANY 15 Combo2 17 ANY 16 ComboTCPIP(0) 256 0 255 "
       "ComboTCPIP(7) 256 0 255");
-  const Application app;
+  const core::Application app;
   std::string name, first, last;
   for (std::size_t count = 0; lists >> name >> count >> first >> last;) {
-    const auto& items = std::get<List*>(app.registry.Find(name)->control)->items;
+    const auto& items = std::get<controls::List*>(app.registry.Find(name)->control)->items;
     ASSERT_EQ(items.size(), count) << name;
     EXPECT_EQ(items.front() + " " + items.back(), first + " " + last) << name;
   }
 }
 
 TEST(Design, HidesAndHoldsBackWhatWaits) {
-  const Application app;
+  const core::Application app;
   std::string hidden, held;
   for (const auto& control : app.registry.All()) {
-    const auto& face = FaceOf(control.control);
-    const bool follows = std::holds_alternative<Form*>(control.control) ||
-                         std::holds_alternative<Timer*>(control.control) ||
+    const auto& face = controls::StateOf(control.control);
+    const bool follows = std::holds_alternative<controls::Form*>(control.control) ||
+                         std::holds_alternative<controls::Timer*>(control.control) ||
                          control.name.rfind("frmAddress", 0) == 0;
     if (!follows && !face.visible) hidden += " " + control.name;
     if (!follows && !face.enabled) held += " " + control.name;

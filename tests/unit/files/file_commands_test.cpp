@@ -12,14 +12,14 @@
 namespace ovl::testing {
 namespace {
 
-const FirmwareId kLatest{"V1400", "R12"};
+const firmware::FirmwareId kLatest{"V1400", "R12"};
 constexpr const char* kForeign =
     "The Ovalon Version is not compatible !!!\n       Try with the same version again.";
 constexpr const char* kBroken = "                System File Error. \nPlease ReInstall Ovalon PC Software !!";
 
 // A file's digits, taken out of it without the program's help.
 std::string DigitsIn(const std::string& path) {
-  auto text = ReadWhole(path);
+  auto text = files::ReadWhole(path);
   for (std::size_t at = 0; (at = text.find('$')) != std::string::npos;) text.erase(at, 5);
   std::erase_if(text,
                 [](char character) { return character == '\r' || character == '\n' || character == '#'; });
@@ -27,7 +27,7 @@ std::string DigitsIn(const std::string& path) {
 }
 
 TEST(FileCommands, AskWithTheirNamesAndFilters) {
-  using Kind = FileDialog::Kind;
+  using Kind = core::FileDialog::Kind;
   constexpr const char* kTexts = "Text Files(*.txt)|*.txt|All Files(*.*)|*.*";
   const std::tuple<const char*, Kind, const char*, const char*> rows[] = {
       {"OpenMenu", Kind::kOpen, "*.bin", "Text Files(*.txt)|*.txt|Bin Files(*bin)|*.bin|All Files(*.*)|*.*"},
@@ -56,8 +56,8 @@ enum class Reopened { kSame, kShifted, kRefused };
 
 TEST(FileCommands, SaveAndOpenDifferByFirmware) {
   struct Row {
-    FirmwareId firmware;
-    Region region;
+    firmware::FirmwareId firmware;
+    image::Region region;
     Reopened reopened;
   };
   using enum Reopened;
@@ -74,10 +74,12 @@ TEST(FileCommands, SaveAndOpenDifferByFirmware) {
     SCOPED_TRACE(row.firmware.Joined());
     Installed program(row.firmware);
     // The first register's image with other bytes where no panel looks, so that a shift by one shows.
-    const auto mark = [&](int byte, int value) { program.SetByte("GENERIC", byte, ByteToHex(value)); };
+    const auto mark = [&](int byte, int value) {
+      program.SetByte("GENERIC", byte, codecs::ByteToHex(value));
+    };
     for (const int byte : {5, 6, 7, 8, 9, 10, 12, 18}) mark(byte, 0xA0 + byte);
     for (int byte = 2; byte < (row.reopened == kSame ? 6 : 8); ++byte) mark(program.Fixed(byte), 0x60 + byte);
-    ASSERT_EQ(program.Open(program.PathOf("GENERIC")), Outcome::kDone);
+    ASSERT_EQ(program.Open(program.PathOf("GENERIC")), core::Outcome::kDone);
     auto expected = DigitsIn(program.PathOf("GENERIC"));
     if (row.reopened == kShifted) {
       // Without the two bytes behind the variant, and without what stands behind the software handshake.
@@ -85,32 +87,32 @@ TEST(FileCommands, SaveAndOpenDifferByFirmware) {
     }
     const auto path = program.folder.File("saved.bin");
     const auto target = program.folder.File("target.bin");
-    WriteWhole(target, "what stood there before");
-    WriteWhole(target + ".0.new", "a name beside it that is taken");
+    files::WriteWhole(target, "what stood there before");
+    files::WriteWhole(target + ".0.new", "a name beside it that is taken");
     std::filesystem::permissions(target, kOwnersAlone);
     std::filesystem::create_symlink("target.bin", path);
-    ASSERT_EQ(program.Answer("menuSave", path), Outcome::kDone);
+    ASSERT_EQ(program.Answer("menuSave", path), core::Outcome::kDone);
     const auto box = program.TakeBox();
     EXPECT_EQ(box.text, "Save Completed.        ");
-    EXPECT_EQ(box.icon, BoxIcon::kInformation);
-    EXPECT_EQ(ReadWhole(path), BlockRecords(expected, row.region) + "\r\n");
-    EXPECT_EQ(ReadWhole(target + ".0.new"), "a name beside it that is taken");
+    EXPECT_EQ(box.icon, core::BoxIcon::kInformation);
+    EXPECT_EQ(files::ReadWhole(path), image::BlockRecords(expected, row.region) + "\r\n");
+    EXPECT_EQ(files::ReadWhole(target + ".0.new"), "a name beside it that is taken");
     EXPECT_EQ(std::filesystem::status(target).permissions(), kOwnersAlone);
     EXPECT_TRUE(std::filesystem::is_symlink(path));
 
     const auto& image = program.app.image;
     const auto kept = image;
-    ASSERT_EQ(program.Pick("ComboReg", 3), Outcome::kDone);
+    ASSERT_EQ(program.Pick("ComboReg", 3), core::Outcome::kDone);
     const auto other = image;
-    ASSERT_EQ(program.Open(path), Outcome::kDone);
+    ASSERT_EQ(program.Open(path), core::Outcome::kDone);
     EXPECT_EQ(program.TakeBox().text, row.reopened == kRefused ? kForeign : "");
     EXPECT_TRUE(program.NoBoxLeft());
     EXPECT_TRUE(program.app.PanelsReady && program.app.ImageTouched && !program.app.UploadApplying);
-    EXPECT_EQ(program.Selected("ComboReg"), HexToInt(image[FieldId::REGTYPE]));
+    EXPECT_EQ(program.Selected("ComboReg"), codecs::HexToInt(image[image::FieldId::REGTYPE]));
     if (row.reopened == kShifted) {
-      EXPECT_EQ(image[FieldId::REGTYPE_EXT1] + image[FieldId::REGTYPE_EXT2], "6465");
-      EXPECT_EQ(image[FieldId::HPADDR_BAK] + image[FieldId::VPADDR_BAK], "6667");
-      EXPECT_EQ(image[FieldId::SITE_NO_BAK], "AC");
+      EXPECT_EQ(image[image::FieldId::REGTYPE_EXT1] + image[image::FieldId::REGTYPE_EXT2], "6465");
+      EXPECT_EQ(image[image::FieldId::HPADDR_BAK] + image[image::FieldId::VPADDR_BAK], "6667");
+      EXPECT_EQ(image[image::FieldId::SITE_NO_BAK], "AC");
     } else {
       EXPECT_TRUE(image == (row.reopened == kSame ? kept : other));
       EXPECT_EQ(program.app.known_image == image, row.reopened == kSame);
@@ -125,10 +127,10 @@ TEST(FileCommands, ASaveThatComesToNothingSaysSo) {
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
   for (const auto& target :
        {std::optional<std::string>(), {program.folder.File("no such folder/a.bin")}, {pipe}}) {
-    ASSERT_EQ(program.Answer("menuSave", target), Outcome::kDone);
+    ASSERT_EQ(program.Answer("menuSave", target), core::Outcome::kDone);
     const auto box = program.TakeBox();
     EXPECT_EQ(box.text, "NoFile Save. !!!        ");
-    EXPECT_EQ(box.icon, BoxIcon::kInformation);
+    EXPECT_EQ(box.icon, core::BoxIcon::kInformation);
     EXPECT_TRUE(program.NoBoxLeft());
     EXPECT_EQ(program.Written(), "");
   }
@@ -137,8 +139,8 @@ TEST(FileCommands, ASaveThatComesToNothingSaysSo) {
 TEST(FileCommands, AnOpenWithoutAFileLeavesAllButTheNextPick) {
   Installed program(kLatest);
   const auto kept_from_us = program.folder.File("locked.bin"), huge = program.folder.File("huge.bin");
-  WriteWhole(kept_from_us, ReadWhole(program.PathOf("ADS")));
-  WriteWhole(huge, "");
+  files::WriteWhole(kept_from_us, files::ReadWhole(program.PathOf("ADS")));
+  files::WriteWhole(huge, "");
   std::filesystem::resize_file(huge, (64 << 20) + 1);
   const std::pair<std::optional<std::string>, const char*> sources[] = {
       {std::nullopt, "Operation canceled"},
@@ -155,20 +157,20 @@ TEST(FileCommands, AnOpenWithoutAFileLeavesAllButTheNextPick) {
     program.app.ImageTouched = false;
     std::optional<Locked> locked;
     if (source == kept_from_us) locked.emplace(kept_from_us);
-    ASSERT_EQ(program.Open(source), Outcome::kDone);
+    ASSERT_EQ(program.Open(source), core::Outcome::kDone);
     locked.reset();
     EXPECT_TRUE(program.app.StatusNote.ends_with(std::string(": ") + reason)) << program.app.StatusNote;
     EXPECT_TRUE(program.NoBoxLeft());
     EXPECT_EQ(program.Written(), "");
     EXPECT_TRUE(program.app.PanelsReady);
     EXPECT_TRUE(program.app.UploadApplying && program.app.ImageTouched && program.app.StreamText.empty());
-    ASSERT_EQ(program.Register("ADS"), Outcome::kDone);
+    ASSERT_EQ(program.Register("ADS"), core::Outcome::kDone);
     EXPECT_EQ(program.Written(), "");
     EXPECT_FALSE(program.app.UploadApplying);
     EXPECT_EQ(program.Frames(), "");
   }
-  ASSERT_EQ(program.Register("ADS"), Outcome::kDone);
-  EXPECT_EQ(program.app.image[FieldId::REGTYPE], ByteToHex(program.CodeOf("ADS")));
+  ASSERT_EQ(program.Register("ADS"), core::Outcome::kDone);
+  EXPECT_EQ(program.app.image[image::FieldId::REGTYPE], codecs::ByteToHex(program.CodeOf("ADS")));
   EXPECT_EQ(program.Frames(), "1");
 }
 
@@ -180,13 +182,13 @@ TEST(FileCommands, AFileOfNoUseIsToldAndThePanelsShowTheOldImage) {
                                   PatternStream({"V1334", "R1"}) + "\r\n"};
   for (const auto& content : contents) {
     SCOPED_TRACE(content.substr(0, 5));
-    WriteWhole(program.folder.File("foreign.bin"), content);
+    files::WriteWhole(program.folder.File("foreign.bin"), content);
     program.Pick("ComboCOMM(1)", 7);
-    program.app.image[FieldId::RX_BAUDRATE] = "02";
+    program.app.image[image::FieldId::RX_BAUDRATE] = "02";
     program.app.OperatingCount = 3;
-    EnableTimer(program.app.frmMain.Timer_Operating, true);
+    core::EnableTimer(program.app.frmMain.Timer_Operating, true);
     program.Mark();
-    ASSERT_EQ(program.Open(program.folder.File("foreign.bin")), Outcome::kDone);
+    ASSERT_EQ(program.Open(program.folder.File("foreign.bin")), core::Outcome::kDone);
     EXPECT_EQ(program.TakeBox().text, kForeign);
     EXPECT_TRUE(program.NoBoxLeft());
     EXPECT_EQ(program.Written(), "");
@@ -194,9 +196,10 @@ TEST(FileCommands, AFileOfNoUseIsToldAndThePanelsShowTheOldImage) {
     EXPECT_TRUE(program.app.PanelsReady);
     EXPECT_FALSE(program.app.frmMain.Timer_Operating.enabled);
     EXPECT_EQ(program.app.OperatingCount, 0);
-    ASSERT_EQ(program.Register("ADS"), Outcome::kDone);
-    EXPECT_EQ(program.app.image[FieldId::REGTYPE], ByteToHex(program.CodeOf("ADS"))) << "the pick counts";
-    ASSERT_EQ(program.Register("GENERIC"), Outcome::kDone);
+    ASSERT_EQ(program.Register("ADS"), core::Outcome::kDone);
+    EXPECT_EQ(program.app.image[image::FieldId::REGTYPE], codecs::ByteToHex(program.CodeOf("ADS")))
+        << "the pick counts";
+    ASSERT_EQ(program.Register("GENERIC"), core::Outcome::kDone);
   }
 }
 
@@ -204,7 +207,7 @@ TEST(FileCommands, AFileWithoutItsEndEndsTheProgram) {
   const auto whole = PatternStream(kLatest);
   std::string line_feeds_only = whole + "\n";
   std::erase(line_feeds_only, '\r');
-  const std::tuple<FirmwareId, const char*, std::string> rows[] = {
+  const std::tuple<firmware::FirmwareId, const char*, std::string> rows[] = {
       {{"V1400", "R4"}, "same start, other end", PatternStream({"V1400", "R7"}) + "\r\n"},
       {kLatest, "same start, other end", PatternStream({"V1400", "R4"}) + "\r\n"},
       {kLatest, "no end mark", whole.substr(0, whole.size() - 1) + "\r\n"},
@@ -215,11 +218,11 @@ TEST(FileCommands, AFileWithoutItsEndEndsTheProgram) {
   for (const auto& [firmware, what, content] : rows) {
     SCOPED_TRACE(what);
     Installed program(firmware, Images::kFirstRegister);
-    WriteWhole(program.folder.File("broken.bin"), content);
-    EXPECT_EQ(program.Open(program.folder.File("broken.bin")), Outcome::kEnded);
+    files::WriteWhole(program.folder.File("broken.bin"), content);
+    EXPECT_EQ(program.Open(program.folder.File("broken.bin")), core::Outcome::kEnded);
     EXPECT_EQ(program.TakeBox().text, kBroken);
     EXPECT_TRUE(program.NoBoxLeft());
-    EXPECT_EQ(program.Click("menuSave"), Outcome::kEnded);
+    EXPECT_EQ(program.Click("menuSave"), core::Outcome::kEnded);
   }
 }
 

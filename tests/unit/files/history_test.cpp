@@ -14,14 +14,14 @@ struct Viewing : Installed {
   Viewing() : Installed({"V1400", "R12"}, Images::kFirstRegister) {}
 
   std::string Write(std::string_view bytes) const {
-    WriteWhole(folder.File("log.txt"), bytes);
+    files::WriteWhole(folder.File("log.txt"), bytes);
     return folder.File("log.txt");
   }
-  Outcome Open(const std::optional<std::string>& path) { return Answer("OpenHistory_menu", path); }
+  core::Outcome Open(const std::optional<std::string>& path) { return Answer("OpenHistory_menu", path); }
   // Lets the unit send a history that ends with its acknowledgement.
   void Receive(const std::string& text, const std::optional<std::string>& path) {
     OpenAndHold();
-    EXPECT_EQ(Answer("CmdUpDow(3)", path), Outcome::kDone);
+    EXPECT_EQ(Answer("CmdUpDow(3)", path), core::Outcome::kDone);
     Unit(text + "\x06");
   }
   // The file's name, and what is read of it.
@@ -37,12 +37,12 @@ TEST(History, GoesIntoTheChosenOrTheOfferedFileAndEndsAllTheSameIfNeitherCanBeWr
   Viewing program;
   const auto path = program.Write("an older and longer file that is replaced as a whole");
   program.Receive("one\r\n\r\n two ", path);
-  EXPECT_EQ(ReadWhole(path), "OVLH\r\none\r\n\r\n two \r\n");
-  ASSERT_EQ(program.Open(path), Outcome::kDone);
+  EXPECT_EQ(files::ReadWhole(path), "OVLH\r\none\r\n\r\n two \r\n");
+  ASSERT_EQ(program.Open(path), core::Outcome::kDone);
   program.ExpectShown(path, "one\r\n\r\n two \r\n");
   program.Click("cmdDisConnect");
   program.Receive("kept\r\n", std::nullopt);
-  EXPECT_EQ(ReadWhole(program.folder.File("History.txt")), "OVLH\r\nkept\r\n\r\n");
+  EXPECT_EQ(files::ReadWhole(program.folder.File("History.txt")), "OVLH\r\nkept\r\n\r\n");
   program.Click("cmdDisConnect");
   program.Receive("lost", program.folder.File("no such folder/log.txt"));
   EXPECT_TRUE(program.app.StatusNote.ends_with("No such file or directory")) << program.app.StatusNote;
@@ -69,25 +69,25 @@ TEST(History, OnlyTheTagOpensAFileAndWhatCannotBeReadLeavesTheViewerInSilence) {
   Viewing program;
   const auto tested = program.folder.File("tested.txt");
   for (const auto& [bytes, text] : shown) {
-    WriteWhole(tested, bytes);
-    ASSERT_EQ(program.Open(tested), Outcome::kDone);
+    files::WriteWhole(tested, bytes);
+    ASSERT_EQ(program.Open(tested), core::Outcome::kDone);
     program.ExpectShown(tested, text);
   }
   const auto earlier = program.Write("OVLH\r\nearlier");
-  ASSERT_EQ(program.Open(earlier), Outcome::kDone);
+  ASSERT_EQ(program.Open(earlier), core::Outcome::kDone);
   for (std::string bytes; std::getline(refused, bytes, '|');) {
     SCOPED_TRACE(bytes);
-    WriteWhole(tested, bytes);
-    ASSERT_EQ(program.Open(tested), Outcome::kDone);
+    files::WriteWhole(tested, bytes);
+    ASSERT_EQ(program.Open(tested), core::Outcome::kDone);
     EXPECT_EQ(program.TakeBox().text, "Incompatible File !!!, try again.");
     program.ExpectShown(earlier, "earlier\r\n");
   }
-  WriteWhole(tested, "OVLH\r\nlater");
+  files::WriteWhole(tested, "OVLH\r\nlater");
   const Locked file(tested);
   const auto folder = program.folder.Path().string();
   for (const auto& path :
        std::vector<std::optional<std::string>>{folder + "/missing.txt", folder, tested, {}}) {
-    ASSERT_EQ(program.Open(path), Outcome::kDone);
+    ASSERT_EQ(program.Open(path), core::Outcome::kDone);
     program.ExpectShown(earlier, "earlier\r\n");
   }
 }
@@ -97,23 +97,24 @@ TEST(History, TheViewerIsReadOnlyAndOpensAgainForTheDiagnosticLogToo) {
   const auto& view = program.app.frmView;
   program.Open(program.Write("OVLH\r\nfirst"));
   program.Open(program.Write("OVLH\r\nsecond"));
-  EXPECT_EQ(DispatchStart(program.app, ShowDataDump), Outcome::kDone);
+  EXPECT_EQ(core::DispatchStart(program.app, files::ShowDataDump), core::Outcome::kDone);
   program.ExpectShown(program.folder.File("log.txt"), "second\r\n");
   EXPECT_NE(program.app.StatusNote.find("DataDump.log"), std::string::npos);
-  EXPECT_EQ(Dispatch(program.app, TypeEvent{&program.app.frmView.Text, "typed"}), Outcome::kRefused);
+  EXPECT_EQ(core::Dispatch(program.app, core::TypeEvent{&program.app.frmView.Text, "typed"}),
+            core::Outcome::kRefused);
   // The one word of the dialog's flags that keeps it from being shown.
   for (const unsigned flags : {0U, 4096U, 4097U, 4095U, 8192U}) {
     SCOPED_TRACE(flags);
-    Dispatch(program.app, CloseEvent{&program.app.frmView.form});
+    core::Dispatch(program.app, core::CloseEvent{&program.app.frmView.form});
     EXPECT_FALSE(view.form.visible);
     const auto path = program.Write("OVLH\r\nline " + std::to_string(flags));
-    program.app.platform.ask_file = [&](const FileDialog&) { return FileAnswer{path, flags}; };
-    ASSERT_EQ(program.Click("OpenHistory_menu"), Outcome::kDone);
+    program.app.platform.ask_file = [&](const core::FileDialog&) { return core::FileAnswer{path, flags}; };
+    ASSERT_EQ(program.Click("OpenHistory_menu"), core::Outcome::kDone);
     EXPECT_EQ(view.form.visible, flags != 4096);
     EXPECT_EQ(view.Text.text, "line " + std::to_string(flags) + "\r\n");
   }
-  WriteWhole(program.folder.File("DataDump.log"), "any line\r\n\r\nlast");
-  EXPECT_EQ(DispatchStart(program.app, ShowDataDump), Outcome::kDone);
+  files::WriteWhole(program.folder.File("DataDump.log"), "any line\r\n\r\nlast");
+  EXPECT_EQ(core::DispatchStart(program.app, files::ShowDataDump), core::Outcome::kDone);
   program.ExpectShown("Debuging Windwos", "any line\r\n\r\nlast\r\n");
 }
 

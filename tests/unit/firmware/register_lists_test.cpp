@@ -14,13 +14,13 @@ namespace {
 
 // What start-up keeps of a list: the names, and for every key the number that recognises it.
 struct Catalogue {
-  explicit Catalogue(const FirmwareId& firmware) {
+  explicit Catalogue(const firmware::FirmwareId& firmware) {
     app.firmware = firmware;
-    ResetRegisterIndexes(app);
-    BuildRegisterList(app);
+    registers::ResetRegisterIndexes(app);
+    registers::BuildRegisterList(app);
   }
 
-  Application app;
+  core::Application app;
   const std::vector<std::string>& names = app.frmMain.ComboReg.items;
   const decltype(app.RegisterIndex)& index = app.RegisterIndex;
 };
@@ -43,7 +43,7 @@ TEST(RegisterLists, UnknownPairsHaveNoList) {
   const std::pair<const char*, const char*> pairs[] = {{"V1400", "R3"},  {"V1324", "R22"}, {"V1410", "R1"},
                                                        {"V1334", "R17"}, {"V1400", "r7"},  {"", ""}};
   for (const auto& [version, release] : pairs)
-    EXPECT_TRUE(BuildRegisterEntries(version, release).empty()) << version << release;
+    EXPECT_TRUE(firmware::BuildRegisterEntries(version, release).empty()) << version << release;
 }
 
 // Of a firmware's list some names at their codes and, behind "=", keys with the number that recognises them;
@@ -102,13 +102,13 @@ TEST(RegisterLists, TcpipPushesTheRestOfV1324UpByOne) {
 }
 
 TEST(RegisterKeys, AreDistinctAndEachServesAFirmware) {
-  const std::set<std::string_view> keys(RegisterKeys().begin(), RegisterKeys().end());
-  EXPECT_EQ(RegisterKeys().size(), 136U);
+  const std::set<std::string_view> keys(firmware::RegisterKeys().begin(), firmware::RegisterKeys().end());
+  EXPECT_EQ(firmware::RegisterKeys().size(), 136U);
   EXPECT_EQ(keys.size(), 136U);
   std::set<std::string_view> served;
   for (const auto& firmware : EveryFirmware()) {
     std::set<std::string_view> in_list;
-    for (const auto& entry : BuildRegisterEntries(firmware.version, firmware.release)) {
+    for (const auto& entry : firmware::BuildRegisterEntries(firmware.version, firmware.release)) {
       if (entry.key.empty()) continue;
       EXPECT_TRUE(in_list.insert(entry.key).second) << firmware.Joined() << " has twice " << entry.key;
     }
@@ -123,7 +123,7 @@ TEST(RegisterKeys, TakeTheirEntrysPositionWithFewExceptions) {
   for (const auto& firmware : EveryFirmware()) {
     const bool shifted = firmware.Joined() == "V1400R11" || firmware.Joined() == "V1400R12";
     int position = 0;
-    for (const auto& entry : BuildRegisterEntries(firmware.version, firmware.release)) {
+    for (const auto& entry : firmware::BuildRegisterEntries(firmware.version, firmware.release)) {
       const bool without_key = entry.name == "UP3000";
       const int index = without_key ? -1 : shifted && position == 105 ? 104 : position;
       EXPECT_EQ(entry.key.empty(), without_key) << firmware.Joined() << " " << entry.name;

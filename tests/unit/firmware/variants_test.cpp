@@ -92,7 +92,7 @@ void ExpectLists(Installed& program, const char* words) {
 }
 
 TEST(Variants, EveryFirmwareShowsWhatItHas) {
-  std::vector<FirmwareId> seen;
+  std::vector<firmware::FirmwareId> seen;
   for (const auto& [version, releases, words] : kForms) {
     for (const auto& release : Split(releases, ' ')) {
       seen.push_back({version, release});
@@ -109,21 +109,21 @@ TEST(Variants, EveryFirmwareShowsWhatItHas) {
 
 TEST(Variants, WhatIsHiddenKeepsItsBytes) {
   PanelProgram program({"V1300", "R14"}), other({"V1300", "R14"});
-  program.Byte(FieldId::SPCOMPRES_BAK) = "03";
-  program.Byte(FieldId::DEMO_ENABLE) = "02";
-  ASSERT_EQ(other.Open(SectionsToStream(program.app)), Outcome::kDone);
-  EXPECT_EQ(other.Byte(FieldId::SPCOMPRES_BAK) + other.Byte(FieldId::DEMO_ENABLE), "0302");
+  program.Byte(image::FieldId::SPCOMPRES_BAK) = "03";
+  program.Byte(image::FieldId::DEMO_ENABLE) = "02";
+  ASSERT_EQ(other.Open(core::SectionsToStream(program.app)), core::Outcome::kDone);
+  EXPECT_EQ(other.Byte(image::FieldId::SPCOMPRES_BAK) + other.Byte(image::FieldId::DEMO_ENABLE), "0302");
 }
 
 TEST(Variants, TheCompactFormIsALaterReleaseWithLessOnIt) {
-  for (const FirmwareId& runs_as : {FirmwareId{"V1400", "R7"}, {"V1400", "R2"}}) {
+  for (const firmware::FirmwareId& runs_as : {firmware::FirmwareId{"V1400", "R7"}, {"V1400", "R2"}}) {
     SCOPED_TRACE(runs_as.Joined());
     const bool later = runs_as.Number() == 7;
     Installed program(runs_as, Images::kOwn);
-    WriteWhole(program.PathOf("GENERIC"), FirstImage(runs_as));
+    files::WriteWhole(program.PathOf("GENERIC"), FirstImage(runs_as));
     program.settings["Version"] = "V1410";
     program.settings["Release"] = later ? "R1" : "R2";
-    ASSERT_EQ(program.Start(), Outcome::kDone);
+    ASSERT_EQ(program.Start(), core::Outcome::kDone);
     EXPECT_EQ(program.app.firmware, runs_as);
     EXPECT_EQ(std::get<std::string>(program.settings["Version"]), "V1410");
     ExpectVisible(program,
@@ -149,11 +149,11 @@ TEST(Variants, TheCompactFormIsALaterReleaseWithLessOnIt) {
 
 TEST(Variants, AnUnknownReleaseRunsNoStepButIsShortInAShortFamily) {
   Installed program({"V1324", "R22"}, Images::kOwn), later({"V1400", "R13"}, Images::kOwn);
-  ASSERT_EQ(program.Start(), Outcome::kDone);
+  ASSERT_EQ(program.Start(), core::Outcome::kDone);
   ExpectVisible(program, "Frame13 Frame12 OpDVR(2) ComboDIP(8) ComboALM(7)", false);
   EXPECT_TRUE(program.Control("FrameDemo").visible);
   EXPECT_TRUE(program.app.frmMain.ComboReg.items.empty());
-  ASSERT_EQ(later.Start(), Outcome::kDone);
+  ASSERT_EQ(later.Start(), core::Outcome::kDone);
   ExpectVisible(later, "CmdUpDow(5) OpNCR(5)", false);
 }
 

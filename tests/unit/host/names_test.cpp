@@ -24,11 +24,11 @@ TEST(Comports, ALinkTakesThePlaceOfTheTable) {
   const std::pair<int, QString> devices[] = {
       {1, "/dev/ttyS0"}, {8, "/dev/ttyS7"}, {9, "/dev/ttyUSB0"},       {16, "/dev/ttyUSB7"},
       {3, "/dev/null"},  {4, "/dev/null"},  {5, "/dev/no-such-device"}};
-  const auto comports = ListComports(folder.path());
+  const auto comports = host::ListComports(folder.path());
   ASSERT_EQ(comports.size(), 16U);
   for (const auto& [number, device] : devices) {
     const auto& listed = comports[static_cast<std::size_t>(number) - 1];
-    EXPECT_EQ(ComportDevice(folder.path(), number), device);
+    EXPECT_EQ(host::ComportDevice(folder.path(), number), device);
     EXPECT_TRUE(listed.number == number && listed.device == device) << number;
   }
   EXPECT_TRUE(comports[3].present);
@@ -39,32 +39,32 @@ TEST(Comports, OnlyARefusedPermissionNamesTheGroup) {
   const QTemporaryDir folder;
   const auto file = folder.filePath("device");
   ASSERT_TRUE(QFile(file).open(QIODevice::WriteOnly));
-  const auto group = DeviceGroup(file);
+  const auto group = host::DeviceGroup(file);
   ASSERT_FALSE(group.isEmpty());
   EXPECT_EQ(
-      ComportProblem(3, file, SystemText(EACCES)),
+      host::ComportProblem(3, file, host::SystemText(EACCES)),
       QString("Comport 3, %1: Permission denied. The device belongs to the group %2.").arg(file, group));
-  EXPECT_EQ(ComportProblem(9, file, SystemText(ENOENT)),
+  EXPECT_EQ(host::ComportProblem(9, file, host::SystemText(ENOENT)),
             QString("Comport 9, %1: No such file or directory.").arg(file));
-  EXPECT_EQ(ComportProblem(9, "/dev/no-such-device", SystemText(EACCES)),
+  EXPECT_EQ(host::ComportProblem(9, "/dev/no-such-device", host::SystemText(EACCES)),
             "Comport 9, /dev/no-such-device: Permission denied.");
 }
 
 TEST(TextCodec, EveryByteIsACharacterOfItsOwnWhereWindowsHasIt) {
   std::string bytes;
   for (int code = 0; code < 256; ++code) bytes += static_cast<char>(code);
-  EXPECT_EQ(FromWindows1252(bytes).size(), 256);
-  EXPECT_EQ(ToWindows1252(FromWindows1252(bytes)), bytes);
-  EXPECT_EQ(ToWindows1252(u"\u20AC \u017D \u0178 \u00E4"), "\x80 \x8E \x9F \xE4");
-  EXPECT_EQ(FromWindows1252("\x81\x8D\x8F\x90\x9D"), QStringView(u"\u0081\u008D\u008F\u0090\u009D"));
+  EXPECT_EQ(host::FromWindows1252(bytes).size(), 256);
+  EXPECT_EQ(host::ToWindows1252(host::FromWindows1252(bytes)), bytes);
+  EXPECT_EQ(host::ToWindows1252(u"\u20AC \u017D \u0178 \u00E4"), "\x80 \x8E \x9F \xE4");
+  EXPECT_EQ(host::FromWindows1252("\x81\x8D\x8F\x90\x9D"), QStringView(u"\u0081\u008D\u008F\u0090\u009D"));
   for (const char16_t* text : {u"a\u0080b", u"\u0100", u"\u00E4\u0439", u"\U0001F600"}) {
-    EXPECT_EQ(ToWindows1252(text), std::nullopt) << QString::fromUtf16(text).toStdString();
+    EXPECT_EQ(host::ToWindows1252(text), std::nullopt) << QString::fromUtf16(text).toStdString();
   }
 }
 
 TEST(TextCodec, WhatTheSystemSaysIsUtf8WhereItCanBe) {
-  EXPECT_EQ(FromSystem("/tmp/\xC3\xA4: denied"), QStringView(u"/tmp/\u00E4: denied"));
-  EXPECT_EQ(FromSystem("/tmp/\xE4"), QStringView(u"/tmp/\u00E4"));
+  EXPECT_EQ(host::FromSystem("/tmp/\xC3\xA4: denied"), QStringView(u"/tmp/\u00E4: denied"));
+  EXPECT_EQ(host::FromSystem("/tmp/\xE4"), QStringView(u"/tmp/\u00E4"));
 }
 
 TEST(ParityMarks, AnySplitOfTheReadsGivesTheSameCharacters) {
@@ -73,7 +73,7 @@ TEST(ParityMarks, AnySplitOfTheReadsGivesTheSameCharacters) {
   const auto expected = "a?\xFF??\0z\xFF\xFF?"s;
   for (std::size_t first = 0; first <= marked.size(); ++first) {
     for (std::size_t second = first; second <= marked.size(); ++second) {
-      ParityMarks marks;
+      host::ParityMarks marks;
       auto text = marks.Decode(marked.substr(0, first));
       text += marks.Decode(marked.substr(first, second - first));
       text += marks.Decode(marked.substr(second));

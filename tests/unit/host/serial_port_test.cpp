@@ -97,7 +97,7 @@ class SerialPortTest : public testing::Test {
  protected:
   SerialPortTest() {
     Link(1, terminal_.Device());
-    port_.emplace(folder_.path(), [this](const Event& event) { return Take(event); });
+    port_.emplace(folder_.path(), [this](const core::Event& event) { return Take(event); });
     line_ = port_->Operations();
   }
 
@@ -106,16 +106,16 @@ class SerialPortTest : public testing::Test {
     ASSERT_TRUE(QFile::link(target.c_str(), folder_.filePath(QString("ports/com%1").arg(number))));
   }
 
-  Outcome Take(const Event& event) {
+  core::Outcome Take(const core::Event& event) {
     ++offers_;
-    if (busy_) return Outcome::kBusy;
-    const auto now = std::holds_alternative<DrainedEvent>(event) ? "<drained>"s : line_.read();
+    if (busy_) return core::Outcome::kBusy;
+    const auto now = std::holds_alternative<core::DrainedEvent>(event) ? "<drained>"s : line_.read();
     told_ += now;
     if (on_told_) on_told_(now);
-    return Outcome::kDone;
+    return core::Outcome::kDone;
   }
 
-  bool Tells(const std::string& text) const {
+  bool ValueDisplay(const std::string& text) const {
     return RunUntil([&] { return told_.size() >= text.size(); }) && told_ == text;
   }
 
@@ -137,8 +137,8 @@ class SerialPortTest : public testing::Test {
 
   QTemporaryDir folder_;
   PseudoTerminal terminal_;
-  std::optional<SerialPort> port_;
-  SerialLine line_;
+  std::optional<host::SerialPort> port_;
+  core::SerialLine line_;
   std::string told_;
   int offers_ = 0;
   bool busy_ = false;
@@ -168,14 +168,14 @@ TEST_F(SerialPortTest, OpeningFailsInTheSystemsWords) {
 
   Open();
   EXPECT_EQ(port_->LastProblem(), "");
-  SerialPort second(folder_.path(), [](const Event&) { return Outcome::kDone; });
+  host::SerialPort second(folder_.path(), [](const core::Event&) { return core::Outcome::kDone; });
   EXPECT_EQ(second.Operations().open({1, "9600,N,8,1"}), "Device or resource busy");
 }
 
 TEST_F(SerialPortTest, EveryCharacterIsAnEventOfItsOwnAndWritesDrainOnceAndLater) {
   Open();
   terminal_.Send("abc\0\xFF"s);
-  EXPECT_TRUE(Tells("abc\0\xFF"s));
+  EXPECT_TRUE(ValueDisplay("abc\0\xFF"s));
   EXPECT_EQ(offers_, 5);
   EXPECT_EQ(line_.read(), "");
 
@@ -189,7 +189,7 @@ TEST_F(SerialPortTest, EveryCharacterIsAnEventOfItsOwnAndWritesDrainOnceAndLater
   for (const QDeadlineTimer late(10'000); arrived.size() < 8 && !late.hasExpired();)
     arrived += terminal_.Receive();
   EXPECT_EQ(arrived, "xrequest");
-  EXPECT_TRUE(Tells("<drained>"));
+  EXPECT_TRUE(ValueDisplay("<drained>"));
   RunForAWhile();
   EXPECT_EQ(told_, "<drained>");
 }
@@ -238,7 +238,7 @@ TEST_F(SerialPortTest, ClosingDropsWhatIsOutstanding) {
     if (character == "?") line_.close();
   };
   terminal_.Send("new?er");
-  EXPECT_TRUE(Tells("new?"));
+  EXPECT_TRUE(ValueDisplay("new?"));
   RunForAWhile();
   EXPECT_EQ(told_, "new?");
 }
@@ -255,7 +255,7 @@ TEST_F(SerialPortTest, EventsWaitInOrderWhileTheProgramIsBusy) {
   EXPECT_EQ(told_, "");
   EXPECT_TRUE(BecomesIdle());
   Resume();
-  EXPECT_TRUE(Tells(sent));
+  EXPECT_TRUE(ValueDisplay(sent));
 
   // A tick finds everything told.
   const std::string ahead(3000, 'a');
@@ -275,29 +275,29 @@ TEST_F(SerialPortTest, ClearingThrowsAwayWhatWaits) {
   Resume();
   RunForAWhile();
   terminal_.Send("new");
-  EXPECT_TRUE(Tells("new"));
+  EXPECT_TRUE(ValueDisplay("new"));
 }
 
 TEST_F(SerialPortTest, BadCharactersBecomeQuestionMarksAndHalfAMarkIsForgottenByTheNextOpening) {
   Open("9600,E,7,1");
   terminal_.Send("a\xFF"s);
-  EXPECT_TRUE(Tells("a\xFF"));
+  EXPECT_TRUE(ValueDisplay("a\xFF"));
   terminal_.SendRaw("b\xFF"s);
   RunForAWhile();
   terminal_.SendRaw("\0c\xFF\xFF\xFF\0\xFFz\xFF"s);
-  EXPECT_TRUE(Tells("a\xFF\x62?\xFF?z"));
+  EXPECT_TRUE(ValueDisplay("a\xFF\x62?\xFF?z"));
   Open("9600,N,8,1");
   terminal_.SendRaw("\0d"s);
-  EXPECT_TRUE(Tells("a\xFF\x62?\xFF?z\0d"s));
+  EXPECT_TRUE(ValueDisplay("a\xFF\x62?\xFF?z\0d"s));
 }
 
 TEST_F(SerialPortTest, ALostPortIsQuietAndFailsTheNextWrite) {
   Open("1200,N,8,1");
-  SerialLine::Error failure;
+  core::SerialLine::Error failure;
   on_told_ = [&](const std::string&) { failure = line_.write("y"); };
   line_.write("x");
   terminal_.HangUp();
-  EXPECT_TRUE(Tells("<drained>"));
+  EXPECT_TRUE(ValueDisplay("<drained>"));
   EXPECT_EQ(failure, "No such device");
   EXPECT_TRUE(BecomesIdle());
   EXPECT_EQ(line_.write("z"), failure);
@@ -312,7 +312,7 @@ TEST_F(SerialPortTest, WhatCameBeforeTheLossIsStillTold) {
   EXPECT_TRUE(RunUntil([&] { return !port_->LastProblem().isEmpty(); }));
   EXPECT_TRUE(BecomesIdle());
   Resume();
-  EXPECT_TRUE(Tells("last"));
+  EXPECT_TRUE(ValueDisplay("last"));
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ namespace {
 
 using namespace std::string_literals;
 
-const SettingValue kNone = "(none)";
+const core::SettingValue kNone = "(none)";
 constexpr auto kKey = "SOFTWARE\\ORB\\OVL Software";
 
 class Settings : public testing::Test {
@@ -27,10 +27,10 @@ class Settings : public testing::Test {
     ASSERT_EQ(file.write(bytes), bytes.size());
   }
 
-  SettingValue At(const char* value) const { return store_.Read(kKey, value).value_or("(none)"); }
+  core::SettingValue At(const char* value) const { return store_.Read(kKey, value).value_or("(none)"); }
 
   QTemporaryDir folder_;
-  SettingsStore store_{folder_.path()};
+  host::SettingsStore store_{folder_.path()};
 };
 
 TEST_F(Settings, WhatIsWrittenIsFoundByTheNextStart) {
@@ -41,7 +41,7 @@ TEST_F(Settings, WhatIsWrittenIsFoundByTheNextStart) {
     EXPECT_EQ(At("Version"), kNone);
     for (const auto& text : {"V1400"s, std::string(300, '\xE4'), "a, b;\"=\\\x01\x80"s}) {
       EXPECT_TRUE(store_.Write(kKey, "Version", text));
-      EXPECT_EQ(At("Version"), SettingValue(text));
+      EXPECT_EQ(At("Version"), core::SettingValue(text));
     }
     EXPECT_TRUE(QFile::remove(File()));
   }
@@ -51,10 +51,10 @@ TEST_F(Settings, AFileWrittenByHandIsReadAsFarAsItHasTextsOfTheProgramsCharacter
   Content(
       "Version=V1300\nRelease=14\nEmpty=\nList=a, b\nForeign=\"\xD0\xB9\"\n"
       "Number=@Variant(\\0\\0\\0\\x2\\0\\0\\x5x)\n\n[Group]\nInside=x\n");
-  const std::map<const char*, SettingValue> rows = {{"Version", "V1300"}, {"Release", "14"},
-                                                    {"Empty", ""},        {"List", "a, b"},
-                                                    {"Foreign", kNone},   {"Number", std::uint32_t{1400}},
-                                                    {"Missing", kNone},   {"Group/Inside", kNone}};
+  const std::map<const char*, core::SettingValue> rows = {
+      {"Version", "V1300"}, {"Release", "14"},      {"Empty", ""},
+      {"List", "a, b"},     {"Foreign", kNone},     {"Number", std::uint32_t{1400}},
+      {"Missing", kNone},   {"Group/Inside", kNone}};
   for (const auto& [value, found] : rows) EXPECT_EQ(At(value), found) << value;
   EXPECT_EQ(store_.Read("SOFTWARE\\ORB", "Version"), std::nullopt);
   EXPECT_FALSE(store_.Write("SOFTWARE\\ORB", "Version", "V1400"));
@@ -69,13 +69,13 @@ TEST_F(Settings, AFileWithOtherTypesIsToldAndPutAsideByTheNextWrite) {
     EXPECT_EQ(store_.WhyNotRead(),
               File().toStdString() + ": it holds a value that is neither text nor number");
     EXPECT_TRUE(store_.Write(kKey, "Version", "V1400"));
-    EXPECT_EQ(At("Version"), SettingValue("V1400"));
+    EXPECT_EQ(At("Version"), core::SettingValue("V1400"));
     QFile aside(File() + ".unsound");
     EXPECT_TRUE(aside.open(QIODevice::ReadOnly) && aside.readAll() == content);
   }
   for (const auto& text : {"@V1400"s, "@Variant("s, "a\0b"s}) {
     EXPECT_TRUE(store_.Write(kKey, "Version", text));
-    EXPECT_EQ(At("Version"), SettingValue(text));
+    EXPECT_EQ(At("Version"), core::SettingValue(text));
   }
 }
 
@@ -97,11 +97,11 @@ TEST_F(Settings, TheMachinesFileIsFoundBehindOtherPlaces) {
   const QTemporaryDir ahead;
   const auto before = qgetenv("XDG_CONFIG_DIRS");
   qputenv("XDG_CONFIG_DIRS", ahead.path().toLocal8Bit() + ':' + folder_.path().toLocal8Bit());
-  const SettingsStore machine;
-  EXPECT_EQ(machine.Read(kKey, "Version"), SettingValue("V1300"));
+  const host::SettingsStore machine;
+  EXPECT_EQ(machine.Read(kKey, "Version"), core::SettingValue("V1300"));
   EXPECT_TRUE(machine.Write(kKey, "Version", "V1400"));
   qputenv("XDG_CONFIG_DIRS", before);
-  EXPECT_EQ(At("Version"), SettingValue("V1400"));
+  EXPECT_EQ(At("Version"), core::SettingValue("V1400"));
 }
 
 }  // namespace

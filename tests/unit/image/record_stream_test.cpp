@@ -37,21 +37,21 @@ std::string Joined(std::string stream) {
 }
 
 // An image that came out of a stream.
-struct Loaded : Application {
-  Loaded(const FirmwareId& its_firmware, std::string_view stream) {
+struct Loaded : core::Application {
+  Loaded(const firmware::FirmwareId& its_firmware, std::string_view stream) {
     firmware = its_firmware;
-    PrepareCapabilities(*this);
+    core::PrepareCapabilities(*this);
     Load(stream);
   }
-  void Load(std::string_view stream) { EXPECT_TRUE(LoadStream(*this, stream)); }
+  void Load(std::string_view stream) { EXPECT_TRUE(core::LoadStream(*this, stream)); }
 };
 
-const FirmwareId kLatest{"V1400", "R12"};
+const firmware::FirmwareId kLatest{"V1400", "R12"};
 
 TEST(RecordStream, EveryFirmwareComposesWhatItDecoded) {
   for (const auto& line : kLines) {
     for (const int release : line.releases) {
-      const FirmwareId firmware{line.version, "R" + std::to_string(release)};
+      const firmware::FirmwareId firmware{line.version, "R" + std::to_string(release)};
       SCOPED_TRACE(firmware.Joined());
       const auto stream = RawPatternStream(firmware);
       EXPECT_EQ(stream.substr(0, 5), line.first);
@@ -69,14 +69,14 @@ TEST(RecordStream, EveryFirmwareComposesWhatItDecoded) {
 // Field, byte offset in its section for the early and late V1400, the old and the new V13xx layout; -1:
 // absent.
 struct Place {
-  FieldId field;
+  image::FieldId field;
   int entry;
   bool in_syscfg;
   int early, late, old_v13, new_v13;
 };
 
 TEST(FieldMap, FieldsStandWhereTheUnitKeepsThem) {
-  using enum FieldId;
+  using enum image::FieldId;
   const Place places[] = {
       {UNITADDR, 1, true, 11, 11, 11, 11},        {REGDV_TYPE_BAK, 1, true, 20, 20, 20, 20},
       {HIST_SRC_ID, 1, true, 31, 31, 31, 31},     {REGTYPE_MINOR, 1, false, 1, 1, 1, 1},
@@ -87,15 +87,15 @@ TEST(FieldMap, FieldsStandWhereTheUnitKeepsThem) {
       {SW_HANDSHAKE, 1, false, 102, 104, -1, -1}, {ECRDIGIT_1, 1, false, -1, 111, -1, -1},
       {BLNKRTS_BAK, 1, false, -1, 112, -1, 79},
   };
-  const std::pair<FirmwareId, int Place::*> layouts[] = {{{"V1400", "R4"}, &Place::early},
-                                                         {kLatest, &Place::late},
-                                                         {{"V1300", "R14"}, &Place::old_v13},
-                                                         {{"V1334", "R1"}, &Place::new_v13}};
+  const std::pair<firmware::FirmwareId, int Place::*> layouts[] = {{{"V1400", "R4"}, &Place::early},
+                                                                   {kLatest, &Place::late},
+                                                                   {{"V1300", "R14"}, &Place::old_v13},
+                                                                   {{"V1334", "R1"}, &Place::new_v13}};
   for (const auto& [firmware, offset] : layouts) {
     const auto stream = Joined(RawPatternStream(firmware, 7));
     const Loaded app(firmware, stream);
     std::string digits;
-    ASSERT_EQ(ParseRecords(stream, ReadRegion(firmware), digits), ParseResult::kOk);
+    ASSERT_EQ(image::ParseRecords(stream, image::ReadRegion(firmware), digits), image::ParseResult::kOk);
     const std::size_t syscfg = firmware.IsV1400() ? 64 : 96;
     for (const auto& place : places) {
       if (place.*offset < 0) continue;
@@ -107,17 +107,18 @@ TEST(FieldMap, FieldsStandWhereTheUnitKeepsThem) {
 }
 
 TEST(FieldMap, FirmwareThatLackAFieldHoldItsSentinelOrZero) {
-  using enum FieldId;
-  const FirmwareId firmware{"V1324", "R18"};
+  using enum image::FieldId;
+  const firmware::FirmwareId firmware{"V1324", "R18"};
   const Loaded app(firmware, Joined(RawPatternStream(firmware)));
-  const std::pair<FieldId, const char*> rows[] = {{IPADDRESS, " ........ATCPIP MODE"},
-                                                  {IGSCFG_BAK, " ........ATM INTERFACE"},
-                                                  {DSPROW, " ........ANSI TERM"},
-                                                  {DSPCOL, " ........AANSI TERM"},
-                                                  {REGTYPE_EXT1, "00"},
-                                                  {REGTYPE_EXT2, "00"}};
+  const std::pair<image::FieldId, const char*> rows[] = {{IPADDRESS, " ........ATCPIP MODE"},
+                                                         {IGSCFG_BAK, " ........ATM INTERFACE"},
+                                                         {DSPROW, " ........ANSI TERM"},
+                                                         {DSPCOL, " ........AANSI TERM"},
+                                                         {REGTYPE_EXT1, "00"},
+                                                         {REGTYPE_EXT2, "00"}};
   for (const auto& [field, held] : rows) {
-    for (int entry = 1; entry <= EntryCount(field); ++entry) EXPECT_EQ(app.image.at(field, entry), held);
+    for (int entry = 1; entry <= image::EntryCount(field); ++entry)
+      EXPECT_EQ(app.image.at(field, entry), held);
   }
 }
 
@@ -128,17 +129,17 @@ TEST(FieldMap, ADefaultLoadTakesOnlyTheRegistersFields) {
       "REG_IDNA_BAK PCDV_TYPE_BAK PC_GNA_BAK PC_LNA_BAK PC_IDNA_BAK MICROS_STATUS DEVICE_INDEX_BAK REGTYPE "
       "REGTYPE_MINOR REGTYPE_EXT1 REGTYPE_EXT2 IPADDRESS ";
   for (const auto& line : kLines) {
-    const FirmwareId firmware{line.version, "R" + std::to_string(line.releases.back())};
+    const firmware::FirmwareId firmware{line.version, "R" + std::to_string(line.releases.back())};
     SCOPED_TRACE(firmware.Joined());
     const Loaded old(firmware, Joined(RawPatternStream(firmware, 1)));
     const Loaded whole(firmware, Joined(RawPatternStream(firmware, 2, 9)));
     Loaded app(firmware, Joined(RawPatternStream(firmware, 1)));
     app.PanelsReady = true;
     app.Load(Joined(RawPatternStream(firmware, 2, 9)));
-    for (const auto& field : FieldTable()) {
+    for (const auto& field : image::FieldTable()) {
       const bool taken = registers.find(std::string(" ").append(field.name).append(" ")) != std::string::npos;
       const auto& from = taken ? whole.image : old.image;
-      for (int entry = 1; entry <= EntryCount(field.id); ++entry) {
+      for (int entry = 1; entry <= image::EntryCount(field.id); ++entry) {
         EXPECT_EQ(app.image.at(field.id, entry), from.at(field.id, entry)) << field.name;
       }
     }
@@ -146,11 +147,11 @@ TEST(FieldMap, ADefaultLoadTakesOnlyTheRegistersFields) {
 }
 
 TEST(RecordStream, BlankTimeFlagOfR7GoesOutOnceAPanelWroteIt) {
-  const FirmwareId firmware{"V1400", "R7"};
+  const firmware::FirmwareId firmware{"V1400", "R7"};
   const auto stream = RawPatternStream(firmware);
   Loaded app(firmware, Joined(stream));
-  EXPECT_EQ(app.image[FieldId::BLNKRTS_BAK], "");
-  app.image[FieldId::BLNKRTS_BAK] = "01";
+  EXPECT_EQ(app.image[image::FieldId::BLNKRTS_BAK], "");
+  app.image[image::FieldId::BLNKRTS_BAK] = "01";
   const auto longer = SectionsToStream(app);
   EXPECT_EQ(longer.size(), stream.size() + 2);
   app.Load(Joined(stream));
@@ -158,14 +159,14 @@ TEST(RecordStream, BlankTimeFlagOfR7GoesOutOnceAPanelWroteIt) {
 }
 
 TEST(RecordStream, WhatStandsOutsideTheFieldsIsIgnoredAndLowerCaseStays) {
-  const FirmwareId old{"V1300", "R14"};
+  const firmware::FirmwareId old{"V1300", "R14"};
   const auto stream = Joined(RawPatternStream(kLatest)), padded = Joined(RawPatternStream(old));
   const auto with = [](std::string text, std::size_t at, const std::string& other) {
     return text.replace(at, other.size(), other);
   };
   std::string every_byte;
   for (int code = 0; code < 256; ++code) every_byte += static_cast<char>(code);
-  const std::tuple<FirmwareId, std::string, std::string> rows[] = {
+  const std::tuple<firmware::FirmwareId, std::string, std::string> rows[] = {
       {kLatest, "junk #$20" + stream, stream},
       {kLatest, stream + "#$2000trailing", stream},
       {kLatest, with(stream, 69, "$ZZZZ"), stream},
@@ -182,10 +183,10 @@ TEST(RecordStream, WhatStandsOutsideTheFieldsIsIgnoredAndLowerCaseStays) {
 
 TEST(RecordStream, AShortStreamLeavesMissingFieldsEmpty) {
   const Loaded app(kLatest, "$2000" + std::string(64, '1') + "$2860" + "22#");
-  EXPECT_EQ(app.image[FieldId::HIST_SRC_ID], "11");
-  EXPECT_EQ(app.image[FieldId::REGTYPE], "22");
-  EXPECT_EQ(app.image[FieldId::REGTYPE_MINOR], "");
-  EXPECT_EQ(app.image.at(FieldId::EXCPSTRS, 24), "");
+  EXPECT_EQ(app.image[image::FieldId::HIST_SRC_ID], "11");
+  EXPECT_EQ(app.image[image::FieldId::REGTYPE], "22");
+  EXPECT_EQ(app.image[image::FieldId::REGTYPE_MINOR], "");
+  EXPECT_EQ(app.image.at(image::FieldId::EXCPSTRS, 24), "");
 }
 
 }  // namespace

@@ -5,13 +5,13 @@ namespace {
 
 constexpr int kRefresh = 11;  // ticks from one refresh of the clock to the next
 
-void ShowTime(Harness& program, const ClockTime& time) {
+void ShowTime(Harness& program, const core::ClockTime& time) {
   program.now = time;
   program.Tick(program.app.frmMain.Timer, kRefresh);
 }
 
 // What the lists show, the day with the length of the month that its list is for.
-std::string Shown(const MainForm& main) {
+std::string Shown(const controls::MainForm& main) {
   std::string days;
   for (std::size_t list = 0; list < 4; ++list) {
     if (main.ComboDay[list].visible) days += main.ComboDay[list].Text() + "/" + std::to_string(28 + list);
@@ -26,7 +26,8 @@ TEST(SetTime, SendsWhatWasPicked) {
   program.Click("CheckTD");
   const std::pair<const char*, int> picks[] = {
       {"ComboHR", 23}, {"ComboMin", 59}, {"ComboSec", 1}, {"ComboYear", 0}, {"ComboMonth", 1}};
-  for (const auto& [list, position] : picks) EXPECT_EQ(program.Pick(list, position), Outcome::kDone) << list;
+  for (const auto& [list, position] : picks)
+    EXPECT_EQ(program.Pick(list, position), core::Outcome::kDone) << list;
   program.Press("CmdUpDow(2)");
   EXPECT_EQ(program.TakeSent(), "/TD02-29-00 23:59:01\r\n\r");
 }
@@ -40,7 +41,7 @@ TEST(Commands, CountTheirSilenceAnewAndSomeTheKeepAliveToo) {
     InState program(State::kHeld);
     program.app.OperatingCount = 3;
     program.app.HandcheckCount = 4;
-    EXPECT_EQ(program.Click(button), Outcome::kDone);
+    EXPECT_EQ(program.Click(button), core::Outcome::kDone);
     const std::pair<int, int> counts(program.app.OperatingCount, program.app.HandcheckCount);
     EXPECT_EQ(counts, std::pair(0, handcheck)) << button;
   }
@@ -52,7 +53,7 @@ TEST(Clock, FollowsTheComputerEveryEleventhTickAndAtOnceWhenTheBoxIsTicked) {
   ShowTime(program, {2024, 2, 29, 23, 59, 58});
   EXPECT_EQ(Shown(main), "02-29/29-24 23:59:58");
   program.now = {2100, 12, 31, 0, 0, 5};
-  EXPECT_EQ(program.Pick("ComboHR", 7), Outcome::kDone);
+  EXPECT_EQ(program.Pick("ComboHR", 7), core::Outcome::kDone);
   program.Tick(main.Timer, kRefresh - 1);
   EXPECT_EQ(Shown(main), "02-29/29-24 07:59:58");
   program.Tick(main.Timer);
@@ -65,7 +66,7 @@ TEST(Clock, FollowsTheComputerEveryEleventhTickAndAtOnceWhenTheBoxIsTicked) {
   EXPECT_EQ(program.app.ClockSecond, "00");
   EXPECT_EQ(program.app.ClockTickCount, 0);
   EXPECT_EQ(main.Timer.interval, 100);
-  EXPECT_EQ(program.Tick(main.Timer), Outcome::kRefused);
+  EXPECT_EQ(program.Tick(main.Timer), core::Outcome::kRefused);
 
   program.now = {2026, 3, 30, 1, 2, 3};
   program.Click("CheckTD");
@@ -86,7 +87,7 @@ TEST(Clock, ADayThatFallsTwiceIsStoredTwice) {
 }
 
 TEST(Clock, ADayThatTheMonthLacksFallsToItsLast) {
-  const std::tuple<ClockTime, const char*, int, std::string> rows[] = {
+  const std::tuple<core::ClockTime, const char*, int, std::string> rows[] = {
       {{2023, 1, 31}, "ComboMonth", 1, "02-28/28-23"},  {{2024, 1, 31}, "ComboMonth", 1, "02-29/29-24"},
       {{2023, 1, 29}, "ComboMonth", 1, "02-28/28-23"},  {{2023, 1, 9}, "ComboMonth", 1, "02-09/28-23"},
       {{2024, 2, 29}, "ComboYear", 23, "02-28/28-23"},  {{2024, 2, 29}, "ComboYear", 0, "02-29/29-00"},
@@ -101,7 +102,7 @@ TEST(Clock, ADayThatTheMonthLacksFallsToItsLast) {
     InState program(State::kClosed);
     ShowTime(program, start);
     program.Click("CheckTD");
-    EXPECT_EQ(program.Pick(list, position), Outcome::kDone);
+    EXPECT_EQ(program.Pick(list, position), core::Outcome::kDone);
     EXPECT_EQ(Shown(program.app.frmMain), shown + " 00:00:00");
     EXPECT_EQ(program.app.ClockDay, shown.substr(3, 2));
   }

@@ -23,12 +23,12 @@ TEST(PortSettings, StartAtTheSameValuesButForThePort) {
       {"Comport_Select", 4}, {"OpBaud", 7}, {"OpParity", 2}, {"OpDataBits", 0}};
   for (const auto& [name, position] : picks) {
     const auto requests = dialog.form.focus_requests;
-    EXPECT_EQ(program.Pick(name, position), Outcome::kDone);
+    EXPECT_EQ(program.Pick(name, position), core::Outcome::kDone);
     EXPECT_GT(dialog.form.focus_requests, requests) << name;
   }
-  app.frmMain.CmdUpDow[kRemote].enabled = false;
+  app.frmMain.CmdUpDow[controls::kRemote].enabled = false;
   program.Click("cmdSET");
-  EXPECT_TRUE(app.frmMain.CmdUpDow[kRemote].enabled);
+  EXPECT_TRUE(app.frmMain.CmdUpDow[controls::kRemote].enabled);
   EXPECT_EQ(app.frmMain.lbConnectting.caption, "Connected at COM 5: 38400,E,7,1");
   const auto& comm = app.frmMain.MSComm1;
   EXPECT_EQ(std::tuple(comm.SThreshold, comm.RThreshold, comm.InputLen), std::tuple(1, 1, 1));
@@ -53,7 +53,7 @@ TEST(PortSettings, APortThatStandsOpenIsClosedFirst) {
   EXPECT_EQ(main.lbRemoteAccess.caption, "No Access");
   program.Scan();
   ExpectState(program.app, State::kScanning);
-  ShowForm(program.app, program.app.frmSettSR.form);
+  core::ShowForm(program.app, program.app.frmSettSR.form);
   program.Click("BaudrateCMD");
   EXPECT_EQ(program.opened, std::vector<std::string>(3, "COM1:9600,N,8,1"));
 }
@@ -111,10 +111,10 @@ TEST(LostDevice, IsToldInTheBoxAndInTheNoteUntilAPortOpens) {
     EXPECT_EQ(program.TakeBox().text, std::string(blanks, ' ') + "Input/output error");
     EXPECT_EQ(program.app.StatusNote, "Comport 1: Input/output error");
     program.open_error = std::nullopt;
-    OpenPort(program.app);
+    link::OpenPort(program.app);
     EXPECT_EQ(program.app.StatusNote, "");
     // Where the end of the link is told in words of its own, the note alone has the reason.
-    Disconnect(program.app);
+    link::Disconnect(program.app);
     EXPECT_EQ(program.app.StatusNote, "Comport 1: Input/output error");
   }
 }
@@ -128,8 +128,8 @@ TEST(WrongParity, LeadsBackToTheFirstRegister) {
 }
 
 TEST(Boxes, OfTheLinkBearNoIcon) {
-  for (const auto& box : BoxTable())
-    EXPECT_TRUE(box.box < Box::kPortFailed || box.icon == BoxIcon::kNone) << box.topic;
+  for (const auto& box : core::BoxTable())
+    EXPECT_TRUE(box.box < core::Box::kPortFailed || box.icon == core::BoxIcon::kNone) << box.topic;
 }
 
 TEST(Hints, ThePointerOverATransferShowsItsOwn) {
@@ -139,7 +139,7 @@ TEST(Hints, ThePointerOverATransferShowsItsOwn) {
                                                {"CmdUpDow(1)", 2}, {"Frame11", 0},     {"CmdUpDow(0)", 1},
                                                {"Frame11", 0}};
   for (const auto& [name, picture] : moves) {
-    Dispatch(program.app, PointEvent{program.app.registry.Find(name)->control});
+    core::Dispatch(program.app, core::PointEvent{program.app.registry.Find(name)->control});
     EXPECT_EQ((pictures[1].visible ? 1 : 0) + (pictures[2].visible ? 2 : 0), picture) << name;
   }
 }

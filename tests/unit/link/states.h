@@ -11,8 +11,8 @@
 
 namespace ovl::testing {
 
-inline const FirmwareId kV1400 = {"V1400", "R12"};
-inline const FirmwareId kV1300 = {"V1300", "R14"};
+inline const firmware::FirmwareId kV1400 = {"V1400", "R12"};
+inline const firmware::FirmwareId kV1300 = {"V1300", "R14"};
 
 inline constexpr const char* kAck = "\x06";
 inline constexpr const char* kCan = "\x18";
@@ -24,7 +24,7 @@ inline constexpr const char* kFailBox =
     "                            !!! Remote Connection Fail. !!!\n"
     "Cable Disconnected Or Communication Setting Wrong ,Try Again";
 
-inline void ExpectState(const Application& app, State state) {
+inline void ExpectState(const core::Application& app, State state) {
   EXPECT_EQ(DifferenceFrom(state, app), "")
       << "from " << NameOf(state) << ", mode " << app.LinkMode << ", timers " << RunningTimers(app);
 }
@@ -33,10 +33,10 @@ inline void ExpectState(const Application& app, State state) {
 // left to ask for.
 class InState : public Harness {
  public:
-  explicit InState(State state, const FirmwareId& firmware = kV1400,
+  explicit InState(State state, const firmware::FirmwareId& firmware = kV1400,
                    const std::vector<std::string>& further_registers = {})
       : Harness(firmware, further_registers) {
-    EXPECT_EQ(Start(), Outcome::kDone);
+    EXPECT_EQ(Start(), core::Outcome::kDone);
     if (state != State::kClosed) OpenPort();
     if (state == State::kAsked) Press(kRemoteButton);
     if (state > State::kAsked) FromHeld(state);
@@ -46,16 +46,16 @@ class InState : public Harness {
 
   // The transmitter runs empty behind it.
   void Press(const char* button) {
-    EXPECT_EQ(Click(button), Outcome::kDone) << button;
+    EXPECT_EQ(Click(button), core::Outcome::kDone) << button;
     DrainAll();
   }
   void OpenPort() {
     Press("cmdConnect");
-    EXPECT_EQ(Click("cmdSET"), Outcome::kDone);
+    EXPECT_EQ(Click("cmdSET"), core::Outcome::kDone);
   }
   void Scan() {
-    EXPECT_EQ(Click("cmdConnect"), Outcome::kDone);
-    EXPECT_EQ(Click("BaudrateCMD"), Outcome::kDone);
+    EXPECT_EQ(Click("cmdConnect"), core::Outcome::kDone);
+    EXPECT_EQ(Click("BaudrateCMD"), core::Outcome::kDone);
   }
   // Remote mode on an open port, its first tick over.
   void Hold() {

@@ -12,11 +12,11 @@ std::string UploadFile(const Harness& program) {
 TEST(Upload, SelectsTheUnitsRegisterWithoutItsDefaults) {
   InState program(State::kUploading, kV1400, {"TCPIP"});
   const auto stream = PatternStream(kV1400, 7, 1);
-  EXPECT_EQ(program.Pick("ComboExcp(0)", 1), Outcome::kDone);
+  EXPECT_EQ(program.Pick("ComboExcp(0)", 1), core::Outcome::kDone);
   program.Unit("#\r\nnoise" + stream + "\r\n");
   EXPECT_EQ(program.app.frmMain.ComboReg.Text(), "TCPIP");
   EXPECT_EQ(program.app.frmMain.ComboExcp[0].position, 0);
-  EXPECT_TRUE(ReadWhole(UploadFile(program)) == stream + "\r\n");
+  EXPECT_TRUE(files::ReadWhole(UploadFile(program)) == stream + "\r\n");
   program.Press("frmOK_buttom.Command1");
   program.Hold();
   program.app.frmMain.OpDVR.chosen = -1;
@@ -51,7 +51,7 @@ TEST(Upload, ThatFailsInsideStopsUntilTheWatchdogEndsIt) {
     if (no_file) {
       std::filesystem::create_directories(UploadFile(program) + "/inside");
     } else {
-      app.Setting_Code.push_back({[](Application&) { throw Failure("panel", "broken"); }, false});
+      app.Setting_Code.push_back({[](core::Application&) { throw core::Failure("panel", "broken"); }, false});
     }
     const auto image = app.image;
     program.Unit(PatternStream(kV1400, 7));
@@ -72,13 +72,14 @@ TEST(Upload, ThatFailsInsideStopsUntilTheWatchdogEndsIt) {
 TEST(UnknownFamily, TouchesNoFileAndHasNothingToSend) {
   InState program(State::kUploading, {"V1500", "R1"});
   auto& app = program.app;
-  WriteWhole(UploadFile(program), "kept");
-  const auto entry = app.image[FieldId::EXECENTRY], type = app.image[FieldId::REGTYPE];
+  files::WriteWhole(UploadFile(program), "kept");
+  const auto entry = app.image[image::FieldId::EXECENTRY], type = app.image[image::FieldId::REGTYPE];
   program.Unit(PatternStream(kV1400, 7));
   EXPECT_EQ(app.frmOK_buttom.Label1.caption, "Upload Completed.");
   EXPECT_TRUE(app.PanelsReady && !app.UploadApplying);
-  EXPECT_EQ(ReadWhole(UploadFile(program)), "kept");
-  EXPECT_EQ(std::pair(app.image[FieldId::EXECENTRY], app.image[FieldId::REGTYPE]), std::pair(entry, type));
+  EXPECT_EQ(files::ReadWhole(UploadFile(program)), "kept");
+  EXPECT_EQ(std::pair(app.image[image::FieldId::EXECENTRY], app.image[image::FieldId::REGTYPE]),
+            std::pair(entry, type));
   program.Press("frmOK_buttom.Command1");
   program.Hold();
   EXPECT_EQ(program.Download(), "");

@@ -16,28 +16,28 @@
 
 namespace ovl::testing {
 
-using enum FieldId;
+using enum image::FieldId;
 
 // A release before the one in which its family changed; V1310 and V1334 have no such one.
-inline bool Before(const FirmwareId& firmware, int v1400, int v1300, int v1324) {
+inline bool Before(const firmware::FirmwareId& firmware, int v1400, int v1300, int v1324) {
   const auto& version = firmware.version;
   const int first = version == "V1400" ? v1400 : version == "V1300" ? v1300 : version == "V1324" ? v1324 : 0;
   return firmware.Number() < first;
 }
 
 // The firmware whose demo counts its lists from 1.
-inline bool HasOldDemo(const FirmwareId& firmware) {
+inline bool HasOldDemo(const firmware::FirmwareId& firmware) {
   return Before(firmware, 2, 27, 26);
 }
 
 // The image that a firmware's first register brings in whole. A firmware's images are written once.
-inline const std::string& FirstImage(const FirmwareId& firmware) {
+inline const std::string& FirstImage(const firmware::FirmwareId& firmware) {
   static std::map<std::string, std::string> images;
   auto& image = images[firmware.Joined()];
   if (image.empty()) {
     const TemporaryFolder folder;
-    WriteDefaultImages(folder.Path().string(), firmware);
-    image = ReadWhole(folder.File(firmware.version + "/" + firmware.release + "/GENERIC.bin"));
+    images::WriteDefaultImages(folder.Path().string(), firmware);
+    image = files::ReadWhole(folder.File(firmware.version + "/" + firmware.release + "/GENERIC.bin"));
   }
   return image;
 }
@@ -47,10 +47,10 @@ inline std::string Member(std::string_view array, int member) {
 }
 
 // A wide range in the slots, and a narrow one.
-inline const FirmwareId kFamilies[] = {kLatest, {"V1300", "R14"}};
+inline const firmware::FirmwareId kFamilies[] = {kLatest, {"V1300", "R14"}};
 
 // Ten or six bytes that no two places share.
-inline std::string RangeOf(const FirmwareId& firmware) {
+inline std::string RangeOf(const firmware::FirmwareId& firmware) {
   return firmware.IsV1400() ? "01234567899876543210" : "012345678987";
 }
 
@@ -60,7 +60,7 @@ inline std::string Slot(int flags, const std::string& range, std::string text) {
   const auto last = text.find_last_not_of(' ', 38);
   std::replace(text.begin(), text.end(), '?', '\x7F');
   const int length = last == std::string::npos ? 0 : static_cast<int>(last) + 1;
-  return ByteToHex(flags) + range + ByteToHex(length) + TextToHex(text) + "00";
+  return codecs::ByteToHex(flags) + range + codecs::ByteToHex(length) + codecs::TextToHex(text) + "00";
 }
 
 // "1", "3" and so on to "240", and the last: what the unit counts down from.
@@ -68,28 +68,30 @@ constexpr const char* kDurations[] = {"FF", "FD", "FB", "F6", "F1", "EC", "E2", 
 
 class PanelProgram : public Installed {
  public:
-  explicit PanelProgram(const FirmwareId& firmware) : Installed(firmware, Images::kOwn) {
-    WriteWhole(PathOf("GENERIC"), FirstImage(firmware));
-    EXPECT_EQ(Start(), Outcome::kDone);
+  explicit PanelProgram(const firmware::FirmwareId& firmware) : Installed(firmware, Images::kOwn) {
+    files::WriteWhole(PathOf("GENERIC"), FirstImage(firmware));
+    EXPECT_EQ(Start(), core::Outcome::kDone);
     Mark();
   }
 
-  Outcome Press(Form& form, Key key) { return Dispatch(app, KeyEvent{&form, key}); }
+  core::Outcome Press(controls::Form& form, core::Key key) {
+    return Dispatch(app, core::KeyEvent{&form, key});
+  }
 
   int At(std::string_view name) { return ListOf(name).position; }
   bool Visible(std::string_view name) { return Control(name).visible; }
   bool Enabled(std::string_view name) { return Control(name).enabled; }
-  std::string& Byte(FieldId field, int entry = 1) { return app.image.at(field, entry); }
-  Outcome ShowAlarm(int alarm) { return Pick("ComboALM(0)", alarm - 1); }
-  Outcome ShowSlot(int slot) { return Pick("ComboExcp(0)", slot - 1); }
+  std::string& Byte(image::FieldId field, int entry = 1) { return app.image.at(field, entry); }
+  core::Outcome ShowAlarm(int alarm) { return Pick("ComboALM(0)", alarm - 1); }
+  core::Outcome ShowSlot(int slot) { return Pick("ComboExcp(0)", slot - 1); }
 
-  Outcome Open(std::string_view stream) {
+  core::Outcome Open(std::string_view stream) {
     const auto path = folder.File("opened.bin");
-    WriteWhole(path, std::string(stream) + "\r\n");
+    files::WriteWhole(path, std::string(stream) + "\r\n");
     return Installed::Open(path);
   }
   // Sends the image out and takes it in again, from a file or from the unit.
-  Outcome Reload(bool by_upload = false) {
+  core::Outcome Reload(bool by_upload = false) {
     const auto stream = SectionsToStream(app);
     if (!by_upload) return Open(stream);
     Click("cmdDisConnect");
@@ -102,15 +104,15 @@ class PanelProgram : public Installed {
   std::string Load(Bytes bytes) {
     for (const auto& [field, byte] : bytes) app.image[field] = byte;
     Mark();
-    EXPECT_EQ(Reload(), Outcome::kDone);
+    EXPECT_EQ(Reload(), core::Outcome::kDone);
     return Written();
   }
 
   // Through the text dialog that the button opens.
-  Outcome EnterText(std::string_view button, std::string text) {
+  core::Outcome EnterText(std::string_view button, std::string text) {
     Click(button);
     Type(app.frmSetEXCPSTR.Text1, std::move(text));
-    return Press(app.frmSetEXCPSTR.form, Key::kEnter);
+    return Press(app.frmSetEXCPSTR.form, core::Key::kEnter);
   }
 };
 

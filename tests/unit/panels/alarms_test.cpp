@@ -5,7 +5,7 @@ namespace ovl::testing {
 namespace {
 
 // Trigger, duration and its place, and what one family alone has behind them.
-std::string Alarm(const FirmwareId& firmware, const std::string& four_bytes) {
+std::string Alarm(const firmware::FirmwareId& firmware, const std::string& four_bytes) {
   return four_bytes.substr(0, firmware.IsV1400() ? 8 : 6);
 }
 
@@ -17,7 +17,7 @@ TEST(Alarms, ARecordHasItsTriggerItsDurationAndItsVideoLoss) {
       SCOPED_TRACE(Member(list, position));
       program.Byte(ALMSTRUCT_BAK, 2) = Alarm(firmware, "EEF60307");
       program.ShowAlarm(2);
-      ASSERT_EQ(program.Pick(list, position), Outcome::kDone);
+      ASSERT_EQ(program.Pick(list, position), core::Outcome::kDone);
       for (const bool again : {false, true}) {
         if (again) program.ShowAlarm(2);
         EXPECT_EQ(program.Byte(ALMSTRUCT_BAK, 2), Alarm(firmware, stored));
@@ -27,10 +27,13 @@ TEST(Alarms, ARecordHasItsTriggerItsDurationAndItsVideoLoss) {
         EXPECT_FALSE(program.Visible("lbAlmTrig"));
       }
     };
-    for (int at = 0; at <= 28; ++at) expect("ComboALM(1)", at, ByteToHex(at) + "F60307", at != 0 && at != 28);
-    for (int at = 0; at < 12; ++at) expect("ComboALM(3)", at, "EE" + (kDurations[at] + ByteToHex(at)) + "07");
-    for (int at = 0; firmware.IsV1400() && at < 10; ++at) expect("ComboALM(6)", at, "EEF603" + ByteToHex(at));
-    EXPECT_EQ(program.Pick("ComboALM(1)", 29), Outcome::kRefused);
+    for (int at = 0; at <= 28; ++at)
+      expect("ComboALM(1)", at, codecs::ByteToHex(at) + "F60307", at != 0 && at != 28);
+    for (int at = 0; at < 12; ++at)
+      expect("ComboALM(3)", at, "EE" + (kDurations[at] + codecs::ByteToHex(at)) + "07");
+    for (int at = 0; firmware.IsV1400() && at < 10; ++at)
+      expect("ComboALM(6)", at, "EEF603" + codecs::ByteToHex(at));
+    EXPECT_EQ(program.Pick("ComboALM(1)", 29), core::Outcome::kRefused);
     program.Byte(ALMSTRUCT_BAK, 3) = Alarm(firmware, "1CF10407");
     for (const char* unknown : {"1DF20407", "FFF30407", "1E040407"}) {
       program.Byte(ALMSTRUCT_BAK, 4) = Alarm(firmware, unknown);
@@ -52,14 +55,14 @@ TEST(Alarms, TheNormalStateIsABitOfTheAlarmButForTheNinth) {
     for (const int closed : {1, 0}) {
       lower = upper = closed == 1 ? "00" : "FF";
       program.ShowAlarm(alarm);
-      ASSERT_EQ(program.Pick("ComboALM(2)", closed), Outcome::kDone);
+      ASSERT_EQ(program.Pick("ComboALM(2)", closed), core::Outcome::kDone);
       EXPECT_EQ(program.At("ComboALM(2)"), closed);
       const int states = closed == 1 ? bit : 0xFFFF - bit;
       for (const int shown : {9, 16, 1, 10, 8, 2, 15, 3, 14, 4, 13, 5, 12, 6, 11, 7, 9}) {
         program.ShowAlarm(shown);
         EXPECT_EQ(program.At("ComboALM(2)"), states >> (shown - 1) & 1) << alarm << ", shown " << shown;
       }
-      EXPECT_EQ(upper + lower, ByteToHex(states >> 8) + ByteToHex(states & 0xFF)) << alarm;
+      EXPECT_EQ(upper + lower, codecs::ByteToHex(states >> 8) + codecs::ByteToHex(states & 0xFF)) << alarm;
     }
   }
 }
@@ -82,7 +85,7 @@ TEST(Alarms, WhatElseAnAlarmHasGoesByTheFirmware) {
       SCOPED_TRACE(list);
       EXPECT_EQ(program.At(list) == shown, has);
       program.Mark();
-      EXPECT_EQ(program.Pick(list, shown == 1 ? 0 : 4), has ? Outcome::kDone : Outcome::kRefused);
+      EXPECT_EQ(program.Pick(list, shown == 1 ? 0 : 4), has ? core::Outcome::kDone : core::Outcome::kRefused);
       EXPECT_EQ(program.Written(), has ? written : "");
     }
   }
@@ -96,9 +99,9 @@ TEST(Alarms, ALoadShowsTheFirstAlarmAndSlotAnewWhicheverWereShown) {
       SCOPED_TRACE(before);
       program.ShowAlarm(before);
       program.ShowSlot(before);
-      program.Byte(ALMSTRUCT_BAK, 1) = ByteToHex(++trigger) + "FF0000";
-      program.Byte(EXCPSTRS, 1) = ByteToHex(trigger % 2) + program.Byte(EXCPSTRS, 3).substr(2);
-      ASSERT_EQ(program.Reload(upload), Outcome::kDone);
+      program.Byte(ALMSTRUCT_BAK, 1) = codecs::ByteToHex(++trigger) + "FF0000";
+      program.Byte(EXCPSTRS, 1) = codecs::ByteToHex(trigger % 2) + program.Byte(EXCPSTRS, 3).substr(2);
+      ASSERT_EQ(program.Reload(upload), core::Outcome::kDone);
       EXPECT_EQ(program.At("ComboALM(0)"), 0);
       EXPECT_EQ(program.At("ComboALM(1)"), trigger);
       EXPECT_EQ(program.At("ComboExcp(0)"), 0);
@@ -114,10 +117,10 @@ TEST(ScrollMatching, SwitchAndTimeoutGoTogether) {
   for (const auto& [timeout, list, position, after] : rows) {
     SCOPED_TRACE(std::to_string(timeout) + ": " + std::to_string(list) + " " + std::to_string(position));
     program.Pick("ComboScroll(1)", timeout);
-    ASSERT_EQ(program.Pick(Member("ComboScroll", list), position), Outcome::kDone);
+    ASSERT_EQ(program.Pick(Member("ComboScroll", list), position), core::Outcome::kDone);
     EXPECT_EQ(program.At("ComboScroll(0)"), after == 0 ? 0 : 1);
     EXPECT_EQ(program.At("ComboScroll(1)"), after);
-    EXPECT_EQ(program.Byte(SCROLLMATCH_BAK), ByteToHex(after));
+    EXPECT_EQ(program.Byte(SCROLLMATCH_BAK), codecs::ByteToHex(after));
   }
   // A timeout that the list lacks is on, and leaves the list.
   for (const auto& [stored, timeout] : {std::pair{"04", 4}, {"00", 0}, {"06", 0}, {"05", 5}, {"FF", 5}}) {

@@ -17,7 +17,7 @@ TEST(Demo, TheCheckMarkIsTheHighestBitAndShowsWhatTheFirmwareHas) {
     expect_shown(false);
     program.Byte(DEMO_ENABLE) = "5A";
     for (const bool on : {true, false}) {
-      ASSERT_EQ(program.Click("DemoMode"), Outcome::kDone);
+      ASSERT_EQ(program.Click("DemoMode"), core::Outcome::kDone);
       EXPECT_EQ(program.Byte(DEMO_ENABLE), on ? "DA" : "5A");
       expect_shown(on);
     }
@@ -31,7 +31,7 @@ TEST(Demo, TheCheckMarkIsTheHighestBitAndShowsWhatTheFirmwareHas) {
 TEST(Demo, AReleaseIsComparedNumberByNumber) {
   for (const char* release : {"R0", "R3", "R5", "R8", "R10", "R13", "R20"}) {
     Installed program({"V1400", release}, Images::kFirstRegister);
-    ASSERT_EQ(program.Click("DemoMode"), Outcome::kDone);
+    ASSERT_EQ(program.Click("DemoMode"), core::Outcome::kDone);
     EXPECT_TRUE(program.Control("CharacterList").visible);
     for (const char* name : {"DemoType", "DemoSpeed"})
       EXPECT_EQ(program.Control(name).visible, program.app.firmware.Number() >= 13) << name;
@@ -55,14 +55,16 @@ TEST(Dvr, ARecorderEnablesItsPairAndALoadShowsTheIds) {
     PanelProgram picked(firmware), loaded(firmware);
     for (const int recorder : {1, 2, 0, 2, 1, 1}) {
       const bool offered = recorder != 2 || two_pairs;
-      EXPECT_EQ(picked.Effect("OpDVR", recorder), offered ? "HIST_REG=" + ByteToHex(recorder) : "refused");
+      EXPECT_EQ(picked.Effect("OpDVR", recorder),
+                offered ? "HIST_REG=" + codecs::ByteToHex(recorder) : "refused");
       if (offered) expect_pairs(picked, recorder == 1, recorder == 2);
     }
     const int second_pair = loaded.At("ComboKLM4011(2)");
     int chosen = 0;
     for (const int recorder : {1, 255, 1, 0, 2, 255, 1}) {
-      EXPECT_EQ(loaded.Load({{HIST_REG, ByteToHex(recorder)}, {HIST_DEST_ID, "03"}, {HIST_SRC_ID, "20"}}),
-                "");
+      EXPECT_EQ(
+          loaded.Load({{HIST_REG, codecs::ByteToHex(recorder)}, {HIST_DEST_ID, "03"}, {HIST_SRC_ID, "20"}}),
+          "");
       const int ids[] = {2, 31, two_pairs ? 2 : second_pair, two_pairs ? 31 : second_pair};
       for (int member = 0; member < 4; ++member)
         EXPECT_EQ(loaded.At(Member("ComboKLM4011", member)), ids[member]) << member;
@@ -82,28 +84,28 @@ TEST(UnknownFamily, ShowsItsRecorderAndItsCheckMarkAndKeepsTheRest) {
   program.Mark();
   for (const char* list : {"ComboALM(1)", "ComboALM(2)", "ComboALM(3)", "ComboTrigger(0)", "ComboTrigger(2)",
                            "ComboExcp(1)", "ComboExcp(5)"})
-    ASSERT_EQ(program.Pick(list, 1), Outcome::kDone) << list;
+    ASSERT_EQ(program.Pick(list, 1), core::Outcome::kDone) << list;
   for (const char* button : {"cmdSetTrigger", "frmSetEXCPSTR.cmdSET", "cmdSetExcpstr", "frmSetEXCPSTR.cmdSET",
                              "cmdSetRange", "frmSetRange.cmdSetRange"}) {
-    ASSERT_EQ(program.Click(button), Outcome::kDone) << button;
+    ASSERT_EQ(program.Click(button), core::Outcome::kDone) << button;
     app.frmSetEXCPSTR.Text1.text = "typed";
   }
   EXPECT_EQ(main.TextException.text, "typed");
   EXPECT_EQ(program.Written(), "");
   EXPECT_FALSE(app.ImageTouched);
-  ASSERT_EQ(program.Pick("ComboALM(4)", 3), Outcome::kDone);
+  ASSERT_EQ(program.Pick("ComboALM(4)", 3), core::Outcome::kDone);
   EXPECT_EQ(program.Written(), "ALMCFG_BAK=03");
   EXPECT_TRUE(app.ImageTouched) << "the next register brings its own fields only";
 
-  const std::pair<FieldId, const char*> bytes[] = {{HIST_REG, "01"},
-                                                   {HIST_DEST_ID, "05"},
-                                                   {DEMO_ENABLE, "81"},
-                                                   {IOCFG_BAK, "1D"},
-                                                   {ALMSTRUCT_BAK, "01FF00"}};
+  const std::pair<image::FieldId, const char*> bytes[] = {{HIST_REG, "01"},
+                                                          {HIST_DEST_ID, "05"},
+                                                          {DEMO_ENABLE, "81"},
+                                                          {IOCFG_BAK, "1D"},
+                                                          {ALMSTRUCT_BAK, "01FF00"}};
   for (const auto& [field, byte] : bytes) app.image[field] = byte;
   const auto file = program.folder.File("opened.bin");
-  WriteWhole(file, PatternStream(kLatest) + "\r\n");
-  ASSERT_EQ(program.Open(file), Outcome::kDone);
+  files::WriteWhole(file, PatternStream(kLatest) + "\r\n");
+  ASSERT_EQ(program.Open(file), core::Outcome::kDone);
   EXPECT_EQ(main.OpDVR.chosen, 1);
   EXPECT_TRUE(main.DemoMode.checked && main.CharacterList.visible);
   EXPECT_NE(main.ComboKLM4011[0].position, 4);
@@ -111,7 +113,7 @@ TEST(UnknownFamily, ShowsItsRecorderAndItsCheckMarkAndKeepsTheRest) {
   EXPECT_NE(main.ComboCOMM[0].position, 1);
   for (const auto& [list, position] :
        {std::pair{"ComboALM(0)", 0}, {"ComboALM(3)", 5}, {"ComboCOMM(0)", 2}, {"CharacterList", 1}})
-    ASSERT_EQ(program.Pick(list, position), Outcome::kDone) << list;
+    ASSERT_EQ(program.Pick(list, position), core::Outcome::kDone) << list;
   for (const auto& [field, byte] : bytes) EXPECT_EQ(app.image[field], byte);
 }
 

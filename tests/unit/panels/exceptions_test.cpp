@@ -14,7 +14,7 @@ TEST(Exceptions, FlagsAreLoadedOverWhatTheSlotBeforeShowed) {
   for (const auto& firmware : kFamilies) {
     PanelProgram program(firmware);
     const auto slot = [&](const std::string& flags, const char* text) {
-      return Slot(HexToInt(flags), RangeOf(firmware), text);
+      return Slot(codecs::HexToInt(flags), RangeOf(firmware), text);
     };
     for (const auto& row : Split(rows, '|')) {
       SCOPED_TRACE(row);
@@ -57,7 +57,7 @@ TEST(Exceptions, ScrollMatchingTakesTheOtherActionsAway) {
   PanelProgram program({"V1334", "R1"});
   for (const int list : {1, 2, 3, 5}) program.Pick(Member("ComboExcp", list), 1);
   for (const int matching : {1, 0}) {
-    ASSERT_EQ(program.Pick("ComboExcp(4)", matching), Outcome::kDone);
+    ASSERT_EQ(program.Pick("ComboExcp(4)", matching), core::Outcome::kDone);
     EXPECT_EQ(program.Byte(EXCPSTRS).substr(0, 2), matching == 1 ? "54" : "14");
     for (const int list : {1, 2, 3}) {
       EXPECT_EQ(program.At(Member("ComboExcp", list)), 0);
@@ -82,7 +82,7 @@ TEST(ExceptionReport, EveryClickStoresOutputAndTimeStamp) {
 }
 
 // The fields of the window, and its separator.
-std::string Fields(const RangeForm& form) {
+std::string Fields(const controls::RangeForm& form) {
   return form.Range_Hi.text + " " + form.SubRange_Hi.text + " " + form.Range_Low.text + " " +
          form.SubRange_Low.text + " " + form.lbDec.caption;
 }
@@ -111,10 +111,10 @@ TEST(Range, IsShownDigitByDigitAndFilledFromTheSlot) {
       program.ShowSlot(2);
       EXPECT_EQ(Shown(program), signed_text(wide ? "01234567.89 98765432.10" : "0123.45 6789.87"));
       program.Byte(EXCPSTRS, 2).replace(2, 4, "4321");  // the slot wins over what is shown
-      ASSERT_EQ(program.Click("cmdSetRange"), Outcome::kDone);
+      ASSERT_EQ(program.Click("cmdSetRange"), core::Outcome::kDone);
       EXPECT_EQ(Fields(form), signed_text(wide ? "43214567 89 98765432 10 ." : "4321 45 6789 87 ."));
       EXPECT_EQ(form.ComboDec.Text(), signed_text("."));
-      EXPECT_EQ(program.Pick("ComboExcp(0)", 4), Outcome::kRefused);
+      EXPECT_EQ(program.Pick("ComboExcp(0)", 4), core::Outcome::kRefused);
       program.Close(form.form);
       EXPECT_TRUE(program.app.frmMain.form.enabled);
     }
@@ -138,14 +138,14 @@ TEST(Range, AFieldTakesItsDigitsAndIsPutInFormWhenLeft) {
         const bool decimal = box == &form.SubRange_Hi || box == &form.SubRange_Low;
         const bool fits = !decimal || words[0].size() <= 2;
         const auto left = !fits ? box->text : decimal ? words[2] : zeros + words[1];
-        EXPECT_EQ(program.Type(*box, words[0]), fits ? Outcome::kDone : Outcome::kRefused);
-        EXPECT_EQ(program.Leave(*box), Outcome::kDone);
+        EXPECT_EQ(program.Type(*box, words[0]), fits ? core::Outcome::kDone : core::Outcome::kRefused);
+        EXPECT_EQ(program.Leave(*box), core::Outcome::kDone);
         EXPECT_EQ(box->text, left);
       }
     }
     for (auto* box : {&form.Range_Hi, &form.Range_Low}) {
-      EXPECT_EQ(program.Type(*box, zeros + "12345"), Outcome::kRefused);
-      EXPECT_EQ(program.Type(*box, zeros + "1234"), Outcome::kDone);
+      EXPECT_EQ(program.Type(*box, zeros + "12345"), core::Outcome::kRefused);
+      EXPECT_EQ(program.Type(*box, zeros + "1234"), core::Outcome::kDone);
     }
   }
 }
@@ -157,7 +157,7 @@ TEST(Range, OfAnUnknownFamilyIsThatOfThePanelAndStaysAsTyped) {
   slot = Slot(0, "012345678987", "x");
   program.Pick("ComboExcp(0)", 1);
   slot.replace(2, 4, "4321");
-  ASSERT_EQ(program.Click("cmdSetRange"), Outcome::kDone);
+  ASSERT_EQ(program.Click("cmdSetRange"), core::Outcome::kDone);
   EXPECT_EQ(Fields(form), "0123 45 6789 87 .");
   for (auto* box : {&form.Range_Hi, &form.SubRange_Hi, &form.Range_Low}) {
     program.Type(*box, "7");
@@ -203,7 +203,7 @@ TEST(Range, SetReplacesTheDigitsAloneAndTheSeparatorIsStoredAtOnce) {
       program.Close(form.form);
       program.ShowSlot(6);
     }
-    ASSERT_EQ(program.Click("frmSetRange.cmdSetRange"), Outcome::kDone);
+    ASSERT_EQ(program.Click("frmSetRange.cmdSetRange"), core::Outcome::kDone);
     EXPECT_EQ(program.Byte(EXCPSTRS, 6), slot(std::string(wide ? 20 : 12, '0')));
   }
 }

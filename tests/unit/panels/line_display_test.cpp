@@ -42,7 +42,7 @@ TEST(Communication, TheNetworkTypeRulesItsPanelAndALoadStoresNothing) {
       {"NET_TYPE=02 NET_BAUDRATE=08", "100 5 8 ruled", "100 5 5 ruled"},
       {"NET_ADDRESS=00 NET_TYPE=03", "111 0 2 free", "111 0 1 free"}};
   for (const char* release : {"R1", "R2", "R4", "R6", "R7", "R11", "R12"}) {
-    const FirmwareId firmware{"V1400", release};
+    const firmware::FirmwareId firmware{"V1400", release};
     PanelProgram picked(firmware), loaded(firmware);
     for (int type = 0; type < 4; ++type) {
       SCOPED_TRACE(type);
@@ -51,11 +51,11 @@ TEST(Communication, TheNetworkTypeRulesItsPanelAndALoadStoresNothing) {
       const bool one_more = type == 1 && firmware.Number() < 3;
       for (const auto& [member, position] : {std::pair{9, 2}, {10, 5}, {11, 1}, {12, 2}}) {
         picked.Reveal(Comm(member));
-        ASSERT_EQ(picked.Pick(Comm(member), position), Outcome::kDone);
+        ASSERT_EQ(picked.Pick(Comm(member), position), core::Outcome::kDone);
       }
       EXPECT_EQ(picked.Effect(Comm(9), type), written);
       EXPECT_EQ(Network(picked), one_more ? "010 0 8 ruled" : after_pick);
-      const auto byte = ByteToHex(type);
+      const auto byte = codecs::ByteToHex(type);
       EXPECT_EQ(
           loaded.Load({{NET_TYPE, byte}, {NET_ADDRESS, "05"}, {NET_PROTOCOL, "02"}, {NET_BAUDRATE, "01"}}),
           "");
@@ -79,7 +79,7 @@ TEST(Communication, ANetworkProtocolBringsItsSpeedAndACoverKeepsItsText) {
   for (const auto& [protocol, speed] : {std::pair{0, 3}, {1, 8}, {2, 5}}) {
     program.Pick(Comm(12), 0);
     EXPECT_EQ(program.Effect(Comm(11), protocol),
-              "NET_PROTOCOL=" + ByteToHex(protocol) + " NET_BAUDRATE=" + ByteToHex(speed));
+              "NET_PROTOCOL=" + codecs::ByteToHex(protocol) + " NET_BAUDRATE=" + codecs::ByteToHex(speed));
     EXPECT_EQ(program.At(Comm(12)), speed);
   }
   program.Mark();
@@ -97,14 +97,14 @@ TEST(Display, ABlankTimeIsStoredAndWipesFlagsThatAreStillShown) {
   for (int time = 0; time <= kRts; ++time) {
     const int mask = time == 3 ? 0xFF : time >= 11 ? 0xF0 : 0xF1;
     for (const int flags : {0xFF, 0x0E, 0x00, 0xAB}) {
-      const auto wiped = (flags & mask) == flags ? "" : "DSPCFG_BAK=" + ByteToHex(flags & mask) + " ";
-      EXPECT_EQ(program.Effect("ComboDIP(0)", time, {{DSPCFG_BAK, ByteToHex(flags)}}),
-                wiped + "BLNKVAL=" + kDurations[std::min(time, 11)] + " BLNKIND=" + ByteToHex(time) +
+      const auto wiped = (flags & mask) == flags ? "" : "DSPCFG_BAK=" + codecs::ByteToHex(flags & mask) + " ";
+      EXPECT_EQ(program.Effect("ComboDIP(0)", time, {{DSPCFG_BAK, codecs::ByteToHex(flags)}}),
+                wiped + "BLNKVAL=" + kDurations[std::min(time, 11)] + " BLNKIND=" + codecs::ByteToHex(time) +
                     " BLNKRTS_BAK=" + (time == kRts ? "01" : "00"));
     }
     for (const int list : {2, 3, 5}) EXPECT_EQ(program.At(Member("ComboDIP", list)), 1);
   }
-  EXPECT_EQ(program.Pick("ComboDIP(0)", 13), Outcome::kRefused);
+  EXPECT_EQ(program.Pick("ComboDIP(0)", 13), core::Outcome::kRefused);
 }
 
 TEST(Display, CounterAndFlagShowTheBlankTimeAndItsPlaceDoesNot) {
@@ -136,10 +136,10 @@ TEST(Display, ClockAndTitleEachNeedALine) {
         if (initial == 't') program.Pick("ComboTD(5)", title);
         if (initial == 'l') program.Pick("ComboDIP(1)", number >> 2);
       }
-      EXPECT_EQ(program.Byte(DSPCFG_BAK), ByteToHex(0x20 | clock << 7 | title << 4));
+      EXPECT_EQ(program.Byte(DSPCFG_BAK), codecs::ByteToHex(0x20 | clock << 7 | title << 4));
       for (const bool later : {false, true}) {
         EXPECT_EQ(program.At("ComboDIP(1)"), lines);
-        EXPECT_EQ(program.Byte(DSPLINES_BAK), ByteToHex(lines + 1));
+        EXPECT_EQ(program.Byte(DSPLINES_BAK), codecs::ByteToHex(lines + 1));
         if (later) continue;
         // Neither takes its line away again.
         program.Pick("ComboTD(0)", 0);

@@ -7,7 +7,7 @@ namespace {
 // The first position stores `first`, each further one `step` more, within the bits of the mask.
 struct Selection {
   const char* list;
-  FieldId field;
+  image::FieldId field;
   int mask, first, step, entries;
 };
 
@@ -50,26 +50,26 @@ void ExpectStored(PanelProgram& program, const Selection& row, const std::vector
     for (const int before : {0x00, 0xFF, 0x5B}) {
       const int after = (before & ~row.mask) | stored[static_cast<std::size_t>(position)];
       const auto written =
-          program.Effect(row.list, position, {{TIMESTAMP_ENA, "00"}, {row.field, ByteToHex(before)}});
-      EXPECT_EQ(program.Byte(row.field), ByteToHex(after)) << position << " over " << before;
+          program.Effect(row.list, position, {{TIMESTAMP_ENA, "00"}, {row.field, codecs::ByteToHex(before)}});
+      EXPECT_EQ(program.Byte(row.field), codecs::ByteToHex(after)) << position << " over " << before;
       EXPECT_EQ(std::count(written.begin(), written.end(), '='), after == before ? 0 : 1) << written;
     }
   }
-  EXPECT_EQ(program.Pick(row.list, row.entries), Outcome::kRefused);
+  EXPECT_EQ(program.Pick(row.list, row.entries), core::Outcome::kRefused);
 }
 
 void ExpectShown(PanelProgram& program, const Selection& row, const std::vector<int>& stored) {
   SCOPED_TRACE(row.list);
   for (int position = 0; position < row.entries; ++position) {
     for (const int others : {0x00, 0xFF & ~row.mask}) {
-      const auto byte = ByteToHex(stored[static_cast<std::size_t>(position)] | others);
+      const auto byte = codecs::ByteToHex(stored[static_cast<std::size_t>(position)] | others);
       EXPECT_EQ(program.Load({{row.field, byte}}), "");
       EXPECT_EQ(program.Selected(row.list), position) << byte;
     }
   }
   for (const int odd : {row.first - 1, stored.back() + 1, 255}) {
     if (odd < 0 || std::find(stored.begin(), stored.end(), odd & row.mask) != stored.end()) continue;
-    EXPECT_EQ(program.Load({{row.field, ByteToHex(odd)}}), "");
+    EXPECT_EQ(program.Load({{row.field, codecs::ByteToHex(odd)}}), "");
     EXPECT_EQ(program.Selected(row.list), row.entries - 1) << "what the list lacks leaves it";
   }
 }
@@ -107,11 +107,11 @@ TEST(Selections, ANumberThatIsHalvedGoesToTheEvenNeighbour) {
     SCOPED_TRACE(stored);
     program.Pick("ComboTD(3)", 3);
     program.Pick("ComboALM(5)", 3);
-    const auto byte = ByteToHex(stored);
+    const auto byte = codecs::ByteToHex(stored);
     // The duration of the flag is stored anew by the list that moves.
     const bool anew = half <= 120 && half != 3 && stored != 2 * half;
     EXPECT_EQ(program.Load({{DAYLIGHT_BAK, byte}, {FLAGDWLIND, byte}}),
-              anew ? "FLAGDWLIND=" + ByteToHex(2 * half) : "");
+              anew ? "FLAGDWLIND=" + codecs::ByteToHex(2 * half) : "");
     EXPECT_EQ(program.At("ComboTD(3)"), half <= 5 ? half : 3);
     EXPECT_EQ(program.At("ComboALM(5)"), half <= 120 ? half : 3);
   }
@@ -147,7 +147,7 @@ TEST(Selections, EveryPickIsNoted) {
       {"ComboCOMM", 13, 4}, {"ComboDIP", 9, 2},     {"ComboTD", 6, 1},   {"ComboKLM4011", 4, 1},
       {"ComboALM", 8, 4},   {"ComboTrigger", 3, 1}, {"ComboExcp", 6, 3}, {"ComboExcepRe", 3, 0}};
   for (const auto& [family, members, picked] : rows) {
-    ASSERT_EQ(program.Pick(Member(family, picked), 1), Outcome::kDone) << family;
+    ASSERT_EQ(program.Pick(Member(family, picked), 1), core::Outcome::kDone) << family;
     std::vector<int> positions;
     for (int member = 0; member < members; ++member) positions.push_back(program.At(Member(family, member)));
     EXPECT_EQ(program.app.SavedIndexes[family], positions) << family;

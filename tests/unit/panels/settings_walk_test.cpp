@@ -27,7 +27,7 @@ bool OnScreen(PanelProgram& program, std::string_view list) {
 // One program in which everything is set, one into which it is loaded.
 class EveryPosition {
  public:
-  explicit EveryPosition(const FirmwareId& firmware) : writer_(firmware) {}
+  explicit EveryPosition(const firmware::FirmwareId& firmware) : writer_(firmware) {}
 
   void Run() {
     constexpr int kLongestList = 121, kRoundsOfRecords = 3;
@@ -39,7 +39,8 @@ class EveryPosition {
       if (round < kRoundsOfRecords || round % 40 == 0) reader_ = std::make_unique<PanelProgram>(firmware);
       // V1400 R7 does not read the flag of the blank time that a download writes for it.
       if (firmware.Joined() == "V1400R7") writer_.Byte(BLNKRTS_BAK).clear();
-      ASSERT_EQ(reader_->Open(SectionsToStream(writer_.app)), Outcome::kDone) << "round " << round;
+      ASSERT_EQ(reader_->Open(core::SectionsToStream(writer_.app)), core::Outcome::kDone)
+          << "round " << round;
       ExpectShown(round);
     }
     ExpectAllCovered();
@@ -53,19 +54,19 @@ class EveryPosition {
   void Set(const std::string& list, int number, const std::string& records = {}, int record = 0) {
     if (!OnScreen(writer_, list) || !writer_.Enabled(list)) return;
     const int position = number % static_cast<int>(writer_.ListOf(list).items.size());
-    ASSERT_EQ(writer_.Pick(list, position), Outcome::kDone) << list;
+    ASSERT_EQ(writer_.Pick(list, position), core::Outcome::kDone) << list;
     set_[{records, record, list}] = position;
   }
 
   void SetRecords(int round) {
-    for (int slot = 0; slot < kExceptions; ++slot) {
+    for (int slot = 0; slot < image::kExceptions; ++slot) {
       const int number = slot + round;
       const int numbers[] = {number % 4 == 0 ? 1 : 0, number, number >> 1, number >> 2, number};
       writer_.Pick("ComboExcp(0)", slot);
       const int* next = numbers;
       for (const auto& list : Split(kSlot, ' ')) Set(list, *next++, "ComboExcp(0)", slot);
     }
-    for (int alarm = 0; alarm < kAlarms; ++alarm) {
+    for (int alarm = 0; alarm < image::kAlarms; ++alarm) {
       writer_.Pick("ComboALM(0)", alarm);
       for (const auto& list : Split(kAlarm, ' '))
         Set(list, alarm + round + (round % 2) * 15, "ComboALM(0)", alarm);
@@ -76,7 +77,7 @@ class EveryPosition {
 
   void SetGlobals(int round) {
     const int recorder = round % 3 % (writer_.ArrayOf("OpDVR").elements[2].visible ? 3 : 2);
-    ASSERT_EQ(writer_.Pick("OpDVR", recorder), Outcome::kDone);
+    ASSERT_EQ(writer_.Pick("OpDVR", recorder), core::Outcome::kDone);
     const bool& running = writer_.app.frmMain.DemoMode.checked;
     if (!running) writer_.Click("DemoMode");
     for (const auto& list : Split(kGlobal, ' ')) Set(list, round);
@@ -84,7 +85,7 @@ class EveryPosition {
 
     // Where the demonstration counts its lists from 1, a running one always shows the second.
     const bool old_demo =
-        (HexToInt(writer_.Byte(DEMO_ENABLE)) & 0x40) == 0 && HasOldDemo(writer_.app.firmware);
+        (codecs::HexToInt(writer_.Byte(DEMO_ENABLE)) & 0x40) == 0 && HasOldDemo(writer_.app.firmware);
     if (old_demo && running) set_.erase({"", 0, "CharacterList"});
     // Clock and title each need a line of the picture.
     auto& lines = set_[{"", 0, "ComboDIP(1)"}];

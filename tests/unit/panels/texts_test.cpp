@@ -22,21 +22,22 @@ const std::string kCut("AB\0CD", 5);
 // The rule of triggered texts and title: no blanks at the ends, no length, filled up with zeros.
 std::string Filled(const std::string& text) {
   const auto first = text.find_first_not_of(' ');
-  auto digits =
-      first == std::string::npos ? "" : TextToHex(text.substr(first, text.find_last_not_of(' ') - first + 1));
+  auto digits = first == std::string::npos
+                    ? ""
+                    : codecs::TextToHex(text.substr(first, text.find_last_not_of(' ') - first + 1));
   digits.resize(82, '0');
   return digits;
 }
 
 TEST(Texts, TriggeredTextAndTitleAreTrimmedAndFilledUp) {
-  for (const auto& firmware : {kLatest, FirmwareId{"V1324", "R17"}}) {
+  for (const auto& firmware : {kLatest, firmware::FirmwareId{"V1324", "R17"}}) {
     PanelProgram program(firmware);
     auto& main = program.app.frmMain;
     int flags = 0;
     for (const auto& text : Texts()) {
       SCOPED_TRACE("[" + text + "]");
       const auto filled = Filled(text);
-      const auto record = ByteToHex(0xF0 | ++flags % 4) + filled;
+      const auto record = codecs::ByteToHex(0xF0 | ++flags % 4) + filled;
       program.ShowAlarm(12);
       program.EnterText("cmdSetTrigger", "else");
       program.Byte(TRIGGER_TEXT, 12).replace(0, 2, record, 0, 2);
@@ -58,7 +59,7 @@ TEST(Texts, TriggeredTextAndTitleAreTrimmedAndFilledUp) {
       EXPECT_EQ(program.Load({{ONSCRNTITL, filled}}), "");
       EXPECT_EQ(Filled(main.Title_Text.text), filled);
     }
-    program.Byte(TRIGGER_TEXT, 4) = "00" + TextToHex(kCut) + std::string(72, '0');
+    program.Byte(TRIGGER_TEXT, 4) = "00" + codecs::TextToHex(kCut) + std::string(72, '0');
     program.ShowAlarm(4);
     EXPECT_EQ(main.TextTrigger.text, "AB");
     EXPECT_EQ(program.Byte(TRIGGER_TEXT, 4).size(), 84U);
@@ -81,7 +82,7 @@ TEST(Texts, AnExceptionIsPaddedCountedAndMarkedFreeWhenBlank) {
         program.Byte(EXCPSTRS, 7) = Slot(flags, range, "before");
         program.ShowSlot(8);
         program.ShowSlot(7);
-        ASSERT_EQ(program.EnterText("cmdSetExcpstr", text), Outcome::kDone);
+        ASSERT_EQ(program.EnterText("cmdSetExcpstr", text), core::Outcome::kDone);
         EXPECT_EQ(program.Byte(EXCPSTRS, 7), stored);
         program.ShowSlot(8);
         program.ShowSlot(7);
@@ -94,7 +95,7 @@ TEST(Texts, AnExceptionIsPaddedCountedAndMarkedFreeWhenBlank) {
     EXPECT_EQ(shown, "AB");
     EXPECT_EQ(program.Byte(EXCPSTRS, 6), Slot(0, range, "AB"));
     program.EnterText("cmdSetExcpstr", "else");
-    ASSERT_EQ(program.EnterText("cmdSetExcpstr", kCut), Outcome::kDone);
+    ASSERT_EQ(program.EnterText("cmdSetExcpstr", kCut), core::Outcome::kDone);
     EXPECT_EQ(program.Byte(EXCPSTRS, 6), Slot(0, range, "AB")) << "a typed text ends there too";
   }
 }
@@ -103,7 +104,7 @@ TEST(TextDialog, HoldsOneTextAndTheMainFormBack) {
   PanelProgram program({"V1400", "R7"});
   auto& dialog = program.app.frmSetEXCPSTR;
   auto& main = program.app.frmMain;
-  const std::tuple<const char*, const char*, TextBox*> rows[] = {
+  const std::tuple<const char*, const char*, controls::TextBox*> rows[] = {
       {"cmdSetTrigger", "ALARM TRIGGER SETUP", &main.TextTrigger},
       {"cmdSetExcpstr", "EXCEPTION SETUP", &main.TextException},
       {"cmdTitle", "TITLE SETUP", &main.Title_Text}};
@@ -112,22 +113,22 @@ TEST(TextDialog, HoldsOneTextAndTheMainFormBack) {
     program.EnterText(button, "FIRST");
     program.Mark();
     for (const char* way : {"Escape", "close", "SET"}) {
-      ASSERT_EQ(program.Click(button), Outcome::kDone);
+      ASSERT_EQ(program.Click(button), core::Outcome::kDone);
       EXPECT_EQ(dialog.form.caption + ": " + dialog.Text1.text, title + std::string(": FIRST"));
       EXPECT_EQ(dialog.form.focus, &dialog.Text1);
-      EXPECT_EQ(program.Pick("ComboExcp(0)", 3), Outcome::kRefused);
-      EXPECT_EQ(program.Type(dialog.Text1, std::string(41, 'x')), Outcome::kRefused);
+      EXPECT_EQ(program.Pick("ComboExcp(0)", 3), core::Outcome::kRefused);
+      EXPECT_EQ(program.Type(dialog.Text1, std::string(41, 'x')), core::Outcome::kRefused);
       program.Click("frmSetEXCPSTR.cmdClr");
       EXPECT_EQ(dialog.Text1.text, "");
       program.Type(dialog.Text1, "SECOND");
       EXPECT_EQ(program.Written(), "");
-      if (*way == 'E') program.Press(dialog.form, Key::kEscape);
+      if (*way == 'E') program.Press(dialog.form, core::Key::kEscape);
       if (*way == 'c') program.Close(dialog.form);
       if (*way == 'S') program.Click("frmSetEXCPSTR.cmdSET");
       EXPECT_TRUE(main.form.enabled && !dialog.form.visible);
       EXPECT_EQ(target->text, *way == 'S' ? "SECOND" : "FIRST");
     }
-    EXPECT_EQ(program.Type(*target, "typed"), Outcome::kRefused);
+    EXPECT_EQ(program.Type(*target, "typed"), core::Outcome::kRefused);
   }
 }
 

@@ -14,10 +14,10 @@ namespace ovl::testing {
 namespace {
 
 // REGTYPE_MINOR, REGTYPE_EXT1 and REGTYPE_EXT2.
-std::string OptionBytes(const Application& app) {
+std::string OptionBytes(const core::Application& app) {
   return app.image[F::REGTYPE_MINOR] + app.image[F::REGTYPE_EXT1] + app.image[F::REGTYPE_EXT2];
 }
-Outcome PickWith(Installed& program, const std::string& name, const std::string& option_bytes) {
+core::Outcome PickWith(Installed& program, const std::string& name, const std::string& option_bytes) {
   program.SetByte(name, program.Minor(), option_bytes.substr(0, 2));
   program.SetByte(name, program.Ext1(), option_bytes.substr(2, 2));
   program.SetByte(name, program.Ext2(), option_bytes.substr(4));
@@ -27,16 +27,16 @@ Outcome PickWith(Installed& program, const std::string& name, const std::string&
 TEST(RegisterPick, ACodeOutsideTheListLeavesTheListAndStillShowsTheFrame) {
   Installed program(kLatest);
   program.SetByte("ADS", program.Code(), "F0");
-  ASSERT_EQ(program.Register("ADS"), Outcome::kDone);
+  ASSERT_EQ(program.Register("ADS"), core::Outcome::kDone);
   EXPECT_EQ(program.app.frmMain.ComboReg.Text(), "ADS");
   EXPECT_EQ(program.app.image[F::REGTYPE], "F0");
   EXPECT_EQ(program.Frames(), "1");
-  ASSERT_EQ(program.Register("BLEEP"), Outcome::kDone);
+  ASSERT_EQ(program.Register("BLEEP"), core::Outcome::kDone);
   EXPECT_EQ(program.Frames(), "33");
 
   Installed without_list({"V1400", "R13"}, Images::kOwn);
-  ASSERT_EQ(without_list.Start(), Outcome::kDone);
-  ShowRegisterOptions(without_list.app);
+  ASSERT_EQ(without_list.Start(), core::Outcome::kDone);
+  registers::ShowRegisterOptions(without_list.app);
   EXPECT_EQ(without_list.Frames(), "");
 }
 
@@ -47,7 +47,7 @@ TEST(RegisterPick, DresserWayneChoosesByThreeBytes) {
   Installed program(kLatest);
   for (const auto& [bytes, chosen, element] : rows) {
     SCOPED_TRACE(bytes);
-    ASSERT_EQ(PickWith(program, "DRESSER WAYNE", bytes), Outcome::kDone);
+    ASSERT_EQ(PickWith(program, "DRESSER WAYNE", bytes), core::Outcome::kDone);
     EXPECT_EQ(program.Frames(), "36");
     for (const auto* name : {"POSOP", "TEROP", "PRNOP", "SECUOP"})
       EXPECT_TRUE(chosen.empty() || program.Selected(name) == (name == chosen ? element : -1)) << name;
@@ -56,13 +56,13 @@ TEST(RegisterPick, DresserWayneChoosesByThreeBytes) {
 }
 
 TEST(RegisterPick, ForcedSpeedsReachTheImageOnAPickAndNotInAWholeLoad) {
-  for (const FirmwareId& firmware : {FirmwareId{"V1310", "R1"}, {"V1400", "R6"}}) {
+  for (const firmware::FirmwareId& firmware : {firmware::FirmwareId{"V1310", "R1"}, {"V1400", "R6"}}) {
     Installed program(firmware);
     const std::string name = "CASIO TE-2200";
     program.SetByte(name, program.Minor(), "01");
     program.SetByte(name, kReceiveSpeed, "00");
     for (const bool whole : {false, true, false}) {
-      EXPECT_EQ(whole ? program.Open(program.PathOf(name)) : program.Register(name), Outcome::kDone);
+      EXPECT_EQ(whole ? program.Open(program.PathOf(name)) : program.Register(name), core::Outcome::kDone);
       EXPECT_EQ(program.app.image[F::RX_BAUDRATE], whole ? "00" : "05") << firmware.Joined();
       EXPECT_EQ(program.Selected("ComboCOMM(1)"), whole ? 0 : 5);
     }
@@ -85,7 +85,7 @@ TEST(RegisterPick, AStoredCodeDriftsWhereReaderAndWriterDiffer) {
     for (const auto& row : rows) {
       Installed program(firmware);
       const auto words = NameAndTwoWords(row);
-      ASSERT_EQ(PickWith(program, words[0], words[1]), Outcome::kDone) << row;
+      ASSERT_EQ(PickWith(program, words[0], words[1]), core::Outcome::kDone) << row;
       EXPECT_EQ(OptionBytes(program.app), words[2]) << row;
     }
   }
@@ -93,12 +93,12 @@ TEST(RegisterPick, AStoredCodeDriftsWhereReaderAndWriterDiffer) {
 
 TEST(RegisterPick, AnImageOfAnotherRegisterLeadsThere) {
   Installed program(kLatest);
-  const auto code = [&](const char* name) { return ByteToHex(program.CodeOf(name)); };
+  const auto code = [&](const char* name) { return codecs::ByteToHex(program.CodeOf(name)); };
   program.SetByte("ADS", program.Code(), code("BLEEP"));
   program.SetByte("BLEEP", kUnitAddress, "77");
   const auto expect = [&](const char* picked, const char* shown, const char* frame) {
     SCOPED_TRACE(picked);
-    ASSERT_EQ(program.Register(picked), Outcome::kDone);
+    ASSERT_EQ(program.Register(picked), core::Outcome::kDone);
     EXPECT_EQ(program.app.frmMain.ComboReg.Text(), shown);
     EXPECT_EQ(program.app.image[F::REGTYPE], code(shown));
     EXPECT_EQ(program.Frames(), frame);
@@ -116,11 +116,11 @@ TEST(RegisterPick, WithoutItsImageTheProgramEnds) {
   Installed program(kLatest);
   const std::string path = program.PathOf("ADS"), reason = "No such file or directory";
   std::filesystem::remove(path);
-  EXPECT_EQ(program.Register("ADS"), Outcome::kEnded);
+  EXPECT_EQ(program.Register("ADS"), core::Outcome::kEnded);
   EXPECT_EQ(program.TakeBox().text,
             std::string(19, ' ') + reason + "\nPlease ReInstall Ovalon PC Software !!");
   EXPECT_EQ(program.app.StatusNote, path + ": " + reason);
-  EXPECT_EQ(program.Register("GENERIC"), Outcome::kEnded);
+  EXPECT_EQ(program.Register("GENERIC"), core::Outcome::kEnded);
   EXPECT_TRUE(program.NoBoxLeft());
 }
 
@@ -129,11 +129,12 @@ TEST(RegisterPick, AfterAnOpenedFileTheNextPickCounts) {
   const auto kept = program.folder.File("kept.bin");
   program.SetByte("ADS", kUnitAddress, "77");
   std::filesystem::rename(program.PathOf("ADS"), kept);
-  ASSERT_EQ(program.Open(kept), Outcome::kDone);  // the list follows without asking for the default image
+  ASSERT_EQ(program.Open(kept),
+            core::Outcome::kDone);  // the list follows without asking for the default image
   EXPECT_EQ(program.app.frmMain.ComboReg.Text(), "ADS");
   EXPECT_EQ(program.app.image[F::UNITADDR], "77");
   EXPECT_EQ(program.Frames(), "1");
-  ASSERT_EQ(program.Register("BLEEP"), Outcome::kDone);
+  ASSERT_EQ(program.Register("BLEEP"), core::Outcome::kDone);
   EXPECT_EQ(program.app.image[F::UNITADDR], "00");
 }
 
@@ -169,7 +170,7 @@ constexpr const char* kFrames[] = {
     "V1310|NE134 COUNTER@51 SET ADDRESS|POLE DISPLAY@53|VISHAY WEIGHBRIDGE@52"};
 
 // Frame and title.
-std::string ExpectedFrame(const FirmwareId& firmware, const std::string& name) {
+std::string ExpectedFrame(const firmware::FirmwareId& firmware, const std::string& name) {
   if (name == "TCPIP" && firmware.version == "V1300" && firmware.Number() < 16) return "21 SET IP ADDRESS";
   const auto list = !firmware.IsV1400() ? firmware.version : firmware.Number() < 7 ? "base" : "model";
   for (const auto* row : kFrames) {
@@ -196,15 +197,15 @@ TEST(OptionFrames, EveryRegisterOfEveryFirmwareShowsItsOwnAndKeepsItsDefaultImag
     const auto names = app.frmMain.ComboReg.items;
     for (const auto& name : names) {
       SCOPED_TRACE(name);
-      ASSERT_EQ(program.Register(name), Outcome::kDone);
-      EXPECT_EQ(app.image[FieldId::REGTYPE], ByteToHex(program.CodeOf(name)));
+      ASSERT_EQ(program.Register(name), core::Outcome::kDone);
+      EXPECT_EQ(app.image[image::FieldId::REGTYPE], codecs::ByteToHex(program.CodeOf(name)));
       EXPECT_EQ(ShownFrame(program), ExpectedFrame(firmware, name));
       program.Mark();
-      ASSERT_EQ(program.Register(name), Outcome::kDone);
+      ASSERT_EQ(program.Register(name), core::Outcome::kDone);
       EXPECT_EQ(program.Written(), "");
       EXPECT_EQ(app.frmMain.ComboReg.Text(), name);
-      ASSERT_EQ(program.Open(program.PathOf(name)), Outcome::kDone);
-      EXPECT_EQ(SectionsToStream(app) + "\r\n", ReadWhole(program.PathOf(name)));
+      ASSERT_EQ(program.Open(program.PathOf(name)), core::Outcome::kDone);
+      EXPECT_EQ(SectionsToStream(app) + "\r\n", files::ReadWhole(program.PathOf(name)));
     }
     EXPECT_TRUE(program.NoBoxLeft());
   }
@@ -272,7 +273,7 @@ TEST(OptionFrames, WhatIsOfferedFollowsTheFirmwareAndTheRegister) {
       SCOPED_TRACE(row);
       const auto parts = Split(row, '=');
       const auto place = parts[0].rfind(' ');
-      ASSERT_EQ(program.Register(parts[0].substr(0, place)), Outcome::kDone);
+      ASSERT_EQ(program.Register(parts[0].substr(0, place)), core::Outcome::kDone);
       const auto offered = program.Offered(parts[0].substr(place + 1));
       EXPECT_TRUE(offered == parts[1] || std::to_string(Split(offered, '|').size()) == parts[1]) << offered;
     }
@@ -282,10 +283,10 @@ TEST(OptionFrames, WhatIsOfferedFollowsTheFirmwareAndTheRegister) {
 TEST(OptionFrames, OdometerAsksForOneLine) {
   Installed program(kLatest);
   for (const auto& [list, position] : {std::pair{"ComboTD(0)", 0}, {"ComboTD(5)", 0}, {"ComboDIP(1)", 6}})
-    ASSERT_EQ(program.Pick(list, position), Outcome::kDone);
-  ASSERT_EQ(program.Register("ODOMETER"), Outcome::kDone);
+    ASSERT_EQ(program.Pick(list, position), core::Outcome::kDone);
+  ASSERT_EQ(program.Register("ODOMETER"), core::Outcome::kDone);
   EXPECT_EQ(program.Selected("ComboDIP(1)"), 0);
-  EXPECT_EQ(program.app.image[FieldId::DSPLINES_BAK], "01");
+  EXPECT_EQ(program.app.image[image::FieldId::DSPLINES_BAK], "01");
 }
 
 TEST(OptionFrames, UniwellFrameSharesOneListOrTheOther) {
@@ -293,7 +294,7 @@ TEST(OptionFrames, UniwellFrameSharesOneListOrTheOther) {
   for (const std::string name : {"UNIWELL UN4025", "MERIT", "UNIWELL"}) {
     const bool of_models = name != "UNIWELL UN4025";
     auto& program = of_models ? models : base;
-    ASSERT_EQ(program.Register(name), Outcome::kDone);
+    ASSERT_EQ(program.Register(name), core::Outcome::kDone);
     EXPECT_EQ(program.Control("ComboUni").visible, !of_models);
     EXPECT_EQ(program.Control("ComboUniFor14R7up").visible, of_models) << name;
   }

@@ -38,14 +38,16 @@ constexpr const char* kOptions[] = {
 // A byte without its choice hides the frame.
 void ExpectShown(Installed& program, const std::string& field, const std::string& control) {
   const auto frame = program.Frames();
-  const auto* array = std::get_if<OptionArray*>(&program.app.registry.Find(control)->control);
+  const auto* array = std::get_if<controls::OptionArray*>(&program.app.registry.Find(control)->control);
   const auto size = array != nullptr ? (*array)->elements.size() : program.ListOf(control).items.size();
-  const auto id = field == "M" ? F::REGTYPE_MINOR : field == "X" ? F::REGTYPE_EXT2 : FindField(field)->id;
+  const auto id = field == "M"   ? F::REGTYPE_MINOR
+                  : field == "X" ? F::REGTYPE_EXT2
+                                 : image::FindField(field)->id;
   const int choices = static_cast<int>(size);
   for (const int choice : {choices - 1, choices, 0}) {
     if (choice > 0xFF) continue;
-    program.app.image[id] = ByteToHex(choice);
-    ShowRegisterOptions(program.app);
+    program.app.image[id] = codecs::ByteToHex(choice);
+    registers::ShowRegisterOptions(program.app);
     EXPECT_EQ(program.Frames(), choice == choices ? "" : frame) << choice;
     EXPECT_TRUE(choice == choices || program.Selected(control) == choice) << choice;
   }
@@ -55,8 +57,8 @@ void ExpectStored(Installed& program, const std::string& field, const std::strin
   program.Reveal(control);
   for (int position = 0; position < choices; ++position) {
     program.Fill(position == 0xEE ? "11" : "EE");
-    ASSERT_EQ(program.Pick(control, position), Outcome::kDone);
-    EXPECT_EQ(program.Written(), field + "=" + ByteToHex(position));
+    ASSERT_EQ(program.Pick(control, position), core::Outcome::kDone);
+    EXPECT_EQ(program.Written(), field + "=" + codecs::ByteToHex(position));
   }
   EXPECT_EQ(program.Effect(control, choices), "refused");
 }
@@ -70,10 +72,10 @@ TEST(OptionMembers, EachShowsItsByteAndAPlainOneWritesItAndNothingElse) {
       const auto words = NameAndTwoWords(row);
       const auto control = Split(words[2], '=');
       if (words[0] != "-") {
-        ASSERT_EQ(program.Register(words[0]), Outcome::kDone);
+        ASSERT_EQ(program.Register(words[0]), core::Outcome::kDone);
         ExpectShown(program, words[1], control[0]);
       }
-      if (control.size() > 1) ExpectStored(program, words[1], control[0], LeadingNumber(control[1]));
+      if (control.size() > 1) ExpectStored(program, words[1], control[0], codecs::LeadingNumber(control[1]));
     }
     EXPECT_TRUE(program.NoBoxLeft());
   }
@@ -141,7 +143,7 @@ TEST(OptionMembers, SomeForceTheLineThatTheirProtocolDictates) {
     for (const char* before : {"00", "FF"}) {
       for (const char* list : kForced) program.ListOf(list).position = -1;
       program.Fill("EE", {{F::COMMCFG_BAK, before}});
-      ASSERT_EQ(program.Pick(cells[0], LeadingNumber(cells[1])), Outcome::kDone);
+      ASSERT_EQ(program.Pick(cells[0], codecs::LeadingNumber(cells[1])), core::Outcome::kDone);
       flags_after += std::exchange(flags, before);
       EXPECT_EQ(Forced(program) + ";" + program.Written(), cells[2] + ";" + cells[4]);
     }
@@ -171,7 +173,8 @@ TEST(OptionMembers, TheTargetDependsOnTheFirmware) {
       for (int element = 0; element < choices; ++element) {
         const bool coded = choices == 10 && !first_sharp && element >= 5;
         const int code = !coded ? element : element == 9 ? 5 : element + 1;
-        EXPECT_EQ(program.Effect(control, element), field.empty() ? "" : field + "=" + ByteToHex(code));
+        EXPECT_EQ(program.Effect(control, element),
+                  field.empty() ? "" : field + "=" + codecs::ByteToHex(code));
       }
     }
   }
@@ -207,11 +210,11 @@ TEST(OptionMembers, AChoiceBringsTheControlsOfItsModelAlong) {
     for (const auto& row : rows) {
       SCOPED_TRACE(row);
       const auto words = Split(row, ' ');
-      const int position = LeadingNumber(words[1]);
+      const int position = codecs::LeadingNumber(words[1]);
       program.Reveal(words[0]);
       for (const int stored : {0, 1, 0xEE}) {  // no list has the last
-        EXPECT_EQ(program.Effect(words[0], position, {{F::REGTYPE_EXT2, ByteToHex(stored)}}),
-                  "M=" + ByteToHex(position));
+        EXPECT_EQ(program.Effect(words[0], position, {{F::REGTYPE_EXT2, codecs::ByteToHex(stored)}}),
+                  "M=" + codecs::ByteToHex(position));
         ExpectSeen(program, std::span(words).subspan(2));
         const auto& member = words.back();
         EXPECT_TRUE(member[0] == '!' || program.Selected(member) == std::min(stored, 1)) << stored;
@@ -227,7 +230,7 @@ TEST(OptionMembers, APickOfTheRegisterShowsOrHidesAFrameInsideWhateverTheModel) 
                                      {"NIXDORF", "BEETLEFrm NIXDORFrm"},
                                      {"IBM", "!IBMFrame"}}) {
     program.SetByte(name, program.Minor(), "01");
-    ASSERT_EQ(program.Register(name), Outcome::kDone);
+    ASSERT_EQ(program.Register(name), core::Outcome::kDone);
     EXPECT_NE(program.Frames(), "") << name;
     ExpectSeen(program, Split(frames, ' '));
   }
@@ -238,7 +241,7 @@ TEST(OptionMembers, SomeUniwellModelsShowTheSecondFrame) {
   program.Register("UNIWELL");
   std::string with_second;
   for (int model = 0; model < 13; ++model) {
-    EXPECT_EQ(program.Effect("UNIWOP", model), "M=" + ByteToHex(model));
+    EXPECT_EQ(program.Effect("UNIWOP", model), "M=" + codecs::ByteToHex(model));
     if (program.Frames() == "49 18") with_second += " " + std::to_string(model);
   }
   EXPECT_EQ(with_second, " 1 2 6 7 10");
@@ -252,7 +255,7 @@ TEST(OptionMembers, ArraysOfOneFrameExcludeEachOther) {
   Installed program(kLatest);
   for (const auto& frame : {"POSOP TEROP PRNOP SECUOP", "OpMicrelec OpMicrelec9500"}) {
     for (const auto& chosen : Split(frame, ' ')) {
-      ASSERT_EQ(program.Pick(chosen, 0), Outcome::kDone);
+      ASSERT_EQ(program.Pick(chosen, 0), core::Outcome::kDone);
       for (const auto& name : Split(frame, ' '))
         EXPECT_EQ(program.Selected(name), name == chosen ? 0 : -1) << chosen << name;
     }

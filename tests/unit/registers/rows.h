@@ -12,13 +12,13 @@
 
 namespace ovl::testing {
 
-using F = FieldId;
+using F = image::FieldId;
 
-inline const FirmwareId kLatest{"V1400", "R12"};
+inline const firmware::FirmwareId kLatest{"V1400", "R12"};
 
-inline std::vector<FirmwareId> EveryFirmware() {
-  std::vector<FirmwareId> firmware;
-  for (const auto& entry : FirmwareTable()) {
+inline std::vector<firmware::FirmwareId> EveryFirmware() {
+  std::vector<firmware::FirmwareId> firmware;
+  for (const auto& entry : firmware::FirmwareTable()) {
     if (entry.in_menu) firmware.push_back({std::string(entry.version), std::string(entry.release)});
   }
   return firmware;
@@ -32,8 +32,8 @@ inline std::vector<std::string> Split(const std::string& text, char separator) {
 }
 
 // A table's text begins with the firmware that its rows are about: "V1400R12|...".
-inline std::pair<FirmwareId, std::vector<std::string>> FirmwareAndRows(const std::string& text,
-                                                                       char separator) {
+inline std::pair<firmware::FirmwareId, std::vector<std::string>> FirmwareAndRows(const std::string& text,
+                                                                                 char separator) {
   const auto parts = Split(text, separator);
   return {{parts[0].substr(0, 5), parts[0].substr(5)}, {parts.begin() + 1, parts.end()}};
 }

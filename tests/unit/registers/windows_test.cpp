@@ -24,7 +24,7 @@ class Micros : public ::testing::Test {
   }
 
   Installed program{kLatest};
-  MicrosForm& window = program.app.frmMicros;
+  controls::MicrosForm& window = program.app.frmMicros;
 };
 
 TEST_F(Micros, EachModeOpensItsPanelAndStoresItselfAtOnce) {
@@ -38,7 +38,7 @@ TEST_F(Micros, EachModeOpensItsPanelAndStoresItselfAtOnce) {
     Close();
     EXPECT_EQ(program.Written(), written) << "closing stores nothing and takes nothing back";
     program.Fill("EE");
-    ASSERT_EQ(program.Click("cmdMicros"), Outcome::kDone);
+    ASSERT_EQ(program.Click("cmdMicros"), core::Outcome::kDone);
     EXPECT_EQ(Panels(), panels);
     EXPECT_EQ(program.Written(), "") << "the button only shows";
     Close();
@@ -46,7 +46,7 @@ TEST_F(Micros, EachModeOpensItsPanelAndStoresItselfAtOnce) {
 }
 
 TEST_F(Micros, NoWindowOpensWhileAnUploadIsApplied) {
-  program.app.LinkMode = kLinkUpload;
+  program.app.LinkMode = core::kLinkUpload;
   EXPECT_EQ(program.Effect("OpMicros", 1, {{F::DEVICE_INDEX_BAK, "01"}}), "M=01");
   EXPECT_FALSE(window.form.visible);
   EXPECT_EQ(window.ComboMICROS.Text(), "VIDEO");
@@ -63,7 +63,7 @@ TEST_F(Micros, TheIdnPanelStoresWithSetAloneAndShowsWhatIsStored) {
   program.Pick("OpMicros", 1);
   program.Fill("EE");
   for (const auto& [list, last] : {std::pair{"ComboMICROS", 1}, {"ComboMICROSADD", 16}, {"ComboMODE", 1}}) {
-    EXPECT_EQ(program.Pick(list, last + 1), Outcome::kRefused);
+    EXPECT_EQ(program.Pick(list, last + 1), core::Outcome::kRefused);
     program.Pick(list, last);
   }
   EXPECT_EQ(program.Written(), "");
@@ -113,7 +113,7 @@ TEST_F(Micros, TheEcrNumberIsSevenDigits) {
     const auto typed = row.substr(0, row.find(' ')), left = row.substr(row.find(' ') + 1);
     for (const bool leaves : {true, false}) {
       program.Fill("EE");
-      ASSERT_EQ(program.Type(window.ECRNumber, typed), Outcome::kDone);
+      ASSERT_EQ(program.Type(window.ECRNumber, typed), core::Outcome::kDone);
       if (leaves) program.Leave(window.ECRNumber);
       EXPECT_EQ(window.ECRNumber.text, leaves ? left : typed);
       program.Pick("HandSHKCombo", 1);
@@ -131,7 +131,7 @@ TEST_F(Micros, TheEcrNumberIsSevenDigits) {
 }
 
 // The title of the sub-menu's window, those of the frames that it shows, and the model.
-std::string Titles(const SubMenuForm& menu) {
+std::string Titles(const controls::SubMenuForm& menu) {
   if (!menu.form.visible) return "closed";
   std::string shown = menu.form.caption + ":";
   for (const auto* frame : {&menu.Frame1, &menu.Frame2, &menu.SharpSubMenuFrame, &menu.UP3000Frm}) {
@@ -160,17 +160,17 @@ void ExpectMenu(Installed& program, const std::string& models, int model, const 
   const auto& [titles, member, offered] = kMenus.at({models, model});
   EXPECT_EQ(Titles(menu), titles);
   for (const int stored : {1, 0}) {
-    program.Effect(models, model, {{F::REGTYPE_EXT1, "00"}, {F::REGTYPE_EXT2, ByteToHex(stored)}});
+    program.Effect(models, model, {{F::REGTYPE_EXT1, "00"}, {F::REGTYPE_EXT2, codecs::ByteToHex(stored)}});
     EXPECT_EQ(Titles(menu), titles);
     EXPECT_EQ(program.Selected(member), stored);
   }
   EXPECT_EQ(program.Offered(member), offered);
   EXPECT_EQ(program.Effect(member, 1), "X=01");
-  EXPECT_EQ(program.Close(menu.form), Outcome::kDone);
+  EXPECT_EQ(program.Close(menu.form), core::Outcome::kDone);
   EXPECT_EQ(Titles(menu), "closed");
-  EXPECT_EQ(program.Click(button), Outcome::kDone);
+  EXPECT_EQ(program.Click(button), core::Outcome::kDone);
   EXPECT_EQ(Titles(menu), titles);
-  EXPECT_EQ(program.Written(), "M=" + ByteToHex(model) + " X=01");
+  EXPECT_EQ(program.Written(), "M=" + codecs::ByteToHex(model) + " X=01");
 }
 
 TEST(SubMenus, OpenForTheModelsThatHaveOneAndStoreAtOnce) {
@@ -178,20 +178,20 @@ TEST(SubMenus, OpenForTheModelsThatHaveOneAndStoreAtOnce) {
   for (const auto* row :
        {"CASIO CASIOOP Command1 35", "SHARP SharpOP SharpCom 27", "TEC TECOP Command2 11"}) {
     const auto words = Split(row, ' ');
-    const int count = LeadingNumber(words[3]);
-    ASSERT_EQ(program.Register(words[0]), Outcome::kDone);
-    EXPECT_EQ(program.Pick(words[1], count), Outcome::kRefused);
+    const int count = codecs::LeadingNumber(words[3]);
+    ASSERT_EQ(program.Register(words[0]), core::Outcome::kDone);
+    EXPECT_EQ(program.Pick(words[1], count), core::Outcome::kRefused);
     for (int model = 0; model < count; ++model) {
       SCOPED_TRACE(words[1] + " " + std::to_string(model));
       const bool has_menu = kMenus.contains({words[1], model});
-      EXPECT_EQ(program.Effect(words[1], model), "M=" + ByteToHex(model));
+      EXPECT_EQ(program.Effect(words[1], model), "M=" + codecs::ByteToHex(model));
       EXPECT_EQ(program.Control(words[2]).enabled, has_menu);
       EXPECT_EQ(program.app.FrmSubMenu.form.visible, has_menu);
       // The button shows the model anew, but for one that it does not look for.
       program.Reveal(words[2]);
       program.Fill("EE");
       program.Click(words[2]);
-      EXPECT_EQ(program.Written(), words[0] == "SHARP" && model == 26 ? "" : "M=" + ByteToHex(model));
+      EXPECT_EQ(program.Written(), words[0] == "SHARP" && model == 26 ? "" : "M=" + codecs::ByteToHex(model));
       if (has_menu) ExpectMenu(program, words[1], model, words[2]);
     }
   }
@@ -224,12 +224,12 @@ TEST(RegisterWindows, StayOpenAtAPickOfTheirOwnModelAndCloseAtAnyOther) {
     SCOPED_TRACE(name);
     auto& form = name == "MICROS" ? program.app.frmMicros.form : program.app.FrmSubMenu.form;
     for (const char* next : {"GENERIC", name.c_str()}) {
-      program.SetByte(name, program.Minor(), ByteToHex(model));
+      program.SetByte(name, program.Minor(), codecs::ByteToHex(model));
       program.Register(name);
       program.Close(form);
       program.Register(name);
       EXPECT_EQ(form.visible, name == "MICROS") << "the others open with a choice alone";
-      ASSERT_EQ(program.Pick(models, model), Outcome::kDone);
+      ASSERT_EQ(program.Pick(models, model), core::Outcome::kDone);
       program.Register(name);
       EXPECT_TRUE(form.visible);
       program.SetByte(name, program.Minor(), "00");
@@ -240,25 +240,27 @@ TEST(RegisterWindows, StayOpenAtAPickOfTheirOwnModelAndCloseAtAnyOther) {
 }
 
 TEST(IpAddress, FrameAndImageAgreeByteByByteButTheOldFrameStoresNothing) {
-  for (const FirmwareId& firmware : {kLatest, FirmwareId{"V1300", "R15"}}) {
+  for (const firmware::FirmwareId& firmware : {kLatest, firmware::FirmwareId{"V1300", "R15"}}) {
     Installed program(firmware);
-    ASSERT_EQ(program.Register("TCPIP"), Outcome::kDone);
+    ASSERT_EQ(program.Register("TCPIP"), core::Outcome::kDone);
     auto& image = program.app.image;
-    for (int byte = 0; byte < 4; ++byte) image.at(F::IPADDRESS, byte + 1) = ByteToHex(250 + byte);
+    for (int byte = 0; byte < 4; ++byte) image.at(F::IPADDRESS, byte + 1) = codecs::ByteToHex(250 + byte);
     image[F::REGTYPE_MINOR] = "05";
-    ShowRegisterOptions(program.app);
+    registers::ShowRegisterOptions(program.app);
     const bool old = firmware != kLatest;
     for (int byte = 0; byte < 4; ++byte) {
       const auto list = "ComboTCPIP(" + std::to_string(old ? byte : byte + 4) + ")";
       const auto information = "ComboTCPINFO(" + std::to_string(byte) + ")";
       EXPECT_EQ(program.Selected(list), 250 + byte);
       EXPECT_EQ(program.Selected(information), old ? -1 : 1 - byte % 2);
-      const auto written = "IPADDRESS(" + std::to_string(byte + 1) + ")=" + ByteToHex(192 + byte);
+      const auto written = "IPADDRESS(" + std::to_string(byte + 1) + ")=" + codecs::ByteToHex(192 + byte);
       EXPECT_EQ(program.Effect(list, 192 + byte), old ? "" : written);
       for (const int others : {0x00, 0xFF}) {
         const int bit = 1 << byte, on = others | bit, off = others & ~bit;
-        EXPECT_EQ(program.Effect(information, 1, {{F::REGTYPE_MINOR, ByteToHex(off)}}), "M=" + ByteToHex(on));
-        EXPECT_EQ(program.Effect(information, 0, {{F::REGTYPE_MINOR, ByteToHex(on)}}), "M=" + ByteToHex(off));
+        EXPECT_EQ(program.Effect(information, 1, {{F::REGTYPE_MINOR, codecs::ByteToHex(off)}}),
+                  "M=" + codecs::ByteToHex(on));
+        EXPECT_EQ(program.Effect(information, 0, {{F::REGTYPE_MINOR, codecs::ByteToHex(on)}}),
+                  "M=" + codecs::ByteToHex(off));
       }
     }
   }

@@ -20,10 +20,10 @@ std::string Stored(Harness& program) {
 
 TEST(StartUp, LoadsTheFirstRegisterWholeStandsIdleAndEndsAtOnce) {
   Harness program({"V1400", "R12"});
-  ASSERT_EQ(program.Start(), Outcome::kDone);
+  ASSERT_EQ(program.Start(), core::Outcome::kDone);
   const auto& app = program.app;
   EXPECT_EQ(app.frmMain.ComboReg.Text(), "GENERIC");
-  EXPECT_EQ(app.image[FieldId::COMMCFG_BAK], "08");
+  EXPECT_EQ(app.image[image::FieldId::COMMCFG_BAK], "08");
   EXPECT_TRUE(app.ImageTouched);
   EXPECT_TRUE(app.PanelsReady);
   EXPECT_EQ(app.LinkMode, 255);
@@ -35,33 +35,33 @@ TEST(StartUp, LoadsTheFirstRegisterWholeStandsIdleAndEndsAtOnce) {
   EXPECT_TRUE(program.NoBoxLeft());
 
   program.OpenAndHold();
-  EXPECT_EQ(program.Click("menuExit"), Outcome::kEnded);
+  EXPECT_EQ(program.Click("menuExit"), core::Outcome::kEnded);
   program.Unit("\x06");
-  EXPECT_EQ(program.Click("CmdUpDow(0)"), Outcome::kEnded);
+  EXPECT_EQ(program.Click("CmdUpDow(0)"), core::Outcome::kEnded);
   EXPECT_EQ(program.TakeSent(), "");
 }
 
 TEST(StartUp, EndsWithoutAFirmware) {
   const std::string too_long(255, 'V');
-  const std::vector<std::pair<SettingValue, SettingValue>> stores = {
+  const std::vector<std::pair<core::SettingValue, core::SettingValue>> stores = {
       {"", "R12"}, {"V1400", ""}, {too_long, "R12"}, {"V1400", too_long}};
   for (const auto& [version, release] : stores) {
     Harness program({"V1400", "R12"});
     program.settings["Version"] = version;
     program.settings["Release"] = release;
-    EXPECT_EQ(program.Start(), Outcome::kEnded);
+    EXPECT_EQ(program.Start(), core::Outcome::kEnded);
     const auto box = program.TakeBox();
     EXPECT_EQ(box.title, "Registry Error.");
     EXPECT_EQ(box.text, "Please ReInstall Ovalon PC Software");
-    EXPECT_EQ(box.icon, BoxIcon::kInformation);
-    EXPECT_EQ(program.Click("CmdUpDow(4)"), Outcome::kEnded);
+    EXPECT_EQ(box.icon, core::BoxIcon::kInformation);
+    EXPECT_EQ(program.Click("CmdUpDow(4)"), core::Outcome::kEnded);
   }
 }
 
 TEST(StartUp, ANumberInTheStoreIsAFirmwareText) {
   Harness program({"V1400", "R12"});
   program.settings["Version"] = std::uint32_t{1400};
-  EXPECT_EQ(program.Start(), Outcome::kDone);
+  EXPECT_EQ(program.Start(), core::Outcome::kDone);
   EXPECT_EQ(program.app.firmware.version, "1400");
   EXPECT_TRUE(program.app.frmMain.ComboReg.items.empty());
   EXPECT_TRUE(program.app.PanelsReady);
@@ -71,23 +71,25 @@ TEST(StartUp, ANumberInTheStoreIsAFirmwareText) {
 }
 
 TEST(Timers, HaveTheirIntervalsAndStartOnceUntilTheyAreStopped) {
-  Application app;
+  core::Application app;
   auto& main = app.frmMain;
   const int intervals[] = {main.Timer.interval, main.General_timer.interval, main.Time_handcheck.interval,
                            main.Timer_Operating.interval, app.frmSettSR.BaudRateScan.interval};
   EXPECT_TRUE(std::ranges::equal(intervals, std::array{100, 300, 1000, 1000, 1000}));
   auto& timer = main.General_timer;
   const auto before = timer.starts;
-  for (const bool enabled : {true, true, false, false, true}) EnableTimer(timer, enabled);
+  for (const bool enabled : {true, true, false, false, true}) core::EnableTimer(timer, enabled);
   EXPECT_EQ(timer.starts, before + 2);
 }
 
 TEST(Settings, AnEmptyTextIsKeptAsABlankAndAnUnknownRootKeepsNothing) {
   Harness program({"V1400", "R12"});
-  WriteSetting(program.app, SettingRoot::kLocalMachine, kSettingsKey, kVersionValue, "");
-  WriteSetting(program.app, SettingRoot::kNone, kSettingsKey, kReleaseValue, "R7");
+  core::WriteSetting(program.app, core::SettingRoot::kLocalMachine, core::kSettingsKey, core::kVersionValue,
+                     "");
+  core::WriteSetting(program.app, core::SettingRoot::kNone, core::kSettingsKey, core::kReleaseValue, "R7");
   EXPECT_EQ(Stored(program), " R12");
-  EXPECT_EQ(ReadSetting(program.app, SettingRoot::kNone, kSettingsKey, kReleaseValue), "");
+  EXPECT_EQ(core::ReadSetting(program.app, core::SettingRoot::kNone, core::kSettingsKey, core::kReleaseValue),
+            "");
 }
 
 TEST(StartUp, ADefaultImageThatCannotBeReadEndsTheProgram) {
@@ -96,7 +98,7 @@ TEST(StartUp, ADefaultImageThatCannotBeReadEndsTheProgram) {
     const auto image = program.folder.File("V1400/R12/GENERIC.bin");
     std::filesystem::remove(image);
     if (std::string(reason) == "Is a directory") std::filesystem::create_directory(image);
-    EXPECT_EQ(program.Start(), Outcome::kEnded);
+    EXPECT_EQ(program.Start(), core::Outcome::kEnded);
     EXPECT_EQ(program.TakeBox().text,
               "                   " + std::string(reason) + "\nPlease ReInstall Ovalon PC Software !!");
   }
@@ -105,25 +107,25 @@ TEST(StartUp, ADefaultImageThatCannotBeReadEndsTheProgram) {
 TEST(StartUp, TheCompactFirmwareRunsMappedAndKeepsItsCaptions) {
   Harness program({"V1410", "R1"});
   std::filesystem::create_directories(program.folder.File("V1400/R7"));
-  WriteWhole(program.folder.File("V1400/R7/GENERIC.bin"), PatternStream({"V1400", "R7"}));
-  ASSERT_EQ(program.Start(), Outcome::kDone);
+  files::WriteWhole(program.folder.File("V1400/R7/GENERIC.bin"), PatternStream({"V1400", "R7"}));
+  ASSERT_EQ(program.Start(), core::Outcome::kDone);
   EXPECT_EQ(program.app.firmware.Joined(), "V1400R7");
   EXPECT_EQ(program.Control("lbVersionID(0)").caption, "V1410R1");
   for (const auto& item : program.app.frmMain.version_items) EXPECT_FALSE(item.checked);
-  EXPECT_EQ(program.Click("V1400R7mnu"), Outcome::kEnded);
+  EXPECT_EQ(program.Click("V1400R7mnu"), core::Outcome::kEnded);
   EXPECT_EQ(Stored(program), "V1400R7");
 }
 
 TEST(VersionMenu, TheRunningFirmwareDoesNothingAndAnotherOneEndsTheProgram) {
   Harness program({"V1400", "R12"});
-  ASSERT_EQ(program.Start(), Outcome::kDone);
+  ASSERT_EQ(program.Start(), core::Outcome::kDone);
   std::string menu;
   for (const auto& family : program.app.frmMain.version_families)
     menu += family.parent.caption + " " + std::to_string(family.items.size()) + " ";
   EXPECT_EQ(menu, "V1400 7 V1300 11 V1324 9 V1310 1 V1334 1 ");
-  EXPECT_EQ(program.Click("V1400R12mnu"), Outcome::kDone);
+  EXPECT_EQ(program.Click("V1400R12mnu"), core::Outcome::kDone);
   EXPECT_TRUE(program.NoBoxLeft());
-  EXPECT_EQ(program.Click("V1300R14mnu"), Outcome::kEnded);
+  EXPECT_EQ(program.Click("V1300R14mnu"), core::Outcome::kEnded);
   EXPECT_EQ(Stored(program), "V1300R14");
   EXPECT_EQ(program.TakeBox().text, "V1300R14 WILL TAKE EFFECT WHEN THE APPLICATION NEXT START");
 }

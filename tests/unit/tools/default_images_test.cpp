@@ -18,10 +18,10 @@ namespace fs = std::filesystem;
 TEST(DefaultImages, EveryNameOfEveryFirmwareHasAFileThatLoadsUnchanged) {
   TemporaryFolder folder;
   int files = 0;
-  for (const auto& entry : FirmwareTable()) {
+  for (const auto& entry : firmware::FirmwareTable()) {
     if (!entry.in_menu) continue;
-    const FirmwareId firmware{std::string(entry.version), std::string(entry.release)};
-    files += WriteDefaultImages(folder.Path().string(), firmware);
+    const firmware::FirmwareId firmware{std::string(entry.version), std::string(entry.release)};
+    files += images::WriteDefaultImages(folder.Path().string(), firmware);
   }
   EXPECT_EQ(files, 1552);
   int found = 0;
@@ -29,21 +29,21 @@ TEST(DefaultImages, EveryNameOfEveryFirmwareHasAFileThatLoadsUnchanged) {
     if (!file.is_regular_file()) continue;
     ++found;
     const auto release = file.path().parent_path();
-    Application app;
+    core::Application app;
     app.firmware = {release.parent_path().filename().string(), release.filename().string()};
-    app.platform.show_message = [&](const MessageBox& box) {
+    app.platform.show_message = [&](const core::MessageBox& box) {
       ADD_FAILURE() << file.path() << ": " << box.text;
     };
     PrepareCapabilities(app);
-    ASSERT_TRUE(LoadStream(app, ReadJoined(file.path().string()))) << file.path();
-    EXPECT_EQ(SectionsToStream(app) + "\r\n", ReadWhole(file.path().string())) << file.path();
+    ASSERT_TRUE(LoadStream(app, files::ReadJoined(file.path().string()))) << file.path();
+    EXPECT_EQ(SectionsToStream(app) + "\r\n", files::ReadWhole(file.path().string())) << file.path();
   }
   EXPECT_EQ(found, 1552);
 }
 
 TEST(DefaultImages, TheNamesOfV1400HaveNoSlashAndNoComma) {
   TemporaryFolder folder;
-  WriteDefaultImages(folder.Path().string(), {"V1400", "R7"});
+  images::WriteDefaultImages(folder.Path().string(), {"V1400", "R7"});
   EXPECT_TRUE(fs::exists(folder.File("V1400/R7/HUTH T400 T500.bin")));
   EXPECT_TRUE(fs::exists(folder.File("V1400/R7/PC COM 1 2 3 4.bin")));
 }

@@ -33,18 +33,18 @@ QString Latin(std::string_view text) {
 
 class HelpPagesTest : public ::testing::Test {
  protected:
-  const HelpPages pages_{kEmbeddedHelp};
-  const QStringList files_ = QDir(kEmbeddedHelp).entryList();
+  const ui::HelpPages pages_{ui::kEmbeddedHelp};
+  const QStringList files_ = QDir(ui::kEmbeddedHelp).entryList();
 };
 
 TEST_F(HelpPagesTest, ExplainEveryMessage) {
   const auto page = pages_.Text("messages.md");
-  for (const auto& box : BoxTable()) {
+  for (const auto& box : core::BoxTable()) {
     SCOPED_TRACE(box.topic);
     const auto head = "\n## " + Latin(box.topic) + '\n';
     ASSERT_TRUE(page.contains(head));
     const auto entry = page.mid(page.indexOf(head) + 1).section("\n## ", 0, 0);
-    auto parts = Latin(box.text).replace(Latin(kDetail), "…").split('\n');
+    auto parts = Latin(box.text).replace(Latin(core::kDetail), "…").split('\n');
     for (auto& line : parts) line = "\n> " + line.trimmed();
     for (const auto& part : parts + QStringList{Latin(box.title), "**Cause.** ", "**Cure.** "}) {
       EXPECT_TRUE(entry.contains(part)) << "lacks " << part.toStdString();
@@ -53,7 +53,7 @@ TEST_F(HelpPagesTest, ExplainEveryMessage) {
 }
 
 template <class... Kinds>
-bool Holds(const ControlRef& control) {
+bool Holds(const controls::ControlRef& control) {
   return (... || std::holds_alternative<Kinds>(control));
 }
 
@@ -63,21 +63,21 @@ TEST_F(HelpPagesTest, NameEveryTabWindowAndControlAsTheToolTipsDo) {
   QString tabs = pages_.Text("register_options.md");
   int tab = 0;
   for (const auto& caption : main.SSTab1.captions) {
-    const auto text = pages_.Text(HelpPageOfTab(tab++));
+    const auto text = pages_.Text(ui::HelpPageOfTab(tab++));
     EXPECT_TRUE(text.startsWith("# " + Latin(caption).trimmed())) << caption;
     tabs += text;
   }
   for (const auto* window : screen.Main().findChildren<QDialog*>()) {
     const auto name = window->objectName();
-    EXPECT_TRUE(files_.contains(HelpPageOfWindow(name))) << name.toStdString();
+    EXPECT_TRUE(files_.contains(ui::HelpPageOfWindow(name))) << name.toStdString();
   }
   for (const auto& [own_name, control, form] : screen.App().registry.All()) {
     SCOPED_TRACE(form->name + "." + own_name);
-    const bool picks = Holds<List*, OptionArray*>(control);
-    EXPECT_TRUE(!picks || ToolTipOf(form->name, own_name).endsWith('.'));
-    if (!picks && !Holds<TextBox*, Button*, CheckBox*>(control)) continue;
+    const bool picks = Holds<controls::List*, controls::OptionArray*>(control);
+    EXPECT_TRUE(!picks || ui::ToolTipOf(form->name, own_name).endsWith('.'));
+    if (!picks && !Holds<controls::TextBox*, controls::Button*, controls::CheckBox*>(control)) continue;
     // By its name, or that of the array that it belongs to.
-    const auto text = form == &main.form ? tabs : pages_.Text(HelpPageOfWindow(Latin(form->name)));
+    const auto text = form == &main.form ? tabs : pages_.Text(ui::HelpPageOfWindow(Latin(form->name)));
     const auto name = Latin(own_name), array = name.section('(', 0, 0);
     EXPECT_TRUE(text.contains('`' + name + '`') || text.contains('`' + array + '`'));
   }
@@ -101,7 +101,7 @@ TEST_F(HelpPagesTest, NameEveryMenuItemUnderItsMenuAndEveryShortcut) {
 
 TEST_F(HelpPagesTest, HaveARowForEveryFieldWithItsPlaceAndEditor) {
   const auto page = pages_.Text("fields.md");
-  for (const auto& field : FieldTable()) {
+  for (const auto& field : image::FieldTable()) {
     const QRegularExpression row(QString("\n\\| `%1` \\| .+ \\| [^|]+ \\|\n").arg(Latin(field.name)));
     EXPECT_TRUE(row.match(page).hasMatch()) << field.name;
   }
@@ -115,7 +115,7 @@ TEST_F(HelpPagesTest, LeadNowhereThatIsNot) {
   QStringList places = files_, listed("contents.md");
   for (const auto& file : files_) {
     for (const auto& line : pages_.Text(file).split('\n')) {
-      if (line.startsWith('#')) places.append(file + '#' + AnchorOf(line));
+      if (line.startsWith('#')) places.append(file + '#' + ui::AnchorOf(line));
     }
   }
   static const QRegularExpression link("[^!]\\[[^\\]]+\\]\\(([^)]+)\\)");
@@ -133,7 +133,7 @@ TEST_F(HelpPagesTest, LeadNowhereThatIsNot) {
 
 class HelpWindowTest : public ScreenTest {
  protected:
-  HelpWindow* Help() { return OnScreen().Help().Window(); }
+  ui::HelpWindow* Help() { return OnScreen().Help().Window(); }
   QTextBrowser& Page() { return *Help()->findChild<QTextBrowser*>(); }
   QString Path(const QString& name) const { return folder.File(name.toStdString()).c_str(); }
 };
@@ -168,14 +168,14 @@ TEST_F(HelpWindowTest, OpensTheWordsOfABoxInAWindowOfItsOwn) {
     shown = Page().source().toString();
     box->close();
   });
-  ShowBox(&Main(), BoxOf(Box::kTimeOut, {}));
+  ui::ShowBox(&Main(), core::BoxOf(core::Box::kTimeOut, {}));
   EXPECT_EQ(shown, "help:/messages.md#connection-time-out");
   EXPECT_EQ(Help(), nullptr);
 }
 
 TEST_F(HelpWindowTest, SaysSoWhenPagesAreMissing) {
-  const HelpPages none(Path("nowhere"));
-  HelpWindow window(none, nullptr);
+  const ui::HelpPages none(Path("nowhere"));
+  ui::HelpWindow window(none, nullptr);
   window.Open("remote.md");
   EXPECT_TRUE(none.Contents().empty());
   EXPECT_TRUE(none.Text("remote.md").contains("nowhere/remote.md cannot be read: "));
@@ -184,17 +184,17 @@ TEST_F(HelpWindowTest, SaysSoWhenPagesAreMissing) {
 }
 
 TEST_F(HelpWindowTest, ThePagesMakeAGuideWithPictures) {
-  const HelpPages pages(kEmbeddedHelp);
+  const ui::HelpPages pages(ui::kEmbeddedHelp);
   const auto guide = Path("guide.pdf");
-  EXPECT_NE(WriteGuide(HelpPages(Path("nowhere")), {}, guide), "");
-  EXPECT_EQ(WriteGuide(pages, {}, guide), "");
+  EXPECT_NE(ui::WriteGuide(ui::HelpPages(Path("nowhere")), {}, guide), "");
+  EXPECT_EQ(ui::WriteGuide(pages, {}, guide), "");
   const auto without_pictures = QFileInfo(guide).size();
   QImage picture(200, 100, QImage::Format_RGB32);
   picture.fill(Qt::red);
   ASSERT_TRUE(picture.save(Path("tab2_alarm_outputs.png")) && picture.save(Path("micros_idn.png")));
-  EXPECT_EQ(WriteGuide(pages, Path(""), guide), "");
+  EXPECT_EQ(ui::WriteGuide(pages, Path(""), guide), "");
   EXPECT_GT(QFileInfo(guide).size(), without_pictures);
-  EXPECT_TRUE(WriteGuide(pages, {}, guide + "/no/guide.pdf").contains(guide));
+  EXPECT_TRUE(ui::WriteGuide(pages, {}, guide + "/no/guide.pdf").contains(guide));
 }
 
 // The desktop, as far as it opens files.
@@ -211,8 +211,8 @@ class Desktop : public QObject {
 
 // What the desktop answers when it is asked for the program of a kind of file.
 void Answer(const TemporaryFolder& folder, const std::string& reader, const std::string& browser) {
-  WriteWhole(folder.File("xdg-mime"), "#!/bin/sh\ncase $3 in application/pdf) echo " + reader +
-                                          ";; inode/directory) echo " + browser + ";; esac\n");
+  files::WriteWhole(folder.File("xdg-mime"), "#!/bin/sh\ncase $3 in application/pdf) echo " + reader +
+                                                 ";; inode/directory) echo " + browser + ";; esac\n");
   std::filesystem::permissions(folder.File("xdg-mime"), std::filesystem::perms::owner_all);
 }
 
@@ -221,7 +221,7 @@ TEST_F(HelpWindowTest, OpensAManualOrItsFolderOrTellsWhy) {
   const TemporaryFolder tools;
   const auto path = qgetenv("PATH");
   qputenv("PATH", QByteArray::fromStdString(tools.Path().string()) + ':' + path);
-  const auto manuals = ManualFolder(Path(""));
+  const auto manuals = ui::ManualFolder(Path(""));
   QString told;
   const auto opened_by = [&](const std::function<void()>& open) {
     desktop.opened.clear();
@@ -232,7 +232,7 @@ TEST_F(HelpWindowTest, OpensAManualOrItsFolderOrTellsWhy) {
     return desktop.opened.join(',') + told;
   };
   const auto opened = [&](const QString& in, const char* file) {
-    return opened_by([&] { OpenManual(Main(), in, file, [&](const QString& why) { told = why; }); });
+    return opened_by([&] { ui::OpenManual(Main(), in, file, [&](const QString& why) { told = why; }); });
   };
   EXPECT_EQ(opened(manuals, ""),
             "The manual folder cannot be opened.\n\n" + manuals + ": No such file or directory");
@@ -241,7 +241,7 @@ TEST_F(HelpWindowTest, OpensAManualOrItsFolderOrTellsWhy) {
     ASSERT_TRUE(QFile(manuals + name).open(QIODevice::WriteOnly));
   }
   Answer(tools, "reader", "browser");
-  EXPECT_EQ(ListManuals(manuals), QStringList({"a.PDF", "B.pdf"}));
+  EXPECT_EQ(ui::ListManuals(manuals), QStringList({"a.PDF", "B.pdf"}));
   auto& menu = *Main().HelpMenu().findChild<QMenu*>("menuManual");
   emit menu.aboutToShow();
   ASSERT_EQ(menu.actions().size(), 4);

@@ -32,7 +32,7 @@ bool Reachable(const QWidget* widget, const QWidget* page) {
   return inside && (ground == page || Reachable(area(), page));
 }
 
-std::multiset<std::string> Controls(const QWidget& page, const Registry& registry) {
+std::multiset<std::string> Controls(const QWidget& page, const controls::Registry& registry) {
   std::multiset<std::string> controls;
   for (const auto* widget : VisibleIn<QAbstractButton, QComboBox, QLineEdit, QAbstractItemView>(page)) {
     if (IsOne<QHeaderView>(widget)) continue;
@@ -65,11 +65,14 @@ void ExpectLettersOfTheirOwn(const QList<QAction*>& menus, const QWidget& page) 
 }
 
 TEST(KeyboardWalk, ReachesEveryControlOfATabOnceByItsNameAndFindsNoTextCut) {
-  for (const auto& firmware :
-       {FirmwareId{"V1400", "R12"}, {"V1400", "R1"}, {"V1300", "R14"}, {"V1324", "R26"}, {"V1334", "R1"}}) {
+  for (const auto& firmware : {firmware::FirmwareId{"V1400", "R12"},
+                               {"V1400", "R1"},
+                               {"V1300", "R14"},
+                               {"V1324", "R26"},
+                               {"V1334", "R1"}}) {
     Screen screen(firmware);
     auto& window = screen.Main();
-    screen.App().frmMain.CmdUpDow[kMasterReset].visible = true;
+    screen.App().frmMain.CmdUpDow[controls::kMasterReset].visible = true;
     screen.App().frmMain.Timer.enabled = false;  // its first tick may show another list of days meanwhile
     screen.Select("TCPIP");
     for (int tab = 0; tab < window.Tabs().count(); ++tab) {
@@ -98,7 +101,7 @@ TEST(KeyboardWalk, ReachesEveryControlOfATabOnceByItsNameAndFindsNoTextCut) {
 TEST(KeyboardWalk, FindsNamesLettersAndRoomInEverySmallWindow) {
   Screen screen;
   auto& app = screen.App();
-  const auto look = [&](const Form& form) {
+  const auto look = [&](const controls::Form& form) {
     SCOPED_TRACE(form.name);
     screen.Show();
     auto& window = screen.Window(form);
@@ -113,7 +116,7 @@ TEST(KeyboardWalk, FindsNamesLettersAndRoomInEverySmallWindow) {
     look(*form);
     form->loaded = form->visible = false;
   }
-  const std::tuple<const char*, const char*, const Form*> options[] = {
+  const std::tuple<const char*, const char*, const controls::Form*> options[] = {
       {"MICROS", "OpMicros(1)", &app.frmMicros.form}, {"MICROS", "OpMicros(2)", &app.frmMicros.form},
       {"MICROS", "OpMicros(3)", &app.frmMicros.form}, {"CASIO", "CASIOOP(18)", &app.FrmSubMenu.form},
       {"SHARP", "SharpOP(12)", &app.FrmSubMenu.form}, {"SHARP", "SharpOP(22)", &app.FrmSubMenu.form}};

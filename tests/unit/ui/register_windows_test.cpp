@@ -11,7 +11,7 @@
 namespace ovl::testing {
 namespace {
 
-using enum FieldId;
+using enum image::FieldId;
 using Names = std::set<std::string>;
 
 // The frames, each with its lists, options, buttons and labels with a name; behind a colon the inner frame
@@ -38,7 +38,7 @@ Names Wanted(Screen& screen) {
   Names wanted;
   const auto face = [&](const std::string& name) {
     const auto* found = screen.App().registry.Find(form.form, name);
-    return found == nullptr ? nullptr : &FaceOf(found->control);
+    return found == nullptr ? nullptr : &controls::StateOf(found->control);
   };
   const auto want = [&](const std::string& name) {
     if (face(name) != nullptr && face(name)->visible) wanted.insert(name);
@@ -74,7 +74,7 @@ void ExpectFrameAsTheModelSays(Screen& screen, const std::string& when) {
 
 TEST(RegisterFrames, ShowExactlyWhatTheModelShowsAndTakePicks) {
   for (const auto& firmware :
-       {FirmwareId{"V1400", "R12"}, {"V1300", "R14"}, {"V1310", "R1"}, {"V1324", "R26"}}) {
+       {firmware::FirmwareId{"V1400", "R12"}, {"V1300", "R14"}, {"V1310", "R1"}, {"V1324", "R26"}}) {
     Screen screen(firmware);
     const auto& main = screen.App().frmMain;
     std::size_t controls = 0;
@@ -85,11 +85,11 @@ TEST(RegisterFrames, ShowExactlyWhatTheModelShowsAndTakePicks) {
       // Every option and the last entry of every list in the frame.
       for (const auto& name : Wanted(screen)) {
         const auto& control = screen.App().registry.Find(main.form, name)->control;
-        if (const auto* element = std::get_if<OptionElement>(&control)) {
+        if (const auto* element = std::get_if<controls::OptionElement>(&control)) {
           screen.Click(name);
           EXPECT_EQ(element->array->chosen, element->element) << name;
           EXPECT_TRUE(screen.Find<QRadioButton>(name).isChecked()) << name;
-        } else if (auto* const* list = std::get_if<List*>(&control)) {
+        } else if (auto* const* list = std::get_if<controls::List*>(&control)) {
           const int last = static_cast<int>((*list)->items.size()) - 1;
           screen.Pick(name, last);
           EXPECT_EQ((*list)->position, last) << name;

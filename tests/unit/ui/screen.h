@@ -55,46 +55,46 @@ inline void ExpectRoom(const QWidget& page) {
 }
 
 // A program folder with the first register's image, and the store that names its firmware.
-inline void MakeSite(const TemporaryFolder& folder, const FirmwareId& firmware) {
+inline void MakeSite(const TemporaryFolder& folder, const firmware::FirmwareId& firmware) {
   const auto images = folder.Path() / firmware.version / firmware.release;
   std::filesystem::create_directories(images);
   std::filesystem::create_directories(folder.Path() / "ORB");
-  WriteWhole((images / "GENERIC.bin").string(), PatternStream(firmware) + "\r\n");
-  WriteWhole(folder.File("ORB/OVL Software.conf"),
-             "[General]\nVersion=" + firmware.version + "\nRelease=" + firmware.release + "\n");
+  files::WriteWhole((images / "GENERIC.bin").string(), PatternStream(firmware) + "\r\n");
+  files::WriteWhole(folder.File("ORB/OVL Software.conf"),
+                    "[General]\nVersion=" + firmware.version + "\nRelease=" + firmware.release + "\n");
 }
 
 // A program with its windows, over the default images of its firmware and a line in memory.
 class Screen {
  public:
-  explicit Screen(const FirmwareId& firmware = {"V1400", "R12"}, Pages pages = Pages::kAll) {
-    ApplyTheme(Theme::kLight);
+  explicit Screen(const firmware::FirmwareId& firmware = {"V1400", "R12"}, Pages pages = Pages::kAll) {
+    ui::ApplyTheme(ui::Theme::kLight);
     MakeSite(folder, firmware);
-    WriteDefaultImages(folder.Path().string(), firmware);
+    images::WriteDefaultImages(folder.Path().string(), firmware);
     const auto path = QString::fromStdString(folder.Path().string());
-    program = std::make_unique<Program>(path, path);
-    App().platform.show_message = [this](const MessageBox& box) {
+    program = std::make_unique<ui::Program>(path, path);
+    App().platform.show_message = [this](const core::MessageBox& box) {
       boxes.push_back(box.text);
       while_box();
     };
     auto& serial = App().platform.serial;
-    serial.open = [](const LineSettings&) { return SerialLine::Error(); };
-    serial.write = [](std::string_view) { return SerialLine::Error(); };
+    serial.open = [](const core::LineSettings&) { return core::SerialLine::Error(); };
+    serial.write = [](std::string_view) { return core::SerialLine::Error(); };
     serial.close = serial.clear_input = serial.clear_output = [] {};
-    if (program->Start() != Outcome::kDone) throw std::runtime_error("no start");
+    if (program->Start() != core::Outcome::kDone) throw std::runtime_error("no start");
     if (pages == Pages::kAll) OnScreen().BuildAll();
     Main().resize(960, 600);
   }
 
-  Application& App() { return program->Model(); }
-  MainWindow& Main() { return program->OnScreen().Main(); }
-  Windows& OnScreen() { return program->OnScreen(); }
-  FormWindow& Window(const Form& form) { return *OnScreen().WindowOf(form); }
+  core::Application& App() { return program->Model(); }
+  ui::MainWindow& Main() { return program->OnScreen().Main(); }
+  ui::Windows& OnScreen() { return program->OnScreen(); }
+  ui::FormWindow& Window(const controls::Form& form) { return *OnScreen().WindowOf(form); }
 
   void Select(std::string_view register_name) {
     auto& list = App().frmMain.ComboReg;
     const auto found = std::find(list.items.begin(), list.items.end(), register_name);
-    program->Act(PickEvent{&list, static_cast<int>(found - list.items.begin())});
+    program->Act(core::PickEvent{&list, static_cast<int>(found - list.items.begin())});
     Show();
   }
 
@@ -149,7 +149,7 @@ class Screen {
     Find(name).setFocus();
   }
 
-  std::string Note() { return Find<CutLabel>("StatusNote").Text().toStdString(); }
+  std::string Note() { return Find<ui::CutLabel>("StatusNote").Text().toStdString(); }
   std::string QuietLine() {
     const auto* line = Main().Tabs().currentWidget()->findChild<QLabel*>("QuietLine");
     return line->isVisible() ? line->text().toStdString() : std::string();
@@ -158,7 +158,7 @@ class Screen {
   TemporaryFolder folder;
   std::vector<std::string> boxes;
   std::function<void()> while_box = [] {};
-  std::unique_ptr<Program> program;
+  std::unique_ptr<ui::Program> program;
 
  private:
   QWidget& FocusWidget() {

@@ -14,23 +14,23 @@ namespace fs = std::filesystem;
 TEST(ProgramFolder, WhatIsShippedIsLinkedIntoRealFamilyFolders) {
   const TemporaryFolder shipped, own;
   const auto link = [&](const std::string& folder) {
-    LinkShipped(QString::fromStdString(shipped.Path().string()), QString::fromStdString(folder));
+    host::LinkShipped(QString::fromStdString(shipped.Path().string()), QString::fromStdString(folder));
   };
   for (const char* folder : {"images/V1400/R12", "Manual"}) fs::create_directories(shipped.Path() / folder);
-  WriteWhole(shipped.File("images/V1400/R12/GENERIC.bin"), "x");
+  files::WriteWhole(shipped.File("images/V1400/R12/GENERIC.bin"), "x");
   fs::create_directories(own.Path() / "V1400");
   fs::create_directory_symlink("/nowhere/at/all", own.Path() / "V1400/R12");
   for (int start = 0; start < 2; ++start) link(own.Path().string());
   EXPECT_FALSE(fs::is_symlink(own.Path() / "V1400"));
   EXPECT_TRUE(fs::is_symlink(own.Path() / "V1400/R12"));
-  EXPECT_EQ(ReadWhole(own.File("V1400/R12/GENERIC.bin")), "x");
+  EXPECT_EQ(files::ReadWhole(own.File("V1400/R12/GENERIC.bin")), "x");
   EXPECT_TRUE(fs::is_directory(own.Path() / "Manual"));
 
   const auto blocked = own.File("V1400/R12/GENERIC.bin") + "/below";
   try {
     link(blocked);
     FAIL() << "a file stands in the folder's place";
-  } catch (const Failure& failure) {
+  } catch (const core::Failure& failure) {
     EXPECT_EQ(failure.Subject(), blocked);
     EXPECT_STREQ(failure.what(), "Not a directory");
   }
@@ -59,7 +59,7 @@ TEST(Store, WhatIsWrongWithItStandsInTheBox) {
   const auto settings = site.File("ORB/OVL Software.conf");
   const auto folder = QString::fromStdString(site.Path().string());
   const auto start = [&] {
-    Program program(folder, folder);
+    ui::Program program(folder, folder);
     return BoxesOf([&] { program.Start(); });
   };
   EXPECT_EQ(start(), "Please ReInstall Ovalon PC Software|" + folder +
@@ -71,20 +71,20 @@ TEST(Store, WhatIsWrongWithItStandsInTheBox) {
 
   MakeSite(site, {"V1400", "R12"});
   {
-    Program program(folder, folder);
+    ui::Program program(folder, folder);
     EXPECT_EQ(BoxesOf([&] { program.Start(); }), "");
     auto& list = program.Model().frmMain.ComboReg;
     EXPECT_TRUE(BoxesOf([&] {
-                  program.Act(PickEvent{&list, 2});
+                  program.Act(core::PickEvent{&list, 2});
                 }).endsWith(folder + "/V1400/R12/ALOHA.bin: No such file or directory"));
   }
-  Program program(folder, folder);
+  ui::Program program(folder, folder);
   EXPECT_EQ(BoxesOf([&] { program.Start(); }), "");
   fs::remove(settings);
   fs::create_directory(settings);
   const auto item = program.Model().registry.Find("V1300R14mnu")->control;
   EXPECT_EQ(
-      BoxesOf([&] { program.Act(ClickEvent{item}); }),
+      BoxesOf([&] { program.Act(core::ClickEvent{item}); }),
       "V1300R14 WILL TAKE EFFECT WHEN THE APPLICATION NEXT START|" + folder +
           "/ORB/OVL Software.conf: Filename refers to a directory\n"
           "The next start serves the same firmware as this one. Root sets another: ovl-setup V1300 R14");

@@ -75,7 +75,7 @@ TEST(RangeWindow, TakesItsValuesFromTheKeyboard) {
 
 TEST_F(ScreenTest, OpenListsMoveByArrowsAndLettersAndPickByEnter) {
   auto& form = App().frmMain;
-  const std::tuple<const char*, int, List*, const char*, int> rows[] = {
+  const std::tuple<const char*, int, controls::List*, const char*, int> rows[] = {
       {"ComboReg", kRegisterTab, &form.ComboReg, "ib", 38},
       {"AlarmOverview", kAlarmTab, &form.ComboALM[0], "7", 6},
       {"ExceptionOverview", kExceptionTab, &form.ComboExcp[0], "7", 6}};

@@ -31,24 +31,24 @@ TEST(UnsavedCopy, StandsUntilAPersonLeavesAndOpensAgainAfterASuddenEnd) {
   auto& app = screen.App();
   const auto folder = ChangeAndWait(screen);
   ASSERT_EQ(Copies(folder).size(), 1);
-  EXPECT_EQ(RescueCopies(folder), QStringList()) << "the program that keeps the copy still runs";
+  EXPECT_EQ(ui::RescueCopies(folder), QStringList()) << "the program that keeps the copy still runs";
 
   // As if a process that is gone by now had left it.
   const QDir in(folder);
   ASSERT_TRUE(QFile::rename(in.filePath(Copies(folder).front()), in.filePath("unsaved V1400R12 9.bin")));
-  EXPECT_EQ(RescueCopies(folder), QStringList("rescued V1400R12 1.bin"));
+  EXPECT_EQ(ui::RescueCopies(folder), QStringList("rescued V1400R12 1.bin"));
   const auto rescued = in.filePath("rescued V1400R12 1.bin");
   const auto changed = app.image;
   app.image = app.known_image;
-  app.platform.ask_file = [&](const FileDialog&) {
-    return std::optional(FileAnswer{rescued.toStdString(), {}});
+  app.platform.ask_file = [&](const core::FileDialog&) {
+    return std::optional(core::FileAnswer{rescued.toStdString(), {}});
   };
   screen.Find<QAction>("OpenMenu").trigger();
   EXPECT_TRUE(app.image == changed);
 
   // A file that ends the program leaves the changes, a person who closes it does not.
   screen.Pick("ComboTD(2)", app.frmMain.ComboTD[2].position == 0 ? 1 : 0);
-  WriteWhole(rescued.toStdString(), "$2000");
+  files::WriteWhole(rescued.toStdString(), "$2000");
   screen.Find<QAction>("OpenMenu").trigger();
   ASSERT_TRUE(app.ended);
   EXPECT_EQ(Copies(folder).size(), 2);
@@ -66,14 +66,14 @@ TEST(UnsavedCopy, IsTakenAwayWhenAPersonLeaves) {
 TEST(UnsavedCopy, OfAnotherFirmwareIsNamedThoughItsProcessNumberIsInUseAgain) {
   Screen screen({"V1400", "R12"});
   const auto file = [&](const char* name) { return screen.folder.File(name); };
-  WriteWhole(file("unsaved V1300R14 1.bin"), "x");
-  WriteWhole(file("unsaved V1300R14 1.bin.lock"),
-             "1\nanother\n" + QSysInfo::machineHostName().toStdString() + "\n");
-  WriteWhole(file("rescued V1300R14 1.bin"), "older");
+  files::WriteWhole(file("unsaved V1300R14 1.bin"), "x");
+  files::WriteWhole(file("unsaved V1300R14 1.bin.lock"),
+                    "1\nanother\n" + QSysInfo::machineHostName().toStdString() + "\n");
+  files::WriteWhole(file("rescued V1300R14 1.bin"), "older");
   screen.program->GuardUnsaved();
   EXPECT_EQ(screen.Note().find("rescued V1300R14 2.bin: "), 0U);
-  EXPECT_EQ(ReadWhole(file("rescued V1300R14 1.bin")), "older");
-  EXPECT_EQ(ReadWhole(file("rescued V1300R14 2.bin")), "x");
+  EXPECT_EQ(files::ReadWhole(file("rescued V1300R14 1.bin")), "older");
+  EXPECT_EQ(files::ReadWhole(file("rescued V1300R14 2.bin")), "x");
 }
 
 }  // namespace

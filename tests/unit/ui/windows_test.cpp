@@ -102,24 +102,24 @@ TEST_F(WindowsTest, ATransferShowsHowFarItIsAndItsEndStaysUntilAnswered) {
   auto& end = Window(app.frmOK_buttom.form);
   const auto& bar = Find<QProgressBar>("vbalProgressBar1");
   Main().Tabs().setCurrentIndex(kRemoteTab);
-  BeginUpload(app);
+  link::BeginUpload(app);
   Show();
   EXPECT_TRUE(bar.isVisible());
-  EXPECT_EQ(TransferProgressText(app), "waiting for the unit");
+  EXPECT_EQ(ui::TransferProgressText(app), "waiting for the unit");
   app.FrameState = 1;
   app.StreamBuffer.assign(1530, '0');
   app.frmMain.vbalProgressBar1.value = 30;
   Show();
-  EXPECT_TRUE(TransferProgressText(app).startsWith("1,530 characters, "));
+  EXPECT_TRUE(ui::TransferProgressText(app).startsWith("1,530 characters, "));
   EXPECT_EQ(bar.value(), 30);
-  FinishUpload(app);
+  link::FinishUpload(app);
   Show();
   EXPECT_TRUE(end.isVisible() && end.windowFlags().testFlag(Qt::WindowStaysOnTopHint) && !bar.isVisible());
-  EXPECT_EQ(app.LinkMode, kLinkUpload);
+  EXPECT_EQ(app.LinkMode, core::kLinkUpload);
   end.close();
-  EXPECT_EQ(app.LinkMode, kLinkIdle);
+  EXPECT_EQ(app.LinkMode, core::kLinkIdle);
   EXPECT_TRUE(!end.isVisible() && Main().Tabs().isEnabled());
-  EXPECT_EQ(TransferProgressText(app), "");
+  EXPECT_EQ(ui::TransferProgressText(app), "");
 }
 
 TEST_F(WindowsTest, TheAboutBoxTellsProgramFirmwareToolkitAndLicence) {
@@ -153,10 +153,10 @@ TEST_F(WindowsTest, TheVersionMenuMarksTheFirmwareAndAnotherPickEndsTheProgram) 
   EXPECT_TRUE(own.isChecked() && Main().isVisible());
 
   Main().findChild<QAction*>("V1300R14mnu")->trigger();
-  EXPECT_NE(ReadWhole(folder.File("ORB/OVL Software.conf")).find("Version=V1300"), std::string::npos);
+  EXPECT_NE(files::ReadWhole(folder.File("ORB/OVL Software.conf")).find("Version=V1300"), std::string::npos);
   EXPECT_EQ(boxes.size(), 1U);
   EXPECT_FALSE(Main().isVisible());
-  EXPECT_EQ(program->Act(ClickEvent{&App().frmMain.cmdConnect}), Outcome::kEnded);
+  EXPECT_EQ(program->Act(core::ClickEvent{&App().frmMain.cmdConnect}), core::Outcome::kEnded);
 }
 
 std::string Listed(Screen& screen) {
@@ -172,23 +172,23 @@ TEST_F(WindowsTest, ChangesAreListedByFieldPlaceAndLabelWithTheBytesThenAndNow) 
   auto& app = App();
   const auto& button = Find<QPushButton>("StatusChanges");
   EXPECT_FALSE(button.isVisible());
-  const auto other = [&](const List& list) { return list.position == 0 ? 1 : 0; };
-  const auto& line = app.image[FieldId::COMMCFG_BAK];
+  const auto other = [&](const controls::List& list) { return list.position == 0 ? 1 : 0; };
+  const auto& line = app.image[image::FieldId::COMMCFG_BAK];
   const auto expected = "COMMCFG_BAK|SYSCFG 1|COMMUNICATION: PARITY|" + line + "|";
   Pick("ComboCOMM(3)", other(app.frmMain.ComboCOMM[3]));
   EXPECT_EQ(button.text(), "1 change since the last load or download");
   Click("StatusChanges");
   EXPECT_EQ(Listed(*this), expected + line);
 
-  app.image.at(FieldId::EXCPSTRS, 2).replace(0, 2, "55");
+  app.image.at(image::FieldId::EXCPSTRS, 2).replace(0, 2, "55");
   Show();
   EXPECT_EQ(button.text(), "2 changes since the last load or download");
   EXPECT_NE(Listed(*this).find("|EXCPSTRS(2)|SYSSTR "), std::string::npos);
 
-  StartDownload(app);
+  link::StartDownload(app);
   const auto sent = app.image;
   Pick("ComboTD(2)", other(app.frmMain.ComboTD[2]));
-  FinishDownload(app);
+  link::FinishDownload(app);
   Show();
   EXPECT_EQ(button.text(), "1 change since the last load or download")
       << "the unit holds what was sent, not what was picked meanwhile";
@@ -216,15 +216,15 @@ TEST(Theme, TextStandsOutInBothThemes) {
   for (const auto ground : {P::Window, P::Base, P::AlternateBase}) {
     for (const auto text : {P::WindowText, P::PlaceholderText, P::Link}) texts.emplace(ground, text);
   }
-  for (const auto theme : {Theme::kLight, Theme::kDark}) {
-    ApplyTheme(theme);
+  for (const auto theme : {ui::Theme::kLight, ui::Theme::kDark}) {
+    ui::ApplyTheme(theme);
     const auto palette = QApplication::palette();
     for (const auto& [ground, text] : texts) {
       const auto [less, more] =
           std::minmax({Luminance(palette.color(text)), Luminance(palette.color(ground))});
       EXPECT_GE((more + 0.05) / (less + 0.05), 4.5) << text << " on " << ground;
     }
-    EXPECT_NE(palette.color(P::Disabled, P::WindowText), MutedColor(palette));
+    EXPECT_NE(palette.color(P::Disabled, P::WindowText), ui::MutedColor(palette));
   }
 }
 
@@ -232,12 +232,12 @@ TEST(Pictures, EveryStateIsTakenInBothThemes) {
   const TemporaryFolder site, shots;
   MakeSite(site, {"V1400", "R12"});
   const auto folder = QString::fromStdString(site.Path().string());
-  WriteWhole(shots.File("file"), "");
+  files::WriteWhole(shots.File("file"), "");
   const auto blocked = QString::fromStdString(shots.File("file"));
-  EXPECT_EQ(SavePictures(folder, folder, blocked), blocked + "/light: Not a directory");
-  WriteWhole(site.File("unsaved V1400R12 1.bin"), "a person's");
-  ASSERT_EQ(SavePictures(folder, folder, QString::fromStdString(shots.Path().string())), QString());
-  EXPECT_EQ(ReadWhole(site.File("unsaved V1400R12 1.bin")), "a person's");
+  EXPECT_EQ(pictures::SavePictures(folder, folder, blocked), blocked + "/light: Not a directory");
+  files::WriteWhole(site.File("unsaved V1400R12 1.bin"), "a person's");
+  ASSERT_EQ(pictures::SavePictures(folder, folder, QString::fromStdString(shots.Path().string())), QString());
+  EXPECT_EQ(files::ReadWhole(site.File("unsaved V1400R12 1.bin")), "a person's");
   for (const std::string theme : {"light", "dark"}) {
     const auto load = [&](const char* name) {
       return QImage(QString::fromStdString(shots.File(theme + "/" + name + ".png")));
