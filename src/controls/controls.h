@@ -93,6 +93,7 @@ struct Form : ControlState {
   std::string name;
   bool loaded = false;
   bool top_most = false;
+  bool holds_main = false;  // while this form is loaded, the main form cannot be used
   Handler load = nullptr;
   Handler shown = nullptr;
   Handler unload = nullptr;
@@ -104,6 +105,10 @@ struct Form : ControlState {
 
   Form() { visible = false; }
 };
+
+// The events of the serial control: the transmitter has run empty, or a character has arrived.
+inline constexpr int kCommSend = 1;
+inline constexpr int kCommReceive = 2;
 
 // The serial control: what the program set, and the event that is being told. The line itself is the
 // platform's.

@@ -6,9 +6,6 @@
 namespace ovl::core {
 namespace {
 
-constexpr int kCommSend = 1;
-constexpr int kCommReceive = 2;
-
 // A window that a person can reach: on the screen and not held back by another one.
 bool Reachable(const controls::Form* form) {
   return form != nullptr && form->loaded && form->visible && form->enabled;
@@ -84,8 +81,8 @@ struct Admission {
     return event.timer->enabled && Run(event.timer->handler, event.timer->index);
   }
 
-  bool operator()(const ReceivedEvent&) const { return Comm(kCommReceive); }
-  bool operator()(const DrainedEvent&) const { return Comm(kCommSend); }
+  bool operator()(const ReceivedEvent&) const { return Comm(controls::kCommReceive); }
+  bool operator()(const DrainedEvent&) const { return Comm(controls::kCommSend); }
 
   bool Comm(int event) const {
     auto& comm = app.frmMain.MSComm1;
@@ -100,21 +97,34 @@ struct Admission {
   }
 };
 
+// The gate is closed while this object lives. It opens again in every case, also when a handler throws
+// something that nobody expects: a gate that stays closed answers every later event with kBusy.
+class ClosedGate {
+ public:
+  explicit ClosedGate(Application& app) : app_(app) { app_.handling = true; }
+  ~ClosedGate() { app_.handling = false; }
+  ClosedGate(const ClosedGate&) = delete;
+  ClosedGate& operator=(const ClosedGate&) = delete;
+
+ private:
+  Application& app_;
+};
+
 template <class Work>
 Outcome Guarded(Application& app, const Work& work) {
   if (app.ended) return Outcome::kEnded;
   if (app.handling) return Outcome::kBusy;
-  app.handling = true;
-  auto outcome = Outcome::kDone;
+  const ClosedGate closed(app);
   try {
-    if (!work()) outcome = Outcome::kRefused;
+    return work() ? Outcome::kDone : Outcome::kRefused;
   } catch (const ProgramEnd&) {
-    outcome = Outcome::kEnded;
+    return Outcome::kEnded;
   } catch (const Failure& failure) {
     app.StatusNote = failure.Subject() + ": " + failure.what();
+  } catch (const std::exception& error) {
+    app.StatusNote = std::string("Internal error: ") + error.what();
   }
-  app.handling = false;
-  return outcome;
+  return Outcome::kDone;
 }
 
 }  // namespace

@@ -10,8 +10,6 @@
 namespace ovl::link {
 namespace {
 
-constexpr int kCommSend = 1;
-constexpr int kCommReceive = 2;
 constexpr std::int16_t kEnqAt = 5;  // ticks of the keep-alive
 constexpr std::int16_t kHandcheckLimit = 30;
 constexpr std::int16_t kSilenceLimit = 6;  // ticks of the watchdog
@@ -119,9 +117,9 @@ void TickHandcheck(core::Application& app) {
 
 void MSComm1_OnComm(core::Application& app, int) {
   const int event = app.frmMain.MSComm1.CommEvent;
-  if (event != kCommSend && event != kCommReceive) return;
+  if (event != controls::kCommSend && event != controls::kCommReceive) return;
   app.OperatingCount = 0;
-  if (event == kCommSend) {
+  if (event == controls::kCommSend) {
     OnSendDrained(app);
   } else {
     OnCharReceived(app);

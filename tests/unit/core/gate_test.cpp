@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 #include "support/harness.h"
 
 namespace ovl::testing {
@@ -57,6 +59,19 @@ TEST(Gate, LetsInOnlyWhatAPersonCanReach) {
   Dispatch(app, core::KeyEvent{&window.form, core::Key::kEnter});
   EXPECT_FALSE(window.form.loaded);
   EXPECT_EQ(main.TextException.text.substr(0, 4), "TILL");
+}
+
+// Without this the gate would stay closed and answer every later event with kBusy.
+TEST(Gate, OpensAgainAfterAHandlerThrewSomethingUnexpected) {
+  Harness program({"V1400", "R12"});
+  ASSERT_EQ(program.Start(), core::Outcome::kDone);
+  auto& app = program.app;
+  app.frmMain.menuAbout.handler = [](core::Application&, int) { throw std::out_of_range("no fifth entry"); };
+  EXPECT_EQ(program.Click("menuAbout"), core::Outcome::kDone);
+  EXPECT_NE(app.StatusNote.find("no fifth entry"), std::string::npos) << app.StatusNote;
+  app.frmMain.menuAbout.handler = [](core::Application&, int) { throw 5; };
+  EXPECT_THROW(program.Click("menuAbout"), int);
+  EXPECT_EQ(program.Pick("ComboTD(1)", app.frmMain.ComboTD[1].position == 0 ? 1 : 0), core::Outcome::kDone);
 }
 
 }  // namespace
