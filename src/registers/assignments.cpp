@@ -207,11 +207,11 @@ bool AssignUniwell(core::Application& app, const RegisterRow&) {
 bool AssignUniwellModels(core::Application& app, const RegisterRow&) {
   auto& form = app.frmMain;
   const int option = Byte(app, REGTYPE_EXT2);
-  form.frmAddress[18].caption.clear();
+  form.FrameOf(controls::OptionFrame::kUniwellId).caption.clear();
   if (!AssignMain<ApplyUniwellFrame>(app, form.UNIWOP)) return false;
   ShowUniwellSwitch(app, true);
   if (Assign(app, form.ComboUniFor14R7up, option) && AssignDigits(app, form.ComboUNI_ID)) return true;
-  form.frmAddress[18].visible = false;
+  form.FrameOf(controls::OptionFrame::kUniwellId).visible = false;
   return false;
 }
 

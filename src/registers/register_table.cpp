@@ -9,34 +9,35 @@ namespace {
 
 using enum image::FieldId;
 using Row = RegisterRow;
+using Frame = controls::OptionFrame;
 using Form = controls::RegisterOptions;
 
-constexpr FamilySet k4 = kFamily1400;
-constexpr FamilySet k3 = kFamily1300;
-constexpr FamilySet k1 = kFamily1310;
-constexpr FamilySet k2 = kFamily1324;
-constexpr FamilySet k5 = kFamily1334;
-constexpr FamilySet k431 = k4 | k3 | k1;
-constexpr FamilySet k31 = k3 | k1;
-constexpr FamilySet k425 = k4 | k2 | k5;
-constexpr FamilySet k125 = k1 | k2 | k5;
-constexpr FamilySet k25 = k2 | k5;
+constexpr FamilySet kV1400 = kFamily1400;
+constexpr FamilySet kV1300 = kFamily1300;
+constexpr FamilySet kV1310 = kFamily1310;
+constexpr FamilySet kV1324 = kFamily1324;
+constexpr FamilySet kV1334 = kFamily1334;
+// Two lines of lists: V1300 with V1310, and V1324 with V1334. V1400 has the registers of both.
+constexpr FamilySet kLine1300 = kV1300 | kV1310;
+constexpr FamilySet kLine1324 = kV1324 | kV1334;
+constexpr FamilySet kWith1300 = kV1400 | kLine1300;
+constexpr FamilySet kWith1324 = kV1400 | kLine1324;
 
 // The V1400 model lists begin with this release.
 constexpr int kModels = 7;
 
 // One option array, or one list, from one byte.
-constexpr Row Options(std::string_view key, FamilySet families, int frame, std::string_view title,
+constexpr Row Options(std::string_view key, FamilySet families, Frame frame, std::string_view title,
                       controls::OptionArray Form::*array, image::FieldId from = REGTYPE_MINOR) {
   return {key, families, frame, title, AssignArray, array, nullptr, from};
 }
 
-constexpr Row Selection(std::string_view key, FamilySet families, int frame, std::string_view title,
+constexpr Row Selection(std::string_view key, FamilySet families, Frame frame, std::string_view title,
                         controls::List Form::*list, image::FieldId from = REGTYPE_MINOR) {
   return {key, families, frame, title, AssignList, nullptr, list, from};
 }
 
-constexpr Row By(std::string_view key, FamilySet families, int frame, std::string_view title,
+constexpr Row By(std::string_view key, FamilySet families, Frame frame, std::string_view title,
                  bool (*assign)(core::Application&, const Row&)) {
   return {key, families, frame, title, assign};
 }
@@ -52,90 +53,98 @@ constexpr Row From(int release, Row row) {
 }
 
 constexpr std::array kRegisters = {
-    Below(16, By("TCPIP", k3, 21, "SET IP ADDRESS", AssignOldTcpip)),
-    From(16, By("TCPIP", k3, 30, "IP AND INFORMATION CONFIG", AssignTcpip)),
-    By("TCPIP", k4 | k125, 30, "IP AND INFORMATION CONFIG", AssignTcpip),
-    Selection("ADDRESSABLE OVL", k431 | k5, 0, "SET ADDRESS", &Form::ComboAddress),
-    Selection("ADS", k431, 1, "ADS SET DISPLAY", &Form::ComboDisplay),
-    Options("DELTA SONO 3.1", k431, 2, "DELTA SETTING", &Form::OpDelta),
-    Below(kModels, Options("DRESSER WAYNE", k4, 3, "DRESSER WAYNE SETTING", &Form::OpDYWAYE)),
-    From(kModels, By("DRESSER WAYNE", k4, 36, "DRESSER WAYNE SETTING", AssignDresserWayne)),
-    Options("DRESSER WAYNE", k3 | k125, 3, "DRESSER WAYNE SETTING", &Form::OpDYWAYE),
-    Options("EDACOM", k431, 4, "SET MODEL", &Form::OpEDA),
-    Options("EDACOM", k25, 4, "EDACOM MODEL SETTING ", &Form::OpEDA),
-    Below(kModels, Selection("FUJITSU", k4, 1, "FUJITSU 9920 SET DISPLAY", &Form::ComboDisplay)),
-    From(kModels, By("FUJITSU", k4, 38, "FUJITSU SETTINGS", AssignFujitsu)),
-    Selection("FUJITSU", k31, 1, "FUJITSU 9920 SET DISPLAY", &Form::ComboDisplay),
-    By("GASBOY", k431, 5, "GASBOY SETTING", AssignGasboy),
-    By("GILBARCO", k431, 6, "GILBRACO", AssignGilbarco),
-    By("IBM3151 TERMINAL", k431, 7, "", AssignIbm3151),
-    Selection("IBM RDS", k431, 1, "IBM RDS SET DISPLAY", &Form::ComboDisplay),
-    By("MICRELEC", k431, 8, "MICRELEC MODE", AssignMicrelec),
-    By("MICROS", k431, 9, "MICROS", AssignMicros),
-    By("NCR", k431, 10, "NCR MODEL", AssignNcr),
-    Options("BEETLE 50 PRINTERS", k431, 11, "NIXDORF BEETLE", &Form::OpBEETLE),
-    Options("BEETLE 50 PRINTERS", k25, 11, "Beetle/50 Printers SETTING", &Form::OpBEETLE),
-    By("NORAND 1200", k431, 12, "NORAND", AssignNorand),
-    By("PANASONIC", k431, 13, "PANASONIC", AssignPanasonic),
-    Below(kModels, Options("SHARP", k4, 14, "SHARP MODEL", &Form::OpSharp)),
-    From(kModels, By("SHARP", k4, 46, "SHARP MODEL", AssignSharpModels)),
-    Options("SHARP", k31, 14, "SHARP MODEL", &Form::OpSharp),
-    Selection("SICOM", k431, 15, "SICOM", &Form::ComboSICOM),
-    Options("SUNTRONIC", k431, 16, "SUNTRONIC", &Form::OpSun),
-    By("TCI", k431, 17, "TCI ADDRESS", AssignTci),
-    Below(kModels, By("UNIWELL MODEL", k4, 18, "UNIWELL", AssignUniwell)),
-    From(kModels, By("UNIWELL MODEL", k4, 49, "UNIWELL", AssignUniwellModels)),
-    By("UNIWELL MODEL", k31, 18, "UNIWELL", AssignUniwell),
-    Options("VERIFONE", k431, 19, "VERIFONE", &Form::OpVerifone),
-    Selection("UP3000 3300", k431, 20, "UP3000/UP3300", &Form::ComboAddr),
-    By("CASIO TK-T500", k4 | k125, 22, "", AssignTk500),
-    By("CASIO TE-2200", k4 | k125, 29, "", AssignTe2200),
-    By("CLARITY EPOS", k4, 23, "CLARITY EPOS SETTING", AssignClarity),
-    By("CLARITY EPOS", k25, 23, "", AssignClarity),
-    By("EPSON GENERIC", k4 | k125, 24, "", AssignEpson),
-    Options("NIXDORF BEETLE", k425, 25, "NIXDORF BEETLE SETTING", &Form::OpNIXDORF),
-    By("NUCLEUS PRINTER", k425, 26, "NUCLEUS PRINTER SETTING", AssignNucleus),
-    By("ODOMETER", k425, Row::kNoFrame, "", AssignOdometer),
-    Below(kModels, Options("OMEGA 2000", k4, 25, "OMEGA 2000 SETTING", &Form::OpNIXDORF)),
-    From(kModels, Options("OMEGA 2000", k4, 25, "OMEGA 2000 SETTING", &Form::OpNIXDORF, REGTYPE_EXT2)),
-    Options("OMEGA 2000", k25, 25, "OMEGA 2000 SETTING", &Form::OpNIXDORF),
-    By("SCHLUMBERGER", k425, 7, "", AssignSchlumberger),
-    Selection("SHARP 750 ER-01PU", k425, 1, " SHARP 750 ER-01PU SET DISPLAY", &Form::ComboDisplay),
-    Options("SHARP ER-A410 420", k425, 27, "", &Form::OpA410),
-    Options("SHARP UP600", k425, 28, "", &Form::OpSHARPUP600),
-    Selection("SPEDI CCTV", k425, 0, "SPEDI CCTV SET ADDRESS", &Form::ComboAddress),
-    Options("TKMAXX", k425, 25, "TKMAXX SETTING", &Form::OpNIXDORF),
-    By("WEIGH SCALE", k4, 32, "", AssignScaleModels),
-    By("WEIGH SCALE", k125, 26, "WEIGH SCALE SETTING", AssignScale),
-    Below(kModels, By("TEC", k4, 31, "", AssignTec)),
-    From(kModels, By("TEC", k4, 48, "", AssignTecModels)),
-    By("TEC", k125, 31, "", AssignTec),
-    By("SENSORS", k431, 50, "", AssignSensors),
-    Options("BLEEP", k4, 33, "", &Form::BleepOP),
-    By("CASIO", k4, 34, "", AssignCasio),
-    Options("DIGIPOS", k4, 35, "", &Form::DIGIOP),
-    By("EASY2TOUCH", k4, 37, "EASY2TOUCH", AssignEasyTouch),
-    By("EUROPAD", k4, 37, "EUROPAD", AssignEuropad),
-    By("POSIFLEX", k4, 37, "POSIFLEX", AssignPosiflex),
-    Options("GELLER", k4, 39, "", &Form::GELLEROP),
-    By("IBM", k4, 40, "", AssignIbm),
-    By("ICL", k4, 41, "", AssignIcl),
-    By("I-CNTRL INT JAVELIN VIPER", k4, 18, "I-CNTRL INT JAVELIN VIPER", AssignSerialId),
-    By("JCM", k4, 42, "JMC", AssignJcm),
-    By("MERIT", k4, 18, "MERIT", AssignSerialId),
-    By("NCR MODEL", k4, 43, "", AssignNcrModel),
-    By("NIXDORF", k4, 44, "", AssignNixdorf),
-    By("OMRON", k4, 42, "OMRON", AssignOmron),
-    By("PAR", k4, 42, "PAR", AssignPar),
-    By("PARAGON CLARITY SMARTPAD", k4, 23, "PARAGON CLARITY SMARTPAD", AssignClarity),
-    By("PROSPER", k4, 42, "PROSPER", AssignProsper),
-    Options("RIVA", k4, 19, "RIVA", &Form::OpVerifone),
-    Options("SAMSUNG", k4, 45, "SAMSUNG", &Form::SamOP),
-    Options("TEAM POS 2000", k4, 47, "TEAM POS 2000", &Form::TEAMPOSOP, REGTYPE_EXT2),
-    By("VECTRON", k4, 42, "VECTRON", AssignVectron),
-    Options("POLE DISPLAY", k1, 53, "", &Form::OpPoleDisplay),
-    Selection("NE134 COUNTER", k1, 51, "SET ADDRESS", &Form::ComboNE134),
-    Options("VISHAY WEIGHBRIDGE", k1, 52, "", &Form::OpVWEIGHBRIDGE),
+    Below(16, By("TCPIP", kV1300, Frame::kOldTcpip, "SET IP ADDRESS", AssignOldTcpip)),
+    From(16, By("TCPIP", kV1300, Frame::kTcpip, "IP AND INFORMATION CONFIG", AssignTcpip)),
+    By("TCPIP", kV1400 | kLine1324 | kV1310, Frame::kTcpip, "IP AND INFORMATION CONFIG", AssignTcpip),
+    Selection("ADDRESSABLE OVL", kWith1300 | kV1334, Frame::kAddress, "SET ADDRESS", &Form::ComboAddress),
+    Selection("ADS", kWith1300, Frame::kDisplay, "ADS SET DISPLAY", &Form::ComboDisplay),
+    Options("DELTA SONO 3.1", kWith1300, Frame::kDelta, "DELTA SETTING", &Form::OpDelta),
+    Below(kModels,
+          Options("DRESSER WAYNE", kV1400, Frame::kDresserWayne, "DRESSER WAYNE SETTING", &Form::OpDYWAYE)),
+    From(kModels, By("DRESSER WAYNE", kV1400, Frame::kDresserWayneModels, "DRESSER WAYNE SETTING",
+                     AssignDresserWayne)),
+    Options("DRESSER WAYNE", kV1300 | kLine1324 | kV1310, Frame::kDresserWayne, "DRESSER WAYNE SETTING",
+            &Form::OpDYWAYE),
+    Options("EDACOM", kWith1300, Frame::kEdacom, "SET MODEL", &Form::OpEDA),
+    Options("EDACOM", kLine1324, Frame::kEdacom, "EDACOM MODEL SETTING ", &Form::OpEDA),
+    Below(kModels,
+          Selection("FUJITSU", kV1400, Frame::kDisplay, "FUJITSU 9920 SET DISPLAY", &Form::ComboDisplay)),
+    From(kModels, By("FUJITSU", kV1400, Frame::kFujitsu, "FUJITSU SETTINGS", AssignFujitsu)),
+    Selection("FUJITSU", kLine1300, Frame::kDisplay, "FUJITSU 9920 SET DISPLAY", &Form::ComboDisplay),
+    By("GASBOY", kWith1300, Frame::kGasboy, "GASBOY SETTING", AssignGasboy),
+    By("GILBARCO", kWith1300, Frame::kGilbarco, "GILBRACO", AssignGilbarco),
+    By("IBM3151 TERMINAL", kWith1300, Frame::kPrintout, "", AssignIbm3151),
+    Selection("IBM RDS", kWith1300, Frame::kDisplay, "IBM RDS SET DISPLAY", &Form::ComboDisplay),
+    By("MICRELEC", kWith1300, Frame::kMicrelec, "MICRELEC MODE", AssignMicrelec),
+    By("MICROS", kWith1300, Frame::kMicros, "MICROS", AssignMicros),
+    By("NCR", kWith1300, Frame::kNcr, "NCR MODEL", AssignNcr),
+    Options("BEETLE 50 PRINTERS", kWith1300, Frame::kBeetlePrinters, "NIXDORF BEETLE", &Form::OpBEETLE),
+    Options("BEETLE 50 PRINTERS", kLine1324, Frame::kBeetlePrinters, "Beetle/50 Printers SETTING",
+            &Form::OpBEETLE),
+    By("NORAND 1200", kWith1300, Frame::kNorand, "NORAND", AssignNorand),
+    By("PANASONIC", kWith1300, Frame::kPanasonic, "PANASONIC", AssignPanasonic),
+    Below(kModels, Options("SHARP", kV1400, Frame::kSharp, "SHARP MODEL", &Form::OpSharp)),
+    From(kModels, By("SHARP", kV1400, Frame::kSharpModels, "SHARP MODEL", AssignSharpModels)),
+    Options("SHARP", kLine1300, Frame::kSharp, "SHARP MODEL", &Form::OpSharp),
+    Selection("SICOM", kWith1300, Frame::kSicom, "SICOM", &Form::ComboSICOM),
+    Options("SUNTRONIC", kWith1300, Frame::kSuntronic, "SUNTRONIC", &Form::OpSun),
+    By("TCI", kWith1300, Frame::kTci, "TCI ADDRESS", AssignTci),
+    Below(kModels, By("UNIWELL MODEL", kV1400, Frame::kUniwellId, "UNIWELL", AssignUniwell)),
+    From(kModels, By("UNIWELL MODEL", kV1400, Frame::kUniwellModels, "UNIWELL", AssignUniwellModels)),
+    By("UNIWELL MODEL", kLine1300, Frame::kUniwellId, "UNIWELL", AssignUniwell),
+    Options("VERIFONE", kWith1300, Frame::kVerifone, "VERIFONE", &Form::OpVerifone),
+    Selection("UP3000 3300", kWith1300, Frame::kUp3000, "UP3000/UP3300", &Form::ComboAddr),
+    By("CASIO TK-T500", kV1400 | kLine1324 | kV1310, Frame::kCasioTk500, "", AssignTk500),
+    By("CASIO TE-2200", kV1400 | kLine1324 | kV1310, Frame::kCasioTe2200, "", AssignTe2200),
+    By("CLARITY EPOS", kV1400, Frame::kClarity, "CLARITY EPOS SETTING", AssignClarity),
+    By("CLARITY EPOS", kLine1324, Frame::kClarity, "", AssignClarity),
+    By("EPSON GENERIC", kV1400 | kLine1324 | kV1310, Frame::kEpson, "", AssignEpson),
+    Options("NIXDORF BEETLE", kWith1324, Frame::kNixdorfBeetle, "NIXDORF BEETLE SETTING", &Form::OpNIXDORF),
+    By("NUCLEUS PRINTER", kWith1324, Frame::kPrinterOrScale, "NUCLEUS PRINTER SETTING", AssignNucleus),
+    By("ODOMETER", kWith1324, Frame::kNone, "", AssignOdometer),
+    Below(kModels,
+          Options("OMEGA 2000", kV1400, Frame::kNixdorfBeetle, "OMEGA 2000 SETTING", &Form::OpNIXDORF)),
+    From(kModels, Options("OMEGA 2000", kV1400, Frame::kNixdorfBeetle, "OMEGA 2000 SETTING", &Form::OpNIXDORF,
+                          REGTYPE_EXT2)),
+    Options("OMEGA 2000", kLine1324, Frame::kNixdorfBeetle, "OMEGA 2000 SETTING", &Form::OpNIXDORF),
+    By("SCHLUMBERGER", kWith1324, Frame::kPrintout, "", AssignSchlumberger),
+    Selection("SHARP 750 ER-01PU", kWith1324, Frame::kDisplay, " SHARP 750 ER-01PU SET DISPLAY",
+              &Form::ComboDisplay),
+    Options("SHARP ER-A410 420", kWith1324, Frame::kSharpA410, "", &Form::OpA410),
+    Options("SHARP UP600", kWith1324, Frame::kSharpUp600, "", &Form::OpSHARPUP600),
+    Selection("SPEDI CCTV", kWith1324, Frame::kAddress, "SPEDI CCTV SET ADDRESS", &Form::ComboAddress),
+    Options("TKMAXX", kWith1324, Frame::kNixdorfBeetle, "TKMAXX SETTING", &Form::OpNIXDORF),
+    By("WEIGH SCALE", kV1400, Frame::kWeighScale, "", AssignScaleModels),
+    By("WEIGH SCALE", kLine1324 | kV1310, Frame::kPrinterOrScale, "WEIGH SCALE SETTING", AssignScale),
+    Below(kModels, By("TEC", kV1400, Frame::kTec, "", AssignTec)),
+    From(kModels, By("TEC", kV1400, Frame::kTecModels, "", AssignTecModels)),
+    By("TEC", kLine1324 | kV1310, Frame::kTec, "", AssignTec),
+    By("SENSORS", kWith1300, Frame::kSensors, "", AssignSensors),
+    Options("BLEEP", kV1400, Frame::kBleep, "", &Form::BleepOP),
+    By("CASIO", kV1400, Frame::kCasioModels, "", AssignCasio),
+    Options("DIGIPOS", kV1400, Frame::kDigipos, "", &Form::DIGIOP),
+    By("EASY2TOUCH", kV1400, Frame::kEasyTouch, "EASY2TOUCH", AssignEasyTouch),
+    By("EUROPAD", kV1400, Frame::kEasyTouch, "EUROPAD", AssignEuropad),
+    By("POSIFLEX", kV1400, Frame::kEasyTouch, "POSIFLEX", AssignPosiflex),
+    Options("GELLER", kV1400, Frame::kGeller, "", &Form::GELLEROP),
+    By("IBM", kV1400, Frame::kIbm, "", AssignIbm),
+    By("ICL", kV1400, Frame::kIcl, "", AssignIcl),
+    By("I-CNTRL INT JAVELIN VIPER", kV1400, Frame::kUniwellId, "I-CNTRL INT JAVELIN VIPER", AssignSerialId),
+    By("JCM", kV1400, Frame::kJcm, "JMC", AssignJcm),
+    By("MERIT", kV1400, Frame::kUniwellId, "MERIT", AssignSerialId),
+    By("NCR MODEL", kV1400, Frame::kNcrModels, "", AssignNcrModel),
+    By("NIXDORF", kV1400, Frame::kNixdorfModels, "", AssignNixdorf),
+    By("OMRON", kV1400, Frame::kJcm, "OMRON", AssignOmron),
+    By("PAR", kV1400, Frame::kJcm, "PAR", AssignPar),
+    By("PARAGON CLARITY SMARTPAD", kV1400, Frame::kClarity, "PARAGON CLARITY SMARTPAD", AssignClarity),
+    By("PROSPER", kV1400, Frame::kJcm, "PROSPER", AssignProsper),
+    Options("RIVA", kV1400, Frame::kVerifone, "RIVA", &Form::OpVerifone),
+    Options("SAMSUNG", kV1400, Frame::kSamsung, "SAMSUNG", &Form::SamOP),
+    Options("TEAM POS 2000", kV1400, Frame::kTeamPos, "TEAM POS 2000", &Form::TEAMPOSOP, REGTYPE_EXT2),
+    By("VECTRON", kV1400, Frame::kJcm, "VECTRON", AssignVectron),
+    Options("POLE DISPLAY", kV1310, Frame::kPoleDisplay, "", &Form::OpPoleDisplay),
+    Selection("NE134 COUNTER", kV1310, Frame::kNe134, "SET ADDRESS", &Form::ComboNE134),
+    Options("VISHAY WEIGHBRIDGE", kV1310, Frame::kWeighbridge, "", &Form::OpVWEIGHBRIDGE),
 };
 
 }  // namespace

@@ -19,12 +19,11 @@ inline constexpr FamilySet kFamily1334 = 16;
 FamilySet FamilyOf(std::string_view version);
 
 struct RegisterRow {
-  static constexpr int kNoFrame = -1;
   static constexpr int kAnyRelease = 9999;
 
   std::string_view key;
   FamilySet families;
-  int frame;
+  controls::OptionFrame frame;
   std::string_view title;  // empty: the register's name in the list
 
   // Assigns the frame's selections; false: a stored byte has no control, and the frame stays hidden.

@@ -31,7 +31,6 @@ struct MainForm : RegisterOptions, CommunicationPanel, DisplayPanel, TextPanels 
 
   // REGISTER SELECT
   List ComboReg;
-  std::array<Frame, 54> frmAddress;
 
   // TEXT SETUP, ALARM OUTPUTS, COMMUNICATION, EXCEPTION REPORT, TIME / LANGUAGE
   Frame Frame3, Frame8, Frame15, Frame4, Frame13, Frame6, Frame10, Frame7, Frame14, Frame5, Frame2, Frame12;
