@@ -1,5 +1,7 @@
 #include "core/actions.h"
 
+#include <algorithm>
+
 #include "core/failure.h"
 
 namespace ovl::core {
@@ -67,8 +69,10 @@ void UnloadForm(Application& app, controls::Form& form) {
 }
 
 void ReleaseMain(Application& app) {
-  app.frmMain.form.enabled = !app.frmSettSR.form.loaded && !app.frmSetEXCPSTR.form.loaded &&
-                             !app.frmSetRange.form.loaded && !app.frmOK_buttom.form.loaded;
+  const auto& forms = app.registry.Forms();
+  app.frmMain.form.enabled = std::none_of(forms.begin(), forms.end(), [](const controls::Form* form) {
+    return form->loaded && form->holds_main;
+  });
 }
 
 void SetFocus(controls::Form& form, controls::ControlState& control) {

@@ -30,7 +30,7 @@ void LoadForm(Application& app, controls::Form& form);
 void ShowForm(Application& app, controls::Form& form);
 void HideForm(controls::Form& form);
 void UnloadForm(Application& app, controls::Form& form);
-// The main form can be used again, unless another of the windows that hold it back is still there.
+// The main form can be used again, unless a form that holds it back is still loaded.
 void ReleaseMain(Application& app);
 
 void SetFocus(controls::Form& form, controls::ControlState& control);
@@ -49,5 +49,11 @@ void ClearCommBuffers(Application& app);
 
 // Writes where a lost device must not keep the rest from being done: a failure is noted and skipped.
 void OutputOrSkip(Application& app, std::string_view text);
+
+// Gives every control of an array the handler.
+template <class Controls>
+void HandleAll(Controls& controls, controls::Handler handler) {
+  for (auto& control : controls) control.handler = handler;
+}
 
 }  // namespace ovl::core

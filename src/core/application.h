@@ -26,9 +26,11 @@ inline constexpr std::int16_t kLinkUpload = 1;
 inline constexpr std::int16_t kLinkDownload = 2;
 inline constexpr std::int16_t kLinkIdle = 255;
 
+using Routine = void (*)(Application&);
+
 // One panel's refresh from the image. Those that a register pick concerns run after it as well.
 struct ApplyRoutine {
-  void (*run)(Application&);
+  Routine run;
   bool after_pick;
 };
 
@@ -64,6 +66,10 @@ struct Application {
       known_image;  // what the start, a file or the unit gave, or a download left in the unit, last
   image::ConfigImage sent_image;           // of the download under way
   std::vector<ApplyRoutine> Setting_Code;  // in the order in which panels are refreshed
+
+  // What a module does when another one, which does not know it, comes to this point. Set by its wiring.
+  Routine on_foreign_stream = nullptr;         // a stream belongs to another firmware; the message comes next
+  Routine on_download_acknowledged = nullptr;  // the unit has accepted the download command
 
   // Link and transfers
   std::int16_t LinkMode = kLinkIdle;

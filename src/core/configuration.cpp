@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "core/actions.h"
-#include "core/configuration.h"
 #include "image/field_map.h"
 #include "image/record_stream.h"
 
@@ -17,8 +16,7 @@ bool LoadStream(Application& app, std::string_view stream) {
   std::string digits;
   switch (image::ParseRecords(stream, image::ReadRegion(app.firmware), digits)) {
     case image::ParseResult::kOtherFirmware:
-      EnableTimer(app.frmMain.Timer_Operating, false);
-      app.OperatingCount = 0;
+      if (app.on_foreign_stream != nullptr) app.on_foreign_stream(app);
       MsgBox(app, Box::kOtherFirmware);
       return false;
     case image::ParseResult::kBroken:
@@ -38,19 +36,22 @@ bool LoadStream(Application& app, std::string_view stream) {
   return true;
 }
 
-std::string SectionsToStream(Application& app) {
+std::string ComposeStream(Application& app, firmware::Layout layout, const image::Region& region) {
   PrepareCapabilities(app);
-  auto sections =
-      image::WriteSections(app.image, image::LayoutOf(app.firmware), app.firmware, app.capabilities);
+  image::MarkMissingFields(app.image, app.capabilities);
+  auto sections = image::WriteSections(app.image, layout, app.firmware, app.capabilities);
   app.SYSCFG = std::move(sections.SYSCFG);
   app.SYSFIXED = std::move(sections.SYSFIXED);
   app.SYSSTR = std::move(sections.SYSSTR);
-  return image::BlockRecords(app.SYSCFG + app.SYSFIXED + app.SYSSTR, image::WriteRegion(app.firmware));
+  return image::BlockRecords(app.SYSCFG + app.SYSFIXED + app.SYSSTR, region);
+}
+
+std::string SectionsToStream(Application& app) {
+  return ComposeStream(app, image::LayoutOf(app.firmware), image::WriteRegion(app.firmware));
 }
 
 std::string ReopenableStream(const Application& app) {
-  auto image = app.image;
-  const auto sections = image::WriteSections(image, image::LayoutOf(app.firmware), app.firmware,
+  const auto sections = image::WriteSections(app.image, image::LayoutOf(app.firmware), app.firmware,
                                              image::CapabilitiesOf(app.firmware));
   return image::BlockRecords(sections.SYSCFG + sections.SYSFIXED + sections.SYSSTR,
                              image::ReadRegion(app.firmware));

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "core/application.h"
+#include "image/record_stream.h"
 
 namespace ovl::core {
 
@@ -15,6 +16,9 @@ void PrepareCapabilities(Application& app);
 // fields that a register's default image sets. False, with a message, if it is another firmware's: the image
 // stays as it was. A stream without its end shows the fatal message and ends the program.
 bool LoadStream(Application& app, std::string_view stream);
+
+// The image as a stream in the given layout and region. The three sections stay in the application object.
+std::string ComposeStream(Application& app, firmware::Layout layout, const image::Region& region);
 
 // The stream that a download sends. The sections are left in the application object.
 std::string SectionsToStream(Application& app);

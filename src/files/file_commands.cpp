@@ -6,6 +6,7 @@
 #include "core/configuration.h"
 #include "core/failure.h"
 #include "files/files.h"
+#include "files/history.h"
 #include "firmware/firmware_id.h"
 #include "image/record_stream.h"
 
@@ -25,12 +26,8 @@ std::string SavedStream(core::Application& app) {
     throw core::Failure(app.firmware.Joined(), std::make_error_code(std::errc::not_supported).message());
   }
   const auto layout = app.firmware.IsV1400() ? firmware::Layout::kEarlyV1400 : image::LayoutOf(app.firmware);
-  auto sections = image::WriteSections(app.image, layout, app.firmware, app.capabilities);
-  app.SYSCFG = std::move(sections.SYSCFG);
-  app.SYSFIXED = std::move(sections.SYSFIXED);
-  app.SYSSTR = std::move(sections.SYSSTR);
   const auto region = app.firmware.IsV1400() ? image::WriteRegion(app.firmware) : kSavedV13Region;
-  return image::BlockRecords(app.SYSCFG + app.SYSFIXED + app.SYSSTR, region);
+  return core::ComposeStream(app, layout, region);
 }
 
 std::string AskForPath(core::Application& app, const core::FileDialog& dialog) {
@@ -91,6 +88,12 @@ void menuSave_Click(core::Application& app, int) {
     return;
   }
   MsgBox(app, core::Box::kSaved);
+}
+
+void WireFileMenu(controls::MainForm& form) {
+  form.OpenMenu.handler = OpenMenu_Click;
+  form.menuSave.handler = menuSave_Click;
+  form.OpenHistory_menu.handler = OpenHistory_menu_Click;
 }
 
 }  // namespace ovl::files

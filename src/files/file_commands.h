@@ -5,6 +5,9 @@
 
 namespace ovl::files {
 
+// Gives Open, Save and Open History their handlers.
+void WireFileMenu(controls::MainForm& form);
+
 void OpenMenu_Click(core::Application& app, int index);
 void menuSave_Click(core::Application& app, int index);
 

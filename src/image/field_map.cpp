@@ -246,18 +246,21 @@ void ReadSections(const Sections& sections, const firmware::FirmwareId& firmware
   }
 }
 
-Sections WriteSections(ConfigImage& image, firmware::Layout layout, const firmware::FirmwareId& firmware,
-                       const firmware::Capabilities& capabilities) {
+void MarkMissingFields(ConfigImage& image, const firmware::Capabilities& capabilities) {
+  for (const auto& row : kFields) {
+    if (HasCapability(capabilities, row.capability) || row.sentinel.empty()) continue;
+    for (int entry = 1; entry <= EntryCount(row.id); ++entry) image.at(row.id, entry) = row.sentinel;
+  }
+}
+
+Sections WriteSections(const ConfigImage& image, firmware::Layout layout,
+                       const firmware::FirmwareId& firmware, const firmware::Capabilities& capabilities) {
   Sections sections;
   sections.SYSSTR.reserve(4096);
   for (const auto& row : kFields) {
-    const bool present = InStream(row, layout, firmware.Number(), capabilities, Direction::kWrite);
+    if (!InStream(row, layout, firmware.Number(), capabilities, Direction::kWrite)) continue;
     for (int entry = 1; entry <= EntryCount(row.id); ++entry) {
-      if (present) {
-        SectionOf(sections, row.section) += image.at(row.id, entry);
-      } else if (!HasCapability(capabilities, row.capability) && !row.sentinel.empty()) {
-        image.at(row.id, entry) = row.sentinel;
-      }
+      SectionOf(sections, row.section) += image.at(row.id, entry);
     }
   }
   if ((kV13 & Bit(layout)) != 0) {

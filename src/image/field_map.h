@@ -81,9 +81,11 @@ enum class Scope {
 void ReadSections(const Sections& sections, const firmware::FirmwareId& firmware,
                   const firmware::Capabilities& capabilities, Scope scope, ConfigImage& image);
 
-// The fields in the given layout, padded to the section lengths of the V13xx layouts. Fields of a
-// missing capability become their sentinel.
-Sections WriteSections(ConfigImage& image, firmware::Layout layout, const firmware::FirmwareId& firmware,
-                       const firmware::Capabilities& capabilities);
+// Gives the fields of a missing capability their sentinel, as each composing of a stream does first.
+void MarkMissingFields(ConfigImage& image, const firmware::Capabilities& capabilities);
+
+// The fields in the given layout, padded to the section lengths of the V13xx layouts.
+Sections WriteSections(const ConfigImage& image, firmware::Layout layout,
+                       const firmware::FirmwareId& firmware, const firmware::Capabilities& capabilities);
 
 }  // namespace ovl::image

@@ -78,21 +78,6 @@ void FinishStream(core::Application& app) {
   FinishUpload(app);
 }
 
-// The history ids of a recorder's pair of lists; a list that shows nothing is skipped.
-void TakeHistoryIds(core::Application& app, const controls::List& destination, const controls::List& source) {
-  if (destination.position >= 0)
-    app.image[image::FieldId::HIST_DEST_ID] = codecs::ByteToHex(destination.position + 1);
-  if (source.position >= 0) app.image[image::FieldId::HIST_SRC_ID] = codecs::ByteToHex(source.position + 1);
-}
-
-void TakeHistoryDestination(core::Application& app) {
-  const auto& form = app.frmMain;
-  if (form.OpDVR.chosen < 0) return;
-  app.image[image::FieldId::HIST_REG] = codecs::ByteToHex(form.OpDVR.chosen);
-  if (form.OpDVR.chosen == 1) TakeHistoryIds(app, form.ComboKLM4011[0], form.ComboKLM4011[1]);
-  if (form.OpDVR.chosen == 2) TakeHistoryIds(app, form.ComboKLM4011[2], form.ComboKLM4011[3]);
-}
-
 }  // namespace
 
 void BeginUpload(core::Application& app) {
@@ -146,7 +131,7 @@ void FinishUpload(core::Application& app) {
 }
 
 void DownloadAcknowledged(core::Application& app) {
-  if (firmware::IsKnownFamily(app.firmware.version) && !app.firmware.IsV1400()) TakeHistoryDestination(app);
+  if (app.on_download_acknowledged != nullptr) app.on_download_acknowledged(app);
   if (app.FinalAckExpected) {
     app.FinalAckExpected = false;
     return;

@@ -177,11 +177,6 @@ void ComboUNI_ID_Click(core::Application& app, int index) {
   StoreDigit(app, app.frmMain.ComboUNI_ID, index);
 }
 
-template <class Lists>
-void Handle(Lists& lists, controls::Handler handler) {
-  for (auto& list : lists) list.handler = handler;
-}
-
 }  // namespace
 
 void WireForcingOptions(controls::RegisterOptions& form) {
@@ -196,12 +191,12 @@ void WireForcingOptions(controls::RegisterOptions& form) {
   form.ComboSICOM.handler = ComboSICOM_Click;
   form.ComboWoring.handler = ComboWoring_Click;
   form.ComboTITLEDIP.handler = ComboTITLEDIP_Click;
-  Handle(form.ComboPana, ComboPana_Click);
-  Handle(form.ComboTk500, ComboTk500_Click);
-  Handle(form.ComboTE2200, ComboTE2200_Click);
-  Handle(form.ComboTEC, ComboTEC_Click);
-  Handle(form.ComboTCI_ID, ComboTCI_ID_Click);
-  Handle(form.ComboUNI_ID, ComboUNI_ID_Click);
+  core::HandleAll(form.ComboPana, ComboPana_Click);
+  core::HandleAll(form.ComboTk500, ComboTk500_Click);
+  core::HandleAll(form.ComboTE2200, ComboTE2200_Click);
+  core::HandleAll(form.ComboTEC, ComboTEC_Click);
+  core::HandleAll(form.ComboTCI_ID, ComboTCI_ID_Click);
+  core::HandleAll(form.ComboUNI_ID, ComboUNI_ID_Click);
 }
 
 }  // namespace ovl::registers

@@ -158,18 +158,13 @@ constexpr std::array kListHandlers = {
     Plain<&Form::ComboCONSOLEID, DV_ADDRIND_BAK>(),
 };
 
-template <class Lists>
-void Handle(Lists& lists, controls::Handler handler) {
-  for (auto& list : lists) list.handler = handler;
-}
-
 }  // namespace
 
 void WireRegisterOptions(controls::MainForm& form) {
   for (const auto& row : kArrayHandlers) (form.*row.array).handler = row.handler;
   for (const auto& row : kListHandlers) (form.*row.list).handler = row.handler;
-  Handle(form.ComboTCPIP, ComboTCPIP_Click);
-  Handle(form.ComboTCPINFO, ComboTCPINFO_Click);
+  core::HandleAll(form.ComboTCPIP, ComboTCPIP_Click);
+  core::HandleAll(form.ComboTCPINFO, ComboTCPINFO_Click);
   WireForcingOptions(form);
   form.Command1.handler = Command1_Click;
   form.SharpCom.handler = SharpCom_Click;
@@ -225,7 +220,7 @@ void ApplyUniwellFrame(core::Application& app, int element) {
   constexpr std::array kWithId = {1, 2, 6, 7, 10};
   bool shown = false;
   for (const int model : kWithId) shown = shown || model == element;
-  app.frmMain.frmAddress[18].visible = shown;
+  app.frmMain.FrameOf(controls::OptionFrame::kUniwellId).visible = shown;
 }
 
 void ShowGilbarco(core::Application& app, int element) {

@@ -9,8 +9,11 @@
 #include "core/failure.h"
 #include "files/files.h"
 #include "image/record_stream.h"
+#include "registers/micros.h"
+#include "registers/option_handlers.h"
 #include "registers/register_catalogue.h"
 #include "registers/register_table.h"
+#include "registers/sub_menus.h"
 
 namespace ovl::registers {
 namespace {
@@ -92,21 +95,19 @@ void ShowOptionFrame(core::Application& app) {
   for (auto& frame : form.frmAddress) frame.visible = false;
   const auto* row = RowOfSelected(app);
   if (row == nullptr) return;
-  const bool has_frame = row->frame != RegisterRow::kNoFrame;
-  auto* frame = has_frame ? &form.frmAddress.at(static_cast<std::size_t>(row->frame)) : nullptr;
-  if (has_frame) frame->caption = row->title.empty() ? form.ComboReg.Text() : std::string(row->title);
-  if (row->assign(app, *row) && has_frame) frame->visible = true;
+  auto* frame = row->frame == controls::OptionFrame::kNone ? nullptr : &form.FrameOf(row->frame);
+  if (frame != nullptr) frame->caption = row->title.empty() ? form.ComboReg.Text() : std::string(row->title);
+  if (row->assign(app, *row) && frame != nullptr) frame->visible = true;
 }
 
 // A window that a register opened must not write into another one's options.
 void CloseForeignWindows(core::Application& app) {
-  constexpr std::array<std::size_t, 3> kWithSubMenu = {34, 46, 48};
-  constexpr std::size_t kMicros = 9;
-  const auto& frames = app.frmMain.frmAddress;
-  const bool has_menu = std::any_of(kWithSubMenu.begin(), kWithSubMenu.end(),
-                                    [&](std::size_t frame) { return frames[frame].visible; });
+  using Frame = controls::OptionFrame;
+  const auto& form = app.frmMain;
+  const bool has_menu = form.FrameOf(Frame::kCasioModels).visible ||
+                        form.FrameOf(Frame::kSharpModels).visible || form.FrameOf(Frame::kTecModels).visible;
   if (!has_menu) UnloadForm(app, app.FrmSubMenu.form);
-  if (!frames[kMicros].visible) UnloadForm(app, app.frmMicros.form);
+  if (!form.FrameOf(Frame::kMicros).visible) UnloadForm(app, app.frmMicros.form);
 }
 
 }  // namespace
@@ -114,6 +115,18 @@ void CloseForeignWindows(core::Application& app) {
 void ShowRegisterOptions(core::Application& app) {
   ShowOptionFrame(app);
   CloseForeignWindows(app);
+}
+
+void WireRegisters(core::Application& app) {
+  app.frmMain.ComboReg.handler = RegisterSelected;
+  WireRegisterOptions(app.frmMain);
+  WireSubMenu(app.FrmSubMenu);
+  auto& micros = app.frmMicros;
+  micros.cmdSetMicros.handler = cmdSetMicros_Click;
+  micros.cmdISNset.handler = cmdISNset_Click;
+  micros.CMD3700Set.handler = CMD3700Set_Click;
+  micros.ECRNumber.leave = ECRNumber_Leave;
+  micros.form.unload = frmMicros_Unload;
 }
 
 }  // namespace ovl::registers

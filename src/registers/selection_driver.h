@@ -8,6 +8,9 @@
 
 namespace ovl::registers {
 
+// Gives the register list, the option frames and the windows of the registers their handlers.
+void WireRegisters(core::Application& app);
+
 // The selection event of ComboReg, a person's or the program's own. A default image that cannot be read ends
 // the program with a message.
 void RegisterSelected(core::Application& app, int index);

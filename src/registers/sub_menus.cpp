@@ -162,7 +162,7 @@ void ApplyTecSubmenu(core::Application& app, int element) {
 }
 
 void WireSubMenu(controls::SubMenuForm& form) {
-  for (auto& list : form.Combo1) list.handler = Combo1_Click;
+  core::HandleAll(form.Combo1, Combo1_Click);
   form.Combo2.handler = Combo2_Click;
   form.Option1.handler = Option1_Click;
   form.F1OP.handler = F1OP_Click;

@@ -14,6 +14,7 @@ constexpr int kScanInterval = 1000;
 
 PortSettingsForm::PortSettingsForm() {
   form.name = "frmSettSR";
+  form.holds_main = true;
   form.caption = "Communication Setting";
   comport_frame.caption = "Comport";
   baudrate_frame.caption = "Baudrate";
@@ -59,6 +60,7 @@ void ScanProgressForm::Register(Registry& registry) {
 
 TransferEndForm::TransferEndForm() {
   form.name = "frmOK_buttom";
+  form.holds_main = true;
   form.caption = "Program Download";
   Label1.caption = kDesignText;
   Command1.caption = "OK";

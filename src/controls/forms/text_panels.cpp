@@ -93,6 +93,7 @@ void TextPanels::Register(Registry& registry, Form& form) {
 
 TextEntryForm::TextEntryForm() {
   form.name = "frmSetEXCPSTR";
+  form.holds_main = true;
   Text1.caption = "Text";
   Text1.max_length = 40;
   cmdSET.caption = "SET";
@@ -108,6 +109,7 @@ void TextEntryForm::Register(Registry& registry) {
 
 RangeForm::RangeForm() {
   form.name = "frmSetRange";
+  form.holds_main = true;
   form.caption = "RANGE";
   for (auto* box : {&Range_Hi, &Range_Low}) {
     box->text = "99999999";

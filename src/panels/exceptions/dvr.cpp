@@ -22,6 +22,12 @@ bool HasSecondPair(const firmware::FirmwareId& firmware) {
          !(firmware.version == "V1324" && firmware.Number() < 26);
 }
 
+// The history ids of a recorder's pair of lists; a list that shows nothing is skipped.
+void TakeHistoryIds(core::Application& app, const controls::List& destination, const controls::List& source) {
+  if (destination.position >= 0) app.image[HIST_DEST_ID] = codecs::ByteToHex(destination.position + 1);
+  if (source.position >= 0) app.image[HIST_SRC_ID] = codecs::ByteToHex(source.position + 1);
+}
+
 }  // namespace
 
 void ApplyDvr(core::Application& app) {
@@ -51,6 +57,15 @@ void ComboKLM4011_Click(core::Application& app, int index) {
   app.image[index % 2 == 0 ? HIST_DEST_ID : HIST_SRC_ID] =
       codecs::ByteToHex(lists.at(static_cast<std::size_t>(index)).position + 1);
   RefreshSavedIndexes(app, "ComboKLM4011", lists);
+}
+
+void StoreRecorder(core::Application& app) {
+  if (!firmware::IsKnownFamily(app.firmware.version) || app.firmware.IsV1400()) return;
+  const auto& form = app.frmMain;
+  if (form.OpDVR.chosen < 0) return;
+  app.image[HIST_REG] = codecs::ByteToHex(form.OpDVR.chosen);
+  if (form.OpDVR.chosen == 1) TakeHistoryIds(app, form.ComboKLM4011[0], form.ComboKLM4011[1]);
+  if (form.OpDVR.chosen == 2) TakeHistoryIds(app, form.ComboKLM4011[2], form.ComboKLM4011[3]);
 }
 
 }  // namespace ovl::panels

@@ -9,4 +9,8 @@ void ApplyDvr(core::Application& app);
 void OpDVR_Click(core::Application& app, int element);
 void ComboKLM4011_Click(core::Application& app, int index);
 
+// The recorder and its addresses as the lists show them, into the image. Only the families before V1400 do it
+// with each download.
+void StoreRecorder(core::Application& app);
+
 }  // namespace ovl::panels
