@@ -12,20 +12,21 @@ namespace ovl::core {
 // Whether an assignment by code runs the control's handler when nothing changes.
 enum class Raise { kWhenChanged, kAlways };
 
-// Selects an entry. A position that the list lacks, -1 included, is refused without an event: false.
+// Selects an entry. A position that the list does not have, such as -1, is refused without an event: false.
 bool AssignPosition(Application& app, controls::List& list, int position, Raise raise = Raise::kWhenChanged);
 
-// Chooses an element, hidden ones included, and clears the arrays that share its frame. Refuses as above.
+// Chooses an element, which may be hidden, and clears the arrays that share its frame. An element that the
+// array does not have is refused in the same way.
 bool ChooseElement(Application& app, controls::OptionArray& array, int element,
                    Raise raise = Raise::kWhenChanged);
 
 void AssignText(Application& app, controls::TextBox& box, std::string text,
                 Raise raise = Raise::kWhenChanged);
 
-// A disabled timer that is enabled starts afresh; one that runs goes on.
+// Enabling a stopped timer starts its interval anew. A running timer is not disturbed.
 void EnableTimer(controls::Timer& timer, bool enabled);
 
-// Loads the form if need be and brings it on the screen.
+// Loads the form if it is not loaded, and shows it.
 void LoadForm(Application& app, controls::Form& form);
 void ShowForm(Application& app, controls::Form& form);
 void HideForm(controls::Form& form);
@@ -35,7 +36,7 @@ void ReleaseMain(Application& app);
 
 void SetFocus(controls::Form& form, controls::ControlState& control);
 
-// Shows a box and returns when it is closed. The detail stands where its words leave room for one.
+// Shows a message box and returns when it is closed. The detail replaces "%1" in its text.
 void MsgBox(Application& app, Box box, std::string_view detail = {});
 
 [[noreturn]] void EndProgram(Application& app);
@@ -47,7 +48,8 @@ void Output(Application& app, std::string_view text);
 std::string Input(Application& app);
 void ClearCommBuffers(Application& app);
 
-// Writes where a lost device must not keep the rest from being done: a failure is noted and skipped.
+// Writes, and goes on if the device is lost: the status bar shows the reason. For steps that must be followed
+// by others, such as closing the port.
 void OutputOrSkip(Application& app, std::string_view text);
 
 // Gives every control of an array the handler.

@@ -1,5 +1,5 @@
-// The one application object: the forms, the image, the state of the link, and the platform. It lives for the
-// whole run, is owned by whoever starts the program, and is touched only inside the gate.
+// The one application object: the forms, the image, the state of the link, and the platform. The code that
+// starts the program owns it for the whole run. Only code that runs inside the gate changes it.
 #pragma once
 
 #include <cstdint>
@@ -20,7 +20,8 @@
 
 namespace ovl::core {
 
-// What the link is doing. The value is a plain number because the program leaves it standing in places.
+// What the link is doing. It is a plain number, because some steps end without resetting it and later steps
+// compare it.
 inline constexpr std::int16_t kLinkRemote = 0;  // remote mode asked for or held
 inline constexpr std::int16_t kLinkUpload = 1;
 inline constexpr std::int16_t kLinkDownload = 2;
@@ -28,10 +29,10 @@ inline constexpr std::int16_t kLinkIdle = 255;
 
 using Routine = void (*)(Application&);
 
-// One panel's refresh from the image. Those that a register pick concerns run after it as well.
+// Refreshes one panel from the image.
 struct ApplyRoutine {
   Routine run;
-  bool after_pick;
+  bool after_pick;  // also runs after a pick in the register list
 };
 
 struct Application {
@@ -57,7 +58,7 @@ struct Application {
   firmware::FirmwareId firmware;
   firmware::Capabilities capabilities;
   std::map<std::string, bool, std::less<>> FirmwareMark;           // by the joined firmware text
-  std::map<std::string, std::int16_t, std::less<>> RegisterIndex;  // by register key; -1: not in this list
+  std::map<std::string, std::int16_t, std::less<>> RegisterIndex;  // by register key; -1: not in the list
 
   // The configuration, and the three sections that streams are made of
   image::ConfigImage image;
@@ -67,7 +68,7 @@ struct Application {
   image::ConfigImage sent_image;           // of the download under way
   std::vector<ApplyRoutine> Setting_Code;  // in the order in which panels are refreshed
 
-  // What a module does when another one, which does not know it, comes to this point. Set by its wiring.
+  // What a module does at a point that a lower module reaches. The wiring of the module sets it.
   Routine on_foreign_stream = nullptr;         // a stream belongs to another firmware; the message comes next
   Routine on_download_acknowledged = nullptr;  // the unit has accepted the download command
 
@@ -116,7 +117,7 @@ struct Application {
   std::string StreamText;      // the lines of the file being read, joined
   std::string DiagnosticText;  // work string of diagnostics, cleared by a full load
 
-  // The gate's own
+  // State of the gate
   bool handling = false;
   bool ended = false;
   std::string

@@ -6,7 +6,7 @@
 namespace ovl::core {
 namespace {
 
-// A window that a person can reach: on the screen and not held back by another one.
+// The installer can reach the window: it is on the screen, and no other window disables it.
 bool Reachable(const controls::Form* form) {
   return form != nullptr && form->loaded && form->visible && form->enabled;
 }
@@ -21,7 +21,7 @@ bool CanAct(const Application& app, const controls::ControlRef& control) {
   return Reachable(app.registry.FormOf(control));
 }
 
-// Each of these says how one kind of event is let in; false: a person could not have done it.
+// Each operator handles one kind of event. False: the installer could not have done this.
 struct Admission {
   Application& app;
 

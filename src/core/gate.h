@@ -1,5 +1,5 @@
-// The only way into the model. One event at a time: while a handler runs, its message boxes and file dialogs
-// included, nothing else is let in. Received bytes then wait with the platform, missed ticks are lost.
+// The only way into the model. It takes one event at a time. While a handler runs, also while its message box
+// or file dialog is open, every other event is refused: received bytes wait in the platform, ticks are lost.
 #pragma once
 
 #include <string>
@@ -9,7 +9,7 @@
 
 namespace ovl::core {
 
-// What a person does.
+// What the installer does.
 struct PickEvent {
   controls::ControlRef control;  // a list, or an option array
   int position = 0;
@@ -37,7 +37,7 @@ struct CloseEvent {
   controls::Form* form = nullptr;
 };
 
-// What time and the line do.
+// What the timers and the serial line do.
 struct TickEvent {
   controls::Timer* timer = nullptr;
 };

@@ -1,5 +1,5 @@
-// The words of every message box, in one table. A box is asked for by its name; there is no other way to show
-// one, so what explains the boxes can be checked against the table.
+// The texts of all message boxes in one table. A message box is shown by its name only, so a test can check
+// that the help explains each of them.
 #pragma once
 
 #include <span>
@@ -33,7 +33,7 @@ enum class Box {
   kResetRefused,
 };
 
-// The place in a text where the detail of the case stands: the system's reason, or a firmware.
+// The detail, such as the system's reason or a firmware, replaces this in the text.
 inline constexpr std::string_view kDetail = "%1";
 
 struct BoxWords {
@@ -45,7 +45,7 @@ struct BoxWords {
   bool tells_note = false;  // the program ends with it: nobody will read the status bar
 };
 
-// In the order of the names.
+// In the order of Box.
 std::span<const BoxWords> BoxTable();
 
 MessageBox BoxOf(Box box, std::string_view detail);

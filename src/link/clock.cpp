@@ -15,7 +15,7 @@ std::string TwoDigits(int number) {
   return {static_cast<char>('0' + number / 10 % 10), static_cast<char>('0' + number % 10)};
 }
 
-// Every year divisible by 4 is a leap year to the unit, 00 included.
+// For the unit every year that is divisible by 4 is a leap year, 00 too.
 int DaysOfMonth(const core::Application& app) {
   switch (codecs::LeadingNumber(app.ClockMonth)) {
     case 4:
@@ -30,8 +30,8 @@ int DaysOfMonth(const core::Application& app) {
   }
 }
 
-// Shows the list with as many entries as the month has days. A day that the month lacks becomes its last one,
-// and is stored also when the list stood there before.
+// Shows the list that has as many entries as the month has days. A day that the month does not have becomes
+// its last day. The day is stored even if the list does not move.
 void ShowDayList(core::Application& app) {
   const int days = DaysOfMonth(app);
   auto& lists = app.frmMain.ComboDay;

@@ -1,14 +1,14 @@
-// The date and time lists of the main form, whose job is to compose the text that sets the unit's clock.
+// The date and time lists of the main form. Their only purpose is the text that sets the unit's clock.
 #pragma once
 
 #include "core/application.h"
 
 namespace ovl::link {
 
-// The computer's time and date into the six texts.
+// Copies the computer's time and date into the six clock texts.
 void ReadSystemClock(core::Application& app);
 
-// The lists from the texts.
+// Moves the lists to what the clock texts say.
 void ShowClock(core::Application& app);
 
 void ComboHR_Click(core::Application& app, int index);

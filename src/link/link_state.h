@@ -1,4 +1,4 @@
-// The displays that go with the states of the link, and the counters that its timers and transfers share.
+// What the form shows in each state of the link, and the counters that timers and transfers share.
 #pragma once
 
 #include <cstdint>
@@ -16,37 +16,37 @@ inline constexpr const char* kCan = "\x18";
 inline constexpr const char* kFormFeed = "\x0C";
 inline constexpr const char* kBadParity = "?";  // how a character with a parity error is handed over
 
-// Remote mode is over, or not there: the five actions off, "No Access".
+// Shows that remote mode is not held: "No Access", and the five actions disabled.
 void ShowNoAccess(core::Application& app);
 void ShowAccess(core::Application& app);
 
-// The words of a closed port; its buttons are the caller's.
+// Shows the texts of a closed port. The caller sets the buttons.
 void ShowPortClosed(core::Application& app);
 
 void StopHandcheck(core::Application& app);
 void StopOperating(core::Application& app);
 void StartOperating(core::Application& app);
 
-// The bar at its end, and the bar and counters as they are between transfers.
+// ShowBarFull puts the progress bar at its end. ResetProgress puts the bar and the counters back to zero.
 void ShowBarFull(core::Application& app);
 void ResetProgress(core::Application& app);
 
-// Takes the bar and the transfer's label off the screen.
+// Hides the progress bar and the label of the transfer.
 void HideTransfer(core::Application& app, controls::Label& label);
 
-// Counts one character of a transfer; every 51st is a step of the bar.
+// Counts one character of a transfer. Every 51st character moves the progress bar by one step.
 void CountProgress(core::Application& app);
 
-// Writes the text and leaves it in PendingOutput, as the requests that go out in one piece do. A lost device
-// is noted and skipped.
+// Writes the text in one piece and leaves it in PendingOutput as well. If the device is lost, the status bar
+// shows it and the caller goes on.
 void SendWhole(core::Application& app, const std::string& text);
 
-// A send that failed: the download is over, and a box tells the system's reason.
+// Ends the download after a failed send and shows the system's reason in a message box.
 void TellSendFailure(core::Application& app, const core::Failure& failure);
 
 void ClearDownload(core::Application& app);
 
-// Counters stop at their type's end.
+// Adds one, and stays at the largest value of the type.
 inline void Increment(std::int16_t& counter) {
   if (counter < std::numeric_limits<std::int16_t>::max()) ++counter;
 }

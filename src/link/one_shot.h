@@ -1,16 +1,16 @@
-// The commands that consume remote mode at one go: set the clock, read the history, reset the unit.
+// The commands that end remote mode when they are done: set the clock, read the history, reset the unit.
 #pragma once
 
 #include "core/application.h"
 
 namespace ovl::link {
 
-// Each fills PendingOutput; the button's common tail sends it.
+// Each fills PendingOutput. CmdUpDow_Click then sends the first character.
 void BeginSetTime(core::Application& app);
 void BeginLoadHistory(core::Application& app);
 void BeginMasterReset(core::Application& app);
 
-// What a received character means while the command's answer is awaited.
+// Take a received character while the program waits for the unit's answer to the command.
 void SetTimeStep(core::Application& app);
 void HistoryStep(core::Application& app);
 void MasterResetStep(core::Application& app);

@@ -5,11 +5,11 @@
 
 namespace ovl::link {
 
-// Opens the port with the four port settings. On failure a message tells the system's reason, and buttons and
-// labels stay as they were.
+// Opens the port with the four port settings. On failure a message box shows the system's reason, and buttons
+// and labels do not change.
 void OpenPort(core::Application& app);
 
-// Closes the port and undoes everything that a link has set up. Safe with the port closed.
+// Closes the port and resets everything that belongs to the link. It may be called when the port is closed.
 void Disconnect(core::Application& app);
 
 void cmdConnect_Click(core::Application& app, int index);
@@ -23,14 +23,14 @@ void OpDataBits_Click(core::Application& app, int element);
 void OpParity_Click(core::Application& app, int element);
 void cmdSET_Click(core::Application& app, int index);
 
-// The scan
+// The scan for the unit's baud rate.
 void BaudrateCMD_Click(core::Application& app, int index);
 void BaudRateScan_Timer(core::Application& app, int index);
 void frmScanBProgress_Load(core::Application& app, int index);
 void frmScanBProgress_Unload(core::Application& app, int index);
 void ScanCancel_Click(core::Application& app, int index);
 
-// The unit has answered a scan.
+// Ends the scan because the unit has answered.
 void EndScan(core::Application& app);
 
 }  // namespace ovl::link

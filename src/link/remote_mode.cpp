@@ -83,7 +83,7 @@ void Remote(core::Application& app) {
   SendWhole(app, app.RemoteRequestText);
 }
 
-// Takes the first character off what is to be sent; the send event pulls out the rest.
+// Sends the first character. Each send event then sends the next one.
 void SendFirstChar(core::Application& app) {
   app.LastSent = app.PendingOutput.substr(0, 1);
   app.PendingOutput.erase(0, app.LastSent.size());

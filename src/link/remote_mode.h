@@ -1,12 +1,12 @@
-// The conversation with the unit: entering, holding and leaving remote mode, sending one character at a time,
-// dispatching every received one, the four timers, and each failure with its words.
+// The conversation with the unit: it enters, holds and leaves remote mode, sends one character at a time,
+// handles each received character and the four timers, and reports each failure.
 #pragma once
 
 #include "core/application.h"
 
 namespace ovl::link {
 
-// The serial control's event.
+// The event of the serial control: a character has arrived, or the transmitter is empty.
 void MSComm1_OnComm(core::Application& app, int index);
 
 void OnSendDrained(core::Application& app);
@@ -15,8 +15,8 @@ void OnCharReceived(core::Application& app);
 // Sends the next character of PendingOutput. Throws Failure if the device is lost.
 void SendNextChar(core::Application& app);
 
-// Drops the link after a failure. The silence watchdog, the progress display and the pending flags are the
-// caller's.
+// Closes the link after a failure. The caller resets the silence watchdog, the progress display and the
+// pending flags.
 void CloseLink(core::Application& app);
 
 void CmdUpDow_Click(core::Application& app, int index);

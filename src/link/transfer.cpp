@@ -10,7 +10,7 @@
 namespace ovl::link {
 namespace {
 
-// Where an upload that could not be taken in leaves the register list.
+// The position of the register list after an upload that could not be read.
 constexpr int kRegisterAfterFailure = 1;
 
 void BeginTransfer(core::Application& app, std::int16_t mode, const std::string& command,
@@ -27,13 +27,13 @@ void BeginTransfer(core::Application& app, std::int16_t mode, const std::string&
   label.visible = true;
 }
 
-// Remote mode counts as over after a transfer: the unit has left it by itself.
+// The unit leaves remote mode by itself at the end of a transfer.
 void EndRemoteMode(core::Application& app) {
   ShowNoAccess(app);
   app.RemoteHeld = false;
 }
 
-// The panels and the list are put into a defined state; nothing of the upload is taken in.
+// Nothing of the upload reaches the image. Panels and register list get a defined state.
 void AbandonUpload(core::Application& app, const core::Failure& failure) {
   app.StatusNote = failure.Subject() + ": " + failure.what();
   app.UploadApplying = true;
@@ -151,8 +151,7 @@ void StartDownload(core::Application& app) {
   if (firmware::IsKnownFamily(app.firmware.version)) app.StreamBuffer = SectionsToStream(app);
   app.sent_image = app.image;
   app.PendingOutput = app.StreamBuffer;
-  if (app.PendingOutput.empty())
-    return;  // nothing will go out: the watchdog tells that the transfer stands still
+  if (app.PendingOutput.empty()) return;  // nothing is sent, so the watchdog reports the failure
   app.LastSent = app.PendingOutput.substr(0, 1);
   app.PendingOutput.erase(0, app.LastSent.size());
   Output(app, app.LastSent);

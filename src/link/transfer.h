@@ -8,13 +8,14 @@ namespace ovl::link {
 void BeginUpload(core::Application& app);
 void BeginDownload(core::Application& app);
 
-// One character of an upload: collected from "$" to "#", then stored and taken in.
+// Takes one character of an upload. Characters are collected from "$" to "#". Then the stream is stored in a
+// file and read into the image.
 void CollectUploadChar(core::Application& app);
 
 // Reads the stored upload back into the image and refreshes the panels.
 void FinishUpload(core::Application& app);
 
-// The unit's ACK during a download: to the command, or to the finished stream.
+// Handles the unit's ACK in a download. It answers the command or the finished stream.
 void DownloadAcknowledged(core::Application& app);
 
 // Sends the first character of the stream. Throws Failure if the device is lost.

@@ -61,7 +61,7 @@ void WireLinkForms(core::Application& app) {
 void WireLink(core::Application& app) {
   WireMainForm(app.frmMain);
   WireLinkForms(app);
-  // What arrives then is no answer of the unit that is served, so its silence is no failure.
+  // No further answer of the unit is expected then, so silence is no failure.
   app.on_foreign_stream = StopOperating;
 }
 

@@ -43,7 +43,7 @@ bool AssignOffered(core::Application& app, controls::OptionArray& array,
   return ChooseElement(app, array, Byte(app, REGTYPE_MINOR));
 }
 
-// Only one family empties the list ahead of refilling it.
+// Only V1400 empties the list before it is filled again.
 bool RefillMixed(core::Application& app, std::initializer_list<const char*> entries) {
   auto& list = app.frmMain.ComboDIPMIXED;
   if (app.firmware.IsV1400()) {
@@ -69,7 +69,7 @@ bool AssignEasy(core::Application& app, const char* caption) {
   return ChooseElement(app, app.frmMain.EASYOP, 0);
 }
 
-// A main option from its byte, and what goes with it at every apply.
+// Chooses a main option by its byte and shows what belongs to it.
 template <void (*kShow)(core::Application&, int)>
 bool AssignMain(core::Application& app, controls::OptionArray& array) {
   const int element = Byte(app, REGTYPE_MINOR);

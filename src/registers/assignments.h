@@ -1,6 +1,6 @@
-// How the rows of the register table assign the selections of their frame. Each gives false when a stored
-// byte has no matching control; what stands behind it in the row is then not done. All bytes are read before
-// the first assignment, because assignments run handlers that write.
+// Functions of the register table that set the selections of an option frame from the image. False: a stored
+// byte has no matching entry, and the rest of the row is skipped. Each function reads all bytes before its
+// first assignment, because assignments run handlers that write.
 #pragma once
 
 #include "registers/register_table.h"

@@ -15,7 +15,7 @@ constexpr int kBaud4800 = 2;
 constexpr int kBaud9600 = 3;
 constexpr int kBaud19200 = 5;
 
-// The line settings that a protocol dictates; each runs the selection's own handler.
+// Sets a line setting that the register's protocol needs. The handler of the selection runs in any case.
 void ForceLine(core::Application& app, int member, int position) {
   AssignPosition(app, app.frmMain.ComboCOMM.at(static_cast<std::size_t>(member)), position,
                  core::Raise::kAlways);
@@ -45,7 +45,7 @@ void ComboSICOM_Click(core::Application& app, int) {
   ForceSpeeds(app, AutoSpeed(app), kBaud9600);
 }
 
-// The mode list stands second, behind the fixed model name.
+// The first list holds the fixed model name, the second one the mode.
 void StoreMode(core::Application& app, int index, int position, std::array<int, 2> tapping,
                std::array<int, 2> emulating) {
   if (index != 1) return;
@@ -64,7 +64,7 @@ void ComboTE2200_Click(core::Application& app, int index) {
             {kBaud19200, kBaud19200});
 }
 
-// Its tapping speed is the same position in every family, whatever the list reads there.
+// The tapping speed is this position in every family, although the entries of the lists differ there.
 void ComboTEC_Click(core::Application& app, int index) {
   constexpr int kTappingSpeed = 8;
   StoreMode(app, index, app.frmMain.ComboTEC[1].position, {kTappingSpeed, kBaud9600}, {kBaud4800, kBaud4800});
@@ -80,7 +80,8 @@ void OpSHARPUP600_Click(core::Application& app, int element) {
   ForceSpeeds(app, element == 0 ? AutoSpeed(app) : kBaud9600, kBaud9600);
 }
 
-// Of the next four the list shows the forced position, and the field then takes the unit's own speed code.
+// For the next four options the speed list shows the forced position, and the field then gets the unit's own
+// speed code.
 void ComboPana_Click(core::Application& app, int index) {
   if (index == 0) {
     app.image[GTITLE_NF_BAK] = codecs::ByteToHex(app.frmMain.ComboPana[0].position);

@@ -1,4 +1,4 @@
-// The options whose protocol dictates line settings: their picks move the selections of other panels too.
+// Options whose protocol needs certain line settings: a pick also moves selections of other panels.
 #pragma once
 
 #include "core/application.h"

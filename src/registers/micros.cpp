@@ -20,7 +20,7 @@ void Show(core::Application& app, controls::List& list, image::FieldId field) {
   AssignPosition(app, list, codecs::HexToInt(app.image[field]), core::Raise::kAlways);
 }
 
-// A list that stands nowhere has nothing to store.
+// A list without a selection stores nothing.
 void Store(core::Application& app, const controls::List& list, image::FieldId field) {
   if (list.position >= 0) app.image[field] = codecs::ByteToHex(list.position);
 }
@@ -41,7 +41,7 @@ void ShowEcrNumber(core::Application& app) {
   AssignText(app, app.frmMicros.ECRNumber, number);
 }
 
-// What stood in the window, or was loaded while it was closed, must not be found again by the next opening.
+// The next opening must not show selections of an earlier one, or of a load while the window was closed.
 void ForgetSelections(core::Application& app) {
   auto& form = app.frmMicros;
   for (auto* list : {&form.ComboMICROS, &form.ComboMICROSADD, &form.ComboMODE, &form.HandSHKCombo})

@@ -24,7 +24,7 @@ void StorePosition(core::Application& app, int) {
   app.image[kField] = codecs::ByteToHex((app.frmMain.*kList).position);
 }
 
-// Members whose target depends on the firmware. What reads them does not follow in every one.
+// Options whose field depends on the firmware. Some firmware read another field than they write.
 void OpNIXDORF_Click(core::Application& app, int element) {
   app.image[app.firmware.Number() < 7 ? REGTYPE_MINOR : REGTYPE_EXT2] = codecs::ByteToHex(element);
 }
@@ -50,14 +50,14 @@ void OpGilbraco_Click(core::Application& app, int element) {
   app.image[REGTYPE_MINOR] = codecs::ByteToHex(element);
 }
 
-// A main option: its code, then what it shows.
+// A main option stores its code and then shows what belongs to it.
 template <void (*kShow)(core::Application&, int)>
 void StoreAndShow(core::Application& app, int element) {
   app.image[REGTYPE_MINOR] = codecs::ByteToHex(element);
   kShow(app, element);
 }
 
-// Choosing the first chosen element among the first `count` again.
+// Chooses the chosen element again, if it is among the first `count`.
 void ChooseAgain(core::Application& app, controls::OptionArray& array, int count) {
   if (array.chosen >= 0 && array.chosen < count) array.handler(app, array.chosen);
 }
@@ -74,7 +74,7 @@ void Command2_Click(core::Application& app, int) {
   ChooseAgain(app, app.frmMain.TECOP, 11);
 }
 
-// The first four lists stand in the old frame, which can be looked at only.
+// The first four lists belong to the old frame, which stores nothing.
 void ComboTCPIP_Click(core::Application& app, int index) {
   const int entry = index - 3;
   if (entry < 1) return;

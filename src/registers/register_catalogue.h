@@ -10,10 +10,10 @@ namespace ovl::registers {
 // Marks every key absent.
 void ResetRegisterIndexes(core::Application& app);
 
-// Fills ComboReg and the indexes for the running firmware; a pair without a list leaves the list empty.
+// Fills ComboReg and the indexes for the running firmware. A firmware without a list leaves ComboReg empty.
 void BuildRegisterList(core::Application& app);
 
-// The key's position in the current list, -1 if the list lacks it.
+// The position of the key in the current list, or -1 if the list does not have it.
 int RegisterIndexOf(const core::Application& app, std::string_view key);
 
 }  // namespace ovl::registers

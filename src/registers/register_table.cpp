@@ -26,7 +26,7 @@ constexpr FamilySet kWith1324 = kV1400 | kLine1324;
 // The V1400 model lists begin with this release.
 constexpr int kModels = 7;
 
-// One option array, or one list, from one byte.
+// Rows in which one option array or one list shows one byte.
 constexpr Row Options(std::string_view key, FamilySet families, Frame frame, std::string_view title,
                       controls::OptionArray Form::*array, image::FieldId from = REGTYPE_MINOR) {
   return {key, families, frame, title, AssignArray, array, nullptr, from};

@@ -1,5 +1,5 @@
-// What each register shows: one table whose rows name the register's key, the families and releases, the
-// option frame, its title, and what is assigned from which byte.
+// What each register shows, as one table. A row names the register's key, families and releases, the option
+// frame and its title, and the selection that is set from a byte.
 #pragma once
 
 #include <span>
@@ -26,10 +26,10 @@ struct RegisterRow {
   controls::OptionFrame frame;
   std::string_view title;  // empty: the register's name in the list
 
-  // Assigns the frame's selections; false: a stored byte has no control, and the frame stays hidden.
+  // Sets the selections of the frame. False: a stored byte has no matching entry, and the frame stays hidden.
   bool (*assign)(core::Application&, const RegisterRow&);
 
-  // For the assignments that are one control from one byte.
+  // For frames in which one control shows one byte.
   controls::OptionArray controls::RegisterOptions::*array = nullptr;
   controls::List controls::RegisterOptions::*list = nullptr;
   image::FieldId from = image::FieldId::REGTYPE_MINOR;

@@ -18,7 +18,7 @@
 namespace ovl::registers {
 namespace {
 
-// Takes the register's own fields or, the first time, the whole image, and refreshes what shows them.
+// Loads the fields of the register, or the whole image at the first time, and refreshes the panels.
 void TakeDefaultImage(core::Application& app) {
   app.StreamText.clear();
   DefaultImagePath(app);
@@ -32,7 +32,7 @@ void TakeDefaultImage(core::Application& app) {
   }
 }
 
-// The first row of the running family and release whose key stands at the list's position.
+// The first row of the running firmware whose key is selected in the list.
 const RegisterRow* RowOfSelected(const core::Application& app) {
   const int position = app.frmMain.ComboReg.position;
   if (position < 0) return nullptr;
@@ -100,7 +100,7 @@ void ShowOptionFrame(core::Application& app) {
   if (row->assign(app, *row) && frame != nullptr) frame->visible = true;
 }
 
-// A window that a register opened must not write into another one's options.
+// Closes windows of another register: they would write into the options of this one.
 void CloseForeignWindows(core::Application& app) {
   using Frame = controls::OptionFrame;
   const auto& form = app.frmMain;

@@ -1,5 +1,5 @@
-// Turns a pick in the register list into a configuration: the register's default image comes in, and its code
-// drives the list back.
+// A pick in the register list loads the default image of the register. The code in the image then sets the
+// list.
 #pragma once
 
 #include <string>
@@ -11,11 +11,11 @@ namespace ovl::registers {
 // Gives the register list, the option frames and the windows of the registers their handlers.
 void WireRegisters(core::Application& app);
 
-// The selection event of ComboReg, a person's or the program's own. A default image that cannot be read ends
-// the program with a message.
+// Handles each selection in ComboReg, by the installer or by code. A default image that cannot be read ends
+// the program with a message box.
 void RegisterSelected(core::Application& app, int index);
 
-// Brings the list and the register's options to what the image holds. A code that the list lacks leaves it.
+// Shows the register of the image and its options. A code that is not in the list does not move the list.
 void ApplyRegisterSelection(core::Application& app);
 
 // Hides all option frames and shows the one of the selected register.
@@ -24,8 +24,8 @@ void ShowRegisterOptions(core::Application& app);
 // The selected register's name as a file name: "/" and "," become blanks.
 std::string Check_Slash_Comma(const core::Application& app);
 
-// The path of the selected register's default image. A family without images builds none: the last path
-// stands.
+// Puts the path of the selected register's default image into CurrentFilePath. A family without images leaves
+// the last path there.
 void DefaultImagePath(core::Application& app);
 
 }  // namespace ovl::registers

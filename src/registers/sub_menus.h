@@ -12,7 +12,7 @@ void ApplyCasioSubmenu(core::Application& app, int element);
 void ApplySharpSubmenu(core::Application& app, int element);
 void ApplyTecSubmenu(core::Application& app, int element);
 
-// The same without opening or closing the window, as an apply needs it. False: the model has no sub-menu.
+// The same, but the window neither opens nor closes; an apply needs this. False: the model has no sub-menu.
 bool ArrangeCasioSubmenu(core::Application& app, int element);
 bool ArrangeSharpSubmenu(core::Application& app, int element);
 bool ArrangeTecSubmenu(core::Application& app, int element);

@@ -29,7 +29,7 @@ void menuAbout_Click(core::Application& app, int) {
   ShowForm(app, app.frmAbout.form);
 }
 
-// As the tabs name the firmware: as the settings store has it.
+// The firmware as the settings store names it, which the tabs show too.
 void frmAbout_Load(core::Application& app, int) {
   app.frmAbout.lbFirmware.caption = "Firmware " + app.frmMain.lbVersionID[0].caption;
 }
@@ -52,7 +52,7 @@ void WireOwnControls(core::Application& app) {
   app.frmAbout.Command1.handler = AboutOk_Click;
 }
 
-// In the order in which a load refreshes the panels.
+// A load refreshes the panels in this order.
 void OrderApplyRoutines(core::Application& app) {
   app.Setting_Code = {
       {registers::ApplyRegisterSelection, true},

@@ -1,4 +1,4 @@
-// The one place that knows everybody: gives every control its handler and starts the program.
+// Knows all modules: has them wire their controls, and starts the program.
 #pragma once
 
 #include "core/gate.h"
@@ -10,7 +10,7 @@ namespace ovl::start {
 void WireProgram(core::Application& app);
 
 // Wires the program and runs the start: settings store, register list, first register. The platform record
-// must be filled. kEnded: the program told why, and is over.
+// must be filled. kEnded: the program has ended, and a message box has said why.
 core::Outcome StartProgram(core::Application& app);
 
 }  // namespace ovl::start
