@@ -111,7 +111,7 @@ Outcome Guarded(Application& app, const Work& work) {
   } catch (const ProgramEnd&) {
     outcome = Outcome::kEnded;
   } catch (const Failure& failure) {
-    app.StatusNote = failure.Subject() + ": " + failure.what();
+    app.StatusNote = failure.Text();
   }
   app.handling = false;
   return outcome;

@@ -35,7 +35,7 @@ void EndRemoteMode(core::Application& app) {
 
 // The panels and the list are put into a defined state; nothing of the upload is taken in.
 void AbandonUpload(core::Application& app, const core::Failure& failure) {
-  app.StatusNote = failure.Subject() + ": " + failure.what();
+  app.StatusNote = failure.Text();
   app.UploadApplying = true;
   AssignPosition(app, app.frmMain.ComboReg, kRegisterAfterFailure);
   app.UploadApplying = false;
