@@ -16,9 +16,9 @@ void StartModel(core::Application& app, const Site& site, const char& received) 
   platform.write_setting = [](std::string_view, std::string_view, std::string_view) { return true; };
   platform.clock = [] { return core::ClockTime(); };
   platform.SetWindowPos = [](std::string_view) {};
-  platform.serial.open = [](const core::LineSettings&) { return core::SerialLine::Error(); };
+  platform.serial.open = [](const core::LineSettings&) { return core::Result(); };
   platform.serial.close = [] {};
-  platform.serial.write = [](std::string_view) { return core::SerialLine::Error(); };
+  platform.serial.write = [](std::string_view) { return core::Result(); };
   platform.serial.read = [&received] { return std::string(1, received); };
   platform.serial.clear_input = [] {};
   platform.serial.clear_output = [] {};

@@ -92,8 +92,8 @@ void EndProgram(Application& app) {
 void OpenCommPort(Application& app) {
   auto& comm = app.frmMain.MSComm1;
   if (comm.PortOpen) return;
-  const auto error = app.platform.serial.open({comm.CommPort, comm.Settings});
-  if (error) throw Failure(PortName(app), *error);
+  const auto opened = app.platform.serial.open({comm.CommPort, comm.Settings});
+  if (!opened.Ok()) throw Failure(PortName(app), opened.Problem().what());
   comm.PortOpen = true;
 }
 
@@ -104,8 +104,8 @@ void CloseCommPort(Application& app) {
 
 void Output(Application& app, std::string_view text) {
   if (!app.frmMain.MSComm1.PortOpen) return;
-  const auto error = app.platform.serial.write(text);
-  if (error) throw Failure(PortName(app), *error);
+  const auto written = app.platform.serial.write(text);
+  if (!written.Ok()) throw Failure(PortName(app), written.Problem().what());
 }
 
 std::string Input(Application& app) {
@@ -121,7 +121,7 @@ void OutputOrSkip(Application& app, std::string_view text) {
   try {
     Output(app, text);
   } catch (const Failure& failure) {
-    app.StatusNote = failure.Subject() + ": " + failure.what();
+    app.StatusNote = failure.Text();
   }
 }
 

@@ -120,7 +120,7 @@ Outcome Guarded(Application& app, const Work& work) {
   } catch (const ProgramEnd&) {
     return Outcome::kEnded;
   } catch (const Failure& failure) {
-    app.StatusNote = failure.Subject() + ": " + failure.what();
+    app.StatusNote = failure.Text();
   } catch (const std::exception& error) {
     app.StatusNote = std::string("Internal error: ") + error.what();
   }

@@ -9,6 +9,8 @@
 #include <string_view>
 #include <variant>
 
+#include "core/failure.h"
+
 namespace ovl::core {
 
 enum class BoxIcon { kNone, kInformation };
@@ -52,14 +54,14 @@ struct LineSettings {
   std::string text;  // baud, parity, data bits, stop bits: "9600,N,8,1"
 };
 
-// The serial line. An operation that fails gives the system's own description of the error. `write` returns
-// at once and never calls back; when the transmitter has run empty, one drained event is dispatched. `read`
-// gives one received character, or nothing. `close` never fails and drops every event that is still queued.
+// The serial line. A failure has the system's own description of the error; its subject is the device, which
+// the model replaces by the port's number. `write` returns at once and never calls back; when the transmitter
+// has run empty, one drained event is dispatched. `read` gives one received character, or nothing. `close`
+// never fails and drops every event that is still queued.
 struct SerialLine {
-  using Error = std::optional<std::string>;
-  std::function<Error(const LineSettings&)> open;
+  std::function<Result(const LineSettings&)> open;
   std::function<void()> close;
-  std::function<Error(std::string_view)> write;
+  std::function<Result(std::string_view)> write;
   std::function<std::string()> read;
   std::function<void()> clear_input;
   std::function<void()> clear_output;

@@ -68,7 +68,7 @@ void OpenMenu_Click(core::Application& app, int) {
     TakeStream(app);
   } catch (const core::Failure& failure) {
     app.StreamText.clear();
-    app.StatusNote = failure.Subject() + ": " + failure.what();
+    app.StatusNote = failure.Text();
   }
   app.PanelsReady = true;
 }
@@ -83,7 +83,7 @@ void menuSave_Click(core::Application& app, int) {
     const auto stream = SavedStream(app);
     WriteWhole(AskForPath(app, dialog), stream + "\r\n");
   } catch (const core::Failure& failure) {
-    app.StatusNote = failure.Subject() + ": " + failure.what();
+    app.StatusNote = failure.Text();
     MsgBox(app, core::Box::kNotSaved);
     return;
   }

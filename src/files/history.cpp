@@ -56,7 +56,7 @@ void SaveHistory(core::Application& app) {
   try {
     WriteWhole(app.CurrentFilePath, std::string(kTag) + "\r\n" + app.HistoryText + "\r\n");
   } catch (const core::Failure& failure) {
-    app.StatusNote = failure.Subject() + ": " + failure.what();
+    app.StatusNote = failure.Text();
   }
 }
 
@@ -66,7 +66,7 @@ void OpenHistory_menu_Click(core::Application& app, int) {
   try {
     OpenHistory(app, *answer);
   } catch (const core::Failure& failure) {
-    app.StatusNote = failure.Subject() + ": " + failure.what();
+    app.StatusNote = failure.Text();
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QFile>
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
@@ -84,7 +85,7 @@ core::SerialLine SerialPort::Operations() {
   return line;
 }
 
-SerialPort::Error SerialPort::Open(const core::LineSettings& settings) {
+core::Result SerialPort::Open(const core::LineSettings& settings) {
   Close();
   number_ = settings.port;
   device_ = ComportDevice(program_folder_, number_);
@@ -101,12 +102,12 @@ SerialPort::Error SerialPort::Open(const core::LineSettings& settings) {
   port_.setFlowControl(QSerialPort::NoFlowControl);
   const LinePreset preset(device_, format->baud, format->data_bits, format->parity_letter);
   if (!port_.open(QIODevice::ReadWrite)) return Report(OpenReason());
-  if (const auto error = Prepare()) {
+  if (const int error = Prepare()) {
     Close();
-    return Report(*error);
+    return Report(SystemText(error));
   }
   problem_.clear();
-  return std::nullopt;
+  return {};
 }
 
 // The toolkit has wordings of its own, so the system is asked once more what stands against the device.
@@ -118,25 +119,25 @@ std::string SerialPort::OpenReason() const {
 }
 
 // What is left to do with a port that has just been opened.
-SerialPort::Error SerialPort::Prepare() {
+int SerialPort::Prepare() {
   const int asked = port_.baudRate();
   const int speed = LineSpeed(port_.handle());
-  if (speed != 0 && std::abs(speed - asked) > asked / 100 * kSpeedTolerancePercent) return SystemText(EINVAL);
+  if (speed != 0 && std::abs(speed - asked) > asked / 100 * kSpeedTolerancePercent) return EINVAL;
 
   const bool parity = port_.parity() != QSerialPort::NoParity;
   if (parity) {
-    if (const int error = MarkParityErrors(port_.handle())) return SystemText(error);
+    if (const int error = MarkParityErrors(port_.handle())) return error;
     marks_.emplace();
   }
   bit_time_ = std::chrono::nanoseconds(std::chrono::seconds(1)) / asked;
   character_bits_ = 1 + port_.dataBits() + (parity ? 1 : 0) + 1;
   line_free_ = Clock::now();
-  return std::nullopt;
+  return 0;
 }
 
 void SerialPort::Close() {
   if (port_.isOpen()) port_.close();
-  lost_.reset();
+  lost_ = {};
   Forget();
 }
 
@@ -151,10 +152,10 @@ void SerialPort::Forget() {
   untold_ = 0;
 }
 
-SerialPort::Error SerialPort::Write(std::string_view bytes) {
-  if (lost_) return lost_;
-  if (!port_.isOpen()) return SystemText(EBADF);
-  if (bytes.empty()) return std::nullopt;
+core::Result SerialPort::Write(std::string_view bytes) {
+  if (!lost_.Ok()) return lost_;
+  if (!port_.isOpen()) return core::Failure(QFile::encodeName(device_).toStdString(), SystemText(EBADF));
+  if (bytes.empty()) return {};
 
   const auto start = Clock::now();
   WriteResult result;
@@ -171,7 +172,7 @@ SerialPort::Error SerialPort::Write(std::string_view bytes) {
   drain_owed_ = true;
   retry_ = kFirstRetry;
   ScheduleDrain();
-  return std::nullopt;
+  return {};
 }
 
 std::string SerialPort::Read() {
@@ -216,9 +217,9 @@ void SerialPort::Lose(const std::string& reason) {
   if (drain_owed_ || untold_ > 0) Post();
 }
 
-std::string SerialPort::Report(const std::string& reason) {
+core::Failure SerialPort::Report(const std::string& reason) {
   problem_ = ComportProblem(number_, device_, reason);
-  return reason;
+  return {QFile::encodeName(device_).toStdString(), reason};
 }
 
 void SerialPort::Post() {
@@ -301,7 +302,7 @@ SerialPort::Clock::time_point SerialPort::DrainDue() const {
 }
 
 bool SerialPort::Drained() const {
-  if (lost_) return true;
+  if (!lost_.Ok()) return true;
   if (port_.bytesToWrite() > 0) return false;
   return !CharactersWait(port_.handle()) && Clock::now() >= DrainDue();
 }

@@ -44,14 +44,14 @@ class SerialPort : public QObject {
 
  private:
   using Clock = std::chrono::steady_clock;
-  using Error = core::SerialLine::Error;
   enum class Turn { kWhole, kShort };
 
-  Error Open(const core::LineSettings& settings);
+  core::Result Open(const core::LineSettings& settings);
   std::string OpenReason() const;
-  Error Prepare();
+  // Gives an error number, or 0.
+  int Prepare();
   void Close();
-  Error Write(std::string_view bytes);
+  core::Result Write(std::string_view bytes);
   std::string Read();
   void ClearInput();
   void ClearOutput();
@@ -59,7 +59,7 @@ class SerialPort : public QObject {
   void OnPortError(QSerialPort::SerialPortError error);
   void Lose(const std::string& reason);
   void Forget();
-  std::string Report(const std::string& reason);
+  core::Failure Report(const std::string& reason);
 
   void Post();
   void TakeReceived();
@@ -81,7 +81,7 @@ class SerialPort : public QObject {
   int number_ = 0;
   QString device_;
   QString problem_;
-  Error lost_;  // why the open port can't be used any more
+  core::Result lost_;  // why the open port cannot be used any more
 
   std::optional<ParityMarks> marks_;
   std::deque<char> received_;

@@ -1,5 +1,6 @@
 #include "host/text_codec.h"
 
+#include <QFile>
 #include <QStringDecoder>
 #include <algorithm>
 #include <array>
@@ -40,6 +41,10 @@ QString FromSystem(std::string_view text) {
   QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
   const QString decoded = decode(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
   return decode.hasError() ? FromWindows1252(text) : decoded;
+}
+
+core::Failure FailureOf(const QString& subject, const QString& reason) {
+  return {QFile::encodeName(subject).toStdString(), reason.toLocal8Bit().toStdString()};
 }
 
 std::optional<std::string> ToWindows1252(QStringView text) {

@@ -1,4 +1,4 @@
-// The model's texts are bytes of Windows-1252, the toolkit's are Unicode.
+// The model's texts are bytes of Windows-1252, those of Qt are Unicode.
 #pragma once
 
 #include <QString>
@@ -7,14 +7,20 @@
 #include <string>
 #include <string_view>
 
+#include "core/failure.h"
+
 namespace ovl::host {
 
 // Every byte has a character; the five codes that Windows-1252 leaves unused (81 8D 8F 90 9D) stand for
 // the control characters of the same number, so that all 256 make the round trip.
 QString FromWindows1252(std::string_view bytes);
 
-// A text in which the system has its say, such as a path or a reason: UTF-8, or single bytes if it is none.
+// A text from the operating system, such as a path or the reason of an error: UTF-8, or Windows-1252 if it is
+// not valid UTF-8.
 QString FromSystem(std::string_view text);
+
+// A failure whose subject and reason Qt names; FromSystem reads its text.
+core::Failure FailureOf(const QString& subject, const QString& reason);
 
 // Nothing when the text holds a character without a code.
 std::optional<std::string> ToWindows1252(QStringView text);

@@ -85,7 +85,7 @@ void SendWhole(core::Application& app, const std::string& text) {
 }
 
 void TellSendFailure(core::Application& app, const core::Failure& failure) {
-  app.StatusNote = failure.Subject() + ": " + failure.what();
+  app.StatusNote = failure.Text();
   ClearDownload(app);
   MsgBox(app, core::Box::kSendFailed, failure.what());
 }

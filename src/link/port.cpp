@@ -35,7 +35,7 @@ void OpenPort(core::Application& app) {
   try {
     SetUpComm(app);
   } catch (const core::Failure& failure) {
-    app.StatusNote = failure.Subject() + ": " + failure.what();
+    app.StatusNote = failure.Text();
     MsgBox(app, core::Box::kPortFailed, failure.what());
     return;
   }

@@ -241,7 +241,7 @@ void Time_handcheck_Timer(core::Application& app, int) {
   try {
     TickHandcheck(app);
   } catch (const core::Failure& failure) {
-    app.StatusNote = failure.Subject() + ": " + failure.what();
+    app.StatusNote = failure.Text();
     MsgBox(app, core::Box::kKeepAliveFailed, failure.what());
   }
 }

@@ -35,7 +35,7 @@ void EndRemoteMode(core::Application& app) {
 
 // Nothing of the upload reaches the image. Panels and register list get a defined state.
 void AbandonUpload(core::Application& app, const core::Failure& failure) {
-  app.StatusNote = failure.Subject() + ": " + failure.what();
+  app.StatusNote = failure.Text();
   app.UploadApplying = true;
   AssignPosition(app, app.frmMain.ComboReg, kRegisterAfterFailure);
   app.UploadApplying = false;

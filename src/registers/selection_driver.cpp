@@ -75,7 +75,7 @@ void RegisterSelected(core::Application& app, int) {
   try {
     TakeDefaultImage(app);
   } catch (const core::Failure& failure) {
-    app.StatusNote = failure.Subject() + ": " + failure.what();
+    app.StatusNote = failure.Text();
     MsgBox(app, core::Box::kNoDefaultImage, failure.what());
     EndProgram(app);
   }

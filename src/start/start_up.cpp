@@ -134,7 +134,7 @@ void Start(core::Application& app) {
   try {
     frmMain_Load(app);
   } catch (const core::Failure& failure) {
-    RefuseStart(app, failure.Subject() + ": " + failure.what());
+    RefuseStart(app, failure.Text());
   } catch (const std::exception& error) {
     RefuseStart(app, error.what());
   }

@@ -15,6 +15,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr const char* kDevice = "line of the test";
+
 template <class Thing>
 Thing TakeFrom(std::deque<Thing>& things) {
   if (things.empty()) return {};
@@ -140,21 +142,21 @@ void Harness::FillPlatform() {
   platform.SetWindowPos = [](std::string_view) {};
 
   auto& serial = platform.serial;
-  serial.open = [this](const core::LineSettings& line) -> core::SerialLine::Error {
-    if (open_error) return open_error;
+  serial.open = [this](const core::LineSettings& line) -> core::Result {
+    if (open_error) return core::Failure(kDevice, *open_error);
     line_open_ = true;
     opened.push_back("COM" + std::to_string(line.port) + ":" + line.text);
-    return std::nullopt;
+    return {};
   };
   serial.close = [this] {
     line_open_ = false;
     incoming_.clear();
   };
-  serial.write = [this](std::string_view text) -> core::SerialLine::Error {
-    if (line_error) return line_error;
+  serial.write = [this](std::string_view text) -> core::Result {
+    if (line_error) return core::Failure(kDevice, *line_error);
     sent_ += text;
     wrote_ = true;
-    return std::nullopt;
+    return {};
   };
   serial.read = [this] { return TakeFrom(incoming_); };
   serial.clear_input = [this] { incoming_.clear(); };

@@ -61,7 +61,7 @@ int main(int argc, char** argv) {
         files += ovl::images::WriteDefaultImages(words.front(), firmware);
     }
   } catch (const ovl::core::Failure& failure) {
-    std::cerr << "ovl-images: " << failure.Subject() << ": " << failure.what() << "\n";
+    std::cerr << "ovl-images: " << failure.Text() << "\n";
     return 1;
   }
   std::cout << files << " default images below " << words.front() << "\n";

@@ -18,9 +18,8 @@ const QString kDescription = QStringLiteral(
     "\n"
     "Exit status: 0 done; 1 a picture or the guide could not be written; 2 wrong usage.");
 
-int Fail(const char* what, const QString& problem) {
-  std::cerr << "ovl-pictures: " << what << " cannot be written: " << problem.toLocal8Bit().constData()
-            << "\n";
+int Fail(const char* what, const ovl::core::Failure& failure) {
+  std::cerr << "ovl-pictures: " << what << " cannot be written: " << failure.Text() << "\n";
   return EXIT_FAILURE;
 }
 
@@ -41,14 +40,14 @@ int main(int argc, char** argv) {
   const auto pictures = command_line.Word();
   try {
     const auto folder = ovl::host::ProgramFolder(command_line.Folder());
-    const auto problem = ovl::pictures::SavePictures(folder, command_line.Store(), pictures);
-    if (!problem.isEmpty()) return Fail("the pictures", problem);
+    const auto saved = ovl::pictures::SavePictures(folder, command_line.Store(), pictures);
+    if (!saved.Ok()) return Fail("the pictures", saved.Problem());
   } catch (const ovl::core::Failure& failure) {
-    return Fail("the program's folder", QString::fromStdString(failure.Subject() + ": " + failure.what()));
+    return Fail("the program's folder", failure);
   }
   const auto guide = command_line.Value(guide_option);
   if (guide.isEmpty()) return EXIT_SUCCESS;
-  const auto problem = ovl::ui::WriteGuide(ovl::ui::HelpPages(ovl::ui::kEmbeddedHelp),
+  const auto written = ovl::ui::WriteGuide(ovl::ui::HelpPages(ovl::ui::kEmbeddedHelp),
                                            QDir(pictures).filePath(QStringLiteral("light")), guide);
-  return problem.isEmpty() ? EXIT_SUCCESS : Fail("the guide", problem);
+  return written.Ok() ? EXIT_SUCCESS : Fail("the guide", written.Problem());
 }

@@ -35,11 +35,11 @@ class PlayedLine {
  public:
   explicit PlayedLine(ui::Program& program) : program_(program) {
     auto& serial = program.Model().platform.serial;
-    serial.open = [](const core::LineSettings&) { return core::SerialLine::Error(); };
+    serial.open = [](const core::LineSettings&) { return core::Result(); };
     serial.close = [] {};
     serial.write = [this](std::string_view) {
       written_ = true;
-      return core::SerialLine::Error();
+      return core::Result();
     };
     serial.read = [this] { return std::string(1, character_); };
     serial.clear_input = [] {};
@@ -71,8 +71,8 @@ class Photographer {
   Photographer(ui::Program& program, PlayedLine& line, QDir folder)
       : program_(program), line_(line), folder_(std::move(folder)) {}
 
-  // What could not be written; empty if everything was.
-  const QString& Problem() const { return problem_; }
+  // The last picture that could not be written.
+  const core::Result& Saved() const { return saved_; }
 
   void TakeAll() {
     Main().resize(ui::MainWindow::kStartSize);
@@ -99,7 +99,7 @@ class Photographer {
     QCoreApplication::sendPostedEvents();
     QSaveFile file(folder_.filePath(name + QStringLiteral(".png")));
     if (!file.open(QIODevice::WriteOnly) || !window.grab().save(&file, "PNG") || !file.commit())
-      problem_ = file.fileName() + QStringLiteral(": ") + file.errorString();
+      saved_ = host::FailureOf(file.fileName(), file.errorString());
   }
 
   void TakeForm(const controls::Form& form, const QString& name) {
@@ -312,11 +312,11 @@ class Photographer {
   ui::Program& program_;
   PlayedLine& line_;
   QDir folder_;
-  QString problem_;
+  core::Result saved_;
 };
 
 // A program of its own for each theme: what the first one did to its link would show in the other.
-QString SaveTheme(const QString& program_folder, const QString& store, const QString& folder) {
+core::Result SaveTheme(const QString& program_folder, const QString& store, const QString& folder) {
   ui::Program program(program_folder, store);
   auto& platform = program.Model().platform;
   platform.ask_file = [](const core::FileDialog&) { return std::optional<core::FileAnswer>(); };
@@ -324,25 +324,25 @@ QString SaveTheme(const QString& program_folder, const QString& store, const QSt
   PlayedLine line(program);
   QString why;
   platform.show_message = [&why](const core::MessageBox& box) { why = host::FromWindows1252(box.text); };
-  if (program.Start() == core::Outcome::kEnded) return why;
+  if (program.Start() == core::Outcome::kEnded) return host::FailureOf(program_folder, why);
   platform.show_message = [](const core::MessageBox&) {};
   Photographer photographer(program, line, QDir(folder));
   photographer.TakeAll();
-  return photographer.Problem();
+  return photographer.Saved();
 }
 
 }  // namespace
 
-QString SavePictures(const QString& program_folder, const QString& store, const QString& folder) {
+core::Result SavePictures(const QString& program_folder, const QString& store, const QString& folder) {
   for (const auto& [theme, name] :
        {std::pair(ui::Theme::kLight, "light"), std::pair(ui::Theme::kDark, "dark")}) {
     const auto below = QDir(folder).filePath(QString::fromLatin1(name));
     std::error_code error;
     std::filesystem::create_directories(QFile::encodeName(below).toStdString(), error);
-    if (error) return below + QStringLiteral(": ") + QString::fromStdString(error.message());
+    if (error) return core::Failure(QFile::encodeName(below).toStdString(), error.message());
     ui::ApplyTheme(theme);
-    const auto problem = SaveTheme(program_folder, store, below);
-    if (!problem.isEmpty()) return problem;
+    auto saved = SaveTheme(program_folder, store, below);
+    if (!saved.Ok()) return saved;
   }
   return {};
 }

@@ -184,7 +184,7 @@ class Transfer {
     try {
       step();
     } catch (const core::Failure& failure) {
-      Fail(failure.Subject() + ": " + failure.what());
+      Fail(failure.Text());
     }
   }
 

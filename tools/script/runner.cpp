@@ -73,7 +73,7 @@ ExitStatus RunScript(Session& session, std::istream& script, const std::string& 
     } catch (const Stop& stop) {
       return leave(stop.Status(), stop.what());
     } catch (const core::Failure& failure) {
-      return leave(ExitStatus::kWrongStatement, failure.Subject() + ": " + failure.what());
+      return leave(ExitStatus::kWrongStatement, failure.Text());
     }
   }
   if (!script.bad()) return ExitStatus::kDone;

@@ -79,9 +79,9 @@ core::Platform Session::MakePlatform() {
   platform.serial.open = [this](const core::LineSettings& settings) { return CurrentLine().open(settings); };
   platform.serial.close = [this] { CurrentLine().close(); };
   platform.serial.write = [this](std::string_view text) {
-    const auto error = CurrentLine().write(text);
-    if (!error) sent_ += text;
-    return error;
+    auto written = CurrentLine().write(text);
+    if (written.Ok()) sent_ += text;
+    return written;
   };
   platform.serial.read = [this] { return CurrentLine().read(); };
   platform.serial.clear_input = [this] { CurrentLine().clear_input(); };

@@ -5,6 +5,7 @@
 namespace ovl::script {
 namespace {
 
+constexpr const char* kDevice = "simulated line";
 constexpr const char* kNothingThere = "No such file or directory";
 constexpr const char* kLost = "No such device";
 
@@ -22,15 +23,15 @@ core::SerialLine SimulatedLine::Operations() {
 }
 
 void SimulatedLine::Restore() {
-  refusal_.reset();
+  opening_ = {};
 }
 
-void SimulatedLine::Refuse(std::string reason) {
-  refusal_ = std::move(reason);
+void SimulatedLine::Refuse(const std::string& reason) {
+  opening_ = core::Failure(kDevice, reason);
 }
 
 void SimulatedLine::Unplug() {
-  refusal_ = kNothingThere;
+  opening_ = core::Failure(kDevice, kNothingThere);
   dead_ = true;
 }
 
@@ -50,11 +51,11 @@ bool SimulatedLine::TakeDrained() {
   return std::exchange(draining_, false);
 }
 
-core::SerialLine::Error SimulatedLine::Open() {
-  if (refusal_) return refusal_;
+core::Result SimulatedLine::Open() {
+  if (!opening_.Ok()) return opening_;
   open_ = true;
   dead_ = false;
-  return std::nullopt;
+  return {};
 }
 
 void SimulatedLine::Close() {
@@ -63,10 +64,10 @@ void SimulatedLine::Close() {
   ClearInput();
 }
 
-core::SerialLine::Error SimulatedLine::Write(std::string_view text) {
-  if (dead_) return kLost;
+core::Result SimulatedLine::Write(std::string_view text) {
+  if (dead_) return core::Failure(kDevice, kLost);
   if (open_ && !text.empty()) draining_ = true;
-  return std::nullopt;
+  return {};
 }
 
 std::string SimulatedLine::Read() {

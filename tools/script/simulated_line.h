@@ -17,7 +17,7 @@ class SimulatedLine {
   // was open when it was lost stays dead until it is opened again; that the transmitter ran empty is still
   // told, so that a sender goes on and meets the failing write.
   void Restore();
-  void Refuse(std::string reason);
+  void Refuse(const std::string& reason);
   void Unplug();
 
   // A character from the unit. Lost, with the port closed or dead.
@@ -31,13 +31,13 @@ class SimulatedLine {
   void KeepReceived() { ++untold_; }
 
  private:
-  core::SerialLine::Error Open();
+  core::Result Open();
   void Close();
-  core::SerialLine::Error Write(std::string_view text);
+  core::Result Write(std::string_view text);
   std::string Read();
   void ClearInput();
 
-  core::SerialLine::Error refusal_;  // why no port opens
+  core::Result opening_;  // what opening a port gives
   bool open_ = false;
   bool dead_ = false;
   std::deque<char> received_;

@@ -25,7 +25,7 @@ std::optional<QString> FindFolder(const QString& given) {
   try {
     return ovl::host::ProgramFolder(given);
   } catch (const ovl::core::Failure& failure) {
-    const auto text = "The program's folder cannot be made.\n\n" + failure.Subject() + ": " + failure.what();
+    const auto text = "The program's folder cannot be made.\n\n" + failure.Text();
     std::cerr << "ovl: " << text << std::endl;
     ovl::ui::ShowBox(nullptr, {{}, text});
     return std::nullopt;
@@ -33,9 +33,9 @@ std::optional<QString> FindFolder(const QString& given) {
 }
 
 int SaveGuide(const QString& file) {
-  const auto problem = ovl::ui::WriteGuide(ovl::ui::HelpPages(ovl::ui::kEmbeddedHelp), {}, file);
-  if (problem.isEmpty()) return EXIT_SUCCESS;
-  std::cerr << "ovl: the guide cannot be written: " << problem.toLocal8Bit().constData() << "\n";
+  const auto written = ovl::ui::WriteGuide(ovl::ui::HelpPages(ovl::ui::kEmbeddedHelp), {}, file);
+  if (written.Ok()) return EXIT_SUCCESS;
+  std::cerr << "ovl: the guide cannot be written: " << written.Problem().Text() << "\n";
   return EXIT_FAILURE;
 }
 

@@ -86,9 +86,10 @@ void Program::GuardUnsaved() {
     status.SetNotice(rescued);
   }
   unsaved_ = std::make_unique<UnsavedCopy>(app_, folder_);
-  unsaved_->problem = [&status, rescued](const QString& reason) {
-    const auto unguarded = QStringLiteral("Changes are not guarded against a sudden end. ") + reason;
-    status.SetNotice(reason.isEmpty() ? rescued : unguarded);
+  unsaved_->report = [&status, rescued](const core::Result& written) {
+    if (written.Ok()) return status.SetNotice(rescued);
+    status.SetNotice(QStringLiteral("Changes are not guarded against a sudden end. ") +
+                     host::FromSystem(written.Problem().Text()));
   };
   RefreshNow();
 }

@@ -83,17 +83,17 @@ void UnsavedCopy::Follow() {
 void UnsavedCopy::Keep() {
   soon_.stop();
   if (app_.image == app_.known_image) return Drop();
-  if (!TakeName()) return Tell(path_ + QStringLiteral(": ") + WhyNotCreated(path_));
+  if (!TakeName()) return Report(host::FailureOf(path_, WhyNotCreated(path_)));
   try {
     files::WriteWhole(QFile::encodeName(path_).toStdString(), ReopenableStream(app_) + "\r\n");
-    Tell({});
+    Report({});
   } catch (const core::Failure& failure) {
-    Tell(host::FromSystem(failure.Subject() + ": " + failure.what()));
+    Report(failure);
   }
 }
 
-void UnsavedCopy::Tell(const QString& reason) {
-  if (problem) problem(reason);
+void UnsavedCopy::Report(const core::Result& written) const {
+  if (report) report(written);
 }
 
 void UnsavedCopy::Drop() {

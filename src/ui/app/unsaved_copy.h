@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 
+#include "core/failure.h"
 #include "ui/kit/bindings.h"
 
 namespace ovl::ui {
@@ -34,12 +35,12 @@ class UnsavedCopy {
   // The program ends as the person wanted: no copy is left.
   void Drop();
 
-  // Is told why the copy cannot be kept, with an empty reason when it is kept.
-  std::function<void(const QString& reason)> problem;
+  // Called after every attempt to write the copy.
+  std::function<void(const core::Result& written)> report;
 
  private:
   bool TakeName();
-  void Tell(const QString& reason);
+  void Report(const core::Result& written) const;
 
   const core::Application& app_;
   QDir folder_;

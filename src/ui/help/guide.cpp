@@ -11,6 +11,7 @@
 #include <QUrl>
 #include <algorithm>
 
+#include "host/text_codec.h"
 #include "ui/help/help_style.h"
 #include "ui/kit/theme.h"
 
@@ -21,6 +22,7 @@ constexpr qreal kPictureWidth = 560;
 constexpr qreal kPictureScale = 0.75;
 constexpr qreal kFontSize = 9;
 const QColor kRule(0xb0, 0xb0, 0xb0);
+const QString kNoPages = QStringLiteral("there are no help pages");
 const QString kTitle = QStringLiteral("OVL Software: installer's guide");
 
 // A picture is never wider than the column, and keeps its shape. The guide keeps the pictures by their names.
@@ -71,8 +73,8 @@ void AddFront(QTextDocument& guide, const HelpPages& pages) {
 
 }  // namespace
 
-QString WriteGuide(const HelpPages& pages, const QString& pictures, const QString& file) {
-  if (pages.Contents().empty()) return QStringLiteral("there are no help pages in %1").arg(pages.Folder());
+core::Result WriteGuide(const HelpPages& pages, const QString& pictures, const QString& file) {
+  if (pages.Contents().empty()) return host::FailureOf(pages.Folder(), kNoPages);
   ApplyTheme(Theme::kLight);  // it is printed on white paper
   QTextDocument guide;
   auto font = guide.defaultFont();
@@ -83,14 +85,15 @@ QString WriteGuide(const HelpPages& pages, const QString& pictures, const QStrin
     if (!entry.file.isEmpty()) AddPage(guide, pages.Text(entry.file, pictures), pictures);
   }
   QSaveFile target(file);
-  if (!target.open(QIODevice::WriteOnly)) return file + QStringLiteral(": ") + target.errorString();
+  if (!target.open(QIODevice::WriteOnly)) return host::FailureOf(file, target.errorString());
   {
     QPdfWriter writer(&target);
     writer.setPageSize(QPageSize(QPageSize::A4));
     writer.setTitle(kTitle);
     guide.print(&writer);
   }
-  return target.commit() ? QString() : file + QStringLiteral(": ") + target.errorString();
+  if (!target.commit()) return host::FailureOf(file, target.errorString());
+  return {};
 }
 
 }  // namespace ovl::ui

@@ -3,11 +3,12 @@
 
 #include <QString>
 
+#include "core/failure.h"
 #include "ui/help/help_pages.h"
 
 namespace ovl::ui {
 
-// Pictures that the folder lacks are left out. What went wrong, with path and reason; empty when done.
-QString WriteGuide(const HelpPages& pages, const QString& pictures, const QString& file);
+// Leaves out pictures that the folder lacks.
+core::Result WriteGuide(const HelpPages& pages, const QString& pictures, const QString& file);
 
 }  // namespace ovl::ui

@@ -120,7 +120,7 @@ class SerialPortTest : public testing::Test {
   }
 
   void Open(const std::string& settings = "115200,N,8,1") const {
-    ASSERT_EQ(line_.open({1, settings}), std::nullopt);
+    ASSERT_TRUE(line_.open({1, settings}).Ok());
   }
 
   // What comes meanwhile waits in the port.
@@ -159,17 +159,17 @@ TEST_F(SerialPortTest, OpeningFailsInTheSystemsWords) {
   Link(2, "/dev/no-such-device");
   Link(3, folder_.path().toStdString());
   Link(4, "/dev/null");
-  EXPECT_EQ(line_.open({3, "9600,N,8,1"}), "Is a directory");
-  EXPECT_EQ(line_.open({4, "9600,N,8,1"}), "Inappropriate ioctl for device");
-  EXPECT_EQ(line_.open({1, "9600,N,9,1"}), "Invalid argument");
-  EXPECT_EQ(line_.open({2, "9600,N,8,1"}), "No such file or directory");
+  EXPECT_STREQ(line_.open({3, "9600,N,8,1"}).Problem().what(), "Is a directory");
+  EXPECT_STREQ(line_.open({4, "9600,N,8,1"}).Problem().what(), "Inappropriate ioctl for device");
+  EXPECT_STREQ(line_.open({1, "9600,N,9,1"}).Problem().what(), "Invalid argument");
+  EXPECT_STREQ(line_.open({2, "9600,N,8,1"}).Problem().what(), "No such file or directory");
   EXPECT_EQ(port_->LastProblem(), "Comport 2, /dev/no-such-device: No such file or directory.");
-  EXPECT_NE(line_.write("x"), std::nullopt);
+  EXPECT_FALSE(line_.write("x").Ok());
 
   Open();
   EXPECT_EQ(port_->LastProblem(), "");
   host::SerialPort second(folder_.path(), [](const core::Event&) { return core::Outcome::kDone; });
-  EXPECT_EQ(second.Operations().open({1, "9600,N,8,1"}), "Device or resource busy");
+  EXPECT_STREQ(second.Operations().open({1, "9600,N,8,1"}).Problem().what(), "Device or resource busy");
 }
 
 TEST_F(SerialPortTest, EveryCharacterIsAnEventOfItsOwnAndWritesDrainOnceAndLater) {
@@ -181,8 +181,8 @@ TEST_F(SerialPortTest, EveryCharacterIsAnEventOfItsOwnAndWritesDrainOnceAndLater
 
   Open("300,N,8,1");  // so slow that a busy machine is back before the last character has left
   told_.clear();
-  EXPECT_EQ(line_.write("x"), std::nullopt);
-  EXPECT_EQ(line_.write("request"), std::nullopt);
+  EXPECT_TRUE(line_.write("x").Ok());
+  EXPECT_TRUE(line_.write("request").Ok());
   port_->DeliverPending();
   EXPECT_EQ(told_, "");
   std::string arrived;
@@ -201,34 +201,34 @@ TEST_F(SerialPortTest, AStreamGoesOutCharacterByCharacterAndNoneIsLostWhereTheyA
            arrived == stream;
   };
   on_told_ = [&](const std::string&) {
-    EXPECT_EQ(line_.write(left.substr(0, 1)), std::nullopt);
+    EXPECT_TRUE(line_.write(left.substr(0, 1)).Ok());
     left.erase(0, 1);
   };
   for (const char* speed : {"4800", "115200"}) {
     Open(speed + ",N,8,1"s);
     left = "/LD\r$2000";
     arrived.clear();
-    line_.write("*");
+    EXPECT_TRUE(line_.write("*").Ok());
     EXPECT_TRUE(arrives("*/LD\r$2000"));
   }
 
   arrived.clear();
   const std::string stream(200'000, 'x');
-  EXPECT_EQ(line_.write(stream), std::nullopt);
+  EXPECT_TRUE(line_.write(stream).Ok());
   arrived = terminal_.Receive();
-  EXPECT_EQ(line_.write("end"), std::nullopt);
+  EXPECT_TRUE(line_.write("end").Ok());
   EXPECT_TRUE(arrives(stream + "end"));
 }
 
 TEST_F(SerialPortTest, ClosingDropsWhatIsOutstanding) {
   Open();
-  line_.write("x");
+  EXPECT_TRUE(line_.write("x").Ok());
   line_.close();
   RunForAWhile();
   EXPECT_EQ(offers_, 0);
 
   Open();
-  line_.write("y");
+  EXPECT_TRUE(line_.write("y").Ok());
   SendWhileBusy("old");
   line_.close();
   Open();
@@ -245,7 +245,7 @@ TEST_F(SerialPortTest, ClosingDropsWhatIsOutstanding) {
 
 TEST_F(SerialPortTest, EventsWaitInOrderWhileTheProgramIsBusy) {
   Open();
-  line_.write("x");
+  EXPECT_TRUE(line_.write("x").Ok());
   std::string sent = "<drained>";
   for (int part = 0; part < 20; ++part) {
     const auto text = std::to_string(part) + std::string(500, '.');
@@ -293,14 +293,15 @@ TEST_F(SerialPortTest, BadCharactersBecomeQuestionMarksAndHalfAMarkIsForgottenBy
 
 TEST_F(SerialPortTest, ALostPortIsQuietAndFailsTheNextWrite) {
   Open("1200,N,8,1");
-  core::SerialLine::Error failure;
+  core::Result failure;
   on_told_ = [&](const std::string&) { failure = line_.write("y"); };
-  line_.write("x");
+  EXPECT_TRUE(line_.write("x").Ok());
   terminal_.HangUp();
   EXPECT_TRUE(ValueDisplay("<drained>"));
-  EXPECT_EQ(failure, "No such device");
+  ASSERT_FALSE(failure.Ok());
+  EXPECT_EQ(failure.Problem().Text(), terminal_.Device() + ": No such device");
   EXPECT_TRUE(BecomesIdle());
-  EXPECT_EQ(line_.write("z"), failure);
+  EXPECT_EQ(line_.write("z").Problem().Text(), failure.Problem().Text());
   EXPECT_EQ(told_, "<drained>");
   EXPECT_EQ(port_->LastProblem(), QString("Comport 1, %1: No such device.").arg(terminal_.Device().c_str()));
 }

@@ -96,9 +96,9 @@ TEST(SimulatedLine, LosesWhatMeetsNoOpenPortAndStaysDeadUntilItIsOpenedAgain) {
   SimulatedLine line;
   const auto operations = line.Operations();
   line.Arrive('a');
-  operations.write("x");
+  EXPECT_TRUE(operations.write("x").Ok());
   EXPECT_FALSE(line.TakeReceived() || line.TakeDrained());
-  ASSERT_FALSE(operations.open({1, "9600,N,8,1"}));
+  ASSERT_TRUE(operations.open({1, "9600,N,8,1"}).Ok());
   line.Arrive('b');
   EXPECT_TRUE(line.TakeReceived());
   line.KeepReceived();
@@ -106,26 +106,26 @@ TEST(SimulatedLine, LosesWhatMeetsNoOpenPortAndStaysDeadUntilItIsOpenedAgain) {
   EXPECT_EQ(operations.read(), "b");
   EXPECT_EQ(operations.read(), "");
 
-  operations.write("");
+  EXPECT_TRUE(operations.write("").Ok());
   EXPECT_FALSE(line.TakeDrained());
-  for (const auto* text : {"xy", "z"}) operations.write(text);
+  for (const auto* text : {"xy", "z"}) EXPECT_TRUE(operations.write(text).Ok());
   EXPECT_TRUE(line.TakeDrained());
   EXPECT_FALSE(line.TakeDrained());
-  operations.write("x");
+  EXPECT_TRUE(operations.write("x").Ok());
   line.Arrive('c');
   operations.close();
   EXPECT_FALSE(line.TakeReceived() || line.TakeDrained());
 
-  ASSERT_FALSE(operations.open({}));
+  ASSERT_TRUE(operations.open({}).Ok());
   line.Unplug();
   line.Arrive('d');
   EXPECT_FALSE(line.TakeReceived());
-  EXPECT_TRUE(operations.write("x") && operations.open({}));
+  EXPECT_FALSE(operations.write("x").Ok() || operations.open({}).Ok());
   line.Restore();
-  EXPECT_TRUE(operations.write("x"));
-  EXPECT_FALSE(operations.open({}) || operations.write("x"));
+  EXPECT_FALSE(operations.write("x").Ok());
+  EXPECT_TRUE(operations.open({}).Ok() && operations.write("x").Ok());
   line.Refuse("");
-  EXPECT_EQ(operations.open({}), std::optional<std::string>(""));
+  EXPECT_FALSE(operations.open({}).Ok());
 }
 
 // A program folder with the default image of one register, and scripts run in it.

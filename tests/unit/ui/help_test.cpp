@@ -186,15 +186,16 @@ TEST_F(HelpWindowTest, SaysSoWhenPagesAreMissing) {
 TEST_F(HelpWindowTest, ThePagesMakeAGuideWithPictures) {
   const ui::HelpPages pages(ui::kEmbeddedHelp);
   const auto guide = Path("guide.pdf");
-  EXPECT_NE(ui::WriteGuide(ui::HelpPages(Path("nowhere")), {}, guide), "");
-  EXPECT_EQ(ui::WriteGuide(pages, {}, guide), "");
+  EXPECT_FALSE(ui::WriteGuide(ui::HelpPages(Path("nowhere")), {}, guide).Ok());
+  EXPECT_TRUE(ui::WriteGuide(pages, {}, guide).Ok());
   const auto without_pictures = QFileInfo(guide).size();
   QImage picture(200, 100, QImage::Format_RGB32);
   picture.fill(Qt::red);
   ASSERT_TRUE(picture.save(Path("tab2_alarm_outputs.png")) && picture.save(Path("micros_idn.png")));
-  EXPECT_EQ(ui::WriteGuide(pages, Path(""), guide), "");
+  EXPECT_TRUE(ui::WriteGuide(pages, Path(""), guide).Ok());
   EXPECT_GT(QFileInfo(guide).size(), without_pictures);
-  EXPECT_TRUE(ui::WriteGuide(pages, {}, guide + "/no/guide.pdf").contains(guide));
+  const auto blocked = guide + "/no/guide.pdf";
+  EXPECT_EQ(ui::WriteGuide(pages, {}, blocked).Problem().Text(), blocked.toStdString() + ": Not a directory");
 }
 
 // The desktop, as far as it opens files.

@@ -78,8 +78,8 @@ class Screen {
       while_box();
     };
     auto& serial = App().platform.serial;
-    serial.open = [](const core::LineSettings&) { return core::SerialLine::Error(); };
-    serial.write = [](std::string_view) { return core::SerialLine::Error(); };
+    serial.open = [](const core::LineSettings&) { return core::Result(); };
+    serial.write = [](std::string_view) { return core::Result(); };
     serial.close = serial.clear_input = serial.clear_output = [] {};
     if (program->Start() != core::Outcome::kDone) throw std::runtime_error("no start");
     if (pages == Pages::kAll) OnScreen().BuildAll();

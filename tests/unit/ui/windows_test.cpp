@@ -233,10 +233,13 @@ TEST(Pictures, EveryStateIsTakenInBothThemes) {
   MakeSite(site, {"V1400", "R12"});
   const auto folder = QString::fromStdString(site.Path().string());
   files::WriteWhole(shots.File("file"), "");
-  const auto blocked = QString::fromStdString(shots.File("file"));
-  EXPECT_EQ(pictures::SavePictures(folder, folder, blocked), blocked + "/light: Not a directory");
+  const auto save = [&](const std::string& below) {
+    return pictures::SavePictures(folder, folder, QString::fromStdString(below));
+  };
+  const auto blocked = shots.File("file");
+  EXPECT_EQ(save(blocked).Problem().Text(), blocked + "/light: Not a directory");
   files::WriteWhole(site.File("unsaved V1400R12 1.bin"), "a person's");
-  ASSERT_EQ(pictures::SavePictures(folder, folder, QString::fromStdString(shots.Path().string())), QString());
+  ASSERT_TRUE(save(shots.Path().string()).Ok());
   EXPECT_EQ(files::ReadWhole(site.File("unsaved V1400R12 1.bin")), "a person's");
   for (const std::string theme : {"light", "dark"}) {
     const auto load = [&](const char* name) {
