@@ -253,23 +253,37 @@ int KeyIndex(const FirmwareRow& firmware, std::string_view key, int position) {
   return position;
 }
 
-// The keys in the order in which the families name them first. A key too many doesn't compile.
-constexpr std::array<std::string_view, kRegisterKeyCount> CollectKeys() {
-  std::array<std::string_view, kRegisterKeyCount> keys;
-  std::size_t count = 0;
-  const auto add = [&](std::string_view key) {
-    const auto end = keys.begin() + static_cast<std::ptrdiff_t>(count);
-    if (!key.empty() && std::find(keys.begin(), end, key) == end) keys.at(count++) = key;
-  };
+// Calls `add` for every key of every list, in the order in which the lists name them.
+template <class Add>
+constexpr void ForEachKey(const Add& add) {
   for (const FamilyRow& row : kFamilies) {
     for (std::string_view name : row.names) add(KeyOf(row.family, name));
   }
   for (const StageRow& row : kStages) add(KeyOf(row.family, row.name));
-  return keys;
+}
+
+constexpr std::size_t CountKeyedEntries() {
+  std::size_t count = 0;
+  ForEachKey([&](std::string_view) { ++count; });
+  return count;
+}
+
+// Each key once, in the order in which the lists first name it.
+struct KeyList {
+  std::array<std::string_view, CountKeyedEntries()> keys;
+  std::size_t count = 0;
+};
+
+constexpr KeyList CollectKeys() {
+  KeyList list;
+  ForEachKey([&](std::string_view key) {
+    const auto end = list.keys.begin() + static_cast<std::ptrdiff_t>(list.count);
+    if (!key.empty() && std::find(list.keys.begin(), end, key) == end) list.keys[list.count++] = key;
+  });
+  return list;
 }
 
 constexpr auto kKeys = CollectKeys();
-static_assert(!kKeys.back().empty(), "the lists name fewer keys than there are");
 
 void ApplyChange(const StageRow& row, std::vector<std::string_view>& names) {
   const auto place = [&](std::string_view name) { return std::find(names.begin(), names.end(), name); };
@@ -307,7 +321,7 @@ std::vector<std::string_view> NamesOf(const FirmwareRow& firmware) {
 }  // namespace
 
 std::span<const std::string_view> RegisterKeys() {
-  return kKeys;
+  return std::span(kKeys.keys).first(kKeys.count);
 }
 
 std::vector<RegisterEntry> BuildRegisterEntries(std::string_view version, std::string_view release) {

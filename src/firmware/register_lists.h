@@ -16,9 +16,6 @@ struct RegisterEntry {
   int key_index;          // the value that the key's RegisterIndex takes; -1 without a key
 };
 
-// The number of register models that any firmware tells apart.
-inline constexpr std::size_t kRegisterKeyCount = 136;
-
 // Every key once, in an order that never changes during a run. The texts live as long as the program.
 std::span<const std::string_view> RegisterKeys();
 
