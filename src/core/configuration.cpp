@@ -3,14 +3,14 @@
 #include <utility>
 
 #include "core/actions.h"
-#include "core/configuration.h"
+#include "firmware/traits.h"
 #include "image/field_map.h"
 #include "image/record_stream.h"
 
 namespace ovl::core {
 
 void PrepareCapabilities(Application& app) {
-  app.capabilities = image::CapabilitiesOf(app.firmware);
+  app.capabilities = firmware::CapabilitiesOf(app.firmware);
 }
 
 bool LoadStream(Application& app, std::string_view stream) {
@@ -33,7 +33,7 @@ bool LoadStream(Application& app, std::string_view stream) {
   image::ReadSections(sections, app.firmware, app.capabilities, scope, image);
   app.image = std::move(image);
   if (scope == image::Scope::kWhole) app.known_image = app.image;
-  if (scope == image::Scope::kWhole && image::LayoutOf(app.firmware) != firmware::Layout::kLateV1400)
+  if (scope == image::Scope::kWhole && firmware::LayoutOf(app.firmware) != firmware::Layout::kLateV1400)
     app.DiagnosticText.clear();
   return true;
 }
@@ -41,7 +41,7 @@ bool LoadStream(Application& app, std::string_view stream) {
 std::string SectionsToStream(Application& app) {
   PrepareCapabilities(app);
   auto sections =
-      image::WriteSections(app.image, image::LayoutOf(app.firmware), app.firmware, app.capabilities);
+      image::WriteSections(app.image, firmware::LayoutOf(app.firmware), app.firmware, app.capabilities);
   app.SYSCFG = std::move(sections.SYSCFG);
   app.SYSFIXED = std::move(sections.SYSFIXED);
   app.SYSSTR = std::move(sections.SYSSTR);
@@ -50,8 +50,8 @@ std::string SectionsToStream(Application& app) {
 
 std::string ReopenableStream(const Application& app) {
   auto image = app.image;
-  const auto sections = image::WriteSections(image, image::LayoutOf(app.firmware), app.firmware,
-                                             image::CapabilitiesOf(app.firmware));
+  const auto sections = image::WriteSections(image, firmware::LayoutOf(app.firmware), app.firmware,
+                                             firmware::CapabilitiesOf(app.firmware));
   return image::BlockRecords(sections.SYSCFG + sections.SYSFIXED + sections.SYSSTR,
                              image::ReadRegion(app.firmware));
 }

@@ -6,7 +6,7 @@
 #include "core/configuration.h"
 #include "core/failure.h"
 #include "files/files.h"
-#include "firmware/firmware_id.h"
+#include "firmware/traits.h"
 #include "image/record_stream.h"
 
 namespace ovl::files {
@@ -24,7 +24,8 @@ std::string SavedStream(core::Application& app) {
   if (!firmware::IsKnownFamily(app.firmware.version)) {
     throw core::Failure(app.firmware.Joined(), std::make_error_code(std::errc::not_supported).message());
   }
-  const auto layout = app.firmware.IsV1400() ? firmware::Layout::kEarlyV1400 : image::LayoutOf(app.firmware);
+  const auto layout =
+      app.firmware.IsV1400() ? firmware::Layout::kEarlyV1400 : firmware::LayoutOf(app.firmware);
   auto sections = image::WriteSections(app.image, layout, app.firmware, app.capabilities);
   app.SYSCFG = std::move(sections.SYSCFG);
   app.SYSFIXED = std::move(sections.SYSFIXED);

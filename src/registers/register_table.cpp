@@ -8,14 +8,15 @@ namespace ovl::registers {
 namespace {
 
 using enum image::FieldId;
+using firmware::FamilySet;
 using Row = RegisterRow;
 using Form = controls::RegisterOptions;
 
-constexpr FamilySet k4 = kFamily1400;
-constexpr FamilySet k3 = kFamily1300;
-constexpr FamilySet k1 = kFamily1310;
-constexpr FamilySet k2 = kFamily1324;
-constexpr FamilySet k5 = kFamily1334;
+constexpr FamilySet k4 = firmware::kFamily1400;
+constexpr FamilySet k3 = firmware::kFamily1300;
+constexpr FamilySet k1 = firmware::kFamily1310;
+constexpr FamilySet k2 = firmware::kFamily1324;
+constexpr FamilySet k5 = firmware::kFamily1334;
 constexpr FamilySet k431 = k4 | k3 | k1;
 constexpr FamilySet k31 = k3 | k1;
 constexpr FamilySet k425 = k4 | k2 | k5;
@@ -139,14 +140,6 @@ constexpr std::array kRegisters = {
 };
 
 }  // namespace
-
-FamilySet FamilyOf(std::string_view version) {
-  if (version == "V1400") return kFamily1400;
-  if (version == "V1300") return kFamily1300;
-  if (version == "V1310") return kFamily1310;
-  if (version == "V1324") return kFamily1324;
-  return version == "V1334" ? kFamily1334 : 0;
-}
 
 std::span<const RegisterRow> RegisterTable() {
   return kRegisters;
