@@ -1,23 +1,22 @@
 #include "changes/also_stored.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
 #include <vector>
 
 #include "changes/editors.h"
 #include "codecs/codecs.h"
 #include "image/field_map.h"
+#include "image/slot_records.h"
 
 namespace ovl::changes {
 namespace {
 
-// The entry of a list that stands for some bits of a byte, moved to the right edge.
-std::size_t EntryFor(ValueDisplay tells, int bits) {
-  constexpr std::array<std::size_t, 4> kParityEntries = {0, 0, 2, 1};
+// The list entry for some bits of a byte. The lowest of these bits has the value 1.
+std::size_t EntryFor(ValueDisplay display, int bits) {
   const auto at = static_cast<std::size_t>(bits);
-  if (tells == ValueDisplay::kParity) return kParityEntries.at(at);
-  return tells == ValueDisplay::kSetIsOff ? 1 - at : at;
+  if (display == ValueDisplay::kParity) return static_cast<std::size_t>(image::ParityEntry(bits));
+  return display == ValueDisplay::kSetIsOff ? 1 - at : at;
 }
 
 struct ControlOf {
@@ -41,16 +40,16 @@ class Comparison {
         acted_(acted),
         form_(app.registry.FormOf(acted)),
         acts_for_shown_(std::any_of(Editors().begin(), Editors().end(), [this](const Editor& shown) {
-          return shown.tells != ValueDisplay::kNothing && ListOf(shown) == acted_;
+          return shown.display != ValueDisplay::kNothing && ListOf(shown) == acted_;
         })) {}
 
-  std::string Told() const {
-    std::vector<std::string> told;
+  std::string Line() const {
+    std::vector<std::string> stored;
     for (const auto& row : image::FieldTable()) {
-      for (int entry = 1; entry <= image::EntryCount(row.id); ++entry) Compare(row, entry, told);
+      for (int entry = 1; entry <= image::EntryCount(row.id); ++entry) Compare(row, entry, stored);
     }
     std::string line;
-    for (const auto& words : told) line += (line.empty() ? "Also stored: " : ", ") + words;
+    for (const auto& words : stored) line += (line.empty() ? "Also stored: " : ", ") + words;
     return line.empty() ? line : line + ".";
   }
 
@@ -61,29 +60,31 @@ class Comparison {
     return *app_.registry.Find(shown.controls);
   }
 
-  // The list itself, or a button of the window that has it.
+  // The list itself, or another control of the same window, except the main form.
   bool IsOwn(const Editor& shown) const {
     const auto& list = Named(shown);
     return list.control == acted_ || (form_ == list.form && form_ != &app_.frmMain.form);
   }
 
-  void Compare(const image::FieldRow& row, int entry, std::vector<std::string>& told) const {
+  void Compare(const image::FieldRow& row, int entry, std::vector<std::string>& stored) const {
     const auto& now = app_.image.at(row.id, entry);
     const auto& was = before_.at(row.id, entry);
     if (now == was) return;
     bool shown_somewhere = false;
     const int changed = codecs::HexToInt(now) ^ codecs::HexToInt(was);
     for (const auto& shown : Editors()) {
-      if (shown.field != row.id || shown.tells == ValueDisplay::kNothing) continue;
+      if (shown.field != row.id || shown.display == ValueDisplay::kNothing) continue;
       shown_somewhere = true;
-      if ((changed & shown.bits) != 0 && !IsOwn(shown)) AddOnce(told, WordsOf(shown, codecs::HexToInt(now)));
+      if ((changed & shown.bits) != 0 && !IsOwn(shown))
+        AddOnce(stored, WordsOf(shown, codecs::HexToInt(now)));
     }
-    // A control that no shown field belongs to stores its own fields among those that no list shows.
-    if (!shown_somewhere && acts_for_shown_) AddOnce(told, std::string(row.name) + " " + now);
+    // If the control itself shows no field, the fields that no list shows can be its own. They are not named.
+    if (!shown_somewhere && acts_for_shown_) AddOnce(stored, std::string(row.name) + " " + now);
   }
 
-  static void AddOnce(std::vector<std::string>& told, const std::string& words) {
-    if (!words.empty() && std::find(told.begin(), told.end(), words) == told.end()) told.push_back(words);
+  static void AddOnce(std::vector<std::string>& stored, const std::string& words) {
+    if (!words.empty() && std::find(stored.begin(), stored.end(), words) == stored.end())
+      stored.push_back(words);
   }
 
   std::string WordsOf(const Editor& shown, int value) const {
@@ -94,9 +95,9 @@ class Comparison {
   }
 
   static std::string EntryOf(const Editor& shown, const controls::List& list, int value) {
-    if (shown.tells == ValueDisplay::kPicked) return list.Text();
+    if (shown.display == ValueDisplay::kPicked) return list.Text();
     const int lowest = shown.bits & -shown.bits;
-    const auto entry = EntryFor(shown.tells, (value & shown.bits) / lowest);
+    const auto entry = EntryFor(shown.display, (value & shown.bits) / lowest);
     return entry < list.items.size() ? list.items[entry] : std::string();
   }
 
@@ -120,7 +121,7 @@ std::string AlsoStored(const core::Application& app, const core::Event& event,
   const auto* list = std::get_if<controls::List*>(&*acted);
   const bool whole_image = std::holds_alternative<controls::MenuItem*>(*acted) ||
                            (list != nullptr && *list == &app.frmMain.ComboReg);
-  return whole_image ? std::string() : Comparison(app, before, *acted).Told();
+  return whole_image ? std::string() : Comparison(app, before, *acted).Line();
 }
 
 }  // namespace ovl::changes

@@ -1,5 +1,5 @@
-// What an act stored beyond itself: found by comparing the image before and after, so that no rule of the
-// panels is written twice.
+// What an action of the user stored in addition to its own field. The image before and after is compared, so
+// that the rules of the panels are not repeated here.
 #pragma once
 
 #include <string>
@@ -8,11 +8,11 @@
 
 namespace ovl::changes {
 
-// Whether the event is a person's act on a control. Others leave standing what was told last.
+// Whether the event is an action of the user on a control. The line stays unchanged after all other events.
 bool IsAct(const core::Event& event);
 
-// One line of the model's own captions and entries, such as "Also stored: RX BAUDRATE AUTO, TX BAUDRATE
-// 9600."; empty if the act stored nothing beyond itself. What brings in a whole image tells nothing.
+// One line with captions and list entries, such as "Also stored: RX BAUDRATE AUTO, TX BAUDRATE 9600."; empty
+// if the action stored nothing else. It is also empty for an action that loads a whole image.
 std::string AlsoStored(const core::Application& app, const core::Event& event,
                        const image::ConfigImage& before);
 

@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "codecs/codecs.h"
+#include "image/slot_records.h"
 
 namespace ovl::changes {
 namespace {
@@ -148,29 +149,26 @@ std::string Captions(const core::Application& app, std::string_view controls, st
   return words;
 }
 
-// A text is the last of its record: its length, then the characters. What stands between it and the first
-// byte of an exception is its range, as wide as the firmware has it.
+// The digits of a record that a control stores.
 std::string_view Cut(Part part, image::FieldId field, std::string_view record) {
-  constexpr std::size_t kByte = 2, kCommon = 6, kExceptionText = kByte + 2 * 40;
-  const auto rest = record.substr(std::min(kByte, record.size()));
-  const auto range = rest.substr(0, std::max(rest.size(), kExceptionText) - kExceptionText);
+  constexpr std::size_t kByte = 2;
   switch (part) {
     case Part::kFirstByte:
       return record.substr(0, kByte);
     case Part::kDuration:
-      return rest.substr(0, kCommon - kByte);
+      return image::AlarmDurationDigits(record);
     case Part::kVideoLoss:
-      return record.substr(std::min(kCommon, record.size()));
+      return image::AlarmVideoLossDigits(record);
     case Part::kRange:
-      return range;
+      return image::RangeAndLengthOf(record);
     case Part::kText:
-      return field == EXCPSTRS ? rest.substr(range.size()) : rest;
+      return field == EXCPSTRS ? image::CharactersOf(record) : image::TriggeredDigits(record);
     default:
       return record;
   }
 }
 
-// Whether the control stores something of what differs.
+// Whether the control stores a part that differs.
 bool Stores(const Editor& editor, std::string_view before, std::string_view after) {
   const auto was = Cut(editor.part, editor.field, before), is = Cut(editor.part, editor.field, after);
   if (was.size() != 2 || is.size() != 2) return was != is;

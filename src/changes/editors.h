@@ -1,4 +1,4 @@
-// Who edits which field: the lists and texts of the form that store it.
+// Which controls edit which field.
 #pragma once
 
 #include <span>
@@ -9,7 +9,7 @@
 
 namespace ovl::changes {
 
-// In the order of the form's tabs; the windows of a register stand with their register.
+// Where a control is, in the order of the tabs. The last two are windows.
 enum class Place {
   kRegister,
   kText,
@@ -22,15 +22,15 @@ enum class Place {
   kMicros
 };
 
-// Of a record of several bytes, what a control stores.
+// The part of a record that a control stores.
 enum class Part { kAll, kFirstByte, kDuration, kVideoLoss, kRange, kText };
 
-// How a list tells what a value means, once it is stored.
+// How to find the list entry for a stored value.
 enum class ValueDisplay {
   kNothing,
-  kPicked,    // the entry that is picked
-  kSetIsOn,   // the second entry stands for a set bit
-  kSetIsOff,  // the first one does
+  kPicked,    // the selected entry
+  kSetIsOn,   // the second entry if the bit is set
+  kSetIsOff,  // the first entry if the bit is set
   kParity
 };
 
@@ -39,23 +39,24 @@ inline constexpr int kWholeByte = 0xFF;
 struct Editor {
   image::FieldId field;
   Place place;
-  std::string_view controls;  // names of controls, blanks between them; none: an option of the register
-  int bits = kWholeByte;      // of the (first) byte, those that the controls store
-  ValueDisplay tells = ValueDisplay::kNothing;
+  std::string_view controls;  // names, with blanks between them; empty for an option of the register
+  int bits = kWholeByte;      // the bits of the first byte that the controls store
+  ValueDisplay display = ValueDisplay::kNothing;
   Part part = Part::kAll;
 };
 
-// In the order of the fields; several controls of one field one behind the other.
+// In the order of the fields. The controls of a field follow each other.
 std::span<const Editor> Editors();
 
-// The captions under which a person finds the field, such as "COMMUNICATION: PARITY, DATA BITS"; with two
-// contents only those on the form that store what differs. Empty if no control edits it. `options` stands for
-// the options of a register. A control that is not there or has no caption is a `std::logic_error`.
+// The captions of the controls that edit the field, such as "COMMUNICATION: PARITY, DATA BITS"; empty if no
+// control edits it. With two contents, only the visible controls that store a difference between them.
+// `options` is the word for the options of a register. Throws std::logic_error if a control or its caption is
+// missing.
 std::string EditedBy(const core::Application& app, image::FieldId field, std::string_view options);
 std::string EditedBy(const core::Application& app, image::FieldId field, std::string_view options,
                      std::string_view before, std::string_view after);
 
-// Fields that no control edits: read, kept and written back.
+// Fields that no control edits. They are read, kept and written back.
 std::span<const image::FieldId> CarriedThrough();
 
 }  // namespace ovl::changes

@@ -1,5 +1,5 @@
-// The kinds of control that a form is made of, as plain data. Nothing here draws or waits: a presentation
-// reads these structs and hands a person's acts to the gate; handlers change them.
+// The controls of a form, as plain data. Nothing here draws or waits. The windows read these structs and pass
+// the actions of the user to the gate; handlers change the structs.
 #pragma once
 
 #include <string>
@@ -11,18 +11,18 @@ struct Application;
 
 namespace ovl::controls {
 
-// What a control sets off. The index is the control's place in its control array, for an option array
-// the element that was chosen.
+// What a control does. The index is the position of the control in its control array. For an option array, it
+// is the chosen element.
 using Handler = void (*)(core::Application&, int index);
 
-// What every control has. The structs below add to it; there are no virtual functions.
+// What every control has. There are no virtual functions.
 struct ControlState {
   std::string caption;
   bool visible = true;
   bool enabled = true;
   int index = 0;
-  Handler handler = nullptr;  // the act itself: click, pick, change of text, tick
-  Handler point = nullptr;    // the pointer moves over the control
+  Handler handler = nullptr;  // click, selection, change of text, tick
+  Handler point = nullptr;    // the mouse pointer moves over the control
   Handler leave = nullptr;    // the control loses the focus
 };
 
@@ -35,7 +35,7 @@ struct CheckBox : ControlState {
   bool checked = false;
 };
 
-// A pick-only list. The position is -1 until something was picked or assigned.
+// A list to select from. The position is -1 until an entry is selected or assigned.
 struct List : ControlState {
   std::vector<std::string> items;
   int position = -1;
@@ -45,15 +45,15 @@ struct List : ControlState {
   }
 };
 
-// A group of option buttons of which at most one is chosen; -1 is none. Arrays in `excludes` stand in the
-// same frame: choosing here clears them without an event.
+// A group of option buttons; at most one is chosen, and -1 means none. The arrays in `excludes` are in the
+// same frame: a choice here clears them without an event.
 struct OptionArray : ControlState {
   std::vector<ControlState> elements;
   int chosen = -1;
   std::vector<OptionArray*> excludes;
 };
 
-// Text is bytes of Windows-1252. A max_length of 0 is no limit.
+// The text is in Windows-1252. A max_length of 0 means no limit.
 struct TextBox : ControlState {
   std::string text;
   std::size_t max_length = 0;
@@ -61,15 +61,15 @@ struct TextBox : ControlState {
   bool multi_line = false;
 };
 
-// A value from 0 to maximum; the text stands in the bar.
+// A value from 0 to maximum, with a text inside the bar.
 struct ProgressBar : ControlState {
   int value = 0;
   int maximum = 100;
   std::string text;
 };
 
-// A timer of the given interval in milliseconds. `starts` counts its changes from stopped to running, so
-// that whoever keeps the time can tell a restart from a timer that went on.
+// A timer with an interval in milliseconds. `starts` counts its changes from stopped to running. The owner of
+// the real timer needs this to detect a restart.
 struct Timer : ControlState {
   int interval = 0;
   unsigned starts = 0;
@@ -86,9 +86,9 @@ struct Tabs : ControlState {
   int current = 0;
 };
 
-// A window. `visible` tells whether it is on the screen; a loaded form can be hidden. Unloading it runs
-// `unload`. `window_close` is the window's own close button (without one: unload); `enter` and `escape` are
-// keys pressed anywhere in the form.
+// A window. `visible` means that it is on the screen; a loaded form can be hidden. When the form is unloaded,
+// `unload` runs. `window_close` runs for the close button of the window; if it is null, the form is unloaded.
+// `enter` and `escape` run for these keys anywhere in the form.
 struct Form : ControlState {
   std::string name;
   bool loaded = false;
@@ -100,8 +100,8 @@ struct Form : ControlState {
   Handler window_close = nullptr;
   Handler enter = nullptr;
   Handler escape = nullptr;
-  ControlState* focus = nullptr;  // the control that was last given the focus
-  unsigned focus_requests = 0;    // counts, so that a presentation follows each one
+  ControlState* focus = nullptr;  // the last control that got the focus from the program
+  unsigned focus_requests = 0;    // counts them, so that the windows notice each one
 
   Form() { visible = false; }
 };
@@ -110,8 +110,7 @@ struct Form : ControlState {
 inline constexpr int kCommSend = 1;
 inline constexpr int kCommReceive = 2;
 
-// The serial control: what the program set, and the event that is being told. The line itself is the
-// platform's.
+// The serial control: the settings of the program and the current event. The platform owns the serial port.
 struct SerialControl {
   int CommPort = 1;
   std::string Settings;

@@ -1,4 +1,4 @@
-// Small tools for writing down a form's captions and lists.
+// Helpers to define the captions and lists of a form.
 #pragma once
 
 #include <initializer_list>
@@ -12,7 +12,7 @@ namespace ovl::controls {
 // The numbers from first to last as texts, with leading zeros up to the width.
 std::vector<std::string> Numbers(int first, int last, int width = 1);
 
-// The head, and the numbers behind it.
+// The head, followed by the numbers.
 std::vector<std::string> HeadAndNumbers(const std::string& head, int first, int last, int width = 1);
 
 void SetElements(OptionArray& array, std::initializer_list<const char*> captions);

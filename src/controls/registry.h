@@ -1,5 +1,5 @@
-// Every control answers to its system name: "ComboCOMM(3)", "FrmSubMenu.Combo1(1)", "OpBaud(3)" for an
-// element of an option array, "OpBaud" for the whole array. Windows, script tool and tests all go through it.
+// Finds every control by its system name: "ComboCOMM(3)", "FrmSubMenu.Combo1(1)", "OpBaud(3)" for an element
+// of an option array, "OpBaud" for the whole array. Windows, script tool and tests use it.
 #pragma once
 
 #include <map>
@@ -23,7 +23,7 @@ struct OptionElement {
 using ControlRef = std::variant<List*, OptionArray*, OptionElement, TextBox*, Label*, Button*, CheckBox*,
                                 Frame*, Picture*, ProgressBar*, Timer*, MenuItem*, Tabs*, Form*>;
 
-// Caption and state of whatever the reference names.
+// Caption and state of the control.
 ControlState& StateOf(const ControlRef& control);
 
 struct NamedControl {
@@ -34,7 +34,7 @@ struct NamedControl {
 
 class Registry {
  public:
-  // Later registrations of a name under another form need the form's name in front.
+  // If a name already exists on another form, later searches for this one need the name of the form in front.
   void Add(Form& form, std::string name, ControlRef control);
 
   template <class Control>
@@ -42,7 +42,7 @@ class Registry {
     Add(form, name, ControlRef(&control));
   }
 
-  // The members of a control array, "name(0)" first; each learns its index.
+  // Adds the members of a control array, "name(0)" first, and sets their index.
   template <class Array>
   void AddArray(Form& form, const std::string& name, Array& controls) {
     int index = 0;
@@ -55,13 +55,13 @@ class Registry {
   void AddOptions(Form& form, const std::string& name, OptionArray& array);
   void AddForm(Form& form);
 
-  // Nothing if no control has the name. A name that several forms share means the main form's control if it
-  // has one, else that of the one form among them which is on the screen; otherwise the form must stand in
-  // front.
+  // Null if no control has the name. If several forms have the name, the control of the main form wins;
+  // without one, the control of the only such form on the screen. In all other cases the name of the form
+  // must be given.
   const NamedControl* Find(std::string_view name) const;
   const NamedControl* Find(const Form& form, std::string_view name) const;
 
-  // The first name under which a control was added, for messages; empty for an unknown one.
+  // The first name of a control, for messages; empty for an unknown control.
   std::string NameOf(const ControlRef& control) const;
   Form* FormOf(const ControlRef& control) const;
 

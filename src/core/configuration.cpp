@@ -3,13 +3,14 @@
 #include <utility>
 
 #include "core/actions.h"
+#include "firmware/traits.h"
 #include "image/field_map.h"
 #include "image/record_stream.h"
 
 namespace ovl::core {
 
 void PrepareCapabilities(Application& app) {
-  app.capabilities = image::CapabilitiesOf(app.firmware);
+  app.capabilities = firmware::CapabilitiesOf(app.firmware);
 }
 
 bool LoadStream(Application& app, std::string_view stream) {
@@ -31,7 +32,7 @@ bool LoadStream(Application& app, std::string_view stream) {
   image::ReadSections(sections, app.firmware, app.capabilities, scope, image);
   app.image = std::move(image);
   if (scope == image::Scope::kWhole) app.known_image = app.image;
-  if (scope == image::Scope::kWhole && image::LayoutOf(app.firmware) != firmware::Layout::kLateV1400)
+  if (scope == image::Scope::kWhole && firmware::LayoutOf(app.firmware) != firmware::Layout::kLateV1400)
     app.DiagnosticText.clear();
   return true;
 }
@@ -47,12 +48,12 @@ std::string ComposeStream(Application& app, firmware::Layout layout, const image
 }
 
 std::string SectionsToStream(Application& app) {
-  return ComposeStream(app, image::LayoutOf(app.firmware), image::WriteRegion(app.firmware));
+  return ComposeStream(app, firmware::LayoutOf(app.firmware), image::WriteRegion(app.firmware));
 }
 
 std::string ReopenableStream(const Application& app) {
-  const auto sections = image::WriteSections(app.image, image::LayoutOf(app.firmware), app.firmware,
-                                             image::CapabilitiesOf(app.firmware));
+  const auto sections = image::WriteSections(app.image, firmware::LayoutOf(app.firmware), app.firmware,
+                                             firmware::CapabilitiesOf(app.firmware));
   return image::BlockRecords(sections.SYSCFG + sections.SYSFIXED + sections.SYSSTR,
                              image::ReadRegion(app.firmware));
 }

@@ -7,7 +7,7 @@
 #include "core/failure.h"
 #include "files/files.h"
 #include "files/history.h"
-#include "firmware/firmware_id.h"
+#include "firmware/traits.h"
 #include "image/record_stream.h"
 
 namespace ovl::files {
@@ -25,7 +25,8 @@ std::string SavedStream(core::Application& app) {
   if (!firmware::IsKnownFamily(app.firmware.version)) {
     throw core::Failure(app.firmware.Joined(), std::make_error_code(std::errc::not_supported).message());
   }
-  const auto layout = app.firmware.IsV1400() ? firmware::Layout::kEarlyV1400 : image::LayoutOf(app.firmware);
+  const auto layout =
+      app.firmware.IsV1400() ? firmware::Layout::kEarlyV1400 : firmware::LayoutOf(app.firmware);
   const auto region = app.firmware.IsV1400() ? image::WriteRegion(app.firmware) : kSavedV13Region;
   return core::ComposeStream(app, layout, region);
 }

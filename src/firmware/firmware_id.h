@@ -1,8 +1,7 @@
-// Which firmware is being served: a family such as "V1400" and a release such as "R7".
+// The firmware that the program serves: a family such as "V1400" and a release such as "R7".
+// firmware/traits.h says what the families and releases differ in.
 #pragma once
 
-#include <algorithm>
-#include <array>
 #include <string>
 #include <string_view>
 
@@ -10,18 +9,34 @@
 
 namespace ovl::firmware {
 
-// The number behind the "R" of a release. All release rules compare it, never the text.
+// The number behind the "R" of a release. Nearly all rules in traits.h compare this number and not the text.
 inline int ReleaseNumber(std::string_view release) {
   return release.empty() ? 0 : codecs::LeadingNumber(release.substr(1));
 }
 
-// The families that have a folder of images and an upload file.
-inline bool IsKnownFamily(std::string_view version) {
-  constexpr std::array<std::string_view, 5> kFamilies = {"V1400", "V1300", "V1310", "V1324", "V1334"};
-  return std::find(kFamilies.begin(), kFamilies.end(), version) != kFamilies.end();
+// Families, as bits.
+using FamilySet = unsigned;
+inline constexpr FamilySet kFamily1400 = 1;
+inline constexpr FamilySet kFamily1300 = 2;
+inline constexpr FamilySet kFamily1310 = 4;
+inline constexpr FamilySet kFamily1324 = 8;
+inline constexpr FamilySet kFamily1334 = 16;
+
+// The bit of a family; 0 for an unknown one.
+constexpr FamilySet FamilyOf(std::string_view version) {
+  if (version == "V1400") return kFamily1400;
+  if (version == "V1300") return kFamily1300;
+  if (version == "V1310") return kFamily1310;
+  if (version == "V1324") return kFamily1324;
+  return version == "V1334" ? kFamily1334 : 0;
 }
 
-// The layouts of the fixed section that the families use.
+// A known family has a folder of default images and an upload file.
+constexpr bool IsKnownFamily(std::string_view version) {
+  return FamilyOf(version) != 0;
+}
+
+// The layouts of the fixed section, the middle one of the three sections of an image.
 enum class Layout { kEarlyV1400, kLateV1400, kOldV13, kNewV13 };
 
 struct FirmwareId {
@@ -34,7 +49,7 @@ struct FirmwareId {
   bool operator==(const FirmwareId&) const = default;
 };
 
-// What only some firmware have. Set before any stream is read or written.
+// What only some firmware have. The program sets this before it reads or writes a stream.
 struct Capabilities {
   bool HasAtmInterface = false;
   bool HasTcpIp = true;

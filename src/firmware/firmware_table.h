@@ -1,4 +1,4 @@
-// The firmware that exist, in the order of the Version menu.
+// All firmware that the program serves, in the order of the Version menu.
 #pragma once
 
 #include <span>
@@ -16,7 +16,7 @@ struct FirmwareEntry {
   FirmwareId Id() const { return {std::string(version), std::string(release)}; }
 };
 
-// In menu order; the last one is reached only through the settings store.
+// In menu order. The last one is not in the menu; only the settings store can select it.
 std::span<const FirmwareEntry> FirmwareTable();
 
 }  // namespace ovl::firmware

@@ -8,7 +8,8 @@
 namespace ovl::firmware {
 namespace {
 
-// A family of lists that grow out of one another. Single bits, so that a row can name several.
+// A group of lists where each list develops from the one before. Each group has its own bit, so that a row
+// can name several groups.
 enum Family : unsigned {
   kV1400Base = 1,
   kV1400Model = 2,
@@ -18,8 +19,8 @@ enum Family : unsigned {
   kV1334 = 32,
 };
 
-// The first stage of each family; the numbers count positions. The order is only nearly alphabetical, and it
-// must stay as it is: a unit in the field knows its register by the position.
+// The first stage of each group. The numbers are positions. Do not change the order, although it is not quite
+// alphabetical: a unit stores the position of its register.
 constexpr std::string_view kV1400BaseNames[] = {
     // 0
     "GENERIC", "TCPIP", "ADDRESSABLE OVL", "AD4323", "ADS", "ANSI", "BEETLE 50 PRINTERS",
@@ -149,7 +150,7 @@ constexpr FamilyRow kFamilies[] = {
 
 enum class Change { kInsertAfter, kAppend, kMoveBefore, kSwapWith, kRemove };
 
-// What a stage changes in the stage before it. Rows of one stage apply from the top downwards.
+// What a stage changes in the list of the stage before. The rows of a stage apply from top to bottom.
 struct StageRow {
   Family family;
   int stage;
@@ -159,7 +160,7 @@ struct StageRow {
 };
 
 constexpr StageRow kStages[] = {
-    // V1400R7 is older than the list that it is cut from.
+    // V1400R7 is older than the list that it is derived from.
     {kV1400Model, 2, "RADIENT", Change::kRemove, ""},
     {kV1300, 2, "NCR7456", Change::kInsertAfter, "NCR7454WS 7197"},
     {kV1300, 3, "GLORY GFR-220", Change::kInsertAfter, "GASBOY"},
@@ -196,8 +197,8 @@ constexpr FirmwareRow kFirmware[] = {
     {"V1310", "R1", kV1310},       {"V1334", "R1", kV1334},
 };
 
-// The entries whose key is not simply their name. The same name may stand for different models: the families
-// disagree on what "NCR", "NIXDORF BEETLE" and "UNIWELL" are.
+// The entries whose key is not their name. The same name can mean different models: "NCR", "NIXDORF BEETLE"
+// and "UNIWELL" differ between the families.
 struct KeyRow {
   std::string_view name;
   std::string_view key;
@@ -224,7 +225,7 @@ constexpr KeyRow kRenamed[] = {
     {"UP3000/3300", "UP3000 3300", kV1400Base},
 };
 
-// A key whose index is not the position of its entry.
+// A key with an index other than the position of its entry.
 struct IndexRow {
   Family family;
   int stage;
@@ -232,8 +233,8 @@ struct IndexRow {
   int index;
 };
 
-// With "RADIENT" in the list "UNIPAR" moved to 105, but these two firmware still answer to the former number,
-// which is now that of "TOWA PROSPER ET-7826" as well.
+// "RADIENT" in the list moved "UNIPAR" to position 105. These two firmware still use the former index 104 for
+// it, which is also the index of "TOWA PROSPER ET-7826".
 constexpr IndexRow kShiftedIndexes[] = {
     {kV1400Model, 1, "UNIPAR", 104},
 };

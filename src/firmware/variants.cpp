@@ -1,8 +1,8 @@
 #include "firmware/variants.h"
 
 #include <array>
-#include <initializer_list>
-#include <string_view>
+
+#include "firmware/traits.h"
 
 namespace ovl::firmware {
 namespace {
@@ -57,7 +57,7 @@ void EpsonAdditions(controls::MainForm& form) {
   AlarmType(form);
 }
 
-// These families know no speed above 38400.
+// The V13xx families have no baud rate above 38400.
 void LimitSpeeds(controls::List& list) {
   list.items.resize(8);
   list.items.emplace_back(kAuto);
@@ -95,36 +95,36 @@ void NoDemo(controls::MainForm& form) {
 
 using Step = void (*)(controls::MainForm&);
 
-// The steps of a firmware, in order; the numbers are its first and last release.
+// What a family changes in the form, from the first to the last release.
 struct Variant {
-  std::string_view version;
+  FamilySet families;
   int first_release;
   int last_release;
   Step step;
 };
 constexpr int kNewest = 9999;
+
+// Additions. They need a firmware whose register list is known. The rows apply from top to bottom.
 constexpr std::array kVariants = {
-    Variant{"V1400", 2, kNewest, LanguageAndNetwork}, Variant{"V1400", 6, kNewest, AlarmType},
-    Variant{"V1400", 11, kNewest, EleventhRelease},   Variant{"V1400", 12, kNewest, TwelfthRelease},
-    Variant{"V1300", 26, kNewest, SharpAdditions},    Variant{"V1310", 1, kNewest, SharpAdditions},
-    Variant{"V1324", 25, kNewest, EpsonAdditions},    Variant{"V1334", 1, kNewest, EpsonAdditions},
+    Variant{kFamily1400, 2, kNewest, LanguageAndNetwork}, Variant{kFamily1400, 6, kNewest, AlarmType},
+    Variant{kFamily1400, 11, kNewest, EleventhRelease},   Variant{kFamily1400, 12, kNewest, TwelfthRelease},
+    Variant{kFamily1300, 26, kNewest, SharpAdditions},    Variant{kFamily1310, 1, kNewest, SharpAdditions},
+    Variant{kFamily1324, 25, kNewest, EpsonAdditions},    Variant{kFamily1334, 1, kNewest, EpsonAdditions},
 };
 
-// These go by family and number, also for releases that no unit has.
+// Reductions. They also hold for releases that no unit has.
 constexpr std::array kReductions = {
-    Variant{"V1300", 0, kNewest, ReduceForm}, Variant{"V1324", 0, kNewest, ReduceForm},
-    Variant{"V1310", 0, kNewest, ReduceForm}, Variant{"V1334", 0, kNewest, ReduceForm},
-    Variant{"V1300", 0, 26, NoSecondPair},    Variant{"V1324", 0, 25, NoSecondPair},
-    Variant{"V1300", 14, 17, NoDemo},         Variant{"V1324", 17, 20, NoDemo},
+    Variant{kFamily1300 | kFamily1310 | kFamily1324 | kFamily1334, 0, kNewest, ReduceForm},
+    Variant{kFamily1300, 0, 26, NoSecondPair},
+    Variant{kFamily1324, 0, 25, NoSecondPair},
+    Variant{kFamily1300, 14, 17, NoDemo},
+    Variant{kFamily1324, 17, 20, NoDemo},
 };
 
 template <class Variants>
 void Run(controls::MainForm& form, const FirmwareId& firmware, const Variants& variants) {
-  const int release = firmware.Number();
   for (const auto& row : variants) {
-    const bool applies =
-        row.version == firmware.version && release >= row.first_release && release <= row.last_release;
-    if (applies) row.step(form);
+    if (IsInReleases(firmware, {row.families, row.first_release, row.last_release})) row.step(form);
   }
 }
 

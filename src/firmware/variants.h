@@ -1,5 +1,5 @@
-// One form serves all firmware: at start a firmware's variant takes away what it lacks and adds what it
-// brought.
+// One main form serves all firmware. At start, the program hides the controls that the running firmware lacks
+// and shows those that it has in addition.
 #pragma once
 
 #include "controls/forms/main_form.h"
@@ -7,10 +7,10 @@
 
 namespace ovl::firmware {
 
-// Hides, shows and renames by the firmware's steps. Once for each start; nothing is undone.
+// Hides, shows and renames controls for the firmware. Call it once at start; there is no way back.
 void ApplyFirmwareVariants(controls::MainForm& form, const FirmwareId& firmware);
 
-// The form of the compact firmware. What it hides stays in the image.
+// The same for the compact firmware. Fields of hidden controls stay in the image.
 void ApplyCompactForm(controls::MainForm& form);
 
 }  // namespace ovl::firmware

@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include "core/failure.h"
+#include "firmware/firmware_table.h"
 
 namespace ovl::host {
 namespace {
@@ -57,7 +58,9 @@ void LinkShipped(const QString& shipped, const QString& folder) {
 QString ProgramFolder(const QString& given) {
   if (!given.isEmpty()) return QDir(given).absolutePath();
   const QDir beside(QCoreApplication::applicationDirPath());
-  if (beside.exists(QStringLiteral("V1400")) && QFileInfo(beside.path()).isWritable()) return beside.path();
+  const std::string first_family(firmware::FirmwareTable().front().version);
+  if (beside.exists(QString::fromStdString(first_family)) && QFileInfo(beside.path()).isWritable())
+    return beside.path();
   const auto own = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
   LinkShipped(QDir::cleanPath(beside.filePath(QStringLiteral("../share/ovl-software"))), own);
   return own;

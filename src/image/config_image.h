@@ -1,5 +1,6 @@
-// The unit's configuration as a flat set of named fields. Each entry is a HexByte, a longer hexadecimal
-// record, or the sentinel text of a field that the firmware lacks; a field that was never read is empty.
+// The configuration of a unit as a set of named fields. An entry of a field is a byte as two hexadecimal
+// digits, a longer record of such digits, or the sentinel text of a field that the firmware lacks. A field
+// that was never read is empty.
 #pragma once
 
 #include <array>
@@ -105,7 +106,7 @@ inline constexpr std::size_t kFieldCount = static_cast<std::size_t>(FieldId::ALM
 inline constexpr int kAlarms = 16;
 inline constexpr int kExceptions = 24;
 
-// How many entries a field has. Entries count from 1.
+// The number of entries of a field. Entries count from 1.
 constexpr int EntryCount(FieldId field) {
   switch (field) {
     case FieldId::ALMNORMAL_BAK:

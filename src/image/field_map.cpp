@@ -3,126 +3,117 @@
 #include <algorithm>
 #include <array>
 
+#include "firmware/traits.h"
+
 namespace ovl::image {
 namespace {
 
+using enum Capability;
 using enum FieldId;
 using enum Section;
 
 constexpr std::size_t kSyscfgDigitsV13 = 96;
 constexpr std::size_t kSysfixedDigitsV13 = 192;
 
-// In stream order.
+// What a field holds when the firmware lacks the capability.
+constexpr std::string_view kNoAtm = " ........ATM INTERFACE";
+constexpr std::string_view kNoTcpIp = " ........ATCPIP MODE";
+constexpr std::string_view kNoRows = " ........ANSI TERM";
+constexpr std::string_view kNoColumns = " ........AANSI TERM";
+
+constexpr Since kAlarmModeSince = {Bit(firmware::Layout::kEarlyV1400), 6, false};
+constexpr Since kRtsSince = {kLate, 11, true};
+constexpr LayoutSet kAllButOldV13 = kV1400 | Bit(firmware::Layout::kNewV13);
+
+// In stream order. A field with "no control" is read, kept and written back unchanged. What follows the words
+// is no more than what its name says.
 constexpr auto kFields = std::to_array<FieldRow>({
-    {EXECENTRY, "EXECENTRY", kSyscfg, kEvery, true},
-    {COMMCFG_BAK, "COMMCFG_BAK", kSyscfg, kEvery, true},
-    {IOCFG_BAK, "IOCFG_BAK", kSyscfg, kEvery, true},
-    {RX_BAUDRATE, "RX_BAUDRATE", kSyscfg, kEvery, true},
-    {TX_BAUDRATE, "TX_BAUDRATE", kSyscfg, kEvery, true},
-    {MPDCFG_BAK, "MPDCFG_BAK", kSyscfg, kEvery, false},
-    {MPDCOMMCFG_BAK, "MPDCOMMCFG_BAK", kSyscfg, kEvery, false},
-    {MPDRXBAUDRATE, "MPDRXBAUDRATE", kSyscfg, kEvery, false},
-    {MPDTXBAUDRATE, "MPDTXBAUDRATE", kSyscfg, kEvery, false},
-    {XATMNOTX, "XATMNOTX", kSyscfg, kEvery, false},
-    {XATMNORX, "XATMNORX", kSyscfg, kEvery, false},
-    {UNITADDR, "UNITADDR", kSyscfg, kEvery, true},
-    {SITE_NO_BAK, "SITE_NO_BAK", kSyscfg, kEvery, false},
-    {DV_ADDRIND_BAK, "DV_ADDRIND_BAK", kSyscfg, kEvery, true},
-    {TCIADDBAK_1, "TCIADDBAK_1", kSyscfg, kEvery, true},
-    {TCIADDBAK_2, "TCIADDBAK_2", kSyscfg, kEvery, true},
-    {TCIADDBAK_3, "TCIADDBAK_3", kSyscfg, kEvery, true},
-    {GTITLE_NF_BAK, "GTITLE_NF_BAK", kSyscfg, kEvery, true},
-    {GPS_CONFIG_BAK, "GPS_CONFIG_BAK", kSyscfg, kEvery, true},
-    {DEVICE_INDEX_BAK, "DEVICE_INDEX_BAK", kSyscfg, kEvery, true},
-    {IGSCFG_BAK,
-     "IGSCFG_BAK",
-     kSyscfg,
-     kEvery,
-     false,
-     {},
-     Capability::kAtmInterface,
-     " ........ATM INTERFACE"},
-    {REGDV_TYPE_BAK, "REGDV_TYPE_BAK", kSyscfg, kEvery, true},
-    {REG_GNA_BAK, "REG_GNA_BAK", kSyscfg, kEvery, true},
-    {REG_LNA_BAK, "REG_LNA_BAK", kSyscfg, kEvery, true},
-    {REG_IDNA_BAK, "REG_IDNA_BAK", kSyscfg, kEvery, true},
-    {PCDV_TYPE_BAK, "PCDV_TYPE_BAK", kSyscfg, kEvery, true},
-    {PC_GNA_BAK, "PC_GNA_BAK", kSyscfg, kEvery, true},
-    {PC_LNA_BAK, "PC_LNA_BAK", kSyscfg, kEvery, true},
-    {PC_IDNA_BAK, "PC_IDNA_BAK", kSyscfg, kEvery, true},
-    {MICROS_STATUS, "MICROS_STATUS", kSyscfg, kEvery, true},
-    {HIST_REG, "HIST_REG", kSyscfg, kEvery, false},
-    {HIST_DEST_ID, "HIST_DEST_ID", kSyscfg, kEvery, false},
-    {HIST_SRC_ID, "HIST_SRC_ID", kSyscfg, kEvery, false},
-    {REGTYPE, "REGTYPE", kSysfixed, kEvery, true},
-    {REGTYPE_MINOR, "REGTYPE_MINOR", kSysfixed, kEvery, true},
-    {REGTYPE_EXT1, "REGTYPE_EXT1", kSysfixed, kExtended, true},
-    {REGTYPE_EXT2, "REGTYPE_EXT2", kSysfixed, kExtended, true},
-    {HPADDR_BAK, "HPADDR_BAK", kSysfixed, kEvery, false},
-    {VPADDR_BAK, "VPADDR_BAK", kSysfixed, kEvery, false},
-    {HSADDR_BAK, "HSADDR_BAK", kSysfixed, kEvery, false},
-    {GOADDR_BAK, "GOADDR_BAK", kSysfixed, kEvery, false},
-    {DISP_POS_BAK, "DISP_POS_BAK", kSysfixed, kEvery, false},
-    {DSPLINES_BAK, "DSPLINES_BAK", kSysfixed, kEvery, false},
-    {DSPCFG_BAK, "DSPCFG_BAK", kSysfixed, kEvery, false},
-    {HARDWARE_CFG_BAK, "HARDWARE_CFG_BAK", kSysfixed, kEvery, false},
-    {ALMCFG_BAK, "ALMCFG_BAK", kSysfixed, kEvery, false},
-    {ALMNORMAL_BAK, "ALMNORMAL_BAK", kSysfixed, kEvery, false},
-    {BLNKVAL, "BLNKVAL", kSysfixed, kEvery, false},
-    {BLNKIND, "BLNKIND", kSysfixed, kEvery, false},
-    {FLAGDWLVAL, "FLAGDWLVAL", kSysfixed, kEvery, false},
-    {FLAGDWLIND, "FLAGDWLIND", kSysfixed, kEvery, false},
-    {ALMSTRUCT_BAK, "ALMSTRUCT_BAK", kSysfixed, kEvery, false, {8, 6}},
-    {IPADDRESS, "IPADDRESS", kSysfixed, kEvery, true, {}, Capability::kTcpIp, " ........ATCPIP MODE"},
-    {DECIMAL_POINT_BAK, "DECIMAL_POINT_BAK", kSysfixed, kEvery, false},
-    {TIME_FORMAT_BAK, "TIME_FORMAT_BAK", kSysfixed, kEvery, false, {}, Capability::kTimeFields},
-    {DATE_FORMAT_BAK, "DATE_FORMAT_BAK", kSysfixed, kEvery, false, {}, Capability::kTimeFields},
-    {TD_LOCKING_BAK, "TD_LOCKING_BAK", kSysfixed, kEvery, false, {}, Capability::kTimeFields},
-    {TIMESTAMP_ENA, "TIMESTAMP_ENA", kSysfixed, kEvery, false, {}, Capability::kTimeFields},
-    {DAYLIGHT_BAK, "DAYLIGHT_BAK", kSysfixed, kEvery, false, {}, Capability::kTimeFields},
-    {DSPROW, "DSPROW", kSysfixed, kEvery, false, {}, Capability::kAnsiTerm, " ........ANSI TERM"},
-    {DSPCOL, "DSPCOL", kSysfixed, kEvery, false, {}, Capability::kAnsiTerm, " ........AANSI TERM"},
-    {DEMO_ENABLE, "DEMO_ENABLE", kSysfixed, kEvery, false},
-    {SPCOMPRES_BAK, "SPCOMPRES_BAK", kSysfixed, kEvery, false},
-    {DSPCHARS_BAK, "DSPCHARS_BAK", kSysfixed, kV1400, false},
-    {NET_ADDRESS, "NET_ADDRESS", kSysfixed, kV1400, false},
-    {NET_TYPE, "NET_TYPE", kSysfixed, kV1400, false},
-    {NET_PROTOCOL, "NET_PROTOCOL", kSysfixed, kV1400, false},
-    {TX_PROTOCOL, "TX_PROTOCOL", kSysfixed, kV1400, false},
-    {DUPLINE_BAK, "DUPLINE_BAK", kSysfixed, kV1400, false},
-    {SCROLLMATCH_BAK, "SCROLLMATCH_BAK", kSysfixed, kV1400, false},
-    {LANGUAGE_BAK, "LANGUAGE_BAK", kSysfixed, kV1400, false},
-    {NET_BAUDRATE, "NET_BAUDRATE", kSysfixed, kV1400, false},
-    {SW_HANDSHAKE, "SW_HANDSHAKE", kSysfixed, kV1400, false},
-    {ECRDIGIT_7, "ECRDIGIT_7", kSysfixed, kLate, false},
-    {ECRDIGIT_6, "ECRDIGIT_6", kSysfixed, kLate, false},
-    {ECRDIGIT_5, "ECRDIGIT_5", kSysfixed, kLate, false},
-    {ECRDIGIT_4, "ECRDIGIT_4", kSysfixed, kLate, false},
-    {ECRDIGIT_3, "ECRDIGIT_3", kSysfixed, kLate, false},
-    {ECRDIGIT_2, "ECRDIGIT_2", kSysfixed, kLate, false},
-    {ECRDIGIT_1, "ECRDIGIT_1", kSysfixed, kLate, false},
-    {BLNKRTS_BAK,
-     "BLNKRTS_BAK",
-     kSysfixed,
-     kExtended,
-     false,
-     {},
-     Capability::kNone,
-     {},
-     Since{kLate, 11, true}},
-    {ONSCRNTITL, "ONSCRNTITL", kSysstr, kEvery, false, {82}},
-    {EXCPSTRS, "EXCPSTRS", kSysstr, kEvery, false, {106, 98}},
-    {TRIGGER_TEXT, "TRIGGER_TEXT", kSysstr, kEvery, false, {84}},
-    {TRIGGER_DELAY, "TRIGGER_DELAY", kSysstr, kV1400, false},
-    {ALM_MODE,
-     "ALM_MODE",
-     kSysstr,
-     kV1400 | Bit(firmware::Layout::kNewV13),
-     false,
-     {},
-     Capability::kNone,
-     {},
-     Since{Bit(firmware::Layout::kEarlyV1400), 6, false}},
+    {EXECENTRY, "EXECENTRY", kSyscfg, kEvery, true},                // no control
+    {COMMCFG_BAK, "COMMCFG_BAK", kSyscfg, kEvery, true},            // flags of the register line
+    {IOCFG_BAK, "IOCFG_BAK", kSyscfg, kEvery, true},                // interface type
+    {RX_BAUDRATE, "RX_BAUDRATE", kSyscfg, kEvery, true},            // receive baud rate, place in the list
+    {TX_BAUDRATE, "TX_BAUDRATE", kSyscfg, kEvery, true},            // transmit baud rate, place in the list
+    {MPDCFG_BAK, "MPDCFG_BAK", kSyscfg, kEvery, false},             // no control: MPD settings
+    {MPDCOMMCFG_BAK, "MPDCOMMCFG_BAK", kSyscfg, kEvery, false},     // no control: MPD line settings
+    {MPDRXBAUDRATE, "MPDRXBAUDRATE", kSyscfg, kEvery, false},       // no control: MPD receive baud rate
+    {MPDTXBAUDRATE, "MPDTXBAUDRATE", kSyscfg, kEvery, false},       // no control: MPD transmit baud rate
+    {XATMNOTX, "XATMNOTX", kSyscfg, kEvery, false},                 // no control
+    {XATMNORX, "XATMNORX", kSyscfg, kEvery, false},                 // no control
+    {UNITADDR, "UNITADDR", kSyscfg, kEvery, true},                  // address, an option of some registers
+    {SITE_NO_BAK, "SITE_NO_BAK", kSyscfg, kEvery, false},           // no control: site number
+    {DV_ADDRIND_BAK, "DV_ADDRIND_BAK", kSyscfg, kEvery, true},      // console or device to follow
+    {TCIADDBAK_1, "TCIADDBAK_1", kSyscfg, kEvery, true},            // register ID, first digit
+    {TCIADDBAK_2, "TCIADDBAK_2", kSyscfg, kEvery, true},            // register ID, second digit
+    {TCIADDBAK_3, "TCIADDBAK_3", kSyscfg, kEvery, true},            // register ID, third digit
+    {GTITLE_NF_BAK, "GTITLE_NF_BAK", kSyscfg, kEvery, true},        // title display, or the GASBOY device
+    {GPS_CONFIG_BAK, "GPS_CONFIG_BAK", kSyscfg, kEvery, true},      // no control: GPS settings
+    {DEVICE_INDEX_BAK, "DEVICE_INDEX_BAK", kSyscfg, kEvery, true},  // MICROS: device
+    {IGSCFG_BAK, "IGSCFG_BAK", kSyscfg, kEvery, false, {}, kAtmInterface, kNoAtm},  // no control
+    {REGDV_TYPE_BAK, "REGDV_TYPE_BAK", kSyscfg, kEvery, true},                      // MICROS: source type
+    {REG_GNA_BAK, "REG_GNA_BAK", kSyscfg, kEvery, true},                            // MICROS: source ISN GNA
+    {REG_LNA_BAK, "REG_LNA_BAK", kSyscfg, kEvery, true},                            // MICROS: source ISN LNA
+    {REG_IDNA_BAK, "REG_IDNA_BAK", kSyscfg, kEvery, true},                          // MICROS: source IDN ID
+    {PCDV_TYPE_BAK, "PCDV_TYPE_BAK", kSyscfg, kEvery, true},     // MICROS: destination type
+    {PC_GNA_BAK, "PC_GNA_BAK", kSyscfg, kEvery, true},           // MICROS: destination ISN GNA
+    {PC_LNA_BAK, "PC_LNA_BAK", kSyscfg, kEvery, true},           // MICROS: destination ISN LNA
+    {PC_IDNA_BAK, "PC_IDNA_BAK", kSyscfg, kEvery, true},         // MICROS: destination IDN ID
+    {MICROS_STATUS, "MICROS_STATUS", kSyscfg, kEvery, true},     // MICROS: mode
+    {HIST_REG, "HIST_REG", kSyscfg, kEvery, false},              // video recorder
+    {HIST_DEST_ID, "HIST_DEST_ID", kSyscfg, kEvery, false},      // address of the recorder
+    {HIST_SRC_ID, "HIST_SRC_ID", kSyscfg, kEvery, false},        // own address towards the recorder
+    {REGTYPE, "REGTYPE", kSysfixed, kEvery, true},               // register, place in the list
+    {REGTYPE_MINOR, "REGTYPE_MINOR", kSysfixed, kEvery, true},   // model or option of the register
+    {REGTYPE_EXT1, "REGTYPE_EXT1", kSysfixed, kExtended, true},  // kind of connection
+    {REGTYPE_EXT2, "REGTYPE_EXT2", kSysfixed, kExtended, true},  // second option of the register
+    {HPADDR_BAK, "HPADDR_BAK", kSysfixed, kEvery, false},        // no control
+    {VPADDR_BAK, "VPADDR_BAK", kSysfixed, kEvery, false},        // no control
+    {HSADDR_BAK, "HSADDR_BAK", kSysfixed, kEvery, false},        // no control
+    {GOADDR_BAK, "GOADDR_BAK", kSysfixed, kEvery, false},        // no control
+    {DISP_POS_BAK, "DISP_POS_BAK", kSysfixed, kEvery, false},    // no control: display position
+    {DSPLINES_BAK, "DSPLINES_BAK", kSysfixed, kEvery, false},    // lines of the display
+    {DSPCFG_BAK, "DSPCFG_BAK", kSysfixed, kEvery, false},        // flags of the display, clock and title
+    {HARDWARE_CFG_BAK, "HARDWARE_CFG_BAK", kSysfixed, kEvery, false},  // no control: hardware settings
+    {ALMCFG_BAK, "ALMCFG_BAK", kSysfixed, kEvery, false},              // flag type of all alarms
+    {ALMNORMAL_BAK, "ALMNORMAL_BAK", kSysfixed, kEvery, false},        // normal states, a bit for each alarm
+    {BLNKVAL, "BLNKVAL", kSysfixed, kEvery, false},                    // blank time, 256 minus the minutes
+    {BLNKIND, "BLNKIND", kSysfixed, kEvery, false},                    // blank time, place in the list
+    {FLAGDWLVAL, "FLAGDWLVAL", kSysfixed, kEvery, false},              // no control: flag duration
+    {FLAGDWLIND, "FLAGDWLIND", kSysfixed, kEvery, false},  // flag duration, twice its place in the list
+    {ALMSTRUCT_BAK, "ALMSTRUCT_BAK", kSysfixed, kEvery, false, {8, 6}},       // alarm record
+    {IPADDRESS, "IPADDRESS", kSysfixed, kEvery, true, {}, kTcpIp, kNoTcpIp},  // IP address
+    {DECIMAL_POINT_BAK, "DECIMAL_POINT_BAK", kSysfixed, kEvery, false},  // separator in amounts: dot or comma
+    {TIME_FORMAT_BAK, "TIME_FORMAT_BAK", kSysfixed, kEvery, false, {}, kTimeFields},  // time format
+    {DATE_FORMAT_BAK, "DATE_FORMAT_BAK", kSysfixed, kEvery, false, {}, kTimeFields},  // date format
+    {TD_LOCKING_BAK, "TD_LOCKING_BAK", kSysfixed, kEvery, false, {}, kTimeFields},    // lock of the clock
+    {TIMESTAMP_ENA, "TIMESTAMP_ENA", kSysfixed, kEvery, false, {}, kTimeFields},      // time stamp in reports
+    {DAYLIGHT_BAK, "DAYLIGHT_BAK", kSysfixed, kEvery, false, {}, kTimeFields},        // daylight saving rule
+    {DSPROW, "DSPROW", kSysfixed, kEvery, false, {}, kAnsiTerm, kNoRows},             // no control
+    {DSPCOL, "DSPCOL", kSysfixed, kEvery, false, {}, kAnsiTerm, kNoColumns},          // no control
+    {DEMO_ENABLE, "DEMO_ENABLE", kSysfixed, kEvery, false},                           // demonstration
+    {SPCOMPRES_BAK, "SPCOMPRES_BAK", kSysfixed, kEvery, false},                       // space compression
+    {DSPCHARS_BAK, "DSPCHARS_BAK", kSysfixed, kV1400, false},                         // characters in a line
+    {NET_ADDRESS, "NET_ADDRESS", kSysfixed, kV1400, false},                           // network address
+    {NET_TYPE, "NET_TYPE", kSysfixed, kV1400, false},                                 // part in the network
+    {NET_PROTOCOL, "NET_PROTOCOL", kSysfixed, kV1400, false},                         // network protocol
+    {TX_PROTOCOL, "TX_PROTOCOL", kSysfixed, kV1400, false},                           // transmit protocol
+    {DUPLINE_BAK, "DUPLINE_BAK", kSysfixed, kV1400, false},          // report of duplicate lines
+    {SCROLLMATCH_BAK, "SCROLLMATCH_BAK", kSysfixed, kV1400, false},  // timeout of scroll matching
+    {LANGUAGE_BAK, "LANGUAGE_BAK", kSysfixed, kV1400, false},        // language
+    {NET_BAUDRATE, "NET_BAUDRATE", kSysfixed, kV1400, false},        // network baud rate
+    {SW_HANDSHAKE, "SW_HANDSHAKE", kSysfixed, kV1400, false},        // software handshake
+    {ECRDIGIT_7, "ECRDIGIT_7", kSysfixed, kLate, false},             // MICROS 3700: register number, digit 7
+    {ECRDIGIT_6, "ECRDIGIT_6", kSysfixed, kLate, false},             // the same, digit 6
+    {ECRDIGIT_5, "ECRDIGIT_5", kSysfixed, kLate, false},             // the same, digit 5
+    {ECRDIGIT_4, "ECRDIGIT_4", kSysfixed, kLate, false},             // the same, digit 4
+    {ECRDIGIT_3, "ECRDIGIT_3", kSysfixed, kLate, false},             // the same, digit 3
+    {ECRDIGIT_2, "ECRDIGIT_2", kSysfixed, kLate, false},             // the same, digit 2
+    {ECRDIGIT_1, "ECRDIGIT_1", kSysfixed, kLate, false},             // the same, digit 1
+    {BLNKRTS_BAK, "BLNKRTS_BAK", kSysfixed, kExtended, false, {}, kNone, {}, kRtsSince},  // blank by RTS
+    {ONSCRNTITL, "ONSCRNTITL", kSysstr, kEvery, false, {82}},      // title: 40 characters, 00
+    {EXCPSTRS, "EXCPSTRS", kSysstr, kEvery, false, {106, 98}},     // exception slot
+    {TRIGGER_TEXT, "TRIGGER_TEXT", kSysstr, kEvery, false, {84}},  // triggered text of an alarm
+    {TRIGGER_DELAY, "TRIGGER_DELAY", kSysstr, kV1400, false},      // delay of the triggered text
+    {ALM_MODE, "ALM_MODE", kSysstr, kAllButOldV13, false, {}, kNone, {}, kAlarmModeSince},  // alarm type
 });
 static_assert(kFields.size() == kFieldCount);
 
@@ -130,8 +121,8 @@ bool IsExtension(FieldId id) {
   return id == FieldId::REGTYPE_EXT1 || id == FieldId::REGTYPE_EXT2;
 }
 
-// What a field that the stream does not hold becomes. The register options of the longer layouts read as zero
-// elsewhere; the flag that only some releases of its layout store is empty until a panel writes it.
+// Sets a field that the stream does not hold. The register options of the longer layouts become zero in the
+// other layouts. A flag that only some releases of its layout store becomes empty, until a panel writes it.
 void SettleAbsent(const FieldRow& row, firmware::Layout layout, const firmware::Capabilities& capabilities,
                   Scope scope, ConfigImage& image) {
   const bool in_layout = (row.layouts & Bit(layout)) != 0;
@@ -186,18 +177,6 @@ const FieldRow* FindField(std::string_view name) {
   return found == kFields.end() ? nullptr : &*found;
 }
 
-firmware::Layout LayoutOf(const firmware::FirmwareId& firmware) {
-  const int release = firmware.Number();
-  if (firmware.IsV1400()) {
-    const bool early = firmware.release == "R1" || firmware.release == "R2" || firmware.release == "R4" ||
-                       firmware.release == "R6";
-    return early ? firmware::Layout::kEarlyV1400 : firmware::Layout::kLateV1400;
-  }
-  const bool old =
-      (firmware.version == "V1300" && release < 26) || (firmware.version == "V1324" && release < 25);
-  return old ? firmware::Layout::kOldV13 : firmware::Layout::kNewV13;
-}
-
 int DigitsOf(const FieldRow& row, firmware::Layout layout) {
   return (kV1400 & Bit(layout)) != 0 ? row.width.digits : row.width.digits_v13;
 }
@@ -217,19 +196,11 @@ bool HasCapability(const firmware::Capabilities& capabilities, Capability capabi
   }
 }
 
-firmware::Capabilities CapabilitiesOf(const firmware::FirmwareId& firmware) {
-  firmware::Capabilities capabilities;
-  if (firmware.version != "V1324") return capabilities;
-  const std::string_view release = firmware.release;
-  const auto tail = release.substr(std::max<std::size_t>(release.size(), 2) - 2);
-  capabilities.HasTcpIp = codecs::LeadingNumber(tail) >= 19;
-  return capabilities;
-}
-
-bool InStream(const FieldRow& row, firmware::Layout layout, int release,
+bool InStream(const FieldRow& row, firmware::Layout layout, const firmware::FirmwareId& firmware,
               const firmware::Capabilities& capabilities, Direction direction) {
   if ((row.layouts & Bit(layout)) == 0 || !HasCapability(capabilities, row.capability)) return false;
-  if ((row.since.layouts & Bit(layout)) == 0 || release >= row.since.release) return true;
+  if ((row.since.layouts & Bit(layout)) == 0 || firmware::IsFromRelease(firmware, row.since.release))
+    return true;
   return row.since.readers_only && direction == Direction::kWrite;
 }
 
@@ -238,7 +209,7 @@ void ReadSections(const Sections& sections, const firmware::FirmwareId& firmware
   const auto layout = LayoutOf(firmware);
   std::array<std::string_view, 3> rest = {sections.SYSCFG, sections.SYSFIXED, sections.SYSSTR};
   for (const auto& row : kFields) {
-    if (InStream(row, layout, firmware.Number(), capabilities, Direction::kRead)) {
+    if (InStream(row, layout, firmware, capabilities, Direction::kRead)) {
       ReadField(rest[static_cast<std::size_t>(row.section)], row, layout, scope, image);
     } else {
       SettleAbsent(row, layout, capabilities, scope, image);
@@ -258,7 +229,7 @@ Sections WriteSections(const ConfigImage& image, firmware::Layout layout,
   Sections sections;
   sections.SYSSTR.reserve(4096);
   for (const auto& row : kFields) {
-    if (!InStream(row, layout, firmware.Number(), capabilities, Direction::kWrite)) continue;
+    if (!InStream(row, layout, firmware, capabilities, Direction::kWrite)) continue;
     for (int entry = 1; entry <= EntryCount(row.id); ++entry) {
       SectionOf(sections, row.section) += image.at(row.id, entry);
     }

@@ -1,5 +1,5 @@
-// The one table of the fields: name, section, width, which layouts have it and when, whether a register's
-// default image sets it. Every reader and writer walks it in order.
+// The table of all fields: name, section, layouts and releases that have it, width, and whether the default
+// image of a register sets it. Every reader and writer goes through this table in order.
 #pragma once
 
 #include <cstdint>
@@ -16,7 +16,7 @@ enum class Section { kSyscfg, kSysfixed, kSysstr };
 enum class Capability { kNone, kAtmInterface, kTcpIp, kTimeFields, kAnsiTerm };
 enum class Direction { kRead, kWrite };
 
-// Which layouts hold a field, as bits.
+// The layouts that have a field, as bits.
 using LayoutSet = unsigned;
 constexpr LayoutSet Bit(firmware::Layout layout) {
   return 1U << static_cast<unsigned>(layout);
@@ -27,14 +27,15 @@ inline constexpr LayoutSet kEvery = kV1400 | kV13;
 inline constexpr LayoutSet kLate = Bit(firmware::Layout::kLateV1400);
 inline constexpr LayoutSet kExtended = kLate | Bit(firmware::Layout::kNewV13);
 
-// A layout has the field only from this release on; for readers alone, or for writers too.
+// These layouts have the field only from this release on. With `readers_only`, writers write it in every
+// release of the layout.
 struct Since {
   LayoutSet layouts = 0;
   int release = 0;
   bool readers_only = false;
 };
 
-// The hexadecimal digits of an entry: a byte, or a record.
+// The number of hexadecimal digits of an entry.
 struct Width {
   std::int16_t digits = 2;  // in the V1400 layouts
   std::int16_t digits_v13 = digits;
@@ -45,29 +46,25 @@ struct FieldRow {
   std::string_view name;
   Section section;
   LayoutSet layouts;
-  bool is_default;  // taken from a register's default image
+  bool is_default;  // the default image of a register sets it
   Width width = {};
   Capability capability = Capability::kNone;
-  std::string_view sentinel = {};  // what the field holds when the capability is missing
+  std::string_view sentinel = {};  // what the field holds if the firmware lacks the capability
   Since since = {};
 };
 
 std::span<const FieldRow> FieldTable();
 const FieldRow* FindField(std::string_view name);
 
-firmware::Layout LayoutOf(const firmware::FirmwareId& firmware);
 int DigitsOf(const FieldRow& row, firmware::Layout layout);
 bool HasCapability(const firmware::Capabilities& capabilities, Capability capability);
 
-// What the firmware has.
-firmware::Capabilities CapabilitiesOf(const firmware::FirmwareId& firmware);
-
-// Whether a stream of this firmware holds the field. The layout is given apart, since files can be written in
-// another one than the firmware's own.
-bool InStream(const FieldRow& row, firmware::Layout layout, int release,
+// Whether a stream of this firmware contains the field. The layout is a separate parameter, because saved
+// files can have another layout than the firmware.
+bool InStream(const FieldRow& row, firmware::Layout layout, const firmware::FirmwareId& firmware,
               const firmware::Capabilities& capabilities, Direction direction);
 
-// The three sections of an image, as rows of hexadecimal digits.
+// The three sections of an image, as hexadecimal digits.
 struct Sections {
   std::string SYSCFG, SYSFIXED, SYSSTR;
 };
@@ -77,14 +74,14 @@ enum class Scope {
   kRegisterDefault,  // only the fields marked as defaults
 };
 
-// Fields that the layout lacks keep what they held, but for those that every load sets.
+// Fields that the layout lacks keep their content, except those that every load sets.
 void ReadSections(const Sections& sections, const firmware::FirmwareId& firmware,
                   const firmware::Capabilities& capabilities, Scope scope, ConfigImage& image);
 
-// Gives the fields of a missing capability their sentinel, as each composing of a stream does first.
+// Gives the fields that need a missing capability their sentinel. A stream is composed after this.
 void MarkMissingFields(ConfigImage& image, const firmware::Capabilities& capabilities);
 
-// The fields in the given layout, padded to the section lengths of the V13xx layouts.
+// The fields in the given layout. The V13xx layouts have fixed section lengths, which are filled with zeros.
 Sections WriteSections(const ConfigImage& image, firmware::Layout layout,
                        const firmware::FirmwareId& firmware, const firmware::Capabilities& capabilities);
 

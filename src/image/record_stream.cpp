@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "codecs/codecs.h"
+#include "firmware/traits.h"
 
 namespace ovl::image {
 namespace {
@@ -19,7 +20,7 @@ constexpr Region kOldV13Region = {0x7800, 0x7FE0};
 constexpr Region kNewV13Region = {0x77F0, 0x7FF0};
 
 Region ByRelease(const firmware::FirmwareId& firmware) {
-  if (firmware.IsV1400()) return firmware.Number() < 6 ? kV1400Short : kV1400Long;
+  if (firmware.IsV1400()) return firmware::HasShortImage(firmware) ? kV1400Short : kV1400Long;
   return LayoutOf(firmware) == firmware::Layout::kOldV13 ? kOldV13Region : kNewV13Region;
 }
 
@@ -74,7 +75,7 @@ Sections CutSections(std::string_view digits, const firmware::FirmwareId& firmwa
       case firmware::Layout::kEarlyV1400:
         return {64, 206};
       case firmware::Layout::kLateV1400:
-        return {64, firmware.Number() >= 11 ? 226 : 224};
+        return {64, firmware::StoresBlankByRts(firmware) ? 226 : 224};
       default:
         return {96, 192};
     }

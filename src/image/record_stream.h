@@ -1,5 +1,5 @@
-// A configuration as a text of address-tagged records: how it is taken apart into the three sections and
-// composed again. The text is what goes over the line, into upload.bin, into saved files and default images.
+// A configuration as a text of records with addresses. The serial line, upload.bin, saved files and default
+// images all use this text. The functions below split it into the three sections and build it from digits.
 #pragma once
 
 #include <cstddef>
@@ -16,29 +16,29 @@ struct Region {
   int last = 0;
 };
 
-// Where a reader expects the firmware's image, and where a download puts it. They differ only for releases
-// that no unit has.
+// The addresses that a reader expects in an image of the firmware, and those that a download writes. They
+// differ only for releases that no unit has.
 Region ReadRegion(const firmware::FirmwareId& firmware);
 Region WriteRegion(const firmware::FirmwareId& firmware);
 
-// "$" and four digits, the head of a record.
+// "$" and four digits, the start of a record.
 std::string AddressMarker(int address);
 
-// The digits of the image as records: 64 to each, the rest to the last one, CR LF between them, "#" at the
-// end. Every address is there, also when the digits have run out.
+// The digits of the image as records. Each record has 64 digits; the last one takes the rest and ends with
+// "#". CR LF separates the records. Every address occurs, also after the last digit.
 std::string BlockRecords(std::string_view digits, const Region& region);
 
 enum class ParseResult {
   kOk,
-  kOtherFirmware,  // the first marker is nowhere in the text
-  kBroken,         // the last record has no last marker, or no "#"
+  kOtherFirmware,  // the text does not contain the first marker
+  kBroken,         // the last marker or the "#" is missing
 };
 
-// The digits of all records, joined. What stands ahead of the first marker or behind the "#" is ignored, and
-// so are the addresses in between.
+// Joins the digits of all records. It ignores the text before the first marker and after the "#", and the
+// addresses between them.
 ParseResult ParseRecords(std::string_view stream, const Region& region, std::string& digits);
 
-// Cuts the digits at the firmware's section lengths; the last section takes what there is.
+// Splits the digits at the section lengths of the firmware. The last section takes the rest.
 Sections CutSections(std::string_view digits, const firmware::FirmwareId& firmware);
 
 }  // namespace ovl::image

@@ -5,6 +5,7 @@
 #include "codecs/codecs.h"
 #include "firmware/firmware_table.h"
 #include "firmware/register_lists.h"
+#include "firmware/traits.h"
 #include "image/field_map.h"
 #include "image/record_stream.h"
 
@@ -13,24 +14,24 @@ namespace {
 
 constexpr std::array kHeadings = {"::SYSCFG::", "::SYSFIXED::", "::SYSSTR::"};
 
-// Calls the function with row and entry for every field that a download of the firmware holds.
+// Calls the function with row and entry for every field that a download to the firmware contains.
 template <class Function>
 void ForEachEntry(const firmware::FirmwareId& firmware, const Function& function) {
   const auto layout = LayoutOf(firmware);
   const auto capabilities = CapabilitiesOf(firmware);
   for (const auto& row : FieldTable()) {
-    if (!InStream(row, layout, firmware.Number(), capabilities, Direction::kWrite)) continue;
+    if (!InStream(row, layout, firmware, capabilities, Direction::kWrite)) continue;
     for (int entry = 1; entry <= EntryCount(row.id); ++entry) function(row, entry);
   }
 }
 
-// The digits that an image of the firmware has in all.
+// The number of digits in an image of the firmware.
 std::size_t DigitsOfImage(const firmware::FirmwareId& firmware) {
   const auto layout = LayoutOf(firmware);
   const auto capabilities = CapabilitiesOf(firmware);
   ConfigImage image;
   for (const auto& row : FieldTable()) {
-    if (!InStream(row, layout, firmware.Number(), capabilities, Direction::kRead)) continue;
+    if (!InStream(row, layout, firmware, capabilities, Direction::kRead)) continue;
     for (int entry = 1; entry <= EntryCount(row.id); ++entry) {
       image.at(row.id, entry).assign(static_cast<std::size_t>(DigitsOf(row, layout)), '0');
     }

@@ -1,4 +1,4 @@
-// What an image or a configuration file holds, told by field names.
+// What an image or a configuration file contains, by field names.
 #pragma once
 
 #include <optional>
@@ -15,31 +15,32 @@ namespace ovl::image {
 // "EXCPSTRS(3)", or "RX_BAUDRATE" for a field with one entry.
 std::string EntryName(std::string_view field, int entries, int entry);
 
-// Every field of the firmware's stream, a line each, under the headings of the three sections. Lines end with
-// CR LF.
+// Every field of the stream of the firmware, one line each, below the headings of the three sections. Lines
+// end with CR LF.
 std::string LabelledDump(const ConfigImage& image, const firmware::FirmwareId& firmware);
 
-// The image that a stream holds, its lines joined; nothing if it is not one of the firmware's.
+// The image in a stream without line ends; nothing if the stream does not fit the firmware.
 std::optional<ConfigImage> DecodeStream(std::string_view stream, const firmware::FirmwareId& firmware);
 
 struct FieldDifference {
   const FieldRow* field = nullptr;
   std::string name;      // with its entry
-  std::size_t byte = 0;  // where it begins in its section, from 0
+  std::size_t byte = 0;  // its first byte in the section, counted from 0
   std::string before, after;
 };
 std::vector<FieldDifference> Differences(const ConfigImage& before, const ConfigImage& after,
                                          const firmware::FirmwareId& firmware);
 
-// A firmware of the catalogue whose markers and length a stream has, and the register it would be under it.
+// A firmware of the Version menu that fits the markers and the length of a stream, and the register that the
+// stream selects under this firmware.
 struct FirmwareFit {
   firmware::FirmwareId firmware;
   int register_code = 0;
-  std::string register_name;  // empty if the firmware's list has no such code
+  std::string register_name;  // empty if the list of the firmware has no such code
 };
 std::vector<FirmwareFit> FittingFirmware(std::string_view stream);
 
-// What opening a stream does under a firmware.
+// What the program does when it opens the stream under a firmware.
 enum class OpenOutcome { kLoads, kRefused, kEndsProgram };
 OpenOutcome OutcomeOfOpening(std::string_view stream, const firmware::FirmwareId& firmware);
 

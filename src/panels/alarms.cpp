@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "firmware/traits.h"
+#include "image/slot_records.h"
 #include "panels/exceptions/text_entry.h"
 #include "panels/panel.h"
 
@@ -10,38 +12,26 @@ namespace {
 
 using enum image::FieldId;
 
-constexpr int kNoTrigger = 0;
-constexpr int kRtsTrigger = 28;
-constexpr std::size_t kCommonDigits = 6;  // trigger and duration, in every family
 constexpr int kFlagTypeMask = 7;
 
-// What a duration stores: a down counter's start; the last one is a pulse.
+// The stored values of the durations in list order: 256 minus the time; the last one is a pulse.
 constexpr std::array kDurations = {0xFF, 0xFD, 0xFB, 0xF6, 0xF1, 0xEC, 0xE2, 0xC4, 0x88, 0x4C, 0x10, 0x00};
 
 controls::List& Member(core::Application& app, int member) {
   return app.frmMain.ComboALM.at(static_cast<std::size_t>(member));
 }
 
-// The alarm that the panel shows, 1 to 16; 0 before one was picked.
+// The alarm on the panel, 1 to 16; 0 if none is selected yet.
 int Shown(const core::Application& app) {
   return app.frmMain.ComboALM[0].position + 1;
 }
 
-bool HasAlarmType(const firmware::FirmwareId& firmware) {
-  const int release = firmware.Number();
-  if (firmware.IsV1400()) return release >= 6;
-  return (firmware.version == "V1300" && release >= 26) || (firmware.version == "V1324" && release >= 25) ||
-         firmware.version == "V1310" || firmware.version == "V1334";
-}
-
 void ShowTriggerMark(core::Application& app, int trigger) {
-  app.frmMain.lbAlmTrig.visible = trigger != kNoTrigger && trigger != kRtsTrigger;
+  app.frmMain.lbAlmTrig.visible = trigger != image::kNoTrigger && trigger != image::kRtsTrigger;
 }
 
 void ShowNormalState(core::Application& app, int number) {
-  const bool upper = number > 8;
-  const int states = codecs::HexToInt(app.image.at(ALMNORMAL_BAK, upper ? 2 : 1));
-  AssignPosition(app, Member(app, 2), HasBit(states, upper ? number - 9 : number - 1) ? 1 : 0);
+  AssignPosition(app, Member(app, 2), image::IsNormallyClosed(app.image, number) ? 1 : 0);
 }
 
 void ShowDuration(core::Application& app, int value) {
@@ -56,24 +46,21 @@ void ShowTriggeredText(core::Application& app, int number) {
   const int flags = codecs::HexToInt(record);
   AssignPosition(app, app.frmMain.ComboTrigger[0], flags & 1);
   AssignPosition(app, app.frmMain.ComboTrigger[1], flags >> 1 & 1);
-  const auto text = Slice(record, 2);
   AssignText(app, app.frmMain.TextTrigger,
-             StoredText(Slice(text, 0, std::max<std::size_t>(text.size(), 2) - 2)));
+             image::StoredText(image::WithoutEndMark(image::TriggeredDigits(record))));
 }
 
 void ShowByFirmware(core::Application& app, int number) {
-  if (app.firmware.IsV1400()) {
-    const auto& record = app.image.at(ALMSTRUCT_BAK, number);
-    AssignPosition(app, Member(app, 6),
-                   codecs::HexToInt(Slice(record, std::max<std::size_t>(record.size(), 2) - 2)));
+  if (firmware::HasVideoLoss(app.firmware)) {
+    AssignPosition(app, Member(app, 6), image::AlarmVideoLoss(app.image.at(ALMSTRUCT_BAK, number)));
     AssignPosition(app, app.frmMain.ComboTrigger[2], codecs::HexToInt(app.image.at(TRIGGER_DELAY, number)));
   }
-  if (HasAlarmType(app.firmware))
+  if (firmware::HasAlarmType(app.firmware))
     AssignPosition(app, Member(app, 7), codecs::HexToInt(app.image.at(ALM_MODE, number)));
 }
 
-// Counts the shown alarm from 0, where the load counts from 1: the ninth alarm's state is out of reach, and
-// the unit's images were made that way.
+// This counts alarms from 0, while loading counts them from 1. The state of the ninth alarm can therefore not
+// be stored. It stays so, because the images of the units were made that way.
 void StoreNormalState(core::Application& app) {
   const int index = Member(app, 0).position;
   const bool upper = index > 8;
@@ -86,21 +73,18 @@ void StoreNormalState(core::Application& app) {
 void StoreTrigger(core::Application& app, std::string& record) {
   const int trigger = Member(app, 1).position;
   ShowTriggerMark(app, trigger);
-  record = codecs::ByteToHex(trigger) + Slice(record, 2);
+  image::StoreAlarmTrigger(record, trigger);
 }
 
 void StoreDuration(core::Application& app, std::string& record) {
   if (!firmware::IsKnownFamily(app.firmware.version)) return;
   const int position = Member(app, 3).position;
-  auto stored = Slice(record, 0, 2) + codecs::ByteToHex(kDurations.at(static_cast<std::size_t>(position))) +
-                codecs::ByteToHex(position);
-  if (app.firmware.IsV1400()) stored += Slice(record, kCommonDigits);
-  record = std::move(stored);
+  const int counter = kDurations.at(static_cast<std::size_t>(position));
+  image::StoreAlarmDuration(record, app.firmware, counter, position);
 }
 
 void StoreVideoLoss(core::Application& app, std::string& record) {
-  if (!app.firmware.IsV1400()) return;
-  record = Slice(record, 0, kCommonDigits) + codecs::ByteToHex(Member(app, 6).position);
+  if (firmware::HasVideoLoss(app.firmware)) image::StoreAlarmVideoLoss(record, Member(app, 6).position);
 }
 
 void StoreFlagType(core::Application& app) {
@@ -109,7 +93,7 @@ void StoreFlagType(core::Application& app) {
   flags = codecs::ByteToHex((codecs::HexToInt(flags) & ~kFlagTypeMask) | Member(app, 4).position);
 }
 
-// What a click on one of the members of the shown alarm stores.
+// Stores the list that was clicked for the shown alarm.
 void StoreMember(core::Application& app, int index) {
   auto& record = app.image.at(ALMSTRUCT_BAK, Shown(app));
   switch (index) {
@@ -137,18 +121,18 @@ void StoreMember(core::Application& app, int index) {
 
 void ApplyAlarmGlobals(core::Application& app) {
   AssignPosition(app, Member(app, 4), codecs::HexToInt(app.image[ALMCFG_BAK]) & kFlagTypeMask);
-  AssignPosition(app, Member(app, 5), HalfToEven(codecs::HexToInt(app.image[FLAGDWLIND])));
+  AssignPosition(app, Member(app, 5), codecs::HalfToEven(codecs::HexToInt(app.image[FLAGDWLIND])));
   AssignPosition(app, Member(app, 0), 1);
   AssignPosition(app, Member(app, 0), 0);
 }
 
 void LoadAlarm(core::Application& app, int number) {
   const auto record = app.image.at(ALMSTRUCT_BAK, number);
-  const int trigger = codecs::HexToInt(record);
+  const int trigger = image::AlarmTrigger(record);
   ShowTriggerMark(app, trigger);
   AssignPosition(app, Member(app, 1), trigger);
   ShowNormalState(app, number);
-  ShowDuration(app, codecs::HexToInt(Slice(record, 2)));
+  ShowDuration(app, image::AlarmCounter(record));
   ShowTriggeredText(app, number);
   ShowByFirmware(app, number);
 }
@@ -174,7 +158,7 @@ void ComboTrigger_Click(core::Application& app, int index) {
     } else {
       const int flags =
           WithSelection(codecs::HexToInt(record), index, lists.at(static_cast<std::size_t>(index)));
-      record.replace(0, std::min<std::size_t>(record.size(), 2), codecs::ByteToHex(flags));
+      image::StoreFirstByte(record, flags);
     }
   }
   RefreshSavedIndexes(app, "ComboTrigger", lists);
@@ -187,7 +171,8 @@ void save_RTS_TRGGERED(core::Application& app) {
 void TextTrigger_Change(core::Application& app, int) {
   if (Shown(app) == 0) return;
   auto& record = app.image.at(TRIGGER_TEXT, Shown(app));
-  record = codecs::ByteToHex(codecs::HexToInt(record)) + PaddedText(app.frmMain.TextTrigger.text) + "00";
+  record =
+      codecs::ByteToHex(codecs::HexToInt(record)) + image::PaddedText(app.frmMain.TextTrigger.text) + "00";
 }
 
 void cmdSetTrigger_Click(core::Application& app, int) {

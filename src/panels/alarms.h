@@ -1,4 +1,4 @@
-// The sixteen alarm outputs, one shown at a time, with the text that each can trigger.
+// The 16 alarm outputs and the text that each can trigger. The panel shows one alarm at a time.
 #pragma once
 
 #include "core/application.h"
@@ -7,7 +7,7 @@ namespace ovl::panels {
 
 void ApplyAlarmGlobals(core::Application& app);
 
-// An alarm, 1 to 16, onto the panel; its triggered text with it.
+// Shows an alarm, 1 to 16, and its triggered text on the panel.
 void LoadAlarm(core::Application& app, int number);
 
 void ComboALM_Click(core::Application& app, int index);

@@ -1,8 +1,9 @@
 #include "panels/communication.h"
 
 #include <array>
-#include <optional>
 
+#include "firmware/traits.h"
+#include "image/slot_records.h"
 #include "panels/panel.h"
 
 namespace ovl::panels {
@@ -12,29 +13,9 @@ using enum image::FieldId;
 
 constexpr int kDataBitsBit = 2;
 constexpr int kLinefeedBit = 3;
-constexpr int kReportBit = 4;
 constexpr int kHandshakeBit = 5;
 
-// The interface codes in list order.
-using InterfaceCodes = std::array<const char*, 3>;
-constexpr InterfaceCodes kEarlyV1400Codes = {"0A", "19", "36"};
-constexpr InterfaceCodes kLateV1400Codes = {"0E", "1D", "36"};
-constexpr InterfaceCodes kOldV13Codes = {"0A", "19", "26"};
-constexpr InterfaceCodes kNewV13Codes = {"0E", "1D", "26"};
-
-std::optional<InterfaceCodes> CodesOf(const firmware::FirmwareId& firmware) {
-  if (!firmware::IsKnownFamily(firmware.version)) return std::nullopt;
-  const auto& release = firmware.release;
-  if (firmware.IsV1400()) {
-    const bool early = release == "R1" || release == "R2" || release == "R4" || release == "R6";
-    return early ? kEarlyV1400Codes : kLateV1400Codes;
-  }
-  const bool old = (firmware.version == "V1300" && firmware.Number() < 26) ||
-                   (firmware.version == "V1324" && firmware.Number() < 25);
-  return old ? kOldV13Codes : kNewV13Codes;
-}
-
-// The members that store their position in a field of their own.
+// The lists whose position is a field of its own.
 struct PositionField {
   int member;
   image::FieldId field;
@@ -55,17 +36,16 @@ void ApplyField(core::Application& app, int member, image::FieldId field) {
 
 void ApplyFlags(core::Application& app) {
   const int flags = codecs::HexToInt(app.image[COMMCFG_BAK]);
-  const bool parity = HasBit(flags, 1);
-  AssignPosition(app, Member(app, 3), !parity ? 0 : (HasBit(flags, 0) ? 1 : 2));
-  AssignPosition(app, Member(app, 4), HasBit(flags, kDataBitsBit) ? 1 : 0);
-  AssignPosition(app, Member(app, 6), HasBit(flags, kLinefeedBit) ? 0 : 1);
-  AssignPosition(app, Member(app, 5), HasBit(flags, kHandshakeBit) ? 0 : 1);
-  AssignPosition(app, app.frmMain.ComboExcepRe[0], HasBit(flags, kReportBit) ? 1 : 0);
+  AssignPosition(app, Member(app, 3), image::ParityEntry(flags));
+  AssignPosition(app, Member(app, 4), codecs::HasBit(flags, kDataBitsBit) ? 1 : 0);
+  AssignPosition(app, Member(app, 6), codecs::HasBit(flags, kLinefeedBit) ? 0 : 1);
+  AssignPosition(app, Member(app, 5), codecs::HasBit(flags, kHandshakeBit) ? 0 : 1);
+  AssignPosition(app, app.frmMain.ComboExcepRe[0], codecs::HasBit(flags, image::kReportBit) ? 1 : 0);
 }
 
 void ApplyInterfaceType(core::Application& app) {
-  const auto codes = CodesOf(app.firmware);
-  if (!codes) return;
+  const auto* codes = firmware::InterfaceCodesOf(app.firmware);
+  if (codes == nullptr) return;
   for (int position = 0; position < static_cast<int>(codes->size()); ++position) {
     if (app.image[IOCFG_BAK] != (*codes)[static_cast<std::size_t>(position)]) continue;
     AssignPosition(app, Member(app, 0), position);
@@ -73,18 +53,16 @@ void ApplyInterfaceType(core::Application& app) {
   }
 }
 
-// The flags after a click of one of the four members that live in them. The line feed follows the handshake's
-// selection, not its own: the unit's images were made that way.
+// The flags after a click on one of the four lists that are stored in them. The bit for the line feed follows
+// the handshake list and not its own list. It stays so, because the images of the units were made that way.
 int GatherFlags(core::Application& app, int member, int flags) {
   switch (member) {
-    case 3: {
-      constexpr std::array kParityBits = {0, 3, 2};
-      return (flags & ~3) | kParityBits.at(static_cast<std::size_t>(Member(app, 3).position));
-    }
+    case 3:
+      return image::WithParityEntry(flags, Member(app, 3).position);
     case 4:
       return WithSelection(flags, kDataBitsBit, Member(app, 4));
     case 5:
-      return WithBit(flags, kHandshakeBit, Member(app, 5).position == 0);
+      return codecs::WithBit(flags, kHandshakeBit, Member(app, 5).position == 0);
     case 6:
       return WithSelection(flags, kLinefeedBit, Member(app, 5));
     default:
@@ -95,9 +73,9 @@ int GatherFlags(core::Application& app, int member, int flags) {
 }  // namespace
 
 void GatherInterfaceType(core::Application& app) {
-  const auto codes = CodesOf(app.firmware);
+  const auto* codes = firmware::InterfaceCodesOf(app.firmware);
   const int position = Member(app, 0).position;
-  if (codes && position >= 0) app.image[IOCFG_BAK] = codes->at(static_cast<std::size_t>(position));
+  if (codes != nullptr && position >= 0) app.image[IOCFG_BAK] = codes->at(static_cast<std::size_t>(position));
 }
 
 void ApplyCommunication(core::Application& app) {
@@ -137,8 +115,7 @@ void ApplyNetworkRules(core::Application& app) {
   if (type < 0) return;
   const bool master = type == kMaster;
   const bool chained = master || type == kSlave;
-  const auto firmware = app.firmware.Joined();
-  const bool fixed_address = master ? firmware == "V1400R1" || firmware == "V1400R2" : !chained;
+  const bool fixed_address = master ? firmware::HasFixedMasterAddress(app.firmware) : !chained;
   form.ComboNone[0].visible = !master;
   form.ComboNone[1].visible = fixed_address;
   form.ComboNone[2].visible = !chained;

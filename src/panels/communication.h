@@ -1,4 +1,4 @@
-// The unit's line to the register, and the chaining of units.
+// The serial line between unit and register, and the network of several units.
 #pragma once
 
 #include "core/application.h"
@@ -8,10 +8,10 @@ namespace ovl::panels {
 void ApplyCommunication(core::Application& app);
 void ComboCOMM_Click(core::Application& app, int index);
 
-// Writes the firmware's code of the selected interface; a family without codes writes nothing.
+// Stores the code of the selected interface. An unknown family has no codes and stores nothing.
 void GatherInterfaceType(core::Application& app);
 
-// What the type of the network leaves to choose.
+// Enables the network lists that have a meaning for the selected type.
 void ApplyNetworkRules(core::Application& app);
 void ApplyProtocolBaud(core::Application& app);
 

@@ -1,4 +1,4 @@
-// The demonstration that the unit plays after power-up.
+// The demonstration that the unit shows after power-up.
 #pragma once
 
 #include "core/application.h"

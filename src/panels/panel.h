@@ -1,16 +1,15 @@
-// What the settings panels share.
+// Common parts of the settings panels.
 #pragma once
 
-#include <algorithm>
 #include <string>
-#include <vector>
 
+#include "codecs/bytes.h"
 #include "core/actions.h"
 
 namespace ovl::panels {
 
-// While a panel is being refreshed it must not write into the image. The flag takes its earlier value at the
-// end.
+// A panel that is refreshed must not write into the image. The destructor restores the earlier value of the
+// flag.
 class PanelsQuiet {
  public:
   explicit PanelsQuiet(core::Application& app) : app_(app), before_(app.PanelsReady) {
@@ -25,7 +24,7 @@ class PanelsQuiet {
   bool before_;
 };
 
-// Every click of a guarded family ends by noting where its selections stand.
+// Stores the positions of a control array. Every click in such an array ends with this.
 template <class Array>
 void RefreshSavedIndexes(core::Application& app, const std::string& family, const Array& lists) {
   auto& saved = app.SavedIndexes[family];
@@ -33,29 +32,9 @@ void RefreshSavedIndexes(core::Application& app, const std::string& family, cons
   for (const auto& list : lists) saved.push_back(list.position);
 }
 
-// Half of a number, rounded to the even neighbour: 1 gives 0, 3 gives 2.
-inline int HalfToEven(int number) {
-  const int half = number / 2;
-  return number % 2 != 0 && half % 2 != 0 ? half + 1 : half;
-}
-
-// What a record holds from a place on; nothing behind its end.
-inline std::string Slice(const std::string& record, std::size_t first,
-                         std::size_t count = std::string::npos) {
-  return record.substr(std::min(first, record.size()), count);
-}
-
-inline bool HasBit(int byte, int bit) {
-  return (byte >> bit & 1) != 0;
-}
-
-inline int WithBit(int byte, int bit, bool set) {
-  return set ? byte | 1 << bit : byte & ~(1 << bit);
-}
-
-// The byte with the bit set when the list stands at another than its first entry.
+// The byte with the bit set if the list is not at its first entry.
 inline int WithSelection(int byte, int bit, const controls::List& list) {
-  return WithBit(byte, bit, list.position != 0);
+  return codecs::WithBit(byte, bit, list.position != 0);
 }
 
 }  // namespace ovl::panels

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "image/slot_records.h"
 #include "panels/panel.h"
 
 namespace ovl::panels {
@@ -12,11 +13,9 @@ using enum image::FieldId;
 
 constexpr int kRts = 12;
 constexpr int kFirstCharacters = 10;
-constexpr int kTitlerBit = 4;
-constexpr int kClockBit = 7;
 
-// A blank time as it is stored: the start of a down counter, and what storing it does to the display flags.
-// The masks take the flags of other selections with them; only one time spares them.
+// A blank time as it is stored: 256 minus the minutes, and a mask for the display flags. The masks also clear
+// flags of other lists; only one time has a mask that keeps them.
 struct BlankTime {
   int value;
   int mask;
@@ -28,7 +27,7 @@ constexpr std::array kBlankTimes = {
     BlankTime{0x00, 0xF0},
 };
 
-// The selections that live in one bit of the display flags, in the order in which a load sets them.
+// The lists that are stored in one bit of the display flags, in the order in which a load sets them.
 struct FlagMember {
   int member;
   int bit;
@@ -40,7 +39,7 @@ controls::List& Member(core::Application& app, int member) {
   return app.frmMain.ComboDIP.at(static_cast<std::size_t>(member));
 }
 
-// A value that no blank time has is refused, also where the number would be a position.
+// A value that no blank time has changes nothing, even if the number is a valid position.
 void ApplyBlankTime(core::Application& app) {
   const int value = codecs::HexToInt(app.image[BLNKVAL]);
   for (int position = 0; position < kRts; ++position) {
@@ -66,11 +65,11 @@ void ApplyDisplay(core::Application& app) {
   const PanelsQuiet quiet(app);
   const int flags = codecs::HexToInt(app.image[DSPCFG_BAK]);
   for (const auto& row : kFlagMembers)
-    AssignPosition(app, Member(app, row.member), HasBit(flags, row.bit) ? 1 : 0);
+    AssignPosition(app, Member(app, row.member), codecs::HasBit(flags, row.bit) ? 1 : 0);
   AssignPosition(app, Member(app, 1), codecs::HexToInt(app.image[DSPLINES_BAK]) - 1);
   ApplyBlankTime(app);
-  AssignPosition(app, app.frmMain.ComboTD[5], HasBit(flags, kTitlerBit) ? 1 : 0);
-  AssignPosition(app, app.frmMain.ComboTD[0], HasBit(flags, kClockBit) ? 1 : 0);
+  AssignPosition(app, app.frmMain.ComboTD[5], codecs::HasBit(flags, image::kTitlerBit) ? 1 : 0);
+  AssignPosition(app, app.frmMain.ComboTD[0], codecs::HasBit(flags, image::kClockBit) ? 1 : 0);
   AssignPosition(app, Member(app, 7), codecs::HexToInt(app.image[SPCOMPRES_BAK]));
   AssignPosition(app, Member(app, 8), codecs::HexToInt(app.image[DSPCHARS_BAK]) - kFirstCharacters);
 }

@@ -1,4 +1,4 @@
-// How transaction text lies on the picture, and when the overlay blanks.
+// How the text of the register appears in the picture, and when it disappears.
 #pragma once
 
 #include "core/application.h"
@@ -8,8 +8,7 @@ namespace ovl::panels {
 void ApplyDisplay(core::Application& app);
 void ComboDIP_Click(core::Application& app, int index);
 
-// The clock and the title can take a line of the picture each: raises the number of display lines to what
-// they need.
+// The clock and the title each need a line of the picture. Raises the number of display lines if necessary.
 void ApplyLineRule(core::Application& app);
 
 }  // namespace ovl::panels

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "image/slot_records.h"
 #include "panels/exceptions/text_entry.h"
 #include "panels/panel.h"
 #include "panels/text_display.h"
@@ -11,8 +12,6 @@ namespace {
 
 using enum image::FieldId;
 
-constexpr int kTitlerBit = 4;
-constexpr int kClockBit = 7;
 constexpr std::array kDaylightCodes = {"01", "02", "04", "06", "08", "0A"};
 
 controls::List& Member(core::Application& app, int member) {
@@ -31,7 +30,7 @@ void ApplyTimeDate(core::Application& app) {
   const PanelsQuiet quiet(app);
   AssignPosition(app, Member(app, 1), codecs::HexToInt(app.image[TIME_FORMAT_BAK]));
   AssignPosition(app, Member(app, 2), codecs::HexToInt(app.image[DATE_FORMAT_BAK]));
-  AssignPosition(app, Member(app, 3), HalfToEven(codecs::HexToInt(app.image[DAYLIGHT_BAK])));
+  AssignPosition(app, Member(app, 3), codecs::HalfToEven(codecs::HexToInt(app.image[DAYLIGHT_BAK])));
   AssignPosition(app, Member(app, 4), codecs::HexToInt(app.image[TD_LOCKING_BAK]));
   ApplyTitle(app);
   AssignPosition(app, app.frmMain.ComboLang, codecs::HexToInt(app.image[LANGUAGE_BAK]));
@@ -42,7 +41,7 @@ void ComboTD_Click(core::Application& app, int index) {
   const int position = Member(app, index).position;
   switch (index) {
     case 0:
-      GatherDisplayBit(app, index, kClockBit);
+      GatherDisplayBit(app, index, image::kClockBit);
       break;
     case 1:
       app.image[TIME_FORMAT_BAK] = codecs::ByteToHex(position);
@@ -59,7 +58,7 @@ void ComboTD_Click(core::Application& app, int index) {
       app.image[TD_LOCKING_BAK] = codecs::ByteToHex(position);
       break;
     default:
-      GatherDisplayBit(app, index, kTitlerBit);
+      GatherDisplayBit(app, index, image::kTitlerBit);
       break;
   }
   RefreshSavedIndexes(app, "ComboTD", app.frmMain.ComboTD);

@@ -1,4 +1,4 @@
-// The unit's clock on the picture, daylight saving, and the language of the unit's own texts.
+// The clock of the unit in the picture, daylight saving time, the title, and the language of the unit.
 #pragma once
 
 #include "core/application.h"

@@ -2,8 +2,10 @@
 
 #include <array>
 #include <initializer_list>
+#include <span>
 
 #include "core/actions.h"
+#include "firmware/traits.h"
 #include "registers/micros.h"
 #include "registers/option_handlers.h"
 #include "registers/sub_menus.h"
@@ -29,7 +31,7 @@ bool AssignDigits(core::Application& app, std::array<controls::List, 3>& lists) 
 }
 
 // Gives the first elements their captions and shows them; hides the rest.
-void Offer(controls::OptionArray& array, std::initializer_list<const char*> captions) {
+void Offer(controls::OptionArray& array, std::span<const char* const> captions) {
   auto caption = captions.begin();
   for (auto& element : array.elements) {
     element.visible = caption != captions.end();
@@ -39,7 +41,7 @@ void Offer(controls::OptionArray& array, std::initializer_list<const char*> capt
 
 bool AssignOffered(core::Application& app, controls::OptionArray& array,
                    std::initializer_list<const char*> captions) {
-  Offer(array, captions);
+  Offer(array, {captions.begin(), captions.size()});
   return ChooseElement(app, array, Byte(app, REGTYPE_MINOR));
 }
 
@@ -141,10 +143,7 @@ bool AssignGasboy(core::Application& app, const RegisterRow&) {
 }
 
 bool AssignGilbarco(core::Application& app, const RegisterRow&) {
-  const auto& firmware = app.firmware;
-  app.frmMain.OpGilbraco.elements[5].visible = (firmware.IsV1400() && firmware.Number() >= 6) ||
-                                               (firmware.version == "V1300" && firmware.Number() >= 23) ||
-                                               firmware.version == "V1310";
+  app.frmMain.OpGilbraco.elements[5].visible = firmware::OffersGilbarcoXml(app.firmware);
   return AssignMain<ShowGilbarco>(app, app.frmMain.OpGilbraco);
 }
 
@@ -163,7 +162,7 @@ bool AssignMicrelec(core::Application& app, const RegisterRow&) {
 }
 
 bool AssignMicros(core::Application& app, const RegisterRow&) {
-  if (app.firmware.IsV1400() && app.firmware.Number() >= 7) app.frmMain.OpMicros.elements[3].visible = true;
+  if (firmware::OffersMicros3700(app.firmware)) app.frmMain.OpMicros.elements[3].visible = true;
   if (!ChooseElement(app, app.frmMain.OpMicros, Byte(app, REGTYPE_MINOR))) return false;
   ShowMicrosPanel(app);
   return true;
@@ -171,7 +170,7 @@ bool AssignMicros(core::Application& app, const RegisterRow&) {
 
 bool AssignNcr(core::Application& app, const RegisterRow&) {
   auto& array = app.frmMain.OpNCR;
-  if (app.firmware.IsV1400() && app.firmware.Number() >= 6) {
+  if (firmware::OffersNcr5972(app.firmware)) {
     array.elements[5].visible = true;
     array.elements[6].visible = true;
   }
@@ -240,10 +239,7 @@ bool AssignClarity(core::Application& app, const RegisterRow&) {
 }
 
 bool AssignEpson(core::Application& app, const RegisterRow&) {
-  const auto& firmware = app.firmware;
-  const int release = firmware.Number();
-  const bool extended = (firmware.IsV1400() && release >= 6) || firmware.version == "V1334" ||
-                        ((firmware.version == "V1310" || firmware.version == "V1324") && release >= 24);
+  const bool extended = firmware::ReadsEpsonFromExtension(app.firmware);
   auto& array = app.frmMain.OpRI_QT2;
   if (extended) array.elements[9].visible = true;
   return ChooseElement(app, array, Byte(app, extended ? REGTYPE_EXT2 : REGTYPE_MINOR));
@@ -259,19 +255,7 @@ bool AssignScale(core::Application& app, const RegisterRow&) {
 
 bool AssignScaleModels(core::Application& app, const RegisterRow&) {
   auto& array = app.frmMain.OpWEIGHS;
-  const int release = app.firmware.Number();
-  if (release <= 3) {
-    Offer(array, {"AVERY", "MOLENS", "LEON LD5204"});
-  } else if (release == 4) {
-    Offer(array, {"AVERY 2ND HEADER", "AVERY PC OUTPUT", "MOLENS", "LEON LD5204"});
-  } else if (release == 5) {
-    Offer(array, {});
-  } else if (release == 6) {
-    Offer(array, {"AVERY 2ND HEADER", "AVERY PC OUTPUT", "MOLENS", "LEON LD5204", "PINAL"});
-  } else {
-    Offer(array, {"AVERY 2ND HEADER", "AVERY PC OUTPUT", "DE LA RUE 2800", "LEON LD5204", "LEON ENG. LD52XX",
-                  "MOLENS", "PINAL", "RITEWEIGH", "TOLEDO 8142 DIRECT OUTPUT"});
-  }
+  Offer(array, firmware::WeighScaleModelsOf(app.firmware));
   return ChooseElement(app, array, Byte(app, REGTYPE_MINOR));
 }
 

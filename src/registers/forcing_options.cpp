@@ -3,6 +3,7 @@
 #include <array>
 
 #include "core/actions.h"
+#include "firmware/traits.h"
 
 namespace ovl::registers {
 namespace {
@@ -21,11 +22,6 @@ void ForceLine(core::Application& app, int member, int position) {
                  core::Raise::kAlways);
 }
 
-// The position of "AUTO" in the speed lists.
-int AutoSpeed(const core::Application& app) {
-  return app.firmware.IsV1400() ? 10 : 8;
-}
-
 void ForceSpeeds(core::Application& app, int receive, int transmit) {
   ForceLine(app, 1, receive);
   ForceLine(app, 2, transmit);
@@ -42,7 +38,7 @@ void StoreSpeeds(core::Application& app, int receive, int transmit) {
 
 void ComboSICOM_Click(core::Application& app, int) {
   app.image[REGTYPE_MINOR] = codecs::ByteToHex(app.frmMain.ComboSICOM.position);
-  ForceSpeeds(app, AutoSpeed(app), kBaud9600);
+  ForceSpeeds(app, firmware::AutoSpeedPosition(app.firmware), kBaud9600);
 }
 
 // The first list holds the fixed model name, the second one the mode.
@@ -55,13 +51,13 @@ void StoreMode(core::Application& app, int index, int position, std::array<int, 
 }
 
 void ComboTk500_Click(core::Application& app, int index) {
-  StoreMode(app, index, app.frmMain.ComboTk500[1].position, {AutoSpeed(app), kBaud9600},
-            {kBaud19200, kBaud19200});
+  StoreMode(app, index, app.frmMain.ComboTk500[1].position,
+            {firmware::AutoSpeedPosition(app.firmware), kBaud9600}, {kBaud19200, kBaud19200});
 }
 
 void ComboTE2200_Click(core::Application& app, int index) {
-  StoreMode(app, index, app.frmMain.ComboTE2200[1].position, {AutoSpeed(app), kBaud9600},
-            {kBaud19200, kBaud19200});
+  StoreMode(app, index, app.frmMain.ComboTE2200[1].position,
+            {firmware::AutoSpeedPosition(app.firmware), kBaud9600}, {kBaud19200, kBaud19200});
 }
 
 // The tapping speed is this position in every family, although the entries of the lists differ there.
@@ -72,12 +68,12 @@ void ComboTEC_Click(core::Application& app, int index) {
 
 void OpDYWAYE_Click(core::Application& app, int element) {
   app.image[REGTYPE_MINOR] = codecs::ByteToHex(element);
-  ForceSpeeds(app, element < 2 ? AutoSpeed(app) : kBaud9600, kBaud9600);
+  ForceSpeeds(app, element < 2 ? firmware::AutoSpeedPosition(app.firmware) : kBaud9600, kBaud9600);
 }
 
 void OpSHARPUP600_Click(core::Application& app, int element) {
   app.image[REGTYPE_MINOR] = codecs::ByteToHex(element);
-  ForceSpeeds(app, element == 0 ? AutoSpeed(app) : kBaud9600, kBaud9600);
+  ForceSpeeds(app, element == 0 ? firmware::AutoSpeedPosition(app.firmware) : kBaud9600, kBaud9600);
 }
 
 // For the next four options the speed list shows the forced position, and the field then gets the unit's own

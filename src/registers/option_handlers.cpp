@@ -3,7 +3,7 @@
 #include <array>
 
 #include "core/actions.h"
-#include "image/field_map.h"
+#include "firmware/traits.h"
 #include "registers/forcing_options.h"
 #include "registers/micros.h"
 #include "registers/sub_menus.h"
@@ -26,26 +26,23 @@ void StorePosition(core::Application& app, int) {
 
 // Options whose field depends on the firmware. Some firmware read another field than they write.
 void OpNIXDORF_Click(core::Application& app, int element) {
-  app.image[app.firmware.Number() < 7 ? REGTYPE_MINOR : REGTYPE_EXT2] = codecs::ByteToHex(element);
+  const bool extended = firmware::WritesNixdorfToExtension(app.firmware);
+  app.image[extended ? REGTYPE_EXT2 : REGTYPE_MINOR] = codecs::ByteToHex(element);
 }
 
 void OpRI_QT2_Click(core::Application& app, int element) {
-  const bool extended = app.firmware.IsV1400() && app.firmware.Number() >= 7;
+  const bool extended = firmware::WritesEpsonToExtension(app.firmware);
   app.image[extended ? REGTYPE_EXT2 : REGTYPE_MINOR] = codecs::ByteToHex(element);
 }
 
 void OpSharp_Click(core::Application& app, int element) {
-  if (!firmware::IsKnownFamily(app.firmware.version) || app.firmware.IsV1400()) return;
-  const bool coded = image::LayoutOf(app.firmware) == firmware::Layout::kNewV13;
+  if (!firmware::StoresOldSharpModel(app.firmware)) return;
+  const bool coded = firmware::HasSharpCodes(app.firmware);
   app.image[REGTYPE_MINOR] = codecs::ByteToHex(coded ? Select_Sharp_V13(element) : element);
 }
 
-bool HasXmlBoard(const firmware::FirmwareId& firmware) {
-  return (firmware.version == "V1300" && firmware.Number() >= 27) || firmware.version == "V1310";
-}
-
 void OpGilbraco_Click(core::Application& app, int element) {
-  if (app.firmware.version != "V1300" && app.firmware.version != "V1310") return;
+  if (!firmware::StoresGilbarco(app.firmware)) return;
   ShowGilbarco(app, element);
   app.image[REGTYPE_MINOR] = codecs::ByteToHex(element);
 }
@@ -224,7 +221,7 @@ void ApplyUniwellFrame(core::Application& app, int element) {
 }
 
 void ShowGilbarco(core::Application& app, int element) {
-  if (!HasXmlBoard(app.firmware)) return;
+  if (!firmware::HasGilbarcoXmlList(app.firmware)) return;
   auto& form = app.frmMain;
   const bool xml = element == 5;
   form.Label84.visible = xml;

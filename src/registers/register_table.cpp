@@ -8,15 +8,16 @@ namespace ovl::registers {
 namespace {
 
 using enum image::FieldId;
+using firmware::FamilySet;
 using Row = RegisterRow;
 using Frame = controls::OptionFrame;
 using Form = controls::RegisterOptions;
 
-constexpr FamilySet kV1400 = kFamily1400;
-constexpr FamilySet kV1300 = kFamily1300;
-constexpr FamilySet kV1310 = kFamily1310;
-constexpr FamilySet kV1324 = kFamily1324;
-constexpr FamilySet kV1334 = kFamily1334;
+constexpr FamilySet kV1400 = firmware::kFamily1400;
+constexpr FamilySet kV1300 = firmware::kFamily1300;
+constexpr FamilySet kV1310 = firmware::kFamily1310;
+constexpr FamilySet kV1324 = firmware::kFamily1324;
+constexpr FamilySet kV1334 = firmware::kFamily1334;
 // Two lines of lists: V1300 with V1310, and V1324 with V1334. V1400 has the registers of both.
 constexpr FamilySet kLine1300 = kV1300 | kV1310;
 constexpr FamilySet kLine1324 = kV1324 | kV1334;
@@ -148,14 +149,6 @@ constexpr std::array kRegisters = {
 };
 
 }  // namespace
-
-FamilySet FamilyOf(std::string_view version) {
-  if (version == "V1400") return kFamily1400;
-  if (version == "V1300") return kFamily1300;
-  if (version == "V1310") return kFamily1310;
-  if (version == "V1324") return kFamily1324;
-  return version == "V1334" ? kFamily1334 : 0;
-}
 
 std::span<const RegisterRow> RegisterTable() {
   return kRegisters;

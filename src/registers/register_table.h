@@ -6,23 +6,15 @@
 #include <string_view>
 
 #include "core/application.h"
+#include "firmware/traits.h"
 
 namespace ovl::registers {
-
-// Families, as bits.
-using FamilySet = unsigned;
-inline constexpr FamilySet kFamily1400 = 1;
-inline constexpr FamilySet kFamily1300 = 2;
-inline constexpr FamilySet kFamily1310 = 4;
-inline constexpr FamilySet kFamily1324 = 8;
-inline constexpr FamilySet kFamily1334 = 16;
-FamilySet FamilyOf(std::string_view version);
 
 struct RegisterRow {
   static constexpr int kAnyRelease = 9999;
 
   std::string_view key;
-  FamilySet families;
+  firmware::FamilySet families;
   controls::OptionFrame frame;
   std::string_view title;  // empty: the register's name in the list
 
@@ -36,6 +28,8 @@ struct RegisterRow {
 
   int first_release = 0;
   int last_release = kAnyRelease;
+
+  firmware::Releases Served() const { return {families, first_release, last_release}; }
 };
 
 std::span<const RegisterRow> RegisterTable();

@@ -36,11 +36,9 @@ void TakeDefaultImage(core::Application& app) {
 const RegisterRow* RowOfSelected(const core::Application& app) {
   const int position = app.frmMain.ComboReg.position;
   if (position < 0) return nullptr;
-  const auto family = FamilyOf(app.firmware.version);
-  const int release = app.firmware.Number();
   for (const auto& row : RegisterTable()) {
-    if ((row.families & family) == 0 || release < row.first_release || release > row.last_release) continue;
-    if (RegisterIndexOf(app, row.key) == position) return &row;
+    const bool served = firmware::IsInReleases(app.firmware, row.Served());
+    if (served && RegisterIndexOf(app, row.key) == position) return &row;
   }
   return nullptr;
 }

@@ -4,6 +4,7 @@
 
 #include "core/actions.h"
 #include "core/settings.h"
+#include "firmware/traits.h"
 #include "firmware/variants.h"
 
 namespace ovl::start {
@@ -80,9 +81,8 @@ void VersionItem_Click(core::Application& app, int item) {
 }
 
 void ApplyCompactFirmware(core::Application& app) {
-  if (app.firmware.version != "V1410") return;
-  app.firmware.version = "V1400";
-  if (app.firmware.release == "R1") app.firmware.release = "R7";
+  if (!firmware::IsCompact(app.firmware)) return;
+  app.firmware = firmware::ServedAs(app.firmware);
   firmware::ApplyCompactForm(app.frmMain);
 }
 

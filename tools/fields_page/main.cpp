@@ -10,6 +10,7 @@
 #include "changes/editors.h"
 #include "core/application.h"
 #include "firmware/firmware_table.h"
+#include "firmware/traits.h"
 #include "image/field_map.h"
 
 namespace ovl {
@@ -28,13 +29,13 @@ struct Column {
 };
 
 Places PlacesOf(const firmware::FirmwareId& firmware) {
-  const auto layout = image::LayoutOf(firmware);
-  const auto capabilities = image::CapabilitiesOf(firmware);
+  const auto layout = firmware::LayoutOf(firmware);
+  const auto capabilities = firmware::CapabilitiesOf(firmware);
   std::array<int, kSections.size()> next = {};
   Places places;
   for (const auto& row : image::FieldTable()) {
     auto& digit = next.at(static_cast<std::size_t>(row.section));
-    const bool has = image::InStream(row, layout, firmware.Number(), capabilities, image::Direction::kRead);
+    const bool has = image::InStream(row, layout, firmware, capabilities, image::Direction::kRead);
     places.push_back(has ? digit : -1);
     if (has) digit += image::DigitsOf(row, layout) * image::EntryCount(row.id);
   }

@@ -7,8 +7,10 @@
 #include "core/failure.h"
 #include "files/files.h"
 #include "firmware/register_lists.h"
+#include "firmware/traits.h"
 #include "image/field_map.h"
 #include "image/record_stream.h"
+#include "image/slot_records.h"
 #include "registers/register_catalogue.h"
 #include "registers/selection_driver.h"
 #include "start/start_up.h"
@@ -23,34 +25,13 @@ constexpr const char* kEightDataBits = "04";
 constexpr const char* kBaud9600 = "03";
 constexpr const char* kDisplayOn = "20";
 
-// The code of "RS-232" in the firmware's interface byte.
-const char* InterfaceCode(const firmware::FirmwareId& firmware) {
-  const auto layout = image::LayoutOf(firmware);
-  return layout == firmware::Layout::kLateV1400 || layout == firmware::Layout::kNewV13 ? "0E" : "0A";
-}
-
-// Older firmware count the demonstration's character list from 1.
-bool HasOldDemoForm(const firmware::FirmwareId& firmware) {
-  const int release = firmware.Number();
-  return (firmware.version == "V1400" && release == 1) || (firmware.version == "V1300" && release < 27) ||
-         (firmware.version == "V1324" && release < 26);
-}
-
-std::string EmptyException(firmware::Layout layout) {
-  const std::string range(
-      image::LayoutOf({"V1400", "R1"}) == layout || layout == firmware::Layout::kLateV1400 ? 20 : 12, '0');
-  std::string slot = "10" + range + "00";
-  for (int place = 0; place < 40; ++place) slot += "20";
-  return slot + "00";
-}
-
 void SetEvery(image::ConfigImage& image, image::FieldId field, const std::string& value) {
   for (int entry = 1; entry <= image::EntryCount(field); ++entry) image.at(field, entry) = value;
 }
 
 std::string StreamOf(image::ConfigImage image, const firmware::FirmwareId& firmware,
                      const firmware::Capabilities& capabilities) {
-  const auto sections = image::WriteSections(image, image::LayoutOf(firmware), firmware, capabilities);
+  const auto sections = image::WriteSections(image, firmware::LayoutOf(firmware), firmware, capabilities);
   return image::BlockRecords(sections.SYSCFG + sections.SYSFIXED + sections.SYSSTR,
                              image::WriteRegion(firmware));
 }
@@ -93,15 +74,15 @@ image::ConfigImage RegisterImage(const firmware::FirmwareId& firmware, int code)
 }  // namespace
 
 image::ConfigImage FactoryImage(const firmware::FirmwareId& firmware) {
-  const auto layout = image::LayoutOf(firmware);
-  const auto capabilities = image::CapabilitiesOf(firmware);
+  const auto layout = firmware::LayoutOf(firmware);
+  const auto capabilities = firmware::CapabilitiesOf(firmware);
   image::ConfigImage image;
   for (const auto& row : image::FieldTable()) {
-    if (!image::InStream(row, layout, firmware.Number(), capabilities, image::Direction::kRead)) continue;
+    if (!image::InStream(row, layout, firmware, capabilities, image::Direction::kRead)) continue;
     SetEvery(image, row.id, std::string(static_cast<std::size_t>(image::DigitsOf(row, layout)), '0'));
   }
   image[COMMCFG_BAK] = kEightDataBits;
-  image[IOCFG_BAK] = InterfaceCode(firmware);
+  image[IOCFG_BAK] = firmware::InterfaceCodesOf(layout).front();
   image[RX_BAUDRATE] = kBaud9600;
   image[TX_BAUDRATE] = kBaud9600;
   image[HIST_DEST_ID] = "01";
@@ -110,10 +91,10 @@ image::ConfigImage FactoryImage(const firmware::FirmwareId& firmware) {
   image[DSPCFG_BAK] = kDisplayOn;
   image[BLNKIND] = "0B";
   image[DAYLIGHT_BAK] = "01";
-  image[DEMO_ENABLE] = HasOldDemoForm(firmware) ? "01" : "00";
+  image[DEMO_ENABLE] = firmware::CountsDemoCharactersFromOne(firmware) ? "01" : "00";
   if (firmware.IsV1400()) image[DSPCHARS_BAK] = "28";
   SetEvery(image, ALMSTRUCT_BAK, firmware.IsV1400() ? "00FF0000" : "00FF00");
-  SetEvery(image, EXCPSTRS, EmptyException(layout));
+  SetEvery(image, EXCPSTRS, image::FreeExceptionSlot(firmware));
   return image;
 }
 
@@ -124,7 +105,7 @@ int WriteDefaultImages(const std::string& folder, const firmware::FirmwareId& fi
   fs::create_directories(images, error);
   if (error) throw core::Failure(images.string(), error.message());
 
-  const auto capabilities = image::CapabilitiesOf(firmware);
+  const auto capabilities = firmware::CapabilitiesOf(firmware);
   int code = 0;
   for (const auto& entry : firmware::BuildRegisterEntries(firmware.version, firmware.release)) {
     const auto stream = StreamOf(RegisterImage(firmware, code++), firmware, capabilities);

@@ -1,5 +1,5 @@
-// The panels "Register Settings" and "Network Settings": how the unit's line to the register is wired and
-// framed, and how units are chained. A list's caption is its label.
+// The panels "Register Settings" and "Network Settings": the serial line between unit and register, and the
+// network of several units. The caption of a list is its label.
 #pragma once
 
 #include <array>
@@ -12,7 +12,7 @@ class Registry;
 
 struct CommunicationPanel {
   std::array<List, 13> ComboCOMM;
-  std::array<TextBox, 3> ComboNone;  // fixed texts that cover a list while it has no meaning
+  std::array<TextBox, 3> ComboNone;  // fixed texts in place of a list that has no meaning at present
 
   CommunicationPanel();
   void Register(Registry& registry, Form& form);

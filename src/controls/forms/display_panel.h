@@ -1,4 +1,4 @@
-// Selections of the panels that register options reach into: text display, clock and language, exception
+// The lists of the panels that register options also change: text display, clock and language, exception
 // report.
 #pragma once
 

@@ -1,4 +1,4 @@
-// The forms that only show something: the viewer of texts, and the box about the program.
+// The forms that only show something: the text viewer and the window about the program.
 #pragma once
 
 #include "controls/controls.h"
@@ -7,7 +7,7 @@ namespace ovl::controls {
 
 class Registry;
 
-// A window that shows a text, such as a saved history. Its caption says what is shown.
+// A window that shows a text, such as a saved history. Its caption names the text.
 struct ViewerForm {
   Form form;
   TextBox Text;
@@ -16,7 +16,7 @@ struct ViewerForm {
   void Register(Registry& registry);
 };
 
-// What the program is: name, version, the firmware it serves, licence.
+// Name and version of the program, the firmware that it serves, and its licence.
 struct AboutForm {
   Form form;
   Label lbProgram, lbVersion, lbFirmware, lbLicence;

@@ -1,4 +1,4 @@
-// The small windows of the link: port settings, progress of the baud scan, the end of a transfer.
+// The small windows of the link: port settings, progress of the baud rate scan, end of a transfer.
 #pragma once
 
 #include "controls/controls.h"
@@ -23,7 +23,7 @@ struct PortSettingsForm {
 struct ScanProgressForm {
   Form form;
   Label Label1;
-  ProgressBar ScanProgressBar1;  // the place in the scan order, 0 to 10
+  ProgressBar ScanProgressBar1;  // the step of the scan, 0 to 10
   Button Command1;
 
   ScanProgressForm();

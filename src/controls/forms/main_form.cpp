@@ -69,7 +69,7 @@ void DesignClock(MainForm& form) {
   form.Timer_Operating.interval = kSecond;
 }
 
-// The numbered labels with the lists that they stand beside.
+// The labels with a number and the lists beside them.
 void DesignLabels(MainForm& form) {
   const auto label = [&](int number, List& list) { form.Label1[number].caption = list.caption; };
   const auto labels = [&](int first, const auto& lists) {

@@ -14,16 +14,16 @@ namespace ovl::controls {
 
 class Registry;
 
-// The actions of the link, by the index of their button.
+// The actions of the link. The value is the index of the button.
 enum LinkAction { kUpload = 0, kDownload = 1, kSetTime = 2, kLoadHistory = 3, kRemote = 4, kMasterReset = 5 };
 
 // One family of the Version menu: "V1400" and its releases.
 struct VersionFamily {
   MenuItem parent;
-  std::vector<std::size_t> items;  // places in version_items
+  std::vector<std::size_t> items;  // positions in version_items
 };
 
-// The panels' controls are the form's own: app.frmMain.ComboCOMM[3].
+// The controls of the panels are members of the form: app.frmMain.ComboCOMM[3].
 struct MainForm : RegisterOptions, CommunicationPanel, DisplayPanel, TextPanels {
   Form form;
   Tabs SSTab1;
@@ -47,7 +47,7 @@ struct MainForm : RegisterOptions, CommunicationPanel, DisplayPanel, TextPanels 
   std::array<Label, 2> Label64;     // downloading, uploading
   ProgressBar vbalProgressBar1;
   List ComboHR, ComboMin, ComboSec, ComboMonth, ComboYear;
-  std::array<List, 4> ComboDay;  // 28, 29, 30 and 31 days, one above the other
+  std::array<List, 4> ComboDay;  // for months of 28, 29, 30 and 31 days, all at the same place
   CheckBox CheckTD;
 
   // Menus
@@ -55,18 +55,18 @@ struct MainForm : RegisterOptions, CommunicationPanel, DisplayPanel, TextPanels 
   std::vector<VersionFamily> version_families;
   std::vector<MenuItem> version_items;  // in the order of the firmware table
 
-  std::map<int, Label> Label1;  // the labels that a firmware's variant of the form hides or renames
+  std::map<int, Label> Label1;  // the labels that firmware/variants.h hides or renames
 
   SerialControl MSComm1;
   controls::Timer Timer;            // refreshes the clock lists
-  controls::Timer General_timer;    // the grant must have come by its tick
+  controls::Timer General_timer;    // the unit must grant remote mode before its tick
   controls::Timer Time_handcheck;   // keep-alive
   controls::Timer Timer_Operating;  // silence watchdog
 
   MainForm();
   void Register(Registry& registry);
 
-  // The five buttons that need remote mode; "Remote" itself is not among them.
+  // The five buttons that need remote mode. "Remote" is not one of them.
   void EnableActions(bool enabled);
 };
 

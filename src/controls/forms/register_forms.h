@@ -1,4 +1,4 @@
-// The windows that a few registers open beside the main form: the MICROS network and the model sub-menu.
+// The additional windows of a few registers: the MICROS network and the sub-menu of a model.
 #pragma once
 
 #include <array>
@@ -28,7 +28,7 @@ struct SubMenuForm {
   Frame Frame1, Frame2, SharpSubMenuFrame, UP3000Frm;
   OptionArray F1OP, Option1;
   std::array<Label, 2> Label1;
-  std::array<List, 2> Combo1;  // the model, and its mode
+  std::array<List, 2> Combo1;  // the model and its mode
   Label Label2;
   List Combo2;
 

@@ -1,5 +1,4 @@
-// What the register panel offers beside the list: the controls of the option frames. They stand on the main
-// form.
+// The controls of the option frames on the register panel of the main form.
 #pragma once
 
 #include <array>
@@ -87,9 +86,9 @@ struct RegisterOptions {
       ComboTITLEDIP, ComboCONSOLEID, ComboSICOM, ComboUni, ComboUniFor14R7up, ComboAddr, ComboCLARITYEPOS,
       ST6105C, ComboNE134, RDSCombo, IBMCombo, Combo4610TF6, ComboXML;
   std::array<List, 2> ComboPana, ComboTk500, ComboTE2200,
-      ComboTEC;                                  // of three, the fixed model name and the mode
-  std::array<List, 3> ComboTCI_ID, ComboUNI_ID;  // the last digit first
-  std::array<List, 8> ComboTCPIP;                // the address of the old frame, then that of the present one
+      ComboTEC;                                  // the last three: the fixed model name and the mode
+  std::array<List, 3> ComboTCI_ID, ComboUNI_ID;  // the last digit comes first
+  std::array<List, 8> ComboTCPIP;                // four lists of the old frame, then four of the present one
   std::array<List, 4> ComboTCPINFO;
 
   Frame IBMFrame, POS2000, POS5000, NCRFrame, BEETLEFrm, NIXDORFrm;

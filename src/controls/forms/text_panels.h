@@ -1,5 +1,5 @@
-// The panels for what the unit watches for and what it then does: exceptions, alarms and their texts, scroll
-// matching, the title, the demonstration. A list's caption is its label.
+// The panels for exceptions, alarms and their texts, scroll matching, the title and the demonstration. The
+// caption of a list is its label.
 #pragma once
 
 #include <array>
@@ -34,7 +34,7 @@ struct TextPanels {
   void Register(Registry& registry, Form& form);
 };
 
-// One dialog for three kinds of text; the caption tells which.
+// One dialog for three kinds of text. The caption names the kind.
 struct TextEntryForm {
   Form form;
   TextBox Text1;
@@ -44,7 +44,7 @@ struct TextEntryForm {
   void Register(Registry& registry);
 };
 
-// The numeric test of an exception.
+// The range test of an exception.
 struct RangeForm {
   Form form;
   TextBox Range_Hi, SubRange_Hi, Range_Low, SubRange_Low;

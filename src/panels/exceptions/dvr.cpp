@@ -1,5 +1,6 @@
 #include "panels/exceptions/dvr.h"
 
+#include "firmware/traits.h"
 #include "panels/panel.h"
 
 namespace ovl::panels {
@@ -7,9 +8,9 @@ namespace {
 
 using enum image::FieldId;
 
-constexpr int kFirstLabel = 12;  // the lists' labels follow each other
+constexpr int kFirstLabel = 12;  // the labels of the lists have consecutive numbers
 
-// The second pair is that of the third recorder.
+// The second pair of lists belongs to the third recorder.
 void EnablePair(controls::MainForm& form, std::size_t pair, bool enabled) {
   for (std::size_t list = 2 * pair; list < 2 * pair + 2; ++list) {
     form.ComboKLM4011.at(list).enabled = enabled;
@@ -17,12 +18,7 @@ void EnablePair(controls::MainForm& form, std::size_t pair, bool enabled) {
   }
 }
 
-bool HasSecondPair(const firmware::FirmwareId& firmware) {
-  return !(firmware.version == "V1300" && firmware.Number() < 27) &&
-         !(firmware.version == "V1324" && firmware.Number() < 26);
-}
-
-// The history ids of a recorder's pair of lists; a list that shows nothing is skipped.
+// Stores the history ids that a pair of lists shows. A list without a selection is skipped.
 void TakeHistoryIds(core::Application& app, const controls::List& destination, const controls::List& source) {
   if (destination.position >= 0) app.image[HIST_DEST_ID] = codecs::ByteToHex(destination.position + 1);
   if (source.position >= 0) app.image[HIST_SRC_ID] = codecs::ByteToHex(source.position + 1);
@@ -37,8 +33,8 @@ void ApplyDvr(core::Application& app) {
   const int source = codecs::HexToInt(app.image[HIST_SRC_ID]) - 1;
   ChooseElement(app, form.OpDVR, recorder);
   if (!firmware::IsKnownFamily(app.firmware.version)) return;
-  const bool both = HasSecondPair(app.firmware);
-  // The choice has enabled its pair by its click; only here does a recorder that is not known disable one.
+  const bool both = firmware::HasSecondRecorderPair(app.firmware);
+  // The click has enabled the pair of a known recorder. An unknown recorder has no click, so disable it here.
   if (!both) EnablePair(form, 0, recorder == 1);
   for (std::size_t pair = 0; pair < (both ? 2U : 1U); ++pair) {
     AssignPosition(app, form.ComboKLM4011[2 * pair], destination);

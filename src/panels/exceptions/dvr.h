@@ -1,4 +1,4 @@
-// The video recorder that the unit feeds with its history data, and the two addresses of that link.
+// The video recorder that receives the history data of the unit, and the two addresses for it.
 #pragma once
 
 #include "core/application.h"

@@ -1,11 +1,11 @@
 #include "panels/exceptions/exception_report.h"
 
+#include "image/slot_records.h"
 #include "panels/panel.h"
 
 namespace ovl::panels {
 namespace {
 
-constexpr int kReportBit = 4;
 constexpr int kDuplicateLine = 2;
 
 }  // namespace
@@ -22,7 +22,8 @@ void ComboExcepRe_Click(core::Application& app, int index) {
   if (!app.PanelsReady) return;
   const auto& lists = app.frmMain.ComboExcepRe;
   auto& flags = app.image[image::FieldId::COMMCFG_BAK];
-  flags = codecs::ByteToHex(WithBit(codecs::HexToInt(flags), kReportBit, lists[0].position == 1));
+  flags =
+      codecs::ByteToHex(codecs::WithBit(codecs::HexToInt(flags), image::kReportBit, lists[0].position == 1));
   app.image[image::FieldId::TIMESTAMP_ENA] = lists[1].position == 1 ? "01" : "00";
   if (index == kDuplicateLine) app.image[image::FieldId::DUPLINE_BAK] = codecs::ByteToHex(lists[2].position);
   RefreshSavedIndexes(app, "ComboExcepRe", lists);

@@ -1,4 +1,4 @@
-// What the unit does with every exception: the report options that hold for all of them.
+// The report options for all exceptions together.
 #pragma once
 
 #include "core/application.h"

@@ -1,8 +1,8 @@
 #include "panels/exceptions/exceptions.h"
 
-#include <algorithm>
 #include <array>
 
+#include "image/slot_records.h"
 #include "panels/exceptions/exception_report.h"
 #include "panels/exceptions/scroll_matching.h"
 #include "panels/exceptions/text_entry.h"
@@ -11,49 +11,31 @@
 namespace ovl::panels {
 namespace {
 
-constexpr std::size_t kTextLength = 40;
-constexpr std::size_t kLengthDigits = 2;
-constexpr char kWildcard = '?';
-constexpr char kStoredWildcard = '\x7F';
-constexpr int kOperatorShift = 2;
-constexpr int kFreeBit = 4;
-
-// The selections that live in one bit of the flags.
+// The lists that are stored in one bit of the flags.
 struct FlagMember {
   std::size_t member;
   int bit;
 };
-constexpr std::array kFlagMembers = {FlagMember{1, 0}, FlagMember{2, 1}, FlagMember{3, 5}, FlagMember{4, 6}};
+constexpr std::array kFlagMembers = {FlagMember{1, image::kDisplayBit}, FlagMember{2, image::kOutputBit},
+                                     FlagMember{3, image::kHistoryBit}, FlagMember{4, image::kScrollBit}};
 
 int FlagsOf(const std::string& slot) {
   return codecs::HexToInt(slot);
 }
 
-void StoreFlags(std::string& slot, int flags) {
-  slot.replace(0, std::min<std::size_t>(slot.size(), 2), codecs::ByteToHex(flags));
-}
-
 void ShowRange(core::Application& app, const std::string& slot) {
-  const auto place = RangePlaceOf(app);
   for (std::size_t value = 0; value < 2; ++value) {
-    const auto first = RangePlace::kFirst + value * place.Value();
-    app.frmMain.TextRANGE[value].caption = Slice(slot, first, place.integers) + DecimalSeparator(app) +
-                                           Slice(slot, first + place.integers, RangePlace::kDecimals);
+    const auto [integers, decimals] = image::RangeValueOf(slot, app.firmware, value);
+    app.frmMain.TextRANGE[value].caption = integers + DecimalSeparator(app) + decimals;
   }
 }
 
-void ShowText(core::Application& app, const std::string& slot) {
-  auto text = StoredText(Slice(slot, RangePlaceOf(app).End() + kLengthDigits));
-  std::replace(text.begin(), text.end(), kStoredWildcard, kWildcard);
-  AssignText(app, app.frmMain.TextException, std::move(text));
-}
-
-// Both bits name no entry: the list then goes on showing the operator of the slot before.
+// If both bits are set, no entry fits, and the list keeps the operator of the slot before.
 void ShowOperator(core::Application& app, int flags) {
-  AssignPosition(app, app.frmMain.ComboExcp[5], flags >> kOperatorShift & 3);
+  AssignPosition(app, app.frmMain.ComboExcp[5], image::OperatorOf(flags));
 }
 
-// A slot that matches while scrolling has no display, output or history action of its own.
+// A slot with scroll matching cannot have display, output or history.
 void ApplyScrollRule(core::Application& app) {
   auto& lists = app.frmMain.ComboExcp;
   const bool matching = lists[4].position == 1;
@@ -64,10 +46,6 @@ void ApplyScrollRule(core::Application& app) {
 }
 
 }  // namespace
-
-RangePlace RangePlaceOf(const core::Application& app) {
-  return {app.firmware.IsV1400() ? 8U : 4U};
-}
 
 std::string* ShownSlot(core::Application& app) {
   const int position = app.frmMain.ComboExcp[0].position;
@@ -90,11 +68,11 @@ void LoadExceptionSlot(core::Application& app, int number) {
   const auto slot = app.image.at(image::FieldId::EXCPSTRS, number);
   const int flags = FlagsOf(slot);
   for (const auto& row : kFlagMembers) {
-    AssignPosition(app, app.frmMain.ComboExcp[row.member], HasBit(flags, row.bit) ? 1 : 0);
+    AssignPosition(app, app.frmMain.ComboExcp[row.member], codecs::HasBit(flags, row.bit) ? 1 : 0);
   }
   ShowOperator(app, flags);
   ShowRange(app, slot);
-  ShowText(app, slot);
+  AssignText(app, app.frmMain.TextException, image::ExceptionText(slot, app.firmware));
 }
 
 void ComboExcp_Click(core::Application& app, int index) {
@@ -106,26 +84,17 @@ void ComboExcp_Click(core::Application& app, int index) {
     const auto& list = lists.at(static_cast<std::size_t>(index));
     for (const auto& row : kFlagMembers) {
       if (static_cast<int>(row.member) == index)
-        StoreFlags(*slot, WithSelection(FlagsOf(*slot), row.bit, list));
+        image::StoreFirstByte(*slot, WithSelection(FlagsOf(*slot), row.bit, list));
     }
     if (index == 4) ApplyScrollRule(app);
-    if (index == 5)
-      StoreFlags(*slot, (FlagsOf(*slot) & ~(3 << kOperatorShift)) | list.position << kOperatorShift);
+    if (index == 5) image::StoreFirstByte(*slot, image::WithOperator(FlagsOf(*slot), list.position));
   }
   RefreshSavedIndexes(app, "ComboExcp", lists);
 }
 
 void TextException_Change(core::Application& app, int) {
-  auto* slot = ShownSlot(app);
-  if (slot == nullptr) return;
-  auto text = app.frmMain.TextException.text.substr(0, kTextLength);
-  std::replace(text.begin(), text.end(), kWildcard, kStoredWildcard);
-  const bool blank = std::all_of(text.begin(), text.end(), [](char character) { return character == ' '; });
-  text.resize(kTextLength, ' ');
-  const auto place = RangePlaceOf(app);
-  const auto range = Slice(*slot, RangePlace::kFirst, 2 * place.Value());
-  *slot =
-      codecs::ByteToHex(WithBit(FlagsOf(*slot), kFreeBit, blank)) + range + codecs::TextToCountedHex(text);
+  if (auto* slot = ShownSlot(app))
+    image::StoreExceptionText(*slot, app.firmware, app.frmMain.TextException.text);
 }
 
 void cmdSetExcpstr_Click(core::Application& app, int) {

@@ -1,4 +1,4 @@
-// The exception slots: patterns that the unit watches for, and what it does when one matches.
+// The exception slots: the patterns that the unit looks for, and what it does when one matches.
 #pragma once
 
 #include "core/application.h"
@@ -7,29 +7,18 @@ namespace ovl::panels {
 
 void ApplyExceptionPanel(core::Application& app);
 
-// A slot, 1 to 24, onto the panel. Selections that change run their clicks, so that a slot that was not
-// written by this program is tidied by being looked at.
+// Shows a slot, 1 to 24, on the panel. Lists that change run their clicks. A slot that another tool has
+// written can therefore change when it is shown.
 void LoadExceptionSlot(core::Application& app, int number);
 
 void ComboExcp_Click(core::Application& app, int index);
 void TextException_Change(core::Application& app, int index);
 void cmdSetExcpstr_Click(core::Application& app, int index);
 
-// Where the range digits of a slot stand, and how many integer digits a value has.
-struct RangePlace {
-  static constexpr std::size_t kFirst = 2;
-  static constexpr std::size_t kDecimals = 2;
-  std::size_t integers;
-
-  std::size_t Value() const { return integers + kDecimals; }
-  std::size_t End() const { return kFirst + 2 * Value(); }
-};
-RangePlace RangePlaceOf(const core::Application& app);
-
-// The slot that the panel shows; nothing before one was picked.
+// The slot on the panel; null if none is selected yet.
 std::string* ShownSlot(core::Application& app);
 
-// The sign between integer and decimal digits on the register's printout.
+// The character between integer and decimal digits on the printout of the register.
 const char* DecimalSeparator(const core::Application& app);
 
 }  // namespace ovl::panels

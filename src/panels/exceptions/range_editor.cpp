@@ -2,22 +2,24 @@
 
 #include <array>
 
+#include "firmware/traits.h"
+#include "image/slot_records.h"
 #include "panels/exceptions/exceptions.h"
 #include "panels/panel.h"
 
 namespace ovl::panels {
 namespace {
 
-// The four fields in the order in which a slot holds their digits.
+// The four text boxes in the order of their digits in a slot.
 std::array<controls::TextBox*, 4> Fields(controls::RangeForm& form) {
   return {&form.Range_Hi, &form.SubRange_Hi, &form.Range_Low, &form.SubRange_Low};
 }
 
 std::size_t WidthOf(const core::Application& app, std::size_t field) {
-  return field % 2 == 0 ? RangePlaceOf(app).integers : RangePlace::kDecimals;
+  return field % 2 == 0 ? firmware::RangeIntegersOf(app.firmware) : image::kRangeDecimals;
 }
 
-// The leading number of a text, with leading zeros, in just the field's width.
+// The number at the start of a text, with leading zeros, cut to the width of the field.
 std::string Normalised(std::string_view text, std::size_t width) {
   auto digits = std::to_string(codecs::LeadingNumber(text));
   if (digits.size() < width) digits.insert(0, width - digits.size(), '0');
@@ -38,12 +40,11 @@ void ShowSeparator(core::Application& app) {
 void FillFromSlot(core::Application& app) {
   const auto* slot = ShownSlot(app);
   if (slot == nullptr || !firmware::IsKnownFamily(app.firmware.version)) return;
-  std::size_t first = RangePlace::kFirst;
-  std::size_t field = 0;
-  for (auto* box : Fields(app.frmSetRange)) {
-    const auto width = WidthOf(app, field++);
-    box->text = Slice(*slot, first, width);
-    first += width;
+  const auto fields = Fields(app.frmSetRange);
+  for (std::size_t value = 0; value < 2; ++value) {
+    const auto [integers, decimals] = image::RangeValueOf(*slot, app.firmware, value);
+    fields[2 * value]->text = integers;
+    fields[2 * value + 1]->text = decimals;
   }
 }
 
@@ -51,7 +52,7 @@ void FillFromSlot(core::Application& app) {
 
 void frmSetRange_Load(core::Application& app, int) {
   auto& dialog = app.frmSetRange;
-  const auto integers = RangePlaceOf(app).integers;
+  const auto integers = firmware::RangeIntegersOf(app.firmware);
   if (firmware::IsKnownFamily(app.firmware.version)) {
     dialog.Range_Hi.max_length = integers;
     dialog.Range_Low.max_length = integers;
@@ -59,8 +60,8 @@ void frmSetRange_Load(core::Application& app, int) {
   const auto fields = Fields(dialog);
   for (std::size_t value = 0; value < 2; ++value) {
     const auto& shown = app.frmMain.TextRANGE[value].caption;
-    fields[2 * value]->text = Slice(shown, 0, integers);
-    fields[2 * value + 1]->text = Slice(shown, integers + 1, RangePlace::kDecimals);
+    fields[2 * value]->text = codecs::Slice(shown, 0, integers);
+    fields[2 * value + 1]->text = codecs::Slice(shown, integers + 1, image::kRangeDecimals);
   }
   ShowSeparator(app);
   app.frmMain.form.enabled = false;
@@ -82,7 +83,7 @@ void RangeField_Leave(core::Application& app, int index) {
   if (!integers || firmware::IsKnownFamily(app.firmware.version)) NormaliseField(app, field);
 }
 
-// The separator holds for all slots and is stored at once.
+// The separator is the same for all slots. It is stored immediately.
 void ComboDec_Click(core::Application& app, int) {
   const bool comma = app.frmSetRange.ComboDec.position != 0;
   app.image[image::FieldId::DECIMAL_POINT_BAK] = comma ? "01" : "00";
@@ -106,7 +107,7 @@ void RangeSet_Click(core::Application& app, int) {
   if (auto* slot = ShownSlot(app)) {
     std::string digits;
     for (const auto* box : Fields(dialog)) digits += box->text;
-    *slot = slot->substr(0, RangePlace::kFirst) + digits + Slice(*slot, RangePlaceOf(app).End());
+    image::StoreRange(*slot, app.firmware, digits);
   }
   UnloadForm(app, dialog.form);
 }

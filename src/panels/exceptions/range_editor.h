@@ -1,4 +1,4 @@
-// The numeric test of an exception: two fixed-point values, stored digit by digit.
+// The range test of an exception: two decimal numbers, stored digit by digit.
 #pragma once
 
 #include "core/application.h"

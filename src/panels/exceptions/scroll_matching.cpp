@@ -11,7 +11,7 @@ void ApplyScrollMatching(core::Application& app) {
   AssignPosition(app, lists[1], timeout);
 }
 
-// Switched on without a timeout cannot be stored: each list takes the other along.
+// The field cannot store "on" without a timeout. Therefore each list also changes the other one.
 void ComboScroll_Click(core::Application& app, int index) {
   if (!app.PanelsReady) return;
   auto& lists = app.frmMain.ComboScroll;

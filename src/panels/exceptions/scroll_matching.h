@@ -1,4 +1,4 @@
-// Whether a match may run over several lines, and how long.
+// Whether a match can span several lines, and the timeout for it.
 #pragma once
 
 #include "core/application.h"

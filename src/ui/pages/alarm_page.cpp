@@ -2,12 +2,9 @@
 
 #include <QLabel>
 #include <QScrollArea>
-#include <algorithm>
 
-#include "codecs/codecs.h"
 #include "host/text_codec.h"
-#include "panels/exceptions/text_entry.h"
-#include "panels/panel.h"
+#include "image/slot_records.h"
 #include "ui/pages/text_rows.h"
 
 namespace ovl::ui {
@@ -15,18 +12,17 @@ namespace {
 
 using enum image::FieldId;
 
-constexpr int kRtsTrigger = 28;
-
 QString EntryText(const controls::List& list, int position) {
   const bool known = position >= 0 && position < static_cast<int>(list.items.size());
   return known ? host::FromWindows1252(list.items[static_cast<std::size_t>(position)]) : QStringLiteral("?");
 }
 
 QString TriggerText(const controls::MainForm& form, int trigger) {
-  if (trigger == 0) return QStringLiteral("free");
+  if (trigger == image::kNoTrigger) return QStringLiteral("free");
   const auto entry = EntryText(form.ComboALM[1], trigger);
-  return trigger < kRtsTrigger ? host::FromWindows1252(form.lbAlmTrig.caption) + QLatin1Char(' ') + entry
-                               : entry;
+  return trigger < image::kRtsTrigger
+             ? host::FromWindows1252(form.lbAlmTrig.caption) + QLatin1Char(' ') + entry
+             : entry;
 }
 
 // The counter runs up to 256; 0 is the last entry, the pulse.
@@ -36,14 +32,8 @@ QString DurationText(const controls::MainForm& form, int counter) {
                       : QString::number(256 - counter);
 }
 
-bool NormallyOn(const core::Application& app, int number) {
-  const int states = codecs::HexToInt(app.image.at(ALMNORMAL_BAK, (number - 1) / 8 + 1));
-  return panels::HasBit(states, (number - 1) % 8);
-}
-
 QString TriggeredText(const std::string& record) {
-  return host::FromWindows1252(
-      panels::StoredText(std::string_view(record).substr(std::min<std::size_t>(record.size(), 2))));
+  return host::FromWindows1252(image::StoredText(image::TriggeredDigits(record)));
 }
 
 QWidget* AlarmOverview(Bindings& bindings) {
@@ -83,13 +73,12 @@ std::vector<OverviewLine> AlarmLines(const core::Application& app) {
   std::vector<OverviewLine> lines;
   for (int number = 1; number <= image::kAlarms; ++number) {
     const auto& record = app.image.at(ALMSTRUCT_BAK, number);
-    const int trigger = codecs::HexToInt(record);
-    const int counter =
-        codecs::HexToInt(std::string_view(record).substr(std::min<std::size_t>(record.size(), 2)));
+    const int trigger = image::AlarmTrigger(record);
+    const int counter = image::AlarmCounter(record);
     lines.push_back({{QString::number(number), TriggerText(form, trigger), DurationText(form, counter),
-                      EntryText(form.ComboALM[2], NormallyOn(app, number) ? 1 : 0),
+                      EntryText(form.ComboALM[2], image::IsNormallyClosed(app.image, number) ? 1 : 0),
                       TriggeredText(app.image.at(TRIGGER_TEXT, number))},
-                     trigger != 0});
+                     trigger != image::kNoTrigger});
   }
   return lines;
 }

@@ -6,18 +6,16 @@
 #include <algorithm>
 #include <array>
 
+#include "codecs/bytes.h"
 #include "codecs/codecs.h"
 #include "host/text_codec.h"
+#include "image/slot_records.h"
 #include "panels/exceptions/exceptions.h"
-#include "panels/exceptions/text_entry.h"
-#include "panels/panel.h"
 #include "ui/pages/text_rows.h"
 
 namespace ovl::ui {
 namespace {
 
-constexpr std::size_t kLengthDigits = 2;
-constexpr int kFreeBit = 4;
 constexpr int kRangeBoxWidth = 96;
 constexpr int kBoxPadding = 4;
 constexpr int kBelowOption = 20;
@@ -30,8 +28,9 @@ struct Act {
   char letter;
   const char* word;
 };
-constexpr std::array kActs = {Act{1, 0, 'D', "D display"}, Act{2, 1, 'O', "O output"},
-                              Act{3, 5, 'H', "H history"}, Act{4, 6, 'S', "S scroll matching"}};
+constexpr std::array kActs = {
+    Act{1, image::kDisplayBit, 'D', "D display"}, Act{2, image::kOutputBit, 'O', "O output"},
+    Act{3, image::kHistoryBit, 'H', "H history"}, Act{4, image::kScrollBit, 'S', "S scroll matching"}};
 constexpr std::size_t kScrollMatching = 4;
 
 // Scroll matching is told also where the panel has no list for it: it holds the other acts off.
@@ -39,32 +38,23 @@ bool Told(const controls::MainForm& form, const Act& act) {
   return act.list == kScrollMatching || form.ComboExcp[act.list].visible;
 }
 
-std::string Slice(const std::string& slot, std::size_t first, std::size_t count = std::string::npos) {
-  return first < slot.size() ? slot.substr(first, count) : std::string();
-}
-
 QString ValueText(const core::Application& app, const std::string& slot, std::size_t value) {
-  const auto place = panels::RangePlaceOf(app);
-  const auto first = panels::RangePlace::kFirst + value * place.Value();
-  auto whole = Slice(slot, first, place.integers);
-  whole.erase(0,
-              std::min(whole.find_first_not_of('0'), whole.size() - std::min<std::size_t>(1, whole.size())));
-  return QString::fromStdString(whole + panels::DecimalSeparator(app) +
-                                Slice(slot, first + place.integers, panels::RangePlace::kDecimals));
+  auto [integers, decimals] = image::RangeValueOf(slot, app.firmware, value);
+  integers.erase(0, std::min(integers.find_first_not_of('0'),
+                             integers.size() - std::min<std::size_t>(1, integers.size())));
+  return QString::fromStdString(integers + panels::DecimalSeparator(app) + decimals);
 }
 
 QString RangeText(const core::Application& app, const std::string& slot) {
   constexpr std::array kOperators = {"", "IN ", "OUT ", "IN OUT "};
-  const auto operation = static_cast<std::size_t>(codecs::HexToInt(slot) >> 2 & 3);
+  const auto operation = static_cast<std::size_t>(image::OperatorOf(codecs::HexToInt(slot)));
   if (operation == 0) return {};
   return QLatin1String(kOperators[operation]) + ValueText(app, slot, 0) + QStringLiteral(" - ") +
          ValueText(app, slot, 1);
 }
 
 QString TextOf(const core::Application& app, const std::string& slot) {
-  constexpr char kStoredWildcard = '\x7F';
-  auto text = panels::StoredText(Slice(slot, panels::RangePlaceOf(app).End() + kLengthDigits));
-  std::replace(text.begin(), text.end(), kStoredWildcard, '?');
+  auto text = image::ExceptionText(slot, app.firmware);
   text.erase(text.find_last_not_of(' ') + 1);
   return host::FromWindows1252(text);
 }
@@ -72,7 +62,7 @@ QString TextOf(const core::Application& app, const std::string& slot) {
 QString ActsText(const core::Application& app, int flags) {
   QStringList letters;
   for (const auto& act : kActs) {
-    if (Told(app.frmMain, act) && panels::HasBit(flags, act.bit))
+    if (Told(app.frmMain, act) && codecs::HasBit(flags, act.bit))
       letters.append(QChar::fromLatin1(act.letter));
   }
   return letters.join(QLatin1Char(' '));
@@ -186,7 +176,7 @@ std::vector<OverviewLine> ExceptionLines(const core::Application& app) {
   for (int number = 1; number <= image::kExceptions; ++number) {
     const auto& slot = app.image.at(image::FieldId::EXCPSTRS, number);
     const auto text = TextOf(app, slot);
-    const bool used = !panels::HasBit(codecs::HexToInt(slot), kFreeBit) && !text.trimmed().isEmpty();
+    const bool used = !codecs::HasBit(codecs::HexToInt(slot), image::kFreeBit) && !text.trimmed().isEmpty();
     lines.push_back({{QString::number(number), used ? text : QStringLiteral("free"), RangeText(app, slot),
                       ActsText(app, codecs::HexToInt(slot))},
                      used});

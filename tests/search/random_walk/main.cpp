@@ -6,12 +6,13 @@
 #include <iostream>
 #include <random>
 
+#include "codecs/bytes.h"
 #include "codecs/codecs.h"
 #include "files/files.h"
 #include "firmware/firmware_table.h"
+#include "firmware/traits.h"
 #include "image/field_map.h"
 #include "images/default_images.h"
-#include "panels/panel.h"
 #include "script/parser.h"
 #include "search/fault_sweep/long_run.h"
 #include "search/random_walk/owners.h"
@@ -195,7 +196,7 @@ std::string Settled(image::FieldId field, std::string record) {
   if (field == image::FieldId::EXCPSTRS && (codecs::HexToInt(record) & kScrollFlag) != 0)
     record.replace(0, 2, codecs::ByteToHex(codecs::HexToInt(record) & ~kScrollRule));
   if (field == image::FieldId::FLAGDWLIND)
-    record = codecs::ByteToHex(2 * panels::HalfToEven(codecs::HexToInt(record)));
+    record = codecs::ByteToHex(2 * codecs::HalfToEven(codecs::HexToInt(record)));
   if (field == image::FieldId::ALMSTRUCT_BAK) record.erase(kDurationPlace, 2);
   return record;
 }
@@ -218,7 +219,7 @@ std::string OtherwiseElsewhere(Watched& program) {
     for (int entry = 1; entry <= image::EntryCount(row.id); ++entry) {
       const auto here = Settled(row.id, program.Image().at(row.id, entry));
       const auto there = Settled(row.id, other.Image().at(row.id, entry));
-      if (here != there && (row.layouts & image::Bit(image::LayoutOf(program.App().firmware))) != 0)
+      if (here != there && (row.layouts & image::Bit(firmware::LayoutOf(program.App().firmware))) != 0)
         wrong << "as a file: " << row.name << ' ' << here << ' ' << there << '\n';
     }
   }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <sstream>
 
+#include "firmware/traits.h"
 #include "image/field_map.h"
 #include "script/parser.h"
 #include "script/runner.h"
@@ -103,7 +104,7 @@ std::string Watched::CheckFields(const std::string& control, bool loads) {
   std::ostringstream wrong;
   for (const auto& row : image::FieldTable()) {
     const auto entries = image::EntryCount(row.id);
-    const auto digits = static_cast<std::size_t>(image::DigitsOf(row, image::LayoutOf(App().firmware)));
+    const auto digits = static_cast<std::size_t>(image::DigitsOf(row, firmware::LayoutOf(App().firmware)));
     const int shown = entries == image::kExceptions ? form.ComboExcp[0].position + 1
                       : entries == image::kAlarms   ? form.ComboALM[0].position + 1
                                                     : 0;
@@ -133,7 +134,7 @@ std::string Watched::CheckLengths(bool loads, bool from_file) {
       app.firmware.Joined() == "V1400R7" && !Image()[image::FieldId::BLNKRTS_BAK].empty() ? 2 : 0;
   auto copy = Image();
   const auto sections =
-      image::WriteSections(copy, image::LayoutOf(app.firmware), app.firmware, app.capabilities);
+      image::WriteSections(copy, firmware::LayoutOf(app.firmware), app.firmware, app.capabilities);
   const auto [syscfg, sysfixed] = LengthsOf(app.firmware);
   const bool whole = sections.SYSCFG.size() == syscfg && sections.SYSFIXED.size() == sysfixed + more &&
                      syscfg + sysfixed + sections.SYSSTR.size() == DigitsOfImage(app.firmware);

@@ -67,7 +67,7 @@ TEST(Editors, TellOfListsWhosePicksChangeJustTheirBits) {
   auto& app = harness.app;
   for (const auto& editor : changes::Editors()) {
     const bool of_main =
-        editor.tells != changes::ValueDisplay::kNothing && editor.place != changes::Place::kMicros;
+        editor.display != changes::ValueDisplay::kNothing && editor.place != changes::Place::kMicros;
     if (!of_main || editor.controls == "ComboCOMM(6)") continue;
     const auto& list = *std::get<controls::List*>(app.registry.Find(editor.controls)->control);
     int changed = 0;
