@@ -2,6 +2,7 @@
 // event loop goes on.
 #pragma once
 
+#include <QString>
 #include <optional>
 
 #include "core/platform.h"

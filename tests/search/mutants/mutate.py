@@ -61,7 +61,7 @@ def prepare():
     # With the model as a shared library a change links one file anew instead of every program.
     subprocess.run(["cmake", "-S", ".", "-B", "build", "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
                     "-DCMAKE_CXX_FLAGS_DEBUG=-O1", "-DBUILD_SHARED_LIBS=ON", "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON",
-                    "-DCMAKE_EXPORT_COMPILE_COMMANDS=ON"],
+                    "-DCMAKE_EXPORT_COMPILE_COMMANDS=ON", "-DOVL_SEARCHES=ON", "-DOVL_INSTALL_DATA=OFF"],
                    cwd=COPY, check=True, stdout=subprocess.DEVNULL)
     if not build() or notices(FOLDERS[0]):
         sys.exit("The unchanged tree does not build, or its tests fail.")
