@@ -10,10 +10,10 @@
 #include <optional>
 
 #include "host/text_codec.h"
+#include "ui/frames/register_frames.h"
 #include "ui/kit/layout.h"
 #include "ui/kit/theme.h"
 #include "ui/kit/widgets.h"
-#include "ui/pages/register_frames.h"
 
 namespace ovl::ui {
 namespace {
