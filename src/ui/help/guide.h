@@ -1,4 +1,4 @@
-// The installer's guide: the pages of the help, with pictures, as one PDF.
+// Writes the guide for the installer: the pages of the help, with pictures, as one PDF.
 #pragma once
 
 #include <QString>
@@ -7,7 +7,8 @@
 
 namespace ovl::ui {
 
-// Pictures that the folder lacks are left out. What went wrong, with path and reason; empty when done.
+// Leaves out pictures that are not in the folder. Returns the path and the reason of a failure; empty on
+// success.
 QString WriteGuide(const HelpPages& pages, const QString& pictures, const QString& file);
 
 }  // namespace ovl::ui
