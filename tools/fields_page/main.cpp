@@ -1,4 +1,4 @@
-// Writes the help page "Fields" from the table of the fields, so that the page cannot fall behind it.
+// Writes the help page "Fields" from the table of the fields, so that the page always matches it.
 #include <algorithm>
 #include <array>
 #include <fstream>
@@ -19,8 +19,8 @@ namespace {
 constexpr std::array kSections = {"System configuration (SYSCFG)", "Fixed configuration (SYSFIXED)",
                                   "Strings (SYSSTR)"};
 
-// Where each field begins in its section, in digits; -1 where the firmware has none. Firmware with the same
-// places share a column.
+// The digit at which each field begins in its section; -1 if the firmware does not have it. Firmware with the
+// same places share a column.
 using Places = std::vector<int>;
 
 struct Column {

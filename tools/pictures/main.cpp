@@ -1,4 +1,4 @@
-// Writes pictures of all windows, for people to look at and for the documents.
+// Writes pictures of all windows, for readers and for the documents.
 #include <QApplication>
 #include <QDir>
 #include <cstdlib>
@@ -28,16 +28,16 @@ int Fail(const char* what, const ovl::core::Failure& failure) {
 int main(int argc, char** argv) {
   const auto guide_option = QStringLiteral("guide");
   ovl::ui::CommandLine command_line(QStringLiteral("ovl-pictures"), kDescription);
-  command_line.AddWord(QStringLiteral("FOLDER"), QStringLiteral("where the pictures go"));
+  command_line.AddArgument(QStringLiteral("FOLDER"), QStringLiteral("where the pictures go"));
   command_line.AddOption(guide_option, QStringLiteral("FILE"),
                          QStringLiteral("writes the installer's guide with the pictures as a PDF"));
   if (const auto status = command_line.Read(argc, argv)) return *status;
-  // The pictures are the same on every machine only without its display.
+  // With the offscreen platform the pictures are the same on every machine.
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   ovl::ui::NameApplication();
   QApplication::setQuitOnLastWindowClosed(false);
-  const auto pictures = command_line.Word();
+  const auto pictures = command_line.Argument();
   try {
     const auto folder = ovl::host::ProgramFolder(command_line.Folder());
     const auto saved = ovl::pictures::SavePictures(folder, command_line.Store(), pictures);

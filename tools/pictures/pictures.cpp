@@ -30,10 +30,10 @@ constexpr int kTimeTab = 5;
 constexpr int kRemoteTab = 6;
 constexpr int kClockTicks = 10;  // until the clock lists are set
 
-// A line whose unit says what the pictures need.
-class PlayedLine {
+// A serial port whose unit sends what the pictures need.
+class SimulatedPort {
  public:
-  explicit PlayedLine(ui::Program& program) : program_(program) {
+  explicit SimulatedPort(ui::Program& program) : program_(program) {
     auto& serial = program.Model().platform.serial;
     serial.open = [](const core::LineSettings&) { return core::Result(); };
     serial.close = [] {};
@@ -46,14 +46,14 @@ class PlayedLine {
     serial.clear_output = [] {};
   }
 
-  void Unit(std::string_view text) {
+  void ReceiveFromUnit(std::string_view text) {
     for (const char character : text) {
       character_ = character;
       program_.Act(core::ReceivedEvent{});
     }
   }
 
-  void Drain(int count) {
+  void SendCharacters(int count) {
     for (written_ = true; written_ && count > 0; --count) {
       written_ = false;
       program_.Act(core::DrainedEvent{});
@@ -68,8 +68,8 @@ class PlayedLine {
 
 class Photographer {
  public:
-  Photographer(ui::Program& program, PlayedLine& line, QDir folder)
-      : program_(program), line_(line), folder_(std::move(folder)) {}
+  Photographer(ui::Program& program, SimulatedPort& port, QDir folder)
+      : program_(program), port_(port), folder_(std::move(folder)) {}
 
   // The last picture that could not be written.
   const core::Result& Saved() const { return saved_; }
@@ -137,7 +137,7 @@ class Photographer {
     program_.Act(core::CloseEvent{&App().frmView.form});
   }
 
-  // Registers whose default image the program folder lacks are left out: a pick would end the program.
+  // Skips registers without a default image in the program folder, because picking one would end the program.
   bool PickRegister(std::string_view name) {
     auto& list = App().frmMain.ComboReg;
     const auto found = std::find(list.items.begin(), list.items.end(), name);
@@ -154,8 +154,8 @@ class Photographer {
   // False for an option that this firmware does not offer.
   bool Choose(controls::OptionArray& array, int element) {
     program_.RefreshNow();
-    const auto& face = array.elements.at(static_cast<std::size_t>(element));
-    const auto* button = program_.OnScreen().Controls().WidgetOf(face);
+    const auto& state = array.elements.at(static_cast<std::size_t>(element));
+    const auto* button = program_.OnScreen().Controls().WidgetOf(state);
     if (button == nullptr || !button->isVisible()) return false;
     program_.Act(core::ClickEvent{controls::OptionElement{&array, element}});
     return true;
@@ -237,17 +237,17 @@ class Photographer {
   }
 
   void Grant() {
-    line_.Unit({&kAck, 1});
+    port_.ReceiveFromUnit({&kAck, 1});
     program_.Act(core::TickEvent{&App().frmMain.General_timer});
   }
 
   void TakeUpload() {
     const auto stream = SectionsToStream(App());
     Click(App().frmMain.CmdUpDow[controls::kUpload]);
-    line_.Drain(static_cast<int>(App().UploadCommandText.size()));
-    line_.Unit(std::string_view(stream).substr(0, kPartOfUpload));
+    port_.SendCharacters(static_cast<int>(App().UploadCommandText.size()));
+    port_.ReceiveFromUnit(std::string_view(stream).substr(0, kPartOfUpload));
     Take(Main(), QStringLiteral("remote_uploading"));
-    line_.Unit(std::string_view(stream).substr(kPartOfUpload));
+    port_.ReceiveFromUnit(std::string_view(stream).substr(kPartOfUpload));
     TakeForm(App().frmOK_buttom.form, QStringLiteral("transfer_end"));
     Click(App().frmOK_buttom.Command1);
   }
@@ -256,9 +256,9 @@ class Photographer {
     Click(App().frmMain.CmdUpDow[controls::kRemote]);
     Grant();
     Click(App().frmMain.CmdUpDow[controls::kDownload]);
-    line_.Drain(static_cast<int>(App().DownloadCommandText.size()));
-    line_.Unit({&kAck, 1});
-    line_.Drain(static_cast<int>(kPartOfUpload / 2));
+    port_.SendCharacters(static_cast<int>(App().DownloadCommandText.size()));
+    port_.ReceiveFromUnit({&kAck, 1});
+    port_.SendCharacters(static_cast<int>(kPartOfUpload / 2));
     Take(Main(), QStringLiteral("remote_downloading"));
     Click(App().frmMain.cmdDisConnect);
   }
@@ -282,7 +282,7 @@ class Photographer {
     help.Window()->close();
   }
 
-  // Where the keyboard is, for each kind of control.
+  // The focus, on each kind of control.
   void TakeFocus() {
     const auto& form = App().frmMain;
     struct Row {
@@ -310,23 +310,24 @@ class Photographer {
   void Click(controls::Button& button) { program_.Act(core::ClickEvent{&button}); }
 
   ui::Program& program_;
-  PlayedLine& line_;
+  SimulatedPort& port_;
   QDir folder_;
   core::Result saved_;
 };
 
-// A program of its own for each theme: what the first one did to its link would show in the other.
+// Each theme gets a program of its own, so that the state of the link in the first one does not show in the
+// second.
 core::Result SaveTheme(const QString& program_folder, const QString& store, const QString& folder) {
   ui::Program program(program_folder, store);
   auto& platform = program.Model().platform;
   platform.ask_file = [](const core::FileDialog&) { return std::optional<core::FileAnswer>(); };
   platform.clock = [] { return kPictureTime; };
-  PlayedLine line(program);
+  SimulatedPort port(program);
   QString why;
   platform.show_message = [&why](const core::MessageBox& box) { why = host::FromWindows1252(box.text); };
   if (program.Start() == core::Outcome::kEnded) return host::FailureOf(program_folder, why);
   platform.show_message = [](const core::MessageBox&) {};
-  Photographer photographer(program, line, QDir(folder));
+  Photographer photographer(program, port, QDir(folder));
   photographer.TakeAll();
   return photographer.Saved();
 }

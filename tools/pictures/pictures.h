@@ -1,4 +1,4 @@
-// Pictures of the windows, for people to look at.
+// Pictures of the windows for the documents.
 #pragma once
 
 #include <QString>
@@ -7,8 +7,8 @@
 
 namespace ovl::pictures {
 
-// Plays through the states of a program on a line of its own, with boxes left out, and writes a picture of
-// each into the folder, light and dark. Program folder and store are those of the program.
+// Starts a program on a simulated serial port without message boxes, brings it into its states and writes a
+// picture of each into the folder, light and dark. Program folder and store are those of the program.
 core::Result SavePictures(const QString& program_folder, const QString& store, const QString& folder);
 
 }  // namespace ovl::pictures

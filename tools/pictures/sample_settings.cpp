@@ -10,7 +10,8 @@
 namespace ovl::pictures {
 namespace {
 
-// Positions of the lists DISPLAY to OPERATOR, and the two values for firmware with short and long numbers.
+// The positions of the lists DISPLAY to OPERATOR, and the two values; they fit firmware with short numbers
+// too.
 struct SampleException {
   const char* text;
   std::array<int, 5> acts;
@@ -26,7 +27,7 @@ constexpr std::array kExceptionSamples = {
 };
 constexpr int kShownException = 2;
 
-// Positions of the lists ALARM TRIGGER, NORMAL STATE and ALARM DURATION.
+// The positions of the lists ALARM TRIGGER, NORMAL STATE and ALARM DURATION.
 struct SampleAlarm {
   std::array<int, 3> lists;
   const char* text;
@@ -120,7 +121,7 @@ void ShowSampleHistory(ui::Program& program) {
   ask = [&](const core::FileDialog&) { return core::FileAnswer{QFile::encodeName(path).toStdString()}; };
   program.Act(core::ClickEvent{&program.Model().frmMain.OpenHistory_menu});
   program.Model().platform.ask_file = usual;
-  // A path that is the same in every run.
+  // The caption must be the same in every run.
   program.Model().frmView.form.caption = "History.txt";
 }
 

@@ -1,4 +1,4 @@
-// Settings as an installer might have made them, so that pictures show panels in use.
+// Sample settings of an installer, so that the pictures show panels in use.
 #pragma once
 
 #include "ui/kit/bindings.h"
@@ -9,10 +9,10 @@ class Program;
 
 namespace ovl::pictures {
 
-// Everything is set by acts as of a person; a firmware that lacks a list refuses it.
+// Makes the settings by the same events as a user; a firmware without a list refuses its events.
 void MakeSampleSettings(ui::Program& program);
 
-// Opens a history in the viewer, in a file that is gone afterwards.
+// Opens a history in the viewer, from a file that is deleted afterwards.
 void ShowSampleHistory(ui::Program& program);
 
 }  // namespace ovl::pictures

@@ -12,7 +12,7 @@
 namespace ovl::ui {
 namespace {
 
-// A folder that nobody put pages into must not hide those of the program.
+// An empty folder must not hide the pages of the program.
 QString PagesFolder(const QString& program_folder) {
   const auto own = QDir(program_folder).filePath(QStringLiteral("Help"));
   return QDir(own).exists(QStringLiteral("contents.md")) ? own : kEmbeddedHelp;
@@ -37,7 +37,7 @@ QString HelpDesk::PageInFront() const {
 
 void HelpDesk::OpenPageInFront() {
   const auto page = PageInFront();
-  // A box holds back every window but its own.
+  // A message box blocks all windows but those that it owns.
   auto* modal = QApplication::activeModalWidget();
   QWidget* parent = modal != nullptr ? modal : &main_;
   if (window_ == nullptr || window_->parentWidget() != parent) {

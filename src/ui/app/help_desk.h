@@ -1,4 +1,4 @@
-// F1 anywhere, and the Help menu: which page is wanted, and the window that shows it.
+// Handles F1 and the Help menu: chooses the help page and opens the help window.
 #pragma once
 
 #include <QObject>
@@ -13,16 +13,16 @@ class MainWindow;
 
 class HelpDesk : public QObject {
  public:
-  // A folder "Help" in the program folder takes the place of the pages in the program.
+  // The pages of a folder "Help" in the program folder replace the pages of the program.
   HelpDesk(MainWindow& main, const QString& program_folder);
 
-  // The page of what is in front: a tab, a window, a message box.
+  // The page for the current tab, window or message box.
   QString PageInFront() const;
   void OpenPageInFront();
 
   const HelpPages& Pages() const { return pages_; }
 
-  // None before help was first asked for, and after it was closed.
+  // Null until the user opens the help, and after the user has closed it.
   HelpWindow* Window() const { return window_; }
 
   bool eventFilter(QObject* watched, QEvent* event) override;

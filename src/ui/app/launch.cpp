@@ -7,7 +7,7 @@
 namespace ovl::ui {
 namespace {
 
-void SayNoDisplay(QtMsgType type, const QMessageLogContext&, const QString& text) {
+void ReportNoDisplay(QtMsgType type, const QMessageLogContext&, const QString& text) {
   if (type != QtFatalMsg) {
     std::cerr << "ovl: " << text.toLocal8Bit().constData() << std::endl;
     return;
@@ -38,16 +38,16 @@ void CommandLine::AddOption(const QString& option, const QString& value, const Q
   parser_.addOption({option, description, value});
 }
 
-void CommandLine::AddWord(const QString& word, const QString& description) {
+void CommandLine::AddArgument(const QString& word, const QString& description) {
   parser_.addPositionalArgument(word, description);
-  ++words_;
+  ++arguments_;
 }
 
 std::optional<int> CommandLine::Read(int& argc, char** argv) {
   const bool understood = parser_.parse(WordsOf(argc, argv));
   const bool help = understood && parser_.isSet(QStringLiteral("help"));
-  if (understood && !help && parser_.positionalArguments().size() == words_) return std::nullopt;
-  // The help text names the program, which only an application object knows.
+  if (understood && !help && parser_.positionalArguments().size() == arguments_) return std::nullopt;
+  // The help text contains the name of the program, which only an application object knows.
   const QCoreApplication application(argc, argv);
   if (help) {
     std::cout << parser_.helpText().toLocal8Bit().constData();
@@ -61,7 +61,7 @@ std::optional<int> CommandLine::Read(int& argc, char** argv) {
 }
 
 DisplayMessage::DisplayMessage() {
-  qInstallMessageHandler(SayNoDisplay);
+  qInstallMessageHandler(ReportNoDisplay);
 }
 
 DisplayMessage::~DisplayMessage() {

@@ -1,5 +1,5 @@
-// What every program with windows does on its way to the first one: the options that say where it works, and
-// the words for a machine without a display.
+// What every program with windows does before it opens its first window: it reads the command line, and it
+// prints a message when there is no display.
 #pragma once
 
 #include <QCommandLineParser>
@@ -10,34 +10,34 @@ namespace ovl::ui {
 
 inline constexpr int kWrongUsage = 2;  // exit status
 
-// The command line of a program. `--folder` and `--store` are there from the start.
+// The command line of a program. The options `--folder` and `--store` always exist.
 class CommandLine {
  public:
-  // `name` stands in front of error messages.
+  // `name` is the start of error messages.
   CommandLine(const QString& name, const QString& description);
 
   void AddOption(const QString& option, const QString& value, const QString& description);
-  // A word that must be there, such as "FOLDER".
-  void AddWord(const QString& word, const QString& description);
+  // Adds an argument that must be given, such as "FOLDER".
+  void AddArgument(const QString& word, const QString& description);
 
-  // The exit status when the program has nothing more to do: help was asked for, or the words are wrong.
-  // Needs no application object.
+  // Reads the command line. Returns the exit status when the program must end: help was asked for, or the
+  // arguments are wrong. Needs no application object.
   std::optional<int> Read(int& argc, char** argv);
 
   QString Folder() const { return parser_.value(QStringLiteral("folder")); }
   QString Store() const { return parser_.value(QStringLiteral("store")); }
-  // Empty if the option was not given.
+  // Empty if the option is not given.
   QString Value(const QString& option) const { return parser_.value(option); }
-  QString Word() const { return parser_.positionalArguments().value(0); }
+  QString Argument() const { return parser_.positionalArguments().value(0); }
 
  private:
   QCommandLineParser parser_;
   QString name_;
-  qsizetype words_ = 0;
+  qsizetype arguments_ = 0;
 };
 
-// For the time in which the application object is made: without a display Qt ends the process, and the reason
-// goes to standard error in words of our own.
+// Without a display Qt ends the process while the application object is made. As long as this object lives,
+// the program prints the reason to standard error first.
 class DisplayMessage {
  public:
   DisplayMessage();
@@ -46,7 +46,7 @@ class DisplayMessage {
   DisplayMessage& operator=(const DisplayMessage&) = delete;
 };
 
-// Sets the names that Qt looks up for the desktop and for folders.
+// Sets the names that Qt uses for the desktop and for folders.
 void NameApplication();
 
 }  // namespace ovl::ui

@@ -20,7 +20,7 @@ const QString kDescription = QStringLiteral(
     "\n"
     "Exit status: 0 done; 1 the program could not start or the guide could not be written; 2 wrong usage.");
 
-// Nothing when there is no folder to work in.
+// Empty when there is no folder to work in.
 std::optional<QString> FindFolder(const QString& given) {
   try {
     return ovl::host::ProgramFolder(given);

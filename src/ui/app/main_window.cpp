@@ -9,20 +9,22 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "host/text_codec.h"
 #include "ui/app/status_strip.h"
 #include "ui/dialogs/changes_window.h"
+#include "ui/kit/box_layouts.h"
 #include "ui/pages/pages.h"
 
 namespace ovl::ui {
 namespace {
 
-constexpr QSize kLeastSize(640, 360);  // the pages scroll
+constexpr QSize kLeastSize(640, 360);  // smaller pages scroll
 
-// Another control may stand in the place of the one that had the focus by now.
-void FocusFrom(QWidget& start) {
+// Sets the focus to the first usable widget from here on: the widget that had the focus may be hidden now.
+void FocusFirstUsable(QWidget& start) {
   auto* widget = &start;
   do {
     if (widget->isVisible() && widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus) != 0)
@@ -70,22 +72,21 @@ void MainWindow::BuildTabs() {
   setCentralWidget(tabs_);
   BuildPage(model.current);
   connect(tabs_, &QTabWidget::currentChanged, this, [this](int current) {
-    if (BuildPage(current) && page_added) page_added();
+    if (BuildPage(current) && page_built) page_built();
     status_->ShowTab(current);
     RenewMnemonics();
   });
-  FollowTabs();
+  BindTabs();
 }
 
 bool MainWindow::BuildPage(int tab) {
   auto* holder = tabs_->widget(tab);
   if (holder->layout() != nullptr) return false;
-  auto* down = new QVBoxLayout(holder);
-  down->setContentsMargins(0, 0, 0, 0);
+  auto* down = LayOutDown(*holder);
   auto* page = kPages.at(static_cast<std::size_t>(tab))(bindings_);
   down->addWidget(page);
   page->show();
-  // What comes later stands at the end of the focus chain; the button of the status bar stays the last stop.
+  // New widgets are added at the end of the focus chain. The button of the status bar must stay the last one.
   if (changes_button_ == nullptr) return true;
   auto* last = previousInFocusChain();
   while (last != changes_button_ && (last->focusPolicy() & Qt::TabFocus) == 0)
@@ -101,9 +102,9 @@ bool MainWindow::BuildNextPage() {
   return false;
 }
 
-void MainWindow::FollowTabs() {
+void MainWindow::BindTabs() {
   const auto& model = bindings_.Model().frmMain.SSTab1;
-  bindings_.Follow([this, &model, captions = ChangeDetector<std::vector<std::string>>()]() mutable {
+  bindings_.OnRefresh([this, &model, captions = ChangeDetector<std::vector<std::string>>()]() mutable {
     if (!captions.Update(model.captions)) return false;
     for (int at = 0; at < tabs_->count(); ++at) {
       const auto caption = host::FromWindows1252(model.captions.at(static_cast<std::size_t>(at)));
@@ -112,7 +113,7 @@ void MainWindow::FollowTabs() {
     }
     return true;
   });
-  bindings_.Follow([this, &model, current = ChangeDetector<int>()]() mutable {
+  bindings_.OnRefresh([this, &model, current = ChangeDetector<int>()]() mutable {
     if (current.Update(model.current)) tabs_->setCurrentIndex(model.current);
     return false;
   });
@@ -140,8 +141,9 @@ void MainWindow::BuildVersionMenu() {
   for (auto& family : form.version_families) {
     auto* menu = bindings_.SubMenu(*version, family.parent);
     for (const auto item : family.items) bindings_.Item(*menu, form.version_items.at(item));
-    // The family of the running firmware is marked as well, so that it is found without opening them all.
-    bindings_.Follow([menu, &form, &family, marked = ChangeDetector<bool>()]() mutable {
+    // The family of the current firmware is checked too, so that the user finds it without opening every
+    // family.
+    bindings_.OnRefresh([menu, &form, &family, marked = ChangeDetector<bool>()]() mutable {
       const bool runs = std::any_of(family.items.begin(), family.items.end(), [&form](std::size_t item) {
         return form.version_items.at(item).checked;
       });
@@ -153,9 +155,9 @@ void MainWindow::BuildVersionMenu() {
   }
 }
 
-bool MainWindow::Follow() {
+bool MainWindow::ShowAsModelSays() {
   const auto& form = bindings_.Model().frmMain.form;
-  FollowEnabled();
+  EnableAsModelSays();
   const bool on_screen = form.loaded && form.visible;
   if (on_screen == isVisible()) return false;
   setVisible(on_screen);
@@ -163,15 +165,15 @@ bool MainWindow::Follow() {
   return true;
 }
 
-void MainWindow::FollowEnabled() {
+void MainWindow::EnableAsModelSays() {
   const auto& form = bindings_.Model().frmMain.form;
   if (!enabled_.Update(form.enabled)) return;
   if (!form.enabled) last_focus_ = focusWidget();
-  // Not the window as a whole: that would disable the windows over it as well.
+  // The window itself stays enabled: otherwise its child windows would be disabled too.
   menuBar()->setEnabled(form.enabled);
   tabs_->setEnabled(form.enabled);
   changes_button_->setEnabled(form.enabled);
-  if (form.enabled && last_focus_ != nullptr) FocusFrom(*last_focus_);
+  if (form.enabled && last_focus_ != nullptr) FocusFirstUsable(*last_focus_);
 }
 
 void MainWindow::RenewMnemonics() {
@@ -181,7 +183,7 @@ void MainWindow::RenewMnemonics() {
 
 void MainWindow::paintEvent(QPaintEvent* event) {
   QMainWindow::paintEvent(event);
-  if (seen) std::exchange(seen, nullptr)();
+  if (first_painted) std::exchange(first_painted, nullptr)();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
@@ -192,7 +194,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 void MainWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   const bool activated = event->type() == QEvent::ActivationChange && isActiveWindow();
-  if (activated && !bindings_.Model().frmMain.form.enabled && held_back) held_back();
+  if (activated && !bindings_.Model().frmMain.form.enabled && activated_while_blocked)
+    activated_while_blocked();
 }
 
 }  // namespace ovl::ui

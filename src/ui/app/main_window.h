@@ -1,5 +1,5 @@
-// The main window: menus, seven tabs, status bar. A tab's page is built when it is first looked at or, before
-// that, when the program has nothing else to do: all of them at once would hold up every start.
+// The main window: menus, seven tabs, status bar. The page of a tab is built when the user first opens it, or
+// before that when the program is idle. Building all pages at once would delay every start.
 #pragma once
 
 #include <QMainWindow>
@@ -18,7 +18,7 @@ class StatusStrip;
 
 class MainWindow : public QMainWindow {
  public:
-  // What it takes of a screen that has the room.
+  // The size on a screen that has room for it.
   static constexpr QSize kStartSize{1040, 700};
 
   explicit MainWindow(Bindings& bindings);
@@ -28,23 +28,23 @@ class MainWindow : public QMainWindow {
   ChangesWindow& Changes() const { return *changes_; }
   QMenu& HelpMenu() const { return *help_menu_; }
 
-  // Builds the next page that does not stand yet; false when all stand.
+  // Builds the next missing page; false when there is none.
   bool BuildNextPage();
 
-  // Shows, hides, enables the window as the model says. True when it came or went.
-  bool Follow();
+  // Shows, hides, enables or disables the window as the model says. True when it was shown or hidden.
+  bool ShowAsModelSays();
 
-  // Gives out the underlined letters anew, after something was shown, hidden or renamed.
+  // Chooses the underlined letters again, after something was shown, hidden or renamed.
   void RenewMnemonics();
 
-  // What a person should look at while this window is held back by another one.
-  std::function<void()> held_back;
+  // Called when the user activates this window while another one blocks it.
+  std::function<void()> activated_while_blocked;
 
-  // A page was built because somebody looks at it: it must be brought up to the model at once.
-  std::function<void()> page_added;
+  // Called after a page was built because the user opened its tab: it must be refreshed at once.
+  std::function<void()> page_built;
 
-  // Runs once, after the window has been on the screen for the first time.
-  std::function<void()> seen;
+  // Called once, after the window was first painted.
+  std::function<void()> first_painted;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -54,10 +54,10 @@ class MainWindow : public QMainWindow {
  private:
   void BuildTabs();
   bool BuildPage(int tab);
-  void FollowTabs();
+  void BindTabs();
   void BuildMenus();
   void BuildVersionMenu();
-  void FollowEnabled();
+  void EnableAsModelSays();
 
   Bindings& bindings_;
   QTabWidget* tabs_;

@@ -1,7 +1,8 @@
 #include "ui/app/program.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QFile>
+#include <cstdlib>
 
 #include "changes/also_stored.h"
 #include "host/system_clock.h"
@@ -30,9 +31,9 @@ Program::Program(QString folder, QString store_folder)
   FillPlatform();
 }
 
-// Windows on their way out still tell of lost focus; there is nothing left for it to change.
+// Windows report a lost focus while they are destroyed. The model must not handle it any more.
 Program::~Program() {
-  if (unsaved_ && !app_.ended) unsaved_->Drop();
+  if (unsaved_ && !app_.ended) unsaved_->Remove();
   const auto going = std::move(windows_);
   app_.ended = true;
 }
@@ -62,7 +63,7 @@ void Program::FillPlatform() {
     return kept;
   };
   platform.clock = host::LocalClockTime;
-  // The form remembers the request itself, and its window follows when it is shown.
+  // Nothing to do: the form keeps the request, and its window reads it when it opens.
   platform.SetWindowPos = [](std::string_view) {};
   platform.serial = port_.Operations();
 }
@@ -74,7 +75,7 @@ core::Outcome Program::Start() {
   windows_->Main().Status().port_problem = [this] { return port_.LastProblem(); };
   CollectTimers();
   RefreshNow();
-  Follow(outcome);
+  AfterEvent(outcome);
   return outcome;
 }
 
@@ -107,13 +108,14 @@ void Program::CollectTimers() {
 
 core::Outcome Program::Act(const core::Event& event) {
   const auto outcome =
-      windows_ && !app_.handling && changes::IsAct(event) ? ActAndTell(event) : Dispatch(app_, event);
-  if (unsaved_ && outcome == core::Outcome::kEnded) IsLeaving(event) ? unsaved_->Drop() : unsaved_->Keep();
-  Follow(outcome);
+      windows_ && !app_.handling && changes::IsAct(event) ? DispatchUserAct(event) : Dispatch(app_, event);
+  if (unsaved_ && outcome == core::Outcome::kEnded)
+    IsLeaving(event) ? unsaved_->Remove() : unsaved_->WriteNow();
+  AfterEvent(outcome);
   return outcome;
 }
 
-// Whether a person leaves by it, and not a file or an upload that ends the program.
+// True when the user ends the program, false when a file or an upload ends it.
 bool Program::IsLeaving(const core::Event& event) {
   const auto& main = app_.frmMain;
   if (const auto* close = std::get_if<core::CloseEvent>(&event)) return close->form == &main.form;
@@ -121,30 +123,30 @@ bool Program::IsLeaving(const core::Event& event) {
   return click != nullptr && click->control == controls::ControlRef(&app_.frmMain.menuExit);
 }
 
-core::Outcome Program::ActAndTell(const core::Event& event) {
+core::Outcome Program::DispatchUserAct(const core::Event& event) {
   const auto before = app_.image;
   const auto outcome = Dispatch(app_, event);
   if (outcome == core::Outcome::kDone) {
-    windows_->SetQuietLine(host::FromWindows1252(changes::AlsoStored(app_, event, before)));
+    windows_->SetAlsoStored(host::FromWindows1252(changes::AlsoStored(app_, event, before)));
   }
   return outcome;
 }
 
-// After the outermost handler. An event that met a running one changes nothing but has to be taken back on
-// the screen.
-void Program::Follow(core::Outcome outcome) {
+// Runs after every event. An event during a running handler changes nothing in the model, but the screen must
+// go back to the state of the model.
+void Program::AfterEvent(core::Outcome outcome) {
   if (app_.handling) {
     frame_.start();
     return;
   }
   if (outcome == core::Outcome::kEnded) return End();
   port_.Resume();
-  for (auto& timer : timers_) FollowTimer(timer);
-  if (windows_ && windows_->FormsMoved()) return RefreshNow();
+  for (auto& timer : timers_) UpdateTimer(timer);
+  if (windows_ && windows_->HasFormsToShowOrHide()) return RefreshNow();
   if (!frame_.isActive()) frame_.start();
 }
 
-void Program::FollowTimer(TimerState& timer) {
+void Program::UpdateTimer(TimerState& timer) {
   const auto& model = *timer.model;
   if (!model.enabled) return timer.clock->stop();
   const bool runs =
@@ -155,7 +157,7 @@ void Program::FollowTimer(TimerState& timer) {
   timer.clock->start(model.interval);
 }
 
-// What the line has told by now comes first. A tick that meets a running handler is lost.
+// Characters that have already arrived are handled before the tick. A tick during a running handler is lost.
 void Program::Tick(controls::Timer& timer) {
   if (!app_.handling) port_.DeliverPending();
   Act(core::TickEvent{&timer});
@@ -165,7 +167,7 @@ void Program::RefreshNow() {
   frame_.stop();
   if (!windows_ || app_.ended) return;
   windows_->Refresh();
-  if (unsaved_) unsaved_->Follow();
+  if (unsaved_) unsaved_->WriteSoonIfChanged();
 }
 
 void Program::End() {
@@ -175,7 +177,7 @@ void Program::End() {
   QCoreApplication::exit(EXIT_SUCCESS);
 }
 
-// What the words of a box do not tell.
+// The reason from the system that the text of the box does not contain.
 QString Program::BoxDetail(const core::MessageBox& box) const {
   if (!store_problem_.empty()) return host::FromSystem(store_problem_);
   return box.tells_note ? host::FromSystem(app_.StatusNote) : QString();

@@ -1,5 +1,4 @@
-// The program: the model, the machine it runs on, and the windows over it. Every event, whoever it comes
-// from, goes through Act.
+// The program: the model, the machine it runs on, and the windows. Every event goes through Act.
 #pragma once
 
 #include <QString>
@@ -15,32 +14,33 @@
 
 namespace ovl::ui {
 
-// Lives in the event loop of the toolkit's application object, which must outlive it.
+// Needs the event loop of the QApplication object, which must outlive it.
 class Program {
  public:
-  // An empty store folder means the machine's own settings. Fills the model's platform record; whoever wants
-  // other parts in it replaces them ahead of the start.
+  // With an empty store folder it uses the settings of the machine. It fills the platform record of the
+  // model; a caller that needs other functions there replaces them before the start.
   Program(QString folder, QString store_folder);
   ~Program();
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
 
-  // Starts the model, builds the windows and shows them. kEnded: the program told why and is over.
+  // Starts the model, builds the windows and shows them. kEnded: the program has shown the reason and must
+  // end.
   core::Outcome Start();
 
-  // For the program that a person works in, once it has started: names what an earlier run left, and keeps a
-  // copy of the changes from now on.
+  // Called once after the start of a program that a user works with. It reports the copies of earlier runs
+  // and keeps a copy of the changes from now on.
   void GuardUnsaved();
 
-  // Hands one event to the model and follows what it led to. When the program ends by it, the windows go at
-  // once and the event loop is told to stop.
+  // Passes one event to the model and updates the screen, the timers and the port. When the program ends by
+  // it, the windows close at once and the event loop ends.
   core::Outcome Act(const core::Event& event);
 
-  // Shows the model as it is now, without waiting for the next frame.
+  // Updates the screen now and does not wait for the next frame.
   void RefreshNow();
 
   core::Application& Model() { return app_; }
-  // Only after a start that did not end the program.
+  // Valid only after a start that did not end the program.
   Windows& OnScreen() { return *windows_; }
 
  private:
@@ -53,10 +53,10 @@ class Program {
 
   void FillPlatform();
   bool IsLeaving(const core::Event& event);
-  core::Outcome ActAndTell(const core::Event& event);
+  core::Outcome DispatchUserAct(const core::Event& event);
   void CollectTimers();
-  void Follow(core::Outcome outcome);
-  void FollowTimer(TimerState& timer);
+  void AfterEvent(core::Outcome outcome);
+  void UpdateTimer(TimerState& timer);
   void Tick(controls::Timer& timer);
   void End();
   QString BoxDetail(const core::MessageBox& box) const;

@@ -6,9 +6,11 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <array>
 
 #include "host/comports.h"
 #include "host/text_codec.h"
+#include "ui/kit/box_layouts.h"
 #include "ui/kit/theme.h"
 
 namespace ovl::ui {
@@ -58,8 +60,8 @@ StateDot::StateDot(QWidget* parent) : QWidget(parent) {
   setFixedSize(kDotSize, kDotSize);
 }
 
-void StateDot::Set(LinkPicture picture) {
-  picture_ = picture;
+void StateDot::Set(LinkState state) {
+  link_state_ = state;
   update();
 }
 
@@ -67,15 +69,15 @@ void StateDot::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF circle = QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5);
-  switch (picture_) {
-    case LinkPicture::kClosed:
+  switch (link_state_) {
+    case LinkState::kClosed:
       painter.setPen(QPen(MutedColor(palette()), 2, Qt::SolidLine, Qt::RoundCap));
       painter.drawLine(QPointF(circle.left(), circle.center().y()),
                        QPointF(circle.right(), circle.center().y()));
       break;
-    case LinkPicture::kOpen:
-    case LinkPicture::kAsked:
-    case LinkPicture::kScanning:
+    case LinkState::kOpen:
+    case LinkState::kAsked:
+    case LinkState::kScanning:
       painter.setPen(QPen(palette().color(QPalette::WindowText), 1.6));
       painter.drawEllipse(circle);
       break;
@@ -112,12 +114,16 @@ StatusStrip::StatusStrip(Bindings& bindings)
     hint_.clear();
     note_->SetText(Note());
   });
-  bindings.Follow(
-      [this, picture = ChangeDetector<LinkPicture>(), port = ChangeDetector<std::string>()]() mutable {
-        const auto now = LinkPictureOf(app_);
-        if (picture.Update(now)) {
+  BindContent(bindings);
+}
+
+void StatusStrip::BindContent(Bindings& bindings) {
+  bindings.OnRefresh(
+      [this, link = ChangeDetector<LinkState>(), port = ChangeDetector<std::string>()]() mutable {
+        const auto now = LinkStateOf(app_);
+        if (link.Update(now)) {
           dot_->Set(now);
-          state_->setText(WordOf(now));
+          state_->setText(LinkStateText(now));
         }
         const auto& comm = app_.frmMain.MSComm1;
         const auto opened = comm.PortOpen ? comm.Settings : std::string();
@@ -131,8 +137,7 @@ QWidget* StatusStrip::FirmwareLabels(Bindings& bindings) {
   const auto& form = bindings.Model().frmMain;
   for (std::size_t tab = 0; tab < form.lbVersionID.size(); ++tab) {
     auto* page = new QWidget;
-    auto* across = new QHBoxLayout(page);
-    across->setContentsMargins(0, 0, 0, 0);
+    auto* across = LayOutAcross(*page);
     const auto name = "lbVersionID(" + std::to_string(tab) + ")";
     across->addWidget(bindings.Make(bindings.Named(form.form, name), QStringLiteral("Firmware")));
     firmware_->addWidget(page);
@@ -157,7 +162,7 @@ void StatusStrip::ShowHint(const QString& hint) {
 }
 
 void StatusStrip::ShowTab(int tab) {
-  // The labels of the tabs stand in the order 0, 1, 2, 5, 4, 6, 3.
+  // The order of the labels differs from that of the tabs.
   constexpr std::array kLabelOfTab{0, 1, 2, 5, 4, 6, 3};
   firmware_->setCurrentIndex(kLabelOfTab.at(static_cast<std::size_t>(tab)));
 }

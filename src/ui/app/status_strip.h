@@ -1,4 +1,4 @@
-// The status bar's content: remote state, port, what last went wrong, firmware.
+// The content of the status bar: state of remote mode, serial port, last problem, firmware.
 #pragma once
 
 #include <QTimer>
@@ -12,7 +12,7 @@ class QStackedWidget;
 
 namespace ovl::ui {
 
-// One line of text, cut at its end where the room is too small; the whole text is its tool tip then.
+// One line of text. Where it does not fit, its end is cut and the tool tip shows the whole text.
 class CutLabel : public QWidget {
  public:
   explicit CutLabel(QWidget* parent = nullptr);
@@ -31,46 +31,47 @@ class CutLabel : public QWidget {
   QString text_;
 };
 
-// The state of remote mode by form: a full dot, a ring, or a dash.
+// Shows the state of remote mode by its shape: a dot, a ring, or a dash.
 class StateDot : public QWidget {
  public:
   explicit StateDot(QWidget* parent = nullptr);
 
-  void Set(LinkPicture picture);
+  void Set(LinkState state);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  LinkPicture picture_ = LinkPicture::kClosed;
+  LinkState link_state_ = LinkState::kClosed;
 };
 
 class StatusStrip : public QWidget {
  public:
   explicit StatusStrip(Bindings& bindings);
 
-  // What last went wrong with the port, as the port layer tells it.
+  // The last problem of the serial port, as the port reports it.
   std::function<QString()> port_problem;
 
-  // Stands where nothing more urgent is to be told.
+  // The status bar shows this text when it has no hint and no problem to show.
   void SetNotice(const QString& notice) { notice_ = notice; }
 
-  // A passing word in the place of what last went wrong.
+  // Shows a hint for a few seconds, instead of the last problem.
   void ShowHint(const QString& hint);
 
-  // The bar is as high with a button as without one.
+  // The height of the line; it is the same with and without a button.
   static int LineHeight(const QWidget& widget);
 
-  // A button that stands before the firmware.
+  // Adds a button in front of the firmware.
   void AddButton(QPushButton* button);
 
-  // Each tab has its own label of the firmware.
+  // Each tab has its own label for the firmware.
   void ShowTab(int tab);
 
  private:
   QString Note() const;
   QString PortText() const;
   QWidget* FirmwareLabels(Bindings& bindings);
+  void BindContent(Bindings& bindings);
 
   const core::Application& app_;
   StateDot* dot_;

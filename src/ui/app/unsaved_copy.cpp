@@ -19,7 +19,7 @@ QString NameOf(QLatin1String what, const QString& firmware, int number) {
   return QStringLiteral("%1 %2 %3.bin").arg(what, firmware).arg(number);
 }
 
-// A lock is free once its process is gone, however long it has stood.
+// A lock never becomes stale by its age, only by the end of its process.
 std::unique_ptr<QLockFile> Lock(const QString& path) {
   auto lock = std::make_unique<QLockFile>(path + QStringLiteral(".lock"));
   lock->setStaleLockTime(0);
@@ -31,7 +31,7 @@ int FreeNumber(const QDir& folder, QLatin1String what, const QString& firmware, 
   return from;
 }
 
-// A lock tells no reason.
+// QLockFile does not report why it cannot create a file, so this tries it with a file.
 QString WhyNotCreated(const QString& path) {
   QFile file(path);
   if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) return file.errorString();
@@ -57,10 +57,10 @@ QStringList RescueCopies(const QString& folder) {
 UnsavedCopy::UnsavedCopy(const core::Application& app, const QString& folder) : app_(app), folder_(folder) {
   soon_.setSingleShot(true);
   soon_.setInterval(kSoon);
-  soon_.callOnTimeout([this] { Keep(); });
+  soon_.callOnTimeout([this] { WriteNow(); });
 }
 
-// A name that nothing has and nobody else is about to take.
+// Takes a name that no file has and no other program is about to take.
 bool UnsavedCopy::TakeName() {
   constexpr int kNamesToTry = 100;
   const auto firmware = host::FromWindows1252(app_.firmware.Joined());
@@ -76,13 +76,13 @@ bool UnsavedCopy::TakeName() {
   return lock_ != nullptr;
 }
 
-void UnsavedCopy::Follow() {
+void UnsavedCopy::WriteSoonIfChanged() {
   if (seen_.Update(app_.image) && !soon_.isActive()) soon_.start();
 }
 
-void UnsavedCopy::Keep() {
+void UnsavedCopy::WriteNow() {
   soon_.stop();
-  if (app_.image == app_.known_image) return Drop();
+  if (app_.image == app_.known_image) return Remove();
   if (!TakeName()) return Report(host::FailureOf(path_, WhyNotCreated(path_)));
   try {
     files::WriteWhole(QFile::encodeName(path_).toStdString(), ReopenableStream(app_) + "\r\n");
@@ -96,7 +96,7 @@ void UnsavedCopy::Report(const core::Result& written) const {
   if (report) report(written);
 }
 
-void UnsavedCopy::Drop() {
+void UnsavedCopy::Remove() {
   soon_.stop();
   if (lock_ == nullptr) return;
   QFile::remove(path_);

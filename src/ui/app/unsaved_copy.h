@@ -1,5 +1,5 @@
-// A copy of what is in the program and perhaps nowhere else, for the case that the program is ended from
-// outside: its display goes away, the machine is switched off, somebody kills it.
+// Keeps a copy of unsaved changes in case the program is ended from outside: the display closes, the machine
+// is switched off, the process is killed.
 #pragma once
 
 #include <QDir>
@@ -14,26 +14,26 @@
 
 namespace ovl::ui {
 
-// Gives the copies that ended programs left in the folder lasting names ("rescued V1400R12 1.bin": the
-// firmware under which File > Open reads them). Copies of programs that still run are locked. Returns the new
-// names.
+// Renames the copies that ended programs have left in the folder to lasting names, such as "rescued V1400R12
+// 1.bin" with the firmware that can open it. The copies of running programs are locked and stay. Returns the
+// new names.
 QStringList RescueCopies(const QString& folder);
 
 class UnsavedCopy {
  public:
-  // The copy stands in the folder under a name that is this object's as long as it is locked. The application
-  // object must outlive this.
+  // The copy has a name of its own in the folder, which a lock protects. The application object must outlive
+  // this object.
   UnsavedCopy(const core::Application& app, const QString& folder);
 
-  // Has the copy written soon if the image is another one by now, or taken away once nothing differs from
-  // what was last loaded.
-  void Follow();
+  // Starts the timer for writing when the image has changed. The copy is removed instead when the image
+  // equals what was last loaded.
+  void WriteSoonIfChanged();
 
-  // Writes the copy at once, or takes it away.
-  void Keep();
+  // Writes the copy now; removes it when there are no unsaved changes.
+  void WriteNow();
 
-  // The program ends as the person wanted: no copy is left.
-  void Drop();
+  // Removes the copy, because the user has ended the program.
+  void Remove();
 
   // Called after every attempt to write the copy.
   std::function<void(const core::Result& written)> report;

@@ -18,11 +18,11 @@
 namespace ovl::ui {
 namespace {
 
-constexpr int kNesting = 12;  // layouts within layouts, at the most
+constexpr int kNesting = 12;  // the largest depth of nested layouts
 
-// Layouts learn of a change from the inside out, one level in each round of events. Settled at once, no state
-// on the way is painted.
-void SettleLayouts() {
+// A layout passes a change on to the layout around it, one level for each round of events. All rounds run
+// here, so that no state in between is painted.
+void ApplyLayoutRequests() {
   for (int level = 0; level < kNesting; ++level) {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
   }
@@ -47,9 +47,9 @@ Windows::Windows(core::Application& app, ActFunction act)
     if (app_.ended || !BuildNext()) return idle_.stop();
     Refresh();
   });
-  main_->page_added = [this] { Refresh(); };
-  main_->seen = [this] { idle_.start(0); };
-  main_->held_back = [this] {
+  main_->page_built = [this] { Refresh(); };
+  main_->first_painted = [this] { idle_.start(0); };
+  main_->activated_while_blocked = [this] {
     if (auto* front = Front(); front != main_.get()) front->activateWindow();
   };
   FillHelpMenu();
@@ -72,17 +72,17 @@ void Windows::FillHelpMenu() {
   bindings_.Item(menu, app_.frmMain.menuAbout);
 }
 
-void Windows::Build(Follower& form) {
+void Windows::Build(SmallWindow& form) {
   building_ = true;
   form.window = form.build(bindings_, main_.get());
   building_ = false;
-  if (form.beside) form.window->StandBeside();
+  if (form.modeless) form.window->OpenBesideParent();
 }
 
 bool Windows::BuildNext() {
   if (main_->BuildNextPage()) return true;
-  const auto missing =
-      std::find_if(forms_.begin(), forms_.end(), [](const Follower& form) { return form.window == nullptr; });
+  const auto missing = std::find_if(forms_.begin(), forms_.end(),
+                                    [](const SmallWindow& form) { return form.window == nullptr; });
   if (missing == forms_.end()) return false;
   Build(*missing);
   return true;
@@ -101,7 +101,7 @@ void Windows::Refresh() {
   const bool reshaped = bindings_.Refresh();
   if (reshaped) RenewMnemonics();
   ShowForms();
-  if (reshaped) SettleLayouts();
+  if (reshaped) ApplyLayoutRequests();
 }
 
 void Windows::RenewMnemonics() {
@@ -112,22 +112,22 @@ void Windows::RenewMnemonics() {
 }
 
 void Windows::ShowForms() {
-  main_->Follow();
+  main_->ShowAsModelSays();
   for (auto& form : forms_) {
     if (form.window == nullptr) continue;
-    form.window->Follow();
-    form.focus.Follow(bindings_, form.form);
+    form.window->ShowAsModelSays();
+    form.focus.MoveFocusAsAsked(bindings_, form.form);
   }
-  main_focus_.Follow(bindings_, app_.frmMain.form);
+  main_focus_.MoveFocusAsAsked(bindings_, app_.frmMain.form);
 }
 
-bool Windows::FormsMoved() const {
+bool Windows::HasFormsToShowOrHide() const {
   const auto moved = [](const QWidget* window, const controls::Form& form) {
     return (window != nullptr && window->isVisible()) != (form.loaded && form.visible);
   };
   return moved(main_.get(), app_.frmMain.form) ||
          std::any_of(forms_.begin(), forms_.end(),
-                     [&](const Follower& form) { return moved(form.window, form.form); });
+                     [&](const SmallWindow& form) { return moved(form.window, form.form); });
 }
 
 void Windows::HideAll() {
@@ -140,14 +140,14 @@ void Windows::HideAll() {
 QWidget* Windows::Front() const {
   for (const auto& form : forms_) {
     if (form.window == nullptr || !form.window->isVisible()) continue;
-    if (!form.beside || form.window->isActiveWindow()) return form.window;
+    if (!form.modeless || form.window->isActiveWindow()) return form.window;
   }
   return main_.get();
 }
 
 FormWindow* Windows::WindowOf(const controls::Form& form) {
   const auto found =
-      std::find_if(forms_.begin(), forms_.end(), [&](const Follower& at) { return &at.form == &form; });
+      std::find_if(forms_.begin(), forms_.end(), [&](const SmallWindow& at) { return &at.form == &form; });
   if (found == forms_.end()) return nullptr;
   if (found->window == nullptr) {
     Build(*found);

@@ -1,9 +1,8 @@
-// All windows of the program over one model.
+// All windows of the program for one model.
 #pragma once
 
 #include <QTimer>
 #include <memory>
-#include <utility>
 #include <vector>
 
 #include "ui/app/help_desk.h"
@@ -15,48 +14,48 @@ namespace ovl::ui {
 
 class Windows {
  public:
-  // The model must have been started: menus and lists are complete.
+  // The model must be started already, so that menus and lists are complete.
   Windows(core::Application& app, ActFunction act);
 
-  // Brings everything on the screen up to the model.
+  // Updates everything on the screen from the model.
   void Refresh();
 
-  // Whether a window is to come or go; then a refresh must not wait.
-  bool FormsMoved() const;
+  // True when a window must be shown or hidden; then a refresh must not wait.
+  bool HasFormsToShowOrHide() const;
 
   void HideAll();
 
-  // The window over which a message belongs.
+  // The window that a message box belongs to.
   QWidget* Front() const;
 
-  // Builds what does not stand yet of pages and small windows.
+  // Builds all pages and small windows that are still missing.
   void BuildAll();
 
   MainWindow& Main() const { return *main_; }
 
-  // The window of a form, built if need be; none for the main form.
+  // The window of a form; builds it if it is missing. Null for the main form.
   FormWindow* WindowOf(const controls::Form& form);
   HelpDesk& Help() const { return *help_; }
   const Bindings& Controls() const { return bindings_; }
 
-  // What the page in front says of the last act, from the next refresh on.
-  void SetQuietLine(const QString& words) { bindings_.SetQuietLine(words); }
+  // The line below the current page about the last act. The next refresh shows it.
+  void SetAlsoStored(const QString& words) { bindings_.SetAlsoStored(words); }
 
  private:
   using Builder = FormWindow* (*)(Bindings& bindings, QWidget* parent);
 
-  // A small window, built when its form is first shown or, before that, when there is nothing else to do.
-  struct Follower {
+  // A small window. It is built when its form is first shown, or before that when the program is idle.
+  struct SmallWindow {
     const controls::Form& form;
     Builder build;
-    bool beside;  // stands beside the main window, which can be worked in meanwhile
+    bool modeless;  // opens beside the main window, which the user can still work in
     FormWindow* window = nullptr;
-    FocusFollower focus = {};
+    FocusMover focus = {};
 
     bool Wanted() const { return form.loaded && form.visible; }
   };
 
-  void Build(Follower& form);
+  void Build(SmallWindow& form);
   bool BuildNext();
   void ShowForms();
 
@@ -65,12 +64,12 @@ class Windows {
 
   core::Application& app_;
   Bindings bindings_;
-  std::unique_ptr<HelpDesk> help_;  // outlives the help window, which the main window owns
+  std::unique_ptr<HelpDesk> help_;  // must outlive the help window, which the main window owns
   std::unique_ptr<MainWindow> main_;
-  FocusFollower main_focus_;
-  std::vector<Follower> forms_;
+  FocusMover main_focus_;
+  std::vector<SmallWindow> forms_;
   QTimer idle_;
-  bool building_ = false;  // what a widget tells while its window is built comes too early
+  bool building_ = false;  // events of widgets during the build of their window must not cause a refresh
 };
 
 }  // namespace ovl::ui

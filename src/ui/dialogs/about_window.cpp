@@ -2,15 +2,14 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 
+#include "ui/dialogs/window_parts.h"
 #include "ui/kit/theme.h"
 
 namespace ovl::ui {
 namespace {
 
-constexpr int kButtonWidth = 112;
 constexpr int kLeastWidth = 320;
 
 }  // namespace
@@ -19,9 +18,7 @@ FormWindow* BuildAboutWindow(Bindings& bindings, QWidget* parent) {
   auto& model = bindings.Model().frmAbout;
   auto* window = new FormWindow(bindings, model.form, parent);
   window->setMinimumWidth(kLeastWidth);
-  auto* down = new QVBoxLayout(window);
-  down->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  down->setSpacing(kRowGap);
+  auto* down = WindowLayout(*window, kRowGap);
   const auto add = [&](std::string_view name) {
     auto* label = bindings.Make(bindings.Named(model.form, name));
     down->addWidget(label);
@@ -34,18 +31,12 @@ FormWindow* BuildAboutWindow(Bindings& bindings, QWidget* parent) {
   name->setFont(font);
   add("lbVersion");
   add("lbFirmware");
-  auto* toolkit = new QLabel(QStringLiteral("Qt %1").arg(QString::fromLatin1(qVersion())));
-  toolkit->setObjectName(QStringLiteral("Toolkit"));
-  down->addWidget(toolkit);
+  auto* qt_version = new QLabel(QStringLiteral("Qt %1").arg(QString::fromLatin1(qVersion())));
+  qt_version->setObjectName(QStringLiteral("Toolkit"));
+  down->addWidget(qt_version);
   add("lbLicence");
   down->addSpacing(kSectionGap - kRowGap);
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch(1);
-  auto* ok = static_cast<QPushButton*>(bindings.Make(bindings.Named(model.form, "Command1")));
-  ok->setMinimumWidth(kButtonWidth);
-  ok->setDefault(true);
-  buttons->addWidget(ok);
-  down->addLayout(buttons);
+  down->addLayout(MakeButtonRow(bindings, model.form, "Command1"));
   return window;
 }
 

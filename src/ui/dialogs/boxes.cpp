@@ -12,7 +12,7 @@ namespace {
 
 const QString kProgramName = QStringLiteral("OVL Software");
 
-// "Text Files(*.txt)|*.txt|..." as the toolkit's rows of "Text Files (*.txt)".
+// Converts "Text Files(*.txt)|*.txt|..." to the filters of Qt, such as "Text Files (*.txt)".
 QStringList NameFilters(const std::string& filter) {
   const auto parts = host::FromWindows1252(filter).split(QLatin1Char('|'));
   QStringList filters;
@@ -26,7 +26,7 @@ QStringList NameFilters(const std::string& filter) {
   return filters;
 }
 
-// The ending that a name without one gets: that of the chosen filter, if it has just one.
+// The suffix for a name without one: that of the chosen filter, if the filter has just one.
 QString SuffixOf(const QString& filter) {
   const auto pattern = filter.section(QLatin1Char('('), 1).chopped(1);
   const bool single = pattern.startsWith(QStringLiteral("*.")) && !pattern.contains(QLatin1Char(' '));

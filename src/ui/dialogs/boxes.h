@@ -1,5 +1,5 @@
-// Message boxes and file dialogs as the model asks for them. Each returns when it is closed; meanwhile the
-// event loop goes on.
+// Message boxes and file dialogs that the model asks for. Each function returns when the user closes the
+// window; the event loop runs in the meantime.
 #pragma once
 
 #include <QString>
@@ -11,12 +11,12 @@ class QWidget;
 
 namespace ovl::ui {
 
-// The name of the property under which a box on the screen keeps its topic in the help.
+// The property of a message box that contains its topic in the help.
 inline constexpr const char* kBoxTopic = "topic";
 
 void ShowBox(QWidget* parent, const core::MessageBox& box, const QString& detail = {});
 
-// Nothing when the person cancels.
+// Empty when the user cancels.
 std::optional<core::FileAnswer> AskFile(QWidget* parent, const core::FileDialog& request);
 
 }  // namespace ovl::ui

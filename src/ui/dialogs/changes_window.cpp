@@ -33,7 +33,7 @@ QString EditorsOf(const core::Application& app, const image::FieldDifference& di
   return words.empty() ? QStringLiteral("shown nowhere") : host::FromWindows1252(words);
 }
 
-// A long content begins with the first byte that differs.
+// Cuts a long value so that it begins with the first byte that differs.
 QString FromDifference(const QString& value, const QString& other) {
   if (value.size() <= kShownDigits) return value;
   qsizetype at = 0;
@@ -55,8 +55,8 @@ ChangesWindow::ChangesWindow(const core::Application& app, QWidget* parent) : QD
 }
 
 void ChangesWindow::Build() {
-  told_ = MutedLabel({});
-  told_->setWordWrap(true);
+  summary_ = MutedLabel({});
+  summary_->setWordWrap(true);
   list_ = new OverviewList({{QStringLiteral("Field"), QStringLiteral("DEVICE_INDEX_BAK")},
                             {QStringLiteral("Byte"), QStringLiteral("SYSFIXED 112")},
                             {QStringLiteral("Panel and label"), {}},
@@ -69,7 +69,7 @@ void ChangesWindow::Build() {
   auto* down = new QVBoxLayout(this);
   down->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   down->setSpacing(kFieldGap);
-  down->addWidget(told_);
+  down->addWidget(summary_);
   down->addWidget(list_);
   down->addWidget(buttons);
   AssignPageMnemonics(*this, {});
@@ -80,18 +80,18 @@ void ChangesWindow::Open() {
   show();
   raise();
   activateWindow();
-  Follow();
+  Refresh();
   list_->setFocus();
 }
 
-void ChangesWindow::Follow() {
+void ChangesWindow::Refresh() {
   if (!isVisible()) return;
   const bool other_known = known_.Update(app_.known_image), other_image = image_.Update(app_.image);
   if (other_known || other_image) Fill(image::Differences(app_.known_image, app_.image, app_.firmware));
 }
 
 void ChangesWindow::Fill(const std::vector<image::FieldDifference>& differences) {
-  told_->setText(
+  summary_->setText(
       differences.empty()
           ? QStringLiteral("A download would change nothing in a unit that holds the configuration "
                            "last loaded or sent.")
@@ -111,7 +111,7 @@ void ChangesWindow::Fill(const std::vector<image::FieldDifference>& differences)
     list_->topLevelItem(line)->setToolTip(kWas, host::FromWindows1252(difference.before));
     list_->topLevelItem(line)->setToolTip(kIs, host::FromWindows1252(difference.after));
   }
-  if (!lines.empty()) list_->MoveTo(0);
+  if (!lines.empty()) list_->SetCursor(0);
 }
 
 QPushButton* BuildChangesButton(Bindings& bindings, ChangesWindow& window) {
@@ -121,9 +121,9 @@ QPushButton* BuildChangesButton(Bindings& bindings, ChangesWindow& window) {
   button->setAutoDefault(false);
   button->setToolTip(QStringLiteral("Shows what a download would change in the unit (Ctrl+D)"));
   QObject::connect(button, &QPushButton::clicked, &window, &ChangesWindow::Open);
-  bindings.Follow([&app = bindings.Model(), button, &window, known = ChangeDetector<image::ConfigImage>(),
-                   image = ChangeDetector<image::ConfigImage>()]() mutable {
-    window.Follow();
+  bindings.OnRefresh([&app = bindings.Model(), button, &window, known = ChangeDetector<image::ConfigImage>(),
+                      image = ChangeDetector<image::ConfigImage>()]() mutable {
+    window.Refresh();
     const bool other_known = known.Update(app.known_image), other_image = image.Update(app.image);
     if (!other_known && !other_image) return false;
     const auto count = image::Differences(app.known_image, app.image, app.firmware).size();

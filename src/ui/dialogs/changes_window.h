@@ -1,5 +1,5 @@
-// What a download would change in the unit: the image beside what was last uploaded, opened, loaded at the
-// start, or left in the unit by a download. It compares and writes nothing.
+// Shows what a download would change in the unit. It compares the image with the one that was last uploaded,
+// opened, loaded at the start or downloaded. It only reads.
 #pragma once
 
 #include <QDialog>
@@ -19,9 +19,9 @@ class ChangesWindow : public QDialog {
  public:
   explicit ChangesWindow(const core::Application& app, QWidget* parent);
 
-  // Brings the list up to the model while the window is shown.
-  void Follow();
-  // Shows the window; its content is built at the first time.
+  // Updates the list while the window is visible.
+  void Refresh();
+  // Shows the window; builds its content the first time.
   void Open();
 
  private:
@@ -29,12 +29,12 @@ class ChangesWindow : public QDialog {
   void Fill(const std::vector<image::FieldDifference>& differences);
 
   const core::Application& app_;
-  QLabel* told_ = nullptr;
+  QLabel* summary_ = nullptr;
   OverviewList* list_ = nullptr;
   ChangeDetector<image::ConfigImage> known_, image_;
 };
 
-// The number of fields that differ, as a button that opens the window; hidden while there is none.
+// A button with the number of fields that differ. It opens the window and is hidden while the number is zero.
 QPushButton* BuildChangesButton(Bindings& bindings, ChangesWindow& window);
 
 }  // namespace ovl::ui

@@ -25,16 +25,16 @@ FormWindow::FormWindow(Bindings& bindings, controls::Form& form, QWidget* parent
     : QDialog(parent), bindings_(bindings), form_(form) {
   setObjectName(host::FromWindows1252(form.name));
   setModal(false);
-  bindings_.Follow([this, caption = ChangeDetector<std::string>()]() mutable {
+  bindings_.OnRefresh([this, caption = ChangeDetector<std::string>()]() mutable {
     if (caption.Update(form_.caption)) setWindowTitle(host::FromSystem(form_.caption));
     if (enabled_.Update(form_.enabled)) setEnabled(form_.enabled);
     return false;
   });
 }
 
-bool FormWindow::Follow() {
+bool FormWindow::ShowAsModelSays() {
   if (OnScreen() == isVisible()) {
-    // Another frame may show by now.
+    // The frame of the widget with the focus may be hidden now.
     if (isVisible() && focusWidget() != nullptr && !focusWidget()->isVisible()) focusNextChild();
     return false;
   }
@@ -49,11 +49,11 @@ bool FormWindow::Follow() {
 void FormWindow::Open() {
   setWindowFlag(Qt::WindowStaysOnTopHint, form_.top_most);
   for (auto* button : findChildren<QPushButton*>()) button->installEventFilter(this);
-  // A window of its own choice of size may take all of a small screen; one that needs more is scrolled.
+  // The window may take the whole of a small screen; if it needs more, its content scrolls.
   const auto room = screen()->availableSize();
   if (!scrolled_ && minimumSizeHint().boundedTo(room) != minimumSizeHint()) Scroll();
   resize(sizeHint().boundedTo(room));
-  if (beside_) PlaceBeside();
+  if (opens_beside_) PlaceBeside();
   AssignPageMnemonics(*this, {});
   show();
   raise();
@@ -90,7 +90,7 @@ bool FormWindow::TakesEnter(const QKeyEvent& event) const {
   return form_.enter != nullptr && (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter);
 }
 
-// A button that has the focus would take the key for itself.
+// Otherwise the button with the focus would handle the key.
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::KeyPress) return QDialog::eventFilter(watched, event);
   auto* key = static_cast<QKeyEvent*>(event);
@@ -114,7 +114,7 @@ void FormWindow::closeEvent(QCloseEvent* event) {
   bindings_.Act(core::CloseEvent{&form_});
 }
 
-void FocusFollower::Follow(const Bindings& bindings, const controls::Form& form) {
+void FocusMover::MoveFocusAsAsked(const Bindings& bindings, const controls::Form& form) {
   if (seen_ == form.focus_requests) return;
   seen_ = form.focus_requests;
   auto* widget = form.focus == nullptr ? nullptr : bindings.WidgetOf(*form.focus);

@@ -1,5 +1,5 @@
-// A small window over a form of the model. It comes and goes as the model says; closing it is an event like
-// any other and closes nothing by itself.
+// A small window for a form of the model. The model decides when it is visible: closing it sends an event and
+// does not hide it by itself.
 #pragma once
 
 #include <QDialog>
@@ -10,14 +10,15 @@ namespace ovl::ui {
 
 class FormWindow : public QDialog {
  public:
-  // The content is the caller's to build, as the layout of this widget.
+  // The caller builds the content as the layout of this widget.
   FormWindow(Bindings& bindings, controls::Form& form, QWidget* parent);
 
-  // Opens to the right of the parent, so that both can be worked in, as far as the screen has room.
-  void StandBeside() { beside_ = true; }
+  // The window opens at the right of the parent as far as the screen has room, so that the user can work in
+  // both.
+  void OpenBesideParent() { opens_beside_ = true; }
 
-  // Shows or hides the window. True when that changed.
-  bool Follow();
+  // Shows or hides the window as the model says. True when that changed.
+  bool ShowAsModelSays();
 
   void reject() override;
 
@@ -37,14 +38,14 @@ class FormWindow : public QDialog {
   Bindings& bindings_;
   controls::Form& form_;
   ChangeDetector<bool> enabled_;
-  bool beside_ = false;
+  bool opens_beside_ = false;
   bool scrolled_ = false;
 };
 
-// Moves the focus where the model wants it, once for each time it asked.
-class FocusFollower {
+// Moves the focus to the control that the model asks for, once for each request.
+class FocusMover {
  public:
-  void Follow(const Bindings& bindings, const controls::Form& form);
+  void MoveFocusAsAsked(const Bindings& bindings, const controls::Form& form);
 
  private:
   unsigned seen_ = 0;

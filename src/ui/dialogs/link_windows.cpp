@@ -3,13 +3,14 @@
 #include <QFile>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <initializer_list>
 #include <vector>
 
 #include "host/comports.h"
+#include "ui/dialogs/window_parts.h"
+#include "ui/kit/box_layouts.h"
 #include "ui/kit/layout.h"
 #include "ui/kit/theme.h"
 #include "ui/kit/widgets.h"
@@ -17,7 +18,6 @@
 namespace ovl::ui {
 namespace {
 
-constexpr int kButtonWidth = 112;
 constexpr int kBaudColumns = 2;
 constexpr int kDialogWidth = 400;
 constexpr int kSmallWidth = 320;
@@ -28,26 +28,12 @@ QString DetailOf(const host::Comport& comport) {
   return detail + (comport.present ? QStringLiteral(", present") : QStringLiteral(", not present"));
 }
 
-QPushButton* MakePush(Bindings& bindings, const controls::Form& form, std::string_view name) {
-  auto* button = static_cast<QPushButton*>(bindings.Make(bindings.Named(form, name)));
-  button->setMinimumWidth(kButtonWidth);
-  return button;
-}
-
-QVBoxLayout* WindowLayout(FormWindow& window, int width) {
-  auto* down = new QVBoxLayout(&window);
-  down->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  down->setSpacing(kSectionGap);
-  window.setMinimumWidth(width);
-  return down;
-}
-
-// Ports come and go while the program runs: they are looked up whenever the window opens.
-void FollowPorts(Bindings& bindings, PickList& list, QLabel& detail) {
+// Serial ports can appear and disappear, so they are listed again whenever the window opens.
+void BindPortDetails(Bindings& bindings, PickList& list, QLabel& detail) {
   auto& app = bindings.Model();
   auto& dialog = app.frmSettSR;
-  bindings.Follow([&app, &dialog, &list, &detail, open = ChangeDetector<bool>(),
-                   picked = ChangeDetector<int>(), ports = std::vector<host::Comport>()]() mutable {
+  bindings.OnRefresh([&app, &dialog, &list, &detail, open = ChangeDetector<bool>(),
+                      picked = ChangeDetector<int>(), ports = std::vector<host::Comport>()]() mutable {
     const bool opened = open.Update(dialog.form.visible) && dialog.form.visible;
     if (opened) {
       ports = host::ListComports(QFile::decodeName(app.platform.program_folder.c_str()));
@@ -65,9 +51,7 @@ void FollowPorts(Bindings& bindings, PickList& list, QLabel& detail) {
 
 QWidget* PortField(Bindings& bindings, const controls::Form& form) {
   auto* holder = new QWidget;
-  auto* across = new QHBoxLayout(holder);
-  across->setContentsMargins(0, 0, 0, 0);
-  across->setSpacing(kFieldGap);
+  auto* across = LayOutAcross(*holder, kFieldGap);
   auto* list = static_cast<PickList*>(
       bindings.Make(bindings.Named(form, "Comport_Select"), QStringLiteral("Comport")));
   list->ShowDetails();
@@ -75,11 +59,11 @@ QWidget* PortField(Bindings& bindings, const controls::Form& form) {
   detail->setObjectName(QStringLiteral("ComportDetail"));
   across->addWidget(list);
   across->addWidget(detail, 1);
-  FollowPorts(bindings, *list, *detail);
+  BindPortDetails(bindings, *list, *detail);
   return holder;
 }
 
-// Columns of option buttons below one another begin at the same places.
+// Aligns the columns of option buttons that are one below the other.
 void AlignOptions(Bindings& bindings, std::initializer_list<const controls::OptionArray*> arrays) {
   std::vector<QWidget*> buttons;
   int widest = 0;
@@ -97,11 +81,12 @@ void AlignOptions(Bindings& bindings, std::initializer_list<const controls::Opti
 FormWindow* BuildPortSettingsWindow(Bindings& bindings, QWidget* parent) {
   auto& model = bindings.Model().frmSettSR;
   auto* window = new FormWindow(bindings, model.form, parent);
-  auto* down = WindowLayout(*window, kDialogWidth);
+  window->setMinimumWidth(kDialogWidth);
+  auto* down = WindowLayout(*window);
   auto* settings = new QWidget;
   PageColumn column(bindings, model.form, *settings);
   const auto title = [](const controls::Frame& frame) { return QString::fromStdString(frame.caption); };
-  column.OwnSection(title(model.comport_frame)).Wide(PortField(bindings, model.form));
+  column.OwnSection(title(model.comport_frame)).FullWidth(PortField(bindings, model.form));
   column.OwnSection(title(model.baudrate_frame)).Options("OpBaud", kBaudColumns);
   column.OwnSection(title(model.data_bits_frame)).Options("OpDataBits", 2);
   column.OwnSection(title(model.parity_frame)).Options("OpParity", 3);
@@ -110,21 +95,15 @@ FormWindow* BuildPortSettingsWindow(Bindings& bindings, QWidget* parent) {
   auto* advice = bindings.Make(bindings.Named(model.form, "Label1"));
   advice->setForegroundRole(QPalette::PlaceholderText);
   down->addWidget(advice);
-
-  auto* buttons = new QHBoxLayout;
-  auto* set = MakePush(bindings, model.form, "cmdSET");
-  set->setDefault(true);
-  buttons->addWidget(MakePush(bindings, model.form, "BaudrateCMD"));
-  buttons->addStretch(1);
-  buttons->addWidget(set);
-  down->addLayout(buttons);
+  down->addLayout(MakeButtonRow(bindings, model.form, "cmdSET", "BaudrateCMD"));
   return window;
 }
 
 FormWindow* BuildScanProgressWindow(Bindings& bindings, QWidget* parent) {
   auto& model = bindings.Model().frmScanBProgress;
   auto* window = new FormWindow(bindings, model.form, parent);
-  auto* down = WindowLayout(*window, kSmallWidth);
+  window->setMinimumWidth(kSmallWidth);
+  auto* down = WindowLayout(*window);
   auto* words = new QHBoxLayout;
   words->addWidget(bindings.Make(bindings.Named(model.form, "Label1")), 1);
   auto* rate = MutedLabel({});
@@ -133,30 +112,21 @@ FormWindow* BuildScanProgressWindow(Bindings& bindings, QWidget* parent) {
   down->addLayout(words);
   down->addWidget(bindings.Make(bindings.Named(model.form, "ScanProgressBar1"),
                                 QStringLiteral("Progress of the baud rate scan")));
-  bindings.Follow([rate, &app = bindings.Model(), shown = ChangeDetector<std::string>()]() mutable {
+  bindings.OnRefresh([rate, &app = bindings.Model(), shown = ChangeDetector<std::string>()]() mutable {
     if (shown.Update(app.PortBaud)) rate->setText(QStringLiteral("%1 baud").arg(app.PortBaud.c_str()));
     return false;
   });
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch(1);
-  auto* cancel = MakePush(bindings, model.form, "Command1");
-  cancel->setDefault(true);
-  buttons->addWidget(cancel);
-  down->addLayout(buttons);
+  down->addLayout(MakeButtonRow(bindings, model.form, "Command1"));
   return window;
 }
 
 FormWindow* BuildTransferEndWindow(Bindings& bindings, QWidget* parent) {
   auto& model = bindings.Model().frmOK_buttom;
   auto* window = new FormWindow(bindings, model.form, parent);
-  auto* down = WindowLayout(*window, kSmallWidth);
+  window->setMinimumWidth(kSmallWidth);
+  auto* down = WindowLayout(*window);
   down->addWidget(bindings.Make(bindings.Named(model.form, "Label1")));
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch(1);
-  auto* ok = MakePush(bindings, model.form, "Command1");
-  ok->setDefault(true);
-  buttons->addWidget(ok);
-  down->addLayout(buttons);
+  down->addLayout(MakeButtonRow(bindings, model.form, "Command1"));
   return window;
 }
 

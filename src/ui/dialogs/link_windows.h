@@ -1,11 +1,11 @@
-// The windows of the link: port settings, progress of the baud scan, the end of a transfer.
+// The windows of the link: port settings, progress of the baud rate scan, end of a transfer.
 #pragma once
 
 #include "ui/dialogs/form_window.h"
 
 namespace ovl::ui {
 
-// Each is owned by its parent.
+// The parent owns each window.
 FormWindow* BuildPortSettingsWindow(Bindings& bindings, QWidget* parent);
 FormWindow* BuildScanProgressWindow(Bindings& bindings, QWidget* parent);
 FormWindow* BuildTransferEndWindow(Bindings& bindings, QWidget* parent);

@@ -4,23 +4,22 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
-#include <array>
+#include <string>
 
 #include "host/text_codec.h"
+#include "ui/dialogs/window_parts.h"
+#include "ui/kit/box_layouts.h"
 #include "ui/kit/layout.h"
 #include "ui/kit/theme.h"
 
 namespace ovl::ui {
 namespace {
 
-constexpr int kButtonWidth = 112;
 constexpr int kLeastWidth = 320;
 
-// The window's content; the window follows its size.
-QVBoxLayout* SnugLayout(FormWindow& window) {
-  auto* down = new QVBoxLayout(&window);
-  down->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  down->setSpacing(kSectionGap);
+// A layout that always gives the window the size of its content.
+QVBoxLayout* FixedSizeLayout(FormWindow& window) {
+  auto* down = WindowLayout(window);
   down->setSizeConstraint(QLayout::SetFixedSize);
   return down;
 }
@@ -34,26 +33,22 @@ QWidget* Content(QVBoxLayout& down) {
 
 QWidget* NumberField(Bindings& bindings, const controls::MicrosForm& model) {
   auto* holder = new QWidget;
-  auto* across = new QHBoxLayout(holder);
-  across->setContentsMargins(0, 0, 0, 0);
-  across->setSpacing(kFieldGap);
+  auto* across = LayOutAcross(*holder, kFieldGap);
   across->addWidget(
       bindings.Make(bindings.Named(model.form, "ECRNumber"), host::FromWindows1252(model.ECRNumber.caption)));
   across->addWidget(MutedLabel(host::FromWindows1252(model.ecr_hint.caption)));
   return holder;
 }
 
-// The button of the panel that shows is the window's default.
+// A button that is the default of the window while its panel is visible.
 QWidget* SetButton(Bindings& bindings, const controls::Form& form, const char* name,
                    const controls::Frame& panel) {
   auto* holder = new QWidget;
-  auto* across = new QHBoxLayout(holder);
-  across->setContentsMargins(0, 0, 0, 0);
-  auto* button = static_cast<QPushButton*>(bindings.Make(bindings.Named(form, name)));
-  button->setMinimumWidth(kButtonWidth);
+  auto* across = LayOutAcross(*holder);
+  auto* button = MakePushButton(bindings, form, name);
   across->addStretch(1);
   across->addWidget(button);
-  bindings.Follow([holder, button, &panel, shown = ChangeDetector<bool>()]() mutable {
+  bindings.OnRefresh([holder, button, &panel, shown = ChangeDetector<bool>()]() mutable {
     if (!shown.Update(panel.visible)) return false;
     holder->setVisible(panel.visible);
     if (panel.visible) button->setDefault(true);
@@ -67,7 +62,7 @@ QWidget* SetButton(Bindings& bindings, const controls::Form& form, const char* n
 FormWindow* BuildMicrosWindow(Bindings& bindings, QWidget* parent) {
   auto& model = bindings.Model().frmMicros;
   auto* window = new FormWindow(bindings, model.form, parent);
-  auto* down = SnugLayout(*window);
+  auto* down = FixedSizeLayout(*window);
   PageColumn column(bindings, model.form, *Content(*down));
   column.Section("frmIDN").Row("ComboMICROS").Row("ComboMICROSADD").Row("ComboMODE");
   column.Section("frmISN");
@@ -84,7 +79,7 @@ FormWindow* BuildMicrosWindow(Bindings& bindings, QWidget* parent) {
 FormWindow* BuildSubMenuWindow(Bindings& bindings, QWidget* parent) {
   auto& model = bindings.Model().FrmSubMenu;
   auto* window = new FormWindow(bindings, model.form, parent);
-  auto* down = SnugLayout(*window);
+  auto* down = FixedSizeLayout(*window);
   PageColumn column(bindings, model.form, *Content(*down));
   column.Section("Frame1").Options("F1OP", 1);
   column.Section("Frame2")

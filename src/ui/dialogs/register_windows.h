@@ -1,11 +1,11 @@
-// The windows that a few registers open beside the main form: the MICROS network and the model sub-menu.
+// The windows that some registers open beside the main form: the MICROS network and the sub-menu of a model.
 #pragma once
 
 #include "ui/dialogs/form_window.h"
 
 namespace ovl::ui {
 
-// Each is owned by its parent and as large as what it shows.
+// The parent owns each window. A window is as large as its content.
 FormWindow* BuildMicrosWindow(Bindings& bindings, QWidget* parent);
 FormWindow* BuildSubMenuWindow(Bindings& bindings, QWidget* parent);
 

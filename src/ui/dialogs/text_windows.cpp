@@ -7,19 +7,19 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QSignalBlocker>
 #include <QTimer>
 #include <QVBoxLayout>
 
 #include "host/text_codec.h"
 #include "panels/exceptions/text_entry.h"
+#include "ui/dialogs/window_parts.h"
+#include "ui/kit/box_layouts.h"
 #include "ui/kit/theme.h"
 
 namespace ovl::ui {
 namespace {
 
-constexpr int kButtonWidth = 112;
 constexpr int kTextWidth = 440;
 constexpr QSize kViewerSize(720, 480);
 constexpr int kTextMargin = 12;
@@ -29,35 +29,14 @@ QWidget* Part(Bindings& bindings, const controls::Form& form, std::string_view n
   return bindings.Make(bindings.Named(form, name), label);
 }
 
-QVBoxLayout* WindowLayout(FormWindow& window) {
-  auto* down = new QVBoxLayout(&window);
-  down->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  down->setSpacing(kSectionGap);
-  return down;
-}
-
-// Clear at the left, the default at the right.
-QHBoxLayout* Buttons(Bindings& bindings, const controls::Form& form, const char* set_name,
-                     const char* clear_name) {
-  auto* across = new QHBoxLayout;
-  auto* set = static_cast<QPushButton*>(Part(bindings, form, set_name));
-  auto* clear = static_cast<QPushButton*>(Part(bindings, form, clear_name));
-  for (auto* button : {clear, set}) button->setMinimumWidth(kButtonWidth);
-  set->setDefault(true);
-  across->addWidget(clear);
-  across->addStretch(1);
-  across->addWidget(set);
-  return across;
-}
-
 QLabel* LabelFor(QWidget& field) {
   auto* label = new QLabel(field.accessibleName());
   label->setBuddy(&field);
   return label;
 }
 
-// Marks the whole text whenever the field gets the focus. A click that brings the focus would set the caret
-// afterwards.
+// Selects the whole text when the field gets the focus. After a click this must wait, because the click sets
+// the caret later.
 class WholeTextMarker : public QObject {
  public:
   explicit WholeTextMarker(QLineEdit& line) : QObject(&line), line_(line) { line.installEventFilter(this); }
@@ -74,7 +53,7 @@ class WholeTextMarker : public QObject {
   QLineEdit& line_;
 };
 
-// How full the text is. Blanks that fill it up leave room.
+// How many characters the text has. Padding blanks do not count.
 QString TextHint(const core::Application& app) {
   const auto& box = app.frmSetEXCPSTR.Text1;
   const auto seen = box.text.find_last_not_of(' ') + 1;
@@ -85,7 +64,7 @@ QString TextHint(const core::Application& app) {
   return hint + QLatin1Char('.');
 }
 
-// One value: integer digits, separator, decimal digits.
+// One value: whole digits, separator, decimal digits.
 struct ValueRow {
   const char* whole;
   const char* decimals;
@@ -107,18 +86,18 @@ void AddValue(Bindings& bindings, QGridLayout& grid, int row, const ValueRow& va
   grid.addWidget(decimals, row, 3);
 }
 
-// A second place for the one label of the model.
-QLabel* Likeness(Bindings& bindings, const controls::Label& label) {
+// A second widget for the same label of the model.
+QLabel* CopyOfLabel(Bindings& bindings, const controls::Label& label) {
   auto* copy = new QLabel;
   copy->setTextFormat(Qt::PlainText);
-  bindings.Follow([copy, &label, caption = ChangeDetector<std::string>()]() mutable {
+  bindings.OnRefresh([copy, &label, caption = ChangeDetector<std::string>()]() mutable {
     if (caption.Update(label.caption)) copy->setText(host::FromWindows1252(label.caption));
     return false;
   });
   return copy;
 }
 
-// Opens at a good size for a text; a person may make it larger or smaller.
+// Opens with a good size for a text; the user may change it.
 class ViewerPane : public QWidget {
  public:
   QSize sizeHint() const override { return kViewerSize; }
@@ -142,8 +121,8 @@ FormWindow* BuildTextEntryWindow(Bindings& bindings, QWidget* parent) {
   fields->addWidget(text);
   fields->addWidget(hint);
   down->addLayout(fields);
-  down->addLayout(Buttons(bindings, model.form, "cmdSET", "cmdClr"));
-  bindings.Follow([hint, &app, shown = ChangeDetector<QString>()]() mutable {
+  down->addLayout(MakeButtonRow(bindings, model.form, "cmdSET", "cmdClr"));
+  bindings.OnRefresh([hint, &app, shown = ChangeDetector<QString>()]() mutable {
     const auto words = TextHint(app);
     if (shown.Update(words)) hint->setText(words);
     return false;
@@ -161,17 +140,17 @@ FormWindow* BuildRangeWindow(Bindings& bindings, QWidget* parent) {
   grid->setColumnStretch(4, 1);
   auto* separator = static_cast<QLabel*>(Part(bindings, model.form, "lbDec"));
   AddValue(bindings, *grid, 0, {"Range_Hi", "SubRange_Hi"}, separator);
-  AddValue(bindings, *grid, 1, {"Range_Low", "SubRange_Low"}, Likeness(bindings, model.lbDec));
+  AddValue(bindings, *grid, 1, {"Range_Low", "SubRange_Low"}, CopyOfLabel(bindings, model.lbDec));
   auto* list = Part(bindings, model.form, "ComboDec");
   grid->addWidget(LabelFor(*list), 2, 0);
   grid->addWidget(list, 2, 1, 1, 4, Qt::AlignLeft);
   down->addLayout(grid);
   down->addWidget(
       MutedLabel(QStringLiteral("The separator holds for all exceptions and is stored at once.")));
-  down->addLayout(Buttons(bindings, model.form, "cmdSetRange", "cmdClr"));
+  down->addLayout(MakeButtonRow(bindings, model.form, "cmdSetRange", "cmdClr"));
 
   auto* first = static_cast<QLineEdit*>(bindings.WidgetOf(model.Range_Hi));
-  bindings.Follow([first, &form = model.form, open = ChangeDetector<bool>()]() mutable {
+  bindings.OnRefresh([first, &form = model.form, open = ChangeDetector<bool>()]() mutable {
     if (!open.Update(form.visible) || !form.visible) return false;
     first->setFocus(Qt::TabFocusReason);
     first->selectAll();
@@ -185,11 +164,9 @@ FormWindow* BuildViewerWindow(Bindings& bindings, QWidget* parent) {
   auto* window = new FormWindow(bindings, model.form, parent);
   window->setWindowFlag(Qt::WindowMaximizeButtonHint);
   window->setSizeGripEnabled(true);
-  auto* down = new QVBoxLayout(window);
-  down->setContentsMargins(0, 0, 0, 0);
+  auto* down = LayOutDown(*window);
   auto* pane = new ViewerPane;
-  auto* inside = new QVBoxLayout(pane);
-  inside->setContentsMargins(0, 0, 0, 0);
+  auto* inside = LayOutDown(*pane);
   auto* lines = static_cast<QPlainTextEdit*>(Part(bindings, model.form, "Text"));
   lines->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   lines->setLineWrapMode(QPlainTextEdit::NoWrap);

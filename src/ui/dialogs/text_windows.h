@@ -1,5 +1,4 @@
-// The windows for texts: one that takes a line of text, one for the two values of an exception, and the
-// viewer.
+// The windows for texts: entry of a text, the two values of an exception, and the viewer.
 #pragma once
 
 #include "ui/dialogs/form_window.h"

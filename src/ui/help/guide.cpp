@@ -25,8 +25,9 @@ const QColor kRule(0xb0, 0xb0, 0xb0);
 const QString kNoPages = QStringLiteral("there are no help pages");
 const QString kTitle = QStringLiteral("OVL Software: installer's guide");
 
-// A picture is never wider than the column, and keeps its shape. The guide keeps the pictures by their names.
-void TakePictures(QTextDocument& guide, QTextDocument& page, const QString& pictures) {
+// Adds the pictures of a page to the guide under their names. A picture is at most as wide as the column and
+// keeps its proportions.
+void AddPictures(QTextDocument& guide, QTextDocument& page, const QString& pictures) {
   for (auto block = page.begin(); block.isValid(); block = block.next()) {
     const auto first = block.begin();
     if (first.atEnd()) continue;
@@ -46,7 +47,7 @@ void AddPage(QTextDocument& guide, const QString& text, const QString& pictures)
   QTextDocument page;
   page.setDefaultFont(guide.defaultFont());
   page.setMarkdown(text);
-  TakePictures(guide, page, pictures);
+  AddPictures(guide, page, pictures);
   StyleHelp(page, kRule);
   QTextCursor end(&guide);
   end.movePosition(QTextCursor::End);
@@ -55,7 +56,7 @@ void AddPage(QTextDocument& guide, const QString& text, const QString& pictures)
   end.insertBlock(begin);
   const auto head = end.position();
   end.insertFragment(QTextDocumentFragment(&page));
-  // The first block of what is inserted brings a format of its own.
+  // The first inserted block has a format of its own, so the page break is set again.
   QTextCursor first(&guide);
   first.setPosition(head);
   first.mergeBlockFormat(begin);
@@ -75,7 +76,7 @@ void AddFront(QTextDocument& guide, const HelpPages& pages) {
 
 core::Result WriteGuide(const HelpPages& pages, const QString& pictures, const QString& file) {
   if (pages.Contents().empty()) return host::FailureOf(pages.Folder(), kNoPages);
-  ApplyTheme(Theme::kLight);  // it is printed on white paper
+  ApplyTheme(Theme::kLight);  // the guide is printed on white paper
   QTextDocument guide;
   auto font = guide.defaultFont();
   font.setPointSizeF(kFontSize);

@@ -1,4 +1,4 @@
-// The installer's guide: the pages of the help, with pictures, as one PDF.
+// Writes the guide for the installer: the pages of the help, with pictures, as one PDF.
 #pragma once
 
 #include <QString>
@@ -8,7 +8,7 @@
 
 namespace ovl::ui {
 
-// Leaves out pictures that the folder lacks.
+// Leaves out pictures that are not in the folder.
 core::Result WriteGuide(const HelpPages& pages, const QString& pictures, const QString& file);
 
 }  // namespace ovl::ui

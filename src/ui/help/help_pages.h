@@ -1,4 +1,4 @@
-// The pages of the help: plain Markdown, in the program itself or in a folder. The page "contents.md" lists
+// The pages of the help: Markdown files, in the program itself or in a folder. The page "contents.md" lists
 // them: groups as headings, pages as links.
 #pragma once
 
@@ -12,10 +12,10 @@ inline const QString kEmbeddedHelp = QStringLiteral(":/help");
 
 struct HelpEntry {
   QString title;
-  QString file;  // empty: the head of a group
+  QString file;  // empty for the heading of a group
 };
 
-// A line that has all the words of a search.
+// A line that contains all words of a search.
 struct HelpHit {
   QString file;
   QString title;
@@ -24,18 +24,18 @@ struct HelpHit {
 
 class HelpPages {
  public:
-  // Reads all pages. What is missing is told by the text of the page itself.
+  // Reads the list of the pages. For a missing page, Text returns an explanation.
   explicit HelpPages(QString folder);
 
   const QString& Folder() const { return folder_; }
   const std::vector<HelpEntry>& Contents() const { return contents_; }
 
-  // The text of a page, without those of its pictures that do not stand in the folder `pictures`. A sentence
-  // for a page that is not there.
+  // The text of a page, without the pictures that are not in the folder `pictures`. For a page that cannot be
+  // read it is an explanation.
   QString Text(const QString& file, const QString& pictures) const;
   QString Text(const QString& file) const { return Text(file, folder_); }
 
-  // Empty for no words.
+  // Empty when there are no words.
   std::vector<HelpHit> Search(const QString& words) const;
 
  private:
@@ -43,10 +43,10 @@ class HelpPages {
   std::vector<HelpEntry> contents_;
 };
 
-// The part of a link that leads to a heading: "A file of its own" is "a-file-of-its-own".
+// The anchor of a heading in a link: "A file of its own" becomes "a-file-of-its-own".
 QString AnchorOf(const QString& heading);
 
-// A line of Markdown as one reads it.
+// A line of Markdown without its markup.
 QString PlainLine(const QString& line);
 
 }  // namespace ovl::ui

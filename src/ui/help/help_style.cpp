@@ -45,7 +45,7 @@ void StyleHead(const QTextBlock& block, const QFont& font) {
 }  // namespace
 
 void StyleHelp(QTextDocument& document, const QColor& hairline) {
-  // Names are never broken within: a column is at least as wide as its longest one.
+  // No line break within a name: a column is at least as wide as its longest word.
   QTextOption option = document.defaultTextOption();
   option.setWrapMode(QTextOption::WordWrap);
   document.setDefaultTextOption(option);

@@ -1,4 +1,4 @@
-// The look of a help page, on the screen and in print.
+// The style of a help page, on the screen and in print.
 #pragma once
 
 #include <QColor>
@@ -7,7 +7,7 @@ class QTextDocument;
 
 namespace ovl::ui {
 
-// Rules the tables with hairlines of the colour and gives headings and paragraphs their distances.
+// Draws lines around the cells of tables and sets the distances of headings and paragraphs.
 void StyleHelp(QTextDocument& document, const QColor& hairline);
 
 }  // namespace ovl::ui

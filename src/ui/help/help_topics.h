@@ -1,15 +1,15 @@
-// Which help page belongs to which tab and window.
+// Finds the help page of a tab or a window.
 #pragma once
 
 #include <QString>
 
 namespace ovl::ui {
 
-// The page of a tab, by its place; of a window, by its name. Empty for one without a page.
+// The page of a tab by its index, and of a window by its name. Empty if there is none.
 QString HelpPageOfTab(int tab);
 QString HelpPageOfWindow(const QString& name);
 
-// The page of the messages, at what it says about the topic.
+// The page of the message boxes, at the heading of the topic.
 QString HelpPageOfBox(const QString& topic);
 
 }  // namespace ovl::ui

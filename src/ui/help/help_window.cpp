@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "ui/help/help_style.h"
+#include "ui/kit/box_layouts.h"
 #include "ui/kit/theme.h"
 
 namespace ovl::ui {
@@ -37,7 +38,7 @@ HelpBrowser::HelpBrowser(const HelpPages& pages, QWidget* parent) : QTextBrowser
   setFrameShape(QFrame::NoFrame);
   document()->setDocumentMargin(kMargin);
   setWordWrapMode(QTextOption::WordWrap);
-  connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl& source) { Settle(source); });
+  connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl& source) { OnSourceChanged(source); });
 }
 
 QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
@@ -46,7 +47,7 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
       type, QUrl::fromLocalFile(pages_.Folder() + QLatin1Char('/') + name.fileName()));
 }
 
-void HelpBrowser::Settle(const QUrl& source) {
+void HelpBrowser::OnSourceChanged(const QUrl& source) {
   StyleHelp(*document(), HairlineColor(palette()));
   if (source.hasFragment()) ScrollTo(source.fragment());
 }
@@ -75,8 +76,7 @@ HelpWindow::HelpWindow(const HelpPages& pages, QWidget* parent) : QDialog(parent
   setWindowTitle(QStringLiteral("Help"));
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   resize(kStartSize.boundedTo(screen()->availableSize()));
-  auto* across = new QHBoxLayout(this);
-  across->setContentsMargins(0, 0, 0, 0);
+  auto* across = LayOutAcross(*this);
   auto* halves = new QSplitter;
   halves->addWidget(BuildSide());
   halves->addWidget(BuildPage());
@@ -200,7 +200,7 @@ void HelpWindow::OpenEntry(const QListWidgetItem* entry) {
   browser_->setSource(AddressOf(file), QTextDocument::MarkdownResource);
   if (line.isEmpty()) return;
   browser_->moveCursor(QTextCursor::Start);
-  // A row of a table stands in cells: its first one leads there.
+  // A row of a table is several cells in the document, so the search uses the first cell.
   browser_->find(line.section(QStringLiteral(" · "), 0, 0));
 }
 

@@ -1,4 +1,4 @@
-// The help: contents at the left, a page at the right, search over all pages.
+// The help window: contents at the left, a page at the right, a search over all pages.
 #pragma once
 
 #include <QDialog>
@@ -12,7 +12,7 @@ class QListWidgetItem;
 
 namespace ovl::ui {
 
-// Shows pages by their address, "help:/remote.md#the-clock"; keeps the way back and forward.
+// Shows pages by their address, such as "help:/remote.md#the-clock", with a history.
 class HelpBrowser : public QTextBrowser {
  public:
   HelpBrowser(const HelpPages& pages, QWidget* parent);
@@ -23,7 +23,7 @@ class HelpBrowser : public QTextBrowser {
   void changeEvent(QEvent* event) override;
 
  private:
-  void Settle(const QUrl& source);
+  void OnSourceChanged(const QUrl& source);
   void ScrollTo(const QString& anchor);
 
   const HelpPages& pages_;
@@ -34,7 +34,7 @@ class HelpWindow : public QDialog {
   // The pages must outlive the window.
   HelpWindow(const HelpPages& pages, QWidget* parent);
 
-  // "remote.md", with "#the-clock" behind it to begin at a heading.
+  // Opens a page such as "remote.md", or "remote.md#the-clock" to begin at a heading.
   void Open(const QString& page);
 
  protected:
@@ -52,7 +52,7 @@ class HelpWindow : public QDialog {
   QLineEdit* search_;
   QListWidget* list_;
   HelpBrowser* browser_;
-  QString shown_;  // the file of the page
+  QString shown_;  // the file of the current page
 };
 
 }  // namespace ovl::ui

@@ -13,14 +13,15 @@
 namespace ovl::ui {
 namespace {
 
-using Tell = std::function<void(const QString&)>;
+using Report = std::function<void(const QString&)>;
 
 bool OpenPath(const QString& path) {
   return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
 }
 
-// Opening tells no more than that the desktop's opener was started, so the desktop is asked before whether it
-// has a program for this kind of file. Where there is nobody to ask, opening tells.
+// QDesktopServices::openUrl only reports whether it could start the opener of the desktop. So xdg-mime is
+// asked first whether the desktop has a program for this kind of file. Without xdg-mime, the result of
+// openUrl counts.
 void AskForProgram(QObject& owner, const char* kind, std::function<void(bool)> then) {
   auto* question = new QProcess(&owner);
   QObject::connect(question, &QProcess::errorOccurred, question,
@@ -37,10 +38,10 @@ void AskForProgram(QObject& owner, const char* kind, std::function<void(bool)> t
                   {QStringLiteral("query"), QStringLiteral("default"), QString::fromLatin1(kind)});
 }
 
-void OpenFolder(QObject& owner, const QString& folder, const Tell& tell) {
-  const auto fail = [folder, tell](const QString& reason) {
-    tell(QStringLiteral("The manual folder cannot be opened.\n\n%1: %2")
-             .arg(QDir::toNativeSeparators(folder), reason));
+void OpenFolder(QObject& owner, const QString& folder, const Report& report) {
+  const auto fail = [folder, report](const QString& reason) {
+    report(QStringLiteral("The manual folder cannot be opened.\n\n%1: %2")
+               .arg(QDir::toNativeSeparators(folder), reason));
   };
   std::error_code failed;
   std::filesystem::directory_iterator(QFile::encodeName(folder).toStdString(), failed);
@@ -61,16 +62,18 @@ QStringList ListManuals(const QString& folder) {
                                 QDir::Name | QDir::IgnoreCase);
 }
 
-void OpenManual(QObject& owner, const QString& folder, const QString& file, Tell tell) {
-  if (file.isEmpty()) return OpenFolder(owner, folder, tell);
-  AskForProgram(owner, "application/pdf", [&owner, folder, file, tell = std::move(tell)](bool has_reader) {
-    if (!has_reader || !OpenPath(QDir(folder).filePath(file))) OpenFolder(owner, folder, tell);
-  });
+void OpenManual(QObject& owner, const QString& folder, const QString& file, Report report) {
+  if (file.isEmpty()) return OpenFolder(owner, folder, report);
+  AskForProgram(owner, "application/pdf",
+                [&owner, folder, file, report = std::move(report)](bool has_reader) {
+                  if (!has_reader || !OpenPath(QDir(folder).filePath(file)))
+                    OpenFolder(owner, folder, report);
+                });
 }
 
-void FillManualMenu(QMenu& menu, const QString& folder, Tell tell) {
-  const auto open = [&menu, folder, tell = std::move(tell)](const QString& file) {
-    OpenManual(menu, folder, file, tell);
+void FillManualMenu(QMenu& menu, const QString& folder, Report report) {
+  const auto open = [&menu, folder, report = std::move(report)](const QString& file) {
+    OpenManual(menu, folder, file, report);
   };
   QObject::connect(&menu, &QMenu::aboutToShow, &menu, [&menu, folder, open] {
     menu.clear();

@@ -6,21 +6,23 @@
 #include <QFocusEvent>
 #include <QMenu>
 #include <QMenuBar>
-#include <QRadioButton>
 #include <QWidget>
+#include <algorithm>
+#include <memory>
 #include <stdexcept>
 
 #include "host/text_codec.h"
 #include "ui/kit/mnemonics.h"
+#include "ui/kit/widgets.h"
 #include "ui/tips/tool_tips.h"
 
 namespace ovl::ui {
 namespace {
 
-// Tells of events of a widget that has no signal for them.
-class EventWatch : public QObject {
+// Passes on the events of a widget that has no signal for them.
+class EventListener : public QObject {
  public:
-  EventWatch(QWidget& widget, std::function<void(const QEvent&)> seen)
+  EventListener(QWidget& widget, std::function<void(const QEvent&)> seen)
       : QObject(&widget), seen_(std::move(seen)) {
     widget.installEventFilter(this);
   }
@@ -34,11 +36,10 @@ class EventWatch : public QObject {
   std::function<void(const QEvent&)> seen_;
 };
 
-bool LeavesForGood(const QEvent& event) {
+bool LosesFocusForGood(const QEvent& event) {
   if (event.type() != QEvent::FocusOut) return false;
-  const auto reason = static_cast<const QFocusEvent&>(event).reason();
-  return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
-         reason != Qt::MenuBarFocusReason;
+  const auto& focus = static_cast<const QFocusEvent&>(event);
+  return LosesFocusToWidget(focus) && focus.reason() != Qt::MenuBarFocusReason;
 }
 
 }  // namespace
@@ -56,19 +57,19 @@ const controls::NamedControl& Bindings::Named(const controls::Form& form, std::s
   return *found;
 }
 
-// Chooses the widget for a kind of control.
+// Makes the widget that fits the kind of a control.
 struct Bindings::Maker {
   Bindings& bindings;
 
-  QWidget* operator()(controls::List* list) const { return bindings.MakeList(*list); }
+  QWidget* operator()(controls::List* list) const { return bindings.MakePickList(*list); }
   QWidget* operator()(const controls::OptionElement& element) const { return bindings.MakeOption(element); }
   QWidget* operator()(controls::TextBox* box) const {
-    return box->multi_line ? bindings.MakeLines(*box) : bindings.MakeText(*box);
+    return box->multi_line ? bindings.MakeTextEdit(*box) : bindings.MakeTextLine(*box);
   }
   QWidget* operator()(controls::Label* label) const { return bindings.MakeLabel(*label); }
   QWidget* operator()(controls::Button* button) const { return bindings.MakeButton(*button); }
-  QWidget* operator()(controls::CheckBox* box) const { return bindings.MakeCheck(*box); }
-  QWidget* operator()(controls::ProgressBar* bar) const { return bindings.MakeBar(*bar); }
+  QWidget* operator()(controls::CheckBox* box) const { return bindings.MakeCheckBox(*box); }
+  QWidget* operator()(controls::ProgressBar* bar) const { return bindings.MakeProgressBar(*bar); }
   template <class Other>
   QWidget* operator()(const Other&) const {
     throw std::logic_error("this kind of control has no widget of its own");
@@ -76,32 +77,32 @@ struct Bindings::Maker {
 };
 
 QWidget* Bindings::Make(const controls::NamedControl& control, const QString& label) {
-  if (std::holds_alternative<controls::OptionArray*>(control.control)) return Options(control, 1, label);
+  if (std::holds_alternative<controls::OptionArray*>(control.control)) return MakeOptions(control, 1, label);
   auto* widget = std::visit(Maker{*this}, control.control);
-  Introduce(*widget, control, label);
+  SetUp(*widget, control, label);
   return widget;
 }
 
-void Bindings::Introduce(QWidget& widget, const controls::NamedControl& control, const QString& label) {
-  const auto& face = controls::StateOf(control.control);
+void Bindings::SetUp(QWidget& widget, const controls::NamedControl& control, const QString& label) {
+  const auto& state = controls::StateOf(control.control);
   const auto* by_name = app_.registry.Find(control.name);
   const bool shared = by_name == nullptr || by_name->form != control.form;
   const auto name = host::FromWindows1252(control.name);
   widget.setObjectName(shared ? host::FromWindows1252(control.form->name) + QLatin1Char('.') + name : name);
-  widget.setAccessibleName(label.isEmpty() ? host::FromWindows1252(face.caption) : label);
+  widget.setAccessibleName(label.isEmpty() ? host::FromWindows1252(state.caption) : label);
   const auto tip = ToolTipOf(control.form->name, control.name);
   widget.setToolTip(tip);
   widget.setAccessibleDescription(tip);
-  widgets_[&face] = &widget;
+  widgets_[&state] = &widget;
   WatchFocus(widget, control.control);
 }
 
-void Bindings::FollowFace(QWidget& widget, const controls::ControlState& face,
-                          const controls::ControlState* group) {
-  Follow(
-      [&widget, &face, group, visible = ChangeDetector<bool>(), enabled = ChangeDetector<bool>()]() mutable {
-        const bool can = face.enabled && (group == nullptr || group->enabled);
-        const bool shows = face.visible && (group == nullptr || group->visible);
+void Bindings::BindState(QWidget& widget, const controls::ControlState& state,
+                         const controls::ControlState* group) {
+  OnRefresh(
+      [&widget, &state, group, visible = ChangeDetector<bool>(), enabled = ChangeDetector<bool>()]() mutable {
+        const bool can = state.enabled && (group == nullptr || group->enabled);
+        const bool shows = state.visible && (group == nullptr || group->visible);
         if (enabled.Update(can)) widget.setEnabled(can);
         if (!visible.Update(shows)) return false;
         widget.setVisible(shows);
@@ -109,24 +110,25 @@ void Bindings::FollowFace(QWidget& widget, const controls::ControlState& face,
       });
 }
 
-void Bindings::FollowCaption(QAbstractButton& button, const controls::ControlState& face) {
-  Follow([&button, &face, caption = ChangeDetector<std::string>()]() mutable {
-    if (!caption.Update(face.caption)) return false;
-    button.setText(CaptionText(face.caption).trimmed());
-    button.setAccessibleName(host::FromWindows1252(face.caption));
+void Bindings::BindCaption(QAbstractButton& button, const controls::ControlState& state) {
+  OnRefresh([&button, &state, caption = ChangeDetector<std::string>()]() mutable {
+    if (!caption.Update(state.caption)) return false;
+    button.setText(CaptionText(state.caption).trimmed());
+    button.setAccessibleName(host::FromWindows1252(state.caption));
     return true;
   });
 }
 
 void Bindings::WatchFocus(QWidget& widget, const controls::ControlRef& control) {
-  new EventWatch(widget, [this, control](const QEvent& event) {
-    if (LeavesForGood(event) && controls::StateOf(control).leave != nullptr) act_(core::LeaveEvent{control});
+  new EventListener(widget, [this, control](const QEvent& event) {
+    if (LosesFocusForGood(event) && controls::StateOf(control).leave != nullptr)
+      act_(core::LeaveEvent{control});
   });
 }
 
 void Bindings::WatchPointer(QWidget& widget, const controls::ControlRef& control,
                             const controls::ControlRef& around) {
-  new EventWatch(widget, [this, control, around](const QEvent& event) {
+  new EventListener(widget, [this, control, around](const QEvent& event) {
     const auto& over = event.type() == QEvent::Enter && controls::StateOf(control).enabled ? control : around;
     const bool moved = event.type() == QEvent::Enter || event.type() == QEvent::Leave;
     if (moved && controls::StateOf(over).point != nullptr) act_(core::PointEvent{over});
@@ -153,7 +155,7 @@ QAction* Bindings::Item(QMenu& menu, controls::MenuItem& item) {
     checked->Forget();
     if (action->isCheckable()) action->setChecked(item.checked);
   });
-  Follow(
+  OnRefresh(
       [&item, action, checked, shown = ChangeDetector<bool>(), enabled = ChangeDetector<bool>()]() mutable {
         if (enabled.Update(item.enabled)) action->setEnabled(item.enabled);
         if (checked->Update(item.checked)) {
@@ -176,7 +178,7 @@ QMenu* Bindings::SubMenu(QWidget& bar_or_menu, controls::MenuItem& item) {
   } else if (auto* parent = qobject_cast<QMenu*>(&bar_or_menu)) {
     parent->addMenu(menu);
   }
-  Follow([&item, menu, shown = ChangeDetector<bool>()]() mutable {
+  OnRefresh([&item, menu, shown = ChangeDetector<bool>()]() mutable {
     const auto actions = menu->actions();
     const bool filled = std::any_of(actions.begin(), actions.end(), [](const QAction* action) {
       return action->isVisible() && !action->isSeparator();

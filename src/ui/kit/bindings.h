@@ -1,17 +1,16 @@
-// Ties widgets to the controls of the model, one kind at a time: a widget shows the control's state, and a
-// person's act on it becomes an event. What an act leads to is never decided here.
+// Connects widgets to the controls of the model, one kind at a time. A widget shows the state of its control,
+// and an act of the user becomes an event. The bindings never decide what an act leads to.
 //
-// Every binding remembers what its widget was last given, so that a refresh in which nothing changed touches
-// no widget. Widgets bear the control's system name as objectName and their label as accessible name.
+// Every binding remembers the last value it gave to its widget, so a refresh touches only the widgets whose
+// control has changed. A widget has the system name of its control as objectName and its label as accessible
+// name.
 #pragma once
 
 #include <QString>
 #include <deque>
 #include <functional>
 #include <map>
-#include <memory>
 #include <string_view>
-#include <vector>
 
 #include "core/gate.h"
 
@@ -25,16 +24,16 @@ class QWidget;
 namespace ovl::ui {
 
 class PickList;
-class TallList;
+class ListBox;
 
 using ActFunction = std::function<core::Outcome(const core::Event&)>;
 using HintFunction = std::function<void(const QString&)>;
 
-// Remembers what was last shown.
+// Remembers the value that was last shown.
 template <class Value>
 class ChangeDetector {
  public:
-  // True when the value is another one than last time.
+  // True when the value differs from the last one.
   bool Update(const Value& value) {
     if (known_ && value_ == value) return false;
     value_ = value;
@@ -50,7 +49,7 @@ class ChangeDetector {
 
 class Bindings {
  public:
-  // `hint` shows a passing word to the person who types. The application object must outlive the bindings.
+  // `hint` shows a message to the user for a few seconds. The application object must outlive the bindings.
   Bindings(core::Application& app, ActFunction act, HintFunction hint);
   Bindings(const Bindings&) = delete;
   Bindings& operator=(const Bindings&) = delete;
@@ -58,71 +57,74 @@ class Bindings {
   core::Application& Model() const { return app_; }
   core::Outcome Act(const core::Event& event) const { return act_(event); }
 
-  // Throws std::logic_error for a name that the form lacks.
+  // Throws std::logic_error when the form has no control of this name.
   const controls::NamedControl& Named(const controls::Form& form, std::string_view name) const;
 
-  // The widget of a control; whoever places it owns it. The label is what a person calls it; where it is
-  // empty the caption serves. Option arrays come as a column of buttons; `Options` arranges them otherwise.
+  // Makes the widget of a control; the caller puts it into a layout, which then owns it. The label becomes
+  // the accessible name; without a label the caption is used. An option array becomes one column of buttons;
+  // `MakeOptions` makes more columns.
   QWidget* Make(const controls::NamedControl& control, const QString& label = {});
 
-  // An option array in so many columns, filled downwards; hidden elements leave no hole.
-  QWidget* Options(const controls::NamedControl& array, int columns, const QString& label = {});
+  // Makes the buttons of an option array in the given number of columns, filled from top to bottom. Hidden
+  // elements leave no gap.
+  QWidget* MakeOptions(const controls::NamedControl& array, int columns, const QString& label = {});
 
-  // A fixed text in the look of a list that cannot be picked from.
-  PickList* Fixed(const controls::NamedControl& text_box, const QString& label);
+  // Makes a disabled list that shows the text of a text box as its only entry.
+  PickList* MakeReadOnlyList(const controls::NamedControl& text_box, const QString& label);
 
-  // A list that is always open.
-  TallList* Tall(const controls::NamedControl& list, const QString& label);
+  // Makes a list that is always open.
+  ListBox* MakeListBox(const controls::NamedControl& list, const QString& label);
 
-  // An item without a handler and without items below it is not shown.
+  // Adds an item to a menu. An item without a handler and a menu without visible items are hidden.
   QAction* Item(QMenu& menu, controls::MenuItem& item);
   QMenu* SubMenu(QWidget& bar_or_menu, controls::MenuItem& item);
 
-  // Reports the pointer over a widget; when it leaves, it is over what stands around.
+  // Reports when the pointer moves onto a widget and when it leaves. After it has left, it is over the
+  // control `around`.
   void WatchPointer(QWidget& widget, const controls::ControlRef& control, const controls::ControlRef& around);
 
-  // Runs at every refresh; true when something was shown, hidden or renamed. What is added during a refresh
-  // runs in it as well.
-  void Follow(std::function<bool()> refresh) { refreshes_.push_back(std::move(refresh)); }
+  // Adds a function that every refresh calls. It returns true when it has shown, hidden or renamed something.
+  // A function that is added during a refresh already runs in this refresh.
+  void OnRefresh(std::function<bool()> refresh) { refreshes_.push_back(std::move(refresh)); }
 
-  // Brings all widgets up to the model. True when something was shown, hidden or renamed.
+  // Updates all widgets from the model. True when something was shown, hidden or renamed.
   bool Refresh();
 
-  // One line for the page in front, shown from the next refresh on.
-  void SetQuietLine(const QString& words) { quiet_line_ = words; }
-  const QString& QuietLine() const { return quiet_line_; }
+  // The line below the current page that says what else the last act has stored. The next refresh shows it.
+  void SetAlsoStored(const QString& words) { also_stored_ = words; }
+  const QString& AlsoStored() const { return also_stored_; }
 
-  // The widget that takes the focus for a control of the model; none for one that is not on the screen.
+  // The widget that gets the focus for a control of the model; null when the control has no widget.
   QWidget* WidgetOf(const controls::ControlState& control) const;
 
  private:
   struct Maker;
 
-  void Introduce(QWidget& widget, const controls::NamedControl& control, const QString& label);
-  void FollowFace(QWidget& widget, const controls::ControlState& face,
-                  const controls::ControlState* group = nullptr);
-  void FollowCaption(QAbstractButton& button, const controls::ControlState& face);
+  void SetUp(QWidget& widget, const controls::NamedControl& control, const QString& label);
+  void BindState(QWidget& widget, const controls::ControlState& state,
+                 const controls::ControlState* group = nullptr);
+  void BindCaption(QAbstractButton& button, const controls::ControlState& state);
   void WatchFocus(QWidget& widget, const controls::ControlRef& control);
 
-  QWidget* MakeList(controls::List& list);
+  QWidget* MakePickList(controls::List& list);
   QWidget* MakeOption(const controls::OptionElement& element);
-  QWidget* MakeText(controls::TextBox& box);
-  QWidget* MakeLines(controls::TextBox& box);
+  QWidget* MakeTextLine(controls::TextBox& box);
+  QWidget* MakeTextEdit(controls::TextBox& box);
   QWidget* MakeLabel(controls::Label& label);
   QWidget* MakeButton(controls::Button& button);
-  QWidget* MakeCheck(controls::CheckBox& box);
-  QWidget* MakeBar(controls::ProgressBar& bar);
+  QWidget* MakeCheckBox(controls::CheckBox& box);
+  QWidget* MakeProgressBar(controls::ProgressBar& bar);
   void StepOption(const controls::OptionElement& from, int step);
 
   core::Application& app_;
   ActFunction act_;
   HintFunction hint_;
-  QString quiet_line_;
+  QString also_stored_;
   std::deque<std::function<bool()>> refreshes_;
   std::map<const controls::ControlState*, QWidget*> widgets_;
 };
 
-// Text of the model on the screen, with "&" as a plain letter.
+// A text of the model for the screen; "&" does not underline a letter in it.
 QString CaptionText(const std::string& caption);
 
 }  // namespace ovl::ui

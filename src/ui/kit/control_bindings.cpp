@@ -1,10 +1,12 @@
-// One binding for each kind of control.
+// Makes the widget for each kind of control and binds it.
 #include <QGridLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <memory>
+#include <vector>
 
 #include "host/text_codec.h"
 #include "ui/kit/bindings.h"
@@ -27,7 +29,7 @@ struct ListShadow {
   ChangeDetector<int> position;
 };
 
-// Only one button of an array is a stop of the Tab key; arrows reach the others.
+// The Tab key reaches only one button of an array; the arrow keys reach the others.
 int TabStop(const controls::OptionArray& array) {
   const auto reachable = [&](int at) {
     const auto& element = array.elements.at(static_cast<std::size_t>(at));
@@ -57,7 +59,7 @@ void Arrange(QGridLayout& grid, const std::vector<QWidget*>& buttons, const cont
 
 }  // namespace
 
-QWidget* Bindings::MakeList(controls::List& list) {
+QWidget* Bindings::MakePickList(controls::List& list) {
   auto* box = new PickList;
   auto shadow = std::make_shared<ListShadow>();
   QObject::connect(box, &QComboBox::activated, box, [this, &list, shadow](int position) {
@@ -75,20 +77,20 @@ QWidget* Bindings::MakeList(controls::List& list) {
     if (shadow->position.Update(list.position)) box->setCurrentIndex(list.position);
     return renewed;
   };
-  // At once, so that a layout measures the list with its entries.
+  // The list is filled here and not at the first refresh, so that a layout measures it with its entries.
   show();
-  FollowFace(*box, list);
-  Follow(show);
+  BindState(*box, list);
+  OnRefresh(show);
   return box;
 }
 
-PickList* Bindings::Fixed(const controls::NamedControl& control, const QString& label) {
+PickList* Bindings::MakeReadOnlyList(const controls::NamedControl& control, const QString& label) {
   auto& text = *std::get<controls::TextBox*>(control.control);
   auto* box = new PickList;
-  Introduce(*box, control, label);
+  SetUp(*box, control, label);
   box->setEnabled(false);
   box->addItem(host::FromWindows1252(text.text));
-  Follow([box, &text, visible = ChangeDetector<bool>(), shown = ChangeDetector<std::string>()]() mutable {
+  OnRefresh([box, &text, visible = ChangeDetector<bool>(), shown = ChangeDetector<std::string>()]() mutable {
     if (shown.Update(text.text)) box->setItemText(0, host::FromWindows1252(text.text));
     if (!visible.Update(text.visible)) return false;
     box->setVisible(text.visible);
@@ -97,16 +99,16 @@ PickList* Bindings::Fixed(const controls::NamedControl& control, const QString& 
   return box;
 }
 
-TallList* Bindings::Tall(const controls::NamedControl& control, const QString& label) {
+ListBox* Bindings::MakeListBox(const controls::NamedControl& control, const QString& label) {
   auto& list = *std::get<controls::List*>(control.control);
-  auto* box = new TallList;
+  auto* box = new ListBox;
   auto shadow = std::make_shared<ListShadow>();
   box->picked = [this, &list, shadow](int position) {
     shadow->position.Forget();
     act_(core::PickEvent{&list, position});
   };
-  FollowFace(*box, list);
-  Follow([box, &list, shadow] {
+  BindState(*box, list);
+  OnRefresh([box, &list, shadow] {
     if (shadow->items.Update(list.items)) {
       box->clear();
       box->addItems(Texts(list.items));
@@ -115,29 +117,30 @@ TallList* Bindings::Tall(const controls::NamedControl& control, const QString& l
     if (shadow->position.Update(list.position)) box->SetMarked(list.position);
     return false;
   });
-  Introduce(*box, control, label);
+  SetUp(*box, control, label);
   return box;
 }
 
 QWidget* Bindings::MakeOption(const controls::OptionElement& element) {
   auto* button = new OptionButton;
-  const auto& face = element.Of();
-  button->setText(CaptionText(face.caption));
+  const auto& state = element.Of();
+  button->setText(CaptionText(state.caption));
   button->step = [this, element](int step) { StepOption(element, step); };
   QObject::connect(button, &QRadioButton::clicked, button,
                    [this, element] { act_(core::ClickEvent{element}); });
-  FollowFace(*button, face, element.array);
-  FollowCaption(*button, face);
-  Follow([this, button, element, chosen = ChangeDetector<bool>(), stop = ChangeDetector<bool>()]() mutable {
-    const bool is_chosen = element.array->chosen == element.element;
-    if (chosen.Update(is_chosen)) {
-      button->setChecked(is_chosen);
-      if (is_chosen) widgets_[element.array] = button;
-    }
-    const bool is_stop = TabStop(*element.array) == element.element;
-    if (stop.Update(is_stop)) button->setFocusPolicy(is_stop ? Qt::StrongFocus : Qt::ClickFocus);
-    return false;
-  });
+  BindState(*button, state, element.array);
+  BindCaption(*button, state);
+  OnRefresh(
+      [this, button, element, chosen = ChangeDetector<bool>(), stop = ChangeDetector<bool>()]() mutable {
+        const bool is_chosen = element.array->chosen == element.element;
+        if (chosen.Update(is_chosen)) {
+          button->setChecked(is_chosen);
+          if (is_chosen) widgets_[element.array] = button;
+        }
+        const bool is_stop = TabStop(*element.array) == element.element;
+        if (stop.Update(is_stop)) button->setFocusPolicy(is_stop ? Qt::StrongFocus : Qt::ClickFocus);
+        return false;
+      });
   return button;
 }
 
@@ -152,7 +155,7 @@ void Bindings::StepOption(const controls::OptionElement& from, int step) {
   }
 }
 
-QWidget* Bindings::Options(const controls::NamedControl& control, int columns, const QString& label) {
+QWidget* Bindings::MakeOptions(const controls::NamedControl& control, int columns, const QString& label) {
   auto& array = *std::get<controls::OptionArray*>(control.control);
   auto* holder = new QWidget;
   auto* grid = new QGridLayout(holder);
@@ -176,14 +179,14 @@ QWidget* Bindings::Options(const controls::NamedControl& control, int columns, c
     Arrange(*grid, buttons, array, columns);
     return true;
   };
-  // At once, so that a layout measures the buttons.
+  // The buttons are arranged here and not at the first refresh, so that a layout measures them.
   arrange();
-  FollowFace(*holder, array);
-  Follow(arrange);
+  BindState(*holder, array);
+  OnRefresh(arrange);
   return holder;
 }
 
-QWidget* Bindings::MakeText(controls::TextBox& box) {
+QWidget* Bindings::MakeTextLine(controls::TextBox& box) {
   auto* line = new TextLine;
   auto shadow = std::make_shared<ChangeDetector<std::string>>();
   line->refused = hint_;
@@ -192,8 +195,8 @@ QWidget* Bindings::MakeText(controls::TextBox& box) {
     shadow->Forget();
     if (act_(core::TypeEvent{&box, typed}) == core::Outcome::kDone) shadow->Update(typed);
   });
-  FollowFace(*line, box);
-  Follow(
+  BindState(*line, box);
+  OnRefresh(
       [line, &box, shadow, limit = ChangeDetector<std::size_t>(), fixed = ChangeDetector<bool>()]() mutable {
         if (limit.Update(box.max_length)) line->SetLimit(static_cast<int>(box.max_length));
         if (fixed.Update(box.read_only)) line->setReadOnly(box.read_only);
@@ -203,7 +206,7 @@ QWidget* Bindings::MakeText(controls::TextBox& box) {
   return line;
 }
 
-QWidget* Bindings::MakeLines(controls::TextBox& box) {
+QWidget* Bindings::MakeTextEdit(controls::TextBox& box) {
   auto* lines = new QPlainTextEdit;
   lines->setTabChangesFocus(true);
   auto shadow = std::make_shared<ChangeDetector<std::string>>();
@@ -216,8 +219,8 @@ QWidget* Bindings::MakeLines(controls::TextBox& box) {
         core::Outcome::kDone)
       shadow->Update(box.text);
   });
-  FollowFace(*lines, box);
-  Follow([lines, &box, shadow, fixed = ChangeDetector<bool>()]() mutable {
+  BindState(*lines, box);
+  OnRefresh([lines, &box, shadow, fixed = ChangeDetector<bool>()]() mutable {
     if (fixed.Update(box.read_only)) lines->setReadOnly(box.read_only);
     if (!shadow->Update(box.text)) return false;
     const QSignalBlocker blocker(lines);
@@ -230,8 +233,8 @@ QWidget* Bindings::MakeLines(controls::TextBox& box) {
 QWidget* Bindings::MakeLabel(controls::Label& label) {
   auto* text = new QLabel;
   text->setTextFormat(Qt::PlainText);
-  FollowFace(*text, label);
-  Follow([text, &label, caption = ChangeDetector<std::string>()]() mutable {
+  BindState(*text, label);
+  OnRefresh([text, &label, caption = ChangeDetector<std::string>()]() mutable {
     if (!caption.Update(label.caption)) return false;
     text->setText(host::FromWindows1252(label.caption));
     text->setAccessibleName(host::FromWindows1252(label.caption));
@@ -244,28 +247,28 @@ QWidget* Bindings::MakeButton(controls::Button& button) {
   auto* push = new QPushButton;
   push->setAutoDefault(true);
   QObject::connect(push, &QPushButton::clicked, push, [this, &button] { act_(core::ClickEvent{&button}); });
-  FollowFace(*push, button);
-  FollowCaption(*push, button);
+  BindState(*push, button);
+  BindCaption(*push, button);
   return push;
 }
 
-QWidget* Bindings::MakeCheck(controls::CheckBox& box) {
-  auto* check = new TurnBox;
+QWidget* Bindings::MakeCheckBox(controls::CheckBox& box) {
+  auto* check = new ModelCheckBox;
   QObject::connect(check, &QCheckBox::clicked, check, [this, &box] { act_(core::ClickEvent{&box}); });
-  FollowFace(*check, box);
-  FollowCaption(*check, box);
-  Follow([check, &box, checked = ChangeDetector<bool>()]() mutable {
+  BindState(*check, box);
+  BindCaption(*check, box);
+  OnRefresh([check, &box, checked = ChangeDetector<bool>()]() mutable {
     if (checked.Update(box.checked)) check->setChecked(box.checked);
     return false;
   });
   return check;
 }
 
-QWidget* Bindings::MakeBar(controls::ProgressBar& bar) {
+QWidget* Bindings::MakeProgressBar(controls::ProgressBar& bar) {
   auto* progress = new QProgressBar;
-  FollowFace(*progress, bar);
-  Follow([progress, &bar, maximum = ChangeDetector<int>(), value = ChangeDetector<int>(),
-          text = ChangeDetector<std::string>()]() mutable {
+  BindState(*progress, bar);
+  OnRefresh([progress, &bar, maximum = ChangeDetector<int>(), value = ChangeDetector<int>(),
+             text = ChangeDetector<std::string>()]() mutable {
     if (maximum.Update(bar.maximum)) progress->setMaximum(bar.maximum);
     if (value.Update(bar.value)) progress->setValue(bar.value);
     if (text.Update(bar.text)) {

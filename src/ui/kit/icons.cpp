@@ -9,7 +9,7 @@
 namespace ovl::ui {
 namespace {
 
-// Glyphs are described on a square of this many units.
+// The glyphs are drawn on a square with sides of this many units.
 constexpr qreal kUnits = 16;
 constexpr qreal kStroke = 1.4;
 
@@ -93,7 +93,7 @@ QPainterPath PathOf(Glyph glyph) {
   return {};
 }
 
-// Draws at the time of use, so that palette and scale may change while the icon stands.
+// Draws when the icon is painted, so that palette and scale may change after the icon was made.
 class GlyphEngine : public QIconEngine {
  public:
   explicit GlyphEngine(Glyph glyph) : glyph_(glyph) {}

@@ -1,5 +1,4 @@
-// The program's own icons: one stroke in the colour of the text beside it, drawn for the palette and the
-// scale at hand.
+// Icons that the program draws itself: lines in the text colour of the palette, sharp at every scale.
 #pragma once
 
 #include <QIcon>
@@ -8,10 +7,11 @@ namespace ovl::ui {
 
 enum class Glyph { kUpload, kDownload, kClock, kHistory, kRemote, kReset };
 
-// Drawn at the left edge of the icon's size; a size that is wider than high keeps the text beside it away.
+// The glyph is at the left edge of the icon. An icon that is wider than high keeps a distance to the text
+// beside it.
 QIcon GlyphIcon(Glyph glyph);
 
-// Draws the glyph into a square with the painter's own pen colour.
+// Draws the glyph into a square with the colour of the painter's pen.
 void DrawGlyph(QPainter& painter, Glyph glyph, const QRectF& square);
 
 }  // namespace ovl::ui

@@ -1,15 +1,14 @@
 #include "ui/kit/layout.h"
 
-#include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "host/text_codec.h"
+#include "ui/kit/box_layouts.h"
 #include "ui/kit/widgets.h"
 
 namespace ovl::ui {
@@ -17,7 +16,7 @@ namespace {
 
 enum GridColumn { kLabels, kFields, kRest, kGridColumns };
 
-class RowText : public QLabel {
+class RowLabelWidget : public QLabel {
  public:
   using QLabel::QLabel;
 
@@ -35,8 +34,8 @@ QWidget* TitleBlock(QLabel& title) {
   return block;
 }
 
-// A label that has a letter for the keyboard stands for the field behind it; a button has one of its own.
-void Attach(QLabel& label, QWidget& field) {
+// The keyboard letter of the label moves the focus to the field. A button has a letter in its own caption.
+void SetKeyboardTarget(QLabel& label, QWidget& field) {
   if (field.focusPolicy() != Qt::NoFocus && qobject_cast<QPushButton*>(&field) == nullptr)
     label.setBuddy(&field);
 }
@@ -57,10 +56,10 @@ struct PageColumn::SectionState {
   QLabel* title_label = nullptr;
   QWidget* block = nullptr;
   std::vector<RowState> rows;
-  ChangeDetector<QString> titled;
+  ChangeDetector<QString> shown_title;
   ChangeDetector<bool> shown;
   ChangeDetector<bool> enabled;
-  ChangeDetector<bool> leads;
+  ChangeDetector<bool> is_first;
 };
 
 struct PageColumn::State {
@@ -99,13 +98,13 @@ struct PageColumn::State {
 
   bool Refresh() {
     bool reshaped = false;
-    bool leads = true;
+    bool is_first = true;
     for (auto& section : sections) {
       if (section.block == nullptr) continue;
       bool any = false;
       reshaped |= ShowRows(section, Wanted(section), any);
       Enable(section);
-      if (any && section.titled.Update(section.title())) {
+      if (any && section.shown_title.Update(section.title())) {
         section.title_label->setText(section.title());
         section.title_label->setVisible(!section.title().isEmpty());
       }
@@ -113,10 +112,10 @@ struct PageColumn::State {
         section.block->setVisible(any);
         reshaped = true;
       }
-      if (any && section.leads.Update(leads)) {
-        section.block->layout()->setContentsMargins(0, leads ? 0 : kSectionGap - kRowGap, 0, kRowGap / 2);
+      if (any && section.is_first.Update(is_first)) {
+        section.block->layout()->setContentsMargins(0, is_first ? 0 : kSectionGap - kRowGap, 0, kRowGap / 2);
       }
-      leads = leads && !any;
+      is_first = is_first && !any;
     }
     return reshaped;
   }
@@ -128,14 +127,13 @@ PageColumn::PageColumn(Bindings& bindings, const controls::Form& form, QWidget& 
       holder_(&holder),
       grid_(new QGridLayout),
       state_(std::make_shared<State>()) {
-  auto* down = new QVBoxLayout(&holder);
-  down->setContentsMargins(0, 0, 0, 0);
+  auto* down = LayOutDown(holder);
   down->addLayout(grid_);
   down->addStretch(1);
   grid_->setHorizontalSpacing(kFieldGap + kFieldGap / 2);
   grid_->setVerticalSpacing(kRowGap);
   grid_->setColumnStretch(kRest, 1);
-  bindings_.Follow([state = state_] { return state->Refresh(); });
+  bindings_.OnRefresh([state = state_] { return state->Refresh(); });
 }
 
 PageColumn& PageColumn::Section(std::string_view frame) {
@@ -188,34 +186,32 @@ void PageColumn::Add(QWidget* label, QWidget* fields, std::function<bool()> show
 }
 
 std::function<bool()> PageColumn::AnyVisible(const std::vector<Field>& fields) const {
-  std::vector<const controls::ControlState*> faces;
+  std::vector<const controls::ControlState*> states;
   for (const auto& field : fields) {
     for (const auto& name : field.names)
-      faces.push_back(&controls::StateOf(bindings_.Named(form_, name).control));
+      states.push_back(&controls::StateOf(bindings_.Named(form_, name).control));
   }
-  return [faces] {
-    return std::any_of(faces.begin(), faces.end(),
-                       [](const controls::ControlState* face) { return face->visible; });
+  return [states] {
+    return std::any_of(states.begin(), states.end(),
+                       [](const controls::ControlState* state) { return state->visible; });
   };
 }
 
 QWidget* PageColumn::MakeField(const QString& label, const Field& field, QWidget*& first) {
   auto* holder = new QWidget;
-  auto* down = new QVBoxLayout(holder);
-  down->setContentsMargins(0, 0, 0, 0);
-  down->setSpacing(kRowGap / 4);
-  const auto called = field.caption.isEmpty() ? label : label + QLatin1Char(' ') + field.caption;
+  auto* down = LayOutDown(*holder, kRowGap / 4);
+  const auto accessible_name = field.caption.isEmpty() ? label : label + QLatin1Char(' ') + field.caption;
   for (const auto& name : field.names) {
-    auto* widget = bindings_.Make(bindings_.Named(form_, name), called);
+    auto* widget = bindings_.Make(bindings_.Named(form_, name), accessible_name);
     if (first == nullptr) first = widget;
-    if (field.cover.empty()) {
+    if (field.substitute.empty()) {
       down->addWidget(widget, 0, Qt::AlignLeft);
     } else {
-      Cover(*down, *widget, called, field.cover);
+      AddSubstitute(*down, *widget, accessible_name, field.substitute);
     }
   }
   if (!field.caption.isEmpty()) down->addWidget(MutedLabel(field.caption));
-  bindings_.Follow([holder, any = AnyVisible({field}), shown = ChangeDetector<bool>()]() mutable {
+  bindings_.OnRefresh([holder, any = AnyVisible({field}), shown = ChangeDetector<bool>()]() mutable {
     if (!shown.Update(any())) return false;
     holder->setVisible(any());
     return true;
@@ -223,60 +219,58 @@ QWidget* PageColumn::MakeField(const QString& label, const Field& field, QWidget
   return holder;
 }
 
-void PageColumn::Cover(QBoxLayout& place, QWidget& covered, const QString& label, const std::string& cover) {
-  const auto& named = bindings_.Named(form_, cover);
-  auto* below = new QWidget;
-  auto* across = new QHBoxLayout(below);
-  across->setContentsMargins(0, 0, 0, 0);
-  across->addWidget(&covered);
-  auto* above = bindings_.Fixed(named, label);
-  place.addWidget(below, 0, Qt::AlignLeft);
-  place.addWidget(above, 0, Qt::AlignLeft);
-  bindings_.Follow([below, &covered, above, &face = controls::StateOf(named.control),
-                    shown = ChangeDetector<bool>()]() mutable {
-    above->setMinimumWidth(covered.sizeHint().width());
-    if (!shown.Update(face.visible)) return false;
-    below->setVisible(!face.visible);
+void PageColumn::AddSubstitute(QBoxLayout& place, QWidget& replaced, const QString& label,
+                               const std::string& substitute) {
+  const auto& named = bindings_.Named(form_, substitute);
+  auto* replaced_holder = new QWidget;
+  auto* across = LayOutAcross(*replaced_holder);
+  across->addWidget(&replaced);
+  auto* shown_instead = bindings_.MakeReadOnlyList(named, label);
+  place.addWidget(replaced_holder, 0, Qt::AlignLeft);
+  place.addWidget(shown_instead, 0, Qt::AlignLeft);
+  bindings_.OnRefresh([replaced_holder, &replaced, shown_instead, &state = controls::StateOf(named.control),
+                       shown = ChangeDetector<bool>()]() mutable {
+    shown_instead->setMinimumWidth(replaced.sizeHint().width());
+    if (!shown.Update(state.visible)) return false;
+    replaced_holder->setVisible(!state.visible);
     return true;
   });
 }
 
 QWidget* PageColumn::MakeFields(const QString& label, const std::vector<Field>& fields, QWidget*& first) {
   auto* holder = new QWidget;
-  auto* across = new QHBoxLayout(holder);
-  across->setContentsMargins(0, 0, 0, 0);
-  across->setSpacing(kFieldGap);
+  auto* across = LayOutAcross(*holder, kFieldGap);
   int place = 0;
   for (const auto& field : fields) {
     const bool one_of_many = fields.size() > 1 && field.caption.isEmpty();
-    const auto called = one_of_many ? QStringLiteral("%1 %2").arg(label).arg(++place) : label;
-    across->addWidget(MakeField(called, field, first), 0, Qt::AlignTop);
+    const auto accessible_name = one_of_many ? QStringLiteral("%1 %2").arg(label).arg(++place) : label;
+    across->addWidget(MakeField(accessible_name, field, first), 0, Qt::AlignTop);
   }
   across->addStretch(1);
   return holder;
 }
 
 QLabel* PageColumn::MakeRowLabel(const RowLabel& label, const controls::NamedControl& first,
-                                 const controls::ControlState* cover) {
-  auto* text = new RowText(CaptionText(label.text.toStdString()));
+                                 const controls::ControlState* substitute) {
+  auto* text = new RowLabelWidget(CaptionText(label.text.toStdString()));
   text->setTextFormat(Qt::PlainText);
   const controls::ControlState* named =
       label.control.empty() ? nullptr : &controls::StateOf(bindings_.Named(form_, label.control).control);
   if (named != nullptr) text->setObjectName(QString::fromStdString(label.control));
-  const auto& face = controls::StateOf(first.control);
+  const auto& state = controls::StateOf(first.control);
   if (label.of_field) {
-    bindings_.Follow([text, &face, caption = ChangeDetector<std::string>()]() mutable {
-      if (!caption.Update(face.caption)) return false;
-      text->setText(CaptionText(face.caption));
-      if (text->buddy() != nullptr) text->buddy()->setAccessibleName(host::FromWindows1252(face.caption));
+    bindings_.OnRefresh([text, &state, caption = ChangeDetector<std::string>()]() mutable {
+      if (!caption.Update(state.caption)) return false;
+      text->setText(CaptionText(state.caption));
+      if (text->buddy() != nullptr) text->buddy()->setAccessibleName(host::FromWindows1252(state.caption));
       return true;
     });
   }
-  // The label of what is covered is as faint as what covers it.
-  bindings_.Follow([text, named, cover, &face, caption = ChangeDetector<std::string>(),
-                    enabled = ChangeDetector<bool>()]() mutable {
-    const bool covered = cover != nullptr && cover->visible;
-    const bool can = face.enabled && !covered && (named == nullptr || named->enabled);
+  // A substitute is a disabled list, so its label is disabled too.
+  bindings_.OnRefresh([text, named, substitute, &state, caption = ChangeDetector<std::string>(),
+                       enabled = ChangeDetector<bool>()]() mutable {
+    const bool replaced = substitute != nullptr && substitute->visible;
+    const bool can = state.enabled && !replaced && (named == nullptr || named->enabled);
     if (enabled.Update(can)) text->setEnabled(can);
     if (named == nullptr || !caption.Update(named->visible ? named->caption : std::string())) return false;
     text->setText(named->visible ? CaptionText(named->caption) : QString());
@@ -285,7 +279,7 @@ QLabel* PageColumn::MakeRowLabel(const RowLabel& label, const controls::NamedCon
   return text;
 }
 
-QString PageColumn::CalledBy(const RowLabel& label, const controls::NamedControl& first) const {
+QString PageColumn::AccessibleNameOf(const RowLabel& label, const controls::NamedControl& first) const {
   if (label.of_field) return host::FromWindows1252(controls::StateOf(first.control).caption);
   if (label.control.empty()) return label.text;
   return host::FromWindows1252(controls::StateOf(bindings_.Named(form_, label.control).control).caption);
@@ -294,10 +288,11 @@ QString PageColumn::CalledBy(const RowLabel& label, const controls::NamedControl
 PageColumn& PageColumn::Row(const RowLabel& label, const std::vector<Field>& fields) {
   const auto& control = bindings_.Named(form_, fields.front().names.front());
   QWidget* first = nullptr;
-  auto* holder = MakeFields(CalledBy(label, control), fields, first);
-  const auto& cover = fields.front().cover;
-  const auto* above = cover.empty() ? nullptr : &controls::StateOf(bindings_.Named(form_, cover).control);
-  return AddRow(label, control, holder, *first, AnyVisible(fields), above);
+  auto* holder = MakeFields(AccessibleNameOf(label, control), fields, first);
+  const auto& substitute = fields.front().substitute;
+  const auto* shown_instead =
+      substitute.empty() ? nullptr : &controls::StateOf(bindings_.Named(form_, substitute).control);
+  return AddRow(label, control, holder, *first, AnyVisible(fields), shown_instead);
 }
 
 PageColumn& PageColumn::Row(const char* name, QWidget* holder) {
@@ -308,15 +303,15 @@ PageColumn& PageColumn::Row(const char* name, QWidget* holder) {
 
 PageColumn& PageColumn::AddRow(const RowLabel& label, const controls::NamedControl& control, QWidget* fields,
                                QWidget& first, std::function<bool()> shown,
-                               const controls::ControlState* cover) {
-  auto* text = MakeRowLabel(label, control, cover);
+                               const controls::ControlState* substitute) {
+  auto* text = MakeRowLabel(label, control, substitute);
   text->setMinimumHeight(first.sizeHint().height());
-  Attach(*text, first);
+  SetKeyboardTarget(*text, first);
   Add(text, fields, std::move(shown));
   return *this;
 }
 
-PageColumn& PageColumn::Mark(const char* name) {
+PageColumn& PageColumn::FieldPrefix(const char* name) {
   auto* mark = bindings_.Make(bindings_.Named(form_, name));
   const int row = grid_->rowCount() - 1;
   mark->setMinimumHeight(grid_->itemAtPosition(row, kLabels)->widget()->minimumHeight());
@@ -329,7 +324,7 @@ PageColumn& PageColumn::LabelsAtLeast(int width) {
   return *this;
 }
 
-PageColumn& PageColumn::Alone(const char* name) {
+PageColumn& PageColumn::Unlabelled(const char* name) {
   QWidget* first = nullptr;
   Add(nullptr, MakeFields({}, {name}, first), AnyVisible({name}));
   return *this;
@@ -337,12 +332,10 @@ PageColumn& PageColumn::Alone(const char* name) {
 
 QWidget* PageColumn::MakeOptionColumn(const OptionColumn& column, std::function<bool()> shown) {
   auto* holder = new QWidget;
-  auto* down = new QVBoxLayout(holder);
-  down->setContentsMargins(0, 0, 0, 0);
-  down->setSpacing(kRowGap);
+  auto* down = LayOutDown(*holder, kRowGap);
   if (!column.head.isEmpty()) down->addWidget(MutedLabel(column.head));
-  down->addWidget(bindings_.Options(bindings_.Named(form_, column.array), column.columns, column.head));
-  bindings_.Follow([holder, shown = std::move(shown), was = ChangeDetector<bool>()]() mutable {
+  down->addWidget(bindings_.MakeOptions(bindings_.Named(form_, column.array), column.columns, column.head));
+  bindings_.OnRefresh([holder, shown = std::move(shown), was = ChangeDetector<bool>()]() mutable {
     const bool shows = shown();
     if (!was.Update(shows)) return false;
     holder->setVisible(shows);
@@ -353,9 +346,7 @@ QWidget* PageColumn::MakeOptionColumn(const OptionColumn& column, std::function<
 
 PageColumn& PageColumn::Options(const std::vector<OptionColumn>& arrays) {
   auto* holder = new QWidget;
-  auto* across = new QHBoxLayout(holder);
-  across->setContentsMargins(0, 0, 0, 0);
-  across->setSpacing(kColumnGap);
+  auto* across = LayOutAcross(*holder, kColumnGap);
   std::vector<std::function<bool()>> columns;
   for (const auto& array : arrays) {
     const controls::Frame* frame =
@@ -380,7 +371,7 @@ PageColumn& PageColumn::Options(const char* array, int columns) {
   return Options({OptionColumn{{}, array, columns}});
 }
 
-PageColumn& PageColumn::Wide(QWidget* widget, std::function<bool()> shown) {
+PageColumn& PageColumn::FullWidth(QWidget* widget, std::function<bool()> shown) {
   Add(nullptr, widget, std::move(shown));
   return *this;
 }
@@ -388,7 +379,7 @@ PageColumn& PageColumn::Wide(QWidget* widget, std::function<bool()> shown) {
 PageColumn& PageColumn::Note(const QString& text, std::function<bool()> shown) {
   auto* note = MutedLabel(text);
   note->setWordWrap(true);
-  return Wide(note, std::move(shown));
+  return FullWidth(note, std::move(shown));
 }
 
 bool PageColumn::AnySectionShown() const {

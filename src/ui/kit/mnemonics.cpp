@@ -14,7 +14,7 @@ namespace {
 
 constexpr QLatin1Char kSign('&');
 
-// The text without its letter, and the letter; "&&" stays, being a plain "&".
+// The text without its "&", and the letter behind it. "&&" stays: it shows a plain "&".
 struct Parts {
   QString bare;
   QChar letter;
@@ -39,7 +39,7 @@ bool StartsWord(const QString& text, qsizetype at) {
   return at == 0 || !text[at - 1].isLetterOrNumber();
 }
 
-// The places where the sign can stand, first letters of words ahead of the others.
+// The places for the "&": the first letters of words come before the other letters.
 std::vector<qsizetype> PlacesIn(const QString& text, bool digits) {
   std::vector<qsizetype> places;
   for (const bool starts : {true, false}) {
@@ -51,11 +51,11 @@ std::vector<qsizetype> PlacesIn(const QString& text, bool digits) {
   return places;
 }
 
-// Gives letters to texts. A text keeps the letter that it had, so that what fingers know stays; it only moves
-// to another of its letters when a text that came later would get none.
-class Giver {
+// Finds a letter for each text. A text keeps the letter that it had, because users know it by heart. It gets
+// another one only when a later text would get none.
+class MnemonicAllocator {
  public:
-  Giver(Letters taken, bool digits) : taken_(std::move(taken)), digits_(digits) {}
+  MnemonicAllocator(Letters taken, bool digits) : taken_(std::move(taken)), digits_(digits) {}
 
   void Add(const QString& text) {
     const auto parts = PartsOf(text);
@@ -66,8 +66,9 @@ class Giver {
     if (same != added.places.end() && IsFree(parts.letter)) added.at = *same;
   }
 
-  // In the order of the additions; a text whose letters all have gone bears none.
-  QStringList Give() {
+  // The texts with their "&", in the order in which they were added. A text gets none when all of its letters
+  // are taken.
+  QStringList Allocate() {
     for (auto& text : texts_) {
       if (text.at < 0) text.at = FreePlace(text);
     }
@@ -106,7 +107,8 @@ class Giver {
     return found == text.places.end() ? -1 : *found;
   }
 
-  // Whoever holds one of the text's letters takes another of its own, if need be after a third has moved.
+  // Frees a letter for a text: the text that has this letter moves to another of its own letters, if need be
+  // after a third text has moved.
   bool MakeRoom(std::size_t wanting, Letters& tried) {
     auto& text = texts_[wanting];
     for (const auto place : text.places) {
@@ -128,9 +130,9 @@ class Giver {
 
 template <class Owner>
 Letters Renew(const std::vector<Owner*>& owners, const Letters& taken, bool digits) {
-  Giver giver(taken, digits);
-  for (const auto* owner : owners) giver.Add(owner->text());
-  const auto texts = giver.Give();
+  MnemonicAllocator allocator(taken, digits);
+  for (const auto* owner : owners) allocator.Add(owner->text());
+  const auto texts = allocator.Allocate();
   Letters given;
   for (std::size_t at = 0; at < owners.size(); ++at) {
     const auto& text = texts[static_cast<qsizetype>(at)];
@@ -150,8 +152,8 @@ Letters RenewItems(const QList<QAction*>& actions) {
   return Renew(items, {}, true);
 }
 
-// A button or the label of a field, whichever it is.
-struct Worded {
+// A button, or the label of a field.
+struct CaptionedWidget {
   QAbstractButton* button;
   QLabel* label;
 
@@ -166,7 +168,7 @@ Letters AssignMenuMnemonics(QMenuBar& bar) {
 }
 
 void AssignPageMnemonics(QWidget& page, const Letters& taken) {
-  std::vector<Worded> worded;
+  std::vector<CaptionedWidget> captioned;
   for (auto* widget : page.findChildren<QWidget*>()) {
     if (!widget->isVisibleTo(&page)) continue;
     auto* button = qobject_cast<QAbstractButton*>(widget);
@@ -174,10 +176,10 @@ void AssignPageMnemonics(QWidget& page, const Letters& taken) {
       continue;
     auto* label = qobject_cast<QLabel*>(widget);
     if (button != nullptr || (label != nullptr && label->buddy() != nullptr))
-      worded.push_back({button, label});
+      captioned.push_back({button, label});
   }
-  std::vector<Worded*> owners;
-  for (auto& word : worded) owners.push_back(&word);
+  std::vector<CaptionedWidget*> owners;
+  for (auto& widget : captioned) owners.push_back(&widget);
   Renew(owners, taken, false);
 }
 

@@ -1,5 +1,8 @@
-// Underlined letters for the keyboard. They are given out over what is on the screen, so that none stands
-// twice.
+// Chooses the underlined letters for the keyboard, so that no letter is used twice in a window. They are
+// searched for and are not written as "&" into the captions, because the captions are fixed texts of the
+// model without "&" and the controls that share a page change with firmware, register and settings. Searching
+// for the first free letter is not enough: on a full page the last captions would get none, so captions that
+// can use another letter must move.
 #pragma once
 
 #include <QSet>
@@ -10,15 +13,15 @@ class QWidget;
 
 namespace ovl::ui {
 
-// Letters that a window uses everywhere, in lower case.
+// Letters that are already in use in a window, in lower case.
 using Letters = QSet<QChar>;
 
-// Gives a letter to each menu of the bar and, menu by menu, to each item. Returns the letters of the bar
-// itself.
+// Chooses a letter for each menu of the bar and for each item within its menu. Returns the letters of the
+// menus.
 Letters AssignMenuMnemonics(QMenuBar& bar);
 
-// Gives a letter to each button, check box and labelled field that shows on the page. Elements of option
-// arrays get none: arrows reach them. Digits are left to the tabs.
+// Chooses a letter for each visible button, check box and labelled field of the page. Elements of option
+// arrays get none: the arrow keys reach them. Digits are kept for the tabs.
 void AssignPageMnemonics(QWidget& page, const Letters& taken);
 
 }  // namespace ovl::ui

@@ -1,29 +1,23 @@
 #include "ui/kit/layout.h"
 
-#include <QFrame>
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "host/text_codec.h"
-#include "ui/kit/widgets.h"
-
 namespace ovl::ui {
 namespace {
 
-QLabel* QuietLabel(Bindings& bindings) {
+QLabel* AlsoStoredLabel(Bindings& bindings) {
   auto* label = MutedLabel({});
   label->setObjectName(QStringLiteral("QuietLine"));
   label->setWordWrap(true);
   label->setVisible(false);
-  bindings.Follow([&bindings, label, shown = ChangeDetector<QString>()]() mutable {
-    if (!shown.Update(bindings.QuietLine())) return false;
-    label->setText(bindings.QuietLine());
-    label->setVisible(!bindings.QuietLine().isEmpty());
+  bindings.OnRefresh([&bindings, label, shown = ChangeDetector<QString>()]() mutable {
+    if (!shown.Update(bindings.AlsoStored())) return false;
+    label->setText(bindings.AlsoStored());
+    label->setVisible(!bindings.AlsoStored().isEmpty());
     return false;
   });
   return label;
@@ -59,21 +53,21 @@ PageColumn& Page::Column(int share, int least) {
   return columns_.emplace_back(bindings_, form_, *holder);
 }
 
-QScrollArea* Page::Finish(const QString& calm) {
-  auto* line = MutedLabel(calm);
+QScrollArea* Page::Finish(const QString& empty_text) {
+  auto* line = MutedLabel(empty_text);
   across_->addWidget(line, 0, Qt::AlignTop | Qt::AlignLeft);
   down_->addLayout(across_, fills_ ? 1 : 0);
-  down_->addWidget(QuietLabel(bindings_));
+  down_->addWidget(AlsoStoredLabel(bindings_));
   if (!fills_) down_->addStretch(1);
   for (auto& column : columns_) {
-    bindings_.Follow([column, shown = ChangeDetector<bool>()]() mutable {
+    bindings_.OnRefresh([column, shown = ChangeDetector<bool>()]() mutable {
       const bool show = column.AnySectionShown();
       if (!shown.Update(show)) return false;
       column.Holder().setVisible(show);
       return true;
     });
   }
-  bindings_.Follow([line, columns = columns_, shown = ChangeDetector<bool>()]() mutable {
+  bindings_.OnRefresh([line, columns = columns_, shown = ChangeDetector<bool>()]() mutable {
     const bool any = std::any_of(columns.begin(), columns.end(),
                                  [](const PageColumn& column) { return column.AnySectionShown(); });
     if (!shown.Update(!any)) return false;

@@ -58,7 +58,7 @@ bool IsDark(const QPalette& palette) {
   return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
 }
 
-// Flat tabs with a line below the current one, and lists that open at most ten lines high.
+// Flat tabs with a line below the current one, and drop-down lists that show at most ten lines.
 class OvlStyle : public QProxyStyle {
  public:
   OvlStyle() : QProxyStyle(QStyleFactory::create("Fusion")) {}
@@ -100,7 +100,7 @@ class OvlStyle : public QProxyStyle {
       return;
     }
     if (element == PE_FrameStatusBarItem) return;
-    // Where the keyboard is can always be seen, also after a click.
+    // The focus is always visible, also after a click.
     if (element == PE_FrameFocusRect) return DrawRing(option->rect, FocusColor(option->palette), painter);
     if (element == PE_FrameLineEdit ||
         (element == PE_Frame && qobject_cast<const QLabel*>(widget) != nullptr)) {
@@ -145,7 +145,7 @@ class OvlStyle : public QProxyStyle {
   }
 
  private:
-  // The default button has a darker edge, and only the one with the focus its colour.
+  // The default button has a darker edge; only the button with the focus has the colour of the focus.
   void DrawBevel(const QStyleOptionButton& button, QPainter* painter, const QWidget* widget) const {
     auto plain = button;
     plain.features.setFlag(QStyleOptionButton::DefaultButton, false);
@@ -159,13 +159,13 @@ class OvlStyle : public QProxyStyle {
     }
   }
 
-  // Light enough on dark ground.
+  // Lighter on a dark background.
   static QColor FocusColor(const QPalette& palette) {
     const auto accent = palette.color(QPalette::Highlight);
     return IsDark(palette) ? accent.lighter(kLighter) : accent;
   }
 
-  // Half way from a hairline to muted text: an outline that stands out on every ground.
+  // Between the colour of lines and that of muted text: an outline that is visible on both backgrounds.
   static QColor EdgeColor(const QPalette& palette) {
     const auto line = HairlineColor(palette), text = MutedColor(palette);
     return QColor((line.red() + text.red()) / 2, (line.green() + text.green()) / 2,
@@ -190,7 +190,7 @@ class OvlStyle : public QProxyStyle {
     painter->restore();
   }
 
-  // In one colour, on which the figures can be read.
+  // One colour, so that the numbers on it can be read.
   static void DrawProgress(const QStyleOptionProgressBar& bar, QPainter* painter) {
     const auto room = bar.rect.adjusted(1, 1, -1, -1);
     const int span = std::max(bar.maximum - bar.minimum, 1);
@@ -200,7 +200,7 @@ class OvlStyle : public QProxyStyle {
                       bar.palette.color(QPalette::Highlight));
   }
 
-  // A box or ring with an outline that stands out on both grounds.
+  // The box of a check box or the ring of an option, with an outline that is visible on both backgrounds.
   static void DrawIndicator(const QStyleOption& option, bool round, QPainter* painter) {
     const auto& palette = option.palette;
     const bool enabled = option.state.testFlag(State_Enabled);

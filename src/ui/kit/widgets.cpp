@@ -1,11 +1,13 @@
 #include "ui/kit/widgets.h"
 
 #include <QAbstractItemView>
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
 #include <QValidator>
 #include <QWheelEvent>
+#include <algorithm>
 
 #include "host/text_codec.h"
 #include "ui/kit/theme.h"
@@ -28,7 +30,7 @@ int DetailStart(const QAbstractItemModel& model, const QFontMetrics& metrics) {
   return widest + kDetailGap;
 }
 
-// The entry's text, and its detail muted in a column of its own.
+// Draws the text of an entry, and its detail muted in a second column.
 class DetailDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -53,11 +55,11 @@ class DetailDelegate : public QStyledItemDelegate {
   }
 };
 
-// Marks the entry that counts by its weight and a bar at its edge. The cursor is strong only while the list
-// has the focus, so that the focus is seen.
+// Marks the entry that the model has chosen by a bold text and a bar at the edge. The cursor is strong only
+// while the list has the focus, so that the focus is visible.
 class MarkDelegate : public QStyledItemDelegate {
  public:
-  explicit MarkDelegate(TallList* list) : QStyledItemDelegate(list), list_(list) {}
+  explicit MarkDelegate(ListBox* list) : QStyledItemDelegate(list), list_(list) {}
 
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     auto size = QStyledItemDelegate::sizeHint(option, index);
@@ -85,10 +87,10 @@ class MarkDelegate : public QStyledItemDelegate {
   }
 
  private:
-  TallList* list_;
+  ListBox* list_;
 };
 
-qsizetype SizeWithoutFill(const QString& text) {
+qsizetype SizeWithoutPadding(const QString& text) {
   auto size = text.size();
   while (size > 0 && text[size - 1] == QLatin1Char(' ')) --size;
   return size;
@@ -96,8 +98,13 @@ qsizetype SizeWithoutFill(const QString& text) {
 
 }  // namespace
 
-// What a text line takes, and why it did not take the last it was offered.
-class TextRule : public QValidator {
+bool LosesFocusToWidget(const QFocusEvent& event) {
+  return event.type() == QEvent::FocusOut && event.reason() != Qt::ActiveWindowFocusReason &&
+         event.reason() != Qt::PopupFocusReason;
+}
+
+// Decides which characters a text line accepts, and keeps the reason of the last refusal.
+class TextValidator : public QValidator {
  public:
   using QValidator::QValidator;
 
@@ -105,7 +112,7 @@ class TextRule : public QValidator {
     if (!host::ToWindows1252(text))
       return Refuse(QStringLiteral("The unit has no such character: only Windows-1252 can be typed."));
     if (limit == 0 || text.size() <= limit) return Acceptable;
-    text.truncate(std::max<qsizetype>({limit, caret, SizeWithoutFill(text)}));
+    text.truncate(std::max<qsizetype>({limit, caret, SizeWithoutPadding(text)}));
     if (text.size() <= limit) return Acceptable;
     return Refuse(QStringLiteral("No more than %1 characters fit here.").arg(limit));
   }
@@ -140,7 +147,7 @@ void PickList::wheelEvent(QWheelEvent* event) {
   event->ignore();
 }
 
-TallList::TallList(QWidget* parent) : QListWidget(parent) {
+ListBox::ListBox(QWidget* parent) : QListWidget(parent) {
   setItemDelegate(new MarkDelegate(this));
   setUniformItemSizes(true);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -149,13 +156,13 @@ TallList::TallList(QWidget* parent) : QListWidget(parent) {
   });
 }
 
-void TallList::SetMarked(int row) {
+void ListBox::SetMarked(int row) {
   marked_ = row;
   setCurrentRow(row);
   viewport()->update();
 }
 
-void TallList::keyPressEvent(QKeyEvent* event) {
+void ListBox::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -169,11 +176,9 @@ void TallList::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-void TallList::focusOutEvent(QFocusEvent* event) {
+void ListBox::focusOutEvent(QFocusEvent* event) {
   QListWidget::focusOutEvent(event);
-  const bool stays =
-      event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
-  if (!stays) setCurrentRow(marked_);
+  if (LosesFocusToWidget(*event)) setCurrentRow(marked_);
 }
 
 OptionButton::OptionButton(QWidget* parent) : QRadioButton(parent) {
@@ -195,34 +200,34 @@ void OptionButton::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-TextLine::TextLine(QWidget* parent) : QLineEdit(parent), rule_(new TextRule(this)) {
-  setValidator(rule_);
+TextLine::TextLine(QWidget* parent) : QLineEdit(parent), validator_(new TextValidator(this)) {
+  setValidator(validator_);
   setTextMargins(kTextIndent, 0, kTextIndent, 0);
   connect(this, &QLineEdit::inputRejected, this, [this] {
-    if (refused) refused(rule_->reason);
+    if (refused) refused(validator_->reason);
   });
 }
 
 void TextLine::SetLimit(int characters) {
-  rule_->limit = characters;
+  validator_->limit = characters;
 }
 
 void TextLine::keyPressEvent(QKeyEvent* event) {
   QLineEdit::keyPressEvent(event);
-  LeaveBlanks(text().size());
+  MoveCaretOutOfPadding(text().size());
 }
 
 void TextLine::mouseReleaseEvent(QMouseEvent* event) {
   QLineEdit::mouseReleaseEvent(event);
-  LeaveBlanks(0);
+  MoveCaretOutOfPadding(0);
 }
 
-// Behind the blanks of a full text there is no room: a caret that came there, or was put among blanks that no
-// one sees, goes to the end of what is seen.
-void TextLine::LeaveBlanks(qsizetype from) {
-  const bool full = text().size() == rule_->limit;
+// A full text has no room behind its padding. A caret behind or within the padding goes to the end of the
+// text that the user sees.
+void TextLine::MoveCaretOutOfPadding(qsizetype from) {
+  const bool full = text().size() == validator_->limit;
   if (!full || hasSelectedText() || cursorPosition() < from) return;
-  setCursorPosition(std::min(cursorPosition(), static_cast<int>(SizeWithoutFill(text()))));
+  setCursorPosition(std::min(cursorPosition(), static_cast<int>(SizeWithoutPadding(text()))));
 }
 
 }  // namespace ovl::ui

@@ -1,5 +1,5 @@
-// The few widgets that differ from the toolkit's own: none of them changes its state by itself. A person's
-// act is reported, and what then shows is the model's answer.
+// The widgets that differ from those of Qt. None of them changes its state by itself: it reports the act of
+// the user, and then it shows what the model says.
 #pragma once
 
 #include <QCheckBox>
@@ -11,17 +11,20 @@
 
 namespace ovl::ui {
 
-class TextRule;
+class TextValidator;
 
-// A pick-only list. The wheel scrolls the page behind it and never changes it.
+// True when the focus moves to another widget, and not just to another window or to a popup.
+bool LosesFocusToWidget(const QFocusEvent& event);
+
+// A drop-down list. The mouse wheel scrolls the page and never changes the list.
 class PickList : public QComboBox {
  public:
-  // Text that stands muted behind an entry in the opened list.
+  // The role of a muted text behind an entry in the open list.
   static constexpr int kDetailRole = Qt::UserRole + 1;
 
   explicit PickList(QWidget* parent = nullptr);
 
-  // Shows kDetailRole behind the entries.
+  // Shows the texts of kDetailRole behind the entries.
   void ShowDetails();
   void showPopup() override;
 
@@ -29,15 +32,15 @@ class PickList : public QComboBox {
   void wheelEvent(QWheelEvent* event) override;
 };
 
-// A list that is always open. Arrows and letters move in it; Enter or a click picks, also what is picked
-// already.
-class TallList : public QListWidget {
+// A list that is always open. Arrow keys and letters move the cursor. Enter or a click picks an entry, also
+// the one that is already picked.
+class ListBox : public QListWidget {
  public:
-  explicit TallList(QWidget* parent = nullptr);
+  explicit ListBox(QWidget* parent = nullptr);
 
   std::function<void(int row)> picked;
 
-  // The entry that counts, marked wherever the cursor stands; -1: none.
+  // The entry that the model has chosen; it is marked wherever the cursor is. -1: none.
   void SetMarked(int row);
   int Marked() const { return marked_; }
 
@@ -49,7 +52,7 @@ class TallList : public QListWidget {
   int marked_ = -1;
 };
 
-// An element of an option array. Arrows pick its neighbours, as they do where the toolkit decides itself.
+// An element of an option array. The arrow keys pick its neighbours, as in other programs with Qt.
 class OptionButton : public QRadioButton {
  public:
   explicit OptionButton(QWidget* parent = nullptr);
@@ -61,7 +64,7 @@ class OptionButton : public QRadioButton {
   void keyPressEvent(QKeyEvent* event) override;
 };
 
-class TurnBox : public QCheckBox {
+class ModelCheckBox : public QCheckBox {
  public:
   using QCheckBox::QCheckBox;
 
@@ -69,8 +72,8 @@ class TurnBox : public QCheckBox {
   void nextCheckState() override {}
 };
 
-// Takes characters of Windows-1252 only, and no more than its limit. The blanks that fill a text up give way
-// to what is typed in front of them. `refused` is told the reason when something is turned away.
+// Accepts only characters of Windows-1252, and no more than its limit. Blanks at the end of a full text are
+// removed when the user types in front of them. `refused` gets the reason when a character is not accepted.
 class TextLine : public QLineEdit {
  public:
   explicit TextLine(QWidget* parent = nullptr);
@@ -84,9 +87,9 @@ class TextLine : public QLineEdit {
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
-  void LeaveBlanks(qsizetype from);
+  void MoveCaretOutOfPadding(qsizetype from);
 
-  TextRule* rule_;
+  TextValidator* validator_;
 };
 
 }  // namespace ovl::ui

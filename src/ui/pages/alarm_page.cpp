@@ -1,6 +1,5 @@
 #include "ui/pages/pages.h"
 
-#include <QLabel>
 #include <QScrollArea>
 
 #include "host/text_codec.h"
@@ -25,7 +24,7 @@ QString TriggerText(const controls::MainForm& form, int trigger) {
              : entry;
 }
 
-// The counter runs up to 256; 0 is the last entry, the pulse.
+// The stored counter runs up to 256, so the time is 256 minus the counter; 0 is the last entry, the pulse.
 QString DurationText(const controls::MainForm& form, int counter) {
   const auto& list = form.ComboALM[3];
   return counter == 0 ? EntryText(list, static_cast<int>(list.items.size()) - 1)
@@ -55,7 +54,7 @@ void AddEditor(PageColumn& column, const controls::MainForm& form) {
   column.Section("Frame8")
       .Row("ComboALM(0)")
       .Row("ComboALM(1)")
-      .Mark("lbAlmTrig")
+      .FieldPrefix("lbAlmTrig")
       .Row("ComboALM(2)")
       .Row("ComboALM(3)")
       .Row("ComboALM(6)")
@@ -92,7 +91,7 @@ QWidget* BuildAlarmPage(Bindings& bindings) {
   column.Section("Frame15");
   AddTextRow(bindings, column, "TextTrigger", "cmdSetTrigger", ButtonPlace::kBelow);
   column.Row("ComboTrigger(0)").Row("ComboTrigger(1)").Row("ComboTrigger(2)");
-  return BesideOverview(bindings, AlarmOverview(bindings), page.Finish({}));
+  return OverviewWithEditor(bindings, AlarmOverview(bindings), page.Finish({}));
 }
 
 }  // namespace ovl::ui

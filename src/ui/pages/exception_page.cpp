@@ -21,7 +21,8 @@ constexpr int kBoxPadding = 4;
 constexpr int kBelowOption = 20;
 constexpr int kShortRowWidth = 210;
 
-// What an exception can set off: its list, its bit in the slot's flags, and how the overview shows it.
+// An act that an exception can start: its list, its bit in the flags of the slot, and how the overview shows
+// it.
 struct Act {
   std::size_t list;
   int bit;
@@ -33,8 +34,8 @@ constexpr std::array kActs = {
     Act{3, image::kHistoryBit, 'H', "H history"}, Act{4, image::kScrollBit, 'S', "S scroll matching"}};
 constexpr std::size_t kScrollMatching = 4;
 
-// Scroll matching is told also where the panel has no list for it: it holds the other acts off.
-bool Told(const controls::MainForm& form, const Act& act) {
+// Scroll matching is listed even when the panel has no list for it, because it prevents the other acts.
+bool IsListed(const controls::MainForm& form, const Act& act) {
   return act.list == kScrollMatching || form.ComboExcp[act.list].visible;
 }
 
@@ -62,7 +63,7 @@ QString TextOf(const core::Application& app, const std::string& slot) {
 QString ActsText(const core::Application& app, int flags) {
   QStringList letters;
   for (const auto& act : kActs) {
-    if (Told(app.frmMain, act) && codecs::HasBit(flags, act.bit))
+    if (IsListed(app.frmMain, act) && codecs::HasBit(flags, act.bit))
       letters.append(QChar::fromLatin1(act.letter));
   }
   return letters.join(QLatin1Char(' '));
@@ -71,7 +72,7 @@ QString ActsText(const core::Application& app, int flags) {
 QString Legend(const core::Application& app) {
   QStringList words;
   for (const auto& act : kActs) {
-    if (Told(app.frmMain, act)) words.append(QString::fromLatin1(act.word));
+    if (IsListed(app.frmMain, act)) words.append(QString::fromLatin1(act.word));
   }
   return words.join(QStringLiteral("   "));
 }
@@ -91,7 +92,7 @@ QWidget* ExceptionOverview(Bindings& bindings) {
                         [&app] { return Legend(app); }});
 }
 
-// The two values as they stand, in the look of fields that can't be typed into.
+// The two values of the range, in the look of fields that cannot be edited.
 void AddRange(Bindings& bindings, PageColumn& column) {
   column.Row("RANGE", {"TextRANGE(0)", "TextRANGE(1)", "cmdSetRange"});
   auto& form = bindings.Model().frmMain;
@@ -125,11 +126,11 @@ void AddEditor(Bindings& bindings, PageColumn& column) {
 
 void AddRecorder(Bindings& bindings, PageColumn& column) {
   column.Section("Frame5")
-      .Alone("OpDVR(0)")
-      .Alone("OpDVR(1)")
+      .Unlabelled("OpDVR(0)")
+      .Unlabelled("OpDVR(1)")
       .Row(RowLabel::FromModel("Label1(12)"), "ComboKLM4011(0)")
       .Row(RowLabel::FromModel("Label1(13)"), "ComboKLM4011(1)")
-      .Alone("OpDVR(2)")
+      .Unlabelled("OpDVR(2)")
       .Row(RowLabel::FromModel("Label1(14)"), "ComboKLM4011(2)")
       .Row(RowLabel::FromModel("Label1(15)"), "ComboKLM4011(3)");
   const auto& form = bindings.Model().frmMain;
@@ -143,7 +144,7 @@ void AddRecorder(Bindings& bindings, PageColumn& column) {
   }
 }
 
-// Report and scroll matching beside the recorder, so that the tab is seen as a whole.
+// Puts report and scroll matching beside the recorder, so that the whole tab is visible.
 QWidget* LowerPart(Bindings& bindings, int labels) {
   auto* holder = new QWidget;
   auto* across = new QHBoxLayout(holder);
@@ -192,8 +193,8 @@ QWidget* BuildExceptionPage(Bindings& bindings) {
                                    &form.ComboExcepRe[2], &form.ComboScroll[0]});
   column.LabelsAtLeast(labels);
   AddEditor(bindings, column);
-  column.Wide(LowerPart(bindings, labels));
-  return BesideOverview(bindings, ExceptionOverview(bindings), page.Finish({}));
+  column.FullWidth(LowerPart(bindings, labels));
+  return OverviewWithEditor(bindings, ExceptionOverview(bindings), page.Finish({}));
 }
 
 }  // namespace ovl::ui

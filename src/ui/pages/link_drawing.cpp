@@ -13,7 +13,7 @@ namespace {
 constexpr QSize kSize(440, 116);
 constexpr qreal kStroke = 1.8;
 
-// The line runs from one device to the other at this height.
+// The height and the ends of the line between the two devices.
 constexpr qreal kLineY = 52;
 constexpr qreal kLineLeft = 116;
 constexpr qreal kLineRight = 318;
@@ -23,39 +23,38 @@ constexpr QRectF kScreen(14, 20, 82, 52);
 constexpr QRectF kUnit(332, 28, 100, 44);
 constexpr qreal kWordHeight = 20;
 
-bool IsLive(LinkPicture picture) {
-  return picture == LinkPicture::kAccess || picture == LinkPicture::kUploading ||
-         picture == LinkPicture::kDownloading;
+bool IsLive(LinkState state) {
+  return state == LinkState::kAccess || state == LinkState::kUploading || state == LinkState::kDownloading;
 }
 
 }  // namespace
 
-LinkPicture LinkPictureOf(const core::Application& app) {
+LinkState LinkStateOf(const core::Application& app) {
   const auto& form = app.frmMain;
-  if (app.ScanActive) return LinkPicture::kScanning;
-  if (!form.MSComm1.PortOpen) return LinkPicture::kClosed;
-  if (form.General_timer.enabled) return LinkPicture::kAsked;
+  if (app.ScanActive) return LinkState::kScanning;
+  if (!form.MSComm1.PortOpen) return LinkState::kClosed;
+  if (form.General_timer.enabled) return LinkState::kAsked;
   const bool access = form.Picture1[3].visible;
-  if (access && app.LinkMode == core::kLinkUpload) return LinkPicture::kUploading;
-  if (access && app.LinkMode == core::kLinkDownload) return LinkPicture::kDownloading;
-  return access ? LinkPicture::kAccess : LinkPicture::kOpen;
+  if (access && app.LinkMode == core::kLinkUpload) return LinkState::kUploading;
+  if (access && app.LinkMode == core::kLinkDownload) return LinkState::kDownloading;
+  return access ? LinkState::kAccess : LinkState::kOpen;
 }
 
-QString WordOf(LinkPicture picture) {
-  switch (picture) {
-    case LinkPicture::kClosed:
+QString LinkStateText(LinkState state) {
+  switch (state) {
+    case LinkState::kClosed:
       return QStringLiteral("Port closed");
-    case LinkPicture::kOpen:
+    case LinkState::kOpen:
       return QStringLiteral("Port open");
-    case LinkPicture::kAsked:
+    case LinkState::kAsked:
       return QStringLiteral("Asking for remote");
-    case LinkPicture::kAccess:
+    case LinkState::kAccess:
       return QStringLiteral("Remote held");
-    case LinkPicture::kUploading:
+    case LinkState::kUploading:
       return QStringLiteral("Uploading");
-    case LinkPicture::kDownloading:
+    case LinkState::kDownloading:
       return QStringLiteral("Downloading");
-    case LinkPicture::kScanning:
+    case LinkState::kScanning:
       return QStringLiteral("Scanning");
   }
   return {};
@@ -81,7 +80,7 @@ QSize LinkDrawing::sizeHint() const {
 LinkDrawing::Shown LinkDrawing::FromModel() const {
   const auto& form = app_.frmMain;
   Shown shown;
-  shown.picture = LinkPictureOf(app_);
+  shown.state = LinkStateOf(app_);
   if (form.Picture1[1].visible) shown.hint = Hint::kToComputer;
   if (form.Picture1[2].visible) shown.hint = Hint::kToUnit;
   shown.port = app_.PortNumber == 0 ? QStringLiteral("Computer")
@@ -93,8 +92,8 @@ void LinkDrawing::Refresh() {
   auto now = FromModel();
   if (now == shown_ && !accessibleName().isEmpty()) return;
   shown_ = std::move(now);
-  setAccessibleName(QStringLiteral("Link to the unit: ") + WordOf(shown_.picture));
-  access_.setForegroundRole(IsLive(shown_.picture) ? QPalette::Link : QPalette::WindowText);
+  setAccessibleName(QStringLiteral("Link to the unit: ") + LinkStateText(shown_.state));
+  access_.setForegroundRole(IsLive(shown_.state) ? QPalette::Link : QPalette::WindowText);
   update();
 }
 
@@ -120,7 +119,7 @@ void LinkDrawing::DrawUnit(QPainter& painter) const {
   const qreal middle = kUnit.center().y();
   for (const qreal x : {16.0, 30.0, 44.0}) {
     const QPointF lamp(kUnit.left() + x, middle);
-    const bool lit = IsLive(shown_.picture);
+    const bool lit = IsLive(shown_.state);
     painter.setBrush(lit ? QBrush(AccentColor(palette())) : QBrush(Qt::NoBrush));
     painter.drawEllipse(lamp, 3.2, 3.2);
   }
@@ -132,13 +131,13 @@ void LinkDrawing::DrawUnit(QPainter& painter) const {
 
 void LinkDrawing::DrawLine(QPainter& painter) const {
   auto pen = painter.pen();
-  const bool live = IsLive(shown_.picture);
-  const bool waits = shown_.picture == LinkPicture::kAsked || shown_.picture == LinkPicture::kScanning;
+  const bool live = IsLive(shown_.state);
+  const bool waits = shown_.state == LinkState::kAsked || shown_.state == LinkState::kScanning;
   QPen line(live ? AccentColor(palette()) : pen.color(), live ? 2.4 : kStroke, Qt::SolidLine, Qt::RoundCap);
   if (waits) line.setDashPattern({2, 3});
-  if (shown_.picture == LinkPicture::kClosed) line.setColor(MutedColor(palette()));
+  if (shown_.state == LinkState::kClosed) line.setColor(MutedColor(palette()));
   painter.setPen(line);
-  if (shown_.picture == LinkPicture::kClosed) {
+  if (shown_.state == LinkState::kClosed) {
     constexpr qreal kGap = 22;
     constexpr qreal kPin = 6;
     for (const qreal end : {kLineMiddle - kGap, kLineMiddle + kGap}) {
@@ -154,32 +153,31 @@ void LinkDrawing::DrawLine(QPainter& painter) const {
 void LinkDrawing::DrawMark(QPainter& painter) const {
   const QPointF middle(kLineMiddle, kLineY);
   const auto pen = painter.pen();
-  switch (shown_.picture) {
-    case LinkPicture::kAsked:
+  switch (shown_.state) {
+    case LinkState::kAsked:
       painter.setBrush(palette().color(QPalette::Window));
       painter.drawEllipse(middle, 7, 7);
       break;
-    case LinkPicture::kScanning:
+    case LinkState::kScanning:
       painter.setBrush(palette().color(QPalette::Window));
       painter.drawEllipse(middle + QPointF(-2, -2), 7, 7);
       painter.drawLine(middle + QPointF(3, 3), middle + QPointF(9, 9));
       break;
-    case LinkPicture::kAccess:
+    case LinkState::kAccess:
       painter.setPen(Qt::NoPen);
       painter.setBrush(AccentColor(palette()));
       painter.drawEllipse(middle, 7, 7);
       break;
-    case LinkPicture::kUploading:
-    case LinkPicture::kDownloading:
-      DrawArrows(painter, shown_.picture == LinkPicture::kDownloading, true);
+    case LinkState::kUploading:
+    case LinkState::kDownloading:
+      DrawArrows(painter, shown_.state == LinkState::kDownloading, true);
       break;
     default:
       break;
   }
   painter.setBrush(Qt::NoBrush);
   painter.setPen(pen);
-  const bool moving =
-      shown_.picture == LinkPicture::kUploading || shown_.picture == LinkPicture::kDownloading;
+  const bool moving = shown_.state == LinkState::kUploading || shown_.state == LinkState::kDownloading;
   if (shown_.hint != Hint::kNone && !moving) DrawArrows(painter, shown_.hint == Hint::kToUnit, false);
 }
 
@@ -211,7 +209,7 @@ void LinkDrawing::DrawWords(QPainter& painter) const {
   painter.setPen(MutedColor(palette()));
   put(QRectF(kScreen.left() - 20, foot, kScreen.width() + 40, kWordHeight), shown_.port);
   put(QRectF(kUnit.left() - 10, foot, kUnit.width() + 20, kWordHeight), QStringLiteral("Unit"));
-  put(under, WordOf(shown_.picture));
+  put(under, LinkStateText(shown_.state));
 }
 
 }  // namespace ovl::ui

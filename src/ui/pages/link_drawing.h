@@ -1,4 +1,5 @@
-// The state of the link as a drawing: computer, line, unit. Form and words tell it; colour only adds to them.
+// A drawing of the link: computer, line, unit. Shapes and texts show its state, so it can be read without
+// colours.
 #pragma once
 
 #include <QWidget>
@@ -11,17 +12,17 @@ struct Application;
 
 namespace ovl::ui {
 
-enum class LinkPicture { kClosed, kOpen, kAsked, kAccess, kUploading, kDownloading, kScanning };
+enum class LinkState { kClosed, kOpen, kAsked, kAccess, kUploading, kDownloading, kScanning };
 
-LinkPicture LinkPictureOf(const core::Application& app);
-QString WordOf(LinkPicture picture);
+LinkState LinkStateOf(const core::Application& app);
+QString LinkStateText(LinkState state);
 
 class LinkDrawing : public QWidget {
  public:
-  // The label tells whether there is access; it is placed over the line and owned by the drawing.
+  // The label says whether there is remote access. The drawing owns it and puts it above the line.
   LinkDrawing(const core::Application& app, QLabel& access);
 
-  // Takes over what the model shows; repaints only when it changed.
+  // Updates the drawing from the model; repaints only when something changed.
   void Refresh();
 
   QSize sizeHint() const override;
@@ -33,7 +34,7 @@ class LinkDrawing : public QWidget {
  private:
   enum class Hint { kNone, kToComputer, kToUnit };
   struct Shown {
-    LinkPicture picture = LinkPicture::kClosed;
+    LinkState state = LinkState::kClosed;
     Hint hint = Hint::kNone;
     QString port;
     bool operator==(const Shown&) const = default;

@@ -8,8 +8,10 @@
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <memory>
 
 #include "ui/kit/theme.h"
+#include "ui/kit/widgets.h"
 
 namespace ovl::ui {
 namespace {
@@ -19,8 +21,8 @@ constexpr int kCellPadding = 6;
 constexpr int kMarkWidth = 3;
 constexpr int kUsedRole = Qt::UserRole + 1;
 
-// The same marks as in other lists that stay open: weight and a bar for the line that counts, the strong
-// colour for the cursor while the list has the focus.
+// The same marks as in ListBox: a bold text and a bar for the marked line, a strong colour for the cursor
+// while the list has the focus.
 class LineDelegate : public QStyledItemDelegate {
  public:
   explicit LineDelegate(OverviewList* list) : QStyledItemDelegate(list), list_(list) {}
@@ -69,7 +71,7 @@ void FillItem(QTreeWidgetItem& item, const OverviewLine& line) {
   for (int cell = 0; cell < line.cells.size(); ++cell) {
     item.setText(cell, line.cells[cell]);
     item.setData(cell, kUsedRole, line.used);
-    // What the column cuts short is read where the pointer rests.
+    // The tool tip shows the text that the column cuts.
     item.setToolTip(cell, line.cells[cell]);
   }
 }
@@ -77,6 +79,27 @@ void FillItem(QTreeWidgetItem& item, const OverviewLine& line) {
 QString UseText(const std::vector<OverviewLine>& lines) {
   const auto used = std::count_if(lines.begin(), lines.end(), [](const auto& line) { return line.used; });
   return QStringLiteral("%1 of %2 in use").arg(used).arg(lines.size());
+}
+
+// Fills the table and marks the entry that is picked in the list.
+void BindTable(Bindings& bindings, controls::List& list, OverviewList& table, QLabel& use,
+               std::function<std::vector<OverviewLine>()> lines) {
+  auto marked = std::make_shared<ChangeDetector<int>>();
+  table.picked = [&bindings, &list, marked](int line) {
+    marked->Forget();
+    bindings.Act(core::PickEvent{&list, line});
+  };
+  bindings.OnRefresh([&table, &use, &list, marked, lines = std::move(lines),
+                      shown = ChangeDetector<std::vector<OverviewLine>>()]() mutable {
+    const auto now = lines();
+    if (shown.Update(now)) {
+      table.Show(now);
+      use.setText(UseText(now));
+      marked->Forget();
+    }
+    if (marked->Update(list.position)) table.SetMarked(list.position);
+    return false;
+  });
 }
 
 }  // namespace
@@ -123,14 +146,14 @@ void OverviewList::Show(const std::vector<OverviewLine>& lines) {
   }
 }
 
-void OverviewList::MoveTo(int line) {
+void OverviewList::SetCursor(int line) {
   const QSignalBlocker blocker(this);
   setCurrentItem(topLevelItem(line));
 }
 
 void OverviewList::SetMarked(int line) {
   marked_ = line;
-  MoveTo(line);
+  SetCursor(line);
   viewport()->update();
 }
 
@@ -142,7 +165,7 @@ void OverviewList::keyPressEvent(QKeyEvent* event) {
       return;
     case Qt::Key_Escape:
       if (marked_ < 0) return QTreeWidget::keyPressEvent(event);
-      MoveTo(marked_);
+      SetCursor(marked_);
       return;
     default:
       QTreeWidget::keyPressEvent(event);
@@ -151,9 +174,7 @@ void OverviewList::keyPressEvent(QKeyEvent* event) {
 
 void OverviewList::focusOutEvent(QFocusEvent* event) {
   QTreeWidget::focusOutEvent(event);
-  const bool stays =
-      event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
-  if (!stays && marked_ >= 0) MoveTo(marked_);
+  if (LosesFocusToWidget(*event) && marked_ >= 0) SetCursor(marked_);
 }
 
 QWidget* BuildOverview(Bindings& bindings, controls::List& list, Overview overview) {
@@ -162,37 +183,25 @@ QWidget* BuildOverview(Bindings& bindings, controls::List& list, Overview overvi
   down->setContentsMargins(kMargin, kMargin, 0, kMargin);
   down->setSpacing(kRowGap);
   auto* table = new OverviewList(overview.columns);
-  table->setObjectName(overview.name);
-  table->setAccessibleName(overview.called);
+  table->setObjectName(overview.object_name);
+  table->setAccessibleName(overview.accessible_name);
   table->setAccessibleDescription(QStringLiteral("Arrows move, Enter picks."));
   auto* below = new QHBoxLayout;
   auto* legend = MutedLabel({});
   auto* use = MutedLabel({});
-  use->setObjectName(overview.name + QStringLiteral("Use"));
+  use->setObjectName(overview.object_name + QStringLiteral("Use"));
   legend->setWordWrap(true);
   below->addWidget(legend, 1);
   below->addWidget(use);
   down->addWidget(table, 1);
   down->addLayout(below);
-
-  auto marked = std::make_shared<ChangeDetector<int>>();
-  table->picked = [&bindings, &list, marked](int line) {
-    marked->Forget();
-    bindings.Act(core::PickEvent{&list, line});
-  };
-  bindings.Follow([table, use, legend, &list, marked, lines = std::move(overview.lines),
-                   words = std::move(overview.legend), shown = ChangeDetector<std::vector<OverviewLine>>(),
-                   told = ChangeDetector<QString>()]() mutable {
-    const auto now = lines();
-    if (shown.Update(now)) {
-      table->Show(now);
-      use->setText(UseText(now));
-      marked->Forget();
-    }
-    if (told.Update(words())) legend->setText(words());
-    if (marked->Update(list.position)) table->SetMarked(list.position);
-    return false;
-  });
+  BindTable(bindings, list, *table, *use, std::move(overview.lines));
+  bindings.OnRefresh(
+      [legend, text = std::move(overview.legend), shown = ChangeDetector<QString>()]() mutable {
+        const auto now = text();
+        if (shown.Update(now)) legend->setText(now);
+        return false;
+      });
   return side;
 }
 

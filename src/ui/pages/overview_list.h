@@ -1,5 +1,5 @@
-// A table that stands beside an editor of one of many: it shows all of them and picks. It reads the image and
-// writes nothing; a pick is the same event as one in the editor's own list.
+// A table beside an editor that shows one of many entries: it lists all of them, and the user can pick one.
+// It only reads the image; a pick is the same event as a pick in the list of the editor.
 #pragma once
 
 #include <QStringList>
@@ -11,7 +11,7 @@
 
 namespace ovl::ui {
 
-// One line of the table. What is not in use is shown muted.
+// One line of the table. A line that is not in use is muted.
 struct OverviewLine {
   QStringList cells;
   bool used = false;
@@ -21,14 +21,14 @@ struct OverviewLine {
 
 struct OverviewColumn {
   QString head;
-  QString widest;  // a text for which the column has room; the column without one takes what is left
+  QString widest;  // the widest text of the column; the column without one takes the remaining width
 };
 
 class OverviewList : public QTreeWidget {
  public:
   explicit OverviewList(const std::vector<OverviewColumn>& columns, QWidget* parent = nullptr);
 
-  // Arrows move; Enter or a click picks.
+  // The arrow keys move the cursor; Enter or a click picks.
   std::function<void(int line)> picked;
 
   void Show(const std::vector<OverviewLine>& lines);
@@ -37,8 +37,8 @@ class OverviewList : public QTreeWidget {
   void SetMarked(int line);
   int Marked() const { return marked_; }
 
-  // The cursor alone.
-  void MoveTo(int line);
+  // Moves the cursor but not the mark.
+  void SetCursor(int line);
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -50,11 +50,11 @@ class OverviewList : public QTreeWidget {
   int marked_ = -1;
 };
 
-// An overview over the entries of a list of the model, with a muted legend below it. `lines` is asked at
-// every refresh. Alongside the legend stands how many lines are in use.
+// An overview of the entries of a list of the model. Below it there are a muted legend and the number of
+// lines in use. Every refresh calls `lines`.
 struct Overview {
-  QString name;    // as objectName
-  QString called;  // as accessible name
+  QString object_name;
+  QString accessible_name;
   std::vector<OverviewColumn> columns;
   std::function<std::vector<OverviewLine>()> lines;
   std::function<QString()> legend;

@@ -1,5 +1,6 @@
 
 #include <QScrollArea>
+#include <array>
 #include <string>
 
 #include "ui/kit/layout.h"
@@ -12,16 +13,18 @@ namespace {
 const QString kCarriedThrough =
     QStringLiteral("This firmware's settings of this tab are carried through unchanged.");
 
-std::string Member(const char* array, std::size_t index) {
-  return std::string(array) + "(" + std::to_string(index) + ")";
+// A row for each list of an array.
+void AddListRows(PageColumn& column, const std::string& array, std::size_t count) {
+  for (std::size_t list = 0; list < count; ++list) {
+    column.Row((array + "(" + std::to_string(list) + ")").c_str());
+  }
 }
 
 QWidget* TextSetupPage(Bindings& bindings) {
   Page page(bindings, bindings.Model().frmMain.form);
   auto& column = page.Column();
   column.Section("Frame3");
-  const auto& lists = bindings.Model().frmMain.ComboDIP;
-  for (std::size_t list = 0; list < lists.size(); ++list) column.Row(Member("ComboDIP", list).c_str());
+  AddListRows(column, "ComboDIP", bindings.Model().frmMain.ComboDIP.size());
   return page.Finish(kCarriedThrough);
 }
 
@@ -32,7 +35,7 @@ QWidget* CommunicationPage(Bindings& bindings) {
       .Row("ComboCOMM(0)")
       .Row("ComboCOMM(1)")
       .Row("ComboCOMM(2)")
-      .Row(RowLabel::OfField(), {Field::Covered("ComboCOMM(7)", "ComboNone(0)")})
+      .Row(RowLabel::OfField(), {Field::WithSubstitute("ComboCOMM(7)", "ComboNone(0)")})
       .Row("ComboCOMM(3)")
       .Row("ComboCOMM(4)")
       .Row("ComboCOMM(5)")
@@ -41,8 +44,8 @@ QWidget* CommunicationPage(Bindings& bindings) {
   page.Column()
       .Section("Frame13")
       .Row("ComboCOMM(9)")
-      .Row(RowLabel::OfField(), {Field::Covered("ComboCOMM(10)", "ComboNone(1)")})
-      .Row(RowLabel::OfField(), {Field::Covered("ComboCOMM(11)", "ComboNone(2)")})
+      .Row(RowLabel::OfField(), {Field::WithSubstitute("ComboCOMM(10)", "ComboNone(1)")})
+      .Row(RowLabel::OfField(), {Field::WithSubstitute("ComboCOMM(11)", "ComboNone(2)")})
       .Row("ComboCOMM(12)");
   return page.Finish(kCarriedThrough);
 }
@@ -51,8 +54,7 @@ QWidget* TimeLanguagePage(Bindings& bindings) {
   Page page(bindings, bindings.Model().frmMain.form);
   auto& column = page.Column();
   column.Section("Frame2");
-  const auto& lists = bindings.Model().frmMain.ComboTD;
-  for (std::size_t list = 0; list < lists.size(); ++list) column.Row(Member("ComboTD", list).c_str());
+  AddListRows(column, "ComboTD", bindings.Model().frmMain.ComboTD.size());
   AddTitleRows(bindings, column);
   page.Column().Section("Frame12").Row("ComboLang");
   return page.Finish(kCarriedThrough);

@@ -1,4 +1,4 @@
-// The seven tabs of the main form, each laid out by the names of its controls.
+// Builds the pages of the seven tabs of the main form from the names of their controls.
 #pragma once
 
 #include <array>
@@ -13,21 +13,21 @@ namespace ovl::ui {
 
 using PageBuilder = QWidget* (*)(Bindings& bindings);
 
-// In the order of the tabs. Whoever places a page owns it.
+// In the order of the tabs. The caller owns the page.
 extern const std::array<PageBuilder, 7> kPages;
 
-// The register tab: the list of registers, and the options of the one that is selected.
+// The register tab: the list of registers, and the options of the selected one.
 QWidget* BuildRegisterPage(Bindings& bindings);
 
-// All alarms, or all exceptions, at the left, the one that is edited at the right.
+// All alarms or exceptions at the left, the editor of one of them at the right.
 QWidget* BuildAlarmPage(Bindings& bindings);
 QWidget* BuildExceptionPage(Bindings& bindings);
 
-// The alarms and the exceptions as the image holds them, in the words of the panels' lists.
+// The alarms and the exceptions of the image, in the words of the lists of the panels.
 std::vector<OverviewLine> AlarmLines(const core::Application& app);
 std::vector<OverviewLine> ExceptionLines(const core::Application& app);
 
-// The centre of the program: the link to the unit and what is done over it.
+// The tab of the link: the state of the link, the transfers and the clock of the unit.
 QWidget* BuildRemotePage(Bindings& bindings);
 
 }  // namespace ovl::ui

@@ -10,19 +10,19 @@
 #include <optional>
 
 #include "host/text_codec.h"
+#include "ui/frames/register_frames.h"
+#include "ui/kit/box_layouts.h"
 #include "ui/kit/layout.h"
 #include "ui/kit/theme.h"
 #include "ui/kit/widgets.h"
-#include "ui/pages/register_frames.h"
 
 namespace ovl::ui {
 namespace {
 
 constexpr int kRegisterListWidth = 270;
 constexpr int kSignSize = 18;
-constexpr int kButtonWidth = 112;
 
-// The one pair of frames that show together, the second below the first.
+// The only two frames that show together, the second one below the first.
 constexpr int kModels = 49;
 constexpr int kModelsCompanion = 18;
 
@@ -33,14 +33,14 @@ QWidget* RegisterList(Bindings& bindings) {
   down->setContentsMargins(kMargin, kMargin, 0, kMargin);
   down->setSpacing(kRowGap);
   auto* title = TitleLabel(QStringLiteral("Register"));
-  auto* list = bindings.Tall(bindings.Named(form.form, "ComboReg"), title->text());
+  auto* list = bindings.MakeListBox(bindings.Named(form.form, "ComboReg"), title->text());
   title->setBuddy(list);
   auto* count = MutedLabel({});
   down->addWidget(title);
   down->addWidget(list, 1);
   down->addWidget(count);
   side->setFixedWidth(kMargin + kRegisterListWidth);
-  bindings.Follow([count, &form, entries = ChangeDetector<std::size_t>()]() mutable {
+  bindings.OnRefresh([count, &form, entries = ChangeDetector<std::size_t>()]() mutable {
     if (!entries.Update(form.ComboReg.items.size())) return false;
     count->setText(
         QStringLiteral("Type to find, Enter picks. %1 registers.").arg(form.ComboReg.items.size()));
@@ -49,8 +49,8 @@ QWidget* RegisterList(Bindings& bindings) {
   return side;
 }
 
-// Builds a frame's lines when the frame is first shown: a person sees a few of them in a day, and all of them
-// would slow every start.
+// Builds the rows of a frame when it is first shown. An installer sees only a few frames a day, and building
+// all of them would delay every start.
 class FrameBuilder {
  public:
   FrameBuilder(Bindings& bindings, PageColumn column) : bindings_(bindings), column_(std::move(column)) {}
@@ -91,7 +91,7 @@ class FrameBuilder {
     std::vector<Field> fields;
     for (const auto& row : line) fields.emplace_back(std::string(row.control));
     if (first.words.empty()) {
-      column_.Alone(fields.front().names.front().c_str());
+      column_.Unlabelled(fields.front().names.front().c_str());
     } else {
       column_.Row(LabelOf(first), fields);
     }
@@ -119,9 +119,7 @@ class FrameBuilder {
   void AddWarning(const FrameRow& row) {
     const auto& named = Named(row.control);
     auto* holder = new QWidget;
-    auto* across = new QHBoxLayout(holder);
-    across->setContentsMargins(0, 0, 0, 0);
-    across->setSpacing(kFieldGap);
+    auto* across = LayOutAcross(*holder, kFieldGap);
     auto* sign = new QLabel;
     sign->setPixmap(
         holder->style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(QSize(kSignSize, kSignSize)));
@@ -132,7 +130,7 @@ class FrameBuilder {
     across->addWidget(sign);
     across->addWidget(words);
     across->addStretch(1);
-    column_.Wide(holder, [&face = controls::StateOf(named.control)] { return face.visible; });
+    column_.FullWidth(holder, [&state = controls::StateOf(named.control)] { return state.visible; });
   }
 
   Bindings& bindings_;
@@ -140,12 +138,12 @@ class FrameBuilder {
   std::array<bool, std::tuple_size_v<decltype(controls::MainForm::frmAddress)>> built_{};
 };
 
-// The options of the selected register, or the calm line of one that has none.
+// The options of the selected register, or a line that says that it has none.
 QWidget* RegisterOptionsPage(Bindings& bindings) {
   auto& form = bindings.Model().frmMain;
-  // Followed ahead of the column, so that what is built shows in the same refresh.
+  // Added before the column, so that the rows that it builds show in the same refresh.
   auto builder = std::make_shared<std::optional<FrameBuilder>>();
-  bindings.Follow([builder] {
+  bindings.OnRefresh([builder] {
     (*builder)->BuildShown();
     return false;
   });
@@ -166,9 +164,7 @@ QWidget* RegisterOptionsPage(Bindings& bindings) {
 
 QWidget* BuildRegisterPage(Bindings& bindings) {
   auto* page = new QWidget;
-  auto* across = new QHBoxLayout(page);
-  across->setContentsMargins(0, 0, 0, 0);
-  across->setSpacing(0);
+  auto* across = LayOutAcross(*page, 0);
   across->addWidget(RegisterList(bindings));
   across->addWidget(RegisterOptionsPage(bindings), 1);
   return page;

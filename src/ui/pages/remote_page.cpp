@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 #include <array>
 
+#include "ui/kit/box_layouts.h"
 #include "ui/kit/icons.h"
 #include "ui/kit/layout.h"
 #include "ui/kit/theme.h"
@@ -17,20 +18,19 @@ namespace {
 
 constexpr int kActionHeight = 40;
 constexpr QSize kActionIcon(23, 18);
-constexpr int kPortButtonWidth = 112;
 constexpr int kSetTimeWidth = 236;
 constexpr int kLinkWidth = 440;
 
 constexpr std::array kGlyphs{Glyph::kUpload,  Glyph::kDownload, Glyph::kClock,
                              Glyph::kHistory, Glyph::kRemote,   Glyph::kReset};
 
-QWidget* Plain(Bindings& bindings, std::string_view name) {
+QWidget* MakeByName(Bindings& bindings, std::string_view name) {
   return bindings.Make(bindings.Named(bindings.Model().frmMain.form, name));
 }
 
 QPushButton* ActionButton(Bindings& bindings, controls::LinkAction action) {
   auto& form = bindings.Model().frmMain;
-  auto* button = static_cast<QPushButton*>(Plain(bindings, "CmdUpDow(" + std::to_string(action) + ")"));
+  auto* button = static_cast<QPushButton*>(MakeByName(bindings, "CmdUpDow(" + std::to_string(action) + ")"));
   button->setIcon(GlyphIcon(kGlyphs.at(static_cast<std::size_t>(action))));
   button->setIconSize(kActionIcon);
   button->setMinimumHeight(kActionHeight);
@@ -40,15 +40,14 @@ QPushButton* ActionButton(Bindings& bindings, controls::LinkAction action) {
 }
 
 QWidget* Drawing(Bindings& bindings) {
-  auto* access = static_cast<QLabel*>(Plain(bindings, "lbRemoteAccess"));
+  auto* access = static_cast<QLabel*>(MakeByName(bindings, "lbRemoteAccess"));
   auto* drawing = new LinkDrawing(bindings.Model(), *access);
-  bindings.Follow([drawing] {
+  bindings.OnRefresh([drawing] {
     drawing->Refresh();
     return false;
   });
   auto* holder = new QWidget;
-  auto* across = new QHBoxLayout(holder);
-  across->setContentsMargins(0, 0, 0, 0);
+  auto* across = LayOutAcross(*holder);
   across->addWidget(drawing);
   across->addStretch(1);
   return holder;
@@ -56,12 +55,11 @@ QWidget* Drawing(Bindings& bindings) {
 
 QWidget* PortLine(Bindings& bindings) {
   auto* holder = new QWidget;
-  auto* across = new QHBoxLayout(holder);
-  across->setContentsMargins(0, 0, 0, 0);
-  across->addWidget(Plain(bindings, "lbConnectting"), 1);
+  auto* across = LayOutAcross(*holder);
+  across->addWidget(MakeByName(bindings, "lbConnectting"), 1);
   for (const char* name : {"cmdConnect", "cmdDisConnect"}) {
-    auto* button = Plain(bindings, name);
-    button->setMinimumWidth(kPortButtonWidth);
+    auto* button = MakeByName(bindings, name);
+    button->setMinimumWidth(kButtonWidth);
     across->addWidget(button);
   }
   return holder;
@@ -69,9 +67,7 @@ QWidget* PortLine(Bindings& bindings) {
 
 QWidget* Actions(Bindings& bindings) {
   auto* holder = new QWidget;
-  auto* down = new QVBoxLayout(holder);
-  down->setContentsMargins(0, 0, 0, 0);
-  down->setSpacing(kFieldGap);
+  auto* down = LayOutDown(*holder, kFieldGap);
   down->addWidget(ActionButton(bindings, controls::kRemote));
   const std::array<std::array<controls::LinkAction, 2>, 2> pairs{
       {{controls::kUpload, controls::kDownload}, {controls::kLoadHistory, controls::kMasterReset}}};
@@ -86,12 +82,10 @@ QWidget* Actions(Bindings& bindings) {
 
 QWidget* Progress(Bindings& bindings) {
   auto* holder = new QWidget;
-  auto* down = new QVBoxLayout(holder);
-  down->setContentsMargins(0, 0, 0, 0);
-  down->setSpacing(kRowGap);
+  auto* down = LayOutDown(*holder, kRowGap);
   auto* across = new QHBoxLayout;
-  across->addWidget(Plain(bindings, "Label64(0)"));
-  across->addWidget(Plain(bindings, "Label64(1)"));
+  across->addWidget(MakeByName(bindings, "Label64(0)"));
+  across->addWidget(MakeByName(bindings, "Label64(1)"));
   across->addStretch(1);
   auto* passed = MutedLabel({});
   passed->setObjectName(QStringLiteral("TransferProgress"));
@@ -100,7 +94,7 @@ QWidget* Progress(Bindings& bindings) {
   auto* bar = bindings.Make(bindings.Named(bindings.Model().frmMain.form, "vbalProgressBar1"),
                             QStringLiteral("Progress of the transfer"));
   down->addWidget(bar);
-  bindings.Follow([passed, &app = bindings.Model(), shown = ChangeDetector<QString>()]() mutable {
+  bindings.OnRefresh([passed, &app = bindings.Model(), shown = ChangeDetector<QString>()]() mutable {
     const auto text = TransferProgressText(app);
     if (shown.Update(text)) passed->setText(text);
     return false;
@@ -110,8 +104,7 @@ QWidget* Progress(Bindings& bindings) {
 
 QWidget* SetTime(Bindings& bindings) {
   auto* holder = new QWidget;
-  auto* across = new QHBoxLayout(holder);
-  across->setContentsMargins(0, 0, 0, 0);
+  auto* across = LayOutAcross(*holder);
   auto* button = ActionButton(bindings, controls::kSetTime);
   button->setFixedWidth(kSetTimeWidth);
   across->addWidget(button);
@@ -125,21 +118,21 @@ void LinkColumn(Bindings& bindings, PageColumn& column) {
     return form.vbalProgressBar1.visible || form.Label64[0].visible || form.Label64[1].visible;
   };
   column.Section("Frame11")
-      .Wide(Drawing(bindings))
-      .Wide(PortLine(bindings))
-      .Wide(Actions(bindings))
-      .Wide(Progress(bindings), transfer_shows);
+      .FullWidth(Drawing(bindings))
+      .FullWidth(PortLine(bindings))
+      .FullWidth(Actions(bindings))
+      .FullWidth(Progress(bindings), transfer_shows);
 }
 
 void ClockColumn(Bindings& bindings, PageColumn& column) {
   column.OwnSection(QStringLiteral("Clock of the unit"))
-      .Alone("CheckTD")
+      .Unlabelled("CheckTD")
       .Row("Date", {{{"ComboMonth"}, "month"},
                     {{"ComboDay(0)", "ComboDay(1)", "ComboDay(2)", "ComboDay(3)"}, "day"},
                     {{"ComboYear"}, "year"}})
       .Row("Time", {{{"ComboHR"}, "hour"}, {{"ComboMin"}, "minute"}, {{"ComboSec"}, "second"}})
-      .Wide(SetTime(bindings));
-  column.Section("FrameDemo").Alone("DemoMode").Row("CharacterList").Row("DemoType").Row("DemoSpeed");
+      .FullWidth(SetTime(bindings));
+  column.Section("FrameDemo").Unlabelled("DemoMode").Row("CharacterList").Row("DemoType").Row("DemoSpeed");
 }
 
 }  // namespace

@@ -7,6 +7,8 @@
 #include <QScrollBar>
 #include <algorithm>
 
+#include "ui/kit/box_layouts.h"
+
 namespace ovl::ui {
 
 void AddTextRow(Bindings& bindings, PageColumn& column, const char* name, const char* button,
@@ -30,28 +32,26 @@ void AddTitleRows(Bindings& bindings, PageColumn& column) {
   AddTextRow(bindings, column, "Title_Text", "cmdTitle", ButtonPlace::kBeside);
 }
 
-int CaptionWidth(std::initializer_list<const controls::ControlState*> faces) {
+int CaptionWidth(std::initializer_list<const controls::ControlState*> states) {
   int widest = 0;
-  for (const auto* face : faces)
-    widest = std::max(widest, QLabel(CaptionText(face->caption)).sizeHint().width());
+  for (const auto* state : states)
+    widest = std::max(widest, QLabel(CaptionText(state->caption)).sizeHint().width());
   return widest + 2 * kLetterRoom;
 }
 
-QWidget* BesideOverview(Bindings& bindings, QWidget* overview, QScrollArea* editor) {
+QWidget* OverviewWithEditor(Bindings& bindings, QWidget* overview, QScrollArea* editor) {
   auto* page = new QWidget;
-  auto* across = new QHBoxLayout(page);
-  across->setContentsMargins(0, 0, 0, 0);
-  across->setSpacing(0);
+  auto* across = LayOutAcross(*page, 0);
   across->addWidget(overview, 1);
   across->addWidget(editor);
   editor->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  bindings.Follow([editor] {
+  bindings.OnRefresh([editor] {
     const int bar = editor->verticalScrollBar()->sizeHint().width();
     const int least = editor->widget()->minimumSizeHint().width() + bar;
     if (editor->minimumWidth() != least) editor->setFixedWidth(least);
     return false;
   });
-  // A window too narrow for both shows one after the other.
+  // If the window is too narrow for both, the user scrolls from one to the other.
   return Scrolled(page);
 }
 

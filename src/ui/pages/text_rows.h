@@ -1,27 +1,26 @@
-// What the panels around a stored text have in common: the text as it stands, and the button that opens its
-// dialog.
+// What the panels with a stored text share: the text, and the button that opens its dialog.
 #pragma once
 
 #include "ui/kit/layout.h"
 
 namespace ovl::ui {
 
-// A stored text and the button for it take so much of a row together.
+// The widths of a stored text and of its button in a row.
 inline constexpr int kStoredTextWidth = 220;
 inline constexpr int kSetButtonWidth = 150;
 
-// A read-only text that shows its beginning, under its own caption, and beside it or below it the button.
+// Adds a read-only text that shows its beginning, with its own caption, and the button beside it or below it.
 enum class ButtonPlace { kBeside, kBelow };
 void AddTextRow(Bindings& bindings, PageColumn& column, const char* name, const char* button,
                 ButtonPlace place);
 
-// The title of the picture, on the panel of time and date.
+// The title that the unit shows in the picture, on the panel of time and date.
 void AddTitleRows(Bindings& bindings, PageColumn& column);
 
-// What the widest of the captions takes as a label, whichever of its letters is underlined.
-int CaptionWidth(std::initializer_list<const controls::ControlState*> faces);
+// The width of the widest of these captions as a label, whichever of its letters is underlined.
+int CaptionWidth(std::initializer_list<const controls::ControlState*> states);
 
-// An overview at the left and the editor, which scrolls up and down by itself, at the right.
-QWidget* BesideOverview(Bindings& bindings, QWidget* overview, QScrollArea* editor);
+// An overview at the left and the editor at the right; the editor scrolls vertically by itself.
+QWidget* OverviewWithEditor(Bindings& bindings, QWidget* overview, QScrollArea* editor);
 
 }  // namespace ovl::ui

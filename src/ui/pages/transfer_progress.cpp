@@ -18,7 +18,8 @@ struct Progress {
   std::size_t left = 0;
 };
 
-// "$", four digits, two digits a byte, CR LF; the last record is shorter by an amount that the unit knows.
+// A record is "$", four digits, two digits for each byte, CR and LF. The last record is shorter, but only the
+// unit knows its length.
 std::size_t ExpectedUpload(const firmware::FirmwareId& firmware) {
   const auto region = image::ReadRegion(firmware);
   const auto records = static_cast<std::size_t>(std::max(0, region.last - region.first)) / kRecordBytes + 1;
@@ -37,7 +38,7 @@ Progress DownloadProgress(const core::Application& app) {
   return {static_cast<std::size_t>(counted), app.PendingOutput.size()};
 }
 
-// Milliseconds that the line needs for so many characters.
+// The milliseconds that the line needs for this many characters.
 std::size_t LineTime(const core::Application& app, std::size_t characters) {
   const auto baud = static_cast<std::size_t>(std::max(1, codecs::LeadingNumber(app.PortBaud)));
   const std::size_t data_bits = app.PortDataBits == "7" ? 7 : 8;

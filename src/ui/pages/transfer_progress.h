@@ -1,4 +1,4 @@
-// How far a transfer has come, worked out from what has passed through the line.
+// The progress of a transfer, computed from the characters that were sent or received.
 #pragma once
 
 #include <QString>
@@ -10,7 +10,7 @@ struct Application;
 namespace ovl::ui {
 
 // "2,870 characters, 2 s left"; empty when no transfer shows. The time is that of the remaining characters at
-// the port's speed, so it is the least that the unit needs.
+// the baud rate of the port, so the unit never needs less.
 QString TransferProgressText(const core::Application& app);
 
 }  // namespace ovl::ui

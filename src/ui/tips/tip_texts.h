@@ -1,4 +1,5 @@
-// The tips of the register options, of the setting panels and of the windows, told in an installer's words.
+// The tips of the setting panels and of the small windows, in the words of an installer. The tips of the
+// option frames are in the table of their rows.
 #pragma once
 
 #include <span>
@@ -11,7 +12,7 @@ struct Tip {
   const char* text;
 };
 
-std::span<const Tip> RegisterTips();
+std::span<const Tip> RegisterWindowTips();
 std::span<const Tip> SettingTips();
 std::span<const Tip> TextTips();
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "ui/frames/register_frames.h"
 #include "ui/tips/tip_texts.h"
 
 namespace ovl::ui {
@@ -51,7 +52,7 @@ constexpr std::array kTips{
 };
 
 const Tip* FindTip(std::string_view form, std::string_view control) {
-  for (const auto tips : {std::span<const Tip>(kTips), RegisterTips(), SettingTips(), TextTips()}) {
+  for (const auto tips : {std::span<const Tip>(kTips), RegisterWindowTips(), SettingTips(), TextTips()}) {
     const auto found = std::find_if(
         tips.begin(), tips.end(), [&](const Tip& tip) { return tip.form == form && tip.control == control; });
     if (found != tips.end()) return &*found;
@@ -62,6 +63,9 @@ const Tip* FindTip(std::string_view form, std::string_view control) {
 }  // namespace
 
 QString ToolTipOf(std::string_view form, std::string_view control) {
+  const auto frame_tip = form == "frmMain" ? FrameTipOf(control) : std::string_view();
+  if (!frame_tip.empty())
+    return QString::fromLatin1(frame_tip.data(), static_cast<qsizetype>(frame_tip.size()));
   const auto* tip = FindTip(form, control);
   if (tip == nullptr) tip = FindTip(form, control.substr(0, control.find('(')));
   return tip == nullptr ? QString() : QString::fromLatin1(tip->text);

@@ -1,4 +1,4 @@
-// What the unit does with a setting, told where the pointer rests.
+// The tool tips of the controls: what the unit does with each setting.
 #pragma once
 
 #include <QString>
@@ -6,8 +6,8 @@
 
 namespace ovl::ui {
 
-// Empty for a control that speaks for itself. Members of an array without a tip of their own have the
-// array's.
+// Empty for a control that explains itself. A member of an array without a tip of its own has the tip of the
+// array.
 QString ToolTipOf(std::string_view form, std::string_view control);
 
 }  // namespace ovl::ui

@@ -18,7 +18,7 @@
 #include "search/random_walk/owners.h"
 #include "search/random_walk/watched.h"
 #include "support/harness.h"
-#include "ui/pages/register_frames.h"
+#include "ui/frames/register_frames.h"
 
 namespace ovl::testing {
 namespace {

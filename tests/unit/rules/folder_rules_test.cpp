@@ -29,10 +29,11 @@ const std::map<std::string, Folders> kModel = {
 
 // The same for the windows, which may include all of the model and of the host.
 const std::map<std::string, Folders> kWindows = {
-    {"ui/tips", {}},
+    {"ui/frames", {}},
+    {"ui/tips", {"ui/frames"}},
     {"ui/kit", {"ui/tips"}},
     {"ui/help", {"ui/kit"}},
-    {"ui/pages", {"ui/kit"}},
+    {"ui/pages", {"ui/kit", "ui/frames"}},
     {"ui/dialogs", {"ui/kit", "ui/pages"}},
     {"ui/app", {"ui/kit", "ui/help", "ui/pages", "ui/dialogs"}},
 };
