@@ -20,8 +20,8 @@ void Session::SetFolder(std::string folder) {
 }
 
 void Session::StoreSetting(const std::string& value, const std::string& text) {
-  if (WriteStore(core::kSettingsKey, value, text)) return;
-  Wrong("the machine's settings store cannot be written: " + system_store_->WhyNotWritten());
+  const auto written = WriteStore(core::kSettingsKey, value, text);
+  if (!written.Ok()) Wrong("the machine's settings store cannot be written: " + written.Problem().Text());
 }
 
 void Session::SetClock(const core::ClockTime& time) {
@@ -73,7 +73,9 @@ core::Platform Session::MakePlatform() {
   platform.show_message = [this](const core::MessageBox& box) { Show(box); };
   platform.ask_file = [this](const core::FileDialog&) { return Answer(); };
   platform.read_setting = [this](auto key, auto value) { return ReadStore(key, value); };
-  platform.write_setting = [this](auto key, auto value, auto text) { return WriteStore(key, value, text); };
+  platform.write_setting = [this](auto key, auto value, auto text) {
+    return WriteStore(key, value, text).Ok();
+  };
   platform.clock = [this] { return Clock(); };
   platform.SetWindowPos = [](std::string_view) {};
   platform.serial.open = [this](const core::LineSettings& settings) { return CurrentLine().open(settings); };
@@ -169,10 +171,10 @@ std::optional<core::SettingValue> Session::ReadStore(std::string_view key, std::
   return found == store_.end() ? std::nullopt : std::optional<core::SettingValue>(found->second);
 }
 
-bool Session::WriteStore(std::string_view key, std::string_view value, std::string_view text) {
+core::Result Session::WriteStore(std::string_view key, std::string_view value, std::string_view text) {
   if (system_store_) return system_store_->Write(key, value, text);
   store_.insert_or_assign({std::string(key), std::string(value)}, std::string(text));
-  return true;
+  return {};
 }
 
 core::ClockTime Session::Clock() const {

@@ -76,7 +76,7 @@ class Session {
   void Show(const core::MessageBox& box);
   std::optional<core::FileAnswer> Answer();
   std::optional<core::SettingValue> ReadStore(std::string_view key, std::string_view value) const;
-  bool WriteStore(std::string_view key, std::string_view value, std::string_view text);
+  core::Result WriteStore(std::string_view key, std::string_view value, std::string_view text);
   core::ClockTime Clock() const;
   void Settle();
 

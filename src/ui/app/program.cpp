@@ -54,12 +54,12 @@ void Program::FillPlatform() {
     return found;
   };
   platform.write_setting = [this](std::string_view key, std::string_view value, std::string_view text) {
-    const bool kept = store_.Write(key, value, text);
-    if (!kept) {
+    const auto written = store_.Write(key, value, text);
+    if (!written.Ok()) {
       store_problem_ =
-          store_.WhyNotWritten() + kNotKept + app_.firmware.version + " " + app_.firmware.release;
+          written.Problem().Text() + kNotKept + app_.firmware.version + " " + app_.firmware.release;
     }
-    return kept;
+    return written.Ok();
   };
   platform.clock = host::LocalClockTime;
   // The form remembers the request itself, and its window follows when it is shown.

@@ -73,7 +73,7 @@ Act Settings() {
     const host::SettingsStore store(QFile::decodeName(folder.c_str()));
     bool done = true;
     program->app.platform.write_setting = [&](auto key, auto value, auto text) {
-      return done = store.Write(key, value, text) && done;
+      return done = store.Write(key, value, text).Ok() && done;
     };
     const bool ended = program->Click("V1300R14mnu") == core::Outcome::kEnded;
     const auto text = program->TakeBox().text;

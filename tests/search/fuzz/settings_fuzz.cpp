@@ -62,7 +62,7 @@ void CheckFile(const ovl::testing::TemporaryFolder& folder, std::string_view byt
   ovl::files::WriteWhole(folder.File("ORB/OVL Software.conf"), bytes);
   const ovl::host::SettingsStore store(QFile::decodeName(folder.Path().c_str()));
   store.Read(ovl::core::kSettingsKey, ovl::core::kVersionValue);
-  if (!store.Write(ovl::core::kSettingsKey, ovl::core::kVersionValue, "V1400")) return;
+  if (!store.Write(ovl::core::kSettingsKey, ovl::core::kVersionValue, "V1400").Ok()) return;
   Require(store.Read(ovl::core::kSettingsKey, ovl::core::kVersionValue) == ovl::core::SettingValue("V1400"),
           "what was written is read");
 }
