@@ -1,6 +1,7 @@
 #include "script/session.h"
 
 #include "core/settings.h"
+#include "host/files.h"
 #include "host/system_clock.h"
 #include "script/parser.h"
 #include "script/real_transfer.h"
@@ -39,7 +40,7 @@ void Session::UseRealPorts() {
   OpenRealPorts();
 }
 
-// What a port's number means depends on the program folder.
+// The program folder decides which device a port's number means, so the ports are made anew.
 void Session::OpenRealPorts() {
   real_.reset();
   real_ = std::make_unique<RealLine>(*this, folder_);
@@ -78,6 +79,7 @@ core::Platform Session::MakePlatform() {
   };
   platform.clock = [this] { return Clock(); };
   platform.SetWindowPos = [](std::string_view) {};
+  platform.files = host::DiskFiles();
   platform.serial.open = [this](const core::LineSettings& settings) { return CurrentLine().open(settings); };
   platform.serial.close = [this] { CurrentLine().close(); };
   platform.serial.write = [this](std::string_view text) {
@@ -97,7 +99,7 @@ void Session::Start() {
   time_.Forget();
   app_ = std::make_unique<core::Application>();
   app_->platform = MakePlatform();
-  end_told_ = false;
+  end_printed_ = false;
   start::StartProgram(*app_);
   Settle();
 }
@@ -121,7 +123,7 @@ core::Outcome Session::Act(const core::Event& event) {
 }
 
 void Session::Settle() {
-  if (app_->ended && !std::exchange(end_told_, true)) output_ << "ended" << std::endl;
+  if (app_->ended && !std::exchange(end_printed_, true)) output_ << "ended" << std::endl;
   if (real_ != nullptr) real_->Resume();
 }
 

@@ -4,6 +4,7 @@
 #include <QFile>
 
 #include "changes/also_stored.h"
+#include "host/files.h"
 #include "host/system_clock.h"
 #include "host/text_codec.h"
 #include "start/start_up.h"
@@ -64,6 +65,7 @@ void Program::FillPlatform() {
   platform.clock = host::LocalClockTime;
   // The form remembers the request itself, and its window follows when it is shown.
   platform.SetWindowPos = [](std::string_view) {};
+  platform.files = host::DiskFiles();
   platform.serial = port_.Operations();
 }
 

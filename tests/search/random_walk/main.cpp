@@ -7,7 +7,6 @@
 #include <random>
 
 #include "codecs/codecs.h"
-#include "files/files.h"
 #include "firmware/firmware_table.h"
 #include "image/field_map.h"
 #include "images/default_images.h"
