@@ -1,5 +1,6 @@
 #include "model.h"
 
+#include "host/files.h"
 #include "site.h"
 #include "start/start_up.h"
 
@@ -16,6 +17,7 @@ void StartModel(core::Application& app, const Site& site, const char& received) 
   platform.write_setting = [](std::string_view, std::string_view, std::string_view) { return true; };
   platform.clock = [] { return core::ClockTime(); };
   platform.SetWindowPos = [](std::string_view) {};
+  platform.files = host::DiskFiles();
   platform.serial.open = [](const core::LineSettings&) { return core::Result(); };
   platform.serial.close = [] {};
   platform.serial.write = [](std::string_view) { return core::Result(); };

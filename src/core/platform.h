@@ -1,5 +1,5 @@
-// Everything that the model asks of the world outside: the screen's boxes, the settings store, the clock and
-// the serial line. The window program, the script tool and the tests each fill it in their own way.
+// Everything that the model asks of the world outside: the screen's boxes, the settings store, the clock,
+// files and the serial line. The window program, the script tool and the tests each fill it in their own way.
 #pragma once
 
 #include <cstdint>
@@ -67,6 +67,15 @@ struct SerialLine {
   std::function<void()> clear_output;
 };
 
+// Files, each read or replaced as a whole. A failure throws Failure, which names the path and gives the
+// system's reason.
+struct FileAccess {
+  // All bytes of a regular file of at most 64 MiB.
+  std::function<std::string(const std::string& path)> read;
+  // In one step: after a failure the old file is unchanged.
+  std::function<void(const std::string& path, std::string_view bytes)> replace;
+};
+
 struct Platform {
   std::string program_folder;                                            // without a separator at its end
   std::function<void(const MessageBox&)> show_message;                   // returns when the box is closed
@@ -75,6 +84,7 @@ struct Platform {
   std::function<bool(std::string_view key, std::string_view value, std::string_view text)> write_setting;
   std::function<ClockTime()> clock;
   std::function<void(std::string_view form)> SetWindowPos;  // keep this form above all others
+  FileAccess files;
   SerialLine serial;
 };
 

@@ -18,8 +18,8 @@ constexpr const char* kTextFiles = "Text Files(*.txt)|*.txt";
 constexpr const char* kBinFiles = "Bin Files(*bin)|*.bin";
 constexpr const char* kAllFiles = "All Files(*.*)|*.*";
 
-// The stream as a saved file holds it. It follows the early layout in V1400 and the lower region in the other
-// families, whatever the release.
+// The stream of a saved file. Whatever the release, it has the early layout in V1400 and the lower region in
+// the other families.
 std::string SavedStream(core::Application& app) {
   PrepareCapabilities(app);
   if (!firmware::IsKnownFamily(app.firmware.version)) {
@@ -45,7 +45,7 @@ void ReadChosenFile(core::Application& app) {
   dialog.file_name = PathBelow(app.platform.program_folder, "\\*.bin");
   dialog.filter = std::string(kTextFiles) + "|" + kBinFiles + "|" + kAllFiles;
   dialog.filter_index = 2;
-  app.StreamText = ReadJoined(AskForPath(app, dialog));
+  app.StreamText = ReadJoined(app.platform.files, AskForPath(app, dialog));
 }
 
 void TakeStream(core::Application& app) {
@@ -82,7 +82,7 @@ void menuSave_Click(core::Application& app, int) {
   dialog.filter_index = 2;
   try {
     const auto stream = SavedStream(app);
-    WriteWhole(AskForPath(app, dialog), stream + "\r\n");
+    app.platform.files.replace(AskForPath(app, dialog), stream + "\r\n");
   } catch (const core::Failure& failure) {
     app.StatusNote = failure.Text();
     MsgBox(app, core::Box::kNotSaved);

@@ -13,7 +13,7 @@ constexpr const char* kTag = "OVLH";
 constexpr const char* kFilter = "Text Files(*.txt)|*.txt|All Files(*.*)|*.*";
 constexpr int kAllFiles = 2;
 
-// The dialog's answer that the viewer is to stay as it is.
+// With this answer of the dialog the viewer is not shown.
 constexpr unsigned kDoNotShow = 4096;
 
 core::FileDialog Dialog(const core::Application& app, core::FileDialog::Kind kind, const char* name) {
@@ -38,7 +38,7 @@ void FillViewer(core::Application& app, const std::string& caption, std::string 
 
 void OpenHistory(core::Application& app, const core::FileAnswer& answer) {
   app.CurrentFilePath = answer.file_name;
-  const auto lines = ReadLines(answer.file_name);
+  const auto lines = ReadLines(app.platform.files, answer.file_name);
   if (lines.empty() || lines.front() != kTag) {
     MsgBox(app, core::Box::kNotHistory);
     return;
@@ -54,7 +54,7 @@ void SaveHistory(core::Application& app) {
   const auto answer = app.platform.ask_file(dialog);
   app.CurrentFilePath = answer ? answer->file_name : dialog.file_name;
   try {
-    WriteWhole(app.CurrentFilePath, std::string(kTag) + "\r\n" + app.HistoryText + "\r\n");
+    app.platform.files.replace(app.CurrentFilePath, std::string(kTag) + "\r\n" + app.HistoryText + "\r\n");
   } catch (const core::Failure& failure) {
     app.StatusNote = failure.Text();
   }
@@ -71,7 +71,7 @@ void OpenHistory_menu_Click(core::Application& app, int) {
 }
 
 void ShowDataDump(core::Application& app) {
-  const auto lines = ReadLines(PathBelow(app.platform.program_folder, "\\DataDump.log"));
+  const auto lines = ReadLines(app.platform.files, PathBelow(app.platform.program_folder, "\\DataDump.log"));
   FillViewer(app, "Debuging Windwos", WithLineEnds(lines));
   ShowForm(app, app.frmView.form);
 }

@@ -5,14 +5,14 @@
 
 namespace ovl::files {
 
-// Asks for a file and writes the collected history into it; on a cancel into the file that was offered. A
-// failure is noted.
+// Asks for a file and writes the collected history into it; after Cancel, into the file that the dialog
+// offered. A failure goes to the status bar.
 void SaveHistory(core::Application& app);
 
-// Open History of the File menu: a tagged file into the viewer.
+// Open History of the File menu: shows a tagged file in the viewer.
 void OpenHistory_menu_Click(core::Application& app, int index);
 
-// The diagnostic log of the program folder into the viewer. Throws Failure.
+// Shows the diagnostic log of the program folder in the viewer. Throws Failure.
 void ShowDataDump(core::Application& app);
 
 }  // namespace ovl::files

@@ -29,7 +29,7 @@ bool Matches(const QSerialPortInfo& info, const QString& device) {
 QString ComportDevice(const QString& program_folder, int number) {
   const QFileInfo link(QStringLiteral("%1/ports/com%2").arg(program_folder).arg(number));
   if (!link.isSymLink()) return link.exists() ? link.absoluteFilePath() : TableDevice(number);
-  // The device's own name, not the link's, so that the lock against a second program holds for both.
+  // The lock against a second program goes by the name, so the name must be the device's and not the link's.
   const auto target = link.canonicalFilePath();
   return target.isEmpty() ? link.symLinkTarget() : target;
 }

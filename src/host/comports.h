@@ -1,5 +1,5 @@
-// What "Comport 1" to "Comport 16" mean on this machine. A number always means the same device, never the
-// n-th of those that happen to be plugged in.
+// The devices behind "Comport 1" to "Comport 16" on this machine. A number always means the same device,
+// whatever else is plugged in.
 #pragma once
 
 #include <QString>
@@ -13,19 +13,20 @@ inline constexpr int kComports = 16;
 struct Comport {
   int number = 0;       // 1 to 16
   QString device;       // "/dev/ttyUSB0", "COM3" on Windows
-  QString description;  // what the system knows of it; empty for most and for every pseudo-terminal
+  QString description;  // from the system; empty for most devices and for every pseudo-terminal
   bool present = false;
 };
 
-// The device of a number: where the link ports/com<n> in the program folder leads, or else a place in a fixed
-// table. A link that leads nowhere is not passed over, so that the person learns of it.
+// The device of a number: the target of the link ports/com<n> in the program folder, or an entry of a fixed
+// table if there is no link. The target of a broken link is returned too, so that opening it fails with a
+// reason.
 QString ComportDevice(const QString& program_folder, int number);
 
-// All sixteen, in order, with what the dialog tells about them.
+// All sixteen in order, as the dialog lists them.
 std::vector<Comport> ListComports(const QString& program_folder);
 
-// The sentence that the status bar shows when a port fails: number, device, the system's reason (bytes of
-// Windows-1252), and for a refused permission the group whose members may use the device.
+// The sentence that the status bar shows when a port fails: number, device and the system's reason (bytes of
+// Windows-1252). If permission is denied, it also names the group whose members may use the device.
 QString ComportProblem(int number, const QString& device, const std::string& reason);
 
 }  // namespace ovl::host

@@ -17,21 +17,21 @@ using std::chrono::microseconds;
 
 constexpr auto kDelivery = QEvent::User;
 
-// How long one turn of the event loop may be held by events that wait in a row.
+// The longest time that one turn of the event loop may spend on waiting events.
 constexpr auto kTurn = std::chrono::milliseconds(2);
 
-// The event loop is too coarse for the last bit of the way to the end of a character: that much is spun. The
-// timer is set to wake a little inside this time, as it is late by some of it. A drained event is due one bit
-// ahead of the character's end, so that on a slow line the timer may be late by a bit without loss and little
-// is left to spin.
+// The event loop is too coarse for the last bit before the end of a character, so this time is spent in a
+// busy loop. A timer fires late by some part of it, so it is set to fire a little earlier. A drained event is
+// due one bit before the character's end: on a slow line the timer may then be late by one bit without any
+// loss.
 constexpr auto kSpin = microseconds(300);
 constexpr auto kWakeAhead = microseconds(160);
 
-// A transmitter that is slower than the clock says is asked again at growing intervals.
+// A transmitter that is slower than the clock predicts is asked again at growing intervals.
 constexpr auto kFirstRetry = microseconds(100);
 constexpr auto kLastRetry = microseconds(20'000);
 
-// A driver may round a speed to what its divisor gives; a receiver stands no more than this.
+// A driver may round a speed to what its divisor gives. A receiver tolerates no larger error than this.
 constexpr int kSpeedTolerancePercent = 3;
 
 struct LineFormat {
@@ -93,8 +93,8 @@ core::Result SerialPort::Open(const core::LineSettings& settings) {
   if (!format) return Report(SystemText(EINVAL));
 
   port_.setPortName(device_);
-  // Once the port is open, drivers that can't do 7 bits or a parity refuse them, pseudo-terminals first of
-  // all.
+  // They are set before the port is open. On an open port, drivers that lack 7 data bits or parity refuse
+  // them; pseudo-terminals do.
   port_.setBaudRate(format->baud);
   port_.setDataBits(format->data_bits);
   port_.setParity(format->parity);
@@ -110,7 +110,7 @@ core::Result SerialPort::Open(const core::LineSettings& settings) {
   return {};
 }
 
-// The toolkit has wordings of its own, so the system is asked once more what stands against the device.
+// Qt words errors in its own way, so the system is asked once more why the device does not open.
 std::string SerialPort::OpenReason() const {
   if (const int error = ProbeDevice(device_)) return SystemText(error);
   if (port_.error() == QSerialPort::PermissionError && CanLockDevices()) return SystemText(EBUSY);
@@ -118,7 +118,7 @@ std::string SerialPort::OpenReason() const {
   return ToWindows1252(port_.errorString()).value_or(SystemText(EIO));
 }
 
-// What is left to do with a port that has just been opened.
+// Sets what Qt does not set on a port that has just been opened.
 int SerialPort::Prepare() {
   const int asked = port_.baudRate();
   const int speed = LineSpeed(port_.handle());
@@ -149,7 +149,7 @@ void SerialPort::Forget() {
   drain_owed_ = false;
   marks_.reset();
   received_.clear();
-  untold_ = 0;
+  undelivered_ = 0;
 }
 
 core::Result SerialPort::Write(std::string_view bytes) {
@@ -179,7 +179,7 @@ std::string SerialPort::Read() {
   if (received_.empty()) return {};
   const std::string character(1, received_.front());
   received_.pop_front();
-  untold_ = std::min(untold_, received_.size());
+  undelivered_ = std::min(undelivered_, received_.size());
   return character;
 }
 
@@ -187,13 +187,13 @@ void SerialPort::ClearInput() {
   if (port_.isOpen()) port_.clear(QSerialPort::Input);
   if (marks_) marks_.emplace();
   received_.clear();
-  untold_ = 0;
+  undelivered_ = 0;
 }
 
 void SerialPort::ClearOutput() {
   if (!port_.isOpen()) return;
   port_.clear(QSerialPort::Output);
-  // No more than the character that is in the chip is still to leave.
+  // At most the character in the chip is still to be sent.
   line_free_ = std::min(line_free_, Clock::now() + bit_time_ * character_bits_);
   ScheduleDrain();
 }
@@ -202,19 +202,19 @@ void SerialPort::OnPortError(QSerialPort::SerialPortError error) {
   const bool fatal = error == QSerialPort::ReadError || error == QSerialPort::WriteError ||
                      error == QSerialPort::ResourceError;
   if (!fatal || !port_.isOpen()) return;
-  // Input that was thrown away after the event loop had seen it looks like a failing read.
+  // If input is discarded after the event loop has seen it, the read fails although the line works.
   if (error == QSerialPort::ReadError && LineAlive(port_.handle())) return;
   Lose(SystemText(ProbeDevice(device_) == ENOENT ? ENODEV : EIO));
 }
 
-// A device that is gone reports so without end, hence the port is closed at once. What was received before
-// stays, and a drained event that is owed is told, so that a sender goes on and meets the failing write.
+// A lost device reports errors without end, so the port is closed at once. Characters received before stay. A
+// drained event that is due is still dispatched: a sender then goes on, and its next write fails.
 void SerialPort::Lose(const std::string& reason) {
   TakeReceived();
   lost_ = Report(reason);
   port_.close();
   timer_.Stop();
-  if (drain_owed_ || untold_ > 0) Post();
+  if (drain_owed_ || undelivered_ > 0) Post();
 }
 
 core::Failure SerialPort::Report(const std::string& reason) {
@@ -242,7 +242,7 @@ void SerialPort::Resume() {
 }
 
 void SerialPort::DeliverPending() {
-  // What the kernel holds counts as well: it came ahead of the tick.
+  // Characters that the kernel holds arrived before the tick as well.
   if (port_.isOpen()) port_.waitForReadyRead(0);
   Deliver(Turn::kWhole);
 }
@@ -252,7 +252,7 @@ void SerialPort::TakeReceived() {
   const auto bytes = port_.readAll().toStdString();
   const auto text = marks_ ? marks_->Decode(bytes) : bytes;
   received_.insert(received_.end(), text.begin(), text.end());
-  untold_ += text.size();
+  undelivered_ += text.size();
 }
 
 void SerialPort::Deliver(Turn turn) {
@@ -267,10 +267,10 @@ void SerialPort::Deliver(Turn turn) {
   if (turn == Turn::kShort && drain_owed_ && !held_) AwaitDrain();
 }
 
-// The unit answers what has left the transmitter, so a drained event is older than what waits to be read.
+// The unit answers what was sent, so a drained event is older than the characters that wait to be read.
 bool SerialPort::DeliverOne() {
   if (drain_owed_ && Drained()) return OfferDrained();
-  if (untold_ > 0) return OfferReceived();
+  if (undelivered_ > 0) return OfferReceived();
   return false;
 }
 
@@ -282,11 +282,11 @@ bool SerialPort::OfferDrained() {
 }
 
 bool SerialPort::OfferReceived() {
-  --untold_;
+  --undelivered_;
   const auto outcome = dispatch_(core::ReceivedEvent{});
-  if (outcome == core::Outcome::kBusy) ++untold_;
-  // Nobody will ask for it, and the next event must not find it in the place of its own.
-  if (outcome == core::Outcome::kRefused && received_.size() > untold_) received_.pop_front();
+  if (outcome == core::Outcome::kBusy) ++undelivered_;
+  // The program will not read this character, and the next event must not find it instead of its own.
+  if (outcome == core::Outcome::kRefused && received_.size() > undelivered_) received_.pop_front();
   return !Kept(outcome);
 }
 
@@ -296,7 +296,7 @@ bool SerialPort::Kept(core::Outcome outcome) {
   return outcome == core::Outcome::kBusy || outcome == core::Outcome::kEnded;
 }
 
-// The lead is the stop bit: while it is on the line, the next character can already be handed over.
+// One bit early: while the stop bit is on the line, the next character can already be handed over.
 SerialPort::Clock::time_point SerialPort::DrainDue() const {
   return line_free_ - std::chrono::duration_cast<Clock::duration>(bit_time_);
 }
@@ -307,7 +307,7 @@ bool SerialPort::Drained() const {
   return !CharactersWait(port_.handle()) && Clock::now() >= DrainDue();
 }
 
-// Never waits and never tells: this runs inside the handler that wrote.
+// Neither waits nor dispatches an event, since it runs inside the handler that wrote.
 void SerialPort::ScheduleDrain() {
   if (!drain_owed_) return;
   const auto left = std::chrono::duration_cast<microseconds>(DrainDue() - Clock::now());

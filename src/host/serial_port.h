@@ -1,5 +1,5 @@
-// The serial line of the window program and of the script tool. It keeps the promises of SerialLine: events
-// are told one at a time, never from inside an operation, and wait as long as the program is busy.
+// The serial port of the window program and of the script tool, as SerialLine describes it. Events are
+// dispatched one at a time and never from inside an operation. They wait as long as the program is busy.
 #pragma once
 
 #include <QObject>
@@ -18,26 +18,25 @@
 
 namespace ovl::host {
 
-// Must be made after the application object of the toolkit, whose event loop it lives in, and must not be
-// destroyed by an event that it dispatches.
+// Needs Qt's application object, in whose event loop it lives. An event that it dispatches must not destroy
+// it.
 class SerialPort : public QObject {
  public:
-  // The dispatch takes a ReceivedEvent for every character and a DrainedEvent when the transmitter has run
-  // empty. When it answers kBusy the event is kept until Resume.
+  // `dispatch` takes a ReceivedEvent for every character and a DrainedEvent when the transmitter has run
+  // empty. If it returns kBusy, the event is kept until Resume.
   SerialPort(QString program_folder, std::function<core::Outcome(const core::Event&)> dispatch);
   ~SerialPort() override;
 
   // For Platform::serial; valid as long as this object.
   core::SerialLine Operations();
 
-  // To be called when a handler has ended: what had to wait is offered again by the event loop.
+  // To be called when a handler has ended. The event loop then dispatches the events that had to wait.
   void Resume();
 
-  // To be called ahead of a tick: all that the line has to tell is told first.
+  // To be called before a tick. Dispatches all events that are due.
   void DeliverPending();
 
-  // What last went wrong with a port, as a sentence with port, device and reason; empty since a port was
-  // last opened.
+  // The last failure of a port, as a sentence with port, device and reason. Empty once a port opens.
   QString LastProblem() const { return problem_; }
 
   bool event(QEvent* event) override;
@@ -48,7 +47,7 @@ class SerialPort : public QObject {
 
   core::Result Open(const core::LineSettings& settings);
   std::string OpenReason() const;
-  // Gives an error number, or 0.
+  // Returns an error number, or 0.
   int Prepare();
   void Close();
   core::Result Write(std::string_view bytes);
@@ -85,16 +84,16 @@ class SerialPort : public QObject {
 
   std::optional<ParityMarks> marks_;
   std::deque<char> received_;
-  std::size_t untold_ = 0;  // characters at the end of received_ whose event is still to come
+  std::size_t undelivered_ = 0;  // characters at the end of received_ whose event is still to come
 
   bool drain_owed_ = false;
-  Clock::time_point line_free_;  // when the last stop bit has left, by the clock
+  Clock::time_point line_free_;  // when, by the clock, the last stop bit is sent
   std::chrono::nanoseconds bit_time_ = {};
   int character_bits_ = 0;
   std::chrono::microseconds retry_ = {};
 
   bool posted_ = false;
-  bool held_ = false;  // an event was met by kBusy
+  bool held_ = false;  // kBusy was the answer to an event
 };
 
 }  // namespace ovl::host

@@ -4,14 +4,16 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLibraryInfo>
-#include <QRegularExpression>
 #include <QSaveFile>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QVariant>
+#include <cerrno>
+#include <charconv>
 #include <filesystem>
 #include <system_error>
 
+#include "host/posix/posix_line.h"
 #include "host/text_codec.h"
 
 namespace ovl::host {
@@ -21,7 +23,7 @@ constexpr std::string_view kStoreKey = "SOFTWARE\\ORB\\OVL Software";
 const auto kOrganisation = QStringLiteral("ORB");
 const auto kApplication = QStringLiteral("OVL Software");
 
-// A separator would reach a group below the store's key.
+// A name with a separator would address a group below the store's key.
 bool IsOwnValue(std::string_view key, std::string_view value) {
   return key == kStoreKey && !value.empty() && value.find_first_of("/\\") == std::string_view::npos;
 }
@@ -31,14 +33,62 @@ bool IsNumber(const QVariant& stored) {
   return type == QMetaType::Int || type == QMetaType::UInt;
 }
 
-// A comma in an INI file that a person wrote makes a list of the text.
+// QSettings reads an unquoted text with commas, as people write it, as a list.
 QString Text(const QVariant& stored) {
   return stored.typeId() == QMetaType::QStringList ? stored.toStringList().join(QStringLiteral(", "))
                                                    : stored.toString();
 }
 
-std::string Told(const QString& path, const QString& reason) {
-  return QStringLiteral("%1: %2").arg(QDir::toNativeSeparators(path), reason).toStdString();
+// Takes the digits of an escape from the front of the text and gives the character that they stand for, in
+// QSettings the last 16 bits of their number. Nothing if there is no digit.
+std::optional<char> TakeCode(std::string_view& text, int base) {
+  constexpr unsigned kLastBits = 0xFFFF, kLargestByte = 0xFF;
+  const auto size = text.size();
+  unsigned code = 0, digit = 0;
+  while (!text.empty() && std::from_chars(text.data(), text.data() + 1, digit, base).ec == std::errc()) {
+    code = (code * static_cast<unsigned>(base) + digit) & kLastBits;
+    text.remove_prefix(1);
+  }
+  if (text.size() == size) return std::nullopt;
+  return code <= kLargestByte ? static_cast<char>(code) : '?';
+}
+
+// The text of an INI file without its quotes and with its escapes \xHH and \OOO decoded. Other escapes are
+// left out: none of them stands for a character of the signs below.
+std::string Unescaped(std::string_view text) {
+  std::string plain;
+  while (!text.empty()) {
+    const char character = text.front();
+    text.remove_prefix(1);
+    if (character != '\\') {
+      if (character != '"') plain += character;
+      continue;
+    }
+    const bool hexadecimal = text.starts_with('x');
+    if (hexadecimal) text.remove_prefix(1);
+    if (const auto decoded = TakeCode(text, hexadecimal ? 16 : 8)) {
+      plain += *decoded;
+    } else if (!hexadecimal && !text.empty()) {
+      text.remove_prefix(1);
+    }
+  }
+  return plain;
+}
+
+// QSettings builds a value of any type from a text such as "@Variant(...)", as large as the text says. The
+// program stores only texts and numbers. "@@" begins a text with that sign; behind "@Variant(" stand the
+// type's number and a byte that says whether the value is null.
+bool HoldsTextsAndNumbers(std::string_view plain) {
+  using namespace std::string_view_literals;
+  for (auto at = plain.find('@'); at != std::string_view::npos; at = plain.find('@', at + 1)) {
+    auto value = plain.substr(at + 1);
+    if (value.starts_with('@')) ++at;
+    if (value.starts_with("DateTime(")) return false;
+    if (!value.starts_with("Variant(")) continue;
+    value.remove_prefix("Variant("sv.size());
+    if (!value.starts_with("\0\0\0\2\0"sv) && !value.starts_with("\0\0\0\3\0"sv)) return false;
+  }
+  return true;
 }
 
 }  // namespace
@@ -51,7 +101,7 @@ QString SettingsStore::Path() const {
 #if defined(Q_OS_WIN) || defined(Q_OS_DARWIN)
   return {};
 #else
-  // A desktop puts places of its own ahead of the system's; the toolkit would look no further than the first.
+  // A desktop puts places of its own ahead of the system's, and QSettings looks only into the first place.
   const auto places = QStandardPaths::standardLocations(QStandardPaths::GenericConfigLocation);
   for (const auto& place : places.mid(1)) {
     const auto path = QDir(place).filePath(name);
@@ -61,15 +111,9 @@ QString SettingsStore::Path() const {
 #endif
 }
 
-// The toolkit makes any of its types from such a value, as large as the value says. The program keeps texts
-// and numbers; "@@" is a text that begins with the sign.
 bool SettingsStore::IsSound() const {
-  static const QRegularExpression other(
-      QStringLiteral(R"((@|\\x0*40|\\0?100)(Variant\((?!\\0\\0\\0\\x[23]\\0)|DateTime\())"));
   QFile file(Path());
-  if (!file.open(QIODevice::ReadOnly)) return true;
-  auto text = QString::fromLatin1(file.readAll());
-  return !text.remove(QStringLiteral("@@")).contains(other);
+  return !file.open(QIODevice::ReadOnly) || HoldsTextsAndNumbers(Unescaped(file.readAll().toStdString()));
 }
 
 std::unique_ptr<QSettings> SettingsStore::Open() const {
@@ -91,37 +135,39 @@ std::optional<core::SettingValue> SettingsStore::Read(std::string_view key, std:
   return ToWindows1252(Text(stored));
 }
 
-bool SettingsStore::Write(std::string_view key, std::string_view value, std::string_view text) const {
-  if (!IsOwnValue(key, value)) return false;
+core::Result SettingsStore::Write(std::string_view key, std::string_view value, std::string_view text) const {
+  if (!IsOwnValue(key, value)) return core::Failure(std::string(key), SystemText(EINVAL));
   if (!IsSound()) {
     const auto aside = Path() + QStringLiteral(".unsound");
     QFile::remove(aside);
-    if (!QFile::rename(Path(), aside)) return false;
+    if (!QFile::rename(Path(), aside)) return WriteFailure();
   }
   const auto settings = Open();
   settings->setValue(FromWindows1252(value), FromWindows1252(text));
   settings->sync();
-  return settings->status() == QSettings::NoError;
+  if (settings->status() != QSettings::NoError) return WriteFailure();
+  return {};
 }
 
 std::string SettingsStore::WhyNotRead() const {
   QFile file(Path());
-  const bool opened = file.open(QIODevice::ReadOnly);
-  if (!opened) return Told(file.fileName(), file.errorString());
-  return Told(file.fileName(), IsSound()
-                                   ? QStringLiteral("it lacks the value")
-                                   : QStringLiteral("it holds a value that is neither text nor number"));
+  const auto path = QDir::toNativeSeparators(file.fileName());
+  if (!file.open(QIODevice::ReadOnly)) return FailureOf(path, file.errorString()).Text();
+  const auto reason = IsSound() ? QStringLiteral("it lacks the value")
+                                : QStringLiteral("it holds a value that is neither text nor number");
+  return FailureOf(path, reason).Text();
 }
 
-std::string SettingsStore::WhyNotWritten() const {
-  const auto path = Path();
+core::Failure SettingsStore::WriteFailure() const {
+  const auto path = QDir::toNativeSeparators(Path());
+  const auto folder = QFileInfo(path).path();
   std::error_code failed;
-  std::filesystem::create_directories(QFileInfo(path).path().toStdU16String(), failed);
-  if (failed) return Told(QFileInfo(path).path(), QString::fromLocal8Bit(failed.message().c_str()));
+  std::filesystem::create_directories(folder.toStdU16String(), failed);
+  if (failed) return {QFile::encodeName(folder).toStdString(), failed.message()};
   QSaveFile file(path);
   const bool opened = file.open(QIODevice::WriteOnly);
   file.cancelWriting();
-  return Told(path, opened ? QStringLiteral("it cannot be written") : file.errorString());
+  return FailureOf(path, opened ? QStringLiteral("it cannot be written") : file.errorString());
 }
 
 }  // namespace ovl::host

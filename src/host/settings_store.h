@@ -16,26 +16,24 @@ namespace ovl::host {
 
 class SettingsStore {
  public:
-  // A folder that is given takes the place of the machine's: the store is then the INI file
-  // "ORB/OVL Software.conf" below it.
+  // With a folder, the store is the INI file "ORB/OVL Software.conf" below it instead of the machine's.
   explicit SettingsStore(QString folder = {});
 
-  // Nothing if the store holds no such value or can't be read, if its file holds what is neither text nor
-  // number, or if the text has characters that the program's texts lack.
+  // Nothing if the store lacks the value or cannot be read, if its file holds a value that is neither text
+  // nor number, or if the text has characters outside Windows-1252.
   std::optional<core::SettingValue> Read(std::string_view key, std::string_view value) const;
 
-  // False if the store can't be written. A file that holds what is neither text nor number is put aside
-  // first, under the ending ".unsound".
-  bool Write(std::string_view key, std::string_view value, std::string_view text) const;
+  // A file with a value that is neither text nor number is renamed first, with the ending ".unsound".
+  core::Result Write(std::string_view key, std::string_view value, std::string_view text) const;
 
-  // After a Read without a value, after a Write that failed: "PATH: Permission denied".
+  // The reason for a Read without a value: "PATH: Permission denied".
   std::string WhyNotRead() const;
-  std::string WhyNotWritten() const;
 
  private:
-  // Empty where the toolkit keeps no file.
+  // Empty where QSettings keeps no file.
   QString Path() const;
   bool IsSound() const;
+  core::Failure WriteFailure() const;
   std::unique_ptr<QSettings> Open() const;
 
   QString folder_;

@@ -10,7 +10,7 @@ namespace {
 
 constexpr unsigned kFirst = 0x80;
 
-// The codes 80 to 9F; all others are equal to their character's number.
+// The characters of the codes 80 to 9F. Every other code equals its character's number.
 constexpr std::array<char16_t, 32> kCharacters = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,

@@ -11,15 +11,15 @@
 
 namespace ovl::host {
 
-// Every byte has a character; the five codes that Windows-1252 leaves unused (81 8D 8F 90 9D) stand for
-// the control characters of the same number, so that all 256 make the round trip.
+// Every byte has a character. The five codes that Windows-1252 leaves unused (81 8D 8F 90 9D) become the
+// control characters of the same number, so that every byte converts back to itself.
 QString FromWindows1252(std::string_view bytes);
 
 // A text from the operating system, such as a path or the reason of an error: UTF-8, or Windows-1252 if it is
 // not valid UTF-8.
 QString FromSystem(std::string_view text);
 
-// A failure whose subject and reason Qt names; FromSystem reads its text.
+// A failure whose subject and reason come from Qt. FromSystem converts its text back.
 core::Failure FailureOf(const QString& subject, const QString& reason);
 
 // Nothing when the text holds a character without a code.

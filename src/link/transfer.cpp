@@ -52,7 +52,7 @@ bool TakeUpload(core::Application& app) {
     PrepareCapabilities(app);
     return true;
   }
-  app.StreamText = files::ReadJoined(app.CurrentFilePath);
+  app.StreamText = files::ReadJoined(app.platform.files, app.CurrentFilePath);
   PrepareCapabilities(app);
   return LoadStream(app, app.StreamText);
 }
@@ -61,7 +61,7 @@ void StoreUpload(core::Application& app) {
   if (!firmware::IsKnownFamily(app.firmware.version)) return;
   const auto& version = app.firmware.version;
   app.CurrentFilePath = files::PathBelow(app.platform.program_folder, "\\" + version + "\\upload.bin");
-  files::WriteWhole(app.CurrentFilePath, app.StreamBuffer + "\r\n");
+  app.platform.files.replace(app.CurrentFilePath, app.StreamBuffer + "\r\n");
 }
 
 void FinishStream(core::Application& app) {

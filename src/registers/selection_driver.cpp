@@ -22,7 +22,7 @@ namespace {
 void TakeDefaultImage(core::Application& app) {
   app.StreamText.clear();
   DefaultImagePath(app);
-  app.StreamText = files::ReadJoined(app.CurrentFilePath);
+  app.StreamText = files::ReadJoined(app.platform.files, app.CurrentFilePath);
   const bool first = !app.ImageTouched;
   app.ImageTouched = true;
   PrepareCapabilities(app);

@@ -6,7 +6,7 @@
 #include <stdexcept>
 #include <utility>
 
-#include "files/files.h"
+#include "host/files.h"
 #include "image/record_stream.h"
 #include "start/start_up.h"
 
@@ -105,6 +105,14 @@ std::string PatternStream(const firmware::FirmwareId& firmware, int seed, int re
   return image::BlockRecords(digits, image::WriteRegion(firmware));
 }
 
+std::string ReadFile(const std::string& path) {
+  return host::ReadFile(path);
+}
+
+void WriteFile(const std::string& path, std::string_view bytes) {
+  host::ReplaceFile(path, bytes, host::Flush::kNo);
+}
+
 Harness::Harness(const firmware::FirmwareId& firmware, const std::vector<std::string>& further_registers) {
   settings["Version"] = firmware.version;
   settings["Release"] = firmware.release;
@@ -114,7 +122,7 @@ Harness::Harness(const firmware::FirmwareId& firmware, const std::vector<std::st
   names.insert(names.begin(), "GENERIC");
   int code = 0;
   for (const auto& name : names) {
-    files::WriteWhole((images / (name + ".bin")).string(), PatternStream(firmware, code + 1, code) + "\r\n");
+    WriteFile((images / (name + ".bin")).string(), PatternStream(firmware, code + 1, code) + "\r\n");
     ++code;
   }
   FillPlatform();
@@ -140,6 +148,8 @@ void Harness::FillPlatform() {
   };
   platform.clock = [this] { return now; };
   platform.SetWindowPos = [](std::string_view) {};
+
+  platform.files = host::DiskFiles(host::Flush::kNo);
 
   auto& serial = platform.serial;
   serial.open = [this](const core::LineSettings& line) -> core::Result {

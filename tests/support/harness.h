@@ -50,6 +50,10 @@ std::string RawPatternStream(const firmware::FirmwareId& firmware, int seed = 1,
 // nothing.
 std::string PatternStream(const firmware::FirmwareId& firmware, int seed = 1, int register_code = 0);
 
+// As the program reads and replaces files, but without flushing them.
+std::string ReadFile(const std::string& path);
+void WriteFile(const std::string& path, std::string_view bytes);
+
 class Harness {
  public:
   // Writes a default image for the first register (and the further ones named) and fills the settings store.

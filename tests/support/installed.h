@@ -13,7 +13,6 @@
 #include <utility>
 #include <vector>
 
-#include "files/files.h"
 #include "image/field_map.h"
 #include "image/report.h"
 #include "images/default_images.h"
@@ -54,10 +53,10 @@ class Installed : public Harness {
 
   // Changes one byte of a register's default image.
   void SetByte(const std::string& name, int byte, std::string_view hex) const {
-    auto text = files::ReadWhole(PathOf(name));
+    auto text = ReadFile(PathOf(name));
     const auto digit = static_cast<std::size_t>(2 * byte);
     text.replace(digit / 64 * 71 + 5 + digit % 64, 2, hex);
-    files::WriteWhole(PathOf(name), text);
+    WriteFile(PathOf(name), text);
   }
 
   int CodeOf(std::string_view name) const {

@@ -5,9 +5,9 @@
 
 #include "core/configuration.h"
 #include "core/failure.h"
-#include "files/files.h"
 #include "firmware/register_lists.h"
 #include "firmware/traits.h"
+#include "host/files.h"
 #include "image/field_map.h"
 #include "image/record_stream.h"
 #include "image/slot_records.h"
@@ -45,7 +45,7 @@ std::string FileName(const firmware::FirmwareId& firmware, std::string_view name
   return file + ".bin";
 }
 
-// A program of the firmware without screen, line or files: it only applies images.
+// A program of the firmware that can only apply images. It has no platform.
 void SetUp(core::Application& app, const firmware::FirmwareId& firmware) {
   app.firmware = firmware;
   PrepareCapabilities(app);
@@ -54,9 +54,8 @@ void SetUp(core::Application& app, const firmware::FirmwareId& firmware) {
   registers::BuildRegisterList(app);
 }
 
-// Lets the register's own options settle the image: what they force on the line is stored with them, so that
-// a later load of the image finds everything as it wants it. The program is a fresh one, in which every
-// option counts as changed.
+// The register's options force line settings when they are applied. The image includes these settings, so
+// that loading it later changes nothing. A new program is used, in which every option counts as changed.
 image::ConfigImage RegisterImage(const firmware::FirmwareId& firmware, int code) {
   core::Application app;
   SetUp(app, firmware);
@@ -109,7 +108,7 @@ int WriteDefaultImages(const std::string& folder, const firmware::FirmwareId& fi
   int code = 0;
   for (const auto& entry : firmware::BuildRegisterEntries(firmware.version, firmware.release)) {
     const auto stream = StreamOf(RegisterImage(firmware, code++), firmware, capabilities);
-    files::WriteWhole((images / FileName(firmware, entry.name)).string(), stream + "\r\n");
+    host::ReplaceFile((images / FileName(firmware, entry.name)).string(), stream + "\r\n", host::Flush::kNo);
   }
   return code;
 }

@@ -9,11 +9,11 @@
 
 namespace ovl::images {
 
-// The image that a firmware's first register brings in whole: nothing watched for, nothing triggered, a plain
-// display.
+// The image of a firmware's first register: no exceptions, no alarms, a plain display.
 image::ConfigImage FactoryImage(const firmware::FirmwareId& firmware);
 
-// Writes the images of one firmware below the folder and gives their number. Throws Failure.
+// Writes the images of one firmware below the folder and gives their number. They can be made again, so they
+// are not flushed one by one. Throws Failure.
 int WriteDefaultImages(const std::string& folder, const firmware::FirmwareId& firmware);
 
 }  // namespace ovl::images

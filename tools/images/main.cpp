@@ -1,10 +1,13 @@
+#include <getopt.h>
+
+#include <array>
 #include <iostream>
 #include <string>
 #include <vector>
 
 #include "core/failure.h"
-#include "files/files.h"
 #include "firmware/firmware_table.h"
+#include "host/files.h"
 #include "images/default_images.h"
 
 namespace {
@@ -18,6 +21,10 @@ constexpr const char* kHelp =
     "V1400R12, all of them. Files that are there are replaced.\n"
     "\n"
     "Exit status: 0 done; 1 a file could not be written; 2 wrong usage.\n";
+
+constexpr int kWrongUsage = 2;
+constexpr int kHelpAsked = 'h';
+constexpr std::array kOptions{option{"help", no_argument, nullptr, kHelpAsked}, option{}};
 
 bool Wanted(const ovl::firmware::FirmwareId& firmware, const std::vector<std::string>& names) {
   if (names.empty()) return true;
@@ -37,21 +44,27 @@ bool IsFirmware(const std::string& name) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  ovl::files::OutliveSizeLimit();
-  const std::vector<std::string> words(argv + 1, argv + argc);
-  if (words.empty() || words.front() == "--help") {
-    (words.empty() ? std::cerr : std::cout) << kHelp;
-    return words.empty() ? 2 : 0;
+  ovl::host::OutliveSizeLimit();
+  const int found = ::getopt_long(argc, argv, "", kOptions.data(), nullptr);
+  if (found == kHelpAsked) {
+    std::cout << kHelp;
+    return 0;
+  }
+  if (found != -1) return kWrongUsage;  // getopt_long has named the wrong word
+  const std::vector<std::string> words(argv + optind, argv + argc);
+  if (words.empty()) {
+    std::cerr << kHelp;
+    return kWrongUsage;
   }
   if (words.front().empty() || words.front().front() == '-') {
     std::cerr << "ovl-images: no folder may be called \"" << words.front() << "\"\n";
-    return 2;
+    return kWrongUsage;
   }
   const std::vector<std::string> names(words.begin() + 1, words.end());
   for (const auto& name : names) {
     if (IsFirmware(name)) continue;
     std::cerr << "ovl-images: no firmware is called " << name << "\n";
-    return 2;
+    return kWrongUsage;
   }
   int files = 0;
   try {

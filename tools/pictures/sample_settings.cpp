@@ -4,7 +4,6 @@
 #include <QTemporaryDir>
 #include <array>
 
-#include "files/files.h"
 #include "ui/app/program.h"
 
 namespace ovl::pictures {
@@ -115,7 +114,7 @@ void ShowSampleHistory(ui::Program& program) {
     text += "11/24/26 " + time + ":04:17  NO SALE\r\n";
     text += "11/24/26 " + time + ":31:50  REFUND                 12.40\r\n";
   }
-  files::WriteWhole(QFile::encodeName(path).toStdString(), text);
+  program.Model().platform.files.replace(QFile::encodeName(path).toStdString(), text);
   auto& ask = program.Model().platform.ask_file;
   const auto usual = ask;
   ask = [&](const core::FileDialog&) { return core::FileAnswer{QFile::encodeName(path).toStdString()}; };

@@ -107,7 +107,7 @@ void ExpectEnded(Session& session, Arguments& arguments) {
   Require(session.Ended(), "the program to have ended", "it running");
 }
 
-// Words that name a state of a control; what the state would be called if it did not hold.
+// Words for a state of a control, each with the word for its opposite.
 struct StateWord {
   std::string_view word, opposite;
   std::optional<bool> (*holds)(const controls::ControlRef&);

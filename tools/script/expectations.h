@@ -5,8 +5,8 @@
 
 namespace ovl::script {
 
-// The statement "expect" in all its forms. What is otherwise throws Stop with kExpectationFailed, which says
-// what was expected and what was found.
+// The statement "expect" in all its forms. A failed expectation throws Stop with kExpectationFailed and names
+// the expected and the actual value.
 void Expect(Session& session, Arguments& arguments);
 
 }  // namespace ovl::script

@@ -3,7 +3,6 @@
 #include <charconv>
 
 #include "core/configuration.h"
-#include "files/files.h"
 #include "image/record_stream.h"
 #include "image/report.h"
 #include "script/parser.h"
@@ -59,7 +58,7 @@ std::string StreamOf(core::Application& app) {
 }
 
 void WriteStream(core::Application& app, const std::string& path) {
-  files::WriteWhole(path, StreamOf(app) + "\r\n");
+  app.platform.files.replace(path, StreamOf(app) + "\r\n");
 }
 
 }  // namespace ovl::script

@@ -15,20 +15,20 @@ struct FieldEntry {
   const image::FieldRow* row;
   int entry;
 
-  // As the script writes it: the number stands only behind fields that have several entries.
+  // As scripts write it. Only a field with several entries has a number.
   std::string Name() const;
   std::string& In(image::ConfigImage& image) const { return image.at(row->id, entry); }
 };
 
-// "EXCPSTRS(3)" is one entry, "EXCPSTRS" all of them. A name that means nothing throws Stop with
-// kWrongStatement, and so does FieldNamed for a name that means several entries.
+// "EXCPSTRS(3)" is one entry, "EXCPSTRS" all of them. An unknown name throws Stop with kWrongStatement, and
+// so does a name of several entries in FieldNamed.
 std::vector<FieldEntry> FieldsNamed(std::string_view name);
 FieldEntry FieldNamed(std::string_view name);
 
-// The text that a download would send now. Nothing of the program changes by looking.
+// The text that a download would send now. The program does not change.
 std::string StreamOf(core::Application& app);
 
-// The same into a file, its last line ended like the others. Throws Failure.
+// Writes the same text and a final line end into a file. Throws Failure.
 void WriteStream(core::Application& app, const std::string& path);
 
 }  // namespace ovl::script

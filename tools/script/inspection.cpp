@@ -5,7 +5,7 @@
 namespace ovl::script {
 namespace {
 
-// A list of functions, one for each kind of control, as std::visit wants it.
+// Functions for std::visit, one for each kind of control.
 template <class... Function>
 struct Overloaded : Function... {
   using Function::operator()...;

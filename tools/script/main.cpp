@@ -1,3 +1,6 @@
+#include <getopt.h>
+
+#include <array>
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
@@ -6,17 +9,25 @@
 #include <system_error>
 #include <vector>
 
-#include "files/files.h"
+#include "host/files.h"
 #include "script/runner.h"
 
 namespace {
 
 using ovl::script::ExitStatus;
 
+constexpr int kHelp = 'h';
+constexpr std::array kOptions{option{"help", no_argument, nullptr, kHelp}, option{}};
+
+ExitStatus RefuseUsage() {
+  std::cerr << "Usage: ovl-script [FILE]; ovl-script --help lists the statements.\n";
+  return ExitStatus::kWrongStatement;
+}
+
 ExitStatus Run(const std::vector<std::string>& words) {
-  if (words.size() > 1 || (!words.empty() && words[0].size() > 1 && words[0][0] == '-')) {
-    std::cerr << "Usage: ovl-script [FILE]; ovl-script --help lists the statements.\n";
-    return ExitStatus::kWrongStatement;
+  if (words.size() > 1) {
+    std::cerr << "ovl-script: one file at most is expected, not \"" << words[1] << "\"\n";
+    return RefuseUsage();
   }
   ovl::script::Session session(std::cout, std::cerr);
   if (words.empty() || words[0] == "-") return RunScript(session, std::cin, "stdin", std::cerr);
@@ -36,11 +47,12 @@ ExitStatus Run(const std::vector<std::string>& words) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  ovl::files::OutliveSizeLimit();
-  const std::vector<std::string> words(argv + 1, argv + argc);
-  if (words.size() == 1 && words[0] == "--help") {
+  ovl::host::OutliveSizeLimit();
+  const int found = ::getopt_long(argc, argv, "", kOptions.data(), nullptr);
+  if (found == kHelp) {
     std::cout << ovl::script::HelpText();
     return 0;
   }
-  return static_cast<int>(Run(words));
+  if (found != -1) return static_cast<int>(RefuseUsage());  // getopt_long has named the wrong word
+  return static_cast<int>(Run({argv + optind, argv + argc}));
 }

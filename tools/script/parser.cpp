@@ -39,7 +39,7 @@ void AppendHex(std::string& output, char byte) {
   output += kDigits[value & 0x0FU];
 }
 
-// The byte behind a backslash; the place moves to the last character that belongs to it.
+// The byte of an escape. Moves the place to the escape's last character.
 char Unescape(std::string_view line, std::size_t& place) {
   if (place == line.size()) Wrong("a backslash ends the line");
   const char code = line[place];

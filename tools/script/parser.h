@@ -1,5 +1,5 @@
 // The script's language: words, texts in double quotes, and how both are printed again. All texts are bytes.
-// Whatever is written wrongly throws Stop with kWrongStatement.
+// Syntax errors throw Stop with kWrongStatement.
 #pragma once
 
 #include <cstddef>
@@ -15,13 +15,13 @@ struct Word {
   bool quoted = false;
 };
 
-// The words of one line. A "#" outside a text starts a comment, so that an empty result is no mistake.
+// The words of one line. A "#" outside a text starts a comment. A line may be empty.
 std::vector<Word> SplitWords(std::string_view line);
 
 // The text in double quotes with the escapes of the language: one line, printable ASCII alone.
 std::string Quoted(std::string_view text);
 
-// As it would be written in a script: bare if it can stand so, else quoted.
+// As a script would have it: bare if possible, otherwise quoted.
 std::string AsWord(std::string_view text);
 
 // One byte of exactly two hexadecimal digits, in either case.
@@ -36,14 +36,14 @@ class Arguments {
   bool NextIsQuoted() const { return !AtEnd() && words_[next_].quoted; }
 
   const std::string& Next(std::string_view what);
-  // A word that must, or must not, stand in quotes.
+  // The next word, which must be quoted (Text) or must not be (Bare).
   const std::string& Text(std::string_view what);
   const std::string& Bare(std::string_view what);
   // A bare whole number, -999,999,999 to 999,999,999.
   int Number(std::string_view what);
   // Takes the next word if it is this one, written bare.
   bool Take(std::string_view keyword);
-  // Nothing may be left.
+  // Throws Stop if a word is left.
   void End() const;
 
  private:

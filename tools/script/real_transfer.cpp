@@ -8,7 +8,6 @@
 #include <limits>
 
 #include "core/failure.h"
-#include "files/files.h"
 #include "host/serial_port.h"
 #include "script/image_fields.h"
 #include "script/session.h"
@@ -24,7 +23,7 @@ constexpr Milliseconds kConfirmationLimit = 1000;
 constexpr int kProgressStep = 10;
 constexpr std::string_view kNak = "\x15";
 
-// The event loop that the ports need. There is at most one in a process, and someone else may have it.
+// The event loop that the ports need. A process has at most one, which may exist already.
 class EventLoopOwner {
  public:
   EventLoopOwner() {
@@ -104,7 +103,7 @@ void RealLine::RunFor(Milliseconds duration) {
 
 namespace {
 
-// One transfer: what it is called, and what went wrong if it did not come to its end.
+// One transfer under its name. If it fails, it throws Stop with the reason.
 class Transfer {
  public:
   Transfer(Session& session, std::string name)
@@ -114,24 +113,25 @@ class Transfer {
     HoldRemoteMode();
     Press("CmdUpDow(" + std::to_string(action) + ")");
     RunUntil([&] {
-      TellProgress();
+      ReportProgress();
       return app_.frmOK_buttom.form.visible;
     });
     AwaitConfirmation();
     const bool refused = Refused();
     Press("frmOK_buttom.Command1");
     if (refused) Fail("the unit refused the stream");
-    Tell("done");
+    Report("done");
   }
 
-  // Loads a file as the menu does. The menu tells nothing of a file that it cannot read.
+  // Loads a file as the menu does. The menu reports no file that it cannot read, so the file is read here
+  // first.
   void Open(const std::string& path) {
-    Checked([&] { files::ReadWhole(path); });
+    Checked([&] { app_.platform.files.read(path); });
     const auto waiting = session_.AnswersWaiting();
     session_.AnswerFirst(path);
     Press("OpenMenu");
     if (session_.AnswersWaiting() != waiting) Fail("the program did not ask for a file");
-    if (Disturbed()) FailAsTold();
+    if (Disturbed()) FailAsShown();
   }
 
   void Save(const std::string& path) {
@@ -139,11 +139,11 @@ class Transfer {
   }
 
  private:
-  // The program takes a unit that has sent something else by the end of the time for the grant for one that
-  // has not answered; so nothing is started until that time is over.
+  // If the grant is not the last character when the time for it ends, the program takes the unit as silent.
+  // Therefore nothing starts before that time is over.
   void HoldRemoteMode() {
     if (!app_.RemoteHeld) {
-      Tell("asking for remote mode");
+      Report("asking for remote mode");
       Press("CmdUpDow(" + std::to_string(controls::kRemote) + ")");
     }
     RunUntil([&] { return app_.RemoteHeld && !app_.frmMain.General_timer.enabled; });
@@ -158,11 +158,11 @@ class Transfer {
 
   void RunUntil(const std::function<bool()>& reached) {
     session_.Real().RunUntil([&] { return Disturbed() || reached(); });
-    if (Disturbed()) FailAsTold();
+    if (Disturbed()) FailAsShown();
   }
 
-  // The program takes a stream that has gone out for taken in, whatever the unit answers; here its answer is
-  // waited for.
+  // The program reports success as soon as the stream is sent, whatever the unit answers. This waits for the
+  // answer.
   void AwaitConfirmation() {
     session_.Real().RunUntil([&] { return !app_.FinalAckExpected || Refused(); }, kConfirmationLimit);
   }
@@ -173,10 +173,10 @@ class Transfer {
     throw Stop(ExitStatus::kTransferFailed, name_ + " failed: " + reason);
   }
 
-  [[noreturn]] void FailAsTold() {
+  [[noreturn]] void FailAsShown() {
     if (app_.frmOK_buttom.form.visible && !session_.Ended()) Press("frmOK_buttom.Command1");
-    const bool told = session_.BoxesShown() != boxes_ && !session_.Boxes().empty();
-    Fail(told ? session_.Boxes().back().text : "the program has ended");
+    const bool shown = session_.BoxesShown() != boxes_ && !session_.Boxes().empty();
+    Fail(shown ? session_.Boxes().back().text : "the program has ended");
   }
 
   template <class Step>
@@ -188,19 +188,19 @@ class Transfer {
     }
   }
 
-  void Tell(const std::string& what) { session_.Progress() << name_ << ": " << what << std::endl; }
+  void Report(const std::string& what) { session_.Progress() << name_ << ": " << what << std::endl; }
 
-  void TellProgress() {
+  void ReportProgress() {
     const int value = app_.frmMain.vbalProgressBar1.value / kProgressStep * kProgressStep;
-    if (value > told_) Tell(std::to_string(value) + " %");
-    told_ = std::max(told_, value);
+    if (value > reported_) Report(std::to_string(value) + " %");
+    reported_ = std::max(reported_, value);
   }
 
   Session& session_;
   core::Application& app_;
   std::string name_;
   int boxes_;
-  int told_ = 0;
+  int reported_ = 0;
 };
 
 }  // namespace

@@ -13,8 +13,8 @@ namespace ovl::script {
 
 class Session;
 
-// The machine's ports for a session, which must outlive it. Time passes only while one of the functions below
-// runs: between statements timers stand still and received characters wait.
+// The machine's ports for a session, which must outlive this object. Time passes only while one of the
+// functions below runs. Between statements, timers stop and received characters wait.
 class RealLine {
  public:
   RealLine(Session& session, const std::string& program_folder);
@@ -24,10 +24,11 @@ class RealLine {
 
   core::SerialLine Operations();
 
-  // After each handler: what the line has to tell meanwhile is told again.
+  // To be called after each handler. The events that had to wait are dispatched again.
   void Resume();
 
-  // Until `done` holds, the program has ended, or the time is over. `done` is asked after every event.
+  // Runs until `done` is true, the program has ended, or the time is over. `done` is called after every
+  // event.
   void RunUntil(const std::function<bool()>& done, std::optional<SimulatedTime::Milliseconds> limit = {});
   void RunFor(SimulatedTime::Milliseconds duration);
 
@@ -36,14 +37,14 @@ class RealLine {
   std::unique_ptr<Parts> parts_;
 };
 
-// Each asks for remote mode first if it is not held, works the program's own buttons, and returns when the
-// transfer's closing window was confirmed. A transfer that does not come so far throws Stop with
-// kTransferFailed and the text of the program's box. The port must be open.
+// Both ask for remote mode first if it is not held, press the program's own buttons, and return when the
+// transfer's closing window is confirmed. A transfer that fails throws Stop with kTransferFailed and the text
+// of the program's box. The port must be open.
 
-// An upload; then, if a path is given, the image as a stream into that file.
+// Uploads. If a path is given, writes the image as a stream into that file.
 void UploadTo(Session& session, const std::string& path);
 
-// A download of the image, or, if a path is given, of that file, which is opened first.
+// Downloads the image. If a path is given, opens that file first.
 void DownloadFrom(Session& session, const std::string& path);
 
 }  // namespace ovl::script

@@ -3,6 +3,7 @@
 #include <ostream>
 
 #include "files/files.h"
+#include "host/files.h"
 #include "image/report.h"
 #include "script/session.h"
 #include "script/stop.h"
@@ -12,7 +13,7 @@ namespace {
 
 image::ConfigImage ImageIn(Session& session, const std::string& path) {
   const auto& firmware = session.App().firmware;
-  auto image = image::DecodeStream(files::ReadJoined(path), firmware);
+  auto image = image::DecodeStream(files::ReadJoined(session.App().platform.files, path), firmware);
   if (!image) Wrong(path + ": no configuration of " + firmware.Joined());
   return *std::move(image);
 }
@@ -36,7 +37,7 @@ void Dump(Session& session, Arguments& arguments) {
                                                          "\\" + app.firmware.version + "\\SaveReport.Bin")
                                       : arguments.Next("PATH");
   arguments.End();
-  files::WriteWhole(path, image::LabelledDump(app.image, app.firmware));
+  app.platform.files.replace(path, image::LabelledDump(app.image, app.firmware));
 }
 
 void Diff(Session& session, Arguments& arguments) {
@@ -54,7 +55,7 @@ void Diff(Session& session, Arguments& arguments) {
 void Inspect(Session& session, Arguments& arguments) {
   const auto path = arguments.Next("PATH");
   arguments.End();
-  const auto stream = files::ReadJoined(path);
+  const auto stream = files::ReadJoined(host::DiskFiles(), path);
   const auto fits = image::FittingFirmware(stream);
   for (const auto& fit : fits) {
     session.Output() << "fits " << fit.firmware.Joined() << ": register " << fit.register_code << ' '

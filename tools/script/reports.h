@@ -1,4 +1,4 @@
-// Statements that tell by field names what an image or a file holds.
+// Statements that show images and files by field names.
 #pragma once
 
 #include "script/parser.h"

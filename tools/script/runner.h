@@ -10,7 +10,7 @@
 
 namespace ovl::script {
 
-// Runs line after line and stops at the first that fails; why, goes to `errors` as "NAME:LINE: reason".
+// Runs line after line and stops at the first that fails. The reason goes to `errors` as "NAME:LINE: reason".
 ExitStatus RunScript(Session& session, std::istream& script, const std::string& name, std::ostream& errors);
 
 // What --help prints.

@@ -1,6 +1,7 @@
 #include "script/session.h"
 
 #include "core/settings.h"
+#include "host/files.h"
 #include "host/system_clock.h"
 #include "script/parser.h"
 #include "script/real_transfer.h"
@@ -20,8 +21,8 @@ void Session::SetFolder(std::string folder) {
 }
 
 void Session::StoreSetting(const std::string& value, const std::string& text) {
-  if (WriteStore(core::kSettingsKey, value, text)) return;
-  Wrong("the machine's settings store cannot be written: " + system_store_->WhyNotWritten());
+  const auto written = WriteStore(core::kSettingsKey, value, text);
+  if (!written.Ok()) Wrong("the machine's settings store cannot be written: " + written.Problem().Text());
 }
 
 void Session::SetClock(const core::ClockTime& time) {
@@ -39,7 +40,7 @@ void Session::UseRealPorts() {
   OpenRealPorts();
 }
 
-// What a port's number means depends on the program folder.
+// The program folder decides which device a port's number means, so the ports are made anew.
 void Session::OpenRealPorts() {
   real_.reset();
   real_ = std::make_unique<RealLine>(*this, folder_);
@@ -73,9 +74,12 @@ core::Platform Session::MakePlatform() {
   platform.show_message = [this](const core::MessageBox& box) { Show(box); };
   platform.ask_file = [this](const core::FileDialog&) { return Answer(); };
   platform.read_setting = [this](auto key, auto value) { return ReadStore(key, value); };
-  platform.write_setting = [this](auto key, auto value, auto text) { return WriteStore(key, value, text); };
+  platform.write_setting = [this](auto key, auto value, auto text) {
+    return WriteStore(key, value, text).Ok();
+  };
   platform.clock = [this] { return Clock(); };
   platform.SetWindowPos = [](std::string_view) {};
+  platform.files = host::DiskFiles();
   platform.serial.open = [this](const core::LineSettings& settings) { return CurrentLine().open(settings); };
   platform.serial.close = [this] { CurrentLine().close(); };
   platform.serial.write = [this](std::string_view text) {
@@ -95,7 +99,7 @@ void Session::Start() {
   time_.Forget();
   app_ = std::make_unique<core::Application>();
   app_->platform = MakePlatform();
-  end_told_ = false;
+  end_printed_ = false;
   start::StartProgram(*app_);
   Settle();
 }
@@ -119,7 +123,7 @@ core::Outcome Session::Act(const core::Event& event) {
 }
 
 void Session::Settle() {
-  if (app_->ended && !std::exchange(end_told_, true)) output_ << "ended" << std::endl;
+  if (app_->ended && !std::exchange(end_printed_, true)) output_ << "ended" << std::endl;
   if (real_ != nullptr) real_->Resume();
 }
 
@@ -169,10 +173,10 @@ std::optional<core::SettingValue> Session::ReadStore(std::string_view key, std::
   return found == store_.end() ? std::nullopt : std::optional<core::SettingValue>(found->second);
 }
 
-bool Session::WriteStore(std::string_view key, std::string_view value, std::string_view text) {
+core::Result Session::WriteStore(std::string_view key, std::string_view value, std::string_view text) {
   if (system_store_) return system_store_->Write(key, value, text);
   store_.insert_or_assign({std::string(key), std::string(value)}, std::string(text));
-  return true;
+  return {};
 }
 
 core::ClockTime Session::Clock() const {

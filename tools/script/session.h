@@ -1,4 +1,4 @@
-// One run of the tool: the program under script, and the world around it that the script makes up.
+// One run of the tool: the program, and its surroundings as the script defines them.
 #pragma once
 
 #include <deque>
@@ -18,26 +18,27 @@ namespace ovl::script {
 
 class RealLine;
 
-// Whatever asks for the program before it was started, or for the simulated line while the machine's ports
-// are in use, throws Stop with kWrongStatement.
+// Using the program before it is started, or the simulated line while the machine's ports are in use, throws
+// Stop with kWrongStatement.
 class Session {
  public:
-  // Statements print to `output`, transfers tell their progress to `progress`. Both must outlive the session.
+  // Statements print to `output`, transfers print their progress to `progress`. Both must outlive the
+  // session.
   Session(std::ostream& output, std::ostream& progress);
   ~Session();
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
 
-  // The world: folder and store outlive the program and serve the next start as well.
+  // The surroundings. Folder and store are kept for the next start as well.
   void SetFolder(std::string folder);
   void StoreSetting(const std::string& value, const std::string& text);
   void UseSystemStore() { system_store_.emplace(); }
   void QueueAnswer(std::optional<std::string> path) { answers_.push_back(std::move(path)); }
-  // Ahead of the answers that wait already.
+  // The next answer, before those that wait already.
   std::size_t AnswersWaiting() const { return answers_.size(); }
   void AnswerFirst(std::string path) { answers_.emplace_front(std::move(path)); }
   void SetClock(const core::ClockTime& time);
-  // The port must be closed for a change between the simulated line and the machine's ports.
+  // A change between the simulated line and the machine's ports needs a closed port.
   void UseRealPorts();
   void UseSimulatedPort();
   SimulatedLine& Simulated();
@@ -51,18 +52,18 @@ class Session {
   bool Ended() const { return app_ != nullptr && app_->ended; }
   controls::ControlRef Control(const std::string& name);
 
-  // One event through the gate; what the line has to tell follows.
+  // Dispatches one event, and then the events of the line that are due.
   core::Outcome Act(const core::Event& event);
   void DeliverReceived();
 
-  // Time passes: at once on the simulated line, really with the machine's ports.
+  // Lets time pass. On the simulated line this takes no real time.
   void Wait(SimulatedTime::Milliseconds duration);
 
   // What the script can ask for.
   std::string TakeSent() { return std::exchange(sent_, {}); }
   std::optional<core::MessageBox> TakeBox();
   const std::deque<core::MessageBox>& Boxes() const { return boxes_; }
-  // Since the session began, asked for or not.
+  // Since the session began.
   int BoxesShown() const { return boxes_shown_; }
 
   std::ostream& Output() { return output_; }
@@ -76,7 +77,7 @@ class Session {
   void Show(const core::MessageBox& box);
   std::optional<core::FileAnswer> Answer();
   std::optional<core::SettingValue> ReadStore(std::string_view key, std::string_view value) const;
-  bool WriteStore(std::string_view key, std::string_view value, std::string_view text);
+  core::Result WriteStore(std::string_view key, std::string_view value, std::string_view text);
   core::ClockTime Clock() const;
   void Settle();
 
@@ -94,7 +95,7 @@ class Session {
   SimulatedLine simulated_;
   core::SerialLine simulated_operations_;
   std::unique_ptr<core::Application> app_;
-  bool end_told_ = false;
+  bool end_printed_ = false;
   std::unique_ptr<RealLine> real_;
   core::SerialLine real_operations_;
 };

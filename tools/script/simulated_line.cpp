@@ -38,12 +38,12 @@ void SimulatedLine::Unplug() {
 void SimulatedLine::Arrive(char character) {
   if (!open_ || dead_) return;
   received_.push_back(character);
-  ++untold_;
+  ++undelivered_;
 }
 
 bool SimulatedLine::TakeReceived() {
-  if (untold_ == 0) return false;
-  --untold_;
+  if (undelivered_ == 0) return false;
+  --undelivered_;
   return true;
 }
 
@@ -79,7 +79,7 @@ std::string SimulatedLine::Read() {
 
 void SimulatedLine::ClearInput() {
   received_.clear();
-  untold_ = 0;
+  undelivered_ = 0;
 }
 
 }  // namespace ovl::script

@@ -1,4 +1,4 @@
-// A serial line without a device: characters are put in by hand, and the transmitter runs empty when told to.
+// A serial line without a device. The script supplies the received characters and empties the transmitter.
 #pragma once
 
 #include <deque>
@@ -10,25 +10,25 @@ namespace ovl::script {
 
 class SimulatedLine {
  public:
-  // The operations for the platform record. They refer to this object, which must outlive them.
+  // For Platform::serial. This object must outlive the operations.
   core::SerialLine Operations();
 
-  // What the machine has: a port that opens, one that refuses with this reason, or none any more. A port that
-  // was open when it was lost stays dead until it is opened again; that the transmitter ran empty is still
-  // told, so that a sender goes on and meets the failing write.
+  // The port opens (Restore), does not open for a reason (Refuse), or is lost (Unplug). A port that is lost
+  // while open stays dead until it is opened again. Its last drained event still comes: a sender then goes
+  // on, and its next write fails.
   void Restore();
   void Refuse(const std::string& reason);
   void Unplug();
 
-  // A character from the unit. Lost, with the port closed or dead.
+  // A character from the unit. It is lost if the port is closed or dead.
   void Arrive(char character);
 
-  // Each received character, and each time the transmitter ran empty, is to be told once: true, and it counts
-  // as told. Several writes make the transmitter run empty once.
+  // True if such an event is due; it then counts as delivered. Each received character is one event, and so
+  // is each time that the transmitter runs empty, even after several writes.
   bool TakeReceived();
   bool TakeDrained();
-  // The program was busy: the character is to be told again.
-  void KeepReceived() { ++untold_; }
+  // The program was busy: the event of the last character is due again.
+  void KeepReceived() { ++undelivered_; }
 
  private:
   core::Result Open();
@@ -37,11 +37,11 @@ class SimulatedLine {
   std::string Read();
   void ClearInput();
 
-  core::Result opening_;  // what opening a port gives
+  core::Result opening_;  // the result of opening a port
   bool open_ = false;
   bool dead_ = false;
   std::deque<char> received_;
-  std::size_t untold_ = 0;
+  std::size_t undelivered_ = 0;
   bool draining_ = false;
 };
 

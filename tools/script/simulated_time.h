@@ -1,4 +1,4 @@
-// Time for the timers of the model: it stands still until it is moved. The clock moves along.
+// Time for the timers of the model. It stops until it is moved, and the clock moves with it.
 #pragma once
 
 #include <cstdint>
@@ -16,28 +16,28 @@ class SimulatedTime {
  public:
   using Milliseconds = std::int64_t;
 
-  // From here on the clock shows this time. Before it was ever set it starts with the year 2000.
+  // Sets the clock. Before that it begins with the year 2000.
   void SetClock(const core::ClockTime& time);
   core::ClockTime Clock() const;
 
-  // Looks which timers of the program run. One that was started, restarted or given another interval since
-  // the last look comes due a whole interval from now. A timer without an interval never does.
+  // Checks which timers of the program run. A timer that was started, restarted or given another interval
+  // since the last check is due one whole interval from now. A timer without an interval is never due.
   void Watch(const controls::Registry& registry);
 
-  // The timers of a program that is gone.
+  // Removes all timers, for a new program.
   void Forget() { running_.clear(); }
 
   Milliseconds Now() const { return now_; }
   std::optional<Milliseconds> NextDue() const;
 
-  // Never backwards.
+  // Does not move backwards.
   void MoveTo(Milliseconds now);
 
-  // The timer that came due first, of several at once the one that was registered first; nothing if none is
-  // due by now. It comes due again an interval from now, so that ticks that were missed are lost.
+  // The timer that has been due longest; among equals, the one registered first. Null if none is due. It is
+  // due again one interval from now, so missed ticks are lost.
   controls::Timer* TakeDue();
 
-  // Moves by so much and ticks every timer when it comes due, with a look after each tick. `tick` tells
+  // Moves by the duration and ticks every timer when it is due, with a check after each tick. `tick` returns
   // whether to go on.
   void Advance(const controls::Registry& registry, Milliseconds duration,
                const std::function<bool(controls::Timer&)>& tick);
@@ -57,7 +57,7 @@ class SimulatedTime {
   std::vector<Running> running_;                 // in the order of registration
 };
 
-// "2026-03-05 14:07:09"; nothing for another form or a time that no clock shows.
+// "2026-03-05 14:07:09". Nothing for another form or for a date or time that does not exist.
 std::optional<core::ClockTime> ParseClock(std::string_view text);
 
 }  // namespace ovl::script

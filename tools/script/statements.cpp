@@ -16,7 +16,7 @@
 namespace ovl::script {
 namespace {
 
-// A program that goes on sending for ever must not keep the script from ending.
+// Ends the script even if the program never stops sending.
 constexpr int kLongestDrain = 2'000'000;
 
 // The control that the next word names, if it is of this kind.
@@ -29,7 +29,7 @@ Kind ControlOf(Session& session, Arguments& arguments, const char* kind) {
   return *held;
 }
 
-// How often; once, or the given number, if the statement does not say.
+// The number of repetitions, with a default for a statement without one.
 int Times(Arguments& arguments, int otherwise) {
   const int times = arguments.AtEnd() ? otherwise : arguments.Number("N");
   if (times < 0) Wrong("N must not be negative");
@@ -37,11 +37,11 @@ int Times(Arguments& arguments, int otherwise) {
   return times;
 }
 
-void TellRefusal(Session& session, const std::string& name, core::Outcome outcome) {
+void PrintRefusal(Session& session, const std::string& name, core::Outcome outcome) {
   if (outcome == core::Outcome::kRefused) session.Output() << "refused " << name << '\n';
 }
 
-// --- the world around the program
+// --- surroundings of the program
 
 void Folder(Session& session, Arguments& arguments) {
   const auto path = arguments.Next("PATH");
@@ -104,7 +104,7 @@ void Wait(Session& session, Arguments& arguments) {
   session.Wait(duration);
 }
 
-// --- what a person does
+// --- acts of a person
 
 void Pick(Session& session, Arguments& arguments) {
   const auto name = arguments.Bare("NAME");
@@ -124,7 +124,7 @@ void Pick(Session& session, Arguments& arguments) {
     Wrong(name + " has no position " + std::to_string(position));
   }
   arguments.End();
-  TellRefusal(session, name, session.Act(core::PickEvent{control, position}));
+  PrintRefusal(session, name, session.Act(core::PickEvent{control, position}));
 }
 
 void Click(Session& session, Arguments& arguments) {
@@ -133,7 +133,7 @@ void Click(Session& session, Arguments& arguments) {
   arguments.End();
   const bool clickable = std::holds_alternative<controls::Button*>(control) || CheckedOf(control).has_value();
   if (!clickable) Wrong(name + " is no button, menu item, check box or element");
-  TellRefusal(session, name, session.Act(core::ClickEvent{control}));
+  PrintRefusal(session, name, session.Act(core::ClickEvent{control}));
 }
 
 void Type(Session& session, Arguments& arguments) {
@@ -144,7 +144,7 @@ void Type(Session& session, Arguments& arguments) {
   if (std::holds_alternative<controls::List*>(control)) return;
   auto* const* box = std::get_if<controls::TextBox*>(&control);
   if (box == nullptr) Wrong(name + " is no text box");
-  TellRefusal(session, name, session.Act(core::TypeEvent{*box, text}));
+  PrintRefusal(session, name, session.Act(core::TypeEvent{*box, text}));
 }
 
 void Leave(Session& session, Arguments& arguments) {
@@ -223,7 +223,7 @@ void Tick(Session& session, Arguments& arguments) {
   }
 }
 
-// --- what is asked
+// --- output and checks
 
 void Show(Session& session, Arguments& arguments) {
   const auto name = arguments.Bare("NAME");

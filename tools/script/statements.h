@@ -11,7 +11,7 @@ namespace ovl::script {
 
 struct Statement {
   std::string_view word;
-  std::string_view forms;  // how it is written, one form a line
+  std::string_view forms;  // how people write it, one form a line
   std::string_view help;
   void (*run)(Session&, Arguments&);
   bool after_end = false;  // can follow the end of the program

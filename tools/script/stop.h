@@ -1,4 +1,4 @@
-// How a script is left before its end.
+// How a script ends early.
 #pragma once
 
 #include <stdexcept>
@@ -6,12 +6,12 @@
 
 namespace ovl::script {
 
-// What the tool answers to its caller.
+// The exit status of the tool.
 enum class ExitStatus {
   kDone = 0,
   kExpectationFailed = 1,
   kWrongStatement = 2,
-  kProgramEnded = 3,  // a statement that needs the running program was left
+  kProgramEnded = 3,  // a later statement needs the running program
   kTransferFailed = 4,
 };
 

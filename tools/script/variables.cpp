@@ -21,7 +21,7 @@ struct Row {
   std::string (*value)(const core::Application&);
 };
 
-// The three places where variables stand.
+// The variables of each part of the application.
 template <auto Member>
 std::string Of(const core::Application& app) {
   return AsText(app.*Member);

@@ -9,7 +9,7 @@
 
 namespace ovl::script {
 
-// The value as text; flags read true or false. Nothing if no variable has the name.
+// The value as text, "true" or "false" for a flag. Nothing if there is no such variable.
 std::optional<std::string> VariableValue(const core::Application& app, std::string_view name);
 
 }  // namespace ovl::script

@@ -41,10 +41,10 @@ constexpr std::array<Target, 8> kSilenceable{{
 struct FaultRow {
   FaultKind kind;
   std::string_view word;            // as on the command line
-  std::string_view argument;        // its form, empty without one
-  std::span<const Target> targets;  // operations that it can name; all of them when it names none
+  std::string_view argument;        // its form; empty if there is none
+  std::span<const Target> targets;  // operations that it can name; without a name it means all of them
   unsigned numbers;                 // how many numbers the argument has
-  unsigned highest;                 // of the first number
+  unsigned highest;                 // value of the first number
   std::string_view help;
 };
 

@@ -10,21 +10,21 @@
 
 namespace unit {
 
-// What the unit can be asked for; the faults name these.
+// The operations of the unit, as faults name them.
 enum class Operation { kRequest, kKeepAlive, kUpload, kDownload, kFinalAnswer, kClock, kHistory, kReset };
 
 enum class FaultKind { kRefuse, kSilent, kSilentAfter, kDrop, kGarble, kCut, kStall, kJunk, kLate, kOnce };
 
-// One fault that the installer of a test asked for.
+// One fault as the command line gives it.
 struct Fault {
   FaultKind kind;
   unsigned operations = 0;  // bit set of Operation
-  unsigned first = 0;       // per mille, characters or milliseconds, as the kind has it
+  unsigned first = 0;       // per mille, characters or milliseconds, depending on the kind
   unsigned second = 0;      // milliseconds of a stall
-  bool spent = false;       // has struck, and may strike only once
+  bool spent = false;       // has happened, and may happen only once
 };
 
-// Reads "NAME[:ARGUMENT]". On failure `fault` is empty and `error` says what was expected.
+// Reads "NAME[:ARGUMENT]". If that fails, `fault` is empty and `error` says what was expected.
 struct ParsedFault {
   std::optional<Fault> fault;
   std::string error;
@@ -34,7 +34,7 @@ ParsedFault ParseFault(std::string_view text);
 // The table of faults for a help text, one or more lines each.
 std::string FaultHelp();
 
-// A small generator of its own, so that a seed gives the same bytes with every library and on every machine.
+// A small random generator. Unlike those of the standard library, it gives the same bytes on every machine.
 class Random {
  public:
   explicit Random(std::uint64_t seed) : state_(seed) {}
@@ -45,13 +45,13 @@ class Random {
   std::uint64_t state_;
 };
 
-// A text as it goes out after the faults had their way with it.
+// A text as it is sent, with its faults.
 struct SpoiltText {
   std::vector<Segment> segments;
-  bool hangs = false;  // the unit falls silent in the middle and does not end the operation
+  bool hangs = false;  // the unit stops in the middle and does not end the operation
 };
 
-// Decides, operation by operation, what goes wrong.
+// Decides for each operation which faults happen.
 class Faults {
  public:
   Faults(std::vector<Fault> faults, std::uint64_t seed);
@@ -59,13 +59,13 @@ class Faults {
   bool Refuses(Operation operation) { return Strikes(FaultKind::kRefuse, operation); }
   bool Silences(Operation operation) { return Strikes(FaultKind::kSilent, operation); }
 
-  // How much later than usual the next answer comes.
+  // The delay of the next answer.
   Time Lateness();
 
-  // The configuration stream of an upload: every kind of damage.
+  // The configuration stream of an upload, with every kind of damage.
   SpoiltText SpoilStream(std::string_view stream);
 
-  // The history text: lost and damaged characters only.
+  // The history text, only with lost and damaged characters.
   SpoiltText SpoilHistory(std::string_view text);
 
  private:

@@ -14,7 +14,7 @@ struct Region {
   unsigned first;             // address of the first record
   unsigned last;              // address of the last record
   unsigned last_digits;       // hexadecimal digits of the last record, 2 to 64
-  unsigned tolerated_digits;  // digits that a tool may send beyond the last; the unit has no room for them
+  unsigned tolerated_digits;  // digits beyond the last that a tool may send; the unit drops them
 
   constexpr unsigned Records() const { return (last - first) / kRecordBytes + 1; }
   constexpr unsigned Digits() const { return (Records() - 1) * kRecordDigits + last_digits; }
@@ -33,7 +33,7 @@ struct Firmware {
 // All firmware that a unit can run.
 std::span<const Firmware> AllFirmware();
 
-// The firmware of that exact name; null when there is none.
+// The firmware of exactly that name, or null.
 const Firmware* FindFirmware(std::string_view name);
 
 const Region& RegionOf(const Firmware& firmware);

@@ -8,24 +8,24 @@
 
 namespace unit {
 
-// Writes a conversation down for people: one line for all that one side said in a row, with its time, its
-// direction and every byte printable. Long texts are shortened to their first and last line and a count.
+// Writes a conversation for people. Everything that one side sends in a row is one line, with its time, its
+// direction and printable bytes. A long text is shortened to its first and last line and a count.
 class Journal {
  public:
   enum class Side { kTool, kUnit };
 
-  // `write` takes one finished line without its end. An empty one makes a journal that writes nothing.
+  // `write` takes one complete line without its end. With an empty `write` the journal writes nothing.
   explicit Journal(std::function<void(const std::string&)> write) : write_(std::move(write)) {}
 
   void Add(Side side, const std::string& bytes, Time now);
 
-  // A line of its own between what was said.
+  // A line of its own in the conversation.
   void Remark(const std::string& text, Time now);
 
-  // Writes down what is still open.
+  // Writes the last line, even though the same side may continue.
   void Flush();
 
-  // When Flush() should be called, if nothing is said before; nothing when all is written.
+  // When to call Flush() if nothing is sent before. Nothing if everything is written.
   std::optional<Time> NextDue() const;
 
  private:

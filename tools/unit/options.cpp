@@ -1,5 +1,7 @@
 #include "unit/options.h"
 
+#include <getopt.h>
+
 #include <algorithm>
 #include <array>
 #include <limits>
@@ -17,10 +19,10 @@ constexpr std::array<unsigned, 10> kSpeeds{1200, 2400, 4800, 9600, 14400, 19200,
 using Taker = std::string (*)(Options&, std::string_view value);
 
 struct OptionRow {
-  std::string_view name;
-  std::string_view value;  // its form in the help, empty for an option without a value
+  const char* name;        // without its dashes
+  std::string_view value;  // its form in the help; empty for an option without a value
   std::string_view help;   // lines separated by LF
-  Taker take;              // what is wrong with the value, empty when it is taken
+  Taker take;              // gives what is wrong with the value; empty if it is taken
 };
 
 std::string TakeFirmware(Options& options, std::string_view value) {
@@ -73,31 +75,30 @@ std::string TakeFault(Options& options, std::string_view value) {
 }
 
 constexpr std::array<OptionRow, 13> kRows{{
-    {"--firmware", "NAME", "the firmware of the unit, V1400R12 for instance; this one is the default",
+    {"firmware", "NAME", "the firmware of the unit, V1400R12 for instance; this one is the default",
      TakeFirmware},
-    {"--memory", "FILE", "keeps the configuration in FILE; made at the first start",
+    {"memory", "FILE", "keeps the configuration in FILE; made at the first start",
      [](Options& o, std::string_view v) { return TakePath(o.memory, v); }},
-    {"--image", "FILE",
+    {"image", "FILE",
      "a record stream to begin with when there is no memory file yet;\nelse the factory configuration",
      [](Options& o, std::string_view v) { return TakePath(o.image, v); }},
-    {"--speed", "N",
-     "the speed of the line, 9600 by default; at any other the unit neither hears nor answers", TakeSpeed},
-    {"--pace", "on|off", "sends as fast as the line carries it (on, the default) or at once", TakePace},
-    {"--link", "PATH", "makes the symbolic link PATH to the port, removed at the end",
+    {"speed", "N", "the speed of the line, 9600 by default; at any other the unit neither hears nor answers",
+     TakeSpeed},
+    {"pace", "on|off", "sends as fast as the line carries it (on, the default) or at once", TakePace},
+    {"link", "PATH", "makes the symbolic link PATH to the port, removed at the end",
      [](Options& o, std::string_view v) { return TakePath(o.link, v); }},
-    {"--history", "FILE|lines:N", "the history log, from a text file or N made-up lines; lines:12 by default",
+    {"history", "FILE|lines:N", "the history log, from a text file or N made-up lines; lines:12 by default",
      TakeHistory},
-    {"--clock-file", "FILE", "the clock, when it is set, goes there as \"MM-DD-YY HH:MM:SS\"",
+    {"clock-file", "FILE", "the clock, when it is set, goes there as \"MM-DD-YY HH:MM:SS\"",
      [](Options& o, std::string_view v) { return TakePath(o.clock_file, v); }},
-    {"--log", "FILE|-",
+    {"log", "FILE|-",
      "writes the conversation down, - for the standard output;\n> tool to unit, < unit to tool, -- remarks",
      [](Options& o, std::string_view v) { return TakePath(o.log, v); }},
-    {"--fault", "NAME[:ARG]", "makes something go wrong, see below; may be given several times", TakeFault},
-    {"--seed", "N", "of the faults left to chance, 1 by default; the same seed gives the same bytes",
-     TakeSeed},
-    {"--verbose", "", "tells also what is nobody's mistake",
+    {"fault", "NAME[:ARG]", "makes something go wrong, see below; may be given several times", TakeFault},
+    {"seed", "N", "of the faults left to chance, 1 by default; the same seed gives the same bytes", TakeSeed},
+    {"verbose", "", "tells also what is nobody's mistake",
      [](Options& o, std::string_view) { return o.verbose = true, std::string(); }},
-    {"--help", "", "this text", [](Options& o, std::string_view) { return o.help = true, std::string(); }},
+    {"help", "", "this text", [](Options& o, std::string_view) { return o.help = true, std::string(); }},
 }};
 
 constexpr std::string_view kHelpHead =
@@ -137,7 +138,7 @@ constexpr std::string_view kHelpTail =
 
 std::string OptionHelp(const OptionRow& row) {
   constexpr std::size_t kColumn = 26;
-  std::string text = "  " + std::string(row.name) + (row.value.empty() ? "" : " ") + std::string(row.value);
+  std::string text = "  --" + std::string(row.name) + (row.value.empty() ? "" : " ") + std::string(row.value);
   text.resize(std::max(kColumn, text.size() + 1), ' ');
   for (const char c : row.help) {
     text += c;
@@ -146,30 +147,57 @@ std::string OptionHelp(const OptionRow& row) {
   return text + "\n";
 }
 
+// What getopt_long returns for the first row; no character of a short option is as large.
+constexpr int kFirstRow = 256;
+
+std::array<option, kRows.size() + 1> LongOptions() {
+  std::array<option, kRows.size() + 1> options{};
+  for (std::size_t at = 0; at < kRows.size(); ++at) {
+    const int value = kRows[at].value.empty() ? no_argument : required_argument;
+    options[at] = {kRows[at].name, value, nullptr, kFirstRow + static_cast<int>(at)};
+  }
+  return options;
+}
+
+const OptionRow& RowOf(int found) {
+  return kRows.at(static_cast<std::size_t>(found - kFirstRow));
+}
+
+// `word` is the last one that getopt_long took.
+std::string WhyNotUnderstood(int found, const std::string& word) {
+  if (optopt >= kFirstRow) {
+    const std::string name = std::string("--") + RowOf(optopt).name;
+    if (found == ':') return name + " needs a value, " + std::string(RowOf(optopt).value);
+    return name + " takes no value";
+  }
+  const std::string name =
+      optopt == 0 ? word.substr(0, word.find('=')) : std::string{'-', static_cast<char>(optopt)};
+  return name + ": there is no such option";
+}
+
 }  // namespace
 
 ParsedOptions ParseOptions(std::span<const std::string_view> arguments) {
+  std::vector<std::string> words{"ovl-unit"};
+  words.insert(words.end(), arguments.begin(), arguments.end());
+  std::vector<char*> pointers;
+  for (std::string& word : words) pointers.push_back(word.data());
+  pointers.push_back(nullptr);
+  const int count = static_cast<int>(words.size());
+
   ParsedOptions parsed;
   parsed.options.firmware = FindFirmware(kDefaultFirmware);
-  while (!arguments.empty()) {
-    const std::string_view argument = arguments.front();
-    arguments = arguments.subspan(1);
-    const std::size_t equals = argument.starts_with("--") ? argument.find('=') : std::string_view::npos;
-    const std::string name(argument.substr(0, equals));
-    const auto row = std::ranges::find(kRows, name, &OptionRow::name);
-    if (row == kRows.end()) return {{}, name + ": there is no such option"};
-    std::string_view value;
-    if (equals != std::string_view::npos) {
-      if (row->value.empty()) return {{}, name + " takes no value"};
-      value = argument.substr(equals + 1);
-    } else if (!row->value.empty()) {
-      if (arguments.empty()) return {{}, name + " needs a value, " + std::string(row->value)};
-      value = arguments.front();
-      arguments = arguments.subspan(1);
-    }
-    const std::string error = row->take(parsed.options, value);
-    if (!error.empty()) return {{}, name + " " + std::string(value) + ": " + error};
+  const auto known = LongOptions();
+  optind = 0;  // getopt_long begins anew
+  for (int found = 0; (found = ::getopt_long(count, pointers.data(), "+:", known.data(), nullptr)) != -1;) {
+    if (found < kFirstRow)
+      return {{}, WhyNotUnderstood(found, words.at(static_cast<std::size_t>(optind - 1)))};
+    const OptionRow& row = RowOf(found);
+    const std::string value = optarg == nullptr ? "" : optarg;
+    const std::string error = row.take(parsed.options, value);
+    if (!error.empty()) return {{}, std::string("--") + row.name + " " + value + ": " + error};
   }
+  if (optind < count) return {{}, words.at(static_cast<std::size_t>(optind)) + ": only options are expected"};
   return parsed;
 }
 

@@ -28,15 +28,14 @@ struct Options {
   bool help = false;
 };
 
-// Reads a command line without the program's name. `error` names the option and the value that are wrong;
-// empty when all is right.
+// Reads a command line without the program's name. `error` names the wrong option and value, or is empty.
 struct ParsedOptions {
   Options options;
   std::string error;
 };
 ParsedOptions ParseOptions(std::span<const std::string_view> arguments);
 
-// The number of lines when `history` asks for made-up ones, "lines:N"; nothing when it names a file.
+// The number of lines if `history` asks for made-up ones, "lines:N". Nothing if it names a file.
 std::optional<unsigned> MadeUpLines(std::string_view history);
 
 std::string HelpText();

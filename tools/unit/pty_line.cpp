@@ -20,10 +20,10 @@
 namespace unit {
 namespace {
 
-// No speed of a unit, so that a tool that sets none is not heard by chance.
+// Not a speed of a unit, so that the unit does not hear a tool that sets no speed.
 constexpr speed_t kSpeedBeforeTool = B300;
 
-// Between putting settings back and closing, a tool needs far less.
+// A tool needs far less time than this between restoring its settings and closing.
 constexpr int kClosingMilliseconds = 2;
 
 bool MakeRaw(int descriptor) {
@@ -123,7 +123,7 @@ void PtyLine::FollowOpenings() {
 
 void PtyLine::ForgetLastHolder() {
   ::tcflush(keeper_.Get(), TCIFLUSH);
-  // A tool that ended without closing leaves its exclusive claim to the device behind.
+  // If a tool ended without closing, the device is still marked as exclusive.
   if (holders_ == 0) ::ioctl(keeper_.Get(), TIOCNXCL);
 }
 

@@ -16,7 +16,7 @@
 namespace unit {
 namespace {
 
-// Signals that end the program arrive as readable events, so that a wait can neither miss nor be torn by one.
+// Signals that end the program arrive on a descriptor, so that a wait neither misses one nor is interrupted.
 Descriptor CatchSignals() {
   sigset_t set{};
   ::sigemptyset(&set);
@@ -165,8 +165,8 @@ void Session::Speak(const std::string& bytes) {
   const unsigned speed = line_->Speed();
   if (speed != options_.speed) return NoteNoise(speed, bytes.size());
   journal_.Add(Journal::Side::kUnit, bytes, Now());
-  if (line_->Write(bytes) || overrun_told_) return;
-  overrun_told_ = true;
+  if (line_->Write(bytes) || overrun_noted_) return;
+  overrun_noted_ = true;
   Note("the tool does not read; bytes are lost");
 }
 

@@ -17,12 +17,12 @@ namespace unit {
 // One run of the program: a unit, its line, its files and the clock that drives them.
 class Session {
  public:
-  // Null when the unit cannot start, and `error` says why.
+  // Null if the unit cannot start. `error` then has the reason.
   static std::unique_ptr<Session> Start(const Options& options, std::string& error);
 
   const std::string& Port() const { return line_->Path(); }
 
-  // Plays until an interrupt or termination signal. True when there was nothing to complain about.
+  // Runs until an interrupt or termination signal. True if there was no complaint.
   bool Run();
 
  private:
@@ -48,8 +48,8 @@ class Session {
   std::unique_ptr<PtyLine> line_;
   std::optional<Unit> unit_;
   bool complained_ = false;
-  unsigned noise_speed_ = 0;  // already told
-  bool overrun_told_ = false;
+  unsigned noise_speed_ = 0;  // already noted
+  bool overrun_noted_ = false;
 };
 
 }  // namespace unit

@@ -8,7 +8,7 @@
 namespace unit {
 namespace {
 
-constexpr std::size_t kErrorsTold = 5;
+constexpr std::size_t kErrorsListed = 5;
 constexpr std::string_view kDigitExpected = "an upper-case hexadecimal digit";
 
 }  // namespace
@@ -76,7 +76,7 @@ void StreamChecker::JudgeAddress() {
   if (found_address_ == other) address_ = other;
   if (found_address_ == address_) return;
   Report(kAddressAt, "address " + Hex4(address_), Hex4(found_address_));
-  // One slip must not make the later records look wrong: they may go on from either address.
+  // One wrong address must not make the later records wrong, so they may continue from either address.
   const bool in_region = found_address_ >= region_.first && found_address_ <= region_.last;
   if (!in_region || (found_address_ - region_.first) % kRecordBytes != 0) return;
   other_address_ = std::exchange(address_, found_address_);
@@ -135,7 +135,7 @@ void StreamChecker::Report(unsigned position, std::string_view expected, std::st
 
 void StreamChecker::AddError(std::string text) {
   ++error_count_;
-  if (errors_.size() < kErrorsTold) errors_.push_back(std::move(text));
+  if (errors_.size() < kErrorsListed) errors_.push_back(std::move(text));
 }
 
 void StreamChecker::BreakOff(std::string_view why) {

@@ -9,19 +9,19 @@
 
 namespace unit {
 
-// The record stream that carries `digits`, an image of exactly the region's size: records joined by CR LF,
-// the last one closed by the end mark and nothing behind it.
+// The record stream of `digits`, an image of exactly the region's size: records joined by CR LF, with the end
+// mark behind the last one.
 std::string ComposeStream(const Region& region, std::string_view digits);
 
-// Judges a record stream character by character, as it comes in. Nothing is forgiven: marks, the order of the
-// addresses, upper-case digits, the length of every record and its line end. After an error it goes on at the
-// next record, so that one damaged record is told once and the sound ones behind it are not.
+// Checks a record stream character by character as it arrives: marks, the order of the addresses, upper-case
+// digits, the length of every record and its line end. After an error it continues with the next record, so
+// that one damaged record is one error and the good records behind it are none.
 class StreamChecker {
  public:
   explicit StreamChecker(const Region& region);
 
-  // Takes the next character. True when it was the end mark: the stream is complete and must not be fed
-  // further.
+  // Takes the next character. True if it was the end mark: the stream is complete and takes no more
+  // characters.
   bool Feed(char c);
 
   // The stream ended without its end mark; `why` completes the sentence "the stream broke off ...".
@@ -30,16 +30,16 @@ class StreamChecker {
   // Complete and without any error.
   bool Correct() const { return ended_ && error_count_ == 0; }
 
-  // The stream is correct but carries more digits than the region has room for, as far as that is tolerated.
+  // The stream is correct but has more digits than the region has room for, within the tolerated number.
   bool Oversized() const { return Correct() && digits_.size() > region_.Digits(); }
 
-  // What is wrong, one sentence each, in the order of the stream. Only the first few are told one by one.
+  // The errors in the order of the stream, one sentence each. Only the first few are listed one by one.
   std::vector<std::string> Errors() const;
 
   // Characters taken so far.
   std::size_t Count() const { return count_; }
 
-  // The image that the stream carried, exactly as long as the region. Only meaningful when Correct().
+  // The image of the stream, exactly as long as the region. Only meaningful if Correct().
   std::string Image() const { return digits_.substr(0, region_.Digits()); }
 
  private:
@@ -78,8 +78,8 @@ class StreamChecker {
   std::vector<std::string> errors_;
 };
 
-// Reads a stream from a file's text: as on the line, but any line ends and an LF or CR LF behind the end mark
-// are accepted. The image of the region's size, or what is wrong.
+// Reads a stream from a file's text, as on the line. Here any line ends are accepted, and an LF or CR LF
+// behind the end mark.
 struct StreamText {
   std::string image;
   std::vector<std::string> errors;  // empty: `image` is good

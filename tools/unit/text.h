@@ -12,8 +12,8 @@ inline constexpr char kFormFeed = 12;
 inline constexpr char kNak = 21;
 inline constexpr char kCan = 24;
 
-// A byte as a person can read it: itself when it is printable ASCII, "<CR>" for a control code with a name,
-// "<xHH>" for all others.
+// A byte in readable form: printable ASCII as it is, "<CR>" for a control code with a name, "<xHH>" for
+// others.
 std::string Printable(char byte);
 std::string Printable(std::string_view bytes);
 
@@ -23,14 +23,14 @@ std::string Quoted(char byte);
 // Four upper-case hexadecimal digits.
 std::string Hex4(unsigned value);
 
-// The value of an upper-case hexadecimal digit; nothing for any other character, lower case included.
+// The value of an upper-case hexadecimal digit. Nothing for other characters, including lower-case digits.
 std::optional<unsigned> UpperHexDigit(char c);
 
-// A whole text of decimal digits, at most `highest`; nothing for an empty text, a sign, a blank or a larger
-// value.
+// The value of a text of decimal digits, at most `highest`. Nothing for an empty text, a sign, a blank or a
+// larger value.
 std::optional<unsigned long long> Decimal(std::string_view text, unsigned long long highest);
 
-// What the system says about errno `code`.
+// The system's description of errno `code`.
 std::string SystemReason(int code);
 
 }  // namespace unit

@@ -7,21 +7,20 @@
 
 namespace unit {
 
-// Time since an arbitrary start. It is always handed in; nothing below main reads a clock.
+// Time since an arbitrary start. It is always a parameter: only Session reads a clock.
 using Time = std::chrono::nanoseconds;
 
-// A start bit, eight bits and a stop bit; seven bits with parity are as long.
+// A start bit, eight data bits and a stop bit. Seven data bits with parity take the same time.
 inline constexpr long long kBitsPerCharacter = 10;
 
-// Bytes to send, after a pause that begins when everything before them has left.
+// Bytes to send, after a pause that begins when all earlier bytes are sent.
 struct Segment {
   Time pause{};
   std::string bytes;
 };
 
-// The sending half of the line: holds what has to go out and says when each character has passed the wire.
-// The schedule is absolute, so a late wake-up is made good by the next one and the mean rate is that of the
-// line.
+// The sending half of the line. It holds the bytes to send and decides when each of them has been sent. The
+// schedule is absolute: a late wake-up does not delay later characters, so the mean rate is that of the line.
 class Transmitter {
  public:
   // `speed` in bits per second; 0: characters take no time.
@@ -29,16 +28,16 @@ class Transmitter {
 
   void Queue(Segment segment, Time now);
 
-  // Forgets all that has not left yet.
+  // Drops everything that is not sent yet.
   void Clear();
 
   bool Idle() const { return pending_.empty(); }
 
-  // When TakeDue() has to be called next; nothing when idle. Characters of fast lines are gathered for a
-  // millisecond, as adapters do.
+  // When to call TakeDue() next, or nothing when idle. On fast lines, the characters of one millisecond are
+  // collected, as adapters do.
   std::optional<Time> NextDue() const;
 
-  // The characters that have passed the wire by now, each once.
+  // The characters sent since the last call.
   std::string TakeDue(Time now);
 
  private:

@@ -1,6 +1,6 @@
 #include "unit/tty_speed.h"
 
-// The kernel's own view of a terminal; it cannot be included beside the C library's.
+// The kernel's declarations of a terminal. They conflict with those of the C library.
 #include <asm/termbits.h>
 #include <sys/ioctl.h>
 

@@ -2,8 +2,8 @@
 
 namespace unit {
 
-// The speed set on a terminal, in bits per second, also one that has no name of its own such as 14400; 0 when
-// it cannot be told.
+// The speed set on a terminal in bits per second, which need not be a standard one (14400). 0 if it is
+// unknown.
 unsigned TtySpeed(int descriptor);
 
 }  // namespace unit

@@ -16,7 +16,7 @@ constexpr std::string_view kShortEnding = "\r";
 constexpr std::string_view kLongEnding = "\r\n\r";
 constexpr std::string_view kRestOfLongEnding = "\n\r";
 
-// A tool that sends more than the stream does so at once; what comes later belongs to something else.
+// A tool that sends more than the stream does so at once. Later characters belong to something else.
 constexpr Time kStreamEndWatch = std::chrono::milliseconds(100);
 
 std::string Characters(std::size_t count) {
@@ -212,7 +212,7 @@ void Unit::SendText(SpoiltText text, Time now) {
   for (Segment& segment : text.segments) transmitter_.Queue(std::move(segment), now);
   state_ = State::kSending;
   after_sending_ = text.hangs ? State::kListening : State::kAsleep;
-  told_ = false;
+  complained_ = false;
 }
 
 void Unit::AwaitStream(Time now) {
@@ -286,11 +286,11 @@ void Unit::HearWhileSending(char byte) {
     transmitter_.Clear();
     return Leave("the tool sent CAN and the rest was not sent");
   }
-  if (told_) return;
+  if (complained_) return;
   line_ += byte;
   if (kRequest.starts_with(line_)) return;
   surroundings_.complain("a character while the unit is sending: " + Quoted(line_.front()));
-  told_ = true;
+  complained_ = true;
 }
 
 void Unit::Answer(char byte, Time now) {

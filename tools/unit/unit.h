@@ -15,18 +15,18 @@ namespace unit {
 // The text with which a tool asks for remote mode.
 inline constexpr std::string_view kRequest = "~~~SOH_REQUEST_EOT~~~k";
 
-// A tool that holds remote mode asks far more often than this.
+// A tool in remote mode sends ENQ far more often than this.
 inline constexpr Time kPatience = std::chrono::seconds(30);
 
-// What the unit wants of its surroundings. None may be empty.
+// The functions that the unit calls. None may be empty.
 struct Surroundings {
   // The tool did something that a unit does not accept.
   std::function<void(const std::string&)> complain;
-  // Something worth knowing that is nobody's mistake.
+  // An event worth knowing that is no mistake of the tool.
   std::function<void(const std::string&)> note;
   // These bytes have left the unit.
   std::function<void(const std::string&)> send;
-  // Keeps the configuration or the clock, a text "MM-DD-YY HH:MM:SS". What went wrong, empty when kept.
+  // Stores the configuration or the clock, "MM-DD-YY HH:MM:SS". Returns what went wrong, or an empty text.
   std::function<std::string(const std::string& image)> keep_image;
   std::function<std::string(const std::string& clock)> keep_clock;
 };
@@ -39,7 +39,7 @@ struct UnitSetup {
   Faults faults{{}, 0};
 };
 
-// The unit's side of the conversation: bytes and times go in, bytes come out. It knows no port, no clock and
+// The unit's side of the conversation: bytes and times go in, bytes come out. It uses no port, no clock and
 // no file, so that a whole conversation can be replayed in simulated time.
 class Unit {
  public:
@@ -48,7 +48,7 @@ class Unit {
   // A byte arrived at the unit's own speed.
   void Receive(char byte, Time now);
 
-  // Sends what has to be sent by now and gives up a tool that has been silent for too long.
+  // Sends the bytes that are due, and leaves remote mode if the tool has been silent for too long.
   void Advance(Time now);
 
   // When Advance() has to be called next, if nothing arrives before.
@@ -99,12 +99,12 @@ class Unit {
   State state_ = State::kAsleep;
   State after_sending_ = State::kAsleep;
   std::string window_;               // the latest characters, as many as a request has
-  std::string line_;                 // characters not yet understood
+  std::string line_;                 // characters of an incomplete command
   std::string_view skipped_ending_;  // rest of a refused command's ending
   StreamChecker checker_;
-  Time heard_{};             // of the last sign of life that counts in this state
-  Time stream_end_watch_{};  // until then a character behind the end mark is told
-  bool told_ = false;        // a complaint of the present state that is made once only
+  Time heard_{};             // when the tool last sent something that counts in this state
+  Time stream_end_watch_{};  // until then a character behind the end mark is a complaint
+  bool complained_ = false;  // the present state has made its one complaint
 };
 
 }  // namespace unit

@@ -19,7 +19,7 @@ std::string ParityMarks::Decode(std::string_view bytes) {
       seen_ = Seen::kMark;
     } else if (seen_ == Seen::kEscape) {
       text += kEscape;
-      // A driver that does not send a good FF twice: what follows it is a character of its own.
+      // This driver does not double a good FF, so the byte behind it is a character of its own.
       if (byte != kEscape) text += byte;
       seen_ = Seen::kNothing;
     } else if (byte == kEscape) {

@@ -1,5 +1,4 @@
-// How a serial line tells which characters arrived with a parity error: the driver puts FF 00 ahead of such a
-// character, and sends a good FF twice.
+// Parity errors of a serial port: the driver puts FF 00 before a bad character and doubles a good FF.
 #pragma once
 
 #include <string>
@@ -7,8 +6,8 @@
 
 namespace ovl::host {
 
-// Takes the marks out of what was read and puts "?" in the place of a bad character. A mark may be split over
-// any number of reads. One decoder serves one opening of the port.
+// Removes the marks and replaces each bad character by "?". A mark may be split over any number of reads.
+// Each opening of the port needs a new decoder.
 class ParityMarks {
  public:
   std::string Decode(std::string_view bytes);

@@ -131,7 +131,7 @@ LinePreset::LinePreset(const QString& device, int baud, int data_bits, char pari
   struct termios2 settings {};
   if (descriptor_ < 0 || ::ioctl(descriptor_, TCGETS2, &settings) != 0) return;
   MakeRaw(settings, baud, data_bits, parity);
-  // A driver that refuses them refuses the opening that follows as well, which tells it.
+  // If the driver refuses them here, the opening that follows fails as well and reports it.
   ::ioctl(descriptor_, TCSETS2, &settings);
 }
 
@@ -223,7 +223,7 @@ ShortTimer::ShortTimer(std::function<void()> fire) : source_(std::make_unique<So
 ShortTimer::~ShortTimer() = default;
 
 void ShortTimer::Start(std::chrono::microseconds time) {
-  // A time of zero would switch the system's timer off.
+  // A time of zero would stop the system's timer.
   const auto wait = std::max(time, std::chrono::microseconds(1));
   if (source_->Set(wait)) return;
   source_->fallback.start(std::chrono::ceil<std::chrono::milliseconds>(wait));

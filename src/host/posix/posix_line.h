@@ -1,6 +1,6 @@
-// What the serial toolkit leaves to the operating system: whether characters still wait, marks on bad
-// characters, the speed that a driver really set, waits shorter than a millisecond. Where the system offers
-// none of it, each operation says so and the clock alone decides.
+// System calls for what QSerialPort lacks: characters that still wait in the driver, marks on bad characters,
+// the speed that a driver really set, waits shorter than a millisecond. On systems without them each
+// operation returns a neutral value, and the clock alone decides.
 #pragma once
 
 #include <QSerialPort>
@@ -22,37 +22,37 @@ std::string SystemText(int error);
 // The group that owns a device; empty if there is none or the system has no groups.
 QString DeviceGroup(const QString& device);
 
-// Why the device can't be opened as a serial line, as an error number; 0 if nothing stands against it.
+// Why the device cannot be opened as a serial port, as an error number. 0 if it can.
 int ProbeDevice(const QString& device);
 
-// Whether this program may lock devices against others at all.
+// Whether this program is allowed to lock devices.
 bool CanLockDevices();
 
 // The speed that the driver set, in bits a second; 0 if unknown.
 int LineSpeed(LineHandle line);
 
-// Makes the driver mark characters with parity errors, to be taken out by ParityMarks. Returns an error
-// number, or 0. Setting the line's parity afterwards undoes it.
+// Makes the driver mark characters with parity errors, as ParityMarks expects. Returns an error number, or 0.
+// Setting the line's parity afterwards undoes it.
 int MarkParityErrors(LineHandle line);
 
 struct WriteResult {
-  std::size_t taken = 0;  // may be fewer than given: the rest has to wait
+  std::size_t taken = 0;  // may be less than given; the rest has to wait
   int error = 0;
 };
 
 // Hands bytes to the driver without waiting.
 WriteResult WriteAtOnce(LineHandle line, std::string_view bytes);
 
-// False when reading can't bring anything any more, because the device is gone.
+// False if nothing can be read any more, because the device is gone.
 bool LineAlive(LineHandle line);
 
-// Whether the driver still holds characters. None can be trusted to tell when the last one has left the chip:
-// some adapters never say so, others as soon as their own buffer is empty.
+// Whether the driver still holds characters. No driver reports reliably when the last one was sent: some
+// adapters never do, others do as soon as their own buffer is empty.
 bool CharactersWait(LineHandle line);
 
-// Gives a closed device the settings that it is about to be opened with, and keeps it for as long as the
-// object lives. The toolkit puts back what it found when it closes a port, at once and into the middle of the
-// last character; so what it finds must be right. A device that another program has locked is left alone.
+// Sets a closed device as it is about to be opened, and holds it open as long as the object lives.
+// QSerialPort restores the settings that it found when it closes a port, at once and in the middle of the
+// last character, so it must find the right ones. A device that another program has locked is left alone.
 class LinePreset {
  public:
   LinePreset(const QString& device, int baud, int data_bits, char parity);

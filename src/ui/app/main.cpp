@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "core/failure.h"
-#include "files/files.h"
+#include "host/files.h"
 #include "host/program_folder.h"
 #include "ui/app/launch.h"
 #include "ui/app/program.h"
@@ -47,7 +47,7 @@ int main(int argc, char** argv) {
   command_line.AddOption(guide_option, QStringLiteral("FILE"),
                          QStringLiteral("writes the installer's guide as a PDF and ends"));
   if (const auto status = command_line.Read(argc, argv)) return *status;
-  ovl::files::OutliveSizeLimit();
+  ovl::host::OutliveSizeLimit();
   std::optional<ovl::ui::DisplayMessage> no_display(std::in_place);
   QApplication application(argc, argv);
   no_display.reset();

@@ -5,6 +5,7 @@
 #include <cstdlib>
 
 #include "changes/also_stored.h"
+#include "host/files.h"
 #include "host/system_clock.h"
 #include "host/text_codec.h"
 #include "start/start_up.h"
@@ -55,16 +56,17 @@ void Program::FillPlatform() {
     return found;
   };
   platform.write_setting = [this](std::string_view key, std::string_view value, std::string_view text) {
-    const bool kept = store_.Write(key, value, text);
-    if (!kept) {
+    const auto written = store_.Write(key, value, text);
+    if (!written.Ok()) {
       store_problem_ =
-          store_.WhyNotWritten() + kNotKept + app_.firmware.version + " " + app_.firmware.release;
+          written.Problem().Text() + kNotKept + app_.firmware.version + " " + app_.firmware.release;
     }
-    return kept;
+    return written.Ok();
   };
   platform.clock = host::LocalClockTime;
   // Nothing to do: the form keeps the request, and its window reads it when it opens.
   platform.SetWindowPos = [](std::string_view) {};
+  platform.files = host::DiskFiles();
   platform.serial = port_.Operations();
 }
 

@@ -5,7 +5,6 @@
 
 #include "core/configuration.h"
 #include "core/failure.h"
-#include "files/files.h"
 #include "host/text_codec.h"
 #include "image/record_stream.h"
 
@@ -85,7 +84,7 @@ void UnsavedCopy::WriteNow() {
   if (app_.image == app_.known_image) return Remove();
   if (!TakeName()) return Report(host::FailureOf(path_, WhyNotCreated(path_)));
   try {
-    files::WriteWhole(QFile::encodeName(path_).toStdString(), ReopenableStream(app_) + "\r\n");
+    app_.platform.files.replace(QFile::encodeName(path_).toStdString(), ReopenableStream(app_) + "\r\n");
     Report({});
   } catch (const core::Failure& failure) {
     Report(failure);

@@ -4,7 +4,7 @@
 #include <sstream>
 
 #include "core/settings.h"
-#include "files/files.h"
+#include "host/files.h"
 #include "host/settings_store.h"
 #include "pressures.h"
 #include "script/parser.h"
@@ -18,6 +18,7 @@ constexpr const char* kOld = "what was there before\r\n";
 
 std::shared_ptr<Harness> Started() {
   auto program = std::make_shared<Harness>(kFirmware);
+  program->app.platform.files = host::DiskFiles();
   program->Start();
   return program;
 }
@@ -73,7 +74,7 @@ Act Settings() {
     const host::SettingsStore store(QFile::decodeName(folder.c_str()));
     bool done = true;
     program->app.platform.write_setting = [&](auto key, auto value, auto text) {
-      return done = store.Write(key, value, text) && done;
+      return done = store.Write(key, value, text).Ok() && done;
     };
     const bool ended = program->Click("V1300R14mnu") == core::Outcome::kEnded;
     const auto text = program->TakeBox().text;

@@ -12,7 +12,6 @@
 #include <fstream>
 #include <map>
 
-#include "files/files.h"
 #include "pressures.h"
 
 namespace ovl::testing {
@@ -46,7 +45,7 @@ std::map<std::string, std::string> Contents(const fs::path& folder) {
   for (const auto& entry : fs::directory_iterator(folder, error)) {
     const auto path = entry.path();
     found[path.filename().string()] = entry.is_symlink() ? "link to " + fs::read_symlink(path).string()
-                                      : entry.is_regular_file(error) ? files::ReadWhole(path.string())
+                                      : entry.is_regular_file(error) ? ReadFile(path.string())
                                       : entry.is_directory()         ? "folder"
                                                                      : "neither file nor folder";
   }
@@ -94,7 +93,7 @@ Row UnderPressure(const Pressure& pressure, const Place& place, const std::strin
   const auto told = place.Run(file);
   bool kept = Contents(folder) == before;
   if (pressure.written)
-    kept = files::ReadWhole(file.string()) == after && Contents(folder).size() <= before.size() + 1;
+    kept = ReadFile(file.string()) == after && Contents(folder).size() <= before.size() + 1;
   return Judged(told.done == pressure.written && kept && told.right,
                 std::string(told.done ? "written" : "refused") + (kept ? "" : ", NOT WHOLE") +
                     (told.right ? ": " : ", WRONGLY TOLD: ") + Shortened(told.words, folder.string() + "/"));
@@ -158,7 +157,7 @@ Row KilledEverywhere(const Act& act, const std::string& after) {
     const Place place(act);
     const auto killed = KillAtCall(n, place);
     if (!killed) return kNotHere;
-    const auto content = files::ReadWhole(place.File().string());
+    const auto content = ReadFile(place.File().string());
     if (!IsWhole(act, content, after)) return Judged(false, "torn at call " + std::to_string(n));
     if (!*killed) break;
     ++(content == act.before ? old_file : new_file);
@@ -195,7 +194,7 @@ Row RemovedMeanwhile(const Act& act, const std::string& after) {
 std::string ContentAfter(const Act& act) {
   const Place place(act);
   Forked([&] { return Judged(place.Run().done, ""); });
-  return files::ReadWhole(place.File().string());
+  return ReadFile(place.File().string());
 }
 
 bool CheckAct(const Act& act) {

@@ -11,7 +11,7 @@
 
 #include <fstream>
 
-#include "files/files.h"
+#include "host/files.h"
 
 namespace ovl::testing {
 namespace {
@@ -35,19 +35,19 @@ bool BecomeOrdinary(Path file, bool own_folder) {
 // A file system of a few pages, gone with this process, filled to the last byte.
 bool FillFileSystem(Path file) {
   if (unshare(CLONE_NEWNS) != 0) return false;
-  const auto before = files::ReadWhole(file.string());
+  const auto before = ReadFile(file.string());
   const auto folder = file.parent_path();
   const bool mounted = mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
                        mount("tmpfs", folder.c_str(), "tmpfs", 0, "size=64k") == 0;
   if (!mounted) return false;
-  files::WriteWhole(file.string(), before);
+  WriteFile(file.string(), before);
   std::ofstream filler(folder / "filler", std::ios::binary);
   while (filler.put('x').flush()) continue;
   return true;
 }
 
 bool LimitFileSize(Path) {
-  files::OutliveSizeLimit();
+  host::OutliveSizeLimit();
   const rlimit limit{10, 10};
   return setrlimit(RLIMIT_FSIZE, &limit) == 0;
 }

@@ -5,7 +5,6 @@
 #include <memory>
 
 #include "core/configuration.h"
-#include "files/files.h"
 #include "image/record_stream.h"
 #include "search/fault_sweep/expectation.h"
 #include "search/fault_sweep/long_run.h"
@@ -69,7 +68,7 @@ class Campaign {
   }
   std::string UploadFile() const {
     const auto path = site_->folder.File(talk_.firmware.version + "/upload.bin");
-    return std::filesystem::exists(path) ? files::ReadWhole(path) : std::string();
+    return std::filesystem::exists(path) ? ReadFile(path) : std::string();
   }
 
   void Restart() {

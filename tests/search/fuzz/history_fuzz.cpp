@@ -2,8 +2,8 @@
 // like when it was saved and opened again.
 #include "bytes.h"
 #include "core/actions.h"
-#include "files/files.h"
 #include "files/history.h"
+#include "host/files.h"
 #include "support/harness.h"
 
 namespace {
@@ -24,6 +24,7 @@ struct Viewer {
   Viewer() : path(folder.File("History.txt")) {
     app.platform.program_folder = folder.Path().string();
     app.platform.show_message = [this](const ovl::core::MessageBox&) { ++boxes; };
+    app.platform.files = ovl::host::DiskFiles(ovl::host::Flush::kNo);
     app.platform.ask_file = [this](const ovl::core::FileDialog&) { return ovl::core::FileAnswer{path}; };
   }
 
@@ -47,7 +48,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
   const auto& text = viewer.app.frmView.Text.text;
 
-  ovl::files::WriteWhole(viewer.path, bytes);
+  ovl::testing::WriteFile(viewer.path, bytes);
   viewer.Open();
   const bool tagged = bytes.substr(0, bytes.find('\r')) == "OVLH";
   Require(viewer.boxes == (tagged ? 0 : 1), "only a tagged file opens");

@@ -3,7 +3,6 @@
 #include <filesystem>
 #include <stdexcept>
 
-#include "files/files.h"
 #include "firmware/firmware_table.h"
 #include "image/field_map.h"
 #include "script/statements.h"
@@ -129,8 +128,8 @@ int main(int argc, char** argv) {
   for (const auto& [target, inputs] : all) {
     fs::create_directories(folder / target);
     for (std::size_t at = 0; at < inputs.size(); ++at)
-      ovl::files::WriteWhole((folder / target / std::to_string(at)).string(), inputs[at]);
+      ovl::testing::WriteFile((folder / target / std::to_string(at)).string(), inputs[at]);
   }
-  ovl::files::WriteWhole((folder / "script.dict").string(), Dictionary());
+  ovl::testing::WriteFile((folder / "script.dict").string(), Dictionary());
   return 0;
 }

@@ -5,8 +5,8 @@
 #include "bytes.h"
 #include "core/configuration.h"
 #include "core/settings.h"
-#include "files/files.h"
 #include "firmware/register_lists.h"
+#include "host/files.h"
 #include "host/settings_store.h"
 #include "image/record_stream.h"
 #include "start/start_up.h"
@@ -51,6 +51,7 @@ void CheckStart(const std::string& folder, const ovl::firmware::FirmwareId& valu
   Serve(app.platform, values);
   app.platform.program_folder = folder;
   app.platform.show_message = [&boxes](const ovl::core::MessageBox&) { ++boxes; };
+  app.platform.files = ovl::host::DiskFiles(ovl::host::Flush::kNo);
   app.platform.clock = [] { return ovl::core::ClockTime(); };
   const bool ended = ovl::start::StartProgram(app) == ovl::core::Outcome::kEnded;
   Require(ended == app.ended && ended == !app.frmMain.form.visible, "the program starts or ends");
@@ -59,10 +60,10 @@ void CheckStart(const std::string& folder, const ovl::firmware::FirmwareId& valu
 
 void CheckFile(const ovl::testing::TemporaryFolder& folder, std::string_view bytes) {
   std::filesystem::create_directories(folder.Path() / "ORB");
-  ovl::files::WriteWhole(folder.File("ORB/OVL Software.conf"), bytes);
+  ovl::testing::WriteFile(folder.File("ORB/OVL Software.conf"), bytes);
   const ovl::host::SettingsStore store(QFile::decodeName(folder.Path().c_str()));
   store.Read(ovl::core::kSettingsKey, ovl::core::kVersionValue);
-  if (!store.Write(ovl::core::kSettingsKey, ovl::core::kVersionValue, "V1400")) return;
+  if (!store.Write(ovl::core::kSettingsKey, ovl::core::kVersionValue, "V1400").Ok()) return;
   Require(store.Read(ovl::core::kSettingsKey, ovl::core::kVersionValue) == ovl::core::SettingValue("V1400"),
           "what was written is read");
 }

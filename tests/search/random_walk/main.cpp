@@ -8,7 +8,6 @@
 
 #include "codecs/bytes.h"
 #include "codecs/codecs.h"
-#include "files/files.h"
 #include "firmware/firmware_table.h"
 #include "firmware/traits.h"
 #include "image/field_map.h"

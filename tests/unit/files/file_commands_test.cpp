@@ -19,7 +19,7 @@ constexpr const char* kBroken = "                System File Error. \nPlease ReI
 
 // A file's digits, taken out of it without the program's help.
 std::string DigitsIn(const std::string& path) {
-  auto text = files::ReadWhole(path);
+  auto text = ReadFile(path);
   for (std::size_t at = 0; (at = text.find('$')) != std::string::npos;) text.erase(at, 5);
   std::erase_if(text,
                 [](char character) { return character == '\r' || character == '\n' || character == '#'; });
@@ -87,16 +87,16 @@ TEST(FileCommands, SaveAndOpenDifferByFirmware) {
     }
     const auto path = program.folder.File("saved.bin");
     const auto target = program.folder.File("target.bin");
-    files::WriteWhole(target, "what stood there before");
-    files::WriteWhole(target + ".0.new", "a name beside it that is taken");
+    WriteFile(target, "what stood there before");
+    WriteFile(target + ".0.new", "a name beside it that is taken");
     std::filesystem::permissions(target, kOwnersAlone);
     std::filesystem::create_symlink("target.bin", path);
     ASSERT_EQ(program.Answer("menuSave", path), core::Outcome::kDone);
     const auto box = program.TakeBox();
     EXPECT_EQ(box.text, "Save Completed.        ");
     EXPECT_EQ(box.icon, core::BoxIcon::kInformation);
-    EXPECT_EQ(files::ReadWhole(path), image::BlockRecords(expected, row.region) + "\r\n");
-    EXPECT_EQ(files::ReadWhole(target + ".0.new"), "a name beside it that is taken");
+    EXPECT_EQ(ReadFile(path), image::BlockRecords(expected, row.region) + "\r\n");
+    EXPECT_EQ(ReadFile(target + ".0.new"), "a name beside it that is taken");
     EXPECT_EQ(std::filesystem::status(target).permissions(), kOwnersAlone);
     EXPECT_TRUE(std::filesystem::is_symlink(path));
 
@@ -139,8 +139,8 @@ TEST(FileCommands, ASaveThatComesToNothingSaysSo) {
 TEST(FileCommands, AnOpenWithoutAFileLeavesAllButTheNextPick) {
   Installed program(kLatest);
   const auto kept_from_us = program.folder.File("locked.bin"), huge = program.folder.File("huge.bin");
-  files::WriteWhole(kept_from_us, files::ReadWhole(program.PathOf("ADS")));
-  files::WriteWhole(huge, "");
+  WriteFile(kept_from_us, ReadFile(program.PathOf("ADS")));
+  WriteFile(huge, "");
   std::filesystem::resize_file(huge, (64 << 20) + 1);
   const std::pair<std::optional<std::string>, const char*> sources[] = {
       {std::nullopt, "Operation canceled"},
@@ -182,7 +182,7 @@ TEST(FileCommands, AFileOfNoUseIsToldAndThePanelsShowTheOldImage) {
                                   PatternStream({"V1334", "R1"}) + "\r\n"};
   for (const auto& content : contents) {
     SCOPED_TRACE(content.substr(0, 5));
-    files::WriteWhole(program.folder.File("foreign.bin"), content);
+    WriteFile(program.folder.File("foreign.bin"), content);
     program.Pick("ComboCOMM(1)", 7);
     program.app.image[image::FieldId::RX_BAUDRATE] = "02";
     program.app.OperatingCount = 3;
@@ -218,7 +218,7 @@ TEST(FileCommands, AFileWithoutItsEndEndsTheProgram) {
   for (const auto& [firmware, what, content] : rows) {
     SCOPED_TRACE(what);
     Installed program(firmware, Images::kFirstRegister);
-    files::WriteWhole(program.folder.File("broken.bin"), content);
+    WriteFile(program.folder.File("broken.bin"), content);
     EXPECT_EQ(program.Open(program.folder.File("broken.bin")), core::Outcome::kEnded);
     EXPECT_EQ(program.TakeBox().text, kBroken);
     EXPECT_TRUE(program.NoBoxLeft());

@@ -14,7 +14,7 @@ struct Viewing : Installed {
   Viewing() : Installed({"V1400", "R12"}, Images::kFirstRegister) {}
 
   std::string Write(std::string_view bytes) const {
-    files::WriteWhole(folder.File("log.txt"), bytes);
+    WriteFile(folder.File("log.txt"), bytes);
     return folder.File("log.txt");
   }
   core::Outcome Open(const std::optional<std::string>& path) { return Answer("OpenHistory_menu", path); }
@@ -37,12 +37,12 @@ TEST(History, GoesIntoTheChosenOrTheOfferedFileAndEndsAllTheSameIfNeitherCanBeWr
   Viewing program;
   const auto path = program.Write("an older and longer file that is replaced as a whole");
   program.Receive("one\r\n\r\n two ", path);
-  EXPECT_EQ(files::ReadWhole(path), "OVLH\r\none\r\n\r\n two \r\n");
+  EXPECT_EQ(ReadFile(path), "OVLH\r\none\r\n\r\n two \r\n");
   ASSERT_EQ(program.Open(path), core::Outcome::kDone);
   program.ExpectShown(path, "one\r\n\r\n two \r\n");
   program.Click("cmdDisConnect");
   program.Receive("kept\r\n", std::nullopt);
-  EXPECT_EQ(files::ReadWhole(program.folder.File("History.txt")), "OVLH\r\nkept\r\n\r\n");
+  EXPECT_EQ(ReadFile(program.folder.File("History.txt")), "OVLH\r\nkept\r\n\r\n");
   program.Click("cmdDisConnect");
   program.Receive("lost", program.folder.File("no such folder/log.txt"));
   EXPECT_TRUE(program.app.StatusNote.ends_with("No such file or directory")) << program.app.StatusNote;
@@ -69,7 +69,7 @@ TEST(History, OnlyTheTagOpensAFileAndWhatCannotBeReadLeavesTheViewerInSilence) {
   Viewing program;
   const auto tested = program.folder.File("tested.txt");
   for (const auto& [bytes, text] : shown) {
-    files::WriteWhole(tested, bytes);
+    WriteFile(tested, bytes);
     ASSERT_EQ(program.Open(tested), core::Outcome::kDone);
     program.ExpectShown(tested, text);
   }
@@ -77,12 +77,12 @@ TEST(History, OnlyTheTagOpensAFileAndWhatCannotBeReadLeavesTheViewerInSilence) {
   ASSERT_EQ(program.Open(earlier), core::Outcome::kDone);
   for (std::string bytes; std::getline(refused, bytes, '|');) {
     SCOPED_TRACE(bytes);
-    files::WriteWhole(tested, bytes);
+    WriteFile(tested, bytes);
     ASSERT_EQ(program.Open(tested), core::Outcome::kDone);
     EXPECT_EQ(program.TakeBox().text, "Incompatible File !!!, try again.");
     program.ExpectShown(earlier, "earlier\r\n");
   }
-  files::WriteWhole(tested, "OVLH\r\nlater");
+  WriteFile(tested, "OVLH\r\nlater");
   const Locked file(tested);
   const auto folder = program.folder.Path().string();
   for (const auto& path :
@@ -113,7 +113,7 @@ TEST(History, TheViewerIsReadOnlyAndOpensAgainForTheDiagnosticLogToo) {
     EXPECT_EQ(view.form.visible, flags != 4096);
     EXPECT_EQ(view.Text.text, "line " + std::to_string(flags) + "\r\n");
   }
-  files::WriteWhole(program.folder.File("DataDump.log"), "any line\r\n\r\nlast");
+  WriteFile(program.folder.File("DataDump.log"), "any line\r\n\r\nlast");
   EXPECT_EQ(core::DispatchStart(program.app, files::ShowDataDump), core::Outcome::kDone);
   program.ExpectShown("Debuging Windwos", "any line\r\n\r\nlast\r\n");
 }

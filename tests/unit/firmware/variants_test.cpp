@@ -120,7 +120,7 @@ TEST(Variants, TheCompactFormIsALaterReleaseWithLessOnIt) {
     SCOPED_TRACE(runs_as.Joined());
     const bool later = runs_as.Number() == 7;
     Installed program(runs_as, Images::kOwn);
-    files::WriteWhole(program.PathOf("GENERIC"), FirstImage(runs_as));
+    WriteFile(program.PathOf("GENERIC"), FirstImage(runs_as));
     program.settings["Version"] = "V1410";
     program.settings["Release"] = later ? "R1" : "R2";
     ASSERT_EQ(program.Start(), core::Outcome::kDone);

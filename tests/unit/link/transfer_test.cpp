@@ -1,5 +1,4 @@
 #include "core/failure.h"
-#include "files/files.h"
 #include "unit/link/states.h"
 
 namespace ovl::testing {
@@ -16,7 +15,7 @@ TEST(Upload, SelectsTheUnitsRegisterWithoutItsDefaults) {
   program.Unit("#\r\nnoise" + stream + "\r\n");
   EXPECT_EQ(program.app.frmMain.ComboReg.Text(), "TCPIP");
   EXPECT_EQ(program.app.frmMain.ComboExcp[0].position, 0);
-  EXPECT_TRUE(files::ReadWhole(UploadFile(program)) == stream + "\r\n");
+  EXPECT_TRUE(ReadFile(UploadFile(program)) == stream + "\r\n");
   program.Press("frmOK_buttom.Command1");
   program.Hold();
   program.app.frmMain.OpDVR.chosen = -1;
@@ -72,12 +71,12 @@ TEST(Upload, ThatFailsInsideStopsUntilTheWatchdogEndsIt) {
 TEST(UnknownFamily, TouchesNoFileAndHasNothingToSend) {
   InState program(State::kUploading, {"V1500", "R1"});
   auto& app = program.app;
-  files::WriteWhole(UploadFile(program), "kept");
+  WriteFile(UploadFile(program), "kept");
   const auto entry = app.image[image::FieldId::EXECENTRY], type = app.image[image::FieldId::REGTYPE];
   program.Unit(PatternStream(kV1400, 7));
   EXPECT_EQ(app.frmOK_buttom.Label1.caption, "Upload Completed.");
   EXPECT_TRUE(app.PanelsReady && !app.UploadApplying);
-  EXPECT_EQ(files::ReadWhole(UploadFile(program)), "kept");
+  EXPECT_EQ(ReadFile(UploadFile(program)), "kept");
   EXPECT_EQ(std::pair(app.image[image::FieldId::EXECENTRY], app.image[image::FieldId::REGTYPE]),
             std::pair(entry, type));
   program.Press("frmOK_buttom.Command1");

@@ -37,7 +37,7 @@ inline const std::string& FirstImage(const firmware::FirmwareId& firmware) {
   if (image.empty()) {
     const TemporaryFolder folder;
     images::WriteDefaultImages(folder.Path().string(), firmware);
-    image = files::ReadWhole(folder.File(firmware.version + "/" + firmware.release + "/GENERIC.bin"));
+    image = ReadFile(folder.File(firmware.version + "/" + firmware.release + "/GENERIC.bin"));
   }
   return image;
 }
@@ -69,7 +69,7 @@ constexpr const char* kDurations[] = {"FF", "FD", "FB", "F6", "F1", "EC", "E2", 
 class PanelProgram : public Installed {
  public:
   explicit PanelProgram(const firmware::FirmwareId& firmware) : Installed(firmware, Images::kOwn) {
-    files::WriteWhole(PathOf("GENERIC"), FirstImage(firmware));
+    WriteFile(PathOf("GENERIC"), FirstImage(firmware));
     EXPECT_EQ(Start(), core::Outcome::kDone);
     Mark();
   }
@@ -87,7 +87,7 @@ class PanelProgram : public Installed {
 
   core::Outcome Open(std::string_view stream) {
     const auto path = folder.File("opened.bin");
-    files::WriteWhole(path, std::string(stream) + "\r\n");
+    WriteFile(path, std::string(stream) + "\r\n");
     return Installed::Open(path);
   }
   // Sends the image out and takes it in again, from a file or from the unit.

@@ -104,7 +104,7 @@ TEST(UnknownFamily, ShowsItsRecorderAndItsCheckMarkAndKeepsTheRest) {
                                                           {ALMSTRUCT_BAK, "01FF00"}};
   for (const auto& [field, byte] : bytes) app.image[field] = byte;
   const auto file = program.folder.File("opened.bin");
-  files::WriteWhole(file, PatternStream(kLatest) + "\r\n");
+  WriteFile(file, PatternStream(kLatest) + "\r\n");
   ASSERT_EQ(program.Open(file), core::Outcome::kDone);
   EXPECT_EQ(main.OpDVR.chosen, 1);
   EXPECT_TRUE(main.DemoMode.checked && main.CharacterList.visible);

@@ -205,7 +205,7 @@ TEST(OptionFrames, EveryRegisterOfEveryFirmwareShowsItsOwnAndKeepsItsDefaultImag
       EXPECT_EQ(program.Written(), "");
       EXPECT_EQ(app.frmMain.ComboReg.Text(), name);
       ASSERT_EQ(program.Open(program.PathOf(name)), core::Outcome::kDone);
-      EXPECT_EQ(SectionsToStream(app) + "\r\n", files::ReadWhole(program.PathOf(name)));
+      EXPECT_EQ(SectionsToStream(app) + "\r\n", ReadFile(program.PathOf(name)));
     }
     EXPECT_TRUE(program.NoBoxLeft());
   }

@@ -5,7 +5,6 @@
 
 #include "core/actions.h"
 #include "core/settings.h"
-#include "files/files.h"
 #include "support/harness.h"
 #include "support/state_table.h"
 
@@ -107,7 +106,7 @@ TEST(StartUp, ADefaultImageThatCannotBeReadEndsTheProgram) {
 TEST(StartUp, TheCompactFirmwareRunsMappedAndKeepsItsCaptions) {
   Harness program({"V1410", "R1"});
   std::filesystem::create_directories(program.folder.File("V1400/R7"));
-  files::WriteWhole(program.folder.File("V1400/R7/GENERIC.bin"), PatternStream({"V1400", "R7"}));
+  WriteFile(program.folder.File("V1400/R7/GENERIC.bin"), PatternStream({"V1400", "R7"}));
   ASSERT_EQ(program.Start(), core::Outcome::kDone);
   EXPECT_EQ(program.app.firmware.Joined(), "V1400R7");
   EXPECT_EQ(program.Control("lbVersionID(0)").caption, "V1410R1");

@@ -7,6 +7,7 @@
 #include "core/configuration.h"
 #include "files/files.h"
 #include "firmware/firmware_table.h"
+#include "host/files.h"
 #include "image/record_stream.h"
 #include "support/harness.h"
 
@@ -35,8 +36,8 @@ TEST(DefaultImages, EveryNameOfEveryFirmwareHasAFileThatLoadsUnchanged) {
       ADD_FAILURE() << file.path() << ": " << box.text;
     };
     PrepareCapabilities(app);
-    ASSERT_TRUE(LoadStream(app, files::ReadJoined(file.path().string()))) << file.path();
-    EXPECT_EQ(SectionsToStream(app) + "\r\n", files::ReadWhole(file.path().string())) << file.path();
+    ASSERT_TRUE(LoadStream(app, files::ReadJoined(host::DiskFiles(), file.path().string()))) << file.path();
+    EXPECT_EQ(SectionsToStream(app) + "\r\n", ReadFile(file.path().string())) << file.path();
   }
   EXPECT_EQ(found, 1552);
 }

@@ -7,7 +7,6 @@
 #include <utility>
 #include <vector>
 
-#include "files/files.h"
 #include "script/inspection.h"
 #include "script/parser.h"
 #include "script/runner.h"
@@ -134,7 +133,8 @@ class Script : public ::testing::Test {
   Script() {
     const firmware::FirmwareId firmware{"V1400", "R12"};
     std::filesystem::create_directories(folder_.File("V1400/R12"));
-    files::WriteWhole(folder_.File("V1400/R12/GENERIC.bin"), ovl::testing::PatternStream(firmware) + "\r\n");
+    ovl::testing::WriteFile(folder_.File("V1400/R12/GENERIC.bin"),
+                            ovl::testing::PatternStream(firmware) + "\r\n");
   }
 
   // What is printed, and how the script ends if not well.
@@ -244,7 +244,7 @@ TEST(Texts, LineBreaksCompareAlike) {
 TEST_F(Script, AStreamInAFileEndsEveryLineAlikeAndLookingChangesNothing) {
   const auto path = folder_.File("a folder.txt");
   const auto printed = RunStarted("var SYSCFG\nstream \"" + path + "\"\nstream\nvar SYSCFG\n");
-  const auto written = files::ReadWhole(path);
+  const auto written = ovl::testing::ReadFile(path);
   ASSERT_TRUE(written.ends_with("#\r\n")) << written;
   EXPECT_EQ(written.find('\n'), 70U);
   EXPECT_EQ(printed, "SYSCFG = \"\"\n" + Quoted(written.substr(0, written.size() - 2)) + "\nSYSCFG = \"\"\n");
@@ -253,14 +253,14 @@ TEST_F(Script, AStreamInAFileEndsEveryLineAlikeAndLookingChangesNothing) {
 TEST_F(Script, DumpsTheImageByNamesUnderItsHeadings) {
   const auto path = folder_.File("dump.txt");
   EXPECT_EQ(RunStarted("set RX_BAUDRATE 03\nset EXCPSTRS(24) AB\ndump \"" + path + "\"\ndump\n"), "");
-  const auto text = files::ReadWhole(path);
+  const auto text = ovl::testing::ReadFile(path);
   EXPECT_TRUE(text.starts_with("::SYSCFG::\r\nEXECENTRY = "));
   for (const auto* line : {"RX_BAUDRATE = 03\r\n", "::SYSFIXED::\r\nREGTYPE = 00\r\n",
                            "::SYSSTR::\r\nONSCRNTITL = ", "EXCPSTRS(24) = AB\r\n"}) {
     EXPECT_NE(text.find(std::string("\r\n") + line), std::string::npos) << line;
   }
   EXPECT_EQ(text.find("IGSCFG_BAK"), std::string::npos);
-  EXPECT_EQ(files::ReadWhole(folder_.File("V1400/SaveReport.Bin")), text);
+  EXPECT_EQ(ovl::testing::ReadFile(folder_.File("V1400/SaveReport.Bin")), text);
 }
 
 TEST_F(Script, ComparesFilesFieldByField) {
@@ -270,13 +270,13 @@ TEST_F(Script, ComparesFilesFieldByField) {
                        "\nset TX_BAUDRATE 0A\nset ALMNORMAL_BAK(2) FF\nstream " + second + "\ndiff " + first +
                        " " + second + "\ndiff " + first + " " + first),
             "TX_BAUDRATE: 01 -> 0A\nALMNORMAL_BAK(2): 00 -> FF\nno difference\n");
-  files::WriteWhole(folder_.File("second.bin"), "noise");
+  ovl::testing::WriteFile(folder_.File("second.bin"), "noise");
   EXPECT_TRUE(RunStarted("diff " + first + " " + second).ends_with("exit 2"));
 }
 
 TEST_F(Script, WarnsOfWhatOpeningAFileWouldDo) {
   const auto inspect = [&](const firmware::FirmwareId& firmware, int code) {
-    files::WriteWhole(folder_.File("some.bin"), ovl::testing::PatternStream(firmware, 1, code));
+    ovl::testing::WriteFile(folder_.File("some.bin"), ovl::testing::PatternStream(firmware, 1, code));
     return RunStarted("inspect \"" + folder_.File("some.bin") + "\"\n");
   };
   EXPECT_EQ(inspect({"V1400", "R12"}, 110),
@@ -288,7 +288,7 @@ TEST_F(Script, WarnsOfWhatOpeningAFileWouldDo) {
   const auto unlisted = inspect({"V1310", "R1"}, 200);
   EXPECT_NE(unlisted.find("fits V1310R1: register 200 is not in its list\n"), std::string::npos) << unlisted;
   EXPECT_EQ(unlisted.find("fits V1410"), std::string::npos) << "the menu does not offer it";
-  files::WriteWhole(folder_.File("some.bin"), "noise");
+  ovl::testing::WriteFile(folder_.File("some.bin"), "noise");
   EXPECT_EQ(RunStarted("inspect \"" + folder_.File("some.bin") + "\"\n"),
             "fits no firmware\nopening it under V1400R12 refuses it and keeps the image\n");
 }

@@ -212,8 +212,8 @@ class Desktop : public QObject {
 
 // What the desktop answers when it is asked for the program of a kind of file.
 void Answer(const TemporaryFolder& folder, const std::string& reader, const std::string& browser) {
-  files::WriteWhole(folder.File("xdg-mime"), "#!/bin/sh\ncase $3 in application/pdf) echo " + reader +
-                                                 ";; inode/directory) echo " + browser + ";; esac\n");
+  WriteFile(folder.File("xdg-mime"), "#!/bin/sh\ncase $3 in application/pdf) echo " + reader +
+                                         ";; inode/directory) echo " + browser + ";; esac\n");
   std::filesystem::permissions(folder.File("xdg-mime"), std::filesystem::perms::owner_all);
 }
 

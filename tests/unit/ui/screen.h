@@ -15,7 +15,6 @@
 #include <memory>
 #include <stdexcept>
 
-#include "files/files.h"
 #include "images/default_images.h"
 #include "support/harness.h"
 #include "ui/app/program.h"
@@ -59,9 +58,9 @@ inline void MakeSite(const TemporaryFolder& folder, const firmware::FirmwareId& 
   const auto images = folder.Path() / firmware.version / firmware.release;
   std::filesystem::create_directories(images);
   std::filesystem::create_directories(folder.Path() / "ORB");
-  files::WriteWhole((images / "GENERIC.bin").string(), PatternStream(firmware) + "\r\n");
-  files::WriteWhole(folder.File("ORB/OVL Software.conf"),
-                    "[General]\nVersion=" + firmware.version + "\nRelease=" + firmware.release + "\n");
+  WriteFile((images / "GENERIC.bin").string(), PatternStream(firmware) + "\r\n");
+  WriteFile(folder.File("ORB/OVL Software.conf"),
+            "[General]\nVersion=" + firmware.version + "\nRelease=" + firmware.release + "\n");
 }
 
 // A program with its windows, over the default images of its firmware and a line in memory.

@@ -17,13 +17,13 @@ TEST(ProgramFolder, WhatIsShippedIsLinkedIntoRealFamilyFolders) {
     host::LinkShipped(QString::fromStdString(shipped.Path().string()), QString::fromStdString(folder));
   };
   for (const char* folder : {"images/V1400/R12", "Manual"}) fs::create_directories(shipped.Path() / folder);
-  files::WriteWhole(shipped.File("images/V1400/R12/GENERIC.bin"), "x");
+  WriteFile(shipped.File("images/V1400/R12/GENERIC.bin"), "x");
   fs::create_directories(own.Path() / "V1400");
   fs::create_directory_symlink("/nowhere/at/all", own.Path() / "V1400/R12");
   for (int start = 0; start < 2; ++start) link(own.Path().string());
   EXPECT_FALSE(fs::is_symlink(own.Path() / "V1400"));
   EXPECT_TRUE(fs::is_symlink(own.Path() / "V1400/R12"));
-  EXPECT_EQ(files::ReadWhole(own.File("V1400/R12/GENERIC.bin")), "x");
+  EXPECT_EQ(ReadFile(own.File("V1400/R12/GENERIC.bin")), "x");
   EXPECT_TRUE(fs::is_directory(own.Path() / "Manual"));
 
   const auto blocked = own.File("V1400/R12/GENERIC.bin") + "/below";

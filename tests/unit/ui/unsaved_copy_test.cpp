@@ -48,7 +48,7 @@ TEST(UnsavedCopy, StandsUntilAPersonLeavesAndOpensAgainAfterASuddenEnd) {
 
   // A file that ends the program leaves the changes, a person who closes it does not.
   screen.Pick("ComboTD(2)", app.frmMain.ComboTD[2].position == 0 ? 1 : 0);
-  files::WriteWhole(rescued.toStdString(), "$2000");
+  WriteFile(rescued.toStdString(), "$2000");
   screen.Find<QAction>("OpenMenu").trigger();
   ASSERT_TRUE(app.ended);
   EXPECT_EQ(Copies(folder).size(), 2);
@@ -66,14 +66,14 @@ TEST(UnsavedCopy, IsTakenAwayWhenAPersonLeaves) {
 TEST(UnsavedCopy, OfAnotherFirmwareIsNamedThoughItsProcessNumberIsInUseAgain) {
   Screen screen({"V1400", "R12"});
   const auto file = [&](const char* name) { return screen.folder.File(name); };
-  files::WriteWhole(file("unsaved V1300R14 1.bin"), "x");
-  files::WriteWhole(file("unsaved V1300R14 1.bin.lock"),
-                    "1\nanother\n" + QSysInfo::machineHostName().toStdString() + "\n");
-  files::WriteWhole(file("rescued V1300R14 1.bin"), "older");
+  WriteFile(file("unsaved V1300R14 1.bin"), "x");
+  WriteFile(file("unsaved V1300R14 1.bin.lock"),
+            "1\nanother\n" + QSysInfo::machineHostName().toStdString() + "\n");
+  WriteFile(file("rescued V1300R14 1.bin"), "older");
   screen.program->GuardUnsaved();
   EXPECT_EQ(screen.Note().find("rescued V1300R14 2.bin: "), 0U);
-  EXPECT_EQ(files::ReadWhole(file("rescued V1300R14 1.bin")), "older");
-  EXPECT_EQ(files::ReadWhole(file("rescued V1300R14 2.bin")), "x");
+  EXPECT_EQ(ReadFile(file("rescued V1300R14 1.bin")), "older");
+  EXPECT_EQ(ReadFile(file("rescued V1300R14 2.bin")), "x");
 }
 
 }  // namespace

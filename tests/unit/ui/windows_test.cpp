@@ -153,7 +153,7 @@ TEST_F(WindowsTest, TheVersionMenuMarksTheFirmwareAndAnotherPickEndsTheProgram) 
   EXPECT_TRUE(own.isChecked() && Main().isVisible());
 
   Main().findChild<QAction*>("V1300R14mnu")->trigger();
-  EXPECT_NE(files::ReadWhole(folder.File("ORB/OVL Software.conf")).find("Version=V1300"), std::string::npos);
+  EXPECT_NE(ReadFile(folder.File("ORB/OVL Software.conf")).find("Version=V1300"), std::string::npos);
   EXPECT_EQ(boxes.size(), 1U);
   EXPECT_FALSE(Main().isVisible());
   EXPECT_EQ(program->Act(core::ClickEvent{&App().frmMain.cmdConnect}), core::Outcome::kEnded);
@@ -232,15 +232,15 @@ TEST(Pictures, EveryStateIsTakenInBothThemes) {
   const TemporaryFolder site, shots;
   MakeSite(site, {"V1400", "R12"});
   const auto folder = QString::fromStdString(site.Path().string());
-  files::WriteWhole(shots.File("file"), "");
+  WriteFile(shots.File("file"), "");
   const auto save = [&](const std::string& below) {
     return pictures::SavePictures(folder, folder, QString::fromStdString(below));
   };
   const auto blocked = shots.File("file");
   EXPECT_EQ(save(blocked).Problem().Text(), blocked + "/light: Not a directory");
-  files::WriteWhole(site.File("unsaved V1400R12 1.bin"), "a person's");
+  WriteFile(site.File("unsaved V1400R12 1.bin"), "a person's");
   ASSERT_TRUE(save(shots.Path().string()).Ok());
-  EXPECT_EQ(files::ReadWhole(site.File("unsaved V1400R12 1.bin")), "a person's");
+  EXPECT_EQ(ReadFile(site.File("unsaved V1400R12 1.bin")), "a person's");
   for (const std::string theme : {"light", "dark"}) {
     const auto load = [&](const char* name) {
       return QImage(QString::fromStdString(shots.File(theme + "/" + name + ".png")));
