@@ -17,7 +17,7 @@ enum class RecordPart { kAll, kFirstByte, kDuration, kLastByte, kRange, kAllButR
 // types.
 enum class Group { kPanel, kAlarm, kSlot, kApart, kNetwork };
 
-// A selection that stands for a number or for some bits of a byte.
+// A selection that stores a number or some bits of a byte.
 struct Selection {
   std::string list;
   image::FieldId field;

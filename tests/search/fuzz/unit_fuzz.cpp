@@ -96,14 +96,14 @@ class Conversation {
   }
 
   unit::Surroundings MakeSurroundings() {
-    const auto tell = [](const std::string& text) {
+    const auto expect_readable = [](const std::string& text) {
       for (const char c : text) Require(c >= ' ' && c <= '~', "complaints are readable");
     };
     const auto keep_image = [this](const std::string& image) {
       Require(IsImageOf(image, *model_.firmware), "only a whole image is kept");
       return std::string();
     };
-    return {tell, tell, [](const std::string&) {}, keep_image,
+    return {expect_readable, expect_readable, [](const std::string&) {}, keep_image,
             [](const std::string&) { return std::string(); }};
   }
 

@@ -17,8 +17,8 @@ struct AllowedWrites {
   bool Has(image::FieldId field) const;
 };
 
-// A control that no table lists writes nothing. The name of an array stands for all its members that are not
-// listed themselves. Controls of other forms than the main one have the name of the form in front.
+// A control that no table lists writes nothing. The name of an array means all its members that have no
+// row of their own. Controls of other forms than the main one have the name of the form in front.
 const AllowedWrites& WritesOf(std::string_view control);
 
 // The record without the digits of the part; the limits of a range have `range` digits.
