@@ -31,35 +31,35 @@ std::vector<FirmwareFacts> Rows() {
   const Features v1324_r26 = {kReducedForm, kAlarmType, kRtsBlankTime, kLastEpsonOption};
   const Features old_demo = {kOnePairOfIds, kOldDemo};
   return {
-      {{"V1400", "R1"}, kFirstV1400, 78, {kOldDemo, kOldInterfaceCodes}},
-      {{"V1400", "R2"}, kFirstV1400, 78, r2},
-      {{"V1400", "R4"}, kFirstV1400, 78, r2},
-      {{"V1400", "R6"}, kR6, 78, r2 + Features{kAlarmType}},
-      {{"V1400", "R7"}, kR7, 110, r7},
-      {{"V1400", "R11"}, kLateV1400, 111, r11},
-      {{"V1400", "R12"}, kLateV1400, 111, r12},
-      {{"V1300", "R14"}, kOldV13, 41, first_v13},
-      {{"V1300", "R15"}, kOldV13, 42, first_v13},
-      {{"V1300", "R16"}, kOldV13, 42, first_v13},
-      {{"V1300", "R17"}, kOldV13, 42, first_v13},
-      {{"V1300", "R18"}, kOldV13, 42, old_v13},
-      {{"V1300", "R19"}, kOldV13, 42, old_v13},
-      {{"V1300", "R20"}, kOldV13, 43, old_v13},
-      {{"V1300", "R21"}, kOldV13, 44, old_v13},
-      {{"V1300", "R23"}, kOldV13, 44, old_v13},
-      {{"V1300", "R26"}, kNewV13, 46, v1300_r27 + old_demo},
-      {{"V1300", "R27"}, kNewV13, 46, v1300_r27},
-      {{"V1324", "R17"}, kOldV13, 38, first_v13},
-      {{"V1324", "R18"}, kOldV13, 40, first_v13},
-      {{"V1324", "R19"}, kOldV13, 41, first_v13},
-      {{"V1324", "R20"}, kOldV13, 41, first_v13},
-      {{"V1324", "R21"}, kOldV13, 42, old_v13},
-      {{"V1324", "R23"}, kOldV13, 42, old_v13},
-      {{"V1324", "R24"}, kOldV13, 42, old_v13},
-      {{"V1324", "R25"}, kNewV13, 44, v1324_r26 + old_demo},
-      {{"V1324", "R26"}, kNewV13, 44, v1324_r26},
-      {{"V1310", "R1"}, kNewV13, 33, v1300_r27},
-      {{"V1334", "R1"}, kNewV13, 27, v1324_r26},
+      {{"V1400", "R1"}, kFirstV1400, {kOldDemo, kOldInterfaceCodes}},
+      {{"V1400", "R2"}, kFirstV1400, r2},
+      {{"V1400", "R4"}, kFirstV1400, r2},
+      {{"V1400", "R6"}, kR6, r2 + Features{kAlarmType}},
+      {{"V1400", "R7"}, kR7, r7},
+      {{"V1400", "R11"}, kLateV1400, r11},
+      {{"V1400", "R12"}, kLateV1400, r12},
+      {{"V1300", "R14"}, kOldV13, first_v13},
+      {{"V1300", "R15"}, kOldV13, first_v13},
+      {{"V1300", "R16"}, kOldV13, first_v13},
+      {{"V1300", "R17"}, kOldV13, first_v13},
+      {{"V1300", "R18"}, kOldV13, old_v13},
+      {{"V1300", "R19"}, kOldV13, old_v13},
+      {{"V1300", "R20"}, kOldV13, old_v13},
+      {{"V1300", "R21"}, kOldV13, old_v13},
+      {{"V1300", "R23"}, kOldV13, old_v13},
+      {{"V1300", "R26"}, kNewV13, v1300_r27 + old_demo},
+      {{"V1300", "R27"}, kNewV13, v1300_r27},
+      {{"V1324", "R17"}, kOldV13, first_v13},
+      {{"V1324", "R18"}, kOldV13, first_v13},
+      {{"V1324", "R19"}, kOldV13, first_v13},
+      {{"V1324", "R20"}, kOldV13, first_v13},
+      {{"V1324", "R21"}, kOldV13, old_v13},
+      {{"V1324", "R23"}, kOldV13, old_v13},
+      {{"V1324", "R24"}, kOldV13, old_v13},
+      {{"V1324", "R25"}, kNewV13, v1324_r26 + old_demo},
+      {{"V1324", "R26"}, kNewV13, v1324_r26},
+      {{"V1310", "R1"}, kNewV13, v1300_r27},
+      {{"V1334", "R1"}, kNewV13, v1324_r26},
   };
 }
 
@@ -87,12 +87,6 @@ std::vector<firmware::FirmwareId> EveryFirmware() {
   std::vector<firmware::FirmwareId> all;
   for (const auto& row : AllFirmwareFacts()) all.push_back(row.id);
   return all;
-}
-
-std::size_t NumberOfDefaultImages() {
-  std::size_t images = 0;
-  for (const auto& row : AllFirmwareFacts()) images += row.registers;
-  return images;
 }
 
 }  // namespace ovl::testing

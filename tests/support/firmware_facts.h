@@ -40,7 +40,6 @@ struct StreamFacts {
 struct FirmwareFacts {
   firmware::FirmwareId id;
   StreamFacts stream;
-  std::size_t registers;  // in its register list
   std::vector<Feature> features;
 
   bool Has(Feature feature) const;
@@ -54,9 +53,6 @@ const std::vector<FirmwareFacts>& AllFirmwareFacts();
 const FirmwareFacts& FactsOf(const firmware::FirmwareId& firmware);
 
 std::vector<firmware::FirmwareId> EveryFirmware();
-
-// Its default images, one for each register of each firmware.
-std::size_t NumberOfDefaultImages();
 
 inline const firmware::FirmwareId kLatest{"V1400", "R12"};
 

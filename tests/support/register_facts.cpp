@@ -102,7 +102,38 @@ const std::vector<RegisterFrame>& RegisterFrames() {
   return rows;
 }
 
+// The length of a register list from a release on.
+struct ListLength {
+  std::string_view version;
+  int first_release;
+  std::size_t registers;
+};
+
+constexpr ListLength kListLengths[] = {
+    {"V1400", 1, 78},  {"V1400", 7, 110}, {"V1400", 11, 111}, {"V1300", 14, 41}, {"V1300", 15, 42},
+    {"V1300", 20, 43}, {"V1300", 21, 44}, {"V1300", 26, 46},  {"V1324", 17, 38}, {"V1324", 18, 40},
+    {"V1324", 19, 41}, {"V1324", 21, 42}, {"V1324", 25, 44},  {"V1310", 1, 33},  {"V1334", 1, 27},
+};
+
 }  // namespace
+
+std::size_t NumberOfRegisters(const firmware::FirmwareId& firmware) {
+  std::size_t registers = 0;
+  for (const auto& row : kListLengths) {
+    if (row.version == firmware.version && row.first_release <= firmware.Number()) registers = row.registers;
+  }
+  return registers;
+}
+
+std::size_t NumberOfDefaultImages() {
+  std::size_t images = 0;
+  for (const auto& firmware : EveryFirmware()) images += NumberOfRegisters(firmware);
+  return images;
+}
+
+std::size_t NumberOfRegisterKeys() {
+  return 136;
+}
 
 const RegisterFrame* FrameOf(const firmware::FirmwareId& firmware, std::string_view register_name) {
   // The first releases of V1300 have a frame for the address alone.

@@ -1,5 +1,5 @@
 // What the tests know about registers and their option frames, written down apart from the tables of the
-// program. A new register or option frame is a row or two in register_facts.cpp.
+// program. A new register or option frame changes register_facts.cpp only.
 #pragma once
 
 #include <string>
@@ -11,8 +11,11 @@
 
 namespace ovl::testing {
 
-// The keys by which the program recognises a register.
-inline constexpr std::size_t kRegisterKeys = 136;
+// The registers in the list of a firmware, in the lists of all firmware, and the keys that recognise them.
+// Each register of a list has a default image.
+std::size_t NumberOfRegisters(const firmware::FirmwareId& firmware);
+std::size_t NumberOfDefaultImages();
+std::size_t NumberOfRegisterKeys();
 
 // The option frame that a register shows when it is picked.
 struct RegisterFrame {

@@ -26,7 +26,7 @@ struct Loaded : core::Application {
 
 TEST(RecordStream, EveryFirmwareWritesTheStreamThatItRead) {
   constexpr std::size_t kDigitsInRecord = 64, kHead = 5, kEndMark = 1;
-  for (const auto& [firmware, expected, registers, features] : AllFirmwareFacts()) {
+  for (const auto& [firmware, expected, features] : AllFirmwareFacts()) {
     SCOPED_TRACE(firmware.Joined());
     const auto stream = RawPatternStream(firmware);
     EXPECT_EQ(stream.substr(0, kHead), expected.first_record);

@@ -113,7 +113,7 @@ TEST(LostDevice, IsReportedInTheBoxAndInTheStatusBarUntilAPortOpens) {
     program.open_error = std::nullopt;
     link::OpenPort(program.app);
     EXPECT_EQ(program.app.StatusNote, "");
-    // Where the end of the link is told in words of its own, the note alone has the reason.
+    // Disconnect shows no reason in a message box, so only the status bar has it.
     link::Disconnect(program.app);
     EXPECT_EQ(program.app.StatusNote, "Comport 1: Input/output error");
   }

@@ -9,6 +9,7 @@
 #include "image/record_stream.h"
 #include "support/firmware_facts.h"
 #include "support/harness.h"
+#include "support/register_facts.h"
 
 namespace ovl::testing {
 namespace {
