@@ -203,8 +203,9 @@ TEST_F(Script, AFailedExpectationNamesThePlace) {
       {"ended", "the program to have ended, found it running"},
       {"list OpParity \"NONE\"", "the entries of OpParity to be \"NONE\", found \"NONE\" \"ODD\" \"EVEN\""},
   };
-  for (const auto& [expectation, told] : cases) {
-    EXPECT_EQ(RunStarted("expect " + expectation + "\necho x"), "test.ovl:4: expected " + told + "\nexit 1");
+  for (const auto& [expectation, message] : cases) {
+    EXPECT_EQ(RunStarted("expect " + expectation + "\necho x"),
+              "test.ovl:4: expected " + message + "\nexit 1");
   }
   EXPECT_TRUE(RunStarted("click CmdUpDow(4)\nexpect box \"title\" \"        Please Select Comport.\"")
                   .ends_with("found box \"\" \"        Please Select Comport.\"\nexit 1"));
@@ -222,8 +223,9 @@ TEST_F(Script, WrongStatementsAreReportedWithTheirPlace) {
       "expect field IPADDRESS 00\nfrobnicate\nstore memory\nstream /no/such/folder/file\necho\n"
       "diff missing.bin missing.bin\n");
   for (std::string statement; std::getline(statements, statement);) {
-    const auto told = RunStarted(statement);
-    EXPECT_TRUE(told.starts_with("test.ovl:4: ") && told.ends_with("\nexit 2")) << statement << ": " << told;
+    const auto message = RunStarted(statement);
+    EXPECT_TRUE(message.starts_with("test.ovl:4: ") && message.ends_with("\nexit 2"))
+        << statement << ": " << message;
   }
   EXPECT_EQ(Run("\n# before the start\nshow ComboReg"), "test.ovl:3: the program was not started\nexit 2");
 }
