@@ -1,4 +1,4 @@
-// The program and the unit, wired to each other: every firmware from the start to a downloaded change.
+// The program and the unit in software, connected to each other, under every firmware.
 #include <gtest/gtest.h>
 
 #include <optional>
@@ -6,68 +6,34 @@
 #include <tuple>
 #include <utility>
 
-#include "firmware/firmware_table.h"
 #include "image/report.h"
 #include "images/default_images.h"
+#include "support/firmware_facts.h"
 #include "support/harness.h"
-#include "unit/factory.h"
-#include "unit/unit.h"
+#include "support/simulated_unit.h"
 
 namespace ovl::testing {
 namespace {
 
-// A unit in no time: what it is told it answers at once.
-class Partner {
- public:
-  explicit Partner(const std::string& firmware, const std::string& history = "NO SALE\r\n",
-                   const std::string& fault = {}) {
-    const auto* known = unit::FindFirmware(firmware);
-    std::vector<unit::Fault> faults;
-    if (!fault.empty()) faults.push_back(unit::ParseFault(fault).fault.value());
-    unit_.emplace(
-        unit::UnitSetup{known, unit::FactoryImage(*known), history, 0, unit::Faults(std::move(faults), 1)},
-        unit::Surroundings{[this](const std::string& text) { complaints.push_back(text); },
-                           [](const std::string&) {}, [this](const std::string& bytes) { said_ += bytes; },
-                           [](const std::string&) { return std::string(); },
-                           [this](const std::string& text) { return clock = text, std::string(); }});
-  }
-
-  std::string Hear(std::string_view text) {
-    for (const char character : text) unit_->Receive(character, now_);
-    unit_->Advance(now_);
-    return std::exchange(said_, {});
-  }
-
-  const std::string& Image() const { return unit_->Image(); }
-
-  std::vector<std::string> complaints;
-  std::string clock;
-
- private:
-  std::optional<unit::Unit> unit_;
-  unit::Time now_{};
-  std::string said_;
-};
-
-// Lets both talk until neither has anything left to say.
-void Talk(Harness& program, Partner& partner) {
+// Carries characters in both directions until there are none.
+void Exchange(Harness& program, SimulatedUnit& device) {
   for (auto sent = program.TakeSent(); !sent.empty(); sent = program.TakeSent()) {
-    program.Unit(partner.Hear(sent));
+    program.Unit(device.Answer(sent));
     program.Drain(1);
   }
 }
 
-void HoldRemoteMode(Harness& program, Partner& partner) {
+void HoldRemoteMode(Harness& program, SimulatedUnit& device) {
   ASSERT_EQ(program.Click("CmdUpDow(4)"), core::Outcome::kDone);
-  Talk(program, partner);
+  Exchange(program, device);
   program.Tick(program.app.frmMain.General_timer);
   ASSERT_TRUE(program.app.RemoteHeld);
 }
 
-void Transfer(Harness& program, Partner& partner, const char* button, const char* end) {
-  HoldRemoteMode(program, partner);
+void Transfer(Harness& program, SimulatedUnit& device, const char* button, const char* end) {
+  HoldRemoteMode(program, device);
   program.Click(button);
-  Talk(program, partner);
+  Exchange(program, device);
   ASSERT_TRUE(program.app.frmOK_buttom.form.visible);
   EXPECT_EQ(program.app.frmOK_buttom.Label1.caption, end);
   program.Click("frmOK_buttom.Command1");
@@ -81,16 +47,15 @@ void ChangeEveryTab(const firmware::FirmwareId& firmware) {
   for (int position = 0; position < names; ++position) {
     ASSERT_EQ(program.Pick("ComboReg", position), core::Outcome::kDone);
   }
-  Partner partner(firmware.Joined());
+  SimulatedUnit device({.firmware = firmware.Joined(), .speed = 0});
   program.Click("cmdConnect");
   program.Click("frmSettSR.cmdSET");
-  Transfer(program, partner, "CmdUpDow(0)", "Upload Completed.");
+  Transfer(program, device, "CmdUpDow(0)", "Upload Completed.");
   const auto uploaded = program.app.image;
-  Transfer(program, partner, "CmdUpDow(1)", "Download Completed.");
-  const auto untouched = partner.Image();
+  Transfer(program, device, "CmdUpDow(1)", "Download Completed.");
+  const auto untouched = device.program->Image();
   EXPECT_TRUE(image::Differences(uploaded, program.app.image, firmware).empty());
 
-  // The field that each pick changes, by the panel's own account.
   const std::vector<std::tuple<const char*, int, std::string>> picks = {
       {"ComboDIP(1)", 4, "DSPLINES_BAK"},        {"ComboALM(4)", 3, "ALMCFG_BAK"},
       {"ComboTrigger(0)", 1, "TRIGGER_TEXT(1)"}, {"ComboCOMM(2)", 6, "TX_BAUDRATE"},
@@ -105,35 +70,34 @@ void ChangeEveryTab(const firmware::FirmwareId& firmware) {
     changed.insert(difference.name);
   EXPECT_EQ(changed, expected);
 
-  Transfer(program, partner, "CmdUpDow(1)", "Download Completed.");
-  EXPECT_TRUE(partner.complaints.empty()) << partner.complaints.front();
+  Transfer(program, device, "CmdUpDow(1)", "Download Completed.");
+  EXPECT_TRUE(device.complaints.empty()) << device.complaints.front();
   std::size_t bytes = 0;
   for (std::size_t place = 0; place < untouched.size(); place += 2) {
-    if (partner.Image().compare(place, 2, untouched, place, 2) != 0) ++bytes;
+    if (device.program->Image().compare(place, 2, untouched, place, 2) != 0) ++bytes;
   }
-  EXPECT_EQ(partner.Image().size(), untouched.size());
+  EXPECT_EQ(device.program->Image().size(), untouched.size());
   EXPECT_EQ(bytes, expected.size());
   EXPECT_TRUE(program.NoBoxLeft());
 }
 
 TEST(EveryFirmware, AChangeOnEveryTabReachesTheUnitAndNothingElse) {
-  for (const auto& entry : firmware::FirmwareTable()) {
-    const firmware::FirmwareId firmware{std::string(entry.version), std::string(entry.release)};
+  for (const auto& firmware : testing::EveryFirmware()) {
     SCOPED_TRACE(firmware.Joined());
-    if (entry.in_menu) ChangeEveryTab(firmware);
+    ChangeEveryTab(firmware);
   }
 }
 
-// From the start of the program to the end of what the button begins in remote mode; the clock is set.
-void Converse(Harness& program, Partner& partner, const char* button) {
+// Starts the program, sets its clock, enters remote mode and does what the button starts.
+void Converse(Harness& program, SimulatedUnit& device, const char* button) {
   ASSERT_EQ(program.Start(), core::Outcome::kDone);
   program.now = {2026, 3, 5, 14, 7, 9};
   program.Tick(program.app.frmMain.Timer, 11);
   program.Click("cmdConnect");
   program.Click("frmSettSR.cmdSET");
-  HoldRemoteMode(program, partner);
+  HoldRemoteMode(program, device);
   program.Click(button);
-  Talk(program, partner);
+  Exchange(program, device);
 }
 
 TEST(OneShot, HistoriesOfAnyLengthAreSavedAndOpenedUnchanged) {
@@ -142,9 +106,9 @@ TEST(OneShot, HistoriesOfAnyLengthAreSavedAndOpenedUnchanged) {
     std::string history;
     for (int line = 0; line < lines; ++line) history += "LINE " + std::to_string(line) + "\r\n";
     Harness program({"V1400", "R12"});
-    Partner partner("V1400R12", history);
+    SimulatedUnit device({.history = history, .speed = 0});
     program.file_answers.assign(2, program.folder.File("history.txt"));
-    Converse(program, partner, "CmdUpDow(3)");
+    Converse(program, device, "CmdUpDow(3)");
     EXPECT_FALSE(program.app.HistoryPending);
     program.Click("OpenHistory_menu");
     EXPECT_TRUE(program.app.frmView.Text.text == history + "\r\n");
@@ -152,20 +116,20 @@ TEST(OneShot, HistoriesOfAnyLengthAreSavedAndOpenedUnchanged) {
   }
 }
 
-TEST(OneShot, AnswersAreToldAndSilenceIsEndedByTheWatchdogOrByHand) {
+TEST(OneShot, AnAnswerIsReportedAndSilenceEndsByTheWatchdogOrByDisconnect) {
   const std::string failure = "- Connection Fail -";
   const std::vector<std::tuple<const char*, std::string, std::string, bool>> rows{
       {"CmdUpDow(2)", "clock", "SET TIME DATE FINISHED.", true},
       {"CmdUpDow(3)", "history", "", false},
       {"CmdUpDow(5)", "reset", "       Master Reset Done.", false}};
-  for (const auto& [button, operation, told, watched] : rows) {
+  for (const auto& [button, operation, box, has_watchdog] : rows) {
     SCOPED_TRACE(operation);
     Harness done({"V1400", "R12"}), refused({"V1400", "R12"}), waiting({"V1400", "R12"});
-    Partner willing("V1400R12"), refusing("V1400R12", "LINE\r\n", "refuse:" + operation),
-        silent("V1400R12", "LINE\r\n", "silent:" + operation);
+    SimulatedUnit willing({.speed = 0}), refusing({.faults = "refuse:" + operation, .speed = 0}),
+        silent({.faults = "silent:" + operation, .speed = 0});
     Converse(done, willing, button);
-    EXPECT_EQ(done.TakeBox().text, told);
-    EXPECT_EQ(willing.clock, operation == "clock" ? "03-05-26 14:07:09" : "");
+    EXPECT_EQ(done.TakeBox().text, box);
+    EXPECT_EQ(willing.kept_clock, operation == "clock" ? "03-05-26 14:07:09" : "");
     EXPECT_TRUE(willing.complaints.empty());
 
     Converse(refused, refusing, button);
@@ -174,9 +138,9 @@ TEST(OneShot, AnswersAreToldAndSilenceIsEndedByTheWatchdogOrByHand) {
 
     Converse(waiting, silent, button);
     waiting.Tick(waiting.app.frmMain.Timer_Operating, 6);
-    EXPECT_EQ(waiting.TakeBox().title, watched ? failure : "");
-    EXPECT_EQ(waiting.app.frmMain.MSComm1.PortOpen, !watched);
-    if (!watched) waiting.Click("cmdDisConnect");
+    EXPECT_EQ(waiting.TakeBox().title, has_watchdog ? failure : "");
+    EXPECT_EQ(waiting.app.frmMain.MSComm1.PortOpen, !has_watchdog);
+    if (!has_watchdog) waiting.Click("cmdDisConnect");
     EXPECT_FALSE(waiting.app.HistoryPending || waiting.app.MasterResetPending);
   }
 }

@@ -13,7 +13,7 @@ void AddFace(Digest& digest, const controls::ControlState& face) {
   digest.Add((face.visible ? 1 : 0) + (face.enabled ? 2 : 0) + 4 * face.index);
 }
 
-// What a kind of control has beside its face.
+// The properties that only some kinds of controls have.
 void AddRest(Digest&, const controls::ControlState*) {}
 void AddRest(Digest& digest, const controls::CheckBox* box) {
   digest.Add(box->checked ? 1 : 0);

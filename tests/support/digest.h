@@ -1,4 +1,4 @@
-// One number for everything that a program holds and shows, so that two builds can be compared act by act.
+// One number for the whole state of a program, so that two builds can be compared after every act.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +9,7 @@
 
 namespace ovl::testing {
 
-// The order of what is added counts. Two digests can be compared when the same compiler made both programs.
+// The order of the additions matters. Digests are comparable if the same compiler built both programs.
 class Digest {
  public:
   void Add(std::string_view text);

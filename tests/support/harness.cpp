@@ -9,6 +9,8 @@
 #include "host/files.h"
 #include "image/record_stream.h"
 #include "start/start_up.h"
+#include "support/control_characters.h"
+#include "support/firmware_facts.h"
 
 namespace ovl::testing {
 namespace {
@@ -25,30 +27,27 @@ Thing TakeFrom(std::deque<Thing>& things) {
   return first;
 }
 
-// Where the fixed section begins, with the register's code.
-std::size_t FixedOf(const firmware::FirmwareId& firmware) {
-  return firmware.IsV1400() ? 64 : 96;
-}
-
 std::string PatternDigits(const firmware::FirmwareId& firmware, int seed, int register_code) {
-  const auto size = DigitsOfImage(firmware);
+  const auto& stream = FactsOf(firmware).stream;
   std::string digits;
-  for (int byte = seed; digits.size() < size; byte = (byte * 5 + 3) % 256) digits += codecs::ByteToHex(byte);
+  for (int byte = seed; digits.size() < stream.digits; byte = (byte * 5 + 3) % 256)
+    digits += codecs::ByteToHex(byte);
   if (!firmware.IsV1400()) {
     const bool without_ip = firmware.version == "V1324" && firmware.Number() < 19;
-    const std::size_t used = size != 4066 ? 160 : (without_ip ? 146 : 154);
+    const std::size_t used = stream.digits != 4066 ? 160 : (without_ip ? 146 : 154);
     digits.replace(64, 32, 32, '0');
     digits.replace(96 + used, 192 - used, 192 - used, '0');
   }
-  return digits.replace(FixedOf(firmware), 2, codecs::ByteToHex(register_code));
+  return digits.replace(stream.syscfg, 2, codecs::ByteToHex(register_code));
 }
 
-// What the panels show after a load, in the form in which they would store it themselves.
+// Puts the records that a load shows into the form in which the panels store them.
 void PutInOrder(const firmware::FirmwareId& firmware, std::string& digits) {
   const bool v1400 = firmware.IsV1400();
   const std::size_t size = digits.size();
-  const std::size_t fixed = FixedOf(firmware) + ((v1400 ? size >= 4322 : size == 4098) ? 36 : 32);
-  const std::size_t strings = v1400 ? (size < 4322 ? 270 : (size == 4322 ? 288 : 290)) : 288;
+  const auto& stream = FactsOf(firmware).stream;
+  const std::size_t fixed = stream.syscfg + ((v1400 ? size >= 4322 : size == 4098) ? 36 : 32);
+  const std::size_t strings = stream.syscfg + stream.sysfixed;
   const std::size_t slot = v1400 ? 106 : 98, record = v1400 ? 8 : 6;
   const auto put = [&](std::size_t at, const std::string& value) { digits.replace(at, value.size(), value); };
   put(fixed, "10");
@@ -64,13 +63,6 @@ void PutInOrder(const firmware::FirmwareId& firmware, std::string& digits) {
 }
 
 }  // namespace
-
-std::size_t DigitsOfImage(const firmware::FirmwareId& firmware) {
-  const int release = firmware.Number();
-  if (firmware.IsV1400()) return release < 6 ? 4272 : release == 6 ? 4304 : release == 7 ? 4322 : 4324;
-  const int first_new = firmware.version == "V1300" ? 26 : firmware.version == "V1324" ? 25 : 0;
-  return release < first_new ? 4066 : 4098;
-}
 
 TemporaryFolder::TemporaryFolder() {
   std::string name = (fs::temp_directory_path() / "ovl-test-XXXXXX").string();
@@ -179,7 +171,7 @@ core::Outcome Harness::Start() {
 
 void Harness::OpenAndHold() {
   for (const auto* button : {"cmdConnect", "cmdSET", "CmdUpDow(4)"}) Click(button);
-  Unit("\x06");
+  Unit(kAck);
   Tick(app.frmMain.General_timer);
   TakeSent();
 }

@@ -1,4 +1,5 @@
-// A program without a screen: the model over a platform that records what it is asked for and plays the line.
+// A program without windows: the model with a platform that records all requests and simulates the serial
+// port.
 #pragma once
 
 #include <deque>
@@ -14,7 +15,7 @@
 
 namespace ovl::testing {
 
-// A program folder of its own, removed at the end of the test.
+// A temporary folder. It is removed at the end of the test.
 class TemporaryFolder {
  public:
   TemporaryFolder();
@@ -28,8 +29,8 @@ class TemporaryFolder {
   std::filesystem::path path_;
 };
 
-// For its life nobody may read or write the file or folder, the superuser included, who acts as an ordinary
-// user meanwhile.
+// Denies access to the file or folder as long as the object exists. A superuser becomes an ordinary user
+// meanwhile.
 class Locked {
  public:
   explicit Locked(std::string path);
@@ -40,14 +41,11 @@ class Locked {
   std::string path_;
 };
 
-// The digits that each firmware's image has, written down apart from the field table.
-std::size_t DigitsOfImage(const firmware::FirmwareId& firmware);
-
-// A stream of the firmware whose digits differ from byte to byte by the seed, with the register code given.
+// A stream of the firmware with this register code. The seed decides all other bytes.
 std::string RawPatternStream(const firmware::FirmwareId& firmware, int seed = 1, int register_code = 0);
 
-// The same with a title, exceptions and alarms that the panels find in order, so that taking it in changes
-// nothing.
+// The same stream with a title, exceptions and alarms in the form in which the panels store them, so that a
+// load changes nothing.
 std::string PatternStream(const firmware::FirmwareId& firmware, int seed = 1, int register_code = 0);
 
 // As the program reads and replaces files, but without flushing them.
@@ -56,12 +54,12 @@ void WriteFile(const std::string& path, std::string_view bytes);
 
 class Harness {
  public:
-  // Writes a default image for the first register (and the further ones named) and fills the settings store.
+  // Writes default images for the first register and for the further ones, and the settings.
   explicit Harness(const firmware::FirmwareId& firmware,
                    const std::vector<std::string>& further_registers = {});
 
   core::Outcome Start();
-  // A port opened, remote mode held, and its first tick over.
+  // Opens the port and enters remote mode.
   void OpenAndHold();
 
   core::Outcome Click(std::string_view name) { return Dispatch(app, core::ClickEvent{Known(name)}); }
@@ -69,15 +67,15 @@ class Harness {
     return Dispatch(app, core::PickEvent{Known(name), position});
   }
   core::Outcome Tick(controls::Timer& timer, int count = 1);
-  // Characters arrive one by one; those for a closed port are lost.
+  // The program receives the characters one by one. A closed port loses them.
   void Unit(std::string_view text);
-  // The transmitter runs empty: `count` times, or as long as each time something is written.
+  // The transmitter becomes empty: `count` times, or until the program writes nothing more.
   void Drain(int count);
   void DrainAll();
 
-  // What was written since it was last asked.
+  // The characters written since the last call.
   std::string TakeSent() { return std::exchange(sent_, {}); }
-  // The oldest box not yet asked for; an empty text if there is none.
+  // The oldest message box that was not taken yet, or an empty one.
   core::MessageBox TakeBox();
   bool NoBoxLeft() const { return boxes.empty(); }
 
@@ -98,7 +96,7 @@ class Harness {
   const controls::ControlRef& Known(std::string_view name) const;
 
   std::string sent_;
-  bool wrote_ = false;  // since the transmitter last ran empty
+  bool wrote_ = false;  // since the transmitter was last empty
 
  private:
   void FillPlatform();

@@ -1,4 +1,4 @@
-// A program started on the default images of its firmware, and what an act left in the configuration.
+// A program with the default images of its firmware, and the changes that an act makes in the image.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -24,7 +24,7 @@ namespace ovl::testing {
 inline constexpr int kLineFlags = 1, kInterface = 2, kReceiveSpeed = 3, kTransmitSpeed = 4, kUnitAddress = 11,
                      kConsole = 13, kTciAddress = 14, kTitle = 17;
 
-// Which default images are there at the start; with kOwn the test writes its own and starts the program
+// The default images that exist at the start. With kOwn the test writes its own and starts the program
 // itself.
 enum class Images { kAll, kFirstRegister, kOwn };
 
@@ -65,7 +65,7 @@ class Installed : public Harness {
     return found == names.end() ? -1 : static_cast<int>(found - names.begin());
   }
   core::Outcome Register(std::string_view name) { return Pick("ComboReg", CodeOf(name)); }
-  // Presses what asks for a file, and answers.
+  // Clicks a button that asks for a file, and answers.
   core::Outcome Answer(std::string_view button, const std::optional<std::string>& path) {
     file_answers.push_back(path);
     return Click(button);
@@ -77,9 +77,9 @@ class Installed : public Harness {
   core::Outcome Leave(controls::TextBox& box) { return Dispatch(app, core::LeaveEvent{&box}); }
   core::Outcome Close(controls::Form& form) { return Dispatch(app, core::CloseEvent{&form}); }
 
-  // From here on Written() tells every field that changes, by its name; the commonest have short ones. Where
-  // all bytes were filled with one that nothing writes, no write hides behind the value that was there.
+  // From here on Written() lists every field that changes, by its name; some names are shortened.
   void Mark() { before_ = app.image; }
+  // Fills the image with a byte that nothing writes, so that a write of the old value is seen too.
   void Fill(const std::string& byte, Bytes others = {}) {
     for (const auto& row : image::FieldTable()) {
       for (int entry = 1; entry <= image::EntryCount(row.id); ++entry) app.image.at(row.id, entry) = byte;
@@ -87,26 +87,29 @@ class Installed : public Harness {
     for (const auto& [field, other] : others) app.image[field] = other;
     Mark();
   }
-  std::string Written() const {
+  static std::string NameOf(image::FieldId field) {
     using enum image::FieldId;
-    static const std::map<image::FieldId, std::string_view> kShort = {{RX_BAUDRATE, "RX"},
-                                                                      {TX_BAUDRATE, "TX"},
-                                                                      {REGTYPE_MINOR, "M"},
-                                                                      {REGTYPE_EXT1, "E"},
-                                                                      {REGTYPE_EXT2, "X"}};
+    static const std::map<image::FieldId, std::string> kShort = {{RX_BAUDRATE, "RX"},
+                                                                 {TX_BAUDRATE, "TX"},
+                                                                 {REGTYPE_MINOR, "MINOR"},
+                                                                 {REGTYPE_EXT1, "EXT1"},
+                                                                 {REGTYPE_EXT2, "EXT2"}};
+    if (kShort.contains(field)) return kShort.at(field);
+    return std::string(std::ranges::find(image::FieldTable(), field, &image::FieldRow::id)->name);
+  }
+  std::string Written() const {
     std::string written;
     for (const auto& row : image::FieldTable()) {
       for (int entry = 1; entry <= image::EntryCount(row.id); ++entry) {
         if (app.image.at(row.id, entry) == before_.at(row.id, entry)) continue;
-        const auto name = kShort.contains(row.id) ? kShort.at(row.id) : row.name;
         written.append(written.empty() ? "" : " ")
-            .append(image::EntryName(name, image::EntryCount(row.id), entry));
+            .append(image::EntryName(NameOf(row.id), image::EntryCount(row.id), entry));
         written.append("=").append(app.image.at(row.id, entry));
       }
     }
     return written;
   }
-  // What a pick writes into an image of EE bytes.
+  // The fields that a pick writes into an image of EE bytes.
   std::string Effect(std::string_view control, int position, Bytes others = {}) {
     Fill("EE", others);
     return Pick(control, position) == core::Outcome::kDone ? Written() : "refused";
@@ -136,13 +139,13 @@ class Installed : public Harness {
     for (const auto& text : texts) all += (all.empty() ? "" : "|") + text;
     return all;
   }
-  // A control that this firmware, or the register selected, does not offer.
+  // Shows and enables a control that the firmware or the register does not offer.
   void Reveal(std::string_view name) {
     Control(name).visible = Control(name).enabled = true;
     if (!std::holds_alternative<controls::OptionArray*>(Known(name))) return;
     for (auto& element : ArrayOf(name).elements) element.visible = true;
   }
-  // The option frames on the screen, "49 18" at the most.
+  // The numbers of the visible option frames. Only 49 and 18 are visible together: "49 18".
   std::string Frames() const {
     std::string shown;
     for (const auto& frame : app.frmMain.frmAddress) {
@@ -153,7 +156,7 @@ class Installed : public Harness {
 
  private:
   firmware::FirmwareId firmware_;
-  ::testing::ScopedTrace trace_;  // what fails while the program runs names its firmware
+  ::testing::ScopedTrace trace_;  // a failure names the firmware
   image::ConfigImage before_;
 };
 

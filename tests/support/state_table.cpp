@@ -7,7 +7,7 @@ namespace {
 
 constexpr int kAnyMode = -1;
 
-// `actions` are the five buttons that need remote mode; `connect` is enabled or not where the state fixes it.
+// `actions` are the five buttons that need remote mode. `connect` is empty if the state does not decide it.
 struct StateRow {
   const char *name, *timers;
   int link_mode;

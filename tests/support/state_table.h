@@ -1,4 +1,4 @@
-// The states that the link can be in, and what every one of them shows.
+// The states of the link, and what each of them shows.
 #pragma once
 
 #include <string>
@@ -24,10 +24,10 @@ enum class State {
 
 const char* NameOf(State state);
 
-// The names of the link's timers that run, separated by blanks.
+// The names of the running timers of the link, separated by blanks.
 std::string RunningTimers(const core::Application& app);
 
-// Where the program is otherwise than the state's row says; empty if nowhere.
+// How the program differs from the state, or an empty text.
 std::string DifferenceFrom(State state, const core::Application& app);
 
 }  // namespace ovl::testing

@@ -1,5 +1,5 @@
-// Runs each script and prints a digest of it: what the program holds and shows after every line, and what the
-// script printed.
+// Runs each script and prints its digest: the state of the program after every line, and the output of the
+// script.
 //   ovl-digest FILE...
 #include <fstream>
 #include <iostream>

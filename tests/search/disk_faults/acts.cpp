@@ -6,9 +6,10 @@
 #include "core/settings.h"
 #include "host/files.h"
 #include "host/settings_store.h"
-#include "pressures.h"
+#include "obstacles.h"
 #include "script/parser.h"
 #include "script/runner.h"
+#include "support/control_characters.h"
 
 namespace ovl::testing {
 namespace {
@@ -29,26 +30,27 @@ Act Save() {
     program->Click("menuSave");
     const auto text = program->TakeBox().text;
     const bool done = text == "Save Completed.        ";
-    return Told{done, text, done || text == "NoFile Save. !!!        "};
+    return Result{done, text, done || text == "NoFile Save. !!!        "};
   };
   return {"Save", "kept.bin", true, kOld, run};
 }
 
-// Nothing is told but in the status bar.
+// Only the status bar reports the result.
 Act History() {
   const auto run = [program = Started()](const std::string&, const std::string& path) {
     program->OpenAndHold();
     program->file_answers.emplace_back(path);
     program->Click("CmdUpDow(3)");
     program->DrainAll();
-    program->Unit("00001 NO SALE\r\n\x06");
+    program->Unit("00001 NO SALE\r\n" + std::string(kAck));
     const auto& note = program->app.StatusNote;
-    return Told{note.empty(), note, (note.empty() || note.starts_with(path + ": ")) && program->NoBoxLeft()};
+    return Result{note.empty(), note,
+                  (note.empty() || note.starts_with(path + ": ")) && program->NoBoxLeft()};
   };
   return {"history", "History.txt", true, kOld, run};
 }
 
-// An upload that cannot be kept is not taken in.
+// An upload that cannot be stored is not loaded.
 Act Upload() {
   const auto run = [program = Started()](const std::string& folder, const std::string&) {
     auto& app = program->app;
@@ -63,12 +65,12 @@ Act Upload() {
     const bool done = end.Label1.caption == "Upload Completed.";
     const bool kept = app.image == image && app.frmMain.ComboReg.position <= 1 && !app.StatusNote.empty() &&
                       !end.form.visible;
-    return Told{done, done ? end.Label1.caption : app.StatusNote, done ? app.image != image : kept};
+    return Result{done, done ? end.Label1.caption : app.StatusNote, done ? app.image != image : kept};
   };
   return {"upload.bin", "V1400/upload.bin", false, kOld, run};
 }
 
-// A failed write is silent; the box comes either way, and the program ends.
+// A failed write is not reported: the message box comes in any case, and the program ends.
 Act Settings() {
   const auto run = [program = Started()](const std::string& folder, const std::string&) {
     const host::SettingsStore store(QFile::decodeName(folder.c_str()));
@@ -78,26 +80,26 @@ Act Settings() {
     };
     const bool ended = program->Click("V1300R14mnu") == core::Outcome::kEnded;
     const auto text = program->TakeBox().text;
-    return Told{done, text, ended && text.find("V1300R14") != std::string::npos};
+    return Result{done, text, ended && text.find("V1300R14") != std::string::npos};
   };
-  // The two values are written one after the other, and the file can be gone in between.
+  // The two values are written one after the other, and the file may be removed in between.
   const std::string head = "[General]\n", release = "Release=R12\n", version = "Version=V1300\n";
   return {"settings", "ORB/OVL Software.conf",
           false,      head + release + "Version=V1400\n",
           run,        {head + release + version, head + version, head + "Release=R14\n"}};
 }
 
-// Its exit status and its reason.
-Told RunStatement(const Harness& site, const std::string& statement, std::ostream& output) {
+// Runs the statement in a program of its own and reports its exit status.
+Result RunStatement(const Harness& site, const std::string& statement, std::ostream& output) {
   std::ostringstream errors;
   script::Session session(output, errors);
   std::istringstream text("folder " + script::Quoted(site.folder.Path().string()) +
                           "\nsetting Version V1400\nsetting Release R12\nstart\n" + statement + "\n");
   const auto status = RunScript(session, text, "script", errors);
   const bool done = status == script::ExitStatus::kDone;
-  auto words = errors.str();
-  if (!words.empty()) words.pop_back();
-  return {done, words, done || (status == script::ExitStatus::kWrongStatement && !words.empty())};
+  auto report = errors.str();
+  if (!report.empty()) report.pop_back();
+  return {done, report, done || (status == script::ExitStatus::kWrongStatement && !report.empty())};
 }
 
 Act Script(const std::string& word) {
@@ -119,7 +121,7 @@ std::vector<Act> AllActs() {
   return {Save(), History(), Upload(), Settings(), Script("stream"), Script("dump")};
 }
 
-Told PrintTo(const std::string& device) {
+Result PrintTo(const std::string& device) {
   std::ofstream output(device);
   return RunStatement(Harness(kFirmware), "echo text", output);
 }

@@ -1,5 +1,6 @@
-// Every file that the program writes, under everything that can stand in its way, and with the process killed
-// at each of its calls of the system. Prints a row for each; the exit status tells whether all were right.
+// Writes every file of the program with each obstacle in its way, and with the process killed at each of its
+// system calls. Prints a row for each. The exit status is 0 if all results are right.
+//   ovl-disk-faults
 #include <signal.h>
 #include <sys/ptrace.h>
 #include <sys/stat.h>
@@ -12,7 +13,7 @@
 #include <fstream>
 #include <map>
 
-#include "pressures.h"
+#include "obstacles.h"
 
 namespace ovl::testing {
 namespace {
@@ -30,15 +31,15 @@ Row Judged(bool right, const std::string& outcome) {
   return {right ? Row::Verdict::kRight : Row::Verdict::kWrong, outcome};
 }
 
-bool Print(const Act& act, const std::string& pressure, const Row& row) {
+bool Print(const Act& act, const std::string& obstacle, const Row& row) {
   constexpr std::array kVerdicts{"right", "WRONG", "not possible here"};
-  std::printf("%-14s %-22s %-18s %s\n", act.name.c_str(), pressure.c_str(),
+  std::printf("%-14s %-22s %-18s %s\n", act.name.c_str(), obstacle.c_str(),
               kVerdicts.at(static_cast<std::size_t>(row.verdict)), row.outcome.c_str());
   std::fflush(stdout);
   return row.verdict != Row::Verdict::kWrong;
 }
 
-// What stands in a folder, whatever it is: names with kinds, targets of links, contents of files.
+// The names in a folder, each with its kind, the target of a link, or the content of a file.
 std::map<std::string, std::string> Contents(const fs::path& folder) {
   std::map<std::string, std::string> found;
   std::error_code error;
@@ -52,22 +53,22 @@ std::map<std::string, std::string> Contents(const fs::path& folder) {
   return found;
 }
 
-// A folder in which the act's file stands as it was before.
+// A folder with the file of the act as it is before the act.
 class Place {
  public:
   explicit Place(const Act& act) : act_(act), file_(folder_.Path() / act.file) {
     fs::create_directories(file_.parent_path());
     std::ofstream(file_, std::ios::binary) << act.before;
   }
-  // So that a folder that was made read-only can be removed.
+  // Otherwise a read-only folder could not be removed.
   ~Place() {
     std::error_code ignored;
     fs::permissions(file_.parent_path(), fs::perms::owner_all, ignored);
   }
   Place(const Place&) = delete;
   Place& operator=(const Place&) = delete;
-  Told Run(const fs::path& file) const { return act_.run(folder_.Path().string(), file.string()); }
-  Told Run() const { return Run(file_); }
+  Result Run(const fs::path& file) const { return act_.run(folder_.Path().string(), file.string()); }
+  Result Run() const { return Run(file_); }
   const fs::path& File() const { return file_; }
 
  private:
@@ -76,7 +77,7 @@ class Place {
   fs::path file_;
 };
 
-// What was told, short and without the folder, which has another name each time.
+// The report, short and without the folder, which has another name each time.
 std::string Shortened(std::string text, const std::string& folder = {}) {
   constexpr std::size_t kLongest = 80;
   if (const auto at = text.find(folder); at != std::string::npos) text.erase(at, folder.size());
@@ -84,47 +85,48 @@ std::string Shortened(std::string text, const std::string& folder = {}) {
   return text.size() <= kLongest ? text : text.substr(0, kLongest) + "...";
 }
 
-// In a process of its own, since a pressure may lie on the process.
-Row UnderPressure(const Pressure& pressure, const Place& place, const std::string& after) {
-  if (!pressure.apply(place.File())) return kNotHere;
+// Runs in a process of its own, because an obstacle may change the process.
+Row WithObstacle(const Obstacle& obstacle, const Place& place, const std::string& after) {
+  if (!obstacle.apply(place.File())) return kNotHere;
   const auto folder = place.File().parent_path();
-  const auto file = pressure.file_name.empty() ? place.File() : folder / pressure.file_name;
+  const auto file = obstacle.file_name.empty() ? place.File() : folder / obstacle.file_name;
   const auto before = Contents(folder);
-  const auto told = place.Run(file);
+  const auto result = place.Run(file);
   bool kept = Contents(folder) == before;
-  if (pressure.written)
+  if (obstacle.written)
     kept = ReadFile(file.string()) == after && Contents(folder).size() <= before.size() + 1;
-  return Judged(told.done == pressure.written && kept && told.right,
-                std::string(told.done ? "written" : "refused") + (kept ? "" : ", NOT WHOLE") +
-                    (told.right ? ": " : ", WRONGLY TOLD: ") + Shortened(told.words, folder.string() + "/"));
+  return Judged(result.done == obstacle.written && kept && result.right,
+                std::string(result.done ? "written" : "refused") + (kept ? "" : ", NOT WHOLE") +
+                    (result.right ? ": " : ", WRONG REPORT: ") +
+                    Shortened(result.report, folder.string() + "/"));
 }
 
-// The child tells its row through a pipe.
+// The child sends its row through a pipe.
 Row Forked(const std::function<Row()>& work) {
   std::array<int, 2> ends{};
   if (pipe(ends.data()) != 0) return kNotHere;
   const pid_t process = fork();
   if (process == 0) {
     const auto row = work();
-    const auto told = static_cast<char>(row.verdict) + row.outcome;
-    _exit(write(ends[1], told.data(), told.size()) > 0 ? 0 : 1);
+    const auto text = static_cast<char>(row.verdict) + row.outcome;
+    _exit(write(ends[1], text.data(), text.size()) > 0 ? 0 : 1);
   }
   int status = 0;
   waitpid(process, &status, 0);
   close(ends[1]);
-  std::array<char, 4096> told{};
-  const auto size = read(ends[0], told.data(), told.size());
+  std::array<char, 4096> text{};
+  const auto size = read(ends[0], text.data(), text.size());
   close(ends[0]);
   if (status != 0 || size < 1) return Judged(false, "the process ended");
-  return {static_cast<Row::Verdict>(told[0]), std::string(&told[1], static_cast<std::size_t>(size - 1))};
+  return {static_cast<Row::Verdict>(text[0]), std::string(&text[1], static_cast<std::size_t>(size - 1))};
 }
 
 bool IsWhole(const Act& act, const std::string& content, const std::string& after) {
   return content == act.before || content == after || std::ranges::count(act.between, content) > 0;
 }
 
-// Runs the act in a process of its own, which never comes to its n-th call, counted from 1. Whether it was
-// killed before its end; nothing if that is not possible here.
+// Runs the act in a process of its own and kills it before its n-th system call, counted from 1. Returns
+// whether the process was killed before its end, or nothing if that is not possible here.
 std::optional<bool> KillAtCall(int n, const Place& place) {
   constexpr int kSystemCall = SIGTRAP | 0x80;
   const pid_t process = fork();
@@ -166,7 +168,7 @@ Row KilledEverywhere(const Act& act, const std::string& after) {
                           std::to_string(old_file) + ", new at " + std::to_string(new_file));
 }
 
-// Meanwhile another process looks at the file and removes it, over and over.
+// Another process reads and removes the file again and again during the writes.
 Row RemovedMeanwhile(const Act& act, const std::string& after) {
   constexpr int kTimes = 20;
   const Place place(act);
@@ -186,11 +188,11 @@ Row RemovedMeanwhile(const Act& act, const std::string& after) {
     std::error_code error;
     if (fs::remove(place.File(), error)) ++seen;
   }
-  if (!whole || status != 0) return Judged(false, whole ? "wrongly told" : "seen in parts");
+  if (!whole || status != 0) return Judged(false, whole ? "wrong report" : "seen in parts");
   return Judged(true, "whole each of the " + std::to_string(seen) + " times it was removed");
 }
 
-// What the act leaves in the file when nothing is in its way.
+// The content of the file after the act without an obstacle.
 std::string ContentAfter(const Act& act) {
   const Place place(act);
   Forked([&] { return Judged(place.Run().done, ""); });
@@ -200,25 +202,25 @@ std::string ContentAfter(const Act& act) {
 bool CheckAct(const Act& act) {
   const auto after = ContentAfter(act);
   bool right = after != act.before;
-  for (const auto& pressure : AllPressures()) {
-    if (!pressure.for_stores && !act.between.empty()) continue;
-    if (!pressure.file_name.empty() && !act.any_name) continue;
+  for (const auto& obstacle : AllObstacles()) {
+    if (!obstacle.for_stores && !act.between.empty()) continue;
+    if (!obstacle.file_name.empty() && !act.any_name) continue;
     const Place place(act);
-    right = Print(act, pressure.name, Forked([&] { return UnderPressure(pressure, place, after); })) && right;
+    right = Print(act, obstacle.name, Forked([&] { return WithObstacle(obstacle, place, after); })) && right;
   }
   right = Print(act, "removed meanwhile", RemovedMeanwhile(act, after)) && right;
   return Print(act, "killed at every call", KilledEverywhere(act, after)) && right;
 }
 
-// What a script prints must not get lost in silence.
+// A script must report that its output was lost.
 bool CheckOutput() {
-  const auto told = PrintTo("/dev/full");
+  const auto result = PrintTo("/dev/full");
   return Print({"script output", {}, false, {}, {}}, "full file system",
-               Judged(!told.done && told.right, Shortened(told.words)));
+               Judged(!result.done && result.right, Shortened(result.report)));
 }
 
 int CheckAll() {
-  // Whoever a row's process becomes can read what was made beforehand.
+  // The ordinary user of a row can read what was made before.
   umask(S_IWGRP | S_IWOTH);
   bool right = CheckOutput();
   for (const auto& act : AllActs()) right = CheckAct(act) && right;

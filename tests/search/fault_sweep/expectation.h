@@ -1,4 +1,4 @@
-// What a transfer that meets one fault must come to, told from the conversation alone.
+// How a transfer with one fault must end, derived from the conversation alone.
 #pragma once
 
 #include <array>
@@ -7,43 +7,50 @@
 #include <string_view>
 
 #include "firmware/firmware_id.h"
+#include "support/box_texts.h"
+#include "support/control_characters.h"
 
 namespace ovl::testing {
 
-// What the boxes say, and the system's reason for a device that is gone.
-inline constexpr const char* kFailBox =
-    "                            !!! Remote Connection Fail. !!!\n"
-    "Cable Disconnected Or Communication Setting Wrong ,Try Again";
-inline constexpr const char* kParityBox = "Check Parity and Data Bit Setting that Same OVL ,Try again !!!";
-inline constexpr const char* kForeignBox =
-    "The Ovalon Version is not compatible !!!\n       Try with the same version again.";
-inline constexpr const char* kBrokenBox =
-    "                System File Error. \nPlease ReInstall Ovalon PC Software !!";
-inline constexpr const char* kScanBox = "No Response From The Device";
-inline constexpr const char* kNoDevice = "No such device";
-inline constexpr const char* kSendBox = "                       No such device";
-
-// From a character on the unit says nothing, the transmitter never runs empty again, or the device is gone;
-// the character itself is dropped, doubled, or one bit of it turned; behind it a "?" comes in, a NAK, an ACK,
-// or "Disconnect" is pressed, or that and a baud scan.
-enum class Fault { kSilence, kStall, kLost, kDropped, kDoubled, kGarbled, kBad, kNak, kAck, kHangUp, kScan };
+enum class Fault {
+  // From this character on:
+  kSilence,  // the unit sends nothing
+  kStall,    // the transmitter never becomes empty
+  kLost,     // the device is gone
+  // This character is:
+  kDropped,
+  kDoubled,
+  kGarbled,  // one bit is changed
+  // After this character:
+  kQuestionMark,  // "?" is received
+  kNakReceived,
+  kAckReceived,
+  kDisconnect,  // "Disconnect" is clicked
+  kScan,        // "Disconnect" is clicked and a baud scan follows
+};
 inline constexpr std::array kFaultNames = {"silence",    "stalled",    "port lost",    "dropped",
                                            "doubled",    "garbled",    "\"?\" put in", "NAK put in",
                                            "ACK put in", "Disconnect", "Baudrate Scan"};
 
-// The closing window; the same with a stream that does not fit; a stream without its end ends the program;
-// the watchdog closes the port, or a "?" does; Disconnect; a download stream without a time-out.
-enum class Ending { kDone, kForeign, kBrokenFile, kTimeOut, kParity, kHungUp, kStandsStill };
-inline constexpr std::array kEndingNames = {"completed",           "incompatible", "program ended",
-                                            "silence told",        "parity told",  "disconnected",
+enum class Ending {
+  kDone,          // the window at the end of a transfer
+  kForeign,       // the same window, but the stream does not fit the firmware
+  kBrokenFile,    // a stream without its end ends the program
+  kTimeOut,       // the watchdog closes the port
+  kParity,        // a "?" closes the port
+  kDisconnected,  // by the user
+  kWaits,         // a download stream has no time-out
+};
+inline constexpr std::array kEndingNames = {"completed",           "incompatible",    "program ended",
+                                            "silence reported",    "parity reported", "disconnected",
                                             "waits for Disconnect"};
 
 struct Expectation {
   Ending ending = Ending::kDone;
-  std::string stored{};        // what upload.bin then holds without its line end; empty: as it was
-  std::string left{};          // an upload's text that stands ahead of the next
-  bool send_failure = false;   // told before the ending
-  bool parity_behind = false;  // a "?" behind the closing window
+  std::string stored{};       // upload.bin afterwards, without its line end; empty: unchanged
+  std::string left{};         // the part of an upload that remains ahead of the next upload
+  bool send_failure = false;  // a message box about it comes before the ending
+  bool late_parity = false;   // a "?" comes after the window at the end
 };
 
 struct Conversation {
@@ -51,22 +58,25 @@ struct Conversation {
   bool upload = false;
   std::string stream;
 
-  // The command, for a download the acknowledgement, the stream, and a download's final acknowledgement.
+  // The characters of the command and the stream; a download has two acknowledgements more.
   std::size_t Length() const { return stream.size() + (upload ? 4 : 6); }
 };
 
-// What a fault puts in behind the character.
-constexpr std::string_view PutIn(Fault fault) {
-  return fault == Fault::kBad ? "?" : fault == Fault::kNak ? "\x15" : fault == Fault::kAck ? "\x06" : "";
+// What the fault inserts after the character.
+constexpr std::string_view Inserted(Fault fault) {
+  return fault == Fault::kQuestionMark  ? "?"
+         : fault == Fault::kNakReceived ? kNak
+         : fault == Fault::kAckReceived ? kAck
+                                        : "";
 }
 
-// The bit that a garbled character loses or gains.
+// The bit that changes in a garbled character.
 constexpr unsigned GarbleAt(std::size_t at) {
   return 1U << (at % 7);
 }
 
-// How a stream is taken: completely, not at all, or as a broken file.
-Ending Judge(const firmware::FirmwareId& firmware, std::string_view text);
+// How the load of a stream ends: kDone, kForeign or kBrokenFile.
+Ending EndingOfLoad(const firmware::FirmwareId& firmware, std::string_view text);
 
 Expectation Expect(const Conversation& talk, std::size_t at, Fault fault);
 

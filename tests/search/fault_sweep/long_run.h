@@ -1,4 +1,4 @@
-// What the programs that search at random or point by point have in common.
+// What the search programs have in common.
 #pragma once
 
 #include <chrono>
@@ -10,16 +10,16 @@
 
 namespace ovl::testing {
 
-// The firmware that differ in how a stream is marked, cut and taken.
-inline const std::vector<firmware::FirmwareId> kUnlike = {
+// One firmware for each form of stream that the link treats differently.
+inline const std::vector<firmware::FirmwareId> kStreamForms = {
     {"V1400", "R12"}, {"V1400", "R4"}, {"V1300", "R14"}, {"V1334", "R1"}};
 
-// The number at a place of the command line.
+// The number at a place of the command line, or the default.
 inline long NumberIn(int count, char** words, int at, long otherwise) {
   return at < count ? std::atol(words[at]) : otherwise;
 }
 
-// The shortest part of a sequence that still fails; all of it, if it does not fail again.
+// The shortest part of a sequence that still fails, or all of it if it does not fail again.
 template <class Steps, class Fails>
 Steps Shortest(Steps steps, const Fails& fails) {
   if (!fails(steps)) return steps;
@@ -40,7 +40,7 @@ Steps Shortest(Steps steps, const Fails& fails) {
 
 class StopWatch {
  public:
-  std::string Told() const {
+  std::string Text() const {
     const auto since = std::chrono::steady_clock::now() - start_;
     return std::to_string(std::chrono::duration_cast<std::chrono::seconds>(since).count()) + " s";
   }

@@ -1,5 +1,5 @@
-// One fault at every character of an upload and of a download, and what becomes of it.
-//   ovl-campaign [EVERY]     with EVERY only each so many-th point
+// Puts one fault at every character of an upload and of a download, and checks how the transfer ends.
+//   ovl-fault-sweep [STEP]     checks only each STEP-th point
 #include <iostream>
 #include <map>
 #include <memory>
@@ -8,7 +8,7 @@
 #include "image/record_stream.h"
 #include "search/fault_sweep/expectation.h"
 #include "search/fault_sweep/long_run.h"
-#include "support/site.h"
+#include "support/program_with_unit.h"
 #include "support/state_table.h"
 
 namespace ovl::testing {
@@ -20,37 +20,39 @@ using enum Ending;
 constexpr std::size_t kCommandLength = 4;
 constexpr int kLongSilence = 8000, kWholeScan = 12000;
 
-// A program at its site, beside one to which the texts that the first took in are sent without a fault.
-class Campaign {
+// A transfer with a fault. A second program receives the same text without a fault, for comparison.
+class FaultyTransfer {
  public:
-  Campaign(const firmware::FirmwareId& firmware, bool upload) : talk_{firmware, upload, {}} { Restart(); }
+  FaultyTransfer(const firmware::FirmwareId& firmware, bool upload) : talk_{firmware, upload, {}} {
+    Restart();
+  }
 
   std::size_t Length() const { return talk_.Length(); }
 
-  // What is wrong after the fault at this character; empty: nothing.
-  std::string Meet(std::size_t at, Fault fault) {
-    if (site_->app.ended) Restart();
+  // Returns what is wrong after the fault at this character, or an empty text.
+  std::string Check(std::size_t at, Fault fault) {
+    if (program_->app.ended) Restart();
     wrong_.clear();
     expected_ = Expect(talk_, at, fault);
-    const auto before = site_->app.image;
+    const auto before = program_->app.image;
     const auto file_before = UploadFile();
     Inject(at, fault);
     CheckBoxes(fault);
     CheckFiles(before, file_before);
-    const bool unharmed = fault < kLost || fault > kGarbled;
-    if (!talk_.upload && at >= kCommandLength && unharmed && expected_.ending == kDone)
-      Want(site_->taken == talk_.stream, "the unit's stream");
+    const bool whole = fault < kLost || fault > kGarbled;
+    if (!talk_.upload && at >= kCommandLength && whole && expected_.ending == kDone)
+      Want(program_->taken == talk_.stream, "the unit's stream");
     if (expected_.ending == kBrokenFile) {
-      Want(site_->app.ended, "the program goes on");
+      Want(program_->app.ended, "the program goes on");
       return wrong_;
     }
     CheckState(fault);
-    WayBack(fault);
+    CheckReturn(fault);
     NextTransfers();
     return wrong_;
   }
-  std::string Reached() const {
-    const bool later = site_->app.ended && expected_.ending != kBrokenFile;
+  std::string EndingName() const {
+    const bool later = program_->app.ended && expected_.ending != kBrokenFile;
     return std::string(kEndingNames.at(static_cast<std::size_t>(expected_.ending))) +
            (later ? ", its repetition ends the program" : "");
   }
@@ -60,66 +62,66 @@ class Campaign {
     if (!met) wrong_.append(wrong_.empty() ? "" : "; ").append(what);
   }
   void ExpectIn(State state) {
-    const auto difference = DifferenceFrom(state, site_->app);
+    const auto difference = DifferenceFrom(state, program_->app);
     Want(difference.empty(), "not " + std::string(NameOf(state)) + ": " + difference);
   }
   void ExpectFile(const std::string& text, const char* when) {
     Want(UploadFile() == text, std::string("upload.bin ") + when);
   }
   std::string UploadFile() const {
-    const auto path = site_->folder.File(talk_.firmware.version + "/upload.bin");
+    const auto path = program_->folder.File(talk_.firmware.version + "/upload.bin");
     return std::filesystem::exists(path) ? ReadFile(path) : std::string();
   }
 
   void Restart() {
-    site_ = std::make_unique<Site>(talk_.firmware);
-    twin_ = std::make_unique<Site>(talk_.firmware);
+    program_ = std::make_unique<ProgramWithUnit>(talk_.firmware);
+    reference_ = std::make_unique<ProgramWithUnit>(talk_.firmware);
     talk_.stream = PatternStream(talk_.firmware);
-    Choose();
-    site_->Hold();
+    ChangeStream();
+    program_->EnterRemoteMode();
     ExpectIn(State::kHeld);
   }
-  // The next stream to be uploaded, other than the last.
-  void Choose() {
+  // Gives the unit another stream than before an upload.
+  void ChangeStream() {
     if (!talk_.upload) return;
     seed_ = seed_ % 3 + 2;
     talk_.stream = PatternStream(talk_.firmware, seed_);
-    site_->configuration = talk_.stream + "\r\n";
+    program_->configuration = talk_.stream + "\r\n";
   }
-  void Begin(Site& site) const { site.Click(talk_.upload ? "CmdUpDow(0)" : "CmdUpDow(1)"); }
+  void Begin(ProgramWithUnit& program) const { program.Click(talk_.upload ? "CmdUpDow(0)" : "CmdUpDow(1)"); }
 
   void Inject(std::size_t at, Fault fault) {
-    Begin(*site_);
+    Begin(*program_);
     for (std::size_t passed = 0; passed < at; ++passed)
-      Want(site_->Character(), "the conversation stands still");
+      Want(program_->Character(), "the conversation stops too early");
     ExpectIn(talk_.upload                                 ? State::kUploading
              : at <= kCommandLength                       ? State::kDownloadCommand
              : at <= talk_.stream.size() + kCommandLength ? State::kDownloadStream
                                                           : State::kTransferDone);
-    site_->Character(fault == kDropped   ? Site::Passing::kDropped
-                     : fault == kDoubled ? Site::Passing::kDoubled
-                     : fault == kGarbled ? Site::Passing::kGarbled
-                                         : Site::Passing::kWhole,
-                     GarbleAt(at));
-    if (fault == kSilence) site_->Silence();
-    if (fault == kStall) site_->Stall();
-    if (fault == kLost) site_->Lose();
-    site_->Unit(PutIn(fault));
-    if (fault >= kHangUp) {
-      const bool done = site_->Click("cmdDisConnect") == core::Outcome::kDone;
-      Want(done == (expected_.ending == kHungUp), "Disconnect");
+    program_->Character(fault == kDropped   ? ProgramWithUnit::Passing::kDropped
+                        : fault == kDoubled ? ProgramWithUnit::Passing::kDoubled
+                        : fault == kGarbled ? ProgramWithUnit::Passing::kGarbled
+                                            : ProgramWithUnit::Passing::kWhole,
+                        GarbleAt(at));
+    if (fault == kSilence) program_->Silence();
+    if (fault == kStall) program_->Stall();
+    if (fault == kLost) program_->Lose();
+    program_->Unit(Inserted(fault));
+    if (fault >= kDisconnect) {
+      const bool done = program_->Click("cmdDisConnect") == core::Outcome::kDone;
+      Want(done == (expected_.ending == kDisconnected), "Disconnect");
     }
-    site_->UntilQuiet();
+    program_->UntilQuiet();
     if (fault == kScan) Scan();
-    site_->UntilQuiet();
-    site_->Live(kLongSilence);
-    site_->Mend();
+    program_->UntilQuiet();
+    program_->Live(kLongSilence);
+    program_->Mend();
   }
   void Scan() {
     for (const auto* button : {"frmOK_buttom.Command1", "cmdDisConnect", "cmdConnect", "BaudrateCMD"})
-      site_->Click(button);
+      program_->Click(button);
     ExpectIn(State::kScanning);
-    site_->Live(kWholeScan);
+    program_->Live(kWholeScan);
   }
 
   void CheckBoxes(Fault fault) {
@@ -128,47 +130,47 @@ class Campaign {
                                                   {ending == kForeign, kForeignBox},
                                                   {ending == kBrokenFile, kBrokenBox},
                                                   {ending == kTimeOut, kFailBox},
-                                                  {ending == kParity || expected_.parity_behind, kParityBox},
+                                                  {ending == kParity || expected_.late_parity, kParityBox},
                                                   {fault == kScan && ending != kBrokenFile, kScanBox}};
-    for (const auto& [due, text] : boxes) Want(!due || site_->TakeBox().text == text, "box");
-    Want(site_->NoBoxLeft(), "a box too many");
-    site_->boxes.clear();
+    for (const auto& [due, text] : boxes) Want(!due || program_->TakeBox().text == text, "box");
+    Want(program_->NoBoxLeft(), "one box too many");
+    program_->boxes.clear();
   }
 
   void CheckFiles(const image::ConfigImage& before, const std::string& file_before) {
     ExpectFile(expected_.stored.empty() ? file_before : expected_.stored + "\r\n", "");
     if (talk_.upload && expected_.ending == kDone) {
-      ExpectTwin(expected_.stored);
+      ExpectReference(expected_.stored);
     } else {
-      Want(site_->app.image == before, "the image has changed");
+      Want(program_->app.image == before, "the image has changed");
     }
-    Want(site_->app.StreamBuffer == expected_.left, "what stands ahead of the next upload");
-    Want((site_->app.FrameState == 1) == !expected_.left.empty(), "FrameState");
+    Want(program_->app.StreamBuffer == expected_.left, "the rest ahead of the next upload");
+    Want((program_->app.FrameState == 1) == !expected_.left.empty(), "FrameState");
   }
-  void ExpectTwin(const std::string& text) {
-    if (text == talk_.stream) Want(core::SectionsToStream(site_->app) == text, "not the stream's image");
-    twin_->configuration = text;
-    twin_->Hold();
-    Begin(*twin_);
-    twin_->UntilQuiet();
-    twin_->Click("frmOK_buttom.Command1");
-    twin_->Click("cmdDisConnect");
-    Want(site_->app.image == twin_->app.image, "not the image of the same text without a fault");
+  void ExpectReference(const std::string& text) {
+    if (text == talk_.stream) Want(core::SectionsToStream(program_->app) == text, "not the stream's image");
+    reference_->configuration = text;
+    reference_->EnterRemoteMode();
+    Begin(*reference_);
+    reference_->UntilQuiet();
+    reference_->Click("frmOK_buttom.Command1");
+    reference_->Click("cmdDisConnect");
+    Want(program_->app.image == reference_->app.image, "not the image of the same text without a fault");
   }
 
   void CheckState(Fault fault) {
-    const auto& app = site_->app;
+    const auto& app = program_->app;
     const auto ending = expected_.ending;
-    const bool still = ending == kStandsStill;
+    const bool still = ending == kWaits;
     const bool window = (ending == kDone || ending == kForeign) && fault != kScan;
-    ExpectIn(still                                ? State::kDownloadStream
-             : window && !expected_.parity_behind ? State::kTransferDone
-                                                  : State::kClosed);
+    ExpectIn(still                              ? State::kDownloadStream
+             : window && !expected_.late_parity ? State::kTransferDone
+                                                : State::kClosed);
     Want(app.frmOK_buttom.form.visible == window, "closing window");
-    const auto* told = ending == kForeign ? "Upload Incompleted."
+    const auto* text = ending == kForeign ? "Upload Incompleted."
                        : talk_.upload     ? "Upload Completed."
                                           : "Download Completed.";
-    Want(!window || app.frmOK_buttom.Label1.caption == told, "its text");
+    Want(!window || app.frmOK_buttom.Label1.caption == text, "its text");
     const bool shown = still || ending == kTimeOut || ending == kParity;
     Want(app.frmMain.vbalProgressBar1.visible == shown, "progress bar");
     Want(app.frmMain.Label64[talk_.upload ? 1 : 0].visible == shown, "its label");
@@ -177,96 +179,96 @@ class Campaign {
     Want(app.PanelsReady && !app.UploadApplying, "panels");
   }
 
-  void WayBack(Fault fault) {
-    auto& app = site_->app;
+  void CheckReturn(Fault fault) {
+    auto& app = program_->app;
     if (app.frmOK_buttom.form.visible) {
-      site_->Click("frmOK_buttom.Command1");
-      ExpectIn(expected_.parity_behind ? State::kClosed : State::kOpen);
+      program_->Click("frmOK_buttom.Command1");
+      ExpectIn(expected_.late_parity ? State::kClosed : State::kOpen);
     }
     if (app.frmMain.MSComm1.PortOpen) {
       Want(fault != kScan, "open after a scan");
-      Want(site_->Click("cmdDisConnect") == core::Outcome::kDone, "Disconnect");
+      Want(program_->Click("cmdDisConnect") == core::Outcome::kDone, "Disconnect");
       ExpectIn(State::kClosed);
     }
-    Want(app.frmMain.form.enabled, "frmMain is held back");
-    site_->Live(1);
+    Want(app.frmMain.form.enabled, "frmMain is disabled");
+    program_->Live(1);
   }
 
-  // The next one, behind what a broken one left, and after that a clean one.
+  // The next transfer, after the rest of a broken one, and then a clean one.
   void NextTransfers() {
     if (!expected_.left.empty()) {
       const auto left = expected_.left;
-      Choose();
+      ChangeStream();
       Transfer(left + talk_.stream);
-      if (site_->app.ended || !wrong_.empty()) return;
-      site_->Click("cmdDisConnect");
+      if (program_->app.ended || !wrong_.empty()) return;
+      program_->Click("cmdDisConnect");
     }
-    Choose();
+    ChangeStream();
     Transfer(talk_.stream);
   }
   void Transfer(const std::string& stored) {
-    site_->Hold();
+    program_->EnterRemoteMode();
     ExpectIn(State::kHeld);
-    Begin(*site_);
-    site_->UntilQuiet();
+    Begin(*program_);
+    program_->UntilQuiet();
     if (talk_.upload) ExpectFile(stored + "\r\n", "of the next transfer");
-    if (talk_.upload && Judge(talk_.firmware, stored) == kBrokenFile)
-      return Want(site_->TakeBox().text == kBrokenBox && site_->app.ended, "a broken file");
+    if (talk_.upload && EndingOfLoad(talk_.firmware, stored) == kBrokenFile)
+      return Want(program_->TakeBox().text == kBrokenBox && program_->app.ended, "a broken file");
     ExpectIn(State::kTransferDone);
-    Want(site_->NoBoxLeft(), "a box in the next transfer");
+    Want(program_->NoBoxLeft(), "a box in the next transfer");
     if (talk_.upload) {
-      ExpectTwin(stored);
+      ExpectReference(stored);
     } else {
-      Want(site_->taken == talk_.stream, "the unit's stream");
-      Want(!site_->app.FinalAckExpected, "the final acknowledgement");
+      Want(program_->taken == talk_.stream, "the unit's stream");
+      Want(!program_->app.FinalAckExpected, "the final acknowledgement");
     }
-    site_->Click("frmOK_buttom.Command1");
+    program_->Click("frmOK_buttom.Command1");
     ExpectIn(State::kOpen);
-    site_->Click("CmdUpDow(4)");
-    site_->Live(400);
+    program_->Click("CmdUpDow(4)");
+    program_->Live(400);
     ExpectIn(State::kHeld);
   }
 
   Conversation talk_;
-  std::unique_ptr<Site> site_, twin_;
+  std::unique_ptr<ProgramWithUnit> program_, reference_;
   Expectation expected_;
   std::string wrong_;
   int seed_ = 2;
 };
 
 struct Totals {
-  std::map<std::pair<Fault, std::string>, int> led_to;
+  std::map<std::pair<Fault, std::string>, int> endings;
   std::size_t points = 0, wrong = 0;
 };
 
-void Run(const firmware::FirmwareId& firmware, bool upload, std::size_t every, Totals& totals) {
-  auto campaign = std::make_unique<Campaign>(firmware, upload);
+void Run(const firmware::FirmwareId& firmware, bool upload, std::size_t step, Totals& totals) {
+  auto transfer = std::make_unique<FaultyTransfer>(firmware, upload);
   constexpr std::size_t kShown = 20, kFaults = kFaultNames.size();
-  for (auto point = totals.points % every; point < campaign->Length() * kFaults; point += every) {
+  for (auto point = totals.points % step; point < transfer->Length() * kFaults; point += step) {
     const auto fault = static_cast<Fault>(point % kFaults);
-    const auto wrong = campaign->Meet(point / kFaults, fault);
+    const auto wrong = transfer->Check(point / kFaults, fault);
     ++totals.points;
-    ++totals.led_to[{fault, campaign->Reached()}];
+    ++totals.endings[{fault, transfer->EndingName()}];
     if (wrong.empty()) continue;
     if (++totals.wrong <= kShown) {
       std::cout << firmware.Joined() << (upload ? " upload" : " download") << " character " << point / kFaults
                 << ' ' << kFaultNames.at(point % kFaults) << ": " << wrong << std::endl;
     }
-    campaign = std::make_unique<Campaign>(firmware, upload);
+    transfer = std::make_unique<FaultyTransfer>(firmware, upload);
   }
 }
 
-int RunAll(std::size_t every) {
+int RunAll(std::size_t step) {
   const StopWatch watch;
   Totals totals;
-  for (const auto& firmware : kUnlike) {
-    for (const bool upload : {true, false}) Run(firmware, upload, every, totals);
+  for (const auto& firmware : kStreamForms) {
+    for (const bool upload : {true, false}) Run(firmware, upload, step, totals);
   }
-  for (const auto& [what, count] : totals.led_to) {
+  for (const auto& [what, count] : totals.endings) {
     const auto& [fault, ending] = what;
     std::cout << kFaultNames.at(static_cast<std::size_t>(fault)) << ": " << ending << ' ' << count << '\n';
   }
-  std::cout << totals.points << " points, " << totals.wrong << " wrong, " << watch.Told() << '\n';
+  std::cout << totals.points << " points, " << totals.wrong << " wrong, " << watch.Text() << '\n';
   return totals.wrong == 0 && totals.points > 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
@@ -274,6 +276,6 @@ int RunAll(std::size_t every) {
 }  // namespace ovl::testing
 
 int main(int count, char** words) {
-  const auto every = ovl::testing::NumberIn(count, words, 1, 1);
-  return ovl::testing::RunAll(every < 1 ? 1 : static_cast<std::size_t>(every));
+  const auto step = ovl::testing::NumberIn(count, words, 1, 1);
+  return ovl::testing::RunAll(step < 1 ? 1 : static_cast<std::size_t>(step));
 }

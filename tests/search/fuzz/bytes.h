@@ -1,4 +1,4 @@
-// What a fuzzer's input is taken apart with, and how it says what does not hold.
+// Reads the input of a fuzzer, and reports a failed check.
 #pragma once
 
 #include <algorithm>
@@ -14,14 +14,14 @@ class Bytes {
   Bytes(const std::uint8_t* data, std::size_t size) : rest_(reinterpret_cast<const char*>(data), size) {}
 
   bool Empty() const { return rest_.empty(); }
-  // 0 when all are used up.
+  // Returns 0 at the end of the input.
   std::uint8_t Next() {
     if (rest_.empty()) return 0;
     const auto byte = static_cast<std::uint8_t>(rest_.front());
     rest_.remove_prefix(1);
     return byte;
   }
-  // As far as a NUL, or all.
+  // The text up to a NUL, or the rest.
   std::string_view NextText() {
     const auto text = rest_.substr(0, rest_.find('\0'));
     rest_.remove_prefix(std::min(text.size() + 1, rest_.size()));
@@ -33,7 +33,7 @@ class Bytes {
   std::string_view rest_;
 };
 
-// True for one input in so many, by its content: for what takes a hundred times as long as the rest.
+// True for one of `count` inputs, depending on the content: for events that take much longer than others.
 inline bool OneIn(unsigned count, std::string_view input) {
   unsigned sum = 0;
   for (const char byte : input) sum = sum * 31U + static_cast<unsigned char>(byte);

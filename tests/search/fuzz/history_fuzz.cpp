@@ -1,5 +1,5 @@
-// Any bytes as a history file: what the viewer shows of it, and what a history that holds the same text looks
-// like when it was saved and opened again.
+// Any bytes are a history file that the viewer opens. The same text is also a history of the unit that is
+// saved and opened again.
 #include "bytes.h"
 #include "core/actions.h"
 #include "files/history.h"
@@ -10,7 +10,7 @@ namespace {
 
 using ovl::fuzz::Require;
 
-// The lines of a history, told apart from the program's own reader: CR LF or CR ends one.
+// The lines of a history, read without the code of the program: CR LF or CR ends a line.
 std::string Shown(std::string_view bytes) {
   std::string text;
   for (std::size_t place = 0; place < bytes.size(); ++place) {

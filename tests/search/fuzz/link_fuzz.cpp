@@ -1,12 +1,12 @@
-// A conversation with the firmware that the first byte chooses: every further byte is a received character,
-// or an event of another kind, for the program and for the table of rules.
+// The first byte chooses a firmware. Each further byte is a received character or another event, for the
+// program and for the reference model.
 #include <deque>
 #include <tuple>
 #include <utility>
 
 #include "bytes.h"
 #include "search/fault_sweep/long_run.h"
-#include "search/reference_model/pair.h"
+#include "search/reference_model/comparison.h"
 
 namespace {
 
@@ -14,10 +14,10 @@ using namespace ovl::testing;
 using ovl::fuzz::Bytes;
 using ovl::fuzz::Require;
 
-// All that an event can change, to begin every run from there: making a program anew takes a hundred times as
-// long. Controls refer to one another by address, so a state goes back only to the application that it was
-// taken from.
-auto controls::StateOf(ovl::core::Application& app) {
+// Everything that an event can change. Each run starts from this state, because a new program takes a hundred
+// times as long. Controls hold addresses of each other, so a state fits only the application that it comes
+// from.
+auto EventState(ovl::core::Application& app) {
   return std::tie(
       app.frmMain, app.frmSettSR, app.frmScanBProgress, app.frmOK_buttom, app.frmMicros, app.FrmSubMenu,
       app.frmView, app.frmSetEXCPSTR, app.frmSetRange, app.firmware, app.capabilities, app.FirmwareMark,
@@ -38,18 +38,18 @@ std::tuple<Member...> ValuesOf(const std::tuple<Member&...>& members) {
   return members;
 }
 
-// A whole stream takes a hundred times as long as the rest, so only one input in so many has one.
+// A whole stream takes a hundred times as long as other events, so only one of 32 inputs may contain it.
 constexpr unsigned kRarely = 32;
 
-// The bytes behind those of the characters are the table's events.
+// The highest bytes are the events of the model.
 constexpr std::size_t kFirstEvent = 0x100 - std::size(kLinkEvents);
 constexpr LinkEvent kAnyCharacter = *std::ranges::find(kLinkEvents, kCharacter, &LinkEvent::kind);
 
-class Fuzzed : Pair {
+class Fuzzed : Comparison {
  public:
-  explicit Fuzzed(const ovl::firmware::FirmwareId& firmware) : Pair(firmware) {
-    start_ = ValuesOf(controls::StateOf(program_.app));
-    start_of_table_ = link_;
+  explicit Fuzzed(const ovl::firmware::FirmwareId& firmware) : Comparison(firmware) {
+    start_ = ValuesOf(EventState(program_.app));
+    start_of_model_ = link_;
   }
 
   void Run(Bytes input) {
@@ -69,8 +69,8 @@ class Fuzzed : Pair {
  private:
   void Reset() {
     program_.app.platform.serial.close();
-    controls::StateOf(program_.app) = start_;
-    link_ = start_of_table_;
+    EventState(program_.app) = start_;
+    link_ = start_of_model_;
     uploaded_ = false;
     program_.dialogs.clear();
     program_.file_answers.clear();
@@ -79,14 +79,14 @@ class Fuzzed : Pair {
     program_.line_error.reset();
   }
 
-  decltype(ValuesOf(controls::StateOf(std::declval<ovl::core::Application&>()))) start_;
-  Link start_of_table_;
+  decltype(ValuesOf(EventState(std::declval<ovl::core::Application&>()))) start_;
+  LinkModel start_of_model_;
 };
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static std::deque<Fuzzed> pairs(kUnlike.begin(), kUnlike.end());
+  static std::deque<Fuzzed> pairs(kStreamForms.begin(), kStreamForms.end());
   Bytes input(data, size);
   pairs[input.Next() % pairs.size()].Run(input);
   return 0;

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Builds the fuzzers, shares SECONDS among them and prints runs, coverage and findings of each. What it found
-# stays in build/fuzz/findings, what covers something new in build/fuzz/corpus, where the next run goes on.
-# Names of targets behind the seconds run these alone.
+# Builds the fuzzers, divides SECONDS among them and prints runs, coverage and findings of each. Findings are in
+# build/fuzz/findings. Inputs that cover something new are in build/fuzz/corpus, where the next run continues.
+# With names of targets after the seconds only these run.
 set -euo pipefail
 cd "$(dirname "$0")/../../.."
 seconds=${1:?"Usage: tests/search/fuzz/run.sh SECONDS [TARGET]..."}
@@ -39,7 +39,7 @@ for target in "${targets[@]}"; do
   speed=$(sed -n 's/^stat::average_exec_per_sec: *//p' "$log")
   coverage=$(sed -n 's/.* cov: \([0-9]*\) .*/\1/p' "$log" | tail -n 1)
   new=0
-  # A target ends at what it finds first. Whoever stops one has found nothing.
+  # A target ends at its first finding. An interrupted one has found nothing.
   if [ "$status" -ne 0 ] && ! grep -q 'run interrupted' "$log"; then
     new=1
     cp "$log" "$findings/$target.log"

@@ -1,4 +1,4 @@
-// Any text as a script, run in a folder of its own on the simulated line.
+// Any text is a script that runs in a folder of its own with the simulated serial port.
 #include <algorithm>
 #include <filesystem>
 #include <sstream>
@@ -15,13 +15,13 @@ using ovl::script::Word;
 
 namespace fs = std::filesystem;
 
-// How often, and how long: more takes too long and shows nothing new.
+// Limits of a script: more takes too long and finds nothing new.
 constexpr std::size_t kLongestNumber = 3;
 
-// A script that starts the program is run this seldom; the others are taken apart only.
+// Few of the scripts that start the program run. The others are only parsed.
 constexpr unsigned kRarely = 8;
 
-// Statements that would touch the machine, and numbers that keep a statement busy.
+// Statements that would change the computer, and numbers that take too long.
 bool IsHarmless(const std::vector<Word>& words) {
   const bool of_machine = words.front().text == "store" || words.front().text == "port";
   return std::ranges::none_of(words, [&](const Word& word) {
@@ -72,7 +72,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto status = RunScript(session, input, "script", errors);
     Require((status == ovl::script::ExitStatus::kDone) == errors.str().empty(), "a failure has its reason");
   }
-  // What scripts wrote; the images stay.
+  // Removes what scripts wrote. The images stay.
   for (const auto& entry : fs::directory_iterator(site.folder.Path())) {
     if (!entry.is_directory()) fs::remove(entry.path());
   }

@@ -1,5 +1,6 @@
-// Writes what the fuzzers begin with: fuzz_seeds FOLDER makes a folder of inputs for each target, and the
-// words of the script's language as a dictionary.
+// Writes the first inputs of the fuzzers: a folder for each target, and the words of the script language as a
+// dictionary.
+//   fuzz_seeds FOLDER
 #include <filesystem>
 #include <stdexcept>
 
@@ -41,7 +42,7 @@ Inputs OfStream() {
   return seeds;
 }
 
-// The bytes from 0xDE on are the events of the link's table.
+// The bytes from 0xDE on are the events of the reference model.
 Inputs OfLink() {
   Inputs seeds;
   const auto held = "\xE4\xE6\xDE\x06\xED"s;
@@ -83,7 +84,7 @@ Inputs OfScript() {
   return seeds;
 }
 
-// The words of the script's language.
+// The words of the script language.
 std::string Dictionary() {
   std::string words;
   const auto add = [&](std::string_view word) { words.append("\"").append(word).append("\"\n"); };

@@ -1,5 +1,5 @@
-// Settings values. The first byte chooses: what the catalogue makes of a version and a release, a whole start
-// with them, or any bytes as the store's file.
+// The first byte chooses: the register list of any version and release, a whole start with them, or any bytes
+// as the settings file.
 #include <QFile>
 
 #include "bytes.h"

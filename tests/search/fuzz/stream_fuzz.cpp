@@ -1,10 +1,11 @@
-// Texts as record streams under every firmware: any text, or the firmware's own stream with changes to it.
-// The first byte chooses the firmware, the second what is done.
+// Any text, or a changed stream of the firmware, is loaded as a record stream. The first byte chooses the
+// firmware, the second one the kind of test.
 #include "bytes.h"
 #include "core/configuration.h"
 #include "core/gate.h"
 #include "firmware/firmware_table.h"
 #include "image/record_stream.h"
+#include "support/firmware_facts.h"
 #include "support/harness.h"
 
 namespace {
@@ -19,7 +20,7 @@ struct Served {
   std::string stream;
 };
 
-// As it comes out of a file: without the line ends. A lone LF is none.
+// The text of a file without its line ends. An LF alone is no line end.
 std::string Joined(std::string_view stream) {
   std::string joined;
   for (std::size_t at = 0; at < stream.size(); ++at) {
@@ -39,7 +40,7 @@ std::vector<Served> AllServed() {
   return all;
 }
 
-// Every four bytes put something in the place of a piece of the stream: place, length, character.
+// Every four bytes replace a part of the stream: place, length, character.
 std::string Changed(std::string text, Bytes input) {
   while (!input.Empty()) {
     const std::size_t place = (input.Next() * 256U + input.Next()) % (text.size() + 1);
@@ -49,7 +50,7 @@ std::string Changed(std::string text, Bytes input) {
   return text;
 }
 
-// What a register's default image brings in leaves all other fields alone.
+// The default image of a register does not change the other fields.
 void CheckKept(const ovl::image::ConfigImage& before, const ovl::image::ConfigImage& after) {
   for (const auto& row : ovl::image::FieldTable()) {
     const bool taken = row.is_default || !row.sentinel.empty() || row.id == ovl::image::FieldId::BLNKRTS_BAK;
@@ -58,11 +59,11 @@ void CheckKept(const ovl::image::ConfigImage& before, const ovl::image::ConfigIm
   }
 }
 
-// An image that came in complete goes out and comes in again as it was.
+// A complete image is written and read back unchanged.
 void CheckRoundTrip(ovl::core::Application& app) {
   std::string digits;
   ovl::image::ParseRecords(app.StreamText, ovl::image::ReadRegion(app.firmware), digits);
-  if (digits.size() != ovl::testing::DigitsOfImage(app.firmware)) return;
+  if (digits.size() != ovl::testing::FactsOf(app.firmware).stream.digits) return;
   const auto sent = ovl::core::SectionsToStream(app);
   Require(ovl::core::LoadStream(app, Joined(sent)), "what was composed loads");
   Require(ovl::core::SectionsToStream(app) == sent, "what was loaded composes to the same");

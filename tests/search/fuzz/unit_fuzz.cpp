@@ -1,4 +1,4 @@
-// What the unit hears and reads. The first byte chooses: a conversation in simulated time, a stream from a
+// Input for the unit in software. The first byte chooses: a conversation in simulated time, a stream from a
 // file, or a command line.
 #include <algorithm>
 #include <array>
@@ -19,13 +19,13 @@ using ovl::fuzz::Require;
 
 constexpr unsigned kCommandLine = 0xFF, kFile = 0xFE;
 
-// Bytes of a conversation that are none of its characters.
+// Bytes of a conversation that are not characters.
 constexpr unsigned kTimePasses = 0xFF, kWholeStream = 0xFE, kRequest = 0xFD;
 
-// A whole stream takes a hundred times as long as the rest, so only one input in so many has one.
+// A whole stream takes a hundred times as long as other input, so only one of 8 inputs may contain it.
 constexpr unsigned kRarely = 8;
 
-// A unit that is left alone is looked at this often until it is at rest.
+// The steps in which the time passes until the unit is idle.
 constexpr unit::Time kStep = std::chrono::milliseconds(200);
 constexpr int kMostSteps = 1000;
 
@@ -73,7 +73,7 @@ class Conversation {
     unit_.Advance(now_);
   }
 
-  // Until it has nothing more to do: a tool that is gone holds nothing for ever.
+  // The unit must become idle, even if the other side disappears.
   void FallAsleep() {
     int steps = 0;
     for (auto due = unit_.NextDue(); due; due = unit_.NextDue()) {
@@ -96,14 +96,14 @@ class Conversation {
   }
 
   unit::Surroundings MakeSurroundings() {
-    const auto tell = [](const std::string& text) {
-      for (const char c : text) Require(c >= ' ' && c <= '~', "what is told can be read");
+    const auto expect_readable = [](const std::string& text) {
+      for (const char c : text) Require(c >= ' ' && c <= '~', "complaints are readable");
     };
     const auto keep_image = [this](const std::string& image) {
       Require(IsImageOf(image, *model_.firmware), "only a whole image is kept");
       return std::string();
     };
-    return {tell, tell, [](const std::string&) {}, keep_image,
+    return {expect_readable, expect_readable, [](const std::string&) {}, keep_image,
             [](const std::string&) { return std::string(); }};
   }
 

@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Changes the model one small step at a time and tells which changes the tests notice.
+"""Makes one small change of the model at a time and reports which changes the tests notice.
 
 mutate.py [--places N] [--seed N] [FOLDER...]
 
 Works in a copy of the committed tree below build/mutants. A change that does not build does not count, nor does
-one from which the compiler makes the very same object file: no test can tell it from the original. One is noticed
-when a test program fails. What slips through is printed with its place."""
+one from which the compiler makes the same object file, because it behaves like the original. A change is noticed when a
+test program fails. The others are printed with their place."""
 import argparse
 import json
 import pathlib
@@ -32,7 +32,7 @@ def places_of(path):
     """Every small step that the file offers: line, its new text."""
     for at, line in enumerate(path.read_text().split("\n")):
         code = line.split("//")[0]
-        # How much room is set aside tells on nothing but time.
+        # Reserved memory changes nothing but the time.
         if not code.strip() or code.lstrip().startswith("#") or ".reserve(" in code:
             continue
         for pattern, other in SWAPS:
@@ -97,13 +97,13 @@ def main():
     words.add_argument("folders", nargs="*", default=FOLDERS)
     options = words.parse_args()
     prepare()
-    chance = random.Random(options.seed)
-    told = []
+    rng = random.Random(options.seed)
+    rows = []
     originals = {}
     for folder in options.folders:
         steps = [(path, at, text) for path in sorted((COPY / "src" / folder).rglob("*.cpp")) for at, text in places_of(path)]
         noticed, tried, same = 0, 0, 0
-        for path, at, text in chance.sample(steps, len(steps)):
+        for path, at, text in rng.sample(steps, len(steps)):
             if tried == options.places // len(options.folders):
                 break
             whole = path.read_text()
@@ -122,12 +122,12 @@ def main():
                 if by is None:
                     print(f"missed {path.relative_to(COPY)}:{at + 1}\n  - {before.strip()}\n  + {text.strip()}", flush=True)
             path.write_text(whole)
-        told.append((tried, noticed, same))
-        tell(folder, *told[-1])
-    tell("all", *(sum(column) for column in zip(*told)))
+        rows.append((tried, noticed, same))
+        report(folder, *rows[-1])
+    report("all", *(sum(column) for column in zip(*rows)))
 
 
-def tell(what, tried, noticed, same):
+def report(what, tried, noticed, same):
     share = 100 * noticed / max(tried, 1)
     print(f"{what:10} {noticed:4} of {tried:4} noticed, {share:5.1f} %; {same} more compile to the same code", flush=True)
 

@@ -1,7 +1,7 @@
-// Random acts on every control of every form, each watched for what it does to the image. The same seed takes
-// the same walk. A walk that fails is printed as the shortest script for ovl-script that still fails; it runs
-// in a folder made by ovl-images.
-//   ovl-walk [ACTS [SEED]]
+// Performs random acts on every control of every form and checks after each act what it did to the image. The
+// same seed gives the same acts. A run that fails is printed as the shortest script that still fails.
+// ovl-script runs that script in a folder made by ovl-images.
+//   ovl-random-walk [ACTS [SEED]]
 #include <filesystem>
 #include <iostream>
 #include <random>
@@ -14,8 +14,8 @@
 #include "images/default_images.h"
 #include "script/parser.h"
 #include "search/fault_sweep/long_run.h"
-#include "search/random_walk/owners.h"
-#include "search/random_walk/watched.h"
+#include "search/random_walk/allowed_writes.h"
+#include "search/random_walk/checked_program.h"
 #include "support/harness.h"
 #include "ui/frames/register_frames.h"
 
@@ -27,7 +27,7 @@ using Script = std::vector<std::string>;
 
 constexpr const char* kFiles[] = {"first.bin", "second.bin", "history.txt", "upload.bin"};
 
-// The row of an option frame that a control stands in, if any, by the control's place in the registry.
+// For each control of the registry the row of an option frame that contains it, or null.
 std::vector<const ui::FrameRow*> RowsOf(const core::Application& app) {
   std::vector<const ui::FrameRow*> rows;
   const int frames = static_cast<int>(app.frmMain.frmAddress.size());
@@ -43,7 +43,7 @@ std::vector<const ui::FrameRow*> RowsOf(const core::Application& app) {
   return rows;
 }
 
-bool InSight(const core::Application& app, const ui::FrameRow* row) {
+bool IsShown(const core::Application& app, const ui::FrameRow* row) {
   if (row == nullptr) return true;
   return app.frmMain.frmAddress[static_cast<std::size_t>(row->frame)].visible &&
          (row->inner.empty() || controls::StateOf(app.registry.Find(row->inner)->control).visible);
@@ -61,10 +61,10 @@ bool Holds(const controls::ControlRef& control) {
   return (... || std::holds_alternative<Kinds>(control));
 }
 
-// What a person with a random hand does next, as statements.
-class Hand {
+// Chooses the next act at random, as statements of a script.
+class ActGenerator {
  public:
-  explicit Hand(unsigned seed) : chance_(seed) {}
+  explicit ActGenerator(unsigned seed) : random_(seed) {}
 
   Script Next(const core::Application& app) {
     if (app.ended) return {"start"};
@@ -80,7 +80,7 @@ class Hand {
   }
 
  private:
-  int Below(std::size_t limit) { return static_cast<int>(chance_() % limit); }
+  int Below(std::size_t limit) { return static_cast<int>(random_() % limit); }
   std::string File() { return kFiles[Below(std::size(kFiles))]; }
 
   std::string Text() {
@@ -96,17 +96,17 @@ class Hand {
     return size == 0 ? "sent" : "pick " + name + " " + std::to_string(Below(size));
   }
 
-  // All the way from a closed port, or whatever of it can be done.
+  // All steps of an upload from a closed port. Those that are not possible do nothing.
   Script Upload(const core::Application& app) {
     const int code = Below(app.frmMain.ComboReg.items.size() + 2);
     const auto stream = "unit " + script::Quoted(RawPatternStream(app.firmware, Below(256), code));
-    Script way = {"click cmdConnect", "click frmSettSR.cmdSET", "click CmdUpDow(4)",
-                  "unit hex 06",      "click CmdUpDow(0)",      "drain"};
-    way.insert(way.end(), {stream, "click frmOK_buttom.Command1"});
-    return way;
+    Script steps = {"click cmdConnect", "click frmSettSR.cmdSET", "click CmdUpDow(4)",
+                    "unit hex 06",      "click CmdUpDow(0)",      "drain"};
+    steps.insert(steps.end(), {stream, "click frmOK_buttom.Command1"});
+    return steps;
   }
 
-  // With `options` one of the shown option frame, or of a window beside the main one.
+  // With `options`, a control of the visible option frame or of a window beside the main one.
   std::string OnAnyControl(const core::Application& app, bool options) {
     constexpr int kTries = 500;
     const auto& all = app.registry.All();
@@ -117,7 +117,7 @@ class Hand {
       const auto at = static_cast<std::size_t>(Below(all.size()));
       const auto& named = all[at];
       if (window != nullptr ? named.form != window : options && rows_[at] == nullptr) continue;
-      if (!InSight(app, rows_[at]) || (!any && !Reachable(named))) continue;
+      if (!IsShown(app, rows_[at]) || (!any && !Reachable(named))) continue;
       auto line = On(FullName(app, named), named.control);
       if (!line.empty()) return line;
     }
@@ -139,14 +139,14 @@ class Hand {
     if (Holds<controls::Timer*>(control)) return "tick " + name + " " + std::to_string(1 + Below(8));
     if (Holds<controls::TextBox*>(control))
       return Below(4) == 0 ? "leave " + name : "type " + name + " " + script::Quoted(Text());
-    // Ways out of the program are taken rarely.
+    // Menu items may end the program, so they are rare.
     if (Holds<controls::MenuItem*>(control)) return Below(8) == 0 ? "click " + name : "";
     if (!Holds<controls::Form*>(control)) return Below(8) == 0 ? "point " + name : "";
     const int kind = Below(16);
     return kind == 0 ? "close " + name : kind < 8 ? "key " + name + " Enter" : "key " + name + " Escape";
   }
 
-  std::mt19937 chance_;
+  std::mt19937 random_;
   std::vector<const ui::FrameRow*> rows_;
 };
 
@@ -154,11 +154,11 @@ void RemoveFiles() {
   for (const auto* file : kFiles) fs::remove(file);
 }
 
-// What is wrong after the script, or an image for comparison.
+// Runs the script again. Returns what is wrong, or an empty text and the image.
 std::string Replay(const firmware::FirmwareId& stored, const Script& script,
                    image::ConfigImage* image = nullptr) {
   RemoveFiles();
-  Watched program(stored);
+  CheckedProgram program(stored);
   for (const auto& line : script) {
     if (auto wrong = program.Do(line); !wrong.empty()) return wrong;
   }
@@ -166,7 +166,7 @@ std::string Replay(const firmware::FirmwareId& stored, const Script& script,
   return {};
 }
 
-void TellShortest(const firmware::FirmwareId& stored, const Script& whole, const std::string& wrong) {
+void PrintShortest(const firmware::FirmwareId& stored, const Script& whole, const std::string& wrong) {
   const auto script = Shortest(whole, [&](const Script& fewer) {
     const auto found = Replay(stored, fewer);
     return !found.empty() && !found.starts_with("stopped");
@@ -174,83 +174,83 @@ void TellShortest(const firmware::FirmwareId& stored, const Script& whole, const
   std::cout << "setting Version " << stored.version << "\nsetting Release " << stored.release << "\nstart\n";
   for (const auto& line : script) std::cout << line << '\n';
   const auto again = Replay(stored, script);
-  std::istringstream reason(again.empty() ? "not again: " + wrong : again);
+  std::istringstream reason(again.empty() ? "does not happen again: " + wrong : again);
   for (std::string line; std::getline(reason, line);) std::cout << "# " << line << '\n';
 }
 
-// Every record is shown once, so that it is in the order in which the panels store it.
-void ShowRecords(Watched& program) {
+// Shows every record once, because the panels put a record in order when they show it.
+void ShowRecords(CheckedProgram& program) {
   for (int slot = image::kExceptions - 1; slot >= 0; --slot)
     program.Do("pick ComboExcp(0) " + std::to_string(slot));
   for (int alarm = image::kAlarms - 1; alarm >= 0; --alarm)
     program.Do("pick ComboALM(0) " + std::to_string(alarm));
 }
 
-// Three bytes depend on what was shown before: a slot that matches while scrolling loses three flags, but not
-// behind one that matches too; and the place of a duration follows its value, as an odd dwell of the flag
-// becomes even, only when the list moves.
-std::string Settled(image::FieldId field, std::string record) {
+// Three bytes depend on what the panel showed before, so they are made equal for the comparison. A slot with
+// scroll matching loses three flags unless the slot before has scroll matching too. The index of a duration
+// follows its value, and an odd dwell of the flag becomes even, only when the list changes its position.
+std::string Comparable(image::FieldId field, std::string record) {
   constexpr int kScrollFlag = 0x40, kScrollRule = 0x23;
-  constexpr std::size_t kDurationPlace = 4;
+  constexpr std::size_t kDurationIndex = 4;
   if (field == image::FieldId::EXCPSTRS && (codecs::HexToInt(record) & kScrollFlag) != 0)
     record.replace(0, 2, codecs::ByteToHex(codecs::HexToInt(record) & ~kScrollRule));
   if (field == image::FieldId::FLAGDWLIND)
     record = codecs::ByteToHex(2 * codecs::HalfToEven(codecs::HexToInt(record)));
-  if (field == image::FieldId::ALMSTRUCT_BAK) record.erase(kDurationPlace, 2);
+  if (field == image::FieldId::ALMSTRUCT_BAK) record.erase(kDurationIndex, 2);
   return record;
 }
 
-// The fields that another program, given the image as a file, holds otherwise. Left out are those that the
-// options of a register set when they are shown.
-std::string OtherwiseElsewhere(Watched& program) {
+// Gives the image to another program as a file and returns the fields that differ there. Fields that the
+// options of a register set when they are shown do not count.
+std::string DifferenceInAnotherProgram(CheckedProgram& program) {
   if (program.Ended() || !program.Whole() || !program.App().frmMain.form.enabled) return {};
   ShowRecords(program);
   // This release cannot read what it writes with the flag set.
   if (program.App().firmware.Joined() == "V1400R7") program.Do("set BLNKRTS_BAK \"\"");
   program.Do(std::string("stream ") + kFiles[0]);
-  Watched other(program.App().firmware);
+  CheckedProgram other(program.App().firmware);
   other.Do(std::string("answer ") + kFiles[0]);
   other.Do("click OpenMenu");
   ShowRecords(other);
   std::ostringstream wrong;
   for (const auto& row : image::FieldTable()) {
-    if (MayWrite(OwnerNamed("ComboReg"), row.name)) continue;
+    if (WritesOf("ComboReg").Has(row.id)) continue;
     for (int entry = 1; entry <= image::EntryCount(row.id); ++entry) {
-      const auto here = Settled(row.id, program.Image().at(row.id, entry));
-      const auto there = Settled(row.id, other.Image().at(row.id, entry));
+      const auto here = Comparable(row.id, program.Image().at(row.id, entry));
+      const auto there = Comparable(row.id, other.Image().at(row.id, entry));
       if (here != there && (row.layouts & image::Bit(firmware::LayoutOf(program.App().firmware))) != 0)
-        wrong << "as a file: " << row.name << ' ' << here << ' ' << there << '\n';
+        wrong << "after a load from a file: " << row.name << ' ' << here << ' ' << there << '\n';
     }
   }
   return wrong.str();
 }
 
-// False: it failed.
-bool Walk(const firmware::FirmwareId& stored, unsigned seed, long acts, Digest& digest) {
+// Returns false after a failure.
+bool RunOnce(const firmware::FirmwareId& stored, unsigned seed, long acts, Digest& digest) {
   RemoveFiles();
-  Watched program(stored, &digest);
-  Hand hand(seed);
+  CheckedProgram program(stored, &digest);
+  ActGenerator generator(seed);
   Script script;
   for (long act = 0; act < acts; ++act) {
-    for (auto& line : hand.Next(program.App())) {
+    for (auto& line : generator.Next(program.App())) {
       if (program.Ended() && line != "start") break;
       script.push_back(std::move(line));
       const auto wrong = program.Do(script.back());
       if (wrong.empty()) continue;
-      TellShortest(stored, script, wrong);
+      PrintShortest(stored, script, wrong);
       return false;
     }
   }
   image::ConfigImage again;
   auto wrong = Replay(stored, script, &again);
-  if (wrong.empty() && !(again == program.Image())) wrong = "another image the second time\n";
-  if (wrong.empty()) wrong = OtherwiseElsewhere(program);
+  if (wrong.empty() && !(again == program.Image())) wrong = "the same acts led to another image\n";
+  if (wrong.empty()) wrong = DifferenceInAnotherProgram(program);
   if (!wrong.empty()) std::cout << stored.Joined() << " seed " << seed << ": " << wrong;
   return wrong.empty();
 }
 
 int Run(long acts, unsigned seed) {
-  constexpr long kActsOfAWalk = 1000;
+  constexpr long kActsOfARun = 1000;
   const TemporaryFolder folder;
   fs::current_path(folder.Path());
   std::vector<firmware::FirmwareId> all;
@@ -262,15 +262,15 @@ int Run(long acts, unsigned seed) {
   const StopWatch watch;
   long done = 0;
   Digest digest;
-  std::size_t walks = 0, failed = 0;
+  std::size_t runs = 0, failed = 0;
   constexpr std::size_t kFailures = 10;
-  for (; done < acts && failed < kFailures; ++walks) {
-    const long length = std::min(kActsOfAWalk, acts - done);
-    failed += Walk(all[walks % all.size()], seed + static_cast<unsigned>(walks), length, digest) ? 0U : 1U;
+  for (; done < acts && failed < kFailures; ++runs) {
+    const long length = std::min(kActsOfARun, acts - done);
+    failed += RunOnce(all[runs % all.size()], seed + static_cast<unsigned>(runs), length, digest) ? 0U : 1U;
     done += length;
   }
-  std::cout << done << " acts in " << walks << " walks, " << failed << " failed, digest " << digest.Text()
-            << ", " << watch.Told() << '\n';
+  std::cout << done << " acts in " << runs << " runs, " << failed << " failed, digest " << digest.Text()
+            << ", " << watch.Text() << '\n';
   fs::current_path("/");
   return failed == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }

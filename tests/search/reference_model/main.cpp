@@ -1,13 +1,13 @@
-// Random events for the link, by the program and by the table of rules, under each firmware in turn; the
-// first difference is printed as the shortest sequence of events that shows it.
-//   ovl-opinion [EVENTS [SEED]]
+// Gives random events to the link of the program and to the reference model, under several firmware in turn.
+// The first difference is printed as the shortest sequence of events that shows it.
+//   ovl-reference-model [EVENTS [SEED]]
 #include <iostream>
 #include <random>
 #include <span>
 
 #include "codecs/codecs.h"
 #include "search/fault_sweep/long_run.h"
-#include "search/reference_model/pair.h"
+#include "search/reference_model/comparison.h"
 
 namespace ovl::testing {
 namespace {
@@ -15,14 +15,14 @@ namespace {
 using Steps = std::vector<const LinkEvent*>;
 
 std::string FirstDifference(const firmware::FirmwareId& firmware, const Steps& steps) {
-  Pair pair(firmware);
+  Comparison comparison(firmware);
   std::string found;
-  for (std::size_t at = 0; at < steps.size() && found.empty() && !pair.Ended(); ++at)
-    found = pair.Step(*steps[at]);
-  return found.empty() && !pair.KeptImage() ? "the image has changed\n" : found;
+  for (std::size_t at = 0; at < steps.size() && found.empty() && !comparison.Ended(); ++at)
+    found = comparison.Step(*steps[at]);
+  return found.empty() && !comparison.KeptImage() ? "the image has changed\n" : found;
 }
 
-void TellShortest(const firmware::FirmwareId& firmware, const Steps& steps) {
+void PrintShortest(const firmware::FirmwareId& firmware, const Steps& steps) {
   const auto fails = [&](const Steps& fewer) { return !FirstDifference(firmware, fewer).empty(); };
   const auto shortest = Shortest(steps, fails);
   std::cout << firmware.Joined() << '\n';
@@ -33,21 +33,21 @@ void TellShortest(const firmware::FirmwareId& firmware, const Steps& steps) {
   std::cout << FirstDifference(firmware, shortest);
 }
 
-// Mostly what can happen, and what leads somewhere oftener than what leads out.
-const LinkEvent* NextStep(std::mt19937& chance, const Link& link) {
+// Mostly possible events, and more often those that lead into a state than those that lead out of it.
+const LinkEvent* NextStep(std::mt19937& random, const LinkModel& link) {
   constexpr unsigned kOneLong = 40, kOneFault = 60, kOneOfAll = 4, kOneImpossible = 16, kFewTries = 4;
-  const auto one_of = [&](std::span<const LinkEvent> events) { return &events[chance() % events.size()]; };
+  const auto one_of = [&](std::span<const LinkEvent> events) { return &events[random() % events.size()]; };
   const std::span<const LinkEvent> events = kLinkEvents;
   const auto short_ones = events.first(events.size() - kLong);
-  if (chance() % kOneLong == 0) return one_of(events.last(kLong));
-  if (chance() % kOneFault == 0) return one_of(short_ones.last(kOfTheSurroundings));
-  const bool any = chance() % kOneImpossible == 0;
+  if (random() % kOneLong == 0) return one_of(events.last(kLong));
+  if (random() % kOneFault == 0) return one_of(short_ones.last(kEnvironmentEvents));
+  const bool any = random() % kOneImpossible == 0;
   const LinkEvent* event = nullptr;
   for (unsigned tries = 0; tries < kFewTries; ++tries) {
-    const bool ways_out = chance() % kOneOfAll == 0;
+    const bool any_direction = random() % kOneOfAll == 0;
     do {
       event = one_of(short_ones);
-    } while (!event->way_in && !ways_out);
+    } while (!event->leads_in && !any_direction);
     if (any || CanHappen(link, *event)) break;
   }
   return event;
@@ -56,31 +56,31 @@ const LinkEvent* NextStep(std::mt19937& chance, const Link& link) {
 int Run(long events, unsigned seed) {
   constexpr std::size_t kLongestSequence = 2000, kLongestBurst = 32;
   const StopWatch watch;
-  std::mt19937 chance(seed);
+  std::mt19937 random(seed);
   Digest digest;
   long done = 0;
   std::size_t sequences = 0;
   for (; done < events; ++sequences) {
-    const auto& firmware = kUnlike[(seed + sequences) % kUnlike.size()];
-    Pair pair(firmware);
+    const auto& firmware = kStreamForms[(seed + sequences) % kStreamForms.size()];
+    Comparison comparison(firmware);
     Steps steps;
     std::string found;
-    while (found.empty() && steps.size() < kLongestSequence && !pair.Ended() && done < events) {
-      const auto* step = NextStep(chance, pair.Table());
-      // Time goes on a while before anything else happens.
-      auto times = step->kind == kTick ? 1 + chance() % kLongestBurst : 1;
-      for (; times > 0 && found.empty() && !pair.Ended(); --times, ++done) {
+    while (found.empty() && steps.size() < kLongestSequence && !comparison.Ended() && done < events) {
+      const auto* step = NextStep(random, comparison.Model());
+      // A timer ticks several times before another event happens.
+      auto times = step->kind == kTick ? 1 + random() % kLongestBurst : 1;
+      for (; times > 0 && found.empty() && !comparison.Ended(); --times, ++done) {
         steps.push_back(step);
-        found = pair.Step(*step);
-        pair.AddTo(digest);
+        found = comparison.Step(*step);
+        comparison.AddTo(digest);
       }
     }
-    if (found.empty() && pair.KeptImage()) continue;
-    TellShortest(firmware, steps);
+    if (found.empty() && comparison.KeptImage()) continue;
+    PrintShortest(firmware, steps);
     return EXIT_FAILURE;
   }
   std::cout << done << " events in " << sequences << " sequences, no difference, digest " << digest.Text()
-            << ", " << watch.Told() << '\n';
+            << ", " << watch.Text() << '\n';
   return EXIT_SUCCESS;
 }
 

@@ -1,8 +1,10 @@
-// The real program for a long time: windows, event loop and serial layer, with a unit on a pseudo-terminal.
-// ovl-soak [PERCENT] does so much of 200 uploads, 200 downloads, 500 register picks and 50 losses of the
-// port. The first ten of each warm up, and every register once, as its frames come into being when they are
-// first shown; what is told counts from there. Exit status 0: all within its bounds, on a machine that is not
-// busy with other things.
+// Runs the real program for a long time, with windows, event loop and serial port, and a unit on a
+// pseudo-terminal.
+//   ovl-soak [PERCENT]
+// performs this part of 200 uploads, 200 downloads, 500 register picks and 50 losses of the port. The first
+// ten of each are a warm-up, as is one pick of every register, because its frames are built when they are
+// first shown. The numbers count after that. The exit status is 0 if all bounds are kept. The computer must
+// not be busy with other work.
 #include <unistd.h>
 
 #include <QApplication>
@@ -59,7 +61,7 @@ class Soak {
     return Model().frmMain.MSComm1.PortOpen;
   }
 
-  // Every kind of act, counted from so many to so many; tells the longest hold of each.
+  // Performs every kind of act and prints how long it blocked the event loop.
   bool Run(int from, int transfers, int picks, int losses) {
     longest_ = 0;
     bool right = Repeat("uploads", from, transfers, [this](int) { return Transfer(true); });
@@ -98,7 +100,7 @@ class Soak {
     return true;
   }
 
-  // Idle, with remote mode held, or in the middle of a transfer; then the unit comes back.
+  // The port is lost when it is idle, in remote mode, or during a transfer. Then the unit comes back.
   bool LosePort(int number) {
     if (number % 4 == 1 && !Hold()) return false;
     if (number % 4 >= 2) {
@@ -113,8 +115,7 @@ class Soak {
     return !Model().frmMain.MSComm1.PortOpen && Connect();
   }
 
-  // The unit holds the same configuration all the time. What an upload that broke off had brought stands
-  // ahead of the next one.
+  // The unit always has the same configuration. The rest of a broken upload remains ahead of the next one.
   bool IsKnown(const std::string& stream) {
     if (std::exchange(broken_off_, false)) return true;
     if (known_.empty()) known_ = stream;
@@ -124,7 +125,7 @@ class Soak {
   core::Application& Model() { return program_.Model(); }
   void Click(const char* name) { Act(core::ClickEvent{Model().registry.Find(name)->control}); }
 
-  // From the event loop, like a person's, so that it counts as holding it.
+  // Runs in the event loop, like an action of the user, so that its time is measured.
   void Act(const core::Event& event) {
     bool done = false;
     QTimer::singleShot(0, [&] {
@@ -134,7 +135,7 @@ class Soak {
     loop_.RunUntil([&] { return done; });
   }
 
-  // The registers' is the first, that of the link the seventh.
+  // 0 is the tab of the registers, 6 the tab of the link.
   void ShowTab(int tab) { program_.OnScreen().Main().findChild<QTabWidget*>()->setCurrentIndex(tab); }
 
   bool Hold() {
@@ -149,7 +150,7 @@ class Soak {
     return held;
   }
 
-  // Frames and answers that are on their way.
+  // Waits for frames and answers that are still to come.
   void Settle() {
     int turns = 0;
     loop_.RunUntil([&] { return ++turns > 30; });

@@ -107,5 +107,5 @@ for unit in "${units[@]}"; do
   wait "$unit"
 done
 
-# What the example left, to be compared with what another build leaves. Clocks and terminals differ from run to run.
+# The results of the example, to compare them with those of another build. Clocks and terminals differ in each run.
 find . -type f ! -name 'clock*' ! -name 'said*' ! -name devices -exec sha256sum {} + | sort -k 2

@@ -1,9 +1,7 @@
-// The labels under which a person finds what differs in a record.
+// The labels of the controls that changed a field or a part of a record.
 #include "changes/editors.h"
 
 #include <gtest/gtest.h>
-
-#include <sstream>
 
 #include "firmware/firmware_table.h"
 #include "image/field_map.h"
@@ -12,46 +10,63 @@
 namespace ovl::testing {
 namespace {
 
-TEST(Editors, NameOnlyTheControlsThatStoreWhatDiffers) {
-  // The field, the digit that differs, what it becomes, and the words.
-  std::istringstream rows(
-      "EXCPSTRS 0 4 EXCEPTION REPORT: SCROLL MATCHING;EXCPSTRS 1 1 EXCEPTION REPORT: DISPLAY;"
-      "EXCPSTRS 1 C EXCEPTION REPORT: OPERATOR;EXCPSTRS 5 7 EXCEPTION REPORT: Set RANGE;"
-      "EXCPSTRS 22 7 EXCEPTION REPORT: EXCEPTION STRING;EXCPSTRS 103 7 EXCEPTION REPORT: EXCEPTION STRING;"
-      "ALMSTRUCT_BAK 1 7 ALARM OUTPUTS: ALARM TRIGGER;ALMSTRUCT_BAK 5 7 ALARM OUTPUTS: ALARM DURATION;"
-      "ALMSTRUCT_BAK 7 1 ALARM OUTPUTS: VIDEO LOSS;ALMSTRUCT_BAK 6 1 ALARM OUTPUTS: VIDEO LOSS;TRIGGER_TEXT "
-      "1 2 ALARM OUTPUTS: OUTPUT TEXT;"
-      "TRIGGER_TEXT 7 7 ALARM OUTPUTS: TRIGGER TEXT;"
-      "SCROLLMATCH_BAK 0 1 EXCEPTION REPORT: SCROLL MATCHING, TIMEOUT;"
-      "COMMCFG_BAK 1 4 COMMUNICATION: DATA BITS;COMMCFG_BAK 0 1 EXCEPTION REPORT: OUTPUT");
+using enum image::FieldId;
+
+TEST(Editors, NameOnlyTheControlsThatStoreTheDifference) {
+  struct DigitRow {
+    image::FieldId field;
+    std::size_t digit;  // that differs from 0
+    char value;
+    const char* labels;
+  };
+  const DigitRow digits[] = {
+      {EXCPSTRS, 0, '4', "EXCEPTION REPORT: SCROLL MATCHING"},
+      {EXCPSTRS, 1, '1', "EXCEPTION REPORT: DISPLAY"},
+      {EXCPSTRS, 1, 'C', "EXCEPTION REPORT: OPERATOR"},
+      {EXCPSTRS, 5, '7', "EXCEPTION REPORT: Set RANGE"},
+      {EXCPSTRS, 22, '7', "EXCEPTION REPORT: EXCEPTION STRING"},
+      {EXCPSTRS, 103, '7', "EXCEPTION REPORT: EXCEPTION STRING"},
+      {ALMSTRUCT_BAK, 1, '7', "ALARM OUTPUTS: ALARM TRIGGER"},
+      {ALMSTRUCT_BAK, 5, '7', "ALARM OUTPUTS: ALARM DURATION"},
+      {ALMSTRUCT_BAK, 7, '1', "ALARM OUTPUTS: VIDEO LOSS"},
+      {ALMSTRUCT_BAK, 6, '1', "ALARM OUTPUTS: VIDEO LOSS"},
+      {TRIGGER_TEXT, 1, '2', "ALARM OUTPUTS: OUTPUT TEXT"},
+      {TRIGGER_TEXT, 7, '7', "ALARM OUTPUTS: TRIGGER TEXT"},
+      {SCROLLMATCH_BAK, 0, '1', "EXCEPTION REPORT: SCROLL MATCHING, TIMEOUT"},
+      {COMMCFG_BAK, 1, '4', "COMMUNICATION: DATA BITS"},
+      {COMMCFG_BAK, 0, '1', "EXCEPTION REPORT: OUTPUT"},
+  };
   Harness harness({"V1400", "R12"});
   harness.Start();
-  std::string name, words;
-  std::size_t digit = 0;
-  for (char other = 0; rows >> name >> digit >> other && std::getline(rows >> std::ws, words, ';');) {
-    const bool one_byte = name == "COMMCFG_BAK" || name == "SCROLLMATCH_BAK";
-    const std::string before(name == "EXCPSTRS" ? 104 : one_byte ? 2 : 8, '0');
+  for (const auto& [field, digit, value, labels] : digits) {
+    const bool one_byte = field == COMMCFG_BAK || field == SCROLLMATCH_BAK;
+    const std::string before(field == EXCPSTRS ? 104 : one_byte ? 2 : 8, '0');
     auto after = before;
-    after[digit] = other;
-    EXPECT_EQ(changes::EditedBy(harness.app, image::FindField(name)->id, "options", before, after), words)
-        << after;
+    after[digit] = value;
+    EXPECT_EQ(changes::EditedBy(harness.app, field, "options", before, after), labels) << after;
   }
-  EXPECT_EQ(words, "EXCEPTION REPORT: OUTPUT") << "the last row was compared";
 
-  std::istringstream fields(
-      "COMMCFG_BAK COMMUNICATION: PARITY, DATA BITS, HW HANDSHAKING, AUTO LINEFEED; EXCEPTION REPORT: OUTPUT|"
-      "REGTYPE_EXT2 REGISTER SELECT: options; MICROS: HANDSHAKING|REGDV_TYPE_BAK MICROS: SOURCE TYPE|"
-      "REG_GNA_BAK MICROS: SRC ISN GNA|REG_LNA_BAK MICROS: SRC ISN LNA|REG_IDNA_BAK MICROS: SRC IDN ID|"
-      "PCDV_TYPE_BAK MICROS: DESTIN TYPE|PC_GNA_BAK MICROS: DST ISN GNA|PC_LNA_BAK MICROS: DST ISN LNA|"
-      "PC_IDNA_BAK MICROS: DST IDN ID");
-  while (fields >> name && std::getline(fields >> std::ws, words, '|'))
-    EXPECT_EQ(changes::EditedBy(harness.app, image::FindField(name)->id, "options"), words);
+  const std::pair<image::FieldId, const char*> fields[] = {
+      {COMMCFG_BAK,
+       "COMMUNICATION: PARITY, DATA BITS, HW HANDSHAKING, AUTO LINEFEED; EXCEPTION REPORT: OUTPUT"},
+      {REGTYPE_EXT2, "REGISTER SELECT: options; MICROS: HANDSHAKING"},
+      {REGDV_TYPE_BAK, "MICROS: SOURCE TYPE"},
+      {REG_GNA_BAK, "MICROS: SRC ISN GNA"},
+      {REG_LNA_BAK, "MICROS: SRC ISN LNA"},
+      {REG_IDNA_BAK, "MICROS: SRC IDN ID"},
+      {PCDV_TYPE_BAK, "MICROS: DESTIN TYPE"},
+      {PC_GNA_BAK, "MICROS: DST ISN GNA"},
+      {PC_LNA_BAK, "MICROS: DST ISN LNA"},
+      {PC_IDNA_BAK, "MICROS: DST IDN ID"},
+  };
+  for (const auto& [field, labels] : fields)
+    EXPECT_EQ(changes::EditedBy(harness.app, field, "options"), labels);
 }
 
-// A caption that is missing under some firmware would be met first by whoever looks at its changes.
+// A missing caption would show only when a user looks at the changes under that firmware.
 TEST(Editors, HaveCaptionsUnderEveryFirmware) {
   for (const auto& entry : firmware::FirmwareTable()) {
-    Harness harness({std::string(entry.version), std::string(entry.release)});
+    Harness harness(entry.Id());
     harness.Start();
     for (const auto& field : image::FieldTable())
       EXPECT_NO_THROW(changes::EditedBy(harness.app, field.id, "options"))
@@ -59,8 +74,8 @@ TEST(Editors, HaveCaptionsUnderEveryFirmware) {
   }
 }
 
-// What ComboCOMM(6) stores follows the handshaking.
-TEST(Editors, TellOfListsWhosePicksChangeJustTheirBits) {
+// ComboCOMM(6) is left out, because the handshake decides what it stores.
+TEST(Editors, APickChangesOnlyTheBitsOfItsEditor) {
   int tried = 0;
   Harness harness({"V1400", "R12"});
   harness.Start();
@@ -80,7 +95,7 @@ TEST(Editors, TellOfListsWhosePicksChangeJustTheirBits) {
         << editor.controls;
     ++tried;
   }
-  EXPECT_EQ(tried, 28);
+  EXPECT_GE(tried, 28);
 }
 
 }  // namespace

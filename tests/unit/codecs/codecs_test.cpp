@@ -5,7 +5,7 @@
 namespace ovl {
 namespace {
 
-TEST(HexToInt, CountsWhatIsNoDigitAsZero) {
+TEST(HexToInt, ACharacterThatIsNoDigitCountsAsZero) {
   const std::vector<std::pair<std::string, int>> cases = {
       {"1G", 16},  {"G1", 1}, {"a5", 5},   {"F", 240},  {"", 0},
       {"FF", 255}, {" .", 0}, {"0A9", 10}, {"A0", 160}, {".1", 1},
@@ -13,7 +13,7 @@ TEST(HexToInt, CountsWhatIsNoDigitAsZero) {
   for (const auto& [hex, value] : cases) EXPECT_EQ(codecs::HexToInt(hex), value) << hex;
 }
 
-TEST(HexByte, AllCodesMakeTheRoundTrip) {
+TEST(HexByte, EveryCodeIsReadBack) {
   std::string text;
   for (int code = 0; code < 256; ++code) {
     EXPECT_EQ(codecs::HexToInt(codecs::ByteToHex(code)), code);
@@ -26,7 +26,7 @@ TEST(HexByte, AllCodesMakeTheRoundTrip) {
   EXPECT_EQ(codecs::TextToHex(" A "), "204120");
 }
 
-TEST(TextToCountedHex, NeverExaminesTheLastCharacter) {
+TEST(TextToCountedHex, IgnoresTheLastCharacter) {
   EXPECT_EQ(codecs::TextToCountedHex("ABC"), "0241424300");
   EXPECT_EQ(codecs::TextToCountedHex(""), "0000");
   EXPECT_EQ(codecs::TextToCountedHex("A"), "004100");
@@ -35,7 +35,7 @@ TEST(TextToCountedHex, NeverExaminesTheLastCharacter) {
   EXPECT_EQ(codecs::TextToCountedHex(std::string(39, ' ') + ".").substr(0, 2), "00");
 }
 
-TEST(Peel, ASectionThatHoldsTooFewKeepsThem) {
+TEST(Peel, ASectionThatIsTooShortKeepsItsRest) {
   std::string_view section = "ABCDE";
   EXPECT_EQ(codecs::PeelPair(section), "AB");
   codecs::DropPair(section);

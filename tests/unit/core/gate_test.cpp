@@ -1,4 +1,4 @@
-// What a person could not have done changes nothing.
+// An event that a user could not cause changes nothing.
 #include "core/gate.h"
 
 #include <gtest/gtest.h>
@@ -10,7 +10,7 @@
 namespace ovl::testing {
 namespace {
 
-TEST(Gate, LetsInOnlyWhatAPersonCanReach) {
+TEST(Gate, RefusesEventsThatAUserCannotCause) {
   Harness program({"V1400", "R12"});
   ASSERT_EQ(program.Start(), core::Outcome::kDone);
   auto& app = program.app;
@@ -22,7 +22,7 @@ TEST(Gate, LetsInOnlyWhatAPersonCanReach) {
   const auto image = app.image;
   const auto text = window.Text1.text;
   auto& main = app.frmMain;
-  // In a window that is gone, on controls held back or hidden, for no entry, by a timer or port that is idle.
+  // For a closed window, a disabled or hidden control, no entry, a stopped timer, a closed port.
   const core::Event refused[] = {core::KeyEvent{&window.form, core::Key::kEnter},
                                  core::TypeEvent{&window.Text1, "X"},
                                  core::ClickEvent{&window.cmdSET},
@@ -52,7 +52,7 @@ TEST(Gate, LetsInOnlyWhatAPersonCanReach) {
   EXPECT_FALSE(main.form.enabled);
   program.Pick("ComboTD(1)", main.ComboTD[1].position == 0 ? 1 : 0);
   EXPECT_EQ(Dispatch(app, core::CloseEvent{&main.form}), core::Outcome::kRefused);
-  EXPECT_TRUE(app.image == image) << "a window holds the main form back";
+  EXPECT_TRUE(app.image == image) << "an open window disables the main form";
   Dispatch(app, core::TypeEvent{&window.Text1, std::string(window.Text1.max_length + 1, 'X')});
   EXPECT_LT(window.Text1.text.size(), window.Text1.max_length + 1);
   Dispatch(app, core::TypeEvent{&window.Text1, "TILL"});

@@ -1,4 +1,4 @@
-// Open and Save: what they ask, write, read and say.
+// Open and Save: their file dialogs, files and message boxes.
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
@@ -7,17 +7,15 @@
 
 #include "core/actions.h"
 #include "image/record_stream.h"
+#include "support/box_texts.h"
+#include "support/control_characters.h"
+#include "support/firmware_facts.h"
 #include "support/installed.h"
 
 namespace ovl::testing {
 namespace {
 
-const firmware::FirmwareId kLatest{"V1400", "R12"};
-constexpr const char* kForeign =
-    "The Ovalon Version is not compatible !!!\n       Try with the same version again.";
-constexpr const char* kBroken = "                System File Error. \nPlease ReInstall Ovalon PC Software !!";
-
-// A file's digits, taken out of it without the program's help.
+// The digits of a file, without the code of the program.
 std::string DigitsIn(const std::string& path) {
   auto text = ReadFile(path);
   for (std::size_t at = 0; (at = text.find('$')) != std::string::npos;) text.erase(at, 5);
@@ -40,7 +38,7 @@ TEST(FileCommands, AskWithTheirNamesAndFilters) {
   for (const auto& [button, kind, name, filter] : rows) {
     SCOPED_TRACE(button);
     program.Click(button);
-    program.Unit("\x06");
+    program.Unit(kAck);
     ASSERT_EQ(program.dialogs.size(), 1U);
     auto& dialog = program.dialogs.back();
     std::replace(dialog.file_name.begin(), dialog.file_name.end(), '\\', '/');
@@ -73,7 +71,7 @@ TEST(FileCommands, SaveAndOpenDifferByFirmware) {
   for (const auto& row : rows) {
     SCOPED_TRACE(row.firmware.Joined());
     Installed program(row.firmware);
-    // The first register's image with other bytes where no panel looks, so that a shift by one shows.
+    // Bytes that no panel shows get other values, so that a shift by one byte is seen.
     const auto mark = [&](int byte, int value) {
       program.SetByte("GENERIC", byte, codecs::ByteToHex(value));
     };
@@ -82,7 +80,7 @@ TEST(FileCommands, SaveAndOpenDifferByFirmware) {
     ASSERT_EQ(program.Open(program.PathOf("GENERIC")), core::Outcome::kDone);
     auto expected = DigitsIn(program.PathOf("GENERIC"));
     if (row.reopened == kShifted) {
-      // Without the two bytes behind the variant, and without what stands behind the software handshake.
+      // Without the two bytes after the variant, and without the bytes after the software handshake.
       expected.erase(64 + 210, row.firmware.release == "R7" ? 14 : 16).erase(64 + 4, 4);
     }
     const auto path = program.folder.File("saved.bin");
@@ -105,7 +103,7 @@ TEST(FileCommands, SaveAndOpenDifferByFirmware) {
     ASSERT_EQ(program.Pick("ComboReg", 3), core::Outcome::kDone);
     const auto other = image;
     ASSERT_EQ(program.Open(path), core::Outcome::kDone);
-    EXPECT_EQ(program.TakeBox().text, row.reopened == kRefused ? kForeign : "");
+    EXPECT_EQ(program.TakeBox().text, row.reopened == kRefused ? kForeignBox : "");
     EXPECT_TRUE(program.NoBoxLeft());
     EXPECT_TRUE(program.app.PanelsReady && program.app.ImageTouched && !program.app.UploadApplying);
     EXPECT_EQ(program.Selected("ComboReg"), codecs::HexToInt(image[image::FieldId::REGTYPE]));
@@ -120,7 +118,7 @@ TEST(FileCommands, SaveAndOpenDifferByFirmware) {
   }
 }
 
-TEST(FileCommands, ASaveThatComesToNothingSaysSo) {
+TEST(FileCommands, ASaveThatFailsIsReported) {
   Installed program(kLatest, Images::kFirstRegister);
   program.Mark();
   const auto pipe = program.folder.File("pipe");
@@ -136,7 +134,7 @@ TEST(FileCommands, ASaveThatComesToNothingSaysSo) {
   }
 }
 
-TEST(FileCommands, AnOpenWithoutAFileLeavesAllButTheNextPick) {
+TEST(FileCommands, AnOpenWithoutAFileChangesOnlyTheNextPick) {
   Installed program(kLatest);
   const auto kept_from_us = program.folder.File("locked.bin"), huge = program.folder.File("huge.bin");
   WriteFile(kept_from_us, ReadFile(program.PathOf("ADS")));
@@ -174,7 +172,7 @@ TEST(FileCommands, AnOpenWithoutAFileLeavesAllButTheNextPick) {
   EXPECT_EQ(program.Frames(), "1");
 }
 
-TEST(FileCommands, AFileOfNoUseIsToldAndThePanelsShowTheOldImage) {
+TEST(FileCommands, AnUnusableFileIsReportedAndThePanelsShowTheOldImage) {
   Installed program(kLatest);
   std::string noise;
   for (int at = 0; at < 1 << 20; ++at) noise += static_cast<char>(at);
@@ -189,7 +187,7 @@ TEST(FileCommands, AFileOfNoUseIsToldAndThePanelsShowTheOldImage) {
     core::EnableTimer(program.app.frmMain.Timer_Operating, true);
     program.Mark();
     ASSERT_EQ(program.Open(program.folder.File("foreign.bin")), core::Outcome::kDone);
-    EXPECT_EQ(program.TakeBox().text, kForeign);
+    EXPECT_EQ(program.TakeBox().text, kForeignBox);
     EXPECT_TRUE(program.NoBoxLeft());
     EXPECT_EQ(program.Written(), "");
     EXPECT_EQ(program.Selected("ComboCOMM(1)"), 2);
@@ -220,7 +218,7 @@ TEST(FileCommands, AFileWithoutItsEndEndsTheProgram) {
     Installed program(firmware, Images::kFirstRegister);
     WriteFile(program.folder.File("broken.bin"), content);
     EXPECT_EQ(program.Open(program.folder.File("broken.bin")), core::Outcome::kEnded);
-    EXPECT_EQ(program.TakeBox().text, kBroken);
+    EXPECT_EQ(program.TakeBox().text, kBrokenBox);
     EXPECT_TRUE(program.NoBoxLeft());
     EXPECT_EQ(program.Click("menuSave"), core::Outcome::kEnded);
   }

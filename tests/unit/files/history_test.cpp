@@ -1,10 +1,11 @@
-// Histories as files: saved from the unit, opened in the viewer.
+// Histories are saved to a file and opened in the viewer.
 #include "files/history.h"
 
 #include <gtest/gtest.h>
 
 #include <sstream>
 
+#include "support/control_characters.h"
 #include "support/installed.h"
 
 namespace ovl::testing {
@@ -22,9 +23,9 @@ struct Viewing : Installed {
   void Receive(const std::string& text, const std::optional<std::string>& path) {
     OpenAndHold();
     EXPECT_EQ(Answer("CmdUpDow(3)", path), core::Outcome::kDone);
-    Unit(text + "\x06");
+    Unit(text + kAck);
   }
-  // The file's name, and what is read of it.
+  // The viewer shows the name and the text of the file.
   void ExpectShown(const std::string& caption, const std::string& text) {
     EXPECT_TRUE(app.frmView.form.visible);
     EXPECT_EQ(app.frmView.form.caption, caption);
@@ -33,7 +34,7 @@ struct Viewing : Installed {
   }
 };
 
-TEST(History, GoesIntoTheChosenOrTheOfferedFileAndEndsAllTheSameIfNeitherCanBeWritten) {
+TEST(History, IsSavedToTheChosenOrTheOfferedFileAndEndsEvenIfTheWriteFails) {
   Viewing program;
   const auto path = program.Write("an older and longer file that is replaced as a whole");
   program.Receive("one\r\n\r\n two ", path);
@@ -50,7 +51,7 @@ TEST(History, GoesIntoTheChosenOrTheOfferedFileAndEndsAllTheSameIfNeitherCanBeWr
   EXPECT_EQ(program.app.frmMain.lbRemoteAccess.caption, "No Access");
 }
 
-TEST(History, OnlyTheTagOpensAFileAndWhatCannotBeReadLeavesTheViewerInSilence) {
+TEST(History, OnlyAFileWithTheTagOpensAndAnUnreadableOneChangesNothing) {
   std::string line;
   for (int code = 0; code < 256; ++code) {
     if (code != '\r') line += static_cast<char>(code);
@@ -62,7 +63,7 @@ TEST(History, OnlyTheTagOpensAFileAndWhatCannotBeReadLeavesTheViewerInSilence) {
       {"OVLH\r\n" + line + "\r\n\r" + line, line + "\r\n\r\n" + line + "\r\n"},
   };
   using namespace std::string_literals;
-  // Whole files, with a bar behind each.
+  // Whole files, separated by bars.
   std::istringstream refused(
       "ovlh\r\nx|OVLH \r\nx| OVLH\r\nx|OVLHX\r\nx|OVL\r\nx|\r\nOVLH\r\n|OVLH\nx\r\n|$2000\r\nOVLH|"
       "OVLH\0\r\nx|\xEF\xBB\xBFOVLH\r\nx||"s);
@@ -92,7 +93,7 @@ TEST(History, OnlyTheTagOpensAFileAndWhatCannotBeReadLeavesTheViewerInSilence) {
   }
 }
 
-TEST(History, TheViewerIsReadOnlyAndOpensAgainForTheDiagnosticLogToo) {
+TEST(History, TheViewerIsReadOnlyAndAlsoShowsTheDiagnosticLog) {
   Viewing program;
   const auto& view = program.app.frmView;
   program.Open(program.Write("OVLH\r\nfirst"));
@@ -102,7 +103,7 @@ TEST(History, TheViewerIsReadOnlyAndOpensAgainForTheDiagnosticLogToo) {
   EXPECT_NE(program.app.StatusNote.find("DataDump.log"), std::string::npos);
   EXPECT_EQ(core::Dispatch(program.app, core::TypeEvent{&program.app.frmView.Text, "typed"}),
             core::Outcome::kRefused);
-  // The one word of the dialog's flags that keeps it from being shown.
+  // This flag alone keeps the dialog from being shown.
   for (const unsigned flags : {0U, 4096U, 4097U, 4095U, 8192U}) {
     SCOPED_TRACE(flags);
     core::Dispatch(program.app, core::CloseEvent{&program.app.frmView.form});

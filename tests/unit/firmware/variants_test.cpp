@@ -1,113 +1,85 @@
-// One form for every firmware: what each of them shows, and what its changed lists read.
-#include "unit/panels/acts.h"
-#include "unit/registers/rows.h"
+// What the form shows under each firmware, and what the lists offer that depend on it.
+#include "unit/panels/panel_program.h"
 
 namespace ovl::testing {
 namespace {
 
-// What a firmware has beside the first V1400 form, or lacks of it.
-//   vista      Spanish, and the protocol "NORBAIN VISTA"
-//   type       the alarm type
-//   rts        the blank time "RTS"
-//   sharp26, reset, ibm, sharp9, epson   an option of a register, or the master reset
-//   spanish    English and Spanish in the place of English and German
-//   short      the reduced form
-//   one-pair   no second pair of recorder ids
-//   no-demo    no demonstration and no compression of spaces
-struct Form {
-  const char *version, *releases, *words;
+using Names = std::vector<const char*>;
+
+// The controls that a firmware with the feature shows, and those that it hides. Without the feature it is the
+// other way round.
+struct FeatureControls {
+  Feature feature;
+  Names shown, hidden = {};
 };
 
-constexpr Form kForms[] = {
-    {"V1400", "R1", ""},
-    {"V1400", "R2 R4", " vista "},
-    {"V1400", "R6 R7", " vista type "},
-    {"V1400", "R11", " vista type rts sharp26 "},
-    {"V1400", "R12", " vista type rts sharp26 reset spanish ibm "},
-    {"V1300", "R14 R15 R16 R17", " short one-pair no-demo "},
-    {"V1300", "R18 R19 R20 R21 R23", " short one-pair "},
-    {"V1300", "R26", " short type rts sharp9 one-pair "},
-    {"V1300", "R27", " short type rts sharp9 "},
-    {"V1324", "R17 R18 R19 R20", " short one-pair no-demo "},
-    {"V1324", "R21 R23 R24", " short one-pair "},
-    {"V1324", "R25", " short type rts epson one-pair "},
-    {"V1324", "R26", " short type rts epson "},
-    {"V1310", "R1", " short type rts sharp9 "},
-    {"V1334", "R1", " short type rts epson "},
+const std::vector<FeatureControls> kFeatureControls = {
+    {Feature::kAlarmType, {"Label1(49)", "ComboALM(7)"}},
+    {Feature::kLastSharpModel, {"SharpOP(26)"}},
+    {Feature::kMasterReset, {"CmdUpDow(5)"}},
+    {Feature::kNewIbmModels, {"IBMOP(7)", "IBMOP(8)"}},
+    {Feature::kTenthSharpModel, {"OpSharp(9)"}},
+    {Feature::kLastEpsonOption, {"OpRI_QT2(10)"}},
+    {Feature::kReducedForm,
+     {"Label1(23)", "ComboExcp(4)"},
+     {"Label1(62)", "ComboDIP(8)", "Label1(48)", "ComboALM(6)", "Label1(52)", "ComboTrigger(2)", "Frame13",
+      "Label1(32)", "ComboCOMM(7)", "ComboNone(0)", "Label1(36)", "ComboCOMM(8)", "Label1(26)",
+      "ComboExcepRe(2)", "Frame14", "Frame12"}},
+    {Feature::kOnePairOfIds,
+     {},
+     {"OpDVR(2)", "Label1(14)", "Label1(15)", "ComboKLM4011(2)", "ComboKLM4011(3)"}},
+    {Feature::kNoDemo, {}, {"FrameDemo", "Label1(61)", "ComboDIP(7)"}},
 };
 
-bool Has(const char* words, const std::string& word) {
-  return std::string_view(words).find(" " + word + " ") != std::string_view::npos;
+// The controls that every firmware of the menu shows.
+const Names kAlwaysShown = {
+    "Frame2",       "Frame3",      "Frame4",      "Frame5",     "Frame6",          "Frame7",
+    "Frame8",       "Frame10",     "Frame11",     "Frame15",    "ComboDIP(0)",     "ComboDIP(1)",
+    "ComboDIP(6)",  "ComboALM(4)", "ComboALM(5)", "Label1(46)", "Label1(47)",      "Label1(50)",
+    "Label1(54)",   "Label1(60)",  "Label1(20)",  "Label1(21)", "Label1(22)",      "Label1(33)",
+    "Label1(34)",   "Label1(35)",  "Label1(37)",  "Label1(0)",  "Label1(8)",       "ComboTrigger(0)",
+    "ComboTD(0)",   "ComboTD(5)",  "cmdTitle",    "Title_Text", "ComboExcp(1)",    "ComboExcp(2)",
+    "ComboExcp(3)", "OpDVR(0)",    "OpDVR(1)",    "Label1(12)", "ComboKLM4011(0)", "ComboKLM4011(1)",
+    "CmdUpDow(4)",  "DemoMode"};
+
+void ExpectVisible(Installed& program, const Names& controls, bool visible) {
+  for (const auto* control : controls) EXPECT_EQ(program.Control(control).visible, visible) << control;
 }
 
-// The controls that a word concerns, and whether they are on the screen with it; without it they are not, or
-// are.
-constexpr std::tuple<const char*, bool, const char*> kGroups[] = {
-    {"type", true, "Label1(49) ComboALM(7)"},
-    {"sharp26", true, "SharpOP(26)"},
-    {"reset", true, "CmdUpDow(5)"},
-    {"ibm", true, "IBMOP(7) IBMOP(8)"},
-    {"sharp9", true, "OpSharp(9)"},
-    {"epson", true, "OpRI_QT2(10)"},
-    {"short", true, "Label1(23) ComboExcp(4)"},
-    {"short", false,
-     "Label1(62) ComboDIP(8) Label1(48) ComboALM(6) Label1(52) ComboTrigger(2) Frame13 Label1(32) "
-     "ComboCOMM(7) ComboNone(0) Label1(36) ComboCOMM(8) Label1(26) ComboExcepRe(2) Frame14 Frame12"},
-    {"one-pair", false, "OpDVR(2) Label1(14) Label1(15) ComboKLM4011(2) ComboKLM4011(3)"},
-    {"no-demo", false, "FrameDemo Label1(61) ComboDIP(7)"},
-};
-
-// What every firmware of the menu shows, whatever its words.
-constexpr const char* kAlways =
-    "Frame2 Frame3 Frame4 Frame5 Frame6 Frame7 Frame8 Frame10 Frame11 Frame15 ComboDIP(0) ComboDIP(1) "
-    "ComboDIP(6) ComboALM(4) ComboALM(5) Label1(46) Label1(47) Label1(50) Label1(54) Label1(60) Label1(20) "
-    "Label1(21) Label1(22) Label1(33) Label1(34) Label1(35) Label1(37) Label1(0) Label1(8) ComboTrigger(0) "
-    "ComboTD(0) ComboTD(5) cmdTitle Title_Text ComboExcp(1) ComboExcp(2) ComboExcp(3) OpDVR(0) OpDVR(1) "
-    "Label1(12) ComboKLM4011(0) ComboKLM4011(1) CmdUpDow(4) DemoMode";
-
-void ExpectVisible(Installed& program, const char* controls, bool visible) {
-  for (const auto& control : Split(controls, ' '))
-    EXPECT_EQ(program.Control(control).visible, visible) << control;
-}
-
-void ExpectLists(Installed& program, const char* words) {
-  const bool is_short = Has(words, "short"), vista = Has(words, "vista");
-  EXPECT_EQ(program.Offered("ComboDIP(0)"),
-            std::string("1|3|5|10|15|20|30|60|120|180|240|NONE") + (Has(words, "rts") ? "|RTS" : ""));
-  EXPECT_EQ(program.Offered("ComboLang"), Has(words, "spanish") ? "English|Spanish|Spanish"
-                                          : vista               ? "English|German|Spanish"
-                                                                : "English|German");
+void ExpectLists(Installed& program, const FirmwareFacts& facts) {
+  const bool reduced = facts.Has(Feature::kReducedForm), vista = facts.Has(Feature::kVista);
+  EXPECT_EQ(program.Offered("ComboDIP(0)"), std::string("1|3|5|10|15|20|30|60|120|180|240|NONE") +
+                                                (facts.Has(Feature::kRtsBlankTime) ? "|RTS" : ""));
+  EXPECT_EQ(program.Offered("ComboLang"), facts.Has(Feature::kSpanishFirst) ? "English|Spanish|Spanish"
+                                          : vista                           ? "English|German|Spanish"
+                                                                            : "English|German");
   EXPECT_EQ(program.Offered("ComboCOMM(7)"),
             std::string("OVL-ADD|ONET|TRVX|DALLMEIER") + (vista ? "|NORBAIN VISTA" : ""));
   const std::string speeds = "1200|2400|4800|9600|14400|19200|28800|38400";
   for (const char* list : {"ComboCOMM(1)", "ComboCOMM(2)"})
-    EXPECT_EQ(program.Offered(list), speeds + (is_short ? "|AUTO" : "|57600|115200|AUTO"));
+    EXPECT_EQ(program.Offered(list), speeds + (reduced ? "|AUTO" : "|57600|115200|AUTO"));
   EXPECT_EQ(program.Offered("ComboCOMM(12)"), speeds + "|57600|115200");
   auto& main = program.app.frmMain;
-  EXPECT_EQ(main.Label1.at(35).caption, is_short ? "HANDSHAKE" : "HW HANDSHAKING");
+  EXPECT_EQ(main.Label1.at(35).caption, reduced ? "HANDSHAKE" : "HW HANDSHAKING");
   EXPECT_EQ(main.ComboCOMM[5].caption, main.Label1.at(35).caption);
-  EXPECT_EQ(main.SSTab1.captions.at(5), is_short ? "           TIME             " : " TIME / LANGUAGE ");
+  EXPECT_EQ(main.SSTab1.captions.at(5), reduced ? "           TIME             " : " TIME / LANGUAGE ");
   EXPECT_EQ(main.SSTab1.captions.size(), 7U);
   EXPECT_EQ(main.SSTab1.current, 0);
 }
 
-TEST(Variants, EveryFirmwareShowsWhatItHas) {
-  std::vector<firmware::FirmwareId> seen;
-  for (const auto& [version, releases, words] : kForms) {
-    for (const auto& release : Split(releases, ' ')) {
-      seen.push_back({version, release});
-      SCOPED_TRACE(seen.back().Joined());
-      PanelProgram program(seen.back());
-      for (const auto& [word, shown, controls] : kGroups)
-        ExpectVisible(program, controls, shown == Has(words, word));
-      ExpectVisible(program, kAlways, true);
-      ExpectLists(program, words);
+TEST(Variants, EveryFirmwareShowsOnlyItsControls) {
+  for (const auto& facts : AllFirmwareFacts()) {
+    PanelProgram program(facts.id);
+    for (const auto& group : kFeatureControls) {
+      ExpectVisible(program, group.shown, facts.Has(group.feature));
+      ExpectVisible(program, group.hidden, !facts.Has(group.feature));
     }
+    ExpectVisible(program, kAlwaysShown, true);
+    ExpectLists(program, facts);
   }
-  EXPECT_EQ(seen, EveryFirmware());
 }
 
-TEST(Variants, WhatIsHiddenKeepsItsBytes) {
+TEST(Variants, HiddenControlsKeepTheirBytes) {
   PanelProgram program({"V1300", "R14"}), other({"V1300", "R14"});
   program.Byte(image::FieldId::SPCOMPRES_BAK) = "03";
   program.Byte(image::FieldId::DEMO_ENABLE) = "02";
@@ -115,7 +87,7 @@ TEST(Variants, WhatIsHiddenKeepsItsBytes) {
   EXPECT_EQ(other.Byte(image::FieldId::SPCOMPRES_BAK) + other.Byte(image::FieldId::DEMO_ENABLE), "0302");
 }
 
-TEST(Variants, TheCompactFormIsALaterReleaseWithLessOnIt) {
+TEST(Variants, TheCompactFirmwareHidesPartsOfTheReleaseItRunsAs) {
   for (const firmware::FirmwareId& runs_as : {firmware::FirmwareId{"V1400", "R7"}, {"V1400", "R2"}}) {
     SCOPED_TRACE(runs_as.Joined());
     const bool later = runs_as.Number() == 7;
@@ -126,55 +98,68 @@ TEST(Variants, TheCompactFormIsALaterReleaseWithLessOnIt) {
     ASSERT_EQ(program.Start(), core::Outcome::kDone);
     EXPECT_EQ(program.app.firmware, runs_as);
     EXPECT_EQ(std::get<std::string>(program.settings["Version"]), "V1410");
-    ExpectVisible(program,
-                  "Label1(46) ComboALM(4) Label1(47) ComboALM(5) Label1(48) ComboALM(6) Label1(50) "
-                  "ComboTrigger(0) Label1(20) ComboExcp(1) Frame12 Label1(0) Label1(8) ComboTD(0) ComboTD(5) "
-                  "cmdTitle Title_Text SharpOP(26) CmdUpDow(5) IBMOP(7) OpSharp(9) OpRI_QT2(10) Label1(23) "
-                  "ComboExcp(4) Label1(54) Label1(55) Label1(56) Label1(57) Label1(58) Label1(59) Label1(60) "
-                  "Label1(61) ComboDIP(0) ComboDIP(1) ComboDIP(2) ComboDIP(3) ComboDIP(4) ComboDIP(5) "
-                  "ComboDIP(6) ComboDIP(7)",
+    ExpectVisible(program, {"Label1(46)",  "ComboALM(4)",  "Label1(47)",      "ComboALM(5)",  "Label1(48)",
+                            "ComboALM(6)", "Label1(50)",   "ComboTrigger(0)", "Label1(20)",   "ComboExcp(1)",
+                            "Frame12",     "Label1(0)",    "Label1(8)",       "ComboTD(0)",   "ComboTD(5)",
+                            "cmdTitle",    "Title_Text",   "SharpOP(26)",     "CmdUpDow(5)",  "IBMOP(7)",
+                            "OpSharp(9)",  "OpRI_QT2(10)", "Label1(23)",      "ComboExcp(4)", "Label1(54)",
+                            "Label1(55)",  "Label1(56)",   "Label1(57)",      "Label1(58)",   "Label1(59)",
+                            "Label1(60)",  "Label1(61)",   "ComboDIP(0)",     "ComboDIP(1)",  "ComboDIP(2)",
+                            "ComboDIP(3)", "ComboDIP(4)",  "ComboDIP(5)",     "ComboDIP(6)",  "ComboDIP(7)"},
                   false);
     ExpectVisible(program,
-                  "Frame3 Label1(62) ComboDIP(8) ComboALM(3) ComboTrigger(1) ComboTrigger(2) Label1(21) "
-                  "Label1(22) ComboExcp(2) ComboExcp(3) Frame2 Frame13 Frame14 FrameDemo OpDVR(2) "
-                  "ComboKLM4011(3) ComboTD(1) ComboExcepRe(2)",
+                  {"Frame3", "Label1(62)", "ComboDIP(8)", "ComboALM(3)", "ComboTrigger(1)", "ComboTrigger(2)",
+                   "Label1(21)", "Label1(22)", "ComboExcp(2)", "ComboExcp(3)", "Frame2", "Frame13", "Frame14",
+                   "FrameDemo", "OpDVR(2)", "ComboKLM4011(3)", "ComboTD(1)", "ComboExcepRe(2)"},
                   true);
-    ExpectVisible(program, "Label1(49) ComboALM(7)", later);
+    ExpectVisible(program, {"Label1(49)", "ComboALM(7)"}, later);
     const auto& main = program.app.frmMain;
     EXPECT_EQ(main.Label1.at(62).caption, "OUTPUT CHARACTER / LINE");
     EXPECT_EQ(main.ComboDIP[8].caption, "OUTPUT CHARACTER / LINE");
-    ExpectLists(program, later ? " vista type " : " vista ");
+    ExpectLists(program, FactsOf(runs_as));
   }
 }
 
-TEST(Variants, AnUnknownReleaseRunsNoStepButIsShortInAShortFamily) {
-  Installed program({"V1324", "R22"}, Images::kOwn), later({"V1400", "R13"}, Images::kOwn);
+TEST(Variants, AnUnknownReleaseShowsNothingNewButAReducedFormInAReducedFamily) {
+  // A release between two others, because the newest form of V1324 applies to every later release.
+  Installed program({"V1324", "R22"}, Images::kOwn), later({"V1400", "R99"}, Images::kOwn);
   ASSERT_EQ(program.Start(), core::Outcome::kDone);
-  ExpectVisible(program, "Frame13 Frame12 OpDVR(2) ComboDIP(8) ComboALM(7)", false);
+  ExpectVisible(program, {"Frame13", "Frame12", "OpDVR(2)", "ComboDIP(8)", "ComboALM(7)"}, false);
   EXPECT_TRUE(program.Control("FrameDemo").visible);
   EXPECT_TRUE(program.app.frmMain.ComboReg.items.empty());
   ASSERT_EQ(later.Start(), core::Outcome::kDone);
-  ExpectVisible(later, "CmdUpDow(5) OpNCR(5)", false);
+  ExpectVisible(later, {"CmdUpDow(5)", "OpNCR(5)"}, false);
 }
 
-// What a position means to the installer: an entry out of its place would store another setting.
-TEST(Lists, ReadInTheOrderOfTheirCodes) {
-  const std::string lists =
-      "ComboTD(0) ComboTD(4) ComboTD(5) ComboExcepRe(0)=OFF|ON;ComboTD(1)=12 HOUR|24 HOUR;"
-      "ComboTD(2)=MM/DD/YY|DD/MM/YY|YY/MM/DD;ComboTD(3)=DISABLED|U.S.A|CANADA|AUSTRALIA|TASMANIA|U.K.;"
-      "ComboDIP(2)=TOP|BOTTOM;ComboDIP(7)=OFF|1|2|3|4|5;ComboALM(2)=NO|NC;"
-      "ComboALM(3)=1|3|5|10|15|20|30|60|120|180|240|PLUSE;ComboALM(4)=NONE|*|FLASH *|REVERSE|FLASH;"
-      "ComboALM(6)=OFF|MANUAL|1S|2S|3S|5S|10S|20S|30S|1M;ComboALM(7)=DWELL|TIMED;"
-      "CharacterList=19 Character|37 Character;"
-      "DemoType=FAST FOOD|CONVENIENCE STORE|GROCERY|PIZZA SHOP|COFFEE SHOP|RETAIL STORE;"
-      "DemoSpeed=0.5 Sec.|1 Sec.|2 Sec.|3 Sec;"
-      "OpBaud=1200|2400|4800|9600|14400|19200|28800|38400|57600|115200;OpParity=NONE|ODD|EVEN;"
-      "OpDataBits=7 Bits|8 Bits;OpDVR=KLM-4001|KLR-4011, 4021|TRVX3000/TRVX5000";
+// An entry at a wrong position would store another setting than the user reads.
+TEST(Lists, HaveTheirEntriesInTheOrderOfTheCodes) {
+  struct Row {
+    Names lists;
+    const char* entries;
+  };
+  const std::vector<Row> rows = {
+      {{"ComboTD(0)", "ComboTD(4)", "ComboTD(5)", "ComboExcepRe(0)"}, "OFF|ON"},
+      {{"ComboTD(1)"}, "12 HOUR|24 HOUR"},
+      {{"ComboTD(2)"}, "MM/DD/YY|DD/MM/YY|YY/MM/DD"},
+      {{"ComboTD(3)"}, "DISABLED|U.S.A|CANADA|AUSTRALIA|TASMANIA|U.K."},
+      {{"ComboDIP(2)"}, "TOP|BOTTOM"},
+      {{"ComboDIP(7)"}, "OFF|1|2|3|4|5"},
+      {{"ComboALM(2)"}, "NO|NC"},
+      {{"ComboALM(3)"}, "1|3|5|10|15|20|30|60|120|180|240|PLUSE"},
+      {{"ComboALM(4)"}, "NONE|*|FLASH *|REVERSE|FLASH"},
+      {{"ComboALM(6)"}, "OFF|MANUAL|1S|2S|3S|5S|10S|20S|30S|1M"},
+      {{"ComboALM(7)"}, "DWELL|TIMED"},
+      {{"CharacterList"}, "19 Character|37 Character"},
+      {{"DemoType"}, "FAST FOOD|CONVENIENCE STORE|GROCERY|PIZZA SHOP|COFFEE SHOP|RETAIL STORE"},
+      {{"DemoSpeed"}, "0.5 Sec.|1 Sec.|2 Sec.|3 Sec"},
+      {{"OpBaud"}, "1200|2400|4800|9600|14400|19200|28800|38400|57600|115200"},
+      {{"OpParity"}, "NONE|ODD|EVEN"},
+      {{"OpDataBits"}, "7 Bits|8 Bits"},
+      {{"OpDVR"}, "KLM-4001|KLR-4011, 4021|TRVX3000/TRVX5000"},
+  };
   Installed program({"V1400", "R12"}, Images::kFirstRegister);
-  for (const auto& row : Split(lists, ';')) {
-    const auto end = row.find('=');
-    for (const auto& name : Split(row.substr(0, end), ' '))
-      EXPECT_EQ(program.Offered(name), row.substr(end + 1)) << name;
+  for (const auto& row : rows) {
+    for (const auto* list : row.lists) EXPECT_EQ(program.Offered(list), row.entries) << list;
   }
   const auto ports = program.Offered("Comport_Select");
   EXPECT_EQ(ports.substr(0, 20) + ports.substr(ports.size() - 10), "Comport 1|Comport 2|Comport 16");

@@ -1,4 +1,4 @@
-// What the system calls ports, texts and bad characters, and what they are here.
+// Names of ports, code pages of texts, and marks of parity errors as the system has them.
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -15,7 +15,7 @@
 namespace ovl {
 namespace {
 
-TEST(Comports, ALinkTakesThePlaceOfTheTable) {
+TEST(Comports, ALinkReplacesTheEntryOfTheTable) {
   const QTemporaryDir folder;
   const auto links = folder.filePath("ports/com%1");
   QDir(folder.path()).mkpath("ports");
@@ -35,7 +35,7 @@ TEST(Comports, ALinkTakesThePlaceOfTheTable) {
   EXPECT_FALSE(comports[4].present);
 }
 
-TEST(Comports, OnlyARefusedPermissionNamesTheGroup) {
+TEST(Comports, OnlyADeniedPermissionNamesTheGroup) {
   const QTemporaryDir folder;
   const auto file = folder.filePath("device");
   ASSERT_TRUE(QFile(file).open(QIODevice::WriteOnly));
@@ -50,7 +50,7 @@ TEST(Comports, OnlyARefusedPermissionNamesTheGroup) {
             "Comport 9, /dev/no-such-device: Permission denied.");
 }
 
-TEST(TextCodec, EveryByteIsACharacterOfItsOwnWhereWindowsHasIt) {
+TEST(TextCodec, EveryByteOfTheWindowsCodePageIsOneCharacter) {
   std::string bytes;
   for (int code = 0; code < 256; ++code) bytes += static_cast<char>(code);
   EXPECT_EQ(host::FromWindows1252(bytes).size(), 256);
@@ -62,12 +62,12 @@ TEST(TextCodec, EveryByteIsACharacterOfItsOwnWhereWindowsHasIt) {
   }
 }
 
-TEST(TextCodec, WhatTheSystemSaysIsUtf8WhereItCanBe) {
+TEST(TextCodec, ASystemTextIsReadAsUtf8IfItIsValid) {
   EXPECT_EQ(host::FromSystem("/tmp/\xC3\xA4: denied"), QStringView(u"/tmp/\u00E4: denied"));
   EXPECT_EQ(host::FromSystem("/tmp/\xE4"), QStringView(u"/tmp/\u00E4"));
 }
 
-TEST(ParityMarks, AnySplitOfTheReadsGivesTheSameCharacters) {
+TEST(ParityMarks, TheCharactersDoNotDependOnHowTheReadsAreSplit) {
   using namespace std::string_literals;
   const auto marked = "a\xFF\0b\xFF\xFF\xFF\0\xFF\xFF\0\0\0z\xFF\xFF\xFF\xFF?"s;
   const auto expected = "a?\xFF??\0z\xFF\xFF?"s;

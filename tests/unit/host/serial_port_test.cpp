@@ -25,7 +25,7 @@ namespace {
 
 using namespace std::string_literals;
 
-// The unit's end of the line, played by the master of a pseudo-terminal.
+// The master of a pseudo-terminal plays the unit.
 class PseudoTerminal {
  public:
   PseudoTerminal() : master_(::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK)) {
@@ -41,8 +41,7 @@ class PseudoTerminal {
   void Send(std::string_view bytes) const {
     EXPECT_EQ(::write(master_, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
   }
-  // A pseudo-terminal has no parity errors of its own. With the driver's marking off, what is sent reaches
-  // the program as it stands, marks included.
+  // A pseudo-terminal has no parity errors. When its driver marks none, the test can send the marks itself.
   void SendRaw(std::string_view bytes) const {
     auto settings = Settings();
     settings.c_iflag &= ~static_cast<tcflag_t>(PARMRK);
@@ -71,7 +70,7 @@ class PseudoTerminal {
   std::string device_;
 };
 
-// Runs the loop until the condition holds; false if it still doesn't when the patience ends.
+// Runs the event loop until the condition holds. Returns false if it takes too long.
 bool RunUntil(const std::function<bool()>& condition, int patience = 10'000) {
   for (const QDeadlineTimer end(patience); !condition();) {
     if (end.hasExpired()) return false;
@@ -80,19 +79,19 @@ bool RunUntil(const std::function<bool()>& condition, int patience = 10'000) {
   return true;
 }
 
-// Runs the loop for a while in which something that must not happen could happen.
+// Runs the event loop long enough for an event that must not come.
 void RunForAWhile() {
   RunUntil([] { return false; }, 50);
 }
 
-// Runs the loop until it has nothing left to do; false if it is never idle.
+// Runs the event loop until it is idle. Returns false if it is never idle.
 bool BecomesIdle() {
   int turns = 1000;
   while (turns > 0 && QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents)) --turns;
   return turns > 0;
 }
 
-// Comport 1 is a pseudo-terminal, the program a stub that notes what it is told.
+// Comport 1 is a pseudo-terminal. Instead of the program, a stub records the events.
 class SerialPortTest : public testing::Test {
  protected:
   SerialPortTest() {
@@ -123,7 +122,7 @@ class SerialPortTest : public testing::Test {
     ASSERT_TRUE(line_.open({1, settings}).Ok());
   }
 
-  // What comes meanwhile waits in the port.
+  // Characters that arrive now wait in the port.
   void SendWhileBusy(std::string_view text) {
     busy_ = true;
     terminal_.Send(text);
@@ -155,7 +154,7 @@ TEST_F(SerialPortTest, OpeningSetsTheSpeed) {
   EXPECT_FALSE(terminal_.MarksParityErrors());
 }
 
-TEST_F(SerialPortTest, OpeningFailsInTheSystemsWords) {
+TEST_F(SerialPortTest, AFailedOpeningHasTheReasonOfTheSystem) {
   Link(2, "/dev/no-such-device");
   Link(3, folder_.path().toStdString());
   Link(4, "/dev/null");
@@ -172,14 +171,14 @@ TEST_F(SerialPortTest, OpeningFailsInTheSystemsWords) {
   EXPECT_STREQ(second.Operations().open({1, "9600,N,8,1"}).Problem().what(), "Device or resource busy");
 }
 
-TEST_F(SerialPortTest, EveryCharacterIsAnEventOfItsOwnAndWritesDrainOnceAndLater) {
+TEST_F(SerialPortTest, EveryCharacterIsOneEventAndEveryWriteDrainsOnceLater) {
   Open();
   terminal_.Send("abc\0\xFF"s);
   EXPECT_TRUE(ValueDisplay("abc\0\xFF"s));
   EXPECT_EQ(offers_, 5);
   EXPECT_EQ(line_.read(), "");
 
-  Open("300,N,8,1");  // so slow that a busy machine is back before the last character has left
+  Open("300,N,8,1");  // so slow that even a busy machine continues before the last character is sent
   told_.clear();
   EXPECT_TRUE(line_.write("x").Ok());
   EXPECT_TRUE(line_.write("request").Ok());
@@ -194,7 +193,7 @@ TEST_F(SerialPortTest, EveryCharacterIsAnEventOfItsOwnAndWritesDrainOnceAndLater
   EXPECT_EQ(told_, "<drained>");
 }
 
-TEST_F(SerialPortTest, AStreamGoesOutCharacterByCharacterAndNoneIsLostWhereTheyAreNotRead) {
+TEST_F(SerialPortTest, AStreamIsSentByCharactersAndNoneIsLostIfTheyAreNotRead) {
   std::string left, arrived;
   const auto arrives = [&](const std::string& stream) {
     return RunUntil([&] { return (arrived += terminal_.Receive()).size() >= stream.size(); }) &&
@@ -220,7 +219,7 @@ TEST_F(SerialPortTest, AStreamGoesOutCharacterByCharacterAndNoneIsLostWhereTheyA
   EXPECT_TRUE(arrives(stream + "end"));
 }
 
-TEST_F(SerialPortTest, ClosingDropsWhatIsOutstanding) {
+TEST_F(SerialPortTest, ClosingDropsPendingEvents) {
   Open();
   EXPECT_TRUE(line_.write("x").Ok());
   line_.close();
@@ -233,7 +232,7 @@ TEST_F(SerialPortTest, ClosingDropsWhatIsOutstanding) {
   line_.close();
   Open();
   Resume();
-  // So does a handler that closes.
+  // A handler that closes the port does so, too.
   on_told_ = [&](const std::string& character) {
     if (character == "?") line_.close();
   };
@@ -257,7 +256,7 @@ TEST_F(SerialPortTest, EventsWaitInOrderWhileTheProgramIsBusy) {
   Resume();
   EXPECT_TRUE(ValueDisplay(sent));
 
-  // A tick finds everything told.
+  // At a tick everything is reported already.
   const std::string ahead(3000, 'a');
   SendWhileBusy(ahead);
   busy_ = false;
@@ -265,7 +264,7 @@ TEST_F(SerialPortTest, EventsWaitInOrderWhileTheProgramIsBusy) {
   EXPECT_EQ(told_, sent + ahead);
 }
 
-TEST_F(SerialPortTest, ClearingThrowsAwayWhatWaits) {
+TEST_F(SerialPortTest, ClearingDropsWaitingCharacters) {
   Open();
   SendWhileBusy("old");
   terminal_.Send("older still");
@@ -278,7 +277,7 @@ TEST_F(SerialPortTest, ClearingThrowsAwayWhatWaits) {
   EXPECT_TRUE(ValueDisplay("new"));
 }
 
-TEST_F(SerialPortTest, BadCharactersBecomeQuestionMarksAndHalfAMarkIsForgottenByTheNextOpening) {
+TEST_F(SerialPortTest, ParityErrorsBecomeQuestionMarksAndANewOpeningDropsHalfAMark) {
   Open("9600,E,7,1");
   terminal_.Send("a\xFF"s);
   EXPECT_TRUE(ValueDisplay("a\xFF"));
@@ -291,7 +290,7 @@ TEST_F(SerialPortTest, BadCharactersBecomeQuestionMarksAndHalfAMarkIsForgottenBy
   EXPECT_TRUE(ValueDisplay("a\xFF\x62?\xFF?z\0d"s));
 }
 
-TEST_F(SerialPortTest, ALostPortIsQuietAndFailsTheNextWrite) {
+TEST_F(SerialPortTest, ALostPortSendsNoEventsAndFailsTheNextWrite) {
   Open("1200,N,8,1");
   core::Result failure;
   on_told_ = [&](const std::string&) { failure = line_.write("y"); };
@@ -306,7 +305,7 @@ TEST_F(SerialPortTest, ALostPortIsQuietAndFailsTheNextWrite) {
   EXPECT_EQ(port_->LastProblem(), QString("Comport 1, %1: No such device.").arg(terminal_.Device().c_str()));
 }
 
-TEST_F(SerialPortTest, WhatCameBeforeTheLossIsStillTold) {
+TEST_F(SerialPortTest, CharactersBeforeTheLossAreStillReported) {
   Open();
   SendWhileBusy("last");
   terminal_.HangUp();
@@ -319,7 +318,7 @@ TEST_F(SerialPortTest, WhatCameBeforeTheLossIsStillTold) {
 }  // namespace
 }  // namespace ovl
 
-// The event loop's application object stands as long as the tests run.
+// The application object of Qt exists as long as the tests run.
 int main(int count, char** words) {
   const QCoreApplication application(count, words);
   ::testing::InitGoogleTest(&count, words);

@@ -33,7 +33,7 @@ class Settings : public testing::Test {
   host::SettingsStore store_{folder_.path()};
 };
 
-TEST_F(Settings, WhatIsWrittenIsFoundByTheNextStart) {
+TEST_F(Settings, TheNextStartReadsWhatWasWritten) {
   EXPECT_EQ(store_.WhyNotRead(), File().toStdString() + ": No such file or directory");
   // Content that is no settings file is replaced.
   for (const auto& before : {QByteArray(), QByteArray("\0\xFF[[[\x80 no settings\n\xFE\0=", 21)}) {
@@ -47,7 +47,7 @@ TEST_F(Settings, WhatIsWrittenIsFoundByTheNextStart) {
   }
 }
 
-TEST_F(Settings, AFileWrittenByHandIsReadAsFarAsItHasTextsOfTheProgramsCharacters) {
+TEST_F(Settings, OfAnEditedFileOnlyTextsInTheCharactersOfTheProgramAreRead) {
   Content(
       "Version=V1300\nRelease=14\nEmpty=\nList=a, b\nForeign=\"\xD0\xB9\"\n"
       "Number=@Variant(\\0\\0\\0\\x2\\0\\0\\x5x)\n\n[Group]\nInside=x\n");
@@ -60,8 +60,8 @@ TEST_F(Settings, AFileWrittenByHandIsReadAsFarAsItHasTextsOfTheProgramsCharacter
   EXPECT_FALSE(store_.Write("SOFTWARE\\ORB", "Version", "V1400").Ok());
 }
 
-// A list that says it has two thousand million entries, and the same with its name written in other ways.
-TEST_F(Settings, AFileWithOtherTypesIsReportedAndPutAsideByTheNextWrite) {
+// A list with a size of two thousand million entries, and the same with its name written in other ways.
+TEST_F(Settings, AFileWithOtherTypesIsReportedAndRenamedByTheNextWrite) {
   for (const QByteArray name : {"@Variant", "\\x40Variant", "\\100Variant", "\\x10040Variant",
                                 "\"@\"Vari\\\nant", "@Var\\qi\\x61nt"}) {
     const auto content = "Release=R12\nVersion=" + name + "(\\0\\0\\0\\x9\\0\\x7f\\xff\\xff\\xff)\n";
@@ -80,7 +80,7 @@ TEST_F(Settings, AFileWithOtherTypesIsReportedAndPutAsideByTheNextWrite) {
   }
 }
 
-TEST_F(Settings, WhatStandsInThePlaceOfFileOrFolderHoldsNothingAndIsNotWritten) {
+TEST_F(Settings, SomethingElseInThePlaceOfTheFileIsNeitherReadNorWritten) {
   ASSERT_TRUE(QFile(folder_.filePath("ORB")).open(QIODevice::WriteOnly));
   EXPECT_EQ(store_.Write(kKey, "Version", "V1400").Problem().Text(),
             folder_.filePath("ORB").toStdString() + ": Not a directory");
@@ -92,8 +92,8 @@ TEST_F(Settings, WhatStandsInThePlaceOfFileOrFolderHoldsNothingAndIsNotWritten) 
   EXPECT_FALSE(store_.Write(kKey, "Version", "V1400").Ok());
 }
 
-// As on desktops that put folders of their own ahead.
-TEST_F(Settings, TheMachinesFileIsFoundBehindOtherPlaces) {
+// Some desktops have folders of their own before the system-wide one.
+TEST_F(Settings, TheSystemWideFileIsFoundAfterOtherPlaces) {
   Content("Version=V1300\n");
   const QTemporaryDir ahead;
   const auto before = qgetenv("XDG_CONFIG_DIRS");

@@ -3,40 +3,18 @@
 
 #include <gtest/gtest.h>
 
+#include "support/firmware_facts.h"
 #include "support/harness.h"
 
 namespace ovl::testing {
 namespace {
-
-// Written down apart from the program's table: family, releases, first and last marker, digits in the last
-// record.
-struct FirmwareLine {
-  const char* version;
-  std::vector<int> releases;
-  const char *first, *last;
-  int records;
-  std::size_t last_digits;
-};
-
-const FirmwareLine kLines[] = {
-    {"V1400", {1, 2, 4}, "$2000", "$2840", 67, 48},
-    {"V1400", {6}, "$2000", "$2860", 68, 16},
-    {"V1400", {7}, "$2000", "$2860", 68, 34},
-    {"V1400", {11, 12}, "$2000", "$2860", 68, 36},
-    {"V1300", {14, 15, 16, 17, 18, 19, 20, 21, 23}, "$7800", "$7FE0", 64, 34},
-    {"V1324", {17, 18, 19, 20, 21, 23, 24}, "$7800", "$7FE0", 64, 34},
-    {"V1300", {26, 27}, "$77F0", "$7FF0", 65, 2},
-    {"V1324", {25, 26}, "$77F0", "$7FF0", 65, 2},
-    {"V1310", {1}, "$77F0", "$7FF0", 65, 2},
-    {"V1334", {1}, "$77F0", "$7FF0", 65, 2},
-};
 
 std::string Joined(std::string stream) {
   std::erase_if(stream, [](char character) { return character == '\r' || character == '\n'; });
   return stream;
 }
 
-// An image that came out of a stream.
+// An application that has loaded a stream.
 struct Loaded : core::Application {
   Loaded(const firmware::FirmwareId& its_firmware, std::string_view stream) {
     firmware = its_firmware;
@@ -46,23 +24,20 @@ struct Loaded : core::Application {
   void Load(std::string_view stream) { EXPECT_TRUE(core::LoadStream(*this, stream)); }
 };
 
-const firmware::FirmwareId kLatest{"V1400", "R12"};
-
-TEST(RecordStream, EveryFirmwareComposesWhatItDecoded) {
-  for (const auto& line : kLines) {
-    for (const int release : line.releases) {
-      const firmware::FirmwareId firmware{line.version, "R" + std::to_string(release)};
-      SCOPED_TRACE(firmware.Joined());
-      const auto stream = RawPatternStream(firmware);
-      EXPECT_EQ(stream.substr(0, 5), line.first);
-      EXPECT_EQ(std::count(stream.begin(), stream.end(), '$'), line.records);
-      const auto tail = stream.substr(stream.rfind('$'));
-      EXPECT_EQ(tail.substr(0, 5), line.last);
-      EXPECT_EQ(tail.size(), 5 + line.last_digits + 1);
-      Loaded app(firmware, Joined(stream));
-      EXPECT_EQ(SectionsToStream(app), stream);
-      EXPECT_EQ(ReopenableStream(app), stream);
-    }
+TEST(RecordStream, EveryFirmwareWritesTheStreamThatItRead) {
+  constexpr std::size_t kDigitsInRecord = 64, kHead = 5, kEndMark = 1;
+  for (const auto& [firmware, expected, features] : AllFirmwareFacts()) {
+    SCOPED_TRACE(firmware.Joined());
+    const auto stream = RawPatternStream(firmware);
+    EXPECT_EQ(stream.substr(0, kHead), expected.first_record);
+    const auto records = static_cast<std::size_t>(std::count(stream.begin(), stream.end(), '$'));
+    EXPECT_EQ(records, expected.digits / kDigitsInRecord + 1);
+    const auto tail = stream.substr(stream.rfind('$'));
+    EXPECT_EQ(tail.substr(0, kHead), expected.last_record);
+    EXPECT_EQ(tail.size(), kHead + expected.digits % kDigitsInRecord + kEndMark);
+    Loaded app(firmware, Joined(stream));
+    EXPECT_EQ(SectionsToStream(app), stream);
+    EXPECT_EQ(ReopenableStream(app), stream);
   }
 }
 
@@ -75,7 +50,7 @@ struct Place {
   int early, late, old_v13, new_v13;
 };
 
-TEST(FieldMap, FieldsStandWhereTheUnitKeepsThem) {
+TEST(FieldMap, FieldsHaveTheirPlaceInTheStream) {
   using enum image::FieldId;
   const Place places[] = {
       {UNITADDR, 1, true, 11, 11, 11, 11},        {REGDV_TYPE_BAK, 1, true, 20, 20, 20, 20},
@@ -106,7 +81,7 @@ TEST(FieldMap, FieldsStandWhereTheUnitKeepsThem) {
   }
 }
 
-TEST(FieldMap, FirmwareThatLackAFieldHoldItsSentinelOrZero) {
+TEST(FieldMap, AFieldThatTheFirmwareLacksHasItsPlaceholderOrZero) {
   using enum image::FieldId;
   const firmware::FirmwareId firmware{"V1324", "R18"};
   const Loaded app(firmware, Joined(RawPatternStream(firmware)));
@@ -122,14 +97,13 @@ TEST(FieldMap, FirmwareThatLackAFieldHoldItsSentinelOrZero) {
   }
 }
 
-TEST(FieldMap, ADefaultLoadTakesOnlyTheRegistersFields) {
+TEST(FieldMap, ADefaultLoadChangesOnlyTheFieldsOfTheRegister) {
   const std::string registers =
       " EXECENTRY COMMCFG_BAK IOCFG_BAK RX_BAUDRATE TX_BAUDRATE UNITADDR DV_ADDRIND_BAK TCIADDBAK_1 "
       "TCIADDBAK_2 TCIADDBAK_3 GTITLE_NF_BAK GPS_CONFIG_BAK REGDV_TYPE_BAK REG_GNA_BAK REG_LNA_BAK "
       "REG_IDNA_BAK PCDV_TYPE_BAK PC_GNA_BAK PC_LNA_BAK PC_IDNA_BAK MICROS_STATUS DEVICE_INDEX_BAK REGTYPE "
       "REGTYPE_MINOR REGTYPE_EXT1 REGTYPE_EXT2 IPADDRESS ";
-  for (const auto& line : kLines) {
-    const firmware::FirmwareId firmware{line.version, "R" + std::to_string(line.releases.back())};
+  for (const auto& firmware : EveryFirmware()) {
     SCOPED_TRACE(firmware.Joined());
     const Loaded old(firmware, Joined(RawPatternStream(firmware, 1)));
     const Loaded whole(firmware, Joined(RawPatternStream(firmware, 2, 9)));
@@ -146,7 +120,7 @@ TEST(FieldMap, ADefaultLoadTakesOnlyTheRegistersFields) {
   }
 }
 
-TEST(RecordStream, BlankTimeFlagOfR7GoesOutOnceAPanelWroteIt) {
+TEST(RecordStream, R7SendsTheBlankTimeFlagOnlyAfterAPanelWroteIt) {
   const firmware::FirmwareId firmware{"V1400", "R7"};
   const auto stream = RawPatternStream(firmware);
   Loaded app(firmware, Joined(stream));
@@ -158,7 +132,7 @@ TEST(RecordStream, BlankTimeFlagOfR7GoesOutOnceAPanelWroteIt) {
   EXPECT_EQ(SectionsToStream(app), stream);
 }
 
-TEST(RecordStream, WhatStandsOutsideTheFieldsIsIgnoredAndLowerCaseStays) {
+TEST(RecordStream, TextOutsideTheFieldsIsIgnoredAndLowerCaseIsKept) {
   const firmware::FirmwareId old{"V1300", "R14"};
   const auto stream = Joined(RawPatternStream(kLatest)), padded = Joined(RawPatternStream(old));
   const auto with = [](std::string text, std::size_t at, const std::string& other) {
@@ -172,7 +146,7 @@ TEST(RecordStream, WhatStandsOutsideTheFieldsIsIgnoredAndLowerCaseStays) {
       {kLatest, with(stream, 69, "$ZZZZ"), stream},
       {kLatest, every_byte + stream, stream},
       {kLatest, with(stream, 5, "a5"), with(stream, 5, "a5")},
-      // The tail of the first section begins in the second record.
+      // The end of the first section is in the second record.
       {old, with(padded, 69 + 5 + 4, "AB"), padded},
   };
   for (const auto& [firmware, text, composed] : rows) {

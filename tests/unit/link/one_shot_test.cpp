@@ -10,7 +10,7 @@ void ShowTime(Harness& program, const core::ClockTime& time) {
   program.Tick(program.app.frmMain.Timer, kRefresh);
 }
 
-// What the lists show, the day with the length of the month that its list is for.
+// What the lists show. Behind the day is the length of the month for which its list is made.
 std::string Shown(const controls::MainForm& main) {
   std::string days;
   for (std::size_t list = 0; list < 4; ++list) {
@@ -20,7 +20,7 @@ std::string Shown(const controls::MainForm& main) {
          main.ComboMin.Text() + ":" + main.ComboSec.Text();
 }
 
-TEST(SetTime, SendsWhatWasPicked) {
+TEST(SetTime, SendsThePickedTime) {
   InState program(State::kHeld);
   ShowTime(program, {2023, 1, 31, 10, 20, 30});
   program.Click("CheckTD");
@@ -32,7 +32,7 @@ TEST(SetTime, SendsWhatWasPicked) {
   EXPECT_EQ(program.TakeSent(), "/TD02-29-00 23:59:01\r\n\r");
 }
 
-TEST(Commands, CountTheirSilenceAnewAndSomeTheKeepAliveToo) {
+TEST(Commands, ResetTheWatchdogAndSomeTheKeepAlive) {
   for (const auto& [button, handcheck] : {std::pair{"CmdUpDow(0)", 0},
                                           {"CmdUpDow(1)", 0},
                                           {"CmdUpDow(2)", 0},
@@ -47,7 +47,7 @@ TEST(Commands, CountTheirSilenceAnewAndSomeTheKeepAliveToo) {
   }
 }
 
-TEST(Clock, FollowsTheComputerEveryEleventhTickAndAtOnceWhenTheBoxIsTicked) {
+TEST(Clock, FollowsTheComputerAtEachEleventhTickAndWhenTheBoxIsChecked) {
   InState program(State::kClosed);
   auto& main = program.app.frmMain;
   ShowTime(program, {2024, 2, 29, 23, 59, 58});
@@ -74,7 +74,7 @@ TEST(Clock, FollowsTheComputerEveryEleventhTickAndAtOnceWhenTheBoxIsTicked) {
   EXPECT_TRUE(main.Timer.enabled);
 }
 
-TEST(Clock, ADayThatFallsTwiceIsStoredTwice) {
+TEST(Clock, ADayThatFallsBackTwiceIsStoredTwice) {
   InState program(State::kClosed);
   ShowTime(program, {2023, 1, 31, 0, 0, 0});
   for (int round = 0; round < 2; ++round) {
@@ -86,7 +86,7 @@ TEST(Clock, ADayThatFallsTwiceIsStoredTwice) {
   }
 }
 
-TEST(Clock, ADayThatTheMonthLacksFallsToItsLast) {
+TEST(Clock, ADayAfterTheEndOfTheMonthBecomesItsLastDay) {
   const std::tuple<core::ClockTime, const char*, int, std::string> rows[] = {
       {{2023, 1, 31}, "ComboMonth", 1, "02-28/28-23"},  {{2024, 1, 31}, "ComboMonth", 1, "02-29/29-24"},
       {{2023, 1, 29}, "ComboMonth", 1, "02-28/28-23"},  {{2023, 1, 9}, "ComboMonth", 1, "02-09/28-23"},

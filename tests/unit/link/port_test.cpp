@@ -1,4 +1,4 @@
-// The port, from its dialog to its loss, and the scan.
+// The serial port: its dialog, its loss, and the baud scan.
 #include "link/port.h"
 
 #include <functional>
@@ -11,7 +11,7 @@
 namespace ovl::testing {
 namespace {
 
-TEST(PortSettings, StartAtTheSameValuesButForThePort) {
+TEST(PortSettings, StartWithTheSameValuesExceptThePort) {
   InState program(State::kClosed);
   auto& app = program.app;
   auto& dialog = app.frmSettSR;
@@ -43,7 +43,7 @@ TEST(PortSettings, StartAtTheSameValuesButForThePort) {
   EXPECT_EQ(program.opened, (std::vector<std::string>{"COM5:38400,E,7,1", "COM5:9600,O,8,1"}));
 }
 
-TEST(PortSettings, APortThatStandsOpenIsClosedFirst) {
+TEST(PortSettings, AnOpenPortIsClosedFirst) {
   InState program(State::kHeld);
   auto& main = program.app.frmMain;
   main.cmdConnect.visible = true;
@@ -58,7 +58,7 @@ TEST(PortSettings, APortThatStandsOpenIsClosedFirst) {
   EXPECT_EQ(program.opened, std::vector<std::string>(3, "COM1:9600,N,8,1"));
 }
 
-TEST(Scan, TriesEveryRateInVainUntilALinkWasAskedFor) {
+TEST(Scan, TriesEveryRateAndFailsWithoutARequestForTheLink) {
   InState program(State::kClosed);
   auto& app = program.app;
   std::vector<std::string> on_top;
@@ -67,30 +67,30 @@ TEST(Scan, TriesEveryRateInVainUntilALinkWasAskedFor) {
   program.Pick("OpBaud", 9);
   program.Pick("OpParity", 1);
   program.Pick("OpDataBits", 0);
-  int thrown_away = 0;
-  app.platform.serial.clear_output = [&] { ++thrown_away; };
+  int cleared = 0;
+  app.platform.serial.clear_output = [&] { ++cleared; };
   program.Click("BaudrateCMD");
   EXPECT_EQ(on_top, std::vector<std::string>{"frmScanBProgress"});
   EXPECT_TRUE(app.frmScanBProgress.form.top_most);
   std::vector<std::string> expected = {"COM1:9600,O,7,1"};
   for (const std::string rate :
        {"9600", "1200", "2400", "4800", "14400", "19200", "28800", "38400", "57600", "115200"}) {
-    program.Unit(std::string(kAck) + "?\x15" + kAck);
+    program.Unit(std::string(kAck) + "?" + kNak + kAck);
     program.Tick(app.frmSettSR.BaudRateScan);
     expected.push_back("COM1:" + rate + ",O,7,1");
     EXPECT_EQ(program.opened, expected);
-    EXPECT_EQ(app.frmScanBProgress.ScanProgressBar1.value, thrown_away - 1);
+    EXPECT_EQ(app.frmScanBProgress.ScanProgressBar1.value, cleared - 1);
     EXPECT_EQ(app.frmMain.lbConnectting.caption, "Connected at COM 1: " + rate + ",O,7,1");
   }
   program.Tick(app.frmSettSR.BaudRateScan);
   const auto& bar = app.frmScanBProgress.ScanProgressBar1;
   EXPECT_EQ(bar.value, bar.maximum);
-  EXPECT_EQ(program.TakeBox().text, "No Response From The Device");
+  EXPECT_EQ(program.TakeBox().text, kScanBox);
   ExpectState(app, State::kClosed);
 }
 
-// What else a line can bring is compared under random events, in tests/opinion.
-TEST(LostDevice, IsToldInTheBoxAndInTheNoteUntilAPortOpens) {
+// Other faults of the line are part of the random events of ovl-reference-model.
+TEST(LostDevice, IsReportedInTheBoxAndInTheStatusBarUntilAPortOpens) {
   const auto enq = [](InState& program) { program.Tick(program.app.frmMain.Time_handcheck, kEnqAt); };
   const auto upload = [](InState& program) { program.Press("CmdUpDow(0)"); };
   const auto ack = [](InState& program) { program.Unit(kAck); };
@@ -113,26 +113,26 @@ TEST(LostDevice, IsToldInTheBoxAndInTheNoteUntilAPortOpens) {
     program.open_error = std::nullopt;
     link::OpenPort(program.app);
     EXPECT_EQ(program.app.StatusNote, "");
-    // Where the end of the link is told in words of its own, the note alone has the reason.
+    // Disconnect shows no reason in a message box, so only the status bar has it.
     link::Disconnect(program.app);
     EXPECT_EQ(program.app.StatusNote, "Comport 1: Input/output error");
   }
 }
 
-TEST(WrongParity, LeadsBackToTheFirstRegister) {
+TEST(WrongParity, SelectsTheFirstRegisterAgain) {
   InState program(State::kAsked, kV1400, {"TCPIP"});
   program.Pick("ComboReg", 1);
   program.Unit("?");
-  EXPECT_EQ(program.TakeBox().text, "Check Parity and Data Bit Setting that Same OVL ,Try again !!!");
+  EXPECT_EQ(program.TakeBox().text, kParityBox);
   EXPECT_EQ(program.app.frmMain.ComboReg.Text(), "GENERIC");
 }
 
-TEST(Boxes, OfTheLinkBearNoIcon) {
+TEST(Boxes, OfTheLinkHaveNoIcon) {
   for (const auto& box : core::BoxTable())
     EXPECT_TRUE(box.box < core::Box::kPortFailed || box.icon == core::BoxIcon::kNone) << box.topic;
 }
 
-TEST(Hints, ThePointerOverATransferShowsItsOwn) {
+TEST(Hints, ThePointerOverATransferButtonShowsItsPicture) {
   InState program(State::kHeld);
   const auto& pictures = program.app.frmMain.Picture1;
   const std::pair<const char*, int> moves[] = {{"CmdUpDow(0)", 1}, {"CmdUpDow(1)", 2}, {"CmdUpDow(4)", 0},

@@ -1,4 +1,4 @@
-// A program in each state that the link can be in, and single steps from there.
+// A program in each state of the link, and single steps from there.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "support/box_texts.h"
+#include "support/control_characters.h"
 #include "support/harness.h"
 #include "support/state_table.h"
 
@@ -14,23 +16,17 @@ namespace ovl::testing {
 inline const firmware::FirmwareId kV1400 = {"V1400", "R12"};
 inline const firmware::FirmwareId kV1300 = {"V1300", "R14"};
 
-inline constexpr const char* kAck = "\x06";
-inline constexpr const char* kCan = "\x18";
 inline constexpr const char* kRemoteButton = "CmdUpDow(4)";
 inline constexpr int kEnqAt = 5;    // ticks of the keep-alive
 inline constexpr int kSilence = 6;  // ticks of the watchdog
-
-inline constexpr const char* kFailBox =
-    "                            !!! Remote Connection Fail. !!!\n"
-    "Cable Disconnected Or Communication Setting Wrong ,Try Again";
 
 inline void ExpectState(const core::Application& app, State state) {
   EXPECT_EQ(DifferenceFrom(state, app), "")
       << "from " << NameOf(state) << ", mode " << app.LinkMode << ", timers " << RunningTimers(app);
 }
 
-// Started and led into the state, one of those ahead of the end of a transfer, with nothing sent and no box
-// left to ask for.
+// A program in the state. What was sent on the way there is dropped, and no message box is left. The states
+// that follow the end of a transfer cannot be reached this way.
 class InState : public Harness {
  public:
   explicit InState(State state, const firmware::FirmwareId& firmware = kV1400,
@@ -44,7 +40,7 @@ class InState : public Harness {
     EXPECT_TRUE(NoBoxLeft());
   }
 
-  // The transmitter runs empty behind it.
+  // Clicks, and lets the transmitter send everything.
   void Press(const char* button) {
     EXPECT_EQ(Click(button), core::Outcome::kDone) << button;
     DrainAll();
@@ -65,7 +61,7 @@ class InState : public Harness {
     ExpectState(app, State::kHeld);
     TakeSent();
   }
-  // The command and its acknowledgement; the stream is the result.
+  // Sends the command, acknowledges it, and returns the stream.
   std::string Download() {
     Press("CmdUpDow(1)");
     TakeSent();

@@ -8,7 +8,7 @@ std::string UploadFile(const Harness& program) {
   return program.folder.File(program.app.firmware.version + "/upload.bin");
 }
 
-TEST(Upload, SelectsTheUnitsRegisterWithoutItsDefaults) {
+TEST(Upload, SelectsTheRegisterOfTheUnitWithoutItsDefaultImage) {
   InState program(State::kUploading, kV1400, {"TCPIP"});
   const auto stream = PatternStream(kV1400, 7, 1);
   EXPECT_EQ(program.Pick("ComboExcp(0)", 1), core::Outcome::kDone);
@@ -22,7 +22,7 @@ TEST(Upload, SelectsTheUnitsRegisterWithoutItsDefaults) {
   EXPECT_TRUE(program.Download() == stream);
 }
 
-TEST(Bar, BeginsAnewAfterABreakAndStandsStillAtItsEnd) {
+TEST(ProgressBar, StartsAgainAfterABreakAndStopsAtItsEnd) {
   InState program(State::kDownloadStream);
   const auto& bar = program.app.frmMain.vbalProgressBar1;
   program.Drain(200);
@@ -40,7 +40,7 @@ TEST(Bar, BeginsAnewAfterABreakAndStandsStillAtItsEnd) {
   }
 }
 
-TEST(Upload, ThatFailsInsideStopsUntilTheWatchdogEndsIt) {
+TEST(Upload, AFailureInsideStopsItUntilTheWatchdogEndsIt) {
   for (const std::string_view fault : {"no file", "no file, with the second register", "a panel"}) {
     SCOPED_TRACE(fault);
     const bool no_file = fault != "a panel";
@@ -68,7 +68,7 @@ TEST(Upload, ThatFailsInsideStopsUntilTheWatchdogEndsIt) {
   }
 }
 
-TEST(UnknownFamily, TouchesNoFileAndHasNothingToSend) {
+TEST(UnknownFamily, ChangesNoFileAndSendsNothing) {
   InState program(State::kUploading, {"V1500", "R1"});
   auto& app = program.app;
   WriteFile(UploadFile(program), "kept");
@@ -87,29 +87,38 @@ TEST(UnknownFamily, TouchesNoFileAndHasNothingToSend) {
   EXPECT_EQ(program.TakeBox().text, kFailBox);
 }
 
-TEST(Download, TakesTheHistoryIdsFromThePanelInTheOlderFamilies) {
-  // The recorder chosen, the lists, and the fields: recorder, destination, source; two blanks: as it was.
-  const std::tuple<int, std::array<int, 4>, std::string> rows[] = {
-      {0, {1, 2, 3, 4}, "00    "},  {1, {6, 31, 3, 4}, "010720"}, {2, {6, 31, 0, 15}, "020110"},
-      {1, {-1, 0, 7, 7}, "01  01"}, {2, {4, 4, 9, -1}, "020A  "}, {-1, {1, 2, 3, 4}, "      "}};
-  constexpr std::size_t kPlace = 5 + 2 * 29, kRecord = 71;
+TEST(Download, SendsTheRecorderIdsOfThePanelInTheOlderFamilies) {
+  struct Row {
+    int recorder;              // chosen
+    std::array<int, 4> lists;  // their positions
+    // The digits of the three fields in the stream; empty: as the image has them.
+    std::string recorder_byte, destination, source;
+  };
+  const Row rows[] = {
+      {0, {1, 2, 3, 4}, "00", "", ""},       {1, {6, 31, 3, 4}, "01", "07", "20"},
+      {2, {6, 31, 0, 15}, "02", "01", "10"}, {1, {-1, 0, 7, 7}, "01", "", "01"},
+      {2, {4, 4, 9, -1}, "02", "0A", ""},    {-1, {1, 2, 3, 4}, "", "", ""},
+  };
+  constexpr std::size_t kPlace = 5 + 2 * 29, kByte = 2, kRecord = 71;
   for (const auto& firmware : {kV1300, {"V1324", "R17"}, {"V1310", "R1"}, {"V1334", "R1"}, kV1400}) {
-    for (const auto& [chosen, lists, fields] : rows) {
-      SCOPED_TRACE(firmware.Joined() + " with " + fields);
+    for (const auto& row : rows) {
+      SCOPED_TRACE(firmware.Joined() + " with recorder " + std::to_string(row.recorder));
       InState program(State::kHeld, firmware);
       auto& main = program.app.frmMain;
-      main.OpDVR.chosen = chosen;
-      for (std::size_t list = 0; list < 4; ++list) main.ComboKLM4011[list].position = lists[list];
+      main.OpDVR.chosen = row.recorder;
+      for (std::size_t list = 0; list < 4; ++list) main.ComboKLM4011[list].position = row.lists[list];
       auto expected = PatternStream(firmware).substr(0, kRecord);
-      for (std::size_t digit = 0; digit < fields.size(); ++digit) {
-        if (!firmware.IsV1400() && fields[digit] != ' ') expected[kPlace + digit] = fields[digit];
+      auto place = kPlace;
+      for (const auto& byte : {row.recorder_byte, row.destination, row.source}) {
+        if (!firmware.IsV1400()) expected.replace(place, byte.size(), byte);
+        place += kByte;
       }
       EXPECT_EQ(program.Download().substr(0, kRecord), expected);
     }
   }
 }
 
-TEST(TransferEnd, StandsOnTopOnceTheBarIsFull) {
+TEST(TransferEnd, ItsWindowComesToTheTopWhenTheBarIsFull) {
   InState program(State::kUploading);
   const auto& bar = program.app.frmMain.vbalProgressBar1;
   std::string on_top;

@@ -1,10 +1,10 @@
 // The sixteen alarm outputs, and scroll matching.
-#include "unit/panels/acts.h"
+#include "unit/panels/panel_program.h"
 
 namespace ovl::testing {
 namespace {
 
-// Trigger, duration and its place, and what one family alone has behind them.
+// A record of trigger, duration, index of the duration and, for V1400 only, video loss.
 std::string Alarm(const firmware::FirmwareId& firmware, const std::string& four_bytes) {
   return four_bytes.substr(0, firmware.IsV1400() ? 8 : 6);
 }
@@ -39,7 +39,7 @@ TEST(Alarms, ARecordHasItsTriggerItsDurationAndItsVideoLoss) {
       program.Byte(ALMSTRUCT_BAK, 4) = Alarm(firmware, unknown);
       program.ShowAlarm(3);
       program.ShowAlarm(4);
-      EXPECT_EQ(program.At("ComboALM(1)"), 28) << "what the lists lack leaves them";
+      EXPECT_EQ(program.At("ComboALM(1)"), 28) << "values that the lists lack do not move them";
       EXPECT_TRUE(program.Visible("lbAlmTrig"));
       EXPECT_EQ(program.At("ComboALM(3)"), 4);
       EXPECT_EQ(program.Byte(ALMSTRUCT_BAK, 4), Alarm(firmware, unknown));
@@ -47,7 +47,7 @@ TEST(Alarms, ARecordHasItsTriggerItsDurationAndItsVideoLoss) {
   }
 }
 
-TEST(Alarms, TheNormalStateIsABitOfTheAlarmButForTheNinth) {
+TEST(Alarms, TheNormalStateIsOneBitForEachAlarmExceptTheNinth) {
   PanelProgram program({"V1300", "R26"});
   auto &lower = program.Byte(ALMNORMAL_BAK, 1), &upper = program.Byte(ALMNORMAL_BAK, 2);
   for (int alarm = 1; alarm <= 16; ++alarm) {
@@ -67,9 +67,9 @@ TEST(Alarms, TheNormalStateIsABitOfTheAlarmButForTheNinth) {
   }
 }
 
-TEST(Alarms, WhatElseAnAlarmHasGoesByTheFirmware) {
+TEST(Alarms, TheOtherSettingsOfAnAlarmDependOnTheFirmware) {
   for (const auto& firmware : EveryFirmware()) {
-    const bool v1400 = firmware.IsV1400(), type = !Before(firmware, 6, 26, 25);
+    const bool v1400 = firmware.IsV1400(), type = FactsOf(firmware).Has(Feature::kAlarmType);
     PanelProgram program(firmware);
     program.Byte(ALMSTRUCT_BAK, 5) = Alarm(firmware, "00FF0009");
     program.Byte(TRIGGER_DELAY, 5) = "08";
@@ -91,7 +91,7 @@ TEST(Alarms, WhatElseAnAlarmHasGoesByTheFirmware) {
   }
 }
 
-TEST(Alarms, ALoadShowsTheFirstAlarmAndSlotAnewWhicheverWereShown) {
+TEST(Alarms, ALoadAlwaysShowsTheFirstAlarmAndTheFirstSlot) {
   PanelProgram program(kLatest);
   int trigger = 0;
   for (const bool upload : {false, true}) {
@@ -111,8 +111,17 @@ TEST(Alarms, ALoadShowsTheFirstAlarmAndSlotAnewWhicheverWereShown) {
 }
 
 TEST(ScrollMatching, SwitchAndTimeoutGoTogether) {
-  const int rows[][4] = {{0, 0, 1, 1}, {0, 0, 0, 0}, {3, 0, 0, 0}, {3, 0, 1, 3}, {0, 1, 5, 5},
-                         {3, 1, 0, 0}, {3, 1, 4, 4}, {1, 1, 1, 1}, {5, 0, 0, 0}, {0, 1, 0, 0}};
+  enum List { kSwitch, kTimeout };
+  struct Row {
+    int timeout;  // before the pick
+    List list;    // that is picked
+    int position;
+    int timeout_after;  // 0: scroll matching is off
+  };
+  const Row rows[] = {
+      {0, kSwitch, 1, 1},  {0, kSwitch, 0, 0},  {3, kSwitch, 0, 0},  {3, kSwitch, 1, 3}, {0, kTimeout, 5, 5},
+      {3, kTimeout, 0, 0}, {3, kTimeout, 4, 4}, {1, kTimeout, 1, 1}, {5, kSwitch, 0, 0}, {0, kTimeout, 0, 0},
+  };
   PanelProgram program(kLatest);
   for (const auto& [timeout, list, position, after] : rows) {
     SCOPED_TRACE(std::to_string(timeout) + ": " + std::to_string(list) + " " + std::to_string(position));
@@ -122,7 +131,7 @@ TEST(ScrollMatching, SwitchAndTimeoutGoTogether) {
     EXPECT_EQ(program.At("ComboScroll(1)"), after);
     EXPECT_EQ(program.Byte(SCROLLMATCH_BAK), codecs::ByteToHex(after));
   }
-  // A timeout that the list lacks is on, and leaves the list.
+  // A timeout that the list lacks switches scroll matching on and does not move the list.
   for (const auto& [stored, timeout] : {std::pair{"04", 4}, {"00", 0}, {"06", 0}, {"05", 5}, {"FF", 5}}) {
     EXPECT_EQ(program.Load({{SCROLLMATCH_BAK, stored}}), "");
     EXPECT_EQ(program.At("ComboScroll(0)"), stored == std::string("00") ? 0 : 1) << stored;

@@ -1,41 +1,45 @@
 // The 24 exception slots: flags and ranges, and the options of the report.
-#include "unit/panels/acts.h"
+#include "unit/panels/panel_program.h"
 
 namespace ovl::testing {
 namespace {
 
-TEST(Exceptions, FlagsAreLoadedOverWhatTheSlotBeforeShowed) {
-  // The flags of the slot before, those loaded, and what these are then; display, output, history, scroll
-  // matching and operator as they are shown.
-  const std::string rows =
-      "00 00 00 00000|00 43 40 00010|40 43 43 11010|00 63 40 00010|40 63 63 11110|23 40 40 00010|"
-      "40 23 23 11100|23 00 00 00000|00 01 01 10000|00 02 02 01000|00 20 20 00100|00 04 04 00001|"
-      "04 08 08 00002|04 0C 0C 00001|08 0C 0C 00002|00 0C 0C 00000|00 80 80 00000|2B EF CC 00012";
+TEST(Exceptions, TheSlotShownBeforeChangesTheFlagsThatAreLoaded) {
+  struct Row {
+    int before;                                                // the flags of the slot that is shown first
+    int loaded;                                                // those of the slot under test
+    int after;                                                 // the same when that slot was shown
+    int display, output, history, scroll_matching, operation;  // the positions shown
+  };
+  const Row rows[] = {
+      {0x00, 0x00, 0x00, 0, 0, 0, 0, 0}, {0x00, 0x43, 0x40, 0, 0, 0, 1, 0}, {0x40, 0x43, 0x43, 1, 1, 0, 1, 0},
+      {0x00, 0x63, 0x40, 0, 0, 0, 1, 0}, {0x40, 0x63, 0x63, 1, 1, 1, 1, 0}, {0x23, 0x40, 0x40, 0, 0, 0, 1, 0},
+      {0x40, 0x23, 0x23, 1, 1, 1, 0, 0}, {0x23, 0x00, 0x00, 0, 0, 0, 0, 0}, {0x00, 0x01, 0x01, 1, 0, 0, 0, 0},
+      {0x00, 0x02, 0x02, 0, 1, 0, 0, 0}, {0x00, 0x20, 0x20, 0, 0, 1, 0, 0}, {0x00, 0x04, 0x04, 0, 0, 0, 0, 1},
+      {0x04, 0x08, 0x08, 0, 0, 0, 0, 2}, {0x04, 0x0C, 0x0C, 0, 0, 0, 0, 1}, {0x08, 0x0C, 0x0C, 0, 0, 0, 0, 2},
+      {0x00, 0x0C, 0x0C, 0, 0, 0, 0, 0}, {0x00, 0x80, 0x80, 0, 0, 0, 0, 0}, {0x2B, 0xEF, 0xCC, 0, 0, 0, 1, 2},
+  };
   for (const auto& firmware : kFamilies) {
     PanelProgram program(firmware);
-    const auto slot = [&](const std::string& flags, const char* text) {
-      return Slot(codecs::HexToInt(flags), RangeOf(firmware), text);
-    };
-    for (const auto& row : Split(rows, '|')) {
-      SCOPED_TRACE(row);
-      const auto words = Split(row, ' ');
-      program.Byte(EXCPSTRS, 1) = slot("00", "neutral");
-      program.Byte(EXCPSTRS, 2) = slot(words[0], "before");
-      program.Byte(EXCPSTRS, 3) = slot(words[1], "loaded");
+    const auto slot = [&](int flags, const char* text) { return Slot(flags, RangeOf(firmware), text); };
+    for (const auto& row : rows) {
+      SCOPED_TRACE(codecs::ByteToHex(row.before) + " " + codecs::ByteToHex(row.loaded));
+      program.Byte(EXCPSTRS, 1) = slot(0x00, "neutral");
+      program.Byte(EXCPSTRS, 2) = slot(row.before, "before");
+      program.Byte(EXCPSTRS, 3) = slot(row.loaded, "loaded");
       for (const int number : {1, 2, 3}) program.ShowSlot(number);
-      EXPECT_EQ(program.Byte(EXCPSTRS, 2), slot(words[0], "before"));
-      EXPECT_EQ(program.Byte(EXCPSTRS, 3), slot(words[2], "loaded"));
-      std::string shown;
+      EXPECT_EQ(program.Byte(EXCPSTRS, 2), slot(row.before, "before"));
+      EXPECT_EQ(program.Byte(EXCPSTRS, 3), slot(row.after, "loaded"));
+      const int positions[] = {row.display, row.output, row.history, row.scroll_matching, row.operation};
       for (int list = 1; list <= 5; ++list) {
-        shown += std::to_string(program.At(Member("ComboExcp", list)));
-        EXPECT_EQ(program.Enabled(Member("ComboExcp", list)), list > 3 || words[3][3] == '0') << list;
+        EXPECT_EQ(program.At(Member("ComboExcp", list)), positions[list - 1]) << list;
+        EXPECT_EQ(program.Enabled(Member("ComboExcp", list)), list > 3 || row.scroll_matching == 0) << list;
       }
-      EXPECT_EQ(shown, words[3]);
     }
   }
 }
 
-TEST(Exceptions, ASlotIsTidiedByBeingLookedAt) {
+TEST(Exceptions, ASlotIsPutInOrderWhenItIsShown) {
   PanelProgram program(kFamilies[1]);
   const auto range = RangeOf(kFamilies[1]);
   const auto full = Slot(0, range, "FULL"), free = Slot(0x10, range, ""), unmarked = Slot(0, range, "");
@@ -53,7 +57,7 @@ TEST(Exceptions, ASlotIsTidiedByBeingLookedAt) {
   }
 }
 
-TEST(Exceptions, ScrollMatchingTakesTheOtherActionsAway) {
+TEST(Exceptions, ScrollMatchingDisablesTheOtherActions) {
   PanelProgram program({"V1334", "R1"});
   for (const int list : {1, 2, 3, 5}) program.Pick(Member("ComboExcp", list), 1);
   for (const int matching : {1, 0}) {
@@ -66,22 +70,29 @@ TEST(Exceptions, ScrollMatchingTakesTheOtherActionsAway) {
   }
 }
 
-TEST(ExceptionReport, EveryClickStoresOutputAndTimeStamp) {
+TEST(ExceptionReport, EveryPickStoresOutputAndTimeStampToo) {
   PanelProgram program(kLatest);
   for (const char* stamp : {"80", "00", "FF", "00", "02"}) {
     EXPECT_EQ(program.Load({{COMMCFG_BAK, "14"}, {TIMESTAMP_ENA, stamp}}), "");
     EXPECT_EQ(program.At("ComboExcepRe(1)"), stamp == std::string("00") ? 0 : 1) << stamp;
   }
-  // A list, its position, and what is written.
-  const std::string rows =
-      "2 1 COMMCFG_BAK=FE TIMESTAMP_ENA=01 DUPLINE_BAK=01|0 0 TIMESTAMP_ENA=01|1 0 TIMESTAMP_ENA=00|"
-      "0 1 COMMCFG_BAK=FE TIMESTAMP_ENA=00|2 0 COMMCFG_BAK=FE TIMESTAMP_ENA=00 DUPLINE_BAK=00|"
-      "1 1 COMMCFG_BAK=FE TIMESTAMP_ENA=01";
-  for (const auto& row : Split(rows, '|'))
-    EXPECT_EQ(program.Effect(Member("ComboExcepRe", row[0] - '0'), row[2] - '0'), row.substr(4));
+  struct Row {
+    const char* list;
+    int position;
+    const char* written;
+  };
+  const Row rows[] = {
+      {"ComboExcepRe(2)", 1, "COMMCFG_BAK=FE TIMESTAMP_ENA=01 DUPLINE_BAK=01"},
+      {"ComboExcepRe(0)", 0, "TIMESTAMP_ENA=01"},
+      {"ComboExcepRe(1)", 0, "TIMESTAMP_ENA=00"},
+      {"ComboExcepRe(0)", 1, "COMMCFG_BAK=FE TIMESTAMP_ENA=00"},
+      {"ComboExcepRe(2)", 0, "COMMCFG_BAK=FE TIMESTAMP_ENA=00 DUPLINE_BAK=00"},
+      {"ComboExcepRe(1)", 1, "COMMCFG_BAK=FE TIMESTAMP_ENA=01"},
+  };
+  for (const auto& row : rows) EXPECT_EQ(program.Effect(row.list, row.position), row.written);
 }
 
-// The fields of the window, and its separator.
+// The texts of the fields in the window, and its separator.
 std::string Fields(const controls::RangeForm& form) {
   return form.Range_Hi.text + " " + form.SubRange_Hi.text + " " + form.Range_Low.text + " " +
          form.SubRange_Low.text + " " + form.lbDec.caption;
@@ -92,7 +103,7 @@ std::string Shown(const PanelProgram& program) {
   return captions[0].caption + " " + captions[1].caption;
 }
 
-TEST(Range, IsShownDigitByDigitAndFilledFromTheSlot) {
+TEST(Range, ThePanelShowsEachDigitAndTheWindowIsFilledFromTheSlot) {
   for (const auto& firmware : kFamilies) {
     const bool wide = firmware.IsV1400();
     PanelProgram program(firmware);
@@ -110,7 +121,7 @@ TEST(Range, IsShownDigitByDigitAndFilledFromTheSlot) {
       EXPECT_EQ(Shown(program), signed_text(wide ? "ABCDEF09.F0 000000A0.0F" : "ABCD.F0 000A.0F"));
       program.ShowSlot(2);
       EXPECT_EQ(Shown(program), signed_text(wide ? "01234567.89 98765432.10" : "0123.45 6789.87"));
-      program.Byte(EXCPSTRS, 2).replace(2, 4, "4321");  // the slot wins over what is shown
+      program.Byte(EXCPSTRS, 2).replace(2, 4, "4321");  // the window shows the slot and not the panel
       ASSERT_EQ(program.Click("cmdSetRange"), core::Outcome::kDone);
       EXPECT_EQ(Fields(form), signed_text(wide ? "43214567 89 98765432 10 ." : "4321 45 6789 87 ."));
       EXPECT_EQ(form.ComboDec.Text(), signed_text("."));
@@ -121,24 +132,29 @@ TEST(Range, IsShownDigitByDigitAndFilledFromTheSlot) {
   }
 }
 
-TEST(Range, AFieldTakesItsDigitsAndIsPutInFormWhenLeft) {
-  // What is typed, and what it becomes before the separator and behind it.
-  const std::string rows =
-      "7 0007 07|12AB 0012 12|AB 0000 00| 0000 00|1.5 0001 01|-5 0000 00|9999 9999 99|0 0000 00|99 0099 99|"
-      "2x 0002 02";
+TEST(Range, AFieldKeepsOnlyItsDigitsWhenItIsLeft) {
+  struct Row {
+    std::string typed;
+    // The text of a field before or behind the separator when it was left.
+    std::string whole, decimal;
+  };
+  const Row rows[] = {
+      {"7", "0007", "07"},   {"12AB", "0012", "12"}, {"AB", "0000", "00"},   {"", "0000", "00"},
+      {"1.5", "0001", "01"}, {"-5", "0000", "00"},   {"9999", "9999", "99"}, {"0", "0000", "00"},
+      {"99", "0099", "99"},  {"2x", "0002", "02"},
+  };
   for (const auto& firmware : kFamilies) {
     const std::string zeros(firmware.IsV1400() ? 4 : 0, '0');
     PanelProgram program(firmware);
     auto& form = program.app.frmSetRange;
     program.Click("cmdSetRange");
-    for (const auto& row : Split(rows, '|')) {
-      SCOPED_TRACE(row);
-      const auto words = Split(row, ' ');
+    for (const auto& row : rows) {
+      SCOPED_TRACE(row.typed);
       for (auto* box : {&form.Range_Hi, &form.SubRange_Hi, &form.Range_Low, &form.SubRange_Low}) {
         const bool decimal = box == &form.SubRange_Hi || box == &form.SubRange_Low;
-        const bool fits = !decimal || words[0].size() <= 2;
-        const auto left = !fits ? box->text : decimal ? words[2] : zeros + words[1];
-        EXPECT_EQ(program.Type(*box, words[0]), fits ? core::Outcome::kDone : core::Outcome::kRefused);
+        const bool fits = !decimal || row.typed.size() <= 2;
+        const auto left = !fits ? box->text : decimal ? row.decimal : zeros + row.whole;
+        EXPECT_EQ(program.Type(*box, row.typed), fits ? core::Outcome::kDone : core::Outcome::kRefused);
         EXPECT_EQ(program.Leave(*box), core::Outcome::kDone);
         EXPECT_EQ(box->text, left);
       }
@@ -150,7 +166,7 @@ TEST(Range, AFieldTakesItsDigitsAndIsPutInFormWhenLeft) {
   }
 }
 
-TEST(Range, OfAnUnknownFamilyIsThatOfThePanelAndStaysAsTyped) {
+TEST(Range, AnUnknownFamilyTakesTheRangeOfThePanelAndKeepsWhatIsTyped) {
   Installed program({"V1500", "R1"}, Images::kFirstRegister);
   auto& form = program.app.frmSetRange;
   auto& slot = program.app.image.at(EXCPSTRS, 2);
@@ -166,7 +182,7 @@ TEST(Range, OfAnUnknownFamilyIsThatOfThePanelAndStaysAsTyped) {
   EXPECT_EQ(Fields(form), "7 07 7 87 .");
 }
 
-TEST(Range, SetReplacesTheDigitsAloneAndTheSeparatorIsStoredAtOnce) {
+TEST(Range, SetReplacesOnlyTheDigitsAndTheSeparatorIsStoredAtOnce) {
   for (const auto& firmware : kFamilies) {
     const bool wide = firmware.IsV1400();
     PanelProgram program(firmware);

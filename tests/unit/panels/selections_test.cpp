@@ -1,15 +1,8 @@
-// The selections that stand for a number or for some bits: what a pick stores, and how that is shown again.
-#include "unit/panels/acts.h"
+// The selections that mean a number or some bits of a byte: what a pick stores, and what a load shows.
+#include "unit/panels/panel_program.h"
 
 namespace ovl::testing {
 namespace {
-
-// The first position stores `first`, each further one `step` more, within the bits of the mask.
-struct Selection {
-  const char* list;
-  image::FieldId field;
-  int mask, first, step, entries;
-};
 
 std::vector<int> StoredBy(const Selection& row) {
   std::vector<int> stored;
@@ -17,32 +10,7 @@ std::vector<int> StoredBy(const Selection& row) {
   return stored;
 }
 
-constexpr Selection kSelections[] = {
-    {"ComboCOMM(1)", RX_BAUDRATE, 0xFF, 0, 1, 11},       {"ComboCOMM(2)", TX_BAUDRATE, 0xFF, 0, 1, 11},
-    {"ComboCOMM(7)", TX_PROTOCOL, 0xFF, 0, 1, 5},        {"ComboCOMM(8)", SW_HANDSHAKE, 0xFF, 0, 1, 3},
-    {"ComboCOMM(12)", NET_BAUDRATE, 0xFF, 0, 1, 10},     {"ComboCOMM(4)", COMMCFG_BAK, 0x04, 0, 0x04, 2},
-    {"ComboCOMM(5)", COMMCFG_BAK, 0x20, 0x20, -0x20, 2}, {"ComboExcepRe(0)", COMMCFG_BAK, 0x10, 0, 0x10, 2},
-    {"ComboExcepRe(1)", TIMESTAMP_ENA, 0xFF, 0, 1, 2},   {"ComboExcepRe(2)", DUPLINE_BAK, 0xFF, 0, 1, 2},
-    {"ComboDIP(2)", DSPCFG_BAK, 0x02, 0, 0x02, 2},       {"ComboDIP(3)", DSPCFG_BAK, 0x04, 0, 0x04, 2},
-    {"ComboDIP(4)", DSPCFG_BAK, 0x40, 0, 0x40, 2},       {"ComboDIP(5)", DSPCFG_BAK, 0x08, 0, 0x08, 2},
-    {"ComboDIP(6)", DSPCFG_BAK, 0x20, 0, 0x20, 2},       {"ComboTD(5)", DSPCFG_BAK, 0x10, 0, 0x10, 2},
-    {"ComboTD(0)", DSPCFG_BAK, 0x80, 0, 0x80, 2},        {"ComboDIP(1)", DSPLINES_BAK, 0xFF, 1, 1, 11},
-    {"ComboDIP(7)", SPCOMPRES_BAK, 0xFF, 0, 1, 6},       {"ComboDIP(8)", DSPCHARS_BAK, 0xFF, 10, 1, 31},
-    {"ComboTD(1)", TIME_FORMAT_BAK, 0xFF, 0, 1, 2},      {"ComboTD(2)", DATE_FORMAT_BAK, 0xFF, 0, 1, 3},
-    {"ComboTD(4)", TD_LOCKING_BAK, 0xFF, 0, 1, 2},       {"ComboLang", LANGUAGE_BAK, 0xFF, 0, 1, 3},
-    {"ComboScroll(1)", SCROLLMATCH_BAK, 0xFF, 0, 1, 6},  {"ComboALM(4)", ALMCFG_BAK, 0x07, 0, 1, 5},
-    {"ComboALM(5)", FLAGDWLIND, 0xFF, 0, 2, 121},        {"OpDVR", HIST_REG, 0xFF, 0, 1, 3},
-    {"ComboKLM4011(0)", HIST_DEST_ID, 0xFF, 1, 1, 32},   {"ComboKLM4011(1)", HIST_SRC_ID, 0xFF, 1, 1, 32},
-    {"ComboKLM4011(2)", HIST_DEST_ID, 0xFF, 1, 1, 32},   {"ComboKLM4011(3)", HIST_SRC_ID, 0xFF, 1, 1, 32}};
-
-// Those whose load needs more than one byte.
-constexpr Selection kRecords[] = {
-    {"ComboTrigger(0)", TRIGGER_TEXT, 0x01, 0, 0x01, 2}, {"ComboTrigger(1)", TRIGGER_TEXT, 0x02, 0, 0x02, 2},
-    {"ComboExcp(1)", EXCPSTRS, 0x01, 0, 0x01, 2},        {"ComboExcp(2)", EXCPSTRS, 0x02, 0, 0x02, 2},
-    {"ComboExcp(3)", EXCPSTRS, 0x20, 0, 0x20, 2},        {"ComboExcp(5)", EXCPSTRS, 0x0C, 0, 0x04, 3},
-    {"ComboExcp(4)", EXCPSTRS, 0x40, 0, 0x40, 2},        {"ComboCOMM(10)", NET_ADDRESS, 0xFF, 0, 1, 17}};
-
-// A pick stores in its field and in no other. OUTPUT of the exception report stores the time stamp as well.
+// A pick stores in its field only. OUTPUT of the exception report stores the time stamp as well.
 void ExpectStored(PanelProgram& program, const Selection& row, const std::vector<int>& stored) {
   SCOPED_TRACE(row.list);
   program.Reveal(row.list);
@@ -70,18 +38,18 @@ void ExpectShown(PanelProgram& program, const Selection& row, const std::vector<
   for (const int odd : {row.first - 1, stored.back() + 1, 255}) {
     if (odd < 0 || std::find(stored.begin(), stored.end(), odd & row.mask) != stored.end()) continue;
     EXPECT_EQ(program.Load({{row.field, codecs::ByteToHex(odd)}}), "");
-    EXPECT_EQ(program.Selected(row.list), row.entries - 1) << "what the list lacks leaves it";
+    EXPECT_EQ(program.Selected(row.list), row.entries - 1) << "a value that the list lacks does not move it";
   }
 }
 
-TEST(Selections, EveryOneHasItsFieldOrItsBits) {
+TEST(Selections, APickStoresOnlyItsFieldOrItsBitsAndALoadShowsThem) {
   PanelProgram picked(kLatest), loaded(kLatest);
-  picked.Pick("ComboDIP(1)", 10);  // else clock and title raise it
-  for (const auto& row : kSelections) {
+  picked.Pick("ComboDIP(1)", 10);  // otherwise clock and title change it
+  for (const auto& row : Selections()) {
     ExpectStored(picked, row, StoredBy(row));
-    ExpectShown(loaded, row, StoredBy(row));
+    // The load of the others needs more than one byte.
+    if (row.group == Group::kPanel || row.group == Group::kApart) ExpectShown(loaded, row, StoredBy(row));
   }
-  for (const auto& row : kRecords) ExpectStored(picked, row, StoredBy(row));
 
   const Selection parity{"ComboCOMM(3)", COMMCFG_BAK, 0x03, 0, 0, 3};
   ExpectStored(picked, parity, {0, 3, 2});
@@ -98,7 +66,7 @@ TEST(Selections, EveryOneHasItsFieldOrItsBits) {
   ExpectStored(picked, {"ComboTD(3)", DAYLIGHT_BAK, 0xFF, 0, 0, 6}, {1, 2, 4, 6, 8, 10});
 }
 
-TEST(Selections, ANumberThatIsHalvedGoesToTheEvenNeighbour) {
+TEST(Selections, HalvingRoundsToTheEvenNumber) {
   const std::pair<int, int> halves[] = {{0, 0},  {1, 0},  {2, 1},     {3, 2},     {4, 2},     {5, 2},
                                         {6, 3},  {7, 4},  {8, 4},     {9, 4},     {10, 5},    {11, 6},
                                         {12, 6}, {13, 6}, {240, 120}, {241, 120}, {242, 121}, {255, 128}};
@@ -108,7 +76,7 @@ TEST(Selections, ANumberThatIsHalvedGoesToTheEvenNeighbour) {
     program.Pick("ComboTD(3)", 3);
     program.Pick("ComboALM(5)", 3);
     const auto byte = codecs::ByteToHex(stored);
-    // The duration of the flag is stored anew by the list that moves.
+    // A list that changes its position stores the duration of the flag again.
     const bool anew = half <= 120 && half != 3 && stored != 2 * half;
     EXPECT_EQ(program.Load({{DAYLIGHT_BAK, byte}, {FLAGDWLIND, byte}}),
               anew ? "FLAGDWLIND=" + codecs::ByteToHex(2 * half) : "");
@@ -117,10 +85,10 @@ TEST(Selections, ANumberThatIsHalvedGoesToTheEvenNeighbour) {
   }
 }
 
-TEST(Selections, TheDemosBitsGoByTheFirmware) {
+TEST(Selections, TheBitsOfTheDemonstrationDependOnTheFirmware) {
   for (const auto& firmware : EveryFirmware()) {
     PanelProgram picked(firmware), loaded(firmware);
-    const bool old = HasOldDemo(firmware), v1400 = firmware.IsV1400();
+    const bool old = FactsOf(firmware).Has(Feature::kOldDemo), v1400 = firmware.IsV1400();
     const int step = v1400 ? 1 : 0;
     const auto expect = [&](const Selection& row, bool shown) {
       ExpectStored(picked, row, StoredBy(row));
@@ -140,17 +108,18 @@ TEST(Selections, TheDemosBitsGoByTheFirmware) {
   }
 }
 
-TEST(Selections, EveryPickIsNoted) {
+TEST(Selections, EveryPickIsInSavedIndexes) {
   PanelProgram program(kLatest);
   program.Click("OpDVR(1)");
-  const std::tuple<const char*, int, int> rows[] = {
-      {"ComboCOMM", 13, 4}, {"ComboDIP", 9, 2},     {"ComboTD", 6, 1},   {"ComboKLM4011", 4, 1},
-      {"ComboALM", 8, 4},   {"ComboTrigger", 3, 1}, {"ComboExcp", 6, 3}, {"ComboExcepRe", 3, 0}};
-  for (const auto& [family, members, picked] : rows) {
-    ASSERT_EQ(program.Pick(Member(family, picked), 1), core::Outcome::kDone) << family;
+  const std::pair<const char*, int> rows[] = {{"ComboCOMM", 4},    {"ComboDIP", 2},    {"ComboTD", 1},
+                                              {"ComboKLM4011", 1}, {"ComboALM", 4},    {"ComboTrigger", 1},
+                                              {"ComboExcp", 3},    {"ComboExcepRe", 0}};
+  for (const auto& [array, picked] : rows) {
+    ASSERT_EQ(program.Pick(Member(array, picked), 1), core::Outcome::kDone) << array;
     std::vector<int> positions;
-    for (int member = 0; member < members; ++member) positions.push_back(program.At(Member(family, member)));
-    EXPECT_EQ(program.app.SavedIndexes[family], positions) << family;
+    for (int member = 0; program.app.registry.Find(Member(array, member)) != nullptr; ++member)
+      positions.push_back(program.At(Member(array, member)));
+    EXPECT_EQ(program.app.SavedIndexes[array], positions) << array;
   }
 }
 

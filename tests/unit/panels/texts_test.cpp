@@ -1,10 +1,10 @@
-// The texts of title, alarms and exceptions, and the one dialog that edits them.
-#include "unit/panels/acts.h"
+// The texts of title, alarms and exceptions, and the dialog that edits them.
+#include "unit/panels/panel_program.h"
 
 namespace ovl::testing {
 namespace {
 
-// Among them every character but NUL.
+// They contain every character except NUL.
 std::vector<std::string> Texts() {
   const std::string y(37, 'y');
   std::vector<std::string> texts = {"A", "",     " ", " x",     "x ",      "  A B  ",     "What?",
@@ -19,7 +19,7 @@ std::vector<std::string> Texts() {
 
 const std::string kCut("AB\0CD", 5);
 
-// The rule of triggered texts and title: no blanks at the ends, no length, filled up with zeros.
+// A triggered text or a title in the image: without blanks at its ends, filled up with zeros.
 std::string Filled(const std::string& text) {
   const auto first = text.find_first_not_of(' ');
   auto digits = first == std::string::npos
@@ -100,7 +100,7 @@ TEST(Texts, AnExceptionIsPaddedCountedAndMarkedFreeWhenBlank) {
   }
 }
 
-TEST(TextDialog, HoldsOneTextAndTheMainFormBack) {
+TEST(TextDialog, EditsOneTextAndDisablesTheMainForm) {
   PanelProgram program({"V1400", "R7"});
   auto& dialog = program.app.frmSetEXCPSTR;
   auto& main = program.app.frmMain;

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "registers/selection_driver.h"
-#include "support/installed.h"
-#include "unit/registers/rows.h"
+#include "support/firmware_facts.h"
+#include "unit/registers/register_program.h"
 
 namespace ovl::testing {
 namespace {
@@ -28,10 +28,10 @@ class Micros : public ::testing::Test {
 };
 
 TEST_F(Micros, EachModeOpensItsPanelAndStoresItselfAtOnce) {
-  const std::tuple<int, const char*, const char*> rows[] = {{1, "M=01", "IDN shown"},
-                                                            {2, "MICROS_STATUS=00 M=02", "ISN shown"},
-                                                            {3, "M=03", "3700 shown"},
-                                                            {0, "M=00", "closed"}};
+  const std::tuple<int, const char*, const char*> rows[] = {{1, "MINOR=01", "IDN shown"},
+                                                            {2, "MICROS_STATUS=00 MINOR=02", "ISN shown"},
+                                                            {3, "MINOR=03", "3700 shown"},
+                                                            {0, "MINOR=00", "closed"}};
   for (const auto& [mode, written, panels] : rows) {
     EXPECT_EQ(program.Effect("OpMicros", mode), written);
     EXPECT_EQ(Panels(), panels);
@@ -47,7 +47,7 @@ TEST_F(Micros, EachModeOpensItsPanelAndStoresItselfAtOnce) {
 
 TEST_F(Micros, NoWindowOpensWhileAnUploadIsApplied) {
   program.app.LinkMode = core::kLinkUpload;
-  EXPECT_EQ(program.Effect("OpMicros", 1, {{F::DEVICE_INDEX_BAK, "01"}}), "M=01");
+  EXPECT_EQ(program.Effect("OpMicros", 1, {{F::DEVICE_INDEX_BAK, "01"}}), "MINOR=01");
   EXPECT_FALSE(window.form.visible);
   EXPECT_EQ(window.ComboMICROS.Text(), "VIDEO");
   program.Fill("EE");
@@ -56,7 +56,7 @@ TEST_F(Micros, NoWindowOpensWhileAnUploadIsApplied) {
       << "what came in the closed window is forgotten";
 }
 
-TEST_F(Micros, TheIdnPanelStoresWithSetAloneAndShowsWhatIsStored) {
+TEST_F(Micros, TheIdnPanelStoresOnlyWithSetAndShowsTheStoredBytes) {
   const auto texts = [&] {
     return window.ComboMICROS.Text() + window.ComboMICROSADD.Text() + window.ComboMODE.Text();
   };
@@ -74,16 +74,16 @@ TEST_F(Micros, TheIdnPanelStoresWithSetAloneAndShowsWhatIsStored) {
   EXPECT_EQ(texts(), "VIDEO15EMULATE");
   Close();
 
-  EXPECT_EQ(program.Effect("OpMicros", 1), "M=01");
+  EXPECT_EQ(program.Effect("OpMicros", 1), "MINOR=01");
   EXPECT_EQ(texts(), "") << "a window opened anew selects nothing for a byte that the list lacks";
   program.Pick("ComboMODE", 1);
   Close();
   program.Click("cmdMicros");
   program.Click("cmdSetMicros");
-  EXPECT_EQ(program.Written(), "M=01") << "closing forgets what was picked";
+  EXPECT_EQ(program.Written(), "MINOR=01") << "closing forgets what was picked";
 }
 
-TEST_F(Micros, TheIsnPanelHoldsEightFields) {
+TEST_F(Micros, TheIsnPanelStoresEightFields) {
   const std::size_t entries[] = {11, 34, 34, 17, 11, 34, 34, 17};
   program.Effect("OpMicros", 2);
   for (const bool stored : {false, true}) {
@@ -105,12 +105,16 @@ TEST_F(Micros, TheIsnPanelHoldsEightFields) {
   }
 }
 
-TEST_F(Micros, TheEcrNumberIsSevenDigits) {
-  const std::string rows =
-      "123 0000123| 0000000|12AB 0000012|AB12 0000000|9999999 9999999|0000000012 0000012|123456789 123456789";
+TEST_F(Micros, TheEcrNumberHasSevenDigits) {
+  struct Row {
+    std::string typed, left;  // the text after the field was left
+  };
+  const Row rows[] = {
+      {"123", "0000123"},     {"", "0000000"},           {"12AB", "0000012"},        {"AB12", "0000000"},
+      {"9999999", "9999999"}, {"0000000012", "0000012"}, {"123456789", "123456789"},
+  };
   program.Pick("OpMicros", 3);
-  for (const auto& row : Split(rows, '|')) {
-    const auto typed = row.substr(0, row.find(' ')), left = row.substr(row.find(' ') + 1);
+  for (const auto& [typed, left] : rows) {
     for (const bool leaves : {true, false}) {
       program.Fill("EE");
       ASSERT_EQ(program.Type(window.ECRNumber, typed), core::Outcome::kDone);
@@ -119,7 +123,7 @@ TEST_F(Micros, TheEcrNumberIsSevenDigits) {
       program.Pick("HandSHKCombo", 1);
       EXPECT_EQ(program.Written(), "");
       program.Click("CMD3700Set");
-      std::string written = "X=01";
+      std::string written = "EXT2=01";
       for (std::size_t digit = 7; digit > 0; --digit)
         written += " ECRDIGIT_" + std::to_string(digit) + "=0" + left[digit - 1];
       EXPECT_EQ(program.Written(), written);
@@ -140,24 +144,36 @@ std::string Titles(const controls::SubMenuForm& menu) {
   return menu.Frame2.visible ? shown + " (" + menu.Combo1[0].Text() + ")" : shown;
 }
 
-// By the option array and the model: the titles, what holds REGTYPE_EXT2, and what that offers.
-using Menu = std::tuple<const char*, const char*, const char*>;
+// What a sub-menu shows, the control that holds REGTYPE_EXT2, and what that control offers.
+struct SubMenu {
+  std::string models;  // the option array
+  int model;
+  const char *titles, *member, *offered;
+};
 constexpr const char *kMode = "FrmSubMenu.Combo1(1)", *kModes = "TAPPING|EMULATING";
-const std::map<std::pair<std::string, int>, Menu> kMenus = {
-    {{"CASIOOP", 18}, {"CASIO SUBMENU: TE2200 TE2200 (TE-2200)", kMode, kModes}},
-    {{"CASIOOP", 19}, {"CASIO SUBMENU: TE3000 (TE3000)", kMode, kModes}},
-    {{"CASIOOP", 20}, {"CASIO SUBMENU: TE4000 (TE4000)", kMode, kModes}},
-    {{"CASIOOP", 21}, {"CASIO SUBMENU: TE4500 (TE4500)", kMode, kModes}},
-    {{"CASIOOP", 33}, {"CASIO SUBMENU: TK-T500 (TK-T500)", kMode, kModes}},
-    {{"SharpOP", 12}, {"SHARP SUBMENU: A410,420", "Option1", "TAP|EMULATE|TAP US|EMULATE US"}},
-    {{"SharpOP", 19}, {"SHARP SUBMENU: A-750/A-770 ER-01PU", "Option1", "RECEIPT|JOURNAL"}},
-    {{"SharpOP", 21}, {"SHARP SUBMENU: UP600/700", "Option1", "TAP|EMULATE"}},
-    {{"SharpOP", 22}, {"SHARP SUBMENU: UP300/3300", "Combo2", "ANY|1|2|3|4|5|6|7|8|9|10|11|12|13|14|15|16"}},
-    {{"TECOP", 9}, {"TEC SUBMENU: TEC SLIP PRINTER (TEC SLIP PRINTER)", kMode, kModes}}};
+const std::vector<SubMenu> kSubMenus = {
+    {"CASIOOP", 18, "CASIO SUBMENU: TE2200 TE2200 (TE-2200)", kMode, kModes},
+    {"CASIOOP", 19, "CASIO SUBMENU: TE3000 (TE3000)", kMode, kModes},
+    {"CASIOOP", 20, "CASIO SUBMENU: TE4000 (TE4000)", kMode, kModes},
+    {"CASIOOP", 21, "CASIO SUBMENU: TE4500 (TE4500)", kMode, kModes},
+    {"CASIOOP", 33, "CASIO SUBMENU: TK-T500 (TK-T500)", kMode, kModes},
+    {"SharpOP", 12, "SHARP SUBMENU: A410,420", "Option1", "TAP|EMULATE|TAP US|EMULATE US"},
+    {"SharpOP", 19, "SHARP SUBMENU: A-750/A-770 ER-01PU", "Option1", "RECEIPT|JOURNAL"},
+    {"SharpOP", 21, "SHARP SUBMENU: UP600/700", "Option1", "TAP|EMULATE"},
+    {"SharpOP", 22, "SHARP SUBMENU: UP300/3300", "Combo2", "ANY|1|2|3|4|5|6|7|8|9|10|11|12|13|14|15|16"},
+    {"TECOP", 9, "TEC SUBMENU: TEC SLIP PRINTER (TEC SLIP PRINTER)", kMode, kModes},
+};
 
-void ExpectMenu(Installed& program, const std::string& models, int model, const std::string& button) {
+const SubMenu* SubMenuOf(const std::string& models, int model) {
+  for (const auto& row : kSubMenus) {
+    if (row.models == models && row.model == model) return &row;
+  }
+  return nullptr;
+}
+
+void ExpectSubMenu(Installed& program, const SubMenu& expected, const std::string& button) {
   auto& menu = program.app.FrmSubMenu;
-  const auto& [titles, member, offered] = kMenus.at({models, model});
+  const auto& [models, model, titles, member, offered] = expected;
   EXPECT_EQ(Titles(menu), titles);
   for (const int stored : {1, 0}) {
     program.Effect(models, model, {{F::REGTYPE_EXT1, "00"}, {F::REGTYPE_EXT2, codecs::ByteToHex(stored)}});
@@ -165,34 +181,41 @@ void ExpectMenu(Installed& program, const std::string& models, int model, const 
     EXPECT_EQ(program.Selected(member), stored);
   }
   EXPECT_EQ(program.Offered(member), offered);
-  EXPECT_EQ(program.Effect(member, 1), "X=01");
+  EXPECT_EQ(program.Effect(member, 1), "EXT2=01");
   EXPECT_EQ(program.Close(menu.form), core::Outcome::kDone);
   EXPECT_EQ(Titles(menu), "closed");
   EXPECT_EQ(program.Click(button), core::Outcome::kDone);
   EXPECT_EQ(Titles(menu), titles);
-  EXPECT_EQ(program.Written(), "M=" + codecs::ByteToHex(model) + " X=01");
+  EXPECT_EQ(program.Written(), "MINOR=" + codecs::ByteToHex(model) + " EXT2=01");
 }
 
-TEST(SubMenus, OpenForTheModelsThatHaveOneAndStoreAtOnce) {
+TEST(SubMenus, OpenOnlyForTheirModelsAndStoreAtOnce) {
   Installed program(kLatest);
-  for (const auto* row :
-       {"CASIO CASIOOP Command1 35", "SHARP SharpOP SharpCom 27", "TEC TECOP Command2 11"}) {
-    const auto words = Split(row, ' ');
-    const int count = codecs::LeadingNumber(words[3]);
-    ASSERT_EQ(program.Register(words[0]), core::Outcome::kDone);
-    EXPECT_EQ(program.Pick(words[1], count), core::Outcome::kRefused);
+  struct Row {
+    std::string register_name, models, button;
+    int count;
+  };
+  const Row rows[] = {
+      {"CASIO", "CASIOOP", "Command1", 35},
+      {"SHARP", "SharpOP", "SharpCom", 27},
+      {"TEC", "TECOP", "Command2", 11},
+  };
+  for (const auto& [register_name, models, button, count] : rows) {
+    ASSERT_EQ(program.Register(register_name), core::Outcome::kDone);
+    EXPECT_EQ(program.Pick(models, count), core::Outcome::kRefused);
     for (int model = 0; model < count; ++model) {
-      SCOPED_TRACE(words[1] + " " + std::to_string(model));
-      const bool has_menu = kMenus.contains({words[1], model});
-      EXPECT_EQ(program.Effect(words[1], model), "M=" + codecs::ByteToHex(model));
-      EXPECT_EQ(program.Control(words[2]).enabled, has_menu);
-      EXPECT_EQ(program.app.FrmSubMenu.form.visible, has_menu);
-      // The button shows the model anew, but for one that it does not look for.
-      program.Reveal(words[2]);
+      SCOPED_TRACE(models + " " + std::to_string(model));
+      const auto* menu = SubMenuOf(models, model);
+      const auto written = "MINOR=" + codecs::ByteToHex(model);
+      EXPECT_EQ(program.Effect(models, model), written);
+      EXPECT_EQ(program.Control(button).enabled, menu != nullptr);
+      EXPECT_EQ(program.app.FrmSubMenu.form.visible, menu != nullptr);
+      // The button stores the model again, except for the last model of SHARP, which it does not know.
+      program.Reveal(button);
       program.Fill("EE");
-      program.Click(words[2]);
-      EXPECT_EQ(program.Written(), words[0] == "SHARP" && model == 26 ? "" : "M=" + codecs::ByteToHex(model));
-      if (has_menu) ExpectMenu(program, words[1], model, words[2]);
+      program.Click(button);
+      EXPECT_EQ(program.Written(), register_name == "SHARP" && model == 26 ? "" : written);
+      if (menu != nullptr) ExpectSubMenu(program, *menu, button);
     }
   }
 }
@@ -205,9 +228,9 @@ TEST(SubMenus, Te2200HidesItsModeBehindThePrinterAdapter) {
   EXPECT_EQ(Titles(menu), "CASIO SUBMENU: TE2200");
   EXPECT_EQ(program.Offered("F1OP"), "RS-232 PORT|TPIF PRINTER ADAPTER");
   EXPECT_EQ(menu.Label1[0].caption + menu.Label1[1].caption, "Model :Mode :");
-  EXPECT_EQ(program.Effect("F1OP", 0), "E=00");
+  EXPECT_EQ(program.Effect("F1OP", 0), "EXT1=00");
   EXPECT_EQ(Titles(menu), "CASIO SUBMENU: TE2200 TE2200 (TE-2200)");
-  EXPECT_EQ(program.Effect("F1OP", 1), "E=01");
+  EXPECT_EQ(program.Effect("F1OP", 1), "EXT1=01");
   EXPECT_EQ(Titles(menu), "CASIO SUBMENU: TE2200");
   program.Pick("CASIOOP", 19);
   EXPECT_EQ(Titles(menu), "CASIO SUBMENU: TE3000 (TE3000)");
@@ -216,7 +239,7 @@ TEST(SubMenus, Te2200HidesItsModeBehindThePrinterAdapter) {
   EXPECT_EQ(program.Selected("F1OP"), -1);
 }
 
-TEST(RegisterWindows, StayOpenAtAPickOfTheirOwnModelAndCloseAtAnyOther) {
+TEST(RegisterWindows, StayOpenForTheirOwnModelAndCloseForAnyOther) {
   const std::tuple<std::string, const char*, int> rows[] = {
       {"CASIO", "CASIOOP", 18}, {"SHARP", "SharpOP", 12}, {"TEC", "TECOP", 9}, {"MICROS", "OpMicros", 1}};
   Installed program(kLatest);
@@ -258,9 +281,9 @@ TEST(IpAddress, FrameAndImageAgreeByteByByteButTheOldFrameStoresNothing) {
       for (const int others : {0x00, 0xFF}) {
         const int bit = 1 << byte, on = others | bit, off = others & ~bit;
         EXPECT_EQ(program.Effect(information, 1, {{F::REGTYPE_MINOR, codecs::ByteToHex(off)}}),
-                  "M=" + codecs::ByteToHex(on));
+                  "MINOR=" + codecs::ByteToHex(on));
         EXPECT_EQ(program.Effect(information, 0, {{F::REGTYPE_MINOR, codecs::ByteToHex(on)}}),
-                  "M=" + codecs::ByteToHex(off));
+                  "MINOR=" + codecs::ByteToHex(off));
       }
     }
   }

@@ -6,26 +6,24 @@
 
 #include "core/configuration.h"
 #include "files/files.h"
-#include "firmware/firmware_table.h"
 #include "host/files.h"
 #include "image/record_stream.h"
+#include "support/firmware_facts.h"
 #include "support/harness.h"
+#include "support/register_facts.h"
 
 namespace ovl::testing {
 namespace {
 
 namespace fs = std::filesystem;
 
-TEST(DefaultImages, EveryNameOfEveryFirmwareHasAFileThatLoadsUnchanged) {
+TEST(DefaultImages, EveryRegisterOfEveryFirmwareHasAFileThatLoadsUnchanged) {
   TemporaryFolder folder;
-  int files = 0;
-  for (const auto& entry : firmware::FirmwareTable()) {
-    if (!entry.in_menu) continue;
-    const firmware::FirmwareId firmware{std::string(entry.version), std::string(entry.release)};
-    files += images::WriteDefaultImages(folder.Path().string(), firmware);
-  }
-  EXPECT_EQ(files, 1552);
-  int found = 0;
+  std::size_t files = 0;
+  for (const auto& firmware : EveryFirmware())
+    files += static_cast<std::size_t>(images::WriteDefaultImages(folder.Path().string(), firmware));
+  EXPECT_EQ(files, NumberOfDefaultImages());
+  std::size_t found = 0;
   for (const auto& file : fs::recursive_directory_iterator(folder.Path())) {
     if (!file.is_regular_file()) continue;
     ++found;
@@ -39,7 +37,7 @@ TEST(DefaultImages, EveryNameOfEveryFirmwareHasAFileThatLoadsUnchanged) {
     ASSERT_TRUE(LoadStream(app, files::ReadJoined(host::DiskFiles(), file.path().string()))) << file.path();
     EXPECT_EQ(SectionsToStream(app) + "\r\n", ReadFile(file.path().string())) << file.path();
   }
-  EXPECT_EQ(found, 1552);
+  EXPECT_EQ(found, NumberOfDefaultImages());
 }
 
 TEST(DefaultImages, TheNamesOfV1400HaveNoSlashAndNoComma) {

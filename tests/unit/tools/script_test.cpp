@@ -13,6 +13,7 @@
 #include "script/simulated_line.h"
 #include "script/simulated_time.h"
 #include "script/statements.h"
+#include "support/firmware_facts.h"
 #include "support/harness.h"
 
 namespace ovl::script {
@@ -42,7 +43,7 @@ TEST(Parser, RefusesBrokenTexts) {
   }
 }
 
-TEST(Parser, PrintsWhatItReadsBackTheSame) {
+TEST(Parser, AQuotedTextIsReadBackUnchanged) {
   std::string every;
   for (int byte = 0; byte < 256; ++byte) every += static_cast<char>(static_cast<unsigned char>(byte));
   EXPECT_EQ(SplitWords(Quoted(every)).at(0).text, every);
@@ -52,7 +53,7 @@ TEST(Parser, PrintsWhatItReadsBackTheSame) {
   }
 }
 
-TEST(SimulatedTime, TicksInTheOrderInWhichTimersComeDue) {
+TEST(SimulatedTime, TimersTickInTheOrderInWhichTheyAreDue) {
   controls::Registry registry;
   ::ovl::controls::Form form;
   form.name = "form";
@@ -91,7 +92,7 @@ TEST(SimulatedTime, ClockMovesAcrossTheEndOfTheYear) {
   }
 }
 
-TEST(SimulatedLine, LosesWhatMeetsNoOpenPortAndStaysDeadUntilItIsOpenedAgain) {
+TEST(SimulatedLine, LosesCharactersForAClosedPortAndFailsUntilItIsOpenedAgain) {
   SimulatedLine line;
   const auto operations = line.Operations();
   line.Arrive('a');
@@ -127,7 +128,7 @@ TEST(SimulatedLine, LosesWhatMeetsNoOpenPortAndStaysDeadUntilItIsOpenedAgain) {
   EXPECT_FALSE(operations.open({}).Ok());
 }
 
-// A program folder with the default image of one register, and scripts run in it.
+// Runs scripts in a program folder with the default image of one register.
 class Script : public ::testing::Test {
  protected:
   Script() {
@@ -137,7 +138,7 @@ class Script : public ::testing::Test {
                             ovl::testing::PatternStream(firmware) + "\r\n");
   }
 
-  // What is printed, and how the script ends if not well.
+  // What the script prints, and its exit status if it failed.
   std::string Run(const std::string& lines) {
     std::ostringstream output, errors;
     Session session(output, errors);
@@ -202,14 +203,15 @@ TEST_F(Script, AFailedExpectationNamesThePlace) {
       {"ended", "the program to have ended, found it running"},
       {"list OpParity \"NONE\"", "the entries of OpParity to be \"NONE\", found \"NONE\" \"ODD\" \"EVEN\""},
   };
-  for (const auto& [expectation, told] : cases) {
-    EXPECT_EQ(RunStarted("expect " + expectation + "\necho x"), "test.ovl:4: expected " + told + "\nexit 1");
+  for (const auto& [expectation, message] : cases) {
+    EXPECT_EQ(RunStarted("expect " + expectation + "\necho x"),
+              "test.ovl:4: expected " + message + "\nexit 1");
   }
   EXPECT_TRUE(RunStarted("click CmdUpDow(4)\nexpect box \"title\" \"        Please Select Comport.\"")
                   .ends_with("found box \"\" \"        Please Select Comport.\"\nexit 1"));
 }
 
-TEST_F(Script, WrongStatementsAreToldWithTheirPlace) {
+TEST_F(Script, WrongStatementsAreReportedWithTheirPlace) {
   std::istringstream statements(
       "pick NoSuch 1\npick ComboReg 999\npick ComboReg -1\npick ComboReg \"no such\"\npick ComboReg GENERIC\n"
       "pick \"ComboReg\" 0\npick cmdConnect 0\nclick ComboReg\nclick Label64(0)\nclick OpDVR\n"
@@ -221,8 +223,9 @@ TEST_F(Script, WrongStatementsAreToldWithTheirPlace) {
       "expect field IPADDRESS 00\nfrobnicate\nstore memory\nstream /no/such/folder/file\necho\n"
       "diff missing.bin missing.bin\n");
   for (std::string statement; std::getline(statements, statement);) {
-    const auto told = RunStarted(statement);
-    EXPECT_TRUE(told.starts_with("test.ovl:4: ") && told.ends_with("\nexit 2")) << statement << ": " << told;
+    const auto message = RunStarted(statement);
+    EXPECT_TRUE(message.starts_with("test.ovl:4: ") && message.ends_with("\nexit 2"))
+        << statement << ": " << message;
   }
   EXPECT_EQ(Run("\n# before the start\nshow ComboReg"), "test.ovl:3: the program was not started\nexit 2");
 }
@@ -234,14 +237,14 @@ TEST_F(Script, AfterTheEndAStatementThatNeedsTheProgramEndsTheScript) {
   }
 }
 
-TEST(Texts, LineBreaksCompareAlike) {
+TEST(Texts, AllKindsOfLineBreaksAreEqual) {
   for (const auto* line_break : {"\n", "\r\n", "\r"}) {
     EXPECT_TRUE(ReadTheSame(std::string("one") + line_break + "two", "one\ntwo"));
     EXPECT_FALSE(ReadTheSame(std::string("one") + line_break + "two", "one\n\ntwo"));
   }
 }
 
-TEST_F(Script, AStreamInAFileEndsEveryLineAlikeAndLookingChangesNothing) {
+TEST_F(Script, AStreamFileHasEqualLineEndsAndReadingItChangesNothing) {
   const auto path = folder_.File("a folder.txt");
   const auto printed = RunStarted("var SYSCFG\nstream \"" + path + "\"\nstream\nvar SYSCFG\n");
   const auto written = ovl::testing::ReadFile(path);
@@ -274,17 +277,24 @@ TEST_F(Script, ComparesFilesFieldByField) {
   EXPECT_TRUE(RunStarted("diff " + first + " " + second).ends_with("exit 2"));
 }
 
-TEST_F(Script, WarnsOfWhatOpeningAFileWouldDo) {
+TEST_F(Script, WarnsOfTheEffectOfOpeningAFile) {
   const auto inspect = [&](const firmware::FirmwareId& firmware, int code) {
     ovl::testing::WriteFile(folder_.File("some.bin"), ovl::testing::PatternStream(firmware, 1, code));
     return RunStarted("inspect \"" + folder_.File("some.bin") + "\"\n");
   };
+  // A file fits each firmware with the same form of stream.
+  const auto fits = [](const firmware::FirmwareId& firmware, const std::string& register_text) {
+    std::string lines;
+    for (const auto& facts : ovl::testing::AllFirmwareFacts()) {
+      if (facts.stream == ovl::testing::FactsOf(firmware).stream)
+        lines += "fits " + facts.id.Joined() + ": register " + register_text + "\n";
+    }
+    return lines;
+  };
   EXPECT_EQ(inspect({"V1400", "R12"}, 110),
-            "fits V1400R11: register 110 \"WEIGH SCALE\"\nfits V1400R12: register 110 \"WEIGH SCALE\"\n"
-            "opening it under V1400R12 loads it\n");
+            fits({"V1400", "R12"}, "110 \"WEIGH SCALE\"") + "opening it under V1400R12 loads it\n");
   EXPECT_EQ(inspect({"V1400", "R4"}, 5),
-            "fits V1400R1: register 5 \"ANSI\"\nfits V1400R2: register 5 \"ANSI\"\n"
-            "fits V1400R4: register 5 \"ANSI\"\nopening it under V1400R12 ends the program\n");
+            fits({"V1400", "R4"}, "5 \"ANSI\"") + "opening it under V1400R12 ends the program\n");
   const auto unlisted = inspect({"V1310", "R1"}, 200);
   EXPECT_NE(unlisted.find("fits V1310R1: register 200 is not in its list\n"), std::string::npos) << unlisted;
   EXPECT_EQ(unlisted.find("fits V1410"), std::string::npos) << "the menu does not offer it";

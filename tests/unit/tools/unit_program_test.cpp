@@ -13,6 +13,7 @@
 #include <utility>
 #include <vector>
 
+#include "support/simulated_unit.h"
 #include "unit/factory.h"
 #include "unit/faults.h"
 #include "unit/firmware.h"
@@ -28,9 +29,14 @@ namespace {
 using namespace std::chrono_literals;
 using Texts = std::vector<std::string>;
 
-const std::string kEnterRemote(kRequest);
-const std::string kAcked = "\x06";
-const std::string kRefused = "\x15";
+using ovl::testing::kAck;
+using ovl::testing::kCan;
+using ovl::testing::kEnq;
+using ovl::testing::kFormFeed;
+using ovl::testing::kNak;
+using ovl::testing::SimulatedUnit;
+
+const std::string kEnterRemote = ovl::testing::kRemoteRequest;
 const std::string kHistory = "one\r\ntwo\r\n";
 
 const Firmware& Known(std::string_view name) {
@@ -45,73 +51,42 @@ std::string Replaced(std::string text, std::string_view what, std::string_view b
   return text.replace(text.find(what), what.size(), by);
 }
 
-// A unit with a tool's hands on it, in simulated time.
-class Bench {
- public:
-  explicit Bench(const std::string& faults = "", std::string_view firmware = "V1400R12",
-                 unsigned speed = 9600, std::uint64_t seed = 1) {
-    std::vector<Fault> parsed;
-    std::istringstream words(faults);
-    for (std::string fault; words >> fault;) parsed.push_back(ParseFault(fault).fault.value());
-    UnitSetup setup{&Known(firmware), FactoryImage(Known(firmware)), kHistory, speed,
-                    Faults(std::move(parsed), seed)};
-    Surroundings surroundings{[this](const std::string& text) { complaints.push_back(text); },
-                              [](const std::string&) {}, [this](const std::string& bytes) { sent += bytes; },
-                              [this](const std::string& image) { return kept_image = image, failure; },
-                              [this](const std::string& clock) { return kept_clock = clock, failure; }};
-    unit.emplace(std::move(setup), std::move(surroundings));
-  }
-
-  void Hear(std::string_view text) {
-    for (const char c : text) unit->Receive(c, now);
-  }
-
-  void Pass(Time time) {
-    now += time;
-    unit->Advance(now);
-  }
-
-  // The tool sends `text`; what the unit sends until it has nothing more to send.
-  std::string Say(std::string_view text) {
-    Hear(text);
-    unit->Advance(now);
-    for (auto due = unit->NextDue(); due && *due < now + kPatience - 1s; due = unit->NextDue())
-      Pass(*due - now);
-    return std::exchange(sent, {});
-  }
-
-  // The same in remote mode, asked for first.
-  std::string Order(std::string_view text) {
-    Say(kEnterRemote);
-    return Say(text);
-  }
-
-  Time now = 5s;
-  std::string sent, failure, kept_image, kept_clock;
-  Texts complaints;
-  std::optional<Unit> unit;
-};
-
 // ---- images and streams
 
-TEST(UnitFirmware, FactoryImagesHoldWhatDistinguishesTheFirmware) {
-  for (const auto* row : {// Eight bits without parity, the interface, 9600 both ways.
-                          "V1400R6 1 040A0303", "V1400R7 2 0E", "V1324R24 2 0A", "V1324R25 2 0E",
-                          // Alarms that are not triggered and last for 1.
-                          "V1400R12 51 00FF000000FF0000", "V1310R1 67 00FF0000FF00",
-                          // Demonstration byte, behind the daylight saving that is switched off by 01.
-                          "V1400R1 122 0101", "V1400R12 124 0100", "V1324R18 118 0101", "V1300R14 122 0101",
-                          "V1300R26 124 0101", "V1310R1 124 0100",
-                          // The first free exception slot, behind the title.
-                          "V1400R12 186 10", "V1400R12 198 20", "V1334R1 185 10", "V1334R1 193 20"}) {
-    std::string firmware, bytes;
-    std::size_t at = 0;
-    std::istringstream(row) >> firmware >> at >> bytes;
-    EXPECT_EQ(FactoryImage(Known(firmware)).substr(2 * at, bytes.size()), bytes) << row;
-  }
+TEST(UnitFirmware, FactoryImagesHaveTheBytesOfTheirFirmware) {
+  struct Row {
+    const char* firmware;
+    std::size_t byte;  // of the image
+    std::string digits;
+  };
+  const Row rows[] = {
+      // Eight bits without parity, the interface, 9600 both ways.
+      {"V1400R6", 1, "040A0303"},
+      {"V1400R7", 2, "0E"},
+      {"V1324R24", 2, "0A"},
+      {"V1324R25", 2, "0E"},
+      // Alarms that are not triggered and last for 1.
+      {"V1400R12", 51, "00FF000000FF0000"},
+      {"V1310R1", 67, "00FF0000FF00"},
+      // Demonstration byte, behind the daylight saving that is switched off by 01.
+      {"V1400R1", 122, "0101"},
+      {"V1400R12", 124, "0100"},
+      {"V1324R18", 118, "0101"},
+      {"V1300R14", 122, "0101"},
+      {"V1300R26", 124, "0101"},
+      {"V1310R1", 124, "0100"},
+      // The first free exception slot, behind the title.
+      {"V1400R12", 186, "10"},
+      {"V1400R12", 198, "20"},
+      {"V1334R1", 185, "10"},
+      {"V1334R1", 193, "20"},
+  };
+  for (const auto& [firmware, byte, digits] : rows)
+    EXPECT_EQ(FactoryImage(Known(firmware)).substr(2 * byte, digits.size()), digits)
+        << firmware << " " << byte;
 }
 
-TEST(UnitStream, EveryDamageIsToldOnceAndExactly) {
+TEST(UnitStream, EachDamageIsReportedOnceWithItsPlace) {
   const std::string good = FactoryStream("V1400R12");
   const auto with = [&](std::string_view what, std::string_view by) { return Replaced(good, what, by); };
   const std::string hex = "an upper-case hexadecimal digit, found ";
@@ -150,150 +125,171 @@ TEST(UnitStream, EveryDamageIsToldOnceAndExactly) {
 
 // ---- remote mode
 
-TEST(UnitRemote, OnlyTheExactRequestWakesIt) {
-  Bench bench;
-  for (const std::string_view noise : {"\x05", "/LU\r", "TOTAL  12.50\r\n$#", "~~~SOH_REQUEST_EOT~~k",
+TEST(UnitRemote, OnlyTheExactRequestStartsRemoteMode) {
+  SimulatedUnit device;
+  for (const std::string_view noise : {kEnq, "/LU\r", "TOTAL  12.50\r\n$#", "~~~SOH_REQUEST_EOT~~k",
                                        "~~~soh_request_eot~~~k", "~~~SOH_REQUEST_EOT~~~ k", "\x06\x15\x18"}) {
-    EXPECT_EQ(bench.Say(noise), "") << noise;
-    EXPECT_FALSE(bench.unit->Remote());
+    EXPECT_EQ(device.WholeAnswer(noise), "") << noise;
+    EXPECT_FALSE(device.program->Remote());
   }
-  EXPECT_EQ(bench.Say("noise~~~SOH_~" + kEnterRemote + kEnterRemote + "\x05"), "\x06\x06\x0C");
-  EXPECT_TRUE(bench.complaints.empty());
+  EXPECT_EQ(device.WholeAnswer("noise~~~SOH_~" + kEnterRemote + kEnterRemote + kEnq), "\x06\x06\x0C");
+  EXPECT_TRUE(device.complaints.empty());
 }
 
-TEST(UnitRemote, HoldsByEnqEndsByCanAndByPatience) {
-  Bench bench;
-  EXPECT_EQ(bench.Order("\x18\x05"), "");
-  bench.Order("");
+TEST(UnitRemote, EnqKeepsItAndCanOrSilenceEndsIt) {
+  SimulatedUnit device;
+  EXPECT_EQ(device.WholeAnswerInRemoteMode("\x18\x05"), "");
+  device.WholeAnswerInRemoteMode("");
   for (const Time pause : {20s, 20s, 29s}) {
-    bench.Pass(pause);
-    EXPECT_EQ(bench.Say("\x05"), "\x0C");
+    device.Pass(pause);
+    EXPECT_EQ(device.WholeAnswer(kEnq), kFormFeed);
   }
-  bench.Hear("\x05");
-  bench.Pass(30s);
-  EXPECT_FALSE(bench.unit->Remote());
+  device.Receive(kEnq);
+  device.Pass(30s);
+  EXPECT_FALSE(device.program->Remote());
   for (const auto* begun : {"/L", "/LD\r"}) {
-    bench.Order(begun);
-    bench.Pass(30s);
+    device.WholeAnswerInRemoteMode(begun);
+    device.Pass(30s);
   }
-  EXPECT_EQ(bench.Say(""), kRefused);
+  EXPECT_EQ(device.WholeAnswer(""), kNak);
   const std::string broken = "the stream broke off before its first character: the tool fell silent";
-  EXPECT_EQ(bench.complaints, (Texts{"a command without its end: \"/L\"", broken}));
+  EXPECT_EQ(device.complaints, (Texts{"a command without its end: \"/L\"", broken}));
 }
 
-TEST(UnitRemote, WhatIsWrongRefusedOrUnheardChangesNothing) {
-  // The fault, and what the unit is told, which is the request if nothing; without a fault it is wrong.
-  std::istringstream written(
-      " /XX\r| /XX\r\n\r| LU\r| /lu\r| /LUX\r| \r| /LH\rX| /MR\r\r|refuse:upload /LU\r|silent:upload /LU\r|"
-      "refuse:download /LD\r|silent:download-ack /LD\r|refuse:history /LH\r\n\r|silent:history /LH\r\n\r|"
-      "refuse:reset /MR\r\n\r|silent:reset /MR\r\n\r|refuse:clock /TD03-05-26 14:07:09\r\n\r|"
-      "silent:clock /TD03-05-26 14:07:09\r\n\r|silent:enq \x05|refuse:request |silent:request |refuse "
-      "|silent ");
-  Texts rows{" " + std::string(81, 'x')};
-  for (std::string row; std::getline(written, row, '|');) rows.push_back(row);
+TEST(UnitRemote, AWrongOrRefusedCommandChangesNothing) {
+  struct Row {
+    std::string fault, sent;  // without a fault, what is sent is wrong
+  };
+  std::vector<Row> rows = {
+      {"", std::string(81, 'x')},
+      {"", "/XX\r"},
+      {"", "/XX\r\n\r"},
+      {"", "LU\r"},
+      {"", "/lu\r"},
+      {"", "/LUX\r"},
+      {"", "\r"},
+      {"", "/LH\rX"},
+      {"", "/MR\r\r"},
+      {"refuse:upload", "/LU\r"},
+      {"silent:upload", "/LU\r"},
+      {"refuse:download", "/LD\r"},
+      {"silent:download-ack", "/LD\r"},
+      {"refuse:history", "/LH\r\n\r"},
+      {"silent:history", "/LH\r\n\r"},
+      {"refuse:reset", "/MR\r\n\r"},
+      {"silent:reset", "/MR\r\n\r"},
+      {"refuse:clock", "/TD03-05-26 14:07:09\r\n\r"},
+      {"silent:clock", "/TD03-05-26 14:07:09\r\n\r"},
+      {"silent:enq", kEnq},
+      {"refuse:request", kEnterRemote},
+      {"silent:request", kEnterRemote},
+      {"refuse", kEnterRemote},
+      {"silent", kEnterRemote},
+  };
   for (const std::string time :
        {"02-29-26 14:07:09", "04-31-26 14:07:09", "13-01-26 14:07:09", "00-01-26 14:07:09",
         "03-00-26 14:07:09", "03-05-26 24:00:00", "03-05-26 14:60:09", "03-05-26 14:07:60",
         " 03-05-26 14:07:09", "03-05-2026 14:07:09", "3-5-26 14:07:09", "03/05/26 14:07:09", "03-05-26 14:07",
-        "03-05-26 14:07:09 ", ""}) {
-    rows.push_back(" /TD" + time + "\r\n\r");
+        "03-05-26 14:07:09 ", ""})
+    rows.push_back({"", "/TD" + time + "\r\n\r"});
+  for (const auto& [fault, sent] : rows) {
+    SCOPED_TRACE(fault + " " + sent);
+    SimulatedUnit device({.faults = fault});
+    EXPECT_EQ(device.WholeAnswerInRemoteMode(sent), fault.starts_with("silent") ? "" : kNak);
+    EXPECT_EQ(device.complaints.size(), fault.empty() ? 1U : 0U);
+    EXPECT_EQ(device.kept_clock + device.kept_image, "");
+    EXPECT_NE(device.program->Remote(), sent == kEnterRemote);
+    EXPECT_TRUE(!fault.empty() || device.WholeAnswer("/LU\r").ends_with('#'));
   }
-  for (const std::string& row : rows) {
-    SCOPED_TRACE(row);
-    const std::string fault = row.substr(0, row.find(' '));
-    const std::string told = row.size() == fault.size() + 1 ? kEnterRemote : row.substr(fault.size() + 1);
-    Bench bench(fault);
-    EXPECT_EQ(bench.Order(told), fault.starts_with("silent") ? "" : kRefused);
-    EXPECT_EQ(bench.complaints.size(), fault.empty() ? 1U : 0U);
-    EXPECT_EQ(bench.kept_clock + bench.kept_image, "");
-    EXPECT_NE(bench.unit->Remote(), told == kEnterRemote);
-    EXPECT_TRUE(!fault.empty() || bench.Say("/LU\r").ends_with('#'));
-  }
-  Bench bench;
-  EXPECT_EQ(bench.Order("/L" + kEnterRemote + "/L\x05U\r"), "\x06\x0C" + FactoryStream("V1400R12"));
+  SimulatedUnit device;
+  EXPECT_EQ(device.WholeAnswerInRemoteMode("/L" + kEnterRemote + "/L\x05U\r"),
+            "\x06\x0C" + FactoryStream("V1400R12"));
   const std::string ahead = "unexpected ahead of the request for remote mode: \"/L\"";
-  EXPECT_EQ(bench.complaints, (Texts{ahead, "ENQ in the middle of \"/L\""}));
+  EXPECT_EQ(device.complaints, (Texts{ahead, "ENQ in the middle of \"/L\""}));
 }
 
 // ---- commands
 
-// Microseconds that the unit takes to say what is expected.
-std::size_t TimeFor(Bench&& bench, std::string_view command, std::string_view expected) {
-  bench.Say(kEnterRemote);
-  const Time begin = bench.now;
-  EXPECT_EQ(bench.Say(command), expected);
-  return static_cast<std::size_t>((bench.now - begin) / 1us);
+// Microseconds that the unit needs for the expected answer.
+std::size_t TimeFor(SimulatedUnit&& device, std::string_view command, std::string_view expected) {
+  device.WholeAnswer(kEnterRemote);
+  const Time begin = device.now;
+  EXPECT_EQ(device.WholeAnswer(command), expected);
+  return static_cast<std::size_t>((device.now - begin) / 1us);
 }
 
-TEST(UnitCommand, TextsGoOutAtTheRateOfTheLineAndStalledOrLate) {
+TEST(UnitCommand, ATextTakesTheTimeOfTheLineAndOfItsFaults) {
   const std::string stream = FactoryStream("V1400R12");
   const std::size_t time = stream.size() * 10'000'000 / 9600;
-  EXPECT_EQ(TimeFor(Bench("", "V1400R12", 1200), "/LU\r", stream), stream.size() * 10'000'000 / 1200);
-  EXPECT_EQ(TimeFor(Bench("stall:500,7000"), "/LU\r", stream), time + 7'000'000);
-  EXPECT_EQ(TimeFor(Bench("late:400"), "/LU\r", stream), time + 400'000);
-  EXPECT_EQ(TimeFor(Bench("late:400"), "/LH\r\n\r", kHistory + kAcked), 11U * 10'000'000 / 9600 + 400'000);
-  EXPECT_EQ(TimeFor(Bench("late:400"), "/MR\r\n\r", kAcked), 10'000'000U / 9600 + 400'000);
+  EXPECT_EQ(TimeFor(SimulatedUnit({.speed = 1200}), "/LU\r", stream), stream.size() * 10'000'000 / 1200);
+  EXPECT_EQ(TimeFor(SimulatedUnit({.faults = "stall:500,7000"}), "/LU\r", stream), time + 7'000'000);
+  EXPECT_EQ(TimeFor(SimulatedUnit({.faults = "late:400"}), "/LU\r", stream), time + 400'000);
+  EXPECT_EQ(TimeFor(SimulatedUnit({.faults = "late:400"}), "/LH\r\n\r", kHistory + kAck),
+            11U * 10'000'000 / 9600 + 400'000);
+  EXPECT_EQ(TimeFor(SimulatedUnit({.faults = "late:400"}), "/MR\r\n\r", kAck), 10'000'000U / 9600 + 400'000);
 }
 
-TEST(UnitCommand, UploadIsStoppedByCanAndByARequest) {
-  Bench bench;
-  bench.Say(kEnterRemote);
-  bench.Hear("/LU\r");
-  bench.Pass(100ms);
-  EXPECT_EQ(std::exchange(bench.sent, {}).size(), 96U);
-  bench.Hear("\x18" + kEnterRemote);
-  bench.Pass(2ms);
-  EXPECT_EQ(std::exchange(bench.sent, {}), kAcked);
-  EXPECT_EQ(bench.Say("/LU\r" + kEnterRemote), kAcked);
-  EXPECT_EQ(bench.Say("/LU\r\n\r").back(), '#');
-  EXPECT_EQ(bench.complaints, Texts{"a character while the unit is sending: <LF>"});
+TEST(UnitCommand, CanOrARequestStopsTheUpload) {
+  SimulatedUnit device;
+  device.WholeAnswer(kEnterRemote);
+  device.Receive("/LU\r");
+  device.Pass(100ms);
+  EXPECT_EQ(std::exchange(device.sent, {}).size(), 96U);
+  device.Receive(kCan + kEnterRemote);
+  device.Pass(2ms);
+  EXPECT_EQ(std::exchange(device.sent, {}), kAck);
+  EXPECT_EQ(device.WholeAnswer("/LU\r" + kEnterRemote), kAck);
+  EXPECT_EQ(device.WholeAnswer("/LU\r\n\r").back(), '#');
+  EXPECT_EQ(device.complaints, Texts{"a character while the unit is sending: <LF>"});
 }
 
-TEST(UnitCommand, OnlyWhatIsRightIsKept) {
+TEST(UnitCommand, OnlyACompleteCommandIsKept) {
   const std::string factory = FactoryImage(Known("V1400R12"));
   const std::string image = Replaced(factory, "0E0303", "0E0808");
   const std::string load = "/LD\r" + Replaced(FactoryStream("V1400R12"), "0E0303", "0E0808");
   const std::string clock = "/TD03-05-26 14:07:09\r\n\r";
   const std::string reset = "/MR\r\n\r";
-  // The unit's fault, what it is told, what it answers, keeps and tells.
-  const std::vector<std::tuple<std::string, std::string, std::string, std::string, std::string>> rows{
-      {"", load + "\x18", "\x06\x06", image, ""},
+  struct Row {
+    std::string faults, sent, answer, kept, complaint;
+  };
+  const std::vector<Row> rows{
+      {"", load + kCan, "\x06\x06", image, ""},
       {"", load + "\r\n", "\x06\x06", image, "a character behind the end mark of the stream: <CR>"},
       {"", load + kEnterRemote + reset, "\x06\x06\x06\x06", factory, ""},
-      {"silent:final-ack", load, "\x06", image, ""},
+      {"silent:final-ack", load, kAck, image, ""},
       {"", Replaced(load, "\r\n", "\r"), "\x06\x15", "",
        "record 1, address 2000, position 71: expected <LF>, found \"$\""},
-      {"", "/LD\r$2000\x18", "\x06", "", ""},
+      {"", "/LD\r$2000\x18", kAck, "", ""},
       {"", "/LD\r$2000" + kEnterRemote, "\x06\x06", "",
        "the stream broke off after 5 characters, in record 1, address 2000: the tool asks for remote mode"},
-      {"", clock, "\x06", "03-05-26 14:07:09", ""},
-      {"", "/TD02-29-00 00:00:00\r\n\r", "\x06", "02-29-00 00:00:00", ""},
-      {"", "/TD12-31-99 23:59:59\r\n\r", "\x06", "12-31-99 23:59:59", ""}};
-  for (const auto& [faults, said, answer, kept, complaint] : rows) {
-    SCOPED_TRACE(said);
-    Bench bench(faults);
-    EXPECT_EQ(bench.Order(said), answer);
-    EXPECT_EQ(bench.kept_image + bench.kept_clock, kept);
-    EXPECT_EQ(bench.unit->Image(), bench.kept_image.empty() ? factory : bench.kept_image);
-    EXPECT_EQ(bench.unit->Remote(), said.ends_with(kEnterRemote));
-    EXPECT_EQ(bench.complaints, Texts(complaint.empty() ? 0 : 1, complaint));
+      {"", clock, kAck, "03-05-26 14:07:09", ""},
+      {"", "/TD02-29-00 00:00:00\r\n\r", kAck, "02-29-00 00:00:00", ""},
+      {"", "/TD12-31-99 23:59:59\r\n\r", kAck, "12-31-99 23:59:59", ""}};
+  for (const auto& [faults, sent, answer, kept, complaint] : rows) {
+    SCOPED_TRACE(sent);
+    SimulatedUnit device({.faults = faults});
+    EXPECT_EQ(device.WholeAnswerInRemoteMode(sent), answer);
+    EXPECT_EQ(device.kept_image + device.kept_clock, kept);
+    EXPECT_EQ(device.program->Image(), device.kept_image.empty() ? factory : device.kept_image);
+    EXPECT_EQ(device.program->Remote(), sent.ends_with(kEnterRemote));
+    EXPECT_EQ(device.complaints, Texts(complaint.empty() ? 0 : 1, complaint));
   }
-  for (const std::string& said : {load, clock, reset}) {
-    Bench bench;
-    bench.failure = "cannot write unit.bin: No space left on device";
-    EXPECT_EQ(bench.Order(said).back(), '\x15');
-    EXPECT_EQ(bench.unit->Image(), factory);
-    EXPECT_EQ(bench.complaints, Texts{bench.failure});
+  for (const std::string& sent : {load, clock, reset}) {
+    SimulatedUnit device;
+    device.failure = "cannot write unit.bin: No space left on device";
+    EXPECT_EQ(device.WholeAnswerInRemoteMode(sent).back(), '\x15');
+    EXPECT_EQ(device.program->Image(), factory);
+    EXPECT_EQ(device.complaints, Texts{device.failure});
   }
 }
 
-TEST(UnitCommand, ReleaseSevenTakesOneByteMoreWithAComplaint) {
+TEST(UnitCommand, ReleaseSevenAcceptsOneMoreByteWithAComplaint) {
   for (const std::string rest : {"0", "0A", "000"}) {
-    Bench bench("", "V1400R7");
-    EXPECT_EQ(bench.Order("/LD\r" + Replaced(FactoryStream("V1400R7"), "#", rest + "#")),
+    SimulatedUnit device({.firmware = "V1400R7"});
+    EXPECT_EQ(device.WholeAnswerInRemoteMode("/LD\r" + Replaced(FactoryStream("V1400R7"), "#", rest + "#")),
               rest == "0A" ? "\x06\x06" : "\x06\x15");
-    EXPECT_EQ(bench.complaints.size(), 1U);
-    EXPECT_EQ(bench.unit->Image(), FactoryImage(Known("V1400R7")));
+    EXPECT_EQ(device.complaints.size(), 1U);
+    EXPECT_EQ(device.program->Image(), FactoryImage(Known("V1400R7")));
   }
 }
 
@@ -301,19 +297,19 @@ TEST(UnitCommand, ReleaseSevenTakesOneByteMoreWithAComplaint) {
 
 std::string AnswerUnder(const std::string& fault, std::uint64_t seed = 1,
                         std::string_view command = "/LU\r") {
-  Bench bench(fault, "V1400R12", 0, seed);
-  const std::string answer = bench.Order(command);
-  EXPECT_EQ(bench.unit->Remote(), fault.starts_with("silent"));
+  SimulatedUnit device({.faults = fault, .speed = 0, .seed = seed});
+  const std::string answer = device.WholeAnswerInRemoteMode(command);
+  EXPECT_EQ(device.program->Remote(), fault.starts_with("silent"));
   return answer;
 }
 
-TEST(UnitFaults, TextsAreCutGarbledAndHeadedByJunk) {
+TEST(UnitFaults, CutGarbleDropAndJunkChangeTheText) {
   const std::string stream = FactoryStream("V1400R12");
   EXPECT_EQ(AnswerUnder("cut:1000"), stream.substr(0, 1000));
   EXPECT_EQ(AnswerUnder("cut:99999"), stream.substr(0, stream.size() - 1));
   EXPECT_EQ(AnswerUnder("silent:after=11"), stream.substr(0, 10));
   EXPECT_EQ(AnswerUnder("drop:0"), stream);
-  EXPECT_EQ(AnswerUnder("drop:1000", 1, "/LH\r\n\r"), kAcked);
+  EXPECT_EQ(AnswerUnder("drop:1000", 1, "/LH\r\n\r"), kAck);
   const std::string junk = AnswerUnder("junk:4000");
   EXPECT_EQ(junk.find_first_of("$?"), 4000U);
   EXPECT_EQ(junk.substr(4000), stream);
@@ -328,17 +324,17 @@ TEST(UnitFaults, TextsAreCutGarbledAndHeadedByJunk) {
   }
   const std::size_t dropped = stream.size() - AnswerUnder("drop:20", 7).size();
   EXPECT_TRUE(dropped > 20 && dropped < 400) << dropped;
-  Bench once("refuse:upload cut:100 once");
-  EXPECT_EQ(once.Order("/LU\r"), kRefused);
-  EXPECT_EQ(once.Say("/LU\r").size(), 100U);
-  EXPECT_EQ(once.Order("/LU\r"), stream);
+  SimulatedUnit once({.faults = "refuse:upload cut:100 once"});
+  EXPECT_EQ(once.WholeAnswerInRemoteMode("/LU\r"), kNak);
+  EXPECT_EQ(once.WholeAnswer("/LU\r").size(), 100U);
+  EXPECT_EQ(once.WholeAnswerInRemoteMode("/LU\r"), stream);
   // The generator must give these on every machine, or recorded failures could not be replayed.
   EXPECT_EQ(Random(7).Below(1000), 389U);
 }
 
 // ---- command line, files, log
 
-TEST(UnitOptions, WrongOnesNameOptionAndValue) {
+TEST(UnitOptions, AnErrorNamesTheWrongOptionAndItsValue) {
   const auto parse = [](const std::vector<std::string_view>& arguments) { return ParseOptions(arguments); };
   for (const std::string_view row :
        {"--speed 9601", "--firmware V1400R3", "--firmware v1400R12", "--pace slow", "--seed -1",
@@ -359,7 +355,7 @@ TEST(UnitOptions, WrongOnesNameOptionAndValue) {
   EXPECT_EQ(MadeUpLines(options.history), 100000U);
 }
 
-TEST(UnitFiles, ImagesSurviveAndForeignOnesAreNamed) {
+TEST(UnitFiles, AnImageIsReadBackAndAForeignOneIsReported) {
   std::string place = (std::filesystem::temp_directory_path() / "ovl_unit_XXXXXX").string();
   ASSERT_NE(::mkdtemp(place.data()), nullptr);
   const std::string path = place + "/unit.bin";
@@ -381,13 +377,13 @@ TEST(UnitFiles, ImagesSurviveAndForeignOnesAreNamed) {
   std::filesystem::remove_all(place);
 }
 
-TEST(UnitJournal, OneLineForEachTurnAndLongTextsShortened) {
+TEST(UnitJournal, EachTurnIsOneLineAndLongTextsAreShortened) {
   const std::string stream = FactoryStream("V1310R1");
   Texts lines;
   Journal journal([&lines](const std::string& line) { lines.push_back(line); });
   journal.Add(Journal::Side::kTool, "/L", 1s);
   journal.Add(Journal::Side::kTool, "U\r", 1s + 1ms);
-  journal.Add(Journal::Side::kTool, "\x05", 1s + 501ms);
+  journal.Add(Journal::Side::kTool, kEnq, 1s + 501ms);
   journal.Add(Journal::Side::kUnit, stream, 2s);
   journal.Remark("over", 3s);
   EXPECT_EQ(lines, (Texts{"      1.000 > /LU<CR>", "      1.501 > <ENQ>",

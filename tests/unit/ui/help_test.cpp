@@ -1,4 +1,4 @@
-// The help has a word for everything that a person can meet, and its window leads there.
+// The help explains everything that a user can see, and its window opens the right page.
 #include <QDeadlineTimer>
 #include <QDesktopServices>
 #include <QDialog>
@@ -76,7 +76,7 @@ TEST_F(HelpPagesTest, NameEveryTabWindowAndControlAsTheToolTipsDo) {
     const bool picks = Holds<controls::List*, controls::OptionArray*>(control);
     EXPECT_TRUE(!picks || ui::ToolTipOf(form->name, own_name).endsWith('.'));
     if (!picks && !Holds<controls::TextBox*, controls::Button*, controls::CheckBox*>(control)) continue;
-    // By its name, or that of the array that it belongs to.
+    // By its own name, or by the name of its array.
     const auto text = form == &main.form ? tabs : pages_.Text(ui::HelpPageOfWindow(Latin(form->name)));
     const auto name = Latin(own_name), array = name.section('(', 0, 0);
     EXPECT_TRUE(text.contains('`' + name + '`') || text.contains('`' + array + '`'));
@@ -111,7 +111,7 @@ TEST_F(HelpPagesTest, HaveARowForEveryFieldWithItsPlaceAndEditor) {
   EXPECT_TRUE(page.contains("| `DECIMAL_POINT_BAK` | 1 | 85 | 85 | 87 | 87 | 69 | 71 | 65 |"));
 }
 
-TEST_F(HelpPagesTest, LeadNowhereThatIsNot) {
+TEST_F(HelpPagesTest, HaveNoBrokenLink) {
   QStringList places = files_, listed("contents.md");
   for (const auto& file : files_) {
     for (const auto& line : pages_.Text(file).split('\n')) {
@@ -138,7 +138,7 @@ class HelpWindowTest : public ScreenTest {
   QString Path(const QString& name) const { return folder.File(name.toStdString()).c_str(); }
 };
 
-TEST_F(HelpWindowTest, OpensWhatIsInFrontSearchesAndGoesBack) {
+TEST_F(HelpWindowTest, OpensThePageOfTheActiveWindowSearchesAndGoesBack) {
   Main().Tabs().setCurrentIndex(kExceptionTab);
   Press(*Main().Tabs().currentWidget(), Qt::Key_F1);
   EXPECT_EQ(Page().source().fileName(), "exception_report.md");
@@ -158,7 +158,7 @@ TEST_F(HelpWindowTest, OpensWhatIsInFrontSearchesAndGoesBack) {
   EXPECT_TRUE(Help() == nullptr || !Help()->isVisible());
 }
 
-TEST_F(HelpWindowTest, OpensTheWordsOfABoxInAWindowOfItsOwn) {
+TEST_F(HelpWindowTest, OpensTheExplanationOfABoxInItsOwnWindow) {
   Press(Main(), Qt::Key_F1);
   QString shown;
   QTimer::singleShot(0, &Main(), [&] {
@@ -173,7 +173,7 @@ TEST_F(HelpWindowTest, OpensTheWordsOfABoxInAWindowOfItsOwn) {
   EXPECT_EQ(Help(), nullptr);
 }
 
-TEST_F(HelpWindowTest, SaysSoWhenPagesAreMissing) {
+TEST_F(HelpWindowTest, ReportsMissingPages) {
   const ui::HelpPages none(Path("nowhere"));
   ui::HelpWindow window(none, nullptr);
   window.Open("remote.md");
@@ -183,7 +183,7 @@ TEST_F(HelpWindowTest, SaysSoWhenPagesAreMissing) {
   EXPECT_TRUE(window.findChild<QListWidget*>()->item(0)->text().contains("nowhere"));
 }
 
-TEST_F(HelpWindowTest, ThePagesMakeAGuideWithPictures) {
+TEST_F(HelpWindowTest, ThePagesAreExportedAsOneGuideWithPictures) {
   const ui::HelpPages pages(ui::kEmbeddedHelp);
   const auto guide = Path("guide.pdf");
   EXPECT_FALSE(ui::WriteGuide(ui::HelpPages(Path("nowhere")), {}, guide).Ok());
@@ -198,7 +198,7 @@ TEST_F(HelpWindowTest, ThePagesMakeAGuideWithPictures) {
   EXPECT_EQ(ui::WriteGuide(pages, {}, blocked).Problem().Text(), blocked.toStdString() + ": Not a directory");
 }
 
-// The desktop, as far as it opens files.
+// A desktop that opens files.
 class Desktop : public QObject {
   Q_OBJECT
  public:
@@ -210,30 +210,31 @@ class Desktop : public QObject {
   void Open(const QUrl& url) { opened.append(url.fileName()); }
 };
 
-// What the desktop answers when it is asked for the program of a kind of file.
+// A desktop answers which program opens a kind of file.
 void Answer(const TemporaryFolder& folder, const std::string& reader, const std::string& browser) {
   WriteFile(folder.File("xdg-mime"), "#!/bin/sh\ncase $3 in application/pdf) echo " + reader +
                                          ";; inode/directory) echo " + browser + ";; esac\n");
   std::filesystem::permissions(folder.File("xdg-mime"), std::filesystem::perms::owner_all);
 }
 
-TEST_F(HelpWindowTest, OpensAManualOrItsFolderOrTellsWhy) {
+TEST_F(HelpWindowTest, OpensAManualOrItsFolderOrReportsWhyNot) {
   Desktop desktop;
   const TemporaryFolder tools;
   const auto path = qgetenv("PATH");
   qputenv("PATH", QByteArray::fromStdString(tools.Path().string()) + ':' + path);
   const auto manuals = ui::ManualFolder(Path(""));
-  QString told;
+  QString report;
   const auto opened_by = [&](const std::function<void()>& open) {
     desktop.opened.clear();
-    told.clear();
+    report.clear();
     open();
-    for (const QDeadlineTimer late(10000); desktop.opened.isEmpty() && told.isEmpty() && !late.hasExpired();)
+    for (const QDeadlineTimer late(10000);
+         desktop.opened.isEmpty() && report.isEmpty() && !late.hasExpired();)
       QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
-    return desktop.opened.join(',') + told;
+    return desktop.opened.join(',') + report;
   };
   const auto opened = [&](const QString& in, const char* file) {
-    return opened_by([&] { ui::OpenManual(Main(), in, file, [&](const QString& why) { told = why; }); });
+    return opened_by([&] { ui::OpenManual(Main(), in, file, [&](const QString& why) { report = why; }); });
   };
   EXPECT_EQ(opened(manuals, ""),
             "The manual folder cannot be opened.\n\n" + manuals + ": No such file or directory");

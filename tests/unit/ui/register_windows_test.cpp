@@ -1,36 +1,18 @@
-// What the registers bring to the screen: option frames, panels, windows beside the main form, and the line
-// that tells what else was stored.
+// What a register shows on the screen: option frames, panels, windows beside the main form, and the note
+// about other settings that were stored.
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <set>
-#include <sstream>
 
 #include "screen.h"
+#include "support/register_facts.h"
 
 namespace ovl::testing {
 namespace {
 
 using enum image::FieldId;
 using Names = std::set<std::string>;
-
-// The frames, each with its lists, options, buttons and labels with a name; behind a colon the inner frame
-// around one.
-constexpr const char* kContent = R"(
-0 ComboAddress  1 ComboDisplay  2 OpDelta  3 OpDYWAYE  4 OpEDA  5 ComboDeviceADD ComboDeviceGas
-6 OpGilbraco ComboXML Label84 Label85  7 ComboDIPMIXED  8 OpMicrelec OpMicrelec9500  9 OpMicros cmdMicros  10 OpNCR
-11 OpBEETLE  12 ComboWoring ComboTITLEDIP ComboCONSOLEID  13 ComboPana(0) ComboPana(1)  14 OpSharp
-15 ComboSICOM  16 OpSun  17 ComboTCI_ID(0) ComboTCI_ID(1) ComboTCI_ID(2)
-18 ComboUNI_ID(0) ComboUNI_ID(1) ComboUNI_ID(2) ComboUni ComboUniFor14R7up  19 OpVerifone  20 ComboAddr
-21 ComboTCPIP(0) ComboTCPIP(1) ComboTCPIP(2) ComboTCPIP(3)  22 ComboTk500(0) ComboTk500(1)
-23 ComboCLARITYEPOS  24 OpRI_QT2  25 OpNIXDORF  26 OpNUCP  27 OpA410  28 OpSHARPUP600
-29 ComboTE2200(0) ComboTE2200(1)  30 ComboTCPIP(4) ComboTCPIP(5) ComboTCPIP(6) ComboTCPIP(7)
-ComboTCPINFO(0) ComboTCPINFO(1) ComboTCPINFO(2) ComboTCPINFO(3)  31 ComboTEC(0) ComboTEC(1)  32 OpWEIGHS
-33 BleepOP  34 CASIOOP Command1  35 DIGIOP  36 POSOP TEROP PRNOP SECUOP  37 EASYOP  38 FUJIOP Combo1
-39 GELLEROP  40 IBMOP IBMCombo:IBMFrame RDSCombo:IBMFrame Combo4610TF6:IBMFrame
-41 ICLOP TEAMOP:POS2000 POS50OP:POS5000  42 JCMOp  43 NCROP JRNLRCPT_SLP_OP:NCRFrame
-44 NIXDORF14OP BEETLEOp:BEETLEFrm NIXDORF14OPSelect:NIXDORFrm  45 SamOP  46 SharpOP SharpCom  47 TEAMPOSOP
-48 TECOP Command2  49 UNIWOP  50 SenOP ST6105C  51 ComboNE134  52 OpVWEIGHBRIDGE  53 OpPoleDisplay)";
 
 // The controls that the model shows in the frames on the screen.
 Names Wanted(Screen& screen) {
@@ -44,15 +26,12 @@ Names Wanted(Screen& screen) {
     if (face(name) != nullptr && face(name)->visible) wanted.insert(name);
     return face(name) != nullptr;
   };
-  bool visible = false;
-  std::istringstream words(kContent);
-  for (std::string word; words >> word;) {
-    const auto name = word.substr(0, word.find(':'));
-    if (face(name) == nullptr) visible = form.frmAddress.at(std::stoul(word)).visible;
-    if (!visible || (name != word && !face(word.substr(name.size() + 1))->visible)) continue;
+  for (const auto& row : OptionControls()) {
+    if (row.frame == kNoFrame || !form.frmAddress.at(static_cast<std::size_t>(row.frame)).visible) continue;
+    if (!row.inner_frame.empty() && !face(row.inner_frame)->visible) continue;
     int element = 0;
-    while (want(name + "(" + std::to_string(element) + ")")) ++element;
-    if (element == 0) want(name);
+    while (want(row.name + "(" + std::to_string(element) + ")")) ++element;
+    if (element == 0) want(row.name);
   }
   return wanted;
 }
@@ -65,14 +44,14 @@ void ExpectFrameAsTheModelSays(Screen& screen, const std::string& when) {
     const auto name = widget->objectName().section('.', -1).toStdString();
     if (IsOne<QLabel>(widget) && !name.starts_with("Label")) continue;
     shown.insert(name);
-    const bool told = !widget->accessibleName().isEmpty() && !widget->toolTip().isEmpty();
-    EXPECT_TRUE(told || IsOne<QLabel>(widget)) << name;
+    const bool described = !widget->accessibleName().isEmpty() && !widget->toolTip().isEmpty();
+    EXPECT_TRUE(described || IsOne<QLabel>(widget)) << name;
   }
   EXPECT_EQ(shown, Wanted(screen));
   ExpectRoom(page);
 }
 
-TEST(RegisterFrames, ShowExactlyWhatTheModelShowsAndTakePicks) {
+TEST(RegisterFrames, ShowExactlyTheControlsOfTheModelAndStorePicks) {
   for (const auto& firmware :
        {firmware::FirmwareId{"V1400", "R12"}, {"V1300", "R14"}, {"V1310", "R1"}, {"V1324", "R26"}}) {
     Screen screen(firmware);
@@ -103,7 +82,7 @@ TEST(RegisterFrames, ShowExactlyWhatTheModelShowsAndTakePicks) {
   }
 }
 
-TEST_F(ScreenTest, AnOverlayStandsInThePlaceOfItsListAndLabelsFollowCaptions) {
+TEST_F(ScreenTest, AnOverlayReplacesItsListAndLabelsFollowCaptions) {
   auto& form = App().frmMain;
   Main().Tabs().setCurrentIndex(kLineTab);
   const std::tuple<const char*, const char*, const char*> covers[] = {
@@ -134,11 +113,11 @@ TEST_F(ScreenTest, AnOverlayStandsInThePlaceOfItsListAndLabelsFollowCaptions) {
   EXPECT_EQ(labels.size(), 12);
 }
 
-TEST_F(ScreenTest, TheMicrosWindowShowsOnePanelAndStoresBySetAlone) {
+TEST_F(ScreenTest, TheMicrosWindowShowsOnePanelAndStoresOnlyWithSet) {
   auto& image = App().image;
   auto& window = Window(App().frmMicros.form);
   Select("MICROS");
-  Stand("OpMicros(1)", kRegisterTab);
+  FocusOn("OpMicros(1)", kRegisterTab);
   Keys({Qt::Key_Down});
   EXPECT_TRUE(window.isVisible() && !window.isModal() && Main().Tabs().isEnabled());
   EXPECT_EQ(Focus(), "ComboISN(0)");
@@ -148,7 +127,7 @@ TEST_F(ScreenTest, TheMicrosWindowShowsOnePanelAndStoresBySetAlone) {
   Keys({Qt::Key_Home, Qt::Key_Down, Qt::Key_Escape});
   EXPECT_EQ(Focus(), "OpMicros(2)");
   EXPECT_TRUE(image == stored);
-  Stand("cmdMicros", kRegisterTab);
+  FocusOn("cmdMicros", kRegisterTab);
   Keys({Qt::Key_Return, Qt::Key_Home, Qt::Key_Down, Qt::Key_Return});
   EXPECT_FALSE(window.isVisible() || image == stored);
 
@@ -164,11 +143,11 @@ TEST_F(ScreenTest, TheMicrosWindowShowsOnePanelAndStoresBySetAlone) {
   EXPECT_EQ(image[ECRDIGIT_7], "04");
 }
 
-TEST_F(ScreenTest, TheSubMenuFollowsTheModelThatWasChosen) {
+TEST_F(ScreenTest, TheSubMenuFollowsTheChosenModel) {
   auto& window = Window(App().FrmSubMenu.form);
   Select("CASIO");
   EXPECT_FALSE(Find("Command1").isEnabled());
-  Stand("CASIOOP(17)", kRegisterTab);
+  FocusOn("CASIOOP(17)", kRegisterTab);
   Keys({Qt::Key_Down});
   EXPECT_TRUE(window.isVisible() && Find("Command1").isEnabled() && IsShown("Combo1(1)"));
   EXPECT_EQ(window.windowTitle(), "CASIO SUBMENU");
@@ -179,7 +158,7 @@ TEST_F(ScreenTest, TheSubMenuFollowsTheModelThatWasChosen) {
   EXPECT_LT(window.height(), height_of_both);
   Keys({Qt::Key_Escape});
   EXPECT_FALSE(window.isVisible());
-  Stand("Command1", kRegisterTab);
+  FocusOn("Command1", kRegisterTab);
   Keys({Qt::Key_Return});
   EXPECT_TRUE(window.isVisible());
   Click("CASIOOP(22)");
@@ -191,7 +170,7 @@ TEST_F(ScreenTest, TheSubMenuFollowsTheModelThatWasChosen) {
   EXPECT_TRUE(IsShown("Option1(1)") && !IsShown("Option1(2)"));
 }
 
-TEST_F(ScreenTest, TheQuietLineTellsWhatElseWasStoredUntilTheNextAct) {
+TEST_F(ScreenTest, TheQuietLineNamesOtherStoredSettingsUntilTheNextAction) {
   auto& image = App().image;
   Select("DRESSER WAYNE");
   EXPECT_EQ(QuietLine(), "");

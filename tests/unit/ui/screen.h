@@ -1,4 +1,4 @@
-// A program with windows, for tests of what they show and of what a person does in them.
+// A program with windows, for tests of what they show and how a user works with them.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -31,7 +31,7 @@ bool IsOne(const QWidget* widget) {
   return (... || (qobject_cast<const Kinds*>(widget) != nullptr));
 }
 
-// The widgets of these kinds that a person sees, without the parts of lists.
+// The visible widgets of these kinds, without the parts of lists.
 template <class... Kinds>
 std::vector<QWidget*> VisibleIn(const QWidget& page) {
   std::vector<QWidget*> visible;
@@ -42,7 +42,7 @@ std::vector<QWidget*> VisibleIn(const QWidget& page) {
   return visible;
 }
 
-// Whatever is read has room for its text.
+// Every widget with a text has room for it.
 inline void ExpectRoom(const QWidget& page) {
   for (const auto* widget : VisibleIn<QLabel, QAbstractButton, QComboBox>(page)) {
     SCOPED_TRACE((widget->objectName() + ' ' + widget->property("text").toString()).toStdString());
@@ -53,7 +53,7 @@ inline void ExpectRoom(const QWidget& page) {
   }
 }
 
-// A program folder with the first register's image, and the store that names its firmware.
+// A program folder with the image of the first register, and settings that name its firmware.
 inline void MakeSite(const TemporaryFolder& folder, const firmware::FirmwareId& firmware) {
   const auto images = folder.Path() / firmware.version / firmware.release;
   std::filesystem::create_directories(images);
@@ -63,7 +63,7 @@ inline void MakeSite(const TemporaryFolder& folder, const firmware::FirmwareId& 
             "[General]\nVersion=" + firmware.version + "\nRelease=" + firmware.release + "\n");
 }
 
-// A program with its windows, over the default images of its firmware and a line in memory.
+// A program with its windows, the default images of its firmware, and a serial port that accepts everything.
 class Screen {
  public:
   explicit Screen(const firmware::FirmwareId& firmware = {"V1400", "R12"}, Pages pages = Pages::kAll) {
@@ -121,7 +121,7 @@ class Screen {
     QKeyEvent press(way, key, Qt::NoModifier, text);
     QCoreApplication::sendEvent(&widget, &press);
   }
-  // These keys go to the window in front.
+  // Presses the keys in the active window.
   void Keys(std::initializer_list<int> keys) {
     for (const int key : keys) PressInFront(key, key == Qt::Key_Space ? " " : "");
   }
@@ -129,7 +129,7 @@ class Screen {
     for (const QChar letter : text) PressInFront(letter.toUpper().unicode(), letter);
   }
   std::string Focus() { return FocusWidget().objectName().toStdString(); }
-  // Where the Tab key leads, around the window in front once.
+  // The widgets that the Tab key reaches, once around the active window.
   std::vector<QWidget*> Round() {
     std::vector<QWidget*> round;
     while (std::find(round.begin(), round.end(), &FocusWidget()) == round.end()) {
@@ -143,7 +143,7 @@ class Screen {
     for (const auto* stop : Round()) names += stop->objectName().toStdString() + " ";
     return names;
   }
-  void Stand(const std::string& name, int tab) {
+  void FocusOn(const std::string& name, int tab) {
     Main().Tabs().setCurrentIndex(tab);
     Find(name).setFocus();
   }
@@ -173,7 +173,7 @@ class Screen {
   }
 };
 
-// For tests with such a program each.
+// For tests that each need such a program.
 class ScreenTest : public ::testing::Test, protected Screen {};
 
 }  // namespace ovl::testing

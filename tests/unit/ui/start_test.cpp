@@ -1,4 +1,4 @@
-// The first start, and what is told when it finds no place, no firmware or no images.
+// The first start, and its messages if there is no writable folder, no firmware or no image.
 #include <QMessageBox>
 #include <QTimer>
 
@@ -11,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-TEST(ProgramFolder, WhatIsShippedIsLinkedIntoRealFamilyFolders) {
+TEST(ProgramFolder, ShippedFilesAreLinkedIntoRealFamilyFolders) {
   const TemporaryFolder shipped, own;
   const auto link = [&](const std::string& folder) {
     host::LinkShipped(QString::fromStdString(shipped.Path().string()), QString::fromStdString(folder));
@@ -29,16 +29,17 @@ TEST(ProgramFolder, WhatIsShippedIsLinkedIntoRealFamilyFolders) {
   const auto blocked = own.File("V1400/R12/GENERIC.bin") + "/below";
   try {
     link(blocked);
-    FAIL() << "a file stands in the folder's place";
+    FAIL() << "a file is in the place of the folder";
   } catch (const core::Failure& failure) {
     EXPECT_EQ(failure.Subject(), blocked);
     EXPECT_STREQ(failure.what(), "Not a directory");
   }
 }
 
-// The boxes that come up while it runs, each closed at once.
+// The message boxes during the start. Each is closed at once.
 QString BoxesOf(const std::function<void()>& run) {
-  // A program that ended before asked the event loop to end, and no box stays up until one has.
+  // A program that ended earlier has asked the event loop to quit. Until that has happened, no message box
+  // stays open.
   QTimer::singleShot(0, [] { QCoreApplication::exit(); });
   QApplication::exec();
   QStringList boxes;
@@ -54,7 +55,7 @@ QString BoxesOf(const std::function<void()>& run) {
   return boxes.join('|');
 }
 
-TEST(Store, WhatIsWrongWithItStandsInTheBox) {
+TEST(Store, ItsErrorIsInTheMessageBox) {
   const TemporaryFolder site;
   const auto settings = site.File("ORB/OVL Software.conf");
   const auto folder = QString::fromStdString(site.Path().string());

@@ -1,11 +1,11 @@
-// The windows for texts and values, and the lists that stay open, driven from the keyboard alone.
+// The windows for texts and values, and open lists, used only with the keyboard.
 #include "core/actions.h"
 #include "screen.h"
 
 namespace ovl::testing {
 namespace {
 
-TEST_F(ScreenTest, TheTextWindowTakesEachOfItsThreeTextsFromTheKeyboard) {
+TEST_F(ScreenTest, EachOfTheThreeTextsCanBeTypedInTheTextWindow) {
   auto& form = App().frmMain;
   const std::tuple<const char*, int, std::string*> rows[] = {
       {"cmdSetTrigger", kAlarmTab, &form.TextTrigger.text},
@@ -14,7 +14,7 @@ TEST_F(ScreenTest, TheTextWindowTakesEachOfItsThreeTextsFromTheKeyboard) {
   for (const auto& [button, tab, text] : rows) {
     SCOPED_TRACE(button);
     const auto before = *text;
-    Stand(button, tab);
+    FocusOn(button, tab);
     Keys({Qt::Key_Return});
     EXPECT_EQ(NamesOfRound(), "Text1 frmSetEXCPSTR.cmdClr frmSetEXCPSTR.cmdSET ");
     Type("LOST");
@@ -31,11 +31,11 @@ TEST_F(ScreenTest, TheTextWindowTakesEachOfItsThreeTextsFromTheKeyboard) {
   }
 }
 
-TEST_F(ScreenTest, BlanksThatFillATextUpGiveWayAndTheRestIsRefusedWithItsReason) {
+TEST_F(ScreenTest, TypingReplacesFillingBlanksAndTooLongATextIsRefusedWithAReason) {
   auto& app = App();
   const auto padded = [](std::string seen) { return seen.append(40 - seen.size(), ' '); };
   AssignText(app, app.frmMain.TextException, padded("CASH"));
-  Stand("cmdSetExcpstr", kExceptionTab);
+  FocusOn("cmdSetExcpstr", kExceptionTab);
   Keys({Qt::Key_Return, Qt::Key_End});
   Type(" \u20ACN");
   Keys({Qt::Key_Home});
@@ -51,11 +51,11 @@ TEST_F(ScreenTest, BlanksThatFillATextUpGiveWayAndTheRestIsRefusedWithItsReason)
   EXPECT_EQ(app.frmMain.TextException.text, "X CASH \x80N" + std::string(31, 'y'));
 }
 
-TEST(RangeWindow, TakesItsValuesFromTheKeyboard) {
+TEST(RangeWindow, ItsValuesCanBeTyped) {
   Screen screen({"V1300", "R14"});
   auto& values = screen.App().frmMain.TextRANGE;
   const auto before = values[0].caption;
-  screen.Stand("cmdSetRange", kExceptionTab);
+  screen.FocusOn("cmdSetRange", kExceptionTab);
   screen.Keys({Qt::Key_Return});
   EXPECT_EQ(
       screen.NamesOfRound(),
@@ -73,7 +73,7 @@ TEST(RangeWindow, TakesItsValuesFromTheKeyboard) {
   EXPECT_EQ(screen.Focus(), "cmdSetRange");
 }
 
-TEST_F(ScreenTest, OpenListsMoveByArrowsAndLettersAndPickByEnter) {
+TEST_F(ScreenTest, AnOpenListIsUsedWithArrowsLettersAndEnter) {
   auto& form = App().frmMain;
   const std::tuple<const char*, int, controls::List*, const char*, int> rows[] = {
       {"ComboReg", kRegisterTab, &form.ComboReg, "ib", 38},
@@ -81,7 +81,7 @@ TEST_F(ScreenTest, OpenListsMoveByArrowsAndLettersAndPickByEnter) {
       {"ExceptionOverview", kExceptionTab, &form.ComboExcp[0], "7", 6}};
   for (const auto& [list, tab, shown, typed, picked] : rows) {
     SCOPED_TRACE(list);
-    Stand(list, tab);
+    FocusOn(list, tab);
     Keys({Qt::Key_Down, Qt::Key_Down});
     Type(typed);
     EXPECT_EQ(shown->position, 0);
@@ -93,7 +93,7 @@ TEST_F(ScreenTest, OpenListsMoveByArrowsAndLettersAndPickByEnter) {
   }
 }
 
-TEST_F(ScreenTest, TheViewerStandsBesideTheMainWindowAndEscapeClosesIt) {
+TEST_F(ScreenTest, TheViewerLeavesTheMainWindowUsableAndEscapeClosesIt) {
   auto& viewer = App().frmView.form;
   ShowForm(App(), viewer);
   Show();

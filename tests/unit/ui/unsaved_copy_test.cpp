@@ -1,4 +1,4 @@
-// What is left for the next start when the program is ended from outside.
+// The copy of unsaved changes that the next start finds when the program was killed.
 #include "ui/app/unsaved_copy.h"
 
 #include <gtest/gtest.h>
@@ -26,14 +26,14 @@ QString ChangeAndWait(Screen& screen) {
   return folder;
 }
 
-TEST(UnsavedCopy, StandsUntilAPersonLeavesAndOpensAgainAfterASuddenEnd) {
+TEST(UnsavedCopy, ExistsUntilTheUserClosesAndOpensAgainAfterACrash) {
   Screen screen({"V1400", "R12"});
   auto& app = screen.App();
   const auto folder = ChangeAndWait(screen);
   ASSERT_EQ(Copies(folder).size(), 1);
   EXPECT_EQ(ui::RescueCopies(folder), QStringList()) << "the program that keeps the copy still runs";
 
-  // As if a process that is gone by now had left it.
+  // As if another process had left it and ended.
   const QDir in(folder);
   ASSERT_TRUE(QFile::rename(in.filePath(Copies(folder).front()), in.filePath("unsaved V1400R12 9.bin")));
   EXPECT_EQ(ui::RescueCopies(folder), QStringList("rescued V1400R12 1.bin"));
@@ -46,7 +46,7 @@ TEST(UnsavedCopy, StandsUntilAPersonLeavesAndOpensAgainAfterASuddenEnd) {
   screen.Find<QAction>("OpenMenu").trigger();
   EXPECT_TRUE(app.image == changed);
 
-  // A file that ends the program leaves the changes, a person who closes it does not.
+  // The changes remain when a broken file ends the program, but not when the user closes it.
   screen.Pick("ComboTD(2)", app.frmMain.ComboTD[2].position == 0 ? 1 : 0);
   WriteFile(rescued.toStdString(), "$2000");
   screen.Find<QAction>("OpenMenu").trigger();
@@ -54,7 +54,7 @@ TEST(UnsavedCopy, StandsUntilAPersonLeavesAndOpensAgainAfterASuddenEnd) {
   EXPECT_EQ(Copies(folder).size(), 2);
 }
 
-TEST(UnsavedCopy, IsTakenAwayWhenAPersonLeaves) {
+TEST(UnsavedCopy, IsRemovedWhenTheUserCloses) {
   Screen screen({"V1400", "R12"});
   const auto folder = ChangeAndWait(screen);
   EXPECT_EQ(Copies(folder).size(), 1);
@@ -62,8 +62,8 @@ TEST(UnsavedCopy, IsTakenAwayWhenAPersonLeaves) {
   EXPECT_EQ(Copies(folder), QStringList());
 }
 
-// The number of a process that is gone may be another's by now: what counts is the lock, and who made it.
-TEST(UnsavedCopy, OfAnotherFirmwareIsNamedThoughItsProcessNumberIsInUseAgain) {
+// Another process may have the number of the one that ended, so the lock and its owner count.
+TEST(UnsavedCopy, OfAnotherFirmwareIsKeptEvenIfItsProcessNumberIsUsedAgain) {
   Screen screen({"V1400", "R12"});
   const auto file = [&](const char* name) { return screen.folder.File(name); };
   WriteFile(file("unsaved V1300R14 1.bin"), "x");

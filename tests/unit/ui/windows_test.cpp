@@ -1,4 +1,4 @@
-// The windows offscreen: they show the model, and a person's acts reach it.
+// The windows show the model, and what a user does in them reaches it.
 #include <QAction>
 #include <QImage>
 #include <QProgressBar>
@@ -17,13 +17,13 @@
 namespace ovl::testing {
 namespace {
 
-// One of them ends the program, so that no event loop runs afterwards: these stand behind those of other
-// files.
+// One of these tests ends the program, and no event loop runs afterwards. So they come after those of the
+// other files.
 using WindowsTest = ScreenTest;
 
-TEST_F(WindowsTest, TheTabKeyVisitsWhatCanActInReadingOrder) {
+TEST_F(WindowsTest, TheTabKeyVisitsEveryUsableControlInReadingOrder) {
   for (auto& button : App().frmMain.CmdUpDow) button.enabled = button.visible = true;
-  Stand("cmdConnect", kRemoteTab);
+  FocusOn("cmdConnect", kRemoteTab);
   const auto names = NamesOfRound();
   EXPECT_TRUE(names.starts_with(
       "cmdConnect CmdUpDow(4) CmdUpDow(0) CmdUpDow(1) CmdUpDow(3) CmdUpDow(5) CheckTD ComboMonth "
@@ -36,7 +36,7 @@ TEST_F(WindowsTest, TheWheelNeverChangesAListAndTheSameEntryCanBePickedAgain) {
   auto& hours = Find<QComboBox>("ComboHR");
   Click("CheckTD");
   Pick("ComboHR", 7);
-  Stand("ComboHR", kRemoteTab);
+  FocusOn("ComboHR", kRemoteTab);
   QWheelEvent wheel({5, 5}, hours.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {}, {}, false);
   QCoreApplication::sendEvent(&hours, &wheel);
   EXPECT_EQ(hour, "07");
@@ -48,7 +48,7 @@ TEST_F(WindowsTest, TheWheelNeverChangesAListAndTheSameEntryCanBePickedAgain) {
   EXPECT_EQ(hour, "08");
 }
 
-TEST_F(WindowsTest, AnActDuringAHandlerIsLostAndTakenBackOnTheScreen) {
+TEST_F(WindowsTest, AnActionDuringAHandlerIsDroppedAndUndoneOnTheScreen) {
   auto& hours = Find<QComboBox>("ComboHR");
   App().frmMain.ComboHR.position = 3;
   Show();
@@ -63,12 +63,12 @@ TEST_F(WindowsTest, AnActDuringAHandlerIsLostAndTakenBackOnTheScreen) {
   EXPECT_TRUE(Find<QAbstractButton>("CheckTD").isChecked() && App().frmMain.CheckTD.checked);
 }
 
-TEST_F(WindowsTest, FormsComeAndGoAsTheModelSaysAndTheirOptionsMoveByArrows) {
+TEST_F(WindowsTest, FormsFollowTheModelAndArrowsMoveThroughTheirOptions) {
   auto& app = App();
   auto& options = app.frmSettSR.OpBaud;
   auto& settings = Window(app.frmSettSR.form);
   auto& set = Find<QPushButton>("frmSettSR.cmdSET");
-  Stand("cmdConnect", kRemoteTab);
+  FocusOn("cmdConnect", kRemoteTab);
   Keys({Qt::Key_Return});
   EXPECT_TRUE(settings.isVisible() && !Main().Tabs().isEnabled());
   EXPECT_TRUE(set.isEnabled() && set.isDefault() && settings.focusWidget() == &set);
@@ -97,7 +97,7 @@ TEST_F(WindowsTest, FormsComeAndGoAsTheModelSaysAndTheirOptionsMoveByArrows) {
   EXPECT_EQ(Focus(), "cmdDisConnect");
 }
 
-TEST_F(WindowsTest, ATransferShowsHowFarItIsAndItsEndStaysUntilAnswered) {
+TEST_F(WindowsTest, ATransferShowsItsProgressAndItsEndStaysUntilItIsConfirmed) {
   auto& app = App();
   auto& end = Window(app.frmOK_buttom.form);
   const auto& bar = Find<QProgressBar>("vbalProgressBar1");
@@ -122,16 +122,16 @@ TEST_F(WindowsTest, ATransferShowsHowFarItIsAndItsEndStaysUntilAnswered) {
   EXPECT_EQ(ui::TransferProgressText(app), "");
 }
 
-TEST_F(WindowsTest, TheAboutBoxTellsProgramFirmwareToolkitAndLicence) {
+TEST_F(WindowsTest, TheAboutBoxShowsProgramFirmwareQtAndLicence) {
   Find<QAction>("menuAbout").trigger();
   Show();
   const auto& window = Window(App().frmAbout.form);
   EXPECT_TRUE(window.isVisible());
   QStringList texts;
   for (const auto* label : window.findChildren<QLabel*>()) texts.append(label->text());
-  const auto told = texts.join('|');
+  const auto all_texts = texts.join('|');
   for (const QString part : {"OVL Software", "Version 1.", "V1400R12", qVersion(), "MIT licence"})
-    EXPECT_TRUE(told.contains(part)) << part.toStdString() << " in " << told.toStdString();
+    EXPECT_TRUE(all_texts.contains(part)) << part.toStdString() << " in " << all_texts.toStdString();
 }
 
 TEST_F(WindowsTest, ThePointerOverUploadAndDownloadShowsTheHint) {
@@ -168,7 +168,7 @@ std::string Listed(Screen& screen) {
   return cells.join('|').toStdString();
 }
 
-TEST_F(WindowsTest, ChangesAreListedByFieldPlaceAndLabelWithTheBytesThenAndNow) {
+TEST_F(WindowsTest, ChangesAreListedWithFieldLabelAndOldAndNewBytes) {
   auto& app = App();
   const auto& button = Find<QPushButton>("StatusChanges");
   EXPECT_FALSE(button.isVisible());
@@ -196,20 +196,20 @@ TEST_F(WindowsTest, ChangesAreListedByFieldPlaceAndLabelWithTheBytesThenAndNow) 
   EXPECT_EQ(Listed(*this).find("DATE_FORMAT_BAK|SYSFIXED "), 0U);
 }
 
-TEST_F(WindowsTest, ARefreshWithoutAChangeTouchesNoWidget) {
+TEST_F(WindowsTest, ARefreshWithoutAChangeChangesNoWidget) {
   auto& label = Find<QLabel>("lbConnectting");
   label.setText("as left by the test");
   Show();
   EXPECT_EQ(label.text(), "as left by the test");
 }
 
-// As accessibility rules reckon it.
+// The contrast as accessibility rules define it.
 double Luminance(const QColor& color) {
   const auto linear = [](double part) { return std::pow((part + 0.055) / 1.055, 2.4); };
   return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
-TEST(Theme, TextStandsOutInBothThemes) {
+TEST(Theme, TextHasEnoughContrastInBothThemes) {
   using P = QPalette;
   std::multimap<P::ColorRole, P::ColorRole> texts = {{P::Button, P::ButtonText},
                                                      {P::Highlight, P::HighlightedText}};
@@ -228,7 +228,7 @@ TEST(Theme, TextStandsOutInBothThemes) {
   }
 }
 
-TEST(Pictures, EveryStateIsTakenInBothThemes) {
+TEST(Pictures, ThereIsOneOfEveryStateInBothThemes) {
   const TemporaryFolder site, shots;
   MakeSite(site, {"V1400", "R12"});
   const auto folder = QString::fromStdString(site.Path().string());
@@ -238,9 +238,9 @@ TEST(Pictures, EveryStateIsTakenInBothThemes) {
   };
   const auto blocked = shots.File("file");
   EXPECT_EQ(save(blocked).Problem().Text(), blocked + "/light: Not a directory");
-  WriteFile(site.File("unsaved V1400R12 1.bin"), "a person's");
+  WriteFile(site.File("unsaved V1400R12 1.bin"), "of the user");
   ASSERT_TRUE(save(shots.Path().string()).Ok());
-  EXPECT_EQ(ReadFile(site.File("unsaved V1400R12 1.bin")), "a person's");
+  EXPECT_EQ(ReadFile(site.File("unsaved V1400R12 1.bin")), "of the user");
   for (const std::string theme : {"light", "dark"}) {
     const auto load = [&](const char* name) {
       return QImage(QString::fromStdString(shots.File(theme + "/" + name + ".png")));
@@ -256,7 +256,7 @@ TEST(Pictures, EveryStateIsTakenInBothThemes) {
 }  // namespace
 }  // namespace ovl::testing
 
-// The toolkit's application object stands as long as the tests run.
+// The application object of Qt exists as long as the tests run.
 int main(int count, char** words) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QApplication application(count, words);

@@ -1,4 +1,4 @@
-#include "search/random_walk/watched.h"
+#include "search/random_walk/checked_program.h"
 
 #include <algorithm>
 #include <sstream>
@@ -7,8 +7,8 @@
 #include "image/field_map.h"
 #include "script/parser.h"
 #include "script/runner.h"
-#include "search/random_walk/owners.h"
-#include "support/harness.h"
+#include "search/random_walk/allowed_writes.h"
+#include "support/firmware_facts.h"
 
 namespace ovl::testing {
 namespace {
@@ -17,14 +17,7 @@ bool IsHex(const std::string& text) {
   return text.find_first_not_of("0123456789ABCDEF") == std::string::npos;
 }
 
-// The digits of SYSCFG and SYSFIXED, which have a fixed number, written down apart from the field table.
-std::pair<std::size_t, std::size_t> LengthsOf(const firmware::FirmwareId& firmware) {
-  if (firmware.version != "V1400") return {96, 192};
-  const int release = firmware.Number();
-  return {64, release < 7 ? 206 : release == 7 ? 224 : 226};
-}
-
-// A whole image is taken in, or another program is started.
+// The statement loads a whole image or starts another program.
 bool Loads(const std::string& line) {
   return line.starts_with("start") || line.starts_with("unit") || line == "click OpenMenu";
 }
@@ -37,7 +30,7 @@ std::string CheckLists(const core::Application& app) {
     const int at = list != nullptr ? (*list)->position : (*array)->chosen;
     const auto size = list != nullptr ? (*list)->items.size() : (*array)->elements.size();
     if (at < -1 || at >= static_cast<int>(size))
-      return named.name + " stands at " + std::to_string(at) + "\n";
+      return named.name + " has the position " + std::to_string(at) + "\n";
   }
   return {};
 }
@@ -52,7 +45,7 @@ std::string CheckFrames(const core::Application& app) {
 
 }  // namespace
 
-Watched::Watched(const firmware::FirmwareId& stored, Digest* digest)
+CheckedProgram::CheckedProgram(const firmware::FirmwareId& stored, Digest* digest)
     : digest_(digest), session_(printed_, printed_) {
   session_.SetClock({});
   session_.StoreSetting("Version", stored.version);
@@ -61,10 +54,10 @@ Watched::Watched(const firmware::FirmwareId& stored, Digest* digest)
   before_ = Image();
 }
 
-std::string Watched::Do(const std::string& line) {
+std::string CheckedProgram::Do(const std::string& line) {
   std::istringstream script(line);
   std::ostringstream errors;
-  if (script::RunScript(session_, script, "walk", errors) != script::ExitStatus::kDone)
+  if (script::RunScript(session_, script, "random acts", errors) != script::ExitStatus::kDone)
     return "stopped: " + errors.str();
   if (digest_ != nullptr) AddToDigest();
   printed_.str({});
@@ -73,14 +66,14 @@ std::string Watched::Do(const std::string& line) {
   return Ended() ? std::string() : CheckImage(line) + CheckLists(App()) + CheckFrames(App());
 }
 
-void Watched::AddToDigest() {
+void CheckedProgram::AddToDigest() {
   for (const auto& box : session_.Boxes()) digest_->Add(box.title + box.text);
   digest_->Add(printed_.str());
   digest_->Add(session_.TakeSent());
   digest_->AddState(App());
 }
 
-std::string Watched::CheckImage(const std::string& line) {
+std::string CheckedProgram::CheckImage(const std::string& line) {
   if (Image() == before_) return {};
   const bool loads = Loads(line);
   const auto words = script::SplitWords(line);
@@ -96,10 +89,10 @@ std::string FullName(const core::Application& app, const controls::NamedControl&
   return plain ? named.name : named.form->name + "." + named.name;
 }
 
-std::string Watched::CheckFields(const std::string& control, bool loads) {
+std::string CheckedProgram::CheckFields(const std::string& control, bool loads) {
   const auto& form = App().frmMain;
   const auto* named = App().registry.Find(control);
-  const auto& owner = OwnerNamed(named == nullptr ? control : FullName(App(), *named));
+  const auto& writes = WritesOf(named == nullptr ? control : FullName(App(), *named));
   const std::size_t range = App().firmware.IsV1400() ? 20 : 12;
   std::ostringstream wrong;
   for (const auto& row : image::FieldTable()) {
@@ -115,11 +108,10 @@ std::string Watched::CheckFields(const std::string& control, bool loads) {
       const bool in_form = absent || (is.size() == digits && IsHex(is));
       const bool record =
           whole_ && (row.id == image::FieldId::EXCPSTRS || row.id == image::FieldId::ALMSTRUCT_BAK ||
-                     (row.id == image::FieldId::TRIGGER_TEXT && owner.of_records == Part::kFirstByte));
+                     (row.id == image::FieldId::TRIGGER_TEXT && writes.part == RecordPart::kFirstByte));
       const bool may_write =
-          loads ||
-          ((shown == 0 || entry == shown) && MayWrite(owner, row.name) &&
-           (!record || Without(owner.of_records, range, was) == Without(owner.of_records, range, is)));
+          loads || ((shown == 0 || entry == shown) && writes.Has(row.id) &&
+                    (!record || WithoutPart(writes.part, range, was) == WithoutPart(writes.part, range, is)));
       if (in_form && may_write) continue;
       wrong << control << " wrote " << row.name << ' ' << entry << ": " << was << ", now " << is << '\n';
     }
@@ -127,18 +119,19 @@ std::string Watched::CheckFields(const std::string& control, bool loads) {
   return wrong.str();
 }
 
-std::string Watched::CheckLengths(bool loads, bool from_file) {
+std::string CheckedProgram::CheckLengths(bool loads, bool from_file) {
   auto& app = App();
-  // This release leaves out a flag that a full load empties, and sends it once a panel has set it.
+  // This release does not read one flag, but sends it when a panel has set it.
   const std::size_t more =
       app.firmware.Joined() == "V1400R7" && !Image()[image::FieldId::BLNKRTS_BAK].empty() ? 2 : 0;
   auto copy = Image();
   const auto sections =
       image::WriteSections(copy, firmware::LayoutOf(app.firmware), app.firmware, app.capabilities);
-  const auto [syscfg, sysfixed] = LengthsOf(app.firmware);
-  const bool whole = sections.SYSCFG.size() == syscfg && sections.SYSFIXED.size() == sysfixed + more &&
-                     syscfg + sysfixed + sections.SYSSTR.size() == DigitsOfImage(app.firmware);
-  // Saved files follow one layout whatever the release; some releases read their own as a shorter image.
+  const auto& expected = FactsOf(app.firmware).stream;
+  const bool whole = sections.SYSCFG.size() == expected.syscfg &&
+                     sections.SYSFIXED.size() == expected.sysfixed + more &&
+                     expected.syscfg + expected.sysfixed + sections.SYSSTR.size() == expected.digits;
+  // All releases save one layout. Some of them read their own file as a shorter image.
   if (loads) whole_ = whole || !from_file;
   return whole_ && !whole ? "the sections' lengths\n" : "";
 }

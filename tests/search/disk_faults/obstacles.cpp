@@ -1,4 +1,4 @@
-#include "pressures.h"
+#include "obstacles.h"
 
 #include <fcntl.h>
 #include <grp.h>
@@ -19,8 +19,8 @@ namespace {
 namespace fs = std::filesystem;
 using Path = const fs::path&;
 
-// The superuser would be refused nothing. The process stays an ordinary user to its end.
-bool BecomeOrdinary(Path file, bool own_folder) {
+// The superuser may write everything, so the process becomes an ordinary user until it ends.
+bool BecomeOrdinaryUser(Path file, bool own_folder) {
   constexpr uid_t kNobody = 65534;
   if (geteuid() != 0) return true;
   const auto folder = file.parent_path();
@@ -32,7 +32,7 @@ bool BecomeOrdinary(Path file, bool own_folder) {
          setresgid(kNobody, kNobody, kNobody) == 0 && setresuid(kNobody, kNobody, kNobody) == 0;
 }
 
-// A file system of a few pages, gone with this process, filled to the last byte.
+// A small file system, full to the last byte. It disappears with this process.
 bool FillFileSystem(Path file) {
   if (unshare(CLONE_NEWNS) != 0) return false;
   const auto before = ReadFile(file.string());
@@ -54,32 +54,32 @@ bool LimitFileSize(Path) {
 
 bool MakeFolderReadOnly(Path file) {
   fs::permissions(file.parent_path(), fs::perms::owner_write, fs::perm_options::remove);
-  return BecomeOrdinary(file, false);
+  return BecomeOrdinaryUser(file, false);
 }
 
 bool ProtectFile(Path file) {
   fs::permissions(file, fs::perms::owner_read);
-  return BecomeOrdinary(file, true);
+  return BecomeOrdinaryUser(file, true);
 }
 
-bool PutLink(Path file, Path target) {
+bool ReplaceByLink(Path file, Path target) {
   return fs::remove(file) && symlink(target.c_str(), file.c_str()) == 0;
 }
 
-bool PutCircle(Path file) {
+bool ReplaceByCircle(Path file) {
   const auto other = file.parent_path() / "other";
-  return symlink(file.c_str(), other.c_str()) == 0 && PutLink(file, other);
+  return symlink(file.c_str(), other.c_str()) == 0 && ReplaceByLink(file, other);
 }
 
 // The descriptor stays open as long as this process.
-bool Hold(Path file) {
+bool LockFile(Path file) {
   const int descriptor = open(file.c_str(), O_RDWR | O_CLOEXEC);
   return descriptor >= 0 && flock(descriptor, LOCK_EX) == 0;
 }
 
 }  // namespace
 
-std::vector<Pressure> AllPressures() {
+std::vector<Obstacle> AllObstacles() {
   constexpr bool kWritten = true, kRefused = false, kNoStore = false;
   const auto nothing = [](Path) { return true; };
   return {
@@ -93,10 +93,11 @@ std::vector<Pressure> AllPressures() {
        [](Path file) { return fs::remove(file) && fs::create_directory(file); }},
       {"pipe in its place", kRefused,
        [](Path file) { return fs::remove(file) && mkfifo(file.c_str(), 0600) == 0; }, kNoStore},
-      {"link to nothing", kWritten, [](Path file) { return PutLink(file, "missing"); }},
-      {"link into no folder", kRefused, [](Path file) { return PutLink(file, "missing/file"); }, kNoStore},
-      {"links in a circle", kRefused, PutCircle, kNoStore},
-      {"another holds it", kWritten, Hold},
+      {"link to nothing", kWritten, [](Path file) { return ReplaceByLink(file, "missing"); }},
+      {"link into no folder", kRefused, [](Path file) { return ReplaceByLink(file, "missing/file"); },
+       kNoStore},
+      {"links in a circle", kRefused, ReplaceByCircle, kNoStore},
+      {"locked by another", kWritten, LockFile},
       {"folder gone", kRefused, [](Path file) { return fs::remove_all(file.parent_path()) > 0; }, kNoStore},
       {"name of 255 bytes", kWritten, nothing, true, std::string(255, 'n')},
       {"name of 300 bytes", kRefused, nothing, true, std::string(300, 'n')},

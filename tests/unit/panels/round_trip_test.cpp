@@ -1,30 +1,18 @@
-// All settings panels of all firmware: what is set comes back.
+// All settings panels of all firmware: each selection is set, saved, loaded and shown again.
 #include <set>
 
-#include "unit/panels/acts.h"
+#include "unit/panels/panel_program.h"
 
 namespace ovl::testing {
 namespace {
 
-// In an order in which a later pick takes nothing from an earlier one.
-constexpr const char* kGlobal =
-    "ComboCOMM(0) ComboCOMM(1) ComboCOMM(2) ComboCOMM(3) ComboCOMM(4) ComboCOMM(5) ComboCOMM(7) ComboCOMM(8) "
-    "ComboDIP(0) ComboDIP(2) ComboDIP(3) ComboDIP(4) ComboDIP(5) ComboDIP(6) ComboDIP(7) ComboDIP(8) "
-    "ComboTD(0) ComboTD(1) ComboTD(2) ComboTD(3) ComboTD(4) ComboTD(5) ComboDIP(1) ComboLang ComboExcepRe(0) "
-    "ComboExcepRe(1) ComboExcepRe(2) ComboScroll(1) ComboALM(4) ComboALM(5) CharacterList DemoType DemoSpeed "
-    "ComboKLM4011(0) ComboKLM4011(1) ComboKLM4011(2) ComboKLM4011(3)";
-constexpr const char* kAlarm =
-    "ComboALM(1) ComboALM(2) ComboALM(3) ComboALM(6) ComboALM(7) ComboTrigger(0) ComboTrigger(1) "
-    "ComboTrigger(2)";
-constexpr const char* kSlot = "ComboExcp(4) ComboExcp(1) ComboExcp(2) ComboExcp(3) ComboExcp(5)";
-
-// Some firmware hide a list together with its whole frame.
+// Some firmware hide a list together with its frame.
 bool OnScreen(PanelProgram& program, std::string_view list) {
   const auto* frame = list == "ComboLang" ? "Frame12" : list == "ComboScroll(1)" ? "Frame14" : "Frame3";
   return program.Visible(list) && program.Visible(frame);
 }
 
-// One program in which everything is set, one into which it is loaded.
+// One program sets every list, another one loads the result.
 class EveryPosition {
  public:
   explicit EveryPosition(const firmware::FirmwareId& firmware) : writer_(firmware) {}
@@ -48,7 +36,7 @@ class EveryPosition {
   }
 
  private:
-  // A list, and before it the list that shows its record, and that record's place there.
+  // The list that selects the record, the position of the record there, and the list itself.
   using Place = std::tuple<std::string, int, std::string>;
 
   void Set(const std::string& list, int number, const std::string& records = {}, int record = 0) {
@@ -61,17 +49,21 @@ class EveryPosition {
   void SetRecords(int round) {
     for (int slot = 0; slot < image::kExceptions; ++slot) {
       const int number = slot + round;
-      const int numbers[] = {number % 4 == 0 ? 1 : 0, number, number >> 1, number >> 2, number};
       writer_.Pick("ComboExcp(0)", slot);
-      const int* next = numbers;
-      for (const auto& list : Split(kSlot, ' ')) Set(list, *next++, "ComboExcp(0)", slot);
+      // Scroll matching takes the other actions away, so it is on in each fourth slot only.
+      Set("ComboExcp(4)", number % 4 == 0 ? 1 : 0, "ComboExcp(0)", slot);
+      for (const auto& [list, position] : {std::pair{"ComboExcp(1)", number},
+                                           {"ComboExcp(2)", number >> 1},
+                                           {"ComboExcp(3)", number >> 2},
+                                           {"ComboExcp(5)", number}})
+        Set(list, position, "ComboExcp(0)", slot);
     }
     for (int alarm = 0; alarm < image::kAlarms; ++alarm) {
       writer_.Pick("ComboALM(0)", alarm);
-      for (const auto& list : Split(kAlarm, ' '))
+      for (const auto& list : ListsOf(Group::kAlarm))
         Set(list, alarm + round + (round % 2) * 15, "ComboALM(0)", alarm);
     }
-    // The normal state of the ninth alarm is bit 0 of the second byte, which no click reaches.
+    // The normal state of the ninth alarm is bit 0 of the second byte, which no pick can set.
     set_[{"ComboALM(0)", 8, "ComboALM(2)"}] = 0;
   }
 
@@ -80,14 +72,14 @@ class EveryPosition {
     ASSERT_EQ(writer_.Pick("OpDVR", recorder), core::Outcome::kDone);
     const bool& running = writer_.app.frmMain.DemoMode.checked;
     if (!running) writer_.Click("DemoMode");
-    for (const auto& list : Split(kGlobal, ' ')) Set(list, round);
+    for (const auto& list : ListsOf(Group::kPanel)) Set(list, round);
     if (round % 3 != 0) writer_.Click("DemoMode");
 
     // Where the demonstration counts its lists from 1, a running one always shows the second.
-    const bool old_demo =
-        (codecs::HexToInt(writer_.Byte(DEMO_ENABLE)) & 0x40) == 0 && HasOldDemo(writer_.app.firmware);
+    const bool old_demo = (codecs::HexToInt(writer_.Byte(DEMO_ENABLE)) & 0x40) == 0 &&
+                          FactsOf(writer_.app.firmware).Has(Feature::kOldDemo);
     if (old_demo && running) set_.erase({"", 0, "CharacterList"});
-    // Clock and title each need a line of the picture.
+    // Clock and title need one line each.
     auto& lines = set_[{"", 0, "ComboDIP(1)"}];
     lines = std::max(lines, set_[{"", 0, "ComboTD(0)"}] + set_[{"", 0, "ComboTD(5)"}]);
   }
@@ -106,8 +98,8 @@ class EveryPosition {
 
   void ExpectAllCovered() {
     if (!writer_.app.frmMain.DemoMode.checked) writer_.Click("DemoMode");
-    for (const auto* lists : {kGlobal, kAlarm, kSlot}) {
-      for (const auto& list : Split(lists, ' ')) {
+    for (const auto group : {Group::kPanel, Group::kAlarm, Group::kSlot}) {
+      for (const auto& list : ListsOf(group)) {
         if (!OnScreen(writer_, list)) continue;
         EXPECT_EQ(covered_[list].size(), writer_.ListOf(list).items.size()) << list;
       }
@@ -120,7 +112,7 @@ class EveryPosition {
   std::map<std::string, std::set<int>> covered_;
 };
 
-TEST(SettingsWalk, EverySelectionComesBackAtEveryPosition) {
+TEST(SettingsRoundTrip, EverySelectionComesBackAtEveryPosition) {
   for (const auto& firmware : EveryFirmware()) {
     EveryPosition(firmware).Run();
     if (HasFatalFailure()) return;

@@ -1,6 +1,6 @@
-// A program with a unit on its line, in simulated time: the line carries one character a millisecond, and
-// timers tick when they come due. The unit hears 9600 baud without parity, obeys the two transfer commands in
-// remote mode, and gives up whatever it was doing when the line is closed.
+// A program with a simulated unit on its serial port, in simulated time. The line carries one character in a
+// millisecond, and timers tick when they are due. The unit understands 9600 baud without parity and the two
+// transfer commands in remote mode. It stops what it does when the port is closed.
 #pragma once
 
 #include <algorithm>
@@ -9,15 +9,16 @@
 #include <string>
 #include <vector>
 
+#include "support/control_characters.h"
 #include "support/harness.h"
 
 namespace ovl::testing {
 
-class Site : public Harness {
+class ProgramWithUnit : public Harness {
  public:
   enum class Passing { kWhole, kDropped, kDoubled, kGarbled };
 
-  explicit Site(const firmware::FirmwareId& firmware) : Harness(firmware) {
+  explicit ProgramWithUnit(const firmware::FirmwareId& firmware) : Harness(firmware) {
     for (const auto& control : app.registry.All()) {
       if (auto* const* timer = std::get_if<controls::Timer*>(&control.control)) timers_.push_back({*timer});
     }
@@ -29,7 +30,7 @@ class Site : public Harness {
     Start();
   }
 
-  // One character in either direction, and the event that it causes. False: nothing is under way.
+  // Carries one character in either direction. Returns false if there is none to carry.
   bool Character(Passing passing = Passing::kWhole, unsigned garble = 0) {
     if (app.ended) return false;
     if (wrote_ && !stalled_) {
@@ -59,8 +60,8 @@ class Site : public Harness {
     }
   }
 
-  // From now on the unit says nothing, the transmitter never runs empty, the device is gone, all is well
-  // again.
+  // From now on the unit sends nothing, the transmitter never becomes empty, or the device is gone; Mend()
+  // ends all of these.
   void Silence() { silent_ = true; }
   void Stall() { stalled_ = true; }
   void Lose() {
@@ -74,14 +75,14 @@ class Site : public Harness {
     silent_ = stalled_ = false;
   }
 
-  // From a closed port to remote mode.
-  void Hold() {
+  // Opens the port and enters remote mode.
+  void EnterRemoteMode() {
     for (const auto* button : {"cmdConnect", "cmdSET", "CmdUpDow(4)"}) Click(button);
     Live(400);
   }
 
-  std::string configuration;  // what the unit sends when it is asked to
-  std::string taken;          // the last stream that it was sent
+  std::string configuration;  // that the unit sends in an upload
+  std::string taken;          // the last stream that the unit received
 
  private:
   struct Due {
@@ -90,7 +91,7 @@ class Site : public Harness {
     std::int64_t at = 0;
   };
 
-  // The line's first character, as the other end hears it.
+  // Takes the first character of the line and returns what arrives at the other end.
   static std::string Arriving(std::string& line, Passing passing, unsigned garble) {
     if (line.empty()) return {};
     const auto bits = static_cast<unsigned char>(line.front()) ^ (passing == Passing::kGarbled ? garble : 0U);
@@ -105,27 +106,27 @@ class Site : public Harness {
       taken += character;
       if (character != '#') return;
       taking_ = remote_ = false;
-      in_ += '\x06';
+      in_ += kAck;
       return;
     }
     heard_ += character;
-    const auto told = [this](std::string_view text) { return heard_.ends_with(text); };
-    if (told("~~~SOH_REQUEST_EOT~~~k")) {
+    const auto heard = [this](std::string_view text) { return heard_.ends_with(text); };
+    if (heard(kRemoteRequest)) {
       remote_ = true;
-      in_ += '\x06';
-    } else if (remote_ && told("\x05")) {
-      in_ += '\x0C';
-    } else if (remote_ && told("/LU\r")) {
+      in_ += kAck;
+    } else if (remote_ && heard(kEnq)) {
+      in_ += kFormFeed;
+    } else if (remote_ && heard("/LU\r")) {
       remote_ = false;
       in_ += configuration;
-    } else if (remote_ && told("/LD\r")) {
+    } else if (remote_ && heard("/LD\r")) {
       taking_ = true;
       taken.clear();
-      in_ += '\x06';
+      in_ += kAck;
     }
   }
 
-  // A timer that was started since the last look comes due a whole interval from now.
+  // A timer that was started since the last call is due one interval from now.
   std::int64_t NextDue() {
     auto next = std::numeric_limits<std::int64_t>::max();
     for (auto& due : timers_) {

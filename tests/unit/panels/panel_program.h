@@ -1,4 +1,4 @@
-// A program on its settings panels, and what a person does there.
+// A program with its settings panels, and what a user does there.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -11,26 +11,16 @@
 #include "codecs/codecs.h"
 #include "core/configuration.h"
 #include "image/record_stream.h"
+#include "support/firmware_facts.h"
 #include "support/installed.h"
-#include "unit/registers/rows.h"
+#include "support/panel_facts.h"
 
 namespace ovl::testing {
 
 using enum image::FieldId;
 
-// A release before the one in which its family changed; V1310 and V1334 have no such one.
-inline bool Before(const firmware::FirmwareId& firmware, int v1400, int v1300, int v1324) {
-  const auto& version = firmware.version;
-  const int first = version == "V1400" ? v1400 : version == "V1300" ? v1300 : version == "V1324" ? v1324 : 0;
-  return firmware.Number() < first;
-}
-
-// The firmware whose demo counts its lists from 1.
-inline bool HasOldDemo(const firmware::FirmwareId& firmware) {
-  return Before(firmware, 2, 27, 26);
-}
-
-// The image that a firmware's first register brings in whole. A firmware's images are written once.
+// The default image of the first register, which the start loads completely. It is made once for each
+// firmware.
 inline const std::string& FirstImage(const firmware::FirmwareId& firmware) {
   static std::map<std::string, std::string> images;
   auto& image = images[firmware.Joined()];
@@ -46,15 +36,15 @@ inline std::string Member(std::string_view array, int member) {
   return std::string(array) + "(" + std::to_string(member) + ")";
 }
 
-// A wide range in the slots, and a narrow one.
+// The slots of the first have a wide range, those of the second a narrow one.
 inline const firmware::FirmwareId kFamilies[] = {kLatest, {"V1300", "R14"}};
 
-// Ten or six bytes that no two places share.
+// A range of ten or six bytes in which each place has another digit.
 inline std::string RangeOf(const firmware::FirmwareId& firmware) {
   return firmware.IsV1400() ? "01234567899876543210" : "012345678987";
 }
 
-// An exception as the unit has to get it.
+// The record of an exception as the unit needs it.
 inline std::string Slot(int flags, const std::string& range, std::string text) {
   text.resize(40, ' ');
   const auto last = text.find_last_not_of(' ', 38);
@@ -63,7 +53,8 @@ inline std::string Slot(int flags, const std::string& range, std::string text) {
   return codecs::ByteToHex(flags) + range + codecs::ByteToHex(length) + codecs::TextToHex(text) + "00";
 }
 
-// "1", "3" and so on to "240", and the last: what the unit counts down from.
+// The bytes from which the unit counts up, for the entries "1", "3" and so on to "240", and for the last
+// entry.
 constexpr const char* kDurations[] = {"FF", "FD", "FB", "F6", "F1", "EC", "E2", "C4", "88", "4C", "10", "00"};
 
 class PanelProgram : public Installed {
@@ -90,7 +81,7 @@ class PanelProgram : public Installed {
     WriteFile(path, std::string(stream) + "\r\n");
     return Installed::Open(path);
   }
-  // Sends the image out and takes it in again, from a file or from the unit.
+  // Loads the image again, from a file or by an upload.
   core::Outcome Reload(bool by_upload = false) {
     const auto stream = SectionsToStream(app);
     if (!by_upload) return Open(stream);
@@ -100,7 +91,7 @@ class PanelProgram : public Installed {
     Unit(stream);
     return Close(app.frmOK_buttom.form);
   }
-  // Takes the image in with these bytes in it, and tells what that changed.
+  // Loads the image with these bytes in it, and returns what the load changed.
   std::string Load(Bytes bytes) {
     for (const auto& [field, byte] : bytes) app.image[field] = byte;
     Mark();
@@ -108,7 +99,7 @@ class PanelProgram : public Installed {
     return Written();
   }
 
-  // Through the text dialog that the button opens.
+  // Types a text in the dialog that the button opens.
   core::Outcome EnterText(std::string_view button, std::string text) {
     Click(button);
     Type(app.frmSetEXCPSTR.Text1, std::move(text));

@@ -1,5 +1,5 @@
-// Every tab by the Tab key alone: each control once, each with a name and a letter of its own, no text cut
-// off and nothing out of reach.
+// The Tab key reaches each control of every tab once. Each control has a name and an access key of its own,
+// and its text is not cut off.
 #include <QAbstractItemView>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -16,13 +16,13 @@
 namespace ovl::testing {
 namespace {
 
-// What a person takes for one control: the elements of an option array are moved through by the arrows.
+// An option array is one control, because the arrow keys move through its elements.
 std::string ControlOf(const QWidget& widget) {
   const auto name = widget.objectName().toStdString();
   return IsOne<QRadioButton>(&widget) ? name.substr(0, name.find('(')) : name;
 }
 
-// The whole of a widget lies on the page, or on what is scrolled of it.
+// Whether the whole widget is on the page or in its scroll area.
 bool Reachable(const QWidget* widget, const QWidget* page) {
   const auto* ground = widget;
   const auto area = [&] { return ground->parentWidget()->parentWidget(); };
@@ -64,7 +64,7 @@ void ExpectLettersOfTheirOwn(const QList<QAction*>& menus, const QWidget& page) 
   }
 }
 
-TEST(KeyboardWalk, ReachesEveryControlOfATabOnceByItsNameAndFindsNoTextCut) {
+TEST(Keyboard, EveryControlOfATabIsReachedOnceAndNoTextIsCut) {
   for (const auto& firmware : {firmware::FirmwareId{"V1400", "R12"},
                                {"V1400", "R1"},
                                {"V1300", "R14"},
@@ -73,7 +73,7 @@ TEST(KeyboardWalk, ReachesEveryControlOfATabOnceByItsNameAndFindsNoTextCut) {
     Screen screen(firmware);
     auto& window = screen.Main();
     screen.App().frmMain.CmdUpDow[controls::kMasterReset].visible = true;
-    screen.App().frmMain.Timer.enabled = false;  // its first tick may show another list of days meanwhile
+    screen.App().frmMain.Timer.enabled = false;  // its first tick could show another list of days
     screen.Select("TCPIP");
     for (int tab = 0; tab < window.Tabs().count(); ++tab) {
       SCOPED_TRACE(firmware.Joined() + " tab " + std::to_string(tab));
@@ -98,7 +98,7 @@ TEST(KeyboardWalk, ReachesEveryControlOfATabOnceByItsNameAndFindsNoTextCut) {
   }
 }
 
-TEST(KeyboardWalk, FindsNamesLettersAndRoomInEverySmallWindow) {
+TEST(Keyboard, EverySmallWindowHasNamesAccessKeysAndRoomForItsTexts) {
   Screen screen;
   auto& app = screen.App();
   const auto look = [&](const controls::Form& form) {
@@ -127,7 +127,7 @@ TEST(KeyboardWalk, FindsNamesLettersAndRoomInEverySmallWindow) {
   }
 }
 
-TEST(LatePages, StandWhenLookedAtWithTheStatusBarAsTheLastStop) {
+TEST(LatePages, AreBuiltWhenTheyAreShownAndTheStatusBarIsTheLastStop) {
   Screen screen({"V1400", "R12"}, Pages::kFirst);
   EXPECT_EQ(screen.Main().findChild<QComboBox*>("ComboTD(2)"), nullptr);
   screen.Main().Tabs().setCurrentIndex(kTitleTab);

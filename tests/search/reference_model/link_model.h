@@ -1,5 +1,5 @@
-// The link once more: plain variables, what is done to them, and a table of when. It shares nothing with the
-// program but the names of what a person sees.
+// A second, simple model of the link: plain variables and the actions that change them. It shares nothing
+// with the program except the names of what a user sees. The table of events says when an action happens.
 #pragma once
 
 #include <algorithm>
@@ -13,33 +13,30 @@
 
 namespace ovl::testing {
 
-struct Link {
+struct LinkModel {
   // what the program holds
   int mode = 255, held = 0, open = 0, frame = 0, chars = 0, steps = 0;
   int requested = 0, active = 0, final_ack = 0, time = 0, history = 0, reset = 0;
   int keep_alive_count = 0, silence_count = 0, scanning = 0, scan_place = 0;
   int general = 0, keep_alive = 0, watchdog = 0, scan = 0;  // timers
-  // what it shows
+  // what the program shows
   int actions = 0, remote = 1, connect = 1, connect_shown = 1, disconnect_shown = 0, access = 0;
   int bar_shown = 0, bar = 0, uploading = 0, downloading = 0, scan_bar = 0;
-  int dialog = 0, dialog_shown = 0, scan_window = 0, end_window = 0, main_free = 1;
+  int dialog = 0, dialog_shown = 0, scan_window = 0, end_window = 0, main_enabled = 1;
   int ended = 0;
   std::string out, last, text, bar_text, history_text;
   std::string connection = "Not Connected", button = "Set Comport", end_text, baud;
 
-  // what it did since it was last asked
+  // what was sent and shown since the last comparison
   std::string sent, boxes;
 
-  // the line, and what a download sends
+  // the state of the line, and the stream of a download
   enum class Line { kWell, kLost, kRefused } line = Line::kWell;
   std::function<std::string()> stream;
   firmware::FirmwareId firmware;
 
-  static constexpr const char *kRequest = "~~~SOH_REQUEST_EOT~~~k", *kCan = "\x18";
-  static constexpr std::string_view kAck = "\x06", kNak = "\x15";
-
-  // What the rules are put together from.
-  void Tell(std::string_view box, std::string_view title = "") {
+  // Parts of several actions.
+  void ShowBox(std::string_view box, std::string_view title = "") {
     boxes.append(title).append("|").append(box).append("\n");
   }
   bool Write(std::string_view characters) {
@@ -70,7 +67,7 @@ struct Link {
     open = disconnect_shown = 0;
     NoAccess();
   }
-  void HangUp() {
+  void ClosePort() {
     NotConnected();
     connect = 1;
     general = 0;
@@ -79,15 +76,15 @@ struct Link {
     last.clear();
   }
   void Fail(std::string_view box, std::string_view title = "") {
-    HangUp();
+    ClosePort();
     mode = 255;
     Forget();
-    Tell(box, title);
+    ShowBox(box, title);
   }
   void FailRemote() { Fail(kFailBox, "- Connection Fail -"); }
   void FailToSend() {
     Forget();
-    Tell(kSendBox);
+    ShowBox(kSendBox);
   }
   void ResetBar() {
     chars = steps = bar = bar_shown = 0;
@@ -99,11 +96,11 @@ struct Link {
     bar = std::min(++steps, 100);
     bar_text = std::to_string(bar) + "%";
   }
-  void FreeMain() { main_free = dialog == 0 && end_window == 0 ? 1 : 0; }
-  void ShowEnd(const char* told) {
+  void EnableMainIfAlone() { main_enabled = dialog == 0 && end_window == 0 ? 1 : 0; }
+  void ShowEnd(const char* message) {
     end_window = 1;
-    end_text = told;
-    main_free = 0;
+    end_text = message;
+    main_enabled = 0;
     ResetBar();
   }
   void Command(const char* characters) {
@@ -118,12 +115,12 @@ struct Link {
     Command(characters);
   }
 
-  // What a click does.
-  void AskOrLeave() {
+  // Actions of a click.
+  void EnterOrLeaveRemoteMode() {
     final_ack = 0;
-    if (open == 0) return Tell("        Please Select Comport.");
+    if (open == 0) return ShowBox("        Please Select Comport.");
     mode = held != 0 ? 255 : 0;
-    SendWhole(held != 0 ? kCan : kRequest);
+    SendWhole(held != 0 ? kCan : kRemoteRequest);
     if (held != 0) {
       KeepAliveOff();
       EndOneShot();
@@ -156,15 +153,15 @@ struct Link {
   }
   void ShowDialog() {
     dialog = dialog_shown = 1;
-    main_free = 0;
+    main_enabled = 0;
     baud = "9600";
   }
-  void DialogGone() {
+  void CloseDialog() {
     dialog = dialog_shown = 0;
-    FreeMain();
+    EnableMainIfAlone();
   }
   void Open() {
-    if (line == Line::kRefused) return Tell("           No such device");
+    if (line == Line::kRefused) return ShowBox("           No such device");
     open = remote = disconnect_shown = 1;
     connect_shown = 0;
     button = "Disconnect";
@@ -172,22 +169,22 @@ struct Link {
   }
   void Set() {
     Open();
-    DialogGone();
+    CloseDialog();
   }
   void BeginScan() {
     Open();
     if (line == Line::kRefused) return;
     held = scan_place = scan_bar = dialog_shown = 0;
     scanning = scan = scan_window = 1;
-    SendWhole(kRequest);
+    SendWhole(kRemoteRequest);
   }
-  void ScanGone() {
+  void CloseScanWindow() {
     scan_window = scanning = scan = scan_place = 0;
-    DialogGone();
+    CloseDialog();
   }
   void Disconnect() {
     SendWhole(kCan);
-    HangUp();
+    ClosePort();
     WatchdogOff();
     if (mode == 1) uploading = 0;
     if (mode == 2) downloading = 0;
@@ -197,17 +194,17 @@ struct Link {
   }
   void CancelScan() {
     Disconnect();
-    ScanGone();
+    CloseScanWindow();
   }
-  void EndWindowGone() {
+  void CloseEndWindow() {
     mode = 255;
     connect = remote = 1;
     end_window = 0;
-    FreeMain();
+    EnableMainIfAlone();
   }
 
-  // What a timer does.
-  void GrantDue() {
+  // Actions of a timer.
+  void CheckGrant() {
     if (last != kAck) {
       SendWhole(kCan);
       FailRemote();
@@ -218,14 +215,14 @@ struct Link {
   void KeepAlive() {
     ++keep_alive_count;
     if (keep_alive_count == 5) {
-      out = "\x05";
-      if (!Write(out)) Tell(kNoDevice);
+      out = kEnq;
+      if (!Write(out)) ShowBox(kNoDevice);
     } else if (keep_alive_count == 30) {
       NotConnected();
       KeepAliveOff();
       Forget();
-      Tell("!!! Remote Connection Time out. !!!", "- Connection Time Out -");
-    } else if (keep_alive_count > 5 && last == "\x0C") {
+      ShowBox("!!! Remote Connection Time out. !!!", "- Connection Time Out -");
+    } else if (keep_alive_count > 5 && last == kFormFeed) {
       last.clear();
       keep_alive_count = 0;
     }
@@ -235,23 +232,23 @@ struct Link {
     WatchdogOff();
     FailRemote();
   }
-  void GoOnScanning() {
+  void ContinueScan() {
     constexpr std::array kRates = {"9600",  "1200",  "2400",  "4800",  "14400",
                                    "19200", "28800", "38400", "57600", "115200"};
-    if (held != 0 && scan_place < 10) return ScanGone();
+    if (held != 0 && scan_place < 10) return CloseScanWindow();
     scan_bar = scan_place;
     if (scan_bar == 10) {
       CancelScan();
-      return Tell(kScanBox);
+      return ShowBox(kScanBox);
     }
     open = 0;
     last.clear();
     baud = kRates.at(static_cast<std::size_t>(scan_place++));
     Open();
-    SendWhole(kRequest);
+    SendWhole(kRemoteRequest);
   }
 
-  // What the transmitter does when it runs empty.
+  // Action of the transmitter when it becomes empty.
   void Drained() {
     silence_count = 0;
     if (mode == 0 && time + history + reset == 0) return;
@@ -269,7 +266,7 @@ struct Link {
     NoAccess();
   }
 
-  // What a received character does.
+  // Actions of a received character.
   void HistoryStep() {
     WatchdogOff();
     held = 0;
@@ -285,7 +282,7 @@ struct Link {
     reset = 0;
     remote = 1;
     EndOneShot();
-    Tell(last == kAck ? "       Master Reset Done." : "Cannot Master Reset to Device.");
+    ShowBox(last == kAck ? "       Master Reset Done." : "Cannot Master Reset to Device.");
   }
   void ClockStep() {
     const bool set = last == kAck;
@@ -293,20 +290,20 @@ struct Link {
     time = 0;
     if (set) remote = 1;
     EndOneShot();
-    Tell(set ? "SET TIME DATE FINISHED." : "Please Send Time Date agian.");
+    ShowBox(set ? "SET TIME DATE FINISHED." : "Please Send Time Date agian.");
   }
   void Grant() {
     actions = access = held = keep_alive = 1;
     keep_alive_count = 0;
-    if (scanning != 0) ScanGone();
+    if (scanning != 0) CloseScanWindow();
   }
   void EndUpload() {
-    const auto ending = Judge(firmware, text);
+    const auto ending = EndingOfLoad(firmware, text);
     frame = 0;
     text.clear();
-    if (ending == Ending::kForeign) Tell(kForeignBox);
+    if (ending == Ending::kForeign) ShowBox(kForeignBox);
     ended = ending == Ending::kBrokenFile ? 1 : 0;
-    if (ended != 0) return Tell(kBrokenBox);
+    if (ended != 0) return ShowBox(kBrokenBox);
     ShowEnd(ending == Ending::kDone ? "Upload Completed." : "Upload Incompleted.");
     uploading = 0;
     EndOneShot();
@@ -333,8 +330,8 @@ struct Link {
     WatchdogOff();
     text.clear();
   }
-  // A scan looks at the mode alone.
-  void Hear(char character) {
+  // During a scan only the mode counts.
+  void Receive(char character) {
     silence_count = 0;
     last = character;
     if (scanning == 0) {

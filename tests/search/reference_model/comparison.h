@@ -1,4 +1,4 @@
-// The program and the table of rules side by side, under the same events.
+// The program and the reference model under the same events.
 #pragma once
 
 #include <sstream>
@@ -6,72 +6,71 @@
 
 #include "core/configuration.h"
 #include "image/record_stream.h"
-#include "search/reference_model/link.h"
+#include "search/reference_model/link_model.h"
 #include "support/digest.h"
 
 namespace ovl::testing {
 
-enum Kind { kClick, kClose, kTick, kCharacter, kDrained, kAround, kDrainAll, kWholeStream };
+enum Kind { kClick, kClose, kTick, kCharacter, kDrained, kEnvironment, kDrainAll, kWholeStream };
 
 struct LinkEvent {
   std::string_view name;  // of the control; the character
   Kind kind;
-  std::array<int Link::*, 3> needs = {};  // what must hold for it to happen at all
-  void (Link::*then)() = nullptr;
-  bool way_in = false;  // it leads somewhere rather than out
+  std::array<int LinkModel::*, 3> needs = {};  // the event is possible only if all of these are set
+  void (LinkModel::*then)() = nullptr;
+  bool leads_in = false;  // it starts or continues something
 };
 
-// The surroundings stand ahead of the two long ones, which are many in a row, at the end.
-using L = Link;
+// At the end are the events of the environment, and after them two events that are long sequences.
+using L = LinkModel;
 inline constexpr LinkEvent kLinkEvents[] = {
-    {"CmdUpDow(4)", kClick, {&L::main_free, &L::remote}, &L::AskOrLeave, true},
-    {"CmdUpDow(0)", kClick, {&L::main_free, &L::actions}, &L::BeginUpload, true},
-    {"CmdUpDow(1)", kClick, {&L::main_free, &L::actions}, &L::BeginDownload, true},
-    {"CmdUpDow(2)", kClick, {&L::main_free, &L::actions}, &L::BeginSetTime},
-    {"CmdUpDow(3)", kClick, {&L::main_free, &L::actions}, &L::BeginHistory},
-    {"CmdUpDow(5)", kClick, {&L::main_free, &L::actions}, &L::BeginReset},
-    {"cmdConnect", kClick, {&L::main_free, &L::connect, &L::connect_shown}, &L::ShowDialog, true},
-    {"cmdDisConnect", kClick, {&L::main_free, &L::disconnect_shown}, &L::Disconnect},
+    {"CmdUpDow(4)", kClick, {&L::main_enabled, &L::remote}, &L::EnterOrLeaveRemoteMode, true},
+    {"CmdUpDow(0)", kClick, {&L::main_enabled, &L::actions}, &L::BeginUpload, true},
+    {"CmdUpDow(1)", kClick, {&L::main_enabled, &L::actions}, &L::BeginDownload, true},
+    {"CmdUpDow(2)", kClick, {&L::main_enabled, &L::actions}, &L::BeginSetTime},
+    {"CmdUpDow(3)", kClick, {&L::main_enabled, &L::actions}, &L::BeginHistory},
+    {"CmdUpDow(5)", kClick, {&L::main_enabled, &L::actions}, &L::BeginReset},
+    {"cmdConnect", kClick, {&L::main_enabled, &L::connect, &L::connect_shown}, &L::ShowDialog, true},
+    {"cmdDisConnect", kClick, {&L::main_enabled, &L::disconnect_shown}, &L::Disconnect},
     {"frmSettSR.cmdSET", kClick, {&L::dialog_shown}, &L::Set, true},
     {"BaudrateCMD", kClick, {&L::dialog_shown}, &L::BeginScan},
-    {"frmSettSR", kClose, {&L::dialog_shown}, &L::DialogGone},
+    {"frmSettSR", kClose, {&L::dialog_shown}, &L::CloseDialog},
     {"frmScanBProgress.Command1", kClick, {&L::scan_window}, &L::CancelScan},
-    {"frmScanBProgress", kClose, {&L::scan_window}, &L::ScanGone},
-    {"frmOK_buttom.Command1", kClick, {&L::end_window}, &L::EndWindowGone},
-    {"frmOK_buttom", kClose, {&L::end_window}, &L::EndWindowGone},
-    {"General_timer", kTick, {&L::general}, &L::GrantDue, true},
+    {"frmScanBProgress", kClose, {&L::scan_window}, &L::CloseScanWindow},
+    {"frmOK_buttom.Command1", kClick, {&L::end_window}, &L::CloseEndWindow},
+    {"frmOK_buttom", kClose, {&L::end_window}, &L::CloseEndWindow},
+    {"General_timer", kTick, {&L::general}, &L::CheckGrant, true},
     {"Time_handcheck", kTick, {&L::keep_alive}, &L::KeepAlive, true},
     {"Timer_Operating", kTick, {&L::watchdog}, &L::CountSilence, true},
-    {"BaudRateScan", kTick, {&L::scan}, &L::GoOnScanning},
-    {"\x06", kCharacter, {&L::open}, nullptr, true},
-    {"\x15", kCharacter, {&L::open}},
+    {"BaudRateScan", kTick, {&L::scan}, &L::ContinueScan},
+    {kAck, kCharacter, {&L::open}, nullptr, true},
+    {kNak, kCharacter, {&L::open}},
     {"?", kCharacter, {&L::open}},
-    {"\x0C", kCharacter, {&L::open}, nullptr, true},
+    {kFormFeed, kCharacter, {&L::open}, nullptr, true},
     {"$", kCharacter, {&L::open}},
     {"#", kCharacter, {&L::open}},
     {"0", kCharacter, {&L::open}},
     {"drained", kDrained, {&L::open}, &L::Drained},
     {"Timer", kTick},
-    {"answer", kAround},
-    {"line lost", kAround, {}, &L::LineLost},
-    {"line refused", kAround, {}, &L::LineRefused},
-    {"line well", kAround, {}, &L::LineWell, true},
+    {"answer", kEnvironment},
+    {"line lost", kEnvironment, {}, &L::LineLost},
+    {"line refused", kEnvironment, {}, &L::LineRefused},
+    {"line well", kEnvironment, {}, &L::LineWell, true},
     {"drain all", kDrainAll, {&L::open}, &L::Drained},
     {"whole stream", kWholeStream, {&L::open}},
 };
 
-inline constexpr std::size_t kOfTheSurroundings = 4, kLong = 2;
+inline constexpr std::size_t kEnvironmentEvents = 4, kLong = 2;
 
-// Whether what causes the event is there: a button that can be pressed, a timer that runs, an open port.
-inline bool CanHappen(const Link& link, const LinkEvent& event) {
+// Whether the event is possible: its button is enabled, its timer runs, its port is open.
+inline bool CanHappen(const LinkModel& link, const LinkEvent& event) {
   return std::ranges::all_of(event.needs,
                              [&](auto variable) { return variable == nullptr || link.*variable != 0; });
 }
 
-// The program and the table side by side.
-class Pair {
+class Comparison {
  public:
-  explicit Pair(const firmware::FirmwareId& firmware)
+  explicit Comparison(const firmware::FirmwareId& firmware)
       : program_(firmware), stream_(PatternStream(firmware, 7)) {
     program_.now = {2026, 3, 5, 14, 7, 9};
     program_.Start();
@@ -83,13 +82,13 @@ class Pair {
     link_.stream = [&app] { return SectionsToStream(app); };
   }
 
-  // Adds all that was seen so far of what the program did.
+  // Adds everything that the program has done since the last call.
   void AddTo(Digest& digest) {
     digest.Add(std::exchange(seen_, {}));
     digest.AddState(program_.app);
   }
 
-  // What differs after the step; empty: nothing.
+  // Returns what differs after the event, or an empty text.
   std::string Step(const LinkEvent& event) {
     return Step(event, event.kind == kWholeStream ? std::string_view(stream_) : event.name.substr(0, 1));
   }
@@ -103,22 +102,23 @@ class Pair {
     return found;
   }
   bool Ended() const { return program_.app.ended; }
-  const Link& Table() const { return link_; }
-  // Only an upload that ended well changes the image.
+  const LinkModel& Model() const { return link_; }
+  // Only a completed upload changes the image.
   bool KeptImage() const { return uploaded_ || program_.app.image == begun_; }
 
  protected:
   std::string Both(const LinkEvent& event, char character) {
-    const bool theirs = Act(event, character), ours = link_.ended == 0 && CanHappen(link_, event);
-    if (theirs != ours) return std::string("the event is ") + (theirs ? "let in" : "refused") + "\n";
-    if (ours && (event.kind == kCharacter || event.kind == kWholeStream)) link_.Hear(character);
-    if (ours && event.then != nullptr) (link_.*event.then)();
+    const bool accepted = Act(event, character), expected = link_.ended == 0 && CanHappen(link_, event);
+    if (accepted != expected)
+      return std::string("the event is ") + (accepted ? "accepted" : "refused") + "\n";
+    if (expected && (event.kind == kCharacter || event.kind == kWholeStream)) link_.Receive(character);
+    if (expected && event.then != nullptr) (link_.*event.then)();
     wrote_ = !link_.sent.empty();
     uploaded_ = uploaded_ || link_.end_text == "Upload Completed.";
     return Difference();
   }
 
-  // False: the program did not let it in.
+  // Gives the event to the program. Returns false if the program refused it.
   bool Act(const LinkEvent& event, char character) {
     auto& app = program_.app;
     const auto named = [&] { return app.registry.Find(event.name)->control; };
@@ -138,24 +138,24 @@ class Pair {
       case kWholeStream:
         program_.Unit({&character, 1});
         return open;
-      case kAround:
+      case kEnvironment:
         if (event.then == nullptr) program_.file_answers.emplace_back(program_.folder.File("History.txt"));
         if (event.then == nullptr) return true;
         program_.line_error.reset();
         program_.open_error.reset();
-        if (event.then == &Link::LineLost) program_.line_error = kNoDevice;
-        if (event.then == &Link::LineRefused) program_.open_error = kNoDevice;
+        if (event.then == &LinkModel::LineLost) program_.line_error = kNoDevice;
+        if (event.then == &LinkModel::LineRefused) program_.open_error = kNoDevice;
     }
     return true;
   }
 
-  // What the program did since the last look, holds and shows otherwise than the table; empty if nothing.
+  // Returns what the program did, holds or shows differently from the model, or an empty text.
   std::string Difference() {
     const auto& app = program_.app;
     const auto& main = app.frmMain;
     std::ostringstream found;
-    const auto same = [&](const char* name, const auto& theirs, const auto& ours) {
-      if (theirs != ours) found << name << " is " << theirs << ", by the table " << ours << '\n';
+    const auto same = [&](const char* name, const auto& actual, const auto& expected) {
+      if (actual != expected) found << name << " is " << actual << ", in the model " << expected << '\n';
     };
     std::string boxes;
     for (const auto& box : std::exchange(program_.boxes, {})) boxes += box.title + "|" + box.text + "\n";
@@ -201,7 +201,7 @@ class Pair {
     same("frmSettSR shown", app.frmSettSR.form.visible, link_.dialog_shown);
     same("frmScanBProgress", app.frmScanBProgress.form.visible, link_.scan_window);
     same("frmOK_buttom", app.frmOK_buttom.form.visible, link_.end_window);
-    same("frmMain", main.form.enabled, link_.main_free);
+    same("frmMain", main.form.enabled, link_.main_enabled);
     for (const auto action : {0U, 1U, 2U, 3U, 5U})
       same("CmdUpDow", main.CmdUpDow[action].enabled, link_.actions);
     same("PendingOutput", app.PendingOutput, link_.out);
@@ -217,7 +217,7 @@ class Pair {
 
   Harness program_;
   std::string stream_, seen_;
-  Link link_;
+  LinkModel link_;
   image::ConfigImage begun_;
   bool wrote_ = false, uploaded_ = false;
 };

@@ -1,4 +1,4 @@
-// A program under script whose image is looked at after every line.
+// A program that a script drives, with a check of its image after every statement.
 #pragma once
 
 #include <sstream>
@@ -10,20 +10,21 @@
 
 namespace ovl::testing {
 
-// The form stands in front of a control that the main form lacks.
+// The name of the control, with the name of its form in front unless that is the main form.
 std::string FullName(const core::Application& app, const controls::NamedControl& named);
 
-class Watched {
+class CheckedProgram {
  public:
-  // Started, in the current folder. With a digest, every statement adds what it did to it.
-  explicit Watched(const firmware::FirmwareId& stored, Digest* digest = nullptr);
+  // Starts the program in the current folder. Every statement adds its effects to the digest, if there is
+  // one.
+  explicit CheckedProgram(const firmware::FirmwareId& stored, Digest* digest = nullptr);
 
-  // One statement. What is wrong after it; empty: nothing.
+  // Runs one statement. Returns what is wrong after it, or an empty text.
   std::string Do(const std::string& line);
 
   core::Application& App() { return session_.App(); }
   bool Ended() const { return session_.Ended(); }
-  // Whether the image has the digits that its layout says.
+  // Whether the image has as many digits as its layout.
   bool Whole() const { return whole_; }
   const image::ConfigImage& Image() { return App().image; }
 
@@ -34,7 +35,7 @@ class Watched {
   std::string CheckLengths(bool loads, bool from_file);
 
   Digest* digest_;
-  std::ostringstream printed_;  // by the script
+  std::ostringstream printed_;  // what the script printed
   script::Session session_;
   image::ConfigImage before_;
   bool whole_ = true;

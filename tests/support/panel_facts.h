@@ -1,0 +1,46 @@
+// What the tests know about the controls of the settings panels, written down apart from the tables of the
+// program. A new field of a panel is one row in panel_facts.cpp.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "image/config_image.h"
+
+namespace ovl::testing {
+
+// The digits that a control may change in a field that holds a record.
+enum class RecordPart { kAll, kFirstByte, kDuration, kLastByte, kRange, kAllButRange };
+
+// How the tests treat a list. Those of a panel, an alarm or an exception slot are set together and come back
+// together. Those apart need more than one pick. Those of the network are shown only under some network
+// types.
+enum class Group { kPanel, kAlarm, kSlot, kApart, kNetwork };
+
+// A selection that stores a number or some bits of a byte.
+struct Selection {
+  std::string list;
+  image::FieldId field;
+  int mask;   // the bits that it stores
+  int first;  // the first position
+  int step;   // each further position stores this much more
+  int entries;
+  Group group = Group::kPanel;
+  std::vector<image::FieldId> also = {};  // fields that a pick may store as well
+};
+
+const std::vector<Selection>& Selections();
+
+// A control that stores in another way.
+struct Writer {
+  std::string control;
+  std::vector<image::FieldId> fields;
+  Group group = Group::kApart;
+  RecordPart part = RecordPart::kAll;
+};
+const std::vector<Writer>& OtherWriters();
+
+// The lists of a group, in an order in which a later pick takes nothing from an earlier one.
+std::vector<std::string> ListsOf(Group group);
+
+}  // namespace ovl::testing

@@ -1,0 +1,52 @@
+// What the tests know about registers and their option frames, written down apart from the tables of the
+// program. A new register or option frame changes register_facts.cpp only.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "firmware/firmware_id.h"
+#include "image/config_image.h"
+
+namespace ovl::testing {
+
+// The registers in the list of a firmware, in the lists of all firmware, and the keys that recognise them.
+// Each register of a list has a default image.
+std::size_t NumberOfRegisters(const firmware::FirmwareId& firmware);
+std::size_t NumberOfDefaultImages();
+std::size_t NumberOfRegisterKeys();
+
+// The option frame that a register shows when it is picked.
+struct RegisterFrame {
+  int frame;
+  std::string name;        // of the register
+  unsigned lists;          // the register lists that have it
+  std::string title = {};  // of the frame; empty: the name of the register
+};
+
+// Null: the register has no options under this firmware.
+const RegisterFrame* FrameOf(const firmware::FirmwareId& firmware, std::string_view register_name);
+
+// A register that shows the control, for the tests of the control.
+struct Example {
+  firmware::FirmwareId firmware;
+  std::string register_name;  // empty: only some models show the control
+  // The number of choices, where a pick stores its position in the first field and does nothing else.
+  int plain_choices = 0;
+};
+
+struct OptionControl {
+  int frame;  // that it is in, or kNoFrame
+  std::string name;
+  std::vector<image::FieldId> fields = {};  // that it may write; it shows the first
+  Example example = {};
+  std::string inner_frame = {};  // the control is visible only together with this frame
+};
+
+inline constexpr int kNoFrame = -1;
+
+// The same control has several rows where several registers show it.
+const std::vector<OptionControl>& OptionControls();
+
+}  // namespace ovl::testing
