@@ -1,4 +1,4 @@
-// What a start costs without the program: an empty window of the toolkit.
+// What a start costs without the program: an empty window of Qt.
 #include <QApplication>
 
 #include "paint_watch.h"

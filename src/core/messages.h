@@ -42,7 +42,7 @@ struct BoxWords {
   std::string_view title;  // empty: none of its own
   std::string_view text;
   BoxIcon icon = BoxIcon::kNone;
-  bool tells_note = false;  // the program ends with it: nobody will read the status bar
+  bool shows_note = false;  // the program ends with this box, so nobody can read the status bar
 };
 
 // In the order of Box.

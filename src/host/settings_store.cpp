@@ -54,7 +54,7 @@ std::optional<char> TakeCode(std::string_view& text, int base) {
 }
 
 // The text of an INI file without its quotes and with its escapes \xHH and \OOO decoded. Other escapes are
-// left out: none of them stands for a character of the signs below.
+// left out, because none of them can spell a character of the signs below.
 std::string Unescaped(std::string_view text) {
   std::string plain;
   while (!text.empty()) {

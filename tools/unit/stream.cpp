@@ -147,11 +147,11 @@ void StreamChecker::BreakOff(std::string_view why) {
 }
 
 std::vector<std::string> StreamChecker::Errors() const {
-  std::vector<std::string> told = errors_;
+  std::vector<std::string> reported = errors_;
   if (error_count_ > errors_.size()) {
-    told.push_back("and " + std::to_string(error_count_ - errors_.size()) + " more errors");
+    reported.push_back("and " + std::to_string(error_count_ - errors_.size()) + " more errors");
   }
-  return told;
+  return reported;
 }
 
 StreamText ReadStreamText(const Region& region, std::string_view text) {

@@ -182,7 +182,7 @@ void Program::End() {
 // The reason from the system that the text of the box does not contain.
 QString Program::BoxDetail(const core::MessageBox& box) const {
   if (!store_problem_.empty()) return host::FromSystem(store_problem_);
-  return box.tells_note ? host::FromSystem(app_.StatusNote) : QString();
+  return box.shows_note ? host::FromSystem(app_.StatusNote) : QString();
 }
 
 }  // namespace ovl::ui

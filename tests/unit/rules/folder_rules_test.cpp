@@ -11,7 +11,7 @@ namespace {
 
 using Folders = std::set<std::string>;
 
-// For each folder of the model those that it may include beside itself. None of them stands in a circle.
+// For each folder of the model those that it may include beside itself. They form no circle.
 const std::map<std::string, Folders> kModel = {
     {"codecs", {}},
     {"controls", {}},
