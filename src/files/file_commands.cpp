@@ -52,7 +52,7 @@ void TakeStream(core::Application& app) {
   PrepareCapabilities(app);
   LoadStream(app, app.StreamText);
   for (const auto& routine : app.Setting_Code) routine.run(app);
-  auto& shown = app.frmMain.ComboExcp[0];
+  auto& shown = app.frmMain.ComboExcp[controls::Excp::kNumber];
   if (shown.position != 0) return;
   AssignPosition(app, shown, 1);
   AssignPosition(app, shown, 0);

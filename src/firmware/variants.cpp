@@ -21,15 +21,15 @@ void Rename(controls::MainForm& form, int label, controls::List& list, const cha
 
 void LanguageAndNetwork(controls::MainForm& form) {
   form.ComboLang.items.emplace_back("Spanish");
-  form.ComboCOMM[7].items.emplace_back("NORBAIN VISTA");
+  form.ComboCOMM[controls::Comm::kProtocol].items.emplace_back("NORBAIN VISTA");
 }
 
 void AlarmType(controls::MainForm& form) {
-  Show(form, 49, form.ComboALM[7], true);
+  Show(form, 49, form.ComboALM[controls::Alm::kType], true);
 }
 
 void BlankByRts(controls::MainForm& form) {
-  form.ComboDIP[0].items.emplace_back("RTS");
+  form.ComboDIP[controls::Dip::kScreenBlank].items.emplace_back("RTS");
 }
 
 void EleventhRelease(controls::MainForm& form) {
@@ -64,22 +64,22 @@ void LimitSpeeds(controls::List& list) {
 }
 
 void ReduceForm(controls::MainForm& form) {
-  Show(form, 62, form.ComboDIP[8], false);
-  Show(form, 48, form.ComboALM[6], false);
-  Show(form, 52, form.ComboTrigger[2], false);
+  Show(form, 62, form.ComboDIP[controls::Dip::kCharacters], false);
+  Show(form, 48, form.ComboALM[controls::Alm::kVideoLoss], false);
+  Show(form, 52, form.ComboTrigger[controls::TriggerList::kDelay], false);
   form.Frame13.visible = false;
-  Show(form, 32, form.ComboCOMM[7], false);
+  Show(form, 32, form.ComboCOMM[controls::Comm::kProtocol], false);
   form.ComboNone[0].visible = false;
-  Rename(form, 35, form.ComboCOMM[5], "HANDSHAKE");
-  Show(form, 36, form.ComboCOMM[8], false);
-  Show(form, 26, form.ComboExcepRe[2], false);
+  Rename(form, 35, form.ComboCOMM[controls::Comm::kHandshake], "HANDSHAKE");
+  Show(form, 36, form.ComboCOMM[controls::Comm::kSoftHandshake], false);
+  Show(form, 26, form.ComboExcepRe[controls::ExcepRe::kDuplicateLine], false);
   form.Frame14.visible = false;
-  Show(form, 23, form.ComboExcp[4], true);
+  Show(form, 23, form.ComboExcp[controls::Excp::kScroll], true);
   form.Frame12.visible = false;
   form.SSTab1.captions.at(5) = "           TIME             ";
   form.SSTab1.current = 0;
-  LimitSpeeds(form.ComboCOMM[1]);
-  LimitSpeeds(form.ComboCOMM[2]);
+  LimitSpeeds(form.ComboCOMM[controls::Comm::kReceiveSpeed]);
+  LimitSpeeds(form.ComboCOMM[controls::Comm::kSendSpeed]);
 }
 
 void NoSecondPair(controls::MainForm& form) {
@@ -90,7 +90,7 @@ void NoSecondPair(controls::MainForm& form) {
 
 void NoDemo(controls::MainForm& form) {
   form.FrameDemo.visible = false;
-  Show(form, 61, form.ComboDIP[7], false);
+  Show(form, 61, form.ComboDIP[controls::Dip::kSpaceCompress], false);
 }
 
 using Step = void (*)(controls::MainForm&);
@@ -136,16 +136,16 @@ void ApplyFirmwareVariants(controls::MainForm& form, const FirmwareId& firmware)
 }
 
 void ApplyCompactForm(controls::MainForm& form) {
-  Rename(form, 62, form.ComboDIP[8], "OUTPUT CHARACTER / LINE");
+  Rename(form, 62, form.ComboDIP[controls::Dip::kCharacters], "OUTPUT CHARACTER / LINE");
   for (int list = 0; list < 8; ++list)
     Show(form, 54 + list, form.ComboDIP.at(static_cast<std::size_t>(list)), false);
   for (int list = 4; list < 7; ++list)
     Show(form, 42 + list, form.ComboALM.at(static_cast<std::size_t>(list)), false);
-  Show(form, 50, form.ComboTrigger[0], false);
-  Show(form, 20, form.ComboExcp[1], false);
+  Show(form, 50, form.ComboTrigger[controls::TriggerList::kDisplay], false);
+  Show(form, 20, form.ComboExcp[controls::Excp::kDisplay], false);
   form.Frame12.visible = false;
-  Show(form, 0, form.ComboTD[0], false);
-  Show(form, 8, form.ComboTD[5], false);
+  Show(form, 0, form.ComboTD[controls::Td::kClockDisplay], false);
+  Show(form, 8, form.ComboTD[controls::Td::kTitler], false);
   form.cmdTitle.visible = false;
   form.Title_Text.visible = false;
 }

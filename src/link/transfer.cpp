@@ -113,7 +113,7 @@ void FinishUpload(core::Application& app) {
     taken = TakeUpload(app);
     if (taken) {
       for (const auto& routine : app.Setting_Code) routine.run(app);
-      AssignPosition(app, app.frmMain.ComboExcp[0], 0, core::Raise::kAlways);
+      AssignPosition(app, app.frmMain.ComboExcp[controls::Excp::kNumber], 0, core::Raise::kAlways);
     }
   } catch (const core::Failure& failure) {
     AbandonUpload(app, failure);

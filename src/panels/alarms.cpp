@@ -11,6 +11,8 @@ namespace ovl::panels {
 namespace {
 
 using enum image::FieldId;
+using controls::Alm;
+using controls::TriggerList;
 
 constexpr int kFlagTypeMask = 7;
 
@@ -23,7 +25,7 @@ controls::List& Member(core::Application& app, int member) {
 
 // The alarm on the panel, 1 to 16; 0 if none is selected yet.
 int Shown(const core::Application& app) {
-  return app.frmMain.ComboALM[0].position + 1;
+  return app.frmMain.ComboALM[Alm::kNumber].position + 1;
 }
 
 void ShowTriggerMark(core::Application& app, int trigger) {
@@ -31,85 +33,89 @@ void ShowTriggerMark(core::Application& app, int trigger) {
 }
 
 void ShowNormalState(core::Application& app, int number) {
-  AssignPosition(app, Member(app, 2), image::IsNormallyClosed(app.image, number) ? 1 : 0);
+  AssignPosition(app, Member(app, Alm::kNormalState), image::IsNormallyClosed(app.image, number) ? 1 : 0);
 }
 
 void ShowDuration(core::Application& app, int value) {
   for (int position = 0; position < static_cast<int>(kDurations.size()); ++position) {
     if (kDurations[static_cast<std::size_t>(position)] == value)
-      AssignPosition(app, Member(app, 3), position);
+      AssignPosition(app, Member(app, Alm::kDuration), position);
   }
 }
 
 void ShowTriggeredText(core::Application& app, int number) {
   const auto record = app.image.at(TRIGGER_TEXT, number);
   const int flags = codecs::HexToInt(record);
-  AssignPosition(app, app.frmMain.ComboTrigger[0], flags & 1);
-  AssignPosition(app, app.frmMain.ComboTrigger[1], flags >> 1 & 1);
+  AssignPosition(app, app.frmMain.ComboTrigger[TriggerList::kDisplay], flags & 1);
+  AssignPosition(app, app.frmMain.ComboTrigger[TriggerList::kOutput], flags >> 1 & 1);
   AssignText(app, app.frmMain.TextTrigger,
              image::StoredText(image::WithoutEndMark(image::TriggeredDigits(record))));
 }
 
 void ShowByFirmware(core::Application& app, int number) {
   if (firmware::HasVideoLoss(app.firmware)) {
-    AssignPosition(app, Member(app, 6), image::AlarmVideoLoss(app.image.at(ALMSTRUCT_BAK, number)));
-    AssignPosition(app, app.frmMain.ComboTrigger[2], codecs::HexToInt(app.image.at(TRIGGER_DELAY, number)));
+    AssignPosition(app, Member(app, Alm::kVideoLoss),
+                   image::AlarmVideoLoss(app.image.at(ALMSTRUCT_BAK, number)));
+    AssignPosition(app, app.frmMain.ComboTrigger[TriggerList::kDelay],
+                   codecs::HexToInt(app.image.at(TRIGGER_DELAY, number)));
   }
   if (firmware::HasAlarmType(app.firmware))
-    AssignPosition(app, Member(app, 7), codecs::HexToInt(app.image.at(ALM_MODE, number)));
+    AssignPosition(app, Member(app, Alm::kType), codecs::HexToInt(app.image.at(ALM_MODE, number)));
 }
 
 // This counts alarms from 0, while loading counts them from 1. The state of the ninth alarm can therefore not
 // be stored. It stays so, because the images of the units were made that way.
 void StoreNormalState(core::Application& app) {
-  const int index = Member(app, 0).position;
+  const int index = Member(app, Alm::kNumber).position;
   const bool upper = index > 8;
   const int bit = upper ? index - 8 : index;
   if (bit > 7) return;
   auto& states = app.image.at(ALMNORMAL_BAK, upper ? 2 : 1);
-  states = codecs::ByteToHex(WithSelection(codecs::HexToInt(states), bit, Member(app, 2)));
+  states = codecs::ByteToHex(WithSelection(codecs::HexToInt(states), bit, Member(app, Alm::kNormalState)));
 }
 
 void StoreTrigger(core::Application& app, std::string& record) {
-  const int trigger = Member(app, 1).position;
+  const int trigger = Member(app, Alm::kTrigger).position;
   ShowTriggerMark(app, trigger);
   image::StoreAlarmTrigger(record, trigger);
 }
 
 void StoreDuration(core::Application& app, std::string& record) {
   if (!firmware::IsKnownFamily(app.firmware.version)) return;
-  const int position = Member(app, 3).position;
+  const int position = Member(app, Alm::kDuration).position;
   const int counter = kDurations.at(static_cast<std::size_t>(position));
   image::StoreAlarmDuration(record, app.firmware, counter, position);
 }
 
 void StoreVideoLoss(core::Application& app, std::string& record) {
-  if (firmware::HasVideoLoss(app.firmware)) image::StoreAlarmVideoLoss(record, Member(app, 6).position);
+  if (firmware::HasVideoLoss(app.firmware))
+    image::StoreAlarmVideoLoss(record, Member(app, Alm::kVideoLoss).position);
 }
 
 void StoreFlagType(core::Application& app) {
   auto& flags = app.image[ALMCFG_BAK];
   app.ImageTouched = true;
-  flags = codecs::ByteToHex((codecs::HexToInt(flags) & ~kFlagTypeMask) | Member(app, 4).position);
+  flags =
+      codecs::ByteToHex((codecs::HexToInt(flags) & ~kFlagTypeMask) | Member(app, Alm::kFlagType).position);
 }
 
 // Stores the list that was clicked for the shown alarm.
 void StoreMember(core::Application& app, int index) {
   auto& record = app.image.at(ALMSTRUCT_BAK, Shown(app));
   switch (index) {
-    case 1:
+    case Alm::kTrigger:
       StoreTrigger(app, record);
       break;
-    case 2:
+    case Alm::kNormalState:
       StoreNormalState(app);
       break;
-    case 3:
+    case Alm::kDuration:
       StoreDuration(app, record);
       break;
-    case 6:
+    case Alm::kVideoLoss:
       StoreVideoLoss(app, record);
       break;
-    case 7:
+    case Alm::kType:
       save_Alarm_Type(app);
       break;
     default:
@@ -120,17 +126,18 @@ void StoreMember(core::Application& app, int index) {
 }  // namespace
 
 void ApplyAlarmGlobals(core::Application& app) {
-  AssignPosition(app, Member(app, 4), codecs::HexToInt(app.image[ALMCFG_BAK]) & kFlagTypeMask);
-  AssignPosition(app, Member(app, 5), codecs::HalfToEven(codecs::HexToInt(app.image[FLAGDWLIND])));
-  AssignPosition(app, Member(app, 0), 1);
-  AssignPosition(app, Member(app, 0), 0);
+  AssignPosition(app, Member(app, Alm::kFlagType), codecs::HexToInt(app.image[ALMCFG_BAK]) & kFlagTypeMask);
+  AssignPosition(app, Member(app, Alm::kFlagDuration),
+                 codecs::HalfToEven(codecs::HexToInt(app.image[FLAGDWLIND])));
+  AssignPosition(app, Member(app, Alm::kNumber), 1);
+  AssignPosition(app, Member(app, Alm::kNumber), 0);
 }
 
 void LoadAlarm(core::Application& app, int number) {
   const auto record = app.image.at(ALMSTRUCT_BAK, number);
   const int trigger = image::AlarmTrigger(record);
   ShowTriggerMark(app, trigger);
-  AssignPosition(app, Member(app, 1), trigger);
+  AssignPosition(app, Member(app, Alm::kTrigger), trigger);
   ShowNormalState(app, number);
   ShowDuration(app, image::AlarmCounter(record));
   ShowTriggeredText(app, number);
@@ -138,22 +145,23 @@ void LoadAlarm(core::Application& app, int number) {
 }
 
 void ComboALM_Click(core::Application& app, int index) {
-  if (index == 0) LoadAlarm(app, Shown(app));
-  if (index == 4) StoreFlagType(app);
-  if (index == 5) app.image[FLAGDWLIND] = codecs::ByteToHex(Member(app, 5).position * 2);
+  if (index == Alm::kNumber) LoadAlarm(app, Shown(app));
+  if (index == Alm::kFlagType) StoreFlagType(app);
+  if (index == Alm::kFlagDuration)
+    app.image[FLAGDWLIND] = codecs::ByteToHex(Member(app, Alm::kFlagDuration).position * 2);
   if (Shown(app) > 0) StoreMember(app, index);
   RefreshSavedIndexes(app, "ComboALM", app.frmMain.ComboALM);
 }
 
 void save_Alarm_Type(core::Application& app) {
-  app.image.at(ALM_MODE, Shown(app)) = codecs::ByteToHex(Member(app, 7).position);
+  app.image.at(ALM_MODE, Shown(app)) = codecs::ByteToHex(Member(app, Alm::kType).position);
 }
 
 void ComboTrigger_Click(core::Application& app, int index) {
   const auto& lists = app.frmMain.ComboTrigger;
   if (Shown(app) > 0) {
     auto& record = app.image.at(TRIGGER_TEXT, Shown(app));
-    if (index == 2) {
+    if (index == TriggerList::kDelay) {
       save_RTS_TRGGERED(app);
     } else {
       const int flags =
@@ -165,7 +173,8 @@ void ComboTrigger_Click(core::Application& app, int index) {
 }
 
 void save_RTS_TRGGERED(core::Application& app) {
-  app.image.at(TRIGGER_DELAY, Shown(app)) = codecs::ByteToHex(app.frmMain.ComboTrigger[2].position);
+  app.image.at(TRIGGER_DELAY, Shown(app)) =
+      codecs::ByteToHex(app.frmMain.ComboTrigger[TriggerList::kDelay].position);
 }
 
 void TextTrigger_Change(core::Application& app, int) {

@@ -10,6 +10,7 @@ namespace ovl::panels {
 namespace {
 
 using enum image::FieldId;
+using controls::Comm;
 
 constexpr int kDataBitsBit = 2;
 constexpr int kLinefeedBit = 3;
@@ -21,9 +22,10 @@ struct PositionField {
   image::FieldId field;
 };
 constexpr std::array kPositionFields = {
-    PositionField{1, RX_BAUDRATE},   PositionField{2, TX_BAUDRATE},   PositionField{7, TX_PROTOCOL},
-    PositionField{8, SW_HANDSHAKE},  PositionField{9, NET_TYPE},      PositionField{10, NET_ADDRESS},
-    PositionField{11, NET_PROTOCOL}, PositionField{12, NET_BAUDRATE},
+    PositionField{Comm::kReceiveSpeed, RX_BAUDRATE}, PositionField{Comm::kSendSpeed, TX_BAUDRATE},
+    PositionField{Comm::kProtocol, TX_PROTOCOL},     PositionField{Comm::kSoftHandshake, SW_HANDSHAKE},
+    PositionField{Comm::kNetType, NET_TYPE},         PositionField{Comm::kNetAddress, NET_ADDRESS},
+    PositionField{Comm::kNetProtocol, NET_PROTOCOL}, PositionField{Comm::kNetSpeed, NET_BAUDRATE},
 };
 
 controls::List& Member(core::Application& app, int member) {
@@ -36,11 +38,12 @@ void ApplyField(core::Application& app, int member, image::FieldId field) {
 
 void ApplyFlags(core::Application& app) {
   const int flags = codecs::HexToInt(app.image[COMMCFG_BAK]);
-  AssignPosition(app, Member(app, 3), image::ParityEntry(flags));
-  AssignPosition(app, Member(app, 4), codecs::HasBit(flags, kDataBitsBit) ? 1 : 0);
-  AssignPosition(app, Member(app, 6), codecs::HasBit(flags, kLinefeedBit) ? 0 : 1);
-  AssignPosition(app, Member(app, 5), codecs::HasBit(flags, kHandshakeBit) ? 0 : 1);
-  AssignPosition(app, app.frmMain.ComboExcepRe[0], codecs::HasBit(flags, image::kReportBit) ? 1 : 0);
+  AssignPosition(app, Member(app, Comm::kParity), image::ParityEntry(flags));
+  AssignPosition(app, Member(app, Comm::kDataBits), codecs::HasBit(flags, kDataBitsBit) ? 1 : 0);
+  AssignPosition(app, Member(app, Comm::kLinefeed), codecs::HasBit(flags, kLinefeedBit) ? 0 : 1);
+  AssignPosition(app, Member(app, Comm::kHandshake), codecs::HasBit(flags, kHandshakeBit) ? 0 : 1);
+  AssignPosition(app, app.frmMain.ComboExcepRe[controls::ExcepRe::kOutput],
+                 codecs::HasBit(flags, image::kReportBit) ? 1 : 0);
 }
 
 void ApplyInterfaceType(core::Application& app) {
@@ -48,7 +51,7 @@ void ApplyInterfaceType(core::Application& app) {
   if (codes == nullptr) return;
   for (int position = 0; position < static_cast<int>(codes->size()); ++position) {
     if (app.image[IOCFG_BAK] != (*codes)[static_cast<std::size_t>(position)]) continue;
-    AssignPosition(app, Member(app, 0), position);
+    AssignPosition(app, Member(app, Comm::kInterface), position);
     return;
   }
 }
@@ -57,14 +60,14 @@ void ApplyInterfaceType(core::Application& app) {
 // the handshake list and not its own list. It stays so, because the images of the units were made that way.
 int GatherFlags(core::Application& app, int member, int flags) {
   switch (member) {
-    case 3:
-      return image::WithParityEntry(flags, Member(app, 3).position);
-    case 4:
-      return WithSelection(flags, kDataBitsBit, Member(app, 4));
-    case 5:
-      return codecs::WithBit(flags, kHandshakeBit, Member(app, 5).position == 0);
-    case 6:
-      return WithSelection(flags, kLinefeedBit, Member(app, 5));
+    case Comm::kParity:
+      return image::WithParityEntry(flags, Member(app, Comm::kParity).position);
+    case Comm::kDataBits:
+      return WithSelection(flags, kDataBitsBit, Member(app, Comm::kDataBits));
+    case Comm::kHandshake:
+      return codecs::WithBit(flags, kHandshakeBit, Member(app, Comm::kHandshake).position == 0);
+    case Comm::kLinefeed:
+      return WithSelection(flags, kLinefeedBit, Member(app, Comm::kHandshake));
     default:
       return flags;
   }
@@ -74,7 +77,7 @@ int GatherFlags(core::Application& app, int member, int flags) {
 
 void GatherInterfaceType(core::Application& app) {
   const auto* codes = firmware::InterfaceCodesOf(app.firmware);
-  const int position = Member(app, 0).position;
+  const int position = Member(app, Comm::kInterface).position;
   if (codes != nullptr && position >= 0) app.image[IOCFG_BAK] = codes->at(static_cast<std::size_t>(position));
 }
 
@@ -82,27 +85,27 @@ void ApplyCommunication(core::Application& app) {
   const PanelsQuiet quiet(app);
   ApplyFlags(app);
   ApplyInterfaceType(app);
-  ApplyField(app, 1, RX_BAUDRATE);
-  ApplyField(app, 2, TX_BAUDRATE);
+  ApplyField(app, Comm::kReceiveSpeed, RX_BAUDRATE);
+  ApplyField(app, Comm::kSendSpeed, TX_BAUDRATE);
   if (!app.firmware.IsV1400()) return;
-  ApplyField(app, 10, NET_ADDRESS);
-  ApplyField(app, 9, NET_TYPE);
-  ApplyField(app, 11, NET_PROTOCOL);
-  ApplyField(app, 7, TX_PROTOCOL);
-  ApplyField(app, 8, SW_HANDSHAKE);
-  ApplyField(app, 12, NET_BAUDRATE);
+  ApplyField(app, Comm::kNetAddress, NET_ADDRESS);
+  ApplyField(app, Comm::kNetType, NET_TYPE);
+  ApplyField(app, Comm::kNetProtocol, NET_PROTOCOL);
+  ApplyField(app, Comm::kProtocol, TX_PROTOCOL);
+  ApplyField(app, Comm::kSoftHandshake, SW_HANDSHAKE);
+  ApplyField(app, Comm::kNetSpeed, NET_BAUDRATE);
   ApplyNetworkRules(app);
 }
 
 void ComboCOMM_Click(core::Application& app, int index) {
   if (!app.PanelsReady) return;
   const int flags = GatherFlags(app, index, codecs::HexToInt(app.image[COMMCFG_BAK]));
-  if (index == 0) GatherInterfaceType(app);
+  if (index == Comm::kInterface) GatherInterfaceType(app);
   for (const auto& row : kPositionFields) {
     if (row.member == index) app.image[row.field] = codecs::ByteToHex(Member(app, index).position);
   }
-  if (index == 9) ApplyNetworkRules(app);
-  if (index == 11) ApplyProtocolBaud(app);
+  if (index == Comm::kNetType) ApplyNetworkRules(app);
+  if (index == Comm::kNetProtocol) ApplyProtocolBaud(app);
   app.image[COMMCFG_BAK] = codecs::ByteToHex(flags);
   RefreshSavedIndexes(app, "ComboCOMM", app.frmMain.ComboCOMM);
 }
@@ -111,7 +114,7 @@ void ApplyNetworkRules(core::Application& app) {
   auto& form = app.frmMain;
   constexpr int kMaster = 1;
   constexpr int kSlave = 2;
-  const int type = Member(app, 9).position;
+  const int type = Member(app, Comm::kNetType).position;
   if (type < 0) return;
   const bool master = type == kMaster;
   const bool chained = master || type == kSlave;
@@ -119,16 +122,16 @@ void ApplyNetworkRules(core::Application& app) {
   form.ComboNone[0].visible = !master;
   form.ComboNone[1].visible = fixed_address;
   form.ComboNone[2].visible = !chained;
-  if (type != kSlave) AssignPosition(app, Member(app, 10), 0);
+  if (type != kSlave) AssignPosition(app, Member(app, Comm::kNetAddress), 0);
   if (chained) ApplyProtocolBaud(app);
-  Member(app, 12).enabled = !chained;
+  Member(app, Comm::kNetSpeed).enabled = !chained;
 }
 
 void ApplyProtocolBaud(core::Application& app) {
   constexpr std::array kSpeeds = {3, 8, 5};
-  const int protocol = Member(app, 11).position;
+  const int protocol = Member(app, Comm::kNetProtocol).position;
   if (protocol < 0) return;
-  AssignPosition(app, Member(app, 12), kSpeeds.at(static_cast<std::size_t>(protocol)));
+  AssignPosition(app, Member(app, Comm::kNetSpeed), kSpeeds.at(static_cast<std::size_t>(protocol)));
 }
 
 }  // namespace ovl::panels

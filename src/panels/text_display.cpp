@@ -10,6 +10,8 @@ namespace ovl::panels {
 namespace {
 
 using enum image::FieldId;
+using controls::Dip;
+using controls::Td;
 
 constexpr int kRts = 12;
 constexpr int kFirstCharacters = 10;
@@ -32,8 +34,9 @@ struct FlagMember {
   int member;
   int bit;
 };
-constexpr std::array kFlagMembers = {FlagMember{2, 1}, FlagMember{3, 2}, FlagMember{5, 3}, FlagMember{4, 6},
-                                     FlagMember{6, 5}};
+constexpr std::array kFlagMembers = {FlagMember{Dip::kFormat, 1}, FlagMember{Dip::kLineCompress, 2},
+                                     FlagMember{Dip::kScrollDelay, 3}, FlagMember{Dip::kLineJustified, 6},
+                                     FlagMember{Dip::kDisplayed, 5}};
 
 controls::List& Member(core::Application& app, int member) {
   return app.frmMain.ComboDIP.at(static_cast<std::size_t>(member));
@@ -44,14 +47,14 @@ void ApplyBlankTime(core::Application& app) {
   const int value = codecs::HexToInt(app.image[BLNKVAL]);
   for (int position = 0; position < kRts; ++position) {
     if (kBlankTimes[static_cast<std::size_t>(position)].value != value) continue;
-    AssignPosition(app, Member(app, 0), position);
+    AssignPosition(app, Member(app, Dip::kScreenBlank), position);
     break;
   }
-  if (app.image[BLNKRTS_BAK] == "01") AssignPosition(app, Member(app, 0), kRts);
+  if (app.image[BLNKRTS_BAK] == "01") AssignPosition(app, Member(app, Dip::kScreenBlank), kRts);
 }
 
 int GatherBlankTime(core::Application& app, int flags) {
-  const int position = Member(app, 0).position;
+  const int position = Member(app, Dip::kScreenBlank).position;
   const auto& time = kBlankTimes.at(static_cast<std::size_t>(position));
   app.image[BLNKRTS_BAK] = position == kRts ? "01" : "00";
   app.image[BLNKVAL] = codecs::ByteToHex(time.value);
@@ -66,36 +69,41 @@ void ApplyDisplay(core::Application& app) {
   const int flags = codecs::HexToInt(app.image[DSPCFG_BAK]);
   for (const auto& row : kFlagMembers)
     AssignPosition(app, Member(app, row.member), codecs::HasBit(flags, row.bit) ? 1 : 0);
-  AssignPosition(app, Member(app, 1), codecs::HexToInt(app.image[DSPLINES_BAK]) - 1);
+  AssignPosition(app, Member(app, Dip::kLines), codecs::HexToInt(app.image[DSPLINES_BAK]) - 1);
   ApplyBlankTime(app);
-  AssignPosition(app, app.frmMain.ComboTD[5], codecs::HasBit(flags, image::kTitlerBit) ? 1 : 0);
-  AssignPosition(app, app.frmMain.ComboTD[0], codecs::HasBit(flags, image::kClockBit) ? 1 : 0);
-  AssignPosition(app, Member(app, 7), codecs::HexToInt(app.image[SPCOMPRES_BAK]));
-  AssignPosition(app, Member(app, 8), codecs::HexToInt(app.image[DSPCHARS_BAK]) - kFirstCharacters);
+  AssignPosition(app, app.frmMain.ComboTD[Td::kTitler], codecs::HasBit(flags, image::kTitlerBit) ? 1 : 0);
+  AssignPosition(app, app.frmMain.ComboTD[Td::kClockDisplay],
+                 codecs::HasBit(flags, image::kClockBit) ? 1 : 0);
+  AssignPosition(app, Member(app, Dip::kSpaceCompress), codecs::HexToInt(app.image[SPCOMPRES_BAK]));
+  AssignPosition(app, Member(app, Dip::kCharacters),
+                 codecs::HexToInt(app.image[DSPCHARS_BAK]) - kFirstCharacters);
 }
 
 void ComboDIP_Click(core::Application& app, int index) {
   if (!app.PanelsReady) return;
   int flags = codecs::HexToInt(app.image[DSPCFG_BAK]);
-  if (index == 0) flags = GatherBlankTime(app, flags);
-  if (index == 1) {
+  if (index == Dip::kScreenBlank) flags = GatherBlankTime(app, flags);
+  if (index == Dip::kLines) {
     ApplyLineRule(app);
-    app.image[DSPLINES_BAK] = codecs::ByteToHex(Member(app, 1).position + 1);
+    app.image[DSPLINES_BAK] = codecs::ByteToHex(Member(app, Dip::kLines).position + 1);
   }
   for (const auto& row : kFlagMembers) {
     if (row.member == index) flags = WithSelection(flags, row.bit, Member(app, index));
   }
-  if (index == 7) app.image[SPCOMPRES_BAK] = codecs::ByteToHex(Member(app, 7).position);
-  if (index == 8) app.image[DSPCHARS_BAK] = codecs::ByteToHex(Member(app, 8).position + kFirstCharacters);
+  if (index == Dip::kSpaceCompress)
+    app.image[SPCOMPRES_BAK] = codecs::ByteToHex(Member(app, Dip::kSpaceCompress).position);
+  if (index == Dip::kCharacters)
+    app.image[DSPCHARS_BAK] = codecs::ByteToHex(Member(app, Dip::kCharacters).position + kFirstCharacters);
   app.image[DSPCFG_BAK] = codecs::ByteToHex(flags);
   RefreshSavedIndexes(app, "ComboDIP", app.frmMain.ComboDIP);
 }
 
 void ApplyLineRule(core::Application& app) {
   const auto& form = app.frmMain;
-  const int lines_taken = (form.ComboTD[0].position == 1 ? 1 : 0) + (form.ComboTD[5].position == 1 ? 1 : 0);
-  const int position = Member(app, 1).position;
-  if (position >= 0) AssignPosition(app, Member(app, 1), std::max(position, lines_taken));
+  const int lines_taken = (form.ComboTD[Td::kClockDisplay].position == 1 ? 1 : 0) +
+                          (form.ComboTD[Td::kTitler].position == 1 ? 1 : 0);
+  const int position = Member(app, Dip::kLines).position;
+  if (position >= 0) AssignPosition(app, Member(app, Dip::kLines), std::max(position, lines_taken));
 }
 
 }  // namespace ovl::panels

@@ -11,6 +11,7 @@ namespace ovl::panels {
 namespace {
 
 using enum image::FieldId;
+using controls::Td;
 
 constexpr std::array kDaylightCodes = {"01", "02", "04", "06", "08", "0A"};
 
@@ -28,10 +29,11 @@ void GatherDisplayBit(core::Application& app, int member, int bit) {
 
 void ApplyTimeDate(core::Application& app) {
   const PanelsQuiet quiet(app);
-  AssignPosition(app, Member(app, 1), codecs::HexToInt(app.image[TIME_FORMAT_BAK]));
-  AssignPosition(app, Member(app, 2), codecs::HexToInt(app.image[DATE_FORMAT_BAK]));
-  AssignPosition(app, Member(app, 3), codecs::HalfToEven(codecs::HexToInt(app.image[DAYLIGHT_BAK])));
-  AssignPosition(app, Member(app, 4), codecs::HexToInt(app.image[TD_LOCKING_BAK]));
+  AssignPosition(app, Member(app, Td::kTimeFormat), codecs::HexToInt(app.image[TIME_FORMAT_BAK]));
+  AssignPosition(app, Member(app, Td::kDateFormat), codecs::HexToInt(app.image[DATE_FORMAT_BAK]));
+  AssignPosition(app, Member(app, Td::kDaylight),
+                 codecs::HalfToEven(codecs::HexToInt(app.image[DAYLIGHT_BAK])));
+  AssignPosition(app, Member(app, Td::kLocking), codecs::HexToInt(app.image[TD_LOCKING_BAK]));
   ApplyTitle(app);
   AssignPosition(app, app.frmMain.ComboLang, codecs::HexToInt(app.image[LANGUAGE_BAK]));
 }
@@ -40,21 +42,21 @@ void ComboTD_Click(core::Application& app, int index) {
   if (!app.PanelsReady) return;
   const int position = Member(app, index).position;
   switch (index) {
-    case 0:
+    case Td::kClockDisplay:
       GatherDisplayBit(app, index, image::kClockBit);
       break;
-    case 1:
+    case Td::kTimeFormat:
       app.image[TIME_FORMAT_BAK] = codecs::ByteToHex(position);
       break;
-    case 2:
+    case Td::kDateFormat:
       app.image[DATE_FORMAT_BAK] = codecs::ByteToHex(position);
       break;
-    case 3:
+    case Td::kDaylight:
       if (position < static_cast<int>(kDaylightCodes.size())) {
         app.image[DAYLIGHT_BAK] = kDaylightCodes.at(static_cast<std::size_t>(position));
       }
       break;
-    case 4:
+    case Td::kLocking:
       app.image[TD_LOCKING_BAK] = codecs::ByteToHex(position);
       break;
     default:

@@ -260,7 +260,7 @@ bool AssignScaleModels(core::Application& app, const RegisterRow&) {
 }
 
 bool AssignOdometer(core::Application& app, const RegisterRow&) {
-  return Assign(app, app.frmMain.ComboDIP[1], 0);
+  return Assign(app, app.frmMain.ComboDIP[controls::Dip::kLines], 0);
 }
 
 bool AssignSensors(core::Application& app, const RegisterRow&) {

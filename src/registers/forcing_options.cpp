@@ -9,6 +9,7 @@ namespace ovl::registers {
 namespace {
 
 using enum image::FieldId;
+using controls::Comm;
 
 constexpr int kBaud1200 = 0;
 constexpr int kBaud2400 = 1;
@@ -23,12 +24,12 @@ void ForceLine(core::Application& app, int member, int position) {
 }
 
 void ForceSpeeds(core::Application& app, int receive, int transmit) {
-  ForceLine(app, 1, receive);
-  ForceLine(app, 2, transmit);
+  ForceLine(app, Comm::kReceiveSpeed, receive);
+  ForceLine(app, Comm::kSendSpeed, transmit);
 }
 
 void ForceReport(core::Application& app, int position) {
-  AssignPosition(app, app.frmMain.ComboExcepRe[0], position, core::Raise::kAlways);
+  AssignPosition(app, app.frmMain.ComboExcepRe[controls::ExcepRe::kOutput], position, core::Raise::kAlways);
 }
 
 void StoreSpeeds(core::Application& app, int receive, int transmit) {
@@ -100,8 +101,8 @@ void ComboWoring_Click(core::Application& app, int) {
 
 void OpMicrelec_Click(core::Application& app, int element) {
   ForceSpeeds(app, kBaud19200, kBaud2400);
-  ForceLine(app, 3, 1);
-  ForceLine(app, 4, 0);
+  ForceLine(app, Comm::kParity, 1);
+  ForceLine(app, Comm::kDataBits, 0);
   app.image[REGTYPE_MINOR] = "00";
   app.image[UNITADDR] = codecs::ByteToHex(element);
   StoreSpeeds(app, 4, 1);
@@ -109,8 +110,8 @@ void OpMicrelec_Click(core::Application& app, int element) {
 
 void OpMicrelec9500_Click(core::Application& app, int element) {
   ForceSpeeds(app, kBaud9600, kBaud2400);
-  ForceLine(app, 3, 0);
-  ForceLine(app, 4, 0);
+  ForceLine(app, Comm::kParity, 0);
+  ForceLine(app, Comm::kDataBits, 0);
   app.image[REGTYPE_MINOR] = "01";
   app.image[UNITADDR] = codecs::ByteToHex(element);
   StoreSpeeds(app, 3, 1);
@@ -119,13 +120,14 @@ void OpMicrelec9500_Click(core::Application& app, int element) {
 void ComboTITLEDIP_Click(core::Application& app, int) {
   const int position = app.frmMain.ComboTITLEDIP.position;
   app.image[GTITLE_NF_BAK] = codecs::ByteToHex(position);
-  AssignPosition(app, app.frmMain.ComboTD[5], position == 0 ? 0 : 1, core::Raise::kAlways);
+  AssignPosition(app, app.frmMain.ComboTD[controls::Td::kTitler], position == 0 ? 0 : 1,
+                 core::Raise::kAlways);
 }
 
 constexpr int kAutoOfModels = 10;
 
 void ForceInterface(core::Application& app, int type, int receive) {
-  ForceLine(app, 0, type);
+  ForceLine(app, Comm::kInterface, type);
   ForceSpeeds(app, receive, kBaud9600);
 }
 
@@ -164,10 +166,10 @@ void StoreDigit(core::Application& app, const std::array<controls::List, 3>& lis
 
 void ComboTCI_ID_Click(core::Application& app, int index) {
   StoreDigit(app, app.frmMain.ComboTCI_ID, index);
-  ForceLine(app, 0, 0);
+  ForceLine(app, Comm::kInterface, 0);
   ForceSpeeds(app, kBaud1200, kBaud2400);
-  ForceLine(app, 3, 0);
-  ForceLine(app, 4, 1);
+  ForceLine(app, Comm::kParity, 0);
+  ForceLine(app, Comm::kDataBits, 1);
 }
 
 void ComboUNI_ID_Click(core::Application& app, int index) {

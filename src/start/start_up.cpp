@@ -120,7 +120,8 @@ void frmMain_Load(core::Application& app) {
   form.EnableActions(false);
   for (auto& list : form.ComboDay) list.visible = false;
   form.ComboDay[0].visible = true;
-  if (form.ComboExcp[0].position >= 0) panels::LoadExceptionSlot(app, form.ComboExcp[0].position + 1);
+  if (form.ComboExcp[controls::Excp::kNumber].position >= 0)
+    panels::LoadExceptionSlot(app, form.ComboExcp[controls::Excp::kNumber].position + 1);
   ShowForm(app, form.form);
 }
 

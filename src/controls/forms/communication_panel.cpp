@@ -21,19 +21,19 @@ CommunicationPanel::CommunicationPanel() {
   SetCaptions(ComboCOMM,
               {"INTERFACE TYPE", "RX BAUDRATE", "TX BAUDRATE", "PARITY", "DATA BITS", "HW HANDSHAKING",
                "AUTO LINEFEED", "TX PROTOCOL", "SW HANDSHAKING", "TYPE", "ADDRESS", "PROTOCOL", "BAUD RATE"});
-  ComboCOMM[0].items = {"RS-232", "PASSIVE TAP", "RS-485"};
-  ComboCOMM[1].items = SpeedsAndAuto();
-  ComboCOMM[2].items = SpeedsAndAuto();
-  ComboCOMM[3].items = {"NONE", "EVEN", "ODD"};
-  ComboCOMM[4].items = {"7", "8"};
-  ComboCOMM[5].items = {"ON", "OFF"};
-  ComboCOMM[6].items = {"ON", "OFF"};
-  ComboCOMM[7].items = {"OVL-ADD", "ONET", "TRVX", "DALLMEIER"};
-  ComboCOMM[8].items = {"NONE", "ACK/NAK", "XON/XOFF"};
-  ComboCOMM[9].items = {"OFF", "MASTER", "SLAVE", "GENERIC"};
-  ComboCOMM[10].items = HeadAndNumbers("N/A", 1, 16);
-  ComboCOMM[11].items = {"REGCOM   9.6K", "REGCOM 57.6K", "ONET"};
-  ComboCOMM[12].items = kSpeeds;
+  ComboCOMM[Comm::kInterface].items = {"RS-232", "PASSIVE TAP", "RS-485"};
+  ComboCOMM[Comm::kReceiveSpeed].items = SpeedsAndAuto();
+  ComboCOMM[Comm::kSendSpeed].items = SpeedsAndAuto();
+  ComboCOMM[Comm::kParity].items = {"NONE", "EVEN", "ODD"};
+  ComboCOMM[Comm::kDataBits].items = {"7", "8"};
+  ComboCOMM[Comm::kHandshake].items = {"ON", "OFF"};
+  ComboCOMM[Comm::kLinefeed].items = {"ON", "OFF"};
+  ComboCOMM[Comm::kProtocol].items = {"OVL-ADD", "ONET", "TRVX", "DALLMEIER"};
+  ComboCOMM[Comm::kSoftHandshake].items = {"NONE", "ACK/NAK", "XON/XOFF"};
+  ComboCOMM[Comm::kNetType].items = {"OFF", "MASTER", "SLAVE", "GENERIC"};
+  ComboCOMM[Comm::kNetAddress].items = HeadAndNumbers("N/A", 1, 16);
+  ComboCOMM[Comm::kNetProtocol].items = {"REGCOM   9.6K", "REGCOM 57.6K", "ONET"};
+  ComboCOMM[Comm::kNetSpeed].items = kSpeeds;
 
   SetCaptions(ComboNone, {"TX PROTOCOL", "ADDRESS", "PROTOCOL"});
   ComboNone[0].text = "ASCII";

@@ -10,8 +10,28 @@ namespace ovl::controls {
 
 class Registry;
 
+// The members of the arrays of lists below, by what they set.
+struct Comm {
+  enum Member {
+    kInterface,
+    kReceiveSpeed,
+    kSendSpeed,
+    kParity,
+    kDataBits,
+    kHandshake,
+    kLinefeed,
+    kProtocol,
+    kSoftHandshake,
+    kNetType,
+    kNetAddress,
+    kNetProtocol,
+    kNetSpeed,
+    kCount
+  };
+};
+
 struct CommunicationPanel {
-  std::array<List, 13> ComboCOMM;
+  std::array<List, Comm::kCount> ComboCOMM;
   std::array<TextBox, 3> ComboNone;  // fixed texts in place of a list that has no meaning at present
 
   CommunicationPanel();

@@ -10,11 +10,35 @@ namespace ovl::controls {
 
 class Registry;
 
+// The members of the arrays of lists below, by what they set.
+struct Dip {
+  enum Member {
+    kScreenBlank,
+    kLines,
+    kFormat,
+    kLineCompress,
+    kLineJustified,
+    kScrollDelay,
+    kDisplayed,
+    kSpaceCompress,
+    kCharacters,
+    kCount
+  };
+};
+
+struct Td {
+  enum Member { kClockDisplay, kTimeFormat, kDateFormat, kDaylight, kLocking, kTitler, kCount };
+};
+
+struct ExcepRe {
+  enum Member { kOutput, kTimeStamp, kDuplicateLine, kCount };
+};
+
 struct DisplayPanel {
-  std::array<List, 9> ComboDIP;
-  std::array<List, 6> ComboTD;
+  std::array<List, Dip::kCount> ComboDIP;
+  std::array<List, Td::kCount> ComboTD;
   List ComboLang;
-  std::array<List, 3> ComboExcepRe;
+  std::array<List, ExcepRe::kCount> ComboExcepRe;
 
   DisplayPanel();
   void Register(Registry& registry, Form& form);

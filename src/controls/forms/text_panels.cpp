@@ -11,41 +11,43 @@ const std::vector<std::string> kOffOn = {"OFF", "ON"};
 void DesignExceptions(TextPanels& form) {
   SetCaptions(form.ComboExcp,
               {"EXCEPTION NO.", "DISPLAY", "OUTPUT", "HISTORY BUFFER", "SCROLL MATCHING", "OPERATOR"});
-  form.ComboExcp[0].items = Numbers(1, 24);
+  form.ComboExcp[Excp::kNumber].items = Numbers(1, 24);
   for (const std::size_t list : {1U, 2U, 3U, 4U}) form.ComboExcp[list].items = kOffOn;
-  form.ComboExcp[4].visible = false;
-  form.ComboExcp[5].items = {"NONE", "IN", "OUT"};
+  form.ComboExcp[Excp::kScroll].visible = false;
+  form.ComboExcp[Excp::kOperator].items = {"NONE", "IN", "OUT"};
   form.TextException.caption = "EXCEPTION STRING";
   form.TextException.read_only = true;
   form.cmdSetExcpstr.caption = "Set Exception String";
   form.cmdSetRange.caption = "Set RANGE";
   SetCaptions(form.ComboScroll, {"SCROLL MATCHING", "TIMEOUT"});
-  form.ComboScroll[0].items = kOffOn;
-  form.ComboScroll[1].items = {"OFF", "1s", "3s", "5s", "10s", "15s"};
+  form.ComboScroll[Scroll::kMatching].items = kOffOn;
+  form.ComboScroll[Scroll::kTimeout].items = {"OFF", "1s", "3s", "5s", "10s", "15s"};
 }
 
 void DesignAlarms(TextPanels& form) {
   SetCaptions(form.ComboALM, {"ALARM NO.", "ALARM TRIGGER", "NORMAL STATE", "ALARM DURATION", "FLAG TYPE",
                               "FLAG DURATION", "VIDEO LOSS", "ALARM TYPE"});
-  form.ComboALM[0].items = Numbers(1, 16);
-  form.ComboALM[1].items = HeadAndNumbers("NONE", 1, 24);
-  for (const char* entry : {"1-12", "13-24", "1-24", "RTS"}) form.ComboALM[1].items.emplace_back(entry);
-  form.ComboALM[2].items = {"NO", "NC"};
-  form.ComboALM[3].items = {"1", "3", "5", "10", "15", "20", "30", "60", "120", "180", "240", "PLUSE"};
-  form.ComboALM[4].items = {"NONE", "*", "FLASH *", "REVERSE", "FLASH"};
+  form.ComboALM[Alm::kNumber].items = Numbers(1, 16);
+  form.ComboALM[Alm::kTrigger].items = HeadAndNumbers("NONE", 1, 24);
+  for (const char* entry : {"1-12", "13-24", "1-24", "RTS"})
+    form.ComboALM[Alm::kTrigger].items.emplace_back(entry);
+  form.ComboALM[Alm::kNormalState].items = {"NO", "NC"};
+  form.ComboALM[Alm::kDuration].items = {"1",  "3",  "5",   "10",  "15",  "20",
+                                         "30", "60", "120", "180", "240", "PLUSE"};
+  form.ComboALM[Alm::kFlagType].items = {"NONE", "*", "FLASH *", "REVERSE", "FLASH"};
   for (int duration = 0; duration <= 240; duration += 2) {
-    form.ComboALM[5].items.push_back(Numbers(duration, duration, 3).front());
+    form.ComboALM[Alm::kFlagDuration].items.push_back(Numbers(duration, duration, 3).front());
   }
-  form.ComboALM[6].items = {"OFF", "MANUAL", "1S", "2S", "3S", "5S", "10S", "20S", "30S", "1M"};
-  form.ComboALM[7].items = {"DWELL", "TIMED"};
-  form.ComboALM[7].visible = false;
+  form.ComboALM[Alm::kVideoLoss].items = {"OFF", "MANUAL", "1S", "2S", "3S", "5S", "10S", "20S", "30S", "1M"};
+  form.ComboALM[Alm::kType].items = {"DWELL", "TIMED"};
+  form.ComboALM[Alm::kType].visible = false;
   form.lbAlmTrig.caption = "EX.";
   form.lbAlmTrig.visible = false;
 
   SetCaptions(form.ComboTrigger, {"DISPLAY TEXT", "OUTPUT TEXT", "RTS TRIGGERED TEXT DELAY"});
-  form.ComboTrigger[0].items = kOffOn;
-  form.ComboTrigger[1].items = kOffOn;
-  form.ComboTrigger[2].items = {"OFF", "1S", "5S", "10S", "20S", "30S", "1M", "5M", "10M"};
+  form.ComboTrigger[TriggerList::kDisplay].items = kOffOn;
+  form.ComboTrigger[TriggerList::kOutput].items = kOffOn;
+  form.ComboTrigger[TriggerList::kDelay].items = {"OFF", "1S", "5S", "10S", "20S", "30S", "1M", "5M", "10M"};
   form.TextTrigger.caption = "TRIGGER TEXT";
   form.TextTrigger.read_only = true;
   form.cmdSetTrigger.caption = "Set Trigger Text";

@@ -11,16 +11,43 @@ namespace ovl::controls {
 
 class Registry;
 
+// The members of the arrays of lists below, by what they set.
+struct Excp {
+  enum Member { kNumber, kDisplay, kOutput, kHistory, kScroll, kOperator, kCount };
+};
+
+struct Scroll {
+  enum Member { kMatching, kTimeout, kCount };
+};
+
+struct Alm {
+  enum Member {
+    kNumber,
+    kTrigger,
+    kNormalState,
+    kDuration,
+    kFlagType,
+    kFlagDuration,
+    kVideoLoss,
+    kType,
+    kCount
+  };
+};
+
+struct TriggerList {
+  enum Member { kDisplay, kOutput, kDelay, kCount };
+};
+
 struct TextPanels {
-  std::array<List, 6> ComboExcp;
+  std::array<List, Excp::kCount> ComboExcp;
   TextBox TextException;
   std::array<Label, 2> TextRANGE;
   Button cmdSetExcpstr, cmdSetRange;
-  std::array<List, 2> ComboScroll;
+  std::array<List, Scroll::kCount> ComboScroll;
 
-  std::array<List, 8> ComboALM;
+  std::array<List, Alm::kCount> ComboALM;
   Label lbAlmTrig;
-  std::array<List, 3> ComboTrigger;
+  std::array<List, TriggerList::kCount> ComboTrigger;
   TextBox TextTrigger;
   Button cmdSetTrigger;
 

@@ -4,28 +4,27 @@
 #include "panels/panel.h"
 
 namespace ovl::panels {
-namespace {
 
-constexpr int kDuplicateLine = 2;
-
-}  // namespace
-
+using controls::ExcepRe;
 void ApplyTimeStamp(core::Application& app) {
-  AssignPosition(app, app.frmMain.ComboExcepRe[1], app.image[image::FieldId::TIMESTAMP_ENA] == "00" ? 0 : 1);
+  AssignPosition(app, app.frmMain.ComboExcepRe[ExcepRe::kTimeStamp],
+                 app.image[image::FieldId::TIMESTAMP_ENA] == "00" ? 0 : 1);
 }
 
 void ApplyDuplicateLine(core::Application& app) {
-  AssignPosition(app, app.frmMain.ComboExcepRe[2], codecs::HexToInt(app.image[image::FieldId::DUPLINE_BAK]));
+  AssignPosition(app, app.frmMain.ComboExcepRe[ExcepRe::kDuplicateLine],
+                 codecs::HexToInt(app.image[image::FieldId::DUPLINE_BAK]));
 }
 
 void ComboExcepRe_Click(core::Application& app, int index) {
   if (!app.PanelsReady) return;
   const auto& lists = app.frmMain.ComboExcepRe;
   auto& flags = app.image[image::FieldId::COMMCFG_BAK];
-  flags =
-      codecs::ByteToHex(codecs::WithBit(codecs::HexToInt(flags), image::kReportBit, lists[0].position == 1));
-  app.image[image::FieldId::TIMESTAMP_ENA] = lists[1].position == 1 ? "01" : "00";
-  if (index == kDuplicateLine) app.image[image::FieldId::DUPLINE_BAK] = codecs::ByteToHex(lists[2].position);
+  flags = codecs::ByteToHex(
+      codecs::WithBit(codecs::HexToInt(flags), image::kReportBit, lists[ExcepRe::kOutput].position == 1));
+  app.image[image::FieldId::TIMESTAMP_ENA] = lists[ExcepRe::kTimeStamp].position == 1 ? "01" : "00";
+  if (index == ExcepRe::kDuplicateLine)
+    app.image[image::FieldId::DUPLINE_BAK] = codecs::ByteToHex(lists[ExcepRe::kDuplicateLine].position);
   RefreshSavedIndexes(app, "ComboExcepRe", lists);
 }
 

@@ -11,13 +11,16 @@
 namespace ovl::panels {
 namespace {
 
+using controls::Excp;
+
 // The lists that are stored in one bit of the flags.
 struct FlagMember {
   std::size_t member;
   int bit;
 };
-constexpr std::array kFlagMembers = {FlagMember{1, image::kDisplayBit}, FlagMember{2, image::kOutputBit},
-                                     FlagMember{3, image::kHistoryBit}, FlagMember{4, image::kScrollBit}};
+constexpr std::array kFlagMembers = {
+    FlagMember{Excp::kDisplay, image::kDisplayBit}, FlagMember{Excp::kOutput, image::kOutputBit},
+    FlagMember{Excp::kHistory, image::kHistoryBit}, FlagMember{Excp::kScroll, image::kScrollBit}};
 
 int FlagsOf(const std::string& slot) {
   return codecs::HexToInt(slot);
@@ -32,13 +35,13 @@ void ShowRange(core::Application& app, const std::string& slot) {
 
 // If both bits are set, no entry fits, and the list keeps the operator of the slot before.
 void ShowOperator(core::Application& app, int flags) {
-  AssignPosition(app, app.frmMain.ComboExcp[5], image::OperatorOf(flags));
+  AssignPosition(app, app.frmMain.ComboExcp[Excp::kOperator], image::OperatorOf(flags));
 }
 
 // A slot with scroll matching cannot have display, output or history.
 void ApplyScrollRule(core::Application& app) {
   auto& lists = app.frmMain.ComboExcp;
-  const bool matching = lists[4].position == 1;
+  const bool matching = lists[Excp::kScroll].position == 1;
   for (const std::size_t member : {1U, 2U, 3U}) {
     if (matching) AssignPosition(app, lists[member], 0);
     lists[member].enabled = !matching;
@@ -48,7 +51,7 @@ void ApplyScrollRule(core::Application& app) {
 }  // namespace
 
 std::string* ShownSlot(core::Application& app) {
-  const int position = app.frmMain.ComboExcp[0].position;
+  const int position = app.frmMain.ComboExcp[Excp::kNumber].position;
   return position < 0 ? nullptr : &app.image.at(image::FieldId::EXCPSTRS, position + 1);
 }
 
@@ -59,7 +62,7 @@ const char* DecimalSeparator(const core::Application& app) {
 void ApplyExceptionPanel(core::Application& app) {
   const PanelsQuiet quiet(app);
   ApplyTimeStamp(app);
-  AssignPosition(app, app.frmMain.ComboExcp[0], 0);
+  AssignPosition(app, app.frmMain.ComboExcp[Excp::kNumber], 0);
   ApplyDuplicateLine(app);
   ApplyScrollMatching(app);
 }
@@ -78,16 +81,17 @@ void LoadExceptionSlot(core::Application& app, int number) {
 void ComboExcp_Click(core::Application& app, int index) {
   auto& lists = app.frmMain.ComboExcp;
   auto* slot = ShownSlot(app);
-  if (index == 0) {
-    LoadExceptionSlot(app, lists[0].position + 1);
+  if (index == Excp::kNumber) {
+    LoadExceptionSlot(app, lists[Excp::kNumber].position + 1);
   } else if (slot != nullptr) {
     const auto& list = lists.at(static_cast<std::size_t>(index));
     for (const auto& row : kFlagMembers) {
       if (static_cast<int>(row.member) == index)
         image::StoreFirstByte(*slot, WithSelection(FlagsOf(*slot), row.bit, list));
     }
-    if (index == 4) ApplyScrollRule(app);
-    if (index == 5) image::StoreFirstByte(*slot, image::WithOperator(FlagsOf(*slot), list.position));
+    if (index == Excp::kScroll) ApplyScrollRule(app);
+    if (index == Excp::kOperator)
+      image::StoreFirstByte(*slot, image::WithOperator(FlagsOf(*slot), list.position));
   }
   RefreshSavedIndexes(app, "ComboExcp", lists);
 }

@@ -4,26 +4,28 @@
 
 namespace ovl::panels {
 
+using controls::Scroll;
+
 void ApplyScrollMatching(core::Application& app) {
   auto& lists = app.frmMain.ComboScroll;
   const int timeout = codecs::HexToInt(app.image[image::FieldId::SCROLLMATCH_BAK]);
-  AssignPosition(app, lists[0], timeout == 0 ? 0 : 1);
-  AssignPosition(app, lists[1], timeout);
+  AssignPosition(app, lists[Scroll::kMatching], timeout == 0 ? 0 : 1);
+  AssignPosition(app, lists[Scroll::kTimeout], timeout);
 }
 
 // The field cannot store "on" without a timeout. Therefore each list also changes the other one.
 void ComboScroll_Click(core::Application& app, int index) {
   if (!app.PanelsReady) return;
   auto& lists = app.frmMain.ComboScroll;
-  if (index == 0) {
-    const bool on = lists[0].position != 0;
-    if (!on) AssignPosition(app, lists[1], 0);
-    if (on && lists[1].position == 0) AssignPosition(app, lists[1], 1);
+  if (index == Scroll::kMatching) {
+    const bool on = lists[Scroll::kMatching].position != 0;
+    if (!on) AssignPosition(app, lists[Scroll::kTimeout], 0);
+    if (on && lists[Scroll::kTimeout].position == 0) AssignPosition(app, lists[Scroll::kTimeout], 1);
     return;
   }
-  const int timeout = lists[1].position;
+  const int timeout = lists[Scroll::kTimeout].position;
   app.image[image::FieldId::SCROLLMATCH_BAK] = codecs::ByteToHex(timeout);
-  AssignPosition(app, lists[0], timeout == 0 ? 0 : 1);
+  AssignPosition(app, lists[Scroll::kMatching], timeout == 0 ? 0 : 1);
 }
 
 }  // namespace ovl::panels

@@ -18,7 +18,7 @@ QString EntryText(const controls::List& list, int position) {
 
 QString TriggerText(const controls::MainForm& form, int trigger) {
   if (trigger == image::kNoTrigger) return QStringLiteral("free");
-  const auto entry = EntryText(form.ComboALM[1], trigger);
+  const auto entry = EntryText(form.ComboALM[controls::Alm::kTrigger], trigger);
   return trigger < image::kRtsTrigger
              ? host::FromWindows1252(form.lbAlmTrig.caption) + QLatin1Char(' ') + entry
              : entry;
@@ -26,7 +26,7 @@ QString TriggerText(const controls::MainForm& form, int trigger) {
 
 // The stored counter runs up to 256, so the time is 256 minus the counter; 0 is the last entry, the pulse.
 QString DurationText(const controls::MainForm& form, int counter) {
-  const auto& list = form.ComboALM[3];
+  const auto& list = form.ComboALM[controls::Alm::kDuration];
   return counter == 0 ? EntryText(list, static_cast<int>(list.items.size()) - 1)
                       : QString::number(256 - counter);
 }
@@ -38,7 +38,7 @@ QString TriggeredText(const std::string& record) {
 QWidget* AlarmOverview(Bindings& bindings) {
   const auto& app = bindings.Model();
   return BuildOverview(
-      bindings, bindings.Model().frmMain.ComboALM[0],
+      bindings, bindings.Model().frmMain.ComboALM[controls::Alm::kNumber],
       {QStringLiteral("AlarmOverview"),
        QStringLiteral("Overview of the alarms"),
        {{QStringLiteral("No."), QStringLiteral("16")},
@@ -60,7 +60,10 @@ void AddEditor(PageColumn& column, const controls::MainForm& form) {
       .Row("ComboALM(6)")
       .Row("ComboALM(7)")
       .Note(QStringLiteral("All alarms"),
-            [&form] { return form.ComboALM[4].visible || form.ComboALM[5].visible; })
+            [&form] {
+              return form.ComboALM[controls::Alm::kFlagType].visible ||
+                     form.ComboALM[controls::Alm::kFlagDuration].visible;
+            })
       .Row("ComboALM(4)")
       .Row("ComboALM(5)");
 }
@@ -75,7 +78,8 @@ std::vector<OverviewLine> AlarmLines(const core::Application& app) {
     const int trigger = image::AlarmTrigger(record);
     const int counter = image::AlarmCounter(record);
     lines.push_back({{QString::number(number), TriggerText(form, trigger), DurationText(form, counter),
-                      EntryText(form.ComboALM[2], image::IsNormallyClosed(app.image, number) ? 1 : 0),
+                      EntryText(form.ComboALM[controls::Alm::kNormalState],
+                                image::IsNormallyClosed(app.image, number) ? 1 : 0),
                       TriggeredText(app.image.at(TRIGGER_TEXT, number))},
                      trigger != image::kNoTrigger});
   }
@@ -86,7 +90,8 @@ QWidget* BuildAlarmPage(Bindings& bindings) {
   const auto& form = bindings.Model().frmMain;
   Page page(bindings, form.form, kColumnGap);
   auto& column = page.Column();
-  column.LabelsAtLeast(CaptionWidth({&form.ComboALM[1]}) + kFieldGap + CaptionWidth({&form.lbAlmTrig}));
+  column.LabelsAtLeast(CaptionWidth({&form.ComboALM[controls::Alm::kTrigger]}) + kFieldGap +
+                       CaptionWidth({&form.lbAlmTrig}));
   AddEditor(column, form);
   column.Section("Frame15");
   AddTextRow(bindings, column, "TextTrigger", "cmdSetTrigger", ButtonPlace::kBelow);

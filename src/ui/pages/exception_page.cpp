@@ -81,7 +81,7 @@ QWidget* ExceptionOverview(Bindings& bindings) {
   const auto& app = bindings.Model();
   const auto widest = app.firmware.IsV1400() ? QStringLiteral("OUT 99999.99 - 99999.99")
                                              : QStringLiteral("OUT 9999.99 - 9999.99");
-  return BuildOverview(bindings, bindings.Model().frmMain.ComboExcp[0],
+  return BuildOverview(bindings, bindings.Model().frmMain.ComboExcp[controls::Excp::kNumber],
                        {QStringLiteral("ExceptionOverview"),
                         QStringLiteral("Overview of the exceptions"),
                         {{QStringLiteral("No."), QStringLiteral("24")},
@@ -189,8 +189,10 @@ QWidget* BuildExceptionPage(Bindings& bindings) {
   const auto& form = bindings.Model().frmMain;
   Page page(bindings, form.form, kColumnGap);
   auto& column = page.Column();
-  const int labels = CaptionWidth({&form.TextException, &form.ComboExcp[3], &form.ComboExcp[4],
-                                   &form.ComboExcepRe[2], &form.ComboScroll[0]});
+  const int labels = CaptionWidth({&form.TextException, &form.ComboExcp[controls::Excp::kHistory],
+                                   &form.ComboExcp[controls::Excp::kScroll],
+                                   &form.ComboExcepRe[controls::ExcepRe::kDuplicateLine],
+                                   &form.ComboScroll[controls::Scroll::kMatching]});
   column.LabelsAtLeast(labels);
   AddEditor(bindings, column);
   column.FullWidth(LowerPart(bindings, labels));
