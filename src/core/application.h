@@ -63,12 +63,12 @@ struct Application {
   // The configuration, and the three sections that streams are made of
   image::ConfigImage image;
   std::string SYSCFG, SYSFIXED, SYSSTR;
-  image::ConfigImage
-      known_image;  // what the start, a file or the unit gave, or a download left in the unit, last
+  image::ConfigImage known_image;          // the image after the last whole load or complete download
   image::ConfigImage sent_image;           // of the download under way
   std::vector<ApplyRoutine> Setting_Code;  // in the order in which panels are refreshed
 
-  // What a module does at a point that a lower module reaches. The wiring of the module sets it.
+  // Calls from a lower folder to a higher one, which it may not include. The wiring of the higher one sets
+  // them.
   Routine on_foreign_stream = nullptr;         // a stream belongs to another firmware; the message comes next
   Routine on_download_acknowledged = nullptr;  // the unit has accepted the download command
 

@@ -12,9 +12,10 @@ namespace ovl::core {
 // Sets the capability flags of the firmware. Every load and save calls it first.
 void PrepareCapabilities(Application& app);
 
-// Takes a stream, its lines joined, into the image: whole while the panels are not ready, else only the
-// fields that a register's default image sets. False, with a message, if it is another firmware's: the image
-// stays as it was. A stream without its end shows the fatal message and ends the program.
+// Reads a stream, whose lines are joined, into the image. While PanelsReady is false it reads all fields,
+// else only those that a register's default image sets. A stream of another firmware shows a message box and
+// gives false; the image does not change. A stream without its end shows the fatal message and ends the
+// program.
 bool LoadStream(Application& app, std::string_view stream);
 
 // The image as a stream in the given layout and region. The three sections stay in the application object.

@@ -27,8 +27,8 @@ inline constexpr LayoutSet kEvery = kV1400 | kV13;
 inline constexpr LayoutSet kLate = Bit(firmware::Layout::kLateV1400);
 inline constexpr LayoutSet kExtended = kLate | Bit(firmware::Layout::kNewV13);
 
-// These layouts have the field only from this release on. With `readers_only`, writers write it in every
-// release of the layout.
+// In these layouts, releases before this one do not have the field. With `readers_only` that holds only for
+// reading: the field is written in any case.
 struct Since {
   LayoutSet layouts = 0;
   int release = 0;

@@ -10,7 +10,9 @@
 namespace ovl::link {
 namespace {
 
-constexpr std::int16_t kEnqAt = 5;  // ticks of the keep-alive
+// Ticks of the keep-alive. The program asks at the first one. The answer resets the count at a later tick, so
+// it asks every kEnqAt + 1 ticks. Without an answer the connection ends at kHandcheckLimit.
+constexpr std::int16_t kEnqAt = 5;
 constexpr std::int16_t kHandcheckLimit = 30;
 constexpr std::int16_t kSilenceLimit = 6;  // ticks of the watchdog
 

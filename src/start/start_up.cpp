@@ -52,7 +52,7 @@ void WireOwnControls(core::Application& app) {
   app.frmAbout.Command1.handler = AboutOk_Click;
 }
 
-// A load refreshes the panels in this order.
+// A load runs all routines in this order. A pick in the register list runs those with `after_pick`.
 void OrderApplyRoutines(core::Application& app) {
   app.Setting_Code = {
       {registers::ApplyRegisterSelection, true},
