@@ -1,8 +1,10 @@
 // Only src/firmware knows what a family or a release means. All other code asks it.
 #include <gtest/gtest.h>
 
-#include <regex>
+#include <algorithm>
+#include <cctype>
 #include <set>
+#include <string_view>
 
 #include "unit/rules/source_files.h"
 
@@ -19,10 +21,45 @@ std::string CodeOf(const std::string& line) {
   return line;
 }
 
+bool IsWord(char character) {
+  return std::isalnum(static_cast<unsigned char>(character)) != 0 || character == '_';
+}
+
+// Whether the line holds a quote, the start given, and digits behind it: "V1400", "R6".
+bool NamesFirmware(std::string_view code, std::string_view start) {
+  for (auto at = code.find(start); at != std::string_view::npos; at = code.find(start, at + 1)) {
+    const auto rest = code.substr(at + start.size());
+    if (!rest.empty() && std::isdigit(static_cast<unsigned char>(rest.front())) != 0) return true;
+  }
+  return false;
+}
+
+// Whether a comparison follows. The sign of a template or a pointer is followed by a word at once.
+bool StartsWithComparison(std::string_view code) {
+  code.remove_prefix(std::min(code.find_first_not_of(' '), code.size()));
+  for (const auto* sign : {"==", "!=", "<=", ">="}) {
+    if (code.starts_with(sign)) return true;
+  }
+  return code.size() > 1 && (code[0] == '<' || code[0] == '>') && !IsWord(code[1]);
+}
+
+bool ComparesWord(std::string_view code, std::string_view word) {
+  for (auto at = code.find(word); at != std::string_view::npos; at = code.find(word, at + 1)) {
+    const bool whole = at == 0 || !IsWord(code[at - 1]);
+    if (whole && StartsWithComparison(code.substr(at + word.size()))) return true;
+  }
+  return false;
+}
+
 bool ComparesFirmware(const std::string& line) {
-  static const std::regex pattern(R"re("V1[34]\d\d|"R\d+"|\.Number\(\)|ReleaseNumber\(|)re"
-                                  R"re(\b(version|release|Joined\(\))\s*([=!<>]=|[<>](?!\w)))re");
-  return std::regex_search(CodeOf(line), pattern);
+  const auto code = CodeOf(line);
+  for (const auto* start : {"\"V13", "\"V14", "\"R"}) {
+    if (NamesFirmware(code, start)) return true;
+  }
+  for (const auto* word : {"version", "release", "Joined()"}) {
+    if (ComparesWord(code, word)) return true;
+  }
+  return code.find(".Number()") != std::string::npos || code.find("ReleaseNumber(") != std::string::npos;
 }
 
 TEST(FirmwareRules, FamiliesAndReleasesAreComparedInOneFolderOnly) {

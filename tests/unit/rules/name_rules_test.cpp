@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
-#include <regex>
+#include <string_view>
 
 #include "unit/rules/source_files.h"
 
@@ -15,21 +15,36 @@ struct Definition {
   std::string place;
 };
 
+// The name of the type whose definition the line begins; empty for every other line.
+std::string TypeIn(const std::string& line) {
+  for (const std::string_view kind : {"struct ", "class ", "enum class ", "enum "}) {
+    if (!line.starts_with(kind)) continue;
+    const auto end = line.find_first_not_of("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_",
+                                            kind.size());
+    const bool defines = line.find('{') != std::string::npos && line[end] == ' ';
+    if (defines) return line.substr(kind.size(), end - kind.size());
+  }
+  return {};
+}
+
 // The types that the file defines in a named namespace. The layout puts these definitions at the left edge.
 std::vector<Definition> DefinitionsIn(const SourceFile& file) {
-  static const std::regex kOpen("namespace ([\\w:]+) \\{"),
-      kType("(?:struct|class|enum class|enum) (\\w+)(?![\\w:])[^;]*\\{.*");
+  constexpr std::string_view kOpen = "namespace ";
   std::vector<Definition> definitions;
   std::string space;
   bool unnamed = false;
-  std::smatch match;
   for (std::size_t line = 0; line < file.lines.size(); ++line) {
     const auto& text = file.lines[line];
-    if (std::regex_match(text, match, kOpen)) space = match[1];
-    if (text == "namespace {") unnamed = true;
-    if (text == "}  // namespace") unnamed = false;
-    if (unnamed || !std::regex_match(text, match, kType)) continue;
-    definitions.push_back({space + "::" + match[1].str(), file.path + ":" + std::to_string(line + 1)});
+    if (text == "namespace {") {
+      unnamed = true;
+    } else if (text == "}  // namespace") {
+      unnamed = false;
+    } else if (text.starts_with(kOpen)) {
+      space = text.substr(kOpen.size(), text.find(' ', kOpen.size()) - kOpen.size());
+    }
+    const auto type = unnamed ? std::string() : TypeIn(text);
+    if (!type.empty())
+      definitions.push_back({space + "::" + type, file.path + ":" + std::to_string(line + 1)});
   }
   return definitions;
 }
