@@ -12,6 +12,9 @@
 namespace ovl::changes {
 namespace {
 
+using core::Editor;
+using core::ValueDisplay;
+
 // The list entry for some bits of a byte. The lowest of these bits has the value 1.
 std::size_t EntryFor(ValueDisplay display, int bits) {
   const auto at = static_cast<std::size_t>(bits);

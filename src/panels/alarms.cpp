@@ -11,6 +11,9 @@ namespace ovl::panels {
 namespace {
 
 using enum image::FieldId;
+using core::Part;
+using core::Place;
+using enum core::ValueDisplay;
 using controls::Alm;
 using controls::TriggerList;
 
@@ -123,6 +126,23 @@ void StoreMember(core::Application& app, int index) {
   }
 }
 
+constexpr std::array kEditors = {
+    core::Editor{ALMCFG_BAK, Place::kAlarmOutputs, "ComboALM(4)"},
+    core::Editor{ALMNORMAL_BAK, Place::kAlarmOutputs, "ComboALM(2)"},
+    core::Editor{FLAGDWLIND, Place::kAlarmOutputs, "ComboALM(5)"},
+    core::Editor{ALMSTRUCT_BAK, Place::kAlarmOutputs, "ComboALM(1)", core::kWholeByte, kNothing,
+                 Part::kFirstByte},
+    core::Editor{ALMSTRUCT_BAK, Place::kAlarmOutputs, "ComboALM(3)", core::kWholeByte, kNothing,
+                 Part::kDuration},
+    core::Editor{ALMSTRUCT_BAK, Place::kAlarmOutputs, "ComboALM(6)", core::kWholeByte, kNothing,
+                 Part::kVideoLoss},
+    core::Editor{TRIGGER_TEXT, Place::kAlarmOutputs, "TextTrigger", core::kWholeByte, kNothing, Part::kText},
+    core::Editor{TRIGGER_TEXT, Place::kAlarmOutputs, "ComboTrigger(0)", 0x01, kNothing, Part::kFirstByte},
+    core::Editor{TRIGGER_TEXT, Place::kAlarmOutputs, "ComboTrigger(1)", 0x02, kNothing, Part::kFirstByte},
+    core::Editor{TRIGGER_DELAY, Place::kAlarmOutputs, "ComboTrigger(2)"},
+    core::Editor{ALM_MODE, Place::kAlarmOutputs, "ComboALM(7)"},
+};
+
 }  // namespace
 
 void ApplyAlarmGlobals(core::Application& app) {
@@ -186,6 +206,10 @@ void TextTrigger_Change(core::Application& app, int) {
 
 void cmdSetTrigger_Click(core::Application& app, int) {
   EnterText(app, TextTarget::kTrigger);
+}
+
+std::span<const core::Editor> AlarmEditors() {
+  return kEditors;
 }
 
 }  // namespace ovl::panels

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/application.h"
+#include "core/editor.h"
 
 namespace ovl::panels {
 
@@ -17,5 +18,7 @@ void ComboTrigger_Click(core::Application& app, int index);
 void save_RTS_TRGGERED(core::Application& app);
 void TextTrigger_Change(core::Application& app, int index);
 void cmdSetTrigger_Click(core::Application& app, int index);
+
+std::span<const core::Editor> AlarmEditors();
 
 }  // namespace ovl::panels

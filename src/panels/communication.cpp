@@ -10,6 +10,8 @@ namespace ovl::panels {
 namespace {
 
 using enum image::FieldId;
+using core::Place;
+using enum core::ValueDisplay;
 using controls::Comm;
 
 constexpr int kDataBitsBit = 2;
@@ -73,6 +75,22 @@ int GatherFlags(core::Application& app, int member, int flags) {
   }
 }
 
+constexpr std::array kEditors = {
+    core::Editor{COMMCFG_BAK, Place::kCommunication, "ComboCOMM(3)", 0x03, kParity},
+    core::Editor{COMMCFG_BAK, Place::kCommunication, "ComboCOMM(4)", 0x04, kSetIsOn},
+    core::Editor{COMMCFG_BAK, Place::kCommunication, "ComboCOMM(5)", 0x20, kSetIsOff},
+    core::Editor{COMMCFG_BAK, Place::kCommunication, "ComboCOMM(6)", 0x08, kSetIsOff},
+    core::Editor{IOCFG_BAK, Place::kCommunication, "ComboCOMM(0)", core::kWholeByte, kPicked},
+    core::Editor{RX_BAUDRATE, Place::kCommunication, "ComboCOMM(1)", core::kWholeByte, kPicked},
+    core::Editor{TX_BAUDRATE, Place::kCommunication, "ComboCOMM(2)", core::kWholeByte, kPicked},
+    core::Editor{NET_ADDRESS, Place::kCommunication, "ComboCOMM(10)", core::kWholeByte, kPicked},
+    core::Editor{NET_TYPE, Place::kCommunication, "ComboCOMM(9)", core::kWholeByte, kPicked},
+    core::Editor{NET_PROTOCOL, Place::kCommunication, "ComboCOMM(11)", core::kWholeByte, kPicked},
+    core::Editor{TX_PROTOCOL, Place::kCommunication, "ComboCOMM(7)", core::kWholeByte, kPicked},
+    core::Editor{NET_BAUDRATE, Place::kCommunication, "ComboCOMM(12)", core::kWholeByte, kPicked},
+    core::Editor{SW_HANDSHAKE, Place::kCommunication, "ComboCOMM(8)", core::kWholeByte, kPicked},
+};
+
 }  // namespace
 
 void GatherInterfaceType(core::Application& app) {
@@ -132,6 +150,10 @@ void ApplyProtocolBaud(core::Application& app) {
   const int protocol = Member(app, Comm::kNetProtocol).position;
   if (protocol < 0) return;
   AssignPosition(app, Member(app, Comm::kNetSpeed), kSpeeds.at(static_cast<std::size_t>(protocol)));
+}
+
+std::span<const core::Editor> CommunicationEditors() {
+  return kEditors;
 }
 
 }  // namespace ovl::panels

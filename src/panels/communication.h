@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/application.h"
+#include "core/editor.h"
 
 namespace ovl::panels {
 
@@ -14,5 +15,7 @@ void GatherInterfaceType(core::Application& app);
 // Enables the network lists that have a meaning for the selected type.
 void ApplyNetworkRules(core::Application& app);
 void ApplyProtocolBaud(core::Application& app);
+
+std::span<const core::Editor> CommunicationEditors();
 
 }  // namespace ovl::panels

@@ -1,10 +1,15 @@
 #include "panels/demo.h"
 
+#include <array>
+
 #include "firmware/traits.h"
 #include "panels/panel.h"
 
 namespace ovl::panels {
 namespace {
+
+using enum image::FieldId;
+using core::Place;
 
 constexpr int kOnBit = 7;
 constexpr int kCharactersBit = 6;
@@ -18,6 +23,10 @@ void Store(core::Application& app, int keep, int value) {
   if (!app.PanelsReady || !firmware::StoresDemo(app.firmware)) return;
   Field(app) = codecs::ByteToHex((codecs::HexToInt(Field(app)) & keep) | value);
 }
+
+constexpr std::array kEditors = {
+    core::Editor{DEMO_ENABLE, Place::kRemote, "DemoMode CharacterList DemoType DemoSpeed"},
+};
 
 }  // namespace
 
@@ -70,6 +79,10 @@ void DemoSpeed_Click(core::Application& app, int) {
   } else if (app.firmware.IsV1400()) {
     Store(app, 0xC0, position + 1);
   }
+}
+
+std::span<const core::Editor> DemoEditors() {
+  return kEditors;
 }
 
 }  // namespace ovl::panels

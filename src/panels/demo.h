@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/application.h"
+#include "core/editor.h"
 
 namespace ovl::panels {
 
@@ -10,5 +11,7 @@ void DemoMode_Click(core::Application& app, int index);
 void CharacterList_Click(core::Application& app, int index);
 void DemoType_Click(core::Application& app, int index);
 void DemoSpeed_Click(core::Application& app, int index);
+
+std::span<const core::Editor> DemoEditors();
 
 }  // namespace ovl::panels

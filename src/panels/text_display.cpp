@@ -10,6 +10,8 @@ namespace ovl::panels {
 namespace {
 
 using enum image::FieldId;
+using core::Place;
+using enum core::ValueDisplay;
 using controls::Dip;
 using controls::Td;
 
@@ -62,6 +64,21 @@ int GatherBlankTime(core::Application& app, int flags) {
   return flags & time.mask;
 }
 
+constexpr std::array kEditors = {
+    core::Editor{DSPLINES_BAK, Place::kText, "ComboDIP(1)", core::kWholeByte, kPicked},
+    core::Editor{DSPCFG_BAK, Place::kText, "ComboDIP(0)", 0x01},
+    core::Editor{DSPCFG_BAK, Place::kText, "ComboDIP(2)", 0x02, kSetIsOn},
+    core::Editor{DSPCFG_BAK, Place::kText, "ComboDIP(3)", 0x04, kSetIsOn},
+    core::Editor{DSPCFG_BAK, Place::kText, "ComboDIP(4)", 0x40, kSetIsOn},
+    core::Editor{DSPCFG_BAK, Place::kText, "ComboDIP(5)", 0x08, kSetIsOn},
+    core::Editor{DSPCFG_BAK, Place::kText, "ComboDIP(6)", 0x20, kSetIsOn},
+    core::Editor{BLNKVAL, Place::kText, "ComboDIP(0)", core::kWholeByte, kPicked},
+    core::Editor{BLNKIND, Place::kText, "ComboDIP(0)", core::kWholeByte, kPicked},
+    core::Editor{SPCOMPRES_BAK, Place::kText, "ComboDIP(7)", core::kWholeByte, kPicked},
+    core::Editor{DSPCHARS_BAK, Place::kText, "ComboDIP(8)", core::kWholeByte, kPicked},
+    core::Editor{BLNKRTS_BAK, Place::kText, "ComboDIP(0)", core::kWholeByte, kPicked},
+};
+
 }  // namespace
 
 void ApplyDisplay(core::Application& app) {
@@ -104,6 +121,10 @@ void ApplyLineRule(core::Application& app) {
                           (form.ComboTD[Td::kTitler].position == 1 ? 1 : 0);
   const int position = Member(app, Dip::kLines).position;
   if (position >= 0) AssignPosition(app, Member(app, Dip::kLines), std::max(position, lines_taken));
+}
+
+std::span<const core::Editor> DisplayEditors() {
+  return kEditors;
 }
 
 }  // namespace ovl::panels

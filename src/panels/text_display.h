@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/application.h"
+#include "core/editor.h"
 
 namespace ovl::panels {
 
@@ -10,5 +11,7 @@ void ComboDIP_Click(core::Application& app, int index);
 
 // The clock and the title each need a line of the picture. Raises the number of display lines if necessary.
 void ApplyLineRule(core::Application& app);
+
+std::span<const core::Editor> DisplayEditors();
 
 }  // namespace ovl::panels

@@ -11,6 +11,8 @@ namespace ovl::panels {
 namespace {
 
 using enum image::FieldId;
+using core::Place;
+using enum core::ValueDisplay;
 using controls::Td;
 
 constexpr std::array kDaylightCodes = {"01", "02", "04", "06", "08", "0A"};
@@ -24,6 +26,17 @@ void GatherDisplayBit(core::Application& app, int member, int bit) {
   ApplyLineRule(app);
   app.image[DSPCFG_BAK] = codecs::ByteToHex(flags);
 }
+
+constexpr std::array kEditors = {
+    core::Editor{DSPCFG_BAK, Place::kTime, "ComboTD(0)", 0x80, kSetIsOn},
+    core::Editor{DSPCFG_BAK, Place::kTime, "ComboTD(5)", 0x10, kSetIsOn},
+    core::Editor{TIME_FORMAT_BAK, Place::kTime, "ComboTD(1)"},
+    core::Editor{DATE_FORMAT_BAK, Place::kTime, "ComboTD(2)"},
+    core::Editor{TD_LOCKING_BAK, Place::kTime, "ComboTD(4)"},
+    core::Editor{DAYLIGHT_BAK, Place::kTime, "ComboTD(3)"},
+    core::Editor{LANGUAGE_BAK, Place::kTime, "ComboLang"},
+    core::Editor{ONSCRNTITL, Place::kTime, "Title_Text"},
+};
 
 }  // namespace
 
@@ -68,6 +81,10 @@ void ComboTD_Click(core::Application& app, int index) {
 
 void ComboLang_Click(core::Application& app, int) {
   if (app.PanelsReady) app.image[LANGUAGE_BAK] = codecs::ByteToHex(app.frmMain.ComboLang.position);
+}
+
+std::span<const core::Editor> TimeDateEditors() {
+  return kEditors;
 }
 
 }  // namespace ovl::panels

@@ -9,6 +9,8 @@ namespace ovl::registers {
 namespace {
 
 using enum image::FieldId;
+using core::Place;
+using enum core::ValueDisplay;
 
 constexpr std::size_t kEcrDigits = 7;
 constexpr std::array kEcrFields = {ECRDIGIT_1, ECRDIGIT_2, ECRDIGIT_3, ECRDIGIT_4,
@@ -82,6 +84,28 @@ bool ArrangePanel(core::Application& app) {
   }
 }
 
+constexpr std::array kEditors = {
+    core::Editor{DV_ADDRIND_BAK, Place::kMicros, "ComboMICROSADD"},
+    core::Editor{DEVICE_INDEX_BAK, Place::kMicros, "ComboMICROS"},
+    core::Editor{REGDV_TYPE_BAK, Place::kMicros, "ComboISN(0)"},
+    core::Editor{REG_GNA_BAK, Place::kMicros, "ComboISN(1)"},
+    core::Editor{REG_LNA_BAK, Place::kMicros, "ComboISN(2)"},
+    core::Editor{REG_IDNA_BAK, Place::kMicros, "ComboISN(3)"},
+    core::Editor{PCDV_TYPE_BAK, Place::kMicros, "ComboISN(4)"},
+    core::Editor{PC_GNA_BAK, Place::kMicros, "ComboISN(5)"},
+    core::Editor{PC_LNA_BAK, Place::kMicros, "ComboISN(6)"},
+    core::Editor{PC_IDNA_BAK, Place::kMicros, "ComboISN(7)"},
+    core::Editor{MICROS_STATUS, Place::kMicros, "ComboMODE", 0x01, kSetIsOn},
+    core::Editor{REGTYPE_EXT2, Place::kMicros, "HandSHKCombo"},
+    core::Editor{ECRDIGIT_7, Place::kMicros, "ECRNumber"},
+    core::Editor{ECRDIGIT_6, Place::kMicros, "ECRNumber"},
+    core::Editor{ECRDIGIT_5, Place::kMicros, "ECRNumber"},
+    core::Editor{ECRDIGIT_4, Place::kMicros, "ECRNumber"},
+    core::Editor{ECRDIGIT_3, Place::kMicros, "ECRNumber"},
+    core::Editor{ECRDIGIT_2, Place::kMicros, "ECRNumber"},
+    core::Editor{ECRDIGIT_1, Place::kMicros, "ECRNumber"},
+};
+
 }  // namespace
 
 void ShowMicrosPanel(core::Application& app) {
@@ -130,6 +154,10 @@ void ECRNumber_Leave(core::Application& app, int) {
 
 void frmMicros_Unload(core::Application& app, int) {
   ForgetSelections(app);
+}
+
+std::span<const core::Editor> MicrosEditors() {
+  return kEditors;
 }
 
 }  // namespace ovl::registers

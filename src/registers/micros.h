@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/application.h"
+#include "core/editor.h"
 
 namespace ovl::registers {
 
@@ -16,5 +17,7 @@ void cmdISNset_Click(core::Application& app, int index);
 void CMD3700Set_Click(core::Application& app, int index);
 void ECRNumber_Leave(core::Application& app, int index);
 void frmMicros_Unload(core::Application& app, int index);
+
+std::span<const core::Editor> MicrosEditors();
 
 }  // namespace ovl::registers

@@ -8,6 +8,7 @@ namespace ovl::registers {
 namespace {
 
 using enum image::FieldId;
+using core::Place;
 using firmware::FamilySet;
 using Row = RegisterRow;
 using Frame = controls::OptionFrame;
@@ -148,10 +149,23 @@ constexpr std::array kRegisters = {
     Options("VISHAY WEIGHBRIDGE", kV1310, Frame::kWeighbridge, "", &Form::OpVWEIGHBRIDGE),
 };
 
+constexpr std::array kEditors = {
+    core::Editor{UNITADDR, Place::kRegister, ""},        core::Editor{DV_ADDRIND_BAK, Place::kRegister, ""},
+    core::Editor{TCIADDBAK_1, Place::kRegister, ""},     core::Editor{TCIADDBAK_2, Place::kRegister, ""},
+    core::Editor{TCIADDBAK_3, Place::kRegister, ""},     core::Editor{GTITLE_NF_BAK, Place::kRegister, ""},
+    core::Editor{REGTYPE, Place::kRegister, "ComboReg"}, core::Editor{REGTYPE_MINOR, Place::kRegister, ""},
+    core::Editor{REGTYPE_EXT1, Place::kRegister, ""},    core::Editor{REGTYPE_EXT2, Place::kRegister, ""},
+    core::Editor{IPADDRESS, Place::kRegister, ""},
+};
+
 }  // namespace
 
 std::span<const RegisterRow> RegisterTable() {
   return kRegisters;
+}
+
+std::span<const core::Editor> RegisterEditors() {
+  return kEditors;
 }
 
 }  // namespace ovl::registers

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "core/application.h"
+#include "core/editor.h"
 #include "firmware/traits.h"
 
 namespace ovl::registers {
@@ -33,5 +34,7 @@ struct RegisterRow {
 };
 
 std::span<const RegisterRow> RegisterTable();
+
+std::span<const core::Editor> RegisterEditors();
 
 }  // namespace ovl::registers

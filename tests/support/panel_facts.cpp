@@ -85,6 +85,14 @@ const std::vector<Writer>& OtherWriters() {
   return rows;
 }
 
+const std::set<image::FieldId>& CarriedFields() {
+  static const std::set<image::FieldId> fields = {
+      EXECENTRY,   MPDCFG_BAK,     MPDCOMMCFG_BAK, MPDRXBAUDRATE, MPDTXBAUDRATE,   XATMNOTX,   XATMNORX,
+      SITE_NO_BAK, GPS_CONFIG_BAK, HPADDR_BAK,     VPADDR_BAK,    HSADDR_BAK,      GOADDR_BAK, DISP_POS_BAK,
+      FLAGDWLVAL,  IGSCFG_BAK,     DSPROW,         DSPCOL,        HARDWARE_CFG_BAK};
+  return fields;
+}
+
 std::vector<std::string> ListsOf(Group group) {
   std::vector<std::string> lists;
   for (const auto& row : OtherWriters()) {

@@ -2,6 +2,7 @@
 // program. A new field of a panel is one row in panel_facts.cpp.
 #pragma once
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -39,6 +40,9 @@ struct Writer {
   RecordPart part = RecordPart::kAll;
 };
 const std::vector<Writer>& OtherWriters();
+
+// The fields that no control edits.
+const std::set<image::FieldId>& CarriedFields();
 
 // The lists of a group, in an order in which a later pick takes nothing from an earlier one.
 std::vector<std::string> ListsOf(Group group);

@@ -1,5 +1,7 @@
 #include "panels/exceptions/dvr.h"
 
+#include <array>
+
 #include "firmware/traits.h"
 #include "panels/panel.h"
 
@@ -7,6 +9,7 @@ namespace ovl::panels {
 namespace {
 
 using enum image::FieldId;
+using core::Place;
 
 constexpr int kFirstLabel = 12;  // the labels of the lists have consecutive numbers
 
@@ -23,6 +26,12 @@ void TakeHistoryIds(core::Application& app, const controls::List& destination, c
   if (destination.position >= 0) app.image[HIST_DEST_ID] = codecs::ByteToHex(destination.position + 1);
   if (source.position >= 0) app.image[HIST_SRC_ID] = codecs::ByteToHex(source.position + 1);
 }
+
+constexpr std::array kEditors = {
+    core::Editor{HIST_REG, Place::kExceptionReport, "OpDVR"},
+    core::Editor{HIST_DEST_ID, Place::kExceptionReport, "ComboKLM4011(0)"},
+    core::Editor{HIST_SRC_ID, Place::kExceptionReport, "ComboKLM4011(1)"},
+};
 
 }  // namespace
 
@@ -62,6 +71,10 @@ void StoreRecorder(core::Application& app) {
   app.image[HIST_REG] = codecs::ByteToHex(form.OpDVR.chosen);
   if (form.OpDVR.chosen == 1) TakeHistoryIds(app, form.ComboKLM4011[0], form.ComboKLM4011[1]);
   if (form.OpDVR.chosen == 2) TakeHistoryIds(app, form.ComboKLM4011[2], form.ComboKLM4011[3]);
+}
+
+std::span<const core::Editor> DvrEditors() {
+  return kEditors;
 }
 
 }  // namespace ovl::panels

@@ -1,9 +1,24 @@
 #include "panels/exceptions/exception_report.h"
 
+#include <array>
+
 #include "image/slot_records.h"
 #include "panels/panel.h"
 
 namespace ovl::panels {
+namespace {
+
+using enum image::FieldId;
+using core::Place;
+using enum core::ValueDisplay;
+
+constexpr std::array kEditors = {
+    core::Editor{COMMCFG_BAK, Place::kExceptionReport, "ComboExcepRe(0)", 0x10, kSetIsOn},
+    core::Editor{TIMESTAMP_ENA, Place::kExceptionReport, "ComboExcepRe(1)", core::kWholeByte, kPicked},
+    core::Editor{DUPLINE_BAK, Place::kExceptionReport, "ComboExcepRe(2)", core::kWholeByte, kPicked},
+};
+
+}  // namespace
 
 using controls::ExcepRe;
 void ApplyTimeStamp(core::Application& app) {
@@ -26,6 +41,10 @@ void ComboExcepRe_Click(core::Application& app, int index) {
   if (index == ExcepRe::kDuplicateLine)
     app.image[image::FieldId::DUPLINE_BAK] = codecs::ByteToHex(lists[ExcepRe::kDuplicateLine].position);
   RefreshSavedIndexes(app, "ComboExcepRe", lists);
+}
+
+std::span<const core::Editor> ExceptionReportEditors() {
+  return kEditors;
 }
 
 }  // namespace ovl::panels

@@ -11,6 +11,11 @@
 namespace ovl::panels {
 namespace {
 
+using enum image::FieldId;
+using core::Part;
+using core::Place;
+using enum core::ValueDisplay;
+
 using controls::Excp;
 
 // The lists that are stored in one bit of the flags.
@@ -47,6 +52,16 @@ void ApplyScrollRule(core::Application& app) {
     lists[member].enabled = !matching;
   }
 }
+
+constexpr std::array kEditors = {
+    core::Editor{EXCPSTRS, Place::kExceptionReport, "TextException", core::kWholeByte, kNothing, Part::kText},
+    core::Editor{EXCPSTRS, Place::kExceptionReport, "cmdSetRange", core::kWholeByte, kNothing, Part::kRange},
+    core::Editor{EXCPSTRS, Place::kExceptionReport, "ComboExcp(1)", 0x01, kNothing, Part::kFirstByte},
+    core::Editor{EXCPSTRS, Place::kExceptionReport, "ComboExcp(2)", 0x02, kNothing, Part::kFirstByte},
+    core::Editor{EXCPSTRS, Place::kExceptionReport, "ComboExcp(3)", 0x20, kNothing, Part::kFirstByte},
+    core::Editor{EXCPSTRS, Place::kExceptionReport, "ComboExcp(4)", 0x40, kNothing, Part::kFirstByte},
+    core::Editor{EXCPSTRS, Place::kExceptionReport, "ComboExcp(5)", 0x0C, kNothing, Part::kFirstByte},
+};
 
 }  // namespace
 
@@ -103,6 +118,10 @@ void TextException_Change(core::Application& app, int) {
 
 void cmdSetExcpstr_Click(core::Application& app, int) {
   EnterText(app, TextTarget::kException);
+}
+
+std::span<const core::Editor> ExceptionEditors() {
+  return kEditors;
 }
 
 }  // namespace ovl::panels

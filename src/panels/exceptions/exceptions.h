@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/application.h"
+#include "core/editor.h"
 
 namespace ovl::panels {
 
@@ -20,5 +21,7 @@ std::string* ShownSlot(core::Application& app);
 
 // The character between integer and decimal digits on the printout of the register.
 const char* DecimalSeparator(const core::Application& app);
+
+std::span<const core::Editor> ExceptionEditors();
 
 }  // namespace ovl::panels

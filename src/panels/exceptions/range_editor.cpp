@@ -10,6 +10,9 @@
 namespace ovl::panels {
 namespace {
 
+using enum image::FieldId;
+using core::Place;
+
 // The four text boxes in the order of their digits in a slot.
 std::array<controls::TextBox*, 4> Fields(controls::RangeForm& form) {
   return {&form.Range_Hi, &form.SubRange_Hi, &form.Range_Low, &form.SubRange_Low};
@@ -47,6 +50,10 @@ void FillFromSlot(core::Application& app) {
     fields[2 * value + 1]->text = decimals;
   }
 }
+
+constexpr std::array kEditors = {
+    core::Editor{DECIMAL_POINT_BAK, Place::kRange, "frmSetRange.ComboDec"},
+};
 
 }  // namespace
 
@@ -110,6 +117,10 @@ void RangeSet_Click(core::Application& app, int) {
     image::StoreRange(*slot, app.firmware, digits);
   }
   UnloadForm(app, dialog.form);
+}
+
+std::span<const core::Editor> RangeEditors() {
+  return kEditors;
 }
 
 }  // namespace ovl::panels

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/application.h"
+#include "core/editor.h"
 
 namespace ovl::panels {
 
@@ -13,5 +14,7 @@ void RangeField_Leave(core::Application& app, int index);
 void ComboDec_Click(core::Application& app, int index);
 void RangeClear_Click(core::Application& app, int index);
 void RangeSet_Click(core::Application& app, int index);
+
+std::span<const core::Editor> RangeEditors();
 
 }  // namespace ovl::panels

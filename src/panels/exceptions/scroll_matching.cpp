@@ -1,8 +1,20 @@
 #include "panels/exceptions/scroll_matching.h"
 
+#include <array>
+
 #include "core/actions.h"
 
 namespace ovl::panels {
+namespace {
+
+using enum image::FieldId;
+using core::Place;
+
+constexpr std::array kEditors = {
+    core::Editor{SCROLLMATCH_BAK, Place::kExceptionReport, "ComboScroll(0) ComboScroll(1)"},
+};
+
+}  // namespace
 
 using controls::Scroll;
 
@@ -26,6 +38,10 @@ void ComboScroll_Click(core::Application& app, int index) {
   const int timeout = lists[Scroll::kTimeout].position;
   app.image[image::FieldId::SCROLLMATCH_BAK] = codecs::ByteToHex(timeout);
   AssignPosition(app, lists[Scroll::kMatching], timeout == 0 ? 0 : 1);
+}
+
+std::span<const core::Editor> ScrollMatchingEditors() {
+  return kEditors;
 }
 
 }  // namespace ovl::panels

@@ -3,9 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "firmware/firmware_table.h"
 #include "image/field_map.h"
 #include "support/harness.h"
+#include "support/panel_facts.h"
 
 namespace ovl::testing {
 namespace {
@@ -63,6 +66,16 @@ TEST(Editors, NameOnlyTheControlsThatStoreTheDifference) {
     EXPECT_EQ(changes::EditedBy(harness.app, field, "options"), labels);
 }
 
+// A field is either edited by a control, or it is read, kept and written back.
+TEST(Editors, AreMissingOnlyForTheFieldsThatAreCarriedThrough) {
+  for (const auto& field : image::FieldTable()) {
+    const auto editors = changes::Editors();
+    const bool edited = std::any_of(editors.begin(), editors.end(),
+                                    [&](const auto& editor) { return editor.field == field.id; });
+    EXPECT_NE(edited, CarriedFields().count(field.id) == 1) << field.name;
+  }
+}
+
 // A missing caption would show only when a user looks at the changes under that firmware.
 TEST(Editors, HaveCaptionsUnderEveryFirmware) {
   for (const auto& entry : firmware::FirmwareTable()) {
@@ -82,7 +95,7 @@ TEST(Editors, APickChangesOnlyTheBitsOfItsEditor) {
   auto& app = harness.app;
   for (const auto& editor : changes::Editors()) {
     const bool of_main =
-        editor.display != changes::ValueDisplay::kNothing && editor.place != changes::Place::kMicros;
+        editor.display != core::ValueDisplay::kNothing && editor.place != core::Place::kMicros;
     if (!of_main || editor.controls == "ComboCOMM(6)") continue;
     const auto& list = *std::get<controls::List*>(app.registry.Find(editor.controls)->control);
     int changed = 0;
@@ -91,8 +104,7 @@ TEST(Editors, APickChangesOnlyTheBitsOfItsEditor) {
       harness.Pick(editor.controls, position);
       changed |= before ^ codecs::HexToInt(app.image[editor.field]);
     }
-    EXPECT_TRUE(editor.bits == changes::kWholeByte ? changed != 0 : changed == editor.bits)
-        << editor.controls;
+    EXPECT_TRUE(editor.bits == core::kWholeByte ? changed != 0 : changed == editor.bits) << editor.controls;
     ++tried;
   }
   EXPECT_GE(tried, 28);
