@@ -29,10 +29,11 @@ inline constexpr std::int16_t kLinkIdle = 255;
 
 using Routine = void (*)(Application&);
 
-// Refreshes one panel from the image.
+// Refreshes one panel from the image: after every load, or also after a pick in the register list.
+enum class ApplyWhen { kAfterLoad, kAfterLoadAndPick };
 struct ApplyRoutine {
   Routine run;
-  bool after_pick;  // also runs after a pick in the register list
+  ApplyWhen when;
 };
 
 struct Application {

@@ -28,7 +28,7 @@ void TakeDefaultImage(core::Application& app) {
   PrepareCapabilities(app);
   LoadStream(app, app.StreamText);
   for (const auto& routine : app.Setting_Code) {
-    if (first || routine.after_pick) routine.run(app);
+    if (first || routine.when == core::ApplyWhen::kAfterLoadAndPick) routine.run(app);
   }
 }
 

@@ -52,17 +52,18 @@ void WireOwnControls(core::Application& app) {
   app.frmAbout.Command1.handler = AboutOk_Click;
 }
 
-// A load runs all routines in this order. A pick in the register list runs those with `after_pick`.
+// The register comes first, because its options force selections whose bytes the other panels then show.
 void OrderApplyRoutines(core::Application& app) {
+  using enum core::ApplyWhen;
   app.Setting_Code = {
-      {registers::ApplyRegisterSelection, true},
-      {panels::ApplyCommunication, true},
-      {panels::ApplyDemo, true},
-      {panels::ApplyDisplay, false},
-      {panels::ApplyTimeDate, false},
-      {panels::ApplyExceptionPanel, false},
-      {panels::ApplyDvr, false},
-      {panels::ApplyAlarmGlobals, false},
+      {registers::ApplyRegisterSelection, kAfterLoadAndPick},
+      {panels::ApplyCommunication, kAfterLoadAndPick},
+      {panels::ApplyDemo, kAfterLoadAndPick},
+      {panels::ApplyDisplay, kAfterLoad},
+      {panels::ApplyTimeDate, kAfterLoad},
+      {panels::ApplyExceptionPanel, kAfterLoad},
+      {panels::ApplyDvr, kAfterLoad},
+      {panels::ApplyAlarmGlobals, kAfterLoad},
   };
 }
 

@@ -50,7 +50,8 @@ TEST(Upload, AFailureInsideStopsItUntilTheWatchdogEndsIt) {
     if (no_file) {
       std::filesystem::create_directories(UploadFile(program) + "/inside");
     } else {
-      app.Setting_Code.push_back({[](core::Application&) { throw core::Failure("panel", "broken"); }, false});
+      app.Setting_Code.push_back(
+          {[](core::Application&) { throw core::Failure("panel", "broken"); }, core::ApplyWhen::kAfterLoad});
     }
     const auto image = app.image;
     program.Unit(PatternStream(kV1400, 7));
