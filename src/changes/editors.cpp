@@ -54,9 +54,8 @@ std::string PlaceOf(const core::Application& app, Place place) {
 std::string CaptionOf(const core::Application& app, std::string_view name) {
   const auto* control = app.registry.Find(name);
   if (control == nullptr) throw std::logic_error("there is no control " + std::string(name));
-  auto caption = Trimmed(controls::StateOf(control->control).caption);
+  auto caption = PlainCaption(control->control);
   if (caption.empty()) throw std::logic_error(control->name + " has no caption");
-  if (caption.back() == ':') caption.pop_back();
   return caption;
 }
 
@@ -129,6 +128,12 @@ std::span<const Editor> Editors() {
     return all;
   }();
   return editors;
+}
+
+std::string PlainCaption(const controls::ControlRef& control) {
+  auto caption = Trimmed(controls::StateOf(control).caption);
+  if (!caption.empty() && caption.back() == ':') caption.pop_back();
+  return caption;
 }
 
 std::string EditedBy(const core::Application& app, image::FieldId field, std::string_view options) {

@@ -134,8 +134,12 @@ Outcome Dispatch(Application& app, const Event& event) {
 }
 
 Outcome DispatchStart(Application& app, void (*start)(Application&)) {
+  return DispatchAct(app, [&] { start(app); });
+}
+
+Outcome DispatchAct(Application& app, const std::function<void()>& act) {
   return Guarded(app, [&] {
-    start(app);
+    act();
     return true;
   });
 }

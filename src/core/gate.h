@@ -2,6 +2,7 @@
 // or file dialog is open, every other event is refused: received bytes wait in the platform, ticks are lost.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <variant>
 
@@ -56,7 +57,9 @@ enum class Outcome {
 
 Outcome Dispatch(Application& app, const Event& event);
 
-// Runs the start of the program under the same rules.
+// Runs something else that changes the model under the same rules: the start of the program, an act that is
+// not an event of a control.
 Outcome DispatchStart(Application& app, void (*start)(Application&));
+Outcome DispatchAct(Application& app, const std::function<void()>& act);
 
 }  // namespace ovl::core

@@ -97,10 +97,12 @@ void Session::Start() {
   CurrentLine().close();
   if (real_ != nullptr) OpenRealPorts();
   time_.Forget();
+  history_.reset();
   app_ = std::make_unique<core::Application>();
   app_->platform = MakePlatform();
   end_printed_ = false;
   start::StartProgram(*app_);
+  history_ = std::make_unique<acts::ActHistory>(*app_);
   Settle();
 }
 
@@ -115,8 +117,13 @@ controls::ControlRef Session::Control(const std::string& name) {
   return named->control;
 }
 
+acts::ActHistory& Session::History() {
+  App();
+  return *history_;
+}
+
 core::Outcome Session::Act(const core::Event& event) {
-  const auto outcome = Dispatch(App(), event);
+  const auto outcome = History().Act(event);
   Settle();
   DeliverReceived();
   return outcome;

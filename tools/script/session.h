@@ -9,6 +9,7 @@
 #include <string>
 #include <utility>
 
+#include "acts/act_history.h"
 #include "core/gate.h"
 #include "host/settings_store.h"
 #include "script/simulated_line.h"
@@ -51,6 +52,8 @@ class Session {
   bool Started() const { return app_ != nullptr; }
   bool Ended() const { return app_ != nullptr && app_->ended; }
   controls::ControlRef Control(const std::string& name);
+
+  acts::ActHistory& History();
 
   // Dispatches one event, and then the events of the line that are due.
   core::Outcome Act(const core::Event& event);
@@ -95,6 +98,7 @@ class Session {
   SimulatedLine simulated_;
   core::SerialLine simulated_operations_;
   std::unique_ptr<core::Application> app_;
+  std::unique_ptr<acts::ActHistory> history_;
   bool end_printed_ = false;
   std::unique_ptr<RealLine> real_;
   core::SerialLine real_operations_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <vector>
 
 #include "image/field_map.h"
 #include "script/expectations.h"
@@ -11,6 +12,7 @@
 #include "script/real_transfer.h"
 #include "script/reports.h"
 #include "script/stop.h"
+#include "script/undo_statements.h"
 #include "script/variables.h"
 
 namespace ovl::script {
@@ -252,7 +254,7 @@ void Set(Session& session, Arguments& arguments) {
   const auto field = FieldNamed(arguments.Bare("NAME"));
   const auto text = arguments.Next("HEX");
   arguments.End();
-  field.In(session.App().image) = text;
+  session.History().Run(field.Name(), [&] { field.In(session.App().image) = text; });
 }
 
 void Var(Session& session, Arguments& arguments) {
@@ -343,13 +345,19 @@ constexpr auto kStatements = std::to_array<Statement>({
 }  // namespace
 
 std::span<const Statement> Statements() {
-  return kStatements;
+  static const auto all = [] {
+    std::vector<Statement> statements(kStatements.begin(), kStatements.end());
+    for (const auto more : {UndoStatements()}) statements.insert(statements.end(), more.begin(), more.end());
+    return statements;
+  }();
+  return all;
 }
 
 const Statement* FindStatement(std::string_view word) {
-  const auto found = std::find_if(kStatements.begin(), kStatements.end(),
-                                  [word](const Statement& at) { return at.word == word; });
-  return found == kStatements.end() ? nullptr : &*found;
+  const auto all = Statements();
+  const auto found =
+      std::find_if(all.begin(), all.end(), [word](const Statement& at) { return at.word == word; });
+  return found == all.end() ? nullptr : &*found;
 }
 
 }  // namespace ovl::script

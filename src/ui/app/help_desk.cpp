@@ -5,9 +5,9 @@
 #include <QKeyEvent>
 #include <QTabWidget>
 
-#include "ui/app/main_window.h"
 #include "ui/dialogs/boxes.h"
 #include "ui/help/help_topics.h"
+#include "ui/window/main_window.h"
 
 namespace ovl::ui {
 namespace {

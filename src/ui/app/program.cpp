@@ -9,8 +9,8 @@
 #include "host/system_clock.h"
 #include "host/text_codec.h"
 #include "start/start_up.h"
-#include "ui/app/status_strip.h"
 #include "ui/dialogs/boxes.h"
+#include "ui/window/status_strip.h"
 
 namespace ovl::ui {
 namespace {
@@ -73,7 +73,10 @@ void Program::FillPlatform() {
 core::Outcome Program::Start() {
   const auto outcome = start::StartProgram(app_);
   if (outcome == core::Outcome::kEnded) return outcome;
-  windows_ = std::make_unique<Windows>(app_, [this](const core::Event& event) { return Act(event); });
+  history_ = std::make_unique<acts::ActHistory>(app_);
+  windows_ = std::make_unique<Windows>(
+      app_, [this](const core::Event& event) { return Act(event); },
+      UndoActs{history_.get(), [this] { Undo(); }, [this] { Redo(); }});
   windows_->Main().Status().port_problem = [this] { return port_.LastProblem(); };
   CollectTimers();
   RefreshNow();
@@ -110,11 +113,28 @@ void Program::CollectTimers() {
 
 core::Outcome Program::Act(const core::Event& event) {
   const auto outcome =
-      windows_ && !app_.handling && changes::IsAct(event) ? DispatchUserAct(event) : Dispatch(app_, event);
+      windows_ && !app_.handling && changes::IsAct(event) ? DispatchUserAct(event) : DispatchAny(event);
   if (unsaved_ && outcome == core::Outcome::kEnded)
     IsLeaving(event) ? unsaved_->Remove() : unsaved_->WriteNow();
   AfterEvent(outcome);
   return outcome;
+}
+
+void Program::Undo() {
+  history_->Undo();
+  windows_->SetAlsoStored({});
+  AfterEvent(core::Outcome::kDone);
+}
+
+void Program::Redo() {
+  history_->Redo();
+  windows_->SetAlsoStored({});
+  AfterEvent(core::Outcome::kDone);
+}
+
+// Before the start is complete there is no history yet.
+core::Outcome Program::DispatchAny(const core::Event& event) {
+  return history_ ? history_->Act(event) : Dispatch(app_, event);
 }
 
 // True when the user ends the program, false when a file or an upload ends it.
@@ -127,7 +147,7 @@ bool Program::IsLeaving(const core::Event& event) {
 
 core::Outcome Program::DispatchUserAct(const core::Event& event) {
   const auto before = app_.image;
-  const auto outcome = Dispatch(app_, event);
+  const auto outcome = DispatchAny(event);
   if (outcome == core::Outcome::kDone) {
     windows_->SetAlsoStored(host::FromWindows1252(changes::AlsoStored(app_, event, before)));
   }

@@ -6,6 +6,7 @@
 #include <memory>
 #include <vector>
 
+#include "acts/act_history.h"
 #include "core/gate.h"
 #include "host/serial_port.h"
 #include "host/settings_store.h"
@@ -36,6 +37,10 @@ class Program {
   // it, the windows close at once and the event loop ends.
   core::Outcome Act(const core::Event& event);
 
+  // Take back the last act, or repeat the one taken back last.
+  void Undo();
+  void Redo();
+
   // Updates the screen now and does not wait for the next frame.
   void RefreshNow();
 
@@ -54,6 +59,7 @@ class Program {
   void FillPlatform();
   bool IsLeaving(const core::Event& event);
   core::Outcome DispatchUserAct(const core::Event& event);
+  core::Outcome DispatchAny(const core::Event& event);
   void CollectTimers();
   void AfterEvent(core::Outcome outcome);
   void UpdateTimer(TimerState& timer);
@@ -66,6 +72,7 @@ class Program {
   host::SettingsStore store_;
   std::string store_problem_;
   host::SerialPort port_;
+  std::unique_ptr<acts::ActHistory> history_;  // of the started program
   std::unique_ptr<UnsavedCopy> unsaved_;
   std::unique_ptr<Windows> windows_;
   std::vector<TimerState> timers_;

@@ -6,7 +6,6 @@
 #include <QMenu>
 #include <algorithm>
 
-#include "ui/app/status_strip.h"
 #include "ui/dialogs/about_window.h"
 #include "ui/dialogs/boxes.h"
 #include "ui/dialogs/link_windows.h"
@@ -14,6 +13,7 @@
 #include "ui/dialogs/text_windows.h"
 #include "ui/help/manuals.h"
 #include "ui/kit/mnemonics.h"
+#include "ui/window/status_strip.h"
 
 namespace ovl::ui {
 namespace {
@@ -30,10 +30,10 @@ void ApplyLayoutRequests() {
 
 }  // namespace
 
-Windows::Windows(core::Application& app, ActFunction act)
+Windows::Windows(core::Application& app, ActFunction act, UndoActs undo_acts)
     : app_(app),
       bindings_(app, std::move(act), [this](const QString& hint) { main_->Status().ShowHint(hint); }),
-      main_(std::make_unique<MainWindow>(bindings_)),
+      main_(std::make_unique<MainWindow>(bindings_, std::move(undo_acts))),
       forms_({{app.frmSettSR.form, BuildPortSettingsWindow, false},
               {app.frmScanBProgress.form, BuildScanProgressWindow, false},
               {app.frmOK_buttom.form, BuildTransferEndWindow, false},
@@ -98,6 +98,7 @@ void Windows::Refresh() {
   for (auto& form : forms_) {
     if (form.window == nullptr && form.Wanted()) Build(form);
   }
+  main_->Undo().history->Observe();
   const bool reshaped = bindings_.Refresh();
   if (reshaped) RenewMnemonics();
   ShowForms();

@@ -1,21 +1,22 @@
 // All windows of the program for one model.
 #pragma once
 
+#include <QTabWidget>
 #include <QTimer>
 #include <memory>
 #include <vector>
 
 #include "ui/app/help_desk.h"
-#include "ui/app/main_window.h"
 #include "ui/dialogs/form_window.h"
 #include "ui/kit/bindings.h"
+#include "ui/window/main_window.h"
 
 namespace ovl::ui {
 
 class Windows {
  public:
   // The model must be started already, so that menus and lists are complete.
-  Windows(core::Application& app, ActFunction act);
+  Windows(core::Application& app, ActFunction act, UndoActs undo_acts);
 
   // Updates everything on the screen from the model.
   void Refresh();
@@ -38,8 +39,8 @@ class Windows {
   HelpDesk& Help() const { return *help_; }
   const Bindings& Controls() const { return bindings_; }
 
-  // The line below the current page about the last act. The next refresh shows it.
-  void SetAlsoStored(const QString& words) { bindings_.SetAlsoStored(words); }
+  // The line below the current tab about the last act. The next refresh shows it.
+  void SetAlsoStored(const QString& words) { bindings_.SetAlsoStored(words, main_->Tabs().currentIndex()); }
 
  private:
   using Builder = FormWindow* (*)(Bindings& bindings, QWidget* parent);

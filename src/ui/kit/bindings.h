@@ -90,9 +90,12 @@ class Bindings {
   // Updates all widgets from the model. True when something was shown, hidden or renamed.
   bool Refresh();
 
-  // The line below the current page that says what else the last act has stored. The next refresh shows it.
-  void SetAlsoStored(const QString& words) { also_stored_ = words; }
-  const QString& AlsoStored() const { return also_stored_; }
+  // The line below a tab that says what else the last act there has stored. The next refresh shows it.
+  void SetAlsoStored(const QString& words, int tab) {
+    also_stored_ = words;
+    also_stored_tab_ = tab;
+  }
+  QString AlsoStored(int tab) const { return tab == also_stored_tab_ ? also_stored_ : QString(); }
 
   // The widget that gets the focus for a control of the model; null when the control has no widget.
   QWidget* WidgetOf(const controls::ControlState& control) const;
@@ -120,6 +123,7 @@ class Bindings {
   ActFunction act_;
   HintFunction hint_;
   QString also_stored_;
+  int also_stored_tab_ = 0;
   std::deque<std::function<bool()>> refreshes_;
   std::map<const controls::ControlState*, QWidget*> widgets_;
 };

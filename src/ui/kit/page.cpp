@@ -3,11 +3,22 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QScrollArea>
+#include <QStackedWidget>
 #include <QVBoxLayout>
 #include <algorithm>
 
 namespace ovl::ui {
 namespace {
+
+// The tab in which the widget is.
+int TabOf(const QWidget& widget) {
+  int tab = -1;
+  for (auto* at = &widget; at != nullptr; at = at->parentWidget()) {
+    auto* stack = qobject_cast<QStackedWidget*>(at->parentWidget());
+    if (stack != nullptr) tab = stack->indexOf(const_cast<QWidget*>(at));
+  }
+  return tab;
+}
 
 QLabel* AlsoStoredLabel(Bindings& bindings) {
   auto* label = MutedLabel({});
@@ -15,9 +26,10 @@ QLabel* AlsoStoredLabel(Bindings& bindings) {
   label->setWordWrap(true);
   label->setVisible(false);
   bindings.OnRefresh([&bindings, label, shown = ChangeDetector<QString>()]() mutable {
-    if (!shown.Update(bindings.AlsoStored())) return false;
-    label->setText(bindings.AlsoStored());
-    label->setVisible(!bindings.AlsoStored().isEmpty());
+    const auto words = bindings.AlsoStored(TabOf(*label));
+    if (!shown.Update(words)) return false;
+    label->setText(words);
+    label->setVisible(!words.isEmpty());
     return false;
   });
   return label;

@@ -46,7 +46,7 @@ std::string CheckFrames(const core::Application& app) {
 }  // namespace
 
 CheckedProgram::CheckedProgram(const firmware::FirmwareId& stored, Digest* digest)
-    : digest_(digest), session_(printed_, printed_) {
+    : digest_(digest), session_(printed_, printed_), undo_(session_) {
   session_.SetClock({});
   session_.StoreSetting("Version", stored.version);
   session_.StoreSetting("Release", stored.release);
@@ -63,7 +63,8 @@ std::string CheckedProgram::Do(const std::string& line) {
   printed_.str({});
   session_.TakeSent();
   while (session_.TakeBox()) continue;
-  return Ended() ? std::string() : CheckImage(line) + CheckLists(App()) + CheckFrames(App());
+  const auto wrong = Ended() ? std::string() : CheckImage(line) + CheckLists(App()) + CheckFrames(App());
+  return wrong + undo_.AfterStatement();
 }
 
 void CheckedProgram::AddToDigest() {

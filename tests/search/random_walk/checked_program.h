@@ -6,6 +6,7 @@
 
 #include "image/config_image.h"
 #include "script/session.h"
+#include "search/random_walk/undo_check.h"
 #include "support/digest.h"
 
 namespace ovl::testing {
@@ -37,6 +38,7 @@ class CheckedProgram {
   Digest* digest_;
   std::ostringstream printed_;  // what the script printed
   script::Session session_;
+  UndoCheck undo_;
   image::ConfigImage before_;
   bool whole_ = true;
 };

@@ -23,6 +23,8 @@ const std::map<std::string, Folders> kModel = {
     {"registers", {"codecs", "controls", "firmware", "image", "core", "files"}},
     {"changes", {"codecs", "controls", "firmware", "image", "core", "files", "panels", "registers"}},
     {"link", {"codecs", "controls", "firmware", "image", "core", "files"}},
+    {"acts",
+     {"codecs", "controls", "firmware", "image", "core", "files", "panels", "registers", "changes", "link"}},
     {"start",
      {"codecs", "controls", "firmware", "image", "core", "files", "panels", "changes", "registers", "link"}},
 };
@@ -35,7 +37,8 @@ const std::map<std::string, Folders> kWindows = {
     {"ui/help", {"ui/kit"}},
     {"ui/pages", {"ui/kit", "ui/frames"}},
     {"ui/dialogs", {"ui/kit", "ui/pages"}},
-    {"ui/app", {"ui/kit", "ui/help", "ui/pages", "ui/dialogs"}},
+    {"ui/window", {"ui/kit", "ui/pages", "ui/dialogs"}},
+    {"ui/app", {"ui/kit", "ui/help", "ui/pages", "ui/dialogs", "ui/window"}},
 };
 
 std::string RoomOf(const std::string& path) {

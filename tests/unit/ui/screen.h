@@ -18,8 +18,8 @@
 #include "images/default_images.h"
 #include "support/harness.h"
 #include "ui/app/program.h"
-#include "ui/app/status_strip.h"
 #include "ui/kit/theme.h"
+#include "ui/window/status_strip.h"
 
 namespace ovl::testing {
 

@@ -1,4 +1,4 @@
-#include "ui/app/main_window.h"
+#include "ui/window/main_window.h"
 
 #include <QCloseEvent>
 #include <QMenuBar>
@@ -13,10 +13,10 @@
 #include <utility>
 
 #include "host/text_codec.h"
-#include "ui/app/status_strip.h"
 #include "ui/dialogs/changes_window.h"
 #include "ui/kit/box_layouts.h"
 #include "ui/pages/pages.h"
+#include "ui/window/status_strip.h"
 
 namespace ovl::ui {
 namespace {
@@ -35,18 +35,19 @@ void FocusFirstUsable(QWidget& start) {
 
 }  // namespace
 
-MainWindow::MainWindow(Bindings& bindings)
+MainWindow::MainWindow(Bindings& bindings, UndoActs undo_acts)
     : bindings_(bindings),
+      undo_acts_(std::move(undo_acts)),
       tabs_(new QTabWidget),
       status_(new StatusStrip(bindings)),
       changes_(new ChangesWindow(bindings.Model(), this)) {
   const auto& form = bindings_.Model().frmMain.form;
   setObjectName(host::FromWindows1252(form.name));
-  setWindowTitle(host::FromWindows1252(form.caption));
   setMinimumSize(kLeastSize);
   resize(kStartSize.boundedTo(screen()->availableSize()));
   BuildTabs();
   BuildMenus();
+  BindTitle();
   statusBar()->setSizeGripEnabled(false);
   statusBar()->addWidget(status_, 1);
   changes_button_ = BuildChangesButton(bindings, *changes_);
@@ -131,8 +132,22 @@ void MainWindow::BuildMenus() {
   keys(changes, QKeySequence(Qt::CTRL | Qt::Key_D));
   file->addSeparator();
   keys(bindings_.Item(*file, form.menuExit), QKeySequence(Qt::CTRL | Qt::Key_Q));
+  BuildEditMenu(*menuBar(), bindings_, undo_acts_);
   BuildVersionMenu();
   help_menu_ = bindings_.SubMenu(*menuBar(), form.HelpMenu);
+}
+
+// Where the image comes from, with an asterisk when it differs from what was loaded or sent: "shop12.bin* -
+// OVL Software".
+void MainWindow::BindTitle() {
+  bindings_.OnRefresh([this, origin = ChangeDetector<std::string>()]() mutable {
+    const auto& app = bindings_.Model();
+    if (origin.Update(undo_acts_.history->Origin()))
+      setWindowTitle(host::FromSystem(undo_acts_.history->Origin()) + QStringLiteral("[*] - ") +
+                     host::FromWindows1252(app.frmMain.form.caption));
+    setWindowModified(app.image != app.known_image);
+    return false;
+  });
 }
 
 void MainWindow::BuildVersionMenu() {

@@ -7,6 +7,7 @@
 
 #include "ui/kit/bindings.h"
 #include "ui/kit/mnemonics.h"
+#include "ui/window/edit_menu.h"
 
 class QPushButton;
 class QTabWidget;
@@ -21,11 +22,12 @@ class MainWindow : public QMainWindow {
   // The size on a screen that has room for it.
   static constexpr QSize kStartSize{1040, 700};
 
-  explicit MainWindow(Bindings& bindings);
+  MainWindow(Bindings& bindings, UndoActs undo_acts);
 
   QTabWidget& Tabs() const { return *tabs_; }
   StatusStrip& Status() const { return *status_; }
   ChangesWindow& Changes() const { return *changes_; }
+  const UndoActs& Undo() const { return undo_acts_; }
   QMenu& HelpMenu() const { return *help_menu_; }
 
   // Builds the next missing page; false when there is none.
@@ -56,10 +58,12 @@ class MainWindow : public QMainWindow {
   bool BuildPage(int tab);
   void BindTabs();
   void BuildMenus();
+  void BindTitle();
   void BuildVersionMenu();
   void EnableAsModelSays();
 
   Bindings& bindings_;
+  UndoActs undo_acts_;
   QTabWidget* tabs_;
   StatusStrip* status_;
   ChangesWindow* changes_;

@@ -1,4 +1,4 @@
-#include "ui/app/status_strip.h"
+#include "ui/window/status_strip.h"
 
 #include <QFile>
 #include <QHBoxLayout>

@@ -1,0 +1,178 @@
+#include "acts/act_history.h"
+
+#include <utility>
+
+#include "acts/act_names.h"
+
+namespace ovl::acts {
+namespace {
+
+constexpr const char* kUploadFile = "upload.bin";
+
+bool IsOfInstaller(const core::Event& event) {
+  return !std::holds_alternative<core::TickEvent>(event) &&
+         !std::holds_alternative<core::ReceivedEvent>(event) &&
+         !std::holds_alternative<core::DrainedEvent>(event) &&
+         !std::holds_alternative<core::PointEvent>(event);
+}
+
+// Keeps the shared value if it is equal to the present one.
+template <class Value>
+bool Update(std::shared_ptr<const Value>& kept, const Value& now) {
+  if (kept != nullptr && *kept == now) return false;
+  kept = std::make_shared<const Value>(now);
+  return true;
+}
+
+}  // namespace
+
+ActHistory::ActHistory(core::Application& app) : app_(app), controls_(SettingsControls(app)) {
+  for (const auto& control : controls_) memories_.push_back(Remember(control));
+  TakeMoment();
+  now_.origin = app.frmMain.ComboReg.Text();
+}
+
+core::Outcome ActHistory::Act(const core::Event& event) {
+  if (app_.handling || !IsOfInstaller(event)) return core::Dispatch(app_, event);
+  Observe();
+  auto name = NameOf(app_, event);
+  const auto outcome = core::Dispatch(app_, event);
+  if (outcome != core::Outcome::kDone) return outcome;
+  const bool opened = app_.known_image != *now_.known_image && IsOpen(app_, event);
+  auto origin = opened ? FileNameOf(app_.CurrentFilePath) : now_.origin;
+  if (opened) name += " " + origin;
+  Add(std::move(name), std::move(origin));
+  return outcome;
+}
+
+core::Outcome ActHistory::Run(std::string name, const std::function<void()>& act) {
+  if (app_.handling) return core::Outcome::kBusy;
+  Observe();
+  const auto outcome = core::DispatchAct(app_, act);
+  if (outcome == core::Outcome::kDone) Add(std::move(name), now_.origin);
+  return outcome;
+}
+
+void ActHistory::Observe() {
+  if (app_.handling || app_.ended) return;
+  const bool image_changed = app_.image != *now_.image;
+  const bool path_changed = app_.CurrentFilePath != now_.variables->CurrentFilePath;
+  if (image_changed || (path_changed && FileNameOf(app_.CurrentFilePath) == kUploadFile))
+    return Add("Upload", "Uploaded " + TimeOfDay(app_));
+  if (app_.known_image != *now_.known_image) ForgetKnownImages();
+  auto changed = TakeControls();
+  const bool moved = TakeMoment();
+  if (changed.empty() && !moved) return;
+  // What the line changes apart from an upload belongs to the act before it.
+  ForgetRedo();
+  if (entries_.empty()) return;
+  auto& last = entries_.back();
+  last.after = now_;
+  for (auto& change : changed) last.controls.push_back(std::move(change));
+}
+
+std::vector<ActHistory::ControlChange> ActHistory::TakeControls() {
+  std::vector<ControlChange> changed;
+  for (std::size_t at = 0; at < controls_.size(); ++at) {
+    if (IsAsRemembered(controls_[at], memories_[at])) continue;
+    auto now = Remember(controls_[at]);
+    changed.push_back({at, std::exchange(memories_[at], now), now});
+  }
+  return changed;
+}
+
+bool ActHistory::TakeMoment() {
+  const bool image = Update(now_.image, app_.image);
+  const bool known_image = Update(now_.known_image, app_.known_image);
+  const bool variables = Update(now_.variables, VariablesNow());
+  return image || known_image || variables;
+}
+
+ActHistory::Variables ActHistory::VariablesNow() const {
+  return {app_.ImageTouched, app_.PanelsReady,     app_.UploadApplying,
+          app_.ComboTouched, app_.CurrentFilePath, app_.SavedIndexes};
+}
+
+void ActHistory::Add(std::string name, std::string origin) {
+  auto before = now_;
+  auto changed = TakeControls();
+  const bool moved = TakeMoment();
+  now_.origin = std::move(origin);
+  if (changed.empty() && !moved) return;
+  ForgetRedo();
+  ++recorded_;
+  entries_.push_back({std::move(name), std::move(before), now_, std::move(changed)});
+  if (entries_.size() > kActs) entries_.pop_front();
+  done_ = entries_.size();
+}
+
+void ActHistory::ForgetRedo() {
+  entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(done_), entries_.end());
+}
+
+// After a complete download the unit has another image than before. No undo can change that, so the image
+// that the Changes window compares with is not put back any more.
+void ActHistory::ForgetKnownImages() {
+  for (auto& entry : entries_) entry.before.known_image = entry.after.known_image = nullptr;
+}
+
+bool ActHistory::IsHeld() const {
+  const bool transfer = app_.frmMain.Timer_Operating.enabled || app_.DownloadRequested || app_.DownloadActive;
+  return app_.ended || app_.handling || transfer || !app_.frmMain.form.enabled;
+}
+
+const std::string* ActHistory::NextUndo() const {
+  return IsHeld() || done_ == 0 ? nullptr : &entries_[done_ - 1].name;
+}
+
+const std::string* ActHistory::NextRedo() const {
+  return IsHeld() || done_ == entries_.size() ? nullptr : &entries_[done_].name;
+}
+
+bool ActHistory::Undo() {
+  Observe();
+  if (NextUndo() == nullptr) return false;
+  const auto& entry = entries_[--done_];
+  core::DispatchAct(app_, [&] {
+    for (auto change = entry.controls.rbegin(); change != entry.controls.rend(); ++change)
+      PutBackControl(change->control, change->before);
+    PutBackMoment(entry.after, entry.before);
+  });
+  return true;
+}
+
+bool ActHistory::Redo() {
+  Observe();
+  if (NextRedo() == nullptr) return false;
+  const auto& entry = entries_[done_++];
+  core::DispatchAct(app_, [&] {
+    for (const auto& change : entry.controls) PutBackControl(change.control, change.after);
+    PutBackMoment(entry.before, entry.after);
+  });
+  return true;
+}
+
+void ActHistory::PutBackControl(std::size_t control, const ControlMemory& memory) {
+  PutBack(controls_[control], memory);
+  memories_[control] = memory;
+}
+
+void ActHistory::PutBackMoment(const Moment& from, const Moment& to) {
+  app_.image = *to.image;
+  now_.image = to.image;
+  if (to.known_image != nullptr && to.known_image != from.known_image) {
+    app_.known_image = *to.known_image;
+    now_.known_image = to.known_image;
+  }
+  const auto& variables = *to.variables;
+  app_.ImageTouched = variables.ImageTouched;
+  app_.PanelsReady = variables.PanelsReady;
+  app_.UploadApplying = variables.UploadApplying;
+  app_.ComboTouched = variables.ComboTouched;
+  app_.CurrentFilePath = variables.CurrentFilePath;
+  app_.SavedIndexes = variables.SavedIndexes;
+  now_.variables = to.variables;
+  now_.origin = to.origin;
+}
+
+}  // namespace ovl::acts

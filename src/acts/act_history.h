@@ -1,0 +1,99 @@
+// Undo and redo. The model is data, so the history keeps what an act changed and puts it back as it was; no
+// handler runs. Port, link and timers are not part of it.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "acts/control_memory.h"
+#include "core/gate.h"
+
+namespace ovl::acts {
+
+class ActHistory {
+ public:
+  static constexpr std::size_t kActs = 200;  // older ones are forgotten
+
+  // Begins with the present state of the program, which has started. The application object must outlive this
+  // object.
+  explicit ActHistory(core::Application& app);
+
+  // Dispatches an event. If it is an act of the installer and changes the image or a control of the settings,
+  // it can be undone.
+  core::Outcome Act(const core::Event& event);
+
+  // The same for an act of our own, which runs inside the gate.
+  core::Outcome Run(std::string name, const std::function<void()>& act);
+
+  // Takes in what the line has changed since the last act, such as a finished upload. To be called before the
+  // names are shown.
+  void Observe();
+
+  // The name of the act that would be undone or redone: "ALARM DURATION", "Open shop12.bin", "Upload". Null:
+  // there is none, or a transfer or a window holds the settings.
+  const std::string* NextUndo() const;
+  const std::string* NextRedo() const;
+
+  // False: there is nothing to undo or redo now.
+  bool Undo();
+  bool Redo();
+
+  // The number of acts that were recorded since the start, including those that were undone or forgotten.
+  std::size_t Recorded() const { return recorded_; }
+
+  // Where the image comes from: "GENERIC", "shop12.bin", "Uploaded 11:08".
+  const std::string& Origin() const { return now_.origin; }
+
+ private:
+  // State variables that belong to the settings.
+  struct Variables {
+    bool ImageTouched, PanelsReady, UploadApplying, ComboTouched;
+    std::string CurrentFilePath;
+    decltype(core::Application::SavedIndexes) SavedIndexes;
+
+    bool operator==(const Variables&) const = default;
+  };
+
+  // All of the program that is undone but for the controls. Equal parts are shared.
+  struct Moment {
+    std::shared_ptr<const image::ConfigImage> image, known_image;
+    std::shared_ptr<const Variables> variables;
+    std::string origin;
+  };
+
+  struct ControlChange {
+    std::size_t control;
+    ControlMemory before, after;
+  };
+
+  struct Entry {
+    std::string name;
+    Moment before, after;
+    std::vector<ControlChange> controls;
+  };
+
+  bool IsHeld() const;
+  Variables VariablesNow() const;
+  // Both compare the program with its last state and keep the new one. They return what has changed.
+  std::vector<ControlChange> TakeControls();
+  bool TakeMoment();
+  // Adds an entry with what has changed. Without a change it adds none.
+  void Add(std::string name, std::string origin);
+  void ForgetRedo();
+  void ForgetKnownImages();
+  void PutBackControl(std::size_t control, const ControlMemory& memory);
+  void PutBackMoment(const Moment& from, const Moment& to);
+
+  core::Application& app_;
+  std::vector<controls::ControlRef> controls_;
+  std::vector<ControlMemory> memories_;  // of controls_, after the last act
+  Moment now_;
+  std::deque<Entry> entries_;
+  std::size_t recorded_ = 0;
+  std::size_t done_ = 0;  // the entries from here on can be redone
+};
+
+}  // namespace ovl::acts

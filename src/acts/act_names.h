@@ -1,0 +1,23 @@
+// How the menu names an act of the installer.
+#pragma once
+
+#include <string>
+
+#include "core/gate.h"
+
+namespace ovl::acts {
+
+// In the words of the form: "ALARM DURATION", "Register", "Open". To be called before the event is
+// dispatched.
+std::string NameOf(const core::Application& app, const core::Event& event);
+
+// Whether the event opens a file.
+bool IsOpen(const core::Application& app, const core::Event& event);
+
+// The last part of a path.
+std::string FileNameOf(const std::string& path);
+
+// "11:08"
+std::string TimeOfDay(const core::Application& app);
+
+}  // namespace ovl::acts
