@@ -1,10 +1,8 @@
 // The program and the unit in software, connected to each other, under every firmware.
 #include <gtest/gtest.h>
 
-#include <optional>
 #include <set>
 #include <tuple>
-#include <utility>
 
 #include "image/report.h"
 #include "images/default_images.h"
@@ -85,63 +83,6 @@ TEST(EveryFirmware, AChangeOnEveryTabReachesTheUnitAndNothingElse) {
   for (const auto& firmware : testing::EveryFirmware()) {
     SCOPED_TRACE(firmware.Joined());
     ChangeEveryTab(firmware);
-  }
-}
-
-// Starts the program, sets its clock, enters remote mode and does what the button starts.
-void Converse(Harness& program, SimulatedUnit& device, const char* button) {
-  ASSERT_EQ(program.Start(), core::Outcome::kDone);
-  program.now = {2026, 3, 5, 14, 7, 9};
-  program.Tick(program.app.frmMain.Timer, 11);
-  program.Click("cmdConnect");
-  program.Click("frmSettSR.cmdSET");
-  HoldRemoteMode(program, device);
-  program.Click(button);
-  Exchange(program, device);
-}
-
-TEST(OneShot, HistoriesOfAnyLengthAreSavedAndOpenedUnchanged) {
-  for (const int lines : {0, 1, 5000}) {
-    SCOPED_TRACE(lines);
-    std::string history;
-    for (int line = 0; line < lines; ++line) history += "LINE " + std::to_string(line) + "\r\n";
-    Harness program({"V1400", "R12"});
-    SimulatedUnit device({.history = history, .speed = 0});
-    program.file_answers.assign(2, program.folder.File("history.txt"));
-    Converse(program, device, "CmdUpDow(3)");
-    EXPECT_FALSE(program.app.HistoryPending);
-    program.Click("OpenHistory_menu");
-    EXPECT_TRUE(program.app.frmView.Text.text == history + "\r\n");
-    EXPECT_TRUE(program.NoBoxLeft());
-  }
-}
-
-TEST(OneShot, AnAnswerIsReportedAndSilenceEndsByTheWatchdogOrByDisconnect) {
-  const std::string failure = "- Connection Fail -";
-  const std::vector<std::tuple<const char*, std::string, std::string, bool>> rows{
-      {"CmdUpDow(2)", "clock", "SET TIME DATE FINISHED.", true},
-      {"CmdUpDow(3)", "history", "", false},
-      {"CmdUpDow(5)", "reset", "       Master Reset Done.", false}};
-  for (const auto& [button, operation, box, has_watchdog] : rows) {
-    SCOPED_TRACE(operation);
-    Harness done({"V1400", "R12"}), refused({"V1400", "R12"}), waiting({"V1400", "R12"});
-    SimulatedUnit willing({.speed = 0}), refusing({.faults = "refuse:" + operation, .speed = 0}),
-        silent({.faults = "silent:" + operation, .speed = 0});
-    Converse(done, willing, button);
-    EXPECT_EQ(done.TakeBox().text, box);
-    EXPECT_EQ(willing.kept_clock, operation == "clock" ? "03-05-26 14:07:09" : "");
-    EXPECT_TRUE(willing.complaints.empty());
-
-    Converse(refused, refusing, button);
-    EXPECT_EQ(refused.TakeBox().title, failure);
-    EXPECT_FALSE(refused.app.frmMain.MSComm1.PortOpen);
-
-    Converse(waiting, silent, button);
-    waiting.Tick(waiting.app.frmMain.Timer_Operating, 6);
-    EXPECT_EQ(waiting.TakeBox().title, has_watchdog ? failure : "");
-    EXPECT_EQ(waiting.app.frmMain.MSComm1.PortOpen, !has_watchdog);
-    if (!has_watchdog) waiting.Click("cmdDisConnect");
-    EXPECT_FALSE(waiting.app.HistoryPending || waiting.app.MasterResetPending);
   }
 }
 

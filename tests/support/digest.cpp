@@ -15,6 +15,7 @@ void AddFace(Digest& digest, const controls::ControlState& face) {
 
 // The properties that only some kinds of controls have.
 void AddRest(Digest&, const controls::ControlState*) {}
+void AddRest(Digest&, const controls::OptionElement&) {}
 void AddRest(Digest& digest, const controls::CheckBox* box) {
   digest.Add(box->checked ? 1 : 0);
 }
@@ -52,13 +53,7 @@ void AddRest(Digest& digest, const controls::Form* form) {
 
 void AddControl(Digest& digest, const controls::ControlRef& control) {
   AddFace(digest, controls::StateOf(control));
-  if (std::holds_alternative<controls::OptionElement>(control)) return;
-  std::visit(
-      [&](const auto& held) {
-        if constexpr (!std::is_same_v<std::decay_t<decltype(held)>, controls::OptionElement>)
-          AddRest(digest, held);
-      },
-      control);
+  std::visit([&](const auto& held) { AddRest(digest, held); }, control);
 }
 
 // The program folder of a test has another name in each run.
@@ -68,44 +63,26 @@ std::string WithoutFolder(std::string text, const std::string& folder) {
 }
 
 void AddLink(Digest& digest, const core::Application& app) {
-  for (const std::int64_t number :
-       {std::int64_t{app.LinkMode}, std::int64_t{app.FrameState}, std::int64_t{app.ProgressChars},
-        std::int64_t{app.ProgressValue}, std::int64_t{app.HandcheckCount}, std::int64_t{app.OperatingCount},
-        std::int64_t{app.ClockTickCount}, std::int64_t{app.ScanIndex}, std::int64_t{app.PortNumber},
-        std::int64_t{app.TextEntryMode}, std::int64_t{app.frmMain.MSComm1.CommEvent},
-        std::int64_t{app.frmMain.MSComm1.CommPort}})
-    digest.Add(number);
+  const auto add_numbers = [&](auto... numbers) { (digest.Add(std::int64_t{numbers}), ...); };
+  const auto add_texts = [&](const auto&... texts) {
+    (digest.Add(WithoutFolder(texts, app.platform.program_folder)), ...);
+  };
+  const auto& comm = app.frmMain.MSComm1;
+  add_numbers(app.LinkMode, app.FrameState, app.ProgressChars, app.ProgressValue, app.HandcheckCount,
+              app.OperatingCount, app.ClockTickCount, app.ScanIndex, app.PortNumber, app.TextEntryMode,
+              comm.CommEvent, comm.CommPort);
   std::int64_t flags = 0;
   for (const bool flag :
        {app.RemoteHeld, app.ScanActive, app.DownloadRequested, app.DownloadActive, app.FinalAckExpected,
         app.SetTimePending, app.HistoryPending, app.MasterResetPending, app.ImageTouched, app.PanelsReady,
-        app.UploadApplying, app.ComboTouched, app.handling, app.ended, app.frmMain.MSComm1.PortOpen})
+        app.UploadApplying, app.ComboTouched, app.handling, app.ended, comm.PortOpen})
     flags = 2 * flags + (flag ? 1 : 0);
   digest.Add(flags);
-  for (const auto* text : {&app.SYSCFG,
-                           &app.SYSFIXED,
-                           &app.SYSSTR,
-                           &app.PendingOutput,
-                           &app.LastSent,
-                           &app.LastReceived,
-                           &app.StreamBuffer,
-                           &app.StreamScratch,
-                           &app.HistoryText,
-                           &app.PortBaud,
-                           &app.PortParity,
-                           &app.PortDataBits,
-                           &app.ClockHour,
-                           &app.ClockMinute,
-                           &app.ClockSecond,
-                           &app.ClockDay,
-                           &app.ClockMonth,
-                           &app.ClockYear,
-                           &app.CurrentFilePath,
-                           &app.StreamText,
-                           &app.DiagnosticText,
-                           &app.StatusNote,
-                           &app.frmMain.MSComm1.Settings})
-    digest.Add(WithoutFolder(*text, app.platform.program_folder));
+  add_texts(app.SYSCFG, app.SYSFIXED, app.SYSSTR, app.PendingOutput, app.LastSent, app.LastReceived,
+            app.StreamBuffer, app.StreamScratch, app.HistoryText, app.PortBaud, app.PortParity,
+            app.PortDataBits, app.ClockHour, app.ClockMinute, app.ClockSecond, app.ClockDay, app.ClockMonth,
+            app.ClockYear, app.CurrentFilePath, app.StreamText, app.DiagnosticText, app.StatusNote,
+            comm.Settings);
 }
 
 void AddImage(Digest& digest, const image::ConfigImage& image) {

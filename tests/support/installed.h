@@ -21,8 +21,7 @@
 namespace ovl::testing {
 
 // Bytes of the image text, counted from 0. Those of the fixed section differ by family.
-inline constexpr int kLineFlags = 1, kInterface = 2, kReceiveSpeed = 3, kTransmitSpeed = 4, kUnitAddress = 11,
-                     kConsole = 13, kTciAddress = 14, kTitle = 17;
+inline constexpr int kReceiveSpeed = 3, kUnitAddress = 11;
 
 // The default images that exist at the start. With kOwn the test writes its own and starts the program
 // itself.

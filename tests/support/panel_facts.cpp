@@ -11,7 +11,7 @@ const std::vector<Selection>& Selections() {
       {"ComboCOMM(2)", TX_BAUDRATE, 0xFF, 0, 1, 11},
       {"ComboCOMM(7)", TX_PROTOCOL, 0xFF, 0, 1, 5},
       {"ComboCOMM(8)", SW_HANDSHAKE, 0xFF, 0, 1, 3},
-      {"ComboCOMM(12)", NET_BAUDRATE, 0xFF, 0, 1, 10, kApart},
+      {"ComboCOMM(12)", NET_BAUDRATE, 0xFF, 0, 1, 10},
       {"ComboCOMM(4)", COMMCFG_BAK, 0x04, 0, 0x04, 2},
       {"ComboCOMM(5)", COMMCFG_BAK, 0x20, 0x20, -0x20, 2},
       {"ComboExcepRe(0)", COMMCFG_BAK, 0x10, 0, 0x10, 2, kPanel, {TIMESTAMP_ENA}},
@@ -34,19 +34,19 @@ const std::vector<Selection>& Selections() {
       {"ComboScroll(1)", SCROLLMATCH_BAK, 0xFF, 0, 1, 6},
       {"ComboALM(4)", ALMCFG_BAK, 0x07, 0, 1, 5},
       {"ComboALM(5)", FLAGDWLIND, 0xFF, 0, 2, 121},
-      {"OpDVR", HIST_REG, 0xFF, 0, 1, 3, kApart},
+      {"OpDVR", HIST_REG, 0xFF, 0, 1, 3},
       {"ComboKLM4011(0)", HIST_DEST_ID, 0xFF, 1, 1, 32},
       {"ComboKLM4011(1)", HIST_SRC_ID, 0xFF, 1, 1, 32},
       {"ComboKLM4011(2)", HIST_DEST_ID, 0xFF, 1, 1, 32},
       {"ComboKLM4011(3)", HIST_SRC_ID, 0xFF, 1, 1, 32},
       {"ComboCOMM(10)", NET_ADDRESS, 0xFF, 0, 1, 17, kNetwork},
-      {"ComboTrigger(0)", TRIGGER_TEXT, 0x01, 0, 0x01, 2, kAlarm},
-      {"ComboTrigger(1)", TRIGGER_TEXT, 0x02, 0, 0x02, 2, kAlarm},
-      {"ComboExcp(4)", EXCPSTRS, 0x40, 0, 0x40, 2, kSlot},
-      {"ComboExcp(1)", EXCPSTRS, 0x01, 0, 0x01, 2, kSlot},
-      {"ComboExcp(2)", EXCPSTRS, 0x02, 0, 0x02, 2, kSlot},
-      {"ComboExcp(3)", EXCPSTRS, 0x20, 0, 0x20, 2, kSlot},
-      {"ComboExcp(5)", EXCPSTRS, 0x0C, 0, 0x04, 3, kSlot},
+      {"ComboTrigger(0)", TRIGGER_TEXT, 0x01, 0, 0x01, 2, kRecord},
+      {"ComboTrigger(1)", TRIGGER_TEXT, 0x02, 0, 0x02, 2, kRecord},
+      {"ComboExcp(4)", EXCPSTRS, 0x40, 0, 0x40, 2, kRecord},
+      {"ComboExcp(1)", EXCPSTRS, 0x01, 0, 0x01, 2, kRecord},
+      {"ComboExcp(2)", EXCPSTRS, 0x02, 0, 0x02, 2, kRecord},
+      {"ComboExcp(3)", EXCPSTRS, 0x20, 0, 0x20, 2, kRecord},
+      {"ComboExcp(5)", EXCPSTRS, 0x0C, 0, 0x04, 3, kRecord},
   };
   return rows;
 }
@@ -54,33 +54,33 @@ const std::vector<Selection>& Selections() {
 const std::vector<Writer>& OtherWriters() {
   using enum RecordPart;
   static const std::vector<Writer> rows = {
-      {"ComboCOMM(0)", {IOCFG_BAK}, kPanel},
-      {"ComboCOMM(3)", {COMMCFG_BAK}, kPanel},
+      {"ComboCOMM(0)", {IOCFG_BAK}},
+      {"ComboCOMM(3)", {COMMCFG_BAK}},
       {"ComboCOMM(6)", {COMMCFG_BAK}},
-      {"ComboCOMM(9)", {NET_TYPE, NET_ADDRESS, NET_BAUDRATE}, kNetwork},
-      {"ComboCOMM(11)", {NET_PROTOCOL, NET_BAUDRATE}, kNetwork},
-      {"ComboDIP(0)", {DSPCFG_BAK, BLNKVAL, BLNKIND, BLNKRTS_BAK}, kPanel},
-      {"ComboTD(3)", {DAYLIGHT_BAK}, kPanel},
+      {"ComboCOMM(9)", {NET_TYPE, NET_ADDRESS, NET_BAUDRATE}},
+      {"ComboCOMM(11)", {NET_PROTOCOL, NET_BAUDRATE}},
+      {"ComboDIP(0)", {DSPCFG_BAK, BLNKVAL, BLNKIND, BLNKRTS_BAK}},
+      {"ComboTD(3)", {DAYLIGHT_BAK}},
       {"ComboScroll(0)", {SCROLLMATCH_BAK}},
-      {"CharacterList", {DEMO_ENABLE}, kPanel},
-      {"DemoType", {DEMO_ENABLE}, kPanel},
-      {"DemoSpeed", {DEMO_ENABLE}, kPanel},
+      {"CharacterList", {DEMO_ENABLE}},
+      {"DemoType", {DEMO_ENABLE}},
+      {"DemoSpeed", {DEMO_ENABLE}},
       {"DemoMode", {DEMO_ENABLE}},
       // A record that is shown is put in order.
-      {"ComboExcp(0)", {EXCPSTRS}, kApart, kAllButRange},
+      {"ComboExcp(0)", {EXCPSTRS}, kAllButRange},
       {"ComboALM(0)", {TRIGGER_TEXT, ALMSTRUCT_BAK, ALM_MODE}},
-      {"ComboALM(1)", {ALMSTRUCT_BAK}, kAlarm, kFirstByte},
-      {"ComboALM(2)", {ALMNORMAL_BAK}, kAlarm},
-      {"ComboALM(3)", {ALMSTRUCT_BAK}, kAlarm, kDuration},
-      {"ComboALM(6)", {ALMSTRUCT_BAK}, kAlarm, kLastByte},
-      {"ComboALM(7)", {ALM_MODE}, kAlarm},
-      {"ComboTrigger(2)", {TRIGGER_DELAY}, kAlarm},
-      {"frmSetEXCPSTR", {EXCPSTRS, TRIGGER_TEXT, ONSCRNTITL}, kApart, kAllButRange},
-      {"frmSetEXCPSTR.cmdSET", {EXCPSTRS, TRIGGER_TEXT, ONSCRNTITL}, kApart, kAllButRange},
+      {"ComboALM(1)", {ALMSTRUCT_BAK}, kFirstByte},
+      {"ComboALM(2)", {ALMNORMAL_BAK}},
+      {"ComboALM(3)", {ALMSTRUCT_BAK}, kDuration},
+      {"ComboALM(6)", {ALMSTRUCT_BAK}, kLastByte},
+      {"ComboALM(7)", {ALM_MODE}},
+      {"ComboTrigger(2)", {TRIGGER_DELAY}},
+      {"frmSetEXCPSTR", {EXCPSTRS, TRIGGER_TEXT, ONSCRNTITL}, kAllButRange},
+      {"frmSetEXCPSTR.cmdSET", {EXCPSTRS, TRIGGER_TEXT, ONSCRNTITL}, kAllButRange},
       {"cmdSetRange", {DECIMAL_POINT_BAK}},
       {"frmSetRange.ComboDec", {DECIMAL_POINT_BAK}},
       {"frmSetRange.cmdClr", {DECIMAL_POINT_BAK}},
-      {"frmSetRange.cmdSetRange", {EXCPSTRS}, kApart, kRange},
+      {"frmSetRange.cmdSetRange", {EXCPSTRS}, kRange},
   };
   return rows;
 }
@@ -91,17 +91,6 @@ const std::set<image::FieldId>& CarriedFields() {
       SITE_NO_BAK, GPS_CONFIG_BAK, HPADDR_BAK,     VPADDR_BAK,    HSADDR_BAK,      GOADDR_BAK, DISP_POS_BAK,
       FLAGDWLVAL,  IGSCFG_BAK,     DSPROW,         DSPCOL,        HARDWARE_CFG_BAK};
   return fields;
-}
-
-std::vector<std::string> ListsOf(Group group) {
-  std::vector<std::string> lists;
-  for (const auto& row : OtherWriters()) {
-    if (row.group == group) lists.push_back(row.control);
-  }
-  for (const auto& row : Selections()) {
-    if (row.group == group) lists.push_back(row.list);
-  }
-  return lists;
 }
 
 }  // namespace ovl::testing

@@ -13,10 +13,9 @@ namespace ovl::testing {
 // The digits that a control may change in a field that holds a record.
 enum class RecordPart { kAll, kFirstByte, kDuration, kLastByte, kRange, kAllButRange };
 
-// How the tests treat a list. Those of a panel, an alarm or an exception slot are set together and come back
-// together. Those apart need more than one pick. Those of the network are shown only under some network
-// types.
-enum class Group { kPanel, kAlarm, kSlot, kApart, kNetwork };
+// Where a list stores: in a field of its own, in the alarm or exception slot that is shown, or in a field
+// that some network types hide.
+enum class Group { kPanel, kRecord, kNetwork };
 
 // A selection that stores a number or some bits of a byte.
 struct Selection {
@@ -36,15 +35,11 @@ const std::vector<Selection>& Selections();
 struct Writer {
   std::string control;
   std::vector<image::FieldId> fields;
-  Group group = Group::kApart;
   RecordPart part = RecordPart::kAll;
 };
 const std::vector<Writer>& OtherWriters();
 
 // The fields that no control edits.
 const std::set<image::FieldId>& CarriedFields();
-
-// The lists of a group, in an order in which a later pick takes nothing from an earlier one.
-std::vector<std::string> ListsOf(Group group);
 
 }  // namespace ovl::testing

@@ -1,7 +1,5 @@
 #include "support/register_facts.h"
 
-#include "support/firmware_facts.h"
-
 namespace ovl::testing {
 namespace {
 
@@ -19,88 +17,85 @@ unsigned ListOf(const firmware::FirmwareId& firmware) {
                                        : kV1334;
 }
 
-const std::vector<RegisterFrame>& RegisterFrames() {
-  static const std::vector<RegisterFrame> rows = {
-      {0, "ADDRESSABLE OVL", kBase | kModels | kV1300 | kV1310 | kV1334, "SET ADDRESS"},
-      {0, "SPEDI CCTV", kBase | kModels | kV1324 | kV1334, "SPEDI CCTV SET ADDRESS"},
-      {1, "ADS", kBase | kModels | kV1300, "ADS SET DISPLAY"},
-      {1, "FUJITSU 9920", kBase | kV1300, "FUJITSU 9920 SET DISPLAY"},
-      {1, "IBM RDS", kBase | kV1300 | kV1310, "IBM RDS SET DISPLAY"},
-      {1, "SHARP 750 ER-01PU", kBase | kV1324 | kV1334, " SHARP 750 ER-01PU SET DISPLAY"},
-      {2, "DELTA SONO 3.1", kBase | kModels | kV1300, "DELTA SETTING"},
-      {3, "DRESSER WAYNE", kBase | kV1300 | kV1310 | kV1324, "DRESSER WAYNE SETTING"},
-      {4, "EDACOM", kBase | kModels | kV1300, "SET MODEL"},
-      {4, "EDACOM", kV1324 | kV1334, "EDACOM MODEL SETTING "},
-      {5, "GASBOY", kBase | kModels | kV1300, "GASBOY SETTING"},
-      {6, "GILBARCO", kBase | kModels | kV1300 | kV1310, "GILBRACO"},
-      {7, "IBM3151 TERMINAL", kBase | kV1300 | kV1310},
-      {7, "SCHLUMBERGER", kBase | kModels | kV1324},
-      {8, "MICRELEC", kBase | kModels | kV1300, "MICRELEC MODE"},
-      {9, "MICROS", kBase | kModels | kV1300 | kV1310},
-      {10, "NCR", kBase | kV1300 | kV1310, "NCR MODEL"},
-      {11, "BEETLE 50 PRINTERS", kV1324 | kV1334, "Beetle/50 Printers SETTING"},
-      {11, "BEETLE 50 PRINTERS", kBase, "NIXDORF BEETLE"},
-      {11, "NIXDORF BEETLE", kV1300 | kV1310},
-      {12, "NORAND 1200", kBase | kModels | kV1300, "NORAND"},
-      {13, "PANASONIC", kBase | kModels | kV1300 | kV1310},
-      {14, "SHARP", kBase | kV1300 | kV1310, "SHARP MODEL"},
-      {15, "SICOM", kBase | kModels | kV1300},
-      {16, "SUNTRONIC", kBase | kModels | kV1300 | kV1310},
-      {17, "TCI", kBase | kModels | kV1300, "TCI ADDRESS"},
-      {18, "I-CNTRL INT JAVELIN VIPER", kModels},
-      {18, "MERIT", kModels},
-      {18, "UNIWELL UN4025", kBase | kV1300, "UNIWELL"},
-      {19, "RIVA", kModels},
-      {19, "VERIFONE", kBase | kModels | kV1300 | kV1310},
-      {20, "UP3000 3300", kV1300 | kV1310, "UP3000/UP3300"},
-      {20, "UP3000/3300", kBase, "UP3000/UP3300"},
-      {22, "CASIO TK-T500", kBase | kV1310 | kV1324 | kV1334},
-      {23, "CLARITY EPOS", kV1324 | kV1334},
-      {23, "CLARITY EPOS", kBase | kModels, "CLARITY EPOS SETTING"},
-      {23, "PARAGON CLARITY SMARTPAD", kModels},
-      {24, "EPSON GENERIC", kBase | kModels | kV1310 | kV1324 | kV1334},
-      {25, "NIXDORF BEETLE", kBase | kV1324 | kV1334, "NIXDORF BEETLE SETTING"},
-      {25, "OMEGA 2000", kBase | kModels | kV1324, "OMEGA 2000 SETTING"},
-      {25, "TKMAXX", kBase | kModels | kV1324 | kV1334, "TKMAXX SETTING"},
-      {26, "NUCLEUS PRINTER", kBase | kV1324, "NUCLEUS PRINTER SETTING"},
-      {26, "WEIGH SCALE", kV1310 | kV1324 | kV1334, "WEIGH SCALE SETTING"},
-      {27, "SHARP ER-A410 420", kBase | kV1324 | kV1334},
-      {28, "SHARP UP600 700", kV1324 | kV1334},
-      {28, "SHARP UP600/700", kBase},
-      {29, "CASIO TE-2200", kBase | kV1310 | kV1324 | kV1334},
-      {30, "TCPIP", kBase | kModels | kV1300 | kV1310 | kV1324 | kV1334, "IP AND INFORMATION CONFIG"},
-      {31, "TEC SLIP PRINTER EMULATE", kBase | kV1310 | kV1324 | kV1334},
-      {32, "WEIGH SCALE", kBase | kModels},
-      {33, "BLEEP", kModels},
-      {34, "CASIO", kModels},
-      {35, "DIGIPOS", kModels},
-      {36, "DRESSER WAYNE", kModels, "DRESSER WAYNE SETTING"},
-      {37, "EASY2TOUCH", kModels},
-      {37, "EUROPAD", kModels},
-      {37, "POSIFLEX", kModels},
-      {38, "FUJITSU", kModels, "FUJITSU SETTINGS"},
-      {39, "GELLER", kModels},
-      {40, "IBM", kModels},
-      {41, "ICL", kModels},
-      {42, "JCM", kModels, "JMC"},
-      {42, "OMRON", kModels},
-      {42, "PAR", kModels},
-      {42, "PROSPER", kModels},
-      {42, "VECTRON", kModels},
-      {43, "NCR", kModels},
-      {44, "NIXDORF", kModels},
-      {45, "SAMSUNG", kModels},
-      {46, "SHARP", kModels, "SHARP MODEL"},
-      {47, "TEAM POS 2000", kModels},
-      {48, "TEC", kModels},
-      {49, "UNIWELL", kModels},
-      {50, "SENSORS", kModels | kV1300},
-      {51, "NE134 COUNTER", kV1310, "SET ADDRESS"},
-      {52, "VISHAY WEIGHBRIDGE", kV1310},
-      {53, "POLE DISPLAY", kV1310},
-  };
-  return rows;
-}
+struct RegisterFrame {
+  int frame;
+  std::string_view name;        // of the register
+  unsigned lists;               // the register lists that have it
+  std::string_view title = {};  // of the frame; empty: the name of the register
+};
+
+constexpr RegisterFrame kFrames[] = {
+    {0, "ADDRESSABLE OVL", kBase | kModels | kV1300 | kV1310 | kV1334, "SET ADDRESS"},
+    {0, "SPEDI CCTV", kBase | kModels | kV1324 | kV1334, "SPEDI CCTV SET ADDRESS"},
+    {1, "ADS", kBase | kModels | kV1300, "ADS SET DISPLAY"},
+    {1, "FUJITSU 9920", kBase | kV1300, "FUJITSU 9920 SET DISPLAY"},
+    {1, "IBM RDS", kBase | kV1300 | kV1310, "IBM RDS SET DISPLAY"},
+    {1, "SHARP 750 ER-01PU", kBase | kV1324 | kV1334, " SHARP 750 ER-01PU SET DISPLAY"},
+    {2, "DELTA SONO 3.1", kBase | kModels | kV1300, "DELTA SETTING"},
+    {3, "DRESSER WAYNE", kBase | kV1300 | kV1310 | kV1324, "DRESSER WAYNE SETTING"},
+    {4, "EDACOM", kBase | kModels | kV1300, "SET MODEL"},
+    {4, "EDACOM", kV1324 | kV1334, "EDACOM MODEL SETTING "},
+    {5, "GASBOY", kBase | kModels | kV1300, "GASBOY SETTING"},
+    {6, "GILBARCO", kBase | kModels | kV1300 | kV1310, "GILBRACO"},
+    {7, "IBM3151 TERMINAL", kBase | kV1300 | kV1310},
+    {7, "SCHLUMBERGER", kBase | kModels | kV1324},
+    {8, "MICRELEC", kBase | kModels | kV1300, "MICRELEC MODE"},
+    {9, "MICROS", kBase | kModels | kV1300 | kV1310},
+    {10, "NCR", kBase | kV1300 | kV1310, "NCR MODEL"},
+    {11, "BEETLE 50 PRINTERS", kV1324 | kV1334, "Beetle/50 Printers SETTING"},
+    {11, "BEETLE 50 PRINTERS", kBase, "NIXDORF BEETLE"},
+    {11, "NIXDORF BEETLE", kV1300 | kV1310},
+    {12, "NORAND 1200", kBase | kModels | kV1300, "NORAND"},
+    {13, "PANASONIC", kBase | kModels | kV1300 | kV1310},
+    {14, "SHARP", kBase | kV1300 | kV1310, "SHARP MODEL"},
+    {15, "SICOM", kBase | kModels | kV1300},
+    {16, "SUNTRONIC", kBase | kModels | kV1300 | kV1310},
+    {17, "TCI", kBase | kModels | kV1300, "TCI ADDRESS"},
+    {18, "I-CNTRL INT JAVELIN VIPER", kModels},
+    {18, "UNIWELL UN4025", kBase | kV1300, "UNIWELL"},
+    {19, "VERIFONE", kBase | kModels | kV1300 | kV1310},
+    {20, "UP3000 3300", kV1300 | kV1310, "UP3000/UP3300"},
+    {20, "UP3000/3300", kBase, "UP3000/UP3300"},
+    {22, "CASIO TK-T500", kBase | kV1310 | kV1324 | kV1334},
+    {23, "CLARITY EPOS", kV1324 | kV1334},
+    {23, "CLARITY EPOS", kBase | kModels, "CLARITY EPOS SETTING"},
+    {23, "PARAGON CLARITY SMARTPAD", kModels},
+    {24, "EPSON GENERIC", kBase | kModels | kV1310 | kV1324 | kV1334},
+    {25, "NIXDORF BEETLE", kBase | kV1324 | kV1334, "NIXDORF BEETLE SETTING"},
+    {25, "OMEGA 2000", kBase | kModels | kV1324, "OMEGA 2000 SETTING"},
+    {25, "TKMAXX", kBase | kModels | kV1324 | kV1334, "TKMAXX SETTING"},
+    {26, "NUCLEUS PRINTER", kBase | kV1324, "NUCLEUS PRINTER SETTING"},
+    {26, "WEIGH SCALE", kV1310 | kV1324 | kV1334, "WEIGH SCALE SETTING"},
+    {27, "SHARP ER-A410 420", kBase | kV1324 | kV1334},
+    {28, "SHARP UP600 700", kV1324 | kV1334},
+    {28, "SHARP UP600/700", kBase},
+    {29, "CASIO TE-2200", kBase | kV1310 | kV1324 | kV1334},
+    {30, "TCPIP", kBase | kModels | kV1300 | kV1310 | kV1324 | kV1334, "IP AND INFORMATION CONFIG"},
+    {31, "TEC SLIP PRINTER EMULATE", kBase | kV1310 | kV1324 | kV1334},
+    {32, "WEIGH SCALE", kBase | kModels},
+    {36, "DRESSER WAYNE", kModels, "DRESSER WAYNE SETTING"},
+    {38, "FUJITSU", kModels, "FUJITSU SETTINGS"},
+    {42, "JCM", kModels, "JMC"},
+    {46, "SHARP", kModels, "SHARP MODEL"},
+    {50, "SENSORS", kModels | kV1300},
+    {51, "NE134 COUNTER", kV1310, "SET ADDRESS"},
+    {52, "VISHAY WEIGHBRIDGE", kV1310},
+    {53, "POLE DISPLAY", kV1310},
+};
+
+// The same for registers that only the list of models has, and whose frame has their name.
+struct ModelFrame {
+  int frame;
+  std::string_view name;
+};
+
+constexpr ModelFrame kModelFrames[] = {
+    {18, "MERIT"},      {19, "RIVA"},    {33, "BLEEP"},    {34, "CASIO"},         {35, "DIGIPOS"},
+    {37, "EASY2TOUCH"}, {37, "EUROPAD"}, {37, "POSIFLEX"}, {39, "GELLER"},        {40, "IBM"},
+    {41, "ICL"},        {42, "OMRON"},   {42, "PAR"},      {42, "PROSPER"},       {42, "VECTRON"},
+    {43, "NCR"},        {44, "NIXDORF"}, {45, "SAMSUNG"},  {47, "TEAM POS 2000"}, {48, "TEC"},
+    {49, "UNIWELL"},
+};
 
 // The length of a register list from a release on.
 struct ListLength {
@@ -125,29 +120,32 @@ std::size_t NumberOfRegisters(const firmware::FirmwareId& firmware) {
   return registers;
 }
 
-std::size_t NumberOfDefaultImages() {
-  std::size_t images = 0;
-  for (const auto& firmware : EveryFirmware()) images += NumberOfRegisters(firmware);
-  return images;
-}
-
 std::size_t NumberOfRegisterKeys() {
   return 136;
 }
 
-const RegisterFrame* FrameOf(const firmware::FirmwareId& firmware, std::string_view register_name) {
+std::string FrameOf(const firmware::FirmwareId& firmware, std::string_view register_name) {
+  const auto text = [](int frame, std::string_view title) {
+    return std::to_string(frame) + " " + std::string(title);
+  };
   // The first releases of V1300 have a frame for the address alone.
-  static const RegisterFrame address_only = {21, "TCPIP", kV1300, "SET IP ADDRESS"};
-  if (firmware.version == "V1300" && firmware.Number() < 16 && register_name == "TCPIP") return &address_only;
-  for (const auto& row : RegisterFrames()) {
-    if (row.name == register_name && (row.lists & ListOf(firmware)) != 0) return &row;
+  if (firmware.version == "V1300" && firmware.Number() < 16 && register_name == "TCPIP")
+    return text(21, "SET IP ADDRESS");
+  const auto list = ListOf(firmware);
+  for (const auto& row : kFrames) {
+    if (row.name == register_name && (row.lists & list) != 0)
+      return text(row.frame, row.title.empty() ? row.name : row.title);
   }
-  return nullptr;
+  for (const auto& row : kModelFrames) {
+    if (row.name == register_name && list == kModels) return text(row.frame, row.name);
+  }
+  return {};
 }
 
 const std::vector<OptionControl>& OptionControls() {
   static const firmware::FirmwareId kR12{"V1400", "R12"}, kR4{"V1400", "R4"}, kV1310R1{"V1310", "R1"},
       kV1324R26{"V1324", "R26"};
+  static const std::vector wiring = {kMinor, RX_BAUDRATE, TX_BAUDRATE, COMMCFG_BAK, TIMESTAMP_ENA};
   static const std::vector<OptionControl> rows = {
       {0, "ComboAddress", {kMinor}, {kR12, "ADDRESSABLE OVL", 256}},
       {1, "ComboDisplay", {kMinor}, {kR12, "ADS", 2}},
@@ -168,17 +166,11 @@ const std::vector<OptionControl>& OptionControls() {
       {10, "OpNCR", {kMinor}, {kR4, "NCR", 7}},
       {11, "OpBEETLE", {kMinor}, {kV1310R1, "NIXDORF BEETLE", 2}},
       {11, "OpBEETLE", {kMinor}, {kV1324R26, "BEETLE 50 PRINTERS", 2}},
-      {12,
-       "ComboWoring",
-       {kMinor, RX_BAUDRATE, TX_BAUDRATE, COMMCFG_BAK, TIMESTAMP_ENA},
-       {kR12, "NORAND 1200"}},
+      {12, "ComboWoring", wiring, {kR12, "NORAND 1200"}},
       {12, "ComboTITLEDIP", {GTITLE_NF_BAK, DSPCFG_BAK, DSPLINES_BAK}, {kR12, "NORAND 1200"}},
       {12, "ComboCONSOLEID", {DV_ADDRIND_BAK}, {kR12, "NORAND 1200", 9}},
       {13, "ComboPana(0)", {GTITLE_NF_BAK}, {kR12, "PANASONIC", 2}},
-      {13,
-       "ComboPana(1)",
-       {kMinor, RX_BAUDRATE, TX_BAUDRATE, COMMCFG_BAK, TIMESTAMP_ENA},
-       {kR12, "PANASONIC"}},
+      {13, "ComboPana(1)", wiring, {kR12, "PANASONIC"}},
       {14, "OpSharp", {kMinor}, {kR4, "SHARP"}},
       {15, "ComboSICOM", {kMinor, RX_BAUDRATE, TX_BAUDRATE}, {kR12, "SICOM"}},
       {16, "OpSun", {kMinor}, {kR12, "SUNTRONIC", 2}},
@@ -214,10 +206,7 @@ const std::vector<OptionControl>& OptionControls() {
       {30, "ComboTCPIP(5)", {IPADDRESS}},
       {30, "ComboTCPIP(6)", {IPADDRESS}},
       {30, "ComboTCPIP(7)", {IPADDRESS}},
-      {30, "ComboTCPINFO(0)", {kMinor}},
-      {30, "ComboTCPINFO(1)", {kMinor}},
-      {30, "ComboTCPINFO(2)", {kMinor}},
-      {30, "ComboTCPINFO(3)", {kMinor}},
+      {30, "ComboTCPINFO", {kMinor}},
       {31, "ComboTEC(0)"},
       {31, "ComboTEC(1)", {kMinor, RX_BAUDRATE, TX_BAUDRATE}, {kV1310R1, "TEC SLIP PRINTER EMULATE"}},
       {32, "OpWEIGHS", {kMinor}, {kR12, "WEIGH SCALE", 9}},

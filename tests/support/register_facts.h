@@ -11,22 +11,13 @@
 
 namespace ovl::testing {
 
-// The registers in the list of a firmware, in the lists of all firmware, and the keys that recognise them.
-// Each register of a list has a default image.
+// The registers in the list of a firmware, and the keys that recognise the registers of all firmware.
 std::size_t NumberOfRegisters(const firmware::FirmwareId& firmware);
-std::size_t NumberOfDefaultImages();
 std::size_t NumberOfRegisterKeys();
 
-// The option frame that a register shows when it is picked.
-struct RegisterFrame {
-  int frame;
-  std::string name;        // of the register
-  unsigned lists;          // the register lists that have it
-  std::string title = {};  // of the frame; empty: the name of the register
-};
-
-// Null: the register has no options under this firmware.
-const RegisterFrame* FrameOf(const firmware::FirmwareId& firmware, std::string_view register_name);
+// The number and the title of the option frame that a register shows when it is picked. Empty: the register
+// has no options under this firmware.
+std::string FrameOf(const firmware::FirmwareId& firmware, std::string_view register_name);
 
 // A register that shows the control, for the tests of the control.
 struct Example {

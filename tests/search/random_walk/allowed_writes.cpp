@@ -21,8 +21,7 @@ Table AllWrites() {
   for (const auto& row : OptionControls()) add(row.name, row.fields, RecordPart::kAll);
   for (const auto& row : OtherWriters()) add(row.control, row.fields, row.part);
   for (const auto& row : Selections()) {
-    const bool record = row.group == Group::kAlarm || row.group == Group::kSlot;
-    const auto part = record ? RecordPart::kFirstByte : RecordPart::kAll;
+    const auto part = row.group == Group::kRecord ? RecordPart::kFirstByte : RecordPart::kAll;
     add(row.list, {row.field}, part);
     add(row.list, row.also, part);
   }

@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <sstream>
-
 #include "support/control_characters.h"
 #include "support/installed.h"
 
@@ -56,17 +54,30 @@ TEST(History, OnlyAFileWithTheTagOpensAndAnUnreadableOneChangesNothing) {
   for (int code = 0; code < 256; ++code) {
     if (code != '\r') line += static_cast<char>(code);
   }
-  const std::pair<std::string, std::string> shown[] = {
+  using namespace std::string_literals;
+  struct ShownFile {
+    std::string bytes, text;
+  };
+  const ShownFile shown[] = {
       {"OVLH", ""},
       {"OVLH\r\n", ""},
       {"OVLH\r", ""},
       {"OVLH\r\n" + line + "\r\n\r" + line, line + "\r\n\r\n" + line + "\r\n"},
   };
-  using namespace std::string_literals;
-  // Whole files, separated by bars.
-  std::istringstream refused(
-      "ovlh\r\nx|OVLH \r\nx| OVLH\r\nx|OVLHX\r\nx|OVL\r\nx|\r\nOVLH\r\n|OVLH\nx\r\n|$2000\r\nOVLH|"
-      "OVLH\0\r\nx|\xEF\xBB\xBFOVLH\r\nx||"s);
+  struct RefusedFile {
+    const char* first_line;
+    std::string bytes;
+  };
+  const RefusedFile refused[] = {
+      {"in lower case", "ovlh\r\nx"},
+      {"with a blank at its end", "OVLH \r\nx"},
+      {"with a NUL at its end", "OVLH\0\r\nx"s},
+      {"with a byte order mark", "\xEF\xBB\xBFOVLH\r\nx"},
+      {"cut off", "OVL\r\nx"},
+      {"another, the tag in the second one", "$2000\r\nOVLH"},
+      {"that ends with LF alone", "OVLH\nx\r\n"},
+      {"of an empty file", ""},
+  };
   Viewing program;
   const auto tested = program.folder.File("tested.txt");
   for (const auto& [bytes, text] : shown) {
@@ -76,8 +87,8 @@ TEST(History, OnlyAFileWithTheTagOpensAndAnUnreadableOneChangesNothing) {
   }
   const auto earlier = program.Write("OVLH\r\nearlier");
   ASSERT_EQ(program.Open(earlier), core::Outcome::kDone);
-  for (std::string bytes; std::getline(refused, bytes, '|');) {
-    SCOPED_TRACE(bytes);
+  for (const auto& [first_line, bytes] : refused) {
+    SCOPED_TRACE(first_line);
     WriteFile(tested, bytes);
     ASSERT_EQ(program.Open(tested), core::Outcome::kDone);
     EXPECT_EQ(program.TakeBox().text, "Incompatible File !!!, try again.");

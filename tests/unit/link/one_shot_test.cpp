@@ -32,21 +32,6 @@ TEST(SetTime, SendsThePickedTime) {
   EXPECT_EQ(program.TakeSent(), "/TD02-29-00 23:59:01\r\n\r");
 }
 
-TEST(Commands, ResetTheWatchdogAndSomeTheKeepAlive) {
-  for (const auto& [button, handcheck] : {std::pair{"CmdUpDow(0)", 0},
-                                          {"CmdUpDow(1)", 0},
-                                          {"CmdUpDow(2)", 0},
-                                          {"CmdUpDow(3)", 4},
-                                          {"CmdUpDow(5)", 4}}) {
-    InState program(State::kHeld);
-    program.app.OperatingCount = 3;
-    program.app.HandcheckCount = 4;
-    EXPECT_EQ(program.Click(button), core::Outcome::kDone);
-    const std::pair<int, int> counts(program.app.OperatingCount, program.app.HandcheckCount);
-    EXPECT_EQ(counts, std::pair(0, handcheck)) << button;
-  }
-}
-
 TEST(Clock, FollowsTheComputerAtEachEleventhTickAndWhenTheBoxIsChecked) {
   InState program(State::kClosed);
   auto& main = program.app.frmMain;

@@ -28,21 +28,6 @@ TEST(Demo, TheCheckMarkIsTheHighestBitAndShowsWhatTheFirmwareHas) {
   }
 }
 
-TEST(Demo, ReleasesAreComparedAsNumbers) {
-  for (const char* release : {"R0", "R3", "R5", "R13", "R99"}) {
-    Installed program({"V1400", release}, Images::kFirstRegister);
-    ASSERT_EQ(program.Click("DemoMode"), core::Outcome::kDone);
-    EXPECT_TRUE(program.Control("CharacterList").visible);
-    for (const char* name : {"DemoType", "DemoSpeed"})
-      EXPECT_EQ(program.Control(name).visible, program.app.firmware.Number() >= 13) << name;
-    for (const char* name : {"CharacterList", "DemoType", "DemoSpeed"}) {
-      program.Reveal(name);
-      const auto written = program.Effect(name, 1, {{DEMO_ENABLE, "8F"}});
-      EXPECT_EQ(written.find("DEMO_ENABLE=") == 0, release != std::string("R0")) << name << written;
-    }
-  }
-}
-
 TEST(Dvr, ARecorderEnablesItsPairAndALoadShowsTheIds) {
   const auto expect_pairs = [](PanelProgram& program, bool first, bool second) {
     for (int member = 0; member < 4; ++member) {

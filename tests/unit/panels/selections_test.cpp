@@ -48,7 +48,7 @@ TEST(Selections, APickStoresOnlyItsFieldOrItsBitsAndALoadShowsThem) {
   for (const auto& row : Selections()) {
     ExpectStored(picked, row, StoredBy(row));
     // The load of the others needs more than one byte.
-    if (row.group == Group::kPanel || row.group == Group::kApart) ExpectShown(loaded, row, StoredBy(row));
+    if (row.group == Group::kPanel) ExpectShown(loaded, row, StoredBy(row));
   }
 
   const Selection parity{"ComboCOMM(3)", COMMCFG_BAK, 0x03, 0, 0, 3};

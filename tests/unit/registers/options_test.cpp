@@ -50,27 +50,6 @@ TEST(OptionControls, EachShowsItsByteAndAPlainOneStoresOnlyThat) {
   }
 }
 
-TEST(OptionControls, ListsOfNumbersStartAndEndAsTheUnitCounts) {
-  struct Row {
-    std::string list, first, second, last;
-  };
-  const Row rows[] = {
-      {"ComboAddress", "ANY", "1", "255"},     {"ComboSICOM", "ANY", "1", "255"},
-      {"ComboCLARITYEPOS", "ALL", "1", "255"}, {"ComboNE134", "0", "1", "255"},
-      {"ComboTCPIP(0)", "0", "1", "255"},      {"ComboTCPIP(7)", "0", "1", "255"},
-      {"ComboAddr", "ANY", "1", "16"},         {"ComboDeviceADD", "ANY", "01", "17"},
-      {"ComboCONSOLEID", "ANY", "1", "8"},     {"ComboTCI_ID(0)", "0", "1", "9"},
-      {"ComboUNI_ID(2)", "0", "1", "9"},       {"ComboMICROSADD", "ANY", "00", "15"},
-  };
-  Installed program(kLatest, Images::kFirstRegister);
-  for (const auto& row : rows) {
-    const auto& items = program.ListOf(row.list).items;
-    EXPECT_EQ(items[0], row.first) << row.list;
-    EXPECT_EQ(items[1], row.second) << row.list;
-    EXPECT_EQ(items.back(), row.last) << row.list;
-  }
-}
-
 // The positions that a choice forces on other lists. kLeft: the list keeps its position.
 struct ForcedPositions {
   static constexpr int kLeft = -1;
@@ -185,52 +164,40 @@ TEST(OptionControls, TheStoredFieldDependsOnTheFirmware) {
   }
 }
 
+using Names = std::vector<const char*>;
+
 // A choice of a model, and the controls of its frame that it shows or hides.
 struct ModelChoice {
-  firmware::FirmwareId firmware;
   const char* array;
   int model;
-  std::vector<const char*> shown, hidden;
+  Names shown, hidden;
   const char* option = nullptr;  // one of those shown, which takes its position from REGTYPE_EXT2
+  firmware::FirmwareId firmware = kLatest;
 };
 
-const firmware::FirmwareId kV1300R26{"V1300", "R26"}, kV1300R27{"V1300", "R27"}, kV1310R1{"V1310", "R1"};
+const firmware::FirmwareId kV1300R26{"V1300", "R26"}, kV1300R27{"V1300", "R27"};
+const Names kXml = {"Label84", "Label85", "ComboXML"};
 
 // The XML format needs a board that the other firmware lack.
 const std::vector<ModelChoice> kModelChoices = {
-    {kLatest,
-     "IBMOP",
-     8,
-     {"IBMFrame", "Combo4610TF6"},
-     {"RDSCombo", "IBMCombo", "Label82(0)"},
-     "Combo4610TF6"},
-    {kLatest, "IBMOP", 0, {"IBMFrame", "Label82(0)", "IBMCombo"}, {"RDSCombo", "Combo4610TF6"}, "IBMCombo"},
-    {kLatest,
-     "IBMOP",
-     8,
-     {"IBMFrame", "Combo4610TF6"},
-     {"RDSCombo", "IBMCombo", "Label82(0)"},
-     "Combo4610TF6"},
-    {kLatest, "IBMOP", 4, {"IBMFrame", "Label82(0)", "RDSCombo"}, {"IBMCombo", "Combo4610TF6"}, "RDSCombo"},
-    {kLatest, "IBMOP", 1, {}, {"IBMFrame", "RDSCombo", "IBMCombo", "Combo4610TF6"}},
-    {kLatest, "IBMOP", 0, {"IBMFrame", "IBMCombo"}, {}, "IBMCombo"},
-    {kLatest, "IBMOP", 7, {}, {"IBMFrame"}},
-    {kLatest, "ICLOP", 1, {"POS5000", "POS50OP"}, {"POS2000"}, "POS50OP"},
-    {kLatest, "ICLOP", 0, {"POS2000", "TEAMOP"}, {"POS5000"}, "TEAMOP"},
-    {kLatest, "NCROP", 1, {"NCRFrame", "JRNLRCPT_SLP_OP"}, {}, "JRNLRCPT_SLP_OP"},
-    {kLatest, "NCROP", 0, {}, {"NCRFrame"}},
-    {kLatest, "NCROP", 1, {"NCRFrame", "JRNLRCPT_SLP_OP"}, {}, "JRNLRCPT_SLP_OP"},
-    {kLatest, "NCROP", 11, {}, {"NCRFrame"}},
-    {kLatest, "NIXDORF14OP", 1, {"NIXDORFrm", "NIXDORF14OPSelect"}, {"BEETLEFrm"}, "NIXDORF14OPSelect"},
-    {kLatest, "NIXDORF14OP", 0, {"BEETLEFrm", "BEETLEOp"}, {"NIXDORFrm"}, "BEETLEOp"},
-    {kV1300R27, "OpGilbraco", 5, {"Label84", "Label85", "ComboXML"}, {}, "ComboXML"},
-    {kV1300R27, "OpGilbraco", 4, {}, {"Label84", "Label85", "ComboXML"}},
-    {kV1310R1, "OpGilbraco", 5, {"Label84", "Label85", "ComboXML"}, {}, "ComboXML"},
-    {kV1310R1, "OpGilbraco", 4, {}, {"Label84", "Label85", "ComboXML"}},
-    {kV1300R26, "OpGilbraco", 5, {}, {"Label84", "Label85", "ComboXML"}},
+    {"IBMOP", 8, {"IBMFrame", "Combo4610TF6"}, {"RDSCombo", "IBMCombo", "Label82(0)"}, "Combo4610TF6"},
+    {"IBMOP", 0, {"IBMFrame", "Label82(0)", "IBMCombo"}, {"RDSCombo", "Combo4610TF6"}, "IBMCombo"},
+    {"IBMOP", 4, {"IBMFrame", "Label82(0)", "RDSCombo"}, {"IBMCombo", "Combo4610TF6"}, "RDSCombo"},
+    {"IBMOP", 1, {}, {"IBMFrame", "RDSCombo", "IBMCombo", "Combo4610TF6"}},
+    {"IBMOP", 0, {"IBMFrame", "IBMCombo"}, {}, "IBMCombo"},
+    {"IBMOP", 7, {}, {"IBMFrame"}},
+    {"ICLOP", 1, {"POS5000", "POS50OP"}, {"POS2000"}, "POS50OP"},
+    {"ICLOP", 0, {"POS2000", "TEAMOP"}, {"POS5000"}, "TEAMOP"},
+    {"NCROP", 1, {"NCRFrame", "JRNLRCPT_SLP_OP"}, {}, "JRNLRCPT_SLP_OP"},
+    {"NCROP", 0, {}, {"NCRFrame"}},
+    {"NIXDORF14OP", 1, {"NIXDORFrm", "NIXDORF14OPSelect"}, {"BEETLEFrm"}, "NIXDORF14OPSelect"},
+    {"NIXDORF14OP", 0, {"BEETLEFrm", "BEETLEOp"}, {"NIXDORFrm"}, "BEETLEOp"},
+    {"OpGilbraco", 5, kXml, {}, "ComboXML", kV1300R27},
+    {"OpGilbraco", 4, {}, kXml, nullptr, kV1300R27},
+    {"OpGilbraco", 5, {}, kXml, nullptr, kV1300R26},
 };
 
-void ExpectVisible(Installed& program, const std::vector<const char*>& controls, bool visible) {
+void ExpectVisible(Installed& program, const Names& controls, bool visible) {
   for (const auto* control : controls) EXPECT_EQ(program.Control(control).visible, visible) << control;
 }
 
@@ -254,7 +221,7 @@ TEST(OptionControls, APickOfTheRegisterShowsOrHidesItsInnerFramesForEveryModel) 
   Installed program(kLatest);
   struct Row {
     const char* register_name;
-    std::vector<const char*> shown, hidden;
+    Names shown, hidden;
   };
   const Row rows[] = {
       {"ICL", {"POS2000", "POS5000"}, {}},

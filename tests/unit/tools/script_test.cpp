@@ -12,7 +12,6 @@
 #include "script/runner.h"
 #include "script/simulated_line.h"
 #include "script/simulated_time.h"
-#include "script/statements.h"
 #include "support/firmware_facts.h"
 #include "support/harness.h"
 
@@ -212,20 +211,32 @@ TEST_F(Script, AFailedExpectationNamesThePlace) {
 }
 
 TEST_F(Script, WrongStatementsAreReportedWithTheirPlace) {
-  std::istringstream statements(
-      "pick NoSuch 1\npick ComboReg 999\npick ComboReg -1\npick ComboReg \"no such\"\npick ComboReg GENERIC\n"
-      "pick \"ComboReg\" 0\npick cmdConnect 0\nclick ComboReg\nclick Label64(0)\nclick OpDVR\n"
-      "click NoSuch(1)\nclick cmdConnect twice\n\"click\" cmdConnect\ntype cmdConnect \"x\"\n"
-      "key ComboReg Space\nclose ComboReg\ntick ComboReg\ntick Timer x\ntick Timer -1\nunit 06\nunit hex\n"
-      "unit hex 6\ndrain -1\nwait x\nwait 1x\nclock \"2026-02-30 00:00:00\"\nport down\nlist Timer\n"
-      "field NOFIELD\nfield EXCPSTRS(25)\nfield EXCPSTRS(0)\nset IPADDRESS 00\nvar NoSuch\nupload\n"
-      "download x\nexpect Timer 1\nexpect checked Timer\nexpect no sent\nexpect box\n"
-      "expect field IPADDRESS 00\nfrobnicate\nstore memory\nstream /no/such/folder/file\necho\n"
-      "diff missing.bin missing.bin\n");
-  for (std::string statement; std::getline(statements, statement);) {
-    const auto message = RunStarted(statement);
-    EXPECT_TRUE(message.starts_with("test.ovl:4: ") && message.ends_with("\nexit 2"))
-        << statement << ": " << message;
+  struct Row {
+    const char* problem;
+    std::vector<std::string> statements;
+  };
+  const Row rows[] = {
+      {"unknown name", {"frobnicate", "pick NoSuch 1", "click NoSuch(1)", "field NOFIELD", "var NoSuch"}},
+      {"unknown entry", {"pick ComboReg 999", "pick ComboReg -1", "pick ComboReg \"no such\""}},
+      {"unknown entry of a field", {"field EXCPSTRS(25)", "field EXCPSTRS(0)"}},
+      {"entry of a field is missing", {"set IPADDRESS 00", "expect field IPADDRESS 00"}},
+      {"quotes", {"pick ComboReg GENERIC", "pick \"ComboReg\" 0", "\"click\" cmdConnect"}},
+      {"wrong kind of control", {"pick cmdConnect 0", "click ComboReg", "click Label64(0)", "click OpDVR"}},
+      {"wrong kind of control", {"type cmdConnect \"x\"", "key ComboReg Space", "close ComboReg"}},
+      {"wrong kind of control", {"tick ComboReg", "list Timer", "expect Timer 1", "expect checked Timer"}},
+      {"wrong number", {"tick Timer x", "tick Timer -1", "drain -1", "wait x", "wait 1x"}},
+      {"wrong digits", {"unit 06", "unit hex", "unit hex 6"}},
+      {"wrong word", {"clock \"2026-02-30 00:00:00\"", "port down", "expect no sent", "store memory"}},
+      {"one word too many or too few", {"click cmdConnect twice", "expect box", "echo"}},
+      {"no real port", {"upload", "download x"}},
+      {"no such file", {"stream /no/such/folder/file", "diff missing.bin missing.bin"}},
+  };
+  for (const auto& [problem, statements] : rows) {
+    for (const auto& statement : statements) {
+      const auto message = RunStarted(statement);
+      EXPECT_TRUE(message.starts_with("test.ovl:4: ") && message.ends_with("\nexit 2"))
+          << problem << ", " << statement << ": " << message;
+    }
   }
   EXPECT_EQ(Run("\n# before the start\nshow ComboReg"), "test.ovl:3: the program was not started\nexit 2");
 }
@@ -301,13 +312,6 @@ TEST_F(Script, WarnsOfTheEffectOfOpeningAFile) {
   ovl::testing::WriteFile(folder_.File("some.bin"), "noise");
   EXPECT_EQ(RunStarted("inspect \"" + folder_.File("some.bin") + "\"\n"),
             "fits no firmware\nopening it under V1400R12 refuses it and keeps the image\n");
-}
-
-TEST(Help, NamesEveryStatement) {
-  const auto help = HelpText();
-  for (const auto& statement : Statements()) {
-    EXPECT_NE(help.find("\n" + std::string(statement.forms)), std::string::npos) << statement.word;
-  }
 }
 
 }  // namespace
