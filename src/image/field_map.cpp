@@ -25,30 +25,30 @@ constexpr Since kAlarmModeSince = {Bit(firmware::Layout::kEarlyV1400), 6, false}
 constexpr Since kRtsSince = {kLate, 11, true};
 constexpr LayoutSet kAllButOldV13 = kV1400 | Bit(firmware::Layout::kNewV13);
 
-// In stream order. A field with "no control" is read, kept and written back unchanged. What follows the words
-// is no more than what its name says.
+// In stream order. Fields that no control edits are read, kept and written back unchanged; of those the
+// comment says no more than their name does.
 constexpr auto kFields = std::to_array<FieldRow>({
-    {EXECENTRY, "EXECENTRY", kSyscfg, kEvery, true},                // no control
+    {EXECENTRY, "EXECENTRY", kSyscfg, kEvery, true},                // meaning not known
     {COMMCFG_BAK, "COMMCFG_BAK", kSyscfg, kEvery, true},            // flags of the register line
     {IOCFG_BAK, "IOCFG_BAK", kSyscfg, kEvery, true},                // interface type
     {RX_BAUDRATE, "RX_BAUDRATE", kSyscfg, kEvery, true},            // receive baud rate, place in the list
     {TX_BAUDRATE, "TX_BAUDRATE", kSyscfg, kEvery, true},            // transmit baud rate, place in the list
-    {MPDCFG_BAK, "MPDCFG_BAK", kSyscfg, kEvery, false},             // no control: MPD settings
-    {MPDCOMMCFG_BAK, "MPDCOMMCFG_BAK", kSyscfg, kEvery, false},     // no control: MPD line settings
-    {MPDRXBAUDRATE, "MPDRXBAUDRATE", kSyscfg, kEvery, false},       // no control: MPD receive baud rate
-    {MPDTXBAUDRATE, "MPDTXBAUDRATE", kSyscfg, kEvery, false},       // no control: MPD transmit baud rate
-    {XATMNOTX, "XATMNOTX", kSyscfg, kEvery, false},                 // no control
-    {XATMNORX, "XATMNORX", kSyscfg, kEvery, false},                 // no control
+    {MPDCFG_BAK, "MPDCFG_BAK", kSyscfg, kEvery, false},             // MPD settings
+    {MPDCOMMCFG_BAK, "MPDCOMMCFG_BAK", kSyscfg, kEvery, false},     // MPD line settings
+    {MPDRXBAUDRATE, "MPDRXBAUDRATE", kSyscfg, kEvery, false},       // MPD receive baud rate
+    {MPDTXBAUDRATE, "MPDTXBAUDRATE", kSyscfg, kEvery, false},       // MPD transmit baud rate
+    {XATMNOTX, "XATMNOTX", kSyscfg, kEvery, false},                 // meaning not known
+    {XATMNORX, "XATMNORX", kSyscfg, kEvery, false},                 // meaning not known
     {UNITADDR, "UNITADDR", kSyscfg, kEvery, true},                  // address, an option of some registers
-    {SITE_NO_BAK, "SITE_NO_BAK", kSyscfg, kEvery, false},           // no control: site number
+    {SITE_NO_BAK, "SITE_NO_BAK", kSyscfg, kEvery, false},           // site number
     {DV_ADDRIND_BAK, "DV_ADDRIND_BAK", kSyscfg, kEvery, true},      // console or device to follow
     {TCIADDBAK_1, "TCIADDBAK_1", kSyscfg, kEvery, true},            // register ID, first digit
     {TCIADDBAK_2, "TCIADDBAK_2", kSyscfg, kEvery, true},            // register ID, second digit
     {TCIADDBAK_3, "TCIADDBAK_3", kSyscfg, kEvery, true},            // register ID, third digit
     {GTITLE_NF_BAK, "GTITLE_NF_BAK", kSyscfg, kEvery, true},        // title display, or the GASBOY device
-    {GPS_CONFIG_BAK, "GPS_CONFIG_BAK", kSyscfg, kEvery, true},      // no control: GPS settings
+    {GPS_CONFIG_BAK, "GPS_CONFIG_BAK", kSyscfg, kEvery, true},      // GPS settings
     {DEVICE_INDEX_BAK, "DEVICE_INDEX_BAK", kSyscfg, kEvery, true},  // MICROS: device
-    {IGSCFG_BAK, "IGSCFG_BAK", kSyscfg, kEvery, false, {}, kAtmInterface, kNoAtm},  // no control
+    {IGSCFG_BAK, "IGSCFG_BAK", kSyscfg, kEvery, false, {}, kAtmInterface, kNoAtm},  // meaning not known
     {REGDV_TYPE_BAK, "REGDV_TYPE_BAK", kSyscfg, kEvery, true},                      // MICROS: source type
     {REG_GNA_BAK, "REG_GNA_BAK", kSyscfg, kEvery, true},                            // MICROS: source ISN GNA
     {REG_LNA_BAK, "REG_LNA_BAK", kSyscfg, kEvery, true},                            // MICROS: source ISN LNA
@@ -65,19 +65,19 @@ constexpr auto kFields = std::to_array<FieldRow>({
     {REGTYPE_MINOR, "REGTYPE_MINOR", kSysfixed, kEvery, true},   // model or option of the register
     {REGTYPE_EXT1, "REGTYPE_EXT1", kSysfixed, kExtended, true},  // kind of connection
     {REGTYPE_EXT2, "REGTYPE_EXT2", kSysfixed, kExtended, true},  // second option of the register
-    {HPADDR_BAK, "HPADDR_BAK", kSysfixed, kEvery, false},        // no control
-    {VPADDR_BAK, "VPADDR_BAK", kSysfixed, kEvery, false},        // no control
-    {HSADDR_BAK, "HSADDR_BAK", kSysfixed, kEvery, false},        // no control
-    {GOADDR_BAK, "GOADDR_BAK", kSysfixed, kEvery, false},        // no control
-    {DISP_POS_BAK, "DISP_POS_BAK", kSysfixed, kEvery, false},    // no control: display position
+    {HPADDR_BAK, "HPADDR_BAK", kSysfixed, kEvery, false},        // meaning not known
+    {VPADDR_BAK, "VPADDR_BAK", kSysfixed, kEvery, false},        // meaning not known
+    {HSADDR_BAK, "HSADDR_BAK", kSysfixed, kEvery, false},        // meaning not known
+    {GOADDR_BAK, "GOADDR_BAK", kSysfixed, kEvery, false},        // meaning not known
+    {DISP_POS_BAK, "DISP_POS_BAK", kSysfixed, kEvery, false},    // display position
     {DSPLINES_BAK, "DSPLINES_BAK", kSysfixed, kEvery, false},    // lines of the display
     {DSPCFG_BAK, "DSPCFG_BAK", kSysfixed, kEvery, false},        // flags of the display, clock and title
-    {HARDWARE_CFG_BAK, "HARDWARE_CFG_BAK", kSysfixed, kEvery, false},  // no control: hardware settings
+    {HARDWARE_CFG_BAK, "HARDWARE_CFG_BAK", kSysfixed, kEvery, false},  // hardware settings
     {ALMCFG_BAK, "ALMCFG_BAK", kSysfixed, kEvery, false},              // flag type of all alarms
     {ALMNORMAL_BAK, "ALMNORMAL_BAK", kSysfixed, kEvery, false},        // normal states, a bit for each alarm
     {BLNKVAL, "BLNKVAL", kSysfixed, kEvery, false},                    // blank time, 256 minus the minutes
     {BLNKIND, "BLNKIND", kSysfixed, kEvery, false},                    // blank time, place in the list
-    {FLAGDWLVAL, "FLAGDWLVAL", kSysfixed, kEvery, false},              // no control: flag duration
+    {FLAGDWLVAL, "FLAGDWLVAL", kSysfixed, kEvery, false},              // flag duration
     {FLAGDWLIND, "FLAGDWLIND", kSysfixed, kEvery, false},  // flag duration, twice its place in the list
     {ALMSTRUCT_BAK, "ALMSTRUCT_BAK", kSysfixed, kEvery, false, {8, 6}},       // alarm record
     {IPADDRESS, "IPADDRESS", kSysfixed, kEvery, true, {}, kTcpIp, kNoTcpIp},  // IP address
@@ -87,8 +87,8 @@ constexpr auto kFields = std::to_array<FieldRow>({
     {TD_LOCKING_BAK, "TD_LOCKING_BAK", kSysfixed, kEvery, false, {}, kTimeFields},    // lock of the clock
     {TIMESTAMP_ENA, "TIMESTAMP_ENA", kSysfixed, kEvery, false, {}, kTimeFields},      // time stamp in reports
     {DAYLIGHT_BAK, "DAYLIGHT_BAK", kSysfixed, kEvery, false, {}, kTimeFields},        // daylight saving rule
-    {DSPROW, "DSPROW", kSysfixed, kEvery, false, {}, kAnsiTerm, kNoRows},             // no control
-    {DSPCOL, "DSPCOL", kSysfixed, kEvery, false, {}, kAnsiTerm, kNoColumns},          // no control
+    {DSPROW, "DSPROW", kSysfixed, kEvery, false, {}, kAnsiTerm, kNoRows},             // meaning not known
+    {DSPCOL, "DSPCOL", kSysfixed, kEvery, false, {}, kAnsiTerm, kNoColumns},          // meaning not known
     {DEMO_ENABLE, "DEMO_ENABLE", kSysfixed, kEvery, false},                           // demonstration
     {SPCOMPRES_BAK, "SPCOMPRES_BAK", kSysfixed, kEvery, false},                       // space compression
     {DSPCHARS_BAK, "DSPCHARS_BAK", kSysfixed, kV1400, false},                         // characters in a line

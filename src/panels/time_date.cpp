@@ -72,8 +72,10 @@ void ComboTD_Click(core::Application& app, int index) {
     case Td::kLocking:
       app.image[TD_LOCKING_BAK] = codecs::ByteToHex(position);
       break;
-    default:
+    case Td::kTitler:
       GatherDisplayBit(app, index, image::kTitlerBit);
+      break;
+    default:
       break;
   }
   RefreshSavedIndexes(app, "ComboTD", app.frmMain.ComboTD);

@@ -12,7 +12,7 @@ constexpr Region kRegionLateWithRts{0x2000, 0x2860, 36, 0};
 constexpr Region kRegionOld{0x7800, 0x7FE0, 34, 0};
 constexpr Region kRegionNew{0x77F0, 0x7FF0, 2, 0};
 
-constexpr std::array<Firmware, 29> kFirmware{{
+constexpr auto kFirmware = std::to_array<Firmware>({
     {"V1400R1", Layout::kEarly, "0A", "01"},
     {"V1400R2", Layout::kEarly, "0A", "00"},
     {"V1400R4", Layout::kEarly, "0A", "00"},
@@ -42,7 +42,7 @@ constexpr std::array<Firmware, 29> kFirmware{{
     {"V1324R26", Layout::kNew, "0E", "00"},
     {"V1310R1", Layout::kNew, "0E", "00"},
     {"V1334R1", Layout::kNew, "0E", "00"},
-}};
+});
 
 }  // namespace
 

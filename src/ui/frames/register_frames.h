@@ -1,4 +1,4 @@
-// The rows of the 54 option frames of the register tab: label, control and tool tip.
+// The rows of the option frames of the register tab: label, control and tool tip.
 #pragma once
 
 #include <span>
