@@ -39,6 +39,8 @@ inside ovl-setup V1400 R12
 inside cat "/etc/xdg/ORB/OVL Software.conf"
 echo "== The guide and a transfer, as an ordinary user"
 as_user 'QT_QPA_PLATFORM=offscreen ovl --guide guide.pdf 2> /dev/null && ls -l guide.pdf'
+# The first start makes the folder of the program. It runs until it is stopped.
+as_user 'QT_QPA_PLATFORM=offscreen timeout 5 ovl 2> /dev/null || test $? = 124'
 as_user 'ls -l ".local/share/OVL Software/V1400"'
 cat > "$root/tmp/transfer" <<'END'
 set -e
