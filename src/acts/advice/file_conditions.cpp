@@ -54,7 +54,7 @@ Advice FileMisread(const core::Application& app, const Observed& observed) {
   auto words = FileNameOf(path) + " has not the form of " + app.firmware.Joined() +
                ", so everything from the register options on is shifted. Do not download it.";
   if (!firmware::SavedFileReopens(app.firmware))
-    words += " Files that Save writes under this firmware are such files.";
+    words += " Files that \"Save\" writes under this firmware are such files.";
   return {AdviceId::kCount, {}, words + " Upload again, or open a backup."};
 }
 
@@ -64,7 +64,7 @@ Advice FileRefused(const core::Application& app, const Observed& observed) {
   auto words = FileNameOf(path) + " is no configuration that " + app.firmware.Joined() +
                " opens. Nothing has changed.";
   if (!firmware::SavedFileReopens(app.firmware))
-    words += " Files that Save writes under this firmware are such files.";
+    words += " Files that \"Save\" writes under this firmware are such files.";
   return {
       AdviceId::kCount, {}, words + " Open a backup, or pick the firmware of the file in the Version menu."};
 }
@@ -113,11 +113,11 @@ Advice OptionsHidden(const core::Application& app, const Observed& observed) {
 Advice SavedFile(const core::Application& app, const Observed& observed) {
   const auto& path = observed.files.Saved();
   if (path.empty() || firmware::SavedFileReopens(app.firmware)) return {};
-  const auto effect = app.firmware.IsV1400() ? " opens it shifted" : " refuses it";
+  const auto effect = app.firmware.IsV1400() ? " reads it shifted" : " refuses it";
   return {AdviceId::kCount,
           {},
-          FileNameOf(path) + " is for keeping only: under " + app.firmware.Joined() + " Open" + effect +
-              ". Use " + kSaveBackup + " for a file that opens again.",
+          FileNameOf(path) + " is for keeping only: under " + app.firmware.Joined() + " \"Open\"" + effect +
+              ". Use \"" + kSaveBackup + "\" for a file that opens again.",
           AdviceAction::kSaveBackup,
           kSaveBackup};
 }

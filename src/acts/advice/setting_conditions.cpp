@@ -28,6 +28,20 @@ std::string Numbered(const std::string& kind, const std::vector<std::string>& nu
   return kind + (numbers.size() == 1 ? " " : "s ") + Listed(numbers);
 }
 
+// The same with the numbers of three and more neighbours as "3 to 7".
+std::string Numbered(const std::string& kind, const std::vector<int>& numbers) {
+  std::vector<std::string> words;
+  for (std::size_t at = 0; at < numbers.size();) {
+    auto last = at;
+    while (last + 1 < numbers.size() && numbers[last + 1] == numbers[last] + 1) ++last;
+    if (last < at + 2) last = at;
+    words.push_back(std::to_string(numbers[at]));
+    if (last > at) words.back() += " to " + std::to_string(numbers[last]);
+    at = last + 1;
+  }
+  return kind + (numbers.size() == 1 ? " " : "s ") + Listed(words);
+}
+
 Advice GoTo(std::string words, std::string caption, std::string_view control) {
   return {AdviceId::kCount, {}, std::move(words), AdviceAction::kGoToControl, std::move(caption), control};
 }
@@ -94,9 +108,9 @@ bool IsBlankTrigger(const std::string& record) {
 }  // namespace
 
 Advice RangeOrder(const core::Application& app, const Observed&) {
-  std::vector<std::string> numbers;
+  std::vector<int> numbers;
   for (int number = 1; number <= image::kExceptions; ++number) {
-    if (FirstIsAboveSecond(app, app.image.at(EXCPSTRS, number))) numbers.push_back(std::to_string(number));
+    if (FirstIsAboveSecond(app, app.image.at(EXCPSTRS, number))) numbers.push_back(number);
   }
   if (numbers.empty()) return {};
   const auto& button = app.frmMain.cmdSetRange.caption;
@@ -122,12 +136,12 @@ Advice AlarmWithoutException(const core::Application& app, const Observed&) {
 }
 
 Advice BlankText(const core::Application& app, const Observed&) {
-  std::vector<std::string> exceptions, alarms;
+  std::vector<int> exceptions, alarms;
   for (int number = 1; number <= image::kExceptions; ++number) {
-    if (IsBlankException(app, app.image.at(EXCPSTRS, number))) exceptions.push_back(std::to_string(number));
+    if (IsBlankException(app, app.image.at(EXCPSTRS, number))) exceptions.push_back(number);
   }
   for (int number = 1; number <= image::kAlarms; ++number) {
-    if (IsBlankTrigger(app.image.at(TRIGGER_TEXT, number))) alarms.push_back(std::to_string(number));
+    if (IsBlankTrigger(app.image.at(TRIGGER_TEXT, number))) alarms.push_back(number);
   }
   if (exceptions.empty() && alarms.empty()) return {};
   std::vector<std::string> texts;

@@ -1,12 +1,14 @@
 // A program that a script runs, in a folder with the default images of its firmware.
 #pragma once
 
+#include <filesystem>
 #include <set>
 #include <sstream>
 #include <stdexcept>
 #include <string>
 
 #include "acts/advice.h"
+#include "core/configuration.h"
 #include "images/default_images.h"
 #include "script/parser.h"
 #include "script/runner.h"
@@ -22,14 +24,20 @@ inline const std::string kDownload = "click CmdUpDow(1)\ndrain\nunit hex 06\n";
 inline const std::string kTransferEnd = "click frmOK_buttom.Command1\n";
 inline const std::string kAt = "clock \"2026-03-05 14:07:09\"\n";
 
+// The default images of all registers, or only of the first one.
+enum class Images { kAll, kFirstRegister };
+
 class AdviceProgram {
  public:
-  explicit AdviceProgram(const firmware::FirmwareId& firmware) : session_(output_, output_) {
+  explicit AdviceProgram(const firmware::FirmwareId& firmware, Images images = Images::kAll)
+      : session_(output_, output_) {
     static const TemporaryFolder folder;
     static std::set<std::string> written;
     folder_ = folder.Path().string();
     image_ = folder.File(firmware.version + "/" + firmware.release + "/GENERIC.bin");
-    if (written.insert(firmware.Joined()).second) images::WriteDefaultImages(folder_, firmware);
+    if (images == Images::kFirstRegister) WriteFirst(firmware);
+    if (images == Images::kAll && written.insert(firmware.Joined()).second)
+      images::WriteDefaultImages(folder_, firmware);
     session_.SetFolder(folder_);
     Run("setting Version \"" + firmware.version + "\"\nsetting Release \"" + firmware.release +
         "\"\nstart\n");
@@ -58,6 +66,14 @@ class AdviceProgram {
   acts::Advisor& Advisor() { return session_.Advisor(); }
 
  private:
+  void WriteFirst(const firmware::FirmwareId& firmware) const {
+    std::filesystem::create_directories(std::filesystem::path(image_).parent_path());
+    core::Application app;
+    app.firmware = firmware;
+    app.image = images::FactoryImage(firmware);
+    WriteFile(image_, core::ReopenableStream(app) + "\r\n");
+  }
+
   static void Replace(std::string& text, const std::string& word, const std::string& by) {
     for (auto at = text.find(word); at != std::string::npos; at = text.find(word, at + by.size()))
       text.replace(at, word.size(), by);

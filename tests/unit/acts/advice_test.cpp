@@ -196,7 +196,7 @@ TEST(AdviceOnFiles, APickAfterACancelledOpenIsSwallowed) {
 TEST(AdviceOnFiles, SaysWhatASavedFileIsGoodForUnderEachFirmware) {
   for (const auto& entry : firmware::FirmwareTable()) {
     SCOPED_TRACE(entry.Id().Joined());
-    AdviceProgram program(entry.Id());
+    AdviceProgram program(entry.Id(), Images::kFirstRegister);
     program.Run("pick ComboALM(1) \"RTS\"\npick ComboExcp(0) 23\n");
     const auto before = program.App().image;
     program.Run("answer \"FILE\"\nclick menuSave\n");
@@ -223,17 +223,17 @@ TEST(AdviceOnFiles, NamesAFileThatDoesNotFitTheFirmware) {
        "", open_image},
       {"file-misread",
        save_and_open,
-       "Files that Save writes under this firmware are such files.",
+       "Files that \"Save\" writes under this firmware are such files.",
        "",
        kOpenPort + kHold + kUpload + "unit \"STREAM\"\n",
        {"V1400", "R7"}},
       {"file-refused", save_and_open, "file.bin is no configuration that V1334R1 opens. Nothing has changed.",
        "", open_image, kV1334},
       {"saved-file", "answer \"FILE\"\nclick menuSave\n",
-       "file.bin is for keeping only: under V1400R12 Open opens it shifted. Use Save Backup...",
+       "file.bin is for keeping only: under V1400R12 \"Open\" reads it shifted. Use \"Save Backup...\"",
        "Save Backup...", open_image},
-      {"saved-file", "answer \"FILE\"\nclick menuSave\n", "under V1334R1 Open refuses it", "Save Backup...",
-       open_image, kV1334},
+      {"saved-file", "answer \"FILE\"\nclick menuSave\n", "under V1334R1 \"Open\" refuses it",
+       "Save Backup...", open_image, kV1334},
   };
   for (const auto& row : rows) Expect(row);
   AdviceProgram program(kLatest);
@@ -323,6 +323,15 @@ TEST(AdviceOnSettings, NamesTheSlotsThatDoNothing) {
         {"blank-text",
          text("cmdSetExcpstr", "REFUND") + "pick ComboExcp(3) \"ON\"\n" + text("cmdSetExcpstr", "   "),
          "exception 1.", "Set Exception String", "pick ComboExcp(3) \"OFF\"\n", firmware},
+        {"blank-text",
+         "pick ComboExcp(1) 1\npick ComboExcp(0) 1\npick ComboExcp(1) 1\npick ComboExcp(0) 2\npick "
+         "ComboExcp(1) 1\npick "
+         "ComboExcp(0) 4\npick ComboExcp(1) 1\n",
+         "exceptions 1 to 3 and 5.", "Set Exception String",
+         "pick ComboExcp(1) 0\npick ComboExcp(0) 0\npick ComboExcp(1) 0\npick ComboExcp(0) 1\npick "
+         "ComboExcp(1) 0\npick "
+         "ComboExcp(0) 2\npick ComboExcp(1) 0\n",
+         firmware},
         {"blank-text", "pick ComboALM(0) 1\npick ComboTrigger(0) \"ON\"\n", "the trigger text of alarm 2.",
          "Set Trigger Text", text("cmdSetTrigger", "DOOR"), firmware},
     };
