@@ -60,7 +60,6 @@ void Advisor::After(const core::Event& event) {
   if (app_.handling) return;
   observed_.link.After(app_, event);
   observed_.files.After(app_, observed_.link);
-  if (observed_.files.FileOpened()) observed_.link.ForgetUpload();
   dismissed_ &= ~(observed_.link.Renewed() | observed_.files.Renewed());
   // Characters come too fast for this; the timers tick between them.
   if (dismissed_.any() && !IsOfLine(event)) ForgetDismissed();

@@ -42,6 +42,8 @@ struct UnfitOption {
   image::FieldId field;
   int entry;
   std::string value;
+
+  bool operator==(const UnfitOption&) const = default;
 };
 
 // The last attempt to open the port.

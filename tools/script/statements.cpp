@@ -349,7 +349,8 @@ constexpr auto kStatements = std::to_array<Statement>({
 std::span<const Statement> Statements() {
   static const auto all = [] {
     std::vector<Statement> statements(kStatements.begin(), kStatements.end());
-    for (const auto more : {UndoStatements(), AdviceStatements()}) statements.insert(statements.end(), more.begin(), more.end());
+    for (const auto more : {UndoStatements(), AdviceStatements()})
+      statements.insert(statements.end(), more.begin(), more.end());
     return statements;
   }();
   return all;

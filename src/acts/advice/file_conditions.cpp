@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "acts/act_names.h"
 #include "acts/advice/link_conditions.h"
 #include "changes/editors.h"
 #include "codecs/codecs.h"
@@ -49,7 +50,7 @@ std::string FieldName(const core::UnfitOption& unfit) {
 }  // namespace
 
 Advice FileMisread(const core::Application& app, const Observed& observed) {
-  const auto& path = observed.files.Misread();
+  const auto path = observed.files.MisreadIn(app);
   if (path.empty()) return {};
   auto words = FileNameOf(path) + " has not the form of " + app.firmware.Joined() +
                ", so everything from the register options on is shifted. Do not download it.";

@@ -30,10 +30,6 @@ bool IsCancelled(const std::string& note) {
 
 }  // namespace
 
-std::string FileNameOf(const std::string& path) {
-  return path.substr(path.find_last_of("/\\") + 1);
-}
-
 void FileWatch::Before(const core::Application& app, const core::Event& event) {
   const bool reachable = app.frmMain.form.visible && app.frmMain.form.enabled;
   before_.picks_register = reachable && PicksRegister(app, event);
@@ -47,12 +43,16 @@ void FileWatch::Before(const core::Application& app, const core::Event& event) {
 
 void FileWatch::After(const core::Application& app, const LinkWatch& link) {
   renewed_.reset();
-  file_opened_ = false;
   if (link.UploadCompleted()) TakenIn();
   if (link.DownloadCompleted()) other_tabs_.reset();
   if (before_.opens) WatchOpen(app);
   if (before_.saves) WatchSave(app);
   WatchRegister(app);
+}
+
+// An undone Open has another known image, and so has a complete upload.
+std::string FileWatch::MisreadIn(const core::Application& app) const {
+  return misread_.empty() || app.known_image != misread_image_ ? std::string() : misread_;
 }
 
 // The configuration is a new one: what was said about the old one no longer holds.
@@ -78,9 +78,9 @@ void FileWatch::WatchOpen(const core::Application& app) {
     return;
   }
   TakenIn();
-  file_opened_ = true;
   if (image::FitsFirmware(app.StreamText, app.firmware)) return;
   misread_ = app.CurrentFilePath;
+  misread_image_ = app.known_image;
   Add(renewed_, AdviceId::kFileMisread);
 }
 

@@ -28,8 +28,8 @@ class FileWatch {
   const std::string& OpenProblem() const { return open_problem_; }
   // The register list moved, and nothing was loaded.
   bool PickSwallowed() const { return pick_swallowed_; }
-  // The last file that was taken in, although it has not the form of the firmware; empty if there is none.
-  const std::string& Misread() const { return misread_; }
+  // The file that the configuration is from, if it has not the form of the firmware; else empty.
+  std::string MisreadIn(const core::Application& app) const;
   // The file that the last Open refused because of its form.
   const std::string& Refused() const { return refused_; }
   // The file that the last Save wrote; empty after an upload or an Open.
@@ -37,7 +37,6 @@ class FileWatch {
   const std::optional<TabsChange>& OtherTabs() const { return other_tabs_; }
 
   const AdviceSet& Renewed() const { return renewed_; }
-  bool FileOpened() const { return file_opened_; }
 
  private:
   struct Seen {
@@ -58,13 +57,11 @@ class FileWatch {
   Seen before_;
   bool begun_ = false;
   bool pick_swallowed_ = false;
-  bool file_opened_ = false;
-  std::string open_problem_, misread_, refused_, saved_;
+  std::string open_problem_, refused_, saved_;
+  std::string misread_;
+  image::ConfigImage misread_image_;  // as it was read
   std::optional<TabsChange> other_tabs_;
   AdviceSet renewed_;
 };
-
-// The name of a file without its folder.
-std::string FileNameOf(const std::string& path);
 
 }  // namespace ovl::acts

@@ -151,8 +151,8 @@ Advice UploadBroke(const core::Application&, const Observed& observed) {
           "Restart"};
 }
 
-Advice UploadMixed(const core::Application&, const Observed& observed) {
-  if (!observed.link.UploadMixed()) return {};
+Advice UploadMixed(const core::Application& app, const Observed& observed) {
+  if (!observed.link.UploadMixedIn(app)) return {};
   return {AdviceId::kCount,
           {},
           "The tabs show a mixture: the beginning is from an upload that broke off, the rest from the last "

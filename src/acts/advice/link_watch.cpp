@@ -75,8 +75,10 @@ void LinkWatch::WatchUpload(const core::Application& app) {
   if (before_.frame_state == 0) return;
   const auto& end = app.frmOK_buttom;
   upload_completed_ = end.form.loaded && end.Label1.caption == kUploadCompleted;
-  if (upload_completed_) upload_mixed_ = upload_broke_;
-  if (upload_completed_ && upload_mixed_) Add(renewed_, AdviceId::kUploadMixed);
+  if (upload_completed_ && upload_broke_) {
+    mixed_image_ = app.known_image;
+    Add(renewed_, AdviceId::kUploadMixed);
+  }
   upload_broke_ = false;
 }
 

@@ -63,16 +63,15 @@ class LinkWatch {
   const std::optional<FailedScan>& Scan() const { return scan_; }
   // The program still holds the beginning of an upload, and the next upload is put behind it.
   bool UploadBroke() const { return upload_broke_; }
-  // The configuration is read from such a text, until the next complete upload.
-  bool UploadMixed() const { return upload_mixed_; }
+  // The configuration is read from such a text.
+  bool UploadMixedIn(const core::Application& app) const {
+    return mixed_image_ && app.known_image == *mixed_image_;
+  }
 
   // What the last event brought.
   const AdviceSet& Renewed() const { return renewed_; }
   bool UploadCompleted() const { return upload_completed_; }
   bool DownloadCompleted() const { return download_completed_; }
-
-  // A file was opened: it replaces what the upload brought.
-  void ForgetUpload() { upload_mixed_ = false; }
 
  private:
   struct Seen {
@@ -94,8 +93,8 @@ class LinkWatch {
   std::optional<Refusal> refusal_;
   std::optional<BrokenDownload> broken_;
   std::optional<FailedScan> scan_;
+  std::optional<image::ConfigImage> mixed_image_;  // as it was read
   bool upload_broke_ = false;
-  bool upload_mixed_ = false;
   bool upload_completed_ = false;
   bool download_completed_ = false;
   AdviceSet renewed_;

@@ -55,6 +55,9 @@ TEST(AdviceOnTheLink, NamesABrokenUploadUntilTheProgramStartsAnew) {
        "The tabs show a mixture", "Restart", kTransferEnd + kHold + kUpload + "unit \"STREAM\"\n"},
       {"upload-mixed",
        kHalfUpload + "click cmdDisConnect\n" + kOpenPort + kHold + kUpload + "unit \"STREAM\"\n",
+       "Do not download it.", "Restart", kTransferEnd + "undo\n"},
+      {"upload-mixed",
+       kHalfUpload + "click cmdDisConnect\n" + kOpenPort + kHold + kUpload + "unit \"STREAM\"\n",
        "Do not download it.", "Restart", kTransferEnd + "answer \"IMAGE\"\nclick OpenMenu\n"},
   };
   for (const auto& row : rows) Expect(row);
@@ -229,6 +232,7 @@ TEST(AdviceOnFiles, NamesAFileThatDoesNotFitTheFirmware) {
        {"V1400", "R7"}},
       {"file-refused", save_and_open, "file.bin is no configuration that V1334R1 opens. Nothing has changed.",
        "", open_image, kV1334},
+      {"file-misread", save_and_open, "is shifted", "", "undo\n"},
       {"saved-file", "answer \"FILE\"\nclick menuSave\n",
        "file.bin is for keeping only: under V1400R12 \"Open\" reads it shifted. Use \"Save Backup...\"",
        "Save Backup...", open_image},
