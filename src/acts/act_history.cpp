@@ -89,8 +89,8 @@ bool ActHistory::TakeMoment() {
 }
 
 ActHistory::Variables ActHistory::VariablesNow() const {
-  return {app_.ImageTouched, app_.PanelsReady,     app_.UploadApplying,
-          app_.ComboTouched, app_.CurrentFilePath, app_.SavedIndexes};
+  return {app_.ImageTouched,    app_.PanelsReady,  app_.UploadApplying, app_.ComboTouched,
+          app_.CurrentFilePath, app_.SavedIndexes, app_.unfit_option};
 }
 
 void ActHistory::Add(std::string name, std::string origin) {
@@ -171,6 +171,7 @@ void ActHistory::PutBackMoment(const Moment& from, const Moment& to) {
   app_.ComboTouched = variables.ComboTouched;
   app_.CurrentFilePath = variables.CurrentFilePath;
   app_.SavedIndexes = variables.SavedIndexes;
+  app_.unfit_option = variables.unfit_option;
   now_.variables = to.variables;
   now_.origin = to.origin;
 }

@@ -5,6 +5,7 @@
 #include <deque>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -53,6 +54,7 @@ class ActHistory {
     bool ImageTouched, PanelsReady, UploadApplying, ComboTouched;
     std::string CurrentFilePath;
     decltype(core::Application::SavedIndexes) SavedIndexes;
+    std::optional<core::UnfitOption> unfit_option;
 
     bool operator==(const Variables&) const = default;
   };

@@ -1,6 +1,7 @@
 #include "changes/also_stored.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 #include <vector>
 
@@ -56,6 +57,24 @@ class Comparison {
     return line.empty() ? line : line + ".";
   }
 
+  // The fields on other tabs, one part for each tab.
+  std::string OtherTabs() const {
+    constexpr std::array kOtherTabs = {core::Place::kText,          core::Place::kAlarmOutputs,
+                                       core::Place::kCommunication, core::Place::kExceptionReport,
+                                       core::Place::kTime,          core::Place::kRemote};
+    std::string line;
+    for (const auto place : kOtherTabs) {
+      std::vector<std::string> stored;
+      for (const auto& shown : Editors()) {
+        if (shown.place == place) CompareShown(shown, stored);
+      }
+      if (stored.empty()) continue;
+      line += (line.empty() ? "" : "; ") + PlaceName(app_, place) + ": ";
+      for (const auto& words : stored) line += (&words == &stored.front() ? "" : ", ") + words;
+    }
+    return line;
+  }
+
  private:
   controls::ControlRef ListOf(const Editor& shown) const { return Named(shown).control; }
 
@@ -83,6 +102,12 @@ class Comparison {
     }
     // If the control itself shows no field, the fields that no list shows can be its own. They are not named.
     if (!shown_somewhere && acts_for_shown_) AddOnce(stored, std::string(row.name) + " " + now);
+  }
+
+  void CompareShown(const Editor& shown, std::vector<std::string>& stored) const {
+    const int now = codecs::HexToInt(app_.image[shown.field]);
+    const bool changed = ((now ^ codecs::HexToInt(before_[shown.field])) & shown.bits) != 0;
+    if (changed && shown.display != ValueDisplay::kNothing) AddOnce(stored, WordsOf(shown, now));
   }
 
   static void AddOnce(std::vector<std::string>& stored, const std::string& words) {
@@ -117,14 +142,18 @@ bool IsAct(const core::Event& event) {
   return std::visit(ControlOf{}, event).has_value() || std::holds_alternative<core::KeyEvent>(event);
 }
 
+std::string OtherTabsStored(const core::Application& app, const image::ConfigImage& before) {
+  return Comparison(app, before, app.registry.Find("ComboReg")->control).OtherTabs();
+}
+
 std::string AlsoStored(const core::Application& app, const core::Event& event,
                        const image::ConfigImage& before) {
   const auto acted = std::visit(ControlOf{}, event);
-  if (!acted || app.image == before) return {};
+  if (!acted || app.image == before || std::holds_alternative<controls::MenuItem*>(*acted)) return {};
   const auto* list = std::get_if<controls::List*>(&*acted);
-  const bool whole_image = std::holds_alternative<controls::MenuItem*>(*acted) ||
-                           (list != nullptr && *list == &app.frmMain.ComboReg);
-  return whole_image ? std::string() : Comparison(app, before, *acted).Line();
+  if (list == nullptr || *list != &app.frmMain.ComboReg) return Comparison(app, before, *acted).Line();
+  const auto others = OtherTabsStored(app, before);
+  return others.empty() ? others : "Also stored: " + others + ".";
 }
 
 }  // namespace ovl::changes

@@ -45,12 +45,6 @@ std::string Trimmed(const std::string& text) {
                                     : text.substr(begin, text.find_last_not_of(' ') + 1 - begin);
 }
 
-std::string PlaceOf(const core::Application& app, Place place) {
-  const auto at = static_cast<std::size_t>(place);
-  if (at >= kTabs) return place == Place::kRange ? "range window" : app.frmMicros.form.caption;
-  return Trimmed(app.frmMain.SSTab1.captions.at(at));
-}
-
 std::string CaptionOf(const core::Application& app, std::string_view name) {
   const auto* control = app.registry.Find(name);
   if (control == nullptr) throw std::logic_error("there is no control " + std::string(name));
@@ -109,7 +103,7 @@ std::string Words(const core::Application& app, std::string_view options, bool h
     const auto captions = Captions(app, editor.controls, options, hidden_too);
     if (captions.empty()) continue;
     if (last != nullptr) words += last->place == editor.place ? ", " : "; ";
-    if (last == nullptr || last->place != editor.place) words += PlaceOf(app, editor.place) + ": ";
+    if (last == nullptr || last->place != editor.place) words += PlaceName(app, editor.place) + ": ";
     words += captions;
     last = &editor;
   }
@@ -117,6 +111,12 @@ std::string Words(const core::Application& app, std::string_view options, bool h
 }
 
 }  // namespace
+
+std::string PlaceName(const core::Application& app, Place place) {
+  const auto at = static_cast<std::size_t>(place);
+  if (at >= kTabs) return place == Place::kRange ? "range window" : app.frmMicros.form.caption;
+  return Trimmed(app.frmMain.SSTab1.captions.at(at));
+}
 
 std::span<const Editor> Editors() {
   static const std::vector<Editor> editors = [] {

@@ -16,6 +16,9 @@ std::span<const core::Editor> Editors();
 // The caption of a control without blanks at both ends and without a colon.
 std::string PlainCaption(const controls::ControlRef& control);
 
+// The caption of the tab or window, such as "COMMUNICATION".
+std::string PlaceName(const core::Application& app, core::Place place);
+
 // The captions of the controls that edit the field, such as "COMMUNICATION: PARITY, DATA BITS"; empty if no
 // control edits it. With two contents, only the visible controls that store a difference between them.
 // `options` is the word for the options of a register. Throws std::logic_error if a control or its caption is

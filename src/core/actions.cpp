@@ -93,6 +93,8 @@ void OpenCommPort(Application& app) {
   auto& comm = app.frmMain.MSComm1;
   if (comm.PortOpen) return;
   const auto opened = app.platform.serial.open({comm.CommPort, comm.Settings});
+  ++app.last_port_attempt.number;
+  app.last_port_attempt.refused = opened.Ok() ? std::nullopt : std::optional(opened.Problem());
   if (!opened.Ok()) throw Failure(PortName(app), opened.Problem().what());
   comm.PortOpen = true;
 }

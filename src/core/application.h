@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -34,6 +35,21 @@ enum class ApplyWhen { kAfterLoad, kAfterLoadAndPick };
 struct ApplyRoutine {
   Routine run;
   ApplyWhen when;
+};
+
+// A stored byte for which an option of the register has no entry. The option frame stays hidden then.
+struct UnfitOption {
+  image::FieldId field;
+  int entry;
+  std::string value;
+
+  bool operator==(const UnfitOption&) const = default;
+};
+
+// The last attempt to open the port.
+struct PortAttempt {
+  unsigned number = 0;             // attempts since the start
+  std::optional<Failure> refused;  // names the device
 };
 
 struct Application {
@@ -121,6 +137,10 @@ struct Application {
   // State of the gate
   bool handling = false;
   bool ended = false;
+  // For the screen alone
+  std::optional<UnfitOption> unfit_option;  // of the register whose options were shown last
+  PortAttempt last_port_attempt;
+  std::string saved_path;  // what the last Save has written; empty if it failed
   std::string
       StatusNote;  // what last went wrong, naming file or port and the system's reason; presentation only
 };

@@ -65,6 +65,9 @@ struct SerialLine {
   std::function<std::string()> read;
   std::function<void()> clear_input;
   std::function<void()> clear_output;
+  // Why the device of the open port is lost; null while it works or the port is closed. The failure lives
+  // until the next operation. A line that is never lost can leave this function out.
+  std::function<const Failure*()> lost;
 };
 
 // Files, each read or replaced as a whole. A failure throws Failure, which names the path and gives the

@@ -80,9 +80,12 @@ void menuSave_Click(core::Application& app, int) {
   dialog.file_name = PathBelow(app.platform.program_folder, "\\*.Bin");
   dialog.filter = std::string(kTextFiles) + "|" + kAllFiles;
   dialog.filter_index = 2;
+  app.saved_path.clear();
   try {
     const auto stream = SavedStream(app);
-    app.platform.files.replace(AskForPath(app, dialog), stream + "\r\n");
+    const auto path = AskForPath(app, dialog);
+    app.platform.files.replace(path, stream + "\r\n");
+    app.saved_path = path;
   } catch (const core::Failure& failure) {
     app.StatusNote = failure.Text();
     MsgBox(app, core::Box::kNotSaved);

@@ -92,6 +92,11 @@ Capabilities CapabilitiesOf(const FirmwareId& firmware) {
   return capabilities;
 }
 
+bool SavedFileReopens(const FirmwareId& firmware) {
+  const auto layout = LayoutOf(firmware);
+  return layout == Layout::kEarlyV1400 || layout == Layout::kOldV13;
+}
+
 bool HasShortImage(const FirmwareId& firmware) {
   return IsIn(kShortImage, firmware);
 }

@@ -39,6 +39,10 @@ Layout LayoutOf(const FirmwareId& firmware);
 // R9 counts as 0.
 Capabilities CapabilitiesOf(const FirmwareId& firmware);
 
+// A file that "Save" writes opens again under the same firmware. "Save" writes the early V1400 layout under
+// every V1400, and the region of the old V13xx layout under the other families.
+bool SavedFileReopens(const FirmwareId& firmware);
+
 // V1400 below release 6: the image ends one record earlier. This rule goes by the number, LayoutOf by the
 // text. They disagree about R3 and R5, which no unit has.
 bool HasShortImage(const FirmwareId& firmware);

@@ -82,6 +82,7 @@ core::SerialLine SerialPort::Operations() {
   line.read = [this] { return Read(); };
   line.clear_input = [this] { ClearInput(); };
   line.clear_output = [this] { ClearOutput(); };
+  line.lost = [this] { return lost_.Ok() ? nullptr : &lost_.Problem(); };
   return line;
 }
 

@@ -92,6 +92,12 @@ std::vector<FieldDifference> Differences(const ConfigImage& before, const Config
   return differences;
 }
 
+bool FitsFirmware(std::string_view stream, const firmware::FirmwareId& firmware) {
+  std::string digits;
+  return ParseRecords(stream, ReadRegion(firmware), digits) == ParseResult::kOk &&
+         digits.size() == DigitsOfImage(firmware);
+}
+
 std::vector<FirmwareFit> FittingFirmware(std::string_view stream) {
   std::vector<FirmwareFit> fits;
   for (const auto& entry : firmware::FirmwareTable()) {

@@ -31,6 +31,9 @@ struct FieldDifference {
 std::vector<FieldDifference> Differences(const ConfigImage& before, const ConfigImage& after,
                                          const firmware::FirmwareId& firmware);
 
+// Whether the markers and the length of a stream are those of the firmware.
+bool FitsFirmware(std::string_view stream, const firmware::FirmwareId& firmware);
+
 // A firmware of the Version menu that fits the markers and the length of a stream, and the register that the
 // stream selects under this firmware.
 struct FirmwareFit {

@@ -15,17 +15,43 @@ namespace {
 
 using enum image::FieldId;
 
+// A byte of the image, and where it is from.
+struct Stored {
+  image::FieldId field;
+  int entry;
+  int value;
+};
+
+Stored StoredIn(const core::Application& app, image::FieldId field, int entry = 1) {
+  return {field, entry, codecs::HexToInt(app.image.at(field, entry))};
+}
+
 int Byte(const core::Application& app, image::FieldId field) {
-  return codecs::HexToInt(app.image[field]);
+  return StoredIn(app, field).value;
+}
+
+// Keeps the byte that has no matching entry, for the words on the screen.
+bool Fits(core::Application& app, const Stored& byte, bool accepted) {
+  if (!accepted) app.unfit_option = core::UnfitOption{byte.field, byte.entry, codecs::ByteToHex(byte.value)};
+  return accepted;
 }
 
 bool Assign(core::Application& app, controls::List& list, int position) {
   return AssignPosition(app, list, position, core::Raise::kAlways);
 }
 
+bool Assign(core::Application& app, controls::List& list, const Stored& byte) {
+  return Fits(app, byte, Assign(app, list, byte.value));
+}
+
+bool Choose(core::Application& app, controls::OptionArray& array, const Stored& byte) {
+  return Fits(app, byte, ChooseElement(app, array, byte.value));
+}
+
 // The three digits, the first one in the last list.
 bool AssignDigits(core::Application& app, std::array<controls::List, 3>& lists) {
-  const std::array digits = {Byte(app, TCIADDBAK_1), Byte(app, TCIADDBAK_2), Byte(app, TCIADDBAK_3)};
+  const std::array digits = {StoredIn(app, TCIADDBAK_1), StoredIn(app, TCIADDBAK_2),
+                             StoredIn(app, TCIADDBAK_3)};
   return Assign(app, lists[2], digits[0]) && Assign(app, lists[1], digits[1]) &&
          Assign(app, lists[0], digits[2]);
 }
@@ -42,7 +68,7 @@ void Offer(controls::OptionArray& array, std::span<const char* const> captions) 
 bool AssignOffered(core::Application& app, controls::OptionArray& array,
                    std::initializer_list<const char*> captions) {
   Offer(array, {captions.begin(), captions.size()});
-  return ChooseElement(app, array, Byte(app, REGTYPE_MINOR));
+  return Choose(app, array, StoredIn(app, REGTYPE_MINOR));
 }
 
 // Only V1400 empties the list before it is filled again.
@@ -53,11 +79,11 @@ bool RefillMixed(core::Application& app, std::initializer_list<const char*> entr
     list.position = -1;
   }
   list.items.insert(list.items.end(), entries.begin(), entries.end());
-  return Assign(app, list, Byte(app, REGTYPE_MINOR));
+  return Assign(app, list, StoredIn(app, REGTYPE_MINOR));
 }
 
 bool AssignMode(core::Application& app, std::array<controls::List, 2>& lists) {
-  const int mode = Byte(app, REGTYPE_MINOR);
+  const auto mode = StoredIn(app, REGTYPE_MINOR);
   return Assign(app, lists[0], 0) && Assign(app, lists[1], mode);
 }
 
@@ -74,27 +100,27 @@ bool AssignEasy(core::Application& app, const char* caption) {
 // Chooses a main option by its byte and shows what belongs to it.
 template <void (*kShow)(core::Application&, int)>
 bool AssignMain(core::Application& app, controls::OptionArray& array) {
-  const int element = Byte(app, REGTYPE_MINOR);
-  if (!ChooseElement(app, array, element)) return false;
-  kShow(app, element);
+  const auto element = StoredIn(app, REGTYPE_MINOR);
+  if (!Choose(app, array, element)) return false;
+  kShow(app, element.value);
   return true;
 }
 
 }  // namespace
 
 bool AssignArray(core::Application& app, const RegisterRow& row) {
-  return ChooseElement(app, app.frmMain.*row.array, Byte(app, row.from));
+  return Choose(app, app.frmMain.*row.array, StoredIn(app, row.from));
 }
 
 bool AssignList(core::Application& app, const RegisterRow& row) {
-  return Assign(app, app.frmMain.*row.list, Byte(app, row.from));
+  return Assign(app, app.frmMain.*row.list, StoredIn(app, row.from));
 }
 
 bool AssignTcpip(core::Application& app, const RegisterRow&) {
   auto& form = app.frmMain;
   const int flags = Byte(app, REGTYPE_MINOR);
   for (int entry = 1; entry <= 4; ++entry) {
-    const int value = codecs::HexToInt(app.image.at(IPADDRESS, entry));
+    const auto value = StoredIn(app, IPADDRESS, entry);
     if (!Assign(app, form.ComboTCPIP[static_cast<std::size_t>(entry + 3)], value)) return false;
   }
   for (std::size_t bit = 0; bit < form.ComboTCPINFO.size(); ++bit) {
@@ -105,7 +131,7 @@ bool AssignTcpip(core::Application& app, const RegisterRow&) {
 
 bool AssignOldTcpip(core::Application& app, const RegisterRow&) {
   for (int entry = 1; entry <= 4; ++entry) {
-    const int value = codecs::HexToInt(app.image.at(IPADDRESS, entry));
+    const auto value = StoredIn(app, IPADDRESS, entry);
     if (!Assign(app, app.frmMain.ComboTCPIP[static_cast<std::size_t>(entry - 1)], value)) return false;
   }
   return true;
@@ -115,14 +141,14 @@ bool AssignDresserWayne(core::Application& app, const RegisterRow&) {
   auto& form = app.frmMain;
   const int source = Byte(app, REGTYPE_MINOR);
   const int kind = Byte(app, REGTYPE_EXT1);
-  const int option = Byte(app, REGTYPE_EXT2);
-  if (source == 0) return ChooseElement(app, form.POSOP, option);
+  const auto option = StoredIn(app, REGTYPE_EXT2);
+  if (source == 0) return Choose(app, form.POSOP, option);
   if (source != 1) return true;
   switch (kind) {
     case 0:
-      return ChooseElement(app, form.TEROP, option);
+      return Choose(app, form.TEROP, option);
     case 1:
-      return ChooseElement(app, form.PRNOP, option);
+      return Choose(app, form.PRNOP, option);
     case 2:
       return ChooseElement(app, form.SECUOP, 0);
     default:
@@ -131,14 +157,14 @@ bool AssignDresserWayne(core::Application& app, const RegisterRow&) {
 }
 
 bool AssignFujitsu(core::Application& app, const RegisterRow&) {
-  const int model = Byte(app, REGTYPE_MINOR);
-  const int printer = Byte(app, REGTYPE_EXT2);
-  return ChooseElement(app, app.frmMain.FUJIOP, model) && Assign(app, app.frmMain.Combo1, printer);
+  const auto model = StoredIn(app, REGTYPE_MINOR);
+  const auto printer = StoredIn(app, REGTYPE_EXT2);
+  return Choose(app, app.frmMain.FUJIOP, model) && Assign(app, app.frmMain.Combo1, printer);
 }
 
 bool AssignGasboy(core::Application& app, const RegisterRow&) {
-  const int address = Byte(app, REGTYPE_MINOR);
-  const int device = Byte(app, GTITLE_NF_BAK);
+  const auto address = StoredIn(app, REGTYPE_MINOR);
+  const auto device = StoredIn(app, GTITLE_NF_BAK);
   return Assign(app, app.frmMain.ComboDeviceADD, address) && Assign(app, app.frmMain.ComboDeviceGas, device);
 }
 
@@ -158,12 +184,12 @@ bool AssignSchlumberger(core::Application& app, const RegisterRow&) {
 bool AssignMicrelec(core::Application& app, const RegisterRow&) {
   auto& form = app.frmMain;
   auto& array = Byte(app, REGTYPE_MINOR) == 0 ? form.OpMicrelec : form.OpMicrelec9500;
-  return ChooseElement(app, array, Byte(app, UNITADDR));
+  return Choose(app, array, StoredIn(app, UNITADDR));
 }
 
 bool AssignMicros(core::Application& app, const RegisterRow&) {
   if (firmware::OffersMicros3700(app.firmware)) app.frmMain.OpMicros.elements[3].visible = true;
-  if (!ChooseElement(app, app.frmMain.OpMicros, Byte(app, REGTYPE_MINOR))) return false;
+  if (!Choose(app, app.frmMain.OpMicros, StoredIn(app, REGTYPE_MINOR))) return false;
   ShowMicrosPanel(app);
   return true;
 }
@@ -174,22 +200,22 @@ bool AssignNcr(core::Application& app, const RegisterRow&) {
     array.elements[5].visible = true;
     array.elements[6].visible = true;
   }
-  return ChooseElement(app, array, Byte(app, REGTYPE_MINOR));
+  return Choose(app, array, StoredIn(app, REGTYPE_MINOR));
 }
 
 bool AssignNorand(core::Application& app, const RegisterRow&) {
   auto& form = app.frmMain;
-  const int wiring = Byte(app, REGTYPE_MINOR);
-  const int title = Byte(app, GTITLE_NF_BAK);
-  const int console = Byte(app, DV_ADDRIND_BAK);
+  const auto wiring = StoredIn(app, REGTYPE_MINOR);
+  const auto title = StoredIn(app, GTITLE_NF_BAK);
+  const auto console = StoredIn(app, DV_ADDRIND_BAK);
   return Assign(app, form.ComboWoring, wiring) && Assign(app, form.ComboTITLEDIP, title) &&
          Assign(app, form.ComboCONSOLEID, console);
 }
 
 bool AssignPanasonic(core::Application& app, const RegisterRow&) {
   auto& lists = app.frmMain.ComboPana;
-  const int title = Byte(app, GTITLE_NF_BAK);
-  const int wiring = Byte(app, REGTYPE_MINOR);
+  const auto title = StoredIn(app, GTITLE_NF_BAK);
+  const auto wiring = StoredIn(app, REGTYPE_MINOR);
   return Assign(app, lists[0], title) && Assign(app, lists[1], wiring);
 }
 
@@ -199,13 +225,13 @@ bool AssignTci(core::Application& app, const RegisterRow&) {
 
 bool AssignUniwell(core::Application& app, const RegisterRow&) {
   ShowUniwellSwitch(app, false);
-  return Assign(app, app.frmMain.ComboUni, Byte(app, REGTYPE_MINOR)) &&
+  return Assign(app, app.frmMain.ComboUni, StoredIn(app, REGTYPE_MINOR)) &&
          AssignDigits(app, app.frmMain.ComboUNI_ID);
 }
 
 bool AssignUniwellModels(core::Application& app, const RegisterRow&) {
   auto& form = app.frmMain;
-  const int option = Byte(app, REGTYPE_EXT2);
+  const auto option = StoredIn(app, REGTYPE_EXT2);
   form.FrameOf(controls::OptionFrame::kUniwellId).caption.clear();
   if (!AssignMain<ApplyUniwellFrame>(app, form.UNIWOP)) return false;
   ShowUniwellSwitch(app, true);
@@ -216,7 +242,7 @@ bool AssignUniwellModels(core::Application& app, const RegisterRow&) {
 
 bool AssignSerialId(core::Application& app, const RegisterRow&) {
   ShowUniwellSwitch(app, true);
-  return Assign(app, app.frmMain.ComboUniFor14R7up, Byte(app, REGTYPE_EXT2)) &&
+  return Assign(app, app.frmMain.ComboUniFor14R7up, StoredIn(app, REGTYPE_EXT2)) &&
          AssignDigits(app, app.frmMain.ComboUNI_ID);
 }
 
@@ -233,7 +259,7 @@ bool AssignTec(core::Application& app, const RegisterRow&) {
 }
 
 bool AssignClarity(core::Application& app, const RegisterRow&) {
-  const int address = Byte(app, UNITADDR);
+  const auto address = StoredIn(app, UNITADDR);
   auto& list = app.frmMain.ComboCLARITYEPOS;
   return Assign(app, list, 0) && Assign(app, list, address);
 }
@@ -242,7 +268,7 @@ bool AssignEpson(core::Application& app, const RegisterRow&) {
   const bool extended = firmware::ReadsEpsonFromExtension(app.firmware);
   auto& array = app.frmMain.OpRI_QT2;
   if (extended) array.elements[9].visible = true;
-  return ChooseElement(app, array, Byte(app, extended ? REGTYPE_EXT2 : REGTYPE_MINOR));
+  return Choose(app, array, StoredIn(app, extended ? REGTYPE_EXT2 : REGTYPE_MINOR));
 }
 
 bool AssignNucleus(core::Application& app, const RegisterRow&) {
@@ -256,7 +282,7 @@ bool AssignScale(core::Application& app, const RegisterRow&) {
 bool AssignScaleModels(core::Application& app, const RegisterRow&) {
   auto& array = app.frmMain.OpWEIGHS;
   Offer(array, firmware::WeighScaleModelsOf(app.firmware));
-  return ChooseElement(app, array, Byte(app, REGTYPE_MINOR));
+  return Choose(app, array, StoredIn(app, REGTYPE_MINOR));
 }
 
 bool AssignOdometer(core::Application& app, const RegisterRow&) {
@@ -265,7 +291,7 @@ bool AssignOdometer(core::Application& app, const RegisterRow&) {
 
 bool AssignSensors(core::Application& app, const RegisterRow&) {
   return ChooseElement(app, app.frmMain.SenOP, 0) &&
-         Assign(app, app.frmMain.ST6105C, Byte(app, REGTYPE_EXT2));
+         Assign(app, app.frmMain.ST6105C, StoredIn(app, REGTYPE_EXT2));
 }
 
 bool AssignEasyTouch(core::Application& app, const RegisterRow&) {
@@ -284,36 +310,34 @@ bool AssignPosiflex(core::Application& app, const RegisterRow&) {
 
 bool AssignIbm(core::Application& app, const RegisterRow&) {
   auto& form = app.frmMain;
-  const int option = Byte(app, REGTYPE_EXT2);
+  const auto option = StoredIn(app, REGTYPE_EXT2);
   if (!AssignMain<ShowIbm>(app, form.IBMOP)) return false;
   for (const auto* list : {&form.IBMCombo, &form.RDSCombo, &form.Combo4610TF6}) {
-    if (list->visible) return list->position == option;
+    if (list->visible) return Fits(app, option, list->position == option.value);
   }
   return true;
 }
 
 bool AssignIcl(core::Application& app, const RegisterRow&) {
   auto& form = app.frmMain;
-  const int option = Byte(app, REGTYPE_EXT2);
-  if (!AssignMain<ShowIcl>(app, form.ICLOP) || !ChooseElement(app, form.TEAMOP, option)) return false;
+  const auto option = StoredIn(app, REGTYPE_EXT2);
+  if (!AssignMain<ShowIcl>(app, form.ICLOP) || !Choose(app, form.TEAMOP, option)) return false;
   form.POS2000.visible = true;
   return true;
 }
 
 bool AssignNcrModel(core::Application& app, const RegisterRow&) {
   auto& form = app.frmMain;
-  const int option = Byte(app, REGTYPE_EXT2);
-  if (!AssignMain<ShowNcr>(app, form.NCROP) || !ChooseElement(app, form.JRNLRCPT_SLP_OP, option))
-    return false;
+  const auto option = StoredIn(app, REGTYPE_EXT2);
+  if (!AssignMain<ShowNcr>(app, form.NCROP) || !Choose(app, form.JRNLRCPT_SLP_OP, option)) return false;
   form.NCRFrame.visible = false;
   return true;
 }
 
 bool AssignNixdorf(core::Application& app, const RegisterRow&) {
   auto& form = app.frmMain;
-  const int option = Byte(app, REGTYPE_EXT2);
-  if (!AssignMain<ShowNixdorf>(app, form.NIXDORF14OP) || !ChooseElement(app, form.BEETLEOp, option))
-    return false;
+  const auto option = StoredIn(app, REGTYPE_EXT2);
+  if (!AssignMain<ShowNixdorf>(app, form.NIXDORF14OP) || !Choose(app, form.BEETLEOp, option)) return false;
   form.BEETLEFrm.visible = true;
   return true;
 }
@@ -339,23 +363,23 @@ bool AssignVectron(core::Application& app, const RegisterRow&) {
 }
 
 bool AssignCasio(core::Application& app, const RegisterRow&) {
-  const int model = Byte(app, REGTYPE_MINOR);
-  if (!ChooseElement(app, app.frmMain.CASIOOP, model)) return false;
-  if (!ArrangeCasioSubmenu(app, model)) UnloadForm(app, app.FrmSubMenu.form);
+  const auto model = StoredIn(app, REGTYPE_MINOR);
+  if (!Choose(app, app.frmMain.CASIOOP, model)) return false;
+  if (!ArrangeCasioSubmenu(app, model.value)) UnloadForm(app, app.FrmSubMenu.form);
   return true;
 }
 
 bool AssignSharpModels(core::Application& app, const RegisterRow&) {
-  const int model = Byte(app, REGTYPE_MINOR);
-  if (!ChooseElement(app, app.frmMain.SharpOP, model)) return false;
-  if (!ArrangeSharpSubmenu(app, model)) UnloadForm(app, app.FrmSubMenu.form);
+  const auto model = StoredIn(app, REGTYPE_MINOR);
+  if (!Choose(app, app.frmMain.SharpOP, model)) return false;
+  if (!ArrangeSharpSubmenu(app, model.value)) UnloadForm(app, app.FrmSubMenu.form);
   return true;
 }
 
 bool AssignTecModels(core::Application& app, const RegisterRow&) {
-  const int model = Byte(app, REGTYPE_MINOR);
-  if (!ChooseElement(app, app.frmMain.TECOP, model)) return false;
-  if (!ArrangeTecSubmenu(app, model)) UnloadForm(app, app.FrmSubMenu.form);
+  const auto model = StoredIn(app, REGTYPE_MINOR);
+  if (!Choose(app, app.frmMain.TECOP, model)) return false;
+  if (!ArrangeTecSubmenu(app, model.value)) UnloadForm(app, app.FrmSubMenu.form);
   return true;
 }
 

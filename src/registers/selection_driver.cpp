@@ -90,6 +90,7 @@ namespace {
 
 void ShowOptionFrame(core::Application& app) {
   auto& form = app.frmMain;
+  app.unfit_option.reset();
   for (auto& frame : form.frmAddress) frame.visible = false;
   const auto* row = RowOfSelected(app);
   if (row == nullptr) return;
@@ -109,6 +110,19 @@ void CloseForeignWindows(core::Application& app) {
 }
 
 }  // namespace
+
+bool OptionsAreHidden(const core::Application& app) {
+  const auto* row = RowOfSelected(app);
+  return row != nullptr && row->frame != controls::OptionFrame::kNone &&
+         !app.frmMain.FrameOf(row->frame).visible;
+}
+
+const core::UnfitOption* UnfitOptionOf(const core::Application& app) {
+  const auto& unfit = app.unfit_option;
+  const bool stands =
+      unfit && OptionsAreHidden(app) && app.image.at(unfit->field, unfit->entry) == unfit->value;
+  return stands ? &*unfit : nullptr;
+}
 
 void ShowRegisterOptions(core::Application& app) {
   ShowOptionFrame(app);

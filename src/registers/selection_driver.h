@@ -21,6 +21,12 @@ void ApplyRegisterSelection(core::Application& app);
 // Hides all option frames and shows the one of the selected register.
 void ShowRegisterOptions(core::Application& app);
 
+// Whether the selected register has options that stay hidden, because a stored byte has no entry in them.
+bool OptionsAreHidden(const core::Application& app);
+
+// That byte; null if the options are shown, or if the image was changed since without showing it.
+const core::UnfitOption* UnfitOptionOf(const core::Application& app);
+
 // The selected register's name as a file name: "/" and "," become blanks.
 std::string Check_Slash_Comma(const core::Application& app);
 

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "script/advice_statements.h"
 #include "script/image_fields.h"
 #include "script/inspection.h"
 #include "script/stop.h"
@@ -96,7 +97,8 @@ void ExpectBox(Session& session, Arguments& arguments) {
 }
 
 void ExpectNo(Session& session, Arguments& arguments) {
-  if (!arguments.Take("box")) Wrong("what can be missing is a box");
+  if (arguments.Take("advice")) return ExpectNoAdvice(session, arguments);
+  if (!arguments.Take("box")) Wrong("what can be missing is a box or advice");
   arguments.End();
   const auto& boxes = session.Boxes();
   Require(boxes.empty(), "no box", boxes.empty() ? "" : Described(boxes.front()));
@@ -178,6 +180,7 @@ constexpr auto kForms = std::to_array<ExpectForm>({
     {"list", ExpectList},
     {"sent", ExpectSent},
     {"box", ExpectBox},
+    {"advice", ExpectAdvice},
     {"no", ExpectNo},
     {"ended", ExpectEnded},
 });

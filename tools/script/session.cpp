@@ -90,6 +90,7 @@ core::Platform Session::MakePlatform() {
   platform.serial.read = [this] { return CurrentLine().read(); };
   platform.serial.clear_input = [this] { CurrentLine().clear_input(); };
   platform.serial.clear_output = [this] { CurrentLine().clear_output(); };
+  platform.serial.lost = [this] { return CurrentLine().lost(); };
   return platform;
 }
 
@@ -98,8 +99,10 @@ void Session::Start() {
   if (real_ != nullptr) OpenRealPorts();
   time_.Forget();
   history_.reset();
+  advisor_.reset();
   app_ = std::make_unique<core::Application>();
   app_->platform = MakePlatform();
+  advisor_ = std::make_unique<acts::Advisor>(*app_);
   end_printed_ = false;
   start::StartProgram(*app_);
   history_ = std::make_unique<acts::ActHistory>(*app_);
@@ -109,6 +112,11 @@ void Session::Start() {
 core::Application& Session::App() {
   if (app_ == nullptr) Wrong("the program was not started");
   return *app_;
+}
+
+acts::Advisor& Session::Advisor() {
+  App();
+  return *advisor_;
 }
 
 controls::ControlRef Session::Control(const std::string& name) {
@@ -122,8 +130,16 @@ acts::ActHistory& Session::History() {
   return *history_;
 }
 
+core::Outcome Session::Dispatched(const core::Event& event) {
+  auto& history = History();
+  advisor_->Before(event);
+  const auto outcome = history.Act(event);
+  advisor_->After(event);
+  return outcome;
+}
+
 core::Outcome Session::Act(const core::Event& event) {
-  const auto outcome = History().Act(event);
+  const auto outcome = Dispatched(event);
   Settle();
   DeliverReceived();
   return outcome;
@@ -136,7 +152,7 @@ void Session::Settle() {
 
 void Session::DeliverReceived() {
   while (!Ended() && simulated_.TakeReceived()) {
-    const auto outcome = Dispatch(App(), core::ReceivedEvent{});
+    const auto outcome = Dispatched(core::ReceivedEvent{});
     if (outcome == core::Outcome::kBusy) return simulated_.KeepReceived();
     Settle();
   }

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "acts/act_history.h"
+#include "acts/advice.h"
 #include "core/gate.h"
 #include "host/settings_store.h"
 #include "script/simulated_line.h"
@@ -49,6 +50,8 @@ class Session {
   // The program.
   void Start();
   core::Application& App();
+  // Observes the program since its start.
+  acts::Advisor& Advisor();
   bool Started() const { return app_ != nullptr; }
   bool Ended() const { return app_ != nullptr && app_->ended; }
   controls::ControlRef Control(const std::string& name);
@@ -74,6 +77,7 @@ class Session {
 
  private:
   core::Platform MakePlatform();
+  core::Outcome Dispatched(const core::Event& event);
   core::SerialLine& CurrentLine();
   void RequireClosedPort();
   void OpenRealPorts();
@@ -99,6 +103,7 @@ class Session {
   core::SerialLine simulated_operations_;
   std::unique_ptr<core::Application> app_;
   std::unique_ptr<acts::ActHistory> history_;
+  std::unique_ptr<acts::Advisor> advisor_;
   bool end_printed_ = false;
   std::unique_ptr<RealLine> real_;
   core::SerialLine real_operations_;

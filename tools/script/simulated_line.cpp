@@ -7,7 +7,6 @@ namespace {
 
 constexpr const char* kDevice = "simulated line";
 constexpr const char* kNothingThere = "No such file or directory";
-constexpr const char* kLost = "No such device";
 
 }  // namespace
 
@@ -19,6 +18,7 @@ core::SerialLine SimulatedLine::Operations() {
   line.read = [this] { return Read(); };
   line.clear_input = [this] { ClearInput(); };
   line.clear_output = [] {};
+  line.lost = [this] { return open_ && dead_ ? &lost_ : nullptr; };
   return line;
 }
 
@@ -65,7 +65,7 @@ void SimulatedLine::Close() {
 }
 
 core::Result SimulatedLine::Write(std::string_view text) {
-  if (dead_) return core::Failure(kDevice, kLost);
+  if (dead_) return lost_;
   if (open_ && !text.empty()) draining_ = true;
   return {};
 }

@@ -38,6 +38,7 @@ class SimulatedLine {
   void ClearInput();
 
   core::Result opening_;  // the result of opening a port
+  core::Failure lost_{"simulated line", "No such device"};
   bool open_ = false;
   bool dead_ = false;
   std::deque<char> received_;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "image/field_map.h"
+#include "script/advice_statements.h"
 #include "script/expectations.h"
 #include "script/image_fields.h"
 #include "script/inspection.h"
@@ -337,7 +338,8 @@ constexpr auto kStatements = std::to_array<Statement>({
      "\"B\" ...\n"
      "expect NAME POSITION\nexpect NAME \"TEXT\"\n"
      "expect visible|hidden|enabled|disabled|checked|unchecked NAME\nexpect sent \"TEXT\"\n"
-     "expect box [\"TITLE\"] \"TEXT\"\nexpect no box\nexpect ended",
+     "expect box [\"TITLE\"] \"TEXT\"\nexpect no box\nexpect advice \"TEXT\"\nexpect no advice [\"TEXT\"]\n"
+     "expect ended",
      "the script fails if it is otherwise", Expect, true},
     {"echo", "echo \"TEXT\"", "prints a text", Echo, true},
 });
@@ -347,7 +349,8 @@ constexpr auto kStatements = std::to_array<Statement>({
 std::span<const Statement> Statements() {
   static const auto all = [] {
     std::vector<Statement> statements(kStatements.begin(), kStatements.end());
-    for (const auto more : {UndoStatements()}) statements.insert(statements.end(), more.begin(), more.end());
+    for (const auto more : {UndoStatements(), AdviceStatements()})
+      statements.insert(statements.end(), more.begin(), more.end());
     return statements;
   }();
   return all;

@@ -295,14 +295,19 @@ TEST_F(SerialPortTest, ALostPortSendsNoEventsAndFailsTheNextWrite) {
   core::Result failure;
   on_told_ = [&](const std::string&) { failure = line_.write("y"); };
   EXPECT_TRUE(line_.write("x").Ok());
+  EXPECT_EQ(line_.lost(), nullptr);
   terminal_.HangUp();
   EXPECT_TRUE(ValueDisplay("<drained>"));
   ASSERT_FALSE(failure.Ok());
   EXPECT_EQ(failure.Problem().Text(), terminal_.Device() + ": No such device");
   EXPECT_TRUE(BecomesIdle());
   EXPECT_EQ(line_.write("z").Problem().Text(), failure.Problem().Text());
+  ASSERT_NE(line_.lost(), nullptr);
+  EXPECT_EQ(line_.lost()->Text(), failure.Problem().Text());
   EXPECT_EQ(told_, "<drained>");
   EXPECT_EQ(port_->LastProblem(), QString("Comport 1, %1: No such device.").arg(terminal_.Device().c_str()));
+  line_.close();
+  EXPECT_EQ(line_.lost(), nullptr);
 }
 
 TEST_F(SerialPortTest, CharactersBeforeTheLossAreStillReported) {

@@ -173,7 +173,7 @@ TEST_F(ScreenTest, TheSubMenuFollowsTheChosenModel) {
 TEST_F(ScreenTest, TheQuietLineNamesOtherStoredSettingsUntilTheNextAction) {
   auto& image = App().image;
   Select("DRESSER WAYNE");
-  EXPECT_EQ(QuietLine(), "");
+  EXPECT_EQ(QuietLine(), "Also stored: COMMUNICATION: INTERFACE TYPE PASSIVE TAP, RX BAUDRATE AUTO.");
   image[IOCFG_BAK] = "0E";
   image[RX_BAUDRATE] = image[TX_BAUDRATE] = "00";
   Click("POSOP(1)");

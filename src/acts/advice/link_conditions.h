@@ -1,0 +1,20 @@
+// The conditions of the advice table about the port, the unit and the transfers.
+#pragma once
+
+#include "acts/advice.h"
+
+namespace ovl::acts {
+
+Advice UploadBroke(const core::Application& app, const Observed& observed);
+Advice UploadMixed(const core::Application& app, const Observed& observed);
+Advice DeviceLost(const core::Application& app, const Observed& observed);
+Advice DownloadBroke(const core::Application& app, const Observed& observed);
+Advice PortRefused(const core::Application& app, const Observed& observed);
+Advice ScanDeaf(const core::Application& app, const Observed& observed);
+Advice ScanFoundNothing(const core::Application& app, const Observed& observed);
+
+// What to press on REMOTE until the unit obeys, without the steps that are done: "Set Comport, Remote". It
+// ends with the caption of `last`, if any.
+std::string StepsOnRemote(const core::Application& app, const std::string& last);
+
+}  // namespace ovl::acts

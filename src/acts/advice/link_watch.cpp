@@ -1,0 +1,106 @@
+#include "acts/advice/link_watch.h"
+
+namespace ovl::acts {
+namespace {
+
+// The text of the window at the end of a transfer; an upload that does not fit the firmware has another.
+constexpr std::string_view kUploadCompleted = "Upload Completed.";
+
+bool IsDownload(LinkPhase phase) {
+  return phase == LinkPhase::kDownloadCommand || phase == LinkPhase::kDownloadStream;
+}
+
+}  // namespace
+
+LinkPhase PhaseOf(const core::Application& app) {
+  if (app.ScanActive) return LinkPhase::kScan;
+  if (!app.RemoteHeld) return LinkPhase::kIdle;
+  if (app.LinkMode == core::kLinkUpload) return LinkPhase::kUpload;
+  if (app.LinkMode != core::kLinkDownload) return LinkPhase::kIdle;
+  return app.DownloadActive ? LinkPhase::kDownloadStream : LinkPhase::kDownloadCommand;
+}
+
+void LinkWatch::Before(const core::Application& app) {
+  before_ = {PhaseOf(app), app.LinkMode, app.FrameState, app.last_port_attempt.number};
+}
+
+void LinkWatch::After(const core::Application& app, const core::Event& event) {
+  renewed_.reset();
+  upload_completed_ = false;
+  download_completed_ = false;
+  WatchAttempt(app);
+  WatchDevice(app);
+  WatchUpload(app);
+  WatchDownload(app);
+  WatchScan(app, event);
+}
+
+// A refusal during a scan means that the device has gone: the scan had opened it before.
+void LinkWatch::WatchAttempt(const core::Application& app) {
+  const auto& attempt = app.last_port_attempt;
+  if (attempt.number == before_.attempts) return;
+  refusal_.reset();
+  scan_.reset();
+  if (!attempt.refused) {
+    loss_.reset();
+    return;
+  }
+  if (before_.phase == LinkPhase::kScan) {
+    if (!loss_) Lose(app, *attempt.refused);
+    return;
+  }
+  loss_.reset();
+  const auto& comm = app.frmMain.MSComm1;
+  refusal_ = Refusal{comm.CommPort, comm.Settings, attempt.refused->Subject(), attempt.refused->what()};
+  Add(renewed_, AdviceId::kPortRefused);
+}
+
+void LinkWatch::WatchDevice(const core::Application& app) {
+  if (!app.frmMain.MSComm1.PortOpen || !app.platform.serial.lost || loss_) return;
+  if (const auto* why = app.platform.serial.lost()) Lose(app, *why);
+}
+
+void LinkWatch::Lose(const core::Application& app, const core::Failure& why) {
+  loss_ = Loss{app.frmMain.MSComm1.CommPort, why.Subject(), why.what(), app.platform.clock(), before_.phase};
+  Add(renewed_, AdviceId::kDeviceLost);
+}
+
+void LinkWatch::WatchUpload(const core::Application& app) {
+  if (app.FrameState != 0) {
+    if (PhaseOf(app) == LinkPhase::kUpload || upload_broke_) return;
+    upload_broke_ = true;
+    Add(renewed_, AdviceId::kUploadBroke);
+    return;
+  }
+  if (before_.frame_state == 0) return;
+  const auto& end = app.frmOK_buttom;
+  upload_completed_ = end.form.loaded && end.Label1.caption == kUploadCompleted;
+  if (upload_completed_ && upload_broke_) {
+    mixed_image_ = app.known_image;
+    Add(renewed_, AdviceId::kUploadMixed);
+  }
+  upload_broke_ = false;
+}
+
+void LinkWatch::WatchDownload(const core::Application& app) {
+  const bool streaming = before_.phase == LinkPhase::kDownloadStream;
+  download_completed_ = streaming && !app.DownloadActive && app.FinalAckExpected;
+  if (download_completed_ || upload_completed_) broken_.reset();
+  if (download_completed_ || !IsDownload(before_.phase)) return;
+  const auto now = PhaseOf(app);
+  const bool cut = streaming && now != LinkPhase::kDownloadStream;
+  const bool known_half = broken_ && broken_->half;
+  if (!cut && (IsDownload(now) || known_half)) return;
+  broken_ = BrokenDownload{app.platform.clock(), cut};
+  Add(renewed_, AdviceId::kDownloadBroke);
+}
+
+void LinkWatch::WatchScan(const core::Application& app, const core::Event& event) {
+  if (app.RemoteHeld) scan_.reset();
+  const bool ended = before_.phase == LinkPhase::kScan && !app.ScanActive && !app.RemoteHeld;
+  if (!ended || loss_ || !std::holds_alternative<core::TickEvent>(event)) return;
+  scan_ = FailedScan{before_.link_mode == core::kLinkRemote};
+  Add(renewed_, AdviceId::kScanFoundNothing);
+}
+
+}  // namespace ovl::acts

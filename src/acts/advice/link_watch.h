@@ -1,0 +1,103 @@
+// Remembers what happened to the link and to its transfers, as far as the state of the program no longer
+// shows it.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "acts/advice/advice_id.h"
+#include "core/gate.h"
+
+namespace ovl::acts {
+
+enum class LinkPhase {
+  kIdle,
+  kScan,
+  kUpload,
+  kDownloadCommand,  // the unit has not been sent anything of the configuration yet
+  kDownloadStream
+};
+
+LinkPhase PhaseOf(const core::Application& app);
+
+// The device of the open port is gone.
+struct Loss {
+  int comport = 0;
+  std::string device;
+  std::string reason;
+  core::ClockTime at;
+  LinkPhase during = LinkPhase::kIdle;
+};
+
+// A port that did not open when the installer asked for it.
+struct Refusal {
+  int comport = 0;
+  std::string settings;  // "9600,N,8,1"
+  std::string device;
+  std::string reason;
+};
+
+// A download that ended before its last character was sent.
+struct BrokenDownload {
+  core::ClockTime at;
+  bool half = false;  // the stream had begun: the unit may hold a part of it
+};
+
+// A scan that has tried all rates.
+struct FailedScan {
+  bool could_hear = false;  // the program takes an answer only if remote mode was asked for before
+};
+
+class LinkWatch {
+ public:
+  void Before(const core::Application& app);
+  void After(const core::Application& app, const core::Event& event);
+
+  // Until a port opens.
+  const std::optional<Loss>& Lost() const { return loss_; }
+  const std::optional<Refusal>& Refused() const { return refusal_; }
+  // Until a download or an upload is complete.
+  const std::optional<BrokenDownload>& Broken() const { return broken_; }
+  // Until the port is opened again, or remote mode is held.
+  const std::optional<FailedScan>& Scan() const { return scan_; }
+  // The program still holds the beginning of an upload, and the next upload is put behind it.
+  bool UploadBroke() const { return upload_broke_; }
+  // The configuration is read from such a text.
+  bool UploadMixedIn(const core::Application& app) const {
+    return mixed_image_ && app.known_image == *mixed_image_;
+  }
+
+  // What the last event brought.
+  const AdviceSet& Renewed() const { return renewed_; }
+  bool UploadCompleted() const { return upload_completed_; }
+  bool DownloadCompleted() const { return download_completed_; }
+
+ private:
+  struct Seen {
+    LinkPhase phase = LinkPhase::kIdle;
+    std::int16_t link_mode = core::kLinkIdle;
+    std::int16_t frame_state = 0;
+    unsigned attempts = 0;
+  };
+
+  void WatchAttempt(const core::Application& app);
+  void WatchDevice(const core::Application& app);
+  void WatchUpload(const core::Application& app);
+  void WatchDownload(const core::Application& app);
+  void WatchScan(const core::Application& app, const core::Event& event);
+  void Lose(const core::Application& app, const core::Failure& why);
+
+  Seen before_;
+  std::optional<Loss> loss_;
+  std::optional<Refusal> refusal_;
+  std::optional<BrokenDownload> broken_;
+  std::optional<FailedScan> scan_;
+  std::optional<image::ConfigImage> mixed_image_;  // as it was read
+  bool upload_broke_ = false;
+  bool upload_completed_ = false;
+  bool download_completed_ = false;
+  AdviceSet renewed_;
+};
+
+}  // namespace ovl::acts

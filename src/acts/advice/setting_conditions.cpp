@@ -1,0 +1,158 @@
+#include "acts/advice/setting_conditions.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "codecs/bytes.h"
+#include "codecs/codecs.h"
+#include "image/slot_records.h"
+
+namespace ovl::acts {
+namespace {
+
+using enum image::FieldId;
+
+// "3", "3 and 7", "3, 7 and 9".
+std::string Listed(const std::vector<std::string>& words) {
+  std::string text;
+  for (std::size_t at = 0; at < words.size(); ++at) {
+    if (at > 0) text += at + 1 == words.size() ? " and " : ", ";
+    text += words[at];
+  }
+  return text;
+}
+
+// "exception 3", "exceptions 3 and 7".
+std::string Numbered(const std::string& kind, const std::vector<std::string>& numbers) {
+  return kind + (numbers.size() == 1 ? " " : "s ") + Listed(numbers);
+}
+
+// The same with the numbers of three and more neighbours as "3 to 7".
+std::string Numbered(const std::string& kind, const std::vector<int>& numbers) {
+  std::vector<std::string> words;
+  for (std::size_t at = 0; at < numbers.size();) {
+    auto last = at;
+    while (last + 1 < numbers.size() && numbers[last + 1] == numbers[last] + 1) ++last;
+    if (last < at + 2) last = at;
+    words.push_back(std::to_string(numbers[at]));
+    if (last > at) words.back() += " to " + std::to_string(numbers[last]);
+    at = last + 1;
+  }
+  return kind + (numbers.size() == 1 ? " " : "s ") + Listed(words);
+}
+
+Advice GoTo(std::string words, std::string caption, std::string_view control) {
+  return {AdviceId::kCount, {}, std::move(words), AdviceAction::kGoToControl, std::move(caption), control};
+}
+
+bool IsBlank(const std::string& text) {
+  return std::all_of(text.begin(), text.end(), [](char character) { return character == ' '; });
+}
+
+bool IsFree(const core::Application& app, int number) {
+  const auto& slot = app.image.at(EXCPSTRS, number);
+  return !slot.empty() && codecs::HasBit(codecs::HexToInt(slot), image::kFreeBit);
+}
+
+bool FirstIsAboveSecond(const core::Application& app, const std::string& slot) {
+  const auto first = image::RangeValueOf(slot, app.firmware, 0);
+  const auto second = image::RangeValueOf(slot, app.firmware, 1);
+  const auto one = first.integers + first.decimals;
+  const auto other = second.integers + second.decimals;
+  return one.size() == other.size() && one > other;
+}
+
+// The exceptions that a trigger of an alarm stands for, from first to last. None for "NONE" and "RTS".
+struct Exceptions {
+  int first = 1;
+  int last = 0;
+};
+
+Exceptions ExceptionsOf(int trigger) {
+  constexpr int kFirstHalf = 25, kSecondHalf = 26, kAll = 27, kHalf = image::kExceptions / 2;
+  if (trigger > image::kNoTrigger && trigger <= image::kExceptions) return {trigger, trigger};
+  if (trigger == kFirstHalf) return {1, kHalf};
+  if (trigger == kSecondHalf) return {kHalf + 1, image::kExceptions};
+  if (trigger == kAll) return {1, image::kExceptions};
+  return {};
+}
+
+bool WaitsForFreeExceptions(const core::Application& app, int trigger) {
+  const auto [first, last] = ExceptionsOf(trigger);
+  if (first > last) return false;
+  for (int number = first; number <= last; ++number) {
+    if (!IsFree(app, number)) return false;
+  }
+  return true;
+}
+
+// An exception that is told to do something and has only blanks to look for.
+bool IsBlankException(const core::Application& app, const std::string& slot) {
+  if (slot.empty() || !IsBlank(image::ExceptionText(slot, app.firmware))) return false;
+  const int flags = codecs::HexToInt(slot);
+  const bool acts = codecs::HasBit(flags, image::kDisplayBit) || codecs::HasBit(flags, image::kOutputBit) ||
+                    codecs::HasBit(flags, image::kHistoryBit) || codecs::HasBit(flags, image::kScrollBit) ||
+                    image::OperatorOf(flags) != 0;
+  return acts || !codecs::HasBit(flags, image::kFreeBit);
+}
+
+// A triggered text of blanks, or one that is shown or sent and is empty.
+bool IsBlankTrigger(const std::string& record) {
+  if (record.empty()) return false;
+  constexpr int kShownOrSent = 3;
+  const auto text = image::StoredText(image::WithoutEndMark(image::TriggeredDigits(record)));
+  return IsBlank(text) && (!text.empty() || (codecs::HexToInt(record) & kShownOrSent) != 0);
+}
+
+}  // namespace
+
+Advice RangeOrder(const core::Application& app, const Observed&) {
+  std::vector<int> numbers;
+  for (int number = 1; number <= image::kExceptions; ++number) {
+    if (FirstIsAboveSecond(app, app.image.at(EXCPSTRS, number))) numbers.push_back(number);
+  }
+  if (numbers.empty()) return {};
+  const auto& button = app.frmMain.cmdSetRange.caption;
+  return GoTo("In the range of " + Numbered("exception", numbers) +
+                  " the first value is above the second. Check it with " + button + ".",
+              button, "cmdSetRange");
+}
+
+Advice AlarmWithoutException(const core::Application& app, const Observed&) {
+  const auto& triggers = app.frmMain.ComboALM[controls::Alm::kTrigger];
+  std::vector<std::string> alarms;
+  for (int number = 1; number <= image::kAlarms; ++number) {
+    const int trigger = image::AlarmTrigger(app.image.at(ALMSTRUCT_BAK, number));
+    if (!WaitsForFreeExceptions(app, trigger)) continue;
+    alarms.push_back(std::to_string(number) + " (" + triggers.items.at(static_cast<std::size_t>(trigger)) +
+                     ")");
+  }
+  if (alarms.empty()) return {};
+  return GoTo("Free exceptions trigger " + Numbered("alarm", alarms) +
+                  ", so nothing sets off such an alarm. Give the exceptions a text, or pick another " +
+                  triggers.caption + ".",
+              triggers.caption, "ComboALM(1)");
+}
+
+Advice BlankText(const core::Application& app, const Observed&) {
+  std::vector<int> exceptions, alarms;
+  for (int number = 1; number <= image::kExceptions; ++number) {
+    if (IsBlankException(app, app.image.at(EXCPSTRS, number))) exceptions.push_back(number);
+  }
+  for (int number = 1; number <= image::kAlarms; ++number) {
+    if (IsBlankTrigger(app.image.at(TRIGGER_TEXT, number))) alarms.push_back(number);
+  }
+  if (exceptions.empty() && alarms.empty()) return {};
+  std::vector<std::string> texts;
+  if (!exceptions.empty()) texts.push_back(Numbered("exception", exceptions));
+  if (!alarms.empty()) texts.push_back("the trigger text of " + Numbered("alarm", alarms));
+  const bool of_exception = !exceptions.empty();
+  const auto& button = of_exception ? app.frmMain.cmdSetExcpstr : app.frmMain.cmdSetTrigger;
+  return GoTo("The text is empty or only blanks: " + Listed(texts) +
+                  ". Such a text never matches and shows nothing. Enter one with " + button.caption +
+                  ", or switch its actions off.",
+              button.caption, of_exception ? "cmdSetExcpstr" : "cmdSetTrigger");
+}
+
+}  // namespace ovl::acts

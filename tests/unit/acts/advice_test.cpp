@@ -1,0 +1,387 @@
+// Every condition of the advice table: the acts that bring its line, the words, the action, and the acts
+// after which the line is gone.
+#include "acts/advice.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "firmware/firmware_table.h"
+#include "firmware/traits.h"
+#include "support/firmware_facts.h"
+#include "unit/acts/advice_program.h"
+
+namespace ovl::testing {
+namespace {
+
+const firmware::FirmwareId kV1300{"V1300", "R23"}, kV1334{"V1334", "R1"};
+
+struct Row {
+  const char* name;
+  std::string bring;
+  const char* words;
+  const char* action;  // its caption
+  std::string gone;
+  firmware::FirmwareId firmware = kLatest;
+};
+
+void Expect(const Row& row) {
+  SCOPED_TRACE(std::string(row.name) + " " + row.firmware.Joined() + "\n" + row.bring);
+  AdviceProgram program(row.firmware);
+  EXPECT_EQ(program.Line(row.name).words, "");
+  program.Run(kAt + row.bring);
+  const auto line = program.Line(row.name);
+  EXPECT_NE(line.words.find(row.words), std::string::npos) << line.words;
+  EXPECT_EQ(line.caption, row.action);
+  EXPECT_EQ(line.action == acts::AdviceAction::kNone, line.caption.empty());
+  EXPECT_TRUE(line.control.empty() || program.App().registry.Find(line.control) != nullptr) << line.control;
+  program.Run(row.gone);
+  EXPECT_EQ(program.Line(row.name).words, "");
+}
+
+// An upload of which one whole record has arrived.
+const std::string kHalfUpload = kOpenPort + kHold + kUpload + "unit \"$2000" + std::string(64, '0') + "\"\n";
+const std::string kLose = "port unplug\nwait 100\n";
+const std::string kConnectAgain = "port ok\nclick cmdDisConnect\n" + kOpenPort;
+
+TEST(AdviceOnTheLink, NamesABrokenUploadUntilTheProgramStartsAnew) {
+  const char* broke = "An upload broke off. What had arrived is still ahead of the next upload";
+  const Row rows[] = {
+      {"upload-broke", kHalfUpload + "tick Timer_Operating 6\n", broke, "Restart", "start\n"},
+      {"upload-broke", kHalfUpload + "click cmdDisConnect\n", broke, "Restart", "start\n"},
+      {"upload-broke", kHalfUpload + "unit \"?\"\n" + kOpenPort + kHold, broke, "Restart", "start\n"},
+      {"upload-mixed",
+       kHalfUpload + "click cmdDisConnect\n" + kOpenPort + kHold + kUpload + "unit \"STREAM\"\n",
+       "The tabs show a mixture", "Restart", kTransferEnd + kHold + kUpload + "unit \"STREAM\"\n"},
+      {"upload-mixed",
+       kHalfUpload + "click cmdDisConnect\n" + kOpenPort + kHold + kUpload + "unit \"STREAM\"\n",
+       "Do not download it.", "Restart", kTransferEnd + "undo\n"},
+      {"upload-mixed",
+       kHalfUpload + "click cmdDisConnect\n" + kOpenPort + kHold + kUpload + "unit \"STREAM\"\n",
+       "Do not download it.", "Restart", kTransferEnd + "answer \"IMAGE\"\nclick OpenMenu\n"},
+  };
+  for (const auto& row : rows) Expect(row);
+}
+
+TEST(AdviceOnTheLink, NamesTheLostDeviceAndWhatTheUnitHolds) {
+  const char* lost =
+      "Comport 1, simulated line, was lost at 14:07:09 (No such device). The unit is untouched. Plug "
+      "the device in again. Then press Disconnect, Set Comport, SET, Remote.";
+  const std::string scan = "click cmdConnect\nclick BaudrateCMD\n";
+  const Row rows[] = {
+      {"device-lost", kOpenPort + kLose, lost, "Disconnect", kConnectAgain},
+      {"device-lost", kOpenPort + kHold + kLose, lost, "Disconnect", kConnectAgain},
+      {"device-lost", kOpenPort + kLose + "click cmdDisConnect\n", "Then press Set Comport, SET, Remote.",
+       "Set Comport", "port ok\n" + kOpenPort},
+      {"device-lost", kOpenPort + kHold + kUpload + kLose,
+       " during the upload. The unit is untouched, and nothing of the upload is on the tabs. Plug the device "
+       "in again. "
+       "Then press Disconnect, Set Comport, SET, Remote, Upload.",
+       "Disconnect", kConnectAgain},
+      {"device-lost", kHalfUpload + kLose + "tick Timer_Operating 6\n",
+       "Plug the device in again and restart the program. Then press Set Comport,", "Set Comport",
+       "port ok\n" + kOpenPort},
+      {"device-lost", kOpenPort + kHold + "click CmdUpDow(1)\n" + kLose,
+       " before the download began. The unit holds its old configuration.", "Disconnect", kConnectAgain},
+      {"device-lost", kOpenPort + kHold + kDownload + "drain 300\nport unplug\ndrain\n",
+       " during the download. The unit may hold half a configuration, so download again. Plug the device in "
+       "again. Then "
+       "press Disconnect, Set Comport, SET, Remote, Download.",
+       "Disconnect", kConnectAgain},
+      {"device-lost", scan + kLose, " during the scan. The unit is untouched.", "Cancel",
+       "port ok\nclick frmScanBProgress.Command1\n" + kOpenPort},
+      {"device-lost", scan + "port unplug\ntick BaudRateScan 11\n",
+       "(No such file or directory) during the scan. The unit is untouched.", "Set Comport",
+       "port ok\n" + kOpenPort},
+  };
+  for (const auto& row : rows) Expect(row);
+}
+
+TEST(AdviceOnTheLink, ALossThatIsNoNewsIsNotTimedAnew) {
+  AdviceProgram program(kLatest);
+  program.Run(kAt + kOpenPort + kLose + "wait 60000\n");
+  EXPECT_NE(program.Line("device-lost").words.find("at 14:07:09"), std::string::npos);
+  EXPECT_EQ(program.Line("port-refused").words, "");
+  program.Run("click cmdDisConnect\n" + kOpenPort);
+  EXPECT_EQ(program.Line("device-lost").words, "") << "the refusal is the newer news";
+  EXPECT_NE(program.Line("port-refused").words, "");
+}
+
+TEST(AdviceOnTheLink, ADownloadThatEndsEarlyIsRepeated) {
+  const auto begun = kOpenPort + kHold + kDownload + "drain 300\n";
+  const auto whole = kOpenPort + kHold + kDownload + "drain\n";
+  const char* half =
+      "A download broke off at 14:07:09. The unit may hold half a configuration, so download again: Set "
+      "Comport, Remote, Download.";
+  const char* untouched = "The download of 14:07:09 did not begin. The unit holds its old configuration.";
+  const Row rows[] = {
+      {"download-broke", begun + "click cmdDisConnect\n", half, "Set Comport", whole},
+      {"download-broke", begun + "unit \"?\"\n", half, "Set Comport", whole},
+      {"download-broke", begun + "port unplug\ndrain\n" + kConnectAgain,
+       "so download again: Remote, Download.", "Remote", kHold + kDownload + "drain\n"},
+      {"download-broke", begun + "unit \"?\"\n" + kOpenPort + kHold, "so download again: Download.", "",
+       kUpload + "unit \"STREAM\"\n"},
+      {"download-broke", kOpenPort + kHold + "click CmdUpDow(1)\ndrain\ntick Timer_Operating 6\n", untouched,
+       "Set Comport", whole},
+      {"download-broke", kOpenPort + kHold + "click CmdUpDow(1)\ndrain\nunit \"?\"\n", untouched,
+       "Set Comport", whole},
+  };
+  for (const auto& row : rows) Expect(row);
+}
+
+TEST(AdviceOnTheLink, ARefusedPortHasDeviceReasonAndCureInOneLine) {
+  const std::pair<std::string, const char*> reasons[] = {
+      {"Permission denied",
+       "Comport 1, simulated line, did not open: Permission denied. Only root and the group of the device, "
+       "mostly dialout"},
+      {"No such file or directory",
+       "Plug the adapter in, choose the comport of another device, or set the link ports/com1"},
+      {"No such device", "plug the adapter in"},
+      {"Input/output error", "No hardware is behind this name"},
+      {"Device or resource busy", "Another program uses the device: close it."},
+      {"Invalid argument", "The device cannot use 9600,N,8,1"},
+      {"Out of luck", "did not open: Out of luck. Choose another comport, or look at the device."},
+  };
+  for (const auto& [reason, words] : reasons) {
+    Expect({"port-refused", "port fail \"" + reason + "\"\n" + kOpenPort, words, "Set Comport",
+            "port ok\n" + kOpenPort});
+  }
+}
+
+TEST(AdviceOnTheLink, AScanThatFindsNoUnitSaysWhy) {
+  const std::string scan = "click BaudrateCMD\n";
+  const auto heard = kOpenPort + kHold + "click cmdDisConnect\nclick cmdConnect\n";
+  const Row rows[] = {
+      {"scan-deaf", "click cmdConnect\n" + scan, "This scan cannot find the unit", "Cancel",
+       "click frmScanBProgress.Command1\n"},
+      {"scan-found-nothing", "click cmdConnect\n" + scan + "tick BaudRateScan 11\n",
+       "Choose the baud rate, the data bits and the parity of the unit in Set Comport", "Set Comport",
+       kOpenPort},
+      {"scan-found-nothing", heard + scan + "tick BaudRateScan 11\n",
+       "with 8 Bits and parity NONE. Check the cable", "Set Comport", kOpenPort},
+      {"scan-found-nothing",
+       heard + "pick OpParity \"EVEN\"\npick OpDataBits \"7 Bits\"\n" + scan + "tick BaudRateScan 11\n",
+       "with 7 Bits and parity EVEN. Check the cable", "Set Comport", "click cmdConnect\n" + scan},
+  };
+  for (const auto& row : rows) Expect(row);
+
+  AdviceProgram program(kLatest);
+  program.Run(heard + scan +
+              "expect no advice \"scan\"\ntick BaudRateScan 2\nclick frmScanBProgress.Command1\n");
+  EXPECT_EQ(program.Line("scan-found-nothing").words, "") << "the installer has cancelled it";
+  program.Run("click cmdConnect\n" + scan + "unit hex 06\nexpect var RemoteHeld true\n");
+  EXPECT_EQ(program.Line("scan-found-nothing").words, "");
+}
+
+TEST(AdviceOnFiles, APickAfterACancelledOpenIsSwallowed) {
+  const std::string cancel = "answer cancel\nclick OpenMenu\n", pick = "pick ComboReg \"ADS\"\n";
+  const char* next = "The next pick in the register list is swallowed";
+  const Row rows[] = {
+      {"next-pick-swallowed", cancel, "Open was cancelled. The next pick", "REGISTER SELECT", pick},
+      {"next-pick-swallowed", "answer \"/no/file.bin\"\nclick OpenMenu\n",
+       "Open failed: /no/file.bin: No such file or directory. The next pick", "REGISTER SELECT", pick},
+      {"next-pick-swallowed", cancel, next, "REGISTER SELECT", "answer \"IMAGE\"\nclick OpenMenu\n"},
+      {"pick-swallowed", cancel + pick,
+       "The list shows ADS, but the options and the configuration are those of GENERIC: the pick was "
+       "swallowed. Pick ADS "
+       "again.",
+       "REGISTER SELECT", pick},
+      {"pick-swallowed", cancel + pick, "Pick ADS again.", "REGISTER SELECT",
+       "answer \"IMAGE\"\nclick OpenMenu\n"},
+  };
+  for (const auto& row : rows) Expect(row);
+
+  AdviceProgram program(kLatest);
+  program.Run(pick + "pick ComboReg \"GENERIC\"\nexpect no advice \"swallowed\"\n" + cancel +
+              "pick ComboReg \"GENERIC\"\nexpect no advice \"swallowed\"\n");
+}
+
+TEST(AdviceOnFiles, SaysWhatASavedFileIsGoodForUnderEachFirmware) {
+  for (const auto& entry : firmware::FirmwareTable()) {
+    SCOPED_TRACE(entry.Id().Joined());
+    AdviceProgram program(entry.Id(), Images::kFirstRegister);
+    program.Run("pick ComboALM(1) \"RTS\"\npick ComboExcp(0) 23\n");
+    const auto before = program.App().image;
+    program.Run("answer \"FILE\"\nclick menuSave\n");
+    const auto saved = program.Line("saved-file");
+    program.Run(
+        "click cmdSetExcpstr\ntype frmSetEXCPSTR.Text1 \"X\"\nclick frmSetEXCPSTR.cmdSET\nanswer "
+        "\"FILE\"\nclick OpenMenu\n");
+    const bool reopens = firmware::SavedFileReopens(program.App().firmware);
+    EXPECT_EQ(program.App().image == before, reopens);
+    EXPECT_EQ(saved.words.empty(), reopens);
+    EXPECT_TRUE(reopens || saved.caption == "Save Backup...") << saved.words;
+    EXPECT_EQ(program.Line("file-misread").words.empty() && program.Line("file-refused").words.empty(),
+              reopens);
+  }
+}
+
+TEST(AdviceOnFiles, NamesAFileThatDoesNotFitTheFirmware) {
+  const std::string save_and_open = "answer \"FILE\"\nclick menuSave\nanswer \"FILE\"\nclick OpenMenu\n";
+  const std::string open_image = "answer \"IMAGE\"\nclick OpenMenu\n";
+  const Row rows[] = {
+      {"file-misread", save_and_open,
+       "file.bin has not the form of V1400R12, so everything from the register options on is shifted. Do not "
+       "download it.",
+       "", open_image},
+      {"file-misread",
+       save_and_open,
+       "Files that \"Save\" writes under this firmware are such files.",
+       "",
+       kOpenPort + kHold + kUpload + "unit \"STREAM\"\n",
+       {"V1400", "R7"}},
+      {"file-refused", save_and_open, "file.bin is no configuration that V1334R1 opens. Nothing has changed.",
+       "", open_image, kV1334},
+      {"file-misread", save_and_open, "is shifted", "", "undo\n"},
+      {"saved-file", "answer \"FILE\"\nclick menuSave\n",
+       "file.bin is for keeping only: under V1400R12 \"Open\" reads it shifted. Use \"Save Backup...\"",
+       "Save Backup...", open_image},
+      {"saved-file", "answer \"FILE\"\nclick menuSave\n", "under V1334R1 \"Open\" refuses it",
+       "Save Backup...", open_image, kV1334},
+  };
+  for (const auto& row : rows) Expect(row);
+  AdviceProgram program(kLatest);
+  program.Run("answer cancel\nclick menuSave\nexpect no advice \"for keeping\"\n");
+}
+
+TEST(AdviceOnRegisters, NamesTheByteThatHidesTheOptions) {
+  const std::string reopen = "stream \"FILE\"\nanswer \"FILE\"\nclick OpenMenu\n";
+  const Row rows[] = {
+      {"options-hidden",
+       "pick ComboReg \"IBM\"\npick IBMOP 0\npick IBMCombo \"MIXED\"\npick IBMOP 4\n" + reopen,
+       "The options of IBM are hidden: REGTYPE_EXT2 holds 02, which is not in its list. Pick IBM again",
+       "REGISTER SELECT", "pick ComboReg \"IBM\"\n"},
+      {"options-hidden", "pick ComboReg \"TCI\"\nset TCIADDBAK_2 1F\n" + reopen, "TCIADDBAK_2 holds 1F",
+       "REGISTER SELECT", "pick ComboReg \"ADS\"\n"},
+      {"options-hidden", "pick ComboReg \"BLEEP\"\nset REGTYPE_MINOR 7F\n" + reopen, "REGTYPE_MINOR holds 7F",
+       "REGISTER SELECT", "set REGTYPE_MINOR 00\n" + reopen},
+      {"options-hidden", "pick ComboReg \"DELTA SONO 3.1\"\nset REGTYPE_MINOR 7F\n" + reopen,
+       "The options of DELTA SONO 3.1 are hidden: REGTYPE_MINOR holds 7F", "REGISTER SELECT",
+       "pick ComboReg \"DELTA SONO 3.1\"\n", kV1300},
+  };
+  for (const auto& row : rows) Expect(row);
+}
+
+TEST(AdviceOnRegisters, NamesWhatAPickStoredOnOtherTabs) {
+  const std::string on = "pick ComboExcepRe(0) \"ON\"\npick ComboCOMM(4) \"7\"\n";
+  for (const auto& firmware : {kLatest, kV1300}) {
+    Expect({"other-tabs-changed", on + "pick ComboReg \"ADS\"\n",
+            "The pick of ADS also stored COMMUNICATION: DATA BITS 8; EXCEPTION REPORT: OUTPUT OFF. Look at",
+            "", "pick ComboReg \"ADS\"\n", firmware});
+  }
+  Expect({"other-tabs-changed", on + "pick ComboReg \"ADS\"\n", "EXCEPTION REPORT: OUTPUT OFF", "",
+          kOpenPort + kHold + kDownload + "drain\n"});
+  Expect({"other-tabs-changed", "pick ComboReg \"ODOMETER\"\n", "TEXT SETUP: DISPLAY LINE 1", "",
+          "answer \"IMAGE\"\nclick OpenMenu\n"});
+}
+
+TEST(AdviceOnRegisters, AnUnknownFirmwareIsPickedInTheMenu) {
+  AdviceProgram program(kLatest);
+  program.Run("setting Release \"R99\"\nstart\n");
+  const auto line = program.Line("unknown-firmware");
+  EXPECT_NE(line.words.find("does not know the firmware V1400R99"), std::string::npos) << line.words;
+  EXPECT_EQ(line.caption, "Version");
+  EXPECT_EQ(line.action, acts::AdviceAction::kPickVersion);
+  program.Run("setting Release \"R12\"\nstart\nexpect no advice \"does not know\"\n");
+}
+
+TEST(AdviceOnRegisters, TheFirstStepsGoWithTheFirstUploadOrOpen) {
+  for (const auto& begin : {kOpenPort + kHold + kUpload + "unit \"STREAM\"\n",
+                            std::string("answer \"IMAGE\"\nclick OpenMenu\n")}) {
+    AdviceProgram program(kLatest);
+    const auto line = program.Line("first-steps");
+    EXPECT_EQ(line.words, "Begin on REMOTE: Set Comport, Remote, Upload.");
+    EXPECT_EQ(line.caption, "REMOTE");
+    program.Run("answer cancel\nclick OpenMenu\nexpect advice \"Begin on REMOTE\"\n" + begin);
+    EXPECT_EQ(program.Line("first-steps").words, "");
+  }
+  AdviceProgram program(kLatest);
+  program.Run(kOpenPort + "expect advice \"Begin on REMOTE: Remote, Upload.\"\n" + kHold +
+              "expect advice \"Begin on REMOTE: Upload.\"\n");
+}
+
+TEST(AdviceOnSettings, NamesTheSlotsThatDoNothing) {
+  const auto range = [](const std::string& first, const std::string& second) {
+    return "click cmdSetRange\ntype Range_Hi \"" + first + "\"\ntype Range_Low \"" + second +
+           "\"\nclick frmSetRange.cmdSetRange\n";
+  };
+  const auto text = [](const std::string& button, const std::string& words) {
+    return "click " + button + "\ntype frmSetEXCPSTR.Text1 \"" + words + "\"\nclick frmSetEXCPSTR.cmdSET\n";
+  };
+  for (const auto& firmware : {kLatest, kV1300}) {
+    const Row rows[] = {
+        {"range-order", "pick ComboExcp(0) 2\n" + range("500", "100"),
+         "In the range of exception 3 the first value is above the second.", "Set RANGE", range("500", "500"),
+         firmware},
+        {"range-order", range("9", "8") + "pick ComboExcp(0) 23\n" + range("2", "1"), "exceptions 1 and 24",
+         "Set RANGE", range("1", "2") + "pick ComboExcp(0) 0\n" + range("0", "0"), firmware},
+        {"alarm-without-exception", "pick ComboALM(1) \"3\"\n",
+         "Free exceptions trigger alarm 1 (3), so nothing sets off such an alarm.", "ALARM TRIGGER",
+         "pick ComboExcp(0) 2\n" + text("cmdSetExcpstr", "REFUND"), firmware},
+        {"alarm-without-exception",
+         "pick ComboALM(1) \"13-24\"\npick ComboALM(0) 15\npick ComboALM(1) \"1\"\n",
+         "alarms 1 (13-24) and 16 (1)", "ALARM TRIGGER",
+         "pick ComboALM(1) \"RTS\"\npick ComboExcp(0) 12\n" + text("cmdSetExcpstr", "X"), firmware},
+        {"blank-text", "pick ComboExcp(1) \"ON\"\n", "The text is empty or only blanks: exception 1.",
+         "Set Exception String", text("cmdSetExcpstr", "REFUND"), firmware},
+        {"blank-text",
+         text("cmdSetExcpstr", "REFUND") + "pick ComboExcp(3) \"ON\"\n" + text("cmdSetExcpstr", "   "),
+         "exception 1.", "Set Exception String", "pick ComboExcp(3) \"OFF\"\n", firmware},
+        {"blank-text",
+         "pick ComboExcp(1) 1\npick ComboExcp(0) 1\npick ComboExcp(1) 1\npick ComboExcp(0) 2\npick "
+         "ComboExcp(1) 1\npick "
+         "ComboExcp(0) 4\npick ComboExcp(1) 1\n",
+         "exceptions 1 to 3 and 5.", "Set Exception String",
+         "pick ComboExcp(1) 0\npick ComboExcp(0) 0\npick ComboExcp(1) 0\npick ComboExcp(0) 1\npick "
+         "ComboExcp(1) 0\npick "
+         "ComboExcp(0) 2\npick ComboExcp(1) 0\n",
+         firmware},
+        {"blank-text", "pick ComboALM(0) 1\npick ComboTrigger(0) \"ON\"\n", "the trigger text of alarm 2.",
+         "Set Trigger Text", text("cmdSetTrigger", "DOOR"), firmware},
+    };
+    for (const auto& row : rows) Expect(row);
+  }
+}
+
+TEST(Advice, ADismissedLineComesBackOnlyWithItsCondition) {
+  AdviceProgram program(kLatest);
+  program.Run("pick ComboALM(1) \"3\"\n");
+  program.Advisor().Dismiss(acts::AdviceId::kAlarmWithoutException);
+  program.Run(
+      "expect no advice \"alarm 1\"\nwait 1000\npick ComboALM(2) 1\nexpect no advice \"alarm 1\"\n"
+      "pick ComboALM(1) \"NONE\"\npick ComboALM(1) \"3\"\nexpect advice \"alarm 1 (3)\"\n");
+  program.Run("port fail \"No such device\"\n" + kOpenPort);
+  program.Advisor().Dismiss(acts::AdviceId::kPortRefused);
+  program.Run("wait 1000\nexpect no advice \"did not open\"\n" + kOpenPort +
+              "expect advice \"did not open\"\n");
+}
+
+TEST(Advice, TheMostImportantLineComesFirst) {
+  AdviceProgram program(kLatest);
+  program.Run("pick ComboALM(1) \"3\"\nanswer cancel\nclick OpenMenu\n" + kHalfUpload + kLose);
+  std::string names;
+  for (const auto& line : program.Advisor().Lines()) names += std::string(line.name) + " ";
+  EXPECT_EQ(names, "device-lost next-pick-swallowed alarm-without-exception first-steps ");
+  program.Run("tick Timer_Operating 6\n");
+  EXPECT_EQ(program.Advisor().Lines().front().name, "upload-broke");
+}
+
+TEST(Advice, ChangesNothing) {
+  AdviceProgram watched(kLatest);
+  watched.Run("pick ComboReg \"IBM\"\nanswer cancel\nclick OpenMenu\n");
+  const auto image = watched.App().image;
+  const auto note = watched.App().StatusNote;
+  EXPECT_FALSE(watched.Advisor().Lines().empty());
+  EXPECT_TRUE(watched.App().image == image && watched.App().UploadApplying &&
+              watched.App().StatusNote == note);
+}
+
+TEST(Advice, TheHelpExplainsEveryCondition) {
+  std::ifstream file(OVL_SOURCE_FOLDER "/help/advice.md");
+  const std::string page((std::istreambuf_iterator<char>(file)), {});
+  for (const auto& row : acts::AdviceTable())
+    EXPECT_NE(page.find("| `" + std::string(row.name) + "` |"), std::string::npos) << row.name;
+}
+
+}  // namespace
+}  // namespace ovl::testing
