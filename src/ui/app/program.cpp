@@ -74,9 +74,11 @@ core::Outcome Program::Start() {
   const auto outcome = start::StartProgram(app_);
   if (outcome == core::Outcome::kEnded) return outcome;
   history_ = std::make_unique<acts::ActHistory>(app_);
+  advisor_ = std::make_unique<acts::Advisor>(app_);
   windows_ = std::make_unique<Windows>(
       app_, [this](const core::Event& event) { return Act(event); },
-      UndoActs{history_.get(), [this] { Undo(); }, [this] { Redo(); }});
+      OwnActs{history_.get(), advisor_.get(), [this] { Undo(); }, [this] { Redo(); },
+              [this](const acts::Advice& advice) { Follow(advice); }});
   windows_->Main().Status().port_problem = [this] { return port_.LastProblem(); };
   CollectTimers();
   RefreshNow();
@@ -132,9 +134,30 @@ void Program::Redo() {
   AfterEvent(core::Outcome::kDone);
 }
 
-// Before the start is complete there is no history yet.
+// Before the start is complete there is neither history nor advice.
 core::Outcome Program::DispatchAny(const core::Event& event) {
-  return history_ ? history_->Act(event) : Dispatch(app_, event);
+  if (!advisor_) return Dispatch(app_, event);
+  advisor_->Before(event);
+  const auto outcome = history_->Act(event);
+  advisor_->After(event);
+  return outcome;
+}
+
+void Program::Follow(const acts::Advice& advice) {
+  auto& main = windows_->Main();
+  const auto* control = advice.control.empty() ? nullptr : app_.registry.Find(advice.control);
+  switch (advice.action) {
+    case acts::AdviceAction::kPickVersion:
+      return main.OpenVersionMenu();
+    case acts::AdviceAction::kGoToControl:
+      if (control != nullptr) main.GoTo(controls::StateOf(control->control));
+      return;
+    case acts::AdviceAction::kClickControl:
+      if (control != nullptr) Act(core::ClickEvent{control->control});
+      return;
+    default:
+      return;
+  }
 }
 
 // True when the user ends the program, false when a file or an upload ends it.

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "acts/act_history.h"
+#include "acts/advice.h"
 #include "core/gate.h"
 #include "host/serial_port.h"
 #include "host/settings_store.h"
@@ -41,6 +42,9 @@ class Program {
   void Undo();
   void Redo();
 
+  // Carries out the action of a line of advice.
+  void Follow(const acts::Advice& advice);
+
   // Updates the screen now and does not wait for the next frame.
   void RefreshNow();
 
@@ -72,7 +76,8 @@ class Program {
   host::SettingsStore store_;
   std::string store_problem_;
   host::SerialPort port_;
-  std::unique_ptr<acts::ActHistory> history_;  // of the started program
+  std::unique_ptr<acts::ActHistory> history_;  // of the started program, as the next one
+  std::unique_ptr<acts::Advisor> advisor_;
   std::unique_ptr<UnsavedCopy> unsaved_;
   std::unique_ptr<Windows> windows_;
   std::vector<TimerState> timers_;

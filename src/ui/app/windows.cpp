@@ -30,10 +30,10 @@ void ApplyLayoutRequests() {
 
 }  // namespace
 
-Windows::Windows(core::Application& app, ActFunction act, UndoActs undo_acts)
+Windows::Windows(core::Application& app, ActFunction act, OwnActs own_acts)
     : app_(app),
       bindings_(app, std::move(act), [this](const QString& hint) { main_->Status().ShowHint(hint); }),
-      main_(std::make_unique<MainWindow>(bindings_, std::move(undo_acts))),
+      main_(std::make_unique<MainWindow>(bindings_, std::move(own_acts))),
       forms_({{app.frmSettSR.form, BuildPortSettingsWindow, false},
               {app.frmScanBProgress.form, BuildScanProgressWindow, false},
               {app.frmOK_buttom.form, BuildTransferEndWindow, false},
@@ -98,7 +98,7 @@ void Windows::Refresh() {
   for (auto& form : forms_) {
     if (form.window == nullptr && form.Wanted()) Build(form);
   }
-  main_->Undo().history->Observe();
+  main_->Acts().history->Observe();
   const bool reshaped = bindings_.Refresh();
   if (reshaped) RenewMnemonics();
   ShowForms();

@@ -16,7 +16,7 @@ namespace ovl::ui {
 class Windows {
  public:
   // The model must be started already, so that menus and lists are complete.
-  Windows(core::Application& app, ActFunction act, UndoActs undo_acts);
+  Windows(core::Application& app, ActFunction act, OwnActs own_acts);
 
   // Updates everything on the screen from the model.
   void Refresh();

@@ -25,7 +25,7 @@ void BindItem(Bindings& bindings, QAction& item, const QString& verb,
 
 }  // namespace
 
-QMenu* BuildEditMenu(QMenuBar& bar, Bindings& bindings, const UndoActs& acts) {
+QMenu* BuildEditMenu(QMenuBar& bar, Bindings& bindings, const OwnActs& acts) {
   auto* menu = bar.addMenu(QStringLiteral("Edit"));
   menu->setObjectName(QStringLiteral("menuEdit"));
   auto* history = acts.history;

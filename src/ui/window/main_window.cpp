@@ -16,6 +16,7 @@
 #include "ui/dialogs/changes_window.h"
 #include "ui/kit/box_layouts.h"
 #include "ui/pages/pages.h"
+#include "ui/window/advice_bar.h"
 #include "ui/window/status_strip.h"
 
 namespace ovl::ui {
@@ -35,9 +36,9 @@ void FocusFirstUsable(QWidget& start) {
 
 }  // namespace
 
-MainWindow::MainWindow(Bindings& bindings, UndoActs undo_acts)
+MainWindow::MainWindow(Bindings& bindings, OwnActs own_acts)
     : bindings_(bindings),
-      undo_acts_(std::move(undo_acts)),
+      own_acts_(std::move(own_acts)),
       tabs_(new QTabWidget),
       status_(new StatusStrip(bindings)),
       changes_(new ChangesWindow(bindings.Model(), this)) {
@@ -70,7 +71,11 @@ void MainWindow::BuildTabs() {
     connect(shortcut, &QShortcut::activated, this, [this, tab] { tabs_->setCurrentIndex(tab); });
     ++tab;
   }
-  setCentralWidget(tabs_);
+  auto* content = new QWidget;
+  auto* down = LayOutDown(*content);
+  down->addWidget(new AdviceBar(bindings_, own_acts_));
+  down->addWidget(tabs_, 1);
+  setCentralWidget(content);
   BuildPage(model.current);
   connect(tabs_, &QTabWidget::currentChanged, this, [this](int current) {
     if (BuildPage(current) && page_built) page_built();
@@ -94,6 +99,22 @@ bool MainWindow::BuildPage(int tab) {
     last = last->previousInFocusChain();
   setTabOrder(last, changes_button_);
   return true;
+}
+
+void MainWindow::GoTo(const controls::ControlState& control) {
+  auto* widget = bindings_.WidgetOf(control);
+  for (int tab = 0; widget == nullptr && tab < tabs_->count(); ++tab) {
+    BuildPage(tab);
+    widget = bindings_.WidgetOf(control);
+  }
+  for (int tab = 0; widget != nullptr && tab < tabs_->count(); ++tab) {
+    if (tabs_->widget(tab)->isAncestorOf(widget)) tabs_->setCurrentIndex(tab);
+  }
+  if (widget != nullptr) widget->setFocus(Qt::ShortcutFocusReason);
+}
+
+void MainWindow::OpenVersionMenu() {
+  menuBar()->setActiveAction(version_menu_->menuAction());
 }
 
 bool MainWindow::BuildNextPage() {
@@ -132,7 +153,7 @@ void MainWindow::BuildMenus() {
   keys(changes, QKeySequence(Qt::CTRL | Qt::Key_D));
   file->addSeparator();
   keys(bindings_.Item(*file, form.menuExit), QKeySequence(Qt::CTRL | Qt::Key_Q));
-  BuildEditMenu(*menuBar(), bindings_, undo_acts_);
+  BuildEditMenu(*menuBar(), bindings_, own_acts_);
   BuildVersionMenu();
   help_menu_ = bindings_.SubMenu(*menuBar(), form.HelpMenu);
 }
@@ -142,8 +163,8 @@ void MainWindow::BuildMenus() {
 void MainWindow::BindTitle() {
   bindings_.OnRefresh([this, origin = ChangeDetector<std::string>()]() mutable {
     const auto& app = bindings_.Model();
-    if (origin.Update(undo_acts_.history->Origin()))
-      setWindowTitle(host::FromSystem(undo_acts_.history->Origin()) + QStringLiteral("[*] - ") +
+    if (origin.Update(own_acts_.history->Origin()))
+      setWindowTitle(host::FromSystem(own_acts_.history->Origin()) + QStringLiteral("[*] - ") +
                      host::FromWindows1252(app.frmMain.form.caption));
     setWindowModified(app.image != app.known_image);
     return false;
@@ -152,7 +173,7 @@ void MainWindow::BindTitle() {
 
 void MainWindow::BuildVersionMenu() {
   auto& form = bindings_.Model().frmMain;
-  auto* version = bindings_.SubMenu(*menuBar(), form.VersionMenu);
+  auto* version = version_menu_ = bindings_.SubMenu(*menuBar(), form.VersionMenu);
   for (auto& family : form.version_families) {
     auto* menu = bindings_.SubMenu(*version, family.parent);
     for (const auto item : family.items) bindings_.Item(*menu, form.version_items.at(item));

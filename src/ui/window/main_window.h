@@ -22,13 +22,19 @@ class MainWindow : public QMainWindow {
   // The size on a screen that has room for it.
   static constexpr QSize kStartSize{1040, 700};
 
-  MainWindow(Bindings& bindings, UndoActs undo_acts);
+  MainWindow(Bindings& bindings, OwnActs own_acts);
 
   QTabWidget& Tabs() const { return *tabs_; }
   StatusStrip& Status() const { return *status_; }
   ChangesWindow& Changes() const { return *changes_; }
-  const UndoActs& Undo() const { return undo_acts_; }
+  const OwnActs& Acts() const { return own_acts_; }
   QMenu& HelpMenu() const { return *help_menu_; }
+
+  // Opens the tab of the control and gives it the focus. Nothing happens for a control without a widget here.
+  void GoTo(const controls::ControlState& control);
+
+  // Opens the Version menu.
+  void OpenVersionMenu();
 
   // Builds the next missing page; false when there is none.
   bool BuildNextPage();
@@ -63,11 +69,12 @@ class MainWindow : public QMainWindow {
   void EnableAsModelSays();
 
   Bindings& bindings_;
-  UndoActs undo_acts_;
+  OwnActs own_acts_;
   QTabWidget* tabs_;
   StatusStrip* status_;
   ChangesWindow* changes_;
   QPushButton* changes_button_ = nullptr;
+  QMenu* version_menu_ = nullptr;
   QMenu* help_menu_ = nullptr;
   QPointer<QWidget> last_focus_;
   ChangeDetector<bool> enabled_;

@@ -1,0 +1,55 @@
+#include "ui/window/advice_bar.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QToolButton>
+
+#include "host/text_codec.h"
+#include "ui/kit/theme.h"
+
+namespace ovl::ui {
+
+AdviceBar::AdviceBar(Bindings& bindings, const OwnActs& acts)
+    : acts_(acts), words_(new QLabel), action_(new QPushButton), close_(new QToolButton) {
+  setObjectName(QStringLiteral("Advice"));
+  setFrameShape(QFrame::StyledPanel);
+  setVisible(false);
+  auto* across = new QHBoxLayout(this);
+  across->setContentsMargins(kMargin, kRowGap / 2, kRowGap, kRowGap / 2);
+  across->setSpacing(kRowGap);
+  words_->setObjectName(QStringLiteral("AdviceWords"));
+  words_->setWordWrap(true);
+  words_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  action_->setObjectName(QStringLiteral("AdviceAction"));
+  close_->setObjectName(QStringLiteral("AdviceClose"));
+  close_->setText(QStringLiteral("Hide"));
+  close_->setAccessibleName(QStringLiteral("Hide this advice"));
+  close_->setToolTip(QStringLiteral("Hides this advice until its reason has gone and come again."));
+  close_->setAutoRaise(true);
+  close_->setFocusPolicy(Qt::TabFocus);
+  across->addWidget(words_, 1);
+  across->addWidget(action_);
+  across->addWidget(close_);
+  connect(action_, &QPushButton::clicked, this, [this] { acts_.follow(acts::Advice(shown_)); });
+  connect(close_, &QToolButton::clicked, this, [this] {
+    acts_.advisor->Dismiss(shown_.id);
+    ShowFirst();
+  });
+  bindings.OnRefresh([this] { return ShowFirst(); });
+}
+
+bool AdviceBar::ShowFirst() {
+  auto lines = acts_.advisor->Lines();
+  const bool was_shown = !shown_.words.empty();
+  const auto before = std::exchange(shown_, lines.empty() ? acts::Advice() : std::move(lines.front()));
+  if (before.words == shown_.words && before.caption == shown_.caption) return false;
+  words_->setText(host::FromSystem(shown_.words));
+  setAccessibleName(words_->text());
+  action_->setText(host::FromWindows1252(shown_.caption));
+  action_->setVisible(!shown_.caption.empty());
+  setVisible(!shown_.words.empty());
+  return was_shown == shown_.words.empty();
+}
+
+}  // namespace ovl::ui
