@@ -77,6 +77,8 @@ core::Outcome Program::Start() {
   windows_ = std::make_unique<Windows>(
       app_, [this](const core::Event& event) { return Act(event); },
       UndoActs{history_.get(), [this] { Undo(); }, [this] { Redo(); }});
+  windows_->SetOwnActs(
+      [this](const std::string& name, const std::function<void()>& act) { return RunOwn(name, act); });
   windows_->Main().Status().port_problem = [this] { return port_.LastProblem(); };
   CollectTimers();
   RefreshNow();
@@ -116,6 +118,13 @@ core::Outcome Program::Act(const core::Event& event) {
       windows_ && !app_.handling && changes::IsAct(event) ? DispatchUserAct(event) : DispatchAny(event);
   if (unsaved_ && outcome == core::Outcome::kEnded)
     IsLeaving(event) ? unsaved_->Remove() : unsaved_->WriteNow();
+  AfterEvent(outcome);
+  return outcome;
+}
+
+core::Outcome Program::RunOwn(const std::string& name, const std::function<void()>& act) {
+  const auto outcome = history_->Run(name, act);
+  windows_->SetAlsoStored({});
   AfterEvent(outcome);
   return outcome;
 }

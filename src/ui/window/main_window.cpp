@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "host/text_codec.h"
+#include "ui/acts/copy_slot_window.h"
 #include "ui/dialogs/changes_window.h"
 #include "ui/kit/box_layouts.h"
 #include "ui/pages/pages.h"
@@ -40,7 +41,7 @@ MainWindow::MainWindow(Bindings& bindings, UndoActs undo_acts)
       undo_acts_(std::move(undo_acts)),
       tabs_(new QTabWidget),
       status_(new StatusStrip(bindings)),
-      changes_(new ChangesWindow(bindings.Model(), this)) {
+      changes_(new ChangesWindow(bindings, this)) {
   const auto& form = bindings_.Model().frmMain.form;
   setObjectName(host::FromWindows1252(form.name));
   setMinimumSize(kLeastSize);
@@ -50,6 +51,7 @@ MainWindow::MainWindow(Bindings& bindings, UndoActs undo_acts)
   BindTitle();
   statusBar()->setSizeGripEnabled(false);
   statusBar()->addWidget(status_, 1);
+  changes_->open_tab = [this](int tab) { tabs_->setCurrentIndex(tab); };
   changes_button_ = BuildChangesButton(bindings, *changes_);
   changes_button_->setFixedHeight(StatusStrip::LineHeight(*changes_button_));
   status_->AddButton(changes_button_);
@@ -132,7 +134,9 @@ void MainWindow::BuildMenus() {
   keys(changes, QKeySequence(Qt::CTRL | Qt::Key_D));
   file->addSeparator();
   keys(bindings_.Item(*file, form.menuExit), QKeySequence(Qt::CTRL | Qt::Key_Q));
-  BuildEditMenu(*menuBar(), bindings_, undo_acts_);
+  auto* edit = BuildEditMenu(*menuBar(), bindings_, undo_acts_);
+  edit->addSeparator();
+  AddCopySlotItems(bindings_, *edit, *this);
   BuildVersionMenu();
   help_menu_ = bindings_.SubMenu(*menuBar(), form.HelpMenu);
 }
