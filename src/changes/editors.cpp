@@ -5,8 +5,6 @@
 #include <stdexcept>
 #include <vector>
 
-#include "codecs/codecs.h"
-#include "image/slot_records.h"
 #include "panels/alarms.h"
 #include "panels/communication.h"
 #include "panels/demo.h"
@@ -24,7 +22,6 @@ namespace ovl::changes {
 namespace {
 
 using core::Editor;
-using core::Part;
 using core::Place;
 
 using Listed = std::span<const core::Editor> (*)();
@@ -53,59 +50,13 @@ std::string CaptionOf(const core::Application& app, std::string_view name) {
   return caption;
 }
 
-std::string Captions(const core::Application& app, std::string_view controls, std::string_view options,
-                     bool hidden_too) {
+std::string Captions(const core::Application& app, std::string_view controls, std::string_view options) {
   if (controls.empty()) return std::string(options);
   std::string words;
   while (!controls.empty()) {
     const auto name = controls.substr(0, controls.find(' '));
     controls.remove_prefix(std::min(controls.size(), name.size() + 1));
-    const auto caption = CaptionOf(app, name);
-    if (hidden_too || controls::StateOf(app.registry.Find(name)->control).visible)
-      words += (words.empty() ? "" : ", ") + caption;
-  }
-  return words;
-}
-
-// The digits of a record that a control stores.
-std::string_view Cut(Part part, image::FieldId field, std::string_view record) {
-  constexpr std::size_t kByte = 2;
-  switch (part) {
-    case Part::kFirstByte:
-      return record.substr(0, kByte);
-    case Part::kDuration:
-      return image::AlarmDurationDigits(record);
-    case Part::kVideoLoss:
-      return image::AlarmVideoLossDigits(record);
-    case Part::kRange:
-      return image::RangeAndLengthOf(record);
-    case Part::kText:
-      return field == image::FieldId::EXCPSTRS ? image::CharactersOf(record) : image::TriggeredDigits(record);
-    default:
-      return record;
-  }
-}
-
-// Whether the control stores a part that differs.
-bool Stores(const Editor& editor, std::string_view before, std::string_view after) {
-  const auto was = Cut(editor.part, editor.field, before), is = Cut(editor.part, editor.field, after);
-  if (was.size() != 2 || is.size() != 2) return was != is;
-  return ((codecs::HexToInt(was) ^ codecs::HexToInt(is)) & editor.bits) != 0;
-}
-
-template <class Wanted>
-std::string Words(const core::Application& app, std::string_view options, bool hidden_too,
-                  const Wanted& wanted) {
-  std::string words;
-  const Editor* last = nullptr;
-  for (const auto& editor : Editors()) {
-    if (!wanted(editor)) continue;
-    const auto captions = Captions(app, editor.controls, options, hidden_too);
-    if (captions.empty()) continue;
-    if (last != nullptr) words += last->place == editor.place ? ", " : "; ";
-    if (last == nullptr || last->place != editor.place) words += PlaceName(app, editor.place) + ": ";
-    words += captions;
-    last = &editor;
+    words += (words.empty() ? "" : ", ") + CaptionOf(app, name);
   }
   return words;
 }
@@ -137,17 +88,16 @@ std::string PlainCaption(const controls::ControlRef& control) {
 }
 
 std::string EditedBy(const core::Application& app, image::FieldId field, std::string_view options) {
-  return Words(app, options, true, [&](const Editor& editor) { return editor.field == field; });
-}
-
-std::string EditedBy(const core::Application& app, image::FieldId field, std::string_view options,
-                     std::string_view before, std::string_view after) {
-  const auto stores = [&](const Editor& editor) {
-    return editor.field == field && Stores(editor, before, after);
-  };
-  auto words = Words(app, options, false, stores);
-  if (words.empty()) words = Words(app, options, true, stores);
-  return words.empty() ? EditedBy(app, field, options) : words;
+  std::string words;
+  const Editor* last = nullptr;
+  for (const auto& editor : Editors()) {
+    if (editor.field != field) continue;
+    if (last != nullptr) words += last->place == editor.place ? ", " : "; ";
+    if (last == nullptr || last->place != editor.place) words += PlaceName(app, editor.place) + ": ";
+    words += Captions(app, editor.controls, options);
+    last = &editor;
+  }
+  return words;
 }
 
 }  // namespace ovl::changes

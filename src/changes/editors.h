@@ -20,11 +20,8 @@ std::string PlainCaption(const controls::ControlRef& control);
 std::string PlaceName(const core::Application& app, core::Place place);
 
 // The captions of the controls that edit the field, such as "COMMUNICATION: PARITY, DATA BITS"; empty if no
-// control edits it. With two contents, only the visible controls that store a difference between them.
-// `options` is the word for the options of a register. Throws std::logic_error if a control or its caption is
-// missing.
+// control edits it. `options` is the word for the options of a register. Throws std::logic_error if a control
+// or its caption is missing.
 std::string EditedBy(const core::Application& app, image::FieldId field, std::string_view options);
-std::string EditedBy(const core::Application& app, image::FieldId field, std::string_view options,
-                     std::string_view before, std::string_view after);
 
 }  // namespace ovl::changes

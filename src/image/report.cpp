@@ -87,7 +87,7 @@ std::vector<FieldDifference> Differences(const ConfigImage& before, const Config
     const auto& new_value = after.at(row.id, entry);
     if (old_value == new_value) return;
     const auto name = EntryName(row.name, EntryCount(row.id), entry);
-    differences.push_back({&row, name, first / 2, old_value, new_value});
+    differences.push_back({&row, name, first / 2, old_value, new_value, entry});
   });
   return differences;
 }

@@ -27,6 +27,7 @@ struct FieldDifference {
   std::string name;      // with its entry
   std::size_t byte = 0;  // its first byte in the section, counted from 0
   std::string before, after;
+  int entry = 1;
 };
 std::vector<FieldDifference> Differences(const ConfigImage& before, const ConfigImage& after,
                                          const firmware::FirmwareId& firmware);

@@ -109,15 +109,12 @@ std::string FreeExceptionSlot(const firmware::FirmwareId& firmware) {
   return slot;
 }
 
-std::string_view RangeAndLengthOf(std::string_view slot) {
-  const auto rest = From(slot, kByte);
-  return rest.substr(0, rest.size() - CharactersOf(slot).size());
+DigitSpan RangeDigits(const firmware::FirmwareId& firmware) {
+  return {kByte, 2 * ValueDigits(firmware)};
 }
 
-std::string_view CharactersOf(std::string_view slot) {
-  constexpr std::size_t kCharactersAndEndMark = kByte * kTextLength + kByte;
-  const auto rest = From(slot, kByte);
-  return rest.substr(rest.size() - std::min(rest.size(), kCharactersAndEndMark));
+DigitSpan PatternDigits(const firmware::FirmwareId& firmware) {
+  return {RangeEnd(firmware)};
 }
 
 int AlarmTrigger(std::string_view record) {
@@ -130,10 +127,6 @@ int AlarmCounter(std::string_view record) {
 
 int AlarmVideoLoss(std::string_view record) {
   return codecs::HexToInt(From(record, std::max(record.size(), kByte) - kByte));
-}
-
-std::string_view AlarmDurationDigits(std::string_view record) {
-  return From(record, kByte).substr(0, kAlarmDurationEnd - kByte);
 }
 
 std::string_view AlarmVideoLossDigits(std::string_view record) {

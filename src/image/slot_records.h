@@ -81,10 +81,18 @@ void StoreExceptionText(std::string& slot, const firmware::FirmwareId& firmware,
 // The slot of a unit that was never configured.
 std::string FreeExceptionSlot(const firmware::FirmwareId& firmware);
 
-// The parts of a slot whose firmware is not known. Its characters and the 00 are the last digits, so the
-// length of the text counts with the range.
-std::string_view RangeAndLengthOf(std::string_view slot);
-std::string_view CharactersOf(std::string_view slot);
+// Where a part of a record is. A count of npos means up to the end.
+struct DigitSpan {
+  std::size_t first = 0;
+  std::size_t count = std::string_view::npos;
+};
+
+// Both range values; the pattern with its length and the 00.
+DigitSpan RangeDigits(const firmware::FirmwareId& firmware);
+DigitSpan PatternDigits(const firmware::FirmwareId& firmware);
+
+// The flags of an exception slot or of a triggered text, or what triggers an alarm.
+inline constexpr DigitSpan kFirstByteDigits = {0, 2};
 
 // ---- Alarm records
 
@@ -96,8 +104,9 @@ int AlarmTrigger(std::string_view record);
 int AlarmCounter(std::string_view record);
 int AlarmVideoLoss(std::string_view record);
 
-// The digits of the two bytes of the duration, and those after them.
-std::string_view AlarmDurationDigits(std::string_view record);
+// The two bytes of the duration, and those after them.
+inline constexpr DigitSpan kAlarmDurationDigits = {2, 4};
+inline constexpr DigitSpan kAlarmVideoLossDigits = {6};
 std::string_view AlarmVideoLossDigits(std::string_view record);
 
 void StoreAlarmTrigger(std::string& record, int trigger);
@@ -110,6 +119,7 @@ bool IsNormallyClosed(const ConfigImage& image, int number);
 // ---- Triggered texts
 
 // The characters and the 00.
+inline constexpr DigitSpan kTriggeredDigits = {2};
 std::string_view TriggeredDigits(std::string_view record);
 
 }  // namespace ovl::image

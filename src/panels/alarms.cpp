@@ -66,17 +66,6 @@ void ShowByFirmware(core::Application& app, int number) {
     AssignPosition(app, Member(app, Alm::kType), codecs::HexToInt(app.image.at(ALM_MODE, number)));
 }
 
-// This counts alarms from 0, while loading counts them from 1. The state of the ninth alarm can therefore not
-// be stored. It stays so, because the images of the units were made that way.
-void StoreNormalState(core::Application& app) {
-  const int index = Member(app, Alm::kNumber).position;
-  const bool upper = index > 8;
-  const int bit = upper ? index - 8 : index;
-  if (bit > 7) return;
-  auto& states = app.image.at(ALMNORMAL_BAK, upper ? 2 : 1);
-  states = codecs::ByteToHex(WithSelection(codecs::HexToInt(states), bit, Member(app, Alm::kNormalState)));
-}
-
 void StoreTrigger(core::Application& app, std::string& record) {
   const int trigger = Member(app, Alm::kTrigger).position;
   ShowTriggerMark(app, trigger);
@@ -110,7 +99,7 @@ void StoreMember(core::Application& app, int index) {
       StoreTrigger(app, record);
       break;
     case Alm::kNormalState:
-      StoreNormalState(app);
+      StoreNormalState(app.image, Shown(app), Member(app, Alm::kNormalState).position != 0);
       break;
     case Alm::kDuration:
       StoreDuration(app, record);
@@ -144,6 +133,17 @@ constexpr std::array kEditors = {
 };
 
 }  // namespace
+
+// This counts alarms from 0, while loading counts them from 1. The state of the ninth alarm can therefore not
+// be stored. It stays so, because the images of the units were made that way.
+void StoreNormalState(image::ConfigImage& image, int number, bool closed) {
+  const int index = number - 1;
+  const bool upper = index > 8;
+  const int bit = upper ? index - 8 : index;
+  if (bit > 7) return;
+  auto& states = image.at(ALMNORMAL_BAK, upper ? 2 : 1);
+  states = codecs::ByteToHex(codecs::WithBit(codecs::HexToInt(states), bit, closed));
+}
 
 void ApplyAlarmGlobals(core::Application& app) {
   AssignPosition(app, Member(app, Alm::kFlagType), codecs::HexToInt(app.image[ALMCFG_BAK]) & kFlagTypeMask);

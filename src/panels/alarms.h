@@ -11,6 +11,9 @@ void ApplyAlarmGlobals(core::Application& app);
 // Shows an alarm, 1 to 16, and its triggered text on the panel.
 void LoadAlarm(core::Application& app, int number);
 
+// The normal state of an alarm, 1 to 16. That of alarm 9 stays as it is.
+void StoreNormalState(image::ConfigImage& image, int number, bool closed);
+
 void ComboALM_Click(core::Application& app, int index);
 void save_Alarm_Type(core::Application& app);
 

@@ -1,6 +1,7 @@
 #include "pictures/pictures.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
@@ -13,6 +14,7 @@
 #include "host/text_codec.h"
 #include "image/record_stream.h"
 #include "pictures/sample_settings.h"
+#include "ui/acts/copy_slot_window.h"
 #include "ui/app/program.h"
 #include "ui/dialogs/changes_window.h"
 #include "ui/kit/theme.h"
@@ -80,6 +82,7 @@ class Photographer {
     MakeSampleSettings(program_);
     TakeTabs();
     TakeChanges();
+    TakeCopyWindow();
     TakeTextWindows();
     TakeRegisters();
     TakePortSettings();
@@ -122,7 +125,18 @@ class Photographer {
   void TakeChanges() {
     Main().Changes().Open();
     Take(Main().Changes(), QStringLiteral("changes"));
+    auto* bytes = Main().Changes().findChild<QCheckBox*>(QStringLiteral("ChangesBytes"));
+    bytes->click();
+    Take(Main().Changes(), QStringLiteral("changes_bytes"));
+    bytes->click();
     Main().Changes().close();
+  }
+
+  void TakeCopyWindow() {
+    ui::OpenCopySlotWindow(program_.OnScreen().Controls(), acts::SlotKind::kException, Main());
+    auto* window = Main().findChild<QDialog*>(QStringLiteral("CopyException"));
+    Take(*window, QStringLiteral("copy_exception"));
+    window->close();
   }
 
   void TakeTextWindows() {

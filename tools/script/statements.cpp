@@ -7,6 +7,7 @@
 
 #include "image/field_map.h"
 #include "script/advice_statements.h"
+#include "script/change_statements.h"
 #include "script/expectations.h"
 #include "script/image_fields.h"
 #include "script/inspection.h"
@@ -349,7 +350,7 @@ constexpr auto kStatements = std::to_array<Statement>({
 std::span<const Statement> Statements() {
   static const auto all = [] {
     std::vector<Statement> statements(kStatements.begin(), kStatements.end());
-    for (const auto more : {UndoStatements(), AdviceStatements()})
+    for (const auto more : {UndoStatements(), AdviceStatements(), ChangeStatements()})
       statements.insert(statements.end(), more.begin(), more.end());
     return statements;
   }();

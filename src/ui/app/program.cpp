@@ -79,6 +79,8 @@ core::Outcome Program::Start() {
       app_, [this](const core::Event& event) { return Act(event); },
       OwnActs{history_.get(), advisor_.get(), [this] { Undo(); }, [this] { Redo(); },
               [this](const acts::Advice& advice) { Follow(advice); }});
+  windows_->SetOwnActs(
+      [this](const std::string& name, const std::function<void()>& act) { return RunOwn(name, act); });
   windows_->Main().Status().port_problem = [this] { return port_.LastProblem(); };
   CollectTimers();
   RefreshNow();
@@ -118,6 +120,13 @@ core::Outcome Program::Act(const core::Event& event) {
       windows_ && !app_.handling && changes::IsAct(event) ? DispatchUserAct(event) : DispatchAny(event);
   if (unsaved_ && outcome == core::Outcome::kEnded)
     IsLeaving(event) ? unsaved_->Remove() : unsaved_->WriteNow();
+  AfterEvent(outcome);
+  return outcome;
+}
+
+core::Outcome Program::RunOwn(const std::string& name, const std::function<void()>& act) {
+  const auto outcome = history_->Run(name, act);
+  windows_->SetAlsoStored({});
   AfterEvent(outcome);
   return outcome;
 }

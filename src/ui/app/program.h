@@ -38,6 +38,9 @@ class Program {
   // it, the windows close at once and the event loop ends.
   core::Outcome Act(const core::Event& event);
 
+  // The same for an act of our own, under the name by which it can be undone.
+  core::Outcome RunOwn(const std::string& name, const std::function<void()>& act);
+
   // Take back the last act, or repeat the one taken back last.
   void Undo();
   void Redo();

@@ -38,6 +38,7 @@ class Windows {
   FormWindow* WindowOf(const controls::Form& form);
   HelpDesk& Help() const { return *help_; }
   const Bindings& Controls() const { return bindings_; }
+  void SetOwnActs(OwnActFunction own_act) { bindings_.SetOwnActs(std::move(own_act)); }
 
   // The line below the current tab about the last act. The next refresh shows it.
   void SetAlsoStored(const QString& words) { bindings_.SetAlsoStored(words, main_->Tabs().currentIndex()); }

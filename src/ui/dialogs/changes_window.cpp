@@ -1,54 +1,47 @@
 #include "ui/dialogs/changes_window.h"
 
+#include <QCheckBox>
 #include <QDialogButtonBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <array>
+#include <set>
 
-#include "changes/editors.h"
-#include "host/text_codec.h"
+#include "image/report.h"
+#include "ui/acts/changes_list.h"
 #include "ui/kit/mnemonics.h"
 #include "ui/kit/theme.h"
-#include "ui/pages/overview_list.h"
 
 namespace ovl::ui {
 namespace {
 
-constexpr QSize kStartSize(1100, 460);
-constexpr qsizetype kShownDigits = 16;
-constexpr int kWas = 3, kIs = 4;
-constexpr std::array kSections = {"SYSCFG", "SYSFIXED", "SYSSTR"};
+constexpr QSize kStartSize(900, 460);
 
-QString PlaceOf(const image::FieldDifference& difference) {
-  const auto section = static_cast<std::size_t>(difference.field->section);
-  return QStringLiteral("%1 %2").arg(QLatin1String(kSections.at(section))).arg(difference.byte);
+QString CountOf(std::size_t count, const QString& one) {
+  return QStringLiteral("%1 %2%3").arg(count).arg(one, count == 1 ? QString() : QStringLiteral("s"));
 }
 
-QString EditorsOf(const core::Application& app, const image::FieldDifference& difference) {
-  const auto words =
-      changes::EditedBy(app, difference.field->id, "options", difference.before, difference.after);
-  return words.empty() ? QStringLiteral("shown nowhere") : host::FromWindows1252(words);
+std::size_t FieldsIn(const std::vector<changes::SettingChange>& rows) {
+  std::set<std::string> fields;
+  for (const auto& row : rows) {
+    for (const auto& bytes : row.bytes) fields.insert(bytes.field);
+  }
+  return fields.size();
 }
 
-// Cuts a long value so that it begins with the first byte that differs.
-QString FromDifference(const QString& value, const QString& other) {
-  if (value.size() <= kShownDigits) return value;
-  qsizetype at = 0;
-  while (at < std::min(value.size(), other.size()) && value[at] == other[at]) ++at;
-  at -= at % 2;
-  return (at == 0 ? QString() : QString(QChar(0x2026))) + value.mid(at);
-}
-
-QString CountOf(std::size_t count) {
-  return count == 1 ? QStringLiteral("1 change") : QStringLiteral("%1 changes").arg(count);
+void ScrollTo(QWidget& widget) {
+  for (auto* around = widget.parentWidget(); around != nullptr; around = around->parentWidget()) {
+    if (auto* area = qobject_cast<QScrollArea*>(around)) area->ensureWidgetVisible(&widget);
+  }
 }
 
 }  // namespace
 
-ChangesWindow::ChangesWindow(const core::Application& app, QWidget* parent) : QDialog(parent), app_(app) {
+ChangesWindow::ChangesWindow(Bindings& bindings, QWidget* parent) : QDialog(parent), bindings_(bindings) {
   setObjectName(QStringLiteral("Changes"));
   setWindowTitle(QStringLiteral("Changes"));
   resize(kStartSize.boundedTo(screen()->availableSize()));
@@ -57,21 +50,29 @@ ChangesWindow::ChangesWindow(const core::Application& app, QWidget* parent) : QD
 void ChangesWindow::Build() {
   summary_ = MutedLabel({});
   summary_->setWordWrap(true);
-  list_ = new OverviewList({{QStringLiteral("Field"), QStringLiteral("DEVICE_INDEX_BAK")},
-                            {QStringLiteral("Byte"), QStringLiteral("SYSFIXED 112")},
-                            {QStringLiteral("Panel and label"), {}},
-                            {QStringLiteral("Was"), QString(kShownDigits + 3, QLatin1Char('0'))},
-                            {QStringLiteral("Is"), QString(kShownDigits + 3, QLatin1Char('0'))}});
+  list_ = new ChangesList;
   list_->setObjectName(QStringLiteral("ChangesList"));
-  list_->setAccessibleName(QStringLiteral("Changed fields"));
+  list_->setAccessibleName(QStringLiteral("Changed settings"));
+  list_->setAccessibleDescription(QStringLiteral("Enter goes to the control. Ctrl+C copies the rows."));
+  list_->opened = [this](const changes::SettingChange& row) { GoTo(row); };
+  auto* bytes = new QCheckBox(QStringLiteral("Show bytes"));
+  bytes->setObjectName(QStringLiteral("ChangesBytes"));
+  connect(bytes, &QCheckBox::toggled, list_, &ChangesList::ShowBytes);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+  for (auto* button : buttons->buttons()) static_cast<QPushButton*>(button)->setAutoDefault(false);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::close);
+  auto* below = new QHBoxLayout;
+  below->addWidget(bytes);
+  below->addWidget(MutedLabel(QStringLiteral("Enter goes to the setting. Ctrl+C copies rows.")));
+  below->addStretch(1);
+  below->addWidget(buttons);
+  below->setSpacing(kSectionGap);
   auto* down = new QVBoxLayout(this);
   down->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   down->setSpacing(kFieldGap);
   down->addWidget(summary_);
   down->addWidget(list_);
-  down->addWidget(buttons);
+  down->addLayout(below);
   AssignPageMnemonics(*this, {});
 }
 
@@ -86,32 +87,44 @@ void ChangesWindow::Open() {
 
 void ChangesWindow::Refresh() {
   if (!isVisible()) return;
-  const bool other_known = known_.Update(app_.known_image), other_image = image_.Update(app_.image);
-  if (other_known || other_image) Fill(image::Differences(app_.known_image, app_.image, app_.firmware));
+  const auto& app = bindings_.Model();
+  const bool other_known = known_.Update(app.known_image), other_image = image_.Update(app.image);
+  if (other_known || other_image) Fill(changes::ReadableChanges(app));
 }
 
-void ChangesWindow::Fill(const std::vector<image::FieldDifference>& differences) {
-  summary_->setText(
-      differences.empty()
-          ? QStringLiteral("A download would change nothing in a unit that holds the configuration "
-                           "last loaded or sent.")
-          : QStringLiteral("What a download would change in a unit that holds the configuration "
-                           "last loaded or sent: %1.")
-                .arg(CountOf(differences.size())));
-  std::vector<OverviewLine> lines;
-  for (const auto& difference : differences) {
-    const auto was = host::FromWindows1252(difference.before), is = host::FromWindows1252(difference.after);
-    const QStringList cells = {host::FromWindows1252(difference.name), PlaceOf(difference),
-                               EditorsOf(app_, difference), FromDifference(was, is), FromDifference(is, was)};
-    lines.push_back({cells, true});
+void ChangesWindow::Fill(std::vector<changes::SettingChange> rows) {
+  const auto unit = QStringLiteral("in a unit that holds the configuration last loaded or sent");
+  summary_->setText(rows.empty() ? QStringLiteral("A download would change nothing %1.").arg(unit)
+                                 : QStringLiteral("What a download would change %1: %2 in %3.")
+                                       .arg(unit, CountOf(rows.size(), QStringLiteral("setting")),
+                                            CountOf(FieldsIn(rows), QStringLiteral("field"))));
+  list_->Show(std::move(rows));
+}
+
+// The widget of a control; of an option array, that of the chosen option.
+QWidget* ChangesWindow::WidgetFor(const std::string& control) const {
+  const auto* named = bindings_.Model().registry.Find(control);
+  if (named == nullptr) return nullptr;
+  if (auto* const* array = std::get_if<controls::OptionArray*>(&named->control)) {
+    const int chosen = std::max((*array)->chosen, 0);
+    return bindings_.WidgetOf((*array)->elements.at(static_cast<std::size_t>(chosen)));
   }
-  list_->Show(lines);
-  for (int line = 0; line < list_->topLevelItemCount(); ++line) {
-    const auto& difference = differences[static_cast<std::size_t>(line)];
-    list_->topLevelItem(line)->setToolTip(kWas, host::FromWindows1252(difference.before));
-    list_->topLevelItem(line)->setToolTip(kIs, host::FromWindows1252(difference.after));
+  return bindings_.WidgetOf(controls::StateOf(named->control));
+}
+
+// While another window blocks the main one, nothing can be picked there.
+void ChangesWindow::GoTo(const changes::SettingChange& row) {
+  if (row.tab == changes::SettingChange::kNoTab || !bindings_.Model().frmMain.form.enabled) return;
+  if (open_tab) open_tab(row.tab);
+  const auto* named = bindings_.Model().registry.Find(row.list);
+  if (auto* const* list = named == nullptr ? nullptr : std::get_if<controls::List*>(&named->control)) {
+    if ((*list)->position != row.slot - 1) bindings_.Act(core::PickEvent{*list, row.slot - 1});
   }
-  if (!lines.empty()) list_->SetCursor(0);
+  parentWidget()->activateWindow();
+  auto* widget = WidgetFor(row.control);
+  if (widget == nullptr || !widget->isVisibleTo(parentWidget())) return;
+  widget->setFocus(Qt::ShortcutFocusReason);
+  ScrollTo(*widget);
 }
 
 QPushButton* BuildChangesButton(Bindings& bindings, ChangesWindow& window) {
@@ -127,7 +140,8 @@ QPushButton* BuildChangesButton(Bindings& bindings, ChangesWindow& window) {
     const bool other_known = known.Update(app.known_image), other_image = image.Update(app.image);
     if (!other_known && !other_image) return false;
     const auto count = image::Differences(app.known_image, app.image, app.firmware).size();
-    button->setText(CountOf(count) + QStringLiteral(" since the last load or download"));
+    button->setText(CountOf(count, QStringLiteral("change")) +
+                    QStringLiteral(" since the last load or download"));
     button->setAccessibleName(button->text());
     const bool comes_or_goes = button->isHidden() != (count == 0);
     button->setVisible(count != 0);

@@ -1,11 +1,13 @@
-// Shows what a download would change in the unit. It compares the image with the one that was last uploaded,
-// opened, loaded at the start or downloaded. It only reads.
+// Shows what a download would change in the unit, in the words of the form. It compares the image with the
+// one that was last uploaded, opened, loaded at the start or downloaded. It writes nothing; a row leads to
+// the control of its setting.
 #pragma once
 
 #include <QDialog>
+#include <functional>
 #include <vector>
 
-#include "image/report.h"
+#include "changes/readable.h"
 #include "ui/kit/bindings.h"
 
 class QLabel;
@@ -13,11 +15,14 @@ class QPushButton;
 
 namespace ovl::ui {
 
-class OverviewList;
+class ChangesList;
 
 class ChangesWindow : public QDialog {
  public:
-  explicit ChangesWindow(const core::Application& app, QWidget* parent);
+  explicit ChangesWindow(Bindings& bindings, QWidget* parent);
+
+  // Opens a tab of the main window.
+  std::function<void(int tab)> open_tab;
 
   // Updates the list while the window is visible.
   void Refresh();
@@ -26,11 +31,13 @@ class ChangesWindow : public QDialog {
 
  private:
   void Build();
-  void Fill(const std::vector<image::FieldDifference>& differences);
+  void Fill(std::vector<changes::SettingChange> rows);
+  void GoTo(const changes::SettingChange& row);
+  QWidget* WidgetFor(const std::string& control) const;
 
-  const core::Application& app_;
+  Bindings& bindings_;
   QLabel* summary_ = nullptr;
-  OverviewList* list_ = nullptr;
+  ChangesList* list_ = nullptr;
   ChangeDetector<image::ConfigImage> known_, image_;
 };
 

@@ -27,6 +27,8 @@ class PickList;
 class ListBox;
 
 using ActFunction = std::function<core::Outcome(const core::Event&)>;
+using OwnActFunction =
+    std::function<core::Outcome(const std::string& name, const std::function<void()>& act)>;
 using HintFunction = std::function<void(const QString&)>;
 
 // Remembers the value that was last shown.
@@ -56,6 +58,12 @@ class Bindings {
 
   core::Application& Model() const { return app_; }
   core::Outcome Act(const core::Event& event) const { return act_(event); }
+
+  // Runs an act of our own inside the gate. It can be undone under its name.
+  core::Outcome RunOwn(const std::string& name, const std::function<void()>& act) const {
+    return own_act_(name, act);
+  }
+  void SetOwnActs(OwnActFunction own_act) { own_act_ = std::move(own_act); }
 
   // Throws std::logic_error when the form has no control of this name.
   const controls::NamedControl& Named(const controls::Form& form, std::string_view name) const;
@@ -121,6 +129,7 @@ class Bindings {
 
   core::Application& app_;
   ActFunction act_;
+  OwnActFunction own_act_;
   HintFunction hint_;
   QString also_stored_;
   int also_stored_tab_ = 0;

@@ -1,9 +1,11 @@
 #include "ui/pages/pages.h"
 
+#include <QPushButton>
 #include <QScrollArea>
 
 #include "host/text_codec.h"
 #include "image/slot_records.h"
+#include "ui/acts/copy_slot_window.h"
 #include "ui/pages/text_rows.h"
 
 namespace ovl::ui {
@@ -47,7 +49,8 @@ QWidget* AlarmOverview(Bindings& bindings) {
         {QStringLiteral("Normal"), QStringLiteral("NC")},
         {QStringLiteral("Text"), {}}},
        [&app] { return AlarmLines(app); },
-       [] { return QStringLiteral("EX. exceptions   NO normally open   NC normally closed"); }});
+       [] { return QStringLiteral("EX. exceptions   NO normally open   NC normally closed"); },
+       BuildCopySlotButton(bindings, acts::SlotKind::kAlarm)});
 }
 
 void AddEditor(PageColumn& column, const controls::MainForm& form) {

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QScrollArea>
 #include <algorithm>
 #include <array>
@@ -11,6 +12,7 @@
 #include "host/text_codec.h"
 #include "image/slot_records.h"
 #include "panels/exceptions/exceptions.h"
+#include "ui/acts/copy_slot_window.h"
 #include "ui/pages/text_rows.h"
 
 namespace ovl::ui {
@@ -89,7 +91,8 @@ QWidget* ExceptionOverview(Bindings& bindings) {
                          {QStringLiteral("Range"), widest},
                          {QStringLiteral("Acts"), QStringLiteral("D O H S")}},
                         [&app] { return ExceptionLines(app); },
-                        [&app] { return Legend(app); }});
+                        [&app] { return Legend(app); },
+                        BuildCopySlotButton(bindings, acts::SlotKind::kException)});
 }
 
 // The two values of the range, in the look of fields that cannot be edited.

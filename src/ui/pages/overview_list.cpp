@@ -193,6 +193,7 @@ QWidget* BuildOverview(Bindings& bindings, controls::List& list, Overview overvi
   legend->setWordWrap(true);
   below->addWidget(legend, 1);
   below->addWidget(use);
+  if (overview.button != nullptr) below->addWidget(overview.button);
   down->addWidget(table, 1);
   down->addLayout(below);
   BindTable(bindings, list, *table, *use, std::move(overview.lines));

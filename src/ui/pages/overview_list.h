@@ -58,6 +58,7 @@ struct Overview {
   std::vector<OverviewColumn> columns;
   std::function<std::vector<OverviewLine>()> lines;
   std::function<QString()> legend;
+  QWidget* button = nullptr;  // at the right of the legend; may be null
 };
 QWidget* BuildOverview(Bindings& bindings, controls::List& list, Overview overview);
 

@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "host/text_codec.h"
+#include "ui/acts/copy_slot_window.h"
 #include "ui/dialogs/changes_window.h"
 #include "ui/kit/box_layouts.h"
 #include "ui/pages/pages.h"
@@ -41,7 +42,7 @@ MainWindow::MainWindow(Bindings& bindings, OwnActs own_acts)
       own_acts_(std::move(own_acts)),
       tabs_(new QTabWidget),
       status_(new StatusStrip(bindings)),
-      changes_(new ChangesWindow(bindings.Model(), this)) {
+      changes_(new ChangesWindow(bindings, this)) {
   const auto& form = bindings_.Model().frmMain.form;
   setObjectName(host::FromWindows1252(form.name));
   setMinimumSize(kLeastSize);
@@ -51,6 +52,7 @@ MainWindow::MainWindow(Bindings& bindings, OwnActs own_acts)
   BindTitle();
   statusBar()->setSizeGripEnabled(false);
   statusBar()->addWidget(status_, 1);
+  changes_->open_tab = [this](int tab) { tabs_->setCurrentIndex(tab); };
   changes_button_ = BuildChangesButton(bindings, *changes_);
   changes_button_->setFixedHeight(StatusStrip::LineHeight(*changes_button_));
   status_->AddButton(changes_button_);
@@ -153,7 +155,9 @@ void MainWindow::BuildMenus() {
   keys(changes, QKeySequence(Qt::CTRL | Qt::Key_D));
   file->addSeparator();
   keys(bindings_.Item(*file, form.menuExit), QKeySequence(Qt::CTRL | Qt::Key_Q));
-  BuildEditMenu(*menuBar(), bindings_, own_acts_);
+  auto* edit = BuildEditMenu(*menuBar(), bindings_, own_acts_);
+  edit->addSeparator();
+  AddCopySlotItems(bindings_, *edit, *this);
   BuildVersionMenu();
   help_menu_ = bindings_.SubMenu(*menuBar(), form.HelpMenu);
 }

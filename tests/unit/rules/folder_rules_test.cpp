@@ -35,9 +35,10 @@ const std::map<std::string, Folders> kWindows = {
     {"ui/tips", {"ui/frames"}},
     {"ui/kit", {"ui/tips"}},
     {"ui/help", {"ui/kit"}},
-    {"ui/pages", {"ui/kit", "ui/frames"}},
-    {"ui/dialogs", {"ui/kit", "ui/pages"}},
-    {"ui/window", {"ui/kit", "ui/pages", "ui/dialogs"}},
+    {"ui/acts", {"ui/kit"}},
+    {"ui/pages", {"ui/kit", "ui/frames", "ui/acts"}},
+    {"ui/dialogs", {"ui/kit", "ui/pages", "ui/acts"}},
+    {"ui/window", {"ui/kit", "ui/acts", "ui/pages", "ui/dialogs"}},
     {"ui/app", {"ui/kit", "ui/help", "ui/pages", "ui/dialogs", "ui/window"}},
 };
 

@@ -288,6 +288,23 @@ TEST_F(Script, ComparesFilesFieldByField) {
   EXPECT_TRUE(RunStarted("diff " + first + " " + second).ends_with("exit 2"));
 }
 
+TEST_F(Script, PrintsChangesInWordsAndCopiesExceptionsAndAlarms) {
+  EXPECT_EQ(RunStarted("changes\n"), "no changes\n");
+  const auto printed = RunStarted(
+      "pick ComboExcp(0) 2\nclick cmdSetExcpstr\ntype Text1 \"A \\\"B\\\" \\xE4\"\nkey Text1 Enter\n"
+      "copy exception 3 5 6\nshow TextException\nchanges\n");
+  for (const auto* line : {"EXCEPTION REPORT: Exception 3, text: ", "EXCEPTION REPORT: Exception 5, text: ",
+                           "EXCEPTION REPORT: Exception 6, text: "}) {
+    EXPECT_NE(printed.find(line), std::string::npos) << printed;
+  }
+  EXPECT_NE(printed.find(" -> \"A \\\"B\\\" \\xE4\"\n"), std::string::npos) << printed;
+  EXPECT_EQ(RunStarted("click cmdConnect\ncopy alarm 1 2\n"), "refused copy\n");
+  for (const auto* wrong : {"copy exception 1 25", "copy alarm 1 17", "copy alarm 0 1", "copy alarm 1 5 4",
+                            "copy 1 2", "changes now"}) {
+    EXPECT_TRUE(RunStarted(wrong).ends_with("exit 2")) << wrong;
+  }
+}
+
 TEST_F(Script, WarnsOfTheEffectOfOpeningAFile) {
   const auto inspect = [&](const firmware::FirmwareId& firmware, int code) {
     ovl::testing::WriteFile(folder_.File("some.bin"), ovl::testing::PatternStream(firmware, 1, code));

@@ -4,7 +4,6 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTreeWidget>
 #include <QWheelEvent>
 #include <cmath>
 #include <map>
@@ -157,43 +156,6 @@ TEST_F(WindowsTest, TheVersionMenuMarksTheFirmwareAndAnotherPickEndsTheProgram) 
   EXPECT_EQ(boxes.size(), 1U);
   EXPECT_FALSE(Main().isVisible());
   EXPECT_EQ(program->Act(core::ClickEvent{&App().frmMain.cmdConnect}), core::Outcome::kEnded);
-}
-
-std::string Listed(Screen& screen) {
-  QStringList cells;
-  const auto& list = screen.Find<QTreeWidget>("ChangesList");
-  for (int line = 0; line < list.topLevelItemCount(); ++line) {
-    for (int at = 0; at < list.columnCount(); ++at) cells.append(list.topLevelItem(line)->text(at));
-  }
-  return cells.join('|').toStdString();
-}
-
-TEST_F(WindowsTest, ChangesAreListedWithFieldLabelAndOldAndNewBytes) {
-  auto& app = App();
-  const auto& button = Find<QPushButton>("StatusChanges");
-  EXPECT_FALSE(button.isVisible());
-  const auto other = [&](const controls::List& list) { return list.position == 0 ? 1 : 0; };
-  const auto& line = app.image[image::FieldId::COMMCFG_BAK];
-  const auto expected = "COMMCFG_BAK|SYSCFG 1|COMMUNICATION: PARITY|" + line + "|";
-  Pick("ComboCOMM(3)", other(app.frmMain.ComboCOMM[3]));
-  EXPECT_EQ(button.text(), "1 change since the last load or download");
-  Click("StatusChanges");
-  EXPECT_EQ(Listed(*this), expected + line);
-
-  app.image.at(image::FieldId::EXCPSTRS, 2).replace(0, 2, "55");
-  Show();
-  EXPECT_EQ(button.text(), "2 changes since the last load or download");
-  EXPECT_NE(Listed(*this).find("|EXCPSTRS(2)|SYSSTR "), std::string::npos);
-
-  link::StartDownload(app);
-  const auto sent = app.image;
-  Pick("ComboTD(2)", other(app.frmMain.ComboTD[2]));
-  link::FinishDownload(app);
-  Show();
-  EXPECT_EQ(button.text(), "1 change since the last load or download")
-      << "the unit holds what was sent, not what was picked meanwhile";
-  EXPECT_TRUE(app.known_image == sent);
-  EXPECT_EQ(Listed(*this).find("DATE_FORMAT_BAK|SYSFIXED "), 0U);
 }
 
 TEST_F(WindowsTest, ARefreshWithoutAChangeChangesNoWidget) {

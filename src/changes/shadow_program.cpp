@@ -1,0 +1,102 @@
+#include "changes/shadow_program.h"
+
+#include <stdexcept>
+
+#include "core/actions.h"
+#include "core/configuration.h"
+#include "firmware/variants.h"
+#include "panels/alarms.h"
+#include "panels/exceptions/exceptions.h"
+#include "panels/wiring.h"
+#include "registers/selection_driver.h"
+
+namespace ovl::changes {
+namespace {
+
+using controls::Alm;
+using controls::Excp;
+
+template <class Lists>
+void Forget(Lists& lists) {
+  for (auto& list : lists) list.position = -1;
+}
+
+struct WordsIn {
+  using Words = std::optional<std::string>;
+
+  Words operator()(controls::List* list) const { return list->position < 0 ? Words() : Words(list->Text()); }
+  Words operator()(controls::OptionArray* array) const {
+    if (array->chosen < 0) return std::nullopt;
+    const auto& caption = array->elements.at(static_cast<std::size_t>(array->chosen)).caption;
+    return caption.empty() ? Words() : Words(caption);
+  }
+  Words operator()(controls::TextBox* box) const { return box->text; }
+  Words operator()(controls::CheckBox* box) const { return box->checked ? "ON" : "OFF"; }
+  template <class Other>
+  Words operator()(const Other&) const {
+    return std::nullopt;
+  }
+};
+
+}  // namespace
+
+ShadowProgram::ShadowProgram(const core::Application& like, const image::ConfigImage& image) : image_(image) {
+  app_.firmware = like.firmware;
+  app_.Setting_Code = like.Setting_Code;
+  PrepareCapabilities(app_);
+  panels::WirePanels(app_);
+  registers::WireRegisters(app_);
+  app_.frmMain.ComboReg.items = like.frmMain.ComboReg.items;
+  app_.RegisterIndex = like.RegisterIndex;
+  firmware::ApplyFirmwareVariants(app_.frmMain, app_.firmware);
+  ApplyAll();
+}
+
+// The handlers of register options write into the image and move lists of other panels. Each routine
+// therefore starts with the image as it is, and the moved lists start without a selection.
+void ShadowProgram::ApplyAll() {
+  auto& form = app_.frmMain;
+  app_.UploadApplying = true;         // the register is shown, and its default image is not loaded
+  app_.LinkMode = core::kLinkUpload;  // the window of MICROS stays closed
+  for (const auto& routine : app_.Setting_Code) {
+    app_.image = image_;
+    routine.run(app_);
+    if (routine.run != registers::ApplyRegisterSelection) continue;
+    Forget(form.ComboCOMM);
+    Forget(form.ComboDIP);
+    Forget(form.ComboTD);
+    Forget(form.ComboExcepRe);
+  }
+  app_.image = image_;
+  LoadForm(app_, app_.frmSetRange.form);  // shows the separator
+}
+
+void ShadowProgram::ShowException(int number) {
+  auto& lists = app_.frmMain.ComboExcp;
+  app_.image = image_;
+  Forget(lists);
+  lists[Excp::kNumber].position = number - 1;
+  panels::LoadExceptionSlot(app_, number);
+}
+
+void ShadowProgram::ShowAlarm(int number) {
+  auto& lists = app_.frmMain.ComboALM;
+  app_.image = image_;
+  for (const auto member : {Alm::kTrigger, Alm::kNormalState, Alm::kDuration, Alm::kVideoLoss, Alm::kType})
+    lists.at(member).position = -1;
+  Forget(app_.frmMain.ComboTrigger);
+  lists[Alm::kNumber].position = number - 1;
+  panels::LoadAlarm(app_, number);
+}
+
+const controls::NamedControl& ShadowProgram::Named(std::string_view name) const {
+  const auto* named = app_.registry.Find(name);
+  if (named == nullptr) throw std::logic_error("there is no control " + std::string(name));
+  return *named;
+}
+
+std::optional<std::string> ShadowProgram::WordsOf(std::string_view name) const {
+  return std::visit(WordsIn{}, Named(name).control);
+}
+
+}  // namespace ovl::changes

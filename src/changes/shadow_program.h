@@ -1,0 +1,39 @@
+// A second program without a screen that shows another image. It finds the words for stored bytes: the panels
+// themselves select the entries, so that no rule of theirs is written twice.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/application.h"
+
+namespace ovl::changes {
+
+class ShadowProgram {
+ public:
+  // Shows the image on the panels and on the options of its register, as the program `like` would after a
+  // load. It asks nothing of the platform and changes nothing in `like`.
+  ShadowProgram(const core::Application& like, const image::ConfigImage& image);
+
+  // Shows one exception, 1 to 24, or one alarm, 1 to 16, on its panel.
+  void ShowException(int number);
+  void ShowAlarm(int number);
+
+  const core::Application& Form() const { return app_; }
+
+  // The control of this program.
+  const controls::NamedControl& Named(std::string_view name) const;
+
+  // What the control shows: the entry of a list, the caption of the chosen option, a text, ON or OFF. Nothing
+  // if the list has no entry for the stored byte.
+  std::optional<std::string> WordsOf(std::string_view name) const;
+
+ private:
+  void ApplyAll();
+
+  core::Application app_;
+  image::ConfigImage image_;
+};
+
+}  // namespace ovl::changes

@@ -1,0 +1,195 @@
+// The windows of our own acts: the changes, and copies of exceptions and alarms.
+#include <QCheckBox>
+#include <QClipboard>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTreeWidget>
+
+#include "acts/copy_slot.h"
+#include "changes/option_controls.h"
+#include "link/transfer.h"
+#include "screen.h"
+#include "ui/frames/register_frames.h"
+
+namespace ovl::testing {
+namespace {
+
+class ChangesTest : public ScreenTest {
+ protected:
+  QTreeWidget& List() { return Find<QTreeWidget>("ChangesList"); }
+
+  // "TAB|SETTING: BEFORE -> NOW|..."
+  std::string Listed() {
+    QStringList lines;
+    for (int group = 0; group < List().topLevelItemCount(); ++group) {
+      const auto* tab = List().topLevelItem(group);
+      lines.append(tab->text(0));
+      for (int row = 0; row < tab->childCount(); ++row) {
+        const auto* item = tab->child(row);
+        lines.append(item->text(0) + ": " + item->text(1) + " -> " + item->text(2));
+      }
+    }
+    return lines.join('|').toStdString();
+  }
+
+  void OpenRow(int group, int row) {
+    List().setCurrentItem(List().topLevelItem(group)->child(row));
+    Press(List(), Qt::Key_Return);
+    Show();
+  }
+};
+
+TEST_F(ChangesTest, AreGroupedByTabAndFollowPicksAndDownloads) {
+  auto& app = App();
+  const auto& button = Find<QPushButton>("StatusChanges");
+  EXPECT_FALSE(button.isVisible());
+  const auto pick_other = [&](const std::string& name, const controls::List& list) {
+    const auto before = list.Text();
+    Pick(name, list.position == 0 ? 1 : 0);
+    return before + " -> " + list.Text();
+  };
+  const auto parity = "COMMUNICATION|PARITY: " + pick_other("ComboCOMM(3)", app.frmMain.ComboCOMM[3]);
+  EXPECT_EQ(button.text(), "1 change since the last load or download");
+  Click("StatusChanges");
+  EXPECT_EQ(Listed(), parity);
+  const auto format = "|TIME / LANGUAGE|DATE FORMAT: " + pick_other("ComboTD(2)", app.frmMain.ComboTD[2]);
+  EXPECT_EQ(Listed(), parity + format);
+
+  link::StartDownload(app);
+  const auto sent = app.image;
+  const auto language = "TIME / LANGUAGE|LANGUAGE: " + pick_other("ComboLang", app.frmMain.ComboLang);
+  link::FinishDownload(app);
+  Show();
+  EXPECT_EQ(Listed(), language) << "the unit holds what was sent, not what was picked meanwhile";
+  EXPECT_TRUE(app.known_image == sent);
+}
+
+TEST_F(ChangesTest, LeadToTheControlAndPickItsExceptionOrAlarm) {
+  auto& app = App();
+  app.image.at(image::FieldId::EXCPSTRS, 7).replace(0, 2, "10");
+  app.image.at(image::FieldId::EXCPSTRS, 7).replace(2, 2, "FF");
+  app.image.at(image::FieldId::ALMSTRUCT_BAK, 4).replace(0, 2, "1C");
+  Pick("ComboCOMM(3)", app.frmMain.ComboCOMM[3].position == 0 ? 1 : 0);
+  Click("StatusChanges");
+  ASSERT_EQ(List().topLevelItemCount(), 3) << Listed();
+  struct Row {
+    int group, tab;
+    const char* focus;
+  };
+  for (const auto& [group, tab, focus] :
+       {Row{0, kAlarmTab, "ComboALM(1)"}, Row{1, kLineTab, "ComboCOMM(3)"}}) {
+    OpenRow(group, 0);
+    EXPECT_EQ(Main().Tabs().currentIndex(), tab);
+    EXPECT_EQ(Main().focusWidget()->objectName(), focus);
+  }
+  EXPECT_EQ(app.frmMain.ComboALM[0].position, 3);
+  const auto* exceptions = List().topLevelItem(2);
+  for (int row = 0; row < exceptions->childCount(); ++row) {
+    if (exceptions->child(row)->text(0) == "Exception 7, RANGE") OpenRow(2, row);
+  }
+  EXPECT_EQ(app.frmMain.ComboExcp[0].position, 6);
+  EXPECT_EQ(Main().focusWidget()->objectName(), "cmdSetRange");
+
+  app.frmMain.form.enabled = false;
+  OpenRow(1, 0);
+  EXPECT_EQ(Main().Tabs().currentIndex(), kExceptionTab) << "another window blocks the main window";
+}
+
+TEST_F(ChangesTest, CopyWholeRowsWithTheBytesThatAreShown) {
+  auto& app = App();
+  Pick("ComboCOMM(3)", app.frmMain.ComboCOMM[3].position == 0 ? 1 : 0);
+  app.image[image::FieldId::EXECENTRY] = app.known_image[image::FieldId::EXECENTRY] == "01" ? "02" : "01";
+  Show();
+  Click("StatusChanges");
+  const auto copied = [&] {
+    List().selectAll();
+    QKeyEvent copy(QEvent::KeyPress, Qt::Key_C, Qt::ControlModifier);
+    QCoreApplication::sendEvent(&List(), &copy);
+    return QGuiApplication::clipboard()->text();
+  };
+  const auto lines = copied().split('\n', Qt::SkipEmptyParts);
+  ASSERT_EQ(lines.size(), 2);
+  EXPECT_TRUE(lines[0].startsWith("COMMUNICATION\tPARITY\t")) << lines[0].toStdString();
+  EXPECT_EQ(lines[0].count('\t'), 3);
+  EXPECT_TRUE(List().isColumnHidden(3));
+  Find<QCheckBox>("ChangesBytes").click();
+  const auto with_bytes = copied().split('\n').value(0).split('\t');
+  ASSERT_EQ(with_bytes.size(), 7);
+  EXPECT_EQ(with_bytes[4], "COMMCFG_BAK, SYSCFG 1");
+  EXPECT_EQ(with_bytes[6].toStdString(), app.image[image::FieldId::COMMCFG_BAK]);
+}
+
+// The labels of the options are those of the page.
+TEST(ChangesLabels, AreThoseOfTheOptionFrames) {
+  for (const auto& option : changes::OptionControls()) {
+    if (option.frame == controls::OptionFrame::kNone || option.label.empty()) continue;
+    const auto rows = ui::RowsOfFrame(static_cast<int>(option.frame));
+    const auto row =
+        std::find_if(rows.begin(), rows.end(), [&](const auto& at) { return at.control == option.name; });
+    ASSERT_NE(row, rows.end()) << option.name;
+    const bool digit = option.label.find(" digit") != std::string_view::npos;
+    if (row->words == "Label84") continue;
+    EXPECT_TRUE(digit ? option.label.starts_with(row->words) : option.label == row->words) << option.name;
+  }
+}
+
+class CopySlotTest : public ScreenTest {
+ protected:
+  QDialog& OpenWindow(const std::string& button, const std::string& name) {
+    Click(button);
+    auto& window = Find<QDialog>(name);
+    EXPECT_TRUE(window.isVisible());
+    ExpectRoom(window);
+    return window;
+  }
+};
+
+TEST_F(CopySlotTest, SaysWhatItOverwritesAndShowsTheCopy) {
+  auto& app = App();
+  Main().Tabs().setCurrentIndex(kExceptionTab);
+  const auto slot = app.image.at(image::FieldId::EXCPSTRS, 2);
+  Pick("ComboExcp(0)", 1);
+  auto& window = OpenWindow("CopyExceptionTo", "CopyException");
+  auto& first = *window.findChild<QSpinBox*>("CopyFirst");
+  auto& last = *window.findChild<QSpinBox*>("CopyLast");
+  auto& effect = *window.findChild<QLabel*>("CopyEffect");
+  auto& copy = *window.findChild<QPushButton*>("CopyNow");
+  EXPECT_EQ(first.value(), 3);
+  EXPECT_EQ(last.value(), 3);
+  first.setValue(2);
+  last.setValue(2);
+  EXPECT_FALSE(copy.isEnabled()) << effect.text().toStdString();
+  last.setValue(4);
+  EXPECT_EQ(effect.text().toStdString(),
+            acts::OverwriteWarning(app, {acts::SlotKind::kException, 2, 2, 4}).empty()
+                ? "No exception in use is overwritten."
+                : acts::OverwriteWarning(app, {acts::SlotKind::kException, 2, 2, 4}));
+  copy.click();
+  Show();
+  EXPECT_EQ(app.image.at(image::FieldId::EXCPSTRS, 3), slot);
+  EXPECT_EQ(app.image.at(image::FieldId::EXCPSTRS, 4), slot);
+  EXPECT_TRUE(Main().windowTitle().endsWith('*')) << Main().windowTitle().toStdString();
+  program->Undo();
+  EXPECT_FALSE(app.image.at(image::FieldId::EXCPSTRS, 3) == slot);
+  program->Redo();
+  Show();
+  const auto& overview = Find<QTreeWidget>("ExceptionOverview");
+  EXPECT_EQ(overview.topLevelItem(2)->text(1), overview.topLevelItem(1)->text(1));
+}
+
+TEST_F(CopySlotTest, IsClosedByEscapeWithoutACopy) {
+  Main().Tabs().setCurrentIndex(kAlarmTab);
+  const auto before = App().image;
+  auto& window = OpenWindow("CopyAlarmTo", "CopyAlarm");
+  Press(window, Qt::Key_Escape);
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_TRUE(App().image == before);
+  App().frmMain.form.enabled = false;
+  Show();
+  Find<QAbstractButton>("CopyAlarmTo").click();
+  for (const auto* opened : Main().findChildren<QDialog*>("CopyAlarm"))
+    EXPECT_FALSE(opened->isVisible()) << "another window blocks the main window";
+}
+
+}  // namespace
+}  // namespace ovl::testing
