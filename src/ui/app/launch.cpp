@@ -1,11 +1,29 @@
 #include "ui/app/launch.h"
 
+#include <QFile>
 #include <QGuiApplication>
+#include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <iostream>
 
+#include "host/files.h"
+
 namespace ovl::ui {
 namespace {
+
+// The words of the file that keeps the choice.
+struct ThemeWord {
+  Theme theme;
+  const char* text;
+};
+constexpr std::array kThemeWords = {ThemeWord{Theme::kDesktop, "theme=system"},
+                                    ThemeWord{Theme::kLight, "theme=light"},
+                                    ThemeWord{Theme::kDark, "theme=dark"}};
+
+QString ThemeFile(const QString& program_folder) {
+  return program_folder + QStringLiteral("/window.ini");
+}
 
 void ReportNoDisplay(QtMsgType type, const QMessageLogContext&, const QString& text) {
   if (type != QtFatalMsg) {
@@ -66,6 +84,26 @@ DisplayMessage::DisplayMessage() {
 
 DisplayMessage::~DisplayMessage() {
   qInstallMessageHandler(nullptr);
+}
+
+Theme ChosenTheme(const QString& program_folder) {
+  QFile file(ThemeFile(program_folder));
+  const auto text = file.open(QIODevice::ReadOnly) ? file.readAll().trimmed() : QByteArray();
+  const auto found = std::find_if(kThemeWords.begin(), kThemeWords.end(),
+                                  [&](const ThemeWord& word) { return text == word.text; });
+  return found == kThemeWords.end() ? Theme::kDesktop : found->theme;
+}
+
+core::Result KeepTheme(const QString& program_folder, Theme theme) {
+  const auto word = std::find_if(kThemeWords.begin(), kThemeWords.end(),
+                                 [theme](const ThemeWord& at) { return at.theme == theme; });
+  try {
+    host::ReplaceFile(QFile::encodeName(ThemeFile(program_folder)).toStdString(),
+                      std::string(word->text) + "\n", host::Flush::kNo);
+  } catch (const core::Failure& failure) {
+    return failure;
+  }
+  return {};
 }
 
 void NameApplication() {

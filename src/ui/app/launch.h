@@ -1,10 +1,13 @@
-// What every program with windows does before it opens its first window: it reads the command line, and it
-// prints a message when there is no display.
+// What every program with windows does before it opens its first window: it reads the command line and the
+// theme that the user has chosen, and it prints a message when there is no display.
 #pragma once
 
 #include <QCommandLineParser>
 #include <QString>
 #include <optional>
+
+#include "core/failure.h"
+#include "ui/kit/theme.h"
 
 namespace ovl::ui {
 
@@ -45,6 +48,10 @@ class DisplayMessage {
   DisplayMessage(const DisplayMessage&) = delete;
   DisplayMessage& operator=(const DisplayMessage&) = delete;
 };
+
+// The theme that the user has chosen in this program folder; that of the desktop before a first choice.
+Theme ChosenTheme(const QString& program_folder);
+core::Result KeepTheme(const QString& program_folder, Theme theme);
 
 // Sets the names that Qt uses for the desktop and for folders.
 void NameApplication();

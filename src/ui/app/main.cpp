@@ -57,6 +57,7 @@ int main(int argc, char** argv) {
   if (const auto guide = command_line.Value(guide_option); !guide.isEmpty()) return SaveGuide(guide);
   const auto folder = FindFolder(command_line.Folder());
   if (!folder) return EXIT_FAILURE;
+  ovl::ui::ApplyTheme(ovl::ui::ChosenTheme(*folder));
   ovl::ui::Program program(*folder, command_line.Store());
   if (program.Start() == ovl::core::Outcome::kEnded) return EXIT_FAILURE;
   program.GuardUnsaved();

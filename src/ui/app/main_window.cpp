@@ -1,6 +1,9 @@
 #include "ui/app/main_window.h"
 
+#include <QActionGroup>
+#include <QApplication>
 #include <QCloseEvent>
+#include <QFile>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
@@ -8,20 +11,46 @@
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "host/text_codec.h"
+#include "ui/app/launch.h"
 #include "ui/app/status_strip.h"
 #include "ui/dialogs/changes_window.h"
 #include "ui/kit/box_layouts.h"
+#include "ui/kit/theme.h"
 #include "ui/pages/pages.h"
 
 namespace ovl::ui {
 namespace {
 
-constexpr QSize kLeastSize(640, 360);  // smaller pages scroll
+constexpr Em kStartWidth(86.67), kStartHeight(58.33);
+constexpr Em kLeastWidth(40), kLeastHeight(24);  // smaller pages scroll
+constexpr Em kFrameHeight(3);                    // of the title that a window manager adds
+
+// What the screen has for a window without its frame.
+QSize RoomOn(const QScreen& screen) {
+  return screen.availableSize() - QSize(0, kFrameHeight);
+}
+
+struct ThemeItem {
+  Theme theme;
+  const char* text;
+  const char* name;
+};
+constexpr std::array kThemes = {ThemeItem{Theme::kLight, "Light", "menuLight"},
+                                ThemeItem{Theme::kDark, "Dark", "menuDark"},
+                                ThemeItem{Theme::kDesktop, "As the system", "menuAsSystem"}};
+
+QIcon ProgramIcon() {
+  QIcon icon;
+  for (const int size : {16, 32, 48, 128}) icon.addFile(QStringLiteral(":/icons/%1.png").arg(size));
+  return icon;
+}
 
 // Sets the focus to the first usable widget from here on: the widget that had the focus may be hidden now.
 void FocusFirstUsable(QWidget& start) {
@@ -41,10 +70,14 @@ MainWindow::MainWindow(Bindings& bindings)
       status_(new StatusStrip(bindings)),
       changes_(new ChangesWindow(bindings.Model(), this)) {
   const auto& form = bindings_.Model().frmMain.form;
+  bindings_.OnRefresh([this] {
+    focus_before_ = focusWidget();
+    return false;
+  });
   setObjectName(host::FromWindows1252(form.name));
   setWindowTitle(host::FromWindows1252(form.caption));
-  setMinimumSize(kLeastSize);
-  resize(kStartSize.boundedTo(screen()->availableSize()));
+  setMinimumSize(QSize(kLeastWidth, kLeastHeight).boundedTo(RoomOn(*screen())));
+  resize(StartSize().boundedTo(RoomOn(*screen())));
   BuildTabs();
   BuildMenus();
   statusBar()->setSizeGripEnabled(false);
@@ -52,6 +85,10 @@ MainWindow::MainWindow(Bindings& bindings)
   changes_button_ = BuildChangesButton(bindings, *changes_);
   changes_button_->setFixedHeight(StatusStrip::LineHeight(*changes_button_));
   status_->AddButton(changes_button_);
+}
+
+QSize MainWindow::StartSize() {
+  return {kStartWidth, kStartHeight};
 }
 
 void MainWindow::BuildTabs() {
@@ -131,8 +168,37 @@ void MainWindow::BuildMenus() {
   keys(changes, QKeySequence(Qt::CTRL | Qt::Key_D));
   file->addSeparator();
   keys(bindings_.Item(*file, form.menuExit), QKeySequence(Qt::CTRL | Qt::Key_Q));
+  BuildViewMenu();
   BuildVersionMenu();
   help_menu_ = bindings_.SubMenu(*menuBar(), form.HelpMenu);
+}
+
+void MainWindow::BuildViewMenu() {
+  auto* view = menuBar()->addMenu(QStringLiteral("View"));
+  view->setObjectName(QStringLiteral("ViewMenu"));
+  auto* themes = new QActionGroup(view);
+  for (const auto& item : kThemes) {
+    auto* action = view->addAction(QString::fromLatin1(item.text));
+    action->setObjectName(QString::fromLatin1(item.name));
+    action->setCheckable(true);
+    themes->addAction(action);
+    connect(action, &QAction::triggered, this, [this, theme = item.theme] { ChooseTheme(theme); });
+    connect(view, &QMenu::aboutToShow, action, [this, action, theme = item.theme] {
+      action->setChecked(ChosenTheme(ProgramFolder()) == theme);
+    });
+  }
+}
+
+QString MainWindow::ProgramFolder() const {
+  return QFile::decodeName(bindings_.Model().platform.program_folder.c_str());
+}
+
+// Switches at once and keeps the choice for the next start.
+void MainWindow::ChooseTheme(Theme theme) {
+  ApplyTheme(theme);
+  const auto kept = KeepTheme(ProgramFolder(), theme);
+  if (!kept.Ok())
+    status_->ShowHint(QStringLiteral("The choice is not kept. ") + host::FromSystem(kept.Problem().Text()));
 }
 
 void MainWindow::BuildVersionMenu() {
@@ -168,7 +234,7 @@ bool MainWindow::ShowAsModelSays() {
 void MainWindow::EnableAsModelSays() {
   const auto& form = bindings_.Model().frmMain.form;
   if (!enabled_.Update(form.enabled)) return;
-  if (!form.enabled) last_focus_ = focusWidget();
+  if (!form.enabled) last_focus_ = focus_before_;
   // The window itself stays enabled: otherwise its child windows would be disabled too.
   menuBar()->setEnabled(form.enabled);
   tabs_->setEnabled(form.enabled);
@@ -183,7 +249,10 @@ void MainWindow::RenewMnemonics() {
 
 void MainWindow::paintEvent(QPaintEvent* event) {
   QMainWindow::paintEvent(event);
-  if (first_painted) std::exchange(first_painted, nullptr)();
+  if (!first_painted) return;
+  std::exchange(first_painted, nullptr)();
+  // The window is on the screen before its icon is read.
+  QTimer::singleShot(0, this, [] { QApplication::setWindowIcon(ProgramIcon()); });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -7,6 +7,7 @@
 
 #include "ui/kit/bindings.h"
 #include "ui/kit/mnemonics.h"
+#include "ui/kit/theme.h"
 
 class QPushButton;
 class QTabWidget;
@@ -19,7 +20,7 @@ class StatusStrip;
 class MainWindow : public QMainWindow {
  public:
   // The size on a screen that has room for it.
-  static constexpr QSize kStartSize{1040, 700};
+  static QSize StartSize();
 
   explicit MainWindow(Bindings& bindings);
 
@@ -56,7 +57,10 @@ class MainWindow : public QMainWindow {
   bool BuildPage(int tab);
   void BindTabs();
   void BuildMenus();
+  void BuildViewMenu();
   void BuildVersionMenu();
+  QString ProgramFolder() const;
+  void ChooseTheme(Theme theme);
   void EnableAsModelSays();
 
   Bindings& bindings_;
@@ -65,7 +69,8 @@ class MainWindow : public QMainWindow {
   ChangesWindow* changes_;
   QPushButton* changes_button_ = nullptr;
   QMenu* help_menu_ = nullptr;
-  QPointer<QWidget> last_focus_;
+  QPointer<QWidget> focus_before_;  // this refresh, which may hide or disable its widget
+  QPointer<QWidget> last_focus_;    // before another window blocked this one
   ChangeDetector<bool> enabled_;
   Letters menu_letters_;
 };
