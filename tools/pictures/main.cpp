@@ -8,6 +8,7 @@
 #include "host/program_folder.h"
 #include "pictures/pictures.h"
 #include "ui/app/launch.h"
+#include "ui/app/main_window.h"
 #include "ui/help/guide.h"
 #include "ui/help/help_pages.h"
 
@@ -31,6 +32,9 @@ int main(int argc, char** argv) {
   command_line.AddArgument(QStringLiteral("FOLDER"), QStringLiteral("where the pictures go"));
   command_line.AddOption(guide_option, QStringLiteral("FILE"),
                          QStringLiteral("writes the installer's guide with the pictures as a PDF"));
+  const auto size_option = QStringLiteral("size");
+  command_line.AddOption(size_option, QStringLiteral("WIDTHxHEIGHT"),
+                         QStringLiteral("the size of the main window, instead of that at the start"));
   if (const auto status = command_line.Read(argc, argv)) return *status;
   // With the offscreen platform the pictures are the same on every machine.
   qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -40,7 +44,10 @@ int main(int argc, char** argv) {
   const auto pictures = command_line.Argument();
   try {
     const auto folder = ovl::host::ProgramFolder(command_line.Folder());
-    const auto saved = ovl::pictures::SavePictures(folder, command_line.Store(), pictures);
+    const auto given = command_line.Value(size_option).split(QLatin1Char('x'));
+    const QSize size(given.value(0).toInt(), given.value(1).toInt());
+    const auto saved = ovl::pictures::SavePictures(folder, command_line.Store(), pictures,
+                                                   size.isEmpty() ? ovl::ui::MainWindow::StartSize() : size);
     if (!saved.Ok()) return Fail("the pictures", saved.Problem());
   } catch (const ovl::core::Failure& failure) {
     return Fail("the program's folder", failure);

@@ -76,8 +76,8 @@ class Photographer {
   // The last picture that could not be written.
   const core::Result& Saved() const { return saved_; }
 
-  void TakeAll() {
-    Main().resize(ui::MainWindow::kStartSize);
+  void TakeAll(QSize size) {
+    Main().resize(size);
     for (int tick = 0; tick <= kClockTicks; ++tick) program_.Act(core::TickEvent{&App().frmMain.Timer});
     MakeSampleSettings(program_);
     TakeTabs();
@@ -331,7 +331,8 @@ class Photographer {
 
 // Each theme gets a program of its own, so that the state of the link in the first one does not show in the
 // second.
-core::Result SaveTheme(const QString& program_folder, const QString& store, const QString& folder) {
+core::Result SaveTheme(const QString& program_folder, const QString& store, const QString& folder,
+                       QSize size) {
   ui::Program program(program_folder, store);
   auto& platform = program.Model().platform;
   platform.ask_file = [](const core::FileDialog&) { return std::optional<core::FileAnswer>(); };
@@ -342,13 +343,14 @@ core::Result SaveTheme(const QString& program_folder, const QString& store, cons
   if (program.Start() == core::Outcome::kEnded) return host::FailureOf(program_folder, why);
   platform.show_message = [](const core::MessageBox&) {};
   Photographer photographer(program, port, QDir(folder));
-  photographer.TakeAll();
+  photographer.TakeAll(size);
   return photographer.Saved();
 }
 
 }  // namespace
 
-core::Result SavePictures(const QString& program_folder, const QString& store, const QString& folder) {
+core::Result SavePictures(const QString& program_folder, const QString& store, const QString& folder,
+                          QSize size) {
   for (const auto& [theme, name] :
        {std::pair(ui::Theme::kLight, "light"), std::pair(ui::Theme::kDark, "dark")}) {
     const auto below = QDir(folder).filePath(QString::fromLatin1(name));
@@ -356,7 +358,7 @@ core::Result SavePictures(const QString& program_folder, const QString& store, c
     std::filesystem::create_directories(QFile::encodeName(below).toStdString(), error);
     if (error) return core::Failure(QFile::encodeName(below).toStdString(), error.message());
     ui::ApplyTheme(theme);
-    auto saved = SaveTheme(program_folder, store, below);
+    auto saved = SaveTheme(program_folder, store, below, size);
     if (!saved.Ok()) return saved;
   }
   return {};

@@ -44,8 +44,9 @@ void HelpDesk::OpenPageInFront() {
     window_ = new HelpWindow(pages_, parent);
     window_->setAttribute(Qt::WA_DeleteOnClose);
   }
-  window_->Open(page);
+  // The page needs its width to know where a heading is.
   window_->show();
+  window_->Open(page);
   window_->raise();
   window_->activateWindow();
 }

@@ -1,10 +1,13 @@
-// What every program with windows does before it opens its first window: it reads the command line, and it
-// prints a message when there is no display.
+// What every program with windows does before it opens its first window: it reads the command line and the
+// theme that the user has chosen, and it prints a message when there is no display.
 #pragma once
 
 #include <QCommandLineParser>
 #include <QString>
 #include <optional>
+
+#include "core/failure.h"
+#include "ui/kit/theme.h"
 
 namespace ovl::ui {
 

@@ -12,6 +12,7 @@
 #include "ui/help/guide.h"
 #include "ui/help/help_pages.h"
 #include "ui/kit/theme.h"
+#include "ui/window/view_menu.h"
 
 namespace {
 
@@ -57,6 +58,7 @@ int main(int argc, char** argv) {
   if (const auto guide = command_line.Value(guide_option); !guide.isEmpty()) return SaveGuide(guide);
   const auto folder = FindFolder(command_line.Folder());
   if (!folder) return EXIT_FAILURE;
+  ovl::ui::ApplyTheme(ovl::ui::ChosenTheme(*folder));
   ovl::ui::Program program(*folder, command_line.Store());
   if (program.Start() == ovl::core::Outcome::kEnded) return EXIT_FAILURE;
   program.GuardUnsaved();

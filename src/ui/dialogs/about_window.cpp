@@ -10,7 +10,7 @@
 namespace ovl::ui {
 namespace {
 
-constexpr int kLeastWidth = 320;
+constexpr Em kLeastWidth(26.67);
 
 }  // namespace
 

@@ -1,6 +1,7 @@
 #include "ui/dialogs/form_window.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
@@ -12,12 +13,13 @@
 #include "host/text_codec.h"
 #include "ui/kit/layout.h"
 #include "ui/kit/mnemonics.h"
+#include "ui/kit/theme.h"
 
 namespace ovl::ui {
 namespace {
 
-constexpr int kGapToParent = 8;
-constexpr int kFromTop = 96;
+constexpr Em kGapToParent(0.67);
+constexpr Em kFromTop(8);
 
 }  // namespace
 
@@ -50,15 +52,40 @@ void FormWindow::Open() {
   setWindowFlag(Qt::WindowStaysOnTopHint, form_.top_most);
   for (auto* button : findChildren<QPushButton*>()) button->installEventFilter(this);
   // The window may take the whole of a small screen; if it needs more, its content scrolls.
-  const auto room = screen()->availableSize();
+  const auto room = RoomOnScreen();
   if (!scrolled_ && minimumSizeHint().boundedTo(room) != minimumSizeHint()) Scroll();
   resize(sizeHint().boundedTo(room));
   if (opens_beside_) PlaceBeside();
   AssignPageMnemonics(*this, {});
   show();
+  KeepOnScreen();
+  for (auto* each : QGuiApplication::screens()) {
+    connect(each, &QScreen::availableGeometryChanged, this, &FormWindow::KeepOnScreen, Qt::UniqueConnection);
+  }
   raise();
   activateWindow();
   if (focusWidget() == nullptr) focusNextChild();
+}
+
+// The room that the screen has for a window without its frame.
+QSize FormWindow::RoomOnScreen() const {
+  return screen()->availableSize() - (frameGeometry().size() - size());
+}
+
+// Moves the window back when it reaches beyond the screen: it may have grown, or the screen may have changed.
+void FormWindow::KeepOnScreen() {
+  if (!isVisible()) return;
+  resize(size().boundedTo(RoomOnScreen()));
+  const auto room = screen()->availableGeometry();
+  const auto frame = frameGeometry();
+  const int left = std::max(std::min(frame.left(), room.right() + 1 - frame.width()), room.left());
+  const int top = std::max(std::min(frame.top(), room.bottom() + 1 - frame.height()), room.top());
+  if (QPoint(left, top) != frame.topLeft()) move(left, top);
+}
+
+void FormWindow::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  KeepOnScreen();
 }
 
 void FormWindow::Scroll() {
@@ -70,7 +97,7 @@ void FormWindow::Scroll() {
   around->setContentsMargins(0, 0, 0, 0);
   auto* area = Scrolled(content);
   const int bar = area->verticalScrollBar()->sizeHint().width();
-  area->setMinimumWidth(std::min(size.width() + bar, screen()->availableSize().width()));
+  area->setMinimumWidth(std::min(size.width() + bar, RoomOnScreen().width()));
   around->addWidget(area);
 }
 

@@ -19,8 +19,8 @@ namespace ovl::ui {
 namespace {
 
 constexpr int kBaudColumns = 2;
-constexpr int kDialogWidth = 400;
-constexpr int kSmallWidth = 320;
+constexpr Em kDialogWidth(33.33);
+constexpr Em kSmallWidth(26.67);
 
 QString DetailOf(const host::Comport& comport) {
   auto detail = comport.device;

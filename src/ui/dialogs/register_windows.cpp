@@ -15,7 +15,7 @@
 namespace ovl::ui {
 namespace {
 
-constexpr int kLeastWidth = 320;
+constexpr Em kLeastWidth(26.67);
 
 // A layout that always gives the window the size of its content.
 QVBoxLayout* FixedSizeLayout(FormWindow& window) {

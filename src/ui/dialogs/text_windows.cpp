@@ -16,13 +16,15 @@
 #include "ui/dialogs/window_parts.h"
 #include "ui/kit/box_layouts.h"
 #include "ui/kit/theme.h"
+#include "ui/kit/widgets.h"
 
 namespace ovl::ui {
 namespace {
 
-constexpr int kTextWidth = 440;
-constexpr QSize kViewerSize(720, 480);
-constexpr int kTextMargin = 12;
+constexpr Em kTextWidth(36.67);
+constexpr Em kViewerWidth(60);
+constexpr Em kViewerHeight(40);
+constexpr Em kTextMargin(1);
 
 QWidget* Part(Bindings& bindings, const controls::Form& form, std::string_view name,
               const QString& label = {}) {
@@ -70,12 +72,39 @@ struct ValueRow {
   const char* decimals;
 };
 
+// How many digits the unit keeps of each value.
+QString RangeHint(const core::Application& app) {
+  return QStringLiteral("Up to %1 digits, and %2 behind the separator: 5 there becomes 05.")
+      .arg(app.frmSetRange.Range_Hi.max_length)
+      .arg(app.frmSetRange.SubRange_Hi.max_length);
+}
+
+// Shows the hint, and after a refused key the reason until the next key that is taken.
+QLabel* MakeRangeHint(Bindings& bindings) {
+  auto* hint = MutedLabel({});
+  hint->setObjectName(QStringLiteral("RangeHint"));
+  auto& app = bindings.Model();
+  auto& form = app.frmSetRange;
+  for (const auto* box : {&form.Range_Hi, &form.SubRange_Hi, &form.Range_Low, &form.SubRange_Low}) {
+    auto* line = static_cast<TextLine*>(bindings.WidgetOf(*box));
+    line->refused = [hint](const QString& reason) { hint->setText(reason); };
+    QObject::connect(line, &QLineEdit::textEdited, hint, [hint, &app] { hint->setText(RangeHint(app)); });
+  }
+  bindings.OnRefresh([hint, &app, shown = ChangeDetector<QString>()]() mutable {
+    if (shown.Update(RangeHint(app))) hint->setText(RangeHint(app));
+    return false;
+  });
+  return hint;
+}
+
 void AddValue(Bindings& bindings, QGridLayout& grid, int row, const ValueRow& value, QLabel* separator) {
   const auto& form = bindings.Model().frmSetRange.form;
-  auto* whole = static_cast<QLineEdit*>(Part(bindings, form, value.whole));
-  auto* decimals = static_cast<QLineEdit*>(Part(bindings, form, value.decimals));
-  const auto room = [](QLineEdit& line, int digits) {
+  auto* whole = static_cast<TextLine*>(Part(bindings, form, value.whole));
+  auto* decimals = static_cast<TextLine*>(Part(bindings, form, value.decimals));
+  const auto room = [](TextLine& line, int digits) {
     line.setFixedWidth(line.fontMetrics().horizontalAdvance(QString(digits + 2, QLatin1Char('0'))));
+    line.AcceptOnlyDigits();
+    new WholeTextMarker(line);
   };
   room(*whole, 8);
   room(*decimals, 2);
@@ -100,7 +129,7 @@ QLabel* CopyOfLabel(Bindings& bindings, const controls::Label& label) {
 // Opens with a good size for a text; the user may change it.
 class ViewerPane : public QWidget {
  public:
-  QSize sizeHint() const override { return kViewerSize; }
+  QSize sizeHint() const override { return {kViewerWidth, kViewerHeight}; }
 };
 
 }  // namespace
@@ -145,6 +174,7 @@ FormWindow* BuildRangeWindow(Bindings& bindings, QWidget* parent) {
   grid->addWidget(LabelFor(*list), 2, 0);
   grid->addWidget(list, 2, 1, 1, 4, Qt::AlignLeft);
   down->addLayout(grid);
+  down->addWidget(MakeRangeHint(bindings));
   down->addWidget(
       MutedLabel(QStringLiteral("The separator holds for all exceptions and is stored at once.")));
   down->addLayout(MakeButtonRow(bindings, model.form, "cmdSetRange", "cmdClr"));

@@ -9,14 +9,16 @@
 #include <algorithm>
 #include <array>
 
+#include "ui/kit/theme.h"
+
 namespace ovl::ui {
 namespace {
 
-constexpr qreal kCellPadding = 5;
+constexpr Em kCellPadding(0.42);
 constexpr qreal kHairline = 1;
 constexpr std::array<qreal, 4> kHeadSizes = {1.0, 1.7, 1.3, 1.1};
-constexpr qreal kAboveHead = 16;
-constexpr qreal kBelow = 7;
+constexpr Em kAboveHead(1.33);
+constexpr Em kBelow(0.58);
 
 void StyleTable(QTextTable& table, const QColor& hairline) {
   auto format = table.format();
@@ -58,7 +60,7 @@ void StyleHelp(QTextDocument& document, const QColor& hairline) {
     const bool head = block.blockFormat().headingLevel() > 0 && !block.begin().atEnd();
     QTextBlockFormat distances;
     distances.setBottomMargin(kBelow);
-    distances.setTopMargin(head && block.previous().isValid() ? kAboveHead : 0);
+    distances.setTopMargin(head && block.previous().isValid() ? int(kAboveHead) : 0);
     cursor.mergeBlockFormat(distances);
     if (head) StyleHead(block, document.defaultFont());
   }

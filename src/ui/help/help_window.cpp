@@ -18,9 +18,10 @@
 namespace ovl::ui {
 namespace {
 
-constexpr QSize kStartSize(960, 640);
-constexpr int kSideWidth = 270;
-constexpr int kAboveGroup = 14;
+constexpr Em kStartWidth(80);
+constexpr Em kStartHeight(53.33);
+constexpr Em kSideWidth(22.5);
+constexpr Em kAboveGroup(1.17);
 constexpr int kBetweenEntries = 1;
 constexpr int kFileRole = Qt::UserRole;
 constexpr int kLineRole = Qt::UserRole + 1;
@@ -75,13 +76,13 @@ HelpWindow::HelpWindow(const HelpPages& pages, QWidget* parent) : QDialog(parent
   setObjectName(QStringLiteral("Help"));
   setWindowTitle(QStringLiteral("Help"));
   setWindowFlag(Qt::WindowMaximizeButtonHint);
-  resize(kStartSize.boundedTo(screen()->availableSize()));
+  resize(QSize(kStartWidth, kStartHeight).boundedTo(screen()->availableSize()));
   auto* across = LayOutAcross(*this);
   auto* halves = new QSplitter;
   halves->addWidget(BuildSide());
   halves->addWidget(BuildPage());
   halves->setStretchFactor(1, 1);
-  halves->setSizes({kSideWidth, kStartSize.width() - kSideWidth});
+  halves->setSizes({kSideWidth, kStartWidth - kSideWidth});
   halves->setChildrenCollapsible(false);
   across->addWidget(halves);
   connect(browser_, &QTextBrowser::sourceChanged, this, [this](const QUrl& source) {

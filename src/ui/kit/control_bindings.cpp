@@ -10,12 +10,13 @@
 
 #include "host/text_codec.h"
 #include "ui/kit/bindings.h"
+#include "ui/kit/theme.h"
 #include "ui/kit/widgets.h"
 
 namespace ovl::ui {
 namespace {
 
-constexpr int kOptionGap = 24;
+constexpr Em kOptionGap(2);
 
 QStringList Texts(const std::vector<std::string>& items) {
   QStringList texts;

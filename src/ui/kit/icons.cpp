@@ -57,15 +57,41 @@ QPainterPath Chain() {
   return path;
 }
 
-QPainterPath Turn() {
-  const QRectF circle(2, 2.4, 12, 12);
+// A short line; the dot of an "i", "?" or "!" is one without a length.
+void AddLine(QPainterPath& path, QPointF from, QPointF to) {
+  path.moveTo(from);
+  path.lineTo(to + QPointF(0.01, 0));
+}
+
+QPainterPath Ring() {
   QPainterPath path;
-  path.arcMoveTo(circle, 50);
-  path.arcTo(circle, 50, 310);
-  const QPointF tip(11.9, 3.8);
-  path.moveTo(tip + QPointF(0.4, -3));
-  path.lineTo(tip);
-  path.lineTo(tip + QPointF(-3, 0.4));
+  path.addEllipse(QPointF(8, 8), 6.8, 6.8);
+  return path;
+}
+
+QPainterPath Information() {
+  auto path = Ring();
+  AddLine(path, {8, 4.8}, {8, 4.8});
+  AddLine(path, {8, 7.4}, {8, 11.4});
+  return path;
+}
+
+QPainterPath Question() {
+  auto path = Ring();
+  path.moveTo(5.9, 6.2);
+  path.cubicTo({6, 3.6}, {10.2, 3.6}, {10.2, 6.2});
+  path.cubicTo({10.2, 7.8}, {8, 7.8}, {8, 9.4});
+  AddLine(path, {8, 11.8}, {8, 11.8});
+  return path;
+}
+
+QPainterPath Warning() {
+  QPainterPath path(QPointF(8, 1.6));
+  path.lineTo(15, 14.2);
+  path.lineTo(1, 14.2);
+  path.closeSubpath();
+  AddLine(path, {8, 6.2}, {8, 9.6});
+  AddLine(path, {8, 11.9}, {8, 11.9});
   return path;
 }
 
@@ -87,8 +113,12 @@ QPainterPath PathOf(Glyph glyph) {
       return Lines();
     case Glyph::kRemote:
       return Chain();
-    case Glyph::kReset:
-      return Turn();
+    case Glyph::kInformation:
+      return Information();
+    case Glyph::kQuestion:
+      return Question();
+    case Glyph::kWarning:
+      return Warning();
   }
   return {};
 }
@@ -96,12 +126,14 @@ QPainterPath PathOf(Glyph glyph) {
 // Draws when the icon is painted, so that palette and scale may change after the icon was made.
 class GlyphEngine : public QIconEngine {
  public:
-  explicit GlyphEngine(Glyph glyph) : glyph_(glyph) {}
+  GlyphEngine(Glyph glyph, QColor (*color)(const QPalette&)) : glyph_(glyph), color_(color) {}
 
   void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State) override {
     const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
     painter->save();
-    painter->setPen(QGuiApplication::palette().color(group, QPalette::ButtonText));
+    const auto palette = QGuiApplication::palette();
+    const bool own_color = color_ != nullptr && mode != QIcon::Disabled;
+    painter->setPen(own_color ? color_(palette) : palette.color(group, QPalette::ButtonText));
     DrawGlyph(*painter, glyph_, QRectF(place.topLeft(), QSizeF(place.height(), place.height())));
     painter->restore();
   }
@@ -118,6 +150,7 @@ class GlyphEngine : public QIconEngine {
 
  private:
   Glyph glyph_;
+  QColor (*color_)(const QPalette&);
 };
 
 }  // namespace
@@ -133,8 +166,8 @@ void DrawGlyph(QPainter& painter, Glyph glyph, const QRectF& square) {
   painter.restore();
 }
 
-QIcon GlyphIcon(Glyph glyph) {
-  return QIcon(new GlyphEngine(glyph));
+QIcon GlyphIcon(Glyph glyph, QColor (*color)(const QPalette& palette)) {
+  return QIcon(new GlyphEngine(glyph, color));
 }
 
 }  // namespace ovl::ui

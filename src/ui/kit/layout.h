@@ -33,7 +33,7 @@ namespace ovl::ui {
 
 // Space at the end of the label of a row. An underlined letter loses its kerning, so the text is then wider
 // than Qt has measured it.
-inline constexpr int kLetterRoom = 2;
+inline constexpr Em kLetterRoom(0.17);
 
 // The label of a row: a text of the program, a label of the model with its caption and state, or the caption
 // of the field itself.
@@ -160,7 +160,7 @@ QScrollArea* Scrolled(QWidget* content);
 
 class Page {
  public:
-  // The distance to what is left of the page is `left` pixels.
+  // `left` is the distance to what is left of the page.
   Page(Bindings& bindings, const controls::Form& form, int left = kMargin);
 
   // Adds a column at the right, with its share of the width and its least width.

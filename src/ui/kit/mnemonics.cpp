@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "ui/kit/theme.h"
+
 namespace ovl::ui {
 namespace {
 
@@ -170,7 +172,7 @@ Letters AssignMenuMnemonics(QMenuBar& bar) {
 void AssignPageMnemonics(QWidget& page, const Letters& taken) {
   std::vector<CaptionedWidget> captioned;
   for (auto* widget : page.findChildren<QWidget*>()) {
-    if (!widget->isVisibleTo(&page)) continue;
+    if (!widget->isVisibleTo(&page) || IsDangerous(widget)) continue;
     auto* button = qobject_cast<QAbstractButton*>(widget);
     if (qobject_cast<QRadioButton*>(button) != nullptr || (button != nullptr && button->text().isEmpty()))
       continue;

@@ -1,6 +1,8 @@
 #include "ui/kit/theme.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
+#include <QFontInfo>
 #include <QLabel>
 #include <QPainter>
 #include <QPolygonF>
@@ -8,6 +10,8 @@
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <algorithm>
+
+#include "ui/kit/icons.h"
 
 namespace ovl::ui {
 namespace {
@@ -21,12 +25,16 @@ constexpr Scheme kLightScheme{0xFFF4F5F7, 0xFFFFFFFF, 0xFFF7F8FA, 0xFFFDFDFE, 0x
 constexpr Scheme kDarkScheme{0xFF22252A, 0xFF1A1C20, 0xFF1F2226, 0xFF33373D, 0xFFE6E8EB, 0xFFA2A8B2,
                              0xFF646A73, 0xFF3D4249, 0xFF3273C4, 0xFFFFFFFF, 0xFF4DBB7F};
 
-constexpr int kTabPadding = 16;
-constexpr int kTabLine = 3;
-constexpr int kHeaderPadding = 6;
-constexpr int kFieldHeight = 26;
-constexpr int kLeastListWidth = 64;
-constexpr int kThumbInset = 3;
+constexpr QRgb kLightDanger = 0xFFB3201F, kDarkDanger = 0xFFFF8B85;
+constexpr const char* kDangerous = "dangerous";
+
+constexpr Em kTabPadding(1.33);
+constexpr Em kTabLine(0.25);
+constexpr Em kHeaderPadding(0.5);
+constexpr Em kFieldHeight(2.17);
+constexpr Em kIndicatorSize(1.17);
+constexpr Em kLeastListWidth(5.33);
+constexpr Em kThumbInset(0.25);
 constexpr int kFocusWidth = 2;
 constexpr int kLighter = 140;
 
@@ -67,6 +75,7 @@ class OvlStyle : public QProxyStyle {
                 QStyleHintReturn* data) const override {
     if (hint == SH_ComboBox_Popup) return 0;
     if (hint == SH_EtchDisabledText || hint == SH_DitherDisabledText) return 0;
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
     return QProxyStyle::styleHint(hint, option, widget, data);
   }
 
@@ -74,6 +83,8 @@ class OvlStyle : public QProxyStyle {
     if (metric == PM_TabBarTabHSpace) return kTabPadding;
     if (metric == PM_TabBarTabShiftVertical || metric == PM_TabBarTabShiftHorizontal) return 0;
     if (metric == PM_HeaderMargin) return kHeaderPadding;
+    if (metric == PM_IndicatorWidth || metric == PM_IndicatorHeight) return kIndicatorSize;
+    if (metric == PM_ExclusiveIndicatorWidth || metric == PM_ExclusiveIndicatorHeight) return kIndicatorSize;
     return QProxyStyle::pixelMetric(metric, option, widget);
   }
 
@@ -86,10 +97,27 @@ class OvlStyle : public QProxyStyle {
       size.rwidth() -= metrics.horizontalAdvance(tab->text) - metrics.horizontalAdvance(tab->text.trimmed());
     }
     if (type == CT_ComboBox || type == CT_PushButton || type == CT_LineEdit) {
-      size.setHeight(std::max(size.height(), kFieldHeight));
+      size.setHeight(std::max<int>(size.height(), kFieldHeight));
     }
-    if (type == CT_ComboBox) size.setWidth(std::max(size.width(), kLeastListWidth));
+    const bool in_row =
+        widget != nullptr && qobject_cast<QDialogButtonBox*>(widget->parentWidget()) != nullptr;
+    if (type == CT_PushButton && in_row) size.setWidth(std::max<int>(size.width(), kButtonWidth));
+    if (type == CT_ComboBox) size.setWidth(std::max<int>(size.width(), kLeastListWidth));
     return size;
+  }
+
+  QIcon standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const override {
+    switch (which) {
+      case SP_MessageBoxInformation:
+        return GlyphIcon(Glyph::kInformation);
+      case SP_MessageBoxQuestion:
+        return GlyphIcon(Glyph::kQuestion);
+      case SP_MessageBoxWarning:
+      case SP_MessageBoxCritical:
+        return GlyphIcon(Glyph::kWarning);
+      default:
+        return QProxyStyle::standardIcon(which, option, widget);
+    }
   }
 
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -104,6 +132,10 @@ class OvlStyle : public QProxyStyle {
     if (element == PE_FrameFocusRect) return DrawRing(option->rect, FocusColor(option->palette), painter);
     if (element == PE_FrameLineEdit ||
         (element == PE_Frame && qobject_cast<const QLabel*>(widget) != nullptr)) {
+      return DrawFieldEdge(*option, painter);
+    }
+    if (element == PE_PanelLineEdit && option->state.testFlag(State_ReadOnly)) {
+      painter->fillRect(option->rect.adjusted(1, 1, -1, -1), option->palette.color(QPalette::Button));
       return DrawFieldEdge(*option, painter);
     }
     if (element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton) {
@@ -123,6 +155,12 @@ class OvlStyle : public QProxyStyle {
     }
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
     if (button != nullptr && element == CE_PushButtonBevel) return DrawBevel(*button, painter, widget);
+    if (button != nullptr && element == CE_PushButtonLabel && IsDangerous(widget)) {
+      auto red = *button;
+      red.palette.setColor(QPalette::Active, QPalette::ButtonText, DangerColor(red.palette));
+      red.palette.setColor(QPalette::Inactive, QPalette::ButtonText, DangerColor(red.palette));
+      return QProxyStyle::drawControl(element, &red, painter, widget);
+    }
     const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option);
     if (bar != nullptr && element == CE_ProgressBarGroove) {
       painter->fillRect(bar->rect, bar->palette.color(QPalette::Base));
@@ -154,6 +192,11 @@ class OvlStyle : public QProxyStyle {
     const auto edge = button.rect.adjusted(1, 1, -1, -1);
     if (button.state.testFlag(State_HasFocus)) {
       DrawRing(edge, FocusColor(button.palette), painter, kFocusWidth);
+    } else if (IsDangerous(widget)) {
+      DrawRing(
+          edge,
+          button.state.testFlag(State_Enabled) ? DangerColor(button.palette) : HairlineColor(button.palette),
+          painter, kFocusWidth);
     } else if (button.features.testFlag(QStyleOptionButton::DefaultButton)) {
       DrawRing(edge, MutedColor(button.palette), painter);
     }
@@ -252,9 +295,15 @@ class OvlStyle : public QProxyStyle {
 }  // namespace
 
 void ApplyTheme(Theme theme) {
+  if (dynamic_cast<OvlStyle*>(QApplication::style()) == nullptr) QApplication::setStyle(new OvlStyle);
+  // Without colours of its own the application has the palette of the desktop.
+  if (theme == Theme::kDesktop) QApplication::setPalette(QPalette());
   const bool dark = theme == Theme::kDark || (theme == Theme::kDesktop && IsDark(QApplication::palette()));
-  QApplication::setStyle(new OvlStyle);
   QApplication::setPalette(PaletteOf(dark ? kDarkScheme : kLightScheme));
+}
+
+Em::operator int() const {
+  return qRound(count_ * QFontInfo(QApplication::font()).pixelSize());
 }
 
 QColor AccentColor(const QPalette& palette) {
@@ -267,6 +316,18 @@ QColor MutedColor(const QPalette& palette) {
 
 QColor HairlineColor(const QPalette& palette) {
   return palette.color(QPalette::Mid);
+}
+
+QColor DangerColor(const QPalette& palette) {
+  return QColor::fromRgb(IsDark(palette) ? kDarkDanger : kLightDanger);
+}
+
+void MarkDangerous(QWidget& button) {
+  button.setProperty(kDangerous, true);
+}
+
+bool IsDangerous(const QWidget* widget) {
+  return widget != nullptr && widget->property(kDangerous).toBool();
 }
 
 QLabel* MutedLabel(const QString& text) {

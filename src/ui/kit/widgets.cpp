@@ -8,6 +8,7 @@
 #include <QValidator>
 #include <QWheelEvent>
 #include <algorithm>
+#include <utility>
 
 #include "host/text_codec.h"
 #include "ui/kit/theme.h"
@@ -16,11 +17,11 @@ namespace ovl::ui {
 namespace {
 
 constexpr int kPopupLines = 10;
-constexpr int kDetailGap = 24;
-constexpr int kMarkWidth = 3;
-constexpr int kEntryIndent = 6;
-constexpr int kEntryHeight = 20;
-constexpr int kTextIndent = 2;
+constexpr Em kDetailGap(2);
+constexpr Em kMarkWidth(0.25);
+constexpr Em kEntryIndent(0.5);
+constexpr Em kEntryHeight(1.67);
+constexpr Em kTextIndent(0.17);
 
 int DetailStart(const QAbstractItemModel& model, const QFontMetrics& metrics) {
   int widest = 0;
@@ -30,13 +31,27 @@ int DetailStart(const QAbstractItemModel& model, const QFontMetrics& metrics) {
   return widest + kDetailGap;
 }
 
-// Draws the text of an entry, and its detail muted in a second column.
-class DetailDelegate : public QStyledItemDelegate {
+// The entries of an open list are as high as the field.
+class EntryDelegate : public QStyledItemDelegate {
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
+  explicit EntryDelegate(PickList* field) : QStyledItemDelegate(field), field_(field) {}
 
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    auto size = QStyledItemDelegate::sizeHint(option, index);
+    const auto size = QStyledItemDelegate::sizeHint(option, index);
+    return size.expandedTo({0, field_->height()});
+  }
+
+ private:
+  PickList* field_;
+};
+
+// Draws the text of an entry, and its detail muted in a second column.
+class DetailDelegate : public EntryDelegate {
+ public:
+  using EntryDelegate::EntryDelegate;
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    auto size = EntryDelegate::sizeHint(option, index);
     const QFontMetrics metrics(option.font);
     size.setWidth(DetailStart(*index.model(), metrics) + kDetailGap +
                   metrics.horizontalAdvance(index.data(PickList::kDetailRole).toString()));
@@ -44,7 +59,7 @@ class DetailDelegate : public QStyledItemDelegate {
   }
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    QStyledItemDelegate::paint(painter, option, index);
+    EntryDelegate::paint(painter, option, index);
     const bool selected = option.state.testFlag(QStyle::State_Selected);
     painter->save();
     painter->setPen(selected ? option.palette.color(QPalette::HighlightedText) : MutedColor(option.palette));
@@ -62,9 +77,8 @@ class MarkDelegate : public QStyledItemDelegate {
   explicit MarkDelegate(ListBox* list) : QStyledItemDelegate(list), list_(list) {}
 
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    auto size = QStyledItemDelegate::sizeHint(option, index);
-    size.setHeight(std::max(size.height(), kEntryHeight));
-    return size;
+    const auto size = QStyledItemDelegate::sizeHint(option, index) + QSize(kEntryIndent, 0);
+    return size.expandedTo({0, kEntryHeight});
   }
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
@@ -111,13 +125,19 @@ class TextValidator : public QValidator {
   State validate(QString& text, int& caret) const override {
     if (!host::ToWindows1252(text))
       return Refuse(QStringLiteral("The unit has no such character: only Windows-1252 can be typed."));
+    const auto is_digit = [](QChar sign) { return sign >= QLatin1Char('0') && sign <= QLatin1Char('9'); };
+    if (digits_only && !std::all_of(text.begin(), text.end(), is_digit))
+      return Refuse(QStringLiteral("Only digits can be typed here."));
     if (limit == 0 || text.size() <= limit) return Acceptable;
     text.truncate(std::max<qsizetype>({limit, caret, SizeWithoutPadding(text)}));
     if (text.size() <= limit) return Acceptable;
-    return Refuse(QStringLiteral("No more than %1 characters fit here.").arg(limit));
+    return Refuse((digits_only ? QStringLiteral("No more than %1 digits fit here.")
+                               : QStringLiteral("No more than %1 characters fit here."))
+                      .arg(limit));
   }
 
   int limit = 0;
+  bool digits_only = false;
   mutable QString reason;
 
  private:
@@ -134,11 +154,11 @@ PickList::PickList(QWidget* parent) : QComboBox(parent) {
   setFocusPolicy(Qt::StrongFocus);
 }
 
-void PickList::ShowDetails() {
-  setItemDelegate(new DetailDelegate(this));
-}
-
+// The open list is made here and not in the constructor, because most lists of a page are never opened.
 void PickList::showPopup() {
+  if (!std::exchange(has_delegate_, true)) {
+    setItemDelegate(shows_details_ ? new DetailDelegate(this) : new EntryDelegate(this));
+  }
   view()->setMinimumWidth(view()->sizeHintForColumn(0) + style()->pixelMetric(QStyle::PM_ScrollBarExtent));
   QComboBox::showPopup();
 }
@@ -154,11 +174,50 @@ ListBox::ListBox(QWidget* parent) : QListWidget(parent) {
   connect(this, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
     if (picked) picked(row(item));
   });
+  connect(model(), &QAbstractItemModel::rowsInserted, this, [this] {
+    if (!filter_.isEmpty()) ApplyFilter();
+  });
+}
+
+void ListBox::SetFilter(const QString& words) {
+  filter_ = words.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+  ApplyFilter();
+  MoveCursorToMark();
+}
+
+// A hidden entry is disabled too, so that a typed letter does not find it.
+void ListBox::ApplyFilter() {
+  for (int row = 0; row < count(); ++row) {
+    const auto text = item(row)->text();
+    const bool fits = std::all_of(filter_.begin(), filter_.end(), [&text](const QString& word) {
+      return text.contains(word, Qt::CaseInsensitive);
+    });
+    setRowHidden(row, !fits);
+    item(row)->setFlags(fits ? Qt::ItemIsEnabled | Qt::ItemIsSelectable : Qt::NoItemFlags);
+  }
+}
+
+void ListBox::MoveCursorToMark() {
+  setCurrentRow(IsShown(marked_) ? marked_ : -1);
+}
+
+int ListBox::ShownEntries() const {
+  int shown = 0;
+  for (int row = 0; row < count(); ++row) shown += isRowHidden(row) ? 0 : 1;
+  return shown;
+}
+
+void ListBox::TakeFocus() {
+  setFocus(Qt::TabFocusReason);
+  if (filter_.isEmpty()) return;
+  int first = 0;
+  while (first < count() && isRowHidden(first)) ++first;
+  if (first < count()) setCurrentRow(first);
 }
 
 void ListBox::SetMarked(int row) {
   marked_ = row;
-  setCurrentRow(row);
+  MoveCursorToMark();
   viewport()->update();
 }
 
@@ -166,10 +225,10 @@ void ListBox::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      if (picked && currentRow() >= 0) picked(currentRow());
+      if (picked && IsShown(currentRow())) picked(currentRow());
       return;
     case Qt::Key_Escape:
-      setCurrentRow(marked_);
+      MoveCursorToMark();
       return;
     default:
       QListWidget::keyPressEvent(event);
@@ -178,7 +237,7 @@ void ListBox::keyPressEvent(QKeyEvent* event) {
 
 void ListBox::focusOutEvent(QFocusEvent* event) {
   QListWidget::focusOutEvent(event);
-  if (LosesFocusToWidget(*event)) setCurrentRow(marked_);
+  if (LosesFocusToWidget(*event)) MoveCursorToMark();
 }
 
 OptionButton::OptionButton(QWidget* parent) : QRadioButton(parent) {
@@ -210,6 +269,10 @@ TextLine::TextLine(QWidget* parent) : QLineEdit(parent), validator_(new TextVali
 
 void TextLine::SetLimit(int characters) {
   validator_->limit = characters;
+}
+
+void TextLine::AcceptOnlyDigits() {
+  validator_->digits_only = true;
 }
 
 void TextLine::keyPressEvent(QKeyEvent* event) {

@@ -25,15 +25,20 @@ class PickList : public QComboBox {
   explicit PickList(QWidget* parent = nullptr);
 
   // Shows the texts of kDetailRole behind the entries.
-  void ShowDetails();
+  void ShowDetails() { shows_details_ = true; }
   void showPopup() override;
 
  protected:
   void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  bool shows_details_ = false;
+  bool has_delegate_ = false;
 };
 
 // A list that is always open. Arrow keys and letters move the cursor. Enter or a click picks an entry, also
-// the one that is already picked.
+// the one that is already picked. A filter hides the entries that do not have all of its words; the others
+// keep their positions.
 class ListBox : public QListWidget {
  public:
   explicit ListBox(QWidget* parent = nullptr);
@@ -44,12 +49,23 @@ class ListBox : public QListWidget {
   void SetMarked(int row);
   int Marked() const { return marked_; }
 
+  void SetFilter(const QString& words);
+  int ShownEntries() const;
+
+  // Takes the focus. With a filter the cursor is on the first entry that it shows.
+  void TakeFocus();
+
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
+  bool IsShown(int row) const { return row >= 0 && row < count() && !isRowHidden(row); }
+  void ApplyFilter();
+  void MoveCursorToMark();
+
   int marked_ = -1;
+  QStringList filter_;
 };
 
 // An element of an option array. The arrow keys pick its neighbours, as in other programs with Qt.
@@ -79,6 +95,7 @@ class TextLine : public QLineEdit {
   explicit TextLine(QWidget* parent = nullptr);
 
   void SetLimit(int characters);  // 0: none
+  void AcceptOnlyDigits();
 
   std::function<void(const QString& reason)> refused;
 

@@ -18,10 +18,10 @@
 namespace ovl::ui {
 namespace {
 
-constexpr int kRangeBoxWidth = 96;
-constexpr int kBoxPadding = 4;
-constexpr int kBelowOption = 20;
-constexpr int kShortRowWidth = 210;
+constexpr Em kRangeBoxWidth(8);
+constexpr Em kBoxPadding(0.33);
+constexpr Em kBelowOption(1.67);
+constexpr Em kShortRowWidth(17.5);
 
 // An act that an exception can start: its list, its bit in the flags of the slot, and how the overview shows
 // it.
@@ -81,14 +81,12 @@ QString Legend(const core::Application& app) {
 
 QWidget* ExceptionOverview(Bindings& bindings) {
   const auto& app = bindings.Model();
-  const auto widest = app.firmware.IsV1400() ? QStringLiteral("OUT 99999.99 - 99999.99")
-                                             : QStringLiteral("OUT 9999.99 - 9999.99");
   return BuildOverview(bindings, bindings.Model().frmMain.ComboExcp[controls::Excp::kNumber],
                        {QStringLiteral("ExceptionOverview"),
                         QStringLiteral("Overview of the exceptions"),
                         {{QStringLiteral("No."), QStringLiteral("24")},
                          {QStringLiteral("Exception string"), {}},
-                         {QStringLiteral("Range"), widest},
+                         {QStringLiteral("Range"), QStringLiteral("IN 0.00 - 9.99"), true},
                          {QStringLiteral("Acts"), QStringLiteral("D O H S")}},
                         [&app] { return ExceptionLines(app); },
                         [&app] { return Legend(app); },
@@ -105,10 +103,11 @@ void AddRange(Bindings& bindings, PageColumn& column) {
   for (const auto& value : form.TextRANGE) {
     auto* box = static_cast<QLabel*>(bindings.WidgetOf(value));
     box->setFrameShape(QFrame::StyledPanel);
-    box->setBackgroundRole(QPalette::Base);
+    box->setBackgroundRole(QPalette::Button);
     box->setAutoFillBackground(true);
     box->setIndent(kBoxPadding);
     box->setFixedSize(kRangeBoxWidth, height);
+    OpenWithButton(bindings, *box, form.cmdSetRange);
   }
   auto* row = button->parentWidget()->parentWidget();
   auto* dash = new QLabel(QStringLiteral("-"));

@@ -10,7 +10,9 @@
 namespace ovl::ui {
 namespace {
 
-constexpr QSize kSize(440, 116);
+// The sizes of the drawing are in units of which this many are as high as the font.
+constexpr qreal kUnitsOfFont = 12;
+constexpr QSizeF kSize(440, 116);
 constexpr qreal kStroke = 1.8;
 
 // The height and the ends of the line between the two devices.
@@ -22,6 +24,14 @@ constexpr qreal kLineMiddle = (kLineLeft + kLineRight) / 2;
 constexpr QRectF kScreen(14, 20, 82, 52);
 constexpr QRectF kUnit(332, 28, 100, 44);
 constexpr qreal kWordHeight = 20;
+
+qreal Scale() {
+  return Em(1) / kUnitsOfFont;
+}
+
+QRectF Scaled(const QRectF& place) {
+  return {place.topLeft() * Scale(), place.size() * Scale()};
+}
 
 bool IsLive(LinkState state) {
   return state == LinkState::kAccess || state == LinkState::kUploading || state == LinkState::kDownloading;
@@ -66,7 +76,7 @@ LinkDrawing::LinkDrawing(const core::Application& app, QLabel& access) : app_(ap
   access_.setParent(this);
   access_.setAlignment(Qt::AlignCenter);
   access_.setGeometry(
-      QRectF(kLineLeft, kLineY - 14 - kWordHeight, kLineRight - kLineLeft, kWordHeight).toRect());
+      Scaled({kLineLeft, kLineY - 14 - kWordHeight, kLineRight - kLineLeft, kWordHeight}).toRect());
   auto strong = access_.font();
   strong.setWeight(QFont::DemiBold);
   access_.setFont(strong);
@@ -74,7 +84,7 @@ LinkDrawing::LinkDrawing(const core::Application& app, QLabel& access) : app_(ap
 }
 
 QSize LinkDrawing::sizeHint() const {
-  return kSize;
+  return (kSize * Scale()).toSize();
 }
 
 LinkDrawing::Shown LinkDrawing::FromModel() const {
@@ -99,12 +109,15 @@ void LinkDrawing::Refresh() {
 
 void LinkDrawing::paintEvent(QPaintEvent*) {
   QPainter painter(this);
+  painter.save();
+  painter.scale(Scale(), Scale());
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(palette().color(QPalette::WindowText), kStroke, Qt::SolidLine, Qt::RoundCap));
   DrawComputer(painter);
   DrawUnit(painter);
   DrawLine(painter);
   DrawMark(painter);
+  painter.restore();
   DrawWords(painter);
 }
 
@@ -201,7 +214,7 @@ void LinkDrawing::DrawArrows(QPainter& painter, bool to_unit, bool filled) const
 
 void LinkDrawing::DrawWords(QPainter& painter) const {
   const auto put = [&](const QRectF& place, const QString& text) {
-    painter.drawText(place, Qt::AlignCenter, text);
+    painter.drawText(Scaled(place), Qt::AlignCenter, text);
   };
   const QRectF under(kLineLeft, kLineY + 14, kLineRight - kLineLeft, kWordHeight);
   const qreal foot = kScreen.bottom() + 16;

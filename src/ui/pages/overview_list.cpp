@@ -16,9 +16,9 @@
 namespace ovl::ui {
 namespace {
 
-constexpr int kLineHeight = 19;
-constexpr int kCellPadding = 6;
-constexpr int kMarkWidth = 3;
+constexpr Em kLineHeight(1.58);
+constexpr Em kCellPadding(0.5);
+constexpr Em kMarkWidth(0.25);
 constexpr int kUsedRole = Qt::UserRole + 1;
 
 // The same marks as in ListBox: a bold text and a bar for the marked line, a strong colour for the cursor
@@ -29,7 +29,7 @@ class LineDelegate : public QStyledItemDelegate {
 
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     auto size = QStyledItemDelegate::sizeHint(option, index);
-    size.setHeight(std::max(option.fontMetrics.height() + 2, kLineHeight));
+    size.setHeight(std::max<int>(option.fontMetrics.height() + 2, kLineHeight));
     return size;
   }
 
@@ -105,7 +105,7 @@ void BindTable(Bindings& bindings, controls::List& list, OverviewList& table, QL
 }  // namespace
 
 OverviewList::OverviewList(const std::vector<OverviewColumn>& columns, QWidget* parent)
-    : QTreeWidget(parent) {
+    : QTreeWidget(parent), columns_(columns) {
   setItemDelegate(new LineDelegate(this));
   setRootIsDecorated(false);
   setItemsExpandable(false);
@@ -114,7 +114,6 @@ OverviewList::OverviewList(const std::vector<OverviewColumn>& columns, QWidget* 
   setSelectionBehavior(QAbstractItemView::SelectRows);
   setTabKeyNavigation(false);
   setColumnCount(static_cast<int>(columns.size()));
-  const QFontMetrics metrics(Strong(font()));
   header()->setStretchLastSection(false);
   header()->setSectionsMovable(false);
   header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -124,11 +123,7 @@ OverviewList::OverviewList(const std::vector<OverviewColumn>& columns, QWidget* 
     heads.append(about.head);
     const bool stretches = about.widest.isEmpty();
     header()->setSectionResizeMode(column, stretches ? QHeaderView::Stretch : QHeaderView::Fixed);
-    if (!stretches) {
-      const int width =
-          std::max(metrics.horizontalAdvance(about.widest), metrics.horizontalAdvance(about.head));
-      header()->resizeSection(column, width + 2 * kCellPadding + 2);
-    }
+    if (!stretches) SetColumnWidth(column, about.widest);
     ++column;
   }
   setHeaderLabels(heads);
@@ -137,12 +132,29 @@ OverviewList::OverviewList(const std::vector<OverviewColumn>& columns, QWidget* 
   });
 }
 
+// As wide as the text and the head need.
+void OverviewList::SetColumnWidth(int column, const QString& widest) {
+  const QFontMetrics metrics(Strong(font()));
+  const auto& head = columns_[static_cast<std::size_t>(column)].head;
+  const int width = std::max(metrics.horizontalAdvance(widest), metrics.horizontalAdvance(head));
+  header()->resizeSection(column, width + 2 * kCellPadding + 2);
+}
+
 void OverviewList::Show(const std::vector<OverviewLine>& lines) {
   const int count = static_cast<int>(lines.size());
   while (topLevelItemCount() < count) addTopLevelItem(new QTreeWidgetItem);
   while (topLevelItemCount() > count) delete takeTopLevelItem(count);
   for (int line = 0; line < count; ++line) {
     FillItem(*topLevelItem(line), lines[static_cast<std::size_t>(line)]);
+  }
+  for (int column = 0; column < columnCount(); ++column) {
+    const auto& about = columns_[static_cast<std::size_t>(column)];
+    if (!about.fits) continue;
+    auto widest = about.widest;
+    for (const auto& line : lines) {
+      if (line.cells[column].size() > widest.size()) widest = line.cells[column];
+    }
+    SetColumnWidth(column, widest);
   }
 }
 

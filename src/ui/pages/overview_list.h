@@ -21,7 +21,8 @@ struct OverviewLine {
 
 struct OverviewColumn {
   QString head;
-  QString widest;  // the widest text of the column; the column without one takes the remaining width
+  QString widest;     // the widest text of the column; the column without one takes the remaining width
+  bool fits = false;  // grows to the widest text that it shows now
 };
 
 class OverviewList : public QTreeWidget {
@@ -45,8 +46,10 @@ class OverviewList : public QTreeWidget {
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
+  void SetColumnWidth(int column, const QString& widest);
   int CurrentLine() const { return indexOfTopLevelItem(currentItem()); }
 
+  std::vector<OverviewColumn> columns_;
   int marked_ = -1;
 };
 

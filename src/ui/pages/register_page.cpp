@@ -1,8 +1,11 @@
 #include "ui/pages/pages.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
@@ -19,12 +22,54 @@
 namespace ovl::ui {
 namespace {
 
-constexpr int kRegisterListWidth = 270;
-constexpr int kSignSize = 18;
+constexpr Em kRegisterListWidth(22.5);
+constexpr Em kSignSize(1.5);
 
 // The only two frames that show together, the second one below the first.
 constexpr int kModels = 49;
 constexpr int kModelsCompanion = 18;
+
+// A line that filters the list. Down and Enter go on in the list, Escape clears the line.
+class FilterLine : public QLineEdit {
+ public:
+  explicit FilterLine(ListBox& list) : list_(list) {
+    setObjectName(QStringLiteral("RegisterFilter"));
+    setAccessibleName(QStringLiteral("Filter of the registers"));
+    setPlaceholderText(QStringLiteral("Filter"));
+    setToolTip(QStringLiteral("Shows only the registers whose names have all of these words (Ctrl+F)."));
+    setClearButtonEnabled(true);
+    connect(this, &QLineEdit::textChanged, &list, &ListBox::SetFilter);
+    auto* find = new QShortcut(QKeySequence::Find, this);
+    connect(find, &QShortcut::activated, this, [this] {
+      setFocus(Qt::ShortcutFocusReason);
+      selectAll();
+    });
+  }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    switch (event->key()) {
+      case Qt::Key_Down:
+      case Qt::Key_Return:
+      case Qt::Key_Enter:
+        return list_.TakeFocus();
+      case Qt::Key_Escape:
+        return clear();
+      default:
+        QLineEdit::keyPressEvent(event);
+    }
+  }
+
+ private:
+  ListBox& list_;
+};
+
+QString CountText(const ListBox& list) {
+  const int all = list.count(), shown = list.ShownEntries();
+  if (shown == all) return QStringLiteral("Type to find, Enter picks. %1 registers.").arg(all);
+  if (shown == 0) return QStringLiteral("No register has these words.");
+  return QStringLiteral("%1 of %2 registers.").arg(shown).arg(all);
+}
 
 QWidget* RegisterList(Bindings& bindings) {
   auto& form = bindings.Model().frmMain;
@@ -35,15 +80,19 @@ QWidget* RegisterList(Bindings& bindings) {
   auto* title = TitleLabel(QStringLiteral("Register"));
   auto* list = bindings.MakeListBox(bindings.Named(form.form, "ComboReg"), title->text());
   title->setBuddy(list);
+  auto* filter = new FilterLine(*list);
   auto* count = MutedLabel({});
+  count->setObjectName(QStringLiteral("RegisterCount"));
   down->addWidget(title);
+  down->addWidget(filter);
   down->addWidget(list, 1);
   down->addWidget(count);
   side->setFixedWidth(kMargin + kRegisterListWidth);
-  bindings.OnRefresh([count, &form, entries = ChangeDetector<std::size_t>()]() mutable {
+  QObject::connect(filter, &QLineEdit::textChanged, count,
+                   [count, list] { count->setText(CountText(*list)); });
+  bindings.OnRefresh([count, list, &form, entries = ChangeDetector<std::size_t>()]() mutable {
     if (!entries.Update(form.ComboReg.items.size())) return false;
-    count->setText(
-        QStringLiteral("Type to find, Enter picks. %1 registers.").arg(form.ComboReg.items.size()));
+    count->setText(CountText(*list));
     return true;
   });
   return side;

@@ -1,10 +1,16 @@
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <array>
+#include <memory>
+#include <utility>
+#include <vector>
 
+#include "host/text_codec.h"
 #include "ui/kit/box_layouts.h"
 #include "ui/kit/icons.h"
 #include "ui/kit/layout.h"
@@ -16,13 +22,14 @@
 namespace ovl::ui {
 namespace {
 
-constexpr int kActionHeight = 40;
-constexpr QSize kActionIcon(23, 18);
-constexpr int kSetTimeWidth = 236;
-constexpr int kLinkWidth = 440;
+constexpr Em kActionHeight(3.33);
+constexpr Em kActionIconWidth(1.92);
+constexpr Em kActionIconHeight(1.5);
+constexpr Em kSetTimeWidth(19.67);
+constexpr Em kLinkWidth(36.67);
 
 constexpr std::array kGlyphs{Glyph::kUpload,  Glyph::kDownload, Glyph::kClock,
-                             Glyph::kHistory, Glyph::kRemote,   Glyph::kReset};
+                             Glyph::kHistory, Glyph::kRemote,   Glyph::kWarning};
 
 QWidget* MakeByName(Bindings& bindings, std::string_view name) {
   return bindings.Make(bindings.Named(bindings.Model().frmMain.form, name));
@@ -32,7 +39,7 @@ QPushButton* ActionButton(Bindings& bindings, controls::LinkAction action) {
   auto& form = bindings.Model().frmMain;
   auto* button = static_cast<QPushButton*>(MakeByName(bindings, "CmdUpDow(" + std::to_string(action) + ")"));
   button->setIcon(GlyphIcon(kGlyphs.at(static_cast<std::size_t>(action))));
-  button->setIconSize(kActionIcon);
+  button->setIconSize({kActionIconWidth, kActionIconHeight});
   button->setMinimumHeight(kActionHeight);
   button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   bindings.WatchPointer(*button, &form.CmdUpDow.at(static_cast<std::size_t>(action)), &form.Frame11);
@@ -65,18 +72,55 @@ QWidget* PortLine(Bindings& bindings) {
   return holder;
 }
 
+// Where the last history was saved. A history that was not saved ends with a note in the status bar.
+QWidget* HistoryLine(Bindings& bindings) {
+  auto* line = MutedLabel({});
+  line->setObjectName(QStringLiteral("HistoryPlace"));
+  line->setWordWrap(true);
+  line->setVisible(false);
+  bindings.OnRefresh(
+      [line, &app = bindings.Model(), pending = ChangeDetector<bool>(), first = true]() mutable {
+        if (!pending.Update(app.HistoryPending) || std::exchange(first, false)) return false;
+        // "Disconnect" ends the wait for a history too.
+        const bool saved = !app.HistoryPending && app.frmMain.MSComm1.PortOpen &&
+                           !app.StatusNote.starts_with(app.CurrentFilePath + ": ");
+        line->setText(QStringLiteral("The history is in %1.").arg(host::FromSystem(app.CurrentFilePath)));
+        line->setVisible(saved);
+        return true;
+      });
+  return line;
+}
+
 QWidget* Actions(Bindings& bindings) {
   auto* holder = new QWidget;
   auto* down = LayOutDown(*holder, kFieldGap);
   down->addWidget(ActionButton(bindings, controls::kRemote));
-  const std::array<std::array<controls::LinkAction, 2>, 2> pairs{
-      {{controls::kUpload, controls::kDownload}, {controls::kLoadHistory, controls::kMasterReset}}};
-  for (const auto& pair : pairs) {
-    auto* across = new QHBoxLayout;
-    across->setSpacing(kFieldGap);
-    for (const auto action : pair) across->addWidget(ActionButton(bindings, action), 1);
-    down->addLayout(across);
-  }
+  auto* across = new QHBoxLayout;
+  across->setSpacing(kFieldGap);
+  for (const auto action : {controls::kUpload, controls::kDownload})
+    across->addWidget(ActionButton(bindings, action), 1);
+  down->addLayout(across);
+  down->addWidget(ActionButton(bindings, controls::kLoadHistory));
+  down->addWidget(HistoryLine(bindings));
+  return holder;
+}
+
+// Stands apart from the other actions, because it cannot be taken back.
+QWidget* MasterReset(Bindings& bindings) {
+  auto* holder = new QWidget;
+  auto* down = LayOutDown(*holder, kFieldGap);
+  down->setContentsMargins(0, kSectionGap, 0, 0);
+  down->addWidget(Hairline());
+  auto* across = new QHBoxLayout;
+  across->setSpacing(kFieldGap);
+  auto* words = MutedLabel(QStringLiteral("Puts the unit back to its factory settings at once."));
+  words->setWordWrap(true);
+  auto* button = ActionButton(bindings, controls::kMasterReset);
+  button->setIcon(GlyphIcon(Glyph::kWarning, DangerColor));
+  MarkDangerous(*button);
+  across->addWidget(words, 1);
+  across->addWidget(button, 1);
+  down->addLayout(across);
   return holder;
 }
 
@@ -112,6 +156,49 @@ QWidget* SetTime(Bindings& bindings) {
   return holder;
 }
 
+// The focus when an action ends or disables its button. It goes to the bar while a transfer runs, and not to
+// "Disconnect", where one more Enter would break the transfer off; otherwise to "Remote", the next step.
+class ActionFocus {
+ public:
+  explicit ActionFocus(Bindings& bindings) : bindings_(bindings) {
+    // Before the buttons are refreshed, because a disabled button loses the focus.
+    bindings.OnRefresh([held = held_, &bindings] {
+      *held = FocusIn(bindings);
+      return false;
+    });
+  }
+
+  // After all widgets were made.
+  void Follow() {
+    auto& form = bindings_.Model().frmMain;
+    auto* bar = bindings_.WidgetOf(form.vbalProgressBar1);
+    auto* remote = bindings_.WidgetOf(form.CmdUpDow[controls::kRemote]);
+    bar->setFocusPolicy(Qt::ClickFocus);
+    QWidget::setTabOrder(bindings_.WidgetOf(form.cmdConnect), bar);
+    bindings_.OnRefresh([held = held_, bar, remote] {
+      const auto usable = [](const QWidget* widget) { return widget->isVisible() && widget->isEnabled(); };
+      if (*held == nullptr || usable(*held)) return false;
+      auto* next = usable(bar) ? bar : remote;
+      if (usable(next)) next->setFocus(Qt::OtherFocusReason);
+      return false;
+    });
+  }
+
+ private:
+  // The action button or the bar, if it has the focus of its window.
+  static QWidget* FocusIn(const Bindings& bindings) {
+    const auto& form = bindings.Model().frmMain;
+    const auto* bar = bindings.WidgetOf(form.vbalProgressBar1);
+    auto* focus = bar->window()->focusWidget();
+    const bool acts = std::any_of(form.CmdUpDow.begin(), form.CmdUpDow.end(),
+                                  [&](const auto& button) { return bindings.WidgetOf(button) == focus; });
+    return acts || focus == bar ? focus : nullptr;
+  }
+
+  Bindings& bindings_;
+  std::shared_ptr<QPointer<QWidget>> held_ = std::make_shared<QPointer<QWidget>>();
+};
+
 void LinkColumn(Bindings& bindings, PageColumn& column) {
   auto& form = bindings.Model().frmMain;
   const auto transfer_shows = [&form] {
@@ -121,7 +208,26 @@ void LinkColumn(Bindings& bindings, PageColumn& column) {
       .FullWidth(Drawing(bindings))
       .FullWidth(PortLine(bindings))
       .FullWidth(Actions(bindings))
-      .FullWidth(Progress(bindings), transfer_shows);
+      .FullWidth(Progress(bindings), transfer_shows)
+      .FullWidth(MasterReset(bindings), [&form] { return form.CmdUpDow[controls::kMasterReset].visible; });
+}
+
+// While the unit's clock follows the computer, a pick would not last: the lists are disabled on the screen.
+// The controls of the model stay enabled.
+void LockClockLists(Bindings& bindings) {
+  auto& form = bindings.Model().frmMain;
+  std::vector<QWidget*> fields;
+  const auto add = [&](const controls::List& list) {
+    fields.push_back(bindings.WidgetOf(list)->parentWidget());
+  };
+  for (const auto* list : {&form.ComboMonth, &form.ComboYear, &form.ComboHR, &form.ComboMin, &form.ComboSec})
+    add(*list);
+  add(form.ComboDay.front());
+  bindings.OnRefresh([fields, &form, follows = ChangeDetector<bool>()]() mutable {
+    if (!follows.Update(form.CheckTD.checked)) return false;
+    for (auto* field : fields) field->setEnabled(!form.CheckTD.checked);
+    return false;
+  });
 }
 
 void ClockColumn(Bindings& bindings, PageColumn& column) {
@@ -132,15 +238,18 @@ void ClockColumn(Bindings& bindings, PageColumn& column) {
                     {{"ComboYear"}, "year"}})
       .Row("Time", {{{"ComboHR"}, "hour"}, {{"ComboMin"}, "minute"}, {{"ComboSec"}, "second"}})
       .FullWidth(SetTime(bindings));
+  LockClockLists(bindings);
   column.Section("FrameDemo").Unlabelled("DemoMode").Row("CharacterList").Row("DemoType").Row("DemoSpeed");
 }
 
 }  // namespace
 
 QWidget* BuildRemotePage(Bindings& bindings) {
+  ActionFocus focus(bindings);
   Page page(bindings, bindings.Model().frmMain.form);
   LinkColumn(bindings, page.Column(5, kLinkWidth));
   ClockColumn(bindings, page.Column(4));
+  focus.Follow();
   return page.Finish({});
 }
 

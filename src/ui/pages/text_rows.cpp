@@ -1,15 +1,54 @@
 #include "ui/pages/text_rows.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <algorithm>
+#include <functional>
+#include <utility>
 
 #include "ui/kit/box_layouts.h"
 
 namespace ovl::ui {
+namespace {
+
+class Opener : public QObject {
+ public:
+  Opener(QWidget& shown, std::function<void()> open) : QObject(&shown), open_(std::move(open)) {
+    shown.installEventFilter(this);
+  }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::MouseButtonRelease) {
+      const auto* line = qobject_cast<QLineEdit*>(watched);
+      const bool marks = line != nullptr && line->hasSelectedText();
+      if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton && !marks) open_();
+      return false;
+    }
+    if (event->type() != QEvent::KeyPress) return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Space) return false;
+    open_();
+    return true;
+  }
+
+ private:
+  std::function<void()> open_;
+};
+
+}  // namespace
+
+void OpenWithButton(Bindings& bindings, QWidget& shown, controls::Button& button) {
+  new Opener(shown, [&bindings, &button] { bindings.Act(core::ClickEvent{&button}); });
+  shown.setCursor(Qt::PointingHandCursor);
+  const auto how = QStringLiteral("A click opens its window.");
+  shown.setToolTip(shown.toolTip() + QLatin1Char(' ') + how);
+  shown.setAccessibleDescription(shown.toolTip());
+}
 
 void AddTextRow(Bindings& bindings, PageColumn& column, const char* name, const char* button,
                 ButtonPlace place) {
@@ -26,6 +65,7 @@ void AddTextRow(Bindings& bindings, PageColumn& column, const char* name, const 
   auto* line = static_cast<QLineEdit*>(widget(name));
   line->setFixedWidth(kStoredTextWidth);
   QObject::connect(line, &QLineEdit::textChanged, line, [line] { line->home(false); });
+  OpenWithButton(bindings, *line, *std::get<controls::Button*>(bindings.Named(form, button).control));
 }
 
 void AddTitleRows(Bindings& bindings, PageColumn& column) {

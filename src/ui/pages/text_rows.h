@@ -6,13 +6,17 @@
 namespace ovl::ui {
 
 // The widths of a stored text and of its button in a row.
-inline constexpr int kStoredTextWidth = 220;
-inline constexpr int kSetButtonWidth = 150;
+inline constexpr Em kStoredTextWidth(18.33);
+inline constexpr Em kSetButtonWidth(12.5);
 
 // Adds a read-only text that shows its beginning, with its own caption, and the button beside it or below it.
 enum class ButtonPlace { kBeside, kBelow };
 void AddTextRow(Bindings& bindings, PageColumn& column, const char* name, const char* button,
                 ButtonPlace place);
+
+// A widget that only shows a value opens the window of the value like its button: with a click, Enter or
+// Space.
+void OpenWithButton(Bindings& bindings, QWidget& shown, controls::Button& button);
 
 // The title that the unit shows in the picture, on the panel of time and date.
 void AddTitleRows(Bindings& bindings, PageColumn& column);

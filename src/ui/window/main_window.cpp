@@ -1,6 +1,8 @@
 #include "ui/window/main_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QFile>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
@@ -8,6 +10,7 @@
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
@@ -16,14 +19,24 @@
 #include "ui/acts/copy_slot_window.h"
 #include "ui/dialogs/changes_window.h"
 #include "ui/kit/box_layouts.h"
+#include "ui/kit/theme.h"
 #include "ui/pages/pages.h"
 #include "ui/window/advice_bar.h"
 #include "ui/window/status_strip.h"
+#include "ui/window/view_menu.h"
+#include "ui/window/window_icon.h"
 
 namespace ovl::ui {
 namespace {
 
-constexpr QSize kLeastSize(640, 360);  // smaller pages scroll
+constexpr Em kStartWidth(86.67), kStartHeight(58.33);
+constexpr Em kLeastWidth(40), kLeastHeight(24);  // smaller pages scroll
+constexpr Em kFrameHeight(3);                    // of the title that a window manager adds
+
+// What the screen has for a window without its frame.
+QSize RoomOn(const QScreen& screen) {
+  return screen.availableSize() - QSize(0, kFrameHeight);
+}
 
 // Sets the focus to the first usable widget from here on: the widget that had the focus may be hidden now.
 void FocusFirstUsable(QWidget& start) {
@@ -44,9 +57,13 @@ MainWindow::MainWindow(Bindings& bindings, OwnActs own_acts)
       status_(new StatusStrip(bindings)),
       changes_(new ChangesWindow(bindings, this)) {
   const auto& form = bindings_.Model().frmMain.form;
+  bindings_.OnRefresh([this] {
+    focus_before_ = focusWidget();
+    return false;
+  });
   setObjectName(host::FromWindows1252(form.name));
-  setMinimumSize(kLeastSize);
-  resize(kStartSize.boundedTo(screen()->availableSize()));
+  setMinimumSize(QSize(kLeastWidth, kLeastHeight).boundedTo(RoomOn(*screen())));
+  resize(StartSize().boundedTo(RoomOn(*screen())));
   BuildTabs();
   BuildMenus();
   BindTitle();
@@ -56,6 +73,10 @@ MainWindow::MainWindow(Bindings& bindings, OwnActs own_acts)
   changes_button_ = BuildChangesButton(bindings, *changes_);
   changes_button_->setFixedHeight(StatusStrip::LineHeight(*changes_button_));
   status_->AddButton(changes_button_);
+}
+
+QSize MainWindow::StartSize() {
+  return {kStartWidth, kStartHeight};
 }
 
 void MainWindow::BuildTabs() {
@@ -158,6 +179,8 @@ void MainWindow::BuildMenus() {
   auto* edit = BuildEditMenu(*menuBar(), bindings_, own_acts_);
   edit->addSeparator();
   AddCopySlotItems(bindings_, *edit, *this);
+  BuildViewMenu(*menuBar(), QFile::decodeName(bindings_.Model().platform.program_folder.c_str()),
+                [this](const QString& problem) { status_->ShowHint(problem); });
   BuildVersionMenu();
   help_menu_ = bindings_.SubMenu(*menuBar(), form.HelpMenu);
 }
@@ -208,7 +231,7 @@ bool MainWindow::ShowAsModelSays() {
 void MainWindow::EnableAsModelSays() {
   const auto& form = bindings_.Model().frmMain.form;
   if (!enabled_.Update(form.enabled)) return;
-  if (!form.enabled) last_focus_ = focusWidget();
+  if (!form.enabled) last_focus_ = focus_before_;
   // The window itself stays enabled: otherwise its child windows would be disabled too.
   menuBar()->setEnabled(form.enabled);
   tabs_->setEnabled(form.enabled);
@@ -223,7 +246,10 @@ void MainWindow::RenewMnemonics() {
 
 void MainWindow::paintEvent(QPaintEvent* event) {
   QMainWindow::paintEvent(event);
-  if (first_painted) std::exchange(first_painted, nullptr)();
+  if (!first_painted) return;
+  std::exchange(first_painted, nullptr)();
+  // The window is on the screen before its icon is drawn.
+  QTimer::singleShot(0, this, [] { QApplication::setWindowIcon(WindowIcon()); });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -20,7 +20,7 @@ class StatusStrip;
 class MainWindow : public QMainWindow {
  public:
   // The size on a screen that has room for it.
-  static constexpr QSize kStartSize{1040, 700};
+  static QSize StartSize();
 
   MainWindow(Bindings& bindings, OwnActs own_acts);
 
@@ -76,7 +76,8 @@ class MainWindow : public QMainWindow {
   QPushButton* changes_button_ = nullptr;
   QMenu* version_menu_ = nullptr;
   QMenu* help_menu_ = nullptr;
-  QPointer<QWidget> last_focus_;
+  QPointer<QWidget> focus_before_;  // this refresh, which may hide or disable its widget
+  QPointer<QWidget> last_focus_;    // before another window blocked this one
   ChangeDetector<bool> enabled_;
   Letters menu_letters_;
 };

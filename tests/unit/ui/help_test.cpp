@@ -11,6 +11,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
+#include <QTextBlock>
 #include <QTextBrowser>
 #include <QTimer>
 
@@ -166,6 +167,8 @@ TEST_F(HelpWindowTest, OpensTheExplanationOfABoxInItsOwnWindow) {
     Press(*box, Qt::Key_F1);
     EXPECT_EQ(Help()->parentWidget(), box) << "the box holds back every other window";
     shown = Page().source().toString();
+    Show();
+    EXPECT_EQ(Page().cursorForPosition({8, 8}).block().text(), "Connection Time Out");
     box->close();
   });
   ui::ShowBox(&Main(), core::BoxOf(core::Box::kTimeOut, {}));

@@ -3,10 +3,13 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
+#include <QShortcut>
 #include <set>
 
 #include "screen.h"
 #include "support/register_facts.h"
+#include "ui/kit/widgets.h"
 
 namespace ovl::testing {
 namespace {
@@ -141,6 +144,63 @@ TEST_F(ScreenTest, TheMicrosWindowShowsOnePanelAndStoresOnlyWithSet) {
   Click("CMD3700Set");
   EXPECT_FALSE(window.isVisible());
   EXPECT_EQ(image[ECRDIGIT_7], "04");
+}
+
+TEST_F(ScreenTest, TheMicrosWindowStaysOnTheScreenWithEveryPanel) {
+  auto& window = Window(App().frmMicros.form);
+  const auto room = window.screen()->availableGeometry();
+  Select("MICROS");
+  for (const int option : {1, 3, 2, 3}) {
+    Main().move(room.bottomRight() - QPoint(60, 60));
+    Click("OpMicros(" + std::to_string(option) + ")");
+    EXPECT_TRUE(window.isVisible() && room.contains(window.frameGeometry())) << option;
+    Click("OpMicros(0)");
+    program->Act(core::CloseEvent{&App().frmMicros.form});
+    Show();
+  }
+  Click("OpMicros(2)");
+  window.move(room.bottomRight());
+  emit window.screen()->availableGeometryChanged(room);
+  EXPECT_TRUE(room.contains(window.frameGeometry())) << "the screen has changed";
+}
+
+TEST_F(ScreenTest, TheFilterShowsRegistersWithAllItsWordsAndAPickSendsTheTruePosition) {
+  auto& list = Find<ui::ListBox>("ComboReg");
+  auto& filter = Find<QLineEdit>("RegisterFilter");
+  const auto& model = App().frmMain.ComboReg;
+  const auto shown = [&] {
+    QStringList names;
+    for (int row = 0; row < list.count(); ++row) {
+      if (!list.isRowHidden(row)) names.append(list.item(row)->text());
+    }
+    return names;
+  };
+  Main().Tabs().setCurrentIndex(kRegisterTab);
+  emit filter.findChild<QShortcut*>()->activated();
+  EXPECT_EQ(Focus(), "RegisterFilter");
+  Type("Way dress");
+  EXPECT_EQ(shown(), QStringList("DRESSER WAYNE"));
+  EXPECT_EQ(model.position, 0);
+  Keys({Qt::Key_Down});
+  EXPECT_EQ(Focus(), "ComboReg");
+  Type("i");
+  Keys({Qt::Key_Return});
+  EXPECT_EQ(model.Text(), "DRESSER WAYNE") << "a hidden register is not found by its letter";
+  EXPECT_EQ(list.Marked(), model.position);
+
+  const int picked = model.position;
+  filter.setFocus();
+  Keys({Qt::Key_Escape});
+  EXPECT_EQ(shown().size(), list.count());
+  EXPECT_EQ(list.currentRow(), picked);
+  Type("tec");
+  EXPECT_TRUE(shown().contains("TEC") && !shown().contains("IBM")) << shown().join(' ').toStdString();
+  Keys({Qt::Key_Return, Qt::Key_Escape});
+  EXPECT_EQ(list.Marked(), picked);
+  filter.setText("no such register");
+  Keys({Qt::Key_Return});
+  EXPECT_EQ(model.position, picked);
+  EXPECT_EQ(Find<QLabel>("RegisterCount").text(), "No register has these words.");
 }
 
 TEST_F(ScreenTest, TheSubMenuFollowsTheChosenModel) {

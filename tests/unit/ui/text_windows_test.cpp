@@ -1,4 +1,6 @@
 // The windows for texts and values, and open lists, used only with the keyboard.
+#include <QMouseEvent>
+
 #include "core/actions.h"
 #include "screen.h"
 
@@ -31,6 +33,41 @@ TEST_F(ScreenTest, EachOfTheThreeTextsCanBeTypedInTheTextWindow) {
   }
 }
 
+void ClickOn(QWidget& widget) {
+  const QPointF place(4, 4);
+  for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+    QMouseEvent event(type, place, widget.mapToGlobal(place), Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &event);
+  }
+}
+
+TEST_F(ScreenTest, AClickOrEnterInAShownValueOpensItsWindow) {
+  auto& app = App();
+  const std::tuple<const char*, int, const controls::Form*> rows[] = {
+      {"TextTrigger", kAlarmTab, &app.frmSetEXCPSTR.form},
+      {"TextException", kExceptionTab, &app.frmSetEXCPSTR.form},
+      {"TextRANGE(1)", kExceptionTab, &app.frmSetRange.form},
+      {"Title_Text", kTitleTab, &app.frmSetEXCPSTR.form}};
+  for (const auto& [name, tab, form] : rows) {
+    SCOPED_TRACE(name);
+    FocusOn(name, tab);
+    Show();
+    ClickOn(Find(name));
+    Show();
+    EXPECT_TRUE(form->visible);
+    Keys({Qt::Key_Escape});
+    EXPECT_FALSE(form->visible);
+    if (Find(name).focusPolicy() == Qt::NoFocus) continue;
+    EXPECT_EQ(Focus(), name);
+    Keys({Qt::Key_Return});
+    EXPECT_TRUE(form->visible);
+    Keys({Qt::Key_Escape});
+  }
+  app.frmMain.cmdSetExcpstr.enabled = false;
+  ClickOn(Find("TextException"));
+  EXPECT_FALSE(app.frmSetEXCPSTR.form.visible) << "its button could not be pressed either";
+}
+
 TEST_F(ScreenTest, TypingReplacesFillingBlanksAndTooLongATextIsRefusedWithAReason) {
   auto& app = App();
   const auto padded = [](std::string seen) { return seen.append(40 - seen.size(), ' '); };
@@ -60,7 +97,16 @@ TEST(RangeWindow, ItsValuesCanBeTyped) {
   EXPECT_EQ(
       screen.NamesOfRound(),
       "Range_Hi SubRange_Hi Range_Low SubRange_Low ComboDec frmSetRange.cmdClr frmSetRange.cmdSetRange ");
-  screen.Type("7");
+  const auto& hint = screen.Find<QLabel>("RangeHint");
+  const auto usual = hint.text();
+  EXPECT_TRUE(usual.contains("4 digits") && usual.contains("2 behind")) << usual.toStdString();
+  screen.Type("7x");
+  EXPECT_EQ(hint.text(), "Only digits can be typed here.");
+  screen.Type("890");
+  EXPECT_EQ(hint.text(), usual);
+  screen.Type("1");
+  EXPECT_EQ(hint.text(), "No more than 4 digits fit here.");
+  EXPECT_EQ(screen.App().frmSetRange.Range_Hi.text, "7890");
   screen.Keys({Qt::Key_Escape});
   EXPECT_EQ(values[0].caption, before);
   screen.Keys({Qt::Key_Return});

@@ -1,6 +1,8 @@
 // The windows show the model, and what a user does in them reaches it.
+#include <QAbstractItemView>
 #include <QAction>
 #include <QImage>
+#include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -12,6 +14,7 @@
 #include "pictures/pictures.h"
 #include "screen.h"
 #include "ui/pages/transfer_progress.h"
+#include "ui/window/view_menu.h"
 
 namespace ovl::testing {
 namespace {
@@ -22,6 +25,10 @@ using WindowsTest = ScreenTest;
 
 TEST_F(WindowsTest, TheTabKeyVisitsEveryUsableControlInReadingOrder) {
   for (auto& button : App().frmMain.CmdUpDow) button.enabled = button.visible = true;
+  EXPECT_TRUE(App().frmMain.CheckTD.checked);
+  EXPECT_TRUE(App().frmMain.ComboHR.enabled && !Find("ComboHR").isEnabled())
+      << "the clock would take a pick back";
+  Click("CheckTD");
   FocusOn("cmdConnect", kRemoteTab);
   const auto names = NamesOfRound();
   EXPECT_TRUE(names.starts_with(
@@ -96,14 +103,26 @@ TEST_F(WindowsTest, FormsFollowTheModelAndArrowsMoveThroughTheirOptions) {
   EXPECT_EQ(Focus(), "cmdDisConnect");
 }
 
+TEST_F(WindowsTest, TheEntriesOfAnOpenListAreAsTallAsItsField) {
+  Main().Tabs().setCurrentIndex(kLineTab);
+  auto& list = Find<QComboBox>("ComboCOMM(1)");
+  list.showPopup();
+  Show();
+  EXPECT_GE(list.view()->sizeHintForRow(0), list.height());
+  list.hidePopup();
+}
+
 TEST_F(WindowsTest, ATransferShowsItsProgressAndItsEndStaysUntilItIsConfirmed) {
   auto& app = App();
   auto& end = Window(app.frmOK_buttom.form);
   const auto& bar = Find<QProgressBar>("vbalProgressBar1");
-  Main().Tabs().setCurrentIndex(kRemoteTab);
+  app.frmMain.EnableActions(true);
+  Show();
+  FocusOn("CmdUpDow(0)", kRemoteTab);
   link::BeginUpload(app);
   Show();
   EXPECT_TRUE(bar.isVisible());
+  EXPECT_EQ(Focus(), "vbalProgressBar1") << "on Disconnect one more Enter would end the upload";
   EXPECT_EQ(ui::TransferProgressText(app), "waiting for the unit");
   app.FrameState = 1;
   app.StreamBuffer.assign(1530, '0');
@@ -119,6 +138,29 @@ TEST_F(WindowsTest, ATransferShowsItsProgressAndItsEndStaysUntilItIsConfirmed) {
   EXPECT_EQ(app.LinkMode, core::kLinkIdle);
   EXPECT_TRUE(!end.isVisible() && Main().Tabs().isEnabled());
   EXPECT_EQ(ui::TransferProgressText(app), "");
+  EXPECT_EQ(Focus(), "CmdUpDow(4)");
+}
+
+TEST_F(WindowsTest, TheFileOfASavedHistoryIsNamed) {
+  auto& app = App();
+  Main().Tabs().setCurrentIndex(kRemoteTab);
+  Show();
+  const auto& line = Find<QLabel>("HistoryPlace");
+  const auto end = [&](bool open, const std::string& note) {
+    app.HistoryPending = true;
+    Show();
+    EXPECT_FALSE(line.isVisible());
+    app.frmMain.MSComm1.PortOpen = open;
+    app.CurrentFilePath = "/home/shop/Monday.txt";
+    app.StatusNote = note;
+    app.HistoryPending = false;
+    Show();
+    return line.isVisible();
+  };
+  EXPECT_TRUE(end(true, ""));
+  EXPECT_EQ(line.text(), "The history is in /home/shop/Monday.txt.");
+  EXPECT_FALSE(end(true, "/home/shop/Monday.txt: No space left on device"));
+  EXPECT_FALSE(end(false, "")) << "disconnected before it came";
 }
 
 TEST_F(WindowsTest, TheAboutBoxShowsProgramFirmwareQtAndLicence) {
@@ -186,8 +228,33 @@ TEST(Theme, TextHasEnoughContrastInBothThemes) {
           std::minmax({Luminance(palette.color(text)), Luminance(palette.color(ground))});
       EXPECT_GE((more + 0.05) / (less + 0.05), 4.5) << text << " on " << ground;
     }
+    const auto [less, more] =
+        std::minmax({Luminance(ui::DangerColor(palette)), Luminance(palette.color(P::Button))});
+    EXPECT_GE((more + 0.05) / (less + 0.05), 4.5);
     EXPECT_NE(palette.color(P::Disabled, P::WindowText), ui::MutedColor(palette));
   }
+}
+
+TEST_F(WindowsTest, AThemeOfTheViewMenuShowsAtOnceAndIsKept) {
+  const auto dark = [] { return QApplication::palette().color(QPalette::Window).lightness() < 128; };
+  const auto path = QString::fromStdString(folder.Path().string());
+  EXPECT_EQ(ui::ChosenTheme(path), ui::Theme::kDesktop);
+  const std::tuple<const char*, ui::Theme, bool> rows[] = {{"menuDark", ui::Theme::kDark, true},
+                                                           {"menuAsSystem", ui::Theme::kDesktop, false},
+                                                           {"menuDark", ui::Theme::kDark, true},
+                                                           {"menuLight", ui::Theme::kLight, false}};
+  for (const auto& [item, theme, is_dark] : rows) {
+    Find<QAction>(item).trigger();
+    EXPECT_EQ(dark(), is_dark) << item;
+    EXPECT_EQ(ui::ChosenTheme(path), theme) << item;
+  }
+  emit Find<QMenu>("ViewMenu").aboutToShow();
+  EXPECT_TRUE(Find<QAction>("menuLight").isChecked());
+  std::filesystem::remove(folder.Path() / "window.ini");
+  std::filesystem::create_directory(folder.Path() / "window.ini");
+  Find<QAction>("menuDark").trigger();
+  EXPECT_TRUE(dark());
+  EXPECT_NE(Note().find("window.ini: "), std::string::npos) << Note();
 }
 
 TEST(Pictures, ThereIsOneOfEveryStateInBothThemes) {
@@ -196,7 +263,7 @@ TEST(Pictures, ThereIsOneOfEveryStateInBothThemes) {
   const auto folder = QString::fromStdString(site.Path().string());
   WriteFile(shots.File("file"), "");
   const auto save = [&](const std::string& below) {
-    return pictures::SavePictures(folder, folder, QString::fromStdString(below));
+    return pictures::SavePictures(folder, folder, QString::fromStdString(below), ui::MainWindow::StartSize());
   };
   const auto blocked = shots.File("file");
   EXPECT_EQ(save(blocked).Problem().Text(), blocked + "/light: Not a directory");

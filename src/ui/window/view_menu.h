@@ -1,0 +1,21 @@
+// The View menu: light, dark, or as the desktop. The choice is kept in the program folder.
+#pragma once
+
+#include <QString>
+#include <functional>
+
+#include "core/failure.h"
+#include "ui/kit/theme.h"
+
+class QMenuBar;
+
+namespace ovl::ui {
+
+// The theme that the user has chosen in this program folder; that of the desktop before a first choice.
+Theme ChosenTheme(const QString& program_folder);
+core::Result KeepTheme(const QString& program_folder, Theme theme);
+
+// `report` shows the problem when a choice cannot be kept.
+void BuildViewMenu(QMenuBar& bar, const QString& program_folder, std::function<void(const QString&)> report);
+
+}  // namespace ovl::ui
