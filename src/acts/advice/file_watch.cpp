@@ -72,13 +72,13 @@ void FileWatch::WatchOpen(const core::Application& app) {
     Add(renewed_, AdviceId::kNextPickSwallowed);
     return;
   }
-  if (image::OutcomeOfOpening(app.StreamText, app.firmware) != image::OpenOutcome::kLoads) {
+  if (image::OutcomeOfOpening(app.StreamText, app.image_firmware) != image::OpenOutcome::kLoads) {
     refused_ = app.CurrentFilePath;
     Add(renewed_, AdviceId::kFileRefused);
     return;
   }
   TakenIn();
-  if (image::FitsFirmware(app.StreamText, app.firmware)) return;
+  if (image::FitsFirmware(app.StreamText, app.image_firmware)) return;
   misread_ = app.CurrentFilePath;
   misread_image_ = app.known_image;
   Add(renewed_, AdviceId::kFileMisread);
