@@ -37,14 +37,14 @@ bool IsUsed(const core::Application& app, SlotKind kind, int number) {
     return image::AlarmTrigger(app.image.at(ALMSTRUCT_BAK, number)) != image::kNoTrigger;
   const auto& slot = app.image.at(EXCPSTRS, number);
   if (codecs::HasBit(codecs::HexToInt(slot), image::kFreeBit)) return false;
-  return image::ExceptionText(slot, app.firmware).find_first_not_of(' ') != std::string::npos;
+  return image::ExceptionText(slot, app.image_firmware).find_first_not_of(' ') != std::string::npos;
 }
 
 bool HasField(const core::Application& app, image::FieldId field) {
   for (const auto& row : image::FieldTable()) {
     if (row.id == field) {
-      return image::InStream(row, firmware::LayoutOf(app.firmware), app.firmware,
-                             firmware::CapabilitiesOf(app.firmware), image::Direction::kWrite);
+      return image::InStream(row, firmware::LayoutOf(app.image_firmware), app.image_firmware,
+                             firmware::CapabilitiesOf(app.image_firmware), image::Direction::kWrite);
     }
   }
   return false;

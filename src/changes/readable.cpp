@@ -61,7 +61,7 @@ class Comparison {
 
   void Add(const FieldDifference& difference) {
     auto left = DifferentBits(difference.before, difference.after);
-    for (const auto& group : SitesOf(difference, app_.firmware)) AddGroup(group, difference, left);
+    for (const auto& group : SitesOf(difference, app_.image_firmware)) AddGroup(group, difference, left);
     if (SpanOf(left).count != 0) AddUnshown(difference, SpanOf(left));
   }
 
@@ -181,7 +181,7 @@ class Comparison {
 
 std::vector<SettingChange> ReadableChanges(const core::Application& app, const image::ConfigImage& before,
                                            const image::ConfigImage& after) {
-  const auto differences = image::Differences(before, after, app.firmware);
+  const auto differences = image::Differences(before, after, app.image_firmware);
   if (differences.empty()) return {};
   Comparison comparison(app, before, after);
   for (const auto& difference : differences) comparison.Add(difference);

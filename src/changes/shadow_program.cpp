@@ -41,7 +41,7 @@ struct WordsIn {
 }  // namespace
 
 ShadowProgram::ShadowProgram(const core::Application& like, const image::ConfigImage& image) : image_(image) {
-  app_.firmware = like.firmware;
+  app_.firmware = app_.image_firmware = like.image_firmware;
   app_.Setting_Code = like.Setting_Code;
   PrepareCapabilities(app_);
   panels::WirePanels(app_);

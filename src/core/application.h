@@ -71,8 +71,10 @@ struct Application {
   controls::RangeForm frmSetRange;
   controls::AboutForm frmAbout;
 
-  // Firmware, read once at start
+  // Firmware, read once at start. A pick in the Version menu replaces `firmware` by that of the next start
+  // while its message box is shown; the image still belongs to the earlier one.
   firmware::FirmwareId firmware;
+  firmware::FirmwareId image_firmware;
   firmware::Capabilities capabilities;
   std::map<std::string, bool, std::less<>> FirmwareMark;           // by the joined firmware text
   std::map<std::string, std::int16_t, std::less<>> RegisterIndex;  // by register key; -1: not in the list

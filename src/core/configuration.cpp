@@ -51,11 +51,4 @@ std::string SectionsToStream(Application& app) {
   return ComposeStream(app, firmware::LayoutOf(app.firmware), image::WriteRegion(app.firmware));
 }
 
-std::string ReopenableStream(const Application& app) {
-  const auto sections = image::WriteSections(app.image, firmware::LayoutOf(app.firmware), app.firmware,
-                                             firmware::CapabilitiesOf(app.firmware));
-  return image::BlockRecords(sections.SYSCFG + sections.SYSFIXED + sections.SYSSTR,
-                             image::ReadRegion(app.firmware));
-}
-
 }  // namespace ovl::core

@@ -24,7 +24,4 @@ std::string ComposeStream(Application& app, firmware::Layout layout, const image
 // The stream that a download sends. The sections are left in the application object.
 std::string SectionsToStream(Application& app);
 
-// The image as a stream that opens again under the same firmware.
-std::string ReopenableStream(const Application& app);
-
 }  // namespace ovl::core

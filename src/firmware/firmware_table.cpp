@@ -1,6 +1,9 @@
 #include "firmware/firmware_table.h"
 
+#include <algorithm>
 #include <array>
+
+#include "firmware/traits.h"
 
 namespace ovl::firmware {
 namespace {
@@ -20,6 +23,12 @@ constexpr auto kFirmware = std::to_array<FirmwareEntry>({
 
 std::span<const FirmwareEntry> FirmwareTable() {
   return kFirmware;
+}
+
+FirmwareId ServedFirmware(std::string_view joined) {
+  const auto release = std::min(joined.rfind('R'), joined.size());
+  const FirmwareId named{std::string(joined.substr(0, release)), std::string(joined.substr(release))};
+  return IsCompact(named) ? ServedAs(named) : named;
 }
 
 }  // namespace ovl::firmware

@@ -19,4 +19,7 @@ struct FirmwareEntry {
 // In menu order. The last one is not in the menu; only the settings store can select it.
 std::span<const FirmwareEntry> FirmwareTable();
 
+// The firmware with this joined name, such as "V1400R12", as the program serves it.
+FirmwareId ServedFirmware(std::string_view joined);
+
 }  // namespace ovl::firmware

@@ -114,7 +114,7 @@ OpenOutcome OutcomeOfOpening(std::string_view stream, const firmware::FirmwareId
   std::string digits;
   switch (ParseRecords(stream, ReadRegion(firmware), digits)) {
     case ParseResult::kOk:
-      return OpenOutcome::kLoads;
+      return FitsFirmware(stream, firmware) ? OpenOutcome::kLoads : OpenOutcome::kShifts;
     case ParseResult::kOtherFirmware:
       return OpenOutcome::kRefused;
     default:

@@ -45,7 +45,12 @@ struct FirmwareFit {
 std::vector<FirmwareFit> FittingFirmware(std::string_view stream);
 
 // What the program does when it opens the stream under a firmware.
-enum class OpenOutcome { kLoads, kRefused, kEndsProgram };
+enum class OpenOutcome {
+  kLoads,
+  kShifts,  // loads it, but reads fields at the wrong place: the stream has the length of another layout
+  kRefused,
+  kEndsProgram,
+};
 OpenOutcome OutcomeOfOpening(std::string_view stream, const firmware::FirmwareId& firmware);
 
 }  // namespace ovl::image

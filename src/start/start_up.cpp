@@ -83,6 +83,7 @@ void BuildForFirmware(core::Application& app) {
   MarkFirmwareMenu(app, true);
   for (auto& label : app.frmMain.lbVersionID) label.caption = app.firmware.Joined();
   ApplyCompactFirmware(app);
+  app.image_firmware = app.firmware;
   registers::ResetRegisterIndexes(app);
   registers::BuildRegisterList(app);
   firmware::ApplyFirmwareVariants(app.frmMain, app.firmware);

@@ -10,8 +10,9 @@
 #include <array>
 #include <filesystem>
 
-#include "core/configuration.h"
+#include "firmware/traits.h"
 #include "host/text_codec.h"
+#include "image/field_map.h"
 #include "image/record_stream.h"
 #include "pictures/sample_settings.h"
 #include "ui/acts/copy_slot_window.h"
@@ -67,6 +68,16 @@ class SimulatedPort {
   char character_ = '\0';
   bool written_ = false;
 };
+
+// The image as a unit sends it. Under a firmware that no unit has, the program reads another memory region
+// than it writes, and the image can be empty.
+std::string StreamOfUnit(const core::Application& app) {
+  const auto& firmware = app.image_firmware;
+  const auto sections = image::WriteSections(app.image, firmware::LayoutOf(firmware), firmware,
+                                             firmware::CapabilitiesOf(firmware));
+  return image::BlockRecords(sections.SYSCFG + sections.SYSFIXED + sections.SYSSTR,
+                             image::ReadRegion(firmware));
+}
 
 class Photographer {
  public:
@@ -256,12 +267,13 @@ class Photographer {
   }
 
   void TakeUpload() {
-    const auto stream = SectionsToStream(App());
+    const auto stream = StreamOfUnit(App());
+    const auto part = std::min(kPartOfUpload, stream.size() / 2);
     Click(App().frmMain.CmdUpDow[controls::kUpload]);
     port_.SendCharacters(static_cast<int>(App().UploadCommandText.size()));
-    port_.ReceiveFromUnit(std::string_view(stream).substr(0, kPartOfUpload));
+    port_.ReceiveFromUnit(std::string_view(stream).substr(0, part));
     Take(Main(), QStringLiteral("remote_uploading"));
-    port_.ReceiveFromUnit(std::string_view(stream).substr(kPartOfUpload));
+    port_.ReceiveFromUnit(std::string_view(stream).substr(part));
     TakeForm(App().frmOK_buttom.form, QStringLiteral("transfer_end"));
     Click(App().frmOK_buttom.Command1);
   }

@@ -9,6 +9,7 @@
 #include "script/advice_statements.h"
 #include "script/change_statements.h"
 #include "script/expectations.h"
+#include "script/file_statements.h"
 #include "script/image_fields.h"
 #include "script/inspection.h"
 #include "script/real_transfer.h"
@@ -350,7 +351,7 @@ constexpr auto kStatements = std::to_array<Statement>({
 std::span<const Statement> Statements() {
   static const auto all = [] {
     std::vector<Statement> statements(kStatements.begin(), kStatements.end());
-    for (const auto more : {UndoStatements(), AdviceStatements(), ChangeStatements()})
+    for (const auto more : {UndoStatements(), AdviceStatements(), ChangeStatements(), FileStatements()})
       statements.insert(statements.end(), more.begin(), more.end());
     return statements;
   }();

@@ -52,9 +52,9 @@ std::string FieldName(const core::UnfitOption& unfit) {
 Advice FileMisread(const core::Application& app, const Observed& observed) {
   const auto path = observed.files.MisreadIn(app);
   if (path.empty()) return {};
-  auto words = FileNameOf(path) + " has not the form of " + app.firmware.Joined() +
+  auto words = FileNameOf(path) + " has not the form of " + app.image_firmware.Joined() +
                ", so everything from the register options on is shifted. Do not download it.";
-  if (!firmware::SavedFileReopens(app.firmware))
+  if (!firmware::SavedFileReopens(app.image_firmware))
     words += " Files that \"Save\" writes under this firmware are such files.";
   return {AdviceId::kCount, {}, words + " Upload again, or open a backup."};
 }
@@ -62,9 +62,9 @@ Advice FileMisread(const core::Application& app, const Observed& observed) {
 Advice FileRefused(const core::Application& app, const Observed& observed) {
   const auto& path = observed.files.Refused();
   if (path.empty()) return {};
-  auto words = FileNameOf(path) + " is no configuration that " + app.firmware.Joined() +
+  auto words = FileNameOf(path) + " is no configuration that " + app.image_firmware.Joined() +
                " opens. Nothing has changed.";
-  if (!firmware::SavedFileReopens(app.firmware))
+  if (!firmware::SavedFileReopens(app.image_firmware))
     words += " Files that \"Save\" writes under this firmware are such files.";
   return {
       AdviceId::kCount, {}, words + " Open a backup, or pick the firmware of the file in the Version menu."};
@@ -92,7 +92,7 @@ Advice UnknownFirmware(const core::Application& app, const Observed&) {
   const auto& menu = app.frmMain.VersionMenu.caption;
   return {AdviceId::kCount,
           {},
-          "The program does not know the firmware " + app.firmware.Joined() +
+          "The program does not know the firmware " + app.image_firmware.Joined() +
               ", so the register list and the tabs are empty. Pick the firmware on the label of the unit in "
               "the " +
               menu + " menu. The program then ends; start it again.",
@@ -113,12 +113,12 @@ Advice OptionsHidden(const core::Application& app, const Observed& observed) {
 
 Advice SavedFile(const core::Application& app, const Observed& observed) {
   const auto& path = observed.files.Saved();
-  if (path.empty() || firmware::SavedFileReopens(app.firmware)) return {};
-  const auto effect = app.firmware.IsV1400() ? " reads it shifted" : " refuses it";
+  if (path.empty() || firmware::SavedFileReopens(app.image_firmware)) return {};
+  const auto effect = app.image_firmware.IsV1400() ? " reads it shifted" : " refuses it";
   return {AdviceId::kCount,
           {},
-          FileNameOf(path) + " is for keeping only: under " + app.firmware.Joined() + " \"Open\"" + effect +
-              ". Use \"" + kSaveBackup + "\" for a file that opens again.",
+          FileNameOf(path) + " is for keeping only: under " + app.image_firmware.Joined() + " \"Open\"" +
+              effect + ". Use \"" + kSaveBackup + "\" for a file that opens again.",
           AdviceAction::kSaveBackup,
           kSaveBackup};
 }

@@ -72,13 +72,14 @@ void FileWatch::WatchOpen(const core::Application& app) {
     Add(renewed_, AdviceId::kNextPickSwallowed);
     return;
   }
-  if (image::OutcomeOfOpening(app.StreamText, app.firmware) != image::OpenOutcome::kLoads) {
+  const auto outcome = image::OutcomeOfOpening(app.StreamText, app.image_firmware);
+  if (outcome != image::OpenOutcome::kLoads && outcome != image::OpenOutcome::kShifts) {
     refused_ = app.CurrentFilePath;
     Add(renewed_, AdviceId::kFileRefused);
     return;
   }
   TakenIn();
-  if (image::FitsFirmware(app.StreamText, app.firmware)) return;
+  if (outcome == image::OpenOutcome::kLoads) return;
   misread_ = app.CurrentFilePath;
   misread_image_ = app.known_image;
   Add(renewed_, AdviceId::kFileMisread);

@@ -56,8 +56,8 @@ bool IsFree(const core::Application& app, int number) {
 }
 
 bool FirstIsAboveSecond(const core::Application& app, const std::string& slot) {
-  const auto first = image::RangeValueOf(slot, app.firmware, 0);
-  const auto second = image::RangeValueOf(slot, app.firmware, 1);
+  const auto first = image::RangeValueOf(slot, app.image_firmware, 0);
+  const auto second = image::RangeValueOf(slot, app.image_firmware, 1);
   const auto one = first.integers + first.decimals;
   const auto other = second.integers + second.decimals;
   return one.size() == other.size() && one > other;
@@ -89,7 +89,7 @@ bool WaitsForFreeExceptions(const core::Application& app, int trigger) {
 
 // An exception that is told to do something and has only blanks to look for.
 bool IsBlankException(const core::Application& app, const std::string& slot) {
-  if (slot.empty() || !IsBlank(image::ExceptionText(slot, app.firmware))) return false;
+  if (slot.empty() || !IsBlank(image::ExceptionText(slot, app.image_firmware))) return false;
   const int flags = codecs::HexToInt(slot);
   const bool acts = codecs::HasBit(flags, image::kDisplayBit) || codecs::HasBit(flags, image::kOutputBit) ||
                     codecs::HasBit(flags, image::kHistoryBit) || codecs::HasBit(flags, image::kScrollBit) ||

@@ -38,15 +38,19 @@ void CommandLine::AddOption(const QString& option, const QString& value, const Q
   parser_.addOption({option, description, value});
 }
 
-void CommandLine::AddArgument(const QString& word, const QString& description) {
-  parser_.addPositionalArgument(word, description);
-  ++arguments_;
+void CommandLine::AddArgument(const QString& word, const QString& description, Need need) {
+  const bool required = need == Need::kRequired;
+  parser_.addPositionalArgument(word, description,
+                                required ? word : QLatin1Char('[') + word + QLatin1Char(']'));
+  ++(required ? required_ : optional_);
 }
 
 std::optional<int> CommandLine::Read(int& argc, char** argv) {
   const bool understood = parser_.parse(WordsOf(argc, argv));
   const bool help = understood && parser_.isSet(QStringLiteral("help"));
-  if (understood && !help && parser_.positionalArguments().size() == arguments_) return std::nullopt;
+  const auto given = parser_.positionalArguments().size();
+  const bool fits = given >= required_ && given <= required_ + optional_;
+  if (understood && !help && fits) return std::nullopt;
   // The help text contains the name of the program, which only an application object knows.
   const QCoreApplication application(argc, argv);
   if (help) {

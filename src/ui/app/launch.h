@@ -20,8 +20,10 @@ class CommandLine {
   CommandLine(const QString& name, const QString& description);
 
   void AddOption(const QString& option, const QString& value, const QString& description);
-  // Adds an argument that must be given, such as "FOLDER".
-  void AddArgument(const QString& word, const QString& description);
+  enum class Need { kRequired, kOptional };
+
+  // Adds an argument, such as "FOLDER". Those that can be left out are last.
+  void AddArgument(const QString& word, const QString& description, Need need = Need::kRequired);
 
   // Reads the command line. Returns the exit status when the program must end: help was asked for, or the
   // arguments are wrong. Needs no application object.
@@ -36,7 +38,7 @@ class CommandLine {
  private:
   QCommandLineParser parser_;
   QString name_;
-  qsizetype arguments_ = 0;
+  qsizetype required_ = 0, optional_ = 0;
 };
 
 // Without a display Qt ends the process while the application object is made. As long as this object lives,

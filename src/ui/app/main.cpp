@@ -1,4 +1,6 @@
 #include <QApplication>
+#include <QFileInfo>
+#include <QTimer>
 #include <cstdlib>
 #include <iostream>
 #include <optional>
@@ -47,6 +49,9 @@ int main(int argc, char** argv) {
   ovl::ui::CommandLine command_line(QStringLiteral("ovl"), kDescription);
   command_line.AddOption(guide_option, QStringLiteral("FILE"),
                          QStringLiteral("writes the installer's guide as a PDF and ends"));
+  command_line.AddArgument(QStringLiteral("FILE"),
+                           QStringLiteral("a configuration that is opened at the start"),
+                           ovl::ui::CommandLine::Need::kOptional);
   if (const auto status = command_line.Read(argc, argv)) return *status;
   ovl::host::OutliveSizeLimit();
   std::optional<ovl::ui::DisplayMessage> no_display(std::in_place);
@@ -62,5 +67,9 @@ int main(int argc, char** argv) {
   ovl::ui::Program program(*folder, command_line.Store());
   if (program.Start() == ovl::core::Outcome::kEnded) return EXIT_FAILURE;
   program.GuardUnsaved();
+  // The file can end the program, which takes effect only while the event loop runs.
+  if (const auto file = command_line.Argument(); !file.isEmpty())
+    QTimer::singleShot(0, &application,
+                       [&program, file] { program.OpenFile(QFileInfo(file).absoluteFilePath()); });
   return QApplication::exec();
 }

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <cstdlib>
 
+#include "acts/unsaved_changes.h"
 #include "changes/also_stored.h"
 #include "host/files.h"
 #include "host/system_clock.h"
@@ -20,6 +21,11 @@ constexpr const char* kHowToSetUp = "\nRoot sets the firmware, for instance: ovl
 constexpr const char* kNotKept =
     "\nThe next start serves the same firmware as this one. Root sets another: ovl-setup ";
 
+bool IsClickOn(const controls::MenuItem& item, const core::Event& event) {
+  const auto* click = std::get_if<core::ClickEvent>(&event);
+  return click != nullptr && &controls::StateOf(click->control) == &item;
+}
+
 }  // namespace
 
 Program::Program(QString folder, QString store_folder)
@@ -34,7 +40,8 @@ Program::Program(QString folder, QString store_folder)
 
 // Windows report a lost focus while they are destroyed. The model must not handle it any more.
 Program::~Program() {
-  if (unsaved_ && !app_.ended) unsaved_->Remove();
+  if (unsaved_ && !app_.ended) unsaved_->End(true);
+  files_.reset();
   const auto going = std::move(windows_);
   app_.ended = true;
 }
@@ -46,10 +53,7 @@ void Program::FillPlatform() {
     RefreshNow();
     ShowBox(windows_ ? windows_->Front() : nullptr, box, BoxDetail(box));
   };
-  platform.ask_file = [this](const core::FileDialog& request) {
-    RefreshNow();
-    return AskFile(windows_ ? windows_->Front() : nullptr, request);
-  };
+  platform.ask_file = [this](const core::FileDialog& request) { return AskForFile(request); };
   platform.read_setting = [this](std::string_view key, std::string_view value) {
     auto found = store_.Read(key, value);
     if (!found) store_problem_ = store_.WhyNotRead() + kHowToSetUp;
@@ -82,6 +86,11 @@ core::Outcome Program::Start() {
   windows_->SetOwnActs(
       [this](const std::string& name, const std::function<void()>& act) { return RunOwn(name, act); });
   windows_->Main().Status().port_problem = [this] { return port_.LastProblem(); };
+  files_ = std::make_unique<FileActs>(
+      app_, windows_->Main(),
+      FileActs::Surroundings{
+          [this](const core::Event& event) { return Act(event); }, [this] { return windows_->Front(); },
+          [this](const QString& text) { windows_->Main().Status().ShowFileMessage(text); }});
   CollectTimers();
   RefreshNow();
   AfterEvent(outcome);
@@ -116,10 +125,11 @@ void Program::CollectTimers() {
 }
 
 core::Outcome Program::Act(const core::Event& event) {
+  const bool ended_before = app_.ended;
   const auto outcome =
       windows_ && !app_.handling && changes::IsAct(event) ? DispatchUserAct(event) : DispatchAny(event);
-  if (unsaved_ && outcome == core::Outcome::kEnded)
-    IsLeaving(event) ? unsaved_->Remove() : unsaved_->WriteNow();
+  if (unsaved_ && !ended_before && outcome == core::Outcome::kEnded)
+    unsaved_->End(acts::DropsUnsavedChanges(app_, event, store_problem_.empty()));
   AfterEvent(outcome);
   return outcome;
 }
@@ -169,21 +179,24 @@ void Program::Follow(const acts::Advice& advice) {
   }
 }
 
-// True when the user ends the program, false when a file or an upload ends it.
-bool Program::IsLeaving(const core::Event& event) {
-  const auto& main = app_.frmMain;
-  if (const auto* close = std::get_if<core::CloseEvent>(&event)) return close->form == &main.form;
-  const auto* click = std::get_if<core::ClickEvent>(&event);
-  return click != nullptr && click->control == controls::ControlRef(&app_.frmMain.menuExit);
-}
-
 core::Outcome Program::DispatchUserAct(const core::Event& event) {
   const auto before = app_.image;
+  opening_ = IsClickOn(app_.frmMain.OpenMenu, event);
   const auto outcome = DispatchAny(event);
-  if (outcome == core::Outcome::kDone) {
-    windows_->SetAlsoStored(host::FromWindows1252(changes::AlsoStored(app_, event, before)));
-  }
+  opening_ = false;
+  if (outcome != core::Outcome::kDone) return outcome;
+  windows_->SetAlsoStored(host::FromWindows1252(changes::AlsoStored(app_, event, before)));
+  if (IsClickOn(app_.frmMain.menuSave, event) && !app_.saved_path.empty())
+    windows_->Main().Status().ShowFileMessage(QStringLiteral("Saved: ") + host::FromSystem(app_.saved_path));
   return outcome;
+}
+
+// The dialog can stay open for long, so changes are guarded before it opens.
+std::optional<core::FileAnswer> Program::AskForFile(const core::FileDialog& request) {
+  RefreshNow();
+  if (unsaved_) unsaved_->WritePending();
+  if (opening_ && files_) return files_->AskForFileToOpen(request);
+  return AskFile(windows_ ? windows_->Front() : nullptr, request);
 }
 
 // Runs after every event. An event during a running handler changes nothing in the model, but the screen must

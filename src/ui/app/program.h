@@ -13,6 +13,7 @@
 #include "host/settings_store.h"
 #include "ui/app/unsaved_copy.h"
 #include "ui/app/windows.h"
+#include "ui/files/file_acts.h"
 
 namespace ovl::ui {
 
@@ -33,6 +34,9 @@ class Program {
   // Called once after the start of a program that a user works with. It reports the copies of earlier runs
   // and keeps a copy of the changes from now on.
   void GuardUnsaved();
+
+  // Opens a file as Open does when its dialog is answered. Only after a start that did not end the program.
+  void OpenFile(const QString& path) { files_->Open(path); }
 
   // Passes one event to the model and updates the screen, the timers and the port. When the program ends by
   // it, the windows close at once and the event loop ends.
@@ -64,7 +68,7 @@ class Program {
   };
 
   void FillPlatform();
-  bool IsLeaving(const core::Event& event);
+  std::optional<core::FileAnswer> AskForFile(const core::FileDialog& request);
   core::Outcome DispatchUserAct(const core::Event& event);
   core::Outcome DispatchAny(const core::Event& event);
   void CollectTimers();
@@ -83,6 +87,8 @@ class Program {
   std::unique_ptr<acts::Advisor> advisor_;
   std::unique_ptr<UnsavedCopy> unsaved_;
   std::unique_ptr<Windows> windows_;
+  std::unique_ptr<FileActs> files_;
+  bool opening_ = false;  // the handler of Open runs
   std::vector<TimerState> timers_;
   QTimer frame_;
 };

@@ -3,10 +3,11 @@
 #include <QFile>
 #include <utility>
 
-#include "core/configuration.h"
+#include "acts/backup.h"
+#include "acts/unsaved_changes.h"
 #include "core/failure.h"
+#include "host/files.h"
 #include "host/text_codec.h"
-#include "image/record_stream.h"
 
 namespace ovl::ui {
 namespace {
@@ -38,6 +39,15 @@ QString WhyNotCreated(const QString& path) {
   return QStringLiteral("its lock cannot be made");
 }
 
+bool OpensAgain(const QString& path, const QString& firmware) {
+  try {
+    const auto bytes = host::ReadFile(QFile::encodeName(path).toStdString());
+    return acts::OpensUnder(bytes, host::ToWindows1252(firmware).value_or(""));
+  } catch (const core::Failure&) {
+    return false;
+  }
+}
+
 }  // namespace
 
 QStringList RescueCopies(const QString& folder) {
@@ -47,6 +57,7 @@ QStringList RescueCopies(const QString& folder) {
     const auto lock = Lock(in.filePath(name));
     if (!lock->tryLock(0)) continue;
     const auto firmware = name.section(QLatin1Char(' '), 1, 1);
+    if (!OpensAgain(in.filePath(name), firmware)) continue;
     const auto kept = NameOf(kRescued, firmware, FreeNumber(in, kRescued, firmware));
     if (QFile::rename(in.filePath(name), in.filePath(kept))) rescued.append(kept);
   }
@@ -56,13 +67,13 @@ QStringList RescueCopies(const QString& folder) {
 UnsavedCopy::UnsavedCopy(const core::Application& app, const QString& folder) : app_(app), folder_(folder) {
   soon_.setSingleShot(true);
   soon_.setInterval(kSoon);
-  soon_.callOnTimeout([this] { WriteNow(); });
+  soon_.callOnTimeout([this] { app_.handling ? soon_.start() : WriteNow(); });
 }
 
 // Takes a name that no file has and no other program is about to take.
 bool UnsavedCopy::TakeName() {
   constexpr int kNamesToTry = 100;
-  const auto firmware = host::FromWindows1252(app_.firmware.Joined());
+  const auto firmware = host::FromWindows1252(acts::FirmwareName(app_));
   for (int number = 0; lock_ == nullptr && number < kNamesToTry;) {
     number = FreeNumber(folder_, kUnsaved, firmware, number + 1);
     path_ = folder_.filePath(NameOf(kUnsaved, firmware, number));
@@ -79,16 +90,20 @@ void UnsavedCopy::WriteSoonIfChanged() {
   if (seen_.Update(app_.image) && !soon_.isActive()) soon_.start();
 }
 
+void UnsavedCopy::WritePending() {
+  if (soon_.isActive()) WriteNow();
+}
+
+void UnsavedCopy::End(bool remove) {
+  soon_.stop();
+  if (remove) Remove();
+}
+
 void UnsavedCopy::WriteNow() {
   soon_.stop();
-  if (app_.image == app_.known_image) return Remove();
+  if (!acts::HasUnsavedChanges(app_)) return Remove();
   if (!TakeName()) return Report(host::FailureOf(path_, WhyNotCreated(path_)));
-  try {
-    app_.platform.files.replace(QFile::encodeName(path_).toStdString(), ReopenableStream(app_) + "\r\n");
-    Report({});
-  } catch (const core::Failure& failure) {
-    Report(failure);
-  }
+  Report(acts::SaveBackup(app_, QFile::encodeName(path_).toStdString()));
 }
 
 void UnsavedCopy::Report(const core::Result& written) const {

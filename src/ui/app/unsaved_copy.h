@@ -15,8 +15,8 @@
 namespace ovl::ui {
 
 // Renames the copies that ended programs have left in the folder to lasting names, such as "rescued V1400R12
-// 1.bin" with the firmware that can open it. The copies of running programs are locked and stay. Returns the
-// new names.
+// 1.bin" with the firmware that can open it. The copies of running programs are locked and stay. So does a
+// file that does not open under the firmware of its name. Returns the new names.
 QStringList RescueCopies(const QString& folder);
 
 class UnsavedCopy {
@@ -26,19 +26,22 @@ class UnsavedCopy {
   UnsavedCopy(const core::Application& app, const QString& folder);
 
   // Starts the timer for writing when the image has changed. The copy is removed instead when the image
-  // equals what was last loaded.
+  // equals what was last loaded. While a handler runs, the timer waits for its end: the image can be between
+  // two states, and the handler can end the program.
   void WriteSoonIfChanged();
 
-  // Writes the copy now; removes it when there are no unsaved changes.
-  void WriteNow();
+  // Writes the copy now if the timer runs. Called before a file dialog, which can stay open for long.
+  void WritePending();
 
-  // Removes the copy, because the user has ended the program.
-  void Remove();
+  // The program has ended. The last copy stays as it is, or is removed. Nothing is written any more.
+  void End(bool remove);
 
   // Called after every attempt to write the copy.
   std::function<void(const core::Result& written)> report;
 
  private:
+  void WriteNow();
+  void Remove();
   bool TakeName();
   void Report(const core::Result& written) const;
 

@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include "host/text_codec.h"
 
@@ -26,11 +27,12 @@ QStringList NameFilters(const std::string& filter) {
   return filters;
 }
 
-// The suffix for a name without one: that of the chosen filter, if the filter has just one.
-QString SuffixOf(const QString& filter) {
+// The suffix for a name without one: that of the chosen filter, if the filter has just one, or else that of
+// the start name.
+QString SuffixFor(const QString& filter, const QFileInfo& start) {
   const auto pattern = filter.section(QLatin1Char('('), 1).chopped(1);
   const bool single = pattern.startsWith(QStringLiteral("*.")) && !pattern.contains(QLatin1Char(' '));
-  return single ? pattern.mid(2) : QString();
+  return single ? pattern.mid(2) : start.suffix().toLower();
 }
 
 }  // namespace
@@ -51,22 +53,35 @@ std::optional<core::FileAnswer> AskFile(QWidget* parent, const core::FileDialog&
   QFileDialog dialog(parent, saves ? QStringLiteral("Save") : QStringLiteral("Open"));
   dialog.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  const QFileInfo start(QFile::decodeName(request.file_name.c_str()));
   const auto filters = NameFilters(request.filter);
   if (!filters.isEmpty()) {
     dialog.setNameFilters(filters);
     const auto chosen = filters.value(request.filter_index - 1, filters.front());
     dialog.selectNameFilter(chosen);
-    dialog.setDefaultSuffix(SuffixOf(chosen));
+    dialog.setDefaultSuffix(SuffixFor(chosen, start));
     QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
-                     [&dialog](const QString& filter) { dialog.setDefaultSuffix(SuffixOf(filter)); });
+                     [&](const QString& filter) { dialog.setDefaultSuffix(SuffixFor(filter, start)); });
   }
-  const QFileInfo start(QFile::decodeName(request.file_name.c_str()));
   if (!request.file_name.empty()) {
     dialog.setDirectory(start.absolutePath());
-    dialog.selectFile(start.fileName());
+    if (!start.fileName().contains(QLatin1Char('*'))) dialog.selectFile(start.fileName());
   }
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   return core::FileAnswer{QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString(), 0};
+}
+
+bool AskWhetherToOpen(QWidget* parent, const QString& text, const QString& detail) {
+  QMessageBox window(QMessageBox::Warning, kProgramName, text, QMessageBox::Cancel, parent);
+  const auto* open = window.addButton(QStringLiteral("Open anyway"), QMessageBox::AcceptRole);
+  window.setDefaultButton(QMessageBox::Cancel);
+  window.setEscapeButton(QMessageBox::Cancel);
+  window.setTextFormat(Qt::PlainText);
+  window.setInformativeText(detail);
+  window.setObjectName(QStringLiteral("OpenQuestion"));
+  window.setProperty(kBoxTopic, QStringLiteral("A file does not fit"));
+  window.exec();
+  return window.clickedButton() == open;
 }
 
 }  // namespace ovl::ui

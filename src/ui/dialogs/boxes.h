@@ -16,7 +16,11 @@ inline constexpr const char* kBoxTopic = "topic";
 
 void ShowBox(QWidget* parent, const core::MessageBox& box, const QString& detail = {});
 
-// Empty when the user cancels.
+// Empty when the user cancels. A start name with "*" is a pattern, so the name field stays empty. A name that
+// the user types without a suffix gets that of the chosen filter, or else of the start name.
 std::optional<core::FileAnswer> AskFile(QWidget* parent, const core::FileDialog& request);
+
+// Asks whether to open a file. True for "Open anyway"; Enter and Escape are "Cancel".
+bool AskWhetherToOpen(QWidget* parent, const QString& text, const QString& detail);
 
 }  // namespace ovl::ui

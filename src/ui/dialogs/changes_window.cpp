@@ -139,7 +139,7 @@ QPushButton* BuildChangesButton(Bindings& bindings, ChangesWindow& window) {
     window.Refresh();
     const bool other_known = known.Update(app.known_image), other_image = image.Update(app.image);
     if (!other_known && !other_image) return false;
-    const auto count = image::Differences(app.known_image, app.image, app.firmware).size();
+    const auto count = image::Differences(app.known_image, app.image, app.image_firmware).size();
     button->setText(CountOf(count, QStringLiteral("change")) +
                     QStringLiteral(" since the last load or download"));
     button->setAccessibleName(button->text());

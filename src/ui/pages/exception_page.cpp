@@ -42,7 +42,7 @@ bool IsListed(const controls::MainForm& form, const Act& act) {
 }
 
 QString ValueText(const core::Application& app, const std::string& slot, std::size_t value) {
-  auto [integers, decimals] = image::RangeValueOf(slot, app.firmware, value);
+  auto [integers, decimals] = image::RangeValueOf(slot, app.image_firmware, value);
   integers.erase(0, std::min(integers.find_first_not_of('0'),
                              integers.size() - std::min<std::size_t>(1, integers.size())));
   return QString::fromStdString(integers + panels::DecimalSeparator(app) + decimals);
@@ -57,7 +57,7 @@ QString RangeText(const core::Application& app, const std::string& slot) {
 }
 
 QString TextOf(const core::Application& app, const std::string& slot) {
-  auto text = image::ExceptionText(slot, app.firmware);
+  auto text = image::ExceptionText(slot, app.image_firmware);
   text.erase(text.find_last_not_of(' ') + 1);
   return host::FromWindows1252(text);
 }

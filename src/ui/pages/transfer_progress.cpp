@@ -29,7 +29,7 @@ std::size_t ExpectedUpload(const firmware::FirmwareId& firmware) {
 Progress UploadProgress(const core::Application& app) {
   if (app.FrameState == 0) return {};
   const auto done = app.StreamBuffer.size();
-  return {done, std::max(ExpectedUpload(app.firmware), done) - done};
+  return {done, std::max(ExpectedUpload(app.image_firmware), done) - done};
 }
 
 Progress DownloadProgress(const core::Application& app) {

@@ -161,6 +161,12 @@ void StatusStrip::ShowHint(const QString& hint) {
   hint_end_.start(kHintTime);
 }
 
+void StatusStrip::ShowFileMessage(const QString& message) {
+  file_message_ = message;
+  note_before_file_ = app_.StatusNote;
+  note_->SetText(Note());
+}
+
 void StatusStrip::ShowTab(int tab) {
   // The order of the labels differs from that of the tabs.
   constexpr std::array kLabelOfTab{0, 1, 2, 5, 4, 6, 3};
@@ -171,6 +177,7 @@ QString StatusStrip::Note() const {
   if (!hint_.isEmpty()) return hint_;
   const auto problem = port_problem ? port_problem() : QString();
   if (!problem.isEmpty()) return problem;
+  if (!file_message_.isEmpty() && note_before_file_ == app_.StatusNote) return file_message_;
   return app_.StatusNote.empty() ? notice_ : host::FromSystem(app_.StatusNote);
 }
 

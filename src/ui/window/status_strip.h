@@ -55,6 +55,9 @@ class StatusStrip : public QWidget {
   // The status bar shows this text when it has no hint and no problem to show.
   void SetNotice(const QString& notice) { notice_ = notice; }
 
+  // Shows what became of a file, until something else goes wrong or another file is named.
+  void ShowFileMessage(const QString& message);
+
   // Shows a hint for a few seconds, instead of the last problem.
   void ShowHint(const QString& hint);
 
@@ -79,7 +82,8 @@ class StatusStrip : public QWidget {
   QLabel* port_;
   CutLabel* note_;
   QStackedWidget* firmware_;
-  QString hint_, notice_;
+  QString hint_, notice_, file_message_;
+  std::string note_before_file_;
   QTimer hint_end_;
 };
 

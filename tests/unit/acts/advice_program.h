@@ -8,7 +8,7 @@
 #include <string>
 
 #include "acts/advice.h"
-#include "core/configuration.h"
+#include "acts/backup.h"
 #include "images/default_images.h"
 #include "script/parser.h"
 #include "script/runner.h"
@@ -68,10 +68,7 @@ class AdviceProgram {
  private:
   void WriteFirst(const firmware::FirmwareId& firmware) const {
     std::filesystem::create_directories(std::filesystem::path(image_).parent_path());
-    core::Application app;
-    app.firmware = firmware;
-    app.image = images::FactoryImage(firmware);
-    WriteFile(image_, core::ReopenableStream(app) + "\r\n");
+    WriteFile(image_, acts::ReopenableFile(images::FactoryImage(firmware), firmware).value());
   }
 
   static void Replace(std::string& text, const std::string& word, const std::string& by) {

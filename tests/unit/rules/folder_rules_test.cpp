@@ -39,7 +39,8 @@ const std::map<std::string, Folders> kWindows = {
     {"ui/pages", {"ui/kit", "ui/frames", "ui/acts"}},
     {"ui/dialogs", {"ui/kit", "ui/pages", "ui/acts"}},
     {"ui/window", {"ui/kit", "ui/acts", "ui/pages", "ui/dialogs"}},
-    {"ui/app", {"ui/kit", "ui/help", "ui/pages", "ui/dialogs", "ui/window"}},
+    {"ui/files", {"ui/kit", "ui/dialogs"}},
+    {"ui/app", {"ui/kit", "ui/help", "ui/pages", "ui/dialogs", "ui/window", "ui/files"}},
 };
 
 std::string RoomOf(const std::string& path) {

@@ -227,9 +227,10 @@ TEST_F(Script, WrongStatementsAreReportedWithTheirPlace) {
       {"wrong number", {"tick Timer x", "tick Timer -1", "drain -1", "wait x", "wait 1x"}},
       {"wrong digits", {"unit 06", "unit hex", "unit hex 6"}},
       {"wrong word", {"clock \"2026-02-30 00:00:00\"", "port down", "expect no sent", "store memory"}},
-      {"one word too many or too few", {"click cmdConnect twice", "expect box", "echo"}},
+      {"one word too many or too few", {"click cmdConnect twice", "expect box", "echo", "backup"}},
       {"no real port", {"upload", "download x"}},
-      {"no such file", {"stream /no/such/folder/file", "diff missing.bin missing.bin"}},
+      {"no such file",
+       {"stream /no/such/folder/file", "diff missing.bin missing.bin", "backup /no/such/folder/file"}},
   };
   for (const auto& [problem, statements] : rows) {
     for (const auto& statement : statements) {
@@ -305,6 +306,13 @@ TEST_F(Script, PrintsChangesInWordsAndCopiesExceptionsAndAlarms) {
   }
 }
 
+TEST_F(Script, ABackupBringsBackWhatWasPicked) {
+  const auto path = "\"" + folder_.File("a backup.bin") + "\"";
+  EXPECT_EQ(RunStarted("pick ComboCOMM(3) 2\nbackup " + path + "\npick ComboCOMM(3) 0\nanswer " + path +
+                       "\nclick OpenMenu\nexpect ComboCOMM(3) 2\nexpect no box\n"),
+            "");
+}
+
 TEST_F(Script, WarnsOfTheEffectOfOpeningAFile) {
   const auto inspect = [&](const firmware::FirmwareId& firmware, int code) {
     ovl::testing::WriteFile(folder_.File("some.bin"), ovl::testing::PatternStream(firmware, 1, code));
@@ -323,6 +331,9 @@ TEST_F(Script, WarnsOfTheEffectOfOpeningAFile) {
             fits({"V1400", "R12"}, "110 \"WEIGH SCALE\"") + "opening it under V1400R12 loads it\n");
   EXPECT_EQ(inspect({"V1400", "R4"}, 5),
             fits({"V1400", "R4"}, "5 \"ANSI\"") + "opening it under V1400R12 ends the program\n");
+  EXPECT_EQ(inspect({"V1400", "R6"}, 5),
+            fits({"V1400", "R6"}, "5 \"ANSI\"") +
+                "opening it under V1400R12 loads it with settings in the wrong place\n");
   const auto unlisted = inspect({"V1310", "R1"}, 200);
   EXPECT_NE(unlisted.find("fits V1310R1: register 200 is not in its list\n"), std::string::npos) << unlisted;
   EXPECT_EQ(unlisted.find("fits V1410"), std::string::npos) << "the menu does not offer it";

@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QDeadlineTimer>
 #include <QDir>
+#include <filesystem>
 
 #include "unit/ui/screen.h"
 
@@ -14,6 +15,12 @@ namespace {
 
 QStringList Copies(const QString& folder) {
   return QDir(folder).entryList({QStringLiteral("*.bin")}, QDir::Files);
+}
+
+// Longer than the time after which a change is written.
+void WaitForTimer() {
+  for (const QDeadlineTimer late(1500); !late.hasExpired();)
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
 }
 
 // Changes a setting and waits for the copy.
@@ -46,12 +53,47 @@ TEST(UnsavedCopy, ExistsUntilTheUserClosesAndOpensAgainAfterACrash) {
   screen.Find<QAction>("OpenMenu").trigger();
   EXPECT_TRUE(app.image == changed);
 
-  // The changes remain when a broken file ends the program, but not when the user closes it.
+  // A broken file ends the program. The last copy stays, and the change of the last moment is not added.
   screen.Pick("ComboTD(2)", app.frmMain.ComboTD[2].position == 0 ? 1 : 0);
+  for (const QDeadlineTimer late(10000); Copies(folder).size() < 2 && !late.hasExpired();) screen.Show();
+  const auto copy = in.filePath("unsaved V1400R12 1.bin").toStdString();
+  const auto last = ReadFile(copy);
   WriteFile(rescued.toStdString(), "$2000");
+  screen.Pick("ComboCOMM(3)", app.frmMain.ComboCOMM[3].position == 0 ? 1 : 0);
   screen.Find<QAction>("OpenMenu").trigger();
   ASSERT_TRUE(app.ended);
-  EXPECT_EQ(Copies(folder).size(), 2);
+  WaitForTimer();
+  EXPECT_EQ(ReadFile(copy), last);
+  screen.program->Act(core::CloseEvent{&app.frmMain.form});
+  EXPECT_EQ(ReadFile(copy), last) << "it has ended before";
+}
+
+TEST(UnsavedCopy, IsRemovedByAPickInTheVersionMenuAndNotWrittenAgain) {
+  Screen screen({"V1400", "R12"});
+  const auto folder = ChangeAndWait(screen);
+  const auto copy = screen.folder.File("unsaved V1400R12 1.bin");
+  const auto before = ReadFile(copy);
+  screen.while_box = [&] {
+    EXPECT_EQ(screen.App().firmware.release, "R4");
+    WaitForTimer();
+    EXPECT_EQ(ReadFile(copy), before);
+  };
+  screen.Pick("ComboCOMM(3)", screen.App().frmMain.ComboCOMM[3].position == 0 ? 1 : 0);
+  screen.Find<QAction>("V1400R4mnu").trigger();
+  EXPECT_EQ(screen.boxes.size(), 1U);
+  WaitForTimer();
+  EXPECT_EQ(Copies(folder), QStringList());
+}
+
+TEST(UnsavedCopy, StaysWhenTheSettingsDoNotKeepThePick) {
+  Screen screen({"V1400", "R12"});
+  const auto folder = ChangeAndWait(screen);
+  const auto settings = screen.folder.File("ORB");
+  std::filesystem::remove_all(settings);
+  WriteFile(settings, "in the way");
+  screen.Find<QAction>("V1400R4mnu").trigger();
+  EXPECT_TRUE(screen.App().ended);
+  EXPECT_EQ(Copies(folder), QStringList("unsaved V1400R12 1.bin"));
 }
 
 TEST(UnsavedCopy, IsRemovedWhenTheUserCloses) {
@@ -66,14 +108,17 @@ TEST(UnsavedCopy, IsRemovedWhenTheUserCloses) {
 TEST(UnsavedCopy, OfAnotherFirmwareIsKeptEvenIfItsProcessNumberIsUsedAgain) {
   Screen screen({"V1400", "R12"});
   const auto file = [&](const char* name) { return screen.folder.File(name); };
-  WriteFile(file("unsaved V1300R14 1.bin"), "x");
+  const auto left = PatternStream({"V1300", "R14"}) + "\r\n";
+  WriteFile(file("unsaved V1300R14 1.bin"), left);
   WriteFile(file("unsaved V1300R14 1.bin.lock"),
             "1\nanother\n" + QSysInfo::machineHostName().toStdString() + "\n");
+  WriteFile(file("unsaved V1300R26 1.bin"), left);
   WriteFile(file("rescued V1300R14 1.bin"), "older");
   screen.program->GuardUnsaved();
   EXPECT_EQ(screen.Note().find("rescued V1300R14 2.bin: "), 0U);
   EXPECT_EQ(ReadFile(file("rescued V1300R14 1.bin")), "older");
-  EXPECT_EQ(ReadFile(file("rescued V1300R14 2.bin")), "x");
+  EXPECT_EQ(ReadFile(file("rescued V1300R14 2.bin")), left);
+  EXPECT_EQ(ReadFile(file("unsaved V1300R26 1.bin")), left) << "it would not open under this firmware";
 }
 
 }  // namespace

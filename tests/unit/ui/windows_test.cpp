@@ -13,6 +13,7 @@
 #include "link/transfer.h"
 #include "pictures/pictures.h"
 #include "screen.h"
+#include "ui/pages/pages.h"
 #include "ui/pages/transfer_progress.h"
 #include "ui/window/view_menu.h"
 
@@ -255,6 +256,35 @@ TEST_F(WindowsTest, AThemeOfTheViewMenuShowsAtOnceAndIsKept) {
   Find<QAction>("menuDark").trigger();
   EXPECT_TRUE(dark());
   EXPECT_NE(Note().find("window.ini: "), std::string::npos) << Note();
+}
+
+TEST_F(WindowsTest, TheOverviewKeepsItsFormWhileTheBoxOfAnotherFirmwareIsOpen) {
+  auto& slot = App().image.at(image::FieldId::EXCPSTRS, 3);
+  slot.replace(0, 22, "0D12345678900987654321");
+  Show();
+  const auto lines = ui::ExceptionLines(App());
+  int checked = 0;
+  while_box = [&] {
+    EXPECT_EQ(App().firmware.version, "V1300");
+    EXPECT_TRUE(ui::ExceptionLines(App()) == lines);
+    ++checked;
+  };
+  Find<QAction>("V1300R14mnu").trigger();
+  EXPECT_EQ(checked, 1);
+}
+
+// For each of these firmware there is no default image, no list of registers or no layout of its own.
+TEST(Pictures, AreTakenForFirmwareThatTheProgramDoesNotKnow) {
+  for (const auto& unknown : {firmware::FirmwareId{"V1500", "R1"}, firmware::FirmwareId{"V1400", "R3"}}) {
+    SCOPED_TRACE(unknown.Joined());
+    const TemporaryFolder site, shots;
+    MakeSite(site, unknown);
+    const auto folder = QString::fromStdString(site.Path().string());
+    const auto saved = pictures::SavePictures(folder, folder, QString::fromStdString(shots.Path().string()));
+    ASSERT_TRUE(saved.Ok()) << saved.Problem().Text();
+    for (const char* picture : {"tab6_remote", "remote_uploading", "transfer_end", "focus_tabs"})
+      EXPECT_TRUE(std::filesystem::exists(shots.File(std::string("dark/") + picture + ".png"))) << picture;
+  }
 }
 
 TEST(Pictures, ThereIsOneOfEveryStateInBothThemes) {
