@@ -4,6 +4,7 @@
 #include <random>
 
 #include "changes/option_controls.h"
+#include "codecs/bytes.h"
 #include "firmware/traits.h"
 #include "image/slot_records.h"
 #include "script/inspection.h"
