@@ -70,33 +70,37 @@ void Walk(CheckedProgram& program, unsigned seed, int acts) {
   if (program.Ended()) program.Do("start");
 }
 
+// False: the walk has ended the program, led to another firmware, or opened a file of another layout. Then
+// there is nothing to compare, but a backup is refused exactly if the image is not complete.
+bool BackUpAndReopen(const firmware::FirmwareId& stored, unsigned seed) {
+  constexpr int kActs = 40;
+  for (const auto* file : kWalkFiles) fs::remove(file);
+  CheckedProgram program(stored);
+  Walk(program, seed, kActs);
+  if (program.Ended()) return false;
+  auto& app = program.App();
+  const auto written = acts::SaveBackup(app, kBackup);
+  EXPECT_EQ(written.Ok(), IsComplete(app));
+  if (!written.Ok() || app.firmware != firmware::ServedFirmware(stored.Joined())) return false;
+  CheckedProgram other(stored);
+  other.Do(std::string("answer ") + kBackup);
+  other.Do("click OpenMenu");
+  EXPECT_FALSE(other.Ended());
+  // As read. Open then shows it, and the panels put a record in order when they show it.
+  EXPECT_EQ(DifferentEntries(other.App().known_image, app.image, app.firmware), "");
+  EXPECT_EQ(acts::ReopenableFile(other.App().known_image, app.firmware), ReadFile(kBackup));
+  return true;
+}
+
 TEST_F(BackupWalk, OpensAgainWithoutADifferenceUnderEveryFirmware) {
-  constexpr int kActs = 60;
-  int backups = 0;
+  constexpr unsigned kLastSeed = 20;
   for (const auto& entry : firmware::FirmwareTable()) {
     const auto stored = entry.Id();
     SCOPED_TRACE(stored.Joined());
-    const auto served = firmware::ServedFirmware(stored.Joined());
-    images::WriteDefaultImages(".", served);
-    for (const auto* file : kWalkFiles) fs::remove(file);
-    CheckedProgram program(stored);
-    Walk(program, 1, kActs);
-    // A pick in the Version menu can have led to a firmware without default images.
-    if (program.Ended()) continue;
-    auto& app = program.App();
-    const auto written = acts::SaveBackup(app, kBackup);
-    ASSERT_EQ(written.Ok(), IsComplete(app));
-    if (!written.Ok()) continue;
-    ++backups;
-    CheckedProgram other(app.firmware == served ? stored : app.firmware);
-    other.Do(std::string("answer ") + kBackup);
-    other.Do("click OpenMenu");
-    ASSERT_FALSE(other.Ended());
-    // As read. Open then shows it, and the panels put a record in order when they show it.
-    EXPECT_EQ(DifferentEntries(other.App().known_image, app.image, app.firmware), "");
-    EXPECT_EQ(acts::ReopenableFile(other.App().known_image, app.firmware), ReadFile(kBackup));
+    images::WriteDefaultImages(".", firmware::ServedFirmware(stored.Joined()));
+    unsigned seed = 1;
+    while (!BackUpAndReopen(stored, seed)) ASSERT_LE(++seed, kLastSeed);
   }
-  EXPECT_GT(backups, 25);
 }
 
 TEST(Backup, IsTheStreamOfADownload) {
