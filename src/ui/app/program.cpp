@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QProcess>
 #include <cstdlib>
 
 #include "acts/unsaved_changes.h"
@@ -30,11 +31,15 @@ bool IsClickOn(const controls::MenuItem& item, const core::Event& event) {
 
 Program::Program(QString folder, QString store_folder)
     : folder_(std::move(folder)),
-      store_(std::move(store_folder)),
+      store_folder_(std::move(store_folder)),
+      store_(store_folder_),
       port_(folder_, [this](const core::Event& event) { return Act(event); }) {
   frame_.setSingleShot(true);
   frame_.setInterval(kFrame);
   frame_.callOnTimeout([this] { RefreshNow(); });
+  start_again = [](const QStringList& arguments) {
+    return QProcess::startDetached(QCoreApplication::applicationFilePath(), arguments);
+  };
   FillPlatform();
 }
 
@@ -166,6 +171,10 @@ void Program::Follow(const acts::Advice& advice) {
   auto& main = windows_->Main();
   const auto* control = advice.control.empty() ? nullptr : app_.registry.Find(advice.control);
   switch (advice.action) {
+    case acts::AdviceAction::kRestart:
+      return Restart();
+    case acts::AdviceAction::kSaveBackup:
+      return files_->SaveBackup();
     case acts::AdviceAction::kPickVersion:
       return main.OpenVersionMenu();
     case acts::AdviceAction::kGoToControl:
@@ -174,8 +183,25 @@ void Program::Follow(const acts::Advice& advice) {
     case acts::AdviceAction::kClickControl:
       if (control != nullptr) Act(core::ClickEvent{control->control});
       return;
-    default:
+    case acts::AdviceAction::kNone:
       return;
+  }
+}
+
+void Program::Restart() {
+  if (!unsaved_ || app_.handling) return;
+  auto& status = windows_->Main().Status();
+  try {
+    QStringList arguments{QStringLiteral("--folder"), folder_};
+    if (!store_folder_.isEmpty()) arguments << QStringLiteral("--store") << store_folder_;
+    if (const auto kept = unsaved_->Keep(); !kept.isEmpty()) arguments << kept;
+    if (start_again(arguments)) {
+      Act(core::ClickEvent{&app_.frmMain.menuExit});
+      return;
+    }
+    status.ShowFileMessage(QStringLiteral("The program did not start again. Exit, and start it yourself."));
+  } catch (const core::Failure& failure) {
+    status.ShowFileMessage(QStringLiteral("The changes cannot be kept: ") + host::FromSystem(failure.Text()));
   }
 }
 

@@ -49,6 +49,13 @@ class Program {
   void Undo();
   void Redo();
 
+  // Ends this program and starts a new one, which opens the changes of this one. If the changes cannot be
+  // kept or the new program does not start, this one goes on and the status bar shows the reason.
+  void Restart();
+
+  // Starts the program file with these arguments. Tests replace it.
+  std::function<bool(const QStringList&)> start_again;
+
   // Carries out the action of a line of advice.
   void Follow(const acts::Advice& advice);
 
@@ -78,7 +85,7 @@ class Program {
   void End();
   QString BoxDetail(const core::MessageBox& box) const;
 
-  QString folder_;
+  QString folder_, store_folder_;
   core::Application app_;
   host::SettingsStore store_;
   std::string store_problem_;

@@ -102,8 +102,23 @@ void UnsavedCopy::End(bool remove) {
 void UnsavedCopy::WriteNow() {
   soon_.stop();
   if (!acts::HasUnsavedChanges(app_)) return Remove();
-  if (!TakeName()) return Report(host::FailureOf(path_, WhyNotCreated(path_)));
-  Report(acts::SaveBackup(app_, QFile::encodeName(path_).toStdString()));
+  Report(Write());
+}
+
+core::Result UnsavedCopy::Write() {
+  if (!TakeName()) return host::FailureOf(path_, WhyNotCreated(path_));
+  return acts::SaveBackup(app_, QFile::encodeName(path_).toStdString());
+}
+
+QString UnsavedCopy::Keep() {
+  if (!acts::HasUnsavedChanges(app_)) return {};
+  if (const auto written = Write(); !written.Ok()) throw core::Failure(written.Problem());
+  const auto firmware = host::FromWindows1252(acts::FirmwareName(app_));
+  const auto kept = folder_.filePath(NameOf(kRescued, firmware, FreeNumber(folder_, kRescued, firmware)));
+  QFile copy(path_);
+  if (!copy.rename(kept)) throw host::FailureOf(kept, copy.errorString());
+  lock_.reset();
+  return kept;
 }
 
 void UnsavedCopy::Report(const core::Result& written) const {

@@ -33,6 +33,10 @@ class UnsavedCopy {
   // Writes the copy now if the timer runs. Called before a file dialog, which can stay open for long.
   void WritePending();
 
+  // Writes the changes now, under a lasting name, for another program to open. Returns the path; empty when
+  // there are no changes. Throws Failure; the last copy then stays as it is.
+  QString Keep();
+
   // The program has ended. The last copy stays as it is, or is removed. Nothing is written any more.
   void End(bool remove);
 
@@ -41,6 +45,7 @@ class UnsavedCopy {
 
  private:
   void WriteNow();
+  core::Result Write();
   void Remove();
   bool TakeName();
   void Report(const core::Result& written) const;

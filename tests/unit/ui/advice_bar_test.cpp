@@ -1,0 +1,84 @@
+// The line of advice above the tabs, and its action "Restart".
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QLabel>
+
+#include "unit/ui/screen.h"
+
+namespace ovl::testing {
+namespace {
+
+class AdviceBarTest : public ::testing::Test {
+ protected:
+  std::string Words() {
+    screen_.Show();
+    return screen_.Find<QLabel>("AdviceWords").text().toStdString();
+  }
+  bool IsShown() {
+    screen_.Show();
+    return screen_.IsShown("Advice");
+  }
+
+  // An upload of which only the first character arrives.
+  void BreakAnUpload() {
+    auto& app = screen_.App();
+    for (const char* name : {"cmdConnect", "frmSettSR.cmdSET", "CmdUpDow(4)"})
+      screen_.program->Act(core::ClickEvent{app.registry.Find(name)->control});
+    Receive("\x06");
+    screen_.program->Act(core::ClickEvent{&app.frmMain.CmdUpDow[controls::kUpload]});
+    Receive("$");
+    Receive("0");
+    screen_.program->Act(core::ClickEvent{&app.frmMain.cmdDisConnect});
+  }
+
+  void Receive(const std::string& character) {
+    screen_.App().platform.serial.read = [character] { return character; };
+    screen_.program->Act(core::ReceivedEvent{});
+  }
+
+  Screen screen_{{"V1400", "R12"}};
+};
+
+TEST_F(AdviceBarTest, AHiddenLineMakesRoomForTheNextAndAnEmptyBarDisappears) {
+  EXPECT_NE(Words().find("Begin on REMOTE"), std::string::npos) << Words();
+  screen_.App().image[image::FieldId::TRIGGER_TEXT].replace(0, 2, "03");
+  EXPECT_EQ(Words().find("Begin on REMOTE"), std::string::npos) << "the setting is more important";
+  screen_.Click("AdviceClose");
+  EXPECT_NE(Words().find("Begin on REMOTE"), std::string::npos) << Words();
+  screen_.Click("AdviceClose");
+  EXPECT_FALSE(IsShown());
+}
+
+TEST_F(AdviceBarTest, RestartKeepsTheChangesAndOpensThemInTheNewProgram) {
+  auto& app = screen_.App();
+  screen_.program->GuardUnsaved();
+  screen_.Pick("ComboTD(2)", 1);
+  const auto changed = app.image;
+  QStringList started;
+  bool starts = false;
+  screen_.program->start_again = [&](const QStringList& arguments) {
+    started = arguments;
+    return starts;
+  };
+  BreakAnUpload();
+  ASSERT_TRUE(IsShown());
+  screen_.Click("AdviceAction");
+  EXPECT_FALSE(app.ended) << "the new program did not start";
+  starts = true;
+  screen_.Click("AdviceAction");
+  EXPECT_TRUE(app.ended);
+  ASSERT_EQ(started.size(), 5);
+  EXPECT_EQ(QDir(started.at(1)).filePath("rescued V1400R12 2.bin"), started.back());
+
+  ui::Program again(started.at(1), started.at(3));
+  again.Model().platform.ask_file = [&](const core::FileDialog&) {
+    return std::optional(core::FileAnswer{started.back().toStdString(), {}});
+  };
+  ASSERT_EQ(again.Start(), core::Outcome::kDone);
+  again.Act(core::ClickEvent{&again.Model().frmMain.OpenMenu});
+  EXPECT_TRUE(again.Model().image == changed);
+}
+
+}  // namespace
+}  // namespace ovl::testing
