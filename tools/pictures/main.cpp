@@ -8,9 +8,9 @@
 #include "host/program_folder.h"
 #include "pictures/pictures.h"
 #include "ui/app/launch.h"
-#include "ui/app/main_window.h"
 #include "ui/help/guide.h"
 #include "ui/help/help_pages.h"
+#include "ui/window/main_window.h"
 
 namespace {
 

@@ -123,6 +123,8 @@ QPushButton* BuildCopySlotButton(const Bindings& bindings, acts::SlotKind kind) 
   button->setObjectName(IsAlarm(kind) ? QStringLiteral("CopyAlarmTo") : QStringLiteral("CopyExceptionTo"));
   button->setToolTip(IsAlarm(kind) ? QStringLiteral("Copies the shown alarm to other numbers")
                                    : QStringLiteral("Copies the shown exception to other numbers"));
+  button->setAccessibleName(IsAlarm(kind) ? QStringLiteral("Copy alarm") : QStringLiteral("Copy exception"));
+  button->setProperty(kReachedByMenu, true);
   button->setAutoDefault(false);
   QObject::connect(button, &QPushButton::clicked, button,
                    [&bindings, kind, button] { OpenCopySlotWindow(bindings, kind, *button); });

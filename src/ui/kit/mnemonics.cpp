@@ -172,7 +172,8 @@ Letters AssignMenuMnemonics(QMenuBar& bar) {
 void AssignPageMnemonics(QWidget& page, const Letters& taken) {
   std::vector<CaptionedWidget> captioned;
   for (auto* widget : page.findChildren<QWidget*>()) {
-    if (!widget->isVisibleTo(&page) || IsDangerous(widget)) continue;
+    const bool without = IsDangerous(widget) || widget->property(kReachedByMenu).toBool();
+    if (without || !widget->isVisibleTo(&page)) continue;
     auto* button = qobject_cast<QAbstractButton*>(widget);
     if (qobject_cast<QRadioButton*>(button) != nullptr || (button != nullptr && button->text().isEmpty()))
       continue;

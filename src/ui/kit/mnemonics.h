@@ -20,6 +20,9 @@ using Letters = QSet<QChar>;
 // menus.
 Letters AssignMenuMnemonics(QMenuBar& bar);
 
+// The property of a button whose act is also a menu item. It gets no letter, because letters are scarce.
+inline constexpr const char* kReachedByMenu = "ReachedByMenu";
+
 // Chooses a letter for each visible button, check box and labelled field of the page. Elements of option
 // arrays get none: the arrow keys reach them. Digits are kept for the tabs.
 void AssignPageMnemonics(QWidget& page, const Letters& taken);

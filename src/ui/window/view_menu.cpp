@@ -58,7 +58,7 @@ core::Result KeepTheme(const QString& program_folder, Theme theme) {
 }
 
 void BuildViewMenu(QMenuBar& bar, const QString& program_folder, std::function<void(const QString&)> report) {
-  auto* view = bar.addMenu(QStringLiteral("View"));
+  auto* view = bar.addMenu(QStringLiteral("Vie&w"));
   view->setObjectName(QStringLiteral("ViewMenu"));
   auto* themes = new QActionGroup(view);
   for (const auto& item : kThemes) {

@@ -280,7 +280,8 @@ TEST(Pictures, AreTakenForFirmwareThatTheProgramDoesNotKnow) {
     const TemporaryFolder site, shots;
     MakeSite(site, unknown);
     const auto folder = QString::fromStdString(site.Path().string());
-    const auto saved = pictures::SavePictures(folder, folder, QString::fromStdString(shots.Path().string()));
+    const auto saved = pictures::SavePictures(folder, folder, QString::fromStdString(shots.Path().string()),
+                                              ui::MainWindow::StartSize());
     ASSERT_TRUE(saved.Ok()) << saved.Problem().Text();
     for (const char* picture : {"tab6_remote", "remote_uploading", "transfer_end", "focus_tabs"})
       EXPECT_TRUE(std::filesystem::exists(shots.File(std::string("dark/") + picture + ".png"))) << picture;
