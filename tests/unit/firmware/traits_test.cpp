@@ -35,7 +35,8 @@ constexpr Fact kFacts[] = {
     {"demonstration speed", firmware::ShowsDemoSpeed,
      "V1400 R13 V1300 R27 V1310 R1 ! V1400 R12 V1300 R26 V9 R20"},
     {"saved file reopens", firmware::SavedFileReopens,
-     "V1400 R1 V1400 R6 V1300 R25 V1324 R24 ! V1400 R7 V1400 R12 V1300 R26 V1324 R25 V1310 R1 V1334 R1 V9 R1"},
+     "V1400 R1 V1400 R6 V1300 R25 V1324 R24 ! V1400 R7 V1400 R12 V1300 R26 V1324 R25 V1310 R1 V1334 R1 V9 "
+     "R1"},
     {"short image", firmware::HasShortImage, "V1400 R5 V1400 R0 V1400 x ! V1400 R6 V1300 R5"},
     {"blank by RTS", firmware::StoresBlankByRts,
      "V1400 R11 V1300 R26 V1324 R25 V1310 R1 V9 R1 ! V1400 R10 V1400 R6 V1300 R25 V1324 R24"},
