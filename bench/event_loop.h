@@ -1,6 +1,5 @@
-// The event loop, let run until something has come to pass, and how long it was held meanwhile: how much
-// later than due a timer of one millisecond came. What the dispatchers tell of themselves differs from one to
-// the other.
+// Runs the event loop until a condition holds, and measures how long the loop was held meanwhile: how late a
+// timer of one millisecond was. The reports of the event dispatchers themselves differ between platforms.
 #pragma once
 
 #include <functional>

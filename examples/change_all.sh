@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Makes the same change on every unit of a list: change_all.sh devices.txt DATE_FORMAT_BAK=02 'TRIGGER_DELAY(2)=0A' ...
-# The help's page "Fields" tells the names. Each unit is read first, so that the rest of it stays as it is.
+# The page "Fields" of the help lists the names. Each unit is read first, so that the rest of it stays as it is.
 . "$(dirname "$0")/common.sh"
 . "$(dirname "$0")/lists.sh"
 . "$(dirname "$0")/configurations.sh"

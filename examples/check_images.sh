@@ -14,7 +14,7 @@ complain() {
 
 while read -r register; do
   name=${register:1:-1}
-  # In the file names of V1400 a blank stands for each slash and comma.
+  # In the file names of V1400 each slash and comma is a blank.
   [ "$version" != V1400 ] || name=${name//[\/,]/ }
   file=$1/$name.bin
   if [ ! -e "$file" ]; then

@@ -29,8 +29,8 @@ class ActHistory {
   // The same for an act of our own, which runs inside the gate.
   core::Outcome Run(std::string name, const std::function<void()>& act);
 
-  // Takes in what the line has changed since the last act, such as a finished upload. To be called before the
-  // names are shown.
+  // Records what the line has changed since the last act, such as a finished upload. Call it before the names
+  // are shown.
   void Observe();
 
   // The name of the act that would be undone or redone: "ALARM DURATION", "Open shop12.bin", "Upload". Null:
@@ -59,7 +59,7 @@ class ActHistory {
     bool operator==(const Variables&) const = default;
   };
 
-  // All of the program that is undone but for the controls. Equal parts are shared.
+  // What undo puts back beside the controls. Equal parts are shared.
   struct Moment {
     std::shared_ptr<const image::ConfigImage> image, known_image;
     std::shared_ptr<const Variables> variables;

@@ -49,8 +49,8 @@ struct AdviceCondition {
 // In the order of AdviceId.
 std::span<const AdviceCondition> AdviceTable();
 
-// Observes one run of the program, whose application object must outlive it. `Before` and `After` stand
-// around each event; both may also be called for an event that comes while a handler runs.
+// Observes one run of the program, whose application object must outlive it. Call `Before` and `After`
+// for each event; both may also be called for an event that comes while a handler runs.
 class Advisor {
  public:
   explicit Advisor(const core::Application& app) : app_(app) {}
@@ -61,7 +61,7 @@ class Advisor {
   // The lines that apply now, the most important one first, without those that are dismissed.
   std::vector<Advice> Lines() const;
 
-  // Hides a line until its condition has gone and come again.
+  // Hides a line until its condition ends and comes back.
   void Dismiss(AdviceId id) { Add(dismissed_, id); }
 
  private:

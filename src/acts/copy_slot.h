@@ -31,9 +31,8 @@ bool CanCopySlot(const core::Application& app, const SlotCopy& copy);
 
 // Stores in every target what a user would store there who picks all values of the source on the panel. Where
 // no pick can store a value, such as an unknown bit of the flags, the target gets the bytes of the source;
-// the normal state of alarm 9 stays as it is. If the panel shows a target, it shows it again. Runs inside the
-// gate
-// (`core::DispatchAct`).
+// the normal state of alarm 9 stays as it is. If the panel shows a target, it shows it again. Runs inside
+// the gate (`core::DispatchAct`).
 void CopySlot(core::Application& app, const SlotCopy& copy);
 
 }  // namespace ovl::acts

@@ -98,7 +98,7 @@ struct Admission {
 };
 
 // The gate is closed while this object lives. It opens again in every case, also when a handler throws
-// something that nobody expects: a gate that stays closed answers every later event with kBusy.
+// something unexpected: a gate that stays closed answers every later event with kBusy.
 class ClosedGate {
  public:
   explicit ClosedGate(Application& app) : app_(app) { app_.handling = true; }

@@ -42,7 +42,7 @@ struct BoxWords {
   std::string_view title;  // empty: none of its own
   std::string_view text;
   BoxIcon icon = BoxIcon::kNone;
-  bool shows_note = false;  // the program ends with this box, so nobody can read the status bar
+  bool shows_note = false;  // the program ends with this box, so its status bar cannot be read any more
 };
 
 // In the order of Box.

@@ -20,7 +20,7 @@ struct MessageBox {
   std::string text;   // lines are separated by \n
   BoxIcon icon = BoxIcon::kNone;
   std::string_view topic = {};  // under which the help explains it
-  bool shows_note = false;      // what the status bar says is to stand in it
+  bool shows_note = false;      // the box also shows the text of the status bar
 };
 
 // A filter is a row of "description|pattern" pairs joined by "|"; filter_index counts the pairs from 1.

@@ -68,7 +68,7 @@ struct RangeValue {
   std::string decimals;
 };
 
-// Value 0 is the upper limit, value 1 the lower one.
+// Value 0 is the first one of the range window, value 1 the second.
 RangeValue RangeValueOf(std::string_view slot, const firmware::FirmwareId& firmware, std::size_t value);
 void StoreRange(std::string& slot, const firmware::FirmwareId& firmware, std::string_view digits);
 

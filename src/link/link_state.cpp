@@ -84,7 +84,7 @@ void SendWhole(core::Application& app, const std::string& text) {
   OutputOrSkip(app, text);
 }
 
-void TellSendFailure(core::Application& app, const core::Failure& failure) {
+void ReportSendFailure(core::Application& app, const core::Failure& failure) {
   app.StatusNote = failure.Text();
   ClearDownload(app);
   MsgBox(app, core::Box::kSendFailed, failure.what());

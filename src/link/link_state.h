@@ -42,7 +42,7 @@ void CountProgress(core::Application& app);
 void SendWhole(core::Application& app, const std::string& text);
 
 // Ends the download after a failed send and shows the system's reason in a message box.
-void TellSendFailure(core::Application& app, const core::Failure& failure);
+void ReportSendFailure(core::Application& app, const core::Failure& failure);
 
 void ClearDownload(core::Application& app);
 

@@ -142,7 +142,7 @@ void OnSendDrained(core::Application& app) {
     }
     if (app.DownloadActive) FinishDownload(app);
   } catch (const core::Failure& failure) {
-    TellSendFailure(app, failure);
+    ReportSendFailure(app, failure);
   }
 }
 

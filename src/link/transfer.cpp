@@ -140,7 +140,7 @@ void DownloadAcknowledged(core::Application& app) {
   try {
     StartDownload(app);
   } catch (const core::Failure& failure) {
-    TellSendFailure(app, failure);
+    ReportSendFailure(app, failure);
   }
 }
 

@@ -119,9 +119,9 @@ bool OptionsAreHidden(const core::Application& app) {
 
 const core::UnfitOption* UnfitOptionOf(const core::Application& app) {
   const auto& unfit = app.unfit_option;
-  const bool stands =
+  const bool applies =
       unfit && OptionsAreHidden(app) && app.image.at(unfit->field, unfit->entry) == unfit->value;
-  return stands ? &*unfit : nullptr;
+  return applies ? &*unfit : nullptr;
 }
 
 void ShowRegisterOptions(core::Application& app) {

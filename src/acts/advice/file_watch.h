@@ -28,7 +28,7 @@ class FileWatch {
   const std::string& OpenProblem() const { return open_problem_; }
   // The register list moved, and nothing was loaded.
   bool PickSwallowed() const { return pick_swallowed_; }
-  // The file that the configuration is from, if it has not the form of the firmware; else empty.
+  // The file that the configuration is from, if its form is not that of the firmware; else empty.
   std::string MisreadIn(const core::Application& app) const;
   // The file that the last Open refused because of its form.
   const std::string& Refused() const { return refused_; }

@@ -184,9 +184,9 @@ Advice DeviceLost(const core::Application& app, const Observed& observed) {
 Advice DownloadBroke(const core::Application& app, const Observed& observed) {
   const auto& broken = observed.link.Broken();
   const auto& loss = observed.link.Lost();
-  const bool told = loss && loss->during == LinkPhase::kDownloadStream;
+  const bool shown = loss && loss->during == LinkPhase::kDownloadStream;
   const bool waits = PhaseOf(app) == LinkPhase::kDownloadCommand && app.frmMain.Timer_Operating.enabled;
-  if (!broken || told || waits || app.DownloadActive) return {};
+  if (!broken || shown || waits || app.DownloadActive) return {};
   auto words = broken->half ? "A download broke off at " + At(broken->at) +
                                   ". The unit may hold half a configuration, so download again: "
                             : "The download of " + At(broken->at) +

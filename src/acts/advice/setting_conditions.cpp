@@ -63,7 +63,7 @@ bool FirstIsAboveSecond(const core::Application& app, const std::string& slot) {
   return one.size() == other.size() && one > other;
 }
 
-// The exceptions that a trigger of an alarm stands for, from first to last. None for "NONE" and "RTS".
+// The exceptions that a trigger of an alarm means, from first to last. None for "NONE" and "RTS".
 struct Exceptions {
   int first = 1;
   int last = 0;
@@ -87,7 +87,7 @@ bool WaitsForFreeExceptions(const core::Application& app, int trigger) {
   return true;
 }
 
-// An exception that is told to do something and has only blanks to look for.
+// An exception that has an action or an operator, and only blanks to look for.
 bool IsBlankException(const core::Application& app, const std::string& slot) {
   if (slot.empty() || !IsBlank(image::ExceptionText(slot, app.image_firmware))) return false;
   const int flags = codecs::HexToInt(slot);

@@ -32,7 +32,7 @@ FormWindow* BuildAboutWindow(Bindings& bindings, QWidget* parent) {
   add("lbVersion");
   add("lbFirmware");
   auto* qt_version = new QLabel(QStringLiteral("Qt %1").arg(QString::fromLatin1(qVersion())));
-  qt_version->setObjectName(QStringLiteral("Toolkit"));
+  qt_version->setObjectName(QStringLiteral("QtVersion"));
   down->addWidget(qt_version);
   add("lbLicence");
   down->addSpacing(kSectionGap - kRowGap);

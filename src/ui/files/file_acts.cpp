@@ -11,6 +11,8 @@
 #include <QMimeData>
 #include <QTimer>
 #include <QUrl>
+#include <optional>
+#include <utility>
 
 #include "acts/backup.h"
 #include "acts/inspection.h"
@@ -34,6 +36,22 @@ QString DraggedFile(const QDropEvent& event) {
   const auto urls = event.mimeData()->urls();
   return urls.size() == 1 ? urls.front().toLocalFile() : QString();
 }
+
+// As long as this object lives, file dialogs are answered with the path and not shown.
+class OneAnswer {
+ public:
+  OneAnswer(core::Application& app, const std::string& path)
+      : app_(app), usual_(std::exchange(app.platform.ask_file, [path](const core::FileDialog&) {
+          return std::optional(core::FileAnswer{path});
+        })) {}
+  ~OneAnswer() { app_.platform.ask_file = std::move(usual_); }
+  OneAnswer(const OneAnswer&) = delete;
+  OneAnswer& operator=(const OneAnswer&) = delete;
+
+ private:
+  core::Application& app_;
+  decltype(core::Platform::ask_file) usual_;
+};
 
 }  // namespace
 
@@ -85,11 +103,8 @@ void FileActs::Open(const QString& path) {
   if (!stream) return around_.show_text(QStringLiteral("Not opened: ") + problem);
   // While the question is on the screen, the unit can start something else.
   if (!MayOpen(path, *stream) || !CanAct()) return;
-  auto& ask = app_.platform.ask_file;
-  const auto usual = ask;
-  ask = [&](const core::FileDialog&) { return core::FileAnswer{Encoded(path)}; };
+  const OneAnswer answer(app_, Encoded(path));
   around_.act(core::ClickEvent{&app_.frmMain.OpenMenu});
-  ask = usual;
   if (!app_.ended) recent_.Add(path);
 }
 
@@ -110,7 +125,8 @@ void FileActs::SaveBackup() {
   if (!CanAct()) return;
   core::FileDialog request;
   request.kind = core::FileDialog::Kind::kSave;
-  request.file_name = files::PathBelow(app_.platform.program_folder, "\\" + acts::BackupName(app_));
+  request.file_name =
+      files::PathBelow(app_.platform.program_folder, std::string("\\").append(acts::BackupName(app_)));
   request.filter = "Backups(*.bin)|*.bin|All Files(*.*)|*.*";
   const auto answer = AskFile(around_.front(), request);
   if (!answer || app_.ended) return;

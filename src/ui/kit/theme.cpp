@@ -135,7 +135,7 @@ class OvlStyle : public QProxyStyle {
       return DrawFieldEdge(*option, painter);
     }
     if (element == PE_PanelLineEdit && option->state.testFlag(State_ReadOnly)) {
-      painter->fillRect(option->rect.adjusted(1, 1, -1, -1), option->palette.color(QPalette::Button));
+      painter->fillRect(option->rect.adjusted(1, 1, -1, -1), option->palette.color(QPalette::Window));
       return DrawFieldEdge(*option, painter);
     }
     if (element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton) {

@@ -85,7 +85,7 @@ QWidget* ExceptionOverview(Bindings& bindings) {
                        {QStringLiteral("ExceptionOverview"),
                         QStringLiteral("Overview of the exceptions"),
                         {{QStringLiteral("No."), QStringLiteral("24")},
-                         {QStringLiteral("Exception string"), {}},
+                         {QStringLiteral("Text"), {}},
                          {QStringLiteral("Range"), QStringLiteral("IN 0.00 - 9.99"), true},
                          {QStringLiteral("Acts"), QStringLiteral("D O H S")}},
                         [&app] { return ExceptionLines(app); },
@@ -103,7 +103,7 @@ void AddRange(Bindings& bindings, PageColumn& column) {
   for (const auto& value : form.TextRANGE) {
     auto* box = static_cast<QLabel*>(bindings.WidgetOf(value));
     box->setFrameShape(QFrame::StyledPanel);
-    box->setBackgroundRole(QPalette::Button);
+    box->setBackgroundRole(QPalette::Window);
     box->setAutoFillBackground(true);
     box->setIndent(kBoxPadding);
     box->setFixedSize(kRangeBoxWidth, height);

@@ -105,7 +105,7 @@ QWidget* Actions(Bindings& bindings) {
   return holder;
 }
 
-// Stands apart from the other actions, because it cannot be taken back.
+// Apart from the other actions, because it cannot be taken back.
 QWidget* MasterReset(Bindings& bindings) {
   auto* holder = new QWidget;
   auto* down = LayOutDown(*holder, kFieldGap);
@@ -174,6 +174,8 @@ class ActionFocus {
     auto* bar = bindings_.WidgetOf(form.vbalProgressBar1);
     auto* remote = bindings_.WidgetOf(form.CmdUpDow[controls::kRemote]);
     bar->setFocusPolicy(Qt::ClickFocus);
+    // A widget that goes away passes the focus on in this order. Only one of the first two shows.
+    QWidget::setTabOrder(bindings_.WidgetOf(form.cmdDisConnect), bindings_.WidgetOf(form.cmdConnect));
     QWidget::setTabOrder(bindings_.WidgetOf(form.cmdConnect), bar);
     bindings_.OnRefresh([held = held_, bar, remote] {
       const auto usable = [](const QWidget* widget) { return widget->isVisible() && widget->isEnabled(); };

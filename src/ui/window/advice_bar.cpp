@@ -13,7 +13,8 @@ namespace ovl::ui {
 AdviceBar::AdviceBar(Bindings& bindings, const OwnActs& acts)
     : acts_(acts), words_(new QLabel), action_(new QPushButton), close_(new QToolButton) {
   setObjectName(QStringLiteral("Advice"));
-  setFrameShape(QFrame::StyledPanel);
+  setAutoFillBackground(true);
+  setBackgroundRole(QPalette::AlternateBase);
   setVisible(false);
   auto* across = new QHBoxLayout(this);
   across->setContentsMargins(kMargin, kRowGap / 2, kRowGap, kRowGap / 2);

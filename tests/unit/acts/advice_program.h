@@ -24,11 +24,11 @@ inline const std::string kDownload = "click CmdUpDow(1)\ndrain\nunit hex 06\n";
 inline const std::string kTransferEnd = "click frmOK_buttom.Command1\n";
 inline const std::string kAt = "clock \"2026-03-05 14:07:09\"\n";
 
-// The default images of all registers, or only of the first one.
-enum class Images { kAll, kFirstRegister };
-
 class AdviceProgram {
  public:
+  // The default images of all registers, or only of the first one.
+  enum class Images { kAll, kFirstRegister };
+
   explicit AdviceProgram(const firmware::FirmwareId& firmware, Images images = Images::kAll)
       : session_(output_, output_) {
     static const TemporaryFolder folder;

@@ -199,7 +199,7 @@ TEST(AdviceOnFiles, APickAfterACancelledOpenIsSwallowed) {
 TEST(AdviceOnFiles, SaysWhatASavedFileIsGoodForUnderEachFirmware) {
   for (const auto& entry : firmware::FirmwareTable()) {
     SCOPED_TRACE(entry.Id().Joined());
-    AdviceProgram program(entry.Id(), Images::kFirstRegister);
+    AdviceProgram program(entry.Id(), AdviceProgram::Images::kFirstRegister);
     program.Run("pick ComboALM(1) \"RTS\"\npick ComboExcp(0) 23\n");
     const auto before = program.App().image;
     program.Run("answer \"FILE\"\nclick menuSave\n");

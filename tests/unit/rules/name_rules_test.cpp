@@ -51,7 +51,7 @@ std::vector<Definition> DefinitionsIn(const SourceFile& file) {
 
 TEST(NameRules, NoTypeIsDefinedTwice) {
   std::map<std::string, std::string> places;
-  for (const auto* folder : {"src", "tools", "tests/support"}) {
+  for (const auto* folder : {"src", "tools", "tests", "bench"}) {
     for (const auto& file : SourceFilesBelow(folder)) {
       for (const auto& definition : DefinitionsIn(file)) {
         const auto [first, added] = places.emplace(definition.name, definition.place);

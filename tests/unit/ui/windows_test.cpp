@@ -101,7 +101,10 @@ TEST_F(WindowsTest, FormsFollowTheModelAndArrowsMoveThroughTheirOptions) {
   Keys({Qt::Key_Return});
   EXPECT_TRUE(app.frmMain.MSComm1.PortOpen);
   EXPECT_TRUE(IsShown("cmdDisConnect") && !IsShown("cmdConnect"));
-  EXPECT_EQ(Focus(), "cmdDisConnect");
+  EXPECT_EQ(Focus(), "CmdUpDow(4)");
+  Find("cmdDisConnect").setFocus();
+  Keys({Qt::Key_Return});
+  EXPECT_EQ(Focus(), "cmdConnect");
 }
 
 TEST_F(WindowsTest, TheEntriesOfAnOpenListAreAsTallAsItsField) {
