@@ -82,11 +82,12 @@ Act Settings() {
     const auto text = program->TakeBox().text;
     return Result{done, text, ended && text.find("V1300R14") != std::string::npos};
   };
-  // The two values are written one after the other, and the file may be removed in between.
+  // The two values are written one after the other, and the file may be removed in between. Qt opens the file
+  // to see whether it can be written; a file that is removed at this moment comes back empty.
   const std::string head = "[General]\n", release = "Release=R12\n", version = "Version=V1300\n";
   return {"settings", "ORB/OVL Software.conf",
           false,      head + release + "Version=V1400\n",
-          run,        {head + release + version, head + version, head + "Release=R14\n"}};
+          run,        {head + release + version, head + version, head + "Release=R14\n", ""}};
 }
 
 // Runs the statement in a program of its own and reports its exit status.

@@ -180,15 +180,17 @@ Row RemovedMeanwhile(const Act& act, const std::string& after) {
     _exit(right ? 0 : 1);
   }
   int status = 0, seen = 0;
-  bool whole = true;
+  std::optional<std::string> part;
   while (waitpid(writer, &status, WNOHANG) == 0) {
     std::ifstream file(place.File(), std::ios::binary);
     if (!file) continue;
-    whole = IsWhole(act, std::string(std::istreambuf_iterator<char>(file), {}), after) && whole;
+    const std::string content(std::istreambuf_iterator<char>(file), {});
+    if (!IsWhole(act, content, after)) part = content;
     std::error_code error;
     if (fs::remove(place.File(), error)) ++seen;
   }
-  if (!whole || status != 0) return Judged(false, whole ? "wrong report" : "seen in parts");
+  if (part) return Judged(false, "seen in parts: \"" + *part + "\"");
+  if (status != 0) return Judged(false, "wrong report");
   return Judged(true, "whole each of the " + std::to_string(seen) + " times it was removed");
 }
 
