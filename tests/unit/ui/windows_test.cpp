@@ -150,20 +150,21 @@ TEST_F(WindowsTest, TheFileOfASavedHistoryIsNamed) {
   Main().Tabs().setCurrentIndex(kRemoteTab);
   Show();
   const auto& line = Find<QLabel>("HistoryPlace");
+  const auto file = folder.File("Monday.txt");
   const auto end = [&](bool open, const std::string& note) {
     app.HistoryPending = true;
     Show();
     EXPECT_FALSE(line.isVisible());
     app.frmMain.MSComm1.PortOpen = open;
-    app.CurrentFilePath = "/home/shop/Monday.txt";
+    app.CurrentFilePath = file;
     app.StatusNote = note;
     app.HistoryPending = false;
     Show();
     return line.isVisible();
   };
   EXPECT_TRUE(end(true, ""));
-  EXPECT_EQ(line.text(), "The history is in /home/shop/Monday.txt.");
-  EXPECT_FALSE(end(true, "/home/shop/Monday.txt: No space left on device"));
+  EXPECT_EQ(line.text().toStdString(), "The history is in " + file + ".");
+  EXPECT_FALSE(end(true, file + ": No space left on device"));
   EXPECT_FALSE(end(false, "")) << "disconnected before it came";
 }
 
