@@ -78,6 +78,17 @@ ChangesList::ChangesList(QWidget* parent) : QTreeWidget(parent) {
 
 void ChangesList::ShowBytes(bool shown) {
   for (const int column : {kBytes, kBytesBefore, kBytesNow}) setColumnHidden(column, !shown);
+  FitColumns();
+}
+
+// A hidden column has no width, so it is fitted again when it is shown.
+void ChangesList::FitColumns() {
+  const int most = fontMetrics().averageCharWidth() * 44;
+  for (const int column : {kSetting, kBytes, kBytesBefore, kBytesNow}) {
+    if (isColumnHidden(column)) continue;
+    resizeColumnToContents(column);
+    setColumnWidth(column, std::min(columnWidth(column), most));
+  }
 }
 
 QTreeWidgetItem* ChangesList::AddGroup(const changes::SettingChange& first) {
@@ -108,11 +119,7 @@ void ChangesList::Show(std::vector<changes::SettingChange> rows) {
     if (!same_group(at)) group = AddGroup(rows_[at]);
     AddRow(*group, static_cast<int>(at));
   }
-  const int most = fontMetrics().averageCharWidth() * 44;
-  for (const int column : {kSetting, kBytes, kBytesBefore, kBytesNow}) {
-    resizeColumnToContents(column);
-    setColumnWidth(column, std::min(columnWidth(column), most));
-  }
+  FitColumns();
   for (QTreeWidgetItemIterator item(this); *item != nullptr; ++item) {
     const auto* row = RowOf(*item);
     if (row == nullptr) continue;

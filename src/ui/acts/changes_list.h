@@ -27,6 +27,7 @@ class ChangesList : public QTreeWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void FitColumns();
   QTreeWidgetItem* AddGroup(const changes::SettingChange& first);
   void AddRow(QTreeWidgetItem& group, int at);
   const changes::SettingChange* RowOf(const QTreeWidgetItem* item) const;

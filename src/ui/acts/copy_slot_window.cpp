@@ -65,7 +65,6 @@ void CopySlotWindow::LayOut() {
   effect_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
   buttons->addButton(copy_, QDialogButtonBox::AcceptRole);
-  copy_->setDefault(true);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   connect(buttons, &QDialogButtonBox::accepted, this, &CopySlotWindow::Copy);
   auto* down = new QVBoxLayout(this);
@@ -74,6 +73,9 @@ void CopySlotWindow::LayOut() {
   down->addLayout(numbers);
   down->addWidget(effect_);
   down->addWidget(buttons);
+  // Only a button that is already in the dialog can be the one that Enter presses.
+  buttons->button(QDialogButtonBox::Cancel)->setAutoDefault(false);
+  copy_->setDefault(true);
   AssignPageMnemonics(*this, {});
 }
 

@@ -113,6 +113,8 @@ TEST_F(ChangesTest, CopyWholeRowsWithTheBytesThatAreShown) {
   EXPECT_EQ(lines[0].count('\t'), 3);
   EXPECT_TRUE(List().isColumnHidden(3));
   Find<QCheckBox>("ChangesBytes").click();
+  for (const int column : {3, 4, 5})
+    EXPECT_GT(Find<QTreeWidget>("ChangesList").columnWidth(column), 0) << column;
   const auto with_bytes = copied().split('\n').value(0).split('\t');
   ASSERT_EQ(with_bytes.size(), 7);
   EXPECT_EQ(with_bytes[4], "COMMCFG_BAK, SYSCFG 1");
@@ -165,7 +167,7 @@ TEST_F(CopySlotTest, SaysWhatItOverwritesAndShowsTheCopy) {
             acts::OverwriteWarning(app, {acts::SlotKind::kException, 2, 2, 4}).empty()
                 ? "No exception in use is overwritten."
                 : acts::OverwriteWarning(app, {acts::SlotKind::kException, 2, 2, 4}));
-  copy.click();
+  Press(last, Qt::Key_Return);
   Show();
   EXPECT_EQ(app.image.at(image::FieldId::EXCPSTRS, 3), slot);
   EXPECT_EQ(app.image.at(image::FieldId::EXCPSTRS, 4), slot);
