@@ -132,6 +132,10 @@ Advice OnRemote(const core::Application& app, std::string words) {
   return {AdviceId::kCount, {}, std::move(words)};
 }
 
+Advice RestartAdvice(std::string words) {
+  return {AdviceId::kCount, {}, std::move(words), AdviceAction::kRestart, "Restart"};
+}
+
 }  // namespace
 
 std::string StepsOnRemote(const core::Application& app, const std::string& last) {
@@ -143,22 +147,16 @@ std::string StepsOnRemote(const core::Application& app, const std::string& last)
 
 Advice UploadBroke(const core::Application&, const Observed& observed) {
   if (!observed.link.UploadBroke()) return {};
-  return {AdviceId::kCount,
-          {},
-          "An upload broke off. What had arrived is still ahead of the next upload and would be read in its "
-          "place. Restart the program before you upload again.",
-          AdviceAction::kRestart,
-          "Restart"};
+  return RestartAdvice(
+      "An upload broke off. What had arrived is still ahead of the next upload and would be read in its "
+      "place. Restart the program before you upload again.");
 }
 
 Advice UploadMixed(const core::Application& app, const Observed& observed) {
   if (!observed.link.UploadMixedIn(app)) return {};
-  return {AdviceId::kCount,
-          {},
-          "The tabs show a mixture: the beginning is from an upload that broke off, the rest from the last "
-          "one. Do not download it. Restart the program and upload again.",
-          AdviceAction::kRestart,
-          "Restart"};
+  return RestartAdvice(
+      "The tabs show a mixture: the beginning is from an upload that broke off, the rest from the last "
+      "one. Do not download it. Restart the program and upload again.");
 }
 
 Advice DeviceLost(const core::Application& app, const Observed& observed) {
