@@ -9,13 +9,6 @@ namespace {
 
 constexpr const char* kUploadFile = "upload.bin";
 
-bool IsOfInstaller(const core::Event& event) {
-  return !std::holds_alternative<core::TickEvent>(event) &&
-         !std::holds_alternative<core::ReceivedEvent>(event) &&
-         !std::holds_alternative<core::DrainedEvent>(event) &&
-         !std::holds_alternative<core::PointEvent>(event);
-}
-
 // Keeps the shared value if it is equal to the present one.
 template <class Value>
 bool Update(std::shared_ptr<const Value>& kept, const Value& now) {
@@ -28,12 +21,12 @@ bool Update(std::shared_ptr<const Value>& kept, const Value& now) {
 
 ActHistory::ActHistory(core::Application& app) : app_(app), controls_(SettingsControls(app)) {
   for (const auto& control : controls_) memories_.push_back(Remember(control));
-  TakeMoment();
+  TakeSnapshot();
   now_.origin = app.frmMain.ComboReg.Text();
 }
 
 core::Outcome ActHistory::Act(const core::Event& event) {
-  if (app_.handling || !IsOfInstaller(event)) return core::Dispatch(app_, event);
+  if (app_.handling || !core::IsOfInstaller(event)) return core::Dispatch(app_, event);
   Observe();
   auto name = NameOf(app_, event);
   const auto outcome = core::Dispatch(app_, event);
@@ -61,7 +54,7 @@ void ActHistory::Observe() {
     return Add("Upload", "Uploaded " + TimeOfDay(app_));
   if (app_.known_image != *now_.known_image) ForgetKnownImages();
   auto changed = TakeControls();
-  const bool moved = TakeMoment();
+  const bool moved = TakeSnapshot();
   if (changed.empty() && !moved) return;
   // What the line changes apart from an upload belongs to the act before it.
   ForgetRedo();
@@ -81,7 +74,7 @@ std::vector<ActHistory::ControlChange> ActHistory::TakeControls() {
   return changed;
 }
 
-bool ActHistory::TakeMoment() {
+bool ActHistory::TakeSnapshot() {
   const bool image = Update(now_.image, app_.image);
   const bool known_image = Update(now_.known_image, app_.known_image);
   const bool variables = Update(now_.variables, VariablesNow());
@@ -96,7 +89,7 @@ ActHistory::Variables ActHistory::VariablesNow() const {
 void ActHistory::Add(std::string name, std::string origin) {
   auto before = now_;
   auto changed = TakeControls();
-  const bool moved = TakeMoment();
+  const bool moved = TakeSnapshot();
   now_.origin = std::move(origin);
   if (changed.empty() && !moved) return;
   ForgetRedo();
@@ -136,7 +129,7 @@ bool ActHistory::Undo() {
   core::DispatchAct(app_, [&] {
     for (auto change = entry.controls.rbegin(); change != entry.controls.rend(); ++change)
       PutBackControl(change->control, change->before);
-    PutBackMoment(entry.after, entry.before);
+    PutBackSnapshot(entry.after, entry.before);
   });
   return true;
 }
@@ -147,7 +140,7 @@ bool ActHistory::Redo() {
   const auto& entry = entries_[done_++];
   core::DispatchAct(app_, [&] {
     for (const auto& change : entry.controls) PutBackControl(change.control, change.after);
-    PutBackMoment(entry.before, entry.after);
+    PutBackSnapshot(entry.before, entry.after);
   });
   return true;
 }
@@ -157,7 +150,7 @@ void ActHistory::PutBackControl(std::size_t control, const ControlMemory& memory
   memories_[control] = memory;
 }
 
-void ActHistory::PutBackMoment(const Moment& from, const Moment& to) {
+void ActHistory::PutBackSnapshot(const Snapshot& from, const Snapshot& to) {
   app_.image = *to.image;
   now_.image = to.image;
   if (to.known_image != nullptr && to.known_image != from.known_image) {

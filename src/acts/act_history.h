@@ -60,7 +60,7 @@ class ActHistory {
   };
 
   // What undo puts back beside the controls. Equal parts are shared.
-  struct Moment {
+  struct Snapshot {
     std::shared_ptr<const image::ConfigImage> image, known_image;
     std::shared_ptr<const Variables> variables;
     std::string origin;
@@ -73,7 +73,7 @@ class ActHistory {
 
   struct Entry {
     std::string name;
-    Moment before, after;
+    Snapshot before, after;
     std::vector<ControlChange> controls;
   };
 
@@ -81,18 +81,18 @@ class ActHistory {
   Variables VariablesNow() const;
   // Both compare the program with its last state and keep the new one. They return what has changed.
   std::vector<ControlChange> TakeControls();
-  bool TakeMoment();
+  bool TakeSnapshot();
   // Adds an entry with what has changed. Without a change it adds none.
   void Add(std::string name, std::string origin);
   void ForgetRedo();
   void ForgetKnownImages();
   void PutBackControl(std::size_t control, const ControlMemory& memory);
-  void PutBackMoment(const Moment& from, const Moment& to);
+  void PutBackSnapshot(const Snapshot& from, const Snapshot& to);
 
   core::Application& app_;
   std::vector<controls::ControlRef> controls_;
   std::vector<ControlMemory> memories_;  // of controls_, after the last act
-  Moment now_;
+  Snapshot now_;
   std::deque<Entry> entries_;
   std::size_t recorded_ = 0;
   std::size_t done_ = 0;  // the entries from here on can be redone

@@ -8,28 +8,12 @@
 namespace ovl::acts {
 namespace {
 
-// The form of an event without a control, and the control of one with a control.
-struct Target {
-  std::optional<controls::ControlRef> control;
-  const controls::Form* form = nullptr;
-};
-
-struct TargetOf {
-  const core::Application& app;
-
-  Target operator()(const core::PickEvent& event) const { return Of(event.control); }
-  Target operator()(const core::ClickEvent& event) const { return Of(event.control); }
-  Target operator()(const core::TypeEvent& event) const { return Of(event.box); }
-  Target operator()(const core::LeaveEvent& event) const { return Of(event.control); }
-  Target operator()(const core::KeyEvent& event) const { return {std::nullopt, event.form}; }
-  Target operator()(const core::CloseEvent& event) const { return {std::nullopt, event.form}; }
-  template <class Other>
-  Target operator()(const Other&) const {
-    return {};
-  }
-
-  Target Of(const controls::ControlRef& control) const { return {control, app.registry.FormOf(control)}; }
-};
+const controls::Form* FormOf(const core::Application& app, const core::Event& event) {
+  if (const auto control = core::ControlOf(event)) return app.registry.FormOf(*control);
+  if (const auto* key = std::get_if<core::KeyEvent>(&event)) return key->form;
+  const auto* close = std::get_if<core::CloseEvent>(&event);
+  return close == nullptr ? nullptr : close->form;
+}
 
 std::string WordsOf(const core::Application& app, const controls::ControlRef& control) {
   if (&controls::StateOf(control) == &app.frmMain.ComboReg) return "Register";
@@ -39,17 +23,16 @@ std::string WordsOf(const core::Application& app, const controls::ControlRef& co
 }  // namespace
 
 std::string NameOf(const core::Application& app, const core::Event& event) {
-  const auto target = std::visit(TargetOf{app}, event);
-  const bool of_main = target.form == nullptr || target.form == &app.frmMain.form;
-  const bool is_button = target.control && std::holds_alternative<controls::Button*>(*target.control);
+  const auto control = core::ControlOf(event);
+  const auto* form = FormOf(app, event);
+  const bool of_main = form == nullptr || form == &app.frmMain.form;
   // The buttons of the other windows have captions such as "SET", which name nothing.
-  if (!of_main && (!target.control || is_button)) return target.form->caption;
-  return target.control ? WordsOf(app, *target.control) : std::string();
+  if (!of_main && (!control || std::holds_alternative<controls::Button*>(*control))) return form->caption;
+  return control ? WordsOf(app, *control) : std::string();
 }
 
 bool IsOpen(const core::Application& app, const core::Event& event) {
-  const auto* click = std::get_if<core::ClickEvent>(&event);
-  return click != nullptr && &controls::StateOf(click->control) == &app.frmMain.OpenMenu;
+  return core::Clicks(event, app.frmMain.OpenMenu);
 }
 
 std::string FileNameOf(const std::string& path) {

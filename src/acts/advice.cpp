@@ -15,7 +15,7 @@ constexpr std::array kTable = {
     AdviceCondition{AdviceId::kDeviceLost, "device-lost", DeviceLost},
     AdviceCondition{AdviceId::kDownloadBroke, "download-broke", DownloadBroke},
     AdviceCondition{AdviceId::kPortRefused, "port-refused", PortRefused},
-    AdviceCondition{AdviceId::kScanDeaf, "scan-deaf", ScanDeaf},
+    AdviceCondition{AdviceId::kScanCannotHear, "scan-cannot-hear", ScanCannotHear},
     AdviceCondition{AdviceId::kScanFoundNothing, "scan-found-nothing", ScanFoundNothing},
     AdviceCondition{AdviceId::kFileMisread, "file-misread", FileMisread},
     AdviceCondition{AdviceId::kFileRefused, "file-refused", FileRefused},

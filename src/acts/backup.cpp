@@ -42,8 +42,7 @@ void ClearUnread(image::ConfigImage& image, const firmware::FirmwareId& firmware
 // A file of another length would read back, too, if only its last records are short.
 bool ReadsBack(const std::string& file, const image::ConfigImage& image,
                const firmware::FirmwareId& firmware) {
-  const core::FileAccess memory{.read = [&file](const std::string&) { return file; }, .replace = nullptr};
-  const auto stream = files::ReadJoined(memory, {});
+  const auto stream = files::JoinLines(file);
   auto read = image::DecodeStream(stream, firmware);
   if (!read || !image::FitsFirmware(stream, firmware)) return false;
   ClearUnread(*read, firmware);

@@ -36,7 +36,7 @@ bool IsUsed(const core::Application& app, SlotKind kind, int number) {
   if (kind == SlotKind::kAlarm)
     return image::AlarmTrigger(app.image.at(ALMSTRUCT_BAK, number)) != image::kNoTrigger;
   const auto& slot = app.image.at(EXCPSTRS, number);
-  if (codecs::HasBit(codecs::HexToInt(slot), image::kFreeBit)) return false;
+  if (image::IsFreeException(slot)) return false;
   return image::ExceptionText(slot, app.image_firmware).find_first_not_of(' ') != std::string::npos;
 }
 

@@ -28,15 +28,12 @@ bool DropsUnsavedChanges(const core::Application& app, const core::Event& event,
   const auto& main = app.frmMain;
   if (const auto* close = std::get_if<core::CloseEvent>(&event)) return close->form == &main.form;
   const auto* click = std::get_if<core::ClickEvent>(&event);
-  if (click == nullptr) return false;
-  return &controls::StateOf(click->control) == &main.menuExit ||
-         (settings_kept && PicksFirmware(app, click->control));
+  return core::Clicks(event, main.menuExit) ||
+         (click != nullptr && settings_kept && PicksFirmware(app, click->control));
 }
 
 bool OpensUnder(std::string_view file_bytes, std::string_view firmware_name) {
-  const core::FileAccess memory{.read = [&](const std::string&) { return std::string(file_bytes); },
-                                .replace = nullptr};
-  const auto stream = files::ReadJoined(memory, {});
+  const auto stream = files::JoinLines(file_bytes);
   return Inspect(stream, firmware::ServedFirmware(firmware_name)).outcome == image::OpenOutcome::kLoads;
 }
 

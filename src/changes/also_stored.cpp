@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
 #include <vector>
 
 #include "changes/editors.h"
@@ -22,18 +21,6 @@ std::size_t EntryFor(ValueDisplay display, int bits) {
   if (display == ValueDisplay::kParity) return static_cast<std::size_t>(image::ParityEntry(bits));
   return display == ValueDisplay::kSetIsOff ? 1 - at : at;
 }
-
-struct ControlOf {
-  std::optional<controls::ControlRef> operator()(const core::PickEvent& event) const { return event.control; }
-  std::optional<controls::ControlRef> operator()(const core::ClickEvent& event) const {
-    return event.control;
-  }
-  std::optional<controls::ControlRef> operator()(const core::TypeEvent& event) const { return event.box; }
-  template <class Other>
-  std::optional<controls::ControlRef> operator()(const Other&) const {
-    return std::nullopt;
-  }
-};
 
 class Comparison {
  public:
@@ -139,7 +126,8 @@ class Comparison {
 }  // namespace
 
 bool IsAct(const core::Event& event) {
-  return std::visit(ControlOf{}, event).has_value() || std::holds_alternative<core::KeyEvent>(event);
+  return core::IsOfInstaller(event) && !std::holds_alternative<core::LeaveEvent>(event) &&
+         !std::holds_alternative<core::CloseEvent>(event);
 }
 
 std::string OtherTabsStored(const core::Application& app, const image::ConfigImage& before) {
@@ -148,10 +136,9 @@ std::string OtherTabsStored(const core::Application& app, const image::ConfigIma
 
 std::string AlsoStored(const core::Application& app, const core::Event& event,
                        const image::ConfigImage& before) {
-  const auto acted = std::visit(ControlOf{}, event);
+  const auto acted = IsAct(event) ? core::ControlOf(event) : std::nullopt;
   if (!acted || app.image == before || std::holds_alternative<controls::MenuItem*>(*acted)) return {};
-  const auto* list = std::get_if<controls::List*>(&*acted);
-  if (list == nullptr || *list != &app.frmMain.ComboReg) return Comparison(app, before, *acted).Line();
+  if (!core::Picks(event, app.frmMain.ComboReg)) return Comparison(app, before, *acted).Line();
   const auto others = OtherTabsStored(app, before);
   return others.empty() ? others : "Also stored: " + others + ".";
 }

@@ -15,7 +15,7 @@
 #include "panels/exceptions/scroll_matching.h"
 #include "panels/text_display.h"
 #include "panels/time_date.h"
-#include "registers/micros.h"
+#include "registers/options/micros.h"
 #include "registers/register_table.h"
 
 namespace ovl::changes {

@@ -1,32 +1,20 @@
-// The controls of the register options: the frame in which they are, their labels and the fields that they
-// show.
+// The controls of the register options that show a field, on the frames of the register tab and in the
+// windows that their buttons open.
 #pragma once
 
-#include <array>
-#include <span>
-#include <string_view>
+#include <optional>
+#include <string>
+#include <vector>
 
-#include "changes/shadow_program.h"
-#include "controls/forms/register_options.h"
-#include "image/config_image.h"
+#include "changes/preview_program.h"
+#include "registers/options/option_rows.h"
 
 namespace ovl::changes {
 
-struct OptionControl {
-  controls::OptionFrame frame;  // kNone: a window of its own
-  std::string_view name;
-  std::string_view label;  // empty: the caption of the control
-  std::string_view inner;  // the control shows only while this frame is visible too; may be empty
-  std::array<image::FieldId, 3> fields;
-  int bits = 0xFF;  // of the first field
-  int entry = 1;    // of a field with several entries
+// A row of a window is in the frame kNone, or in the frame whose button opens the window.
+std::vector<const registers::OptionRow*> OptionsThatShow(image::FieldId field, int entry);
 
-  bool Shows(image::FieldId field, int of_entry) const;
-};
-
-std::span<const OptionControl> OptionControls();
-
-// Whether the options of the register have the control on the screen, and what it shows then.
-std::optional<std::string> OptionWords(const ShadowProgram& program, const OptionControl& option);
+// What the control shows. Nothing if the options of the register do not have it on the screen.
+std::optional<std::string> OptionWords(const PreviewProgram& program, const registers::OptionRow& option);
 
 }  // namespace ovl::changes

@@ -43,10 +43,9 @@ image::DigitSpan DigitsOf(Part part, image::FieldId field, const firmware::Firmw
 
 SiteGroup OptionSites(const image::FieldDifference& difference, Place place) {
   SiteGroup group;
-  for (const auto& option : OptionControls()) {
-    if (!option.Shows(difference.field->id, difference.entry)) continue;
-    Site site{place, option.name, option.bits};
-    site.option = &option;
+  for (const auto* option : OptionsThatShow(difference.field->id, difference.entry)) {
+    Site site{place, option->control, option->bits};
+    site.option = option;
     group.push_back(site);
   }
   return group;

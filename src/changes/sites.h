@@ -15,10 +15,10 @@ namespace ovl::changes {
 struct Site {
   core::Place place;
   std::string_view control;
-  int bits = core::kWholeByte;            // of the first byte of the part
-  image::DigitSpan digits = {};           // of the field
-  int slot = 0;                           // the exception or alarm, counted from 1; 0: none
-  const OptionControl* option = nullptr;  // for an option of a register
+  int bits = core::kWholeByte;                   // of the first byte of the part
+  image::DigitSpan digits = {};                  // of the field
+  int slot = 0;                                  // the exception or alarm, counted from 1; 0: none
+  const registers::OptionRow* option = nullptr;  // for an option of a register
 };
 
 // The controls that one line of the lists of editors names. They show the same part of the field together.

@@ -118,11 +118,12 @@ std::string SlotCaption(const core::Application& app, const Site& site) {
   }
   if (site.place == Place::kRange) words = Tidy(app.frmSetRange.form.caption) + ", ";
   if (IsOfNetwork(app, site.control)) words = Tidy(app.frmMain.Frame13.caption) + ", ";
-  if (site.option != nullptr && !site.option->label.empty()) return words + std::string(site.option->label);
+  if (site.option != nullptr && !site.option->LabelAlone().empty())
+    return words + std::string(site.option->LabelAlone());
   return words + CaptionOf(app, site.control);
 }
 
-std::string ReachedBy(const ShadowProgram& program, const Site& site) {
+std::string ReachedBy(const PreviewProgram& program, const Site& site) {
   for (const auto& row : kButtons) {
     if (row.control == site.control) return std::string(row.button);
   }
@@ -168,7 +169,7 @@ std::optional<std::string> Wording::WordsOf(const Site& site, std::string_view v
   if (site.control == kRange) return RangeWords(form);
   auto words = program_.WordsOf(site.control);
   if (site.control == kExceptionText) {
-    if (codecs::HasBit(codecs::HexToInt(value), image::kFreeBit)) return "free";
+    if (image::IsFreeException(value)) return "free";
     return TextWords(*words, "free");
   }
   if (site.control == kTrigger && form.lbAlmTrig.visible && words)

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "changes/shadow_program.h"
+#include "changes/preview_program.h"
 #include "changes/sites.h"
 
 namespace ovl::changes {
@@ -19,7 +19,7 @@ std::string SlotCaption(const core::Application& app, const Site& site);
 
 // The control of the main form with which a person reaches the setting, and the list that first selects the
 // exception or alarm.
-std::string ReachedBy(const ShadowProgram& program, const Site& site);
+std::string ReachedBy(const PreviewProgram& program, const Site& site);
 std::string_view SlotListOf(const Site& site);
 
 // One image, and the program that shows it. It loads an exception or an alarm when it is asked for it.
@@ -30,14 +30,14 @@ class Wording {
   // Nothing if the form does not show the value.
   std::optional<std::string> WordsOf(const Site& site, std::string_view value);
 
-  const ShadowProgram& Program() const { return program_; }
+  const PreviewProgram& Program() const { return program_; }
   std::string RegisterName() const { return program_.Form().frmMain.ComboReg.Text(); }
 
  private:
   void Show(const Site& site);
   std::optional<std::string> FlagWords(const Site& site, std::string_view value) const;
 
-  ShadowProgram program_;
+  PreviewProgram program_;
   int exception_ = 0;
   int alarm_ = 0;
 };

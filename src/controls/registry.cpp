@@ -6,18 +6,18 @@ namespace ovl::controls {
 namespace {
 
 template <class Control>
-ControlState& FaceIn(Control* control) {
+ControlState& StateIn(Control* control) {
   return *control;
 }
 
-ControlState& FaceIn(const OptionElement& element) {
+ControlState& StateIn(const OptionElement& element) {
   return element.Of();
 }
 
 }  // namespace
 
 ControlState& StateOf(const ControlRef& control) {
-  return std::visit([](const auto& held) -> ControlState& { return FaceIn(held); }, control);
+  return std::visit([](const auto& held) -> ControlState& { return StateIn(held); }, control);
 }
 
 void Registry::Add(Form& form, std::string name, ControlRef control) {

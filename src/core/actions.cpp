@@ -95,7 +95,7 @@ void OpenCommPort(Application& app) {
   const auto opened = app.platform.serial.open({comm.CommPort, comm.Settings});
   ++app.last_port_attempt.number;
   app.last_port_attempt.refused = opened.Ok() ? std::nullopt : std::optional(opened.Problem());
-  if (!opened.Ok()) throw Failure(PortName(app), opened.Problem().what());
+  if (!opened.Ok()) throw Failure(PortName(app), opened.Problem());
   comm.PortOpen = true;
 }
 
@@ -107,7 +107,7 @@ void CloseCommPort(Application& app) {
 void Output(Application& app, std::string_view text) {
   if (!app.frmMain.MSComm1.PortOpen) return;
   const auto written = app.platform.serial.write(text);
-  if (!written.Ok()) throw Failure(PortName(app), written.Problem().what());
+  if (!written.Ok()) throw Failure(PortName(app), written.Problem());
 }
 
 std::string Input(Application& app) {
@@ -119,11 +119,16 @@ void ClearCommBuffers(Application& app) {
   app.platform.serial.clear_output();
 }
 
+void NoteFailure(Application& app, const Failure& failure) {
+  app.StatusNote = failure.Text();
+  app.noted_failure = failure;
+}
+
 void OutputOrSkip(Application& app, std::string_view text) {
   try {
     Output(app, text);
   } catch (const Failure& failure) {
-    app.StatusNote = failure.Text();
+    NoteFailure(app, failure);
   }
 }
 

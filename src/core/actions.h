@@ -48,6 +48,9 @@ void Output(Application& app, std::string_view text);
 std::string Input(Application& app);
 void ClearCommBuffers(Application& app);
 
+// Shows the failure in the status bar.
+void NoteFailure(Application& app, const Failure& failure);
+
 // Writes, and goes on if the device is lost: the status bar shows the reason. For steps that must be followed
 // by others, such as closing the port.
 void OutputOrSkip(Application& app, std::string_view text);

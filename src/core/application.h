@@ -142,9 +142,11 @@ struct Application {
   // For the screen alone
   std::optional<UnfitOption> unfit_option;  // of the register whose options were shown last
   PortAttempt last_port_attempt;
-  std::string saved_path;  // what the last Save has written; empty if it failed
-  std::string
-      StatusNote;  // what last went wrong, naming file or port and the system's reason; presentation only
+  std::string saved_path;                // what the last Save has written; empty if it failed
+  std::string history_path;              // the same for a history of the unit
+  bool upload_taken = false;             // the last upload was read whole
+  std::string StatusNote;                // what last went wrong: file or port, and the reason
+  std::optional<Failure> noted_failure;  // the same; nothing if no step has failed
 };
 
 }  // namespace ovl::core

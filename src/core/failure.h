@@ -4,6 +4,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <system_error>
 #include <utility>
 
 namespace ovl::core {
@@ -14,12 +15,20 @@ class Failure : public std::runtime_error {
  public:
   Failure(std::string subject, const std::string& description)
       : std::runtime_error(description), subject_(std::move(subject)) {}
+  Failure(std::string subject, std::error_code reason)
+      : std::runtime_error(reason.message()), subject_(std::move(subject)), reason_(reason) {}
+  // The same reason, told of another subject.
+  Failure(std::string subject, const Failure& other) : Failure(other) { subject_ = std::move(subject); }
+
   const std::string& Subject() const { return subject_; }
+  // False for a failure that was made from a description.
+  bool Is(std::errc reason) const { return reason_ == reason; }
   // "SUBJECT: REASON", as people read it.
   std::string Text() const { return subject_ + ": " + what(); }
 
  private:
   std::string subject_;
+  std::error_code reason_;
 };
 
 // What an operation returns when its caller decides what a failure means: success, or the failure.

@@ -12,8 +12,8 @@ bool Reachable(const controls::Form* form) {
 }
 
 bool CanAct(const Application& app, const controls::ControlRef& control) {
-  const auto& face = controls::StateOf(control);
-  if (!face.visible || !face.enabled) return false;
+  const auto& state = controls::StateOf(control);
+  if (!state.visible || !state.enabled) return false;
   if (const auto* element = std::get_if<controls::OptionElement>(&control);
       element != nullptr && !element->array->enabled) {
     return false;
@@ -120,9 +120,10 @@ Outcome Guarded(Application& app, const Work& work) {
   } catch (const ProgramEnd&) {
     return Outcome::kEnded;
   } catch (const Failure& failure) {
-    app.StatusNote = failure.Text();
+    NoteFailure(app, failure);
   } catch (const std::exception& error) {
     app.StatusNote = std::string("Internal error: ") + error.what();
+    app.noted_failure.reset();
   }
   return Outcome::kDone;
 }

@@ -3,50 +3,11 @@
 #pragma once
 
 #include <functional>
-#include <string>
-#include <variant>
 
 #include "core/application.h"
+#include "core/event.h"
 
 namespace ovl::core {
-
-// What the installer does.
-struct PickEvent {
-  controls::ControlRef control;  // a list, or an option array
-  int position = 0;
-};
-struct ClickEvent {
-  controls::ControlRef
-      control;  // a button, a menu item, an element of an option array, a check box (turned over)
-};
-struct TypeEvent {
-  controls::TextBox* box = nullptr;
-  std::string text;  // what the box then holds
-};
-struct LeaveEvent {
-  controls::ControlRef control;
-};
-struct PointEvent {
-  controls::ControlRef control;
-};
-enum class Key { kEnter, kEscape };
-struct KeyEvent {
-  controls::Form* form = nullptr;
-  Key key = Key::kEnter;
-};
-struct CloseEvent {
-  controls::Form* form = nullptr;
-};
-
-// What the timers and the serial line do.
-struct TickEvent {
-  controls::Timer* timer = nullptr;
-};
-struct ReceivedEvent {};
-struct DrainedEvent {};
-
-using Event = std::variant<PickEvent, ClickEvent, TypeEvent, LeaveEvent, PointEvent, KeyEvent, CloseEvent,
-                           TickEvent, ReceivedEvent, DrainedEvent>;
 
 enum class Outcome {
   kDone,

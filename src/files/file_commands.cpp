@@ -13,28 +13,21 @@
 namespace ovl::files {
 namespace {
 
-constexpr image::Region kSavedV13Region = {0x7800, 0x7FE0};
 constexpr const char* kTextFiles = "Text Files(*.txt)|*.txt";
 constexpr const char* kBinFiles = "Bin Files(*bin)|*.bin";
 constexpr const char* kAllFiles = "All Files(*.*)|*.*";
 
-// The stream of a saved file. Whatever the release, it has the early layout in V1400 and the lower region in
-// the other families.
 std::string SavedStream(core::Application& app) {
   PrepareCapabilities(app);
   if (!firmware::IsKnownFamily(app.firmware.version)) {
-    throw core::Failure(app.firmware.Joined(), std::make_error_code(std::errc::not_supported).message());
+    throw core::Failure(app.firmware.Joined(), std::make_error_code(std::errc::not_supported));
   }
-  const auto layout =
-      app.firmware.IsV1400() ? firmware::Layout::kEarlyV1400 : firmware::LayoutOf(app.firmware);
-  const auto region = app.firmware.IsV1400() ? image::WriteRegion(app.firmware) : kSavedV13Region;
-  return core::ComposeStream(app, layout, region);
+  return core::ComposeStream(app, firmware::SavedLayoutOf(app.firmware), image::SavedRegion(app.firmware));
 }
 
 std::string AskForPath(core::Application& app, const core::FileDialog& dialog) {
   const auto answer = app.platform.ask_file(dialog);
-  if (!answer)
-    throw core::Failure(dialog.file_name, std::make_error_code(std::errc::operation_canceled).message());
+  if (!answer) throw core::Failure(dialog.file_name, std::make_error_code(std::errc::operation_canceled));
   app.CurrentFilePath = answer->file_name;
   return app.CurrentFilePath;
 }
@@ -69,7 +62,7 @@ void OpenMenu_Click(core::Application& app, int) {
     TakeStream(app);
   } catch (const core::Failure& failure) {
     app.StreamText.clear();
-    app.StatusNote = failure.Text();
+    NoteFailure(app, failure);
   }
   app.PanelsReady = true;
 }
@@ -87,7 +80,7 @@ void menuSave_Click(core::Application& app, int) {
     app.platform.files.replace(path, stream + "\r\n");
     app.saved_path = path;
   } catch (const core::Failure& failure) {
-    app.StatusNote = failure.Text();
+    NoteFailure(app, failure);
     MsgBox(app, core::Box::kNotSaved);
     return;
   }

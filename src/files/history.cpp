@@ -53,10 +53,12 @@ void SaveHistory(core::Application& app) {
   const auto dialog = Dialog(app, core::FileDialog::Kind::kSave, "\\History.txt");
   const auto answer = app.platform.ask_file(dialog);
   app.CurrentFilePath = answer ? answer->file_name : dialog.file_name;
+  app.history_path.clear();
   try {
     app.platform.files.replace(app.CurrentFilePath, std::string(kTag) + "\r\n" + app.HistoryText + "\r\n");
+    app.history_path = app.CurrentFilePath;
   } catch (const core::Failure& failure) {
-    app.StatusNote = failure.Text();
+    NoteFailure(app, failure);
   }
 }
 
@@ -66,7 +68,7 @@ void OpenHistory_menu_Click(core::Application& app, int) {
   try {
     OpenHistory(app, *answer);
   } catch (const core::Failure& failure) {
-    app.StatusNote = failure.Text();
+    NoteFailure(app, failure);
   }
 }
 

@@ -92,9 +92,17 @@ Capabilities CapabilitiesOf(const FirmwareId& firmware) {
   return capabilities;
 }
 
+Layout SavedLayoutOf(const FirmwareId& firmware) {
+  return firmware.IsV1400() ? Layout::kEarlyV1400 : LayoutOf(firmware);
+}
+
 bool SavedFileReopens(const FirmwareId& firmware) {
   const auto layout = LayoutOf(firmware);
   return layout == Layout::kEarlyV1400 || layout == Layout::kOldV13;
+}
+
+bool ReadsSavedFileShifted(const FirmwareId& firmware) {
+  return firmware.IsV1400() && !SavedFileReopens(firmware);
 }
 
 bool HasShortImage(const FirmwareId& firmware) {
@@ -107,6 +115,10 @@ bool StoresBlankByRts(const FirmwareId& firmware) {
 }
 
 bool HasVideoLoss(const FirmwareId& firmware) {
+  return firmware.IsV1400();
+}
+
+bool HasCharactersPerLine(const FirmwareId& firmware) {
   return firmware.IsV1400();
 }
 
@@ -135,6 +147,10 @@ int AutoSpeedPosition(const FirmwareId& firmware) {
   return firmware.IsV1400() ? 10 : 8;
 }
 
+bool HasNetwork(const FirmwareId& firmware) {
+  return firmware.IsV1400();
+}
+
 bool HasFixedMasterAddress(const FirmwareId& firmware) {
   const auto name = firmware.Joined();
   return name == "V1400R1" || name == "V1400R2";
@@ -142,6 +158,10 @@ bool HasFixedMasterAddress(const FirmwareId& firmware) {
 
 bool HasAlarmType(const FirmwareId& firmware) {
   return IsIn(kAlarmType, firmware);
+}
+
+bool StoresRecorder(const FirmwareId& firmware) {
+  return IsKnownFamily(firmware.version) && !firmware.IsV1400();
 }
 
 bool HasSecondRecorderPair(const FirmwareId& firmware) {
@@ -160,12 +180,28 @@ bool CountsDemoCharactersFromOne(const FirmwareId& firmware) {
   return IsIn(kDemoFromOne, firmware);
 }
 
+bool StoresDemoType(const FirmwareId& firmware) {
+  return firmware.IsV1400();
+}
+
+bool StoresUnpackedDemoSpeed(const FirmwareId& firmware) {
+  return firmware.IsV1400();
+}
+
 bool ShowsDemoType(const FirmwareId& firmware) {
   return IsIn(kDemoType, firmware);
 }
 
 bool ShowsDemoSpeed(const FirmwareId& firmware) {
   return firmware.IsV1400() ? IsIn(kDemoSpeedV1400, firmware) : HasPackedDemo(firmware);
+}
+
+bool ReplacesSlashesInImageNames(const FirmwareId& firmware) {
+  return firmware.IsV1400();
+}
+
+bool RefillsPrintouts(const FirmwareId& firmware) {
+  return firmware.IsV1400();
 }
 
 bool WritesNixdorfToExtension(const FirmwareId& firmware) {

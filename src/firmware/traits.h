@@ -39,9 +39,15 @@ Layout LayoutOf(const FirmwareId& firmware);
 // R9 counts as 0.
 Capabilities CapabilitiesOf(const FirmwareId& firmware);
 
-// A file that "Save" writes opens again under the same firmware. "Save" writes the early V1400 layout under
-// every V1400, and the region of the old V13xx layout under the other families.
+// The layout of a file that "Save" writes: the early one under every V1400, otherwise that of the firmware.
+Layout SavedLayoutOf(const FirmwareId& firmware);
+
+// A file that "Save" writes opens again under the same firmware. Under V13xx it is in the region of the old
+// layout.
 bool SavedFileReopens(const FirmwareId& firmware);
+
+// "Open" takes a file of "Save" although it does not reopen, and reads it with shifted fields: V1400.
+bool ReadsSavedFileShifted(const FirmwareId& firmware);
 
 // V1400 below release 6: the image ends one record earlier. This rule goes by the number, LayoutOf by the
 // text. They disagree about R3 and R5, which no unit has.
@@ -54,6 +60,9 @@ bool StoresBlankByRts(const FirmwareId& firmware);
 // A byte of the alarm record says what happens on a loss of the video signal, and each triggered text has a
 // delay: V1400.
 bool HasVideoLoss(const FirmwareId& firmware);
+
+// The image has the number of characters in a line: V1400.
+bool HasCharactersPerLine(const FirmwareId& firmware);
 
 // The digits before the separator in a range value of an exception: 8 in V1400, 4 in all others.
 std::size_t RangeIntegersOf(const FirmwareId& firmware);
@@ -70,6 +79,9 @@ const InterfaceCodes* InterfaceCodesOf(const FirmwareId& firmware);
 // The position of "AUTO" in the speed lists. Only V1400 knows speeds above 38400.
 int AutoSpeedPosition(const FirmwareId& firmware);
 
+// The unit works in a network, and has protocols and a software handshake: V1400.
+bool HasNetwork(const FirmwareId& firmware);
+
 // V1400 R1 and R2: the master of a network has a fixed address.
 bool HasFixedMasterAddress(const FirmwareId& firmware);
 
@@ -77,6 +89,9 @@ bool HasFixedMasterAddress(const FirmwareId& firmware);
 
 // The alarm type: V1400 from release 6 on, V1300 from 26 on, V1324 from 25 on, all V1310 and V1334.
 bool HasAlarmType(const FirmwareId& firmware);
+
+// The video recorder is stored: every known family but V1400.
+bool StoresRecorder(const FirmwareId& firmware);
 
 // The third video recorder with its own pair of addresses: missing in V1300 below release 27 and in V1324
 // below release 26. All others have it.
@@ -96,6 +111,12 @@ bool HasPackedDemo(const FirmwareId& firmware);
 // neither.
 bool CountsDemoCharactersFromOne(const FirmwareId& firmware);
 
+// The type of the demonstration is stored: V1400.
+bool StoresDemoType(const FirmwareId& firmware);
+
+// The speed of the demonstration is stored where the byte does not pack it: V1400.
+bool StoresUnpackedDemoSpeed(const FirmwareId& firmware);
+
 // The list of demonstrations: V1400 releases 2, 4, 6, 7, and from 11 on.
 bool ShowsDemoType(const FirmwareId& firmware);
 
@@ -103,6 +124,12 @@ bool ShowsDemoType(const FirmwareId& firmware);
 bool ShowsDemoSpeed(const FirmwareId& firmware);
 
 // ---- Options of the registers
+
+// In the name of a default image blanks replace the slashes and commas of the register's name: V1400.
+bool ReplacesSlashesInImageNames(const FirmwareId& firmware);
+
+// IBM3151 TERMINAL, SCHLUMBERGER: the list of printouts is emptied before it is filled again. V1400.
+bool RefillsPrintouts(const FirmwareId& firmware);
 
 // NIXDORF, OMEGA 2000, TKMAXX: the option is written into REGTYPE_EXT2 from release 7 on, whatever the
 // family; before, into REGTYPE_MINOR.

@@ -1,8 +1,8 @@
 #include "host/comports.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QSerialPortInfo>
-#include <cerrno>
 
 #include "host/posix/posix_line.h"
 #include "host/text_codec.h"
@@ -50,10 +50,11 @@ std::vector<Comport> ListComports(const QString& program_folder) {
   return comports;
 }
 
-QString ComportProblem(int number, const QString& device, const std::string& reason) {
-  auto sentence =
-      QStringLiteral("Comport %1, %2: %3.").arg(QString::number(number), device, FromWindows1252(reason));
-  if (reason == SystemText(EACCES)) {
+QString ComportProblem(int number, const core::Failure& failure) {
+  const auto device = QFile::decodeName(failure.Subject().c_str());
+  auto sentence = QStringLiteral("Comport %1, %2: %3.")
+                      .arg(QString::number(number), device, FromWindows1252(failure.what()));
+  if (failure.Is(std::errc::permission_denied)) {
     const auto group = DeviceGroup(device);
     if (!group.isEmpty()) sentence += QStringLiteral(" The device belongs to the group %1.").arg(group);
   }

@@ -3,8 +3,9 @@
 #pragma once
 
 #include <QString>
-#include <string>
 #include <vector>
+
+#include "core/failure.h"
 
 namespace ovl::host {
 
@@ -25,8 +26,8 @@ QString ComportDevice(const QString& program_folder, int number);
 // All sixteen in order, as the dialog lists them.
 std::vector<Comport> ListComports(const QString& program_folder);
 
-// The sentence that the status bar shows when a port fails: number, device and the system's reason (bytes of
-// Windows-1252). If permission is denied, it also names the group whose members may use the device.
-QString ComportProblem(int number, const QString& device, const std::string& reason);
+// The sentence that the status bar shows when a port fails: number, device and the system's reason. If
+// permission is denied, it also names the group whose members may use the device.
+QString ComportProblem(int number, const core::Failure& failure);
 
 }  // namespace ovl::host

@@ -20,12 +20,12 @@ constexpr std::uintmax_t kLargestFile = 64U * 1024U * 1024U;
 constexpr std::size_t kPart = 16U * 1024U;
 
 [[noreturn]] void Fail(const std::string& path, std::errc reason) {
-  throw core::Failure(path, std::make_error_code(reason).message());
+  throw core::Failure(path, std::make_error_code(reason));
 }
 
 // The stream library gives the reason only through errno.
 [[noreturn]] void FailWithErrno(const std::string& path) {
-  throw core::Failure(path, std::generic_category().message(errno != 0 ? errno : EIO));
+  throw core::Failure(path, std::error_code(errno != 0 ? errno : EIO, std::generic_category()));
 }
 
 // The end of a chain of links: where the file is, or where it is going to be.
@@ -36,7 +36,7 @@ fs::path TargetOf(const std::string& path) {
   for (int link = 0; fs::is_symlink(target, error); ++link) {
     if (link == kLongestChain) Fail(path, std::errc::too_many_symbolic_link_levels);
     const auto next = fs::read_symlink(target, error);
-    if (error) throw core::Failure(path, error.message());
+    if (error) throw core::Failure(path, error);
     target = next.is_absolute() ? next : target.parent_path() / next;
   }
   return target;
@@ -81,7 +81,7 @@ void CopyPermissions(const fs::path& target, const fs::path& beside) {
 }
 
 void RequireFlushed(int error, const fs::path& path) {
-  if (error != 0) throw core::Failure(path.string(), std::generic_category().message(error));
+  if (error != 0) throw core::Failure(path.string(), std::error_code(error, std::generic_category()));
 }
 
 void WriteInto(File file, const fs::path& beside, std::string_view bytes, Flush flush) {
@@ -130,10 +130,10 @@ void ReplaceFile(const std::string& path, std::string_view bytes, Flush flush) {
     if (flush == Flush::kYes) RequireFlushed(FlushFolder((target.parent_path() / ".").string()), target);
   } catch (const fs::filesystem_error& reason) {
     fs::remove(beside, ignored);
-    throw core::Failure(path, reason.code().message());
+    throw core::Failure(path, reason.code());
   } catch (const core::Failure& reason) {
     fs::remove(beside, ignored);
-    throw core::Failure(path, reason.what());
+    throw core::Failure(path, reason);
   }
 }
 

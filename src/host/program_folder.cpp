@@ -20,7 +20,7 @@ fs::path PathOf(const QString& path) {
 }
 
 [[noreturn]] void Fail(const fs::path& path, const std::error_code& reason) {
-  throw core::Failure(path.string(), reason.message());
+  throw core::Failure(path.string(), reason);
 }
 
 void MakeFolder(const fs::path& path) {

@@ -91,7 +91,7 @@ core::Result SerialPort::Open(const core::LineSettings& settings) {
   number_ = settings.port;
   device_ = ComportDevice(program_folder_, number_);
   const auto format = ParseFormat(settings.text);
-  if (!format) return Report(SystemText(EINVAL));
+  if (!format) return Report(FailureWith(EINVAL));
 
   port_.setPortName(device_);
   // They are set before the port is open. On an open port, drivers that lack 7 data bits or parity refuse
@@ -102,21 +102,26 @@ core::Result SerialPort::Open(const core::LineSettings& settings) {
   port_.setStopBits(QSerialPort::OneStop);
   port_.setFlowControl(QSerialPort::NoFlowControl);
   const LinePreset preset(device_, format->baud, format->data_bits, format->parity_letter);
-  if (!port_.open(QIODevice::ReadWrite)) return Report(OpenReason());
+  if (!port_.open(QIODevice::ReadWrite)) return Report(OpenFailure());
   if (const int error = Prepare()) {
     Close();
-    return Report(SystemText(error));
+    return Report(FailureWith(error));
   }
   problem_.clear();
   return {};
 }
 
 // Qt words errors in its own way, so the system is asked once more why the device does not open.
-std::string SerialPort::OpenReason() const {
-  if (const int error = ProbeDevice(device_)) return SystemText(error);
-  if (port_.error() == QSerialPort::PermissionError && CanLockDevices()) return SystemText(EBUSY);
-  if (port_.error() == QSerialPort::UnsupportedOperationError) return SystemText(EINVAL);
-  return ToWindows1252(port_.errorString()).value_or(SystemText(EIO));
+core::Failure SerialPort::OpenFailure() const {
+  if (const int error = ProbeDevice(device_)) return FailureWith(error);
+  if (port_.error() == QSerialPort::PermissionError && CanLockDevices()) return FailureWith(EBUSY);
+  if (port_.error() == QSerialPort::UnsupportedOperationError) return FailureWith(EINVAL);
+  return {QFile::encodeName(device_).toStdString(),
+          ToWindows1252(port_.errorString()).value_or(SystemText(EIO))};
+}
+
+core::Failure SerialPort::FailureWith(int error) const {
+  return {QFile::encodeName(device_).toStdString(), std::error_code(error, std::generic_category())};
 }
 
 // Sets what Qt does not set on a port that has just been opened.
@@ -155,14 +160,14 @@ void SerialPort::Forget() {
 
 core::Result SerialPort::Write(std::string_view bytes) {
   if (!lost_.Ok()) return lost_;
-  if (!port_.isOpen()) return core::Failure(QFile::encodeName(device_).toStdString(), SystemText(EBADF));
+  if (!port_.isOpen()) return FailureWith(EBADF);
   if (bytes.empty()) return {};
 
   const auto start = Clock::now();
   WriteResult result;
   if (port_.bytesToWrite() == 0) result = WriteAtOnce(port_.handle(), bytes);
   if (result.error != 0) {
-    Lose(SystemText(result.error));
+    Lose(result.error);
     return lost_;
   }
   const auto rest = bytes.substr(result.taken);
@@ -205,22 +210,22 @@ void SerialPort::OnPortError(QSerialPort::SerialPortError error) {
   if (!fatal || !port_.isOpen()) return;
   // If input is discarded after the event loop has seen it, the read fails although the line works.
   if (error == QSerialPort::ReadError && LineAlive(port_.handle())) return;
-  Lose(SystemText(ProbeDevice(device_) == ENOENT ? ENODEV : EIO));
+  Lose(ProbeDevice(device_) == ENOENT ? ENODEV : EIO);
 }
 
 // A lost device reports errors without end, so the port is closed at once. Characters received before stay. A
 // drained event that is due is still dispatched: a sender then goes on, and its next write fails.
-void SerialPort::Lose(const std::string& reason) {
+void SerialPort::Lose(int error) {
   TakeReceived();
-  lost_ = Report(reason);
+  lost_ = Report(FailureWith(error));
   port_.close();
   timer_.Stop();
   if (drain_owed_ || undelivered_ > 0) Post();
 }
 
-core::Failure SerialPort::Report(const std::string& reason) {
-  problem_ = ComportProblem(number_, device_, reason);
-  return {QFile::encodeName(device_).toStdString(), reason};
+core::Failure SerialPort::Report(core::Failure failure) {
+  problem_ = ComportProblem(number_, failure);
+  return failure;
 }
 
 void SerialPort::Post() {

@@ -46,7 +46,8 @@ class SerialPort : public QObject {
   enum class Turn { kWhole, kShort };
 
   core::Result Open(const core::LineSettings& settings);
-  std::string OpenReason() const;
+  core::Failure OpenFailure() const;
+  core::Failure FailureWith(int error) const;
   // Returns an error number, or 0.
   int Prepare();
   void Close();
@@ -56,9 +57,9 @@ class SerialPort : public QObject {
   void ClearOutput();
 
   void OnPortError(QSerialPort::SerialPortError error);
-  void Lose(const std::string& reason);
+  void Lose(int error);
   void Forget();
-  core::Failure Report(const std::string& reason);
+  core::Failure Report(core::Failure failure);
 
   void Post();
   void TakeReceived();

@@ -19,19 +19,26 @@ constexpr Region kV1400Long = {0x2000, 0x2860};
 constexpr Region kOldV13Region = {0x7800, 0x7FE0};
 constexpr Region kNewV13Region = {0x77F0, 0x7FF0};
 
-Region ByRelease(const firmware::FirmwareId& firmware) {
-  if (firmware.IsV1400()) return firmware::HasShortImage(firmware) ? kV1400Short : kV1400Long;
-  return LayoutOf(firmware) == firmware::Layout::kOldV13 ? kOldV13Region : kNewV13Region;
-}
-
 }  // namespace
 
 Region ReadRegion(const firmware::FirmwareId& firmware) {
-  return LayoutOf(firmware) == firmware::Layout::kLateV1400 ? kV1400Long : ByRelease(firmware);
+  return LayoutOf(firmware) == firmware::Layout::kLateV1400 ? kV1400Long : WriteRegion(firmware);
 }
 
 Region WriteRegion(const firmware::FirmwareId& firmware) {
-  return ByRelease(firmware);
+  switch (LayoutOf(firmware)) {
+    case firmware::Layout::kOldV13:
+      return kOldV13Region;
+    case firmware::Layout::kNewV13:
+      return kNewV13Region;
+    default:
+      return firmware::HasShortImage(firmware) ? kV1400Short : kV1400Long;
+  }
+}
+
+Region SavedRegion(const firmware::FirmwareId& firmware) {
+  const auto region = WriteRegion(firmware);
+  return region.first == kNewV13Region.first ? kOldV13Region : region;
 }
 
 std::string AddressMarker(int address) {

@@ -21,6 +21,9 @@ struct Region {
 Region ReadRegion(const firmware::FirmwareId& firmware);
 Region WriteRegion(const firmware::FirmwareId& firmware);
 
+// The region of a file that "Save" writes, in the layout of firmware::SavedLayoutOf.
+Region SavedRegion(const firmware::FirmwareId& firmware);
+
 // "$" and four digits, the start of a record.
 std::string AddressMarker(int address);
 

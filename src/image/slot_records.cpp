@@ -117,6 +117,24 @@ DigitSpan PatternDigits(const firmware::FirmwareId& firmware) {
   return {RangeEnd(firmware)};
 }
 
+bool IsFreeException(std::string_view slot) {
+  return !slot.empty() && codecs::HasBit(codecs::HexToInt(slot), kFreeBit);
+}
+
+TriggeringExceptions ExceptionsOfTrigger(int trigger) {
+  constexpr int kFirstHalf = 25, kSecondHalf = 26, kAll = 27, kHalf = kExceptions / 2;
+  if (trigger > kNoTrigger && trigger <= kExceptions) return {trigger, trigger};
+  if (trigger == kFirstHalf) return {1, kHalf};
+  if (trigger == kSecondHalf) return {kHalf + 1, kExceptions};
+  if (trigger == kAll) return {1, kExceptions};
+  return {};
+}
+
+std::optional<int> AlarmTime(int counter) {
+  constexpr int kPulse = 0, kEnd = 256;
+  return counter == kPulse ? std::nullopt : std::optional(kEnd - counter);
+}
+
 int AlarmTrigger(std::string_view record) {
   return codecs::HexToInt(record);
 }

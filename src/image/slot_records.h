@@ -11,6 +11,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -78,6 +79,9 @@ std::string ExceptionText(std::string_view slot, const firmware::FirmwareId& fir
 // Stores the pattern with its length. A blank one marks the slot as free.
 void StoreExceptionText(std::string& slot, const firmware::FirmwareId& firmware, std::string text);
 
+// The flags say that the slot is free. An empty slot says nothing.
+bool IsFreeException(std::string_view slot);
+
 // The slot of a unit that was never configured.
 std::string FreeExceptionSlot(const firmware::FirmwareId& firmware);
 
@@ -100,8 +104,20 @@ inline constexpr DigitSpan kFirstByteDigits = {0, 2};
 inline constexpr int kNoTrigger = 0;
 inline constexpr int kRtsTrigger = 28;
 
+// The exceptions that a trigger means, from first to last: one, a half of them, or all. None for the other
+// triggers.
+struct TriggeringExceptions {
+  int first = 1;
+  int last = 0;
+};
+TriggeringExceptions ExceptionsOfTrigger(int trigger);
+
 int AlarmTrigger(std::string_view record);
 int AlarmCounter(std::string_view record);
+
+// The time of a duration counter: it runs up to 256. Nothing for a pulse.
+std::optional<int> AlarmTime(int counter);
+
 int AlarmVideoLoss(std::string_view record);
 
 // The two bytes of the duration, and those after them.

@@ -85,7 +85,7 @@ void SendWhole(core::Application& app, const std::string& text) {
 }
 
 void ReportSendFailure(core::Application& app, const core::Failure& failure) {
-  app.StatusNote = failure.Text();
+  NoteFailure(app, failure);
   ClearDownload(app);
   MsgBox(app, core::Box::kSendFailed, failure.what());
 }

@@ -35,12 +35,13 @@ void OpenPort(core::Application& app) {
   try {
     SetUpComm(app);
   } catch (const core::Failure& failure) {
-    app.StatusNote = failure.Text();
+    NoteFailure(app, failure);
     MsgBox(app, core::Box::kPortFailed, failure.what());
     return;
   }
   auto& form = app.frmMain;
   app.StatusNote.clear();
+  app.noted_failure.reset();
   form.CmdUpDow[controls::kRemote].enabled = true;
   form.lbConnectting.caption =
       "Connected at COM " + std::to_string(app.PortNumber) + ": " + SettingsText(app);

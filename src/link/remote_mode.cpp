@@ -243,7 +243,7 @@ void Time_handcheck_Timer(core::Application& app, int) {
   try {
     TickHandcheck(app);
   } catch (const core::Failure& failure) {
-    app.StatusNote = failure.Text();
+    NoteFailure(app, failure);
     MsgBox(app, core::Box::kKeepAliveFailed, failure.what());
   }
 }

@@ -35,7 +35,7 @@ void EndRemoteMode(core::Application& app) {
 
 // Nothing of the upload reaches the image. Panels and register list get a defined state.
 void AbandonUpload(core::Application& app, const core::Failure& failure) {
-  app.StatusNote = failure.Text();
+  NoteFailure(app, failure);
   app.UploadApplying = true;
   AssignPosition(app, app.frmMain.ComboReg, kRegisterAfterFailure);
   app.UploadApplying = false;
@@ -66,6 +66,7 @@ void StoreUpload(core::Application& app) {
 
 void FinishStream(core::Application& app) {
   app.FrameState = 0;
+  app.upload_taken = false;
   try {
     StoreUpload(app);
   } catch (const core::Failure& failure) {
@@ -108,13 +109,14 @@ void CollectUploadChar(core::Application& app) {
 }
 
 void FinishUpload(core::Application& app) {
-  bool taken = false;
+  app.upload_taken = false;
   try {
-    taken = TakeUpload(app);
+    const bool taken = TakeUpload(app);
     if (taken) {
       for (const auto& routine : app.Setting_Code) routine.run(app);
       AssignPosition(app, app.frmMain.ComboExcp[controls::Excp::kNumber], 0, core::Raise::kAlways);
     }
+    app.upload_taken = taken;
   } catch (const core::Failure& failure) {
     AbandonUpload(app, failure);
     return;
@@ -122,7 +124,7 @@ void FinishUpload(core::Application& app) {
   app.PanelsReady = true;
   ShowBarFull(app);
   LoadForm(app, app.frmOK_buttom.form);
-  app.frmOK_buttom.Label1.caption = taken ? "Upload Completed." : "Upload Incompleted.";
+  app.frmOK_buttom.Label1.caption = app.upload_taken ? "Upload Completed." : "Upload Incompleted.";
   ShowForm(app, app.frmOK_buttom.form);
   HideTransfer(app, app.frmMain.Label64[1]);
   EndRemoteMode(app);

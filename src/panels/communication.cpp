@@ -105,7 +105,7 @@ void ApplyCommunication(core::Application& app) {
   ApplyInterfaceType(app);
   ApplyField(app, Comm::kReceiveSpeed, RX_BAUDRATE);
   ApplyField(app, Comm::kSendSpeed, TX_BAUDRATE);
-  if (!app.firmware.IsV1400()) return;
+  if (!firmware::HasNetwork(app.firmware)) return;
   ApplyField(app, Comm::kNetAddress, NET_ADDRESS);
   ApplyField(app, Comm::kNetType, NET_TYPE);
   ApplyField(app, Comm::kNetProtocol, NET_PROTOCOL);

@@ -45,7 +45,7 @@ void ApplyDemo(core::Application& app) {
   }
   AssignPosition(app, form.CharacterList, byte >> kCharactersBit & 1);
   AssignPosition(app, form.DemoSpeed, byte >> kSpeedShift & 3);
-  if (app.firmware.IsV1400()) AssignPosition(app, form.DemoType, byte & 0x0F);
+  if (firmware::StoresDemoType(app.firmware)) AssignPosition(app, form.DemoType, byte & 0x0F);
 }
 
 void DemoMode_Click(core::Application& app, int) {
@@ -68,7 +68,7 @@ void CharacterList_Click(core::Application& app, int) {
 }
 
 void DemoType_Click(core::Application& app, int) {
-  if (app.firmware.IsV1400())
+  if (firmware::StoresDemoType(app.firmware))
     Store(app, firmware::HasPackedDemo(app.firmware) ? 0xF0 : 0xC0, app.frmMain.DemoType.position);
 }
 
@@ -76,7 +76,7 @@ void DemoSpeed_Click(core::Application& app, int) {
   const int position = app.frmMain.DemoSpeed.position;
   if (firmware::HasPackedDemo(app.firmware)) {
     Store(app, 0xCF, position << kSpeedShift);
-  } else if (app.firmware.IsV1400()) {
+  } else if (firmware::StoresUnpackedDemoSpeed(app.firmware)) {
     Store(app, 0xC0, position + 1);
   }
 }

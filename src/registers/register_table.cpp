@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "registers/assignments.h"
+#include "registers/options/assignments.h"
 
 namespace ovl::registers {
 namespace {

@@ -9,11 +9,11 @@
 #include "core/failure.h"
 #include "files/files.h"
 #include "image/record_stream.h"
-#include "registers/micros.h"
-#include "registers/option_handlers.h"
+#include "registers/options/micros.h"
+#include "registers/options/option_handlers.h"
+#include "registers/options/sub_menus.h"
 #include "registers/register_catalogue.h"
 #include "registers/register_table.h"
-#include "registers/sub_menus.h"
 
 namespace ovl::registers {
 namespace {
@@ -45,22 +45,27 @@ const RegisterRow* RowOfSelected(const core::Application& app) {
 
 }  // namespace
 
-std::string Check_Slash_Comma(const core::Application& app) {
-  auto name = app.frmMain.ComboReg.Text();
+std::string Check_Slash_Comma(std::string name) {
   std::replace(name.begin(), name.end(), '/', ' ');
   std::replace(name.begin(), name.end(), ',', ' ');
   return name;
 }
 
+std::string ImageFileOf(const firmware::FirmwareId& firmware, std::string_view register_name) {
+  const bool replaces = firmware::ReplacesSlashesInImageNames(firmware);
+  const std::string name(register_name);
+  return (replaces ? Check_Slash_Comma(name) : name) + ".bin";
+}
+
 void DefaultImagePath(core::Application& app) {
   const auto& firmware = app.firmware;
   if (!firmware::IsKnownFamily(firmware.version)) return;
-  const auto name = firmware.IsV1400() ? Check_Slash_Comma(app) : app.frmMain.ComboReg.Text();
+  const auto name = ImageFileOf(firmware, app.frmMain.ComboReg.Text());
   if (name.find_first_of("/\\") != std::string::npos) {
-    throw core::Failure(name, std::make_error_code(std::errc::invalid_argument).message());
+    throw core::Failure(app.frmMain.ComboReg.Text(), std::make_error_code(std::errc::invalid_argument));
   }
-  app.CurrentFilePath = files::PathBelow(
-      app.platform.program_folder, "\\" + firmware.version + "\\" + firmware.release + "\\" + name + ".bin");
+  app.CurrentFilePath = files::PathBelow(app.platform.program_folder,
+                                         "\\" + firmware.version + "\\" + firmware.release + "\\" + name);
 }
 
 void RegisterSelected(core::Application& app, int) {
@@ -73,7 +78,7 @@ void RegisterSelected(core::Application& app, int) {
   try {
     TakeDefaultImage(app);
   } catch (const core::Failure& failure) {
-    app.StatusNote = failure.Text();
+    NoteFailure(app, failure);
     MsgBox(app, core::Box::kNoDefaultImage, failure.what());
     EndProgram(app);
   }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "core/application.h"
 
@@ -27,8 +28,11 @@ bool OptionsAreHidden(const core::Application& app);
 // That byte; null if the options are shown, or if the image was changed since without showing it.
 const core::UnfitOption* UnfitOptionOf(const core::Application& app);
 
-// The selected register's name as a file name: "/" and "," become blanks.
-std::string Check_Slash_Comma(const core::Application& app);
+// A register's name as a file name: "/" and "," become blanks.
+std::string Check_Slash_Comma(std::string name);
+
+// The file of a register's default image, without its folder.
+std::string ImageFileOf(const firmware::FirmwareId& firmware, std::string_view register_name);
 
 // Puts the path of the selected register's default image into CurrentFilePath. A family without images leaves
 // the last path there.

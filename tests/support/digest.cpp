@@ -8,9 +8,9 @@
 namespace ovl::testing {
 namespace {
 
-void AddFace(Digest& digest, const controls::ControlState& face) {
-  digest.Add(face.caption);
-  digest.Add((face.visible ? 1 : 0) + (face.enabled ? 2 : 0) + 4 * face.index);
+void AddState(Digest& digest, const controls::ControlState& state) {
+  digest.Add(state.caption);
+  digest.Add((state.visible ? 1 : 0) + (state.enabled ? 2 : 0) + 4 * state.index);
 }
 
 // The properties that only some kinds of controls have.
@@ -52,7 +52,7 @@ void AddRest(Digest& digest, const controls::Form* form) {
 }
 
 void AddControl(Digest& digest, const controls::ControlRef& control) {
-  AddFace(digest, controls::StateOf(control));
+  AddState(digest, controls::StateOf(control));
   std::visit([&](const auto& held) { AddRest(digest, held); }, control);
 }
 

@@ -34,10 +34,10 @@ class SimulatedUnit {
     program.emplace(
         unit::UnitSetup{firmware, unit::FactoryImage(*firmware), setup.history, setup.speed,
                         unit::Faults(std::move(faults), setup.seed)},
-        unit::Surroundings{[this](const std::string& text) { complaints.push_back(text); },
-                           [](const std::string&) {}, [this](const std::string& bytes) { sent += bytes; },
-                           [this](const std::string& image) { return kept_image = image, failure; },
-                           [this](const std::string& clock) { return kept_clock = clock, failure; }});
+        unit::UnitHooks{[this](const std::string& text) { complaints.push_back(text); },
+                        [](const std::string&) {}, [this](const std::string& bytes) { sent += bytes; },
+                        [this](const std::string& image) { return kept_image = image, failure; },
+                        [this](const std::string& clock) { return kept_clock = clock, failure; }});
   }
   SimulatedUnit(const SimulatedUnit&) = delete;
   SimulatedUnit& operator=(const SimulatedUnit&) = delete;

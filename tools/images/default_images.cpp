@@ -1,6 +1,5 @@
 #include "images/default_images.h"
 
-#include <algorithm>
 #include <filesystem>
 
 #include "core/configuration.h"
@@ -34,15 +33,6 @@ std::string StreamOf(image::ConfigImage image, const firmware::FirmwareId& firmw
   const auto sections = image::WriteSections(image, firmware::LayoutOf(firmware), firmware, capabilities);
   return image::BlockRecords(sections.SYSCFG + sections.SYSFIXED + sections.SYSSTR,
                              image::WriteRegion(firmware));
-}
-
-std::string FileName(const firmware::FirmwareId& firmware, std::string_view name) {
-  std::string file(name);
-  if (firmware.IsV1400()) {
-    std::replace(file.begin(), file.end(), '/', ' ');
-    std::replace(file.begin(), file.end(), ',', ' ');
-  }
-  return file + ".bin";
 }
 
 // A program of the firmware that can only apply images. It has no platform.
@@ -91,8 +81,8 @@ image::ConfigImage FactoryImage(const firmware::FirmwareId& firmware) {
   image[BLNKIND] = "0B";
   image[DAYLIGHT_BAK] = "01";
   image[DEMO_ENABLE] = firmware::CountsDemoCharactersFromOne(firmware) ? "01" : "00";
-  if (firmware.IsV1400()) image[DSPCHARS_BAK] = "28";
-  SetEvery(image, ALMSTRUCT_BAK, firmware.IsV1400() ? "00FF0000" : "00FF00");
+  if (firmware::HasCharactersPerLine(firmware)) image[DSPCHARS_BAK] = "28";
+  SetEvery(image, ALMSTRUCT_BAK, firmware::HasVideoLoss(firmware) ? "00FF0000" : "00FF00");
   SetEvery(image, EXCPSTRS, image::FreeExceptionSlot(firmware));
   return image;
 }
@@ -102,13 +92,14 @@ int WriteDefaultImages(const std::string& folder, const firmware::FirmwareId& fi
   const auto images = fs::path(folder) / firmware.version / firmware.release;
   std::error_code error;
   fs::create_directories(images, error);
-  if (error) throw core::Failure(images.string(), error.message());
+  if (error) throw core::Failure(images.string(), error);
 
   const auto capabilities = firmware::CapabilitiesOf(firmware);
   int code = 0;
   for (const auto& entry : firmware::BuildRegisterEntries(firmware.version, firmware.release)) {
     const auto stream = StreamOf(RegisterImage(firmware, code++), firmware, capabilities);
-    host::ReplaceFile((images / FileName(firmware, entry.name)).string(), stream + "\r\n", host::Flush::kNo);
+    host::ReplaceFile((images / registers::ImageFileOf(firmware, entry.name)).string(), stream + "\r\n",
+                      host::Flush::kNo);
   }
   return code;
 }

@@ -368,7 +368,7 @@ core::Result SavePictures(const QString& program_folder, const QString& store, c
     const auto below = QDir(folder).filePath(QString::fromLatin1(name));
     std::error_code error;
     std::filesystem::create_directories(QFile::encodeName(below).toStdString(), error);
-    if (error) return core::Failure(QFile::encodeName(below).toStdString(), error.message());
+    if (error) return core::Failure(QFile::encodeName(below).toStdString(), error);
     ui::ApplyTheme(theme);
     auto saved = SaveTheme(program_folder, store, below, size);
     if (!saved.Ok()) return saved;

@@ -78,9 +78,9 @@ std::optional<std::vector<std::string>> EntriesOf(const controls::ControlRef& co
 
 std::string Description(const std::string& name, const controls::ControlRef& control) {
   const auto position = PositionOf(control);
-  const auto& face = controls::StateOf(control);
+  const auto& state = controls::StateOf(control);
   return name + " = " + (position ? std::to_string(*position) : "-") + " " + Quoted(TextOf(control)) +
-         (face.visible ? " visible" : " hidden") + (face.enabled ? " enabled" : " disabled");
+         (state.visible ? " visible" : " hidden") + (state.enabled ? " enabled" : " disabled");
 }
 
 bool ReadTheSame(std::string_view one, std::string_view other) {

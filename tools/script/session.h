@@ -1,4 +1,4 @@
-// One run of the tool: the program, and its surroundings as the script defines them.
+// One run of the tool: the program, and its hooks as the script defines them.
 #pragma once
 
 #include <deque>
@@ -31,7 +31,7 @@ class Session {
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
 
-  // The surroundings. Folder and store are kept for the next start as well.
+  // The hooks. Folder and store are kept for the next start as well.
   void SetFolder(std::string folder);
   void StoreSetting(const std::string& value, const std::string& text);
   void UseSystemStore() { system_store_.emplace(); }

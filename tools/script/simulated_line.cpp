@@ -6,7 +6,17 @@ namespace ovl::script {
 namespace {
 
 constexpr const char* kDevice = "simulated line";
-constexpr const char* kNothingThere = "No such file or directory";
+// The last error that the system has a description for.
+constexpr int kLastError = 133;
+
+// The error that the system describes with these words, so that the program can advise its cure.
+core::Failure FailureFor(const std::string& reason) {
+  for (int error = 1; error <= kLastError; ++error) {
+    const std::error_code code(error, std::generic_category());
+    if (code.message() == reason) return {kDevice, code};
+  }
+  return {kDevice, reason};
+}
 
 }  // namespace
 
@@ -27,11 +37,11 @@ void SimulatedLine::Restore() {
 }
 
 void SimulatedLine::Refuse(const std::string& reason) {
-  opening_ = core::Failure(kDevice, reason);
+  opening_ = FailureFor(reason);
 }
 
 void SimulatedLine::Unplug() {
-  opening_ = core::Failure(kDevice, kNothingThere);
+  opening_ = core::Failure(kDevice, std::make_error_code(std::errc::no_such_file_or_directory));
   dead_ = true;
 }
 

@@ -46,7 +46,7 @@ void PrintRefusal(Session& session, const std::string& name, core::Outcome outco
   if (outcome == core::Outcome::kRefused) session.Output() << "refused " << name << '\n';
 }
 
-// --- surroundings of the program
+// --- hooks of the program
 
 void Folder(Session& session, Arguments& arguments) {
   const auto path = arguments.Next("PATH");

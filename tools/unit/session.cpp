@@ -60,7 +60,7 @@ std::string Session::Prepare() {
   line_ = PtyLine::Open(error);
   if (line_ && !options_.link.empty()) error = line_->MakeLink(options_.link);
   if (!error.empty()) return error;
-  unit_.emplace(std::move(setup), MakeSurroundings());
+  unit_.emplace(std::move(setup), MakeHooks());
   return {};
 }
 
@@ -87,18 +87,18 @@ std::string Session::LoadMemory(std::string& image) const {
   return kept && !exists ? SaveImage(options_.memory, *options_.firmware, image) : std::string();
 }
 
-Surroundings Session::MakeSurroundings() {
-  Surroundings surroundings;
-  surroundings.complain = [this](const std::string& text) { Complain(text); };
-  surroundings.note = [this](const std::string& text) { Note(text); };
-  surroundings.send = [this](const std::string& bytes) { Speak(bytes); };
-  surroundings.keep_image = [this](const std::string& image) {
+UnitHooks Session::MakeHooks() {
+  UnitHooks hooks;
+  hooks.complain = [this](const std::string& text) { Complain(text); };
+  hooks.note = [this](const std::string& text) { Note(text); };
+  hooks.send = [this](const std::string& bytes) { Speak(bytes); };
+  hooks.keep_image = [this](const std::string& image) {
     return options_.memory.empty() ? std::string() : SaveImage(options_.memory, *options_.firmware, image);
   };
-  surroundings.keep_clock = [this](const std::string& clock) {
+  hooks.keep_clock = [this](const std::string& clock) {
     return options_.clock_file.empty() ? std::string() : WriteFile(options_.clock_file, clock + "\n");
   };
-  return surroundings;
+  return hooks;
 }
 
 Time Session::Now() const {

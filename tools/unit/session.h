@@ -31,7 +31,7 @@ class Session {
   std::string Prepare();
   std::string OpenLog();
   std::string LoadMemory(std::string& image) const;
-  Surroundings MakeSurroundings();
+  UnitHooks MakeHooks();
   Time Now() const;
   void Complain(const std::string& text);
   void Note(const std::string& text);

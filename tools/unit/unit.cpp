@@ -47,12 +47,12 @@ std::optional<Unit::Command> Unit::FindCommand(std::string_view line) {
   return std::nullopt;
 }
 
-Unit::Unit(UnitSetup setup, Surroundings surroundings)
+Unit::Unit(UnitSetup setup, UnitHooks hooks)
     : firmware_(*setup.firmware),
       image_(std::move(setup.image)),
       history_(std::move(setup.history)),
       faults_(std::move(setup.faults)),
-      surroundings_(std::move(surroundings)),
+      hooks_(std::move(hooks)),
       transmitter_(setup.speed),
       checker_(RegionOf(firmware_)) {}
 
@@ -74,7 +74,7 @@ void Unit::Receive(char byte, Time now) {
 void Unit::Advance(Time now) {
   GiveUp(now);
   const std::string bytes = transmitter_.TakeDue(now);
-  if (!bytes.empty()) surroundings_.send(bytes);
+  if (!bytes.empty()) hooks_.send(bytes);
   if (state_ == State::kSending && transmitter_.Idle()) {
     if (after_sending_ == State::kListening) {
       Listen(now);
@@ -101,27 +101,27 @@ void Unit::Asked(Time now) {
   const std::string_view earlier = kRequest.substr(0, kRequest.size() - 1);
   if (state_ == State::kListening && line_ != earlier) {
     const std::size_t extra = line_.size() < earlier.size() ? 0 : line_.size() - earlier.size();
-    surroundings_.complain("unexpected ahead of the request for remote mode: \"" +
-                           Printable(line_.substr(0, extra)) + "\"");
+    hooks_.complain("unexpected ahead of the request for remote mode: \"" +
+                    Printable(line_.substr(0, extra)) + "\"");
   }
   if (state_ == State::kTakingStream) {
     checker_.BreakOff("the tool asks for remote mode");
-    for (const std::string& error : checker_.Errors()) surroundings_.complain(error);
+    for (const std::string& error : checker_.Errors()) hooks_.complain(error);
   }
   if (state_ == State::kSending) {
     transmitter_.Clear();
-    surroundings_.note("stops sending, the tool asks for remote mode");
+    hooks_.note("stops sending, the tool asks for remote mode");
   }
   if (faults_.Refuses(Operation::kRequest)) {
-    surroundings_.note("fault: refuses the request");
+    hooks_.note("fault: refuses the request");
     Answer(kNak, now);
     return Sleep();
   }
   if (faults_.Silences(Operation::kRequest)) {
-    surroundings_.note("fault: does not hear the request");
+    hooks_.note("fault: does not hear the request");
     return Sleep();
   }
-  surroundings_.note("remote mode granted");
+  hooks_.note("remote mode granted");
   Listen(now);
   Answer(kAck, now);
 }
@@ -130,15 +130,15 @@ void Unit::HearAsleep(char byte, Time now) {
   const bool watching = now < std::exchange(stream_end_watch_, Time{});
   const bool expected = byte == kCan || byte == kRequest.front();
   if (!watching || expected) return;
-  surroundings_.complain("a character behind the end mark of the stream: " + Quoted(byte));
+  hooks_.complain("a character behind the end mark of the stream: " + Quoted(byte));
 }
 
 void Unit::HearCommand(char byte, Time now) {
   if (byte == kCan) return Leave("the tool sent CAN");
   if (byte == kEnq) {
-    if (!line_.empty()) surroundings_.complain("ENQ in the middle of \"" + Printable(line_) + "\"");
+    if (!line_.empty()) hooks_.complain("ENQ in the middle of \"" + Printable(line_) + "\"");
     heard_ = now;
-    if (faults_.Silences(Operation::kKeepAlive)) return surroundings_.note("fault: does not answer ENQ");
+    if (faults_.Silences(Operation::kKeepAlive)) return hooks_.note("fault: does not answer ENQ");
     return Answer(kFormFeed, now);
   }
   if (!skipped_ending_.empty() && byte == skipped_ending_.front()) {
@@ -174,11 +174,11 @@ void Unit::JudgeLine(Time now) {
 void Unit::Obey(const Command& command, std::string_view text, Time now) {
   heard_ = now;
   if (faults_.Refuses(command.operation)) {
-    surroundings_.note("fault: refuses " + std::string(command.word));
+    hooks_.note("fault: refuses " + std::string(command.word));
     return Answer(kNak, now);
   }
   if (faults_.Silences(command.operation)) {
-    return surroundings_.note("fault: does not hear " + std::string(command.word));
+    return hooks_.note("fault: does not hear " + std::string(command.word));
   }
   switch (command.operation) {
     case Operation::kUpload:
@@ -224,12 +224,12 @@ void Unit::AwaitStream(Time now) {
 void Unit::SetClock(std::string_view text, Time now) {
   std::string error = ClockError(text);
   if (!error.empty()) {
-    surroundings_.complain("the command /TD: " + error);
+    hooks_.complain("the command /TD: " + error);
     return Answer(kNak, now);
   }
-  error = surroundings_.keep_clock(std::string(text));
+  error = hooks_.keep_clock(std::string(text));
   if (!error.empty()) {
-    surroundings_.complain(error);
+    hooks_.complain(error);
     return Answer(kNak, now);
   }
   Answer(kAck, now);
@@ -255,15 +255,14 @@ void Unit::HearStream(char byte, Time now) {
 }
 
 void Unit::EndStream(Time now) {
-  for (const std::string& error : checker_.Errors()) surroundings_.complain(error);
+  for (const std::string& error : checker_.Errors()) hooks_.complain(error);
   if (checker_.Oversized()) {
-    surroundings_.complain("the stream has more digits than the " +
-                           std::to_string(RegionOf(firmware_).Digits()) + " of " +
-                           std::string(firmware_.name) + "; accepted, the rest has no place");
+    hooks_.complain("the stream has more digits than the " + std::to_string(RegionOf(firmware_).Digits()) +
+                    " of " + std::string(firmware_.name) + "; accepted, the rest has no place");
   }
   const bool kept = checker_.Correct() && Keep(checker_.Image());
   if (faults_.Silences(Operation::kFinalAnswer)) {
-    surroundings_.note("fault: does not confirm the stream");
+    hooks_.note("fault: does not confirm the stream");
   } else {
     Answer(kept ? kAck : kNak, now);
   }
@@ -272,9 +271,9 @@ void Unit::EndStream(Time now) {
 }
 
 bool Unit::Keep(const std::string& image) {
-  const std::string error = surroundings_.keep_image(image);
+  const std::string error = hooks_.keep_image(image);
   if (!error.empty()) {
-    surroundings_.complain(error);
+    hooks_.complain(error);
     return false;
   }
   image_ = image;
@@ -289,7 +288,7 @@ void Unit::HearWhileSending(char byte) {
   if (complained_) return;
   line_ += byte;
   if (kRequest.starts_with(line_)) return;
-  surroundings_.complain("a character while the unit is sending: " + Quoted(line_.front()));
+  hooks_.complain("a character while the unit is sending: " + Quoted(line_.front()));
   complained_ = true;
 }
 
@@ -298,7 +297,7 @@ void Unit::Answer(char byte, Time now) {
 }
 
 void Unit::RefuseLine(const std::string& why, Time now) {
-  surroundings_.complain(why);
+  hooks_.complain(why);
   line_.clear();
   Answer(kNak, now);
 }
@@ -317,7 +316,7 @@ void Unit::Sleep() {
 
 void Unit::Leave(const std::string& why) {
   Sleep();
-  surroundings_.note("remote mode is over: " + why);
+  hooks_.note("remote mode is over: " + why);
 }
 
 std::optional<Time> Unit::Deadline() const {
@@ -330,10 +329,10 @@ void Unit::GiveUp(Time now) {
   if (!deadline || now < *deadline) return;
   if (state_ == State::kTakingStream) {
     checker_.BreakOff("the tool fell silent");
-    for (const std::string& error : checker_.Errors()) surroundings_.complain(error);
+    for (const std::string& error : checker_.Errors()) hooks_.complain(error);
     Answer(kNak, now);
   } else if (!line_.empty()) {
-    surroundings_.complain("a command without its end: \"" + Printable(line_) + "\"");
+    hooks_.complain("a command without its end: \"" + Printable(line_) + "\"");
   }
   Leave("the tool has been silent for too long");
 }

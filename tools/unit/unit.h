@@ -19,7 +19,7 @@ inline constexpr std::string_view kRequest = "~~~SOH_REQUEST_EOT~~~k";
 inline constexpr Time kPatience = std::chrono::seconds(30);
 
 // The functions that the unit calls. None may be empty.
-struct Surroundings {
+struct UnitHooks {
   // The tool did something that a unit does not accept.
   std::function<void(const std::string&)> complain;
   // An event worth knowing that is no mistake of the tool.
@@ -43,7 +43,7 @@ struct UnitSetup {
 // no file, so that a whole conversation can be replayed in simulated time.
 class Unit {
  public:
-  Unit(UnitSetup setup, Surroundings surroundings);
+  Unit(UnitSetup setup, UnitHooks hooks);
 
   // A byte arrived at the unit's own speed.
   void Receive(char byte, Time now);
@@ -93,7 +93,7 @@ class Unit {
   std::string image_;
   std::string history_;
   Faults faults_;
-  Surroundings surroundings_;
+  UnitHooks hooks_;
   Transmitter transmitter_;
 
   State state_ = State::kAsleep;

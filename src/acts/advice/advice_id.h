@@ -12,7 +12,7 @@ enum class AdviceId {
   kDeviceLost,
   kDownloadBroke,
   kPortRefused,
-  kScanDeaf,
+  kScanCannotHear,
   kScanFoundNothing,
   kFileMisread,
   kFileRefused,

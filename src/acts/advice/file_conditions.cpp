@@ -114,7 +114,8 @@ Advice OptionsHidden(const core::Application& app, const Observed& observed) {
 Advice SavedFile(const core::Application& app, const Observed& observed) {
   const auto& path = observed.files.Saved();
   if (path.empty() || firmware::SavedFileReopens(app.image_firmware)) return {};
-  const auto effect = app.image_firmware.IsV1400() ? " reads it shifted" : " refuses it";
+  const auto effect =
+      firmware::ReadsSavedFileShifted(app.image_firmware) ? " reads it shifted" : " refuses it";
   return {AdviceId::kCount,
           {},
           FileNameOf(path) + " is for keeping only: under " + app.image_firmware.Joined() + " \"Open\"" +

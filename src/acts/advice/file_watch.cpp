@@ -8,33 +8,14 @@
 #include "image/report.h"
 
 namespace ovl::acts {
-namespace {
 
 using image::FieldId;
 
-bool Clicks(const core::Event& event, const controls::MenuItem& item) {
-  const auto* click = std::get_if<core::ClickEvent>(&event);
-  auto* const* clicked = click == nullptr ? nullptr : std::get_if<controls::MenuItem*>(&click->control);
-  return clicked != nullptr && *clicked == &item;
-}
-
-bool PicksRegister(const core::Application& app, const core::Event& event) {
-  const auto* pick = std::get_if<core::PickEvent>(&event);
-  auto* const* list = pick == nullptr ? nullptr : std::get_if<controls::List*>(&pick->control);
-  return list != nullptr && *list == &app.frmMain.ComboReg;
-}
-
-bool IsCancelled(const std::string& note) {
-  return note.ends_with(std::make_error_code(std::errc::operation_canceled).message());
-}
-
-}  // namespace
-
 void FileWatch::Before(const core::Application& app, const core::Event& event) {
   const bool reachable = app.frmMain.form.visible && app.frmMain.form.enabled;
-  before_.picks_register = reachable && PicksRegister(app, event);
-  before_.opens = reachable && Clicks(event, app.frmMain.OpenMenu);
-  before_.saves = reachable && Clicks(event, app.frmMain.menuSave);
+  before_.picks_register = reachable && core::Picks(event, app.frmMain.ComboReg);
+  before_.opens = reachable && core::Clicks(event, app.frmMain.OpenMenu);
+  before_.saves = reachable && core::Clicks(event, app.frmMain.menuSave);
   before_.upload_applying = app.UploadApplying;
   before_.position = app.frmMain.ComboReg.position;
   before_.code = app.image[FieldId::REGTYPE];
@@ -68,7 +49,8 @@ void FileWatch::TakenIn() {
 void FileWatch::WatchOpen(const core::Application& app) {
   refused_.clear();
   if (app.UploadApplying) {
-    open_problem_ = IsCancelled(app.StatusNote) ? std::string() : app.StatusNote;
+    const bool cancelled = app.noted_failure && app.noted_failure->Is(std::errc::operation_canceled);
+    open_problem_ = cancelled ? std::string() : app.StatusNote;
     Add(renewed_, AdviceId::kNextPickSwallowed);
     return;
   }

@@ -81,7 +81,7 @@ std::string Reconnect(const core::Application& app, const std::string& last) {
   return steps + ".";
 }
 
-// What cures the failure, by the system's description of it.
+// What cures the failure.
 std::string CureOf(const Refusal& refusal) {
   struct Cure {
     std::errc error;
@@ -105,7 +105,7 @@ std::string CureOf(const Refusal& refusal) {
            "The device cannot use %2: choose another baud rate, or data bits and parity."},
   };
   for (const auto& cure : kCures) {
-    if (refusal.reason != std::make_error_code(cure.error).message()) continue;
+    if (!refusal.reason.Is(cure.error)) continue;
     std::string words = cure.words;
     if (const auto place = words.find("%1"); place != std::string::npos)
       words.replace(place, 2, std::to_string(refusal.comport));
@@ -195,11 +195,11 @@ Advice DownloadBroke(const core::Application& app, const Observed& observed) {
 Advice PortRefused(const core::Application&, const Observed& observed) {
   const auto& refusal = observed.link.Refused();
   if (!refusal) return {};
-  return ClickSetComport(Device(refusal->comport, refusal->device) + " did not open: " + refusal->reason +
-                         ". " + CureOf(*refusal));
+  return ClickSetComport(Device(refusal->comport, refusal->reason.Subject()) +
+                         " did not open: " + refusal->reason.what() + ". " + CureOf(*refusal));
 }
 
-Advice ScanDeaf(const core::Application& app, const Observed&) {
+Advice ScanCannotHear(const core::Application& app, const Observed&) {
   if (!app.ScanActive || app.LinkMode == core::kLinkRemote) return {};
   const auto& cancel = app.frmScanBProgress.Command1.caption;
   return Click(std::string("This scan cannot find the unit") + kDeaf + "Press " + cancel + ". " + kChooseLine,

@@ -3,9 +3,6 @@
 namespace ovl::acts {
 namespace {
 
-// The text of the window at the end of a transfer; an upload that does not fit the firmware has another.
-constexpr std::string_view kUploadCompleted = "Upload Completed.";
-
 bool IsDownload(LinkPhase phase) {
   return phase == LinkPhase::kDownloadCommand || phase == LinkPhase::kDownloadStream;
 }
@@ -51,7 +48,7 @@ void LinkWatch::WatchAttempt(const core::Application& app) {
   }
   loss_.reset();
   const auto& comm = app.frmMain.MSComm1;
-  refusal_ = Refusal{comm.CommPort, comm.Settings, attempt.refused->Subject(), attempt.refused->what()};
+  refusal_ = Refusal{comm.CommPort, comm.Settings, *attempt.refused};
   Add(renewed_, AdviceId::kPortRefused);
 }
 
@@ -73,8 +70,7 @@ void LinkWatch::WatchUpload(const core::Application& app) {
     return;
   }
   if (before_.frame_state == 0) return;
-  const auto& end = app.frmOK_buttom;
-  upload_completed_ = end.form.loaded && end.Label1.caption == kUploadCompleted;
+  upload_completed_ = app.upload_taken;
   if (upload_completed_ && upload_broke_) {
     mixed_image_ = app.known_image;
     Add(renewed_, AdviceId::kUploadMixed);

@@ -34,8 +34,7 @@ struct Loss {
 struct Refusal {
   int comport = 0;
   std::string settings;  // "9600,N,8,1"
-  std::string device;
-  std::string reason;
+  core::Failure reason;  // names the device
 };
 
 // A download that ended before its last character was sent.

@@ -50,11 +50,6 @@ bool IsBlank(const std::string& text) {
   return std::all_of(text.begin(), text.end(), [](char character) { return character == ' '; });
 }
 
-bool IsFree(const core::Application& app, int number) {
-  const auto& slot = app.image.at(EXCPSTRS, number);
-  return !slot.empty() && codecs::HasBit(codecs::HexToInt(slot), image::kFreeBit);
-}
-
 bool FirstIsAboveSecond(const core::Application& app, const std::string& slot) {
   const auto first = image::RangeValueOf(slot, app.image_firmware, 0);
   const auto second = image::RangeValueOf(slot, app.image_firmware, 1);
@@ -63,26 +58,11 @@ bool FirstIsAboveSecond(const core::Application& app, const std::string& slot) {
   return one.size() == other.size() && one > other;
 }
 
-// The exceptions that a trigger of an alarm means, from first to last. None for "NONE" and "RTS".
-struct Exceptions {
-  int first = 1;
-  int last = 0;
-};
-
-Exceptions ExceptionsOf(int trigger) {
-  constexpr int kFirstHalf = 25, kSecondHalf = 26, kAll = 27, kHalf = image::kExceptions / 2;
-  if (trigger > image::kNoTrigger && trigger <= image::kExceptions) return {trigger, trigger};
-  if (trigger == kFirstHalf) return {1, kHalf};
-  if (trigger == kSecondHalf) return {kHalf + 1, image::kExceptions};
-  if (trigger == kAll) return {1, image::kExceptions};
-  return {};
-}
-
 bool WaitsForFreeExceptions(const core::Application& app, int trigger) {
-  const auto [first, last] = ExceptionsOf(trigger);
+  const auto [first, last] = image::ExceptionsOfTrigger(trigger);
   if (first > last) return false;
   for (int number = first; number <= last; ++number) {
-    if (!IsFree(app, number)) return false;
+    if (!image::IsFreeException(app.image.at(EXCPSTRS, number))) return false;
   }
   return true;
 }
@@ -100,7 +80,7 @@ bool IsBlankException(const core::Application& app, const std::string& slot) {
 // A triggered text of blanks, or one that is shown or sent and is empty.
 bool IsBlankTrigger(const std::string& record) {
   if (record.empty()) return false;
-  constexpr int kShownOrSent = 3;
+  constexpr int kShownOrSent = 1 << image::kDisplayBit | 1 << image::kOutputBit;
   const auto text = image::StoredText(image::WithoutEndMark(image::TriggeredDigits(record)));
   return IsBlank(text) && (!text.empty() || (codecs::HexToInt(record) & kShownOrSent) != 0);
 }

@@ -65,7 +65,7 @@ void ComboKLM4011_Click(core::Application& app, int index) {
 }
 
 void StoreRecorder(core::Application& app) {
-  if (!firmware::IsKnownFamily(app.firmware.version) || app.firmware.IsV1400()) return;
+  if (!firmware::StoresRecorder(app.firmware)) return;
   const auto& form = app.frmMain;
   if (form.OpDVR.chosen < 0) return;
   app.image[HIST_REG] = codecs::ByteToHex(form.OpDVR.chosen);

@@ -22,11 +22,6 @@ constexpr const char* kHowToSetUp = "\nRoot sets the firmware, for instance: ovl
 constexpr const char* kNotKept =
     "\nThe next start serves the same firmware as this one. Root sets another: ovl-setup ";
 
-bool IsClickOn(const controls::MenuItem& item, const core::Event& event) {
-  const auto* click = std::get_if<core::ClickEvent>(&event);
-  return click != nullptr && &controls::StateOf(click->control) == &item;
-}
-
 }  // namespace
 
 Program::Program(QString folder, QString store_folder)
@@ -87,15 +82,15 @@ core::Outcome Program::Start() {
   windows_ = std::make_unique<Windows>(
       app_, [this](const core::Event& event) { return Act(event); },
       OwnActs{history_.get(), advisor_.get(), [this] { Undo(); }, [this] { Redo(); },
-              [this](const acts::Advice& advice) { Follow(advice); }});
+              [this](const acts::Advice& advice) { RunAdvice(advice); }});
   windows_->SetOwnActs(
       [this](const std::string& name, const std::function<void()>& act) { return RunOwn(name, act); });
   windows_->Main().Status().port_problem = [this] { return port_.LastProblem(); };
   files_ = std::make_unique<FileActs>(
       app_, windows_->Main(),
-      FileActs::Surroundings{
-          [this](const core::Event& event) { return Act(event); }, [this] { return windows_->Front(); },
-          [this](const QString& text) { windows_->Main().Status().ShowFileMessage(text); }});
+      FileActs::Hooks{[this](const core::Event& event) { return Act(event); },
+                      [this] { return windows_->Front(); },
+                      [this](const QString& text) { windows_->Main().Status().ShowFileMessage(text); }});
   CollectTimers();
   RefreshNow();
   AfterEvent(outcome);
@@ -167,7 +162,7 @@ core::Outcome Program::DispatchAny(const core::Event& event) {
   return outcome;
 }
 
-void Program::Follow(const acts::Advice& advice) {
+void Program::RunAdvice(const acts::Advice& advice) {
   auto& main = windows_->Main();
   const auto* control = advice.control.empty() ? nullptr : app_.registry.Find(advice.control);
   switch (advice.action) {
@@ -207,12 +202,12 @@ void Program::Restart() {
 
 core::Outcome Program::DispatchUserAct(const core::Event& event) {
   const auto before = app_.image;
-  opening_ = IsClickOn(app_.frmMain.OpenMenu, event);
+  opening_ = core::Clicks(event, app_.frmMain.OpenMenu);
   const auto outcome = DispatchAny(event);
   opening_ = false;
   if (outcome != core::Outcome::kDone) return outcome;
   windows_->SetAlsoStored(host::FromWindows1252(changes::AlsoStored(app_, event, before)));
-  if (IsClickOn(app_.frmMain.menuSave, event) && !app_.saved_path.empty())
+  if (core::Clicks(event, app_.frmMain.menuSave) && !app_.saved_path.empty())
     windows_->Main().Status().ShowFileMessage(QStringLiteral("Saved: ") + host::FromSystem(app_.saved_path));
   return outcome;
 }

@@ -57,7 +57,7 @@ class Program {
   std::function<bool(const QStringList&)> start_again;
 
   // Carries out the action of a line of advice.
-  void Follow(const acts::Advice& advice);
+  void RunAdvice(const acts::Advice& advice);
 
   // Updates the screen now and does not wait for the next frame.
   void RefreshNow();

@@ -55,8 +55,8 @@ class OneAnswer {
 
 }  // namespace
 
-FileActs::FileActs(core::Application& app, QMainWindow& main, Surroundings surroundings)
-    : app_(app), around_(std::move(surroundings)), recent_(Decoded(app.platform.program_folder)) {
+FileActs::FileActs(core::Application& app, QMainWindow& main, Hooks hooks)
+    : app_(app), hooks_(std::move(hooks)), recent_(Decoded(app.platform.program_folder)) {
   AddMenuItems(main);
   main.setAcceptDrops(true);
   main.installEventFilter(this);
@@ -92,7 +92,7 @@ std::optional<std::string> FileActs::StreamOf(const QString& path, QString& prob
 
 bool FileActs::MayOpen(const QString& path, const std::string& stream) const {
   const auto question = acts::QuestionBeforeOpening(stream, Encoded(QFileInfo(path).fileName()), app_);
-  return !question || AskWhetherToOpen(around_.front(), host::FromSystem(question->text),
+  return !question || AskWhetherToOpen(hooks_.front(), host::FromSystem(question->text),
                                        host::FromWindows1252(question->detail));
 }
 
@@ -100,16 +100,16 @@ void FileActs::Open(const QString& path) {
   if (!CanAct()) return;
   QString problem;
   const auto stream = StreamOf(path, problem);
-  if (!stream) return around_.show_text(QStringLiteral("Not opened: ") + problem);
+  if (!stream) return hooks_.show_text(QStringLiteral("Not opened: ") + problem);
   // While the question is on the screen, the unit can start something else.
   if (!MayOpen(path, *stream) || !CanAct()) return;
   const OneAnswer answer(app_, Encoded(path));
-  around_.act(core::ClickEvent{&app_.frmMain.OpenMenu});
+  hooks_.act(core::ClickEvent{&app_.frmMain.OpenMenu});
   if (!app_.ended) recent_.Add(path);
 }
 
 std::optional<core::FileAnswer> FileActs::AskForFileToOpen(const core::FileDialog& request) {
-  const auto answer = AskFile(around_.front(), request);
+  const auto answer = AskFile(hooks_.front(), request);
   if (!answer) return answer;
   const auto path = Decoded(answer->file_name);
   QString problem;
@@ -128,15 +128,15 @@ void FileActs::SaveBackup() {
   request.file_name =
       files::PathBelow(app_.platform.program_folder, std::string("\\").append(acts::BackupName(app_)));
   request.filter = "Backups(*.bin)|*.bin|All Files(*.*)|*.*";
-  const auto answer = AskFile(around_.front(), request);
+  const auto answer = AskFile(hooks_.front(), request);
   if (!answer || app_.ended) return;
   const auto written = acts::SaveBackup(app_, answer->file_name);
   if (!written.Ok())
-    return around_.show_text(QStringLiteral("No backup written: ") +
-                             host::FromSystem(written.Problem().Text()));
+    return hooks_.show_text(QStringLiteral("No backup written: ") +
+                            host::FromSystem(written.Problem().Text()));
   const auto path = Decoded(answer->file_name);
   recent_.Add(path);
-  around_.show_text(QStringLiteral("Backup written: ") + QDir::toNativeSeparators(path));
+  hooks_.show_text(QStringLiteral("Backup written: ") + QDir::toNativeSeparators(path));
 }
 
 // A drop is handled after its event, because the program that the file comes from waits for the end of that.

@@ -16,7 +16,7 @@ namespace ovl::ui {
 
 class FileActs : public QObject {
  public:
-  struct Surroundings {
+  struct Hooks {
     ActFunction act;
     std::function<QWidget*()> front;                // the window that boxes belong to
     std::function<void(const QString&)> show_text;  // in the status bar
@@ -24,7 +24,7 @@ class FileActs : public QObject {
 
   // Adds the items to the File menu of the window, which must outlive this object, and takes files that are
   // dropped on the window.
-  FileActs(core::Application& app, QMainWindow& main, Surroundings surroundings);
+  FileActs(core::Application& app, QMainWindow& main, Hooks hooks);
 
   // Opens a file as Open does. A file that cannot be read is not opened; the status bar shows the reason.
   void Open(const QString& path);
@@ -45,7 +45,7 @@ class FileActs : public QObject {
   bool MayOpen(const QString& path, const std::string& stream) const;
 
   core::Application& app_;
-  Surroundings around_;
+  Hooks hooks_;
   RecentFiles recent_;
 };
 

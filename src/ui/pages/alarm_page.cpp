@@ -26,11 +26,11 @@ QString TriggerText(const controls::MainForm& form, int trigger) {
              : entry;
 }
 
-// The stored counter runs up to 256, so the time is 256 minus the counter; 0 is the last entry, the pulse.
+// The last entry is the pulse.
 QString DurationText(const controls::MainForm& form, int counter) {
   const auto& list = form.ComboALM[controls::Alm::kDuration];
-  return counter == 0 ? EntryText(list, static_cast<int>(list.items.size()) - 1)
-                      : QString::number(256 - counter);
+  const auto time = image::AlarmTime(counter);
+  return time ? QString::number(*time) : EntryText(list, static_cast<int>(list.items.size()) - 1);
 }
 
 QString TriggeredText(const std::string& record) {

@@ -179,7 +179,7 @@ std::vector<OverviewLine> ExceptionLines(const core::Application& app) {
   for (int number = 1; number <= image::kExceptions; ++number) {
     const auto& slot = app.image.at(image::FieldId::EXCPSTRS, number);
     const auto text = TextOf(app, slot);
-    const bool used = !codecs::HasBit(codecs::HexToInt(slot), image::kFreeBit) && !text.trimmed().isEmpty();
+    const bool used = !image::IsFreeException(slot) && !text.trimmed().isEmpty();
     lines.push_back({{QString::number(number), used ? text : QStringLiteral("free"), RangeText(app, slot),
                       ActsText(app, codecs::HexToInt(slot))},
                      used});

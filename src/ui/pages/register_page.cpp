@@ -11,9 +11,10 @@
 #include <array>
 #include <memory>
 #include <optional>
+#include <utility>
 
 #include "host/text_codec.h"
-#include "ui/frames/register_frames.h"
+#include "registers/options/option_rows.h"
 #include "ui/kit/box_layouts.h"
 #include "ui/kit/layout.h"
 #include "ui/kit/theme.h"
@@ -25,9 +26,8 @@ namespace {
 constexpr Em kRegisterListWidth(22.5);
 constexpr Em kSignSize(1.5);
 
-// The only two frames that show together, the second one below the first.
-constexpr int kModels = 49;
-constexpr int kModelsCompanion = 18;
+using controls::OptionFrame;
+using registers::OptionRow;
 
 // A line that filters the list. Down and Enter go on in the list, Escape clears the line.
 class FilterLine : public QLineEdit {
@@ -107,21 +107,20 @@ class FrameBuilder {
   void BuildShown() {
     const auto& frames = bindings_.Model().frmMain.frmAddress;
     for (std::size_t frame = 0; frame < frames.size(); ++frame) {
-      if (frames[frame].visible) Build(static_cast<int>(frame));
+      if (frames[frame].visible) Build(static_cast<OptionFrame>(frame));
     }
   }
 
  private:
-  void Build(int frame) {
-    auto& built = built_.at(static_cast<std::size_t>(frame));
-    if (built) return;
-    built = true;
-    if (frame == kModelsCompanion) Build(kModels);
-    column_.Section("frmAddress(" + std::to_string(frame) + ")");
-    const auto rows = RowsOfFrame(frame);
+  void Build(OptionFrame frame) {
+    const auto index = static_cast<std::size_t>(frame);
+    if (std::exchange(built_.at(index), true)) return;
+    // The only two frames that show together: the models above the id.
+    if (frame == OptionFrame::kUniwellId) Build(OptionFrame::kUniwellModels);
+    column_.Section("frmAddress(" + std::to_string(index) + ")");
+    const auto rows = registers::RowsOfFrame(frame);
     for (auto row = rows.begin(); row != rows.end();) {
-      const auto end =
-          std::find_if(row + 1, rows.end(), [](const FrameRow& next) { return next.place == Place::kBelow; });
+      const auto end = std::find_if(row + 1, rows.end(), [](const OptionRow& next) { return !next.beside; });
       AddLine({row, end});
       row = end;
     }
@@ -131,7 +130,7 @@ class FrameBuilder {
     return bindings_.Named(bindings_.Model().frmMain.form, name);
   }
 
-  void AddLine(std::span<const FrameRow> line) {
+  void AddLine(std::span<const OptionRow> line) {
     const auto& first = line.front();
     const auto& control = Named(first.control).control;
     if (std::holds_alternative<controls::OptionArray*>(control)) return AddOptions(line);
@@ -139,7 +138,7 @@ class FrameBuilder {
     if (!first.inner.empty()) column_.Within(first.inner);
     std::vector<Field> fields;
     for (const auto& row : line) fields.emplace_back(std::string(row.control));
-    if (first.words.empty()) {
+    if (first.label.empty()) {
       column_.Unlabelled(fields.front().names.front().c_str());
     } else {
       column_.Row(LabelOf(first), fields);
@@ -149,23 +148,23 @@ class FrameBuilder {
     }
   }
 
-  RowLabel LabelOf(const FrameRow& row) const {
+  RowLabel LabelOf(const OptionRow& row) const {
     const auto& model = bindings_.Model();
-    const auto* label = model.registry.Find(model.frmMain.form, row.words);
+    const auto* label = model.registry.Find(model.frmMain.form, row.label);
     if (label != nullptr) return RowLabel::FromModel(label->name);
-    return QString::fromLatin1(row.words.data(), static_cast<qsizetype>(row.words.size()));
+    return QString::fromLatin1(row.label.data(), static_cast<qsizetype>(row.label.size()));
   }
 
-  void AddOptions(std::span<const FrameRow> line) {
+  void AddOptions(std::span<const OptionRow> line) {
     std::vector<OptionColumn> arrays;
     for (const auto& row : line) {
-      const auto head = QString::fromLatin1(row.words.data(), static_cast<qsizetype>(row.words.size()));
+      const auto head = QString::fromLatin1(row.label.data(), static_cast<qsizetype>(row.label.size()));
       arrays.push_back({head, std::string(row.control), row.columns, std::string(row.inner)});
     }
     column_.Options(arrays);
   }
 
-  void AddWarning(const FrameRow& row) {
+  void AddWarning(const OptionRow& row) {
     const auto& named = Named(row.control);
     auto* holder = new QWidget;
     auto* across = LayOutAcross(*holder, kFieldGap);

@@ -72,7 +72,7 @@ QWidget* PortLine(Bindings& bindings) {
   return holder;
 }
 
-// Where the last history was saved. A history that was not saved ends with a note in the status bar.
+// Where the last history was saved. One that could not be saved is named in the status bar.
 QWidget* HistoryLine(Bindings& bindings) {
   auto* line = MutedLabel({});
   line->setObjectName(QStringLiteral("HistoryPlace"));
@@ -82,9 +82,8 @@ QWidget* HistoryLine(Bindings& bindings) {
       [line, &app = bindings.Model(), pending = ChangeDetector<bool>(), first = true]() mutable {
         if (!pending.Update(app.HistoryPending) || std::exchange(first, false)) return false;
         // "Disconnect" ends the wait for a history too.
-        const bool saved = !app.HistoryPending && app.frmMain.MSComm1.PortOpen &&
-                           !app.StatusNote.starts_with(app.CurrentFilePath + ": ");
-        line->setText(QStringLiteral("The history is in %1.").arg(host::FromSystem(app.CurrentFilePath)));
+        const bool saved = !app.HistoryPending && app.frmMain.MSComm1.PortOpen && !app.history_path.empty();
+        line->setText(QStringLiteral("The history is in %1.").arg(host::FromSystem(app.history_path)));
         line->setVisible(saved);
         return true;
       });
@@ -169,7 +168,7 @@ class ActionFocus {
   }
 
   // After all widgets were made.
-  void Follow() {
+  void KeepFocus() {
     auto& form = bindings_.Model().frmMain;
     auto* bar = bindings_.WidgetOf(form.vbalProgressBar1);
     auto* remote = bindings_.WidgetOf(form.CmdUpDow[controls::kRemote]);
@@ -251,7 +250,7 @@ QWidget* BuildRemotePage(Bindings& bindings) {
   Page page(bindings, bindings.Model().frmMain.form);
   LinkColumn(bindings, page.Column(5, kLinkWidth));
   ClockColumn(bindings, page.Column(4));
-  focus.Follow();
+  focus.KeepFocus();
   return page.Finish({});
 }
 

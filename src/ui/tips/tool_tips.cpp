@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "ui/frames/register_frames.h"
+#include "registers/options/option_rows.h"
 #include "ui/tips/tip_texts.h"
 
 namespace ovl::ui {
@@ -63,9 +63,9 @@ const Tip* FindTip(std::string_view form, std::string_view control) {
 }  // namespace
 
 QString ToolTipOf(std::string_view form, std::string_view control) {
-  const auto frame_tip = form == "frmMain" ? FrameTipOf(control) : std::string_view();
-  if (!frame_tip.empty())
-    return QString::fromLatin1(frame_tip.data(), static_cast<qsizetype>(frame_tip.size()));
+  const auto* option = form == "frmMain" ? registers::FindOptionRow(control) : nullptr;
+  if (option != nullptr && !option->tip.empty())
+    return QString::fromLatin1(option->tip.data(), static_cast<qsizetype>(option->tip.size()));
   const auto* tip = FindTip(form, control);
   if (tip == nullptr) tip = FindTip(form, control.substr(0, control.find('(')));
   return tip == nullptr ? QString() : QString::fromLatin1(tip->text);

@@ -59,7 +59,7 @@ class Conversation {
         streamed_(!ovl::fuzz::OneIn(kRarely, input.Rest())),
         unit_({model.firmware, model.factory, "LINE 1\r\n", (input.Next() & 1U) != 0 ? 9600U : 0U,
                unit::Faults(TakeFaults(input), 1)},
-              MakeSurroundings()) {}
+              MakeHooks()) {}
 
   void Hear(std::uint8_t code, Bytes& input) {
     std::string_view text(reinterpret_cast<const char*>(&code), 1);
@@ -95,7 +95,7 @@ class Conversation {
     return faults;
   }
 
-  unit::Surroundings MakeSurroundings() {
+  unit::UnitHooks MakeHooks() {
     const auto expect_readable = [](const std::string& text) {
       for (const char c : text) Require(c >= ' ' && c <= '~', "complaints are readable");
     };

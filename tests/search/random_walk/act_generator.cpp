@@ -1,39 +1,31 @@
 #include "search/random_walk/act_generator.h"
 
+#include "registers/options/option_rows.h"
 #include "script/parser.h"
 #include "search/random_walk/checked_program.h"
 #include "support/harness.h"
-#include "ui/frames/register_frames.h"
 
 namespace ovl::testing {
 namespace {
 
 // For each control of the registry the row of an option frame that contains it, or null.
-std::vector<const ui::FrameRow*> RowsOf(const core::Application& app) {
-  std::vector<const ui::FrameRow*> rows;
-  const int frames = static_cast<int>(app.frmMain.frmAddress.size());
-  for (const auto& named : app.registry.All()) {
-    const auto array = named.name.substr(0, named.name.find('('));
-    rows.push_back(nullptr);
-    for (int frame = 0; frame < frames && named.form == &app.frmMain.form; ++frame) {
-      for (const auto& row : ui::RowsOfFrame(frame)) {
-        if (row.control == named.name || row.control == array) rows.back() = &row;
-      }
-    }
-  }
+std::vector<const registers::OptionRow*> RowsOf(const core::Application& app) {
+  std::vector<const registers::OptionRow*> rows;
+  for (const auto& named : app.registry.All())
+    rows.push_back(named.form == &app.frmMain.form ? registers::FindOptionRow(named.name) : nullptr);
   return rows;
 }
 
-bool IsShown(const core::Application& app, const ui::FrameRow* row) {
+bool IsShown(const core::Application& app, const registers::OptionRow* row) {
   if (row == nullptr) return true;
-  return app.frmMain.frmAddress[static_cast<std::size_t>(row->frame)].visible &&
+  return app.frmMain.FrameOf(row->frame).visible &&
          (row->inner.empty() || controls::StateOf(app.registry.Find(row->inner)->control).visible);
 }
 
 bool Reachable(const controls::NamedControl& named) {
-  const auto& face = controls::StateOf(named.control);
+  const auto& state = controls::StateOf(named.control);
   const auto* element = std::get_if<controls::OptionElement>(&named.control);
-  return named.form->loaded && named.form->visible && named.form->enabled && face.visible && face.enabled &&
+  return named.form->loaded && named.form->visible && named.form->enabled && state.visible && state.enabled &&
          (element == nullptr || element->array->enabled);
 }
 

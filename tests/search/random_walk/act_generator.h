@@ -8,8 +8,8 @@
 
 #include "core/application.h"
 
-namespace ovl::ui {
-struct FrameRow;
+namespace ovl::registers {
+struct OptionRow;
 }
 
 namespace ovl::testing {
@@ -36,7 +36,7 @@ class ActGenerator {
   std::string On(const std::string& name, const controls::ControlRef& control);
 
   std::mt19937 random_;
-  std::vector<const ui::FrameRow*> rows_;
+  std::vector<const registers::OptionRow*> rows_;
 };
 
 }  // namespace ovl::testing

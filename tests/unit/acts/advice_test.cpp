@@ -152,7 +152,7 @@ TEST(AdviceOnTheLink, AScanThatFindsNoUnitSaysWhy) {
   const std::string scan = "click BaudrateCMD\n";
   const auto heard = kOpenPort + kHold + "click cmdDisConnect\nclick cmdConnect\n";
   const Row rows[] = {
-      {"scan-deaf", "click cmdConnect\n" + scan, "This scan cannot find the unit", "Cancel",
+      {"scan-cannot-hear", "click cmdConnect\n" + scan, "This scan cannot find the unit", "Cancel",
        "click frmScanBProgress.Command1\n"},
       {"scan-found-nothing", "click cmdConnect\n" + scan + "tick BaudRateScan 11\n",
        "Choose the baud rate, the data bits and the parity of the unit in Set Comport", "Set Comport",

@@ -43,7 +43,9 @@ TEST(History, IsSavedToTheChosenOrTheOfferedFileAndEndsEvenIfTheWriteFails) {
   program.Receive("kept\r\n", std::nullopt);
   EXPECT_EQ(ReadFile(program.folder.File("History.txt")), "OVLH\r\nkept\r\n\r\n");
   program.Click("cmdDisConnect");
+  EXPECT_EQ(program.app.history_path, program.app.CurrentFilePath);
   program.Receive("lost", program.folder.File("no such folder/log.txt"));
+  EXPECT_EQ(program.app.history_path, "");
   EXPECT_TRUE(program.app.StatusNote.ends_with("No such file or directory")) << program.app.StatusNote;
   EXPECT_FALSE(program.app.HistoryPending);
   EXPECT_EQ(program.app.frmMain.lbRemoteAccess.caption, "No Access");

@@ -41,12 +41,15 @@ TEST(Comports, OnlyADeniedPermissionNamesTheGroup) {
   ASSERT_TRUE(QFile(file).open(QIODevice::WriteOnly));
   const auto group = host::DeviceGroup(file);
   ASSERT_FALSE(group.isEmpty());
+  const auto problem = [](int number, const QString& device, std::errc reason) {
+    return host::ComportProblem(number, {device.toStdString(), std::make_error_code(reason)});
+  };
   EXPECT_EQ(
-      host::ComportProblem(3, file, host::SystemText(EACCES)),
+      problem(3, file, std::errc::permission_denied),
       QString("Comport 3, %1: Permission denied. The device belongs to the group %2.").arg(file, group));
-  EXPECT_EQ(host::ComportProblem(9, file, host::SystemText(ENOENT)),
+  EXPECT_EQ(problem(9, file, std::errc::no_such_file_or_directory),
             QString("Comport 9, %1: No such file or directory.").arg(file));
-  EXPECT_EQ(host::ComportProblem(9, "/dev/no-such-device", host::SystemText(EACCES)),
+  EXPECT_EQ(problem(9, "/dev/no-such-device", std::errc::permission_denied),
             "Comport 9, /dev/no-such-device: Permission denied.");
 }
 

@@ -31,12 +31,11 @@ const std::map<std::string, Folders> kModel = {
 
 // The same for the windows, which may include all of the model and of the host.
 const std::map<std::string, Folders> kWindows = {
-    {"ui/frames", {}},
-    {"ui/tips", {"ui/frames"}},
+    {"ui/tips", {}},
     {"ui/kit", {"ui/tips"}},
     {"ui/help", {"ui/kit"}},
     {"ui/acts", {"ui/kit"}},
-    {"ui/pages", {"ui/kit", "ui/frames", "ui/acts"}},
+    {"ui/pages", {"ui/kit", "ui/acts"}},
     {"ui/dialogs", {"ui/kit", "ui/pages", "ui/acts"}},
     {"ui/window", {"ui/kit", "ui/acts", "ui/pages", "ui/dialogs"}},
     {"ui/files", {"ui/kit", "ui/dialogs"}},

@@ -9,7 +9,6 @@
 #include "changes/option_controls.h"
 #include "link/transfer.h"
 #include "screen.h"
-#include "ui/frames/register_frames.h"
 
 namespace ovl::testing {
 namespace {
@@ -119,20 +118,6 @@ TEST_F(ChangesTest, CopyWholeRowsWithTheBytesThatAreShown) {
   ASSERT_EQ(with_bytes.size(), 7);
   EXPECT_EQ(with_bytes[4], "COMMCFG_BAK, SYSCFG 1");
   EXPECT_EQ(with_bytes[6].toStdString(), app.image[image::FieldId::COMMCFG_BAK]);
-}
-
-// The labels of the options are those of the page.
-TEST(ChangesLabels, AreThoseOfTheOptionFrames) {
-  for (const auto& option : changes::OptionControls()) {
-    if (option.frame == controls::OptionFrame::kNone || option.label.empty()) continue;
-    const auto rows = ui::RowsOfFrame(static_cast<int>(option.frame));
-    const auto row =
-        std::find_if(rows.begin(), rows.end(), [&](const auto& at) { return at.control == option.name; });
-    ASSERT_NE(row, rows.end()) << option.name;
-    const bool digit = option.label.find(" digit") != std::string_view::npos;
-    if (row->words == "Label84") continue;
-    EXPECT_TRUE(digit ? option.label.starts_with(row->words) : option.label == row->words) << option.name;
-  }
 }
 
 class CopySlotTest : public ScreenTest {

@@ -21,17 +21,17 @@ using Names = std::set<std::string>;
 Names Wanted(Screen& screen) {
   const auto& form = screen.App().frmMain;
   Names wanted;
-  const auto face = [&](const std::string& name) {
+  const auto state = [&](const std::string& name) {
     const auto* found = screen.App().registry.Find(form.form, name);
     return found == nullptr ? nullptr : &controls::StateOf(found->control);
   };
   const auto want = [&](const std::string& name) {
-    if (face(name) != nullptr && face(name)->visible) wanted.insert(name);
-    return face(name) != nullptr;
+    if (state(name) != nullptr && state(name)->visible) wanted.insert(name);
+    return state(name) != nullptr;
   };
   for (const auto& row : OptionControls()) {
     if (row.frame == kNoFrame || !form.frmAddress.at(static_cast<std::size_t>(row.frame)).visible) continue;
-    if (!row.inner_frame.empty() && !face(row.inner_frame)->visible) continue;
+    if (!row.inner_frame.empty() && !state(row.inner_frame)->visible) continue;
     int element = 0;
     while (want(row.name + "(" + std::to_string(element) + ")")) ++element;
     if (element == 0) want(row.name);

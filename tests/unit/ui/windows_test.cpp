@@ -151,21 +151,20 @@ TEST_F(WindowsTest, TheFileOfASavedHistoryIsNamed) {
   Show();
   const auto& line = Find<QLabel>("HistoryPlace");
   const auto file = folder.File("Monday.txt");
-  const auto end = [&](bool open, const std::string& note) {
+  const auto end = [&](bool open, const std::string& saved) {
     app.HistoryPending = true;
     Show();
     EXPECT_FALSE(line.isVisible());
     app.frmMain.MSComm1.PortOpen = open;
-    app.CurrentFilePath = file;
-    app.StatusNote = note;
+    app.history_path = saved;
     app.HistoryPending = false;
     Show();
     return line.isVisible();
   };
-  EXPECT_TRUE(end(true, ""));
+  EXPECT_TRUE(end(true, file));
   EXPECT_EQ(line.text().toStdString(), "The history is in " + file + ".");
-  EXPECT_FALSE(end(true, file + ": No space left on device"));
-  EXPECT_FALSE(end(false, "")) << "disconnected before it came";
+  EXPECT_FALSE(end(true, "")) << "it could not be saved";
+  EXPECT_FALSE(end(false, file)) << "disconnected before it came";
 }
 
 TEST_F(WindowsTest, TheAboutBoxShowsProgramFirmwareQtAndLicence) {

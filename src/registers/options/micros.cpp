@@ -1,4 +1,4 @@
-#include "registers/micros.h"
+#include "registers/options/micros.h"
 
 #include <algorithm>
 #include <array>

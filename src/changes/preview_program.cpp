@@ -1,4 +1,4 @@
-#include "changes/shadow_program.h"
+#include "changes/preview_program.h"
 
 #include <stdexcept>
 
@@ -40,7 +40,8 @@ struct WordsIn {
 
 }  // namespace
 
-ShadowProgram::ShadowProgram(const core::Application& like, const image::ConfigImage& image) : image_(image) {
+PreviewProgram::PreviewProgram(const core::Application& like, const image::ConfigImage& image)
+    : image_(image) {
   app_.firmware = app_.image_firmware = like.image_firmware;
   app_.Setting_Code = like.Setting_Code;
   PrepareCapabilities(app_);
@@ -54,7 +55,7 @@ ShadowProgram::ShadowProgram(const core::Application& like, const image::ConfigI
 
 // The handlers of register options write into the image and move lists of other panels. Each routine
 // therefore starts with the image as it is, and the moved lists start without a selection.
-void ShadowProgram::ApplyAll() {
+void PreviewProgram::ApplyAll() {
   auto& form = app_.frmMain;
   app_.UploadApplying = true;         // the register is shown, and its default image is not loaded
   app_.LinkMode = core::kLinkUpload;  // the window of MICROS stays closed
@@ -71,7 +72,7 @@ void ShadowProgram::ApplyAll() {
   LoadForm(app_, app_.frmSetRange.form);  // shows the separator
 }
 
-void ShadowProgram::ShowException(int number) {
+void PreviewProgram::ShowException(int number) {
   auto& lists = app_.frmMain.ComboExcp;
   app_.image = image_;
   Forget(lists);
@@ -79,7 +80,7 @@ void ShadowProgram::ShowException(int number) {
   panels::LoadExceptionSlot(app_, number);
 }
 
-void ShadowProgram::ShowAlarm(int number) {
+void PreviewProgram::ShowAlarm(int number) {
   auto& lists = app_.frmMain.ComboALM;
   app_.image = image_;
   for (const auto member : {Alm::kTrigger, Alm::kNormalState, Alm::kDuration, Alm::kVideoLoss, Alm::kType})
@@ -89,13 +90,13 @@ void ShadowProgram::ShowAlarm(int number) {
   panels::LoadAlarm(app_, number);
 }
 
-const controls::NamedControl& ShadowProgram::Named(std::string_view name) const {
+const controls::NamedControl& PreviewProgram::Named(std::string_view name) const {
   const auto* named = app_.registry.Find(name);
   if (named == nullptr) throw std::logic_error("there is no control " + std::string(name));
   return *named;
 }
 
-std::optional<std::string> ShadowProgram::WordsOf(std::string_view name) const {
+std::optional<std::string> PreviewProgram::WordsOf(std::string_view name) const {
   return std::visit(WordsIn{}, Named(name).control);
 }
 

@@ -1,4 +1,4 @@
-#include "registers/sub_menus.h"
+#include "registers/options/sub_menus.h"
 
 #include <algorithm>
 #include <array>

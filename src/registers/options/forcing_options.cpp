@@ -1,4 +1,4 @@
-#include "registers/forcing_options.h"
+#include "registers/options/forcing_options.h"
 
 #include <array>
 

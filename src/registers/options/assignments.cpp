@@ -1,4 +1,4 @@
-#include "registers/assignments.h"
+#include "registers/options/assignments.h"
 
 #include <array>
 #include <initializer_list>
@@ -6,9 +6,9 @@
 
 #include "core/actions.h"
 #include "firmware/traits.h"
-#include "registers/micros.h"
-#include "registers/option_handlers.h"
-#include "registers/sub_menus.h"
+#include "registers/options/micros.h"
+#include "registers/options/option_handlers.h"
+#include "registers/options/sub_menus.h"
 
 namespace ovl::registers {
 namespace {
@@ -71,10 +71,9 @@ bool AssignOffered(core::Application& app, controls::OptionArray& array,
   return Choose(app, array, StoredIn(app, REGTYPE_MINOR));
 }
 
-// Only V1400 empties the list before it is filled again.
 bool RefillMixed(core::Application& app, std::initializer_list<const char*> entries) {
   auto& list = app.frmMain.ComboDIPMIXED;
-  if (app.firmware.IsV1400()) {
+  if (firmware::RefillsPrintouts(app.firmware)) {
     list.items.clear();
     list.position = -1;
   }

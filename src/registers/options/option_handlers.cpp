@@ -1,12 +1,12 @@
-#include "registers/option_handlers.h"
+#include "registers/options/option_handlers.h"
 
 #include <array>
 
 #include "core/actions.h"
 #include "firmware/traits.h"
-#include "registers/forcing_options.h"
-#include "registers/micros.h"
-#include "registers/sub_menus.h"
+#include "registers/options/forcing_options.h"
+#include "registers/options/micros.h"
+#include "registers/options/sub_menus.h"
 
 namespace ovl::registers {
 namespace {

@@ -10,11 +10,11 @@
 
 namespace ovl::changes {
 
-class ShadowProgram {
+class PreviewProgram {
  public:
   // Shows the image on the panels and on the options of its register, as the program `like` would after a
   // load. It asks nothing of the platform and changes nothing in `like`.
-  ShadowProgram(const core::Application& like, const image::ConfigImage& image);
+  PreviewProgram(const core::Application& like, const image::ConfigImage& image);
 
   // Shows one exception, 1 to 24, or one alarm, 1 to 16, on its panel.
   void ShowException(int number);

@@ -1,0 +1,266 @@
+#include "registers/options/option_rows.h"
+
+#include <algorithm>
+#include <array>
+
+namespace ovl::registers {
+namespace {
+
+using enum image::FieldId;
+using Frame = controls::OptionFrame;
+
+// Tips of more than one row.
+constexpr std::string_view kReceiptOrJournal =
+    "Which of the register's texts the unit shows: that of the receipt or that of the "
+    "journal.";
+constexpr std::string_view kModel = "The register's model, whose print stream the unit then reads.";
+constexpr std::string_view kModelTapOrEmulate =
+    "The register or printer whose print stream the unit reads; TAP listens, EMULATE "
+    "answers as the printer.";
+constexpr std::string_view kDevice = "The device of the register whose text the unit takes.";
+constexpr std::string_view kTapOrAcknowledge =
+    "Whether the unit only listens (TAP) or acknowledges what the register sends (ACK); "
+    "also sets the register line.";
+constexpr std::string_view kAddressDigit =
+    "A digit of the register's address to which the unit listens; also sets the whole "
+    "register line.";
+constexpr std::string_view kGoesById = "Whether the unit goes by the register ID below.";
+constexpr std::string_view kIdDigit = "A digit of the ID of the register to which the unit listens.";
+constexpr std::string_view kShownIpNumber =
+    "One of the four numbers of the IP address; this firmware shows it but keeps no "
+    "change.";
+constexpr std::string_view kFixedModel = "The model, which is fixed.";
+constexpr std::string_view kTapOrEmulate =
+    "Whether the unit listens to the printer line or answers as the printer; also sets "
+    "the register line's speed.";
+constexpr std::string_view kPrinter = "The printer whose text the unit takes.";
+constexpr std::string_view kIpNumber =
+    "One of the four numbers of the IP address from which the unit takes its text.";
+constexpr std::string_view kOverlaidInformation =
+    "Whether the unit lays this kind of information over the picture.";
+constexpr std::string_view kModelWithSettings =
+    "The register's model, whose print stream the unit then reads; a few open settings "
+    "of their own.";
+constexpr std::string_view kOpensSettings = "Opens the further settings of the chosen model, if it has any.";
+constexpr std::string_view kSoftware =
+    "The software that the register runs, which decides the form of its messages.";
+
+constexpr OptionRow Beside(OptionRow row) {
+  row.beside = true;
+  return row;
+}
+
+constexpr OptionRow Inside(std::string_view frame, OptionRow row) {
+  row.inner = frame;
+  return row;
+}
+
+constexpr OptionRow Columns(int columns, OptionRow row) {
+  row.columns = columns;
+  return row;
+}
+
+constexpr OptionRow NamedAlone(std::string_view label, OptionRow row) {
+  row.label_alone = label;
+  return row;
+}
+
+constexpr OptionRow Entry(int entry, OptionRow row) {
+  row.entry = entry;
+  return row;
+}
+
+constexpr OptionRow Bit(int bit, OptionRow row) {
+  row.bits = 1 << bit;
+  return row;
+}
+
+constexpr OptionRow kRows[] = {
+    {Frame::kAddress, "Address", "ComboAddress",
+     "The address under which the register calls the unit; ANY takes the text of every "
+     "address."},
+    {Frame::kDisplay, "Display", "ComboDisplay", kReceiptOrJournal},
+    {Frame::kDelta, "Printer", "OpDelta",
+     "The printer line to which the unit is wired, and the printer's make."},
+    {Frame::kDresserWayne, "Text source", "OpDYWAYE",
+     "The printer or terminal whose text the unit takes; the choice also sets the "
+     "register line's speed."},
+    {Frame::kEdacom, "Model", "OpEDA", kModel},
+    {Frame::kGasboy, "Device address", "ComboDeviceADD",
+     "The address of the device whose text the unit takes; ANY takes them all."},
+    {Frame::kGasboy, "Device", "ComboDeviceGas", "The kind of device to whose line the unit listens.",
+     kFields<GTITLE_NF_BAK>},
+    {Frame::kGilbarco, "Model", "OpGilbraco", "The register system whose messages the unit reads."},
+    NamedAlone("DESCRIPTION/XML",
+               {Frame::kGilbarco, "Label84", "ComboXML",
+                "Whether the unit takes the descriptions out of the register's XML messages.",
+                kFields<REGTYPE_EXT2>}),
+    {Frame::kGilbarco, "", "Label85", {}, kNoField},
+    {Frame::kPrintout, "Display", "ComboDIPMIXED", "Which of the register's texts the unit shows."},
+    {Frame::kMicrelec, "Display", "OpMicrelec",
+     "Whose display the unit follows; the choice also sets speed, parity and data bits of "
+     "the register line.",
+     kFields<REGTYPE_MINOR, UNITADDR>},
+    Beside({Frame::kMicrelec, "Printer, 9500", "OpMicrelec9500",
+            "Which printer of the 9500 the unit follows; the choice also sets speed, parity and "
+            "data bits of the register line.",
+            kFields<REGTYPE_MINOR, UNITADDR>}),
+    {Frame::kMicros, "Network", "OpMicros",
+     "The network on which the unit hears the register; each but the first has settings "
+     "of its own."},
+    {Frame::kMicros, "Network settings", "cmdMicros", "Opens the settings of the chosen network.", kNoField},
+    {Frame::kNcr, "Model", "OpNCR", kModelTapOrEmulate},
+    {Frame::kBeetlePrinters, "Device", "OpBEETLE", kDevice},
+    {Frame::kNorand, "Wiring", "ComboWoring", kTapOrAcknowledge},
+    {Frame::kNorand, "Title display", "ComboTITLEDIP",
+     "Whether the unit shows the title above the register's text; also switches TITLER.",
+     kFields<GTITLE_NF_BAK>},
+    {Frame::kNorand, "Console ID", "ComboCONSOLEID",
+     "The console whose text the unit takes; ANY takes them all.", kFields<DV_ADDRIND_BAK>},
+    {Frame::kPanasonic, "Title display", "ComboPana(0)",
+     "Whether the unit shows the title above the register's text.", kFields<GTITLE_NF_BAK>},
+    {Frame::kPanasonic, "Wiring", "ComboPana(1)", kTapOrAcknowledge},
+    Columns(2, {Frame::kSharp, "Model", "OpSharp", kModel}),
+    {Frame::kSicom, "Address", "ComboSICOM",
+     "The address of the register that the unit follows, ANY for all; also sets the "
+     "register line's speed."},
+    {Frame::kSuntronic, "Model", "OpSun", kModel},
+    NamedAlone("Address, first digit",
+               {Frame::kTci, "Address", "ComboTCI_ID(2)", kAddressDigit, kFields<TCIADDBAK_1>}),
+    Beside(NamedAlone("Address, second digit",
+                      {Frame::kTci, "", "ComboTCI_ID(1)", kAddressDigit, kFields<TCIADDBAK_2>})),
+    Beside(NamedAlone("Address, third digit",
+                      {Frame::kTci, "", "ComboTCI_ID(0)", kAddressDigit, kFields<TCIADDBAK_3>})),
+    {Frame::kUniwellId, "Addressing", "ComboUni", kGoesById},
+    {Frame::kUniwellId, "Addressing", "ComboUniFor14R7up", kGoesById, kFields<REGTYPE_EXT2>},
+    NamedAlone("Register ID, first digit",
+               {Frame::kUniwellId, "Register ID", "ComboUNI_ID(2)", kIdDigit, kFields<TCIADDBAK_1>}),
+    Beside(NamedAlone("Register ID, second digit",
+                      {Frame::kUniwellId, "", "ComboUNI_ID(1)", kIdDigit, kFields<TCIADDBAK_2>})),
+    Beside(NamedAlone("Register ID, third digit",
+                      {Frame::kUniwellId, "", "ComboUNI_ID(0)", kIdDigit, kFields<TCIADDBAK_3>})),
+    {Frame::kVerifone, "Printer", "OpVerifone",
+     "The printer whose text the unit takes: by listening (TAPPING) or in the printer's "
+     "place (EMULATING)."},
+    {Frame::kUp3000, "Terminal", "ComboAddr", "The terminal whose text the unit takes; ANY takes them all."},
+    {Frame::kOldTcpip, "IP  ADDRESS  1  :", "ComboTCPIP(0)", kShownIpNumber, kFields<IPADDRESS>},
+    Entry(2, {Frame::kOldTcpip, "IP  ADDRESS  2  :", "ComboTCPIP(1)", kShownIpNumber, kFields<IPADDRESS>}),
+    Entry(3, {Frame::kOldTcpip, "IP  ADDRESS  3  :", "ComboTCPIP(2)", kShownIpNumber, kFields<IPADDRESS>}),
+    Entry(4, {Frame::kOldTcpip, "IP  ADDRESS  4  :", "ComboTCPIP(3)", kShownIpNumber, kFields<IPADDRESS>}),
+    {Frame::kCasioTk500, "Model", "ComboTk500(0)", kFixedModel, kNoField},
+    {Frame::kCasioTk500, "Mode", "ComboTk500(1)", kTapOrEmulate},
+    {Frame::kClarity, "Address", "ComboCLARITYEPOS",
+     "The address of the register that the unit follows; ALL takes every one.", kFields<UNITADDR>},
+    Columns(2, {Frame::kEpson, "Printer or display", "OpRI_QT2",
+                "What hangs on the line to which the unit is wired.", kFields<REGTYPE_MINOR, REGTYPE_EXT2>}),
+    {Frame::kNixdorfBeetle, "Printer", "OpNIXDORF", kPrinter, kFields<REGTYPE_MINOR, REGTYPE_EXT2>},
+    {Frame::kPrinterOrScale, "Device", "OpNUCP", "The device whose text the unit takes."},
+    {Frame::kSharpA410, "Mode", "OpA410",
+     "Whether the unit listens to the printer line (TAP) or answers as the printer "
+     "(EMULATE); US for registers of the United States."},
+    {Frame::kSharpUp600, "Mode", "OpSHARPUP600",
+     "Whether the unit listens (TAP) or answers as the printer (EMULATE); also sets the "
+     "register line's speed."},
+    {Frame::kCasioTe2200, "Model", "ComboTE2200(0)", kFixedModel, kNoField},
+    {Frame::kCasioTe2200, "Mode", "ComboTE2200(1)", kTapOrEmulate},
+    {Frame::kTcpip, "IP  ADDRESS  1   :", "ComboTCPIP(4)", kIpNumber, kFields<IPADDRESS>},
+    Entry(2, {Frame::kTcpip, "IP  ADDRESS  2   :", "ComboTCPIP(5)", kIpNumber, kFields<IPADDRESS>}),
+    Entry(3, {Frame::kTcpip, "IP  ADDRESS  3   :", "ComboTCPIP(6)", kIpNumber, kFields<IPADDRESS>}),
+    Entry(4, {Frame::kTcpip, "IP  ADDRESS  4   :", "ComboTCPIP(7)", kIpNumber, kFields<IPADDRESS>}),
+    Bit(0, {Frame::kTcpip, "INFORMATION 0  :", "ComboTCPINFO(0)", kOverlaidInformation}),
+    Bit(1, {Frame::kTcpip, "INFORMATION 1  :", "ComboTCPINFO(1)", kOverlaidInformation}),
+    Bit(2, {Frame::kTcpip, "INFORMATION 2  :", "ComboTCPINFO(2)", kOverlaidInformation}),
+    Bit(3, {Frame::kTcpip, "INFORMATION 3  :", "ComboTCPINFO(3)", kOverlaidInformation}),
+    {Frame::kTec, "Model", "ComboTEC(0)", kFixedModel, kNoField},
+    {Frame::kTec, "Mode", "ComboTEC(1)", kTapOrEmulate},
+    {Frame::kWeighScale, "Scale", "OpWEIGHS", "The scale whose output the unit reads."},
+    {Frame::kBleep, "Model", "BleepOP", kModel},
+    Columns(3, {Frame::kCasioModels, "Model", "CASIOOP", kModelWithSettings}),
+    {Frame::kCasioModels, "", "Command1", kOpensSettings, kNoField},
+    {Frame::kDigipos, "Model", "DIGIOP", "The register's model or device, whose text the unit then reads."},
+    {Frame::kDresserWayneModels, "Point of sale", "POSOP",
+     "The printer of the point of sale that the unit taps; also sets the register line.",
+     kFields<REGTYPE_MINOR, REGTYPE_EXT1, REGTYPE_EXT2>},
+    Beside({Frame::kDresserWayneModels, "Terminal", "TEROP",
+            "The terminal whose text the unit takes; also sets the register line.",
+            kFields<REGTYPE_MINOR, REGTYPE_EXT1, REGTYPE_EXT2>}),
+    Beside({Frame::kDresserWayneModels, "Printer", "PRNOP",
+            "The printer that the unit answers for; also sets the register line.",
+            kFields<REGTYPE_MINOR, REGTYPE_EXT1, REGTYPE_EXT2>}),
+    Beside({Frame::kDresserWayneModels, "Security", "SECUOP",
+            "The unit takes the security messages of the register; also sets the register line.",
+            kFields<REGTYPE_MINOR, REGTYPE_EXT1>}),
+    {Frame::kEasyTouch, "Model", "EASYOP", kModel, kNoField},
+    {Frame::kFujitsu, "Model", "FUJIOP", kModel},
+    {Frame::kFujitsu, "Display", "Combo1", kReceiptOrJournal, kFields<REGTYPE_EXT2>},
+    Columns(3, {Frame::kGeller, "Model", "GELLEROP", kModel}),
+    {Frame::kIbm, "Model", "IBMOP",
+     "The register or printer whose text the unit reads; a few have a further choice "
+     "below."},
+    Inside("IBMFrame", {Frame::kIbm, "Printer", "IBMCombo",
+                        "Which printer's text the unit takes from the terminal; MIXED takes both.",
+                        kFields<REGTYPE_EXT2>}),
+    Inside("IBMFrame", {Frame::kIbm, "Printer", "RDSCombo",
+                        "Which printer's text the unit takes from the register.", kFields<REGTYPE_EXT2>}),
+    Inside("IBMFrame", {Frame::kIbm, "Mode", "Combo4610TF6",
+                        "Whether the unit listens to the printer line (TAP) or answers as the printer "
+                        "(EMULATE).",
+                        kFields<REGTYPE_EXT2>}),
+    {Frame::kIcl, "Model", "ICLOP", kModel},
+    Inside("POS2000", Beside({Frame::kIcl, "Software", "TEAMOP", kSoftware, kFields<REGTYPE_EXT2>})),
+    Inside("POS5000", Beside({Frame::kIcl, "Printer", "POS50OP", kPrinter, kFields<REGTYPE_EXT2>})),
+    {Frame::kJcm, "Model", "JCMOp", kModel},
+    Columns(2, {Frame::kNcrModels, "Model", "NCROP", kModelTapOrEmulate}),
+    Inside("NCRFrame", Beside({Frame::kNcrModels, "Printer of the 7059", "JRNLRCPT_SLP_OP",
+                               "The printer of the 7059 whose text the unit takes.", kFields<REGTYPE_EXT2>})),
+    {Frame::kNixdorfModels, "Model", "NIXDORF14OP", kModel},
+    Inside("BEETLEFrm",
+           Beside({Frame::kNixdorfModels, "Device", "BEETLEOp", kDevice, kFields<REGTYPE_EXT2>})),
+    Inside("NIXDORFrm",
+           Beside({Frame::kNixdorfModels, "Printer", "NIXDORF14OPSelect", kPrinter, kFields<REGTYPE_EXT2>})),
+    Columns(2, {Frame::kSamsung, "Model", "SamOP", kModel}),
+    Columns(3, {Frame::kSharpModels, "Model", "SharpOP", kModelWithSettings}),
+    {Frame::kSharpModels, "", "SharpCom", kOpensSettings, kNoField},
+    {Frame::kTeamPos, "Software", "TEAMPOSOP", kSoftware, kFields<REGTYPE_EXT2>},
+    Columns(2, {Frame::kTecModels, "Model", "TECOP",
+                "The register's model, whose print stream the unit then reads; the slip printer "
+                "opens settings of its own."}),
+    {Frame::kTecModels, "", "Command2", kOpensSettings, kNoField},
+    Columns(2, {Frame::kUniwellModels, "Model", "UNIWOP",
+                "The register's model, whose print stream the unit then reads; a few are told apart "
+                "by an ID."}),
+    {Frame::kSensors, "Sensor", "SenOP", "The sensor whose readings the unit shows.", kNoField},
+    {Frame::kSensors, "Temperature", "ST6105C", "The scale in which the unit shows the temperature.",
+     kFields<REGTYPE_EXT2>},
+    {Frame::kNe134, "Address", "ComboNE134", "The address of the counter that the unit reads."},
+    {Frame::kWeighbridge, "Output", "OpVWEIGHBRIDGE",
+     "The output format of the weighbridge that the unit reads."},
+    {Frame::kPoleDisplay, "Model", "OpPoleDisplay",
+     "The make of the pole display whose line the unit reads."},
+};
+
+}  // namespace
+
+bool OptionRow::Shows(image::FieldId field, int of_entry) const {
+  return entry == of_entry && std::find(fields.begin(), fields.end(), field) != fields.end();
+}
+
+std::span<const OptionRow> OptionRows() {
+  return kRows;
+}
+
+std::span<const OptionRow> RowsOfFrame(controls::OptionFrame frame) {
+  const auto is_of_frame = [frame](const OptionRow& row) { return row.frame == frame; };
+  const auto* first = std::find_if(std::begin(kRows), std::end(kRows), is_of_frame);
+  return {first, std::find_if_not(first, std::end(kRows), is_of_frame)};
+}
+
+const OptionRow* FindOptionRow(std::string_view control) {
+  const auto array = control.substr(0, control.find('('));
+  const auto* found = std::find_if(std::begin(kRows), std::end(kRows), [&](const OptionRow& row) {
+    return row.control == control || row.control == array;
+  });
+  return found == std::end(kRows) ? nullptr : found;
+}
+
+}  // namespace ovl::registers
