@@ -11,10 +11,6 @@ void Run(Application& app, controls::Handler handler, int index) {
   if (handler != nullptr) handler(app, index);
 }
 
-std::string PortName(const Application& app) {
-  return "Comport " + std::to_string(app.frmMain.MSComm1.CommPort);
-}
-
 }  // namespace
 
 bool AssignPosition(Application& app, controls::List& list, int position, Raise raise) {
@@ -119,9 +115,19 @@ void ClearCommBuffers(Application& app) {
   app.platform.serial.clear_output();
 }
 
+std::string PortName(const Application& app) {
+  return "Comport " + std::to_string(app.frmMain.MSComm1.CommPort);
+}
+
+const Failure* LostDevice(const Application& app) {
+  const auto& lost = app.platform.serial.lost;
+  return app.frmMain.MSComm1.PortOpen && lost ? lost() : nullptr;
+}
+
 void NoteFailure(Application& app, const Failure& failure) {
   app.StatusNote = failure.Text();
   app.noted_failure = failure;
+  ++app.failures_noted;
 }
 
 void OutputOrSkip(Application& app, std::string_view text) {

@@ -48,6 +48,12 @@ void Output(Application& app, std::string_view text);
 std::string Input(Application& app);
 void ClearCommBuffers(Application& app);
 
+// The port as failures name it: "Comport 3".
+std::string PortName(const Application& app);
+
+// Why the device of the open port is gone; null while it is there, and while no port is open.
+const Failure* LostDevice(const Application& app);
+
 // Shows the failure in the status bar.
 void NoteFailure(Application& app, const Failure& failure);
 

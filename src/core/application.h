@@ -147,6 +147,7 @@ struct Application {
   bool upload_taken = false;             // the last upload was read whole
   std::string StatusNote;                // what last went wrong: file or port, and the reason
   std::optional<Failure> noted_failure;  // the same; nothing if no step has failed
+  unsigned failures_noted = 0;           // since the start
 };
 
 }  // namespace ovl::core

@@ -1,5 +1,7 @@
 #include "acts/advice/link_watch.h"
 
+#include "core/actions.h"
+
 namespace ovl::acts {
 namespace {
 
@@ -53,8 +55,8 @@ void LinkWatch::WatchAttempt(const core::Application& app) {
 }
 
 void LinkWatch::WatchDevice(const core::Application& app) {
-  if (!app.frmMain.MSComm1.PortOpen || !app.platform.serial.lost || loss_) return;
-  if (const auto* why = app.platform.serial.lost()) Lose(app, *why);
+  if (loss_) return;
+  if (const auto* why = core::LostDevice(app)) Lose(app, *why);
 }
 
 void LinkWatch::Lose(const core::Application& app, const core::Failure& why) {

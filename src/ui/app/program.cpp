@@ -1,6 +1,7 @@
 #include "ui/app/program.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <cstdlib>
@@ -98,19 +99,24 @@ core::Outcome Program::Start() {
 }
 
 void Program::GuardUnsaved() {
-  auto& status = windows_->Main().Status();
-  auto rescued = RescueCopies(folder_).join(QStringLiteral(", "));
-  if (!rescued.isEmpty()) {
-    rescued += QStringLiteral(": changes of a run that ended suddenly, for File > Open");
-    status.SetNotice(rescued);
-  }
+  rescued_ = RescueCopies(folder_);
   unsaved_ = std::make_unique<UnsavedCopy>(app_, folder_);
-  unsaved_->report = [&status, rescued](const core::Result& written) {
-    if (written.Ok()) return status.SetNotice(rescued);
-    status.SetNotice(QStringLiteral("Changes are not guarded against a sudden end. ") +
-                     host::FromSystem(written.Problem().Text()));
+  unsaved_->report = [this](const core::Result& written) {
+    unguarded_ = written.Ok() ? QString()
+                              : QStringLiteral("Changes are not guarded against a sudden end. ") +
+                                    host::FromSystem(written.Problem().Text());
+    ShowRescueNotice();
   };
+  ShowRescueNotice();
   RefreshNow();
+}
+
+void Program::ShowRescueNotice() {
+  auto notice = unguarded_;
+  if (notice.isEmpty() && !rescued_.isEmpty())
+    notice = rescued_.join(QStringLiteral(", ")) +
+             QStringLiteral(": changes of a run that ended suddenly, for File > Open");
+  windows_->Main().Status().SetRescueNotice(notice);
 }
 
 void Program::CollectTimers() {
@@ -207,6 +213,9 @@ core::Outcome Program::DispatchUserAct(const core::Event& event) {
   opening_ = false;
   if (outcome != core::Outcome::kDone) return outcome;
   windows_->SetAlsoStored(host::FromWindows1252(changes::AlsoStored(app_, event, before)));
+  const bool opened = core::Clicks(event, app_.frmMain.OpenMenu) && !app_.UploadApplying;
+  const QFileInfo file(QFile::decodeName(app_.CurrentFilePath.c_str()));
+  if (opened && file.dir() == QDir(folder_) && rescued_.removeAll(file.fileName()) > 0) ShowRescueNotice();
   if (core::Clicks(event, app_.frmMain.menuSave) && !app_.saved_path.empty())
     windows_->Main().Status().ShowFileMessage(QStringLiteral("Saved: ") + host::FromSystem(app_.saved_path));
   return outcome;

@@ -83,6 +83,7 @@ class Program {
   void UpdateTimer(TimerState& timer);
   void Tick(controls::Timer& timer);
   void End();
+  void ShowRescueNotice();
   QString BoxDetail(const core::MessageBox& box) const;
 
   QString folder_, store_folder_;
@@ -96,6 +97,8 @@ class Program {
   std::unique_ptr<Windows> windows_;
   std::unique_ptr<FileActs> files_;
   bool opening_ = false;  // the handler of Open runs
+  QStringList rescued_;   // copies of earlier runs that were not opened yet
+  QString unguarded_;     // why changes are not guarded; empty if they are
   std::vector<TimerState> timers_;
   QTimer frame_;
 };

@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
-#include "core/application.h"
+#include "core/actions.h"
 #include "ui/kit/theme.h"
 
 namespace ovl::ui {
@@ -41,6 +41,7 @@ bool IsLive(LinkState state) {
 
 LinkState LinkStateOf(const core::Application& app) {
   const auto& form = app.frmMain;
+  if (core::LostDevice(app) != nullptr) return LinkState::kLost;
   if (app.ScanActive) return LinkState::kScanning;
   if (!form.MSComm1.PortOpen) return LinkState::kClosed;
   if (form.General_timer.enabled) return LinkState::kAsked;
@@ -66,6 +67,8 @@ QString LinkStateText(LinkState state) {
       return QStringLiteral("Downloading");
     case LinkState::kScanning:
       return QStringLiteral("Scanning");
+    case LinkState::kLost:
+      return QStringLiteral("Device lost");
   }
   return {};
 }
@@ -150,7 +153,7 @@ void LinkDrawing::DrawLine(QPainter& painter) const {
   if (waits) line.setDashPattern({2, 3});
   if (shown_.state == LinkState::kClosed) line.setColor(MutedColor(palette()));
   painter.setPen(line);
-  if (shown_.state == LinkState::kClosed) {
+  if (shown_.state == LinkState::kClosed || shown_.state == LinkState::kLost) {
     constexpr qreal kGap = 22;
     constexpr qreal kPin = 6;
     for (const qreal end : {kLineMiddle - kGap, kLineMiddle + kGap}) {
@@ -185,13 +188,18 @@ void LinkDrawing::DrawMark(QPainter& painter) const {
     case LinkState::kDownloading:
       DrawArrows(painter, shown_.state == LinkState::kDownloading, true);
       break;
+    case LinkState::kLost:
+      for (const qreal slope : {-1.0, 1.0})
+        painter.drawLine(middle - QPointF(7, 7 * slope), middle + QPointF(7, 7 * slope));
+      break;
     default:
       break;
   }
   painter.setBrush(Qt::NoBrush);
   painter.setPen(pen);
   const bool moving = shown_.state == LinkState::kUploading || shown_.state == LinkState::kDownloading;
-  if (shown_.hint != Hint::kNone && !moving) DrawArrows(painter, shown_.hint == Hint::kToUnit, false);
+  if (shown_.hint != Hint::kNone && !moving && shown_.state != LinkState::kLost)
+    DrawArrows(painter, shown_.hint == Hint::kToUnit, false);
 }
 
 void LinkDrawing::DrawArrows(QPainter& painter, bool to_unit, bool filled) const {

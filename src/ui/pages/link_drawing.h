@@ -12,7 +12,7 @@ struct Application;
 
 namespace ovl::ui {
 
-enum class LinkState { kClosed, kOpen, kAsked, kAccess, kUploading, kDownloading, kScanning };
+enum class LinkState { kClosed, kOpen, kAsked, kAccess, kUploading, kDownloading, kScanning, kLost };
 
 LinkState LinkStateOf(const core::Application& app);
 QString LinkStateText(LinkState state);

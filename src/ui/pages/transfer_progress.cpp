@@ -3,7 +3,7 @@
 #include <QLocale>
 #include <algorithm>
 
-#include "core/application.h"
+#include "core/actions.h"
 #include "image/record_stream.h"
 
 namespace ovl::ui {
@@ -58,8 +58,10 @@ QString TimeText(std::size_t milliseconds) {
 QString TransferProgressText(const core::Application& app) {
   if (!app.frmMain.vbalProgressBar1.visible) return {};
   const auto progress = app.LinkMode == core::kLinkDownload ? DownloadProgress(app) : UploadProgress(app);
-  if (progress.done == 0) return QStringLiteral("waiting for the unit");
+  const bool lost = core::LostDevice(app) != nullptr;
+  if (progress.done == 0) return lost ? QString() : QStringLiteral("waiting for the unit");
   const auto done = QLocale(QLocale::English).toString(static_cast<qulonglong>(progress.done));
+  if (lost) return QStringLiteral("stopped after %1 characters").arg(done);
   return QStringLiteral("%1 characters, %2").arg(done, TimeText(LineTime(app, progress.left)));
 }
 

@@ -8,6 +8,7 @@
 #include <QStackedWidget>
 #include <array>
 
+#include "core/actions.h"
 #include "host/comports.h"
 #include "host/text_codec.h"
 #include "ui/kit/box_layouts.h"
@@ -93,7 +94,6 @@ StatusStrip::StatusStrip(Bindings& bindings)
       dot_(new StateDot),
       state_(new QLabel),
       port_(new QLabel),
-      note_(new CutLabel),
       firmware_(new QStackedWidget) {
   auto* across = new QHBoxLayout(this);
   across->setContentsMargins(kMargin - kFieldGap, kStripMargin, kFieldGap, kStripMargin);
@@ -101,18 +101,23 @@ StatusStrip::StatusStrip(Bindings& bindings)
   across->setSpacing(kRowGap);
   state_->setObjectName(QStringLiteral("StatusState"));
   port_->setObjectName(QStringLiteral("StatusPort"));
-  note_->setObjectName(QStringLiteral("StatusNote"));
   across->addWidget(dot_);
   across->addWidget(state_);
   across->addSpacing(kGap - kRowGap);
   across->addWidget(port_);
   across->addSpacing(kGap - kRowGap);
-  across->addWidget(note_, 1);
+  constexpr std::array kNames = {"StatusNote", "StatusPortProblem", "StatusFile", "StatusRescue"};
+  for (std::size_t source = 0; source < messages_.size(); ++source) {
+    messages_[source] = new CutLabel;
+    messages_[source]->setObjectName(QLatin1String(kNames[source]));
+    messages_[source]->setVisible(source == kProblem);
+    across->addWidget(messages_[source], 1);
+  }
   across->addWidget(FirmwareLabels(bindings));
   hint_end_.setSingleShot(true);
   hint_end_.callOnTimeout(this, [this] {
     hint_.clear();
-    note_->SetText(Note());
+    ShowMessages();
   });
   BindContent(bindings);
 }
@@ -128,7 +133,7 @@ void StatusStrip::BindContent(Bindings& bindings) {
         const auto& comm = app_.frmMain.MSComm1;
         const auto opened = comm.PortOpen ? comm.Settings : std::string();
         if (port.Update(std::to_string(app_.PortNumber) + ' ' + opened)) port_->setText(PortText());
-        note_->SetText(Note());
+        ShowMessages();
         return false;
       });
 }
@@ -157,14 +162,19 @@ void StatusStrip::AddButton(QPushButton* button) {
 
 void StatusStrip::ShowHint(const QString& hint) {
   hint_ = hint;
-  note_->SetText(Note());
+  ShowMessages();
   hint_end_.start(kHintTime);
 }
 
 void StatusStrip::ShowFileMessage(const QString& message) {
   file_message_ = message;
-  note_before_file_ = app_.StatusNote;
-  note_->SetText(Note());
+  failures_before_file_ = app_.failures_noted;
+  ShowMessages();
+}
+
+void StatusStrip::SetRescueNotice(const QString& notice) {
+  rescue_notice_ = notice;
+  ShowMessages();
 }
 
 void StatusStrip::ShowTab(int tab) {
@@ -173,12 +183,27 @@ void StatusStrip::ShowTab(int tab) {
   firmware_->setCurrentIndex(kLabelOfTab.at(static_cast<std::size_t>(tab)));
 }
 
-QString StatusStrip::Note() const {
+// A hint, or what last went wrong. The port says more about itself than the model does, and a later message
+// about a file replaces an earlier one.
+QString StatusStrip::Problem() const {
   if (!hint_.isEmpty()) return hint_;
-  const auto problem = port_problem ? port_problem() : QString();
-  if (!problem.isEmpty()) return problem;
-  if (!file_message_.isEmpty() && note_before_file_ == app_.StatusNote) return file_message_;
-  return app_.StatusNote.empty() ? notice_ : host::FromSystem(app_.StatusNote);
+  const bool of_port = app_.noted_failure && app_.noted_failure->Subject() == core::PortName(app_);
+  if (of_port && port_problem && !port_problem().isEmpty()) return {};
+  if (!of_port && !file_message_.isEmpty() && failures_before_file_ == app_.failures_noted) return {};
+  return host::FromSystem(app_.StatusNote);
+}
+
+void StatusStrip::ShowMessages() {
+  const std::array texts = {Problem(), port_problem ? port_problem() : QString(), file_message_,
+                            rescue_notice_};
+  auto* across = static_cast<QBoxLayout*>(layout());
+  for (std::size_t source = 0; source < texts.size(); ++source) {
+    auto* message = messages_[source];
+    if (message->Text() == texts[source] && source != kProblem) continue;
+    message->SetText(texts[source]);
+    message->setVisible(source == kProblem || !texts[source].isEmpty());
+    across->setStretchFactor(message, 1 + static_cast<int>(texts[source].size()));
+  }
 }
 
 QString StatusStrip::PortText() const {

@@ -3,6 +3,7 @@
 
 #include <QTimer>
 #include <QWidget>
+#include <array>
 
 #include "ui/kit/bindings.h"
 #include "ui/pages/link_drawing.h"
@@ -52,10 +53,10 @@ class StatusStrip : public QWidget {
   // The last problem of the serial port, as the port reports it.
   std::function<QString()> port_problem;
 
-  // The status bar shows this text when it has no hint and no problem to show.
-  void SetNotice(const QString& notice) { notice_ = notice; }
+  // What became of changes of an earlier run and of the copy of unsaved changes; empty if all is well.
+  void SetRescueNotice(const QString& notice);
 
-  // Shows what became of a file, until something else goes wrong or another file is named.
+  // What became of a file, until another file is named.
   void ShowFileMessage(const QString& message);
 
   // Shows a hint for a few seconds, instead of the last problem.
@@ -71,7 +72,11 @@ class StatusStrip : public QWidget {
   void ShowTab(int tab);
 
  private:
-  QString Note() const;
+  // The messages side by side. Each has the room that its length asks for.
+  enum Source { kProblem, kPort, kFile, kRescue, kSources };
+
+  QString Problem() const;
+  void ShowMessages();
   QString PortText() const;
   QWidget* FirmwareLabels(Bindings& bindings);
   void BindContent(Bindings& bindings);
@@ -80,10 +85,10 @@ class StatusStrip : public QWidget {
   StateDot* dot_;
   QLabel* state_;
   QLabel* port_;
-  CutLabel* note_;
+  std::array<CutLabel*, kSources> messages_{};
   QStackedWidget* firmware_;
-  QString hint_, notice_, file_message_;
-  std::string note_before_file_;
+  QString hint_, rescue_notice_, file_message_;
+  unsigned failures_before_file_ = 0;
   QTimer hint_end_;
 };
 

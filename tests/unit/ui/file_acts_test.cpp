@@ -90,7 +90,7 @@ TEST_F(FileActsTest, ABackupIsOfferedByItsNameAndOpensAgain) {
   item.trigger();
   Show();
   EXPECT_EQ(offered, "V1400R12 GENERIC 2026-03-05.bin");
-  EXPECT_EQ(Note(), "Backup written: " + folder.File("mine.bin"));
+  EXPECT_EQ(Note("StatusFile"), "Backup written: " + folder.File("mine.bin"));
   EXPECT_EQ(Recent(), QStringList({"mine.bin", "ar this list"}));
 
   Pick("ComboTD(2)", App().frmMain.ComboTD[2].position == 0 ? 1 : 0);
@@ -113,11 +113,11 @@ TEST_F(FileActsTest, SaveStartsWithoutANameAddsTheSuffixAndSaysWhere) {
   EXPECT_EQ(start, "");
   EXPECT_TRUE(QFileInfo::exists(Path("shop12.bin")));
   EXPECT_FALSE(QFileInfo::exists(Path("*.Bin")));
-  EXPECT_EQ(Note(), "Saved: " + folder.File("shop12.bin"));
+  EXPECT_EQ(Note("StatusFile"), "Saved: " + folder.File("shop12.bin"));
   OnNext<QFileDialog>([](QFileDialog& dialog) { dialog.close(); });
   Find<QAction>("menuSave").trigger();
   Show();
-  EXPECT_EQ(Note(), folder.File("*.Bin: Operation canceled")) << "a later problem hides the earlier file";
+  EXPECT_EQ(Note(), folder.File("*.Bin: Operation canceled")) << "beside the file that was saved before";
 }
 
 TEST_F(FileActsTest, AFileIsOpenedByADropByTheListAndByItsName) {
@@ -154,7 +154,7 @@ TEST_F(FileActsTest, TheListKeepsTheLastEightFiles) {
 TEST_F(FileActsTest, AFileThatCannotBeReadIsNotOpened) {
   program->OpenFile(Path("missing.bin"));
   Show();
-  EXPECT_EQ(Note(), "Not opened: " + folder.File("missing.bin") + ": No such file or directory");
+  EXPECT_EQ(Note("StatusFile"), "Not opened: " + folder.File("missing.bin") + ": No such file or directory");
   EXPECT_FALSE(App().UploadApplying) << "the next pick of a register would do nothing";
   Select("ADS");
   EXPECT_EQ(App().frmMain.ComboReg.Text(), "ADS");

@@ -157,7 +157,10 @@ class Screen {
     Find(name).setFocus();
   }
 
-  std::string Note() { return Find<ui::CutLabel>("StatusNote").Text().toStdString(); }
+  // A message of the status bar: what went wrong, or that of the source named.
+  std::string Note(const std::string& source = "StatusNote") {
+    return Find<ui::CutLabel>(source).Text().toStdString();
+  }
   std::string QuietLine() {
     const auto* line = Main().Tabs().currentWidget()->findChild<QLabel*>("QuietLine");
     return line->isVisible() ? line->text().toStdString() : std::string();

@@ -115,10 +115,24 @@ TEST(UnsavedCopy, OfAnotherFirmwareIsKeptEvenIfItsProcessNumberIsUsedAgain) {
   WriteFile(file("unsaved V1300R26 1.bin"), left);
   WriteFile(file("rescued V1300R14 1.bin"), "older");
   screen.program->GuardUnsaved();
-  EXPECT_EQ(screen.Note().find("rescued V1300R14 2.bin: "), 0U);
+  EXPECT_EQ(screen.Note("StatusRescue").find("rescued V1300R14 2.bin: "), 0U);
   EXPECT_EQ(ReadFile(file("rescued V1300R14 1.bin")), "older");
   EXPECT_EQ(ReadFile(file("rescued V1300R14 2.bin")), left);
   EXPECT_EQ(ReadFile(file("unsaved V1300R26 1.bin")), left) << "it would not open under this firmware";
+}
+
+TEST(UnsavedCopy, IsNoLongerAnnouncedOnceItWasOpened) {
+  Screen screen;
+  WriteFile(screen.folder.File("unsaved V1400R12 1.bin"), PatternStream({"V1400", "R12"}) + "\r\n");
+  screen.program->GuardUnsaved();
+  EXPECT_NE(screen.Note("StatusRescue"), "");
+  std::optional<core::FileAnswer> answer;
+  screen.App().platform.ask_file = [&](const core::FileDialog&) { return answer; };
+  screen.Find<QAction>("OpenMenu").trigger();
+  EXPECT_NE(screen.Note("StatusRescue"), "") << "cancelled";
+  answer = core::FileAnswer{screen.folder.File("rescued V1400R12 1.bin")};
+  screen.Find<QAction>("OpenMenu").trigger();
+  EXPECT_EQ(screen.Note("StatusRescue"), "");
 }
 
 }  // namespace

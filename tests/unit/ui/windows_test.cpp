@@ -134,6 +134,14 @@ TEST_F(WindowsTest, ATransferShowsItsProgressAndItsEndStaysUntilItIsConfirmed) {
   Show();
   EXPECT_TRUE(ui::TransferProgressText(app).startsWith("1,530 characters, "));
   EXPECT_EQ(bar.value(), 30);
+  const core::Failure gone("/dev/ttyUSB0", std::make_error_code(std::errc::no_such_device));
+  app.frmMain.MSComm1.PortOpen = true;
+  app.platform.serial.lost = [&gone] { return &gone; };
+  Show();
+  EXPECT_EQ(ui::TransferProgressText(app), "stopped after 1,530 characters");
+  EXPECT_EQ(Find<QLabel>("StatusState").text(), "Device lost");
+  EXPECT_EQ(Find<QWidget>("LinkDrawing").accessibleName(), "Link to the unit: Device lost");
+  app.platform.serial.lost = nullptr;
   link::FinishUpload(app);
   Show();
   EXPECT_TRUE(end.isVisible() && end.windowFlags().testFlag(Qt::WindowStaysOnTopHint) && !bar.isVisible());
