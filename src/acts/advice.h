@@ -58,6 +58,9 @@ class Advisor {
   void Before(const core::Event& event);
   void After(const core::Event& event);
 
+  // The act of our own that is not an event.
+  void BackupWritten() { observed_.files.BackupWritten(); }
+
   // The lines that apply now, the most important one first, without those that are dismissed.
   std::vector<Advice> Lines() const;
 

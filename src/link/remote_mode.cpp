@@ -47,6 +47,7 @@ void FailKeepAlive(core::Application& app) {
   form.CmdUpDow[controls::kRemote].enabled = true;
   form.cmdDisConnect.visible = false;
   form.cmdConnect.visible = true;
+  form.cmdConnect.enabled = true;
   ClearDownload(app);
   MsgBox(app, core::Box::kTimeOut);
   StopHandcheck(app);

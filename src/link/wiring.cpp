@@ -46,6 +46,7 @@ void WireLinkForms(core::Application& app) {
   auto& scan = app.frmScanBProgress;
   scan.form.load = frmScanBProgress_Load;
   scan.form.unload = frmScanBProgress_Unload;
+  scan.form.escape = ScanCancel_Click;
   scan.Command1.handler = ScanCancel_Click;
 
   auto& end = app.frmOK_buttom;

@@ -13,6 +13,7 @@ void Backup(Session& session, Arguments& arguments) {
   arguments.End();
   const auto written = acts::SaveBackup(session.App(), path);
   if (!written.Ok()) Wrong(written.Problem().Text());
+  session.Advisor().BackupWritten();
 }
 
 constexpr auto kStatements = std::to_array<Statement>({

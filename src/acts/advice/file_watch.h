@@ -22,6 +22,9 @@ class FileWatch {
   void Before(const core::Application& app, const core::Event& event);
   void After(const core::Application& app, const LinkWatch& link);
 
+  // A file that opens again holds the configuration now, so that of Save is no longer the only one.
+  void BackupWritten() { saved_.clear(); }
+
   // An upload or an Open was complete in this run.
   bool Begun() const { return begun_; }
   // Why the last Open read no file; empty if it was cancelled.

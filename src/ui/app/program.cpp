@@ -91,7 +91,11 @@ core::Outcome Program::Start() {
       app_, windows_->Main(),
       FileActs::Hooks{[this](const core::Event& event) { return Act(event); },
                       [this] { return windows_->Front(); },
-                      [this](const QString& text) { windows_->Main().Status().ShowFileMessage(text); }});
+                      [this](const QString& text) { windows_->Main().Status().ShowFileMessage(text); },
+                      [this] {
+                        advisor_->BackupWritten();
+                        RefreshNow();
+                      }});
   CollectTimers();
   RefreshNow();
   AfterEvent(outcome);

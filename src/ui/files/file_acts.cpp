@@ -136,6 +136,7 @@ void FileActs::SaveBackup() {
                             host::FromSystem(written.Problem().Text()));
   const auto path = Decoded(answer->file_name);
   recent_.Add(path);
+  hooks_.backup_written();
   hooks_.show_text(QStringLiteral("Backup written: ") + QDir::toNativeSeparators(path));
 }
 

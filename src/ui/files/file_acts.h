@@ -20,6 +20,7 @@ class FileActs : public QObject {
     ActFunction act;
     std::function<QWidget*()> front;                // the window that boxes belong to
     std::function<void(const QString&)> show_text;  // in the status bar
+    std::function<void()> backup_written;
   };
 
   // Adds the items to the File menu of the window, which must outlive this object, and takes files that are

@@ -219,6 +219,7 @@ struct LinkModel {
       if (!Write(out)) ShowBox(kNoDevice);
     } else if (keep_alive_count == 30) {
       NotConnected();
+      connect = 1;
       KeepAliveOff();
       Forget();
       ShowBox("!!! Remote Connection Time out. !!!", "- Connection Time Out -");

@@ -236,6 +236,8 @@ TEST(AdviceOnFiles, NamesAFileThatDoesNotFitTheFirmware) {
       {"saved-file", "answer \"FILE\"\nclick menuSave\n",
        "file.bin is for keeping only: under V1400R12 \"Open\" reads it shifted. Use \"Save Backup...\"",
        "Save Backup...", open_image},
+      {"saved-file", "answer \"FILE\"\nclick menuSave\n", "file.bin is for keeping only", "Save Backup...",
+       "backup \"FILE\"\n"},
       {"saved-file", "answer \"FILE\"\nclick menuSave\n", "under V1334R1 \"Open\" refuses it",
        "Save Backup...", open_image, kV1334},
   };

@@ -81,6 +81,34 @@ TEST(Scan, KeepsParityAndDataBitsClearsTheLineAndComesToTheTop) {
   EXPECT_EQ(bar.value, bar.maximum);
 }
 
+TEST(Scan, EscapeCancelsItAndTheWindowButtonOnlyClosesTheWindow) {
+  const auto escape = [](core::Application& app) -> core::Event {
+    return core::KeyEvent{&app.frmScanBProgress.form, core::Key::kEscape};
+  };
+  const auto close = [](core::Application& app) -> core::Event {
+    return core::CloseEvent{&app.frmScanBProgress.form};
+  };
+  const std::tuple<core::Event (*)(core::Application&), bool> rows[] = {{escape, false}, {close, true}};
+  for (const auto& [event, port_stays_open] : rows) {
+    InState program(State::kClosed);
+    program.Scan();
+    auto& app = program.app;
+    EXPECT_EQ(core::Dispatch(app, event(app)), core::Outcome::kDone);
+    EXPECT_FALSE(app.ScanActive || app.frmScanBProgress.form.loaded || app.frmSettSR.BaudRateScan.enabled);
+    EXPECT_EQ(app.frmMain.MSComm1.PortOpen, port_stays_open);
+  }
+}
+
+TEST(KeepAlive, ATimeOutLeavesAButtonToConnectWith) {
+  InState program(State::kHeld);
+  auto& main = program.app.frmMain;
+  main.cmdConnect.enabled = false;
+  program.Tick(main.Time_handcheck, 30);
+  EXPECT_EQ(program.TakeBox().title, "- Connection Time Out -");
+  EXPECT_TRUE(main.cmdConnect.visible && main.cmdConnect.enabled);
+  ExpectState(program.app, State::kClosed);
+}
+
 // Other faults of the line are part of the random events of ovl-reference-model.
 TEST(LostDevice, IsReportedInTheBoxAndInTheStatusBarUntilAPortOpens) {
   const auto enq = [](InState& program) { program.Tick(program.app.frmMain.Time_handcheck, kEnqAt); };
