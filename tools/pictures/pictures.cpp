@@ -10,11 +10,10 @@
 #include <array>
 #include <filesystem>
 
-#include "firmware/traits.h"
 #include "host/text_codec.h"
-#include "image/field_map.h"
-#include "image/record_stream.h"
+#include "pictures/advice_pictures.h"
 #include "pictures/sample_settings.h"
+#include "pictures/simulated_port.h"
 #include "ui/acts/copy_slot_window.h"
 #include "ui/app/program.h"
 #include "ui/dialogs/changes_window.h"
@@ -25,59 +24,12 @@ namespace {
 
 constexpr core::ClockTime kPictureTime{2026, 11, 24, 14, 7, 9};
 constexpr std::size_t kPartOfUpload = 2870;
-constexpr char kAck = '\x06';
 constexpr int kRegisterTab = 0;
 constexpr int kCommunicationTab = 3;
 constexpr int kExceptionTab = 4;
 constexpr int kTimeTab = 5;
 constexpr int kRemoteTab = 6;
 constexpr int kClockTicks = 10;  // until the clock lists are set
-
-// A serial port whose unit sends what the pictures need.
-class SimulatedPort {
- public:
-  explicit SimulatedPort(ui::Program& program) : program_(program) {
-    auto& serial = program.Model().platform.serial;
-    serial.open = [](const core::LineSettings&) { return core::Result(); };
-    serial.close = [] {};
-    serial.write = [this](std::string_view) {
-      written_ = true;
-      return core::Result();
-    };
-    serial.read = [this] { return std::string(1, character_); };
-    serial.clear_input = [] {};
-    serial.clear_output = [] {};
-  }
-
-  void ReceiveFromUnit(std::string_view text) {
-    for (const char character : text) {
-      character_ = character;
-      program_.Act(core::ReceivedEvent{});
-    }
-  }
-
-  void SendCharacters(int count) {
-    for (written_ = true; written_ && count > 0; --count) {
-      written_ = false;
-      program_.Act(core::DrainedEvent{});
-    }
-  }
-
- private:
-  ui::Program& program_;
-  char character_ = '\0';
-  bool written_ = false;
-};
-
-// The image as a unit sends it. Under a firmware that no unit has, the program reads another memory region
-// than it writes, and the image can be empty.
-std::string StreamOfUnit(const core::Application& app) {
-  const auto& firmware = app.image_firmware;
-  const auto sections = image::WriteSections(app.image, firmware::LayoutOf(firmware), firmware,
-                                             firmware::CapabilitiesOf(firmware));
-  return image::BlockRecords(sections.SYSCFG + sections.SYSFIXED + sections.SYSSTR,
-                             image::ReadRegion(firmware));
-}
 
 class Photographer {
  public:
@@ -86,6 +38,11 @@ class Photographer {
 
   // The last picture that could not be written.
   const core::Result& Saved() const { return saved_; }
+
+  void TakeAdviceLines(QSize size) {
+    Main().resize(size);
+    TakeAdvice(program_, port_, [this](const QString& name) { Take(Main(), name); });
+  }
 
   void TakeAll(QSize size) {
     Main().resize(size);
@@ -110,7 +67,8 @@ class Photographer {
   void Take(QWidget& window, const QString& name) {
     program_.RefreshNow();
     QApplication::setActiveWindow(&window);
-    QCoreApplication::sendPostedEvents();
+    // The second round is for layouts that the first one has changed, such as a text that wraps.
+    for (int round = 0; round < 2; ++round) QCoreApplication::sendPostedEvents();
     QSaveFile file(folder_.filePath(name + QStringLiteral(".png")));
     if (!file.open(QIODevice::WriteOnly) || !window.grab().save(&file, "PNG") || !file.commit())
       saved_ = host::FailureOf(file.fileName(), file.errorString());
@@ -162,20 +120,6 @@ class Photographer {
     program_.Act(core::CloseEvent{&App().frmView.form});
   }
 
-  // Skips registers without a default image in the program folder, because picking one would end the program.
-  bool PickRegister(std::string_view name) {
-    auto& list = App().frmMain.ComboReg;
-    const auto found = std::find(list.items.begin(), list.items.end(), name);
-    const QDir images(QFile::decodeName(App().platform.program_folder.c_str()));
-    const auto image = QStringLiteral("%1/%2/%3.bin")
-                           .arg(QString::fromStdString(App().firmware.version),
-                                QString::fromStdString(App().firmware.release),
-                                QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
-    if (found == list.items.end() || !images.exists(image)) return false;
-    program_.Act(core::PickEvent{&list, static_cast<int>(found - list.items.begin())});
-    return true;
-  }
-
   // False for an option that this firmware does not offer.
   bool Choose(controls::OptionArray& array, int element) {
     program_.RefreshNow();
@@ -191,14 +135,14 @@ class Photographer {
     auto& tabs = Main().Tabs();
     tabs.setCurrentIndex(kRegisterTab);
     for (const std::string_view name : {"IBM", "NCR", "TCPIP", "UNIWELL", "GILBARCO"}) {
-      if (!PickRegister(name)) continue;
+      if (!PickRegister(program_, name)) continue;
       if (name == "IBM") Choose(form.IBMOP, 0);
       if (name == "NCR") Choose(form.NCROP, 1);
       if (name == "UNIWELL") Choose(form.UNIWOP, 1);
       if (name == "GILBARCO") Choose(form.OpGilbraco, 5);
       Take(Main(), QStringLiteral("register_") + QString::fromLatin1(name.data()).toLower());
     }
-    if (PickRegister("DRESSER WAYNE")) {
+    if (PickRegister(program_, "DRESSER WAYNE")) {
       Choose(form.POSOP, 0);
       Choose(form.TEROP, 2);
       Choose(form.OpDYWAYE, 2);
@@ -209,12 +153,12 @@ class Photographer {
     }
     TakeMicros();
     TakeSubMenus();
-    PickRegister("GENERIC");
+    PickRegister(program_, "GENERIC");
   }
 
   void TakeMicros() {
     constexpr std::array kPanels = {"", "micros_idn", "micros_isn", "micros_3700"};
-    if (!PickRegister("MICROS")) return;
+    if (!PickRegister(program_, "MICROS")) return;
     for (int mode = 0; mode < static_cast<int>(kPanels.size()); ++mode) {
       if (!Choose(App().frmMain.OpMicros, mode)) continue;
       const auto name = QString::fromLatin1(kPanels.at(static_cast<std::size_t>(mode)));
@@ -227,11 +171,11 @@ class Photographer {
   void TakeSubMenus() {
     constexpr int kWithPort = 18, kFourWays = 12, kTerminal = 22;
     auto& form = App().frmMain;
-    if (PickRegister("CASIO") && Choose(form.CASIOOP, kWithPort)) {
+    if (PickRegister(program_, "CASIO") && Choose(form.CASIOOP, kWithPort)) {
       Take(Main(), QStringLiteral("register_casio"));
       TakeForm(App().FrmSubMenu.form, QStringLiteral("sub_menu_casio"));
     }
-    if (PickRegister("SHARP") && Choose(form.SharpOP, kFourWays)) {
+    if (PickRegister(program_, "SHARP") && Choose(form.SharpOP, kFourWays)) {
       TakeForm(App().FrmSubMenu.form, QStringLiteral("sub_menu_sharp"));
       Choose(form.SharpOP, kTerminal);
       TakeForm(App().FrmSubMenu.form, QStringLiteral("sub_menu_terminal"));
@@ -262,7 +206,7 @@ class Photographer {
   }
 
   void Grant() {
-    port_.ReceiveFromUnit({&kAck, 1});
+    port_.ReceiveFromUnit(kAck);
     program_.Act(core::TickEvent{&App().frmMain.General_timer});
   }
 
@@ -283,7 +227,7 @@ class Photographer {
     Grant();
     Click(App().frmMain.CmdUpDow[controls::kDownload]);
     port_.SendCharacters(static_cast<int>(App().DownloadCommandText.size()));
-    port_.ReceiveFromUnit({&kAck, 1});
+    port_.ReceiveFromUnit(kAck);
     port_.SendCharacters(static_cast<int>(kPartOfUpload / 2));
     Take(Main(), QStringLiteral("remote_downloading"));
     Click(App().frmMain.cmdDisConnect);
@@ -341,10 +285,9 @@ class Photographer {
   core::Result saved_;
 };
 
-// Each theme gets a program of its own, so that the state of the link in the first one does not show in the
-// second.
-core::Result SaveTheme(const QString& program_folder, const QString& store, const QString& folder,
-                       QSize size) {
+// Each series gets a program of its own, so that the state of the link in one does not show in the next.
+core::Result SaveSeries(const QString& program_folder, const QString& store, const QString& folder,
+                        void (Photographer::*take)(QSize), QSize size) {
   ui::Program program(program_folder, store);
   auto& platform = program.Model().platform;
   platform.ask_file = [](const core::FileDialog&) { return std::optional<core::FileAnswer>(); };
@@ -355,7 +298,7 @@ core::Result SaveTheme(const QString& program_folder, const QString& store, cons
   if (program.Start() == core::Outcome::kEnded) return host::FailureOf(program_folder, why);
   platform.show_message = [](const core::MessageBox&) {};
   Photographer photographer(program, port, QDir(folder));
-  photographer.TakeAll(size);
+  (photographer.*take)(size);
   return photographer.Saved();
 }
 
@@ -370,8 +313,10 @@ core::Result SavePictures(const QString& program_folder, const QString& store, c
     std::filesystem::create_directories(QFile::encodeName(below).toStdString(), error);
     if (error) return core::Failure(QFile::encodeName(below).toStdString(), error);
     ui::ApplyTheme(theme);
-    auto saved = SaveTheme(program_folder, store, below, size);
-    if (!saved.Ok()) return saved;
+    for (const auto series : {&Photographer::TakeAll, &Photographer::TakeAdviceLines}) {
+      auto saved = SaveSeries(program_folder, store, below, series, size);
+      if (!saved.Ok()) return saved;
+    }
   }
   return {};
 }

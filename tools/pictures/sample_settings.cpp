@@ -104,6 +104,20 @@ void MakeSampleSettings(ui::Program& program) {
   installer.SetTitleAndDemo();
 }
 
+bool PickRegister(ui::Program& program, std::string_view name) {
+  auto& app = program.Model();
+  auto& list = app.frmMain.ComboReg;
+  const auto found = std::find(list.items.begin(), list.items.end(), name);
+  const QDir images(QFile::decodeName(app.platform.program_folder.c_str()));
+  const auto image =
+      QStringLiteral("%1/%2/%3.bin")
+          .arg(QString::fromStdString(app.firmware.version), QString::fromStdString(app.firmware.release),
+               QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+  if (found == list.items.end() || !images.exists(image)) return false;
+  program.Act(core::PickEvent{&list, static_cast<int>(found - list.items.begin())});
+  return true;
+}
+
 void ShowSampleHistory(ui::Program& program) {
   const QTemporaryDir folder;
   const auto path = folder.filePath(QStringLiteral("History.txt"));

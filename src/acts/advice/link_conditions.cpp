@@ -88,10 +88,10 @@ std::string CureOf(const Refusal& refusal) {
     const char* words;
   };
   constexpr std::array kCures = {
-      Cure{std::errc::permission_denied,
-           "Only root and the group of the device, mostly dialout, may use it. As root: usermod -aG dialout "
-           "NAME, "
-           "then log in again."},
+      Cure{
+          std::errc::permission_denied,
+          "Only root and the group of the device, mostly dialout, may use it. As root: adduser NAME dialout; "
+          "then log in again."},
       Cure{std::errc::no_such_file_or_directory,
            "Plug the adapter in, choose the comport of another device, or set the link ports/com%1 in the "
            "program folder."},

@@ -76,6 +76,11 @@ void StateDot::paintEvent(QPaintEvent*) {
       painter.drawLine(QPointF(circle.left(), circle.center().y()),
                        QPointF(circle.right(), circle.center().y()));
       break;
+    case LinkState::kLost:
+      painter.setPen(QPen(palette().color(QPalette::WindowText), 2, Qt::SolidLine, Qt::RoundCap));
+      painter.drawLine(circle.topLeft(), circle.bottomRight());
+      painter.drawLine(circle.topRight(), circle.bottomLeft());
+      break;
     case LinkState::kOpen:
     case LinkState::kAsked:
     case LinkState::kScanning:

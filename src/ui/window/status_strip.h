@@ -32,7 +32,7 @@ class CutLabel : public QWidget {
   QString text_;
 };
 
-// Shows the state of remote mode by its shape: a dot, a ring, or a dash.
+// Shows the state of remote mode by its shape: a dot, a ring, a dash, or a cross.
 class StateDot : public QWidget {
  public:
   explicit StateDot(QWidget* parent = nullptr);
