@@ -69,25 +69,24 @@ ChangesList::ChangesList(QWidget* parent) : QTreeWidget(parent) {
   header()->setSectionsMovable(false);
   header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   header()->setStretchLastSection(false);
-  for (const int column : {kBefore, kNow}) header()->setSectionResizeMode(column, QHeaderView::Stretch);
   header()->setMinimumSectionSize(fontMetrics().horizontalAdvance(QStringLiteral("Bytes before")) +
                                   kCellRoom);
   ShowBytes(false);
   connect(this, &QTreeWidget::itemDoubleClicked, this, &ChangesList::OpenRow);
 }
 
+// The values share the room of the window. Beside the bytes they take what they need, and the list scrolls.
 void ChangesList::ShowBytes(bool shown) {
+  const auto mode = shown ? QHeaderView::ResizeToContents : QHeaderView::Stretch;
+  for (const int column : {kBefore, kNow}) header()->setSectionResizeMode(column, mode);
   for (const int column : {kBytes, kBytesBefore, kBytesNow}) setColumnHidden(column, !shown);
   FitColumns();
 }
 
 // A hidden column has no width, so it is fitted again when it is shown.
 void ChangesList::FitColumns() {
-  const int most = fontMetrics().averageCharWidth() * 44;
   for (const int column : {kSetting, kBytes, kBytesBefore, kBytesNow}) {
-    if (isColumnHidden(column)) continue;
-    resizeColumnToContents(column);
-    setColumnWidth(column, std::min(columnWidth(column), most));
+    if (!isColumnHidden(column)) resizeColumnToContents(column);
   }
 }
 

@@ -19,7 +19,8 @@
 namespace ovl::ui {
 namespace {
 
-constexpr QSize kStartSize(900, 460);
+constexpr Em kStartWidth(75);
+constexpr Em kStartHeight(38);
 
 QString CountOf(std::size_t count, const QString& one) {
   return QStringLiteral("%1 %2%3").arg(count).arg(one, count == 1 ? QString() : QStringLiteral("s"));
@@ -44,7 +45,7 @@ void ScrollTo(QWidget& widget) {
 ChangesWindow::ChangesWindow(Bindings& bindings, QWidget* parent) : QDialog(parent), bindings_(bindings) {
   setObjectName(QStringLiteral("Changes"));
   setWindowTitle(QStringLiteral("Changes"));
-  resize(kStartSize.boundedTo(screen()->availableSize()));
+  resize(QSize(kStartWidth, kStartHeight).boundedTo(screen()->availableSize()));
 }
 
 void ChangesWindow::Build() {
@@ -140,8 +141,8 @@ QPushButton* BuildChangesButton(Bindings& bindings, ChangesWindow& window) {
     const bool other_known = known.Update(app.known_image), other_image = image.Update(app.image);
     if (!other_known && !other_image) return false;
     const auto count = image::Differences(app.known_image, app.image, app.image_firmware).size();
-    button->setText(CountOf(count, QStringLiteral("change")) +
-                    QStringLiteral(" since the last load or download"));
+    button->setText(CountOf(count, QStringLiteral("field")) +
+                    QStringLiteral(" changed since the last load or download"));
     button->setAccessibleName(button->text());
     const bool comes_or_goes = button->isHidden() != (count == 0);
     button->setVisible(count != 0);
