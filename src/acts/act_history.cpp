@@ -7,8 +7,6 @@
 namespace ovl::acts {
 namespace {
 
-constexpr const char* kUploadFile = "upload.bin";
-
 // Keeps the shared value if it is equal to the present one.
 template <class Value>
 bool Update(std::shared_ptr<const Value>& kept, const Value& now) {
@@ -19,7 +17,8 @@ bool Update(std::shared_ptr<const Value>& kept, const Value& now) {
 
 }  // namespace
 
-ActHistory::ActHistory(core::Application& app) : app_(app), controls_(SettingsControls(app)) {
+ActHistory::ActHistory(core::Application& app)
+    : app_(app), controls_(SettingsControls(app)), uploads_taken_(app.uploads_taken) {
   for (const auto& control : controls_) memories_.push_back(Remember(control));
   TakeSnapshot();
   now_.origin = app.frmMain.ComboReg.Text();
@@ -29,9 +28,10 @@ core::Outcome ActHistory::Act(const core::Event& event) {
   if (app_.handling || !core::IsOfInstaller(event)) return core::Dispatch(app_, event);
   Observe();
   auto name = NameOf(app_, event);
+  const auto files_taken = app_.files_taken;
   const auto outcome = core::Dispatch(app_, event);
   if (outcome != core::Outcome::kDone) return outcome;
-  const bool opened = app_.known_image != *now_.known_image && IsOpen(app_, event);
+  const bool opened = app_.files_taken != files_taken;
   auto origin = opened ? FileNameOf(app_.CurrentFilePath) : now_.origin;
   if (opened) name += " " + origin;
   Add(std::move(name), std::move(origin));
@@ -48,15 +48,16 @@ core::Outcome ActHistory::Run(std::string name, const std::function<void()>& act
 
 void ActHistory::Observe() {
   if (app_.handling || app_.ended) return;
-  const bool image_changed = app_.image != *now_.image;
-  const bool path_changed = app_.CurrentFilePath != now_.variables->CurrentFilePath;
-  if (image_changed || (path_changed && FileNameOf(app_.CurrentFilePath) == kUploadFile))
+  if (std::exchange(uploads_taken_, app_.uploads_taken) != app_.uploads_taken)
     return Add("Upload", "Uploaded " + TimeOfDay(app_));
+  // A wrong parity selects the first register, which loads its default image.
+  const auto code = image::FieldId::REGTYPE;
+  if (app_.image[code] != (*now_.image)[code]) return Add(kRegisterAct, now_.origin);
   if (app_.known_image != *now_.known_image) ForgetKnownImages();
   auto changed = TakeControls();
   const bool moved = TakeSnapshot();
   if (changed.empty() && !moved) return;
-  // What the line changes apart from an upload belongs to the act before it.
+  // What else the line changes belongs to the act before it.
   ForgetRedo();
   if (entries_.empty()) return;
   auto& last = entries_.back();

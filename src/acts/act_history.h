@@ -95,6 +95,7 @@ class ActHistory {
   Snapshot now_;
   std::deque<Entry> entries_;
   std::size_t recorded_ = 0;
+  unsigned uploads_taken_ = 0;
   std::size_t done_ = 0;  // the entries from here on can be redone
 };
 

@@ -16,7 +16,7 @@ const controls::Form* FormOf(const core::Application& app, const core::Event& ev
 }
 
 std::string WordsOf(const core::Application& app, const controls::ControlRef& control) {
-  if (&controls::StateOf(control) == &app.frmMain.ComboReg) return "Register";
+  if (&controls::StateOf(control) == &app.frmMain.ComboReg) return kRegisterAct;
   return changes::PlainCaption(control);
 }
 
@@ -29,10 +29,6 @@ std::string NameOf(const core::Application& app, const core::Event& event) {
   // The buttons of the other windows have captions such as "SET", which name nothing.
   if (!of_main && (!control || std::holds_alternative<controls::Button*>(*control))) return form->caption;
   return control ? WordsOf(app, *control) : std::string();
-}
-
-bool IsOpen(const core::Application& app, const core::Event& event) {
-  return core::Clicks(event, app.frmMain.OpenMenu);
 }
 
 std::string FileNameOf(const std::string& path) {

@@ -11,8 +11,8 @@ namespace ovl::acts {
 // dispatched.
 std::string NameOf(const core::Application& app, const core::Event& event);
 
-// Whether the event opens a file.
-bool IsOpen(const core::Application& app, const core::Event& event);
+// A pick in the register list, and what selects another register in its place.
+inline constexpr const char* kRegisterAct = "Register";
 
 // The last part of a path.
 std::string FileNameOf(const std::string& path);

@@ -17,6 +17,8 @@ constexpr std::array kTable = {
     AdviceCondition{AdviceId::kPortRefused, "port-refused", PortRefused},
     AdviceCondition{AdviceId::kScanCannotHear, "scan-cannot-hear", ScanCannotHear},
     AdviceCondition{AdviceId::kScanFoundNothing, "scan-found-nothing", ScanFoundNothing},
+    AdviceCondition{AdviceId::kUploadNotTaken, "upload-not-taken", UploadNotTaken},
+    AdviceCondition{AdviceId::kRegisterReset, "register-reset", RegisterReset},
     AdviceCondition{AdviceId::kFileMisread, "file-misread", FileMisread},
     AdviceCondition{AdviceId::kFileRefused, "file-refused", FileRefused},
     AdviceCondition{AdviceId::kPickSwallowed, "pick-swallowed", PickSwallowed},

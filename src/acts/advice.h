@@ -18,6 +18,7 @@ namespace ovl::acts {
 enum class AdviceAction {
   kNone,
   kRestart,       // keep the changes, start the program anew and open them
+  kUndo,          // take the last act back
   kSaveBackup,    // write a file that opens again
   kPickVersion,   // open the Version menu
   kGoToControl,   // show the control and give it the focus
@@ -31,6 +32,8 @@ struct Advice {
   AdviceAction action = AdviceAction::kNone;
   std::string caption = {};       // of the action; empty without one
   std::string_view control = {};  // its registry name, for the last two kinds of action
+  std::string_view list = {};     // if not empty: first the exception or alarm is picked in this list
+  int slot = 0;                   // its number
 };
 
 // What was observed.
@@ -58,8 +61,14 @@ class Advisor {
   void Before(const core::Event& event);
   void After(const core::Event& event);
 
-  // The act of our own that is not an event.
+  // Acts of our own are no events. After one that changed the model, and after a backup:
+  void AfterOwnAct() { ForgetDismissed(); }
   void BackupWritten() { observed_.files.BackupWritten(); }
+
+  // The image is not a mixture, and it was not read from a file of another form.
+  bool ImageIsSound() const {
+    return !observed_.link.UploadMixedIn(app_) && observed_.files.MisreadIn(app_).empty();
+  }
 
   // The lines that apply now, the most important one first, without those that are dismissed.
   std::vector<Advice> Lines() const;

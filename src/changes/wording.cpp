@@ -93,12 +93,11 @@ bool IsText(const controls::ControlRef& control) {
 }  // namespace
 
 std::string BytesInWords(std::string_view digits) {
-  constexpr std::size_t kByte = 2, kMostBytes = 8;
+  constexpr std::size_t kByte = 2;
   std::string words = digits.size() <= kByte ? "byte" : "bytes";
-  const auto shown = digits.substr(0, kMostBytes * kByte);
-  for (std::size_t digit = 0; digit < shown.size(); digit += kByte)
-    words += " " + std::string(shown.substr(digit, kByte));
-  return shown.size() < digits.size() ? words + " ..." : words;
+  for (std::size_t digit = 0; digit < digits.size(); digit += kByte)
+    words.append(" ").append(digits.substr(digit, kByte));
+  return words;
 }
 
 int TabOf(Place place) {

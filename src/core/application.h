@@ -142,9 +142,10 @@ struct Application {
   // For the screen alone
   std::optional<UnfitOption> unfit_option;  // of the register whose options were shown last
   PortAttempt last_port_attempt;
-  std::string saved_path;                // what the last Save has written; empty if it failed
-  std::string history_path;              // the same for a history of the unit
-  bool upload_taken = false;             // the last upload was read whole
+  std::string saved_path;    // what the last Save has written; empty if it failed
+  std::string history_path;  // the same for a history of the unit
+  unsigned uploads_taken = 0,
+           files_taken = 0;              // uploads and opened files that were read whole, since the start
   std::string StatusNote;                // what last went wrong: file or port, and the reason
   std::optional<Failure> noted_failure;  // the same; nothing if no step has failed
   unsigned failures_noted = 0;           // since the start

@@ -43,7 +43,7 @@ void ReadChosenFile(core::Application& app) {
 
 void TakeStream(core::Application& app) {
   PrepareCapabilities(app);
-  LoadStream(app, app.StreamText);
+  if (LoadStream(app, app.StreamText)) ++app.files_taken;
   for (const auto& routine : app.Setting_Code) routine.run(app);
   auto& shown = app.frmMain.ComboExcp[controls::Excp::kNumber];
   if (shown.position != 0) return;

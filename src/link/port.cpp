@@ -40,8 +40,11 @@ void OpenPort(core::Application& app) {
     return;
   }
   auto& form = app.frmMain;
-  app.StatusNote.clear();
-  app.noted_failure.reset();
+  // What is said about a file stays.
+  if (app.noted_failure && app.noted_failure->Subject() == core::PortName(app)) {
+    app.StatusNote.clear();
+    app.noted_failure.reset();
+  }
   form.CmdUpDow[controls::kRemote].enabled = true;
   form.lbConnectting.caption =
       "Connected at COM " + std::to_string(app.PortNumber) + ": " + SettingsText(app);

@@ -66,7 +66,6 @@ void StoreUpload(core::Application& app) {
 
 void FinishStream(core::Application& app) {
   app.FrameState = 0;
-  app.upload_taken = false;
   try {
     StoreUpload(app);
   } catch (const core::Failure& failure) {
@@ -109,14 +108,14 @@ void CollectUploadChar(core::Application& app) {
 }
 
 void FinishUpload(core::Application& app) {
-  app.upload_taken = false;
+  bool taken = false;
   try {
-    const bool taken = TakeUpload(app);
+    taken = TakeUpload(app);
     if (taken) {
       for (const auto& routine : app.Setting_Code) routine.run(app);
       AssignPosition(app, app.frmMain.ComboExcp[controls::Excp::kNumber], 0, core::Raise::kAlways);
     }
-    app.upload_taken = taken;
+    if (taken) ++app.uploads_taken;
   } catch (const core::Failure& failure) {
     AbandonUpload(app, failure);
     return;
@@ -124,7 +123,7 @@ void FinishUpload(core::Application& app) {
   app.PanelsReady = true;
   ShowBarFull(app);
   LoadForm(app, app.frmOK_buttom.form);
-  app.frmOK_buttom.Label1.caption = app.upload_taken ? "Upload Completed." : "Upload Incompleted.";
+  app.frmOK_buttom.Label1.caption = taken ? "Upload Completed." : "Upload Incompleted.";
   ShowForm(app, app.frmOK_buttom.form);
   HideTransfer(app, app.frmMain.Label64[1]);
   EndRemoteMode(app);

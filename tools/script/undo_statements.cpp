@@ -15,7 +15,10 @@ void Repeat(Session& session, Arguments& arguments, const char* word, Step step)
   if (times < 0) Wrong("N must not be negative");
   arguments.End();
   for (int done = 0; done < times; ++done) {
-    if ((session.History().*step)()) continue;
+    if ((session.History().*step)()) {
+      session.Advisor().AfterOwnAct();
+      continue;
+    }
     session.Output() << "refused " << word << '\n';
     return;
   }

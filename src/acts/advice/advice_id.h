@@ -14,6 +14,8 @@ enum class AdviceId {
   kPortRefused,
   kScanCannotHear,
   kScanFoundNothing,
+  kUploadNotTaken,
+  kRegisterReset,
   kFileMisread,
   kFileRefused,
   kPickSwallowed,

@@ -49,6 +49,27 @@ std::string FieldName(const core::UnfitOption& unfit) {
 
 }  // namespace
 
+Advice UploadNotTaken(const core::Application& app, const Observed& observed) {
+  const auto& problem = observed.files.UploadProblem();
+  const auto of_image = RegisterOfImage(app);
+  if (problem.empty() || app.frmMain.ComboReg.Text() == of_image) return {};
+  return GoToRegisterList(app, "The upload was not taken: " + problem + ". The list shows " +
+                                   app.frmMain.ComboReg.Text() + ", but the configuration is still that of " +
+                                   of_image + ". Upload again, or pick " + of_image + ".");
+}
+
+Advice RegisterReset(const core::Application& app, const Observed& observed) {
+  const auto& reset = observed.files.Reset();
+  if (!reset || app.image[FieldId::REGTYPE] != reset->code) return {};
+  return {AdviceId::kCount,
+          {},
+          "The answer had a wrong parity, so " + RegisterOfImage(app) +
+              " was selected, with its options and its line. Undo brings " + reset->register_before +
+              " back.",
+          AdviceAction::kUndo,
+          "Undo"};
+}
+
 Advice FileMisread(const core::Application& app, const Observed& observed) {
   const auto path = observed.files.MisreadIn(app);
   if (path.empty()) return {};
@@ -61,7 +82,7 @@ Advice FileMisread(const core::Application& app, const Observed& observed) {
 
 Advice FileRefused(const core::Application& app, const Observed& observed) {
   const auto& path = observed.files.Refused();
-  if (path.empty()) return {};
+  if (path.empty() || app.image != observed.files.ImageAtRefusal()) return {};
   auto words = FileNameOf(path) + " is no configuration that " + app.image_firmware.Joined() +
                " opens. Nothing has changed.";
   if (!firmware::SavedFileReopens(app.image_firmware))
@@ -79,7 +100,7 @@ Advice PickSwallowed(const core::Application& app, const Observed& observed) {
 }
 
 Advice NextPickSwallowed(const core::Application& app, const Observed& observed) {
-  if (!app.UploadApplying) return {};
+  if (!app.UploadApplying || app.handling) return {};
   const auto& problem = observed.files.OpenProblem();
   return GoToRegisterList(
       app, (problem.empty() ? "Open was cancelled." : "Open failed: " + problem + ".") +
@@ -127,18 +148,22 @@ Advice SavedFile(const core::Application& app, const Observed& observed) {
 Advice OtherTabsChanged(const core::Application& app, const Observed& observed) {
   const auto& change = observed.files.OtherTabs();
   if (!change || app.image[FieldId::REGTYPE] != change->code) return {};
+  if (app.image == change->before) return {};  // taken back
   return {AdviceId::kCount,
           {},
-          "The pick of " + RegisterOfImage(app) + " also stored " + change->words +
-              ". Look at these tabs before you download."};
+          (change->picked ? "The pick of " : "The options of ") + RegisterOfImage(app) + " also stored " +
+              change->words + ". Look at these tabs before you download."};
 }
 
 Advice FirstSteps(const core::Application& app, const Observed& observed) {
   if (observed.files.Begun()) return {};
   const auto tab = changes::PlaceName(app, Place::kRemote);
   const auto& upload = app.frmMain.CmdUpDow[controls::kUpload].caption;
+  const auto* next = !app.frmMain.MSComm1.PortOpen ? "cmdConnect"
+                     : app.RemoteHeld              ? "CmdUpDow(0)"
+                                                   : "CmdUpDow(4)";
   return {AdviceId::kCount,           {},  "Begin on " + tab + ": " + StepsOnRemote(app, upload) + ".",
-          AdviceAction::kGoToControl, tab, app.frmMain.MSComm1.PortOpen ? "CmdUpDow(4)" : "cmdConnect"};
+          AdviceAction::kGoToControl, tab, next};
 }
 
 }  // namespace ovl::acts

@@ -5,6 +5,8 @@
 
 namespace ovl::acts {
 
+Advice UploadNotTaken(const core::Application& app, const Observed& observed);
+Advice RegisterReset(const core::Application& app, const Observed& observed);
 Advice FileMisread(const core::Application& app, const Observed& observed);
 Advice FileRefused(const core::Application& app, const Observed& observed);
 Advice PickSwallowed(const core::Application& app, const Observed& observed);

@@ -11,10 +11,18 @@
 
 namespace ovl::acts {
 
-// A register pick that stored something on other tabs.
+// A register whose options stored something on other tabs.
 struct TabsChange {
-  std::string code;   // REGTYPE after the pick
-  std::string words;  // "COMMUNICATION: PARITY NONE; EXCEPTION REPORT: OUTPUT OFF"
+  std::string code;           // REGTYPE since then
+  image::ConfigImage before;  // as it was before the pick, or as it was read
+  std::string words;          // "COMMUNICATION: PARITY NONE; EXCEPTION REPORT: OUTPUT OFF"
+  bool picked = false;        // by the installer
+};
+
+// A register that the line selected in place of another one.
+struct RegisterChange {
+  std::string code;  // REGTYPE since then
+  std::string register_before;
 };
 
 class FileWatch {
@@ -29,12 +37,16 @@ class FileWatch {
   bool Begun() const { return begun_; }
   // Why the last Open read no file; empty if it was cancelled.
   const std::string& OpenProblem() const { return open_problem_; }
+  // Why the last upload was not taken; empty if it was.
+  const std::string& UploadProblem() const { return upload_problem_; }
+  const std::optional<RegisterChange>& Reset() const { return reset_; }
   // The register list moved, and nothing was loaded.
   bool PickSwallowed() const { return pick_swallowed_; }
   // The file that the configuration is from, if its form is not that of the firmware; else empty.
   std::string MisreadIn(const core::Application& app) const;
   // The file that the last Open refused because of its form.
   const std::string& Refused() const { return refused_; }
+  const image::ConfigImage& ImageAtRefusal() const { return refused_image_; }
   // The file that the last Save wrote; empty after an upload or an Open.
   const std::string& Saved() const { return saved_; }
   const std::optional<TabsChange>& OtherTabs() const { return other_tabs_; }
@@ -47,20 +59,26 @@ class FileWatch {
     bool opens = false;
     bool saves = false;
     bool upload_applying = false;
+    bool of_installer = false;
     int position = -1;
-    std::string code;
+    std::string code, register_name;
+    unsigned failures = 0;
     image::ConfigImage image;  // only of a register pick
   };
 
   void WatchOpen(const core::Application& app);
   void WatchSave(const core::Application& app);
   void WatchRegister(const core::Application& app);
-  void TakenIn();
+  void WatchOtherTabs(const core::Application& app, const image::ConfigImage& before, bool picked);
+  void WatchLine(const core::Application& app, const LinkWatch& link);
+  void TakenIn(const core::Application& app);
 
   Seen before_;
   bool begun_ = false;
   bool pick_swallowed_ = false;
-  std::string open_problem_, refused_, saved_;
+  std::string open_problem_, upload_problem_, refused_, saved_;
+  std::optional<RegisterChange> reset_;
+  image::ConfigImage refused_image_;
   std::string misread_;
   image::ConfigImage misread_image_;  // as it was read
   std::optional<TabsChange> other_tabs_;

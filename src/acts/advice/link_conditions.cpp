@@ -56,6 +56,12 @@ std::string_view LeftByLoss(LinkPhase during) {
       return " before the download began. The unit holds its old configuration.";
     case LinkPhase::kDownloadStream:
       return " during the download. The unit may hold half a configuration, so download again.";
+    case LinkPhase::kDownloadEnd:
+      return " after the download. The unit was sent the whole configuration, but has not confirmed it.";
+    case LinkPhase::kSetTime:
+      return " while the clock was set. The unit may have the new time.";
+    case LinkPhase::kMasterReset:
+      return " during the master reset. The unit may be at its factory settings.";
     default:
       return ". The unit is untouched.";
   }
@@ -132,7 +138,9 @@ Advice OnRemote(const core::Application& app, std::string words) {
   return {AdviceId::kCount, {}, std::move(words)};
 }
 
-Advice RestartAdvice(std::string words) {
+// While a window holds the main form, the program cannot be ended either.
+Advice RestartAdvice(const core::Application& app, std::string words) {
+  if (!app.frmMain.form.enabled) return {AdviceId::kCount, {}, std::move(words)};
   return {AdviceId::kCount, {}, std::move(words), AdviceAction::kRestart, "Restart"};
 }
 
@@ -145,9 +153,10 @@ std::string StepsOnRemote(const core::Application& app, const std::string& last)
   return steps + last;
 }
 
-Advice UploadBroke(const core::Application&, const Observed& observed) {
+Advice UploadBroke(const core::Application& app, const Observed& observed) {
   if (!observed.link.UploadBroke()) return {};
   return RestartAdvice(
+      app,
       "An upload broke off. What had arrived is still ahead of the next upload and would be read in its "
       "place. Restart the program before you upload again.");
 }
@@ -155,8 +164,9 @@ Advice UploadBroke(const core::Application&, const Observed& observed) {
 Advice UploadMixed(const core::Application& app, const Observed& observed) {
   if (!observed.link.UploadMixedIn(app)) return {};
   return RestartAdvice(
+      app,
       "The tabs show a mixture: the beginning is from an upload that broke off, the rest from the last "
-      "one. Do not download it. Restart the program and upload again.");
+      "one. Do not download it. Restart the program, which drops the mixture, and upload again.");
 }
 
 Advice DeviceLost(const core::Application& app, const Observed& observed) {
@@ -165,7 +175,8 @@ Advice DeviceLost(const core::Application& app, const Observed& observed) {
   auto words =
       Device(loss->comport, loss->device) + " was lost at " + At(loss->at) + " (" + loss->reason + ")";
   words += LeftByLoss(loss->during);
-  const bool restart = observed.link.UploadBroke() && loss->during == LinkPhase::kUpload;
+  const bool begun = observed.link.UploadBroke() || app.FrameState != 0;
+  const bool restart = begun && loss->during == LinkPhase::kUpload;
   words += std::string(" Plug the device in again") + (restart ? " and restart the program" : "") +
            ". Then press ";
   const auto last = ToRepeat(app, loss->during);

@@ -13,6 +13,9 @@ bool IsDownload(LinkPhase phase) {
 
 LinkPhase PhaseOf(const core::Application& app) {
   if (app.ScanActive) return LinkPhase::kScan;
+  if (app.MasterResetPending) return LinkPhase::kMasterReset;
+  if (app.SetTimePending) return LinkPhase::kSetTime;
+  if (app.FinalAckExpected) return LinkPhase::kDownloadEnd;
   if (!app.RemoteHeld) return LinkPhase::kIdle;
   if (app.LinkMode == core::kLinkUpload) return LinkPhase::kUpload;
   if (app.LinkMode != core::kLinkDownload) return LinkPhase::kIdle;
@@ -20,7 +23,7 @@ LinkPhase PhaseOf(const core::Application& app) {
 }
 
 void LinkWatch::Before(const core::Application& app) {
-  before_ = {PhaseOf(app), app.LinkMode, app.FrameState, app.last_port_attempt.number};
+  before_ = {PhaseOf(app), app.LinkMode, app.FrameState, app.last_port_attempt.number, app.uploads_taken};
 }
 
 void LinkWatch::After(const core::Application& app, const core::Event& event) {
@@ -72,7 +75,7 @@ void LinkWatch::WatchUpload(const core::Application& app) {
     return;
   }
   if (before_.frame_state == 0) return;
-  upload_completed_ = app.upload_taken;
+  upload_completed_ = app.uploads_taken != before_.uploads_taken;
   if (upload_completed_ && upload_broke_) {
     mixed_image_ = app.known_image;
     Add(renewed_, AdviceId::kUploadMixed);

@@ -16,7 +16,10 @@ enum class LinkPhase {
   kScan,
   kUpload,
   kDownloadCommand,  // the unit has not been sent anything of the configuration yet
-  kDownloadStream
+  kDownloadStream,
+  kDownloadEnd,  // everything was sent, and the unit has not confirmed it yet
+  kSetTime,
+  kMasterReset
 };
 
 LinkPhase PhaseOf(const core::Application& app);
@@ -78,6 +81,7 @@ class LinkWatch {
     std::int16_t link_mode = core::kLinkIdle;
     std::int16_t frame_state = 0;
     unsigned attempts = 0;
+    unsigned uploads_taken = 0;
   };
 
   void WatchAttempt(const core::Application& app);

@@ -42,8 +42,19 @@ std::string Numbered(const std::string& kind, const std::vector<int>& numbers) {
   return kind + (numbers.size() == 1 ? " " : "s ") + Listed(words);
 }
 
-Advice GoTo(std::string words, std::string caption, std::string_view control) {
-  return {AdviceId::kCount, {}, std::move(words), AdviceAction::kGoToControl, std::move(caption), control};
+// An action that shows the first of the exceptions or alarms that the line names.
+constexpr std::string_view kExceptionList = "ComboExcp(0)";
+constexpr std::string_view kAlarmList = "ComboALM(0)";
+Advice GoTo(std::string words, std::string caption, std::string_view control, std::string_view list,
+            int number) {
+  return {AdviceId::kCount,
+          {},
+          std::move(words),
+          AdviceAction::kGoToControl,
+          std::move(caption),
+          control,
+          list,
+          number};
 }
 
 bool IsBlank(const std::string& text) {
@@ -96,15 +107,17 @@ Advice RangeOrder(const core::Application& app, const Observed&) {
   const auto& button = app.frmMain.cmdSetRange.caption;
   return GoTo("In the range of " + Numbered("exception", numbers) +
                   " the first value is above the second. Check it with " + button + ".",
-              button, "cmdSetRange");
+              button, "cmdSetRange", kExceptionList, numbers.front());
 }
 
 Advice AlarmWithoutException(const core::Application& app, const Observed&) {
   const auto& triggers = app.frmMain.ComboALM[controls::Alm::kTrigger];
   std::vector<std::string> alarms;
+  int first = 0;
   for (int number = 1; number <= image::kAlarms; ++number) {
     const int trigger = image::AlarmTrigger(app.image.at(ALMSTRUCT_BAK, number));
     if (!WaitsForFreeExceptions(app, trigger)) continue;
+    if (first == 0) first = number;
     alarms.push_back(std::to_string(number) + " (" + triggers.items.at(static_cast<std::size_t>(trigger)) +
                      ")");
   }
@@ -112,7 +125,7 @@ Advice AlarmWithoutException(const core::Application& app, const Observed&) {
   return GoTo("Free exceptions trigger " + Numbered("alarm", alarms) +
                   ", so nothing sets off such an alarm. Give the exceptions a text, or pick another " +
                   triggers.caption + ".",
-              triggers.caption, "ComboALM(1)");
+              triggers.caption, "ComboALM(1)", kAlarmList, first);
 }
 
 Advice BlankText(const core::Application& app, const Observed&) {
@@ -131,8 +144,9 @@ Advice BlankText(const core::Application& app, const Observed&) {
   const auto& button = of_exception ? app.frmMain.cmdSetExcpstr : app.frmMain.cmdSetTrigger;
   return GoTo("The text is empty or only blanks: " + Listed(texts) +
                   ". Such a text never matches and shows nothing. Enter one with " + button.caption +
-                  ", or switch its actions off.",
-              button.caption, of_exception ? "cmdSetExcpstr" : "cmdSetTrigger");
+                  ", or switch its actions and its operator off.",
+              button.caption, of_exception ? "cmdSetExcpstr" : "cmdSetTrigger",
+              of_exception ? kExceptionList : kAlarmList, of_exception ? exceptions.front() : alarms.front());
 }
 
 }  // namespace ovl::acts

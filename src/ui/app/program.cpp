@@ -6,6 +6,7 @@
 #include <QProcess>
 #include <cstdlib>
 
+#include "acts/act_names.h"
 #include "acts/unsaved_changes.h"
 #include "changes/also_stored.h"
 #include "host/files.h"
@@ -146,21 +147,24 @@ core::Outcome Program::Act(const core::Event& event) {
 
 core::Outcome Program::RunOwn(const std::string& name, const std::function<void()>& act) {
   const auto outcome = history_->Run(name, act);
-  windows_->SetAlsoStored({});
-  AfterEvent(outcome);
+  AfterOwnAct(outcome);
   return outcome;
 }
 
 void Program::Undo() {
   history_->Undo();
-  windows_->SetAlsoStored({});
-  AfterEvent(core::Outcome::kDone);
+  AfterOwnAct(core::Outcome::kDone);
 }
 
 void Program::Redo() {
   history_->Redo();
+  AfterOwnAct(core::Outcome::kDone);
+}
+
+void Program::AfterOwnAct(core::Outcome outcome) {
+  advisor_->AfterOwnAct();
   windows_->SetAlsoStored({});
-  AfterEvent(core::Outcome::kDone);
+  AfterEvent(outcome);
 }
 
 // Before the start is complete there is neither history nor advice.
@@ -182,7 +186,10 @@ void Program::RunAdvice(const acts::Advice& advice) {
       return files_->SaveBackup();
     case acts::AdviceAction::kPickVersion:
       return main.OpenVersionMenu();
+    case acts::AdviceAction::kUndo:
+      return Undo();
     case acts::AdviceAction::kGoToControl:
+      PickSlot(advice);
       if (control != nullptr) main.GoTo(controls::StateOf(control->control));
       return;
     case acts::AdviceAction::kClickControl:
@@ -193,13 +200,27 @@ void Program::RunAdvice(const acts::Advice& advice) {
   }
 }
 
+void Program::PickSlot(const acts::Advice& advice) {
+  const auto* named = advice.list.empty() ? nullptr : app_.registry.Find(advice.list);
+  auto* const* list = named == nullptr ? nullptr : std::get_if<controls::List*>(&named->control);
+  if (list != nullptr && (*list)->position != advice.slot - 1) Act(core::PickEvent{*list, advice.slot - 1});
+}
+
+// The new program opens the changes, or the file that was open. A mixture or a misread file is dropped.
+QString Program::FileForRestart() {
+  if (!advisor_->ImageIsSound()) return {};
+  const auto kept = unsaved_->Keep();
+  const bool opened = acts::FileNameOf(app_.CurrentFilePath) == history_->Origin();
+  return kept.isEmpty() && opened ? QFile::decodeName(app_.CurrentFilePath.c_str()) : kept;
+}
+
 void Program::Restart() {
-  if (!unsaved_ || app_.handling) return;
+  if (!unsaved_ || app_.handling || !app_.frmMain.form.enabled) return;
   auto& status = windows_->Main().Status();
   try {
     QStringList arguments{QStringLiteral("--folder"), folder_};
     if (!store_folder_.isEmpty()) arguments << QStringLiteral("--store") << store_folder_;
-    if (const auto kept = unsaved_->Keep(); !kept.isEmpty()) arguments << kept;
+    if (const auto file = FileForRestart(); !file.isEmpty()) arguments << file;
     if (start_again(arguments)) {
       Act(core::ClickEvent{&app_.frmMain.menuExit});
       return;

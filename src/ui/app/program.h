@@ -84,6 +84,9 @@ class Program {
   void Tick(controls::Timer& timer);
   void End();
   void ShowRescueNotice();
+  void AfterOwnAct(core::Outcome outcome);
+  void PickSlot(const acts::Advice& advice);
+  QString FileForRestart();
   QString BoxDetail(const core::MessageBox& box) const;
 
   QString folder_, store_folder_;

@@ -15,6 +15,7 @@
 
 #include "host/text_codec.h"
 #include "registers/options/option_rows.h"
+#include "registers/selection_driver.h"
 #include "ui/kit/box_layouts.h"
 #include "ui/kit/layout.h"
 #include "ui/kit/theme.h"
@@ -204,7 +205,12 @@ QWidget* RegisterOptionsPage(Bindings& bindings) {
   };
   column.OwnSection([&form] { return host::FromWindows1252(form.ComboReg.Text()); },
                     [&form, without_options] { return form.ComboReg.position >= 0 && without_options(); });
-  column.Note(QStringLiteral("This register has no options of its own."));
+  const auto hidden = [&app = bindings.Model()] { return registers::OptionsAreHidden(app); };
+  column.Note(QStringLiteral("This register has no options of its own."), [hidden] { return !hidden(); });
+  column.Note(
+      QStringLiteral("The options of this register are hidden: one of the stored options is not in its "
+                     "list. Pick the register again to load its default options."),
+      hidden);
   return page.Finish(QStringLiteral("No register is selected."));
 }
 

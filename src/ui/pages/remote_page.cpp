@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/actions.h"
 #include "host/text_codec.h"
 #include "ui/kit/box_layouts.h"
 #include "ui/kit/icons.h"
@@ -127,8 +128,8 @@ QWidget* Progress(Bindings& bindings) {
   auto* holder = new QWidget;
   auto* down = LayOutDown(*holder, kRowGap);
   auto* across = new QHBoxLayout;
-  across->addWidget(MakeByName(bindings, "Label64(0)"));
-  across->addWidget(MakeByName(bindings, "Label64(1)"));
+  const std::array directions = {MakeByName(bindings, "Label64(0)"), MakeByName(bindings, "Label64(1)")};
+  for (auto* direction : directions) across->addWidget(direction);
   across->addStretch(1);
   auto* passed = MutedLabel({});
   passed->setObjectName(QStringLiteral("TransferProgress"));
@@ -137,11 +138,15 @@ QWidget* Progress(Bindings& bindings) {
   auto* bar = bindings.Make(bindings.Named(bindings.Model().frmMain.form, "vbalProgressBar1"),
                             QStringLiteral("Progress of the transfer"));
   down->addWidget(bar);
-  bindings.OnRefresh([passed, &app = bindings.Model(), shown = ChangeDetector<QString>()]() mutable {
-    const auto text = TransferProgressText(app);
-    if (shown.Update(text)) passed->setText(text);
-    return false;
-  });
+  bindings.OnRefresh(
+      [passed, directions, &app = bindings.Model(), shown = ChangeDetector<QString>()]() mutable {
+        const auto text = TransferProgressText(app);
+        if (shown.Update(text)) passed->setText(text);
+        const bool stopped = core::LostDevice(app) != nullptr || !app.frmMain.MSComm1.PortOpen;
+        for (std::size_t at = 0; at < directions.size(); ++at)
+          directions[at]->setVisible(app.frmMain.Label64[at].visible && !stopped);
+        return false;
+      });
   return holder;
 }
 
@@ -156,7 +161,8 @@ QWidget* SetTime(Bindings& bindings) {
 }
 
 // The focus when an action ends or disables its button. It goes to the bar while a transfer runs, and not to
-// "Disconnect", where one more Enter would break the transfer off; otherwise to "Remote", the next step.
+// "Disconnect", where one more Enter would break the transfer off; otherwise to "Remote", the next step. A
+// transfer that begins takes it from "Disconnect" too.
 class ActionFocus {
  public:
   explicit ActionFocus(Bindings& bindings) : bindings_(bindings) {
@@ -176,8 +182,11 @@ class ActionFocus {
     // A widget that goes away passes the focus on in this order. Only one of the first two shows.
     QWidget::setTabOrder(bindings_.WidgetOf(form.cmdDisConnect), bindings_.WidgetOf(form.cmdConnect));
     QWidget::setTabOrder(bindings_.WidgetOf(form.cmdConnect), bar);
-    bindings_.OnRefresh([held = held_, bar, remote] {
+    auto* disconnect = bindings_.WidgetOf(form.cmdDisConnect);
+    bindings_.OnRefresh([held = held_, bar, remote, disconnect, runs = ChangeDetector<bool>()]() mutable {
       const auto usable = [](const QWidget* widget) { return widget->isVisible() && widget->isEnabled(); };
+      const bool began = runs.Update(usable(bar)) && usable(bar);
+      if (began && disconnect->hasFocus()) bar->setFocus(Qt::OtherFocusReason);
       if (*held == nullptr || usable(*held)) return false;
       auto* next = usable(bar) ? bar : remote;
       if (usable(next)) next->setFocus(Qt::OtherFocusReason);

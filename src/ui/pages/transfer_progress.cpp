@@ -58,10 +58,10 @@ QString TimeText(std::size_t milliseconds) {
 QString TransferProgressText(const core::Application& app) {
   if (!app.frmMain.vbalProgressBar1.visible) return {};
   const auto progress = app.LinkMode == core::kLinkDownload ? DownloadProgress(app) : UploadProgress(app);
-  const bool lost = core::LostDevice(app) != nullptr;
-  if (progress.done == 0) return lost ? QString() : QStringLiteral("waiting for the unit");
+  const bool stopped = core::LostDevice(app) != nullptr || !app.frmMain.MSComm1.PortOpen;
+  if (progress.done == 0) return stopped ? QString() : QStringLiteral("waiting for the unit");
   const auto done = QLocale(QLocale::English).toString(static_cast<qulonglong>(progress.done));
-  if (lost) return QStringLiteral("stopped after %1 characters").arg(done);
+  if (stopped) return QStringLiteral("stopped after %1 characters").arg(done);
   return QStringLiteral("%1 characters, %2").arg(done, TimeText(LineTime(app, progress.left)));
 }
 

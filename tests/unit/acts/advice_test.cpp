@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <sstream>
 
 #include "firmware/firmware_table.h"
 #include "firmware/traits.h"
@@ -61,6 +62,23 @@ TEST(AdviceOnTheLink, NamesABrokenUploadUntilTheProgramStartsAnew) {
        "Do not download it.", "Restart", kTransferEnd + "answer \"IMAGE\"\nclick OpenMenu\n"},
   };
   for (const auto& row : rows) Expect(row);
+}
+
+// What a failure of the line leaves in the register list.
+TEST(AdviceOnTheLink, SaysWhatAFailureDidToTheRegister) {
+  const std::string ads = "pick ComboReg \"ADS\"\n";
+  Expect({"register-reset", ads + "click cmdConnect\nclick cmdSET\nclick CmdUpDow(4)\nunit \"?\"\n",
+          "so GENERIC was selected, with its options and its line. Undo brings ADS back.", "Undo", "undo\n"});
+  AdviceProgram program(kLatest);
+  program.App().platform.files.replace = [](const std::string& path, std::string_view) {
+    throw core::Failure(path, std::make_error_code(std::errc::no_space_on_device));
+  };
+  program.Run(ads + kOpenPort + kHold + kUpload + "unit \"STREAM\"\n");
+  const auto words = program.Line("upload-not-taken").words;
+  EXPECT_NE(words.find("The list shows "), std::string::npos) << words;
+  EXPECT_NE(words.find("the configuration is still that of ADS"), std::string::npos) << words;
+  EXPECT_EQ(program.Line("pick-swallowed").words, "");
+  program.Run(ads + "expect no advice \"not taken\"\n");
 }
 
 TEST(AdviceOnTheLink, NamesTheLostDeviceAndWhatTheUnitHolds) {
@@ -378,11 +396,21 @@ TEST(Advice, ChangesNothing) {
               watched.App().StatusNote == note);
 }
 
-TEST(Advice, TheHelpExplainsEveryCondition) {
+// The rows of the page have three cells, in the order of the table: name, what happened, what to do.
+TEST(Advice, TheHelpExplainsEveryConditionInOrder) {
   std::ifstream file(OVL_SOURCE_FOLDER "/help/advice.md");
-  const std::string page((std::istreambuf_iterator<char>(file)), {});
-  for (const auto& row : acts::AdviceTable())
-    EXPECT_NE(page.find("| `" + std::string(row.name) + "` |"), std::string::npos) << row.name;
+  std::vector<std::string> names, wanted;
+  for (std::string line; std::getline(file, line);) {
+    if (!line.starts_with("| `")) continue;
+    std::istringstream cells(line.substr(1));
+    std::string name, happened, to_do;
+    ASSERT_TRUE(std::getline(cells, name, '|') && std::getline(cells, happened, '|') &&
+                std::getline(cells, to_do, '|'));
+    EXPECT_TRUE(happened.size() > 20 && to_do.size() > 20) << line;
+    names.push_back(name.substr(2, name.size() - 4));
+  }
+  for (const auto& row : acts::AdviceTable()) wanted.emplace_back(row.name);
+  EXPECT_EQ(names, wanted);
 }
 
 }  // namespace

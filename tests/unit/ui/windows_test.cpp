@@ -123,6 +123,7 @@ TEST_F(WindowsTest, ATransferShowsItsProgressAndItsEndStaysUntilItIsConfirmed) {
   app.frmMain.EnableActions(true);
   Show();
   FocusOn("CmdUpDow(0)", kRemoteTab);
+  app.frmMain.MSComm1.PortOpen = true;
   link::BeginUpload(app);
   Show();
   EXPECT_TRUE(bar.isVisible());
@@ -135,10 +136,10 @@ TEST_F(WindowsTest, ATransferShowsItsProgressAndItsEndStaysUntilItIsConfirmed) {
   EXPECT_TRUE(ui::TransferProgressText(app).startsWith("1,530 characters, "));
   EXPECT_EQ(bar.value(), 30);
   const core::Failure gone("/dev/ttyUSB0", std::make_error_code(std::errc::no_such_device));
-  app.frmMain.MSComm1.PortOpen = true;
   app.platform.serial.lost = [&gone] { return &gone; };
   Show();
   EXPECT_EQ(ui::TransferProgressText(app), "stopped after 1,530 characters");
+  EXPECT_FALSE(Find<QLabel>("Label64(1)").isVisible()) << "nothing is uploading any more";
   EXPECT_EQ(Find<QLabel>("StatusState").text(), "Device lost");
   EXPECT_EQ(Find<QWidget>("LinkDrawing").accessibleName(), "Link to the unit: Device lost");
   app.platform.serial.lost = nullptr;
