@@ -92,7 +92,7 @@ class Keyboard : public ::testing::TestWithParam<int> {
   const QFont usual_ = QApplication::font();
 };
 
-INSTANTIATE_TEST_SUITE_P(Points, Keyboard, ::testing::Values(9), ::testing::PrintToStringParamName());
+INSTANTIATE_TEST_SUITE_P(Points, Keyboard, ::testing::Values(9, 12, 16), ::testing::PrintToStringParamName());
 
 TEST_P(Keyboard, EveryControlOfATabIsReachedOnceAndNoTextIsCut) {
   for (const auto& firmware : {firmware::FirmwareId{"V1400", "R12"},
