@@ -19,7 +19,7 @@
 namespace ovl::ui {
 namespace {
 
-constexpr QSize kStartSize(900, 460);
+constexpr Em kStartWidth(75), kStartHeight(38.33);
 
 QString CountOf(std::size_t count, const QString& one) {
   return QStringLiteral("%1 %2%3").arg(count).arg(one, count == 1 ? QString() : QStringLiteral("s"));
@@ -44,7 +44,7 @@ void ScrollTo(QWidget& widget) {
 ChangesWindow::ChangesWindow(Bindings& bindings, QWidget* parent) : QDialog(parent), bindings_(bindings) {
   setObjectName(QStringLiteral("Changes"));
   setWindowTitle(QStringLiteral("Changes"));
-  resize(kStartSize.boundedTo(screen()->availableSize()));
+  resize(QSize(kStartWidth, kStartHeight).boundedTo(screen()->availableSize()));
 }
 
 void ChangesWindow::Build() {

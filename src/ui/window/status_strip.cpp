@@ -17,10 +17,10 @@ namespace ovl::ui {
 namespace {
 
 constexpr int kHintTime = 6000;
-constexpr int kDotSize = 12;
-constexpr int kGap = 18;
-constexpr int kAboveLine = 6;
-constexpr int kStripMargin = 2;
+constexpr Em kDotSize(1);
+constexpr Em kGap(1.5);
+constexpr Em kAboveLine(0.5);
+constexpr Em kStripMargin(0.17);
 
 }  // namespace
 
