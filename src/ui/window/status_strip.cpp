@@ -32,6 +32,7 @@ void CutLabel::SetText(const QString& text) {
   if (text == text_) return;
   text_ = text;
   setAccessibleName(text);
+  updateGeometry();
   UpdateTip();
   update();
 }
@@ -92,7 +93,7 @@ StatusStrip::StatusStrip(Bindings& bindings)
     : app_(bindings.Model()),
       dot_(new StateDot),
       state_(new QLabel),
-      port_(new QLabel),
+      port_(new CutLabel),
       note_(new CutLabel),
       firmware_(new QStackedWidget) {
   auto* across = new QHBoxLayout(this);
@@ -102,6 +103,8 @@ StatusStrip::StatusStrip(Bindings& bindings)
   state_->setObjectName(QStringLiteral("StatusState"));
   port_->setObjectName(QStringLiteral("StatusPort"));
   note_->setObjectName(QStringLiteral("StatusNote"));
+  // Where the room is short, the port gives way to the button of the changes.
+  port_->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
   across->addWidget(dot_);
   across->addWidget(state_);
   across->addSpacing(kGap - kRowGap);
@@ -127,7 +130,7 @@ void StatusStrip::BindContent(Bindings& bindings) {
         }
         const auto& comm = app_.frmMain.MSComm1;
         const auto opened = comm.PortOpen ? comm.Settings : std::string();
-        if (port.Update(std::to_string(app_.PortNumber) + ' ' + opened)) port_->setText(PortText());
+        if (port.Update(std::to_string(app_.PortNumber) + ' ' + opened)) port_->SetText(PortText());
         note_->SetText(Note());
         return false;
       });

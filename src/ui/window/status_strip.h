@@ -79,7 +79,7 @@ class StatusStrip : public QWidget {
   const core::Application& app_;
   StateDot* dot_;
   QLabel* state_;
-  QLabel* port_;
+  CutLabel* port_;
   CutLabel* note_;
   QStackedWidget* firmware_;
   QString hint_, notice_, file_message_;
