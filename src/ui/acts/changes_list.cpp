@@ -8,13 +8,14 @@
 #include <algorithm>
 
 #include "host/text_codec.h"
+#include "ui/kit/theme.h"
 
 namespace ovl::ui {
 namespace {
 
 enum Column { kSetting, kBefore, kNow, kBytes, kBytesBefore, kBytesNow, kColumns };
 constexpr int kRowRole = Qt::UserRole;
-constexpr int kCellRoom = 16;
+constexpr Em kCellRoom(1.33);
 
 // Control characters of a stored text become visible signs.
 QString Printable(const std::string& words) {

@@ -19,8 +19,7 @@
 namespace ovl::ui {
 namespace {
 
-constexpr Em kStartWidth(75);
-constexpr Em kStartHeight(38);
+constexpr Em kStartWidth(75), kStartHeight(38.33);
 
 QString CountOf(std::size_t count, const QString& one) {
   return QStringLiteral("%1 %2%3").arg(count).arg(one, count == 1 ? QString() : QStringLiteral("s"));

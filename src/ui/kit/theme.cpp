@@ -28,6 +28,7 @@ constexpr Scheme kDarkScheme{0xFF22252A, 0xFF1A1C20, 0xFF1F2226, 0xFF33373D, 0xF
 constexpr QRgb kLightDanger = 0xFFB3201F, kDarkDanger = 0xFFFF8B85;
 constexpr const char* kDangerous = "dangerous";
 
+constexpr Em kLayoutSpacing(0.5);
 constexpr Em kTabPadding(1.33);
 constexpr Em kTabLine(0.25);
 constexpr Em kHeaderPadding(0.5);
@@ -80,6 +81,7 @@ class OvlStyle : public QProxyStyle {
   }
 
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+    if (metric == PM_LayoutHorizontalSpacing || metric == PM_LayoutVerticalSpacing) return kLayoutSpacing;
     if (metric == PM_TabBarTabHSpace) return kTabPadding;
     if (metric == PM_TabBarTabShiftVertical || metric == PM_TabBarTabShiftHorizontal) return 0;
     if (metric == PM_HeaderMargin) return kHeaderPadding;

@@ -16,6 +16,7 @@
 namespace ovl::ui {
 namespace {
 
+constexpr Em kLeastTextWidth(8);  // a narrower column would cut most of its texts
 constexpr Em kLineHeight(1.58);
 constexpr Em kCellPadding(0.5);
 constexpr Em kMarkWidth(0.25);
@@ -82,6 +83,12 @@ QString UseText(const std::vector<OverviewLine>& lines) {
 }
 
 // Fills the table and marks the entry that is picked in the list.
+// Only the three blanks between two entries of a legend may break the line.
+QString KeptTogether(QString legend) {
+  return legend.replace(QLatin1Char(' '), QChar(QChar::Nbsp))
+      .replace(QString(3, QChar(QChar::Nbsp)), QStringLiteral("   "));
+}
+
 void BindTable(Bindings& bindings, controls::List& list, OverviewList& table, QLabel& use,
                std::function<std::vector<OverviewLine>()> lines) {
   auto marked = std::make_shared<ChangeDetector<int>>();
@@ -118,14 +125,16 @@ OverviewList::OverviewList(const std::vector<OverviewColumn>& columns, QWidget* 
   header()->setSectionsMovable(false);
   header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   QStringList heads;
-  int column = 0;
+  int column = 0, least = 0;
   for (const auto& about : columns) {
     heads.append(about.head);
     const bool stretches = about.widest.isEmpty();
     header()->setSectionResizeMode(column, stretches ? QHeaderView::Stretch : QHeaderView::Fixed);
     if (!stretches) SetColumnWidth(column, about.widest);
+    least += stretches ? int(kLeastTextWidth) : header()->sectionSize(column);
     ++column;
   }
+  setMinimumWidth(least);
   setHeaderLabels(heads);
   connect(this, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) {
     if (picked) picked(indexOfTopLevelItem(item));
@@ -212,7 +221,7 @@ QWidget* BuildOverview(Bindings& bindings, controls::List& list, Overview overvi
   bindings.OnRefresh(
       [legend, text = std::move(overview.legend), shown = ChangeDetector<QString>()]() mutable {
         const auto now = text();
-        if (shown.Update(now)) legend->setText(now);
+        if (shown.Update(now)) legend->setText(KeptTogether(now));
         return false;
       });
   return side;

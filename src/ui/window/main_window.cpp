@@ -101,9 +101,10 @@ void MainWindow::BuildTabs() {
   setCentralWidget(content);
   BuildPage(model.current);
   connect(tabs_, &QTabWidget::currentChanged, this, [this](int current) {
-    if (BuildPage(current) && page_built) page_built();
+    const bool built = BuildPage(current);
     status_->ShowTab(current);
     RenewMnemonics();
+    if (tab_shown) tab_shown(built);
   });
   BindTabs();
 }

@@ -18,10 +18,10 @@ namespace ovl::ui {
 namespace {
 
 constexpr int kHintTime = 6000;
-constexpr int kDotSize = 12;
-constexpr int kGap = 18;
-constexpr int kAboveLine = 6;
-constexpr int kStripMargin = 2;
+constexpr Em kDotSize(1);
+constexpr Em kGap(1.5);
+constexpr Em kAboveLine(0.5);
+constexpr Em kStripMargin(0.17);
 
 }  // namespace
 
@@ -33,6 +33,7 @@ void CutLabel::SetText(const QString& text) {
   if (text == text_) return;
   text_ = text;
   setAccessibleName(text);
+  updateGeometry();
   UpdateTip();
   update();
 }
@@ -98,7 +99,7 @@ StatusStrip::StatusStrip(Bindings& bindings)
     : app_(bindings.Model()),
       dot_(new StateDot),
       state_(new QLabel),
-      port_(new QLabel),
+      port_(new CutLabel),
       firmware_(new QStackedWidget) {
   auto* across = new QHBoxLayout(this);
   across->setContentsMargins(kMargin - kFieldGap, kStripMargin, kFieldGap, kStripMargin);
@@ -106,6 +107,8 @@ StatusStrip::StatusStrip(Bindings& bindings)
   across->setSpacing(kRowGap);
   state_->setObjectName(QStringLiteral("StatusState"));
   port_->setObjectName(QStringLiteral("StatusPort"));
+  // Where the room is short, the port gives way to the button of the changes.
+  port_->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
   across->addWidget(dot_);
   across->addWidget(state_);
   across->addSpacing(kGap - kRowGap);
@@ -137,7 +140,7 @@ void StatusStrip::BindContent(Bindings& bindings) {
         }
         const auto& comm = app_.frmMain.MSComm1;
         const auto opened = comm.PortOpen ? comm.Settings : std::string();
-        if (port.Update(std::to_string(app_.PortNumber) + ' ' + opened)) port_->setText(PortText());
+        if (port.Update(std::to_string(app_.PortNumber) + ' ' + opened)) port_->SetText(PortText());
         ShowMessages();
         return false;
       });

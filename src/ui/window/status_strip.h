@@ -84,7 +84,7 @@ class StatusStrip : public QWidget {
   const core::Application& app_;
   StateDot* dot_;
   QLabel* state_;
-  QLabel* port_;
+  CutLabel* port_;
   std::array<CutLabel*, kSources> messages_{};
   QStackedWidget* firmware_;
   QString hint_, rescue_notice_, file_message_;

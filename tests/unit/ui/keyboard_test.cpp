@@ -12,6 +12,7 @@
 #include <tuple>
 
 #include "screen.h"
+#include "ui/dialogs/changes_window.h"
 
 namespace ovl::testing {
 namespace {
@@ -92,7 +93,7 @@ class Keyboard : public ::testing::TestWithParam<int> {
   const QFont usual_ = QApplication::font();
 };
 
-INSTANTIATE_TEST_SUITE_P(Points, Keyboard, ::testing::Values(9), ::testing::PrintToStringParamName());
+INSTANTIATE_TEST_SUITE_P(Points, Keyboard, ::testing::Values(9, 12, 16), ::testing::PrintToStringParamName());
 
 TEST_P(Keyboard, EveryControlOfATabIsReachedOnceAndNoTextIsCut) {
   for (const auto& firmware : {firmware::FirmwareId{"V1400", "R12"},
@@ -105,6 +106,8 @@ TEST_P(Keyboard, EveryControlOfATabIsReachedOnceAndNoTextIsCut) {
     screen.App().frmMain.CmdUpDow[controls::kMasterReset].visible = true;
     screen.App().frmMain.Timer.enabled = false;  // its first tick could show another list of days
     screen.Select("TCPIP");
+    const auto& changes = screen.Find("StatusChanges");
+    EXPECT_TRUE(changes.isVisible());
     for (int tab = 0; tab < window.Tabs().count(); ++tab) {
       SCOPED_TRACE(firmware.Joined() + " tab " + std::to_string(tab));
       window.Tabs().setCurrentIndex(tab);
@@ -114,8 +117,10 @@ TEST_P(Keyboard, EveryControlOfATabIsReachedOnceAndNoTextIsCut) {
         screen.Show();
         EXPECT_EQ(window.size(), size);
         ExpectRoom(page);
+        EXPECT_GE(changes.width(), changes.sizeHint().width());
         Controls(page, screen.App().registry);
       }
+      if (GetParam() != kUsualPoints) continue;  // the font changes neither letters nor order
       ExpectLettersOfTheirOwn(window.menuBar()->actions(), page);
       std::multiset<std::string> visited;
       window.Tabs().setFocus();
@@ -155,6 +160,12 @@ TEST_P(Keyboard, EverySmallWindowHasNamesAccessKeysAndRoomForItsTexts) {
     screen.Click(option);
     look(*form);
   }
+  screen.Main().Tabs().setCurrentIndex(kExceptionTab);
+  screen.Click("CopyExceptionTo");
+  ExpectRoom(screen.Find("CopyException"));
+  screen.Main().Changes().Open();
+  screen.Show();
+  ExpectRoom(screen.Main().Changes());
 }
 
 TEST(LatePages, AreBuiltWhenTheyAreShownAndTheStatusBarIsTheLastStop) {
