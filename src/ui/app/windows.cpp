@@ -47,11 +47,9 @@ Windows::Windows(core::Application& app, ActFunction act, OwnActs own_acts)
     if (app_.ended || !BuildNext()) return idle_.stop();
     Refresh();
   });
+  main_->page_built = [this] { Refresh(); };
   // While a tab is hidden its layouts do not pass on what has changed in them. They do it now.
-  main_->tab_shown = [this](bool built) {
-    if (built) Refresh();
-    ApplyLayoutRequests();
-  };
+  main_->tab_shown = [] { ApplyLayoutRequests(); };
   main_->first_painted = [this] { idle_.start(0); };
   main_->activated_while_blocked = [this] {
     if (auto* front = Front(); front != main_.get()) front->activateWindow();

@@ -101,10 +101,11 @@ void MainWindow::BuildTabs() {
   setCentralWidget(content);
   BuildPage(model.current);
   connect(tabs_, &QTabWidget::currentChanged, this, [this](int current) {
-    const bool built = BuildPage(current);
+    // The letters go to what the refreshed page shows.
+    if (BuildPage(current) && page_built) page_built();
     status_->ShowTab(current);
     RenewMnemonics();
-    if (tab_shown) tab_shown(built);
+    if (tab_shown) tab_shown();
   });
   BindTabs();
 }

@@ -48,8 +48,11 @@ class MainWindow : public QMainWindow {
   // Called when the user activates this window while another one blocks it.
   std::function<void()> activated_while_blocked;
 
-  // Called after another tab was shown. A page that was built for it must be refreshed at once.
-  std::function<void(bool built)> tab_shown;
+  // Called when a page was built for the tab that is about to show: it must be refreshed at once.
+  std::function<void()> page_built;
+
+  // Called after another tab was shown.
+  std::function<void()> tab_shown;
 
   // Called once, after the window was first painted.
   std::function<void()> first_painted;

@@ -10,191 +10,17 @@
 #include "firmware/firmware_table.h"
 #include "firmware/traits.h"
 #include "support/firmware_facts.h"
-#include "unit/acts/advice_program.h"
+#include "unit/acts/advice_rows.h"
 
 namespace ovl::testing {
 namespace {
 
 const firmware::FirmwareId kV1300{"V1300", "R23"}, kV1334{"V1334", "R1"};
 
-struct Row {
-  const char* name;
-  std::string bring;
-  const char* words;
-  const char* action;  // its caption
-  std::string gone;
-  firmware::FirmwareId firmware = kLatest;
-};
-
-void Expect(const Row& row) {
-  SCOPED_TRACE(std::string(row.name) + " " + row.firmware.Joined() + "\n" + row.bring);
-  AdviceProgram program(row.firmware);
-  EXPECT_EQ(program.Line(row.name).words, "");
-  program.Run(kAt + row.bring);
-  const auto line = program.Line(row.name);
-  EXPECT_NE(line.words.find(row.words), std::string::npos) << line.words;
-  EXPECT_EQ(line.caption, row.action);
-  EXPECT_EQ(line.action == acts::AdviceAction::kNone, line.caption.empty());
-  EXPECT_TRUE(line.control.empty() || program.App().registry.Find(line.control) != nullptr) << line.control;
-  program.Run(row.gone);
-  EXPECT_EQ(program.Line(row.name).words, "");
-}
-
-// An upload of which one whole record has arrived.
-const std::string kHalfUpload = kOpenPort + kHold + kUpload + "unit \"$2000" + std::string(64, '0') + "\"\n";
-const std::string kLose = "port unplug\nwait 100\n";
-const std::string kConnectAgain = "port ok\nclick cmdDisConnect\n" + kOpenPort;
-
-TEST(AdviceOnTheLink, NamesABrokenUploadUntilTheProgramStartsAnew) {
-  const char* broke = "An upload broke off. What had arrived is still ahead of the next upload";
-  const Row rows[] = {
-      {"upload-broke", kHalfUpload + "tick Timer_Operating 6\n", broke, "Restart", "start\n"},
-      {"upload-broke", kHalfUpload + "click cmdDisConnect\n", broke, "Restart", "start\n"},
-      {"upload-broke", kHalfUpload + "unit \"?\"\n" + kOpenPort + kHold, broke, "Restart", "start\n"},
-      {"upload-mixed",
-       kHalfUpload + "click cmdDisConnect\n" + kOpenPort + kHold + kUpload + "unit \"STREAM\"\n",
-       "The tabs show a mixture", "Restart", kTransferEnd + kHold + kUpload + "unit \"STREAM\"\n"},
-      {"upload-mixed",
-       kHalfUpload + "click cmdDisConnect\n" + kOpenPort + kHold + kUpload + "unit \"STREAM\"\n",
-       "Do not download it.", "Restart", kTransferEnd + "undo\n"},
-      {"upload-mixed",
-       kHalfUpload + "click cmdDisConnect\n" + kOpenPort + kHold + kUpload + "unit \"STREAM\"\n",
-       "Do not download it.", "Restart", kTransferEnd + "answer \"IMAGE\"\nclick OpenMenu\n"},
-  };
-  for (const auto& row : rows) Expect(row);
-}
-
-// What a failure of the line leaves in the register list.
-TEST(AdviceOnTheLink, SaysWhatAFailureDidToTheRegister) {
-  const std::string ads = "pick ComboReg \"ADS\"\n";
-  Expect({"register-reset", ads + "click cmdConnect\nclick cmdSET\nclick CmdUpDow(4)\nunit \"?\"\n",
-          "so GENERIC was selected, with its options and its line. Undo brings ADS back.", "Undo", "undo\n"});
-  AdviceProgram program(kLatest);
-  program.App().platform.files.replace = [](const std::string& path, std::string_view) {
-    throw core::Failure(path, std::make_error_code(std::errc::no_space_on_device));
-  };
-  program.Run(ads + kOpenPort + kHold + kUpload + "unit \"STREAM\"\n");
-  const auto words = program.Line("upload-not-taken").words;
-  EXPECT_NE(words.find("The list shows "), std::string::npos) << words;
-  EXPECT_NE(words.find("the configuration is still that of ADS"), std::string::npos) << words;
-  EXPECT_EQ(program.Line("pick-swallowed").words, "");
-  program.Run(ads + "expect no advice \"not taken\"\n");
-}
-
-TEST(AdviceOnTheLink, NamesTheLostDeviceAndWhatTheUnitHolds) {
-  const char* lost =
-      "Comport 1, simulated line, was lost at 14:07:09 (No such device). The unit is untouched. Plug "
-      "the device in again. Then press Disconnect, Set Comport, SET, Remote.";
-  const std::string scan = "click cmdConnect\nclick BaudrateCMD\n";
-  const Row rows[] = {
-      {"device-lost", kOpenPort + kLose, lost, "Disconnect", kConnectAgain},
-      {"device-lost", kOpenPort + kHold + kLose, lost, "Disconnect", kConnectAgain},
-      {"device-lost", kOpenPort + kLose + "click cmdDisConnect\n", "Then press Set Comport, SET, Remote.",
-       "Set Comport", "port ok\n" + kOpenPort},
-      {"device-lost", kOpenPort + kHold + kUpload + kLose,
-       " during the upload. The unit is untouched, and nothing of the upload is on the tabs. Plug the device "
-       "in again. "
-       "Then press Disconnect, Set Comport, SET, Remote, Upload.",
-       "Disconnect", kConnectAgain},
-      {"device-lost", kHalfUpload + kLose + "tick Timer_Operating 6\n",
-       "Plug the device in again and restart the program. Then press Set Comport,", "Set Comport",
-       "port ok\n" + kOpenPort},
-      {"device-lost", kOpenPort + kHold + "click CmdUpDow(1)\n" + kLose,
-       " before the download began. The unit holds its old configuration.", "Disconnect", kConnectAgain},
-      {"device-lost", kOpenPort + kHold + kDownload + "drain 300\nport unplug\ndrain\n",
-       " during the download. The unit may hold half a configuration, so download again. Plug the device in "
-       "again. Then "
-       "press Disconnect, Set Comport, SET, Remote, Download.",
-       "Disconnect", kConnectAgain},
-      {"device-lost", scan + kLose, " during the scan. The unit is untouched.", "Cancel",
-       "port ok\nclick frmScanBProgress.Command1\n" + kOpenPort},
-      {"device-lost", scan + "port unplug\ntick BaudRateScan 11\n",
-       "(No such file or directory) during the scan. The unit is untouched.", "Set Comport",
-       "port ok\n" + kOpenPort},
-  };
-  for (const auto& row : rows) Expect(row);
-}
-
-TEST(AdviceOnTheLink, ALossThatIsNoNewsIsNotTimedAnew) {
-  AdviceProgram program(kLatest);
-  program.Run(kAt + kOpenPort + kLose + "wait 60000\n");
-  EXPECT_NE(program.Line("device-lost").words.find("at 14:07:09"), std::string::npos);
-  EXPECT_EQ(program.Line("port-refused").words, "");
-  program.Run("click cmdDisConnect\n" + kOpenPort);
-  EXPECT_EQ(program.Line("device-lost").words, "") << "the refusal is the newer news";
-  EXPECT_NE(program.Line("port-refused").words, "");
-}
-
-TEST(AdviceOnTheLink, ADownloadThatEndsEarlyIsRepeated) {
-  const auto begun = kOpenPort + kHold + kDownload + "drain 300\n";
-  const auto whole = kOpenPort + kHold + kDownload + "drain\n";
-  const char* half =
-      "A download broke off at 14:07:09. The unit may hold half a configuration, so download again: Set "
-      "Comport, Remote, Download.";
-  const char* untouched = "The download of 14:07:09 did not begin. The unit holds its old configuration.";
-  const Row rows[] = {
-      {"download-broke", begun + "click cmdDisConnect\n", half, "Set Comport", whole},
-      {"download-broke", begun + "unit \"?\"\n", half, "Set Comport", whole},
-      {"download-broke", begun + "port unplug\ndrain\n" + kConnectAgain,
-       "so download again: Remote, Download.", "Remote", kHold + kDownload + "drain\n"},
-      {"download-broke", begun + "unit \"?\"\n" + kOpenPort + kHold, "so download again: Download.", "",
-       kUpload + "unit \"STREAM\"\n"},
-      {"download-broke", kOpenPort + kHold + "click CmdUpDow(1)\ndrain\ntick Timer_Operating 6\n", untouched,
-       "Set Comport", whole},
-      {"download-broke", kOpenPort + kHold + "click CmdUpDow(1)\ndrain\nunit \"?\"\n", untouched,
-       "Set Comport", whole},
-  };
-  for (const auto& row : rows) Expect(row);
-}
-
-TEST(AdviceOnTheLink, ARefusedPortHasDeviceReasonAndCureInOneLine) {
-  const std::pair<std::string, const char*> reasons[] = {
-      {"Permission denied",
-       "Comport 1, simulated line, did not open: Permission denied. Only root and the group of the device, "
-       "mostly dialout"},
-      {"No such file or directory",
-       "Plug the adapter in, choose the comport of another device, or set the link ports/com1"},
-      {"No such device", "plug the adapter in"},
-      {"Input/output error", "No hardware is behind this name"},
-      {"Device or resource busy", "Another program uses the device: close it."},
-      {"Invalid argument", "The device cannot use 9600,N,8,1"},
-      {"Out of luck", "did not open: Out of luck. Choose another comport, or look at the device."},
-  };
-  for (const auto& [reason, words] : reasons) {
-    Expect({"port-refused", "port fail \"" + reason + "\"\n" + kOpenPort, words, "Set Comport",
-            "port ok\n" + kOpenPort});
-  }
-}
-
-TEST(AdviceOnTheLink, AScanThatFindsNoUnitSaysWhy) {
-  const std::string scan = "click BaudrateCMD\n";
-  const auto heard = kOpenPort + kHold + "click cmdDisConnect\nclick cmdConnect\n";
-  const Row rows[] = {
-      {"scan-cannot-hear", "click cmdConnect\n" + scan, "This scan cannot find the unit", "Cancel",
-       "click frmScanBProgress.Command1\n"},
-      {"scan-found-nothing", "click cmdConnect\n" + scan + "tick BaudRateScan 11\n",
-       "Choose the baud rate, the data bits and the parity of the unit in Set Comport", "Set Comport",
-       kOpenPort},
-      {"scan-found-nothing", heard + scan + "tick BaudRateScan 11\n",
-       "with 8 Bits and parity NONE. Check the cable", "Set Comport", kOpenPort},
-      {"scan-found-nothing",
-       heard + "pick OpParity \"EVEN\"\npick OpDataBits \"7 Bits\"\n" + scan + "tick BaudRateScan 11\n",
-       "with 7 Bits and parity EVEN. Check the cable", "Set Comport", "click cmdConnect\n" + scan},
-  };
-  for (const auto& row : rows) Expect(row);
-
-  AdviceProgram program(kLatest);
-  program.Run(heard + scan +
-              "expect no advice \"scan\"\ntick BaudRateScan 2\nclick frmScanBProgress.Command1\n");
-  EXPECT_EQ(program.Line("scan-found-nothing").words, "") << "the installer has cancelled it";
-  program.Run("click cmdConnect\n" + scan + "unit hex 06\nexpect var RemoteHeld true\n");
-  EXPECT_EQ(program.Line("scan-found-nothing").words, "");
-}
-
 TEST(AdviceOnFiles, APickAfterACancelledOpenIsSwallowed) {
   const std::string cancel = "answer cancel\nclick OpenMenu\n", pick = "pick ComboReg \"ADS\"\n";
   const char* next = "The next pick in the register list is swallowed";
-  const Row rows[] = {
+  const AdviceRow rows[] = {
       {"next-pick-swallowed", cancel, "Open was cancelled. The next pick", "REGISTER SELECT", pick},
       {"next-pick-swallowed", "answer \"/no/file.bin\"\nclick OpenMenu\n",
        "Open failed: /no/file.bin: No such file or directory. The next pick", "REGISTER SELECT", pick},
@@ -237,7 +63,7 @@ TEST(AdviceOnFiles, SaysWhatASavedFileIsGoodForUnderEachFirmware) {
 TEST(AdviceOnFiles, NamesAFileThatDoesNotFitTheFirmware) {
   const std::string save_and_open = "answer \"FILE\"\nclick menuSave\nanswer \"FILE\"\nclick OpenMenu\n";
   const std::string open_image = "answer \"IMAGE\"\nclick OpenMenu\n";
-  const Row rows[] = {
+  const AdviceRow rows[] = {
       {"file-misread", save_and_open,
        "file.bin has not the form of V1400R12, so everything from the register options on is shifted. Do not "
        "download it.",
@@ -266,7 +92,7 @@ TEST(AdviceOnFiles, NamesAFileThatDoesNotFitTheFirmware) {
 
 TEST(AdviceOnRegisters, NamesTheByteThatHidesTheOptions) {
   const std::string reopen = "stream \"FILE\"\nanswer \"FILE\"\nclick OpenMenu\n";
-  const Row rows[] = {
+  const AdviceRow rows[] = {
       {"options-hidden",
        "pick ComboReg \"IBM\"\npick IBMOP 0\npick IBMCombo \"MIXED\"\npick IBMOP 4\n" + reopen,
        "The options of IBM are hidden: REGTYPE_EXT2 holds 02, which is not in its list. Pick IBM again",
@@ -329,7 +155,7 @@ TEST(AdviceOnSettings, NamesTheSlotsThatDoNothing) {
     return "click " + button + "\ntype frmSetEXCPSTR.Text1 \"" + words + "\"\nclick frmSetEXCPSTR.cmdSET\n";
   };
   for (const auto& firmware : {kLatest, kV1300}) {
-    const Row rows[] = {
+    const AdviceRow rows[] = {
         {"range-order", "pick ComboExcp(0) 2\n" + range("500", "100"),
          "In the range of exception 3 the first value is above the second.", "Set RANGE", range("500", "500"),
          firmware},
