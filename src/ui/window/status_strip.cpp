@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <QtMath>
 #include <array>
 
 #include "core/actions.h"
@@ -38,8 +39,13 @@ void CutLabel::SetText(const QString& text) {
   update();
 }
 
+// Rounded up: a text that is a part of a pixel wider than its room is cut.
+int CutLabel::WidthOf(const QString& text) const {
+  return qCeil(QFontMetricsF(font()).horizontalAdvance(text));
+}
+
 QSize CutLabel::sizeHint() const {
-  return {fontMetrics().horizontalAdvance(text_), fontMetrics().height()};
+  return {WidthOf(text_), fontMetrics().height()};
 }
 
 void CutLabel::paintEvent(QPaintEvent*) {
@@ -55,7 +61,7 @@ void CutLabel::resizeEvent(QResizeEvent* event) {
 }
 
 void CutLabel::UpdateTip() {
-  setToolTip(fontMetrics().horizontalAdvance(text_) > width() ? text_ : QString());
+  setToolTip(WidthOf(text_) > width() ? text_ : QString());
 }
 
 StateDot::StateDot(QWidget* parent) : QWidget(parent) {

@@ -27,6 +27,7 @@ class CutLabel : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  int WidthOf(const QString& text) const;
   void UpdateTip();
 
   QString text_;

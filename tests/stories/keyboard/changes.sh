@@ -76,14 +76,13 @@ save_backup backup.bin
 wait_for_window 'Uploaded ??:?? - OVL Software'
 key ctrl+z
 wait_for_window 'Uploaded ??:??\* - OVL Software'
-# The title has an asterisk until the backup is open.
 key ctrl+o
 wait_for_window Open
 type_text backup.bin
 key Return
-wait_for_window '*[!*] - OVL Software'
+wait_for_window 'backup.bin - OVL Software'
 save_backup again.bin
-wait_for_window '*[!*] - OVL Software'
+wait_for_window 'backup.bin - OVL Software'
 
 key ctrl+q
 wait_for_end
