@@ -110,9 +110,12 @@ void ActHistory::ForgetKnownImages() {
   for (auto& entry : entries_) entry.before.known_image = entry.after.known_image = nullptr;
 }
 
+bool ActHistory::IsHeldByTransfer() const {
+  return app_.frmMain.Timer_Operating.enabled || app_.DownloadRequested || app_.DownloadActive;
+}
+
 bool ActHistory::IsHeld() const {
-  const bool transfer = app_.frmMain.Timer_Operating.enabled || app_.DownloadRequested || app_.DownloadActive;
-  return app_.ended || app_.handling || transfer || !app_.frmMain.form.enabled;
+  return app_.ended || app_.handling || IsHeldByTransfer() || !app_.frmMain.form.enabled;
 }
 
 const std::string* ActHistory::NextUndo() const {

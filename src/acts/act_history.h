@@ -33,6 +33,9 @@ class ActHistory {
   // are shown.
   void Observe();
 
+  // A transfer runs, so nothing can be undone or redone.
+  bool IsHeldByTransfer() const;
+
   // The name of the act that would be undone or redone: "ALARM DURATION", "Open shop12.bin", "Upload". Null:
   // there is none, or a transfer or a window holds the settings.
   const std::string* NextUndo() const;

@@ -65,10 +65,8 @@ class Advisor {
   void AfterOwnAct() { ForgetDismissed(); }
   void BackupWritten() { observed_.files.BackupWritten(); }
 
-  // The image is not a mixture, and it was not read from a file of another form.
-  bool ImageIsSound() const {
-    return !observed_.link.UploadMixedIn(app_) && observed_.files.MisreadIn(app_).empty();
-  }
+  // The image is a mixture of two uploads.
+  bool ImageIsMixture() const { return observed_.link.UploadMixedIn(app_); }
 
   // The lines that apply now, the most important one first, without those that are dismissed.
   std::vector<Advice> Lines() const;

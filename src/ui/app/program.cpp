@@ -206,9 +206,9 @@ void Program::PickSlot(const acts::Advice& advice) {
   if (list != nullptr && (*list)->position != advice.slot - 1) Act(core::PickEvent{*list, advice.slot - 1});
 }
 
-// The new program opens the changes, or the file that was open. A mixture or a misread file is dropped.
+// The new program opens the changes, or the file that was open. A mixture of two uploads is dropped.
 QString Program::FileForRestart() {
-  if (!advisor_->ImageIsSound()) return {};
+  if (advisor_->ImageIsMixture()) return {};
   const auto kept = unsaved_->Keep();
   const bool opened = acts::FileNameOf(app_.CurrentFilePath) == history_->Origin();
   return kept.isEmpty() && opened ? QFile::decodeName(app_.CurrentFilePath.c_str()) : kept;

@@ -100,7 +100,8 @@ void Windows::Refresh() {
   for (auto& form : forms_) {
     if (form.window == nullptr && form.Wanted()) Build(form);
   }
-  main_->Acts().history->Observe();
+  // Comparing all settings takes a share of the line's time, and a stream changes none before its end.
+  if (!main_->Acts().history->IsHeldByTransfer()) main_->Acts().history->Observe();
   const bool reshaped = bindings_.Refresh();
   if (reshaped) RenewMnemonics();
   ShowForms();

@@ -213,7 +213,7 @@ void StatusStrip::ShowMessages() {
   auto* across = static_cast<QBoxLayout*>(layout());
   for (std::size_t source = 0; source < texts.size(); ++source) {
     auto* message = messages_[source];
-    if (message->Text() == texts[source] && source != kProblem) continue;
+    if (message->Text() == texts[source]) continue;
     message->SetText(texts[source]);
     message->setVisible(source == kProblem || !texts[source].isEmpty());
     across->setStretchFactor(message, 1 + static_cast<int>(texts[source].size()));

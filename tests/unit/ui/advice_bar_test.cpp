@@ -50,6 +50,16 @@ TEST_F(AdviceBarTest, AHiddenLineMakesRoomForTheNextAndAnEmptyBarDisappears) {
   EXPECT_FALSE(IsShown());
 }
 
+TEST_F(AdviceBarTest, TheActionShowsTheAlarmThatTheLineNames) {
+  screen_.Pick("ComboALM(0)", 8);
+  screen_.Pick("ComboALM(1)", 5);
+  screen_.Pick("ComboALM(0)", 0);
+  EXPECT_NE(Words().find("alarm 9 (5)"), std::string::npos) << Words();
+  screen_.Click("AdviceAction");
+  EXPECT_EQ(screen_.App().frmMain.ComboALM[0].position, 8);
+  EXPECT_EQ(screen_.Focus(), "ComboALM(1)");
+}
+
 TEST_F(AdviceBarTest, RestartKeepsTheChangesAndOpensThemInTheNewProgram) {
   auto& app = screen_.App();
   screen_.program->GuardUnsaved();

@@ -154,6 +154,21 @@ TEST_F(WindowsTest, ATransferShowsItsProgressAndItsEndStaysUntilItIsConfirmed) {
   EXPECT_EQ(Focus(), "CmdUpDow(4)");
 }
 
+TEST_F(WindowsTest, ATransferThatBeginsTakesTheFocusFromDisconnect) {
+  auto& form = App().frmMain;
+  form.MSComm1.PortOpen = true;
+  form.cmdConnect.visible = false;
+  form.cmdDisConnect.visible = true;
+  Show();
+  FocusOn("cmdDisConnect", kRemoteTab);
+  link::BeginDownload(App());
+  Show();
+  EXPECT_EQ(Focus(), "vbalProgressBar1");
+  FocusOn("cmdDisConnect", kRemoteTab);
+  Show();
+  EXPECT_EQ(Focus(), "cmdDisConnect") << "who goes there wants to press it";
+}
+
 TEST_F(WindowsTest, TheFileOfASavedHistoryIsNamed) {
   auto& app = App();
   Main().Tabs().setCurrentIndex(kRemoteTab);
