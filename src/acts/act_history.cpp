@@ -78,8 +78,17 @@ std::vector<ActHistory::ControlChange> ActHistory::TakeControls() {
 bool ActHistory::TakeSnapshot() {
   const bool image = Update(now_.image, app_.image);
   const bool known_image = Update(now_.known_image, app_.known_image);
+  AdoptFilePath();
   const bool variables = Update(now_.variables, VariablesNow());
   return image || known_image || variables;
+}
+
+// Save changes this path and nothing else. There is nothing to undo, and what was undone can still be redone.
+void ActHistory::AdoptFilePath() {
+  if (now_.variables == nullptr || now_.variables->CurrentFilePath == app_.CurrentFilePath) return;
+  auto variables = *now_.variables;
+  variables.CurrentFilePath = app_.CurrentFilePath;
+  now_.variables = std::make_shared<const Variables>(std::move(variables));
 }
 
 ActHistory::Variables ActHistory::VariablesNow() const {
@@ -91,8 +100,9 @@ void ActHistory::Add(std::string name, std::string origin) {
   auto before = now_;
   auto changed = TakeControls();
   const bool moved = TakeSnapshot();
+  const bool other_origin = origin != now_.origin;
   now_.origin = std::move(origin);
-  if (changed.empty() && !moved) return;
+  if (changed.empty() && !moved && !other_origin) return;
   ForgetRedo();
   ++recorded_;
   entries_.push_back({std::move(name), std::move(before), now_, std::move(changed)});

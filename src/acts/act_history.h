@@ -81,6 +81,7 @@ class ActHistory {
   };
 
   bool IsHeld() const;
+  void AdoptFilePath();
   Variables VariablesNow() const;
   // Both compare the program with its last state and keep the new one. They return what has changed.
   std::vector<ControlChange> TakeControls();

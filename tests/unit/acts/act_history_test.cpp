@@ -90,6 +90,13 @@ TEST_F(ActHistoryTest, ANewActRemovesWhatCouldBeRedone) {
   Do("undo\nexpect ComboALM(3) 5");
 }
 
+TEST_F(ActHistoryTest, SaveIsNothingToUndoAndKeepsWhatCanBeRedone) {
+  Do("pick ComboALM(3) 5\npick ComboALM(3) 6\nundo");
+  Do("answer " + script::Quoted(folder_.File("saved.bin")) + "\nclick menuSave");
+  EXPECT_EQ(NextUndo(), "ALARM DURATION");
+  Do("redo\nexpect ComboALM(3) 6\nundo\nexpect ComboALM(3) 5");
+}
+
 TEST_F(ActHistoryTest, OnlyTheLast200ActsCanBeTakenBack) {
   for (int act = 0; act < 201; ++act) Do("pick ComboALM(3) " + std::to_string(act % 2 + 4));
   Do("undo 200\nexpect ComboALM(3) 4");
