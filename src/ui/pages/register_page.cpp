@@ -38,7 +38,8 @@ class FilterLine : public QLineEdit {
     setAccessibleName(QStringLiteral("Filter of the registers"));
     setPlaceholderText(QStringLiteral("Filter"));
     setToolTip(QStringLiteral("Shows only the registers whose names have all of these words (Ctrl+F)."));
-    setClearButtonEnabled(true);
+    // The icon of the button takes time to load, which a start does not need.
+    connect(this, &QLineEdit::textEdited, this, [this] { setClearButtonEnabled(true); });
     connect(this, &QLineEdit::textChanged, &list, &ListBox::SetFilter);
     auto* find = new QShortcut(QKeySequence::Find, this);
     connect(find, &QShortcut::activated, this, [this] {
