@@ -12,6 +12,7 @@
 #include "host/text_codec.h"
 #include "ui/kit/mnemonics.h"
 #include "ui/kit/theme.h"
+#include "ui/kit/widgets.h"
 
 namespace ovl::ui {
 namespace {
@@ -35,6 +36,7 @@ CopySlotWindow::CopySlotWindow(const Bindings& bindings, acts::SlotKind kind, QW
   setWindowTitle(IsAlarm(kind) ? QStringLiteral("Copy alarm") : QStringLiteral("Copy exception"));
   setWindowModality(Qt::WindowModal);
   setAttribute(Qt::WA_DeleteOnClose);
+  StayOnScreen(*this);
   copy_->setObjectName(QStringLiteral("CopyNow"));
   LayOut();
   const int next = from_ < acts::SlotCount(kind) ? from_ + 1 : std::max(from_ - 1, 1);

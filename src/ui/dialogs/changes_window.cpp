@@ -15,6 +15,7 @@
 #include "ui/acts/changes_list.h"
 #include "ui/kit/mnemonics.h"
 #include "ui/kit/theme.h"
+#include "ui/kit/widgets.h"
 
 namespace ovl::ui {
 namespace {
@@ -45,6 +46,7 @@ ChangesWindow::ChangesWindow(Bindings& bindings, QWidget* parent) : QDialog(pare
   setObjectName(QStringLiteral("Changes"));
   setWindowTitle(QStringLiteral("Changes"));
   resize(QSize(kStartWidth, kStartHeight).boundedTo(screen()->availableSize()));
+  StayOnScreen(*this);
 }
 
 void ChangesWindow::Build() {

@@ -1,7 +1,6 @@
 #include "ui/dialogs/form_window.h"
 
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
@@ -14,6 +13,7 @@
 #include "ui/kit/layout.h"
 #include "ui/kit/mnemonics.h"
 #include "ui/kit/theme.h"
+#include "ui/kit/widgets.h"
 
 namespace ovl::ui {
 namespace {
@@ -27,6 +27,7 @@ FormWindow::FormWindow(Bindings& bindings, controls::Form& form, QWidget* parent
     : QDialog(parent), bindings_(bindings), form_(form) {
   setObjectName(host::FromWindows1252(form.name));
   setModal(false);
+  StayOnScreen(*this);
   bindings_.OnRefresh([this, caption = ChangeDetector<std::string>()]() mutable {
     if (caption.Update(form_.caption)) setWindowTitle(host::FromSystem(form_.caption));
     if (enabled_.Update(form_.enabled)) setEnabled(form_.enabled);
@@ -52,40 +53,15 @@ void FormWindow::Open() {
   setWindowFlag(Qt::WindowStaysOnTopHint, form_.top_most);
   for (auto* button : findChildren<QPushButton*>()) button->installEventFilter(this);
   // The window may take the whole of a small screen; if it needs more, its content scrolls.
-  const auto room = RoomOnScreen();
+  const auto room = RoomOnScreen(*this);
   if (!scrolled_ && minimumSizeHint().boundedTo(room) != minimumSizeHint()) Scroll();
   resize(sizeHint().boundedTo(room));
   if (opens_beside_) PlaceBeside();
   AssignPageMnemonics(*this, {});
   show();
-  KeepOnScreen();
-  for (auto* each : QGuiApplication::screens()) {
-    connect(each, &QScreen::availableGeometryChanged, this, &FormWindow::KeepOnScreen, Qt::UniqueConnection);
-  }
   raise();
   activateWindow();
   if (focusWidget() == nullptr) focusNextChild();
-}
-
-// The room that the screen has for a window without its frame.
-QSize FormWindow::RoomOnScreen() const {
-  return screen()->availableSize() - (frameGeometry().size() - size());
-}
-
-// Moves the window back when it reaches beyond the screen: it may have grown, or the screen may have changed.
-void FormWindow::KeepOnScreen() {
-  if (!isVisible()) return;
-  resize(size().boundedTo(RoomOnScreen()));
-  const auto room = screen()->availableGeometry();
-  const auto frame = frameGeometry();
-  const int left = std::max(std::min(frame.left(), room.right() + 1 - frame.width()), room.left());
-  const int top = std::max(std::min(frame.top(), room.bottom() + 1 - frame.height()), room.top());
-  if (QPoint(left, top) != frame.topLeft()) move(left, top);
-}
-
-void FormWindow::resizeEvent(QResizeEvent* event) {
-  QDialog::resizeEvent(event);
-  KeepOnScreen();
 }
 
 void FormWindow::Scroll() {
@@ -97,7 +73,7 @@ void FormWindow::Scroll() {
   around->setContentsMargins(0, 0, 0, 0);
   auto* area = Scrolled(content);
   const int bar = area->verticalScrollBar()->sizeHint().width();
-  area->setMinimumWidth(std::min(size.width() + bar, RoomOnScreen().width()));
+  area->setMinimumWidth(std::min(size.width() + bar, RoomOnScreen(*this).width()));
   around->addWidget(area);
 }
 

@@ -25,7 +25,6 @@ class FormWindow : public QDialog {
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
@@ -35,8 +34,6 @@ class FormWindow : public QDialog {
   void Open();
   void Scroll();
   void PlaceBeside();
-  void KeepOnScreen();
-  QSize RoomOnScreen() const;
 
   Bindings& bindings_;
   controls::Form& form_;

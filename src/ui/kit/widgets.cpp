@@ -2,8 +2,10 @@
 
 #include <QAbstractItemView>
 #include <QFocusEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScreen>
 #include <QStyledItemDelegate>
 #include <QValidator>
 #include <QWheelEvent>
@@ -291,6 +293,47 @@ void TextLine::MoveCaretOutOfPadding(qsizetype from) {
   const bool full = text().size() == validator_->limit;
   if (!full || hasSelectedText() || cursorPosition() < from) return;
   setCursorPosition(std::min(cursorPosition(), static_cast<int>(SizeWithoutPadding(text()))));
+}
+
+namespace {
+
+class ScreenKeeper : public QObject {
+ public:
+  explicit ScreenKeeper(QWidget& window) : QObject(&window), window_(window) {
+    window.installEventFilter(this);
+  }
+
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Resize) Keep();
+    if (event->type() != QEvent::Show) return false;
+    Keep();
+    for (auto* screen : QGuiApplication::screens())
+      connect(screen, &QScreen::availableGeometryChanged, this, &ScreenKeeper::Keep, Qt::UniqueConnection);
+    return false;
+  }
+
+ private:
+  void Keep() {
+    if (!window_.isVisible()) return;
+    window_.resize(window_.size().boundedTo(RoomOnScreen(window_)));
+    const auto room = window_.screen()->availableGeometry();
+    const auto frame = window_.frameGeometry();
+    const int left = std::max(std::min(frame.left(), room.right() + 1 - frame.width()), room.left());
+    const int top = std::max(std::min(frame.top(), room.bottom() + 1 - frame.height()), room.top());
+    if (QPoint(left, top) != frame.topLeft()) window_.move(left, top);
+  }
+
+  QWidget& window_;
+};
+
+}  // namespace
+
+QSize RoomOnScreen(const QWidget& window) {
+  return window.screen()->availableSize() - (window.frameGeometry().size() - window.size());
+}
+
+void StayOnScreen(QWidget& window) {
+  new ScreenKeeper(window);
 }
 
 }  // namespace ovl::ui

@@ -109,4 +109,11 @@ class TextLine : public QLineEdit {
   TextValidator* validator_;
 };
 
+// The room that the screen has for the window without its frame.
+QSize RoomOnScreen(const QWidget& window);
+
+// From now on a window that shows, grows or loses a part of its screen moves back onto the screen. It becomes
+// smaller where the screen is.
+void StayOnScreen(QWidget& window);
+
 }  // namespace ovl::ui

@@ -158,10 +158,27 @@ TEST_F(ScreenTest, TheMicrosWindowStaysOnTheScreenWithEveryPanel) {
     program->Act(core::CloseEvent{&App().frmMicros.form});
     Show();
   }
+}
+
+TEST_F(ScreenTest, SmallWindowsMoveBackWhenTheScreenHasChanged) {
+  Main().Tabs().setCurrentIndex(kAlarmTab);
+  Pick("ComboALM(3)", 1);
+  for (const auto& [button, name] : {std::pair("StatusChanges", "Changes"), {"CopyAlarmTo", "CopyAlarm"}}) {
+    Click(button);
+    auto& window = Find<QDialog>(name);
+    const auto room = window.screen()->availableGeometry();
+    window.move(room.bottomRight());
+    emit window.screen()->availableGeometryChanged(room);
+    EXPECT_TRUE(window.isVisible() && room.contains(window.frameGeometry())) << name;
+  }
+  Main().Tabs().setCurrentIndex(kRegisterTab);
+  Select("MICROS");
   Click("OpMicros(2)");
-  window.move(room.bottomRight());
-  emit window.screen()->availableGeometryChanged(room);
-  EXPECT_TRUE(room.contains(window.frameGeometry())) << "the screen has changed";
+  auto& micros = Window(App().frmMicros.form);
+  const auto room = micros.screen()->availableGeometry();
+  micros.move(room.bottomRight());
+  emit micros.screen()->availableGeometryChanged(room);
+  EXPECT_TRUE(room.contains(micros.frameGeometry()));
 }
 
 TEST_F(ScreenTest, TheFilterShowsRegistersWithAllItsWordsAndAPickSendsTheTruePosition) {
