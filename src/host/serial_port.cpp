@@ -8,6 +8,8 @@
 #include <cstdlib>
 
 #include "host/comports.h"
+#include "host/system/device.h"
+#include "host/system/line.h"
 #include "host/text_codec.h"
 
 namespace ovl::host {
@@ -132,8 +134,9 @@ int SerialPort::Prepare() {
 
   const bool parity = port_.parity() != QSerialPort::NoParity;
   if (parity) {
-    if (const int error = MarkParityErrors(port_.handle())) return error;
-    marks_.emplace();
+    const auto check = CheckParity(port_.handle());
+    if (check.error != 0) return check.error;
+    if (check.marked) marks_.emplace();
   }
   bit_time_ = std::chrono::nanoseconds(std::chrono::seconds(1)) / asked;
   character_bits_ = 1 + port_.dataBits() + (parity ? 1 : 0) + 1;

@@ -13,8 +13,8 @@
 #include <string_view>
 
 #include "core/gate.h"
-#include "host/posix/parity_marks.h"
-#include "host/posix/posix_line.h"
+#include "host/parity_marks.h"
+#include "host/system/short_timer.h"
 
 namespace ovl::host {
 
