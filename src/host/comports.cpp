@@ -4,21 +4,11 @@
 #include <QFileInfo>
 #include <QSerialPortInfo>
 
-#include "host/posix/posix_line.h"
+#include "host/system/device.h"
 #include "host/text_codec.h"
 
 namespace ovl::host {
 namespace {
-
-QString TableDevice(int number) {
-#ifdef Q_OS_WIN
-  return QStringLiteral("COM%1").arg(number);
-#else
-  constexpr int kFirstUsb = 9;
-  if (number < kFirstUsb) return QStringLiteral("/dev/ttyS%1").arg(number - 1);
-  return QStringLiteral("/dev/ttyUSB%1").arg(number - kFirstUsb);
-#endif
-}
 
 bool Matches(const QSerialPortInfo& info, const QString& device) {
   return info.systemLocation() == device || info.portName() == device;
@@ -28,7 +18,7 @@ bool Matches(const QSerialPortInfo& info, const QString& device) {
 
 QString ComportDevice(const QString& program_folder, int number) {
   const QFileInfo link(QStringLiteral("%1/ports/com%2").arg(program_folder).arg(number));
-  if (!link.isSymLink()) return link.exists() ? link.absoluteFilePath() : TableDevice(number);
+  if (!link.isSymLink()) return link.exists() ? link.absoluteFilePath() : DeviceOf(number);
   // The lock against a second program goes by the name, so the name must be the device's and not the link's.
   const auto target = link.canonicalFilePath();
   return target.isEmpty() ? link.symLinkTarget() : target;

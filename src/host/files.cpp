@@ -2,14 +2,13 @@
 
 #include <array>
 #include <cerrno>
-#include <csignal>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <memory>
 #include <system_error>
 
-#include "host/posix/flush.h"
+#include "host/system/disk.h"
 
 namespace ovl::host {
 namespace {
@@ -54,7 +53,7 @@ void RequireWritable(const fs::path& target) {
   if (fs::is_directory(status)) Fail(target.string(), std::errc::is_a_directory);
   if (!fs::exists(status)) return;
   if (!fs::is_regular_file(status)) Fail(target.string(), std::errc::invalid_argument);
-  if (!File{std::fopen(target.c_str(), "r+b")}) FailWithErrno(target.string());
+  if (!File{OpenFile(target, "r+b")}) FailWithErrno(target.string());
 }
 
 // A new file in the target's folder, under a free name. The stem is cut, since a name of the greatest length
@@ -65,7 +64,7 @@ File CreateBeside(const fs::path& target, fs::path& beside) {
   const auto stem = target.filename().string().substr(0, kLongestStem);
   for (int number = 0; number < kNamesToTry; ++number) {
     beside = target.parent_path() / (stem + "." + std::to_string(number) + ".new");
-    if (File file{std::fopen(beside.c_str(), "wbx")}) return file;
+    if (File file{OpenFile(beside, "wbx")}) return file;
     if (errno != EEXIST) break;
   }
   const auto reason = errno;
@@ -127,7 +126,7 @@ void ReplaceFile(const std::string& path, std::string_view bytes, Flush flush) {
     CopyPermissions(target, beside);
     WriteInto(std::move(file), beside, bytes, flush);
     fs::rename(beside, target);
-    if (flush == Flush::kYes) RequireFlushed(FlushFolder((target.parent_path() / ".").string()), target);
+    if (flush == Flush::kYes) RequireFlushed(FlushFolder(target.parent_path() / "."), target);
   } catch (const fs::filesystem_error& reason) {
     fs::remove(beside, ignored);
     throw core::Failure(path, reason.code());
@@ -141,12 +140,6 @@ core::FileAccess DiskFiles(Flush flush) {
   return {.read = ReadFile, .replace = [flush](const std::string& path, std::string_view bytes) {
             ReplaceFile(path, bytes, flush);
           }};
-}
-
-void OutliveSizeLimit() {
-#ifdef SIGXFSZ
-  std::signal(SIGXFSZ, SIG_IGN);
-#endif
 }
 
 }  // namespace ovl::host

@@ -25,8 +25,4 @@ void ReplaceFile(const std::string& path, std::string_view bytes, Flush flush = 
 // For Platform::files.
 core::FileAccess DiskFiles(Flush flush = Flush::kYes);
 
-// Every program calls this at its start. A write beyond the limit on the size of files then fails like a
-// write to a full disk, instead of ending the program.
-void OutliveSizeLimit();
-
 }  // namespace ovl::host

@@ -8,6 +8,8 @@
 #include <cstdlib>
 
 #include "host/comports.h"
+#include "host/system/device.h"
+#include "host/system/line.h"
 #include "host/text_codec.h"
 
 namespace ovl::host {
@@ -58,10 +60,19 @@ std::optional<LineFormat> ParseFormat(const std::string& text) {
                     parts[1].front()};
 }
 
+// The name of an unplugged device stays for a moment, but opens nothing.
+bool IsGone(const QString& device) {
+  const int error = ProbeDevice(device);
+  return error == ENOENT || error == ENODEV || error == ENXIO || error == EIO;
+}
+
 }  // namespace
 
 SerialPort::SerialPort(QString program_folder, std::function<core::Outcome(const core::Event&)> dispatch)
-    : program_folder_(std::move(program_folder)), dispatch_(std::move(dispatch)), timer_([this] { Post(); }) {
+    : program_folder_(std::move(program_folder)),
+      dispatch_(std::move(dispatch)),
+      watch_([this] { OnGone(); }),
+      timer_([this] { Post(); }) {
   connect(&port_, &QSerialPort::readyRead, this, [this] {
     TakeReceived();
     Post();
@@ -132,9 +143,11 @@ int SerialPort::Prepare() {
 
   const bool parity = port_.parity() != QSerialPort::NoParity;
   if (parity) {
-    if (const int error = MarkParityErrors(port_.handle())) return error;
-    marks_.emplace();
+    const auto check = CheckParity(port_.handle());
+    if (check.error != 0) return check.error;
+    if (check.marked) marks_.emplace();
   }
+  if (const int error = watch_.Start(port_.handle())) return error;
   bit_time_ = std::chrono::nanoseconds(std::chrono::seconds(1)) / asked;
   character_bits_ = 1 + port_.dataBits() + (parity ? 1 : 0) + 1;
   line_free_ = Clock::now();
@@ -142,6 +155,7 @@ int SerialPort::Prepare() {
 }
 
 void SerialPort::Close() {
+  watch_.Stop();
   if (port_.isOpen()) port_.close();
   lost_ = {};
   Forget();
@@ -204,23 +218,34 @@ void SerialPort::ClearOutput() {
   ScheduleDrain();
 }
 
+void SerialPort::OnGone() {
+  // Characters that the driver still holds came before. Reading them may already report the loss.
+  port_.waitForReadyRead(0);
+  if (port_.isOpen()) Lose(EIO);
+}
+
+// What QSerialPort reads and writes itself.
 void SerialPort::OnPortError(QSerialPort::SerialPortError error) {
   const bool fatal = error == QSerialPort::ReadError || error == QSerialPort::WriteError ||
                      error == QSerialPort::ResourceError;
   if (!fatal || !port_.isOpen()) return;
   // If input is discarded after the event loop has seen it, the read fails although the line works.
   if (error == QSerialPort::ReadError && LineAlive(port_.handle())) return;
-  Lose(ProbeDevice(device_) == ENOENT ? ENODEV : EIO);
+  Lose(EIO);
 }
 
-// A lost device reports errors without end, so the port is closed at once. Characters received before stay. A
-// drained event that is due is still dispatched: a sender then goes on, and its next write fails.
+// A lost device keeps its descriptor readable without end, so the port is closed at once. Characters received
+// before stay. A drained event that is due is still dispatched: a sender then goes on, and its next write
+// fails. Every operation on a line that was hung up fails with the same EIO. Only the device's name shows
+// that the device itself is gone.
 void SerialPort::Lose(int error) {
   TakeReceived();
-  lost_ = Report(FailureWith(error));
+  lost_ = Report(FailureWith(IsGone(device_) ? ENODEV : error));
+  watch_.Stop();
   port_.close();
   timer_.Stop();
   if (drain_owed_ || undelivered_ > 0) Post();
+  on_loss();
 }
 
 core::Failure SerialPort::Report(core::Failure failure) {

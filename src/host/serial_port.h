@@ -13,8 +13,9 @@
 #include <string_view>
 
 #include "core/gate.h"
-#include "host/posix/parity_marks.h"
-#include "host/posix/posix_line.h"
+#include "host/parity_marks.h"
+#include "host/system/line_watch.h"
+#include "host/system/short_timer.h"
 
 namespace ovl::host {
 
@@ -39,6 +40,9 @@ class SerialPort : public QObject {
   // The last failure of a port, as a sentence with port, device and reason. Empty once a port opens.
   QString LastProblem() const { return problem_; }
 
+  // Called when the open port has lost its device. It may run inside an operation.
+  std::function<void()> on_loss = [] {};
+
   bool event(QEvent* event) override;
 
  private:
@@ -56,6 +60,7 @@ class SerialPort : public QObject {
   void ClearInput();
   void ClearOutput();
 
+  void OnGone();
   void OnPortError(QSerialPort::SerialPortError error);
   void Lose(int error);
   void Forget();
@@ -77,6 +82,7 @@ class SerialPort : public QObject {
   QString program_folder_;
   std::function<core::Outcome(const core::Event&)> dispatch_;
   QSerialPort port_;
+  LineWatch watch_;
   ShortTimer timer_;
   int number_ = 0;
   QString device_;

@@ -3,17 +3,15 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLibraryInfo>
 #include <QSaveFile>
 #include <QSettings>
-#include <QStandardPaths>
 #include <QVariant>
 #include <cerrno>
 #include <charconv>
 #include <filesystem>
 #include <system_error>
 
-#include "host/posix/posix_line.h"
+#include "host/system/settings_place.h"
 #include "host/text_codec.h"
 
 namespace ovl::host {
@@ -97,18 +95,7 @@ SettingsStore::SettingsStore(QString folder) : folder_(std::move(folder)) {}
 
 QString SettingsStore::Path() const {
   const auto name = QStringLiteral("%1/%2.conf").arg(kOrganisation, kApplication);
-  if (!folder_.isEmpty()) return QDir(folder_).filePath(name);
-#if defined(Q_OS_WIN) || defined(Q_OS_DARWIN)
-  return {};
-#else
-  // A desktop puts places of its own ahead of the system's, and QSettings looks only into the first place.
-  const auto places = QStandardPaths::standardLocations(QStandardPaths::GenericConfigLocation);
-  for (const auto& place : places.mid(1)) {
-    const auto path = QDir(place).filePath(name);
-    if (QFile::exists(path)) return path;
-  }
-  return QDir(QLibraryInfo::path(QLibraryInfo::SettingsPath)).filePath(name);
-#endif
+  return folder_.isEmpty() ? MachineSettingsFile(name) : QDir(folder_).filePath(name);
 }
 
 bool SettingsStore::IsSound() const {

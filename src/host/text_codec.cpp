@@ -4,6 +4,7 @@
 #include <QStringDecoder>
 #include <algorithm>
 #include <array>
+#include <system_error>
 
 namespace ovl::host {
 namespace {
@@ -45,6 +46,11 @@ QString FromSystem(std::string_view text) {
 
 core::Failure FailureOf(const QString& subject, const QString& reason) {
   return {QFile::encodeName(subject).toStdString(), reason.toLocal8Bit().toStdString()};
+}
+
+std::string SystemText(int error) {
+  const auto text = std::generic_category().message(error);
+  return ToWindows1252(QString::fromLocal8Bit(text)).value_or("error " + std::to_string(error));
 }
 
 std::optional<std::string> ToWindows1252(QStringView text) {

@@ -22,6 +22,9 @@ QString FromSystem(std::string_view text);
 // A failure whose subject and reason come from Qt. FromSystem converts its text back.
 core::Failure FailureOf(const QString& subject, const QString& reason);
 
+// The system's own words for an error number, in bytes of Windows-1252.
+std::string SystemText(int error);
+
 // Nothing when the text holds a character without a code.
 std::optional<std::string> ToWindows1252(QStringView text);
 

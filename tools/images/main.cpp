@@ -7,7 +7,7 @@
 
 #include "core/failure.h"
 #include "firmware/firmware_table.h"
-#include "host/files.h"
+#include "host/system/disk.h"
 #include "images/default_images.h"
 
 namespace {

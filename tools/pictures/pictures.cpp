@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDir>
+#include <QEvent>
 #include <QFile>
 #include <QSaveFile>
 #include <QTabWidget>
@@ -30,6 +31,12 @@ constexpr int kExceptionTab = 4;
 constexpr int kTimeTab = 5;
 constexpr int kRemoteTab = 6;
 constexpr int kClockTicks = 10;  // until the clock lists are set
+
+// Takes away the events of timers, so that no picture depends on the time that the machine needs for it.
+class NoTimers : public QObject {
+ public:
+  bool eventFilter(QObject*, QEvent* event) override { return event->type() == QEvent::Timer; }
+};
 
 class Photographer {
  public:
@@ -66,7 +73,8 @@ class Photographer {
 
   void Take(QWidget& window, const QString& name) {
     program_.RefreshNow();
-    QApplication::setActiveWindow(&window);
+    window.activateWindow();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     // The second round is for layouts that the first one has changed, such as a text that wraps.
     for (int round = 0; round < 2; ++round) QCoreApplication::sendPostedEvents();
     QSaveFile file(folder_.filePath(name + QStringLiteral(".png")));
@@ -306,6 +314,8 @@ core::Result SaveSeries(const QString& program_folder, const QString& store, con
 
 core::Result SavePictures(const QString& program_folder, const QString& store, const QString& folder,
                           QSize size) {
+  NoTimers no_timers;
+  QCoreApplication::instance()->installEventFilter(&no_timers);
   for (const auto& [theme, name] :
        {std::pair(ui::Theme::kLight, "light"), std::pair(ui::Theme::kDark, "dark")}) {
     const auto below = QDir(folder).filePath(QString::fromLatin1(name));

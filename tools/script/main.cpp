@@ -9,7 +9,7 @@
 #include <system_error>
 #include <vector>
 
-#include "host/files.h"
+#include "host/system/disk.h"
 #include "script/runner.h"
 
 namespace {

@@ -6,8 +6,8 @@
 #include <optional>
 
 #include "core/failure.h"
-#include "host/files.h"
 #include "host/program_folder.h"
+#include "host/system/disk.h"
 #include "ui/app/launch.h"
 #include "ui/app/program.h"
 #include "ui/dialogs/boxes.h"

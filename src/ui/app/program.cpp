@@ -37,6 +37,7 @@ Program::Program(QString folder, QString store_folder)
   start_again = [](const QStringList& arguments) {
     return QProcess::startDetached(QCoreApplication::applicationFilePath(), arguments);
   };
+  port_.on_loss = [this] { frame_.start(); };
   FillPlatform();
 }
 

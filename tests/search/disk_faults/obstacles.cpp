@@ -11,7 +11,7 @@
 
 #include <fstream>
 
-#include "host/files.h"
+#include "host/system/disk.h"
 
 namespace ovl::testing {
 namespace {

@@ -8,8 +8,8 @@
 #include <string>
 
 #include "host/comports.h"
-#include "host/posix/parity_marks.h"
-#include "host/posix/posix_line.h"
+#include "host/parity_marks.h"
+#include "host/system/device.h"
 #include "host/text_codec.h"
 
 namespace ovl {

@@ -292,6 +292,8 @@ TEST_F(SerialPortTest, ParityErrorsBecomeQuestionMarksAndANewOpeningDropsHalfAMa
 
 TEST_F(SerialPortTest, ALostPortSendsNoEventsAndFailsTheNextWrite) {
   Open("1200,N,8,1");
+  int losses = 0;
+  port_->on_loss = [&] { ++losses; };
   core::Result failure;
   on_told_ = [&](const std::string&) { failure = line_.write("y"); };
   EXPECT_TRUE(line_.write("x").Ok());
@@ -306,8 +308,20 @@ TEST_F(SerialPortTest, ALostPortSendsNoEventsAndFailsTheNextWrite) {
   EXPECT_EQ(line_.lost()->Text(), failure.Problem().Text());
   EXPECT_EQ(told_, "<drained>");
   EXPECT_EQ(port_->LastProblem(), QString("Comport 1, %1: No such device.").arg(terminal_.Device().c_str()));
+  EXPECT_EQ(losses, 1);
   line_.close();
   EXPECT_EQ(line_.lost(), nullptr);
+}
+
+TEST_F(SerialPortTest, ALossInTheMiddleOfAWriteEndsTheWrite) {
+  Open();
+  EXPECT_TRUE(line_.write(std::string(200'000, 'x')).Ok());
+  RunForAWhile();
+  EXPECT_EQ(told_, "");
+  terminal_.HangUp();
+  EXPECT_TRUE(ValueDisplay("<drained>"));
+  EXPECT_TRUE(BecomesIdle());
+  EXPECT_EQ(line_.write("y").Problem().Text(), terminal_.Device() + ": No such device");
 }
 
 TEST_F(SerialPortTest, CharactersBeforeTheLossAreStillReported) {

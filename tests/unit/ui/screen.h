@@ -159,7 +159,7 @@ class Screen {
 
   // A message of the status bar: what went wrong, or that of the source named.
   std::string Note(const std::string& source = "StatusNote") {
-    return Find<ui::CutLabel>(source).Text().toStdString();
+    return dynamic_cast<ui::CutLabel&>(Find(source)).Text().toStdString();
   }
   std::string QuietLine() {
     const auto* line = Main().Tabs().currentWidget()->findChild<QLabel*>("QuietLine");

@@ -1,4 +1,4 @@
-#include "host/posix/parity_marks.h"
+#include "host/parity_marks.h"
 
 namespace ovl::host {
 namespace {

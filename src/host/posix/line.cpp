@@ -1,0 +1,90 @@
+#include "host/system/line.h"
+
+#include <asm/termbits.h>
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <cerrno>
+
+#include "host/posix/descriptor.h"
+
+namespace ovl::host {
+namespace {
+
+bool LockedByOther(const QString& device) {
+  const auto name = device.section(QLatin1Char('/'), -1);
+  return ::access(QFile::encodeName(QStringLiteral("/var/lock/LCK..") + name).constData(), F_OK) == 0;
+}
+
+void MakeRaw(struct termios2& settings, int baud, int data_bits, char parity) {
+  settings.c_iflag = 0;
+  settings.c_oflag = 0;
+  settings.c_lflag = 0;
+  settings.c_cflag = BOTHER | CREAD | CLOCAL | (data_bits == 7 ? CS7 : CS8);
+  if (parity != 'N') settings.c_cflag |= PARENB;
+  if (parity == 'O') settings.c_cflag |= PARODD;
+  settings.c_ispeed = static_cast<speed_t>(baud);
+  settings.c_ospeed = static_cast<speed_t>(baud);
+}
+
+}  // namespace
+
+int LineSpeed(LineHandle line) {
+  struct termios2 settings {};
+  if (::ioctl(line, TCGETS2, &settings) != 0) return 0;
+  return static_cast<int>(settings.c_ospeed);
+}
+
+ParityCheck CheckParity(LineHandle line) {
+  struct termios2 settings {};
+  if (::ioctl(line, TCGETS2, &settings) != 0) return {errno, false};
+  settings.c_iflag |= INPCK | PARMRK | IGNBRK;
+  settings.c_iflag &= ~static_cast<tcflag_t>(IGNPAR);
+  if (::ioctl(line, TCSETS2, &settings) != 0) return {errno, false};
+  return {0, true};
+}
+
+WriteResult WriteAtOnce(LineHandle line, std::string_view bytes) {
+  ssize_t taken = 0;
+  do {
+    taken = ::write(line, bytes.data(), bytes.size());
+  } while (taken < 0 && errno == EINTR);
+  if (taken >= 0) return {static_cast<std::size_t>(taken), 0};
+  return {0, errno == EAGAIN ? 0 : errno};
+}
+
+bool LineAlive(LineHandle line) {
+  struct pollfd state = {line, POLLIN, 0};
+  if (::poll(&state, 1, 0) < 0) return false;
+  if (state.revents == 0) return true;
+  if ((state.revents & POLLIN) == 0 || (state.revents & (POLLERR | POLLHUP | POLLNVAL)) != 0) return false;
+  int waiting = 0;
+  return ::ioctl(line, FIONREAD, &waiting) == 0 && waiting > 0;
+}
+
+bool CharactersWait(LineHandle line) {
+  int waiting = 0;
+  return ::ioctl(line, TIOCOUTQ, &waiting) == 0 && waiting > 0;
+}
+
+struct LinePreset::Held {
+  Descriptor device;
+};
+
+LinePreset::LinePreset(const QString& device, int baud, int data_bits, char parity) {
+  if (LockedByOther(device)) return;
+  held_.reset(new Held{
+      Descriptor(::open(QFile::encodeName(device).constData(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC))});
+  struct termios2 settings {};
+  if (::ioctl(held_->device.Number(), TCGETS2, &settings) != 0) return;
+  MakeRaw(settings, baud, data_bits, parity);
+  // If the driver refuses them here, the opening that follows fails as well and reports it.
+  ::ioctl(held_->device.Number(), TCSETS2, &settings);
+}
+
+LinePreset::~LinePreset() = default;
+
+}  // namespace ovl::host
