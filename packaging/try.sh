@@ -46,6 +46,7 @@ drop() {
   root=''
 }
 trap 'status=$?; report $status; drop && rm -rf "$work"' EXIT
+trap 'exit 130' HUP INT TERM  # a step that was broken off has not passed
 
 inside() { chroot "$root" "$@"; }
 as_user() { inside su - installer -c "$1"; }
