@@ -1,18 +1,20 @@
 #!/usr/bin/env bash
 # Builds the packages and the archive on bare Debian systems and tries every step of their lives, as root, each in a
 # root file system of its own. The outcomes are printed at the end.
-#   try.sh [--roots FOLDER] [--before PACKAGE] [--cache FOLDER] [RELEASE...]
+#   try.sh [--roots FOLDER] [--made FOLDER] [--before PACKAGE] [--cache FOLDER] [RELEASE...]
 #     --roots   keeps the bare root file systems and what was built there
+#     --made    tries what is in this folder, for instance what was built on the older release, and builds nothing
 #     --before  an older package, which is upgraded; several may be named
 #     --cache   a folder for ccache, which the builds then use
 # Without a release: bookworm trixie
 set -euo pipefail
 [ "${TRY_ALONE:-}" ] || TRY_ALONE=1 exec unshare --mount --propagation private "$0" "$@"
 
-roots='' cache='' before=() releases=() table=() release='' now='' root=''
+roots='' given='' cache='' before=() releases=() table=() release='' now='' root=''
 while [ $# -gt 0 ]; do
   case $1 in
     --roots) roots=$(realpath -m "$2"); shift ;;
+    --made) given=$(realpath "$2"); shift ;;
     --before) before+=("$(realpath "$2")"); shift ;;
     --cache) cache=$(realpath -m "$2"); shift ;;
     *) releases+=("$1") ;;
@@ -198,8 +200,8 @@ try_autopkgtest() {
 }
 
 for release in "${releases[@]}"; do
-  made=$roots/$release.made
-  build
+  made=${given:-$roots/$release.made}
+  [ -n "$given" ] || build
   try_archive
   try_package
   try_autopkgtest
