@@ -1,23 +1,35 @@
 #!/usr/bin/env bash
-# Makes the Debian package below build/package and checks it. Needs root or sudo only for packages that are missing.
+# Makes and checks everything that is given to others, in build/package or in the folder that is named:
+#   ovl-software-VERSION.tar.gz                    the sources; unpacked, they build without git
+#   ovl-software_*.deb, ovl-software-images_*.deb  the Debian packages
+#   ovl-software-VERSION-linux-MACHINE.tar.gz      the programs, to be started from any folder
+# Needs root or sudo only for Debian packages that are missing.
 set -euo pipefail
+out=$(realpath --canonicalize-missing "${1:-$(dirname "$0")/../build/package}")
 cd "$(dirname "$0")/.."
-tools/require g++ cmake ninja-build qt6-base-dev qt6-serialport-dev fonts-dejavu-core debhelper dpkg-dev fakeroot \
-  librsvg2-bin lintian appstream desktop-file-utils
+
+# Build-Depends is the only list of what the build needs.
+mapfile -t packages < <(sed -n '/^Build-Depends:/,/^[^ ]/s/^ \([a-z0-9.+-]*\).*/\1/p' packaging/debian/control)
+tools/require build-essential "${packages[@]/debhelper-compat/debhelper}" lintian appstream desktop-file-utils
 
 version=$(sed -n '1s/.*(\(.*\)).*/\1/p' packaging/debian/changelog)
 grep -q "VERSION $version " CMakeLists.txt || { echo "The changelog says $version, CMakeLists.txt does not." >&2; exit 1; }
-tree=build/package/ovl-software-$version
-rm -rf build/package
-mkdir -p "$tree"
-git ls-files -z --cached --others --exclude-standard | xargs -0 cp --parents --target-directory "$tree"
-cp -r packaging/debian "$tree/debian"
 
+echo "== Sources"
+rm -rf "$out"
+tree=$out/ovl-software-$version
+tar --extract --file "$(packaging/sources.sh "$out")" --directory "$out"
+cp -r "$tree/packaging/debian" "$tree/debian"
+
+echo "== Packages"
 export DEB_BUILD_OPTIONS="${DEB_BUILD_OPTIONS:-noautodbgsym parallel=$(nproc)}"
 (cd "$tree" && dpkg-buildpackage --build=binary --no-sign)
-
-packages=(build/package/*.deb)
-lintian --fail-on error,warning build/package/*.changes
+lintian --fail-on error,warning "$out"/*.changes
 appstreamcli validate --no-net "$tree"/debian/ovl-software/usr/share/metainfo/*.xml
 desktop-file-validate "$tree"/debian/ovl-software/usr/share/applications/*.desktop
-printf '%s\n' "${packages[@]}"
+
+echo "== Archive"
+(cd "$tree/obj" && cpack)
+mv "$tree"/obj/*-linux-*.tar.gz "$out"
+
+printf '%s\n' "$out"/*.deb "$out"/*.tar.gz

@@ -1,79 +1,208 @@
 #!/usr/bin/env bash
-# Tries the package in a Debian 12 of its own, as root: installs it, starts it and transfers a configuration as an
-# ordinary user, removes it and fails if anything is left. try.sh [FOLDER] keeps the root file system in the folder.
+# Builds the packages and the archive on bare Debian systems and tries every step of their lives, as root, each in a
+# root file system of its own. The outcomes are printed at the end.
+#   try.sh [--roots FOLDER] [--made FOLDER] [--before PACKAGE] [--cache FOLDER] [RELEASE...]
+#     --roots   keeps the bare root file systems and what was built there
+#     --made    tries what is in this folder, for instance what was built on the older release, and builds nothing
+#     --before  an older package, which is upgraded; several may be named
+#     --cache   a folder for ccache, which the builds then use
+# Without a release: bookworm trixie
 set -euo pipefail
-cd "$(dirname "$0")/.."
-[ "${TRY_ALONE:-}" ] || TRY_ALONE=1 exec unshare --mount --propagation private "packaging/try.sh" "$@"
-tools/require debootstrap
-packages=(build/package/ovl-software_*.deb)
+[ "${TRY_ALONE:-}" ] || TRY_ALONE=1 exec unshare --mount --propagation private "$0" "$@"
 
-root=${1:-}
-if [ -z "$root" ]; then
-  root=$(mktemp -d)
-  chmod 755 "$root"  # it becomes the root of an ordinary user
-  trap 'umount --recursive --lazy "$root/dev" "$root/proc" 2>/dev/null || true; rm -rf --one-file-system "$root"' EXIT
-fi
-[ -e "$root/etc/debian_version" ] || debootstrap --variant=minbase bookworm "$root"
-mount -t proc proc "$root/proc"
-mount --rbind /dev "$root/dev"
-cp /etc/resolv.conf "$root/etc/resolv.conf"
+roots='' given='' cache='' before=() releases=() table=() release='' now='' root=''
+while [ $# -gt 0 ]; do
+  case $1 in
+    --roots) roots=$(realpath -m "$2"); shift ;;
+    --made) given=$(realpath "$2"); shift ;;
+    --before) before+=("$(realpath "$2")"); shift ;;
+    --cache) cache=$(realpath -m "$2"); shift ;;
+    *) releases+=("$1") ;;
+  esac
+  shift
+done
+[ ${#releases[@]} -gt 0 ] || releases=(bookworm trixie)
+cd "$(dirname "$0")/.."
+tools/require debootstrap autopkgtest apt-utils
+work=$(mktemp -d)
+chmod 755 "$work"  # folders below it become the root of an ordinary user
+: "${roots:=$work/roots}"
 export DEBIAN_FRONTEND=noninteractive LC_ALL=C.UTF-8
+
+end_step() { [ -z "$now" ] || table+=("$(printf '%-9s %-75s %s' "$release" "$now" "$1")"); now=''; }
+step() {
+  end_step passed
+  now=$1
+  printf '\n== %s: %s\n' "$release" "$now"
+}
+report() {
+  if [ "$1" -eq 0 ]; then end_step passed; else end_step FAILED; fi
+  printf '\n'
+  printf '%s\n' "${table[@]}"
+}
+drop() {
+  [ -n "$root" ] || return 0
+  for mounted in dev proc cache; do umount --recursive --lazy "$root/$mounted" 2> /dev/null || true; done
+  if grep -qF " $root/" /proc/self/mounts; then return 1; fi
+  rm -rf "$root"
+  root=''
+}
+trap 'status=$?; report $status; drop && rm -rf "$work"' EXIT
+trap 'exit 130' HUP INT TERM  # a step that was broken off has not passed
+
 inside() { chroot "$root" "$@"; }
 as_user() { inside su - installer -c "$1"; }
+install_in() { inside apt-get install -q -y --no-install-recommends "$@" > /dev/null; }
+fail() { echo "$1" >&2; exit 1; }
+
+# A root file system of the release with nothing but Debian's required packages and an ordinary user.
+fresh() {
+  drop
+  if [ ! -e "$roots/$release/bare" ]; then
+    mkdir -p "$roots"
+    rm -rf "${roots:?}/$release"
+    debootstrap --variant=minbase "$release" "$roots/$release" > /dev/null
+    touch "$roots/$release/bare"
+  fi
+  root=$work/root
+  cp -a "$roots/$release" "$root"
+  mount -t proc proc "$root/proc"
+  mount --rbind /dev "$root/dev"
+  cp /etc/resolv.conf "$root/etc/resolv.conf"
+  inside apt-get update -q > /dev/null
+  inside useradd --create-home --shell /bin/bash installer
+}
+
+build() {
+  fresh
+  local sources=/home/installer/ovl-software compiler=()
+  tar --extract --file "$(packaging/sources.sh "$work")" --directory "$root/home/installer"
+  mv "$root"/home/installer/ovl-software-* "$root$sources"
+  step "build.sh without git, as a user without rights: names the missing packages"
+  inside chown -R installer: "$sources"
+  as_user "! '$sources/packaging/build.sh'" 2>&1 | tee "$work/said"
+  grep -q "as root:.* build-essential " "$work/said"
+  step "build.sh without git: packages and archive, no complaint of the checks"
+  if [ -n "$cache" ]; then
+    mkdir -p "$root/cache" "$cache"
+    mount --bind "$cache" "$root/cache"
+    install_in ccache
+    compiler=("PATH=/usr/lib/ccache:$PATH" CCACHE_DIR=/cache "CCACHE_BASEDIR=$sources" CCACHE_NOHASHDIR=1
+      "CCACHE_SLOPPINESS=pch_defines,time_macros")
+  fi
+  inside env "${compiler[@]}" "$sources/packaging/build.sh"
+  rm -rf "${made:?}"
+  mkdir -p "$made"
+  cp "$root$sources"/build/package/*.deb "$root$sources"/build/package/*.tar.gz "$made"
+}
+
+# The archive belongs to an ordinary user from the first to the last step; root only installs what it asks for.
+try_archive() {
+  fresh
+  local archive=/home/installer/ovl
+  step "archive: unpacked; ./start names what the system lacks"
+  cp "$made"/*-linux-*.tar.gz "$root/tmp/archive.tar.gz"
+  as_user "mkdir '$archive' && tar -xf /tmp/archive.tar.gz -C '$archive' --strip-components=1"
+  as_user "! '$archive/start' --check" 2>&1 | tee "$work/said"
+  step "archive: what ./start names is installed, and enough"
+  read -ra lacking < <(sed -n 's/.*apt install //p' "$work/said")
+  install_in "${lacking[@]}"
+  as_user "'$archive/start' --check"
+  step "archive: ./start without a firmware says how to set it"
+  as_user "! QT_QPA_PLATFORM=offscreen '$archive/start'"
+  as_user "! '$archive/start' --firmware V1400 R99"
+  as_user "'$archive/start' --firmware V1400 R12"
+  step "archive: ./start and a transfer as an ordinary user"
+  try_start "$archive"
+  step "archive: moved to a folder with blanks and umlauts, ./start and a transfer"
+  as_user "mkdir '/home/installer/Ein schöner Ort' && mv '$archive' '/home/installer/Ein schöner Ort/ovl'"
+  try_start "/home/installer/Ein schöner Ort/ovl"
+}
+
+try_start() {
+  cp packaging/debian/tests/transfer "$root/tmp/transfer"
+  as_user "PATH=\"$1/bin:\$PATH\" XDG_CONFIG_DIRS=\"\$HOME/.local/share/OVL Software\" /tmp/transfer '$1/start'"
+  as_user 'readlink "$HOME/.local/share/OVL Software/V1400/R12"' | grep -qxF "$1/share/ovl-software/images/V1400/R12"
+}
+
+# Everything but the records and caches of the system.
 files() {
   inside find / -xdev \( -path /proc -o -path /dev -o -path /tmp -o -path /var/cache -o -path /var/log \
     -o -path /var/lib/apt -o -path /var/lib/dpkg -o -path /run \) -prune -o -print | sort
 }
+# What the packages must never touch.
+contents() {
+  inside find /home /etc \( -path '/home/*' -o -path '/etc/xdg/ORB/*' \) -type f -exec sha256sum {} + | sort
+}
+is_kept() { contents | diff "$work/contents" - || fail "Files of the users or settings have changed."; }
+# All but one lead to the package, which is gone.
+no_dead_links() {
+  local dead
+  dead=$(inside find /home /root -xtype l)
+  [ "$dead" = "/home/installer/own link" ] || fail "Links that lead nowhere: $dead"
+}
 
-inside apt-get update -q
-inside id installer > /dev/null 2>&1 || inside useradd --create-home --shell /bin/bash installer
-files > "$root/tmp/before"
-cp "${packages[@]}" "$root/tmp"
-inside sh -c 'apt-get install -q -y --no-install-recommends fonts-dejavu-core /tmp/ovl-software_*.deb'
+try_package() {
+  fresh
+  mkdir "$root/tmp/new" "$root/tmp/old"
+  cp "$made"/*.deb "$root/tmp/new"
+  cp packaging/debian/tests/transfer "$root/tmp"
+  files > "$work/before"
+  if [ -n "${before:-}" ]; then
+    step "package of the version before: installed, started, a transfer"
+    cp "${before[@]}" "$root/tmp/old"
+    inside sh -c 'apt-get install -q -y --no-install-recommends fonts-dejavu-core /tmp/old/*.deb' > /dev/null
+    inside ovl-setup V1400 R12
+    as_user /tmp/transfer
+    printf '; of the administrator\nSite=Filiale 7\n' >> "$root/etc/xdg/ORB/OVL Software.conf"
+    as_user 'cp ".local/share/OVL Software/V1400/upload.bin" own.bin'
+    as_user 'printf "[window]\ntheme=dark\n" > ".local/share/OVL Software/window.ini"'
+    contents > "$work/contents"
+    step "packages: upgraded; settings and files of the users are the same"
+  else
+    step "packages: installed"
+  fi
+  inside sh -c 'apt-get install -q -y --no-install-recommends fonts-dejavu-core /tmp/new/*.deb'
+  [ -z "${before:-}" ] || is_kept
+  inside dpkg --audit
+  step "packages: ovl-setup refuses users and unknown firmware"
+  as_user '! /usr/sbin/ovl-setup V1400 R12'
+  if inside ovl-setup V1400 R99; then fail "V1400 R99 is no firmware"; fi
+  step "packages: the guide, ovl and a transfer as an ordinary user"
+  [ -n "${before:-}" ] || inside ovl-setup V1400 R12
+  as_user 'QT_QPA_PLATFORM=offscreen ovl --guide guide.pdf && ls -l guide.pdf'
+  as_user /tmp/transfer
+  as_user 'test -L ".local/share/OVL Software/V1400/R12"'
 
-echo "== As an ordinary user, before the firmware is set"
-as_user '! ovl && ! /usr/sbin/ovl-setup V1400 R12'
-echo "== ovl-setup"
-if inside ovl-setup V1400 R99; then exit 1; fi
-inside ovl-setup V1400 R12
-inside cat "/etc/xdg/ORB/OVL Software.conf"
-echo "== The guide and a transfer, as an ordinary user"
-as_user 'QT_QPA_PLATFORM=offscreen ovl --guide guide.pdf 2> /dev/null && ls -l guide.pdf'
-# The first start makes the folder of the program. It runs until it is stopped.
-as_user 'QT_QPA_PLATFORM=offscreen timeout 5 ovl 2> /dev/null || test $? = 124'
-as_user 'ls -l ".local/share/OVL Software/V1400"'
-cat > "$root/tmp/transfer" <<'END'
-set -e
-ovl-unit --link ".local/share/OVL Software/ports/com1" --memory unit.bin > /dev/null & unit=$!
-sleep 2
-ovl-script 2> /dev/null <<STATEMENTS
-store system
-folder "$HOME/.local/share/OVL Software"
-port real
-start
-click cmdConnect
-click cmdSET
-upload
-set DATE_FORMAT_BAK 02
-download
-upload
-expect field DATE_FORMAT_BAK 02
-expect no box
-STATEMENTS
-kill $unit
-wait $unit
-echo "transferred, and the unit had nothing to complain of"
-END
-as_user 'bash /tmp/transfer'
+  step "packages: removed; files of the users are kept, no link leads nowhere"
+  inside touch "/etc/xdg/ORB/OVL Software.conf.unsound" "/etc/xdg/ORB/OVL Software.conf.new"
+  contents > "$work/contents"
+  as_user 'ln -s "$HOME/gone" "own link"'
+  inside apt-get remove -q -y ovl-software
+  is_kept
+  no_dead_links
+  step "packages: purged; nothing is left but the files of the users"
+  inside apt-get purge -q -y --autoremove ovl-software ovl-software-images fonts-dejavu-core > /dev/null
+  files > "$work/after"
+  left=$(diff "$work/before" "$work/after" | grep '^>' | grep -vF '> /home/installer/' || true)
+  [ -z "$left" ] || fail "Left behind: $left"
+  grep -v ' /etc/' "$work/contents" > "$work/own" && mv "$work/own" "$work/contents"
+  is_kept
+  no_dead_links
+}
 
-echo "== Removed"
-inside touch "/etc/xdg/ORB/OVL Software.conf.unsound" "/etc/xdg/ORB/OVL Software.conf.new"
-inside apt-get remove -q -y ovl-software
-left=$(inside find / -xdev \( -path /proc -o -path /dev -o -path /tmp -o -path /home -o -path /etc/xdg/ORB -o -path /var \) -prune \
-  -o -iname '*ovl*' -print)
-inside apt-get purge -q -y --autoremove ovl-software fonts-dejavu-core > /dev/null
-files > "$root/tmp/after"
-left+=$(diff "$root/tmp/before" "$root/tmp/after" | grep '^>' | grep -vF "> $(as_user 'echo ~')/" || true)
-as_user 'find ~ -type f'
-[ -z "$left" ] || { printf 'Left behind:\n%s\n' "$left" >&2; exit 1; }
-echo "Nothing is left but the files of the user."
+try_autopkgtest() {
+  fresh
+  step "autopkgtest: the packages' own test, in a system without them"
+  mkdir -p "$work/test"
+  cp -r packaging/debian "$work/test"
+  autopkgtest "$made"/*.deb "$work/test/" --user installer -- chroot "$root"
+}
+
+for release in "${releases[@]}"; do
+  made=${given:-$roots/$release.made}
+  [ -n "$given" ] || build
+  try_archive
+  try_package
+  try_autopkgtest
+done
