@@ -1,6 +1,8 @@
 #include "ui/app/launch.h"
 
+#include <QByteArrayView>
 #include <QGuiApplication>
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <iostream>
@@ -8,13 +10,21 @@
 namespace ovl::ui {
 namespace {
 
-void ReportNoDisplay(QtMsgType type, const QMessageLogContext&, const QString& text) {
+bool NamesDisplay() {
+  constexpr std::array kNames = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
+  return !std::all_of(kNames.begin(), kNames.end(), qEnvironmentVariableIsEmpty);
+}
+
+// What the platform plug-ins say is the reason, but only if there is a name that can be wrong.
+void ReportNoDisplay(QtMsgType type, const QMessageLogContext& context, const QString& text) {
   if (type != QtFatalMsg) {
-    std::cerr << "ovl: " << text.toLocal8Bit().constData() << std::endl;
+    if (NamesDisplay() && QByteArrayView(context.category).startsWith("qt.qpa"))
+      std::cerr << "ovl: " << text.toLocal8Bit().constData() << std::endl;
     return;
   }
-  std::cerr << "ovl: there is no display to open a window on; DISPLAY is \"" << qgetenv("DISPLAY").constData()
-            << "\", WAYLAND_DISPLAY is \"" << qgetenv("WAYLAND_DISPLAY").constData() << "\"" << std::endl;
+  std::cerr << "ovl: OVL Software needs a display to open its window on; DISPLAY is \""
+            << qgetenv("DISPLAY").constData() << "\", WAYLAND_DISPLAY is \""
+            << qgetenv("WAYLAND_DISPLAY").constData() << "\"" << std::endl;
   std::_Exit(EXIT_FAILURE);
 }
 
