@@ -3,7 +3,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 tools/require g++ cmake ninja-build qt6-base-dev qt6-serialport-dev fonts-dejavu-core debhelper dpkg-dev fakeroot \
-  librsvg2-bin lintian appstream desktop-file-utils
+  help2man librsvg2-bin lintian appstream desktop-file-utils
 
 version=$(sed -n '1s/.*(\(.*\)).*/\1/p' packaging/debian/changelog)
 grep -q "VERSION $version " CMakeLists.txt || { echo "The changelog says $version, CMakeLists.txt does not." >&2; exit 1; }
