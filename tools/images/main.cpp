@@ -1,10 +1,10 @@
-#include <getopt.h>
-
-#include <array>
+#include <algorithm>
 #include <iostream>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "command_line/command_line.h"
 #include "core/failure.h"
 #include "firmware/firmware_table.h"
 #include "host/system/disk.h"
@@ -12,19 +12,26 @@
 
 namespace {
 
-constexpr const char* kHelp =
-    "ovl-images FOLDER [FIRMWARE...]\n"
-    "\n"
-    "Writes the default image of every register below FOLDER: a folder for each family, below it one for\n"
-    "each release, in it one .bin file for each name of the firmware's register list. Without FIRMWARE, such "
-    "as\n"
-    "V1400R12, all of them. Files that are there are replaced.\n"
-    "\n"
-    "Exit status: 0 done; 1 a file could not be written; 2 wrong usage.\n";
+using command_line::Wish;
 
-constexpr int kWrongUsage = 2;
-constexpr int kHelpAsked = 'h';
-constexpr std::array kOptions{option{"help", no_argument, nullptr, kHelpAsked}, option{}};
+const command_line::Program kProgram = {
+    "ovl-images",
+    "[OPTION] FOLDER [FIRMWARE]...",
+    "Writes the default image of every register below FOLDER: a folder for each\n"
+    "family, below it one for each release, in it one .bin file for each name of the\n"
+    "firmware's register list. Without FIRMWARE, such as V1400R12, all of them. Files\n"
+    "that are there are replaced.\n",
+    {},
+    "\n"
+    "Exit status:\n"
+    "  0  done\n"
+    "  1  a file could not be written\n"
+    "  2  wrong usage\n"
+    "\n"
+    "Examples:\n"
+    "  The images of two firmware below the folder \"site\":\n"
+    "\n"
+    "  $ ovl-images site V1400R12 V1300R14\n"};
 
 bool Wanted(const ovl::firmware::FirmwareId& firmware, const std::vector<std::string>& names) {
   if (names.empty()) return true;
@@ -41,42 +48,39 @@ bool IsFirmware(const std::string& name) {
   return false;
 }
 
+// What is wrong with the folder and the firmware; empty if nothing is.
+std::string WhyNot(const std::vector<std::string>& words) {
+  if (words.empty()) return "FOLDER is missing";
+  if (words.front().empty() || words.front().front() == '-')
+    return "no folder may be called \"" + words.front() + "\"";
+  const auto unknown = std::find_if_not(words.begin() + 1, words.end(), IsFirmware);
+  return unknown == words.end() ? "" : *unknown + ": there is no such firmware";
+}
+
+int WriteImages(const std::string& folder, const std::vector<std::string>& names) {
+  int files = 0;
+  for (const auto& entry : ovl::firmware::FirmwareTable()) {
+    const ovl::firmware::FirmwareId firmware{std::string(entry.version), std::string(entry.release)};
+    if (entry.in_menu && Wanted(firmware, names)) files += ovl::images::WriteDefaultImages(folder, firmware);
+  }
+  return files;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   ovl::host::OutliveSizeLimit();
-  const int found = ::getopt_long(argc, argv, "", kOptions.data(), nullptr);
-  if (found == kHelpAsked) {
-    std::cout << kHelp;
-    return 0;
-  }
-  if (found != -1) return kWrongUsage;  // getopt_long has named the wrong word
-  const std::vector<std::string> words(argv + optind, argv + argc);
-  if (words.empty()) {
-    std::cerr << kHelp;
-    return kWrongUsage;
-  }
-  if (words.front().empty() || words.front().front() == '-') {
-    std::cerr << "ovl-images: no folder may be called \"" << words.front() << "\"\n";
-    return kWrongUsage;
-  }
-  const std::vector<std::string> names(words.begin() + 1, words.end());
-  for (const auto& name : names) {
-    if (IsFirmware(name)) continue;
-    std::cerr << "ovl-images: no firmware is called " << name << "\n";
-    return kWrongUsage;
-  }
-  int files = 0;
+  const auto read = command_line::Read(kProgram, std::vector<std::string_view>(argv + 1, argv + argc));
+  if (read.wish != Wish::kRun) return command_line::Answer(kProgram, read.wish, read.error);
+  const auto& words = read.arguments;
+  if (const auto error = WhyNot(words); !error.empty())
+    return command_line::Answer(kProgram, Wish::kWrong, error);
   try {
-    for (const auto& entry : ovl::firmware::FirmwareTable()) {
-      const ovl::firmware::FirmwareId firmware{std::string(entry.version), std::string(entry.release)};
-      if (entry.in_menu && Wanted(firmware, names))
-        files += ovl::images::WriteDefaultImages(words.front(), firmware);
-    }
+    const int files = WriteImages(words.front(), {words.begin() + 1, words.end()});
+    std::cout << files << " default images below " << words.front() << "\n";
   } catch (const ovl::core::Failure& failure) {
     std::cerr << "ovl-images: " << failure.Text() << "\n";
     return 1;
   }
-  std::cout << files << " default images below " << words.front() << "\n";
   return 0;
 }

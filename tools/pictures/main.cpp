@@ -14,10 +14,14 @@
 
 namespace {
 
-const QString kDescription = QStringLiteral(
-    "Writes pictures of all windows of OVL Software into the folder, light and dark.\n"
-    "\n"
-    "Exit status: 0 done; 1 a picture or the guide could not be written; 2 wrong usage.");
+const QString kDescription =
+    QStringLiteral("\nWrites pictures of all windows of OVL Software into the folder, light and dark.");
+
+const QString kExitStatus = QStringLiteral(
+    "Exit status:\n"
+    "  0  done\n"
+    "  1  a picture or the guide could not be written\n"
+    "  2  wrong usage\n");
 
 int Fail(const char* what, const ovl::core::Failure& failure) {
   std::cerr << "ovl-pictures: " << what << " cannot be written: " << failure.Text() << "\n";
@@ -28,7 +32,7 @@ int Fail(const char* what, const ovl::core::Failure& failure) {
 
 int main(int argc, char** argv) {
   const auto guide_option = QStringLiteral("guide");
-  ovl::ui::CommandLine command_line(QStringLiteral("ovl-pictures"), kDescription);
+  ovl::ui::CommandLine command_line(QStringLiteral("ovl-pictures"), kDescription, kExitStatus);
   command_line.AddArgument(QStringLiteral("FOLDER"), QStringLiteral("where the pictures go"));
   command_line.AddOption(guide_option, QStringLiteral("FILE"),
                          QStringLiteral("writes the installer's guide with the pictures as a PDF"));

@@ -46,7 +46,7 @@ constexpr auto kStatements = std::to_array<Statement>({
      "prints what a download would change, TAB: CAPTION: \"BEFORE\" -> \"AFTER\", one setting a line",
      Changes},
     {"copy", "copy exception FROM TO [LAST]\ncopy alarm FROM TO [LAST]",
-     "copies an exception or alarm to another number, or to the numbers TO to LAST", Copy},
+     "copies an exception to another number, or to TO to LAST\nthe same for alarms", Copy},
 });
 
 }  // namespace

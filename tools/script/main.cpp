@@ -1,34 +1,22 @@
-#include <getopt.h>
-
-#include <array>
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <vector>
 
+#include "command_line/command_line.h"
 #include "host/system/disk.h"
 #include "script/runner.h"
 
 namespace {
 
+using command_line::Wish;
 using ovl::script::ExitStatus;
 
-constexpr int kHelp = 'h';
-constexpr std::array kOptions{option{"help", no_argument, nullptr, kHelp}, option{}};
-
-ExitStatus RefuseUsage() {
-  std::cerr << "Usage: ovl-script [FILE]; ovl-script --help lists the statements.\n";
-  return ExitStatus::kWrongStatement;
-}
-
 ExitStatus Run(const std::vector<std::string>& words) {
-  if (words.size() > 1) {
-    std::cerr << "ovl-script: one file at most is expected, not \"" << words[1] << "\"\n";
-    return RefuseUsage();
-  }
   ovl::script::Session session(std::cout, std::cerr);
   if (words.empty() || words[0] == "-") return RunScript(session, std::cin, "stdin", std::cerr);
   std::ifstream file(words[0], std::ios::binary);
@@ -48,11 +36,10 @@ ExitStatus Run(const std::vector<std::string>& words) {
 
 int main(int argc, char** argv) {
   ovl::host::OutliveSizeLimit();
-  const int found = ::getopt_long(argc, argv, "", kOptions.data(), nullptr);
-  if (found == kHelp) {
-    std::cout << ovl::script::HelpText();
-    return 0;
-  }
-  if (found != -1) return static_cast<int>(RefuseUsage());  // getopt_long has named the wrong word
-  return static_cast<int>(Run({argv + optind, argv + argc}));
+  const auto program = ovl::script::Description();
+  const auto read = command_line::Read(program, std::vector<std::string_view>(argv + 1, argv + argc));
+  if (read.wish != Wish::kRun) return command_line::Answer(program, read.wish, read.error);
+  if (read.arguments.size() > 1)
+    return command_line::Answer(program, Wish::kWrong, read.arguments[1] + ": one file at most is expected");
+  return static_cast<int>(Run(read.arguments));
 }

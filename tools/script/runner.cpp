@@ -1,5 +1,7 @@
 #include "script/runner.h"
 
+#include <algorithm>
+
 #include "core/failure.h"
 #include "script/parser.h"
 #include "script/statements.h"
@@ -9,22 +11,29 @@ namespace {
 
 constexpr std::size_t kHelpColumn = 31;
 
-constexpr std::string_view kIntroduction =
-    "ovl-script [FILE]\n"
+constexpr std::string_view kPurpose =
+    "Runs OVL Software without a screen, from a script or from standard input. The\n"
+    "statements press the program's controls by name, let the unit speak on a\n"
+    "simulated line or use the machine's own ports, transfer whole configurations,\n"
+    "look at files, and check the results. There is one statement on a line, and #\n"
+    "starts a comment. A text is in double quotes, with \\\" \\\\ \\r \\n \\t \\xHH.\n"
     "\n"
-    "Runs OVL Software without a screen, from a script or from standard input. One statement\n"
-    "a line, # starts a comment. A text stands in double quotes with \\\" \\\\ \\r \\n \\t \\xHH.\n"
-    "NAME is a control's name with its index, ComboCOMM(3), where two forms share it with the\n"
-    "form in front, FrmSubMenu.Combo1(1). OpMicros(3) is an element of an option array.\n"
-    "\n";
+    "NAME is a control's name with its index, ComboCOMM(3). If two forms share it,\n"
+    "the form is in front, FrmSubMenu.Combo1(1). OpMicros(3) is an element of an\n"
+    "option array.\n"
+    "\n"
+    "pick, click and type on a control that is disabled or hidden print\n"
+    "\"refused NAME\". A message box prints \"box TITLE TEXT\", the end of the program\n"
+    "\"ended\".\n";
 
-constexpr std::string_view kClosing =
+constexpr std::string_view kExitStatus =
     "\n"
-    "pick, click and type on a control that is disabled or hidden print \"refused NAME\". A\n"
-    "message box prints \"box TITLE TEXT\", the end of the program \"ended\".\n"
-    "\n"
-    "Exit status: 0 done; 1 an expectation failed; 2 a statement is wrong; 3 the program ended\n"
-    "and a statement that needs it was left; 4 a transfer failed.\n";
+    "Exit status:\n"
+    "  0  done\n"
+    "  1  an expectation failed\n"
+    "  2  wrong usage, or a statement is wrong\n"
+    "  3  the program ended, and a statement that needs it was left\n"
+    "  4  a transfer failed\n";
 
 void RunLine(Session& session, std::string_view line) {
   auto words = SplitWords(line);
@@ -41,21 +50,23 @@ void RunLine(Session& session, std::string_view line) {
   if (!session.Output().flush()) Wrong("the output cannot be written");
 }
 
-// The forms of a statement one below the other, its explanation beside the last of them.
+// The first line of the text, which is removed from it.
+std::string_view TakeLine(std::string_view& text) {
+  const auto line = text.substr(0, text.find('\n'));
+  text.remove_prefix(std::min(line.size() + 1, text.size()));
+  return line;
+}
+
+// Each form of a statement with its explanation beside it, or below it if there is no room.
 std::string HelpOf(const Statement& statement) {
   std::string text;
-  std::string_view left = statement.forms;
-  for (auto end = left.find('\n'); end != std::string_view::npos; end = left.find('\n')) {
-    text.append(left.substr(0, end + 1));
-    left.remove_prefix(end + 1);
+  for (auto forms = statement.forms, help = statement.help; !forms.empty();) {
+    auto form = std::string(TakeLine(forms));
+    if (form.size() + 2 > kHelpColumn) form.append("\n  ").append(kHelpColumn, ' ');
+    form.resize(std::max(kHelpColumn, form.size()), ' ');
+    text.append("  ").append(form).append(TakeLine(help)).append("\n");
   }
-  text.append(left);
-  if (left.size() + 2 <= kHelpColumn) {
-    text.append(kHelpColumn - left.size(), ' ');
-  } else {
-    text.append("\n").append(kHelpColumn, ' ');
-  }
-  return text.append(statement.help).append("\n");
+  return text;
 }
 
 }  // namespace
@@ -80,10 +91,10 @@ ExitStatus RunScript(Session& session, std::istream& script, const std::string& 
   return leave(ExitStatus::kWrongStatement, "the script cannot be read");
 }
 
-std::string HelpText() {
-  std::string text(kIntroduction);
-  for (const auto& statement : Statements()) text += HelpOf(statement);
-  return text.append(kClosing);
+command_line::Program Description() {
+  std::string statements = "\nStatements:\n";
+  for (const auto& statement : Statements()) statements += HelpOf(statement);
+  return {"ovl-script", "[OPTION] [FILE]", kPurpose, {}, statements.append(kExitStatus)};
 }
 
 }  // namespace ovl::script

@@ -5,6 +5,7 @@
 #include <ostream>
 #include <string>
 
+#include "command_line/command_line.h"
 #include "script/session.h"
 #include "script/stop.h"
 
@@ -13,7 +14,6 @@ namespace ovl::script {
 // Runs line after line and stops at the first that fails. The reason goes to `errors` as "NAME:LINE: reason".
 ExitStatus RunScript(Session& session, std::istream& script, const std::string& name, std::ostream& errors);
 
-// What --help prints.
-std::string HelpText();
+command_line::Program Description();
 
 }  // namespace ovl::script

@@ -302,30 +302,32 @@ void Echo(Session& session, Arguments& arguments) {
 
 constexpr auto kStatements = std::to_array<Statement>({
     {"folder", "folder PATH", "the program folder", Folder},
-    {"setting", "setting NAME \"TEXT\"", "a value of the settings store, which stands in memory", Setting},
+    {"setting", "setting NAME \"TEXT\"", "a value of the settings store, which is kept in memory", Setting},
     {"store", "store system", "the machine's settings store instead", Store},
-    {"start", "start", "starts the program; later the next start with the same store and folder", Start,
+    {"start", "start", "starts the program; again: the next start with the same store and folder", Start,
      true},
     {"pick", "pick NAME POSITION|\"ENTRY\"", "picks in a list, or an element of an option array", Pick},
-    {"click", "click NAME", "a button, a menu item, or a check box (turned over)", Click},
+    {"click", "click NAME", "clicks a button, a menu item or a check box", Click},
     {"type", "type NAME \"TEXT\"", "replaces the text of a text box; a list refuses it silently", Type},
     {"leave", "leave NAME", "the control loses the focus", Leave},
     {"key", "key NAME Enter|Escape", "a key pressed in it", Press},
     {"point", "point NAME", "the pointer moves over it", Point},
     {"close", "close FORM", "the form's window button", Close},
-    {"unit", "unit \"TEXT\"\nunit hex 06 15", "characters from the unit, one receive event each", Unit},
+    {"unit", "unit \"TEXT\"\nunit hex 06 15",
+     "the unit sends these characters, one receive event each\nthe same as bytes", Unit},
     {"drain", "drain [N]", "the transmitter runs empty N times, or until nothing more is sent", Drain},
     {"sent", "sent", "prints what was written to the port since it was last asked", Sent, true},
     {"tick", "tick TIMER [N]", "N ticks of a timer that is enabled; of another, nothing", Tick},
     {"wait", "wait MS", "time passes; timers tick in the order in which they come due", Wait},
-    {"clock", "clock \"2026-03-05 14:07:09\"", "the clock stands at this time, and moves with wait", Clock},
-    {"answer", "answer \"PATH\"\nanswer cancel", "answers the next file dialog; without one, cancel", Answer},
+    {"clock", "clock \"2026-03-05 14:07:09\"", "sets the clock; it moves with wait", Clock},
+    {"answer", "answer \"PATH\"\nanswer cancel",
+     "answers the next file dialog\ncancels it, as without an answer", Answer},
     {"port", "port ok\nport fail \"REASON\"\nport unplug\nport real",
-     "the simulated line opens, refuses, is lost; the machine's own ports", Port},
+     "the simulated line opens\nit refuses to open\nit is lost\nuses the machine's own ports", Port},
     {"show", "show NAME", "prints NAME = position \"text\" visible|hidden enabled|disabled", Show},
     {"list", "list NAME", "prints its entries, one a line", PrintList},
     {"field", "field NAME", "prints an image field, NAME = HEX; entries count from 1: EXCPSTRS(3)", Field},
-    {"set", "set NAME HEX", "writes an image field as it stands", Set},
+    {"set", "set NAME HEX", "writes the digits into an image field", Set},
     {"var", "var NAME", "prints a state variable, NAME = value", Var},
     {"stream", "stream [PATH]", "prints what a download would send, or writes it into a file", Stream},
     {"dump", "dump [PATH]", "writes the image by field names; without PATH into the family's report file",
@@ -336,13 +338,18 @@ constexpr auto kStatements = std::to_array<Statement>({
     {"upload", "upload [PATH]", "a whole upload on the real port; the image then into a file", Upload},
     {"download", "download [PATH]", "a whole download on the real port, of the image or of a file", Download},
     {"expect",
-     "expect field NAME HEX\nexpect var NAME VALUE [within MS]\nexpect count NAME N\nexpect list NAME \"A\" "
-     "\"B\" ...\n"
-     "expect NAME POSITION\nexpect NAME \"TEXT\"\n"
-     "expect visible|hidden|enabled|disabled|checked|unchecked NAME\nexpect sent \"TEXT\"\n"
+     "expect field NAME HEX\nexpect var NAME VALUE [within MS]\nexpect count NAME N\nexpect list NAME "
+     "\"TEXT\"...\nexpect NAME POSITION\nexpect NAME \"TEXT\"\nexpect visible|hidden NAME\n"
+     "expect enabled|disabled NAME\nexpect checked|unchecked NAME\nexpect sent \"TEXT\"\n"
      "expect box [\"TITLE\"] \"TEXT\"\nexpect no box\nexpect advice \"TEXT\"\nexpect no advice [\"TEXT\"]\n"
      "expect ended",
-     "the script fails if it is otherwise", Expect, true},
+     "the script fails unless an image field has these digits\na state variable has this value, or gets it "
+     "in time\na list has N entries\nit has these entries\nthis position is selected\nthe control has this "
+     "text\nit is visible or hidden\nit is enabled or disabled\nit is checked or not\nthis was written to "
+     "the "
+     "port since it was last asked\nthe next message box has this title and text\nno message box is left\n"
+     "this advice applies\nnone applies, or not this\nthe program has ended",
+     Expect, true},
     {"echo", "echo \"TEXT\"", "prints a text", Echo, true},
 });
 

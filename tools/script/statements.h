@@ -12,7 +12,7 @@ namespace ovl::script {
 struct Statement {
   std::string_view word;
   std::string_view forms;  // how people write it, one form a line
-  std::string_view help;
+  std::string_view help;   // a line for each form
   void (*run)(Session&, Arguments&);
   bool after_end = false;  // can follow the end of the program
 };

@@ -177,7 +177,8 @@ std::string FaultHelp() {
     std::string line = "  " + std::string(row.word) + std::string(row.argument);
     line.resize(std::max(kColumn, line.size() + 1), ' ');
     help += line + std::string(row.help) + "\n";
-    if (!row.targets.empty()) help += std::string(kColumn, ' ') + "operations: " + Words(row.targets) + "\n";
+    if (!row.targets.empty())
+      help += std::string(kColumn, ' ') + "(the operations: " + Words(row.targets) + ")\n";
   }
   return help;
 }

@@ -22,11 +22,8 @@ int Fail(const std::string& error) {
 int main(int count, char** values) {
   const std::vector<std::string_view> arguments(values + 1, values + count);
   const unit::ParsedOptions parsed = unit::ParseOptions(arguments);
-  if (!parsed.error.empty()) return Fail(parsed.error + "\nTry \"ovl-unit --help\".");
-  if (parsed.options.help) {
-    std::cout << unit::HelpText();
-    return 0;
-  }
+  if (parsed.wish != command_line::Wish::kRun)
+    return command_line::Answer(unit::Description(), parsed.wish, parsed.error);
   std::string error;
   const std::unique_ptr<unit::Session> session = unit::Session::Start(parsed.options, error);
   if (!session) return Fail(error);

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "command_line/command_line.h"
 #include "unit/faults.h"
 #include "unit/firmware.h"
 
@@ -25,12 +26,12 @@ struct Options {
   std::uint64_t seed = 1;
   std::vector<Fault> faults;
   bool verbose = false;
-  bool help = false;
 };
 
 // Reads a command line without the program's name. `error` names the wrong option and value, or is empty.
 struct ParsedOptions {
   Options options;
+  command_line::Wish wish = command_line::Wish::kRun;
   std::string error;
 };
 ParsedOptions ParseOptions(std::span<const std::string_view> arguments);
@@ -38,6 +39,6 @@ ParsedOptions ParseOptions(std::span<const std::string_view> arguments);
 // The number of lines if `history` asks for made-up ones, "lines:N". Nothing if it names a file.
 std::optional<unsigned> MadeUpLines(std::string_view history);
 
-std::string HelpText();
+command_line::Program Description();
 
 }  // namespace unit

@@ -1,19 +1,30 @@
 #include "ui/app/launch.h"
 
+#include <QByteArrayView>
 #include <QGuiApplication>
+#include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <iostream>
 
 namespace ovl::ui {
 namespace {
 
-void ReportNoDisplay(QtMsgType type, const QMessageLogContext&, const QString& text) {
+bool NamesDisplay() {
+  constexpr std::array kNames = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
+  return !std::all_of(kNames.begin(), kNames.end(), qEnvironmentVariableIsEmpty);
+}
+
+// What the platform plug-ins say is the reason, but only if there is a name that can be wrong.
+void ReportNoDisplay(QtMsgType type, const QMessageLogContext& context, const QString& text) {
   if (type != QtFatalMsg) {
-    std::cerr << "ovl: " << text.toLocal8Bit().constData() << std::endl;
+    if (NamesDisplay() && QByteArrayView(context.category).startsWith("qt.qpa"))
+      std::cerr << "ovl: " << text.toLocal8Bit().constData() << std::endl;
     return;
   }
-  std::cerr << "ovl: there is no display to open a window on; DISPLAY is \"" << qgetenv("DISPLAY").constData()
-            << "\", WAYLAND_DISPLAY is \"" << qgetenv("WAYLAND_DISPLAY").constData() << "\"" << std::endl;
+  std::cerr << "ovl: OVL Software needs a display to open its window on; DISPLAY is \""
+            << qgetenv("DISPLAY").constData() << "\", WAYLAND_DISPLAY is \""
+            << qgetenv("WAYLAND_DISPLAY").constData() << "\"" << std::endl;
   std::_Exit(EXIT_FAILURE);
 }
 
@@ -25,13 +36,14 @@ QStringList WordsOf(int argc, char** argv) {
 
 }  // namespace
 
-CommandLine::CommandLine(const QString& name, const QString& description) : name_(name) {
+CommandLine::CommandLine(const QString& name, const QString& description, const QString& exit_status)
+    : name_(name), exit_status_(exit_status) {
   parser_.setApplicationDescription(description);
-  parser_.addOption({QStringLiteral("help"), QStringLiteral("shows this text")});
-  AddOption(QStringLiteral("folder"), QStringLiteral("PATH"),
+  AddOption(QStringLiteral("folder"), QStringLiteral("FOLDER"),
             QStringLiteral("the program folder, with default images, uploads and links to ports"));
   AddOption(QStringLiteral("store"), QStringLiteral("FOLDER"),
-            QStringLiteral("keeps the settings below this folder instead of the machine's place for them"));
+            QStringLiteral(
+                "keeps the settings in ORB/OVL Software.conf below this folder, not in the machine's file"));
 }
 
 void CommandLine::AddOption(const QString& option, const QString& value, const QString& description) {
@@ -42,26 +54,45 @@ void CommandLine::AddArgument(const QString& word, const QString& description, N
   const bool required = need == Need::kRequired;
   parser_.addPositionalArgument(word, description,
                                 required ? word : QLatin1Char('[') + word + QLatin1Char(']'));
-  ++(required ? required_ : optional_);
+  (required ? required_ : optional_).append(word);
 }
 
-std::optional<int> CommandLine::Read(int& argc, char** argv) {
+std::optional<int> CommandLine::Read(int argc, char** argv) {
+  const auto help = QStringLiteral("help"), version = QStringLiteral("version");
+  parser_.addOption({{QStringLiteral("h"), help}, QStringLiteral("shows this text")});
+  parser_.addOption({version, QStringLiteral("shows the version")});
   const bool understood = parser_.parse(WordsOf(argc, argv));
-  const bool help = understood && parser_.isSet(QStringLiteral("help"));
-  const auto given = parser_.positionalArguments().size();
-  const bool fits = given >= required_ && given <= required_ + optional_;
-  if (understood && !help && fits) return std::nullopt;
-  // The help text contains the name of the program, which only an application object knows.
-  const QCoreApplication application(argc, argv);
-  if (help) {
-    std::cout << parser_.helpText().toLocal8Bit().constData();
+  if (understood && parser_.isSet(help)) {
+    PrintHelp();
     return EXIT_SUCCESS;
   }
-  if (!understood)
-    std::cerr << name_.toLocal8Bit().constData() << ": " << parser_.errorText().toLocal8Bit().constData()
-              << "\n\n";
-  std::cerr << parser_.helpText().toLocal8Bit().constData();
+  const auto name = name_.toStdString();
+  if (understood && parser_.isSet(version)) {
+    std::cout << name << " " OVL_VERSION "\n";
+    return EXIT_SUCCESS;
+  }
+  const auto problem = Problem(understood);
+  if (problem.isEmpty()) return std::nullopt;
+  std::cerr << name << ": " << problem.toLocal8Bit().constData() << "\nTry \"" << name << " --help\".\n";
   return kWrongUsage;
+}
+
+// The parser takes the name of the program from the application object.
+void CommandLine::PrintHelp() const {
+  auto name = name_.toLocal8Bit();
+  std::array<char*, 2> words{name.data(), nullptr};
+  int count = 1;
+  const QCoreApplication application(count, words.data());
+  std::cout << parser_.helpText().toLocal8Bit().constData() << '\n' << exit_status_.toLocal8Bit().constData();
+}
+
+QString CommandLine::Problem(bool understood) const {
+  if (!understood) return parser_.errorText();
+  const auto given = parser_.positionalArguments();
+  if (given.size() < required_.size()) return required_.at(given.size()) + QStringLiteral(" is missing");
+  const auto most = required_.size() + optional_.size();
+  return given.size() > most ? given.at(most) + QStringLiteral(": there is one argument too many")
+                             : QString();
 }
 
 DisplayMessage::DisplayMessage() {

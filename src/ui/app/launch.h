@@ -4,6 +4,7 @@
 
 #include <QCommandLineParser>
 #include <QString>
+#include <QStringList>
 #include <optional>
 
 #include "core/failure.h"
@@ -13,11 +14,13 @@ namespace ovl::ui {
 
 inline constexpr int kWrongUsage = 2;  // exit status
 
-// The command line of a program. The options `--folder` and `--store` always exist.
+// The command line of a program. The options `--folder`, `--store`, `--help`, `-h` and `--version` always
+// exist.
 class CommandLine {
  public:
-  // `name` is the start of error messages.
-  CommandLine(const QString& name, const QString& description);
+  // `--help` prints the description above the options and the exit status below them. The manual page and the
+  // completion of the shell are made from this text.
+  CommandLine(const QString& name, const QString& description, const QString& exit_status);
 
   void AddOption(const QString& option, const QString& value, const QString& description);
   enum class Need { kRequired, kOptional };
@@ -25,9 +28,9 @@ class CommandLine {
   // Adds an argument, such as "FOLDER". Those that can be left out are last.
   void AddArgument(const QString& word, const QString& description, Need need = Need::kRequired);
 
-  // Reads the command line. Returns the exit status when the program must end: help was asked for, or the
-  // arguments are wrong. Needs no application object.
-  std::optional<int> Read(int& argc, char** argv);
+  // Reads the command line. Returns the exit status when the program must end: help or version were asked
+  // for, or the arguments are wrong. Needs no application object.
+  std::optional<int> Read(int argc, char** argv);
 
   QString Folder() const { return parser_.value(QStringLiteral("folder")); }
   QString Store() const { return parser_.value(QStringLiteral("store")); }
@@ -36,9 +39,13 @@ class CommandLine {
   QString Argument() const { return parser_.positionalArguments().value(0); }
 
  private:
+  void PrintHelp() const;
+  // What is wrong with the command line that was read; empty if nothing is.
+  QString Problem(bool understood) const;
+
   QCommandLineParser parser_;
-  QString name_;
-  qsizetype required_ = 0, optional_ = 0;
+  QString name_, exit_status_;
+  QStringList required_, optional_;
 };
 
 // Without a display Qt ends the process while the application object is made. As long as this object lives,

@@ -19,9 +19,14 @@
 namespace {
 
 const QString kDescription = QStringLiteral(
-    "Configures an overlay unit over a serial line.\n"
-    "\n"
-    "Exit status: 0 done; 1 the program could not start or the guide could not be written; 2 wrong usage.");
+    "\nConnects to a unit that writes register text over a CCTV picture, reads its\n"
+    "configuration, shows it on a tabbed form and writes it back.");
+
+const QString kExitStatus = QStringLiteral(
+    "Exit status:\n"
+    "  0  done\n"
+    "  1  the program could not start, or the guide could not be written\n"
+    "  2  wrong usage\n");
 
 // Empty when there is no folder to work in.
 std::optional<QString> FindFolder(const QString& given) {
@@ -46,12 +51,13 @@ int SaveGuide(const QString& file) {
 
 int main(int argc, char** argv) {
   const auto guide_option = QStringLiteral("guide");
-  ovl::ui::CommandLine command_line(QStringLiteral("ovl"), kDescription);
+  ovl::ui::CommandLine command_line(QStringLiteral("ovl"), kDescription, kExitStatus);
   command_line.AddOption(guide_option, QStringLiteral("FILE"),
                          QStringLiteral("writes the installer's guide as a PDF and ends"));
-  command_line.AddArgument(QStringLiteral("FILE"),
-                           QStringLiteral("a configuration that is opened at the start"),
-                           ovl::ui::CommandLine::Need::kOptional);
+  command_line.AddArgument(
+      QStringLiteral("FILE"),
+      QStringLiteral("a configuration that is opened at the start, as \"File\", \"Open\" does"),
+      ovl::ui::CommandLine::Need::kOptional);
   if (const auto status = command_line.Read(argc, argv)) return *status;
   ovl::host::OutliveSizeLimit();
   std::optional<ovl::ui::DisplayMessage> no_display(std::in_place);

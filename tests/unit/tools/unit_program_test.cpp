@@ -338,11 +338,11 @@ TEST(UnitOptions, AnErrorNamesTheWrongOptionAndItsValue) {
     const std::string error = parse({row.substr(0, row.find(' ')), row.substr(row.find(' ') + 1)}).error;
     EXPECT_TRUE(error.starts_with(std::string(row) + ": ")) << row << " / " << error;
   }
-  EXPECT_EQ(parse({"--speed"}).error, "--speed needs a value, N");
+  EXPECT_EQ(parse({"--seed"}).error, "--seed needs a value, N");
   EXPECT_EQ(parse({"--sped=9600"}).error, "--sped: there is no such option");
   EXPECT_EQ(parse({"--help=1"}).error, "--help takes no value");
   EXPECT_EQ(parse({"--pace=off", "--", "--help"}).error, "--help: only options are expected");
-  const auto [options, error] =
+  const auto [options, wish, error] =
       parse({"--speed=115200", "--fault", "stall:5,100", "--pace", "off", "--history=lines:100000"});
   EXPECT_EQ(error, "");
   EXPECT_TRUE(options.speed == 115200U && !options.paced);

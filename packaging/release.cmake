@@ -1,0 +1,21 @@
+# The version is that of project(). The newest entry of the Debian changelog must have it, and the date of the
+# release comes from there: its format asks for one.
+set(changelog ${CMAKE_CURRENT_SOURCE_DIR}/debian/changelog)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${changelog})
+file(STRINGS ${changelog} newest LIMIT_COUNT 1)
+if(NOT newest MATCHES "\\(([0-9.]+)" OR NOT CMAKE_MATCH_1 VERSION_EQUAL PROJECT_VERSION)
+  message(FATAL_ERROR "CMakeLists.txt has the version ${PROJECT_VERSION}, but ${changelog} begins with ${CMAKE_MATCH_1}")
+endif()
+
+file(STRINGS ${changelog} trailer LIMIT_COUNT 1 REGEX "^ -- ")
+if(NOT trailer MATCHES "([0-9]+) ([A-Z][a-z][a-z]) ([0-9][0-9][0-9][0-9]) ")
+  message(FATAL_ERROR "${changelog} has no date below its first entry")
+endif()
+set(day ${CMAKE_MATCH_1})
+set(year ${CMAKE_MATCH_3})
+set(months Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec)
+list(FIND months ${CMAKE_MATCH_2} month)
+math(EXPR month "${month} + 1")
+string(REGEX REPLACE "^(.)$" "0\\1" day ${day})
+string(REGEX REPLACE "^(.)$" "0\\1" month ${month})
+set(OVL_RELEASE_DATE ${year}-${month}-${day})
