@@ -88,7 +88,7 @@ build() {
     mount --bind "$cache" "$root/cache"
     install_in ccache
     compiler=("PATH=/usr/lib/ccache:$PATH" CCACHE_DIR=/cache "CCACHE_BASEDIR=$sources" CCACHE_NOHASHDIR=1
-      "CCACHE_SLOPPINESS=pch_defines,time_macros")
+      CCACHE_SLOPPINESS=pch_defines,time_macros)
   fi
   inside env "${compiler[@]}" "$sources/packaging/build.sh"
   rm -rf "${made:?}"

@@ -6,6 +6,7 @@
 
 #include "core/failure.h"
 #include "host/program_folder.h"
+#include "pictures/camera_picture.h"
 #include "pictures/pictures.h"
 #include "ui/app/launch.h"
 #include "ui/help/guide.h"
@@ -14,8 +15,9 @@
 
 namespace {
 
-const QString kDescription =
-    QStringLiteral("\nWrites pictures of all windows of OVL Software into the folder, light and dark.");
+const QString kDescription = QStringLiteral(
+    "\nWrites pictures of all windows of OVL Software into the folder, light and dark, and a drawing of what\n"
+    "a unit writes over the picture of a camera.");
 
 const QString kExitStatus = QStringLiteral(
     "Exit status:\n"
@@ -26,6 +28,12 @@ const QString kExitStatus = QStringLiteral(
 int Fail(const char* what, const ovl::core::Failure& failure) {
   std::cerr << "ovl-pictures: " << what << " cannot be written: " << failure.Text() << "\n";
   return EXIT_FAILURE;
+}
+
+void PrintMessage(QtMsgType, const QMessageLogContext&, const QString& text) {
+  // The offscreen platform prints this for every window.
+  if (text.startsWith(QStringLiteral("This plugin does not support"))) return;
+  std::cerr << "ovl-pictures: " << text.toLocal8Bit().constData() << "\n";
 }
 
 }  // namespace
@@ -42,6 +50,7 @@ int main(int argc, char** argv) {
   if (const auto status = command_line.Read(argc, argv)) return *status;
   // With the offscreen platform the pictures are the same on every machine.
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  qInstallMessageHandler(PrintMessage);
   QApplication application(argc, argv);
   ovl::ui::NameApplication();
   QApplication::setQuitOnLastWindowClosed(false);
@@ -53,6 +62,9 @@ int main(int argc, char** argv) {
     const auto saved = ovl::pictures::SavePictures(folder, command_line.Store(), pictures,
                                                    size.isEmpty() ? ovl::ui::MainWindow::StartSize() : size);
     if (!saved.Ok()) return Fail("the pictures", saved.Problem());
+    const auto camera =
+        ovl::pictures::SaveCameraPicture(QDir(pictures).filePath(QStringLiteral("camera.png")));
+    if (!camera.Ok()) return Fail("the picture of the camera", camera.Problem());
   } catch (const ovl::core::Failure& failure) {
     return Fail("the program's folder", failure);
   }

@@ -1,0 +1,77 @@
+# What ./run, ./test, .ci/run and docs/pictures.sh share: where the build is, what it needs, and that nothing outlives
+# them.
+# shellcheck shell=bash disable=SC2034  # they use what is set here
+source_folder=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
+build=$source_folder/build
+command_name=./$(realpath --relative-to="$source_folder" "$0")
+
+needed_to_build=(g++ cmake ninja-build ccache qt6-base-dev qt6-serialport-dev fonts-dejavu-core)
+needed_to_test=(libgtest-dev xvfb xdotool xclip matchbox-window-manager)
+
+# Qt complains at every start where the names of files are not in UTF-8.
+[ "$(locale charmap 2> /dev/null)" = UTF-8 ] || export LC_ALL=C.UTF-8
+
+# With relative paths a moved checkout finds what it compiled before. Ninja does not know an absolute path with "&"
+# again and would compile everything at every start.
+export CCACHE_BASEDIR=${CCACHE_BASEDIR:-$source_folder}
+
+# Ctrl-C reaches the programs as well. Some of them end with a status of their own.
+trap 'exit 130' INT
+
+fail() {
+  echo "$command_name: $*" >&2
+  exit 1
+}
+
+# Takes "--build FOLDER" from the front of the arguments; the others are left in `arguments`.
+take_options() {
+  arguments=("$@")
+  case ${1:-} in
+    --build)
+      [ -n "${2:-}" ] || { echo "$command_name: --build needs a folder" >&2; exit 2; }
+      build=$2
+      arguments=("${@:3}")
+      ;;
+    --build=?*)
+      build=${1#--build=}
+      arguments=("${@:2}")
+      ;;
+  esac
+  build=$(realpath --canonicalize-missing -- "$build")
+}
+
+tools() { "$source_folder/tools/$1" "${@:2}"; }
+
+# A program that starts with this ends when the script does, even if the script is killed.
+bound=(setpriv --pdeathsig TERM --)
+
+can_write() { mkdir -p "$1" 2> /dev/null && [ -w "$1" ]; }
+
+# Reserves $build/PRESET: it can be written, no other run builds there, and it is not the build of another checkout.
+reserve() {
+  local folder=$build/$1 here home
+  if ! can_write "$build" || ! can_write "$folder"; then
+    fail "$folder cannot be written. Name another folder for the build: $command_name --build FOLDER"
+  fi
+  exec {lock}> "$folder.lock"
+  flock --wait 5 "$lock" || fail "another run works in $folder. Wait for its end, or use --build FOLDER."
+
+  fresh=()
+  # CMake writes this file last.
+  [ -e "$folder/build.ninja" ] || fresh=(--fresh)
+  [ -e "$folder/CMakeCache.txt" ] || return 0
+  home=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$folder/CMakeCache.txt")
+  here=$(sed -n 's/^CMAKE_CACHEFILE_DIR:INTERNAL=//p' "$folder/CMakeCache.txt")
+  [ "$home" != "$source_folder" ] || [ "$here" != "$folder" ] || return 0
+  if [ "$here" = "$folder" ] && [ -e "$home/CMakeLists.txt" ]; then
+    fail "$folder has the build of $home. Name another folder with --build FOLDER, or remove this one."
+  fi
+  echo "The folder was moved; everything is built again."
+  fresh=(--fresh)
+}
+
+# Configures the reserved $build/PRESET and builds the targets named, or all: compile PRESET [TARGET]...
+compile() {
+  "${bound[@]}" cmake -S "$source_folder" --preset "$1" -B "$build/$1" "${fresh[@]}"
+  "${bound[@]}" ninja -C "$build/$1" "${@:2}"
+}
