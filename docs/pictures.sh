@@ -3,6 +3,8 @@
 set -euo pipefail
 # shellcheck source=tools/common.sh
 . "$(dirname "$0")/../tools/common.sh"
+take_options "$@"
+[ ${#arguments[@]} -eq 0 ] || { echo "Usage: docs/pictures.sh [--build FOLDER]" >&2; exit 2; }
 cd "$source_folder"
 reserve release
 tools require "${needed_to_build[@]}"

@@ -2,7 +2,10 @@
 # What the examples share. OVL_FIRMWARE is the firmware of the units, OVL_IMAGES the folder of the default images.
 # Every example ends with 0 when all is well, 2 when it was called wrongly and nothing was done, else another status.
 set -euo pipefail
-: "${OVL_FIRMWARE:=V1400 R12}" "${OVL_IMAGES:=/usr/share/ovl-software/images}"
+: "${OVL_FIRMWARE:=V1400 R12}"
+# The images are beside the programs, in a package as in an archive.
+programs=$(dirname "$(readlink -f "$(command -v ovl-script || echo /usr/bin/ovl-script)")")
+: "${OVL_IMAGES:=${programs%/bin}/share/ovl-software/images}"
 
 refuse() {
   echo "$(basename "$0"): $*" >&2

@@ -12,12 +12,16 @@ cd "$(dirname "$0")/.."
 mapfile -t packages < <(sed -n '/^Build-Depends:/,/^[^ ]/s/^ \([a-z0-9.+-]*\).*/\1/p' packaging/debian/control)
 tools/require build-essential "${packages[@]/debhelper-compat/debhelper}" lintian appstream desktop-file-utils
 
-version=$(sed -n '1s/.*(\(.*\)).*/\1/p' packaging/debian/changelog)
-
 echo "== Sources"
-rm -rf "$out"
-tree=$out/ovl-software-$version
-tar --extract --file "$(packaging/sources.sh "$out")" --directory "$out"
+if [ $# -eq 0 ]; then
+  rm -rf "$out"
+elif [ -n "$(ls -A "$out" 2> /dev/null)" ]; then
+  echo "build.sh: $out is not empty" >&2
+  exit 1
+fi
+sources=$(packaging/sources.sh "$out")
+tree=${sources%.tar.gz}
+tar --extract --file "$sources" --directory "$out"
 cp -r "$tree/packaging/debian" "$tree/debian"
 
 echo "== Packages"

@@ -1,5 +1,15 @@
-# The version is that of project(). The newest entry of the Debian changelog must have it, and the date of the
-# release comes from there: its format asks for one.
+# The version is that of project(). README and changes must name it, and so must the newest entry of the Debian
+# changelog. The date of the release comes from there: its format asks for one.
+foreach(row "README.md=| Version | ${PROJECT_VERSION}," "CHANGELOG.md=## ${PROJECT_VERSION}\n")
+  string(REGEX MATCH "^[^=]+" page ${row})
+  string(REGEX REPLACE "^[^=]+=" "" words ${row})
+  file(READ ${PROJECT_SOURCE_DIR}/${page} text)
+  string(FIND "${text}" ${words} found)
+  if(found EQUAL -1)
+    message(FATAL_ERROR "CMakeLists.txt has the version ${PROJECT_VERSION}, but ${page} does not name it")
+  endif()
+endforeach()
+
 set(changelog ${CMAKE_CURRENT_SOURCE_DIR}/debian/changelog)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${changelog})
 file(STRINGS ${changelog} newest LIMIT_COUNT 1)

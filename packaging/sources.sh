@@ -9,7 +9,7 @@ archive=$out/ovl-software-$version.tar.gz
 mkdir -p "$out"
 # The same files give the same archive, with the date of the release.
 tar --create --gzip --file "$archive" --anchored --exclude=./.git --exclude=./build --exclude="./$(realpath --relative-to=. "$out")" \
-  --exclude-from=<(find . -name CMakeCache.txt -printf '%h\n') \
+  --exclude-from=<(find . -mindepth 2 -name CMakeCache.txt -printf '%h\n') \
   --sort=name --mtime="$(sed -n '/^ -- /{s/.*>  //p;q}' packaging/debian/changelog)" --owner=root:0 --group=root:0 \
-  --mode=go=u,go-w --transform="s,^\.,ovl-software-$version," .
+  --mode=u+rw,go=u,go-w --transform="s,^\.,ovl-software-$version," .
 echo "$archive"

@@ -47,6 +47,8 @@ bound=(setpriv --pdeathsig TERM --)
 
 can_write() { mkdir -p "$1" 2> /dev/null && [ -w "$1" ]; }
 
+forget_configuration() { rm -rf "$1/CMakeCache.txt" "$1/CMakeFiles"; }
+
 # Reserves $build/PRESET: it can be written, no other run builds there, and it is not the build of another checkout.
 reserve() {
   local folder=$build/$1 here home
@@ -56,9 +58,8 @@ reserve() {
   exec {lock}> "$folder.lock"
   flock --wait 5 "$lock" || fail "another run works in $folder. Wait for its end, or use --build FOLDER."
 
-  fresh=()
   # CMake writes this file last.
-  [ -e "$folder/build.ninja" ] || fresh=(--fresh)
+  [ -e "$folder/build.ninja" ] || forget_configuration "$folder"
   [ -e "$folder/CMakeCache.txt" ] || return 0
   home=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$folder/CMakeCache.txt")
   here=$(sed -n 's/^CMAKE_CACHEFILE_DIR:INTERNAL=//p' "$folder/CMakeCache.txt")
@@ -67,11 +68,11 @@ reserve() {
     fail "$folder has the build of $home. Name another folder with --build FOLDER, or remove this one."
   fi
   echo "The folder was moved; everything is built again."
-  fresh=(--fresh)
+  forget_configuration "$folder"
 }
 
 # Configures the reserved $build/PRESET and builds the targets named, or all: compile PRESET [TARGET]...
 compile() {
-  "${bound[@]}" cmake -S "$source_folder" --preset "$1" -B "$build/$1" "${fresh[@]}"
+  "${bound[@]}" cmake -S "$source_folder" --preset "$1" -B "$build/$1"
   "${bound[@]}" ninja -C "$build/$1" "${@:2}"
 }

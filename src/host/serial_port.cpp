@@ -219,7 +219,7 @@ void SerialPort::ClearOutput() {
 }
 
 void SerialPort::OnGone() {
-  // Characters that the driver still holds came before. Reading them may already report the loss.
+  // The driver may still hold characters from before. Reading them may already report the loss.
   port_.waitForReadyRead(0);
   if (port_.isOpen()) Lose(EIO);
 }
@@ -236,7 +236,7 @@ void SerialPort::OnPortError(QSerialPort::SerialPortError error) {
 
 // A lost device keeps its descriptor readable without end, so the port is closed at once. Characters received
 // before stay. A drained event that is due is still dispatched: a sender then goes on, and its next write
-// fails. Every operation on a line that was hung up fails with the same EIO. Only the device's name shows
+// fails. Most operations on a line that was hung up fail with the same EIO. Only the device's name shows
 // that the device itself is gone.
 void SerialPort::Lose(int error) {
   TakeReceived();

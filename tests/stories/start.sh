@@ -5,7 +5,8 @@ set -euo pipefail
 set -m  # each start has a process group, as in a terminal, so that Ctrl-C can be sent to it
 source=$(cd "$(dirname "$0")/../.." && pwd)
 place=$(mktemp -d)
-trap 'rm -rf "$place"' EXIT
+run=
+trap '[ -z "$run" ] || kill -- -"$run" 2> /dev/null || true; rm -rf "$place"' EXIT
 checkout="$place/Müller & Söhne/ovl"
 build=$place/build
 link=$build/site/ports/com1

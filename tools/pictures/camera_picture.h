@@ -7,7 +7,7 @@
 
 namespace ovl::pictures {
 
-// Writes the drawing as a PNG file. Its text is laid out as by the sample settings: title, clock, and a sale.
+// Writes the drawing as a PNG file. Its text is placed as the sample settings say: title, clock, and a sale.
 core::Result SaveCameraPicture(const QString& file);
 
 }  // namespace ovl::pictures

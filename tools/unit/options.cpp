@@ -87,9 +87,9 @@ constexpr std::array<OptionRow, 12> kRows{{
       "\"-- \" remarks"},
      [](Options& o, std::string_view v) { return TakePath(o.log, v); }},
     {{"fault", "FAULT", "makes something go wrong, see below. May be given\nseveral times"}, TakeFault},
-    {{"seed", "N", "of the faults left to chance, 1 by default. The same\nseed gives the same bytes"},
+    {{"seed", "N", "the seed of the random faults, 1 by default. The same\nseed gives the same bytes"},
      TakeSeed},
-    {{"verbose", "", "also reports what is nobody's mistake"},
+    {{"verbose", "", "also reports remarks that are no complaint"},
      [](Options& o, std::string_view) { return o.verbose = true, std::string(); }},
 }};
 

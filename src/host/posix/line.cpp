@@ -58,7 +58,7 @@ WriteResult WriteAtOnce(LineHandle line, std::string_view bytes) {
 
 bool LineAlive(LineHandle line) {
   struct pollfd state = {line, POLLIN, 0};
-  if (::poll(&state, 1, 0) < 0) return false;
+  if (::poll(&state, 1, 0) < 0) return errno == EINTR;
   if (state.revents == 0) return true;
   if ((state.revents & POLLIN) == 0 || (state.revents & (POLLERR | POLLHUP | POLLNVAL)) != 0) return false;
   int waiting = 0;

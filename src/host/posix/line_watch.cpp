@@ -4,6 +4,7 @@
 
 #include <QSocketNotifier>
 #include <cerrno>
+#include <optional>
 
 #include "host/posix/descriptor.h"
 
@@ -18,21 +19,27 @@ constexpr int kNoLine = -1;
 // reading a descriptor, so the line is watched through a descriptor of epoll, which has a notifier of its
 // own.
 struct LineWatch::Source {
-  explicit Source(std::function<void()> call)
-      : gone(std::move(call)), events(::epoll_create1(EPOLL_CLOEXEC)) {
-    if (events.Number() < 0) return;
-    notifier = std::make_unique<QSocketNotifier>(events.Number(), QSocketNotifier::Read);
+  explicit Source(std::function<void()> call) : gone(std::move(call)) {}
+
+  // Returns an error number, or 0.
+  int Create() {
+    if (events) return 0;
+    const int number = ::epoll_create1(EPOLL_CLOEXEC);
+    if (number < 0) return errno;
+    events.emplace(number);
+    notifier = std::make_unique<QSocketNotifier>(number, QSocketNotifier::Read);
     QObject::connect(notifier.get(), &QSocketNotifier::activated, notifier.get(), [this] { Look(); });
+    return 0;
   }
 
   void Look() const {
     epoll_event event = {};
-    if (::epoll_wait(events.Number(), &event, 1, 0) == 1 && (event.events & (EPOLLHUP | EPOLLERR)) != 0)
+    if (::epoll_wait(events->Number(), &event, 1, 0) == 1 && (event.events & (EPOLLHUP | EPOLLERR)) != 0)
       gone();
   }
 
   std::function<void()> gone;
-  Descriptor events;
+  std::optional<Descriptor> events;
   std::unique_ptr<QSocketNotifier> notifier;
   int line = kNoLine;
 };
@@ -42,19 +49,19 @@ LineWatch::LineWatch(std::function<void()> gone) : source_(std::make_unique<Sour
 LineWatch::~LineWatch() = default;
 
 int LineWatch::Start(LineHandle line) {
+  if (const int error = source_->Create()) return error;
   epoll_event event = {};
-  // A driver that hangs up wakes those who wait for input and those who wait for output, and nobody else.
-  // Input is what the event loop wakes for anyway. With EPOLLET it is reported once and not as long as it
-  // waits.
+  // A driver that hangs up wakes only those that wait for input or output, so EPOLLHUP alone is not enough.
+  // With EPOLLET waiting input is reported once.
   event.events = EPOLLIN | EPOLLET;
-  if (::epoll_ctl(source_->events.Number(), EPOLL_CTL_ADD, line, &event) != 0) return errno;
+  if (::epoll_ctl(source_->events->Number(), EPOLL_CTL_ADD, line, &event) != 0) return errno;
   source_->line = line;
   return 0;
 }
 
 void LineWatch::Stop() {
   if (source_->line == kNoLine) return;
-  ::epoll_ctl(source_->events.Number(), EPOLL_CTL_DEL, source_->line, nullptr);
+  ::epoll_ctl(source_->events->Number(), EPOLL_CTL_DEL, source_->line, nullptr);
   source_->line = kNoLine;
 }
 
