@@ -30,7 +30,7 @@ constexpr std::size_t kPart = 16U * 1024U;
 // The end of a chain of links: where the file is, or where it is going to be.
 fs::path TargetOf(const std::string& path) {
   constexpr int kLongestChain = 40;
-  fs::path target = path;
+  auto target = PathOf(path);
   std::error_code error;
   for (int link = 0; fs::is_symlink(target, error); ++link) {
     if (link == kLongestChain) Fail(path, std::errc::too_many_symbolic_link_levels);
@@ -50,10 +50,10 @@ using File = std::unique_ptr<std::FILE, CloseFile>;
 void RequireWritable(const fs::path& target) {
   std::error_code error;
   const auto status = fs::status(target, error);
-  if (fs::is_directory(status)) Fail(target.string(), std::errc::is_a_directory);
+  if (fs::is_directory(status)) Fail(TextOf(target), std::errc::is_a_directory);
   if (!fs::exists(status)) return;
-  if (!fs::is_regular_file(status)) Fail(target.string(), std::errc::invalid_argument);
-  if (!File{OpenFile(target, "r+b")}) FailWithErrno(target.string());
+  if (!fs::is_regular_file(status)) Fail(TextOf(target), std::errc::invalid_argument);
+  if (!File{OpenFile(target, "r+b")}) FailWithErrno(TextOf(target));
 }
 
 // A new file in the target's folder, under a free name. The stem is cut, since a name of the greatest length
@@ -61,16 +61,17 @@ void RequireWritable(const fs::path& target) {
 File CreateBeside(const fs::path& target, fs::path& beside) {
   constexpr int kNamesToTry = 100;
   constexpr std::size_t kLongestStem = 240;
-  const auto stem = target.filename().string().substr(0, kLongestStem);
+  const auto stem = target.filename().native().substr(0, kLongestStem);
   for (int number = 0; number < kNamesToTry; ++number) {
-    beside = target.parent_path() / (stem + "." + std::to_string(number) + ".new");
+    beside = target.parent_path() / stem;
+    beside += "." + std::to_string(number) + ".new";
     if (File file{OpenFile(beside, "wbx")}) return file;
     if (errno != EEXIST) break;
   }
   const auto reason = errno;
   beside.clear();
   errno = reason;
-  FailWithErrno(target.string());
+  FailWithErrno(TextOf(target));
 }
 
 void CopyPermissions(const fs::path& target, const fs::path& beside) {
@@ -80,28 +81,38 @@ void CopyPermissions(const fs::path& target, const fs::path& beside) {
 }
 
 void RequireFlushed(int error, const fs::path& path) {
-  if (error != 0) throw core::Failure(path.string(), std::error_code(error, std::generic_category()));
+  if (error != 0) throw core::Failure(TextOf(path), std::error_code(error, std::generic_category()));
 }
 
 void WriteInto(File file, const fs::path& beside, std::string_view bytes, Flush flush) {
   errno = 0;
   const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
-  if (!written || std::fflush(file.get()) != 0) FailWithErrno(beside.string());
+  if (!written || std::fflush(file.get()) != 0) FailWithErrno(TextOf(beside));
   if (flush == Flush::kYes) RequireFlushed(FlushFile(*file), beside);
-  if (std::fclose(file.release()) != 0) FailWithErrno(beside.string());
+  if (std::fclose(file.release()) != 0) FailWithErrno(TextOf(beside));
 }
 
 }  // namespace
 
+fs::path PathOf(std::string_view text) {
+  return std::u8string(text.begin(), text.end());
+}
+
+std::string TextOf(const fs::path& path) {
+  const auto text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
 std::string ReadFile(const std::string& path) {
+  const auto file_path = PathOf(path);
   std::error_code error;
-  const auto status = fs::status(path, error);
+  const auto status = fs::status(file_path, error);
   if (fs::is_directory(status)) Fail(path, std::errc::is_a_directory);
   if (fs::exists(status) && !fs::is_regular_file(status)) Fail(path, std::errc::invalid_argument);
-  if (const auto size = fs::file_size(path, error); !error && size > kLargestFile) {
+  if (const auto size = fs::file_size(file_path, error); !error && size > kLargestFile) {
     Fail(path, std::errc::file_too_large);
   }
-  std::ifstream file(path, std::ios::binary);
+  std::ifstream file(file_path, std::ios::binary);
   if (!file) FailWithErrno(path);
   std::string bytes;
   for (std::array<char, kPart> part; file;) {
@@ -125,7 +136,7 @@ void ReplaceFile(const std::string& path, std::string_view bytes, Flush flush) {
     auto file = CreateBeside(target, beside);
     CopyPermissions(target, beside);
     WriteInto(std::move(file), beside, bytes, flush);
-    fs::rename(beside, target);
+    if (const auto error = TakeName(beside, target)) throw core::Failure(path, error);
     if (flush == Flush::kYes) RequireFlushed(FlushFolder(target.parent_path() / "."), target);
   } catch (const fs::filesystem_error& reason) {
     fs::remove(beside, ignored);

@@ -2,6 +2,7 @@
 // the system's reason.
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -11,6 +12,11 @@ namespace ovl::host {
 
 // Whether a replaced file survives a power failure from then on. kNo is for files that can be made again.
 enum class Flush { kNo, kYes };
+
+// The program's texts hold paths in UTF-8 on every system. Paths of another encoding, which some systems
+// allow, keep their bytes.
+std::filesystem::path PathOf(std::string_view text);
+std::string TextOf(const std::filesystem::path& path);
 
 // All bytes of a regular file of at most 64 MiB.
 std::string ReadFile(const std::string& path);

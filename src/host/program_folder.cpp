@@ -9,6 +9,7 @@
 
 #include "core/failure.h"
 #include "firmware/firmware_table.h"
+#include "host/files.h"
 
 namespace ovl::host {
 namespace {
@@ -20,7 +21,7 @@ fs::path PathOf(const QString& path) {
 }
 
 [[noreturn]] void Fail(const fs::path& path, const std::error_code& reason) {
-  throw core::Failure(path.string(), reason);
+  throw core::Failure(TextOf(path), reason);
 }
 
 void MakeFolder(const fs::path& path) {

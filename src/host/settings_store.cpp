@@ -21,6 +21,11 @@ constexpr std::string_view kStoreKey = "SOFTWARE\\ORB\\OVL Software";
 const auto kOrganisation = QStringLiteral("ORB");
 const auto kApplication = QStringLiteral("OVL Software");
 
+// Settings that the system keeps in no file are in its registry.
+QString RegistryPlace() {
+  return QStringLiteral("HKEY_LOCAL_MACHINE\\") + FromWindows1252(kStoreKey);
+}
+
 // A name with a separator would address a group below the store's key.
 bool IsOwnValue(std::string_view key, std::string_view value) {
   return key == kStoreKey && !value.empty() && value.find_first_of("/\\") == std::string_view::npos;
@@ -137,15 +142,19 @@ core::Result SettingsStore::Write(std::string_view key, std::string_view value, 
 }
 
 std::string SettingsStore::WhyNotRead() const {
+  const auto lacks_value = QStringLiteral("it lacks the value");
+  if (Path().isEmpty()) return FailureOf(RegistryPlace(), lacks_value).Text();
   QFile file(Path());
   const auto path = QDir::toNativeSeparators(file.fileName());
   if (!file.open(QIODevice::ReadOnly)) return FailureOf(path, file.errorString()).Text();
-  const auto reason = IsSound() ? QStringLiteral("it lacks the value")
-                                : QStringLiteral("it holds a value that is neither text nor number");
+  const auto reason =
+      IsSound() ? lacks_value : QStringLiteral("it holds a value that is neither text nor number");
   return FailureOf(path, reason).Text();
 }
 
 core::Failure SettingsStore::WriteFailure() const {
+  if (Path().isEmpty())
+    return {RegistryPlace().toStdString(), std::make_error_code(std::errc::permission_denied)};
   const auto path = QDir::toNativeSeparators(Path());
   const auto folder = QFileInfo(path).path();
   std::error_code failed;

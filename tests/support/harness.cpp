@@ -1,8 +1,6 @@
 #include "support/harness.h"
 
-#include <stdlib.h>
-#include <unistd.h>
-
+#include <random>
 #include <stdexcept>
 #include <utility>
 
@@ -65,26 +63,15 @@ void PutInOrder(const firmware::FirmwareId& firmware, std::string& digits) {
 }  // namespace
 
 TemporaryFolder::TemporaryFolder() {
-  std::string name = (fs::temp_directory_path() / "ovl-test-XXXXXX").string();
-  if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
-  path_ = name;
+  std::random_device number;
+  do {
+    path_ = fs::temp_directory_path() / ("ovl-test-" + std::to_string(number()));
+  } while (!fs::create_directory(path_));
 }
 
 TemporaryFolder::~TemporaryFolder() {
   std::error_code ignored;
   fs::remove_all(path_, ignored);
-}
-
-Locked::Locked(std::string path) : path_(std::move(path)) {
-  fs::permissions(path_, fs::perms::none);
-  constexpr uid_t kNobody = 65534;
-  if (geteuid() == 0 && seteuid(kNobody) != 0) throw std::runtime_error("no ordinary user");
-}
-
-Locked::~Locked() {
-  if (getuid() == 0) static_cast<void>(!seteuid(0));
-  std::error_code ignored;
-  fs::permissions(path_, fs::perms::owner_all, ignored);
 }
 
 std::string RawPatternStream(const firmware::FirmwareId& firmware, int seed, int register_code) {

@@ -5,6 +5,7 @@
 #include <deque>
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -29,16 +30,14 @@ class TemporaryFolder {
   std::filesystem::path path_;
 };
 
-// Denies access to the file or folder as long as the object exists. A superuser becomes an ordinary user
-// meanwhile.
+// Denies access to the file as long as the object exists. A superuser becomes an ordinary user meanwhile.
 class Locked {
  public:
-  explicit Locked(std::string path);
-  ~Locked();
+  explicit Locked(const std::string& path);
   Locked(Locked&&) = delete;
 
  private:
-  std::string path_;
+  std::shared_ptr<void> lock_;
 };
 
 // A stream of the firmware with this register code. The seed decides all other bytes.

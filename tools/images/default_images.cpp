@@ -89,16 +89,16 @@ image::ConfigImage FactoryImage(const firmware::FirmwareId& firmware) {
 
 int WriteDefaultImages(const std::string& folder, const firmware::FirmwareId& firmware) {
   namespace fs = std::filesystem;
-  const auto images = fs::path(folder) / firmware.version / firmware.release;
+  const auto images = host::PathOf(folder) / firmware.version / firmware.release;
   std::error_code error;
   fs::create_directories(images, error);
-  if (error) throw core::Failure(images.string(), error);
+  if (error) throw core::Failure(host::TextOf(images), error);
 
   const auto capabilities = firmware::CapabilitiesOf(firmware);
   int code = 0;
   for (const auto& entry : firmware::BuildRegisterEntries(firmware.version, firmware.release)) {
     const auto stream = StreamOf(RegisterImage(firmware, code++), firmware, capabilities);
-    host::ReplaceFile((images / registers::ImageFileOf(firmware, entry.name)).string(), stream + "\r\n",
+    host::ReplaceFile(host::TextOf(images / registers::ImageFileOf(firmware, entry.name)), stream + "\r\n",
                       host::Flush::kNo);
   }
   return code;

@@ -320,7 +320,7 @@ core::Result SavePictures(const QString& program_folder, const QString& store, c
        {std::pair(ui::Theme::kLight, "light"), std::pair(ui::Theme::kDark, "dark")}) {
     const auto below = QDir(folder).filePath(QString::fromLatin1(name));
     std::error_code error;
-    std::filesystem::create_directories(QFile::encodeName(below).toStdString(), error);
+    std::filesystem::create_directories(below.toStdU16String(), error);
     if (error) return core::Failure(QFile::encodeName(below).toStdString(), error);
     ui::ApplyTheme(theme);
     for (const auto series : {&Photographer::TakeAll, &Photographer::TakeAdviceLines}) {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "command_line/command_line.h"
+#include "host/files.h"
 #include "host/system/disk.h"
 #include "script/runner.h"
 
@@ -19,9 +20,10 @@ using ovl::script::ExitStatus;
 ExitStatus Run(const std::vector<std::string>& words) {
   ovl::script::Session session(std::cout, std::cerr);
   if (words.empty() || words[0] == "-") return RunScript(session, std::cin, "stdin", std::cerr);
-  std::ifstream file(words[0], std::ios::binary);
+  const auto path = ovl::host::PathOf(words[0]);
+  std::ifstream file(path, std::ios::binary);
   std::error_code error;
-  if (std::filesystem::is_directory(words[0], error)) {
+  if (std::filesystem::is_directory(path, error)) {
     file.setstate(std::ios::failbit);
     errno = EISDIR;
   }

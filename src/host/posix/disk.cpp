@@ -22,6 +22,12 @@ std::FILE* OpenFile(const std::filesystem::path& path, const char* mode) {
   return std::fopen(path.c_str(), mode);
 }
 
+std::error_code TakeName(const std::filesystem::path& file, const std::filesystem::path& name) {
+  std::error_code error;
+  std::filesystem::rename(file, name, error);
+  return error;
+}
+
 int FlushFile(std::FILE& file) {
   return Flush(::fileno(&file));
 }

@@ -3,11 +3,15 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <system_error>
 
 namespace ovl::host {
 
 // std::fopen for a path of any characters.
 std::FILE* OpenFile(const std::filesystem::path& path, const char* mode);
+
+// Gives the file the name, in one step and in place of a file that has it.
+std::error_code TakeName(const std::filesystem::path& file, const std::filesystem::path& name);
 
 // The next two make the disk keep what was written. Both return an error number, or 0. A file system without
 // such an operation counts as a success.

@@ -44,7 +44,7 @@ void OpenFolder(QObject& owner, const QString& folder, const Report& report) {
                .arg(QDir::toNativeSeparators(folder), reason));
   };
   std::error_code failed;
-  std::filesystem::directory_iterator(QFile::encodeName(folder).toStdString(), failed);
+  std::filesystem::directory_iterator(folder.toStdU16String(), failed);
   if (failed) return fail(QString::fromLocal8Bit(failed.message().c_str()));
   AskForProgram(owner, "inode/directory", [folder, fail](bool has_browser) {
     if (!has_browser || !OpenPath(folder)) fail(QStringLiteral("no program opens folders"));

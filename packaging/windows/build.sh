@@ -1,0 +1,62 @@
+#!/usr/bin/env bash
+# Builds the programs for 64-bit Windows below build/windows, runs the stories and the tests of the model under Wine, and
+# makes the installer. Qt is built first, once, from Debian's source package, which takes an hour of two processors.
+# `--qt FOLDER` names the build folder of such a Qt that is there already.
+set -euo pipefail
+cd "$(dirname "$0")/../.."
+tools/require g++-mingw-w64-x86-64-posix wine wine64 nsis cmake ninja-build ccache dpkg-dev qt6-base-dev qt6-base-dev-tools \
+  googletest librsvg2-bin icoutils
+
+here=$PWD/packaging/windows
+build=$PWD/build/windows
+qt=$build/qt
+[ "${1:-}" != --qt ] || qt=$(realpath "$2")
+mkdir -p "$build"
+
+# The source package of the release that this system runs, whether or not its sources are among those of apt.
+fetch_qt() {
+  local apt=$build/apt
+  mkdir -p "$apt/lists/partial" "$build/source"
+  apt-cache policy qt6-base-dev |
+    sed -n 's,^ *[0-9]* \(http[^ ]*\) \([^ /]*\)/\([^ ]*\) .* Packages$,deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] \1 \2 \3,p' \
+    > "$apt/sources.list"
+  local options=(-o Dir::Etc::SourceList="$apt/sources.list" -o Dir::Etc::SourceParts=- -o Dir::State::Lists="$apt/lists"
+    -o Dir::Cache="$apt" -o APT::Sandbox::User=)
+  apt-get "${options[@]}" update
+  (cd "$build/source" && apt-get "${options[@]}" source qt6-base)
+}
+
+# Without network, SQL, D-Bus and tests. The plug-in for Windows needs OpenGL to be there; nothing uses it.
+configure_qt() {
+  cmake -S "$build"/source/qt6-base-*/ -B "$qt" -G Ninja --toolchain "$here/toolchain.cmake" \
+    -DCMAKE_BUILD_TYPE=MinSizeRel -DBUILD_SHARED_LIBS=OFF -DINPUT_opengl=dynamic \
+    -DFEATURE_sql=OFF -DFEATURE_network=OFF -DFEATURE_dbus=OFF -DFEATURE_testlib=OFF -DFEATURE_icu=OFF \
+    -DFEATURE_system_zlib=OFF -DFEATURE_concurrent=OFF -DFEATURE_pkg_config=OFF -DFEATURE_vulkan=OFF \
+    -DCMAKE_DISABLE_FIND_PACKAGE_WrapVulkanHeaders=ON -DFEATURE_tabletevent=OFF -DQT_BUILD_TESTS=OFF -DQT_BUILD_EXAMPLES=OFF \
+    -DCMAKE_C_COMPILER_LAUNCHER=ccache -DCMAKE_CXX_COMPILER_LAUNCHER=ccache
+}
+
+if [ "$qt" = "$build/qt" ]; then
+  [ -d "$build/source" ] || fetch_qt
+  [ -f "$qt/build.ninja" ] || configure_qt
+  cmake --build "$qt" --target EntryPointImplementation Gui_resources_{1,2} Widgets Widgets_resources_{1,2,3} \
+    QWindowsIntegrationPlugin QWindowsIntegrationPlugin_{init,resources_1,resources_2} \
+    QOffscreenIntegrationPlugin QOffscreenIntegrationPlugin_init
+fi
+qt_source=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$qt/CMakeCache.txt")
+
+cmake -S . -B "$build/release" -G Ninja --toolchain "$here/toolchain.cmake" -DCMAKE_BUILD_TYPE=Release -DOVL_WERROR=ON \
+  -DOVL_CCACHE=ON -DOVL_QT="$qt" -DCMAKE_MODULE_PATH="$qt_source/cmake"
+cmake --build "$build/release"
+ctest --test-dir "$build/release" --output-on-failure
+
+# What the installer lays down.
+tree=$build/tree
+rm -rf "$tree"
+cmake --install "$build/release" --prefix "$tree" --strip
+export WINEPREFIX=$build/release/wine WINEDEBUG=-all
+wine "$tree/bin/ovl-images.exe" "$tree/share/ovl-software/images"
+
+version=$(sed -n 's/^project(ovl-software VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
+makensis -V2 -DVERSION="$version" -DTREE="$tree" -DOUTPUT="$build/ovl-software-$version-setup.exe" "$here/installer.nsi"
+echo "$build/ovl-software-$version-setup.exe"

@@ -1,0 +1,67 @@
+; Installs the programs for all users. Silent: /S /VERSION=V1400 /RELEASE=R12; without these two, and without settings from
+; before, the firmware is the one below.
+Unicode true
+Target amd64-unicode
+!include FileFunc.nsh
+
+!define KEY "SOFTWARE\ORB\OVL Software"
+!define UNINSTALL "SOFTWARE\Microsoft\Windows\CurrentVersion\Uninstall\OVL Software"
+
+Name "OVL Software ${VERSION}"
+OutFile "${OUTPUT}"
+InstallDir "$PROGRAMFILES64\OVL Software"
+InstallDirRegKey HKLM "${UNINSTALL}" "InstallLocation"
+RequestExecutionLevel admin
+SetCompressor /SOLID lzma
+
+Page directory
+Page instfiles
+UninstPage uninstConfirm
+UninstPage instfiles
+
+; Sets the value from the command line, or else to the second parameter if the settings have none.
+!macro Setting name fallback
+  ${GetParameters} $0
+  ClearErrors
+  ${GetOptions} $0 "/${name}=" $1
+  ${If} ${Errors}
+    ReadRegStr $1 HKLM "${KEY}" "${name}"
+    ${If} $1 == ""
+      StrCpy $1 "${fallback}"
+    ${EndIf}
+  ${EndIf}
+  WriteRegStr HKLM "${KEY}" "${name}" $1
+!macroend
+!include LogicLib.nsh
+
+Section
+  SetRegView 64
+  SetShellVarContext all
+  SetOutPath "$INSTDIR"
+  File /r "${TREE}/*"
+  WriteUninstaller "$INSTDIR\uninstall.exe"
+  CreateShortcut "$SMPROGRAMS\OVL Software.lnk" "$INSTDIR\bin\ovl.exe"
+  !insertmacro Setting "Version" "V1400"
+  !insertmacro Setting "Release" "R12"
+  WriteRegStr HKLM "${UNINSTALL}" "DisplayName" "OVL Software"
+  WriteRegStr HKLM "${UNINSTALL}" "DisplayVersion" "${VERSION}"
+  WriteRegStr HKLM "${UNINSTALL}" "DisplayIcon" "$INSTDIR\bin\ovl.exe"
+  WriteRegStr HKLM "${UNINSTALL}" "InstallLocation" "$INSTDIR"
+  WriteRegStr HKLM "${UNINSTALL}" "UninstallString" '"$INSTDIR\uninstall.exe"'
+  WriteRegStr HKLM "${UNINSTALL}" "QuietUninstallString" '"$INSTDIR\uninstall.exe" /S'
+SectionEnd
+
+; Only what was installed goes. A file that a person put there stays, and so does its folder.
+Section "Uninstall"
+  SetRegView 64
+  SetShellVarContext all
+  RMDir /r "$INSTDIR\bin"
+  RMDir /r "$INSTDIR\share"
+  RMDir /r "$INSTDIR\doc"
+  Delete "$INSTDIR\uninstall.exe"
+  RMDir "$INSTDIR"
+  Delete "$SMPROGRAMS\OVL Software.lnk"
+  DeleteRegKey HKLM "${UNINSTALL}"
+  DeleteRegKey HKLM "${KEY}"
+  DeleteRegKey /ifempty HKLM "SOFTWARE\ORB"
+SectionEnd
