@@ -8,6 +8,7 @@ class Site;
 void MeasureCodecs();
 void MeasureHistory(Site& site);
 void MeasureRegisterPick(Site& site);
+void MeasureRefresh(Site& site);
 void MeasureTransfers(Site& site);
 void MeasureStart(Site& site);
 

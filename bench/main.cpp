@@ -14,6 +14,7 @@ int main(int argc, char** argv) {
   ovl::bench::Site site;
   ovl::bench::MeasureCodecs();
   ovl::bench::MeasureRegisterPick(site);
+  ovl::bench::MeasureRefresh(site);
   ovl::bench::MeasureHistory(site);
   ovl::bench::MeasureStart(site);
   ovl::bench::MeasureTransfers(site);
