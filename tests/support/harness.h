@@ -24,7 +24,8 @@ class TemporaryFolder {
   TemporaryFolder(TemporaryFolder&&) = delete;
 
   const std::filesystem::path& Path() const { return path_; }
-  std::string File(std::string_view below) const { return (path_ / below).string(); }
+  // With slashes on every system, as the program names its files.
+  std::string File(std::string_view below) const { return (path_ / below).generic_string(); }
 
  private:
   std::filesystem::path path_;
