@@ -2,6 +2,7 @@
 // same seed gives the same acts. A run that fails is printed as the shortest script that still fails.
 // ovl-script runs that script in a folder made by ovl-images.
 //   ovl-random-walk [ACTS [SEED]]
+#include <algorithm>
 #include <filesystem>
 #include <iostream>
 

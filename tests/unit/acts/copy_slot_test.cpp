@@ -1,6 +1,7 @@
 // Copies of exceptions and alarms, against the acts of a user on the panel.
 #include "acts/copy_slot.h"
 
+#include <algorithm>
 #include <random>
 
 #include "unit/panels/panel_program.h"

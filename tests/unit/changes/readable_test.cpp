@@ -1,6 +1,7 @@
 // The changes in the words of the form.
 #include "changes/readable.h"
 
+#include <algorithm>
 #include <random>
 
 #include "changes/option_controls.h"

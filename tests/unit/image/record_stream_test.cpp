@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "support/firmware_facts.h"
 #include "support/harness.h"
 

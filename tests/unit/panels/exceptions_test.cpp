@@ -1,6 +1,8 @@
 // The 24 exception slots: flags and ranges, and the options of the report.
 #include "unit/panels/panel_program.h"
 
+#include <algorithm>
+
 namespace ovl::testing {
 namespace {
 

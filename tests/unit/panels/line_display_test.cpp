@@ -1,6 +1,8 @@
 // The interface to the register, the network of units, the blank time, and the lines for clock and title.
 #include "unit/panels/panel_program.h"
 
+#include <algorithm>
+
 namespace ovl::testing {
 namespace {
 

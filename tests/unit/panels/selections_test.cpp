@@ -1,6 +1,8 @@
 // The selections that mean a number or some bits of a byte: what a pick stores, and what a load shows.
 #include "unit/panels/panel_program.h"
 
+#include <algorithm>
+
 namespace ovl::testing {
 namespace {
 

@@ -1,6 +1,8 @@
 // The texts of title, alarms and exceptions, and the dialog that edits them.
 #include "unit/panels/panel_program.h"
 
+#include <algorithm>
+
 namespace ovl::testing {
 namespace {
 

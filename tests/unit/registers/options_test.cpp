@@ -1,6 +1,8 @@
 // What a choice in an option frame writes, which selections it forces, and what else it shows.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "registers/selection_driver.h"
 #include "support/firmware_facts.h"
 #include "support/register_facts.h"
