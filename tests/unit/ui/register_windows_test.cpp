@@ -182,7 +182,7 @@ TEST_F(ScreenTest, SmallWindowsMoveBackWhenTheScreenHasChanged) {
 }
 
 TEST_F(ScreenTest, TheFilterShowsRegistersWithAllItsWordsAndAPickSendsTheTruePosition) {
-  auto& list = Find<ui::ListBox>("ComboReg");
+  auto& list = dynamic_cast<ui::ListBox&>(Find("ComboReg"));
   auto& filter = Find<QLineEdit>("RegisterFilter");
   const auto& model = App().frmMain.ComboReg;
   const auto shown = [&] {
