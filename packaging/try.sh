@@ -10,7 +10,7 @@
 set -euo pipefail
 [ "${TRY_ALONE:-}" ] || TRY_ALONE=1 exec unshare --mount --propagation private "$0" "$@"
 
-roots='' given='' cache='' before=() releases=() table=() release='' now='' root=''
+roots='' given='' cache='' before=() releases=() table=() release='' now='' root='' home=''
 while [ $# -gt 0 ]; do
   case $1 in
     --roots) roots=$(realpath -m "$2"); shift ;;
@@ -71,13 +71,14 @@ fresh() {
   cp /etc/resolv.conf "$root/etc/resolv.conf"
   inside apt-get update -q > /dev/null
   inside useradd --create-home --shell /bin/bash installer
+  home=$(inside getent passwd installer | cut -d: -f6)
 }
 
 build() {
   fresh
-  local sources=/home/installer/ovl-software compiler=()
-  tar --extract --file "$(packaging/sources.sh "$work")" --directory "$root/home/installer"
-  mv "$root"/home/installer/ovl-software-* "$root$sources"
+  local sources=$home/ovl-software compiler=()
+  tar --extract --file "$(packaging/sources.sh "$work")" --directory "$root$home"
+  mv "$root$home"/ovl-software-* "$root$sources"
   step "build.sh without git, as a user without rights: names the missing packages"
   inside chown -R installer: "$sources"
   as_user "! '$sources/packaging/build.sh'" 2>&1 | tee "$work/said"
@@ -99,7 +100,7 @@ build() {
 # The archive belongs to an ordinary user from the first to the last step; root only installs what it asks for.
 try_archive() {
   fresh
-  local archive=/home/installer/ovl
+  local archive=$home/ovl
   step "archive: unpacked; ./start names what the system lacks"
   cp "$made"/*-linux-*.tar.gz "$root/tmp/archive.tar.gz"
   as_user "mkdir '$archive' && tar -xf /tmp/archive.tar.gz -C '$archive' --strip-components=1"
@@ -117,8 +118,8 @@ try_archive() {
   step "archive: ./start and a transfer as an ordinary user"
   try_start "$archive"
   step "archive: moved to a folder with blanks and umlauts, ./start and a transfer"
-  as_user "mkdir '/home/installer/Ein schöner Ort' && mv '$archive' '/home/installer/Ein schöner Ort/ovl'"
-  try_start "/home/installer/Ein schöner Ort/ovl"
+  as_user "mkdir '$home/Ein schöner Ort' && mv '$archive' '$home/Ein schöner Ort/ovl'"
+  try_start "$home/Ein schöner Ort/ovl"
 }
 
 try_start() {
@@ -141,7 +142,7 @@ is_kept() { contents | diff "$work/contents" - || fail "Files of the users or se
 no_dead_links() {
   local dead
   dead=$(inside find /home /root -xtype l)
-  [ "$dead" = "/home/installer/own link" ] || fail "Links that lead nowhere: $dead"
+  [ "$dead" = "$home/own link" ] || fail "Links that lead nowhere: $dead"
 }
 
 try_package() {
@@ -188,7 +189,7 @@ try_package() {
   step "packages: purged; nothing is left but the files of the users"
   inside apt-get purge -q -y --autoremove ovl-software ovl-software-images fonts-dejavu-core > /dev/null
   files > "$work/after"
-  left=$(diff "$work/before" "$work/after" | grep '^>' | grep -vF '> /home/installer/' || true)
+  left=$(diff "$work/before" "$work/after" | grep '^>' | grep -vF "> $home/" || true)
   [ -z "$left" ] || fail "Left behind: $left"
   grep -v ' /etc/' "$work/contents" > "$work/own" && mv "$work/own" "$work/contents"
   is_kept
