@@ -22,6 +22,8 @@ const std::map<std::string, Folders> kModel = {
     {"panels", {"codecs", "controls", "firmware", "image", "core"}},
     {"registers", {"codecs", "controls", "firmware", "image", "core", "files"}},
     {"changes", {"codecs", "controls", "firmware", "image", "core", "files", "panels", "registers"}},
+    {"text_form",
+     {"codecs", "controls", "firmware", "image", "core", "files", "panels", "registers", "changes"}},
     {"link", {"codecs", "controls", "firmware", "image", "core", "files"}},
     {"acts",
      {"codecs", "controls", "firmware", "image", "core", "files", "panels", "registers", "changes", "link"}},

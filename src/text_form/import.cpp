@@ -1,0 +1,362 @@
+#include "text_form/import.h"
+
+#include <algorithm>
+#include <set>
+
+#include "codecs/windows_1252.h"
+#include "firmware/firmware_table.h"
+#include "image/stream_entries.h"
+#include "text_form/coverage.h"
+#include "text_form/encoding.h"
+#include "text_form/export.h"
+#include "text_form/nearest.h"
+
+namespace ovl::text_form {
+namespace {
+
+constexpr std::string_view kFormatKey = "format", kFirmwareKey = "firmware", kCompleteKey = "complete";
+
+std::string InQuotes(std::string_view text) {
+  return "\"" + std::string(text) + "\"";
+}
+
+const Entry* HeaderOf(const Document& document, std::string_view key) {
+  const auto found = std::find_if(document.entries.begin(), document.entries.end(), [&](const Entry& entry) {
+    return entry.table.empty() && entry.key == key;
+  });
+  return found == document.entries.end() ? nullptr : &*found;
+}
+
+std::string NameOf(const firmware::FirmwareId& firmware) {
+  return firmware.version + " " + firmware.release;
+}
+
+std::string Suggestion(std::string_view word, const std::vector<std::string>& words) {
+  const auto nearest = Nearest(word, words);
+  return nearest.empty() ? std::string() : ". Did you mean " + InQuotes(nearest) + "?";
+}
+
+class Importer {
+ public:
+  Importer(Catalogue& catalogue, const image::ConfigImage& base, const Document& document)
+      : catalogue_(catalogue), firmware_(catalogue.Firmware()), document_(document) {
+    result_.image = base;
+    const auto named = FirmwareNamed(document);
+    const auto known = firmware::FindFirmware(named);
+    foreign_ = !named.empty() && (!known || firmware::ServedFirmware(known->Joined()) != firmware_);
+    const auto* complete = HeaderOf(document, kCompleteKey);
+    complete_ = complete != nullptr && complete->value.kind == ValueKind::kFlag &&
+                complete->value.text == "true" && !foreign_;
+  }
+
+  Imported Run() {
+    ReadHeader();
+    if (!result_.problems.empty()) return std::move(result_);
+    if (complete_) Clear();
+    for (const auto& entry : document_.entries) {
+      if (entry.table.empty()) continue;
+      if (entry.table == kOtherBytes) {
+        others_.push_back(&entry);
+      } else {
+        ReadSetting(entry);
+      }
+    }
+    ReadOtherBytes();
+    ReadOptions();
+    if (complete_ && result_.problems.empty()) ExpectAll();
+    std::stable_sort(result_.problems.begin(), result_.problems.end(),
+                     [](const Problem& one, const Problem& other) { return one.at < other.at; });
+    return std::move(result_);
+  }
+
+ private:
+  void Say(Position at, std::string words, bool of_other_firmware = false) {
+    result_.problems.push_back({at, std::move(words), of_other_firmware});
+  }
+
+  void ReadHeader() {
+    const auto* format = HeaderOf(document_, kFormatKey);
+    if (format == nullptr) {
+      Say({1, 1}, "the line \"format = " + std::to_string(kFormat) + "\" is missing");
+    } else if (format->value.text != std::to_string(kFormat)) {
+      Say(format->value.at, "format " + format->value.text + " is not known; this program reads format " +
+                                std::to_string(kFormat));
+    }
+    const std::vector<std::string> keys = {std::string(kFormatKey), std::string(kFirmwareKey),
+                                           std::string(kCompleteKey)};
+    for (const auto& entry : document_.entries) {
+      if (!entry.table.empty()) continue;
+      if (std::find(keys.begin(), keys.end(), entry.key) == keys.end()) {
+        Say(entry.at, InQuotes(entry.key) + " is in no table" + Suggestion(entry.key, keys));
+      } else if (entry.key == kCompleteKey && entry.value.kind != ValueKind::kFlag) {
+        Say(entry.value.at, entry.value.text + " is not allowed here; allowed: true, false");
+      } else if (entry.key == kFirmwareKey && entry.value.kind != ValueKind::kText) {
+        Say(entry.value.at, entry.value.text + " is not allowed here; allowed: a text such as \"V1400 R12\"");
+      }
+    }
+  }
+
+  // What is not named is zero in a complete form.
+  void Clear() {
+    image::ForEachStreamEntry(firmware_, [&](const image::FieldRow& row, int entry) {
+      result_.image.at(row.id, entry).assign(DigitsOfField(row.id, firmware_), '0');
+    });
+  }
+
+  void ReadSetting(const Entry& entry) {
+    const auto panels = catalogue_.OfPanels();
+    const auto is_meant = [&](const Setting& setting) {
+      return setting.table == entry.table && setting.key == entry.key;
+    };
+    const auto found = std::find_if(panels.begin(), panels.end(), is_meant);
+    if (found != panels.end()) {
+      named_.insert({entry.table, entry.key});
+      Take(*found, entry);
+    } else if (entry.table == panels.front().table) {
+      options_.push_back(&entry);
+    } else {
+      SayUnknown(entry);
+    }
+  }
+
+  void SayUnknown(const Entry& entry) {
+    const auto& tables = catalogue_.Tables();
+    if (std::find(tables.begin(), tables.end(), entry.table) == tables.end()) {
+      if (!unknown_tables_.insert(entry.table).second) return;
+      Say(entry.at, "there is no table [" + entry.table + "]" + Suggestion(entry.table, tables), foreign_);
+      return;
+    }
+    Say(entry.at,
+        InQuotes(entry.key) + " is no setting of [" + entry.table + "]" +
+            Suggestion(entry.key, KeysOf(entry.table)),
+        foreign_);
+  }
+
+  std::vector<std::string> KeysOf(std::string_view table) const {
+    std::vector<std::string> keys;
+    for (const auto& setting : catalogue_.OfPanels()) {
+      if (setting.table == table) keys.push_back(setting.key);
+    }
+    return keys;
+  }
+
+  void Take(const Setting& setting, const Entry& entry) {
+    const auto& value = entry.value;
+    if (value.kind == ValueKind::kBytes) {
+      if (!StoreDigits(setting, value.text, result_.image, firmware_)) {
+        Say(value.at, InQuotes(value.text) + " is not allowed for " + InQuotes(setting.key) +
+                          "; allowed: bytes such as \"" + DigitsOf(setting, result_.image, firmware_) + "\"");
+      }
+      return;
+    }
+    if (value.kind != ValueKind::kText) {
+      Say(value.at, value.text + " is not allowed for " + InQuotes(setting.key) +
+                        "; allowed: a text in quotes, or { bytes = \"...\" }");
+      return;
+    }
+    const auto words = codecs::Windows1252OfUtf8(value.text);
+    if (!words) {
+      Say(value.at, InQuotes(value.text) + " has characters that the unit does not have");
+      return;
+    }
+    const auto allowed = StoreWords(setting, *words, result_.image, firmware_);
+    if (allowed) SayNotAllowed(setting, entry, *allowed);
+  }
+
+  void SayNotAllowed(const Setting& setting, const Entry& entry, const std::string& allowed) {
+    constexpr std::size_t kFew = 12;
+    auto words = InQuotes(entry.value.text) + " is not allowed for " + InQuotes(setting.key);
+    if (setting.kind != Kind::kChoice || setting.choices->size() <= kFew) {
+      words += "; allowed: " + codecs::Utf8OfWindows1252(allowed);
+    }
+    std::vector<std::string> choices;
+    if (setting.kind == Kind::kChoice) {
+      for (const auto& choice : *setting.choices) choices.push_back(codecs::Utf8OfWindows1252(choice.words));
+      if (choices.size() > kFew)
+        words += "; allowed: one of " + std::to_string(choices.size()) + " entries, from " +
+                 InQuotes(choices.front()) + " to " + InQuotes(choices.back());
+    }
+    Say(entry.value.at, words + Suggestion(entry.value.text, choices), foreign_);
+  }
+
+  // ---- Other bytes
+
+  struct Target {
+    const image::FieldRow* row = nullptr;
+    int entry = 1;
+  };
+
+  std::optional<Target> TargetOf(const Entry& entry) {
+    std::optional<Target> target;
+    std::vector<std::string> names;
+    image::ForEachStreamEntry(firmware_, [&](const image::FieldRow& row, int of_entry) {
+      names.push_back(image::EntryName(row.name, image::EntryCount(row.id), of_entry));
+      if (names.back() == entry.key) target = Target{&row, of_entry};
+    });
+    if (!target)
+      Say(entry.at,
+          InQuotes(entry.key) + " is no field of " + NameOf(firmware_) + Suggestion(entry.key, names),
+          foreign_);
+    return target;
+  }
+
+  void ReadOtherBytes() {
+    Coverage panels;
+    for (const auto& setting : catalogue_.OfPanels()) panels.Add(setting, firmware_);
+    for (const auto* entry : others_) {
+      const auto target = TargetOf(*entry);
+      if (!target) continue;
+      auto& value = result_.image.at(target->row->id, target->entry);
+      const auto width = DigitsOfField(target->row->id, firmware_);
+      if (entry->value.kind == ValueKind::kDigits) {
+        as_they_are_.push_back({*target, entry->value.text});
+        continue;
+      }
+      auto digits = entry->value.text;
+      if (entry->value.kind != ValueKind::kText || digits.size() > width || digits.size() % 2 != 0 ||
+          !IsRegular(digits, digits.size())) {
+        Say(entry->value.at, (entry->value.kind == ValueKind::kText ? InQuotes(digits) : digits) +
+                                 " is not allowed here; allowed: at most " + std::to_string(width / 2) +
+                                 " bytes of two digits 0 to 9 and A to F");
+        continue;
+      }
+      digits.resize(width, '0');
+      const auto shown = panels.Inside(target->row->id, target->entry, digits);
+      if (shown.find_first_not_of('0') != std::string::npos) {
+        Say(entry->value.at, InQuotes(entry->value.text) + " has bits that other lines store");
+        continue;
+      }
+      if (!IsRegular(value, width)) value.assign(width, '0');
+      Merge(value, digits, panels.Outside(target->row->id, target->entry, std::string(width, 'F')));
+    }
+  }
+
+  // The bits of the mask from the digits, the others stay.
+  static void Merge(std::string& value, const std::string& digits, const std::string& mask) {
+    for (std::size_t byte = 0; byte < value.size(); byte += 2) {
+      const int bits = codecs::HexToInt(mask.substr(byte, 2));
+      const int merged = (codecs::HexToInt(value.substr(byte, 2)) & ~bits) |
+                         (codecs::HexToInt(digits.substr(byte, 2)) & bits);
+      value.replace(byte, 2, codecs::ByteToHex(merged));
+    }
+  }
+
+  // ---- Options of the register
+
+  // An option can bring another one, so the register is asked again after each round.
+  void ReadOptions() {
+    auto pending = options_;
+    std::vector<std::pair<Setting, const Entry*>> taken;
+    bool progress = true;
+    while (progress && !pending.empty()) {
+      progress = false;
+      auto offered = catalogue_.OfRegister(result_.image);
+      if (offered.empty()) offered = catalogue_.OfRegister(WithoutOptions());
+      for (const auto& setting : offered) {
+        const auto found = std::find_if(pending.begin(), pending.end(),
+                                        [&](const Entry* entry) { return entry->key == setting.key; });
+        if (found == pending.end()) continue;
+        Take(setting, **found);
+        taken.emplace_back(setting, *found);
+        pending.erase(found);
+        progress = true;
+        break;
+      }
+    }
+    for (const auto* entry : pending) SayNoOption(*entry);
+    for (const auto& [target, digits] : as_they_are_) result_.image.at(target.row->id, target.entry) = digits;
+    if (result_.problems.empty()) ExpectTogether(taken);
+  }
+
+  // The first entries of all options: with a byte that fits no entry the form shows none of them.
+  image::ConfigImage WithoutOptions() const {
+    auto image = result_.image;
+    for (const auto field : {image::FieldId::REGTYPE_MINOR, image::FieldId::REGTYPE_EXT1,
+                             image::FieldId::REGTYPE_EXT2, image::FieldId::UNITADDR})
+      image[field] = "00";
+    return image;
+  }
+
+  void SayNoOption(const Entry& entry) {
+    auto keys = KeysOf(entry.table);
+    for (const auto& setting : catalogue_.OfRegister(result_.image)) keys.push_back(setting.key);
+    const auto all = catalogue_.OptionKeys();
+    const bool known = std::find(all.begin(), all.end(), entry.key) != all.end();
+    Say(entry.at,
+        InQuotes(entry.key) +
+            (known ? " is no option of this register, or not together with its other options"
+                   : " is no setting of [" + entry.table + "]") +
+            Suggestion(entry.key, keys),
+        foreign_);
+  }
+
+  // Two lines can name the same byte.
+  void ExpectTogether(const std::vector<std::pair<Setting, const Entry*>>& taken) {
+    for (const auto& [setting, entry] : taken) {
+      auto again = result_.image;
+      Importer alone(catalogue_, again, document_);
+      alone.Take(setting, *entry);
+      if (alone.result_.image != result_.image)
+        Say(entry->value.at, InQuotes(entry->value.text) + " does not go together with the other options");
+    }
+  }
+
+  // ---- A complete form
+
+  void ExpectAll() {
+    for (const auto& setting : catalogue_.OfPanels()) {
+      const bool named = named_.count({setting.table, setting.key}) == 1;
+      if (named || !IsStored(setting, result_.image, firmware_)) continue;
+      SayMissing(setting);
+    }
+    for (const auto& setting : catalogue_.OfRegister(result_.image)) {
+      const bool named = std::any_of(options_.begin(), options_.end(),
+                                     [&](const Entry* entry) { return entry->key == setting.key; });
+      if (!named && WordsOf(setting, result_.image, firmware_)) SayMissing(setting);
+    }
+  }
+
+  void SayMissing(const Setting& setting) {
+    Say(HeaderOf(document_, kCompleteKey)->at,
+        InQuotes(setting.key) + " of [" + setting.table +
+            "] is missing. Add it, or leave out the line \"complete = true\": then what is not named stays");
+  }
+
+  Catalogue& catalogue_;
+  const firmware::FirmwareId& firmware_;
+  const Document& document_;
+  Imported result_;
+  bool foreign_ = false;
+  bool complete_ = false;
+  std::set<std::pair<std::string, std::string>> named_;
+  std::set<std::string> unknown_tables_;
+  std::vector<const Entry*> others_, options_;
+  std::vector<std::pair<Target, std::string>> as_they_are_;
+};
+
+}  // namespace
+
+std::string TextOf(const Problem& problem, std::string_view path) {
+  return std::string(path) + ":" + std::to_string(problem.at.line) + ":" + std::to_string(problem.at.column) +
+         ": " + problem.words;
+}
+
+std::string FirmwareNamed(const Document& document) {
+  const auto* entry = HeaderOf(document, kFirmwareKey);
+  return entry == nullptr || entry->value.kind != ValueKind::kText ? std::string() : entry->value.text;
+}
+
+Imported Import(Catalogue& catalogue, const image::ConfigImage& base, const Document& document,
+                Strictness strictness) {
+  if (!document.problems.empty()) return {base, document.problems, {}};
+  auto imported = Importer(catalogue, base, document).Run();
+  if (strictness == Strictness::kWhole) return imported;
+  const auto left_out =
+      std::stable_partition(imported.problems.begin(), imported.problems.end(),
+                            [](const Problem& problem) { return !problem.of_other_firmware; });
+  imported.left_out.assign(left_out, imported.problems.end());
+  imported.problems.erase(left_out, imported.problems.end());
+  return imported;
+}
+
+}  // namespace ovl::text_form
