@@ -1,0 +1,73 @@
+#include "script/configurations.h"
+
+#include "files/files.h"
+#include "firmware/firmware_table.h"
+#include "host/toml/toml_reader.h"
+#include "image/report.h"
+#include "script/parser.h"
+#include "script/stop.h"
+#include "start/start_up.h"
+
+namespace ovl::script {
+namespace {
+
+std::unique_ptr<core::Application> Serving(const firmware::FirmwareId& firmware) {
+  auto app = std::make_unique<core::Application>();
+  start::ServeFirmware(*app, firmware);
+  return app;
+}
+
+firmware::FirmwareId KnownFirmware(const std::string& name) {
+  if (const auto firmware = firmware::FindFirmware(name)) return *firmware;
+  Wrong("there is no firmware " + Quoted(name));
+}
+
+}  // namespace
+
+Viewer::Viewer(const firmware::FirmwareId& firmware) : app(Serving(firmware)), catalogue(*app) {}
+
+bool IsTextForm(std::string_view bytes) {
+  return bytes.starts_with("format") || bytes.find("\nformat") != std::string_view::npos;
+}
+
+image::ConfigImage ReadTextForm(text_form::Catalogue& catalogue, const image::ConfigImage& base,
+                                const std::string& path, std::string_view bytes,
+                                text_form::Strictness strictness, std::string& left_out) {
+  const auto imported = text_form::Import(catalogue, base, host::ReadToml(bytes), strictness);
+  for (const auto& problem : imported.left_out) left_out += TextOf(problem, path) + "\n";
+  std::string problems;
+  for (const auto& problem : imported.problems)
+    problems += (problems.empty() ? "" : "\n") + TextOf(problem, path);
+  if (!problems.empty()) Wrong(problems);
+  return imported.image;
+}
+
+firmware::FirmwareId FirmwareOf(const std::string& path, std::string_view bytes, const std::string& named) {
+  if (!named.empty()) return KnownFirmware(named);
+  if (IsTextForm(bytes)) {
+    const auto of_form = text_form::FirmwareNamed(host::ReadToml(bytes));
+    if (!of_form.empty()) return KnownFirmware(of_form);
+    Wrong(path + ": the text form names no firmware. Name it with --firmware");
+  }
+  const auto fits = image::FittingFirmware(files::JoinLines(bytes));
+  if (fits.empty()) Wrong(path + ": no configuration, or a damaged one: it fits no firmware");
+  if (fits.size() == 1) return fits.front().firmware;
+  std::string names;
+  for (const auto& fit : fits) names += (names.empty() ? "" : ", ") + fit.firmware.Joined();
+  Wrong(path + ": it fits " + names + ". Name one with --firmware");
+}
+
+image::ConfigImage ReadConfiguration(Viewer& viewer, const image::ConfigImage& base, const std::string& path,
+                                     std::string_view bytes) {
+  if (IsTextForm(bytes)) {
+    std::string left_out;
+    return ReadTextForm(viewer.catalogue, base, path, bytes, text_form::Strictness::kWhole, left_out);
+  }
+  const auto stream = files::JoinLines(bytes);
+  const auto& firmware = viewer.catalogue.Firmware();
+  const auto decoded = image::DecodeStream(stream, firmware);
+  if (!decoded) Wrong(path + ": no configuration of " + firmware.Joined());
+  return *decoded;
+}
+
+}  // namespace ovl::script
