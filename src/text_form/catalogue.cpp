@@ -204,13 +204,31 @@ void Catalogue::SortByTable() {
   }
 }
 
+// What decides about the options: the register and the fields that they show.
+std::string Catalogue::StoredOptions(const image::ConfigImage& image) const {
+  std::string stored = image[FieldId::REGTYPE];
+  for (const auto& rows : options_) {
+    for (const auto* row : rows) {
+      for (const auto field : row->fields) stored.append(" ").append(image.at(field, row->entry));
+    }
+  }
+  return stored;
+}
+
 std::vector<Setting> Catalogue::OfRegister(const image::ConfigImage& image) {
+  constexpr std::size_t kKept = 4;
+  auto stored = StoredOptions(image);
+  for (const auto& offer : offers_) {
+    if (offer.stored == stored) return offer.settings;
+  }
   std::vector<Setting> settings;
   const changes::PreviewProgram program(like_, image);
   for (const auto& rows : options_) {
     if (!changes::IsOnScreen(program, *rows.front())) continue;
     if (auto setting = OptionSetting(program, rows, image)) settings.push_back(std::move(*setting));
   }
+  offers_.push_front({std::move(stored), settings});
+  if (offers_.size() > kKept) offers_.pop_back();
   return settings;
 }
 

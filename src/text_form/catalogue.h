@@ -3,6 +3,7 @@
 // hundred times as long as a load; it can be used for any number of images.
 #pragma once
 
+#include <deque>
 #include <map>
 #include <utility>
 #include <vector>
@@ -27,7 +28,8 @@ class Catalogue {
   // The settings of the panels, in the order of the tables. The register comes first.
   std::span<const Setting> OfPanels() const { return panels_; }
 
-  // The options that the register of the image offers, as the form shows them after a load.
+  // The options that the register of the image offers, as the form shows them after a load. The latest
+  // answers are kept.
   std::vector<Setting> OfRegister(const image::ConfigImage& image);
 
   // The names of the options of every register.
@@ -40,6 +42,13 @@ class Catalogue {
     std::vector<std::vector<std::string>> stored;
   };
 
+  // The options for some stored values of the fields of options.
+  struct Offer {
+    std::string stored;
+    std::vector<Setting> settings;
+  };
+
+  std::string StoredOptions(const image::ConfigImage& image) const;
   void AddFields();
   void AddSite(const changes::Site& site, image::FieldId field, int entry);
   void GiveChoices();
@@ -56,6 +65,7 @@ class Catalogue {
   std::vector<Setting> panels_;
   std::vector<OptionRows> options_;                                         // those of one control together
   std::map<std::pair<std::string, std::string_view>, Encoding> encodings_;  // by register and control
+  std::deque<Offer> offers_;                                                // the latest first
 };
 
 }  // namespace ovl::text_form

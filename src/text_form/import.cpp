@@ -9,16 +9,12 @@
 #include "text_form/coverage.h"
 #include "text_form/encoding.h"
 #include "text_form/export.h"
-#include "text_form/nearest.h"
+#include "text_form/messages.h"
 
 namespace ovl::text_form {
 namespace {
 
 constexpr std::string_view kFormatKey = "format", kFirmwareKey = "firmware", kCompleteKey = "complete";
-
-std::string InQuotes(std::string_view text) {
-  return "\"" + std::string(text) + "\"";
-}
 
 const Entry* HeaderOf(const Document& document, std::string_view key) {
   const auto found = std::find_if(document.entries.begin(), document.entries.end(), [&](const Entry& entry) {
@@ -29,11 +25,6 @@ const Entry* HeaderOf(const Document& document, std::string_view key) {
 
 std::string NameOf(const firmware::FirmwareId& firmware) {
   return firmware.version + " " + firmware.release;
-}
-
-std::string Suggestion(std::string_view word, const std::vector<std::string>& words) {
-  const auto nearest = Nearest(word, words);
-  return nearest.empty() ? std::string() : ". Did you mean " + InQuotes(nearest) + "?";
 }
 
 class Importer {
@@ -82,6 +73,7 @@ class Importer {
       Say(format->value.at, "format " + format->value.text + " is not known; this program reads format " +
                                 std::to_string(kFormat));
     }
+    if (!result_.problems.empty()) return;
     const std::vector<std::string> keys = {std::string(kFormatKey), std::string(kFirmwareKey),
                                            std::string(kCompleteKey)};
     for (const auto& entry : document_.entries) {
@@ -89,9 +81,10 @@ class Importer {
       if (std::find(keys.begin(), keys.end(), entry.key) == keys.end()) {
         Say(entry.at, InQuotes(entry.key) + " is in no table" + Suggestion(entry.key, keys));
       } else if (entry.key == kCompleteKey && entry.value.kind != ValueKind::kFlag) {
-        Say(entry.value.at, entry.value.text + " is not allowed here; allowed: true, false");
+        Say(entry.value.at, Written(entry.value) + " is not allowed here; allowed: true, false");
       } else if (entry.key == kFirmwareKey && entry.value.kind != ValueKind::kText) {
-        Say(entry.value.at, entry.value.text + " is not allowed here; allowed: a text such as \"V1400 R12\"");
+        Say(entry.value.at,
+            Written(entry.value) + " is not allowed here; allowed: a text such as \"V1400 R12\"");
       }
     }
   }
@@ -144,13 +137,15 @@ class Importer {
     const auto& value = entry.value;
     if (value.kind == ValueKind::kBytes) {
       if (!StoreDigits(setting, value.text, result_.image, firmware_)) {
-        Say(value.at, InQuotes(value.text) + " is not allowed for " + InQuotes(setting.key) +
-                          "; allowed: bytes such as \"" + DigitsOf(setting, result_.image, firmware_) + "\"");
+        Say(value.at,
+            Written(value) + " is not allowed for " + InQuotes(setting.key) + "; allowed: bytes such as \"" +
+                DigitsOf(setting, result_.image, firmware_) + "\"",
+            foreign_);
       }
       return;
     }
     if (value.kind != ValueKind::kText) {
-      Say(value.at, value.text + " is not allowed for " + InQuotes(setting.key) +
+      Say(value.at, Written(value) + " is not allowed for " + InQuotes(setting.key) +
                         "; allowed: a text in quotes, or { bytes = \"...\" }");
       return;
     }
@@ -160,23 +155,7 @@ class Importer {
       return;
     }
     const auto allowed = StoreWords(setting, *words, result_.image, firmware_);
-    if (allowed) SayNotAllowed(setting, entry, *allowed);
-  }
-
-  void SayNotAllowed(const Setting& setting, const Entry& entry, const std::string& allowed) {
-    constexpr std::size_t kFew = 12;
-    auto words = InQuotes(entry.value.text) + " is not allowed for " + InQuotes(setting.key);
-    if (setting.kind != Kind::kChoice || setting.choices->size() <= kFew) {
-      words += "; allowed: " + codecs::Utf8OfWindows1252(allowed);
-    }
-    std::vector<std::string> choices;
-    if (setting.kind == Kind::kChoice) {
-      for (const auto& choice : *setting.choices) choices.push_back(codecs::Utf8OfWindows1252(choice.words));
-      if (choices.size() > kFew)
-        words += "; allowed: one of " + std::to_string(choices.size()) + " entries, from " +
-                 InQuotes(choices.front()) + " to " + InQuotes(choices.back());
-    }
-    Say(entry.value.at, words + Suggestion(entry.value.text, choices), foreign_);
+    if (allowed) Say(value.at, NotAllowed(setting, value.text, *allowed), foreign_);
   }
 
   // ---- Other bytes
@@ -215,9 +194,9 @@ class Importer {
       auto digits = entry->value.text;
       if (entry->value.kind != ValueKind::kText || digits.size() > width || digits.size() % 2 != 0 ||
           !IsRegular(digits, digits.size())) {
-        Say(entry->value.at, (entry->value.kind == ValueKind::kText ? InQuotes(digits) : digits) +
-                                 " is not allowed here; allowed: at most " + std::to_string(width / 2) +
-                                 " bytes of two digits 0 to 9 and A to F");
+        const auto most = std::to_string(width / 2) + (width == 2 ? " byte" : " bytes");
+        Say(entry->value.at, Written(entry->value) + " is not allowed here; allowed: at most " + most +
+                                 " of two digits 0 to 9 and A to F");
         continue;
       }
       digits.resize(width, '0');
@@ -243,32 +222,46 @@ class Importer {
 
   // ---- Options of the register
 
-  // An option can bring another one, so the register is asked again after each round.
+  // An option can bring another one, or change what it offers. So the register is asked again until the
+  // options that it offers store nothing else.
   void ReadOptions() {
-    auto pending = options_;
+    constexpr int kMostRounds = 8;
     std::vector<std::pair<Setting, const Entry*>> taken;
-    bool progress = true;
-    while (progress && !pending.empty()) {
-      progress = false;
-      auto offered = catalogue_.OfRegister(result_.image);
-      if (offered.empty()) offered = catalogue_.OfRegister(WithoutOptions());
-      for (const auto& setting : offered) {
-        const auto found = std::find_if(pending.begin(), pending.end(),
-                                        [&](const Entry* entry) { return entry->key == setting.key; });
-        if (found == pending.end()) continue;
-        Take(setting, **found);
-        taken.emplace_back(setting, *found);
-        pending.erase(found);
-        progress = true;
-        break;
-      }
+    auto before = result_.problems;
+    for (int round = 0; round < kMostRounds && !options_.empty(); ++round) {
+      const auto image = result_.image;
+      result_.problems = before;
+      taken = TakeOffered();
+      if (round > 0 && image == result_.image) break;
     }
-    for (const auto* entry : pending) SayNoOption(*entry);
+    for (const auto* entry : options_) {
+      const bool is_taken = std::any_of(taken.begin(), taken.end(),
+                                        [&](const auto& setting) { return setting.second == entry; });
+      if (!is_taken) SayNoOption(*entry);
+    }
     for (const auto& [target, digits] : as_they_are_) result_.image.at(target.row->id, target.entry) = digits;
     if (result_.problems.empty()) ExpectTogether(taken);
   }
 
-  // The first entries of all options: with a byte that fits no entry the form shows none of them.
+  // With a byte that fits no entry, the form shows none of the options.
+  std::vector<Setting> Offered() const {
+    auto offered = catalogue_.OfRegister(result_.image);
+    return offered.empty() ? catalogue_.OfRegister(WithoutOptions()) : offered;
+  }
+
+  std::vector<std::pair<Setting, const Entry*>> TakeOffered() {
+    std::vector<std::pair<Setting, const Entry*>> taken;
+    for (auto& setting : Offered()) {
+      const auto found = std::find_if(options_.begin(), options_.end(),
+                                      [&](const Entry* entry) { return entry->key == setting.key; });
+      if (found == options_.end()) continue;
+      Take(setting, **found);
+      taken.emplace_back(std::move(setting), *found);
+    }
+    return taken;
+  }
+
+  // The first entries of all options.
   image::ConfigImage WithoutOptions() const {
     auto image = result_.image;
     for (const auto field : {image::FieldId::REGTYPE_MINOR, image::FieldId::REGTYPE_EXT1,
@@ -279,7 +272,7 @@ class Importer {
 
   void SayNoOption(const Entry& entry) {
     auto keys = KeysOf(entry.table);
-    for (const auto& setting : catalogue_.OfRegister(result_.image)) keys.push_back(setting.key);
+    for (const auto& setting : Offered()) keys.push_back(setting.key);
     const auto all = catalogue_.OptionKeys();
     const bool known = std::find(all.begin(), all.end(), entry.key) != all.end();
     Say(entry.at,
@@ -304,22 +297,25 @@ class Importer {
   // ---- A complete form
 
   void ExpectAll() {
+    std::vector<std::string> missing;
+    const auto add = [&](const Setting& setting) {
+      missing.push_back(InQuotes(setting.key) + " of [" + setting.table + "]");
+    };
     for (const auto& setting : catalogue_.OfPanels()) {
       const bool named = named_.count({setting.table, setting.key}) == 1;
-      if (named || !IsStored(setting, result_.image, firmware_)) continue;
-      SayMissing(setting);
+      if (!named && IsStored(setting, result_.image, firmware_)) add(setting);
     }
     for (const auto& setting : catalogue_.OfRegister(result_.image)) {
       const bool named = std::any_of(options_.begin(), options_.end(),
                                      [&](const Entry* entry) { return entry->key == setting.key; });
-      if (!named && WordsOf(setting, result_.image, firmware_)) SayMissing(setting);
+      if (!named && WordsOf(setting, result_.image, firmware_)) add(setting);
     }
-  }
-
-  void SayMissing(const Setting& setting) {
+    if (missing.empty()) return;
+    const auto others = missing.size() - 1;
     Say(HeaderOf(document_, kCompleteKey)->at,
-        InQuotes(setting.key) + " of [" + setting.table +
-            "] is missing. Add it, or leave out the line \"complete = true\": then what is not named stays");
+        (others == 0 ? missing.front() + " is missing"
+                     : missing.front() + " and " + std::to_string(others) + " others are missing") +
+            ". Without the line \"complete = true\", what is not named keeps its value");
   }
 
   Catalogue& catalogue_;
@@ -339,6 +335,11 @@ class Importer {
 std::string TextOf(const Problem& problem, std::string_view path) {
   return std::string(path) + ":" + std::to_string(problem.at.line) + ":" + std::to_string(problem.at.column) +
          ": " + problem.words;
+}
+
+bool IsTextForm(std::string_view bytes) {
+  return bytes.starts_with(kFormatKey) ||
+         bytes.find("\n" + std::string(kFormatKey)) != std::string_view::npos;
 }
 
 std::string FirmwareNamed(const Document& document) {

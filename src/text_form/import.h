@@ -20,6 +20,9 @@ struct Imported {
 Imported Import(Catalogue& catalogue, const image::ConfigImage& base, const Document& document,
                 Strictness strictness);
 
+// Whether the bytes are a text form and no record stream.
+bool IsTextForm(std::string_view bytes);
+
 // The firmware that the form names, such as "V1400 R12"; empty if it names none.
 std::string FirmwareNamed(const Document& document);
 

@@ -1,0 +1,96 @@
+#include "text_form/messages.h"
+
+#include <algorithm>
+#include <cctype>
+#include <numeric>
+
+#include "codecs/windows_1252.h"
+
+namespace ovl::text_form {
+namespace {
+
+bool Alike(char one, char other) {
+  return std::tolower(static_cast<unsigned char>(one)) == std::tolower(static_cast<unsigned char>(other));
+}
+
+// Letters to insert, to leave out or to replace.
+std::size_t Distance(std::string_view one, std::string_view other) {
+  std::vector<std::size_t> row(other.size() + 1);
+  std::iota(row.begin(), row.end(), std::size_t{0});
+  for (std::size_t i = 0; i < one.size(); ++i) {
+    auto diagonal = row[0]++;
+    for (std::size_t j = 0; j < other.size(); ++j) {
+      const auto replaced = diagonal + (Alike(one[i], other[j]) ? 0 : 1);
+      diagonal = row[j + 1];
+      row[j + 1] = std::min({row[j] + 1, row[j + 1] + 1, replaced});
+    }
+  }
+  return row.back();
+}
+
+// The word with the fewest letters to change, whatever its case. Empty if none is near.
+std::string Nearest(std::string_view word, const std::vector<std::string>& words) {
+  constexpr std::size_t kLongest = 80;
+  if (word.size() > kLongest) return {};
+  std::string nearest;
+  auto least = std::max<std::size_t>(2, word.size() / 3) + 1;
+  for (const auto& candidate : words) {
+    const auto distance = Distance(word, candidate);
+    if (distance >= least) continue;
+    least = distance;
+    nearest = candidate;
+  }
+  return nearest;
+}
+
+}  // namespace
+
+std::string InQuotes(std::string_view text) {
+  constexpr std::string_view kDigits = "0123456789ABCDEF";
+  std::string quoted = "\"";
+  for (const char letter : text) {
+    const auto code = static_cast<unsigned char>(letter);
+    if (code < ' ' || code == 0x7F) {
+      quoted.append("\\u00").append(1, kDigits[code >> 4U]).append(1, kDigits[code & 0xFU]);
+    } else {
+      quoted += letter;
+    }
+  }
+  return quoted + "\"";
+}
+
+std::string Written(const Value& value) {
+  switch (value.kind) {
+    case ValueKind::kText:
+      return InQuotes(value.text);
+    case ValueKind::kBytes:
+      return "{ bytes = " + InQuotes(value.text) + " }";
+    case ValueKind::kDigits:
+      return "{ digits = " + InQuotes(value.text) + " }";
+    default:
+      return value.text;
+  }
+}
+
+std::string Suggestion(std::string_view word, const std::vector<std::string>& words) {
+  const auto nearest = Nearest(word, words);
+  return nearest.empty() ? std::string() : ". Did you mean " + InQuotes(nearest) + "?";
+}
+
+std::string NotAllowed(const Setting& setting, std::string_view text, std::string_view allowed) {
+  constexpr std::size_t kFew = 12;
+  std::vector<std::string> entries;
+  if (setting.kind == Kind::kChoice) {
+    for (const auto& choice : *setting.choices) entries.push_back(codecs::Utf8OfWindows1252(choice.words));
+  }
+  auto words = InQuotes(text) + " is not allowed for " + InQuotes(setting.key) + "; allowed: ";
+  if (entries.size() <= kFew) {
+    words += codecs::Utf8OfWindows1252(allowed);
+  } else {
+    words += "one of " + std::to_string(entries.size()) + " entries, from " + InQuotes(entries.front()) +
+             " to " + InQuotes(entries.back());
+  }
+  return words + Suggestion(text, entries);
+}
+
+}  // namespace ovl::text_form
