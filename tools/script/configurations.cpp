@@ -26,10 +26,6 @@ firmware::FirmwareId KnownFirmware(const std::string& name) {
 
 Viewer::Viewer(const firmware::FirmwareId& firmware) : app(Serving(firmware)), catalogue(*app) {}
 
-bool IsTextForm(std::string_view bytes) {
-  return bytes.starts_with("format") || bytes.find("\nformat") != std::string_view::npos;
-}
-
 image::ConfigImage ReadTextForm(text_form::Catalogue& catalogue, const image::ConfigImage& base,
                                 const std::string& path, std::string_view bytes,
                                 text_form::Strictness strictness, std::string& left_out) {
@@ -44,7 +40,7 @@ image::ConfigImage ReadTextForm(text_form::Catalogue& catalogue, const image::Co
 
 firmware::FirmwareId FirmwareOf(const std::string& path, std::string_view bytes, const std::string& named) {
   if (!named.empty()) return KnownFirmware(named);
-  if (IsTextForm(bytes)) {
+  if (text_form::IsTextForm(bytes)) {
     const auto of_form = text_form::FirmwareNamed(host::ReadToml(bytes));
     if (!of_form.empty()) return KnownFirmware(of_form);
     Wrong(path + ": the text form names no firmware. Name it with --firmware");
@@ -59,7 +55,7 @@ firmware::FirmwareId FirmwareOf(const std::string& path, std::string_view bytes,
 
 image::ConfigImage ReadConfiguration(Viewer& viewer, const image::ConfigImage& base, const std::string& path,
                                      std::string_view bytes) {
-  if (IsTextForm(bytes)) {
+  if (text_form::IsTextForm(bytes)) {
     std::string left_out;
     return ReadTextForm(viewer.catalogue, base, path, bytes, text_form::Strictness::kWhole, left_out);
   }

@@ -19,9 +19,6 @@ struct Viewer {
   text_form::Catalogue catalogue;
 };
 
-// Whether the bytes are a text form and no record stream.
-bool IsTextForm(std::string_view bytes);
-
 // The image with what the text form says. Throws Stop with every problem, one a line, behind the path; what
 // is left out goes to `left_out` in the same form.
 image::ConfigImage ReadTextForm(text_form::Catalogue& catalogue, const image::ConfigImage& base,

@@ -77,7 +77,7 @@ File ReadFile(const std::string& path) {
 }
 
 ExitStatus DiffFiles(const File& one, const File& other, const std::string& firmware, std::ostream& output) {
-  const auto& with_firmware = IsTextForm(other.bytes) && !IsTextForm(one.bytes) ? other : one;
+  const auto& with_firmware = text_form::IsTextForm(other.bytes) && !text_form::IsTextForm(one.bytes) ? other : one;
   Viewer viewer(FirmwareOf(with_firmware.path, with_firmware.bytes, firmware));
   const auto empty = text_form::FilledImage(viewer.catalogue.Firmware(), '0');
   const auto before = ReadConfiguration(viewer, empty, one.path, one.bytes);
