@@ -201,7 +201,13 @@ void Catalogue::SortByTable() {
   for (const auto& setting : panels_) {
     if (std::find(tables_.begin(), tables_.end(), setting.table) == tables_.end())
       tables_.push_back(setting.table);
+    by_name_.emplace(std::pair(std::string_view(setting.table), std::string_view(setting.key)), &setting);
   }
+}
+
+const Setting* Catalogue::Find(std::string_view table, std::string_view key) const {
+  const auto found = by_name_.find({table, key});
+  return found == by_name_.end() ? nullptr : found->second;
 }
 
 // What decides about the options: the register and the fields that they show.

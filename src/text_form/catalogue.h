@@ -19,6 +19,7 @@ class Catalogue {
  public:
   // Of the firmware of the image of `like`, which has to outlive it.
   explicit Catalogue(const core::Application& like);
+  Catalogue(const Catalogue&) = delete;
 
   const firmware::FirmwareId& Firmware() const { return firmware_; }
 
@@ -27,6 +28,9 @@ class Catalogue {
 
   // The settings of the panels, in the order of the tables. The register comes first.
   std::span<const Setting> OfPanels() const { return panels_; }
+
+  // The setting of the panels with this name; null if there is none.
+  const Setting* Find(std::string_view table, std::string_view key) const;
 
   // The options that the register of the image offers, as the form shows them after a load. The latest
   // answers are kept.
@@ -63,6 +67,7 @@ class Catalogue {
   firmware::FirmwareId firmware_;
   std::vector<std::string> tables_;
   std::vector<Setting> panels_;
+  std::map<std::pair<std::string_view, std::string_view>, const Setting*> by_name_;
   std::vector<OptionRows> options_;                                         // those of one control together
   std::map<std::pair<std::string, std::string_view>, Encoding> encodings_;  // by register and control
   std::deque<Offer> offers_;                                                // the latest first

@@ -1,6 +1,7 @@
 #include "text_form/import.h"
 
 #include <algorithm>
+#include <map>
 #include <set>
 
 #include "codecs/windows_1252.h"
@@ -97,15 +98,10 @@ class Importer {
   }
 
   void ReadSetting(const Entry& entry) {
-    const auto panels = catalogue_.OfPanels();
-    const auto is_meant = [&](const Setting& setting) {
-      return setting.table == entry.table && setting.key == entry.key;
-    };
-    const auto found = std::find_if(panels.begin(), panels.end(), is_meant);
-    if (found != panels.end()) {
-      named_.insert({entry.table, entry.key});
-      Take(*found, entry);
-    } else if (entry.table == panels.front().table) {
+    if (const auto* setting = catalogue_.Find(entry.table, entry.key)) {
+      named_.insert(setting);
+      Take(*setting, entry);
+    } else if (entry.table == catalogue_.Tables().front()) {
       options_.push_back(&entry);
     } else {
       SayUnknown(entry);
@@ -116,7 +112,8 @@ class Importer {
     const auto& tables = catalogue_.Tables();
     if (std::find(tables.begin(), tables.end(), entry.table) == tables.end()) {
       if (!unknown_tables_.insert(entry.table).second) return;
-      Say(entry.at, "there is no table [" + entry.table + "]" + Suggestion(entry.table, tables), foreign_);
+      Say(entry.at, "there is no table [" + Escaped(entry.table) + "]" + Suggestion(entry.table, tables),
+          foreign_);
       return;
     }
     Say(entry.at,
@@ -165,26 +162,27 @@ class Importer {
     int entry = 1;
   };
 
-  std::optional<Target> TargetOf(const Entry& entry) {
-    std::optional<Target> target;
+  const Target* TargetOf(const Entry& entry) {
+    if (targets_.empty()) {
+      image::ForEachStreamEntry(firmware_, [&](const image::FieldRow& row, int of_entry) {
+        targets_[image::EntryName(row.name, image::EntryCount(row.id), of_entry)] = {&row, of_entry};
+      });
+    }
+    const auto found = targets_.find(entry.key);
+    if (found != targets_.end()) return &found->second;
     std::vector<std::string> names;
-    image::ForEachStreamEntry(firmware_, [&](const image::FieldRow& row, int of_entry) {
-      names.push_back(image::EntryName(row.name, image::EntryCount(row.id), of_entry));
-      if (names.back() == entry.key) target = Target{&row, of_entry};
-    });
-    if (!target)
-      Say(entry.at,
-          InQuotes(entry.key) + " is no field of " + NameOf(firmware_) + Suggestion(entry.key, names),
-          foreign_);
-    return target;
+    for (const auto& [name, target] : targets_) names.push_back(name);
+    Say(entry.at, InQuotes(entry.key) + " is no field of " + NameOf(firmware_) + Suggestion(entry.key, names),
+        foreign_);
+    return nullptr;
   }
 
   void ReadOtherBytes() {
     Coverage panels;
     for (const auto& setting : catalogue_.OfPanels()) panels.Add(setting, firmware_);
     for (const auto* entry : others_) {
-      const auto target = TargetOf(*entry);
-      if (!target) continue;
+      const auto* target = TargetOf(*entry);
+      if (target == nullptr) continue;
       auto& value = result_.image.at(target->row->id, target->entry);
       const auto width = DigitsOfField(target->row->id, firmware_);
       if (entry->value.kind == ValueKind::kDigits) {
@@ -302,8 +300,7 @@ class Importer {
       missing.push_back(InQuotes(setting.key) + " of [" + setting.table + "]");
     };
     for (const auto& setting : catalogue_.OfPanels()) {
-      const bool named = named_.count({setting.table, setting.key}) == 1;
-      if (!named && IsStored(setting, result_.image, firmware_)) add(setting);
+      if (named_.count(&setting) == 0 && IsStored(setting, result_.image, firmware_)) add(setting);
     }
     for (const auto& setting : catalogue_.OfRegister(result_.image)) {
       const bool named = std::any_of(options_.begin(), options_.end(),
@@ -324,9 +321,10 @@ class Importer {
   Imported result_;
   bool foreign_ = false;
   bool complete_ = false;
-  std::set<std::pair<std::string, std::string>> named_;
+  std::set<const Setting*> named_;
   std::set<std::string> unknown_tables_;
   std::vector<const Entry*> others_, options_;
+  std::map<std::string, Target> targets_;  // by the names of the fields
   std::vector<std::pair<Target, std::string>> as_they_are_;
 };
 

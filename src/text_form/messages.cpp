@@ -33,7 +33,7 @@ std::string Nearest(std::string_view word, const std::vector<std::string>& words
   constexpr std::size_t kLongest = 80;
   if (word.size() > kLongest) return {};
   std::string nearest;
-  auto least = std::max<std::size_t>(2, word.size() / 3) + 1;
+  auto least = std::min(std::max<std::size_t>(2, word.size() / 3) + 1, word.size());
   for (const auto& candidate : words) {
     const auto distance = Distance(word, candidate);
     if (distance >= least) continue;
@@ -45,18 +45,22 @@ std::string Nearest(std::string_view word, const std::vector<std::string>& words
 
 }  // namespace
 
-std::string InQuotes(std::string_view text) {
+std::string Escaped(std::string_view text) {
   constexpr std::string_view kDigits = "0123456789ABCDEF";
-  std::string quoted = "\"";
+  std::string escaped;
   for (const char letter : text) {
     const auto code = static_cast<unsigned char>(letter);
     if (code < ' ' || code == 0x7F) {
-      quoted.append("\\u00").append(1, kDigits[code >> 4U]).append(1, kDigits[code & 0xFU]);
+      escaped.append("\\u00").append(1, kDigits[code >> 4U]).append(1, kDigits[code & 0xFU]);
     } else {
-      quoted += letter;
+      escaped += letter;
     }
   }
-  return quoted + "\"";
+  return escaped;
+}
+
+std::string InQuotes(std::string_view text) {
+  return "\"" + Escaped(text) + "\"";
 }
 
 std::string Written(const Value& value) {

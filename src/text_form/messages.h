@@ -11,6 +11,7 @@
 namespace ovl::text_form {
 
 // Control characters become their escapes, so that a message is one line.
+std::string Escaped(std::string_view text);
 std::string InQuotes(std::string_view text);
 
 // As the value is written.

@@ -183,7 +183,8 @@ std::string Allowed(const Setting& setting, const firmware::FirmwareId& firmware
 }  // namespace
 
 bool IsRegular(std::string_view value, std::size_t digits) {
-  return value.size() == digits && value.find_first_not_of("0123456789ABCDEF") == std::string_view::npos;
+  const auto is_digit = [](char digit) { return IsDigit(digit) || (digit >= 'A' && digit <= 'F'); };
+  return value.size() == digits && std::all_of(value.begin(), value.end(), is_digit);
 }
 
 std::size_t DigitsOfField(image::FieldId field, const firmware::FirmwareId& firmware) {

@@ -5,7 +5,8 @@
 #include <toml++/toml.h>
 
 #include <algorithm>
-#include <sstream>
+
+#include "text_form/messages.h"
 
 namespace ovl::host {
 namespace {
@@ -73,7 +74,7 @@ Document ReadToml(std::string_view text) {
   if (!parsed) {
     const auto& error = parsed.error();
     document.problems.push_back(
-        {PositionOf(error.source().begin), "wrong syntax: " + std::string(error.description())});
+        {PositionOf(error.source().begin), "wrong syntax: " + text_form::Escaped(error.description())});
     return document;
   }
   for (const auto& [key, node] : parsed.table()) {
