@@ -235,7 +235,7 @@ RX_BAUDRATE = "03")",
      R"(3:15 "03" has bits that other lines store)"},
     {R"-(["Other bytes"]
 "EXCPSTRS(25)" = "00")-",
-     R"-(3:1 "EXCPSTRS(25)" is no field of V1400 R12. Did you mean "EXCPSTRS(2)"?)-"},
+     R"-(3:1 "EXCPSTRS(25)" is no field of V1400 R12. Did you mean "EXCPSTRS(15)"?)-"},
     {R"(["Other bytes"]
 "EXCPSTRS" = "00")",
      R"(3:1 "EXCPSTRS" is no field of V1400 R12)"},
