@@ -23,7 +23,7 @@ while [ $# -gt 0 ]; do
 done
 [ ${#releases[@]} -gt 0 ] || releases=(bookworm trixie)
 cd "$(dirname "$0")/.."
-tools/require debootstrap autopkgtest apt-utils
+tools/require debootstrap autopkgtest apt-utils desktop-file-utils xvfb xdotool
 work=$(mktemp -d)
 chmod 755 "$work"  # folders below it become the root of an ordinary user
 : "${roots:=$work/roots}"
@@ -42,7 +42,7 @@ report() {
 }
 drop() {
   [ -n "$root" ] || return 0
-  for mounted in dev proc cache; do umount --recursive --lazy "$root/$mounted" 2> /dev/null || true; done
+  for mounted in dev proc cache tmp/.X11-unix; do umount --recursive --lazy "$root/$mounted" 2> /dev/null || true; done
   if grep -qF " $root/" /proc/self/mounts; then return 1; fi
   rm -rf "$root"
   root=''
@@ -120,6 +120,28 @@ try_archive() {
   step "archive: moved to a folder with blanks and umlauts, ./start and a transfer"
   as_user "mkdir '$home/Ein schöner Ort' && mv '$archive' '$home/Ein schöner Ort/ovl'"
   try_start "$home/Ein schöner Ort/ovl"
+  step "archive: from the menu, a window on a display"
+  as_user "'$home/Ein schöner Ort/ovl/start' --menu"
+  inside cat "$home/.local/share/applications/ovl-software.desktop" > "$work/ovl-software.desktop"
+  desktop-file-validate "$work/ovl-software.desktop"
+  try_window "$(sed -n 's/^Exec=\(.*\) %f$/\1/p' "$work/ovl-software.desktop")"
+}
+
+# The display is outside, so that the system of the trial has nothing of a display but what the program brought.
+try_window() {
+  mkdir -p "$root/tmp/.X11-unix" /tmp/.X11-unix
+  mount --bind /tmp/.X11-unix "$root/tmp/.X11-unix"
+  rm -f "$work/display"
+  Xvfb -displayfd 3 -nolisten tcp -noreset 3> "$work/display" 2> "$work/said" & screen=$!
+  for _ in $(seq 50); do [ -s "$work/display" ] || sleep 0.2; done
+  local display
+  display=:$(cat "$work/display")
+  as_user "DISPLAY=$display $1" & shown=$!
+  DISPLAY=$display timeout 60 xdotool search --sync --onlyvisible --name " - OVL Software$"
+  # The program ends with its display.
+  kill "$screen"
+  wait "$screen" "$shown" || true
+  umount "$root/tmp/.X11-unix"
 }
 
 try_start() {
@@ -178,6 +200,8 @@ try_package() {
   as_user 'QT_QPA_PLATFORM=offscreen ovl --guide guide.pdf && ls -l guide.pdf'
   as_user /tmp/transfer
   as_user 'test -L ".local/share/OVL Software/V1400/R12"'
+  step "packages: a window on a display"
+  try_window ovl
 
   step "packages: removed; files of the users are kept, no link leads nowhere"
   inside touch "/etc/xdg/ORB/OVL Software.conf.unsound" "/etc/xdg/ORB/OVL Software.conf.new"

@@ -1,0 +1,18 @@
+# shellcheck shell=bash disable=SC2154
+# What the examples that look at configurations share, behind common.sh.
+
+# Whether a file is a configuration of the firmware; the program itself looks at no more than the first digits. Prints
+# its register, or to standard error what it is instead: fits FILE, fits FILE NAME.
+fits() {
+  local lines others
+  lines=$(started <<< "inspect $(quoted "$1")") || return 1
+  sed -n "s/^fits $version$release: register [0-9]* \(\".*\"\)$/\1/p" <<< "$lines" | grep . && return
+  others=$(sed -n 's/^fits \([^:]*\): .*/\1/p' <<< "$lines" | paste -sd ' ')
+  echo "${2-$1}: no configuration of $version$release, it fits ${others:-no firmware}" >&2
+  return 1
+}
+
+# Reads the unit behind a device into the file $unit.
+read_unit() {
+  on_unit "$1" <<< upload && fits "$unit" "${1##*/}" > "$work/register"
+}

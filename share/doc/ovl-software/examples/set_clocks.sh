@@ -1,0 +1,21 @@
+#!/usr/bin/env bash
+# Sets the clock of every unit of a list to the time of this machine: set_clocks.sh devices.txt
+. "$(dirname "$0")/common.sh"
+. "$(dirname "$0")/lists.sh"
+[ $# -eq 1 ] || usage DEVICES
+read_list "$1"
+
+# CmdUpDow(4) asks for remote mode, CmdUpDow(2) sets the clock that the panel shows.
+set_clock() {
+  on_unit "$1" <<END
+wait 1200
+click CmdUpDow(4)
+expect var RemoteHeld true within 2000
+wait 400
+click CmdUpDow(2)
+expect var SetTimePending false within 10000
+expect box "SET TIME DATE FINISHED."
+END
+}
+
+each set_clock
