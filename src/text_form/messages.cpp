@@ -13,17 +13,20 @@ bool Alike(char one, char other) {
   return std::tolower(static_cast<unsigned char>(one)) == std::tolower(static_cast<unsigned char>(other));
 }
 
-// Letters to insert, to leave out or to replace.
+// Letters to insert, to leave out or to replace; two neighbours that changed places count once.
 std::size_t Distance(std::string_view one, std::string_view other) {
-  std::vector<std::size_t> row(other.size() + 1);
+  std::vector<std::size_t> before(other.size() + 1), row(before.size()), next(before.size());
   std::iota(row.begin(), row.end(), std::size_t{0});
   for (std::size_t i = 0; i < one.size(); ++i) {
-    auto diagonal = row[0]++;
+    next[0] = i + 1;
     for (std::size_t j = 0; j < other.size(); ++j) {
-      const auto replaced = diagonal + (Alike(one[i], other[j]) ? 0 : 1);
-      diagonal = row[j + 1];
-      row[j + 1] = std::min({row[j] + 1, row[j + 1] + 1, replaced});
+      const bool alike = Alike(one[i], other[j]);
+      next[j + 1] = std::min({next[j] + 1, row[j + 1] + 1, row[j] + (alike ? 0 : 1)});
+      if (i > 0 && j > 0 && Alike(one[i], other[j - 1]) && Alike(one[i - 1], other[j]))
+        next[j + 1] = std::min(next[j + 1], before[j - 1] + 1);
     }
+    before = row;
+    row.swap(next);
   }
   return row.back();
 }
