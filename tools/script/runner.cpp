@@ -4,6 +4,7 @@
 #include <array>
 
 #include "core/failure.h"
+#include "host/configurations/configurations.h"
 #include "script/parser.h"
 #include "script/statements.h"
 
@@ -94,6 +95,8 @@ ExitStatus RunScript(Session& session, std::istream& script, const std::string& 
       RunLine(session, line);
     } catch (const Stop& stop) {
       return leave(stop.Status(), stop.what());
+    } catch (const host::NoConfiguration& problem) {
+      return leave(ExitStatus::kWrongStatement, problem.what());
     } catch (const core::Failure& failure) {
       return leave(ExitStatus::kWrongStatement, failure.Text());
     }
