@@ -36,7 +36,8 @@ constexpr std::string_view kCommands =
     "Commands, instead of a script. A file is a record stream or a text form:\n"
     "  diff FILE FILE               compares two files in the words of the form\n"
     "  export FILE                  prints a file as text, one setting a line\n"
-    "  import TEXT FILE             writes the configuration of a text as a file\n";
+    "  import TEXT FILE             writes the configuration of a text as a file\n"
+    "  checksum FILE                prints the checksum that is on the site sheet\n";
 
 constexpr std::string_view kExitStatus =
     "\n"

@@ -7,6 +7,7 @@
 #include "host/configurations/configurations.h"
 #include "host/files.h"
 #include "script/change_statements.h"
+#include "sheet/checksum.h"
 #include "text_form/export.h"
 
 namespace ovl::script {
@@ -59,12 +60,32 @@ void Diff(Session& session, Arguments& arguments) {
   if (!PrintDifferences(session.Output(), viewer, before, after)) session.Output() << "no difference\n";
 }
 
+std::string ChecksumOf(const image::ConfigImage& image, const firmware::FirmwareId& firmware) {
+  const auto sum = sheet::Checksum(image, firmware);
+  if (!sum) Wrong("the configuration is not complete");
+  return *sum;
+}
+
+void Checksum(Session& session, Arguments& arguments) {
+  const auto path = arguments.AtEnd() ? std::string() : arguments.Next("PATH");
+  arguments.End();
+  const auto& app = session.App();
+  auto image = app.image;
+  if (!path.empty()) {
+    host::Viewer viewer(app.image_firmware);
+    image = host::ReadConfiguration(viewer, app.image, path, app.platform.files.read(path));
+  }
+  session.Output() << ChecksumOf(image, app.image_firmware) << '\n';
+}
+
 constexpr auto kStatements = std::to_array<Statement>({
     {"export", "export PATH", "writes the configuration as text, one setting a line", Export},
     {"import", "import PATH [--partial]",
      "takes the settings of a text; with --partial those that this firmware has", Import},
     {"diff", "diff PATH [PATH]",
      "compares the configuration with a file, or two files, in the words of the form", Diff},
+    {"checksum", "checksum [PATH]", "prints the checksum of the site sheet, of the configuration or a file",
+     Checksum},
 });
 
 struct File {
@@ -100,6 +121,13 @@ ExitStatus ImportFile(const File& text, const std::string& target, const std::st
   return ExitStatus::kDone;
 }
 
+ExitStatus PrintChecksum(const File& file, const std::string& firmware, std::ostream& output) {
+  host::Viewer viewer(host::FirmwareOf(file.path, file.bytes, firmware));
+  const auto image = host::ReadConfiguration(viewer, file.path, file.bytes);
+  output << ChecksumOf(image, viewer.catalogue.Firmware()) << '\n';
+  return ExitStatus::kDone;
+}
+
 }  // namespace
 
 std::span<const Statement> TextStatements() {
@@ -113,6 +141,8 @@ std::optional<ExitStatus> RunTextCommand(const std::vector<std::string>& words, 
       return DiffFiles(ReadFile(words[1]), ReadFile(words[2]), firmware, output);
     if (words.size() == 2 && words[0] == "export") return ExportFile(ReadFile(words[1]), firmware, output);
     if (words.size() == 3 && words[0] == "import") return ImportFile(ReadFile(words[1]), words[2], firmware);
+    if (words.size() == 2 && words[0] == "checksum")
+      return PrintChecksum(ReadFile(words[1]), firmware, output);
     return std::nullopt;
   } catch (const Stop& stop) {
     errors << stop.what() << '\n';
