@@ -16,7 +16,7 @@ namespace {
 void Print(const core::Application& app, const PrintHooks& hooks) {
   if (app.ended || app.handling || !app.frmMain.form.enabled) return;
   const auto sheet = SiteSheetOf(app, app.image);
-  const auto printed = PrintWithDialog(hooks.front(), QStringLiteral("Print Site Sheet"),
+  const auto printed = PrintWithDialog(hooks.front(), kSiteSheetTitle,
                                        [&](QPagedPaintDevice& device) { PrintSiteSheet(sheet, device); });
   if (app.ended || printed == Printed::kCancelled) return;
   hooks.show_text(printed == Printed::kDone ? QStringLiteral("Site sheet printed")

@@ -14,7 +14,7 @@ Printed PrintWithDialog(QWidget* front, const QString& title,
   QPrinter printer(QPrinter::HighResolution);
   printer.setDocName(title);
   QPrintDialog dialog(&printer, front);
-  dialog.setWindowTitle(title);
+  dialog.setWindowTitle(QStringLiteral("Print ") + title);
   if (dialog.exec() != QDialog::Accepted) return Printed::kCancelled;
   print(printer);
   return printer.printerState() == QPrinter::Error ? Printed::kFailed : Printed::kDone;

@@ -13,7 +13,7 @@ bool HasPrinting();
 
 enum class Printed { kDone, kCancelled, kFailed };
 
-// Asks for the printer; PDF files are among them. `print` draws the pages.
+// Asks for the printer; PDF files are among them. The title is that of the document. `print` draws the pages.
 Printed PrintWithDialog(QWidget* front, const QString& title,
                         const std::function<void(QPagedPaintDevice&)>& print);
 

@@ -15,7 +15,6 @@ namespace ovl::ui {
 namespace {
 
 const QMarginsF kMargins(12, 12, 12, 12);  // in millimetres
-const QString kTitle = QStringLiteral("Site sheet");
 
 core::Result WriteHtml(const QString& sheet, const QString& file) {
   QSaveFile target(file);
@@ -52,7 +51,8 @@ std::optional<SheetFormat> SheetFormatOf(const QString& file) {
 core::Result WriteSiteSheet(const QString& sheet, const QString& file, SheetFormat format,
                             QPageSize::PageSizeId paper) {
   if (format == SheetFormat::kHtml) return WriteHtml(sheet, file);
-  return WritePdf(file, kTitle, paper, [&](QPagedPaintDevice& device) { PrintSiteSheet(sheet, device); });
+  return WritePdf(file, kSiteSheetTitle, paper,
+                  [&](QPagedPaintDevice& device) { PrintSiteSheet(sheet, device); });
 }
 
 }  // namespace ovl::ui

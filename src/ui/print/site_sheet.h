@@ -12,6 +12,8 @@ class QPagedPaintDevice;
 
 namespace ovl::ui {
 
+inline const QString kSiteSheetTitle = QStringLiteral("Site Sheet");
+
 // As HTML, for an image of the firmware of `like`.
 QString SiteSheetOf(const core::Application& like, const image::ConfigImage& image);
 
