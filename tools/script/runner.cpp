@@ -4,6 +4,7 @@
 #include <array>
 
 #include "core/failure.h"
+#include "host/configurations/configurations.h"
 #include "script/parser.h"
 #include "script/statements.h"
 
@@ -35,7 +36,8 @@ constexpr std::string_view kCommands =
     "Commands, instead of a script. A file is a record stream or a text form:\n"
     "  diff FILE FILE               compares two files in the words of the form\n"
     "  export FILE                  prints a file as text, one setting a line\n"
-    "  import TEXT FILE             writes the configuration of a text as a file\n";
+    "  import TEXT FILE             writes the configuration of a text as a file\n"
+    "  checksum FILE                prints the checksum that is on the site sheet\n";
 
 constexpr std::string_view kExitStatus =
     "\n"
@@ -94,6 +96,8 @@ ExitStatus RunScript(Session& session, std::istream& script, const std::string& 
       RunLine(session, line);
     } catch (const Stop& stop) {
       return leave(stop.Status(), stop.what());
+    } catch (const host::NoConfiguration& problem) {
+      return leave(ExitStatus::kWrongStatement, problem.what());
     } catch (const core::Failure& failure) {
       return leave(ExitStatus::kWrongStatement, failure.Text());
     }

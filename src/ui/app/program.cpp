@@ -15,6 +15,7 @@
 #include "start/start_up.h"
 #include "ui/dialogs/boxes.h"
 #include "ui/dialogs/changes_window.h"
+#include "ui/print/print_item.h"
 #include "ui/window/status_strip.h"
 
 namespace ovl::ui {
@@ -116,6 +117,7 @@ void Program::BuildFileActs() {
           [this](const QString& file, const image::ConfigImage& other) {
             windows_->Main().Changes().OpenComparison(file, other);
           }});
+  AddPrintItem(app_, windows_->Main(), {front, show_text});
 }
 
 void Program::GuardUnsaved() {
