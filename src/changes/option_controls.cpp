@@ -68,14 +68,16 @@ std::vector<const OptionRow*> OptionsThatShow(image::FieldId field, int entry) {
   return options;
 }
 
-std::optional<std::string> OptionWords(const PreviewProgram& program, const OptionRow& option) {
-  const auto& form = program.Form().frmMain;
+bool IsOnScreen(const PreviewProgram& program, const OptionRow& option) {
   const auto visible = [&](std::string_view name) {
     return controls::StateOf(program.Named(name).control).visible;
   };
-  if (option.frame != Frame::kNone && !form.FrameOf(option.frame).visible) return std::nullopt;
-  if ((!option.inner.empty() && !visible(option.inner)) || !visible(option.control)) return std::nullopt;
-  return program.WordsOf(option.control);
+  if (option.frame != Frame::kNone && !program.Form().frmMain.FrameOf(option.frame).visible) return false;
+  return (option.inner.empty() || visible(option.inner)) && visible(option.control);
+}
+
+std::optional<std::string> OptionWords(const PreviewProgram& program, const OptionRow& option) {
+  return IsOnScreen(program, option) ? program.WordsOf(option.control) : std::nullopt;
 }
 
 }  // namespace ovl::changes
