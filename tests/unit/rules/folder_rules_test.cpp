@@ -22,9 +22,12 @@ const std::map<std::string, Folders> kModel = {
     {"panels", {"codecs", "controls", "firmware", "image", "core"}},
     {"registers", {"codecs", "controls", "firmware", "image", "core", "files"}},
     {"changes", {"codecs", "controls", "firmware", "image", "core", "files", "panels", "registers"}},
+    {"checks",
+     {"codecs", "controls", "firmware", "image", "core", "files", "panels", "registers", "changes"}},
     {"link", {"codecs", "controls", "firmware", "image", "core", "files"}},
     {"acts",
-     {"codecs", "controls", "firmware", "image", "core", "files", "panels", "registers", "changes", "link"}},
+     {"codecs", "controls", "firmware", "image", "core", "files", "panels", "registers", "changes", "checks",
+      "link"}},
     {"start",
      {"codecs", "controls", "firmware", "image", "core", "files", "panels", "changes", "registers", "link"}},
 };
