@@ -9,6 +9,9 @@ namespace ovl::start {
 // object.
 void WireProgram(core::Application& app);
 
+// Wires a program of the firmware and builds its form, without a start: nothing is loaded or shown.
+void PrepareProgram(core::Application& app, const firmware::FirmwareId& firmware);
+
 // Wires the program and runs the start: settings store, register list, first register. The platform record
 // must be filled. kEnded: the program has ended, and a message box has said why.
 core::Outcome StartProgram(core::Application& app);

@@ -10,6 +10,7 @@
 #include "command_line/command_line.h"
 #include "host/files.h"
 #include "host/system/disk.h"
+#include "script/file_check.h"
 #include "script/runner.h"
 
 namespace {
@@ -41,6 +42,10 @@ int main(int argc, char** argv) {
   const auto program = ovl::script::Description();
   const auto read = command_line::Read(program, std::vector<std::string_view>(argv + 1, argv + argc));
   if (read.wish != Wish::kRun) return command_line::Answer(program, read.wish, read.error);
+  std::string error;
+  const auto check = ovl::script::FileCheckOf(read, error);
+  if (!error.empty()) return command_line::Answer(program, Wish::kWrong, error);
+  if (check) return static_cast<int>(ovl::script::RunFileCheck(*check, std::cout, std::cerr));
   if (read.arguments.size() > 1)
     return command_line::Answer(program, Wish::kWrong, read.arguments[1] + ": one file at most is expected");
   return static_cast<int>(Run(read.arguments));

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/failure.h"
+#include "script/file_check.h"
 #include "script/parser.h"
 #include "script/statements.h"
 
@@ -24,7 +25,11 @@ constexpr std::string_view kPurpose =
     "\n"
     "pick, click and type on a control that is disabled or hidden print\n"
     "\"refused NAME\". A message box prints \"box TITLE TEXT\", the end of the program\n"
-    "\"ended\".\n";
+    "\"ended\".\n"
+    "\n"
+    "ovl-script check looks at configuration files instead of running a script. It\n"
+    "prints what an installer should look at, PATH: error|warning|note: RULE: WORDS.\n"
+    "The help of ovl explains each rule.\n";
 
 constexpr std::string_view kExitStatus =
     "\n"
@@ -33,7 +38,12 @@ constexpr std::string_view kExitStatus =
     "  1  an expectation failed\n"
     "  2  wrong usage, or a statement is wrong\n"
     "  3  the program ended, and a statement that needs it was left\n"
-    "  4  a transfer failed\n";
+    "  4  a transfer failed\n"
+    "\n"
+    "Of check:\n"
+    "  0  no finding is above a note\n"
+    "  1  there is an error or a warning\n"
+    "  2  wrong usage, or a file cannot be read or is none of the firmware\n";
 
 void RunLine(Session& session, std::string_view line) {
   auto words = SplitWords(line);
@@ -94,7 +104,8 @@ ExitStatus RunScript(Session& session, std::istream& script, const std::string& 
 command_line::Program Description() {
   std::string statements = "\nStatements:\n";
   for (const auto& statement : Statements()) statements += HelpOf(statement);
-  return {"ovl-script", "[OPTION] [FILE]", kPurpose, {}, statements.append(kExitStatus)};
+  return {"ovl-script", "[OPTION] [FILE]\n  or:  ovl-script check [OPTION] PATH...", kPurpose, CheckOptions(),
+          statements.append(kExitStatus)};
 }
 
 }  // namespace ovl::script
