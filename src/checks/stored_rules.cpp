@@ -40,8 +40,8 @@ void ForEachEntry(const Subject& subject, image::Direction direction, const Func
 
 // A person sees nothing selected: the list has no entry, or the chosen option is not offered.
 struct ShowsNothing {
-  bool operator()(const controls::List* list) const { return list->position < 0; }
-  bool operator()(const controls::OptionArray* array) const {
+  bool operator()(controls::List* list) const { return list->position < 0; }
+  bool operator()(controls::OptionArray* array) const {
     const auto chosen_of = [](const controls::OptionArray* other) { return other->chosen >= 0; };
     if (array->chosen < 0) return std::none_of(array->excludes.begin(), array->excludes.end(), chosen_of);
     return !array->elements.at(static_cast<std::size_t>(array->chosen)).visible;
@@ -131,7 +131,9 @@ Hits DownloadShifted(Subject& subject) {
     const auto groups = changes::SitesOf(whole, subject.Firmware());
     auto site = groups.empty() || groups.front().empty() ? Site{Place::kRegister, kRegisterList}
                                                          : groups.front().front();
-    if (site.option != nullptr) site = {Place::kRegister, kRegisterList};
+    const bool offered =
+        site.option == nullptr && subject.Offers(changes::ReachedBy(subject.Program(), site));
+    if (!offered) site = {Place::kRegister, kRegisterList};
     hits.push_back({site.slot,
                     {NameOf(row, entry), std::to_string(written / kByte), std::to_string(read / kByte),
                      subject.Firmware().Joined()},
