@@ -30,7 +30,7 @@ struct Exception {
       return value.find_first_not_of('0') != std::string::npos;
     });
   }
-  std::string Number() const { return std::to_string(number); }
+  std::string Named() const { return std::to_string(number); }
 };
 
 std::vector<Exception> ExceptionsOf(const Subject& subject) {
@@ -54,7 +54,7 @@ template <class Condition, class Text>
 Hits ExceptionsWith(const Subject& subject, const Condition& condition, const Text& text) {
   Hits hits;
   for (const auto& exception : ExceptionsOf(subject)) {
-    if (condition(exception)) hits.push_back({exception.number, {exception.Number(), text(exception)}});
+    if (condition(exception)) hits.push_back({exception.number, {exception.Named(), text(exception)}});
   }
   return hits;
 }
@@ -98,7 +98,7 @@ Hits TextLength(Subject& subject) {
     image::StoreExceptionText(anew, subject.Firmware(),
                               image::ExceptionText(exception.slot, subject.Firmware()));
     if (exception.IsUsed() && length(anew) != length(exception.slot))
-      hits.push_back({exception.number, {exception.Number(), length(exception.slot), length(anew)}});
+      hits.push_back({exception.number, {exception.Named(), length(exception.slot), length(anew)}});
   }
   return hits;
 }
@@ -140,7 +140,7 @@ Hits Twice(Subject& subject) {
     const auto first = std::find_if(exceptions.begin(), later, [&](const Exception& earlier) {
       return earlier.IsUsed() && LookForTheSame(earlier, *later);
     });
-    if (first != later) hits.push_back({later->number, {later->Number(), first->Number(), later->text}});
+    if (first != later) hits.push_back({later->number, {later->Named(), first->Named(), later->text}});
   }
   return hits;
 }

@@ -25,6 +25,13 @@ std::span<const FirmwareEntry> FirmwareTable() {
   return kFirmware;
 }
 
+std::optional<FirmwareId> FindFirmware(std::string_view joined) {
+  const auto found = std::find_if(kFirmware.begin(), kFirmware.end(), [joined](const FirmwareEntry& entry) {
+    return entry.Id().Joined() == joined;
+  });
+  return found == kFirmware.end() ? std::nullopt : std::optional(found->Id());
+}
+
 FirmwareId ServedFirmware(std::string_view joined) {
   const auto release = std::min(joined.rfind('R'), joined.size());
   const FirmwareId named{std::string(joined.substr(0, release)), std::string(joined.substr(release))};

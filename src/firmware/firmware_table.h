@@ -1,6 +1,7 @@
 // All firmware that the program serves, in the order of the Version menu.
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -19,7 +20,10 @@ struct FirmwareEntry {
 // In menu order. The last one is not in the menu; only the settings store can select it.
 std::span<const FirmwareEntry> FirmwareTable();
 
-// The firmware with this joined name, such as "V1400R12", as the program serves it.
+// The firmware of the table with this joined name, such as "V1400R12".
+std::optional<FirmwareId> FindFirmware(std::string_view joined);
+
+// The firmware with this joined name, as the program serves it.
 FirmwareId ServedFirmware(std::string_view joined);
 
 }  // namespace ovl::firmware

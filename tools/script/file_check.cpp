@@ -42,14 +42,11 @@ void Prepare(core::Application& app, const FileCheck& check) {
   auto name = check.firmware.empty() ? MachineFirmware() : check.firmware;
   name.erase(std::remove(name.begin(), name.end(), ' '), name.end());
   if (name.empty()) Wrong("the machine has no settings; name the firmware with --firmware");
-  const auto table = firmware::FirmwareTable();
-  const auto entry = std::find_if(table.begin(), table.end(), [&](const firmware::FirmwareEntry& at) {
-    return at.Id().Joined() == name;
-  });
-  if (entry == table.end()) Wrong(name + ": there is no such firmware");
+  const auto firmware = firmware::FindFirmware(name);
+  if (!firmware) Wrong(name + ": there is no such firmware");
   app.platform.files = host::DiskFiles();
   app.platform.program_folder = check.folder;
-  start::PrepareProgram(app, entry->Id());
+  start::PrepareProgram(app, *firmware);
 }
 
 std::string FirmwareOf(std::string_view stream) {
