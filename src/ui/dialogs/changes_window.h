@@ -3,40 +3,25 @@
 // the control of its setting.
 #pragma once
 
-#include <QDialog>
-#include <functional>
 #include <vector>
 
 #include "changes/readable.h"
-#include "ui/kit/bindings.h"
-
-class QLabel;
-class QPushButton;
+#include "ui/acts/setting_window.h"
 
 namespace ovl::ui {
 
 class ChangesList;
 
-class ChangesWindow : public QDialog {
+class ChangesWindow : public SettingWindow {
  public:
   explicit ChangesWindow(Bindings& bindings, QWidget* parent);
 
-  // Opens a tab of the main window.
-  std::function<void(int tab)> open_tab;
-
-  // Updates the list while the window is visible.
-  void Refresh();
-  // Shows the window; builds its content the first time.
-  void Open();
+  void Refresh() override;
 
  private:
-  void Build();
-  void Fill(std::vector<changes::SettingChange> rows);
-  void GoTo(const changes::SettingChange& row);
-  QWidget* WidgetFor(const std::string& control) const;
+  void Build() override;
+  void Fill(const std::vector<changes::SettingChange>& rows);
 
-  Bindings& bindings_;
-  QLabel* summary_ = nullptr;
   ChangesList* list_ = nullptr;
   ChangeDetector<image::ConfigImage> known_, image_;
 };
