@@ -20,6 +20,9 @@ bool IsOnScreen(const PreviewProgram& program, const registers::OptionRow& optio
 // A row of a window is in the frame kNone, or in the frame whose button opens the window.
 std::vector<const registers::OptionRow*> OptionsThatShow(image::FieldId field, int entry);
 
+// Whether the register whose options show has this one, in its frame or in the window of the frame.
+bool IsOnScreen(const PreviewProgram& program, const registers::OptionRow& option);
+
 // What the control shows. Nothing if the options of the register do not have it on the screen.
 std::optional<std::string> OptionWords(const PreviewProgram& program, const registers::OptionRow& option);
 

@@ -41,16 +41,22 @@ struct WordsIn {
 
 }  // namespace
 
+void SetUpWithoutScreen(core::Application& app, const core::Application& like) {
+  app.firmware = app.image_firmware = like.image_firmware;
+  app.compact_form = like.compact_form;
+  app.Setting_Code = like.Setting_Code;
+  PrepareCapabilities(app);
+  panels::WirePanels(app);
+  registers::WireRegisters(app);
+  app.frmMain.ComboReg.items = like.frmMain.ComboReg.items;
+  app.RegisterIndex = like.RegisterIndex;
+  if (app.compact_form) firmware::ApplyCompactForm(app.frmMain);
+  firmware::ApplyFirmwareVariants(app.frmMain, app.firmware);
+}
+
 PreviewProgram::PreviewProgram(const core::Application& like, const image::ConfigImage& image)
     : image_(image) {
-  app_.firmware = app_.image_firmware = like.image_firmware;
-  app_.Setting_Code = like.Setting_Code;
-  PrepareCapabilities(app_);
-  panels::WirePanels(app_);
-  registers::WireRegisters(app_);
-  app_.frmMain.ComboReg.items = like.frmMain.ComboReg.items;
-  app_.RegisterIndex = like.RegisterIndex;
-  firmware::ApplyFirmwareVariants(app_.frmMain, app_.firmware);
+  SetUpWithoutScreen(app_, like);
   ApplyAll();
 }
 

@@ -10,6 +10,10 @@
 
 namespace ovl::changes {
 
+// Gives a new program the firmware, the panels and the register options of another, without an image and
+// without a platform.
+void SetUpWithoutScreen(core::Application& app, const core::Application& like);
+
 class PreviewProgram {
  public:
   // Shows the image on the panels and on the options of its register, as the program `like` would after a

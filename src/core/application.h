@@ -75,6 +75,7 @@ struct Application {
   // while its message box is shown; the image still belongs to the earlier one.
   firmware::FirmwareId firmware;
   firmware::FirmwareId image_firmware;
+  bool compact_form = false;  // the form is reduced to what the compact firmware has
   firmware::Capabilities capabilities;
   std::map<std::string, bool, std::less<>> FirmwareMark;           // by the joined firmware text
   std::map<std::string, std::int16_t, std::less<>> RegisterIndex;  // by register key; -1: not in the list

@@ -47,6 +47,7 @@ int WithParityEntry(int flags, int entry);
 // ---- The display settings DSPCFG_BAK
 
 inline constexpr int kTitlerBit = 4;
+inline constexpr int kTextBit = 5;  // the text of the register is shown at all
 inline constexpr int kClockBit = 7;
 
 // ---- Exception slots

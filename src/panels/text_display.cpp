@@ -38,7 +38,7 @@ struct FlagMember {
 };
 constexpr std::array kFlagMembers = {FlagMember{Dip::kFormat, 1}, FlagMember{Dip::kLineCompress, 2},
                                      FlagMember{Dip::kScrollDelay, 3}, FlagMember{Dip::kLineJustified, 6},
-                                     FlagMember{Dip::kDisplayed, 5}};
+                                     FlagMember{Dip::kDisplayed, image::kTextBit}};
 
 controls::List& Member(core::Application& app, int member) {
   return app.frmMain.ComboDIP.at(static_cast<std::size_t>(member));

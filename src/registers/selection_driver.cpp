@@ -57,15 +57,18 @@ std::string ImageFileOf(const firmware::FirmwareId& firmware, std::string_view r
   return (replaces ? Check_Slash_Comma(name) : name) + ".bin";
 }
 
+std::string DefaultImageOf(const std::string& folder, const firmware::FirmwareId& firmware,
+                           const std::string& register_name) {
+  const auto name = ImageFileOf(firmware, register_name);
+  if (name.find_first_of("/\\") != std::string::npos)
+    throw core::Failure(register_name, std::make_error_code(std::errc::invalid_argument));
+  return files::PathBelow(folder, "\\" + firmware.version + "\\" + firmware.release + "\\" + name);
+}
+
 void DefaultImagePath(core::Application& app) {
-  const auto& firmware = app.firmware;
-  if (!firmware::IsKnownFamily(firmware.version)) return;
-  const auto name = ImageFileOf(firmware, app.frmMain.ComboReg.Text());
-  if (name.find_first_of("/\\") != std::string::npos) {
-    throw core::Failure(app.frmMain.ComboReg.Text(), std::make_error_code(std::errc::invalid_argument));
-  }
-  app.CurrentFilePath = files::PathBelow(app.platform.program_folder,
-                                         "\\" + firmware.version + "\\" + firmware.release + "\\" + name);
+  if (!firmware::IsKnownFamily(app.firmware.version)) return;
+  app.CurrentFilePath =
+      DefaultImageOf(app.platform.program_folder, app.firmware, app.frmMain.ComboReg.Text());
 }
 
 void RegisterSelected(core::Application& app, int) {

@@ -34,6 +34,11 @@ std::string Check_Slash_Comma(std::string name);
 // The file of a register's default image, without its folder.
 std::string ImageFileOf(const firmware::FirmwareId& firmware, std::string_view register_name);
 
+// The path of a register's default image below a program folder. Throws Failure for a name that would leave
+// the folder.
+std::string DefaultImageOf(const std::string& folder, const firmware::FirmwareId& firmware,
+                           const std::string& register_name);
+
 // Puts the path of the selected register's default image into CurrentFilePath. A family without images leaves
 // the last path there.
 void DefaultImagePath(core::Application& app);

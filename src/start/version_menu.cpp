@@ -83,6 +83,7 @@ void VersionItem_Click(core::Application& app, int item) {
 void ApplyCompactFirmware(core::Application& app) {
   if (!firmware::IsCompact(app.firmware)) return;
   app.firmware = firmware::ServedAs(app.firmware);
+  app.compact_form = true;
   firmware::ApplyCompactForm(app.frmMain);
 }
 

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "checks/trial_program.h"
 #include "core/configuration.h"
 #include "core/failure.h"
 #include "firmware/register_lists.h"
@@ -35,9 +36,9 @@ std::string StreamOf(image::ConfigImage image, const firmware::FirmwareId& firmw
                              image::WriteRegion(firmware));
 }
 
-// A program of the firmware that can only apply images. It has no platform.
+// A program of the firmware with its register list. It has no platform.
 void SetUp(core::Application& app, const firmware::FirmwareId& firmware) {
-  app.firmware = firmware;
+  app.firmware = app.image_firmware = firmware;
   PrepareCapabilities(app);
   start::WireProgram(app);
   registers::ResetRegisterIndexes(app);
@@ -45,19 +46,13 @@ void SetUp(core::Application& app, const firmware::FirmwareId& firmware) {
 }
 
 // The register's options force line settings when they are applied. The image includes these settings, so
-// that loading it later changes nothing. A new program is used, in which every option counts as changed.
+// that loading it later changes nothing.
 image::ConfigImage RegisterImage(const firmware::FirmwareId& firmware, int code) {
   core::Application app;
   SetUp(app, firmware);
-  app.image = FactoryImage(firmware);
-  app.image[REGTYPE] = codecs::ByteToHex(code);
-  for (const auto& routine : app.Setting_Code) {
-    if (routine.run != registers::ApplyRegisterSelection) routine.run(app);
-  }
-  app.PanelsReady = true;
-  app.UploadApplying = true;
-  registers::ApplyRegisterSelection(app);
-  return app.image;
+  auto image = FactoryImage(firmware);
+  image[REGTYPE] = codecs::ByteToHex(code);
+  return checks::TrialProgram(app, image).WithForcedSettings();
 }
 
 }  // namespace

@@ -15,6 +15,7 @@
 #include "pictures/advice_pictures.h"
 #include "pictures/sample_settings.h"
 #include "pictures/simulated_port.h"
+#include "ui/acts/checks_window.h"
 #include "ui/acts/copy_slot_window.h"
 #include "ui/app/program.h"
 #include "ui/dialogs/changes_window.h"
@@ -57,6 +58,7 @@ class Photographer {
     MakeSampleSettings(program_);
     TakeTabs();
     TakeChanges();
+    TakeChecks();
     TakeCopyWindow();
     TakeTextWindows();
     TakeRegisters();
@@ -73,6 +75,7 @@ class Photographer {
 
   void Take(QWidget& window, const QString& name) {
     program_.RefreshNow();
+    Main().Checks().CheckNow();  // its timer does not run here
     window.activateWindow();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     // The second round is for layouts that the first one has changed, such as a text that wraps.
@@ -107,6 +110,12 @@ class Photographer {
     Take(Main().Changes(), QStringLiteral("changes_bytes"));
     bytes->click();
     Main().Changes().close();
+  }
+
+  void TakeChecks() {
+    Main().Checks().Open();
+    Take(Main().Checks(), QStringLiteral("checks"));
+    Main().Checks().close();
   }
 
   void TakeCopyWindow() {

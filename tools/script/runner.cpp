@@ -1,10 +1,10 @@
 #include "script/runner.h"
 
 #include <algorithm>
-#include <array>
 
 #include "core/failure.h"
 #include "host/configurations/configurations.h"
+#include "script/commands.h"
 #include "script/parser.h"
 #include "script/statements.h"
 
@@ -28,25 +28,19 @@ constexpr std::string_view kPurpose =
     "\"refused NAME\". A message box prints \"box TITLE TEXT\", the end of the program\n"
     "\"ended\".\n";
 
-constexpr std::array kOptions = {command_line::Option{
-    "firmware", "NAME", "the firmware of the files, such as V1400R12, for the commands below"}};
-
-constexpr std::string_view kCommands =
-    "\n"
-    "Commands, instead of a script. A file is a record stream or a text form:\n"
-    "  diff FILE FILE               compares two files in the words of the form\n"
-    "  export FILE                  prints a file as text, one setting a line\n"
-    "  import TEXT FILE             writes the configuration of a text as a file\n"
-    "  checksum FILE                prints the checksum that is on the site sheet\n";
-
 constexpr std::string_view kExitStatus =
     "\n"
     "Exit status:\n"
     "  0  done\n"
-    "  1  an expectation failed, or two files differ\n"
+    "  1  an expectation failed\n"
     "  2  wrong usage, or a statement is wrong\n"
     "  3  the program ended, and a statement that needs it was left\n"
-    "  4  a transfer failed\n";
+    "  4  a transfer failed\n"
+    "\n"
+    "Of a command:\n"
+    "  0  done; nothing differs; no finding is above a note\n"
+    "  1  the files differ; there is an error or a warning\n"
+    "  2  wrong usage, or a file cannot be read or is none of the firmware\n";
 
 void RunLine(Session& session, std::string_view line) {
   auto words = SplitWords(line);
@@ -109,8 +103,8 @@ ExitStatus RunScript(Session& session, std::istream& script, const std::string& 
 command_line::Program Description() {
   std::string statements = "\nStatements:\n";
   for (const auto& statement : Statements()) statements += HelpOf(statement);
-  return {"ovl-script", "[OPTION] [FILE | COMMAND]", kPurpose, kOptions,
-          std::string(kCommands).append(statements).append(kExitStatus)};
+  return {"ovl-script", "[OPTION] [FILE | COMMAND]", kPurpose, CommandOptions(),
+          CommandsHelp().append(statements).append(kExitStatus)};
 }
 
 }  // namespace ovl::script

@@ -8,6 +8,7 @@
 #include "image/field_map.h"
 #include "script/advice_statements.h"
 #include "script/change_statements.h"
+#include "script/check_statements.h"
 #include "script/expectations.h"
 #include "script/file_statements.h"
 #include "script/image_fields.h"
@@ -358,8 +359,8 @@ constexpr auto kStatements = std::to_array<Statement>({
 std::span<const Statement> Statements() {
   static const auto all = [] {
     std::vector<Statement> statements(kStatements.begin(), kStatements.end());
-    for (const auto more :
-         {UndoStatements(), AdviceStatements(), ChangeStatements(), FileStatements(), TextStatements()})
+    for (const auto more : {UndoStatements(), AdviceStatements(), ChangeStatements(), CheckStatements(),
+                            FileStatements(), TextStatements()})
       statements.insert(statements.end(), more.begin(), more.end());
     return statements;
   }();

@@ -1,22 +1,21 @@
-// Statements and commands for configurations as text: export, import, diff, checksum.
+// Statements for configurations as text, comparisons and checksums.
 #pragma once
 
 #include <ostream>
 #include <span>
 #include <string>
-#include <vector>
 
 #include "script/statements.h"
-#include "script/stop.h"
 
 namespace ovl::script {
 
 std::span<const Statement> TextStatements();
 
-// `ovl-script diff ONE OTHER`, `ovl-script export FILE`, `ovl-script import TEXT FILE`,
-// `ovl-script checksum FILE`, without a script.
-// Nothing: the words are no such command.
-std::optional<ExitStatus> RunTextCommand(const std::vector<std::string>& words, const std::string& firmware,
-                                         std::ostream& output, std::ostream& errors);
+// One line for each setting that differs. False if none does.
+bool PrintDifferences(std::ostream& output, const core::Application& app, const image::ConfigImage& before,
+                      const image::ConfigImage& after);
+
+// Throws Stop if no file gives the image back.
+std::string ChecksumOf(const image::ConfigImage& image, const firmware::FirmwareId& firmware);
 
 }  // namespace ovl::script

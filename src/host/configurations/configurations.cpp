@@ -21,6 +21,19 @@ firmware::FirmwareId KnownFirmware(const std::string& name) {
   throw NoConfiguration(name + ": there is no such firmware");
 }
 
+std::string NamesOf(const std::vector<image::FirmwareFit>& fits) {
+  std::string names;
+  for (const auto& fit : fits) names += (names.empty() ? "" : ", ") + fit.firmware.Joined();
+  return names.empty() ? "no firmware" : names;
+}
+
+// Backups have their firmware in front of their name.
+bool IsNamedAfter(std::string_view path, const firmware::FirmwareId& firmware) {
+  const auto folder = path.find_last_of("/\\");
+  const auto name = folder == std::string_view::npos ? path : path.substr(folder + 1);
+  return name.starts_with(firmware.Joined() + " ");
+}
+
 }  // namespace
 
 Viewer::Viewer(const firmware::FirmwareId& firmware) : app(Serving(firmware)), catalogue(*app) {}
@@ -47,9 +60,10 @@ firmware::FirmwareId FirmwareOf(const std::string& path, std::string_view bytes,
   const auto fits = image::FittingFirmware(files::JoinLines(bytes));
   if (fits.empty()) throw NoConfiguration(path + ": no configuration, or a damaged one: it fits no firmware");
   if (fits.size() == 1) return fits.front().firmware;
-  std::string names;
-  for (const auto& fit : fits) names += (names.empty() ? "" : ", ") + fit.firmware.Joined();
-  throw NoConfiguration(path + ": it fits " + names + ". Name one with --firmware");
+  for (const auto& fit : fits) {
+    if (IsNamedAfter(path, fit.firmware)) return fit.firmware;
+  }
+  throw NoConfiguration(path + ": it fits " + NamesOf(fits) + ". Name one with --firmware");
 }
 
 image::ConfigImage ReadConfiguration(Viewer& viewer, const image::ConfigImage& base, const std::string& path,
@@ -61,7 +75,9 @@ image::ConfigImage ReadConfiguration(Viewer& viewer, const image::ConfigImage& b
   const auto stream = files::JoinLines(bytes);
   const auto& firmware = viewer.catalogue.Firmware();
   const auto decoded = image::DecodeStream(stream, firmware);
-  if (!decoded) throw NoConfiguration(path + ": no configuration of " + firmware.Joined());
+  if (!decoded || !image::FitsFirmware(stream, firmware))
+    throw NoConfiguration(path + ": no configuration of " + firmware.Joined() + ", it fits " +
+                          NamesOf(image::FittingFirmware(stream)));
   return *decoded;
 }
 

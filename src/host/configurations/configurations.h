@@ -32,8 +32,8 @@ image::ConfigImage ReadTextForm(text_form::Catalogue& catalogue, const image::Co
                                 const std::string& path, std::string_view bytes,
                                 text_form::Strictness strictness, std::string& left_out);
 
-// The firmware of a file: the one that is named, or that of the text form, or the only one that fits. Throws
-// NoConfiguration if there is none, or more than one.
+// The firmware of a file: the one that is named, or that of the text form, or the only one that fits, or the
+// one in front of the name of the file. Throws NoConfiguration if this gives none.
 firmware::FirmwareId FirmwareOf(const std::string& path, std::string_view bytes, const std::string& named);
 
 // The image of a file. A text form changes the base. Throws NoConfiguration.

@@ -1,30 +1,15 @@
 #include "ui/dialogs/changes_window.h"
 
 #include <QCheckBox>
-#include <QDialogButtonBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QScreen>
-#include <QScrollArea>
-#include <QVBoxLayout>
-#include <algorithm>
 #include <set>
 
 #include "image/report.h"
 #include "ui/acts/changes_list.h"
-#include "ui/kit/mnemonics.h"
-#include "ui/kit/theme.h"
-#include "ui/kit/widgets.h"
 
 namespace ovl::ui {
 namespace {
-
-constexpr Em kStartWidth(75), kStartHeight(38.33);
-
-QString CountOf(std::size_t count, const QString& one) {
-  return QStringLiteral("%1 %2%3").arg(count).arg(one, count == 1 ? QString() : QStringLiteral("s"));
-}
 
 std::size_t FieldsIn(const std::vector<changes::SettingChange>& rows) {
   std::set<std::string> fields;
@@ -34,48 +19,18 @@ std::size_t FieldsIn(const std::vector<changes::SettingChange>& rows) {
   return fields.size();
 }
 
-void ScrollTo(QWidget& widget) {
-  for (auto* around = widget.parentWidget(); around != nullptr; around = around->parentWidget()) {
-    if (auto* area = qobject_cast<QScrollArea*>(around)) area->ensureWidgetVisible(&widget);
-  }
-}
-
 }  // namespace
 
-ChangesWindow::ChangesWindow(Bindings& bindings, QWidget* parent) : QDialog(parent), bindings_(bindings) {
-  setObjectName(QStringLiteral("Changes"));
-  setWindowTitle(QStringLiteral("Changes"));
-  resize(QSize(kStartWidth, kStartHeight).boundedTo(screen()->availableSize()));
-  StayOnScreen(*this);
-}
+ChangesWindow::ChangesWindow(Bindings& bindings, QWidget* parent)
+    : SettingWindow(bindings, QStringLiteral("Changes"), parent) {}
 
 void ChangesWindow::Build() {
-  summary_ = MutedLabel({});
-  summary_->setWordWrap(true);
   list_ = new ChangesList;
-  list_->setObjectName(QStringLiteral("ChangesList"));
   list_->setAccessibleName(QStringLiteral("Changed settings"));
-  list_->setAccessibleDescription(QStringLiteral("Enter goes to the control. Ctrl+C copies the rows."));
-  list_->opened = [this](const changes::SettingChange& row) { GoTo(row); };
   auto* bytes = new QCheckBox(QStringLiteral("Show bytes"));
   bytes->setObjectName(QStringLiteral("ChangesBytes"));
   connect(bytes, &QCheckBox::toggled, list_, &ChangesList::ShowBytes);
-  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
-  for (auto* button : buttons->buttons()) static_cast<QPushButton*>(button)->setAutoDefault(false);
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::close);
-  auto* below = new QHBoxLayout;
-  below->addWidget(bytes);
-  below->addWidget(MutedLabel(QStringLiteral("Enter goes to the setting. Ctrl+C copies rows.")));
-  below->addStretch(1);
-  below->addWidget(buttons);
-  below->setSpacing(kSectionGap);
-  auto* down = new QVBoxLayout(this);
-  down->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  down->setSpacing(kFieldGap);
-  down->addWidget(summary_);
-  down->addWidget(list_);
-  down->addLayout(below);
-  AssignPageMnemonics(*this, {});
+  BuildAround(*list_, bytes);
 }
 
 void ChangesWindow::Open() {
@@ -89,22 +44,15 @@ void ChangesWindow::OpenComparison(const QString& file, const image::ConfigImage
 }
 
 void ChangesWindow::ShowNow() {
-  if (list_ == nullptr) Build();
   setWindowTitle(other_ ? QStringLiteral("Changes: ") + other_->file : QStringLiteral("Changes"));
-  list_->SetSides(other_ ? QStringLiteral("Here") : QStringLiteral("Before"),
-                  other_ ? QStringLiteral("In the file") : QStringLiteral("Now"));
-  show();
-  raise();
-  activateWindow();
   known_.Forget();
   image_.Forget();
-  Refresh();
-  list_->setFocus();
+  SettingWindow::Open();
 }
 
 void ChangesWindow::Refresh() {
   if (!isVisible()) return;
-  const auto& app = bindings_.Model();
+  const auto& app = Form().Model();
   const bool other_known = known_.Update(app.known_image), other_image = image_.Update(app.image);
   if (!other_known && !other_image) return;
   Fill(other_ ? changes::ReadableChanges(app, app.image, other_->image) : changes::ReadableChanges(app));
@@ -120,52 +68,25 @@ QString ChangesWindow::SummaryOf(const std::vector<changes::SettingChange>& rows
       .arg(unit, count, CountOf(FieldsIn(rows), QStringLiteral("field")));
 }
 
-void ChangesWindow::Fill(std::vector<changes::SettingChange> rows) {
-  summary_->setText(SummaryOf(rows));
-  list_->Show(std::move(rows));
-}
-
-// The widget of a control; of an option array, that of the chosen option.
-QWidget* ChangesWindow::WidgetFor(const std::string& control) const {
-  const auto* named = bindings_.Model().registry.Find(control);
-  if (named == nullptr) return nullptr;
-  if (auto* const* array = std::get_if<controls::OptionArray*>(&named->control)) {
-    const int chosen = std::max((*array)->chosen, 0);
-    return bindings_.WidgetOf((*array)->elements.at(static_cast<std::size_t>(chosen)));
-  }
-  return bindings_.WidgetOf(controls::StateOf(named->control));
-}
-
-// While another window blocks the main one, nothing can be picked there.
-void ChangesWindow::GoTo(const changes::SettingChange& row) {
-  if (row.tab == changes::SettingChange::kNoTab || !bindings_.Model().frmMain.form.enabled) return;
-  if (open_tab) open_tab(row.tab);
-  const auto* named = bindings_.Model().registry.Find(row.list);
-  if (auto* const* list = named == nullptr ? nullptr : std::get_if<controls::List*>(&named->control)) {
-    if ((*list)->position != row.slot - 1) bindings_.Act(core::PickEvent{*list, row.slot - 1});
-  }
-  parentWidget()->activateWindow();
-  auto* widget = WidgetFor(row.control);
-  if (widget == nullptr || !widget->isVisibleTo(parentWidget())) return;
-  widget->setFocus(Qt::ShortcutFocusReason);
-  ScrollTo(*widget);
+void ChangesWindow::Fill(const std::vector<changes::SettingChange>& rows) {
+  list_->SetSides(other_ ? QStringLiteral("Here") : QStringLiteral("Before"),
+                  other_ ? QStringLiteral("In the file") : QStringLiteral("Now"));
+  Summary().setText(SummaryOf(rows));
+  list_->Show(rows);
 }
 
 QPushButton* BuildChangesButton(Bindings& bindings, ChangesWindow& window) {
-  auto* button = new QPushButton;
-  button->setObjectName(QStringLiteral("StatusChanges"));
-  button->setFlat(true);
-  button->setAutoDefault(false);
-  button->setToolTip(QStringLiteral("Shows what a download would change in the unit (Ctrl+D)"));
-  QObject::connect(button, &QPushButton::clicked, &window, &ChangesWindow::Open);
+  auto* button = StatusButton(
+      window, QStringLiteral("StatusChanges"),
+      QStringLiteral("Shows what a download would change in the unit: what has changed since the last "
+                     "load or download (Ctrl+D)"));
   bindings.OnRefresh([&app = bindings.Model(), button, &window, known = ChangeDetector<image::ConfigImage>(),
                       image = ChangeDetector<image::ConfigImage>()]() mutable {
     window.Refresh();
     const bool other_known = known.Update(app.known_image), other_image = image.Update(app.image);
     if (!other_known && !other_image) return false;
     const auto count = image::Differences(app.known_image, app.image, app.image_firmware).size();
-    button->setText(CountOf(count, QStringLiteral("field")) +
-                    QStringLiteral(" changed since the last load or download"));
+    button->setText(CountOf(count, QStringLiteral("field")) + QStringLiteral(" changed"));
     button->setAccessibleName(button->text());
     const bool comes_or_goes = button->isHidden() != (count == 0);
     button->setVisible(count != 0);

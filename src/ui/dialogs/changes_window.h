@@ -3,34 +3,25 @@
 // the control of its setting.
 #pragma once
 
-#include <QDialog>
-#include <functional>
 #include <optional>
 #include <vector>
 
 #include "changes/readable.h"
-#include "ui/kit/bindings.h"
-
-class QLabel;
-class QPushButton;
+#include "ui/acts/setting_window.h"
 
 namespace ovl::ui {
 
 class ChangesList;
 
-class ChangesWindow : public QDialog {
+class ChangesWindow : public SettingWindow {
  public:
   explicit ChangesWindow(Bindings& bindings, QWidget* parent);
 
-  // Opens a tab of the main window.
-  std::function<void(int tab)> open_tab;
-
-  // Updates the list while the window is visible.
-  void Refresh();
-  // Shows the window; builds its content the first time.
-  void Open();
+  // Shows the changes.
+  void Open() override;
   // Shows what a file has otherwise than the image, until Open is called.
   void OpenComparison(const QString& file, const image::ConfigImage& other);
+  void Refresh() override;
 
  private:
   // The file that the image is compared with.
@@ -39,15 +30,11 @@ class ChangesWindow : public QDialog {
     image::ConfigImage image;
   };
 
-  void Build();
+  void Build() override;
   void ShowNow();
   QString SummaryOf(const std::vector<changes::SettingChange>& rows) const;
-  void Fill(std::vector<changes::SettingChange> rows);
-  void GoTo(const changes::SettingChange& row);
-  QWidget* WidgetFor(const std::string& control) const;
+  void Fill(const std::vector<changes::SettingChange>& rows);
 
-  Bindings& bindings_;
-  QLabel* summary_ = nullptr;
   ChangesList* list_ = nullptr;
   ChangeDetector<image::ConfigImage> known_, image_;
   std::optional<Other> other_;

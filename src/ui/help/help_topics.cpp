@@ -29,6 +29,7 @@ constexpr std::array kWindows = {
     Topic{"frmView", "viewer.md"},
     Topic{"frmAbout", "about.md"},
     Topic{"Changes", "changes.md"},
+    Topic{"Checks", "checks.md"},
     Topic{"CopyException", "exception_report.md"},
     Topic{"CopyAlarm", "alarm_outputs.md"},
     Topic{"Help", "help.md"},

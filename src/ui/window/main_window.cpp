@@ -16,6 +16,7 @@
 #include <utility>
 
 #include "host/text_codec.h"
+#include "ui/acts/checks_window.h"
 #include "ui/acts/copy_slot_window.h"
 #include "ui/dialogs/changes_window.h"
 #include "ui/kit/box_layouts.h"
@@ -55,7 +56,8 @@ MainWindow::MainWindow(Bindings& bindings, OwnActs own_acts)
       own_acts_(std::move(own_acts)),
       tabs_(new QTabWidget),
       status_(new StatusStrip(bindings)),
-      changes_(new ChangesWindow(bindings, this)) {
+      changes_(new ChangesWindow(bindings, this)),
+      checks_(new ChecksWindow(bindings, this)) {
   const auto& form = bindings_.Model().frmMain.form;
   bindings_.OnRefresh([this] {
     focus_before_ = focusWidget();
@@ -69,10 +71,15 @@ MainWindow::MainWindow(Bindings& bindings, OwnActs own_acts)
   BindTitle();
   statusBar()->setSizeGripEnabled(false);
   statusBar()->addWidget(status_, 1);
-  changes_->open_tab = [this](int tab) { tabs_->setCurrentIndex(tab); };
-  changes_button_ = BuildChangesButton(bindings, *changes_);
-  changes_button_->setFixedHeight(StatusStrip::LineHeight(*changes_button_));
-  status_->AddButton(changes_button_);
+  changes_->open_tab = checks_->open_tab = [this](int tab) { tabs_->setCurrentIndex(tab); };
+  AddStatusButton(BuildChangesButton(bindings, *changes_));
+  AddStatusButton(&checks_->Button());
+}
+
+void MainWindow::AddStatusButton(QPushButton* button) {
+  button->setFixedHeight(StatusStrip::LineHeight(*button));
+  status_->AddButton(button);
+  status_buttons_.push_back(button);
 }
 
 QSize MainWindow::StartSize() {
@@ -117,12 +124,18 @@ bool MainWindow::BuildPage(int tab) {
   auto* page = kPages.at(static_cast<std::size_t>(tab))(bindings_);
   down->addWidget(page);
   page->show();
-  // New widgets are added at the end of the focus chain. The button of the status bar must stay the last one.
-  if (changes_button_ == nullptr) return true;
+  // New widgets are added at the end of the focus chain. The buttons of the status bar must stay the last
+  // ones.
+  const auto is_button = [this](const QWidget* widget) {
+    return std::find(status_buttons_.begin(), status_buttons_.end(), widget) != status_buttons_.end();
+  };
   auto* last = previousInFocusChain();
-  while (last != changes_button_ && (last->focusPolicy() & Qt::TabFocus) == 0)
+  while (last != this && (is_button(last) || (last->focusPolicy() & Qt::TabFocus) == 0))
     last = last->previousInFocusChain();
-  setTabOrder(last, changes_button_);
+  for (auto* button : status_buttons_) {
+    setTabOrder(last, button);
+    last = button;
+  }
   return true;
 }
 
@@ -176,6 +189,8 @@ void MainWindow::BuildMenus() {
   file->addSeparator();
   auto* changes = file->addAction(QStringLiteral("Changes"), changes_, &ChangesWindow::Open);
   keys(changes, QKeySequence(Qt::CTRL | Qt::Key_D));
+  keys(file->addAction(QStringLiteral("Checks"), checks_, &ChecksWindow::Open),
+       QKeySequence(Qt::CTRL | Qt::Key_K));
   file->addSeparator();
   keys(bindings_.Item(*file, form.menuExit), QKeySequence(Qt::CTRL | Qt::Key_Q));
   auto* edit = BuildEditMenu(*menuBar(), bindings_, own_acts_);
@@ -237,7 +252,7 @@ void MainWindow::EnableAsModelSays() {
   // The window itself stays enabled: otherwise its child windows would be disabled too.
   menuBar()->setEnabled(form.enabled);
   tabs_->setEnabled(form.enabled);
-  changes_button_->setEnabled(form.enabled);
+  for (auto* button : status_buttons_) button->setEnabled(form.enabled);
   if (form.enabled && last_focus_ != nullptr) FocusFirstUsable(*last_focus_);
 }
 
@@ -250,6 +265,7 @@ void MainWindow::paintEvent(QPaintEvent* event) {
   QMainWindow::paintEvent(event);
   if (!first_painted) return;
   std::exchange(first_painted, nullptr)();
+  checks_->Begin();
   // The window is on the screen before its icon is drawn.
   QTimer::singleShot(0, this, [] { QApplication::setWindowIcon(WindowIcon()); });
 }

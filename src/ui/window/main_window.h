@@ -4,6 +4,7 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <vector>
 
 #include "ui/kit/bindings.h"
 #include "ui/kit/mnemonics.h"
@@ -15,6 +16,7 @@ class QTabWidget;
 namespace ovl::ui {
 
 class ChangesWindow;
+class ChecksWindow;
 class StatusStrip;
 
 class MainWindow : public QMainWindow {
@@ -27,6 +29,7 @@ class MainWindow : public QMainWindow {
   QTabWidget& Tabs() const { return *tabs_; }
   StatusStrip& Status() const { return *status_; }
   ChangesWindow& Changes() const { return *changes_; }
+  ChecksWindow& Checks() const { return *checks_; }
   const OwnActs& Acts() const { return own_acts_; }
   QMenu& HelpMenu() const { return *help_menu_; }
 
@@ -65,6 +68,7 @@ class MainWindow : public QMainWindow {
  private:
   void BuildTabs();
   bool BuildPage(int tab);
+  void AddStatusButton(QPushButton* button);
   void BindTabs();
   void BuildMenus();
   void BindTitle();
@@ -76,7 +80,8 @@ class MainWindow : public QMainWindow {
   QTabWidget* tabs_;
   StatusStrip* status_;
   ChangesWindow* changes_;
-  QPushButton* changes_button_ = nullptr;
+  ChecksWindow* checks_;
+  std::vector<QPushButton*> status_buttons_;  // from left to right
   QMenu* version_menu_ = nullptr;
   QMenu* help_menu_ = nullptr;
   QPointer<QWidget> focus_before_;  // this refresh, which may hide or disable its widget

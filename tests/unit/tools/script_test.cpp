@@ -7,6 +7,9 @@
 #include <utility>
 #include <vector>
 
+#include "acts/backup.h"
+#include "images/default_images.h"
+#include "script/commands.h"
 #include "script/inspection.h"
 #include "script/parser.h"
 #include "script/runner.h"
@@ -186,6 +189,46 @@ TEST_F(Script, PrintsBoxesRefusalsSentTextsAndTheEnd) {
             "box \"- Connection Fail -\" \"                            !!! Remote Connection Fail. !!!\\n"
             "Cable Disconnected Or Communication Setting Wrong ,Try Again\"\n"
             "\"\\x18\"\n\"NONE\"\n\"ODD\"\n\"EVEN\"\none  two\nended\n\"\"\nlast\nended\n");
+}
+
+TEST_F(Script, ChecksFilesAndTheConfiguration) {
+  const auto good = folder_.File("good.bin"), bad = folder_.File("bad \"1\".bin"),
+             missing = folder_.File("no");
+  const firmware::FirmwareId firmware{"V1400", "R12"};
+  ovl::testing::WriteFile(folder_.File("V1400/R12/GENERIC.bin"),
+                          acts::ReopenableFile(images::FactoryImage(firmware), firmware).value());
+  EXPECT_EQ(RunStarted("check\nstream \"" + good + "\"\nclick DemoMode\npick ComboTD(4) 1\ncheck\n" +
+                       "stream " + Quoted(bad) + "\n"),
+            "no findings\nwarning: demo-on: The unit plays its demonstration after power up.\n"
+            "note: clock-locked: T/D LOCKING is ON, but T/D DISPLAY is OFF.\n");
+  using Options = std::vector<command_line::Given>;
+  const auto checked = [](Options options, std::vector<std::string> words) {
+    words.insert(words.begin(), "check");
+    const auto command = CommandOf({command_line::Wish::kRun, {}, std::move(options), std::move(words)});
+    std::ostringstream output, errors;
+    const auto status = command.run(output, errors);
+    return std::to_string(static_cast<int>(status)) + '\n' + output.str() + errors.str();
+  };
+  const auto of = [](const char* name) { return Options{{0, name}}; };
+  const auto lines = bad + ": warning: demo-on: The unit plays its demonstration after power up.\n" + bad +
+                     ": note: clock-locked: T/D LOCKING is ON, but T/D DISPLAY is OFF.\n";
+  EXPECT_EQ(checked(of("V1400R12"), {good}), "0\n");
+  EXPECT_EQ(checked(of("V1400 R12"), {good, bad}), "1\n" + lines);
+  EXPECT_EQ(checked(of("V1400R12"), {missing, bad}),
+            "2\n" + lines + missing + ": No such file or directory\n");
+  EXPECT_EQ(checked(of("V1400R7"), {good}),
+            "2\n" + good + ": no configuration of V1400R7, it fits V1400R11, V1400R12\n");
+  EXPECT_EQ(checked(of("V1400R99"), {good}), "2\nV1400R99: there is no such firmware\n");
+  const auto json = checked({{0, "V1400R12"}, {1, {}}}, {good, bad});
+  EXPECT_NE(json.find("good.bin\", \"firmware\": \"V1400R12\", \"findings\": []},\n"), std::string::npos)
+      << json;
+  EXPECT_NE(json.find("bad \\\"1\\\".bin\""), std::string::npos) << json;
+  EXPECT_NE(
+      json.find("{\"severity\": \"warning\", \"id\": \"demo-on\", \"words\": \"The unit plays its "
+                "demonstration after power up.\", \"tab\": \"REMOTE\", \"setting\": \"Demo On Power Up\", "
+                "\"control\": \"DemoMode\", \"list\": \"\", \"number\": 0}"),
+      std::string::npos)
+      << json;
 }
 
 TEST_F(Script, AFailedExpectationNamesThePlace) {

@@ -12,6 +12,7 @@
 #include <tuple>
 
 #include "screen.h"
+#include "ui/acts/checks_window.h"
 #include "ui/dialogs/changes_window.h"
 
 namespace ovl::testing {
@@ -106,8 +107,12 @@ TEST_P(Keyboard, EveryControlOfATabIsReachedOnceAndNoTextIsCut) {
     screen.App().frmMain.CmdUpDow[controls::kMasterReset].visible = true;
     screen.App().frmMain.Timer.enabled = false;  // its first tick could show another list of days
     screen.Select("TCPIP");
+    screen.Pick("ComboALM(1)", 9);
+    screen.Pick("ComboTD(5)", 1);
+    screen.Main().Checks().CheckNow();
     const auto& changes = screen.Find("StatusChanges");
-    EXPECT_TRUE(changes.isVisible());
+    const auto& checks = screen.Find("StatusChecks");
+    EXPECT_TRUE(changes.isVisible() && checks.isVisible());
     for (int tab = 0; tab < window.Tabs().count(); ++tab) {
       SCOPED_TRACE(firmware.Joined() + " tab " + std::to_string(tab));
       window.Tabs().setCurrentIndex(tab);
@@ -118,6 +123,7 @@ TEST_P(Keyboard, EveryControlOfATabIsReachedOnceAndNoTextIsCut) {
         EXPECT_EQ(window.size(), size);
         ExpectRoom(page);
         EXPECT_GE(changes.width(), changes.sizeHint().width());
+        EXPECT_GE(checks.width(), checks.sizeHint().width());
         Controls(page, screen.App().registry);
       }
       if (GetParam() != kUsualPoints) continue;  // the font changes neither letters nor order
@@ -166,6 +172,9 @@ TEST_P(Keyboard, EverySmallWindowHasNamesAccessKeysAndRoomForItsTexts) {
   screen.Main().Changes().Open();
   screen.Show();
   ExpectRoom(screen.Main().Changes());
+  screen.Main().Checks().Open();
+  screen.Show();
+  ExpectRoom(screen.Main().Checks());
 }
 
 TEST(LatePages, AreBuiltWhenTheyAreShownAndTheStatusBarIsTheLastStop) {

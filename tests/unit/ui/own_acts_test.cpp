@@ -1,6 +1,7 @@
-// The windows of our own acts: the changes, and copies of exceptions and alarms.
+// The windows of our own acts: the changes, the checks, and copies of exceptions and alarms.
 #include <QCheckBox>
 #include <QClipboard>
+#include <QDeadlineTimer>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTreeWidget>
@@ -48,7 +49,7 @@ TEST_F(ChangesTest, AreGroupedByTabAndFollowPicksAndDownloads) {
     return before + " -> " + list.Text();
   };
   const auto parity = "COMMUNICATION|PARITY: " + pick_other("ComboCOMM(3)", app.frmMain.ComboCOMM[3]);
-  EXPECT_EQ(button.text(), "1 field changed since the last load or download");
+  EXPECT_EQ(button.text(), "1 field changed");
   Click("StatusChanges");
   EXPECT_EQ(Listed(), parity);
   const auto format = "|TIME / LANGUAGE|DATE FORMAT: " + pick_other("ComboTD(2)", app.frmMain.ComboTD[2]);
@@ -121,6 +122,53 @@ TEST_F(ChangesTest, CopyWholeRowsWithTheBytesThatAreShown) {
   ASSERT_EQ(with_bytes.size(), 7);
   EXPECT_EQ(with_bytes[4], "COMMCFG_BAK, SYSCFG 1");
   EXPECT_EQ(with_bytes[6].toStdString(), app.image[image::FieldId::COMMCFG_BAK]);
+}
+
+class ChecksTest : public ScreenTest {
+ protected:
+  // The program is idle until the count has these words.
+  std::string CountWhenIdle(const QString& wanted) {
+    const auto& button = Find<QPushButton>("StatusChecks");
+    for (const QDeadlineTimer late(10000); button.text() != wanted && !late.hasExpired();) Show();
+    return button.isVisible() ? button.text().toStdString() : "hidden";
+  }
+  std::string Cell(int group, int column) {
+    const auto* first = Find<QTreeWidget>("ChecksList").topLevelItem(group)->child(0);
+    return first->text(column).toStdString();
+  }
+  void OpenFirst(int group) {
+    auto& list = Find<QTreeWidget>("ChecksList");
+    list.setCurrentItem(list.topLevelItem(group)->child(0));
+    Press(list, Qt::Key_Return);
+    Show();
+  }
+};
+
+TEST_F(ChecksTest, AreCountedWhenTheProgramIsIdleAndLeadToTheirControls) {
+  Select("GENERIC");
+  App().image = images::FactoryImage(App().firmware);
+  Show();
+  EXPECT_EQ(CountWhenIdle(""), "hidden");
+  Pick("ComboALM(0)", 4);
+  Pick("ComboALM(1)", 9);
+  Pick("ComboTD(4)", 1);
+  App().image[image::FieldId::NET_TYPE] = "02";
+  App().image[image::FieldId::NET_BAUDRATE] = "03";
+  Show();
+  EXPECT_EQ(CountWhenIdle("1 error, 1 warning"), "1 error, 1 warning");
+  Click("StatusChecks");
+  EXPECT_EQ(Cell(0, 0), "Network Settings, ADDRESS");
+  EXPECT_EQ(Cell(1, 1), "Only free exceptions trigger alarm 5 (9), so nothing sets it off.");
+  EXPECT_EQ(Cell(2, 1), "T/D LOCKING is ON, but T/D DISPLAY is OFF.");
+  Pick("ComboALM(0)", 0);
+  OpenFirst(1);
+  EXPECT_EQ(Main().Tabs().currentIndex(), kAlarmTab);
+  EXPECT_EQ(App().frmMain.ComboALM[0].position, 4);
+  EXPECT_EQ(Main().focusWidget()->objectName(), "ComboALM(1)");
+
+  Pick("ComboALM(1)", 0);
+  EXPECT_EQ(CountWhenIdle("1 error"), "1 error");
+  EXPECT_EQ(Find<QTreeWidget>("ChecksList").topLevelItemCount(), 2) << "the open window follows";
 }
 
 class CopySlotTest : public ScreenTest {

@@ -1,0 +1,106 @@
+// The rules about the alarms and their texts.
+#include <array>
+
+#include "checks/conditions.h"
+#include "checks/rule.h"
+#include "codecs/codecs.h"
+#include "firmware/traits.h"
+#include "image/slot_records.h"
+
+namespace ovl::checks {
+namespace {
+
+using enum image::FieldId;
+using enum Severity;
+using core::Place;
+
+// An alarm of the image, with its triggered text.
+struct Alarm {
+  int number;
+  int trigger;
+  int video_loss;           // 0: OFF, also where the firmware has none
+  std::string_view record;  // of the text
+  bool has_text;
+
+  bool ShowsOrSends() const {
+    constexpr int kShownOrSent = 1 << image::kDisplayBit | 1 << image::kOutputBit;
+    return (codecs::HexToInt(record) & kShownOrSent) != 0;
+  }
+  bool GoesOff() const { return trigger != image::kNoTrigger || video_loss != 0; }
+};
+
+template <class Condition>
+Hits AlarmsWith(Subject& subject, const Condition& condition) {
+  const auto& triggers = subject.Form().ComboALM[controls::Alm::kTrigger].items;
+  const bool with_video = firmware::HasVideoLoss(subject.Firmware());
+  Hits hits;
+  for (int number = 1; number <= image::kAlarms; ++number) {
+    const auto& stored = subject.Image().at(ALMSTRUCT_BAK, number);
+    const auto& record = subject.Image().at(TRIGGER_TEXT, number);
+    const auto text = image::StoredText(image::WithoutEndMark(image::TriggeredDigits(record)));
+    const Alarm alarm{number, image::AlarmTrigger(stored), with_video ? image::AlarmVideoLoss(stored) : 0,
+                      record, !IsBlank(text)};
+    if (!condition(alarm)) continue;
+    const auto trigger = static_cast<std::size_t>(alarm.trigger);
+    hits.push_back({number, {std::to_string(number), trigger < triggers.size() ? triggers[trigger] : ""}});
+  }
+  return hits;
+}
+
+Hits WithoutException(Subject& subject) {
+  return AlarmsWith(
+      subject, [&](const Alarm& alarm) { return WaitsForFreeExceptions(subject.Image(), alarm.trigger); });
+}
+
+Hits BlankTriggerText(Subject& subject) {
+  return AlarmsWith(subject, [](const Alarm& alarm) { return IsBlankTrigger(alarm.record); });
+}
+
+Hits TextNeverComes(Subject& subject) {
+  return AlarmsWith(
+      subject, [](const Alarm& alarm) { return alarm.has_text && alarm.ShowsOrSends() && !alarm.GoesOff(); });
+}
+
+Hits TextUnused(Subject& subject) {
+  return AlarmsWith(
+      subject, [](const Alarm& alarm) { return alarm.has_text && !alarm.ShowsOrSends() && alarm.GoesOff(); });
+}
+
+Hits DelayWithoutRts(Subject& subject) {
+  return AlarmsWith(subject, [&](const Alarm& alarm) {
+    return subject.Byte(TRIGGER_DELAY, alarm.number) != 0 && alarm.trigger != image::kRtsTrigger;
+  });
+}
+
+Hits FlagWithoutDuration(Subject& subject) {
+  if (subject.Form().ComboALM[controls::Alm::kFlagType].position <= 0) return {};
+  if (subject.Form().ComboALM[controls::Alm::kFlagDuration].position != 0) return {};
+  return {{0, {subject.Entry("ComboALM(4)"), subject.Entry("ComboALM(5)")}}};
+}
+
+constexpr std::string_view kTrigger = "ComboALM(1)";
+
+constexpr std::array kRules = {
+    Rule{"alarm-without-exception", kWarning,
+         "Only free exceptions trigger alarm %1 (%2), so nothing sets it off.", Place::kAlarmOutputs,
+         kTrigger, WithoutException},
+    Rule{"text-never-comes", kWarning,
+         "Alarm %1 has a text to show or to send, but nothing sets the alarm off.", Place::kAlarmOutputs,
+         kTrigger, TextNeverComes},
+    Rule{"blank-trigger-text", kWarning, "The trigger text of alarm %1 is empty or only blanks.",
+         Place::kAlarmOutputs, "TextTrigger", BlankTriggerText},
+    Rule{"text-unused", kNote, "The trigger text of alarm %1 is neither shown nor sent.",
+         Place::kAlarmOutputs, "ComboTrigger(1)", TextUnused},
+    Rule{"delay-without-rts", kNote, "Alarm %1 has a delay after the RTS line, but its ALARM TRIGGER is %2.",
+         Place::kAlarmOutputs, "ComboTrigger(2)", DelayWithoutRts},
+    Rule{"flag-without-duration", kNote, "FLAG TYPE is %1, but FLAG DURATION is %2.", Place::kAlarmOutputs,
+         "ComboALM(5)", FlagWithoutDuration},
+};
+
+}  // namespace
+
+std::span<const Rule> AlarmRules() {
+  return kRules;
+}
+
+}  // namespace ovl::checks

@@ -1,0 +1,206 @@
+#include "script/commands.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <optional>
+
+#include "acts/backup.h"
+#include "checks/checks.h"
+#include "core/failure.h"
+#include "host/configurations/configurations.h"
+#include "host/files.h"
+#include "script/finding_lines.h"
+#include "script/text_statements.h"
+#include "text_form/export.h"
+
+namespace ovl::script {
+namespace {
+
+enum OptionAt : std::size_t { kFirmware, kJson, kFolder };
+constexpr std::array kOptions = {
+    command_line::Option{"firmware", "NAME",
+                         "for a command: the firmware of the files, such as V1400R12.\n"
+                         "Without it, that of a text form, or the only one that fits"},
+    command_line::Option{"json", "", "for check: prints JSON instead of lines"},
+    command_line::Option{"folder", "FOLDER",
+                         "for check: the program folder, for the default image of the\nregister"},
+};
+
+struct Wanted {
+  std::string firmware, folder;
+  bool json = false;
+  std::vector<std::string> paths;
+};
+
+struct File {
+  std::string path, bytes;
+};
+
+File ReadFile(const std::string& path) {
+  return {path, host::DiskFiles().read(path)};
+}
+
+ExitStatus Diff(const Wanted& wanted, std::ostream& output, std::ostream&) {
+  const auto one = ReadFile(wanted.paths[0]), other = ReadFile(wanted.paths[1]);
+  const bool one_is_text = text_form::IsTextForm(one.bytes),
+             other_is_text = text_form::IsTextForm(other.bytes);
+  const auto& with_firmware = one_is_text && !other_is_text ? other : one;
+  host::Viewer viewer(host::FirmwareOf(with_firmware.path, with_firmware.bytes, wanted.firmware));
+  const auto before = host::ReadConfiguration(viewer, one.path, one.bytes);
+  const auto after = host::ReadConfiguration(viewer, before, other.path, other.bytes);
+  const bool differ = PrintDifferences(output, *viewer.app, before, after);
+  return differ ? ExitStatus::kExpectationFailed : ExitStatus::kDone;
+}
+
+ExitStatus Export(const Wanted& wanted, std::ostream& output, std::ostream&) {
+  const auto file = ReadFile(wanted.paths[0]);
+  host::Viewer viewer(host::FirmwareOf(file.path, file.bytes, wanted.firmware));
+  output << text_form::Export(viewer.catalogue, host::ReadConfiguration(viewer, file.path, file.bytes));
+  return ExitStatus::kDone;
+}
+
+ExitStatus Import(const Wanted& wanted, std::ostream&, std::ostream&) {
+  const auto text = ReadFile(wanted.paths[0]);
+  host::Viewer viewer(host::FirmwareOf(text.path, text.bytes, wanted.firmware));
+  const auto image = host::ReadConfiguration(viewer, text.path, text.bytes);
+  const auto file = acts::ReopenableFile(image, viewer.catalogue.Firmware());
+  if (!file) Wrong(text.path + ": no file gives this configuration back");
+  host::DiskFiles().replace(wanted.paths[1], *file);
+  return ExitStatus::kDone;
+}
+
+ExitStatus Checksum(const Wanted& wanted, std::ostream& output, std::ostream&) {
+  const auto file = ReadFile(wanted.paths[0]);
+  host::Viewer viewer(host::FirmwareOf(file.path, file.bytes, wanted.firmware));
+  const auto image = host::ReadConfiguration(viewer, file.path, file.bytes);
+  output << ChecksumOf(image, viewer.catalogue.Firmware()) << '\n';
+  return ExitStatus::kDone;
+}
+
+// Runs a step. False: it failed, and the reason is printed.
+template <class Step>
+bool Attempt(std::ostream& errors, const Step& step) {
+  try {
+    step();
+    return true;
+  } catch (const Stop& stop) {
+    errors << stop.what() << '\n';
+  } catch (const host::NoConfiguration& problem) {
+    errors << problem.what() << '\n';
+  } catch (const core::Failure& failure) {
+    errors << failure.Text() << '\n';
+  }
+  return false;
+}
+
+// Files of one firmware share what shows them.
+using Viewers = std::map<std::string, host::Viewer>;
+
+CheckedFile Checked(const std::string& path, const Wanted& wanted, Viewers& viewers) {
+  const auto file = ReadFile(path);
+  const auto firmware = host::FirmwareOf(file.path, file.bytes, wanted.firmware);
+  auto& viewer = viewers.try_emplace(firmware.Joined(), firmware).first->second;
+  viewer.app->platform.files = host::DiskFiles();
+  viewer.app->platform.program_folder = wanted.folder;
+  const auto image = host::ReadConfiguration(viewer, file.path, file.bytes);
+  return {path, viewer.catalogue.Firmware(), checks::FindingsOf(*viewer.app, image)};
+}
+
+bool HasMoreThanNotes(const CheckedFile& file) {
+  const auto count = checks::CountOf(file.findings);
+  return count.errors + count.warnings > 0;
+}
+
+// A file that cannot be checked does not keep the others from it.
+ExitStatus Check(const Wanted& wanted, std::ostream& output, std::ostream& errors) {
+  Viewers viewers;
+  std::vector<CheckedFile> files;
+  bool wrong = false;
+  for (const auto& path : wanted.paths)
+    wrong |= !Attempt(errors, [&] { files.push_back(Checked(path, wanted, viewers)); });
+  if (wanted.json) PrintJson(output, files);
+  for (const auto& file : files) {
+    for (const auto& finding : file.findings) {
+      if (!wanted.json) output << file.path << ": " << LineOf(finding) << '\n';
+    }
+  }
+  if (wrong) return ExitStatus::kWrongStatement;
+  const bool found = std::any_of(files.begin(), files.end(), HasMoreThanNotes);
+  return found ? ExitStatus::kExpectationFailed : ExitStatus::kDone;
+}
+
+struct Row {
+  std::string_view word, form, help;
+  std::size_t least, most;  // of the paths
+  ExitStatus (*run)(const Wanted&, std::ostream&, std::ostream&);
+};
+constexpr std::size_t kAnyNumber = 1'000'000;
+constexpr std::array kCommands = {
+    Row{"check", "check FILE...", "prints what to look at: FILE: error|warning|note: RULE: WORDS", 1,
+        kAnyNumber, Check},
+    Row{"checksum", "checksum FILE", "prints the checksum that is on the site sheet", 1, 1, Checksum},
+    Row{"diff", "diff FILE FILE", "compares two files in the words of the form", 2, 2, Diff},
+    Row{"export", "export FILE", "prints a file as text, one setting a line", 1, 1, Export},
+    Row{"import", "import TEXT FILE", "writes the configuration of a text as a file", 2, 2, Import},
+};
+
+std::string MisusedOption(const command_line::CommandLine& read, const Row* row) {
+  for (const auto& given : read.options) {
+    const auto name = "--" + std::string(kOptions.at(given.option).name);
+    if (row == nullptr) return name + " is for a command";
+    if (given.option != kFirmware && row->run != Check) return name + " is for check";
+  }
+  return {};
+}
+
+ExitStatus Run(const Row& row, const Wanted& wanted, std::ostream& output, std::ostream& errors) {
+  auto status = ExitStatus::kWrongStatement;
+  const bool done = Attempt(errors, [&] {
+    status = row.run(wanted, output, errors);
+    if (!output.flush()) Wrong("the output cannot be written");
+  });
+  return done ? status : ExitStatus::kWrongStatement;
+}
+
+}  // namespace
+
+Command CommandOf(const command_line::CommandLine& read) {
+  const auto& words = read.arguments;
+  const auto row = std::find_if(kCommands.begin(), kCommands.end(), [&](const Row& command) {
+    return !words.empty() && command.word == words.front();
+  });
+  const bool is_command = row != kCommands.end();
+  if (const auto error = MisusedOption(read, is_command ? &*row : nullptr); !error.empty())
+    return {{}, error};
+  if (!is_command) return {};
+  const auto paths = words.size() - 1;
+  if (paths < row->least || paths > row->most) return {{}, "expected: " + std::string(row->form)};
+  Wanted wanted;
+  wanted.paths.assign(words.begin() + 1, words.end());
+  for (const auto& [option, value] : read.options) {
+    if (option == kFirmware) wanted.firmware = value;
+    if (option == kFolder) wanted.folder = value;
+    if (option == kJson) wanted.json = true;
+  }
+  return {
+      [row, wanted](std::ostream& output, std::ostream& errors) { return Run(*row, wanted, output, errors); },
+      {}};
+}
+
+std::span<const command_line::Option> CommandOptions() {
+  return kOptions;
+}
+
+std::string CommandsHelp() {
+  constexpr std::size_t kHelpColumn = 31;
+  std::string text = "\nCommands, instead of a script. A file is a record stream or a text form:\n";
+  for (const auto& row : kCommands) {
+    auto form = "  " + std::string(row.form);
+    form.resize(kHelpColumn, ' ');
+    text += form.append(row.help) + "\n";
+  }
+  return text;
+}
+
+}  // namespace ovl::script
