@@ -45,6 +45,14 @@ serve() {
   fi
 }
 
+# A request to end starts no further unit, and waits for those under way: a transfer would go on alone and hold its
+# device.
+end_with() {
+  echo "$(basename "$0"): waiting for the units under way" >&2
+  wait
+  exit "$1"
+}
+
 # Runs a command for each device of the list, prints a table of the outcomes, and fails if one has failed:
 # each WHAT COMMAND... The file LIST.EXAMPLE.done has the devices that are done until all are. A later run for the same
 # WHAT, which says what is done to the units, leaves them out.
@@ -54,6 +62,8 @@ each() {
   shift
   [ "$(head -n 1 "$state" 2> /dev/null)" = "$what" ] || echo "$what" > "$state" || exit 3
   mkdir "$work/outcomes"
+  trap 'end_with 130' INT
+  trap 'end_with 143' TERM
   for device in "${devices[@]}"; do
     number=$((number + 1))
     if grep -qxF -- "$device" "$state"; then
