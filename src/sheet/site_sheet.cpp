@@ -15,7 +15,7 @@ namespace {
 using text_form::Line;
 using Lines = std::vector<Line>;
 
-constexpr std::size_t kLinesForFindings = 20;  // that page 1 has room for
+constexpr std::size_t kLinesForFindings = 17;  // that page 1 has room for
 constexpr std::size_t kLettersOfLine = 90;
 constexpr std::string_view kEmpty = "&#160;";  // a cell without anything would spoil the space below a table
 constexpr std::size_t kPairs = 3;              // settings beside each other

@@ -65,7 +65,7 @@ TEST_F(SiteSheet, HasTheExceptionsAndAlarmsThatAreInUse) {
 
 TEST_F(SiteSheet, SaysHowManyFindingsHaveNoRoom) {
   const std::vector<sheet::Remark> findings(30, {"warning", "Words"});
-  EXPECT_NE(Text(findings).find("And 10 more."), std::string::npos);
+  EXPECT_NE(Text(findings).find("And 13 more."), std::string::npos);
 }
 
 TEST_F(SiteSheet, TheChecksumIsThatOfTheStreamOfADownload) {
