@@ -52,8 +52,10 @@ std::string Table(std::string_view kind, std::string_view rows) {
       .append("</table>\n");
 }
 
-std::string Cell(std::string_view kind, std::string_view html) {
-  return std::string("<td class=\"").append(kind).append("\">").append(html).append("</td>");
+std::string Cell(std::string_view kind, std::string_view html, std::string_view width) {
+  auto cell = std::string("<td class=\"").append(kind) + '"';
+  if (!width.empty()) cell.append(" width=\"").append(width) += '"';
+  return cell.append(">").append(html).append("</td>");
 }
 
 }  // namespace ovl::sheet

@@ -16,7 +16,7 @@ std::string UnbrokenHtml(std::string_view text);
 std::string Head(std::string_view html);
 std::string Table(std::string_view kind, std::string_view rows);
 
-// "<td class="KIND">HTML</td>"
-std::string Cell(std::string_view kind, std::string_view html);
+// A cell of a table, with a share of its width: "18%".
+std::string Cell(std::string_view kind, std::string_view html, std::string_view width = {});
 
 }  // namespace ovl::sheet

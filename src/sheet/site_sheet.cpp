@@ -64,13 +64,9 @@ std::string Section(const Lines& lines, const image::ConfigImage& image) {
   constexpr std::string_view kNameWidth = "18%", kValueWidth = "15.3%";
   std::string rows, texts;
   std::vector<std::string> cells;
-  const auto add = [&](std::string_view kind, std::string_view width, std::string_view html) {
-    cells.push_back(
-        std::string("<td class=\"").append(kind).append("\" width=\"").append(width).append("\">"));
-    cells.back().append(html).append("</td>");
-  };
   const auto end_row = [&] {
-    while (cells.size() < 2 * kPairs) add("name", cells.size() % 2 == 0 ? kNameWidth : kValueWidth, kEmpty);
+    while (cells.size() < 2 * kPairs)
+      cells.push_back(Cell("name", kEmpty, cells.size() % 2 == 0 ? kNameWidth : kValueWidth));
     rows += RowOf(cells);
     cells.clear();
   };
@@ -80,8 +76,8 @@ std::string Section(const Lines& lines, const image::ConfigImage& image) {
                TitleTextOf(image) + "</td></tr>\n";
       continue;
     }
-    add("name", kNameWidth, Html(line.key));
-    add("value", kValueWidth, Html(ValueOf(line)));
+    cells.push_back(Cell("name", Html(line.key), kNameWidth));
+    cells.push_back(Cell("value", Html(ValueOf(line)), kValueWidth));
     if (cells.size() == 2 * kPairs) end_row();
   }
   if (!cells.empty()) end_row();
@@ -113,7 +109,7 @@ std::string FindingsOf(std::span<const Remark> findings) {
     const auto& finding = findings[shown];
     lines += finding.words.size() / kLettersOfLine + 1;
     if (lines > kLinesForFindings) break;
-    rows += RowOf({Cell("value", Html(finding.severity)), Cell("words", Html(finding.words))});
+    rows += RowOf({Cell("value", Html(finding.severity), "9%"), Cell("words", Html(finding.words))});
   }
   if (shown < findings.size()) {
     const auto rest = std::to_string(findings.size() - shown);
@@ -135,9 +131,8 @@ std::string TitleOf(const core::Application& like, const std::string& sum, int p
 
 // The lines for a pen.
 std::string HandLines() {
-  const auto line = [](std::string_view name, std::string_view name_width, std::string_view width) {
-    return "<td class=\"plain\" width=\"" + std::string(name_width) + "\"><br>" + std::string(name) +
-           "</td><td class=\"hand\" width=\"" + std::string(width) + "\">" + std::string(kEmpty) + "</td>";
+  const auto line = [](const std::string& name, std::string_view name_width, std::string_view width) {
+    return Cell("plain", "<br>" + name, name_width) + Cell("hand", kEmpty, width);
   };
   return Table("hand",
                RowOf({line("Site", "5%", "43%"), line("Installer", "9%", "20%"), line("Date", "6%", "17%")}));

@@ -18,6 +18,7 @@ image::ConfigImage FullImage(const firmware::FirmwareId& firmware) {
   constexpr int kSecondHalf = 26, kPulse = 255, kMinute = 9;
   const std::string text(40, 'W');
   auto image = text_form::FilledImage(firmware, '0');
+  image[FieldId::REGTYPE] = "01";  // TCPIP has the most options
   for (int number = 1; number <= image::kExceptions; ++number) {
     auto& slot = image.at(FieldId::EXCPSTRS, number);
     image::StoreExceptionText(slot, firmware, text);
@@ -47,7 +48,10 @@ TEST_P(SiteSheetFile, OfAFullConfigurationHasTwoPages) {
   core::Application app;
   start::ServeFirmware(app, GetParam());
   const std::vector<sheet::Remark> remarks(
-      40, {"warning", "The text of exception 24 is stored with the length 39, and its own length is 40."});
+      40,
+      {"warning",
+       "Exception 24, \"24 AMOUNT & WIDE <VOID> MW@#%WWWWWWWWWWW\", is not displayed, put out or kept in the "
+       "history, and it triggers no alarm."});
   const auto sheet = QString::fromStdString(sheet::SiteSheet(app, FullImage(GetParam()), remarks));
   const TemporaryFolder folder;
   const auto file = QString::fromStdString(folder.File("sheet.pdf"));
