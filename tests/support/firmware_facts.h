@@ -3,10 +3,20 @@
 #pragma once
 
 #include <cstddef>
+#include <ostream>
 #include <string_view>
 #include <vector>
 
 #include "firmware/firmware_id.h"
+
+namespace ovl::firmware {
+
+// How GoogleTest names a firmware.
+inline void PrintTo(const FirmwareId& firmware, std::ostream* output) {
+  *output << firmware.Joined();
+}
+
+}  // namespace ovl::firmware
 
 namespace ovl::testing {
 

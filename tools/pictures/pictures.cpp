@@ -109,6 +109,8 @@ class Photographer {
     bytes->click();
     Take(Main().Changes(), QStringLiteral("changes_bytes"));
     bytes->click();
+    Main().Changes().OpenComparison(QStringLiteral("kitchen.bin"), App().known_image);
+    Take(Main().Changes(), QStringLiteral("changes_compared"));
     Main().Changes().close();
   }
 
