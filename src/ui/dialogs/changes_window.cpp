@@ -61,7 +61,7 @@ void ChangesWindow::Refresh() {
 QString ChangesWindow::SummaryOf(const std::vector<changes::SettingChange>& rows) const {
   const auto count = CountOf(rows.size(), QStringLiteral("setting"));
   if (other_ && rows.empty()) return QStringLiteral("%1 has the same settings.").arg(other_->file);
-  if (other_) return QStringLiteral("%1 has %2 otherwise than the tabs show.").arg(other_->file, count);
+  if (other_) return QStringLiteral("%1 differs from the tabs in %2.").arg(other_->file, count);
   const auto unit = QStringLiteral("in a unit that holds the configuration last loaded or sent");
   if (rows.empty()) return QStringLiteral("A download would change nothing %1.").arg(unit);
   return QStringLiteral("What a download would change %1: %2 in %3.")

@@ -19,7 +19,7 @@ class ChangesWindow : public SettingWindow {
 
   // Shows the changes.
   void Open() override;
-  // Shows what a file has otherwise than the image, until Open is called.
+  // Shows how a file differs from the image, until Open is called.
   void OpenComparison(const QString& file, const image::ConfigImage& other);
   void Refresh() override;
 

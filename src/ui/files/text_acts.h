@@ -20,7 +20,7 @@ class TextActs : public QObject {
     std::function<void(const QString&)> show_text;  // in the status bar
     // Runs an act of our own under the name by which it can be undone.
     std::function<void(const std::string& name, const std::function<void()>& act)> run;
-    // Shows what another image has otherwise.
+    // Shows how another image differs.
     std::function<void(const QString& file, const image::ConfigImage& other)> compare;
   };
 
