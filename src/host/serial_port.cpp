@@ -240,10 +240,11 @@ void SerialPort::OnPortError(QSerialPort::SerialPortError error) {
 // that the device itself is gone.
 void SerialPort::Lose(int error) {
   TakeReceived();
-  lost_ = Report(FailureWith(IsGone(device_) ? ENODEV : error));
   watch_.Stop();
   port_.close();
   timer_.Stop();
+  // Where a port opens only once, it cannot be probed before it is closed.
+  lost_ = Report(FailureWith(IsGone(device_) ? ENODEV : error));
   if (drain_owed_ || undelivered_ > 0) Post();
   on_loss();
 }

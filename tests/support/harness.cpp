@@ -62,10 +62,11 @@ void PutInOrder(const firmware::FirmwareId& firmware, std::string& digits) {
 
 }  // namespace
 
+// The name has slashes on every system, like those of File.
 TemporaryFolder::TemporaryFolder() {
   std::random_device number;
   do {
-    path_ = fs::temp_directory_path() / ("ovl-test-" + std::to_string(number()));
+    path_ = (fs::temp_directory_path() / ("ovl-test-" + std::to_string(number()))).generic_string();
   } while (!fs::create_directory(path_));
 }
 

@@ -2,9 +2,7 @@
 
 #include <windows.h>
 
-#include <QTimer>
 #include <QWinEventNotifier>
-#include <algorithm>
 
 namespace ovl::host {
 namespace {
@@ -17,11 +15,8 @@ HANDLE CreateTimer() {
 
 }  // namespace
 
-struct ShortTimer::Source {
+struct SystemTimer::Source {
   explicit Source(const std::function<void()>& fire) : timer(CreateTimer()) {
-    fallback.setSingleShot(true);
-    fallback.setTimerType(Qt::PreciseTimer);
-    QObject::connect(&fallback, &QTimer::timeout, &fallback, fire);
     if (timer == nullptr) return;
     notifier.setHandle(timer);
     notifier.setEnabled(true);
@@ -34,33 +29,24 @@ struct ShortTimer::Source {
   Source(const Source&) = delete;
   Source& operator=(const Source&) = delete;
 
-  bool Set(std::chrono::microseconds time) const {
-    if (timer == nullptr) return false;
-    constexpr LONGLONG kTicks = 10;  // of 100 ns in a microsecond
-    LARGE_INTEGER due = {};
-    due.QuadPart = -time.count() * kTicks;
-    return ::SetWaitableTimer(timer, &due, 0, nullptr, nullptr, FALSE) != 0;
-  }
-
   HANDLE timer;
   QWinEventNotifier notifier;
-  // For a system without such timers.
-  QTimer fallback;
 };
 
-ShortTimer::ShortTimer(std::function<void()> fire) : source_(std::make_unique<Source>(fire)) {}
+SystemTimer::SystemTimer(const std::function<void()>& fire) : source_(std::make_unique<Source>(fire)) {}
 
-ShortTimer::~ShortTimer() = default;
+SystemTimer::~SystemTimer() = default;
 
-void ShortTimer::Start(std::chrono::microseconds time) {
-  const auto wait = std::max(time, std::chrono::microseconds(1));
-  if (source_->Set(wait)) return;
-  source_->fallback.start(std::chrono::ceil<std::chrono::milliseconds>(wait));
+bool SystemTimer::Start(std::chrono::microseconds time) {
+  if (source_->timer == nullptr) return false;
+  constexpr LONGLONG kTicks = 10;  // of 100 ns in a microsecond
+  LARGE_INTEGER due = {};
+  due.QuadPart = -time.count() * kTicks;
+  return ::SetWaitableTimer(source_->timer, &due, 0, nullptr, nullptr, FALSE) != 0;
 }
 
-void ShortTimer::Stop() {
+void SystemTimer::Stop() {
   if (source_->timer != nullptr) ::CancelWaitableTimer(source_->timer);
-  source_->fallback.stop();
 }
 
 }  // namespace ovl::host
