@@ -1,12 +1,14 @@
 #!/usr/bin/env bash
-# Collects the history of every unit of a list into a folder: collect_histories.sh devices.txt histories
+# Collects the history of every unit of a list into a folder:
+#   collect_histories.sh [--jobs N] devices.txt histories
 . "$(dirname "$0")/common.sh"
 . "$(dirname "$0")/lists.sh"
-[ $# -eq 2 ] || usage DEVICES FOLDER
-read_list "$1"
-twice=$(printf '%s\n' "${devices[@]##*/}" | sort | uniq -d)
-[ -z "$twice" ] || refuse "$1: several devices would be kept as ${twice%%$'\n'*}.txt"
-mkdir -p -- "$2"
+read_options "$@"
+[ ${#arguments[@]} -eq 2 ] || usage "[--jobs N] DEVICES FOLDER"
+read_list "${arguments[0]}"
+refuse_same_names
+folder=${arguments[1]}
+mkdir -p -- "$folder"
 
 # CmdUpDow(4) asks for remote mode, CmdUpDow(3) loads the history; the program asks where to keep it, and does not tell
 # when it cannot.
@@ -23,4 +25,4 @@ END
   [ "$(head -c 4 "$work/history")" = OVLH ] && keep "$work/history" "$1/${2##*/}.txt"
 }
 
-each collect "$2"
+each "$folder" collect "$folder"

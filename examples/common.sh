@@ -22,12 +22,17 @@ version=${BASH_REMATCH[1]} release=${BASH_REMATCH[2]}
 [ "$version$release" != V1410R1 ] || version=V1400 release=R7
 work=$(mktemp -d) || exit 3
 trap 'rm -rf "$work"' EXIT
-# A request to end waits for the transfer under way, which would go on alone and hold the device.
+# A request to end waits for the transfers under way, which would go on alone and hold their devices.
 trap 'exit 143' TERM
-# The program keeps what it reads from a unit beside the images, where not everyone may write.
-unit=$work/$version/upload.bin
-{ mkdir "$work/ports" "$work/$version" &&
-  ln -s "$(readlink -m -- "$OVL_IMAGES")/$version/$release" "$work/$version/$release"; } || exit 3
+
+# A program folder of its own. The program keeps what it reads from a unit beside the images, where not everyone may
+# write. Transfers at the same time need one each.
+make_place() {
+  work=$1 unit=$1/$version/upload.bin
+  mkdir -p "$work/ports" "$work/$version" &&
+    ln -s "$(readlink -m -- "$OVL_IMAGES")/$version/$release" "$work/$version/$release"
+}
+make_place "$work" || exit 3
 
 # A text as ovl-script takes it.
 quoted() {

@@ -16,3 +16,8 @@ fits() {
 read_unit() {
   on_unit "$1" <<< upload && fits "$unit" "${1##*/}" > "$work/register"
 }
+
+# A configuration file as text.
+as_text() {
+  ovl-script --firmware "$version$release" export "$1"
+}

@@ -1,25 +1,78 @@
 # shellcheck shell=bash disable=SC2154
 # What the examples for a list of units share, behind common.sh.
 
+at_once=1
+
+# Takes --jobs N, how many units are served at once, from the front of the arguments; the rest is in `arguments`.
+read_options() {
+  if [ "${1-}" = --jobs ]; then
+    [[ ${2-} =~ ^[1-9][0-9]?$ ]] || refuse "--jobs needs a number from 1 to 99"
+    at_once=$2
+    shift 2
+  fi
+  arguments=("$@")
+}
+
 # Takes the devices of a list, one a line. A # at the beginning or behind a blank starts a comment.
 read_list() {
-  local text
+  local text twice
+  list=$1
   text=$(sed 's/\r$//; s/\(^\|\s\)#.*//; s/^\s\+//; s/\s\+$//; /^$/d' -- "$1") || exit 2
   [ -n "$text" ] || refuse "$1: no device in it"
+  twice=$(sort <<< "$text" | uniq -d)
+  [ -z "$twice" ] || refuse "$1: ${twice%%$'\n'*} is in it twice"
   mapfile -t devices <<< "$text"
 }
 
-# Runs a command for each device of the list, and goes on after one that fails: each COMMAND...
+# For results that are kept by the name of the device.
+refuse_same_names() {
+  local twice
+  twice=$(printf '%s\n' "${devices[@]##*/}" | sort | uniq -d)
+  [ -z "$twice" ] || refuse "$list: several devices would be kept as ${twice%%$'\n'*}"
+}
+
+# Runs a command for one device in a folder of its own, and keeps the outcome: serve NUMBER STATE COMMAND... DEVICE
+serve() {
+  local number=$1 state=$2 outcomes=$work/outcomes device=${*: -1}
+  make_place "$work/$number"
+  if "${@:3}" > "$work/said" 2>&1; then
+    echo "$device" >> "$state"
+    echo done > "$outcomes/$number"
+  else
+    # The last of what was said, with its further lines.
+    echo "failed: $(sed '/^[^ ]*: /!H; //h; $!d; g; s/\s\+/ /g; s/^ //; s/^stdin:[0-9]*: //' "$work/said")" > \
+      "$outcomes/$number"
+  fi
+}
+
+# Runs a command for each device of the list, prints a table of the outcomes, and fails if one has failed:
+# each WHAT COMMAND... The file LIST.EXAMPLE.done has the devices that are done until all are. A later run for the same
+# WHAT, which says what is done to the units, leaves them out.
 each() {
-  local failed=0 device
+  local state=$list.$(basename "$0" .sh).done what number=0 device outcome failed=0
+  what="# $version $release $(sha256sum <<< "$1" | cut -d ' ' -f 1)"
+  shift
+  [ "$(head -n 1 "$state" 2> /dev/null)" = "$what" ] || echo "$what" > "$state" || exit 3
+  mkdir "$work/outcomes"
   for device in "${devices[@]}"; do
-    if "$@" "$device" > "$work/said" 2>&1; then
-      echo "$device: done"
-    else
-      # The last of what was said, with its further lines.
-      echo "$device: failed: $(sed '/^[^ ]*: /!H; //h; $!d; g; s/\s\+/ /g; s/^ //; s/^stdin:[0-9]*: //' "$work/said")"
-      failed=1
+    number=$((number + 1))
+    if grep -qxF -- "$device" "$state"; then
+      echo "done before" > "$work/outcomes/$number"
+      continue
     fi
+    while [ "$(jobs -pr | wc -l)" -ge "$at_once" ]; do wait -n || true; done
+    (serve "$number" "$state" "$@" "$device") &
   done
-  return $failed
+  wait
+
+  number=0
+  for device in "${devices[@]}"; do
+    number=$((number + 1))
+    outcome=$(cat "$work/outcomes/$number" 2> /dev/null) || outcome="failed: was broken off"
+    [[ $outcome != failed* ]] || failed=$((failed + 1))
+    printf '%-24s %s\n' "$device" "$outcome"
+  done
+  printf '%s\n' "${#devices[@]} units, $failed failed"
+  [ "$failed" -eq 0 ] || return 1
+  rm -f -- "$state"
 }

@@ -1,9 +1,11 @@
 #!/usr/bin/env bash
-# Sets the clock of every unit of a list to the time of this machine: set_clocks.sh devices.txt
+# Sets the clock of every unit of a list to the time of this machine:
+#   set_clocks.sh [--jobs N] devices.txt
 . "$(dirname "$0")/common.sh"
 . "$(dirname "$0")/lists.sh"
-[ $# -eq 1 ] || usage DEVICES
-read_list "$1"
+read_options "$@"
+[ ${#arguments[@]} -eq 1 ] || usage "[--jobs N] DEVICES"
+read_list "${arguments[0]}"
 
 # CmdUpDow(4) asks for remote mode, CmdUpDow(2) sets the clock that the panel shows.
 set_clock() {
@@ -18,4 +20,4 @@ expect box "SET TIME DATE FINISHED."
 END
 }
 
-each set_clock
+each clock set_clock

@@ -1,5 +1,6 @@
 #include "changes/option_controls.h"
 
+#include <algorithm>
 #include <array>
 
 namespace ovl::changes {
@@ -58,24 +59,32 @@ constexpr std::array kInWindows = {
 
 }  // namespace
 
-std::vector<const OptionRow*> OptionsThatShow(image::FieldId field, int entry) {
+std::vector<const OptionRow*> AllOptions() {
   std::vector<const OptionRow*> options;
   for (const auto rows : {registers::OptionRows(), std::span<const OptionRow>(kInWindows)}) {
-    for (const auto& row : rows) {
-      if (row.Shows(field, entry)) options.push_back(&row);
-    }
+    for (const auto& row : rows) options.push_back(&row);
   }
   return options;
 }
 
-std::optional<std::string> OptionWords(const PreviewProgram& program, const OptionRow& option) {
-  const auto& form = program.Form().frmMain;
+std::vector<const OptionRow*> OptionsThatShow(image::FieldId field, int entry) {
+  auto options = AllOptions();
+  options.erase(std::remove_if(options.begin(), options.end(),
+                               [&](const OptionRow* row) { return !row->Shows(field, entry); }),
+                options.end());
+  return options;
+}
+
+bool IsOnScreen(const PreviewProgram& program, const OptionRow& option) {
   const auto visible = [&](std::string_view name) {
     return controls::StateOf(program.Named(name).control).visible;
   };
-  if (option.frame != Frame::kNone && !form.FrameOf(option.frame).visible) return std::nullopt;
-  if ((!option.inner.empty() && !visible(option.inner)) || !visible(option.control)) return std::nullopt;
-  return program.WordsOf(option.control);
+  if (option.frame != Frame::kNone && !program.Form().frmMain.FrameOf(option.frame).visible) return false;
+  return (option.inner.empty() || visible(option.inner)) && visible(option.control);
+}
+
+std::optional<std::string> OptionWords(const PreviewProgram& program, const OptionRow& option) {
+  return IsOnScreen(program, option) ? program.WordsOf(option.control) : std::nullopt;
 }
 
 }  // namespace ovl::changes

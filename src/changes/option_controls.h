@@ -11,6 +11,12 @@
 
 namespace ovl::changes {
 
+// Those of the frames in their order, then those of the windows.
+std::vector<const registers::OptionRow*> AllOptions();
+
+// Whether the options of the register have the control on the screen.
+bool IsOnScreen(const PreviewProgram& program, const registers::OptionRow& option);
+
 // A row of a window is in the frame kNone, or in the frame whose button opens the window.
 std::vector<const registers::OptionRow*> OptionsThatShow(image::FieldId field, int entry);
 

@@ -1,6 +1,7 @@
 #include "changes/preview_program.h"
 
 #include <stdexcept>
+#include <utility>
 
 #include "core/actions.h"
 #include "core/configuration.h"
@@ -70,6 +71,31 @@ void PreviewProgram::ApplyAll() {
   }
   app_.image = image_;
   LoadForm(app_, app_.frmSetRange.form);  // shows the separator
+}
+
+void PreviewProgram::Show(const image::ConfigImage& image) {
+  image_ = image;
+  ApplyAll();
+}
+
+std::optional<image::ConfigImage> PreviewProgram::AfterPick(std::string_view control, int entry,
+                                                            const image::ConfigImage& image) {
+  const auto& named = Named(control);
+  if (controls::StateOf(named.control).handler == nullptr) return std::nullopt;
+  app_.image = image;
+  app_.PanelsReady = true;
+  bool taken = false;
+  if (auto* const* list = std::get_if<controls::List*>(&named.control))
+    taken = AssignPosition(app_, **list, entry, core::Raise::kAlways);
+  if (auto* const* array = std::get_if<controls::OptionArray*>(&named.control))
+    taken = ChooseElement(app_, **array, entry, core::Raise::kAlways);
+  if (auto* const* box = std::get_if<controls::CheckBox*>(&named.control)) {
+    taken = entry == 0 || entry == 1;
+    (*box)->checked = entry == 1;
+    (*box)->handler(app_, 0);
+  }
+  app_.PanelsReady = false;
+  return taken ? std::optional(std::exchange(app_.image, image_)) : std::nullopt;
 }
 
 void PreviewProgram::ShowException(int number) {

@@ -16,6 +16,14 @@ class PreviewProgram {
   // load. It asks nothing of the platform and changes nothing in `like`.
   PreviewProgram(const core::Application& like, const image::ConfigImage& image);
 
+  // Shows another image of the same firmware.
+  void Show(const image::ConfigImage& image);
+
+  // What a pick makes of an image: entry of a list, element of an option array. The panels show what they
+  // showed before; the list keeps the pick. Nothing for a control without a handler or without the entry.
+  std::optional<image::ConfigImage> AfterPick(std::string_view control, int entry,
+                                              const image::ConfigImage& image);
+
   // Shows one exception, 1 to 24, or one alarm, 1 to 16, on its panel.
   void ShowException(int number);
   void ShowAlarm(int number);

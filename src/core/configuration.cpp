@@ -51,4 +51,22 @@ std::string SectionsToStream(Application& app) {
   return ComposeStream(app, firmware::LayoutOf(app.firmware), image::WriteRegion(app.firmware));
 }
 
+void TakeImage(Application& app, const image::ConfigImage& image) {
+  const bool were_ready = app.PanelsReady;
+  app.PanelsReady = false;
+  app.UploadApplying = true;
+  app.ImageTouched = true;
+  PrepareCapabilities(app);
+  for (const auto& routine : app.Setting_Code) {
+    app.image = image;
+    routine.run(app);
+  }
+  auto& shown = app.frmMain.ComboExcp[controls::Excp::kNumber];
+  AssignPosition(app, shown, 1);
+  AssignPosition(app, shown, 0);
+  app.UploadApplying = false;
+  app.PanelsReady = were_ready;
+  app.image = image;
+}
+
 }  // namespace ovl::core

@@ -24,4 +24,8 @@ std::string ComposeStream(Application& app, firmware::Layout layout, const image
 // The stream that a download sends. The sections are left in the application object.
 std::string SectionsToStream(Application& app);
 
+// Gives the program another image. The panels show it as they show an opened file, but what they would
+// correct stays as it is: the image then is what was given, to the bit.
+void TakeImage(Application& app, const image::ConfigImage& image);
+
 }  // namespace ovl::core

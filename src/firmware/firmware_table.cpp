@@ -1,7 +1,6 @@
 #include "firmware/firmware_table.h"
 
 #include <algorithm>
-#include <array>
 
 #include "firmware/traits.h"
 
@@ -23,6 +22,14 @@ constexpr auto kFirmware = std::to_array<FirmwareEntry>({
 
 std::span<const FirmwareEntry> FirmwareTable() {
   return kFirmware;
+}
+
+std::optional<FirmwareId> FindFirmware(std::string_view name) {
+  std::string joined(name);
+  joined.erase(std::remove(joined.begin(), joined.end(), ' '), joined.end());
+  const auto found = std::find_if(kFirmware.begin(), kFirmware.end(),
+                                  [&](const FirmwareEntry& entry) { return entry.Id().Joined() == joined; });
+  return found == kFirmware.end() ? std::nullopt : std::optional(found->Id());
 }
 
 FirmwareId ServedFirmware(std::string_view joined) {

@@ -1,6 +1,7 @@
 // All firmware that the program serves, in the order of the Version menu.
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -18,6 +19,9 @@ struct FirmwareEntry {
 
 // In menu order. The last one is not in the menu; only the settings store can select it.
 std::span<const FirmwareEntry> FirmwareTable();
+
+// The firmware of the table with this name, "V1400R12" or "V1400 R12". Nothing for another name.
+std::optional<FirmwareId> FindFirmware(std::string_view name);
 
 // The firmware with this joined name, such as "V1400R12", as the program serves it.
 FirmwareId ServedFirmware(std::string_view joined);

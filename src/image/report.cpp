@@ -8,22 +8,12 @@
 #include "firmware/traits.h"
 #include "image/field_map.h"
 #include "image/record_stream.h"
+#include "image/stream_entries.h"
 
 namespace ovl::image {
 namespace {
 
 constexpr std::array kHeadings = {"::SYSCFG::", "::SYSFIXED::", "::SYSSTR::"};
-
-// Calls the function with row and entry for every field that a download to the firmware contains.
-template <class Function>
-void ForEachEntry(const firmware::FirmwareId& firmware, const Function& function) {
-  const auto layout = LayoutOf(firmware);
-  const auto capabilities = CapabilitiesOf(firmware);
-  for (const auto& row : FieldTable()) {
-    if (!InStream(row, layout, firmware, capabilities, Direction::kWrite)) continue;
-    for (int entry = 1; entry <= EntryCount(row.id); ++entry) function(row, entry);
-  }
-}
 
 // The number of digits in an image of the firmware.
 std::size_t DigitsOfImage(const firmware::FirmwareId& firmware) {
@@ -58,7 +48,7 @@ std::string EntryName(std::string_view field, int entries, int entry) {
 std::string LabelledDump(const ConfigImage& image, const firmware::FirmwareId& firmware) {
   std::string text;
   std::size_t headings = 0;
-  ForEachEntry(firmware, [&](const FieldRow& row, int entry) {
+  ForEachStreamEntry(firmware, [&](const FieldRow& row, int entry) {
     while (headings <= static_cast<std::size_t>(row.section))
       text.append(kHeadings.at(headings++)).append("\r\n");
     text += EntryName(row.name, EntryCount(row.id), entry) + " = " + image.at(row.id, entry) + "\r\n";
@@ -79,7 +69,7 @@ std::vector<FieldDifference> Differences(const ConfigImage& before, const Config
   std::vector<FieldDifference> differences;
   const auto layout = LayoutOf(firmware);
   std::array<std::size_t, kHeadings.size()> next_digit = {};
-  ForEachEntry(firmware, [&](const FieldRow& row, int entry) {
+  ForEachStreamEntry(firmware, [&](const FieldRow& row, int entry) {
     auto& digit = next_digit.at(static_cast<std::size_t>(row.section));
     const auto first = digit;
     digit += static_cast<std::size_t>(DigitsOf(row, layout));

@@ -155,6 +155,12 @@ void WireProgram(core::Application& app) {
   OrderApplyRoutines(app);
 }
 
+void ServeFirmware(core::Application& app, const firmware::FirmwareId& firmware) {
+  WireProgram(app);
+  app.firmware = firmware;
+  BuildForFirmware(app);
+}
+
 core::Outcome StartProgram(core::Application& app) {
   WireProgram(app);
   return DispatchStart(app, Start);

@@ -9,6 +9,10 @@ namespace ovl::start {
 // object.
 void WireProgram(core::Application& app);
 
+// Wires the program for a firmware without a start: nothing is asked of the platform, and no window is shown.
+// For tools that show images.
+void ServeFirmware(core::Application& app, const firmware::FirmwareId& firmware);
+
 // Wires the program and runs the start: settings store, register list, first register. The platform record
 // must be filled. kEnded: the program has ended, and a message box has said why.
 core::Outcome StartProgram(core::Application& app);

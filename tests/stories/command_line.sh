@@ -41,3 +41,10 @@ prints 2 err --no-such-option
 [ "$name" = ovl ] || exit 0
 prints 1 err
 [[ $(cat err) == "ovl: OVL Software needs a display "* && $(wc -l < err) = 1 ]] || fail "not one sentence"
+
+printf 'format = 1\nfirmware = "V1400 R12"\n' > site.toml
+"$program" --sheet sheet.pdf --paper Letter site.toml > out 2> err && [ "$(head -c 5 sheet.pdf)" = %PDF- ] || fail "no sheet"
+prints 1 err --sheet sheet.pdf missing.toml
+[[ $(cat err) == "ovl: the sheet cannot be written: missing.toml: "* ]] || fail "the missing file is not named"
+prints 2 err --sheet sheet.doc site.toml
+prints 2 err --paper A4

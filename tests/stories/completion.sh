@@ -23,8 +23,8 @@ offers() {
   exit 1
 }
 
-offers '--folder' ovl --f
-offers '--help|--version' ovl-script --
+offers '--firmware|--folder' ovl --f
+offers '--firmware|--help|--version' ovl-script --
 offers '--list' ovl-setup --l
 offers 'folder' ovl --folder fo
 offers 'fo file|folder' ovl fo
@@ -32,6 +32,7 @@ offers 'folder' ovl-images fo
 offers 'folder' ovl-setup --store fo
 offers 'fo file|folder' ovl-unit --log = fo
 offers 'off|on' ovl-unit --pace = o
+offers 'Letter' ovl --paper L
 offers '115200|1200|14400|19200' ovl-unit --speed 1
 offers 'silent|stall' ovl-unit --fault s
 offers '' ovl-unit --seed ''

@@ -4,7 +4,6 @@
 #include <ostream>
 
 #include "acts/copy_slot.h"
-#include "changes/readable.h"
 #include "script/stop.h"
 
 namespace ovl::script {
@@ -13,10 +12,7 @@ namespace {
 void Changes(Session& session, Arguments& arguments) {
   arguments.End();
   const auto rows = changes::ReadableChanges(session.App());
-  for (const auto& row : rows) {
-    session.Output() << row.place << ": " << row.caption << ": " << Quoted(row.before) << " -> "
-                     << Quoted(row.after) << '\n';
-  }
+  for (const auto& row : rows) session.Output() << ChangeLine(row);
   if (rows.empty()) session.Output() << "no changes\n";
 }
 
@@ -53,6 +49,11 @@ constexpr auto kStatements = std::to_array<Statement>({
 
 std::span<const Statement> ChangeStatements() {
   return kStatements;
+}
+
+std::string ChangeLine(const changes::SettingChange& change) {
+  return change.place + ": " + change.caption + ": " + Quoted(change.before) + " -> " + Quoted(change.after) +
+         "\n";
 }
 
 }  // namespace ovl::script

@@ -11,6 +11,7 @@
 #include "host/files.h"
 #include "host/system/disk.h"
 #include "script/runner.h"
+#include "script/text_statements.h"
 
 namespace {
 
@@ -41,6 +42,9 @@ int main(int argc, char** argv) {
   const auto program = ovl::script::Description();
   const auto read = command_line::Read(program, std::vector<std::string_view>(argv + 1, argv + argc));
   if (read.wish != Wish::kRun) return command_line::Answer(program, read.wish, read.error);
+  const auto firmware = read.options.empty() ? std::string() : read.options.back().value;
+  if (const auto done = ovl::script::RunTextCommand(read.arguments, firmware, std::cout, std::cerr))
+    return static_cast<int>(*done);
   if (read.arguments.size() > 1)
     return command_line::Answer(program, Wish::kWrong, read.arguments[1] + ": one file at most is expected");
   return static_cast<int>(Run(read.arguments));

@@ -12,13 +12,6 @@
 namespace ovl::script {
 namespace {
 
-image::ConfigImage ImageIn(Session& session, const std::string& path) {
-  const auto& firmware = session.App().firmware;
-  auto image = image::DecodeStream(files::ReadJoined(session.App().platform.files, path), firmware);
-  if (!image) Wrong(path + ": no configuration of " + firmware.Joined());
-  return *std::move(image);
-}
-
 const char* WordsFor(image::OpenOutcome outcome) {
   switch (outcome) {
     case image::OpenOutcome::kLoads:
@@ -41,18 +34,6 @@ void Dump(Session& session, Arguments& arguments) {
                                       : arguments.Next("PATH");
   arguments.End();
   app.platform.files.replace(path, image::LabelledDump(app.image, app.firmware));
-}
-
-void Diff(Session& session, Arguments& arguments) {
-  const auto before = arguments.Next("PATH");
-  const auto after = arguments.Next("PATH");
-  arguments.End();
-  const auto differences =
-      image::Differences(ImageIn(session, before), ImageIn(session, after), session.App().firmware);
-  for (const auto& difference : differences) {
-    session.Output() << difference.name << ": " << difference.before << " -> " << difference.after << '\n';
-  }
-  if (differences.empty()) session.Output() << "no difference\n";
 }
 
 void Inspect(Session& session, Arguments& arguments) {

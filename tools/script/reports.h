@@ -10,9 +10,6 @@ class Session;
 // dump [PATH]: the image's fields into a file; without a path into the report of the firmware's family.
 void Dump(Session& session, Arguments& arguments);
 
-// diff PATH PATH: two configuration files of the running firmware, field by field.
-void Diff(Session& session, Arguments& arguments);
-
 // inspect PATH: which firmware the file fits, and what opening it here would do.
 void Inspect(Session& session, Arguments& arguments);
 

@@ -1,8 +1,10 @@
 #include "script/runner.h"
 
 #include <algorithm>
+#include <array>
 
 #include "core/failure.h"
+#include "host/configurations/configurations.h"
 #include "script/parser.h"
 #include "script/statements.h"
 
@@ -26,11 +28,22 @@ constexpr std::string_view kPurpose =
     "\"refused NAME\". A message box prints \"box TITLE TEXT\", the end of the program\n"
     "\"ended\".\n";
 
+constexpr std::array kOptions = {command_line::Option{
+    "firmware", "NAME", "the firmware of the files, such as V1400R12, for the commands below"}};
+
+constexpr std::string_view kCommands =
+    "\n"
+    "Commands, instead of a script. A file is a record stream or a text form:\n"
+    "  diff FILE FILE               compares two files in the words of the form\n"
+    "  export FILE                  prints a file as text, one setting a line\n"
+    "  import TEXT FILE             writes the configuration of a text as a file\n"
+    "  checksum FILE                prints the checksum that is on the site sheet\n";
+
 constexpr std::string_view kExitStatus =
     "\n"
     "Exit status:\n"
     "  0  done\n"
-    "  1  an expectation failed\n"
+    "  1  an expectation failed, or two files differ\n"
     "  2  wrong usage, or a statement is wrong\n"
     "  3  the program ended, and a statement that needs it was left\n"
     "  4  a transfer failed\n";
@@ -83,6 +96,8 @@ ExitStatus RunScript(Session& session, std::istream& script, const std::string& 
       RunLine(session, line);
     } catch (const Stop& stop) {
       return leave(stop.Status(), stop.what());
+    } catch (const host::NoConfiguration& problem) {
+      return leave(ExitStatus::kWrongStatement, problem.what());
     } catch (const core::Failure& failure) {
       return leave(ExitStatus::kWrongStatement, failure.Text());
     }
@@ -94,7 +109,8 @@ ExitStatus RunScript(Session& session, std::istream& script, const std::string& 
 command_line::Program Description() {
   std::string statements = "\nStatements:\n";
   for (const auto& statement : Statements()) statements += HelpOf(statement);
-  return {"ovl-script", "[OPTION] [FILE]", kPurpose, {}, statements.append(kExitStatus)};
+  return {"ovl-script", "[OPTION] [FILE | COMMAND]", kPurpose, kOptions,
+          std::string(kCommands).append(statements).append(kExitStatus)};
 }
 
 }  // namespace ovl::script

@@ -15,6 +15,7 @@
 #include "script/real_transfer.h"
 #include "script/reports.h"
 #include "script/stop.h"
+#include "script/text_statements.h"
 #include "script/undo_statements.h"
 #include "script/variables.h"
 
@@ -332,7 +333,6 @@ constexpr auto kStatements = std::to_array<Statement>({
     {"stream", "stream [PATH]", "prints what a download would send, or writes it into a file", Stream},
     {"dump", "dump [PATH]", "writes the image by field names; without PATH into the family's report file",
      Dump},
-    {"diff", "diff PATH PATH", "compares two configuration files of this firmware field by field", Diff},
     {"inspect", "inspect PATH", "prints which firmware a file fits and what opening it here would do",
      Inspect},
     {"upload", "upload [PATH]", "a whole upload on the real port; the image then into a file", Upload},
@@ -358,7 +358,8 @@ constexpr auto kStatements = std::to_array<Statement>({
 std::span<const Statement> Statements() {
   static const auto all = [] {
     std::vector<Statement> statements(kStatements.begin(), kStatements.end());
-    for (const auto more : {UndoStatements(), AdviceStatements(), ChangeStatements(), FileStatements()})
+    for (const auto more :
+         {UndoStatements(), AdviceStatements(), ChangeStatements(), FileStatements(), TextStatements()})
       statements.insert(statements.end(), more.begin(), more.end());
     return statements;
   }();

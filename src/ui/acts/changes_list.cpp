@@ -84,6 +84,11 @@ void ChangesList::ShowBytes(bool shown) {
   FitColumns();
 }
 
+void ChangesList::SetSides(const QString& before, const QString& now) {
+  headerItem()->setText(kBefore, before);
+  headerItem()->setText(kNow, now);
+}
+
 // A hidden column has no width, so it is fitted again when it is shown.
 void ChangesList::FitColumns() {
   for (const int column : {kSetting, kBytes, kBytesBefore, kBytesNow}) {

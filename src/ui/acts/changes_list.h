@@ -19,6 +19,8 @@ class ChangesList : public QTreeWidget {
   // The setting under the cursor keeps the cursor.
   void Show(std::vector<changes::SettingChange> rows);
   void ShowBytes(bool shown);
+  // The heads of the two columns of values.
+  void SetSides(const QString& before, const QString& now);
 
   // The selected rows, one a line, with tabs between the cells of the visible columns. Ctrl+C copies it.
   QString SelectedText() const;

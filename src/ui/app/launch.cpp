@@ -7,6 +7,8 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "host/system/display.h"
+
 namespace ovl::ui {
 namespace {
 
@@ -72,7 +74,11 @@ std::optional<int> CommandLine::Read(int argc, char** argv) {
     return EXIT_SUCCESS;
   }
   const auto problem = Problem(understood);
-  if (problem.isEmpty()) return std::nullopt;
+  return problem.isEmpty() ? std::nullopt : std::optional(Refuse(problem));
+}
+
+int CommandLine::Refuse(const QString& problem) const {
+  const auto name = name_.toStdString();
   std::cerr << name << ": " << problem.toLocal8Bit().constData() << "\nTry \"" << name << " --help\".\n";
   return kWrongUsage;
 }
@@ -101,6 +107,10 @@ DisplayMessage::DisplayMessage() {
 
 DisplayMessage::~DisplayMessage() {
   qInstallMessageHandler(nullptr);
+}
+
+void DrawWithoutDisplay() {
+  if (host::DisplayHasName() && !NamesDisplay()) qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
 void NameApplication() {

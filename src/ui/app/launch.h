@@ -32,6 +32,9 @@ class CommandLine {
   // for, or the arguments are wrong. Needs no application object.
   std::optional<int> Read(int argc, char** argv);
 
+  // Prints what is wrong with the command line. Returns the exit status.
+  int Refuse(const QString& problem) const;
+
   QString Folder() const { return parser_.value(QStringLiteral("folder")); }
   QString Store() const { return parser_.value(QStringLiteral("store")); }
   // Empty if the option is not given.
@@ -57,6 +60,9 @@ class DisplayMessage {
   DisplayMessage(const DisplayMessage&) = delete;
   DisplayMessage& operator=(const DisplayMessage&) = delete;
 };
+
+// Without a display the program draws into files only. To be called before the application object is made.
+void DrawWithoutDisplay();
 
 // Sets the names that Qt uses for the desktop and for folders.
 void NameApplication();

@@ -10,6 +10,7 @@
 #include "host/system/disk.h"
 #include "ui/app/launch.h"
 #include "ui/app/program.h"
+#include "ui/app/sheet_file.h"
 #include "ui/dialogs/boxes.h"
 #include "ui/help/guide.h"
 #include "ui/help/help_pages.h"
@@ -25,7 +26,7 @@ const QString kDescription = QStringLiteral(
 const QString kExitStatus = QStringLiteral(
     "Exit status:\n"
     "  0  done\n"
-    "  1  the program could not start, or the guide could not be written\n"
+    "  1  the program could not start, or the file could not be written\n"
     "  2  wrong usage\n");
 
 // Empty when there is no folder to work in.
@@ -50,15 +51,31 @@ int SaveGuide(const QString& file) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  const auto guide_option = QStringLiteral("guide");
+  const auto guide_option = QStringLiteral("guide"), sheet_option = QStringLiteral("sheet");
+  const auto paper_option = QStringLiteral("paper"), firmware_option = QStringLiteral("firmware");
   ovl::ui::CommandLine command_line(QStringLiteral("ovl"), kDescription, kExitStatus);
   command_line.AddOption(guide_option, QStringLiteral("FILE"),
                          QStringLiteral("writes the installer's guide as a PDF and ends"));
+  command_line.AddOption(
+      sheet_option, QStringLiteral("FILE"),
+      QStringLiteral("writes the site sheet of a configuration as .pdf or .html and ends"));
+  command_line.AddOption(paper_option, QStringLiteral("A4|Letter"),
+                         QStringLiteral("the paper of the sheet; without it A4"));
+  command_line.AddOption(
+      firmware_option, QStringLiteral("NAME"),
+      QStringLiteral("the firmware of the sheet, such as V1400R12, if the configuration fits several"));
   command_line.AddArgument(
       QStringLiteral("FILE"),
-      QStringLiteral("a configuration that is opened at the start, as \"File\", \"Open\" does"),
+      QStringLiteral(
+          "a configuration that is opened at the start, as \"File\", \"Open\" does; that of the sheet can "
+          "also be a text form"),
       ovl::ui::CommandLine::Need::kOptional);
   if (const auto status = command_line.Read(argc, argv)) return *status;
+  const ovl::ui::SheetRequest sheet{command_line.Value(sheet_option), command_line.Argument(),
+                                    command_line.Value(paper_option), command_line.Value(firmware_option)};
+  if (const auto problem = WrongUsageOf(sheet); !problem.isEmpty()) return command_line.Refuse(problem);
+  const auto guide = command_line.Value(guide_option);
+  if (!guide.isEmpty() || !sheet.file.isEmpty()) ovl::ui::DrawWithoutDisplay();
   ovl::host::OutliveSizeLimit();
   std::optional<ovl::ui::DisplayMessage> no_display(std::in_place);
   QApplication application(argc, argv);
@@ -66,7 +83,8 @@ int main(int argc, char** argv) {
   ovl::ui::NameApplication();
   QApplication::setQuitOnLastWindowClosed(false);
   ovl::ui::ApplyTheme(ovl::ui::Theme::kDesktop);
-  if (const auto guide = command_line.Value(guide_option); !guide.isEmpty()) return SaveGuide(guide);
+  if (!guide.isEmpty()) return SaveGuide(guide);
+  if (!sheet.file.isEmpty()) return WriteSheetFile(sheet);
   const auto folder = FindFolder(command_line.Folder());
   if (!folder) return EXIT_FAILURE;
   ovl::ui::ApplyTheme(ovl::ui::ChosenTheme(*folder));

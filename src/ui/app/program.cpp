@@ -14,6 +14,8 @@
 #include "host/text_codec.h"
 #include "start/start_up.h"
 #include "ui/dialogs/boxes.h"
+#include "ui/dialogs/changes_window.h"
+#include "ui/print/print_item.h"
 #include "ui/window/status_strip.h"
 
 namespace ovl::ui {
@@ -44,6 +46,7 @@ Program::Program(QString folder, QString store_folder)
 // Windows report a lost focus while they are destroyed. The model must not handle it any more.
 Program::~Program() {
   if (unsaved_ && !app_.ended) unsaved_->End(true);
+  texts_.reset();
   files_.reset();
   const auto going = std::move(windows_);
   app_.ended = true;
@@ -89,19 +92,32 @@ core::Outcome Program::Start() {
   windows_->SetOwnActs(
       [this](const std::string& name, const std::function<void()>& act) { return RunOwn(name, act); });
   windows_->Main().Status().port_problem = [this] { return port_.LastProblem(); };
-  files_ = std::make_unique<FileActs>(
-      app_, windows_->Main(),
-      FileActs::Hooks{[this](const core::Event& event) { return Act(event); },
-                      [this] { return windows_->Front(); },
-                      [this](const QString& text) { windows_->Main().Status().ShowFileMessage(text); },
-                      [this] {
-                        advisor_->BackupWritten();
-                        RefreshNow();
-                      }});
+  BuildFileActs();
   CollectTimers();
   RefreshNow();
   AfterEvent(outcome);
   return outcome;
+}
+
+void Program::BuildFileActs() {
+  const auto front = [this] { return windows_->Front(); };
+  const auto show_text = [this](const QString& text) { windows_->Main().Status().ShowFileMessage(text); };
+  files_ = std::make_unique<FileActs>(
+      app_, windows_->Main(),
+      FileActs::Hooks{[this](const core::Event& event) { return Act(event); }, front, show_text,
+                      [this] {
+                        advisor_->BackupWritten();
+                        RefreshNow();
+                      }});
+  texts_ = std::make_unique<TextActs>(
+      app_, windows_->Main(),
+      TextActs::Hooks{
+          front, show_text,
+          [this](const std::string& name, const std::function<void()>& act) { RunOwn(name, act); },
+          [this](const QString& file, const image::ConfigImage& other) {
+            windows_->Main().Changes().OpenComparison(file, other);
+          }});
+  AddPrintItem(app_, windows_->Main(), {front, show_text});
 }
 
 void Program::GuardUnsaved() {

@@ -14,6 +14,7 @@
 #include "ui/app/unsaved_copy.h"
 #include "ui/app/windows.h"
 #include "ui/files/file_acts.h"
+#include "ui/files/text_acts.h"
 
 namespace ovl::ui {
 
@@ -75,6 +76,7 @@ class Program {
   };
 
   void FillPlatform();
+  void BuildFileActs();
   std::optional<core::FileAnswer> AskForFile(const core::FileDialog& request);
   core::Outcome DispatchUserAct(const core::Event& event);
   core::Outcome DispatchAny(const core::Event& event);
@@ -99,6 +101,7 @@ class Program {
   std::unique_ptr<UnsavedCopy> unsaved_;
   std::unique_ptr<Windows> windows_;
   std::unique_ptr<FileActs> files_;
+  std::unique_ptr<TextActs> texts_;
   bool opening_ = false;  // the handler of Open runs
   QStringList rescued_;   // copies of earlier runs that were not opened yet
   QString unguarded_;     // why changes are not guarded; empty if they are

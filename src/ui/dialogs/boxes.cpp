@@ -1,12 +1,17 @@
 #include "ui/dialogs/boxes.h"
 
+#include <QDialogButtonBox>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 #include "host/text_codec.h"
+#include "ui/kit/theme.h"
 
 namespace ovl::ui {
 namespace {
@@ -26,6 +31,38 @@ QStringList NameFilters(const std::string& filter) {
   }
   return filters;
 }
+
+// A text above a list of lines that can be long.
+class LinesWindow : public QDialog {
+ public:
+  LinesWindow(QWidget* parent, const QString& text, const QStringList& lines) : QDialog(parent) {
+    setWindowTitle(kProgramName);
+    setObjectName(QStringLiteral("LinesWindow"));
+    auto* words = new QLabel(text);
+    words->setTextFormat(Qt::PlainText);
+    words->setWordWrap(true);
+    auto* list = new QPlainTextEdit(lines.join(QLatin1Char('\n')));
+    list->setReadOnly(true);
+    list->setTabChangesFocus(true);
+    list->setAccessibleName(text);
+    auto* down = new QVBoxLayout(this);
+    down->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    down->setSpacing(kFieldGap);
+    down->addWidget(words);
+    down->addWidget(list);
+    down->addWidget(&buttons_);
+    connect(&buttons_, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(&buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    resize(kLinesWidth, kLinesHeight);
+  }
+
+  QDialogButtonBox& Buttons() { return buttons_; }
+
+ private:
+  static constexpr Em kLinesWidth{58}, kLinesHeight{25};
+
+  QDialogButtonBox buttons_;
+};
 
 // The suffix for a name without one: that of the chosen filter, if the filter has just one, or else that of
 // the start name.
@@ -82,6 +119,23 @@ bool AskWhetherToOpen(QWidget* parent, const QString& text, const QString& detai
   window.setProperty(kBoxTopic, QStringLiteral("A file does not fit"));
   window.exec();
   return window.clickedButton() == open;
+}
+
+void ShowProblems(QWidget* parent, const QString& text, const QStringList& lines) {
+  LinesWindow window(parent, text, lines);
+  window.Buttons().addButton(QDialogButtonBox::Close)->setFocus();
+  window.setProperty(kBoxTopic, QStringLiteral("A text is not taken"));
+  window.exec();
+}
+
+bool AskWhetherToTakeTheRest(QWidget* parent, const QString& text, const QStringList& lines) {
+  LinesWindow window(parent, text, lines);
+  window.Buttons().addButton(QStringLiteral("Import the Rest"), QDialogButtonBox::AcceptRole);
+  auto* cancel = window.Buttons().addButton(QDialogButtonBox::Cancel);
+  cancel->setDefault(true);
+  cancel->setFocus();
+  window.setProperty(kBoxTopic, QStringLiteral("A text is of another firmware"));
+  return window.exec() == QDialog::Accepted;
 }
 
 }  // namespace ovl::ui

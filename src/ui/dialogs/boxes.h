@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <optional>
 
 #include "core/platform.h"
@@ -22,5 +23,11 @@ std::optional<core::FileAnswer> AskFile(QWidget* parent, const core::FileDialog&
 
 // Asks whether to open a file. True for "Open anyway"; Enter and Escape are "Cancel".
 bool AskWhetherToOpen(QWidget* parent, const QString& text, const QString& detail);
+
+// What is wrong in a text form, one line each.
+void ShowProblems(QWidget* parent, const QString& text, const QStringList& lines);
+
+// Lists what a text form of another firmware has too much. True for "Import the Rest".
+bool AskWhetherToTakeTheRest(QWidget* parent, const QString& text, const QStringList& lines);
 
 }  // namespace ovl::ui

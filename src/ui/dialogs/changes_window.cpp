@@ -79,10 +79,25 @@ void ChangesWindow::Build() {
 }
 
 void ChangesWindow::Open() {
+  other_.reset();
+  ShowNow();
+}
+
+void ChangesWindow::OpenComparison(const QString& file, const image::ConfigImage& other) {
+  other_ = Other{file, other};
+  ShowNow();
+}
+
+void ChangesWindow::ShowNow() {
   if (list_ == nullptr) Build();
+  setWindowTitle(other_ ? QStringLiteral("Changes: ") + other_->file : QStringLiteral("Changes"));
+  list_->SetSides(other_ ? QStringLiteral("Here") : QStringLiteral("Before"),
+                  other_ ? QStringLiteral("In the file") : QStringLiteral("Now"));
   show();
   raise();
   activateWindow();
+  known_.Forget();
+  image_.Forget();
   Refresh();
   list_->setFocus();
 }
@@ -91,15 +106,22 @@ void ChangesWindow::Refresh() {
   if (!isVisible()) return;
   const auto& app = bindings_.Model();
   const bool other_known = known_.Update(app.known_image), other_image = image_.Update(app.image);
-  if (other_known || other_image) Fill(changes::ReadableChanges(app));
+  if (!other_known && !other_image) return;
+  Fill(other_ ? changes::ReadableChanges(app, app.image, other_->image) : changes::ReadableChanges(app));
+}
+
+QString ChangesWindow::SummaryOf(const std::vector<changes::SettingChange>& rows) const {
+  const auto count = CountOf(rows.size(), QStringLiteral("setting"));
+  if (other_ && rows.empty()) return QStringLiteral("%1 has the same settings.").arg(other_->file);
+  if (other_) return QStringLiteral("%1 has %2 otherwise than the tabs show.").arg(other_->file, count);
+  const auto unit = QStringLiteral("in a unit that holds the configuration last loaded or sent");
+  if (rows.empty()) return QStringLiteral("A download would change nothing %1.").arg(unit);
+  return QStringLiteral("What a download would change %1: %2 in %3.")
+      .arg(unit, count, CountOf(FieldsIn(rows), QStringLiteral("field")));
 }
 
 void ChangesWindow::Fill(std::vector<changes::SettingChange> rows) {
-  const auto unit = QStringLiteral("in a unit that holds the configuration last loaded or sent");
-  summary_->setText(rows.empty() ? QStringLiteral("A download would change nothing %1.").arg(unit)
-                                 : QStringLiteral("What a download would change %1: %2 in %3.")
-                                       .arg(unit, CountOf(rows.size(), QStringLiteral("setting")),
-                                            CountOf(FieldsIn(rows), QStringLiteral("field"))));
+  summary_->setText(SummaryOf(rows));
   list_->Show(std::move(rows));
 }
 

@@ -5,6 +5,7 @@
 
 #include <QDialog>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "changes/readable.h"
@@ -28,9 +29,19 @@ class ChangesWindow : public QDialog {
   void Refresh();
   // Shows the window; builds its content the first time.
   void Open();
+  // Shows what a file has otherwise than the image, until Open is called.
+  void OpenComparison(const QString& file, const image::ConfigImage& other);
 
  private:
+  // The file that the image is compared with.
+  struct Other {
+    QString file;
+    image::ConfigImage image;
+  };
+
   void Build();
+  void ShowNow();
+  QString SummaryOf(const std::vector<changes::SettingChange>& rows) const;
   void Fill(std::vector<changes::SettingChange> rows);
   void GoTo(const changes::SettingChange& row);
   QWidget* WidgetFor(const std::string& control) const;
@@ -39,6 +50,7 @@ class ChangesWindow : public QDialog {
   QLabel* summary_ = nullptr;
   ChangesList* list_ = nullptr;
   ChangeDetector<image::ConfigImage> known_, image_;
+  std::optional<Other> other_;
 };
 
 // A button with the number of fields that differ. It opens the window and is hidden while the number is zero.

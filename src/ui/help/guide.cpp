@@ -2,8 +2,6 @@
 
 #include <QDir>
 #include <QImage>
-#include <QPdfWriter>
-#include <QSaveFile>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -14,6 +12,7 @@
 #include "host/text_codec.h"
 #include "ui/help/help_style.h"
 #include "ui/kit/theme.h"
+#include "ui/print/pdf_file.h"
 
 namespace ovl::ui {
 namespace {
@@ -85,16 +84,7 @@ core::Result WriteGuide(const HelpPages& pages, const QString& pictures, const Q
   for (const auto& entry : pages.Contents()) {
     if (!entry.file.isEmpty()) AddPage(guide, pages.Text(entry.file, pictures), pictures);
   }
-  QSaveFile target(file);
-  if (!target.open(QIODevice::WriteOnly)) return host::FailureOf(file, target.errorString());
-  {
-    QPdfWriter writer(&target);
-    writer.setPageSize(QPageSize(QPageSize::A4));
-    writer.setTitle(kTitle);
-    guide.print(&writer);
-  }
-  if (!target.commit()) return host::FailureOf(file, target.errorString());
-  return {};
+  return WritePdf(file, kTitle, QPageSize::A4, [&](QPagedPaintDevice& device) { guide.print(&device); });
 }
 
 }  // namespace ovl::ui

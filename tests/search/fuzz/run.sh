@@ -7,7 +7,7 @@ cd "$(dirname "$0")/../../.."
 seconds=${1:?"Usage: tests/search/fuzz/run.sh SECONDS [TARGET]..."}
 shift
 targets=("$@")
-[ ${#targets[@]} -gt 0 ] || targets=(stream link history settings script unit)
+[ ${#targets[@]} -gt 0 ] || targets=(stream link history settings script text unit)
 
 cmake --preset fuzz > build/fuzz.log 2>&1 || { cat build/fuzz.log >&2; exit 1; }
 cmake --build --preset fuzz --target fuzz_seeds $(printf 'fuzz_%s ' "${targets[@]}") > build/fuzz.log 2>&1 ||

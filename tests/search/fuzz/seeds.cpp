@@ -2,12 +2,16 @@
 // dictionary.
 //   fuzz_seeds FOLDER
 #include <filesystem>
+#include <sstream>
 #include <stdexcept>
 
 #include "firmware/firmware_table.h"
 #include "image/field_map.h"
 #include "script/statements.h"
+#include "start/start_up.h"
 #include "support/harness.h"
+#include "text_form/encoding.h"
+#include "text_form/export.h"
 
 namespace {
 
@@ -116,6 +120,28 @@ Inputs OfUnit() {
   return seeds;
 }
 
+// Each line of a text form by itself, and the forms of values that it does not have.
+Inputs OfText() {
+  Inputs seeds;
+  ovl::core::Application app;
+  ovl::start::ServeFirmware(app, ovl::firmware::ServedFirmware("V1400R12"));
+  ovl::text_form::Catalogue catalogue(app);
+  const auto image = ovl::text_form::FilledImage(catalogue.Firmware(), '0');
+  std::istringstream text(ovl::text_form::Export(catalogue, image));
+  std::string table;
+  for (std::string line; std::getline(text, line);) {
+    if (line.starts_with('[')) table = line;
+    if (line.find("# ") == std::string::npos || table.empty() || line.starts_with('[')) continue;
+    seeds.push_back("\0format = 1\n"s + table + "\n" + line.substr(0, line.find("  #")));
+  }
+  for (const auto& lines :
+       {"complete = true\nfirmware = 'V1300 R14'\n"s, "['Other bytes']\nEXECENTRY = { digits = '7' }\n"s,
+        "[COMMUNICATION]\nPARITY = { bytes = '03' }\n"s, "['Other bytes']\n'EXCPSTRS(3)' = '80'\n"s,
+        "['REGISTER SELECT']\nRegister = 'ADS'\nDisplay = 'JOURNAL'\n"s})
+    seeds.push_back("\0format = 1\n"s + lines);
+  return seeds;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -123,9 +149,9 @@ int main(int argc, char** argv) {
   const Inputs of_history = {"OVLH\r\n", "OVLH",      "OVLH\rLINE\rLINE\r\n", "OVLH\r\n00001 NO SALE\r\n\r\n",
                              "ovlh\r\n", "OVLH \r\n", "OVLH\nLINE",           "\r\nOVLH\r\n",
                              ""};
-  const std::pair<const char*, Inputs> all[] = {{"stream", OfStream()},  {"link", OfLink()},
-                                                {"history", of_history}, {"settings", OfSettings()},
-                                                {"script", OfScript()},  {"unit", OfUnit()}};
+  const std::pair<const char*, Inputs> all[] = {
+      {"stream", OfStream()}, {"link", OfLink()}, {"history", of_history}, {"settings", OfSettings()},
+      {"script", OfScript()}, {"text", OfText()}, {"unit", OfUnit()}};
   for (const auto& [target, inputs] : all) {
     fs::create_directories(folder / target);
     for (std::size_t at = 0; at < inputs.size(); ++at)

@@ -12,8 +12,10 @@ cd "$site"
 ln -s "$2"/V1400/R* images/V1400
 ln -s "$2"/V1300/R* images/V1300
 
-for unit in 1 2; do
-  ovl-unit --memory "memory$unit" --link "unit$unit" --history lines:5 --clock-file "clock$unit" --pace off > said$unit &
+count=2
+[ "$3" != many ] || count=${OVL_UNITS:-5}
+for unit in $(seq "$count"); do
+  ovl-unit --memory "memory$unit" --link "unit$unit" --history lines:5 --clock-file "clock$unit" --log "log$unit" --pace off > said$unit &
   units+=($!)
   for _ in $(seq 100); do [ -s said$unit ] && break; sleep 0.1; done
   echo "$site/unit$unit" >> devices
@@ -53,15 +55,20 @@ case $3 in
     echo '# none' > none
     fails 2 'none: no device' "$examples/change_all.sh" none DECIMAL_POINT_BAK=01
     fails 2 'no list: No such file' "$examples/change_all.sh" 'no list' DECIMAL_POINT_BAK=01
+    printf 'unit1\nunit1\n' > twice
+    fails 2 'twice: unit1 is in it twice' "$examples/change_all.sh" twice DECIMAL_POINT_BAK=01
     printf '# kitchen\r\nunit1 # left\r\n\ngone/unit3\n unit2' > devices
-    fails 1 '^gone/unit3: failed: gone/unit3: No such' "$examples/change_all.sh" devices DATE_FORMAT_BAK=02 SITE_NO_BAK=0a
-    [ "$(grep -c ': done$' said) $(wc -l < said)" = "2 3" ]
+    fails 1 '^gone/unit3 *failed: gone/unit3: No such' "$examples/change_all.sh" devices DATE_FORMAT_BAK=02 SITE_NO_BAK=0a
+    [ "$(grep -c ' done$' said) $(wc -l < said)" = "2 4" ]
     cmp memory1 memory2
     fails 1 differ cmp memory1 before
+    # The rest of a unit stays as it is, also where Open would set the line for the register.
     "$examples/restore.sh" unit1 images/V1400/R12/PANASONIC.bin
     "$examples/change_all.sh" one RX_BAUDRATE=01
-    fails 1 'RX_BAUDRATE' "$examples/change_all.sh" one DATE_FORMAT_BAK=02
-    "$examples/change_all.sh" one DATE_FORMAT_BAK=02 RX_BAUDRATE=01
+    "$examples/change_all.sh" one DATE_FORMAT_BAK=02
+    "$examples/backup.sh" unit1 saved
+    ovl-script --firmware V1400R12 export saved > text
+    grep -q '^"RX BAUDRATE" = "2400"' text
     ;;
   set_clocks)
     "$examples/set_clocks.sh" devices
@@ -74,17 +81,38 @@ case $3 in
     "$examples/collect_histories.sh" devices histories
     [ "$(head -n 1 histories/unit1.txt | tr -d '\r') $(wc -l < histories/unit2.txt)" = "OVLH 7" ]
     mkdir -p old/unit1.txt
-    fails 1 '^unit1: failed: .' "$examples/collect_histories.sh" one old
+    fails 1 '^unit1 *failed: .' "$examples/collect_histories.sh" one old
     echo other/unit1 >> one
-    fails 2 'unit1.txt$' "$examples/collect_histories.sh" one histories
+    fails 2 'as unit1$' "$examples/collect_histories.sh" one histories
     ;;
   compare)
     "$examples/backup.sh" unit1 saved
     "$examples/compare.sh" unit1 saved
     "$examples/change_all.sh" one DATE_FORMAT_BAK=02
-    fails 1 '^DATE_FORMAT_BAK: .* -> 02$' "$examples/compare.sh" unit1 saved
+    fails 1 '^TIME / LANGUAGE: DATE FORMAT: "YY/MM/DD" -> "MM/DD/YY"$' "$examples/compare.sh" unit1 saved
     fails 3 '^gone/unit3: No such file' "$examples/compare.sh" gone/unit3 saved
     fails 3 'it fits V1400R7$' "$examples/compare.sh" unit1 images/V1400/R7/GENERIC.bin
+    ;;
+  # One unit dies in the middle of its transfer. The next run does what is left, and nothing else.
+  many)
+    printf 'format = 1\n["TIME / LANGUAGE"]\nTITLE = "SHOP 12"\n' > title.toml
+    printf 'format = 1\n["TIME / LANGUAGE"]\nTITEL = "SHOP 12"\n' > wrong.toml
+    fails 2 'TITEL.*Did you mean "TITLE"' "$examples/change_all.sh" devices wrong.toml
+    "$examples/texts.sh" --jobs 4 devices texts > said
+    cp -r texts before
+    (timeout 60 sh -c 'until grep -q /LD log3; do sleep 0.05; done'; kill -9 "${units[2]}") &
+    fails 1 "unit3 *failed: " "$examples/change_all.sh" --jobs 4 devices title.toml
+    tail -n 1 said | grep -qx "$count units, 1 failed"
+    fails 1 '^TIME / LANGUAGE: TITLE: "SHOP 12" -> "empty"$' "$examples/compare.sh" unit2 before/unit2.toml
+    ovl-unit --memory memory3 --link unit3 --pace off > said3 &
+    units[2]=$!
+    for _ in $(seq 100); do [ -s said3 ] && break; sleep 0.1; done
+    "$examples/change_all.sh" --jobs 4 devices title.toml > said
+    [ "$(grep -c ' done before$' said) $(grep -c ' done$' said)" = "$((count - 1)) 1" ]
+    [ ! -e devices.change_all.done ]
+    "$examples/compare.sh" --jobs 4 devices texts && exit 1
+    cp title.toml texts/unit1.toml
+    "$examples/compare.sh" unit1 texts/unit1.toml
     ;;
   check_images)
     "$examples/check_images.sh" images/V1400/R12
@@ -108,4 +136,4 @@ for unit in "${units[@]}"; do
 done
 
 # The results of the example, to compare them with those of another build. Clocks and terminals differ in each run.
-find . -type f ! -name 'clock*' ! -name 'said*' ! -name devices -exec sha256sum {} + | sort -k 2
+find . -type f ! -name 'clock*' ! -name 'said*' ! -name 'log*' ! -name devices -exec sha256sum {} + | sort -k 2

@@ -22,9 +22,14 @@ const std::map<std::string, Folders> kModel = {
     {"panels", {"codecs", "controls", "firmware", "image", "core"}},
     {"registers", {"codecs", "controls", "firmware", "image", "core", "files"}},
     {"changes", {"codecs", "controls", "firmware", "image", "core", "files", "panels", "registers"}},
+    {"text_form",
+     {"codecs", "controls", "firmware", "image", "core", "files", "panels", "registers", "changes"}},
     {"link", {"codecs", "controls", "firmware", "image", "core", "files"}},
     {"acts",
      {"codecs", "controls", "firmware", "image", "core", "files", "panels", "registers", "changes", "link"}},
+    {"sheet",
+     {"codecs", "controls", "firmware", "image", "core", "files", "panels", "registers", "changes",
+      "text_form", "link", "acts"}},
     {"start",
      {"codecs", "controls", "firmware", "image", "core", "files", "panels", "changes", "registers", "link"}},
 };
@@ -33,13 +38,14 @@ const std::map<std::string, Folders> kModel = {
 const std::map<std::string, Folders> kWindows = {
     {"ui/tips", {}},
     {"ui/kit", {"ui/tips"}},
-    {"ui/help", {"ui/kit"}},
+    {"ui/print", {}},
+    {"ui/help", {"ui/kit", "ui/print"}},
     {"ui/acts", {"ui/kit"}},
     {"ui/pages", {"ui/kit", "ui/acts"}},
     {"ui/dialogs", {"ui/kit", "ui/pages", "ui/acts"}},
     {"ui/window", {"ui/kit", "ui/acts", "ui/pages", "ui/dialogs"}},
     {"ui/files", {"ui/kit", "ui/dialogs"}},
-    {"ui/app", {"ui/kit", "ui/help", "ui/pages", "ui/dialogs", "ui/window", "ui/files"}},
+    {"ui/app", {"ui/kit", "ui/help", "ui/pages", "ui/dialogs", "ui/window", "ui/files", "ui/print"}},
 };
 
 std::string RoomOf(const std::string& path) {

@@ -278,13 +278,15 @@ TEST_F(Script, DumpsTheImageByNamesUnderItsHeadings) {
   EXPECT_EQ(ovl::testing::ReadFile(folder_.File("V1400/SaveReport.Bin")), text);
 }
 
-TEST_F(Script, ComparesFilesFieldByField) {
+TEST_F(Script, ComparesFilesAndTheConfigurationInWords) {
   const auto first = "\"" + folder_.File("first.bin") + "\"";
   const auto second = "\"" + folder_.File("second.bin") + "\"";
   EXPECT_EQ(RunStarted("set TX_BAUDRATE 01\nset ALMNORMAL_BAK(2) 00\nstream " + first +
-                       "\nset TX_BAUDRATE 0A\nset ALMNORMAL_BAK(2) FF\nstream " + second + "\ndiff " + first +
-                       " " + second + "\ndiff " + first + " " + first),
-            "TX_BAUDRATE: 01 -> 0A\nALMNORMAL_BAK(2): 00 -> FF\nno difference\n");
+                       "\nset TX_BAUDRATE 03\nset ALMNORMAL_BAK(2) 40\nstream " + second + "\ndiff " + first +
+                       " " + second + "\ndiff " + first + " " + first + "\ndiff " + second),
+            "ALARM OUTPUTS: Alarm 15, NORMAL STATE: \"NO\" -> \"NC\"\n"
+            "COMMUNICATION: TX BAUDRATE: \"2400\" -> \"9600\"\n"
+            "no difference\nno difference\n");
   ovl::testing::WriteFile(folder_.File("second.bin"), "noise");
   EXPECT_TRUE(RunStarted("diff " + first + " " + second).ends_with("exit 2"));
 }

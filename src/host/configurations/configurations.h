@@ -1,0 +1,46 @@
+// Configurations in files: record streams and text forms.
+#pragma once
+
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "core/application.h"
+#include "text_form/catalogue.h"
+#include "text_form/import.h"
+
+namespace ovl::host {
+
+// A file that does not give a configuration. what() has every problem behind the path, one a line.
+class NoConfiguration : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// What shows images of one firmware.
+struct Viewer {
+  explicit Viewer(const firmware::FirmwareId& firmware);
+
+  std::unique_ptr<core::Application> app;
+  text_form::Catalogue catalogue;
+};
+
+// The image with what the text form says. What is left out goes to `left_out`, one a line behind the path.
+// Throws NoConfiguration.
+image::ConfigImage ReadTextForm(text_form::Catalogue& catalogue, const image::ConfigImage& base,
+                                const std::string& path, std::string_view bytes,
+                                text_form::Strictness strictness, std::string& left_out);
+
+// The firmware of a file: the one that is named, or that of the text form, or the only one that fits. Throws
+// NoConfiguration if there is none, or more than one.
+firmware::FirmwareId FirmwareOf(const std::string& path, std::string_view bytes, const std::string& named);
+
+// The image of a file. A text form changes the base. Throws NoConfiguration.
+image::ConfigImage ReadConfiguration(Viewer& viewer, const image::ConfigImage& base, const std::string& path,
+                                     std::string_view bytes);
+
+// The same on an image of zeros.
+image::ConfigImage ReadConfiguration(Viewer& viewer, const std::string& path, std::string_view bytes);
+
+}  // namespace ovl::host

@@ -1,0 +1,159 @@
+#include "sheet/site_sheet.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "image/slot_records.h"
+#include "sheet/checksum.h"
+#include "sheet/html.h"
+#include "sheet/slot_table.h"
+#include "text_form/export.h"
+
+namespace ovl::sheet {
+namespace {
+
+using text_form::Line;
+using Lines = std::vector<Line>;
+
+constexpr std::size_t kLinesForFindings = 17;  // that page 1 has room for
+constexpr std::size_t kLettersOfLine = 90;
+constexpr std::string_view kEmpty = "&#160;";  // a cell without anything would spoil the space below a table
+constexpr std::size_t kPairs = 3;              // settings beside each other
+constexpr std::string_view kTitleText = "Title_Text";
+
+// The sizes are such that 24 exceptions and 16 alarms fit on page 2 of either paper.
+constexpr std::string_view kHead = R"(<!DOCTYPE html>
+<html>
+<head>
+<meta charset="UTF-8">
+<title>Site sheet</title>
+<style>
+body, td, th, p { font-family: 'DejaVu Sans', Arial, sans-serif; font-size: 8pt; }
+p { margin: 2px 0 0 0; }
+p.title { font-size: 15pt; font-weight: bold; margin: 0; }
+p.head { font-size: 9pt; font-weight: bold; margin: 9px 0 2px 0; }
+table { border-collapse: collapse; }
+table.next { page-break-before: always; }
+td, th { padding: 2px 4px 1px 2px; vertical-align: middle; border-bottom: 1px solid #c0c0c0; }
+td.plain { border-bottom: none; }
+td.hand { border-bottom: 1px solid #000000; }
+td.name { color: #404040; }
+td.value { font-weight: bold; }
+table.checks td { font-size: 7.5pt; }
+table.slots td { font-size: 7.5pt; padding: 2px 4px 2px 2px; }
+table.slots th { font-size: 6pt; padding: 1px 3px 1px 2px; font-weight: normal; text-align: left; vertical-align: bottom; color: #404040; }
+td.text, table.slots td.value { white-space: nowrap; }
+.picture { font-family: 'DejaVu Sans Mono', 'Courier New', monospace; font-size: 7pt; background-color: #e8e8e8; }
+</style>
+</head>
+<body>
+)";
+
+std::string TitleTextOf(const image::ConfigImage& image) {
+  return PictureText(image::StoredText(image::WithoutEndMark(image[image::FieldId::ONSCRNTITL])));
+}
+
+std::string RowOf(const std::vector<std::string>& cells) {
+  std::string row = "<tr>";
+  for (const auto& cell : cells) row += cell;
+  return row + "</tr>\n";
+}
+
+// A table of the settings of one tab, with some beside each other. A text has a row of its own.
+std::string Section(const Lines& lines, const image::ConfigImage& image) {
+  constexpr std::string_view kNameWidth = "18%", kValueWidth = "15.3%";
+  std::string rows, texts;
+  std::vector<std::string> cells;
+  const auto add = [&](std::string_view kind, std::string_view width, std::string_view html) {
+    cells.push_back(
+        std::string("<td class=\"").append(kind).append("\" width=\"").append(width).append("\">"));
+    cells.back().append(html).append("</td>");
+  };
+  const auto end_row = [&] {
+    while (cells.size() < 2 * kPairs) add("name", cells.size() % 2 == 0 ? kNameWidth : kValueWidth, kEmpty);
+    rows += RowOf(cells);
+    cells.clear();
+  };
+  for (const auto& line : lines) {
+    if (line.control == kTitleText) {
+      texts += "<tr>" + Cell("name", Html(line.key)) + "<td class=\"text\" colspan=\"5\">" +
+               TitleTextOf(image) + "</td></tr>\n";
+      continue;
+    }
+    add("name", kNameWidth, Html(line.key));
+    add("value", kValueWidth, Html(ValueOf(line)));
+    if (cells.size() == 2 * kPairs) end_row();
+  }
+  if (!cells.empty()) end_row();
+  return Head(Html(lines.front().table)) + Table("settings", rows + texts);
+}
+
+// The tabs in the order of the text form.
+std::string Sections(const Lines& lines, const image::ConfigImage& image) {
+  std::string html;
+  Lines section;
+  const auto end_section = [&] {
+    if (!section.empty()) html += Section(section, image);
+    section.clear();
+  };
+  for (const auto& line : lines) {
+    if (line.slot > 0) continue;
+    if (!section.empty() && section.front().table != line.table) end_section();
+    section.push_back(line);
+  }
+  end_section();
+  return html;
+}
+
+std::string FindingsOf(std::span<const Remark> findings) {
+  if (findings.empty()) return {};
+  std::string rows;
+  std::size_t shown = 0;
+  for (std::size_t lines = 0; shown < findings.size(); ++shown) {
+    const auto& finding = findings[shown];
+    lines += finding.words.size() / kLettersOfLine + 1;
+    if (lines > kLinesForFindings) break;
+    rows += RowOf({Cell("value", Html(finding.severity)), Cell("words", Html(finding.words))});
+  }
+  if (shown < findings.size()) {
+    const auto rest = std::to_string(findings.size() - shown);
+    rows += RowOf({Cell("plain", kEmpty), Cell("plain", "And " + rest + " more.")});
+  }
+  return Head("Checks") + Table("checks", rows);
+}
+
+// What both pages begin with.
+std::string TitleOf(const core::Application& like, const std::string& sum, int page) {
+  const auto& firmware = like.image_firmware;
+  return Table(
+      page > 1 ? "next" : "first",
+      RowOf({Cell("plain", "<p class=\"title\">Site sheet</p>"),
+             Cell("plain", "Firmware <b>" + Html(firmware.version + " " + firmware.release) + "</b>"),
+             Cell("plain", "Checksum <b>" + sum + "</b>"),
+             Cell("plain", "<p align=\"right\">Page " + std::to_string(page) + " of 2</p>")}));
+}
+
+// The lines for a pen.
+std::string HandLines() {
+  const auto line = [](std::string_view name, std::string_view name_width, std::string_view width) {
+    return "<td class=\"plain\" width=\"" + std::string(name_width) + "\"><br>" + std::string(name) +
+           "</td><td class=\"hand\" width=\"" + std::string(width) + "\">" + std::string(kEmpty) + "</td>";
+  };
+  return Table("hand",
+               RowOf({line("Site", "5%", "43%"), line("Installer", "9%", "20%"), line("Date", "6%", "17%")}));
+}
+
+}  // namespace
+
+std::string SiteSheet(const core::Application& like, const image::ConfigImage& image,
+                      std::span<const Remark> findings) {
+  text_form::Catalogue catalogue(like);
+  const auto lines = text_form::LinesOf(catalogue, image);
+  const auto sum = Checksum(image, like.image_firmware).value_or("none: the configuration is not complete");
+  return std::string(kHead) + TitleOf(like, sum, 1) + HandLines() + Sections(lines, image) +
+         FindingsOf(findings) + TitleOf(like, sum, 2) +
+         SlotTable(acts::SlotKind::kException, lines, like, image) +
+         SlotTable(acts::SlotKind::kAlarm, lines, like, image) + "</body>\n</html>\n";
+}
+
+}  // namespace ovl::sheet

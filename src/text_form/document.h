@@ -1,0 +1,57 @@
+// A text form as its syntax goes, before anything is known about settings. `host/toml` reads it.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace ovl::text_form {
+
+// Both count from 1.
+struct Position {
+  int line = 1;
+  int column = 1;
+
+  auto operator<=>(const Position&) const = default;
+};
+
+// Something wrong with a text form, in UTF-8.
+struct Problem {
+  Position at;
+  std::string words;
+  bool of_other_firmware = false;  // the setting or its value does not exist here
+
+  bool operator==(const Problem&) const = default;
+};
+
+// "PATH:LINE:COLUMN: WORDS"
+std::string TextOf(const Problem& problem, std::string_view path);
+
+enum class ValueKind {
+  kText,    // "EVEN"; a number is a text too
+  kBytes,   // { bytes = "7F" }
+  kDigits,  // { digits = "7" }
+  kFlag,    // true
+  kOther
+};
+
+struct Value {
+  ValueKind kind = ValueKind::kOther;
+  std::string text;  // in UTF-8; "true" for a flag; of another value, what kind it is
+  Position at;
+};
+
+struct Entry {
+  std::string table;  // empty: before the first table
+  std::string key;
+  Position at;
+  Value value;
+};
+
+struct Document {
+  std::vector<Entry> entries;  // in the order of the lines
+  std::vector<Problem> problems;
+};
+
+}  // namespace ovl::text_form

@@ -1,0 +1,361 @@
+#include "text_form/import.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+#include "codecs/windows_1252.h"
+#include "firmware/firmware_table.h"
+#include "image/stream_entries.h"
+#include "text_form/coverage.h"
+#include "text_form/encoding.h"
+#include "text_form/export.h"
+#include "text_form/messages.h"
+
+namespace ovl::text_form {
+namespace {
+
+constexpr std::string_view kFormatKey = "format", kFirmwareKey = "firmware", kCompleteKey = "complete";
+
+const Entry* HeaderOf(const Document& document, std::string_view key) {
+  const auto found = std::find_if(document.entries.begin(), document.entries.end(), [&](const Entry& entry) {
+    return entry.table.empty() && entry.key == key;
+  });
+  return found == document.entries.end() ? nullptr : &*found;
+}
+
+std::string NameOf(const firmware::FirmwareId& firmware) {
+  return firmware.version + " " + firmware.release;
+}
+
+class Importer {
+ public:
+  Importer(Catalogue& catalogue, const image::ConfigImage& base, const Document& document)
+      : catalogue_(catalogue), firmware_(catalogue.Firmware()), document_(document) {
+    result_.image = base;
+    const auto named = FirmwareNamed(document);
+    const auto known = firmware::FindFirmware(named);
+    foreign_ = !named.empty() && (!known || firmware::ServedFirmware(known->Joined()) != firmware_);
+    const auto* complete = HeaderOf(document, kCompleteKey);
+    complete_ = complete != nullptr && complete->value.kind == ValueKind::kFlag &&
+                complete->value.text == "true" && !foreign_;
+  }
+
+  Imported Run() {
+    ReadHeader();
+    if (!result_.problems.empty()) return std::move(result_);
+    if (complete_) Clear();
+    for (const auto& entry : document_.entries) {
+      if (entry.table.empty()) continue;
+      if (entry.table == kOtherBytes) {
+        others_.push_back(&entry);
+      } else {
+        ReadSetting(entry);
+      }
+    }
+    ReadOtherBytes();
+    ReadOptions();
+    if (complete_ && result_.problems.empty()) ExpectAll();
+    std::stable_sort(result_.problems.begin(), result_.problems.end(),
+                     [](const Problem& one, const Problem& other) { return one.at < other.at; });
+    return std::move(result_);
+  }
+
+ private:
+  void Say(Position at, std::string words, bool of_other_firmware = false) {
+    result_.problems.push_back({at, std::move(words), of_other_firmware});
+  }
+
+  void ReadHeader() {
+    const auto* format = HeaderOf(document_, kFormatKey);
+    if (format == nullptr) {
+      Say({1, 1}, "the line \"format = " + std::to_string(kFormat) + "\" is missing");
+    } else if (format->value.text != std::to_string(kFormat)) {
+      Say(format->value.at, "format " + format->value.text + " is not known; this program reads format " +
+                                std::to_string(kFormat));
+    }
+    if (!result_.problems.empty()) return;
+    const std::vector<std::string> keys = {std::string(kFormatKey), std::string(kFirmwareKey),
+                                           std::string(kCompleteKey)};
+    for (const auto& entry : document_.entries) {
+      if (!entry.table.empty()) continue;
+      if (std::find(keys.begin(), keys.end(), entry.key) == keys.end()) {
+        Say(entry.at, InQuotes(entry.key) + " is in no table" + Suggestion(entry.key, keys));
+      } else if (entry.key == kCompleteKey && entry.value.kind != ValueKind::kFlag) {
+        Say(entry.value.at, Written(entry.value) + " is not allowed here; allowed: true, false");
+      } else if (entry.key == kFirmwareKey && entry.value.kind != ValueKind::kText) {
+        Say(entry.value.at,
+            Written(entry.value) + " is not allowed here; allowed: a text such as \"V1400 R12\"");
+      }
+    }
+  }
+
+  // What is not named is zero in a complete form.
+  void Clear() {
+    image::ForEachStreamEntry(firmware_, [&](const image::FieldRow& row, int entry) {
+      result_.image.at(row.id, entry).assign(DigitsOfField(row.id, firmware_), '0');
+    });
+  }
+
+  void ReadSetting(const Entry& entry) {
+    if (const auto* setting = catalogue_.Find(entry.table, entry.key)) {
+      named_.insert(setting);
+      Take(*setting, entry);
+    } else if (entry.table == catalogue_.Tables().front()) {
+      options_.push_back(&entry);
+    } else {
+      SayUnknown(entry);
+    }
+  }
+
+  void SayUnknown(const Entry& entry) {
+    const auto& tables = catalogue_.Tables();
+    if (std::find(tables.begin(), tables.end(), entry.table) == tables.end()) {
+      if (!unknown_tables_.insert(entry.table).second) return;
+      Say(entry.at, "there is no table [" + Escaped(entry.table) + "]" + Suggestion(entry.table, tables),
+          foreign_);
+      return;
+    }
+    Say(entry.at,
+        InQuotes(entry.key) + " is no setting of [" + entry.table + "]" +
+            Suggestion(entry.key, KeysOf(entry.table)),
+        foreign_);
+  }
+
+  std::vector<std::string> KeysOf(std::string_view table) const {
+    std::vector<std::string> keys;
+    for (const auto& setting : catalogue_.OfPanels()) {
+      if (setting.table == table) keys.push_back(setting.key);
+    }
+    return keys;
+  }
+
+  void Take(const Setting& setting, const Entry& entry) {
+    const auto& value = entry.value;
+    if (value.kind == ValueKind::kBytes) {
+      if (!StoreDigits(setting, value.text, result_.image, firmware_)) {
+        Say(value.at,
+            Written(value) + " is not allowed for " + InQuotes(setting.key) + "; allowed: bytes such as \"" +
+                DigitsOf(setting, result_.image, firmware_) + "\"",
+            foreign_);
+      }
+      return;
+    }
+    if (value.kind != ValueKind::kText) {
+      Say(value.at, Written(value) + " is not allowed for " + InQuotes(setting.key) +
+                        "; allowed: a text in quotes, or { bytes = \"...\" }");
+      return;
+    }
+    const auto words = codecs::Windows1252OfUtf8(value.text);
+    if (!words) {
+      Say(value.at, InQuotes(value.text) + " has characters that the unit does not have");
+      return;
+    }
+    const auto allowed = StoreWords(setting, *words, result_.image, firmware_);
+    if (allowed) Say(value.at, NotAllowed(setting, value.text, *allowed), foreign_);
+  }
+
+  // ---- Other bytes
+
+  struct Target {
+    const image::FieldRow* row = nullptr;
+    int entry = 1;
+  };
+
+  const Target* TargetOf(const Entry& entry) {
+    if (targets_.empty()) {
+      image::ForEachStreamEntry(firmware_, [&](const image::FieldRow& row, int of_entry) {
+        targets_[image::EntryName(row.name, image::EntryCount(row.id), of_entry)] = {&row, of_entry};
+      });
+    }
+    const auto found = targets_.find(entry.key);
+    if (found != targets_.end()) return &found->second;
+    std::vector<std::string> names;
+    for (const auto& [name, target] : targets_) names.push_back(name);
+    Say(entry.at, InQuotes(entry.key) + " is no field of " + NameOf(firmware_) + Suggestion(entry.key, names),
+        foreign_);
+    return nullptr;
+  }
+
+  void ReadOtherBytes() {
+    Coverage panels;
+    for (const auto& setting : catalogue_.OfPanels()) panels.Add(setting, firmware_);
+    for (const auto* entry : others_) {
+      const auto* target = TargetOf(*entry);
+      if (target == nullptr) continue;
+      auto& value = result_.image.at(target->row->id, target->entry);
+      const auto width = DigitsOfField(target->row->id, firmware_);
+      if (entry->value.kind == ValueKind::kDigits) {
+        as_they_are_.push_back({*target, entry->value.text});
+        continue;
+      }
+      auto digits = entry->value.text;
+      if (entry->value.kind != ValueKind::kText || digits.size() > width || digits.size() % 2 != 0 ||
+          !IsRegular(digits, digits.size())) {
+        const auto most = std::to_string(width / 2) + (width == 2 ? " byte" : " bytes");
+        Say(entry->value.at, Written(entry->value) + " is not allowed here; allowed: at most " + most +
+                                 " of two digits 0 to 9 and A to F");
+        continue;
+      }
+      digits.resize(width, '0');
+      const auto shown = panels.Inside(target->row->id, target->entry, digits);
+      if (shown.find_first_not_of('0') != std::string::npos) {
+        Say(entry->value.at, InQuotes(entry->value.text) + " has bits that other lines store");
+        continue;
+      }
+      if (!IsRegular(value, width)) value.assign(width, '0');
+      Merge(value, digits, panels.Outside(target->row->id, target->entry, std::string(width, 'F')));
+    }
+  }
+
+  // The bits of the mask from the digits, the others stay.
+  static void Merge(std::string& value, const std::string& digits, const std::string& mask) {
+    for (std::size_t byte = 0; byte < value.size(); byte += 2) {
+      const int bits = codecs::HexToInt(mask.substr(byte, 2));
+      const int merged = (codecs::HexToInt(value.substr(byte, 2)) & ~bits) |
+                         (codecs::HexToInt(digits.substr(byte, 2)) & bits);
+      value.replace(byte, 2, codecs::ByteToHex(merged));
+    }
+  }
+
+  // ---- Options of the register
+
+  // An option can bring another one, or change what it offers. So the register is asked again until the
+  // options that it offers store nothing else.
+  void ReadOptions() {
+    constexpr int kMostRounds = 8;
+    std::vector<std::pair<Setting, const Entry*>> taken;
+    auto before = result_.problems;
+    for (int round = 0; round < kMostRounds && !options_.empty(); ++round) {
+      const auto image = result_.image;
+      result_.problems = before;
+      taken = TakeOffered();
+      if (round > 0 && image == result_.image) break;
+    }
+    for (const auto* entry : options_) {
+      const bool is_taken = std::any_of(taken.begin(), taken.end(),
+                                        [&](const auto& setting) { return setting.second == entry; });
+      if (!is_taken) SayNoOption(*entry);
+    }
+    for (const auto& [target, digits] : as_they_are_) result_.image.at(target.row->id, target.entry) = digits;
+    if (result_.problems.empty()) ExpectTogether(taken);
+  }
+
+  // With a byte that fits no entry, the form shows none of the options.
+  std::vector<Setting> Offered() const {
+    auto offered = catalogue_.OfRegister(result_.image);
+    return offered.empty() ? catalogue_.OfRegister(WithoutOptions()) : offered;
+  }
+
+  std::vector<std::pair<Setting, const Entry*>> TakeOffered() {
+    std::vector<std::pair<Setting, const Entry*>> taken;
+    for (auto& setting : Offered()) {
+      const auto found = std::find_if(options_.begin(), options_.end(),
+                                      [&](const Entry* entry) { return entry->key == setting.key; });
+      if (found == options_.end()) continue;
+      Take(setting, **found);
+      taken.emplace_back(std::move(setting), *found);
+    }
+    return taken;
+  }
+
+  // The first entries of all options.
+  image::ConfigImage WithoutOptions() const {
+    auto image = result_.image;
+    for (const auto field : {image::FieldId::REGTYPE_MINOR, image::FieldId::REGTYPE_EXT1,
+                             image::FieldId::REGTYPE_EXT2, image::FieldId::UNITADDR})
+      image[field] = "00";
+    return image;
+  }
+
+  void SayNoOption(const Entry& entry) {
+    auto keys = KeysOf(entry.table);
+    for (const auto& setting : Offered()) keys.push_back(setting.key);
+    const auto all = catalogue_.OptionKeys();
+    const bool known = std::find(all.begin(), all.end(), entry.key) != all.end();
+    Say(entry.at,
+        InQuotes(entry.key) +
+            (known ? " is no option of this register, or not together with its other options"
+                   : " is no setting of [" + entry.table + "]") +
+            Suggestion(entry.key, keys),
+        foreign_);
+  }
+
+  // Two lines can name the same byte.
+  void ExpectTogether(const std::vector<std::pair<Setting, const Entry*>>& taken) {
+    for (const auto& [setting, entry] : taken) {
+      auto again = result_.image;
+      Importer alone(catalogue_, again, document_);
+      alone.Take(setting, *entry);
+      if (alone.result_.image != result_.image)
+        Say(entry->value.at, InQuotes(entry->value.text) + " does not go together with the other options");
+    }
+  }
+
+  // ---- A complete form
+
+  void ExpectAll() {
+    std::vector<std::string> missing;
+    const auto add = [&](const Setting& setting) {
+      missing.push_back(InQuotes(setting.key) + " of [" + setting.table + "]");
+    };
+    for (const auto& setting : catalogue_.OfPanels()) {
+      if (named_.count(&setting) == 0 && IsStored(setting, result_.image, firmware_)) add(setting);
+    }
+    for (const auto& setting : catalogue_.OfRegister(result_.image)) {
+      const bool named = std::any_of(options_.begin(), options_.end(),
+                                     [&](const Entry* entry) { return entry->key == setting.key; });
+      if (!named && WordsOf(setting, result_.image, firmware_)) add(setting);
+    }
+    if (missing.empty()) return;
+    const auto others = missing.size() - 1;
+    Say(HeaderOf(document_, kCompleteKey)->at,
+        (others == 0 ? missing.front() + " is missing"
+                     : missing.front() + " and " + std::to_string(others) + " others are missing") +
+            ". Without the line \"complete = true\", what is not named keeps its value");
+  }
+
+  Catalogue& catalogue_;
+  const firmware::FirmwareId& firmware_;
+  const Document& document_;
+  Imported result_;
+  bool foreign_ = false;
+  bool complete_ = false;
+  std::set<const Setting*> named_;
+  std::set<std::string> unknown_tables_;
+  std::vector<const Entry*> others_, options_;
+  std::map<std::string, Target> targets_;  // by the names of the fields
+  std::vector<std::pair<Target, std::string>> as_they_are_;
+};
+
+}  // namespace
+
+std::string TextOf(const Problem& problem, std::string_view path) {
+  return std::string(path) + ":" + std::to_string(problem.at.line) + ":" + std::to_string(problem.at.column) +
+         ": " + problem.words;
+}
+
+bool IsTextForm(std::string_view bytes) {
+  return bytes.starts_with(kFormatKey) ||
+         bytes.find("\n" + std::string(kFormatKey)) != std::string_view::npos;
+}
+
+std::string FirmwareNamed(const Document& document) {
+  const auto* entry = HeaderOf(document, kFirmwareKey);
+  return entry == nullptr || entry->value.kind != ValueKind::kText ? std::string() : entry->value.text;
+}
+
+Imported Import(Catalogue& catalogue, const image::ConfigImage& base, const Document& document,
+                Strictness strictness) {
+  if (!document.problems.empty()) return {base, document.problems, {}};
+  auto imported = Importer(catalogue, base, document).Run();
+  if (strictness == Strictness::kWhole) return imported;
+  const auto left_out =
+      std::stable_partition(imported.problems.begin(), imported.problems.end(),
+                            [](const Problem& problem) { return !problem.of_other_firmware; });
+  imported.left_out.assign(left_out, imported.problems.end());
+  imported.problems.erase(left_out, imported.problems.end());
+  return imported;
+}
+
+}  // namespace ovl::text_form

@@ -1,0 +1,29 @@
+// Reads a text form back into an image. The whole form is checked before anything is taken from it.
+#pragma once
+
+#include "text_form/catalogue.h"
+#include "text_form/document.h"
+
+namespace ovl::text_form {
+
+enum class Strictness {
+  kWhole,    // a setting that this firmware lacks is a problem
+  kPartial,  // of a form for another firmware, what this one lacks is left out
+};
+
+struct Imported {
+  image::ConfigImage image;       // the base with what the form names; only meaningful without problems
+  std::vector<Problem> problems;  // in the order of the lines
+  std::vector<Problem> left_out;
+};
+
+Imported Import(Catalogue& catalogue, const image::ConfigImage& base, const Document& document,
+                Strictness strictness);
+
+// Whether the bytes are a text form and no record stream.
+bool IsTextForm(std::string_view bytes);
+
+// The firmware that the form names, such as "V1400 R12"; empty if it names none.
+std::string FirmwareNamed(const Document& document);
+
+}  // namespace ovl::text_form

@@ -1,0 +1,26 @@
+// The words for what is wrong in a text form. All texts are in UTF-8.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "text_form/document.h"
+#include "text_form/settings.h"
+
+namespace ovl::text_form {
+
+// Control characters become their escapes, so that a message is one line.
+std::string Escaped(std::string_view text);
+std::string InQuotes(std::string_view text);
+
+// As the value is written.
+std::string Written(const Value& value);
+
+// ". Did you mean "PARITY"?", or nothing if no word of the list is near.
+std::string Suggestion(std::string_view word, const std::vector<std::string>& words);
+
+// `allowed` is what StoreWords returns.
+std::string NotAllowed(const Setting& setting, std::string_view text, std::string_view allowed);
+
+}  // namespace ovl::text_form

@@ -1,0 +1,155 @@
+#include "ui/files/text_acts.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QMainWindow>
+#include <QMenu>
+#include <utility>
+
+#include "acts/backup.h"
+#include "core/configuration.h"
+#include "files/files.h"
+#include "host/text_codec.h"
+#include "host/toml/toml_reader.h"
+#include "image/report.h"
+#include "text_form/export.h"
+#include "ui/dialogs/boxes.h"
+
+namespace ovl::ui {
+namespace {
+
+using text_form::Problem;
+using text_form::Strictness;
+
+constexpr const char* kTextFilter = "Text Forms(*.toml)|*.toml|All Files(*.*)|*.*";
+constexpr const char* kEveryFilter = "Configurations(*.bin;*.toml)|*.bin;*.toml|All Files(*.*)|*.*";
+
+QString Decoded(const std::string& path) {
+  return QFile::decodeName(path.c_str());
+}
+
+QString NameOf(const std::string& path) {
+  return QFileInfo(Decoded(path)).fileName();
+}
+
+QStringList Lines(const std::vector<Problem>& problems) {
+  QStringList lines;
+  for (const auto& problem : problems)
+    lines.append(QStringLiteral("Line %1, column %2: %3")
+                     .arg(problem.at.line)
+                     .arg(problem.at.column)
+                     .arg(host::FromSystem(problem.words)));
+  return lines;
+}
+
+}  // namespace
+
+TextActs::TextActs(core::Application& app, QMainWindow& main, Hooks hooks)
+    : app_(app), hooks_(std::move(hooks)) {
+  // Each item goes behind that of the backup, so the last one comes first.
+  AddItem(main, "menuCompare", QStringLiteral("Compare with File..."), &TextActs::Compare);
+  AddItem(main, "menuImport", QStringLiteral("Import Text..."), &TextActs::Import);
+  AddItem(main, "menuExport", QStringLiteral("Export Text..."), &TextActs::Export);
+}
+
+void TextActs::AddItem(QMainWindow& main, const char* name, const QString& caption, void (TextActs::*act)()) {
+  auto* file = main.findChild<QMenu*>(QStringLiteral("FileMenu"));
+  auto* backup = main.findChild<QAction*>(QStringLiteral("menuBackup"));
+  auto* item = new QAction(caption, file);
+  item->setObjectName(QLatin1String(name));
+  connect(item, &QAction::triggered, this, act);
+  const auto items = file->actions();
+  file->insertAction(items.value(items.indexOf(backup) + 1), item);
+}
+
+bool TextActs::CanAct() const {
+  return !app_.ended && !app_.handling && app_.frmMain.form.enabled;
+}
+
+std::string TextActs::AskForPath(core::FileDialog::Kind kind, const std::string& name,
+                                 const std::string& filter) {
+  core::FileDialog request;
+  request.kind = kind;
+  request.file_name = files::PathBelow(app_.platform.program_folder, "\\" + name);
+  request.filter = filter;
+  const auto answer = AskFile(hooks_.front(), request);
+  return answer && CanAct() ? answer->file_name : std::string();
+}
+
+std::optional<std::string> TextActs::BytesOf(const std::string& path, const QString& refusal) {
+  try {
+    return app_.platform.files.read(path);
+  } catch (const core::Failure& failure) {
+    hooks_.show_text(refusal + host::FromSystem(failure.Text()));
+    return std::nullopt;
+  }
+}
+
+void TextActs::Export() {
+  if (!CanAct()) return;
+  auto name = acts::BackupName(app_);
+  name = name.substr(0, name.rfind('.')) + ".toml";
+  const auto path = AskForPath(core::FileDialog::Kind::kSave, name, kTextFilter);
+  if (path.empty()) return;
+  try {
+    text_form::Catalogue catalogue(app_);
+    app_.platform.files.replace(path, text_form::Export(catalogue, app_.image));
+    hooks_.show_text(QStringLiteral("Text written: ") + QDir::toNativeSeparators(Decoded(path)));
+  } catch (const core::Failure& failure) {
+    hooks_.show_text(QStringLiteral("No text written: ") + host::FromSystem(failure.Text()));
+  }
+}
+
+std::optional<image::ConfigImage> TextActs::ImageOfText(const std::string& path, const std::string& bytes) {
+  text_form::Catalogue catalogue(app_);
+  const auto document = host::ReadToml(bytes);
+  auto imported = text_form::Import(catalogue, app_.image, document, Strictness::kPartial);
+  if (!imported.problems.empty()) {
+    ShowProblems(hooks_.front(), NameOf(path) + QStringLiteral(" is not taken: nothing has changed."),
+                 Lines(imported.problems));
+    return std::nullopt;
+  }
+  if (imported.left_out.empty()) return imported.image;
+  const auto text =
+      QStringLiteral("%1 is a text of %2. This program serves %3, which does not have all of it.")
+          .arg(NameOf(path), host::FromSystem(text_form::FirmwareNamed(document)),
+               host::FromWindows1252(acts::FirmwareName(app_)));
+  if (!AskWhetherToTakeTheRest(hooks_.front(), text, Lines(imported.left_out))) return std::nullopt;
+  return imported.image;
+}
+
+void TextActs::Import() {
+  if (!CanAct()) return;
+  const auto path = AskForPath(core::FileDialog::Kind::kOpen, "*.toml", kTextFilter);
+  if (path.empty()) return;
+  const auto bytes = BytesOf(path, QStringLiteral("Not imported: "));
+  if (!bytes) return;
+  const auto image = ImageOfText(path, *bytes);
+  // While the problems are on the screen, the unit can start something else.
+  if (!image || !CanAct()) return;
+  hooks_.run("Import " + NameOf(path).toStdString(), [&] { core::TakeImage(app_, *image); });
+  hooks_.show_text(QStringLiteral("Text imported: ") + QDir::toNativeSeparators(Decoded(path)));
+}
+
+std::optional<image::ConfigImage> TextActs::ImageOf(const std::string& path, const std::string& bytes) {
+  if (text_form::IsTextForm(bytes)) return ImageOfText(path, bytes);
+  const auto stream = files::JoinLines(bytes);
+  auto image = image::DecodeStream(stream, app_.image_firmware);
+  if (image && image::FitsFirmware(stream, app_.image_firmware)) return image;
+  hooks_.show_text(QStringLiteral("Not compared: %1 is no configuration of %2")
+                       .arg(NameOf(path), host::FromWindows1252(acts::FirmwareName(app_))));
+  return std::nullopt;
+}
+
+void TextActs::Compare() {
+  if (!CanAct()) return;
+  const auto path = AskForPath(core::FileDialog::Kind::kOpen, "*.bin", kEveryFilter);
+  if (path.empty()) return;
+  const auto bytes = BytesOf(path, QStringLiteral("Not compared: "));
+  if (!bytes) return;
+  if (const auto image = ImageOf(path, *bytes)) hooks_.compare(NameOf(path), *image);
+}
+
+}  // namespace ovl::ui

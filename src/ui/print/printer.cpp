@@ -1,0 +1,23 @@
+#include "ui/print/printer.h"
+
+#include <QPrintDialog>
+#include <QPrinter>
+
+namespace ovl::ui {
+
+bool HasPrinting() {
+  return true;
+}
+
+Printed PrintWithDialog(QWidget* front, const QString& title,
+                        const std::function<void(QPagedPaintDevice&)>& print) {
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setDocName(title);
+  QPrintDialog dialog(&printer, front);
+  dialog.setWindowTitle(QStringLiteral("Print ") + title);
+  if (dialog.exec() != QDialog::Accepted) return Printed::kCancelled;
+  print(printer);
+  return printer.printerState() == QPrinter::Error ? Printed::kFailed : Printed::kDone;
+}
+
+}  // namespace ovl::ui

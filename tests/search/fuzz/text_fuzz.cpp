@@ -1,0 +1,58 @@
+// Any text is imported as a text form. The first byte chooses one of four firmware; the rest is the text.
+// What is taken comes back from its own export.
+#include <array>
+#include <memory>
+
+#include "bytes.h"
+#include "host/toml/toml_reader.h"
+#include "image/report.h"
+#include "start/start_up.h"
+#include "text_form/encoding.h"
+#include "text_form/export.h"
+#include "text_form/import.h"
+
+namespace {
+
+using namespace ovl;
+using fuzz::Require;
+using text_form::Strictness;
+
+constexpr std::array kFirmware = {"V1400R12", "V1400R2", "V1300R14", "V1310R1"};
+
+struct Reader {
+  explicit Reader(const char* name) {
+    start::ServeFirmware(app, firmware::ServedFirmware(name));
+    catalogue = std::make_unique<text_form::Catalogue>(app);
+    base = text_form::FilledImage(catalogue->Firmware(), '0');
+  }
+
+  core::Application app;
+  std::unique_ptr<text_form::Catalogue> catalogue;
+  image::ConfigImage base;
+};
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static std::array<std::unique_ptr<Reader>, kFirmware.size()> readers;
+  if (size == 0) return 0;
+  const auto chosen = data[0] % kFirmware.size();
+  auto& reader = readers.at(chosen);
+  if (reader == nullptr) reader = std::make_unique<Reader>(kFirmware.at(chosen));
+  const std::string_view text(reinterpret_cast<const char*>(data + 1), size - 1);
+
+  const auto document = host::ReadToml(text);
+  const auto imported = text_form::Import(*reader->catalogue, reader->base, document, Strictness::kWhole);
+  for (const auto& problem : imported.problems) {
+    Require(problem.at.line > 0 && problem.at.column > 0, "a problem has its place");
+    Require(!problem.words.empty() && problem.words.find('\n') == std::string::npos, "and one line of words");
+  }
+  if (!imported.problems.empty()) return 0;
+  const auto again = text_form::Import(*reader->catalogue, reader->base,
+                                       host::ReadToml(text_form::Export(*reader->catalogue, imported.image)),
+                                       Strictness::kWhole);
+  Require(again.problems.empty(), "what was taken is exported without a problem");
+  Require(image::Differences(imported.image, again.image, reader->catalogue->Firmware()).empty(),
+          "and comes back as it was");
+  return 0;
+}

@@ -1,0 +1,66 @@
+// The site sheet as a document.
+#include <QFile>
+
+#include "image/slot_records.h"
+#include "screen.h"
+#include "sheet/site_sheet.h"
+#include "start/start_up.h"
+#include "text_form/encoding.h"
+#include "ui/print/site_sheet.h"
+
+namespace ovl::testing {
+namespace {
+
+using image::FieldId;
+
+// Everything is in use, with texts of the widest letters and the longest entries of the lists.
+image::ConfigImage FullImage(const firmware::FirmwareId& firmware) {
+  constexpr int kSecondHalf = 26, kPulse = 255, kMinute = 9;
+  const std::string text(40, 'W');
+  auto image = text_form::FilledImage(firmware, '0');
+  for (int number = 1; number <= image::kExceptions; ++number) {
+    auto& slot = image.at(FieldId::EXCPSTRS, number);
+    image::StoreExceptionText(slot, firmware, text);
+    image::StoreRange(slot, firmware, std::string(image::RangeDigits(firmware).count, '9'));
+  }
+  for (int number = 1; number <= image::kAlarms; ++number) {
+    auto& record = image.at(FieldId::ALMSTRUCT_BAK, number);
+    image::StoreAlarmTrigger(record, kSecondHalf);
+    image::StoreAlarmDuration(record, firmware, kPulse, 0);
+    image::StoreAlarmVideoLoss(record, kMinute);
+    auto& triggered = image.at(FieldId::TRIGGER_TEXT, number);
+    triggered = triggered.substr(0, image::kTriggeredDigits.first) + image::PaddedText(text) + "00";
+  }
+  return image;
+}
+
+// In a PDF file each page is an object of this type.
+int PagesOf(const QString& path) {
+  QFile file(path);
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+  return static_cast<int>(file.readAll().count("/Type /Page\n"));
+}
+
+class SiteSheetFile : public ::testing::TestWithParam<firmware::FirmwareId> {};
+
+TEST_P(SiteSheetFile, OfAFullConfigurationHasTwoPages) {
+  core::Application app;
+  start::ServeFirmware(app, GetParam());
+  const std::vector<sheet::Remark> remarks(
+      40, {"warning", "The text of exception 24 is stored with the length 39, and its own length is 40."});
+  const auto sheet = QString::fromStdString(sheet::SiteSheet(app, FullImage(GetParam()), remarks));
+  const TemporaryFolder folder;
+  const auto file = QString::fromStdString(folder.File("sheet.pdf"));
+  for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
+    ASSERT_TRUE(ui::WriteSiteSheet(sheet, file, ui::SheetFormat::kPdf, paper).Ok());
+    EXPECT_EQ(PagesOf(file), 2) << QPageSize::name(paper).toStdString();
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Families, SiteSheetFile,
+                         ::testing::Values(firmware::FirmwareId{"V1400", "R12"},
+                                           firmware::FirmwareId{"V1300", "R14"}),
+                         [](const auto& each) { return each.param.Joined(); });
+
+}  // namespace
+}  // namespace ovl::testing
