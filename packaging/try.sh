@@ -10,7 +10,7 @@
 set -euo pipefail
 [ "${TRY_ALONE:-}" ] || TRY_ALONE=1 exec unshare --mount --propagation private "$0" "$@"
 
-roots='' given='' cache='' before=() releases=() table=() release='' now='' root='' home=''
+roots='' given='' cache='' before=() releases=() table=() release='' now='' root='' home='' screen=''
 while [ $# -gt 0 ]; do
   case $1 in
     --roots) roots=$(realpath -m "$2"); shift ;;
@@ -41,6 +41,8 @@ report() {
   printf '%s\n' "${table[@]}"
 }
 drop() {
+  [ -z "$screen" ] || kill "$screen" 2> /dev/null || true
+  screen=''
   [ -n "$root" ] || return 0
   for mounted in dev proc cache tmp/.X11-unix; do umount --recursive --lazy "$root/$mounted" 2> /dev/null || true; done
   if grep -qF " $root/" /proc/self/mounts; then return 1; fi
@@ -141,6 +143,7 @@ try_window() {
   # The program ends with its display.
   kill "$screen"
   wait "$screen" "$shown" || true
+  screen=''
   umount "$root/tmp/.X11-unix"
 }
 
