@@ -5,7 +5,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 tools/require g++-mingw-w64-x86-64-posix wine wine64 nsis cmake ninja-build ccache dpkg-dev qt6-base-dev qt6-base-dev-tools \
-  googletest librsvg2-bin icoutils
+  googletest libtomlplusplus-dev librsvg2-bin icoutils
 
 here=$PWD/packaging/windows
 build=$PWD/build/windows
