@@ -87,7 +87,8 @@ bool UnsavedCopy::TakeName() {
 }
 
 void UnsavedCopy::WriteSoonIfChanged() {
-  if (seen_.Update(app_.image) && !soon_.isActive()) soon_.start();
+  const bool other_image = seen_.Update(app_.image), other_known = known_.Update(app_.known_image);
+  if ((other_image || other_known) && !soon_.isActive()) soon_.start();
 }
 
 void UnsavedCopy::WritePending() {

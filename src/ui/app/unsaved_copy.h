@@ -25,9 +25,9 @@ class UnsavedCopy {
   // this object.
   UnsavedCopy(const core::Application& app, const QString& folder);
 
-  // Starts the timer for writing when the image has changed. The copy is removed instead when the image
-  // equals what was last loaded. While a handler runs, the timer waits for its end: the image can be between
-  // two states, and the handler can end the program.
+  // Starts the timer for writing when the image has changed, or what the unit is known to contain. The copy
+  // is removed instead when the image equals what was last loaded. While a handler runs, the timer waits for
+  // its end: the image can be between two states, and the handler can end the program.
   void WriteSoonIfChanged();
 
   // Writes the copy now if the timer runs. Called before a file dialog, which can stay open for long.
@@ -55,7 +55,7 @@ class UnsavedCopy {
   QString path_;
   std::unique_ptr<QLockFile> lock_;
   QTimer soon_;
-  ChangeDetector<image::ConfigImage> seen_;
+  ChangeDetector<image::ConfigImage> seen_, known_;
 };
 
 }  // namespace ovl::ui

@@ -33,6 +33,17 @@ QString ChangeAndWait(Screen& screen) {
   return folder;
 }
 
+// A complete download changes what the unit is known to contain, and not the image.
+TEST(UnsavedCopy, GoesWhenTheUnitContainsTheChanges) {
+  Screen screen({"V1400", "R12"});
+  const auto folder = ChangeAndWait(screen);
+  ASSERT_EQ(Copies(folder).size(), 1);
+  screen.App().known_image = screen.App().image;
+  screen.program->RefreshNow();
+  WaitForTimer();
+  EXPECT_EQ(Copies(folder), QStringList());
+}
+
 TEST(UnsavedCopy, ExistsUntilTheUserClosesAndOpensAgainAfterACrash) {
   Screen screen({"V1400", "R12"});
   auto& app = screen.App();
