@@ -7,7 +7,7 @@
 . "$(dirname "$0")/common.sh"
 . "$(dirname "$0")/lists.sh"
 . "$(dirname "$0")/configurations.sh"
-read_options "$@"
+read_options --resume "$@" # a change that is done is not to be done again
 [ ${#arguments[@]} -ge 2 ] || usage "[--jobs N] DEVICES TEXT|FIELD=HEX..."
 read_list "${arguments[0]}"
 
@@ -34,7 +34,7 @@ change() {
     printf '%s\n' "${changes[@]}"
     printf 'stream %s\ndownload\nupload\n' "$(quoted "$work/changed")"
   } | on_unit "$1" || return 1
-  cmp -s "$work/changed" "$unit" || { echo "$1: came back otherwise than it was sent" >&2; return 1; }
+  cmp -s "$work/changed" "$unit" || { echo "$1: what came back is not what was sent" >&2; return 1; }
 }
 
 each "$(printf '%s\n' "${changes[@]}"; cat -- "${arguments[@]:1}" 2> /dev/null || true)" change

@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # Collects the history of every unit of a list into a folder:
-#   collect_histories.sh [--jobs N] devices.txt histories
+#   collect_histories.sh [--jobs N] [--resume] devices.txt histories
 . "$(dirname "$0")/common.sh"
 . "$(dirname "$0")/lists.sh"
 read_options "$@"
-[ ${#arguments[@]} -eq 2 ] || usage "[--jobs N] DEVICES FOLDER"
+[ ${#arguments[@]} -eq 2 ] || usage "[--jobs N] [--resume] DEVICES FOLDER"
 read_list "${arguments[0]}"
 refuse_same_names
 folder=${arguments[1]}

@@ -2,13 +2,13 @@
 # Compares a unit with its file, setting by setting, or each unit of a list with the file of its name in a folder, such
 # as kitchen.toml for /dev/kitchen. A file is a configuration or a text form; a text form can name some settings only.
 #   compare.sh /dev/ttyUSB0 unit.bin
-#   compare.sh [--jobs N] devices.txt folder
+#   compare.sh [--jobs N] [--resume] devices.txt folder
 # Exit status: 0 they are the same; 1 they differ, or a unit of the list cannot be read; 3 the unit or the file cannot.
 . "$(dirname "$0")/common.sh"
 . "$(dirname "$0")/lists.sh"
 . "$(dirname "$0")/configurations.sh"
 read_options "$@"
-[ ${#arguments[@]} -eq 2 ] || usage "DEVICE FILE, or [--jobs N] DEVICES FOLDER"
+[ ${#arguments[@]} -eq 2 ] || usage "DEVICE FILE, or [--jobs N] [--resume] DEVICES FOLDER"
 
 # 1: they differ; 3: one of them cannot be read.
 compare() {
@@ -25,7 +25,14 @@ diff $(quoted "$2")") || return 3
 compare_with_folder() {
   local name=$1/${2##*/} file
   for file in "$name.toml" "$name.bin"; do
-    [ ! -e "$file" ] || { compare "$2" "$file"; return; }
+    [ -e "$file" ] || continue
+    compare "$2" "$file" > "$work/report" && return
+    if grep -q ' -> ' "$work/report"; then
+      { echo "differs:"; sed 's/^/    /' "$work/report"; } > "$work/outcome"
+    else
+      cat "$work/report"
+    fi
+    return 1
   done
   echo "$name: there is neither a .toml nor a .bin" >&2
   return 1

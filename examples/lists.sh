@@ -3,13 +3,22 @@
 
 at_once=1
 
-# Takes --jobs N, how many units are served at once, from the front of the arguments; the rest is in `arguments`.
+resumes=false
+
+# Takes the options from the front of the arguments; the rest is in `arguments`. --jobs N: how many units are served at
+# once. --resume: leaves out those that an earlier run, which failed for others, has done.
 read_options() {
-  if [ "${1-}" = --jobs ]; then
-    [[ ${2-} =~ ^[1-9][0-9]?$ ]] || refuse "--jobs needs a number from 1 to 99"
-    at_once=$2
-    shift 2
-  fi
+  while true; do
+    case ${1-} in
+      --jobs)
+        [[ ${2-} =~ ^[1-9][0-9]?$ ]] || refuse "--jobs needs a number from 1 to 99"
+        at_once=$2
+        shift 2
+        ;;
+      --resume) resumes=true && shift ;;
+      *) break ;;
+    esac
+  done
   arguments=("$@")
 }
 
@@ -19,9 +28,9 @@ read_list() {
   list=$1
   text=$(sed 's/\r$//; s/\(^\|\s\)#.*//; s/^\s\+//; s/\s\+$//; /^$/d' -- "$1") || exit 2
   [ -n "$text" ] || refuse "$1: no device in it"
-  twice=$(sort <<< "$text" | uniq -d)
-  [ -z "$twice" ] || refuse "$1: ${twice%%$'\n'*} is in it twice"
   mapfile -t devices <<< "$text"
+  twice=$(readlink -m -- "${devices[@]}" | sort | uniq -d)
+  [ -z "$twice" ] || refuse "$1: ${twice%%$'\n'*} is in it twice"
 }
 
 # For results that are kept by the name of the device.
@@ -32,12 +41,16 @@ refuse_same_names() {
 }
 
 # Runs a command for one device in a folder of its own, and keeps the outcome: serve NUMBER STATE COMMAND... DEVICE
+# A file "outcome" that the command leaves there is its outcome if it fails.
 serve() {
   local number=$1 state=$2 outcomes=$work/outcomes device=${*: -1}
+  trap '' INT # it ends its transfer
   make_place "$work/$number"
   if "${@:3}" > "$work/said" 2>&1; then
     echo "$device" >> "$state"
     echo done > "$outcomes/$number"
+  elif [ -s "$work/outcome" ]; then
+    mv "$work/outcome" "$outcomes/$number"
   else
     # The last of what was said, with its further lines.
     echo "failed: $(sed '/^[^ ]*: /!H; //h; $!d; g; s/\s\+/ /g; s/^ //; s/^stdin:[0-9]*: //' "$work/said")" > \
@@ -55,12 +68,12 @@ end_with() {
 
 # Runs a command for each device of the list, prints a table of the outcomes, and fails if one has failed:
 # each WHAT COMMAND... The file LIST.EXAMPLE.done has the devices that are done until all are. A later run for the same
-# WHAT, which says what is done to the units, leaves them out.
+# WHAT, which says what is done to the units, leaves them out if it resumes.
 each() {
   local state=$list.$(basename "$0" .sh).done what number=0 device outcome failed=0
   what="# $version $release $(sha256sum <<< "$1" | cut -d ' ' -f 1)"
   shift
-  [ "$(head -n 1 "$state" 2> /dev/null)" = "$what" ] || echo "$what" > "$state" || exit 3
+  "$resumes" && [ "$(head -n 1 "$state" 2> /dev/null)" = "$what" ] || echo "$what" > "$state" || exit 3
   mkdir "$work/outcomes"
   trap 'end_with 130' INT
   trap 'end_with 143' TERM
@@ -79,7 +92,7 @@ each() {
   for device in "${devices[@]}"; do
     number=$((number + 1))
     outcome=$(cat "$work/outcomes/$number" 2> /dev/null) || outcome="failed: was broken off"
-    [[ $outcome != failed* ]] || failed=$((failed + 1))
+    [[ $outcome == done* ]] || failed=$((failed + 1))
     printf '%-24s %s\n' "$device" "$outcome"
   done
   printf '%s\n' "${#devices[@]} units, $failed failed"

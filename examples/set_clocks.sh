@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # Sets the clock of every unit of a list to the time of this machine:
-#   set_clocks.sh [--jobs N] devices.txt
+#   set_clocks.sh [--jobs N] [--resume] devices.txt
 . "$(dirname "$0")/common.sh"
 . "$(dirname "$0")/lists.sh"
 read_options "$@"
-[ ${#arguments[@]} -eq 1 ] || usage "[--jobs N] DEVICES"
+[ ${#arguments[@]} -eq 1 ] || usage "[--jobs N] [--resume] DEVICES"
 read_list "${arguments[0]}"
 
 # CmdUpDow(4) asks for remote mode, CmdUpDow(2) sets the clock that the panel shows.

@@ -64,9 +64,11 @@ Hits ExceptionsWith(const Subject& subject, const Condition& condition) {
   return ExceptionsWith(subject, condition, [](const Exception& exception) { return exception.text; });
 }
 
+// Which of the two is the limit above is not known, so this counts only where they are compared.
 Hits RangeOrder(Subject& subject) {
   return ExceptionsWith(subject, [&](const Exception& exception) {
-    return FirstIsAboveSecond(exception.slot, subject.Firmware());
+    const bool is_compared = exception.IsUsed() && image::OperatorOf(exception.flags) != 0;
+    return is_compared && FirstIsAboveSecond(exception.slot, subject.Firmware());
   });
 }
 
@@ -216,10 +218,10 @@ constexpr std::array kRules = {
     Rule{"text-length", kWarning,
          "The text of exception %1 is stored with the length %2, and its own length is %3.",
          Place::kExceptionReport, kText, TextLength},
-    Rule{"range-order", kWarning, "In the range of exception %1 the first value is above the second.",
+    Rule{"range-order", kNote, "In the range of exception %1 the first value is above the second.",
          Place::kExceptionReport, kRange, RangeOrder},
     Rule{"blank-exception", kWarning,
-         "The text of exception %1 is empty or only blanks, so its actions and its operator do nothing.",
+         "Exception %1 has an action or is not marked as free, but its text is empty or only blanks.",
          Place::kExceptionReport, kText, BlankException},
     Rule{"exception-without-effect", kWarning,
          "Exception %1, \"%2\", is not displayed, put out or kept in the history, and it triggers no alarm.",
@@ -230,8 +232,8 @@ constexpr std::array kRules = {
          "The text of exception %1 is only \"?\", which stands for any character.", Place::kExceptionReport,
          kText, MatchesEverything},
     Rule{"scroll-matching-alone", kWarning,
-         "Exception %1 has SCROLL MATCHING, so its DISPLAY, OUTPUT and HISTORY BUFFER go to OFF when it is "
-         "looked at.",
+         "Exception %1 has SCROLL MATCHING, so its DISPLAY, OUTPUT and HISTORY BUFFER can go to OFF when it "
+         "is looked at.",
          Place::kExceptionReport, "ComboExcp(4)", ScrollMatchingAlone},
     Rule{"display-off", kWarning, "DISPLAY of %1 is ON, but DISPLAY of the text display is OFF.",
          Place::kText, "ComboDIP(6)", DisplayOff},

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace ovl::text_form {
@@ -53,5 +54,23 @@ struct Document {
   std::vector<Entry> entries;  // in the order of the lines
   std::vector<Problem> problems;
 };
+
+inline constexpr int kFormat = 1;  // the version of the form
+inline constexpr std::string_view kFirmwareKey = "firmware", kCompleteKey = "complete";
+
+// Whether the bytes are a text form and no record stream.
+bool IsTextForm(std::string_view bytes);
+
+// The line with this key before the first table; null if there is none.
+const Entry* HeaderOf(const Document& document, std::string_view key);
+
+// What is wrong with the syntax or with the lines before the first table.
+std::vector<Problem> HeaderProblems(const Document& document);
+
+// The firmware that the form names, such as "V1400 R12"; empty if it names none.
+std::string FirmwareNamed(const Document& document);
+
+// The form names every setting of its firmware.
+bool IsComplete(const Document& document);
 
 }  // namespace ovl::text_form

@@ -5,10 +5,10 @@
 #include <vector>
 
 #include "text_form/catalogue.h"
+#include "text_form/document.h"
 
 namespace ovl::text_form {
 
-inline constexpr int kFormat = 1;  // the version of the form
 inline constexpr std::string_view kOtherBytes = "Other bytes";
 
 // A setting as it is stored. Texts are in Windows-1252.

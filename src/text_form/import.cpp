@@ -15,35 +15,28 @@
 namespace ovl::text_form {
 namespace {
 
-constexpr std::string_view kFormatKey = "format", kFirmwareKey = "firmware", kCompleteKey = "complete";
-
-const Entry* HeaderOf(const Document& document, std::string_view key) {
-  const auto found = std::find_if(document.entries.begin(), document.entries.end(), [&](const Entry& entry) {
-    return entry.table.empty() && entry.key == key;
-  });
-  return found == document.entries.end() ? nullptr : &*found;
-}
-
 std::string NameOf(const firmware::FirmwareId& firmware) {
   return firmware.version + " " + firmware.release;
 }
+
+constexpr std::size_t kMostProblems = 100;  // as many as anybody reads at once
 
 class Importer {
  public:
   Importer(Catalogue& catalogue, const image::ConfigImage& base, const Document& document)
       : catalogue_(catalogue), firmware_(catalogue.Firmware()), document_(document) {
     result_.image = base;
-    const auto named = FirmwareNamed(document);
-    const auto known = firmware::FindFirmware(named);
-    foreign_ = !named.empty() && (!known || firmware::ServedFirmware(known->Joined()) != firmware_);
-    const auto* complete = HeaderOf(document, kCompleteKey);
-    complete_ = complete != nullptr && complete->value.kind == ValueKind::kFlag &&
-                complete->value.text == "true" && !foreign_;
+    const auto known = firmware::FindFirmware(FirmwareNamed(document));
+    foreign_ = known && firmware::ServedFirmware(known->Joined()) != firmware_;
+    complete_ = IsComplete(document) && !foreign_;
   }
 
   Imported Run() {
-    ReadHeader();
+    result_.problems = HeaderProblems(document_);
     if (!result_.problems.empty()) return std::move(result_);
+    if (foreign_)
+      Say(HeaderOf(document_, kFirmwareKey)->value.at,
+          "the text is of " + FirmwareNamed(document_) + ", this program serves " + NameOf(firmware_), true);
     if (complete_) Clear();
     for (const auto& entry : document_.entries) {
       if (entry.table.empty()) continue;
@@ -58,36 +51,13 @@ class Importer {
     if (complete_ && result_.problems.empty()) ExpectAll();
     std::stable_sort(result_.problems.begin(), result_.problems.end(),
                      [](const Problem& one, const Problem& other) { return one.at < other.at; });
+    if (result_.problems.size() > kMostProblems) result_.problems.resize(kMostProblems);
     return std::move(result_);
   }
 
  private:
   void Say(Position at, std::string words, bool of_other_firmware = false) {
     result_.problems.push_back({at, std::move(words), of_other_firmware});
-  }
-
-  void ReadHeader() {
-    const auto* format = HeaderOf(document_, kFormatKey);
-    if (format == nullptr) {
-      Say({1, 1}, "the line \"format = " + std::to_string(kFormat) + "\" is missing");
-    } else if (format->value.text != std::to_string(kFormat)) {
-      Say(format->value.at, "format " + format->value.text + " is not known; this program reads format " +
-                                std::to_string(kFormat));
-    }
-    if (!result_.problems.empty()) return;
-    const std::vector<std::string> keys = {std::string(kFormatKey), std::string(kFirmwareKey),
-                                           std::string(kCompleteKey)};
-    for (const auto& entry : document_.entries) {
-      if (!entry.table.empty()) continue;
-      if (std::find(keys.begin(), keys.end(), entry.key) == keys.end()) {
-        Say(entry.at, InQuotes(entry.key) + " is in no table" + Suggestion(entry.key, keys));
-      } else if (entry.key == kCompleteKey && entry.value.kind != ValueKind::kFlag) {
-        Say(entry.value.at, Written(entry.value) + " is not allowed here; allowed: true, false");
-      } else if (entry.key == kFirmwareKey && entry.value.kind != ValueKind::kText) {
-        Say(entry.value.at,
-            Written(entry.value) + " is not allowed here; allowed: a text such as \"V1400 R12\"");
-      }
-    }
   }
 
   // What is not named is zero in a complete form.
@@ -132,6 +102,8 @@ class Importer {
 
   void Take(const Setting& setting, const Entry& entry) {
     const auto& value = entry.value;
+    if (value.kind == ValueKind::kBytes && foreign_)
+      return Say(value.at, "the bytes of another firmware are not taken", true);
     if (value.kind == ValueKind::kBytes) {
       if (!StoreDigits(setting, value.text, result_.image, firmware_)) {
         Say(value.at,
@@ -170,9 +142,11 @@ class Importer {
     }
     const auto found = targets_.find(entry.key);
     if (found != targets_.end()) return &found->second;
-    std::vector<std::string> names;
-    for (const auto& [name, target] : targets_) names.push_back(name);
-    Say(entry.at, InQuotes(entry.key) + " is no field of " + NameOf(firmware_) + Suggestion(entry.key, names),
+    if (field_names_.empty()) {
+      for (const auto& [name, target] : targets_) field_names_.push_back(name);
+    }
+    Say(entry.at,
+        InQuotes(entry.key) + " is no field of " + NameOf(firmware_) + Suggestion(entry.key, field_names_),
         foreign_);
     return nullptr;
   }
@@ -183,29 +157,69 @@ class Importer {
     for (const auto* entry : others_) {
       const auto* target = TargetOf(*entry);
       if (target == nullptr) continue;
-      auto& value = result_.image.at(target->row->id, target->entry);
-      const auto width = DigitsOfField(target->row->id, firmware_);
-      if (entry->value.kind == ValueKind::kDigits) {
-        as_they_are_.push_back({*target, entry->value.text});
-        continue;
+      if (foreign_) {
+        Say(entry->at, "the bytes of another firmware are not taken", true);
+      } else if (entry->value.kind == ValueKind::kDigits) {
+        TakeAsItIs(*target, *entry);
+      } else if (IsBytes(*target, *entry)) {
+        TakeBits(panels, *target, *entry);
       }
-      auto digits = entry->value.text;
-      if (entry->value.kind != ValueKind::kText || digits.size() > width || digits.size() % 2 != 0 ||
-          !IsRegular(digits, digits.size())) {
-        const auto most = std::to_string(width / 2) + (width == 2 ? " byte" : " bytes");
-        Say(entry->value.at, Written(entry->value) + " is not allowed here; allowed: at most " + most +
-                                 " of two digits 0 to 9 and A to F");
-        continue;
-      }
-      digits.resize(width, '0');
-      const auto shown = panels.Inside(target->row->id, target->entry, digits);
-      if (shown.find_first_not_of('0') != std::string::npos) {
-        Say(entry->value.at, InQuotes(entry->value.text) + " has bits that other lines store");
-        continue;
-      }
-      if (!IsRegular(value, width)) value.assign(width, '0');
-      Merge(value, digits, panels.Outside(target->row->id, target->entry, std::string(width, 'F')));
     }
+  }
+
+  // A field of another length shifts what is behind it in a download, so it is only for the whole of an
+  // image.
+  void TakeAsItIs(const Target& target, const Entry& entry) {
+    if (!complete_)
+      return Say(entry.value.at, Written(entry.value) + " is allowed only with the line \"complete = true\"");
+    for (const auto* setting : named_) {
+      const bool is_inside = std::all_of(
+          setting->parts.begin(), setting->parts.end(),
+          [&](const FieldPart& part) { return part.field == target.row->id && part.entry == target.entry; });
+      if (is_inside)
+        return Say(entry.value.at, "the line " + InQuotes(setting->key) + " of [" + setting->table +
+                                       "] stores this field too: leave out one of them");
+    }
+    as_they_are_.push_back({target, entry.value.text});
+  }
+
+  bool IsBytes(const Target& target, const Entry& entry) {
+    const auto& digits = entry.value.text;
+    const auto width = DigitsOfField(target.row->id, firmware_);
+    if (entry.value.kind == ValueKind::kText && digits.size() <= width && digits.size() % 2 == 0 &&
+        IsRegular(digits, digits.size()))
+      return true;
+    const auto most = std::to_string(width / 2) + (width == 2 ? " byte" : " bytes");
+    Say(entry.value.at, Written(entry.value) + " is not allowed here; allowed: at most " + most +
+                            " of two digits 0 to 9 and A to F");
+    return false;
+  }
+
+  void TakeBits(const Coverage& panels, const Target& target, const Entry& entry) {
+    const auto width = DigitsOfField(target.row->id, firmware_);
+    const auto mask = panels.Outside(target.row->id, target.entry, std::string(width, 'F'));
+    auto digits = entry.value.text;
+    digits.resize(width, '0');
+    if (IsZero(mask) || !IsZero(panels.Inside(target.row->id, target.entry, digits)))
+      return Say(entry.value.at, InQuotes(entry.value.text) + " has bits that other lines store");
+    auto& value = result_.image.at(target.row->id, target.entry);
+    if (!IsRegular(value, width)) value.assign(width, '0');
+    Merge(value, digits, mask);
+    bits_taken_.push_back({target, {&entry, digits}});
+  }
+
+  // The options of the register are known only later.
+  void ExpectOtherBits(const std::vector<std::pair<Setting, const Entry*>>& options) {
+    Coverage coverage;
+    for (const auto& [setting, entry] : options) coverage.Add(setting, firmware_);
+    for (const auto& [target, line] : bits_taken_) {
+      if (!IsZero(coverage.Inside(target.row->id, target.entry, line.second)))
+        Say(line.first->value.at, InQuotes(line.first->value.text) + " has bits that an option stores");
+    }
+  }
+
+  static bool IsZero(std::string_view digits) {
+    return digits.find_first_not_of('0') == std::string_view::npos;
   }
 
   // The bits of the mask from the digits, the others stay.
@@ -238,6 +252,7 @@ class Importer {
       if (!is_taken) SayNoOption(*entry);
     }
     for (const auto& [target, digits] : as_they_are_) result_.image.at(target.row->id, target.entry) = digits;
+    ExpectOtherBits(taken);
     if (result_.problems.empty()) ExpectTogether(taken);
   }
 
@@ -324,26 +339,13 @@ class Importer {
   std::set<const Setting*> named_;
   std::set<std::string> unknown_tables_;
   std::vector<const Entry*> others_, options_;
+  std::vector<std::string> field_names_;
   std::map<std::string, Target> targets_;  // by the names of the fields
+  std::vector<std::pair<Target, std::pair<const Entry*, std::string>>> bits_taken_;
   std::vector<std::pair<Target, std::string>> as_they_are_;
 };
 
 }  // namespace
-
-std::string TextOf(const Problem& problem, std::string_view path) {
-  return std::string(path) + ":" + std::to_string(problem.at.line) + ":" + std::to_string(problem.at.column) +
-         ": " + problem.words;
-}
-
-bool IsTextForm(std::string_view bytes) {
-  return bytes.starts_with(kFormatKey) ||
-         bytes.find("\n" + std::string(kFormatKey)) != std::string_view::npos;
-}
-
-std::string FirmwareNamed(const Document& document) {
-  const auto* entry = HeaderOf(document, kFirmwareKey);
-  return entry == nullptr || entry->value.kind != ValueKind::kText ? std::string() : entry->value.text;
-}
 
 Imported Import(Catalogue& catalogue, const image::ConfigImage& base, const Document& document,
                 Strictness strictness) {

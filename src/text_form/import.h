@@ -20,10 +20,4 @@ struct Imported {
 Imported Import(Catalogue& catalogue, const image::ConfigImage& base, const Document& document,
                 Strictness strictness);
 
-// Whether the bytes are a text form and no record stream.
-bool IsTextForm(std::string_view bytes);
-
-// The firmware that the form names, such as "V1400 R12"; empty if it names none.
-std::string FirmwareNamed(const Document& document);
-
 }  // namespace ovl::text_form

@@ -63,7 +63,12 @@ std::string Escaped(std::string_view text) {
 }
 
 std::string InQuotes(std::string_view text) {
-  return "\"" + Escaped(text) + "\"";
+  constexpr std::size_t kMost = 80;
+  if (text.size() <= kMost) return "\"" + Escaped(text) + "\"";
+  // Not within a character of UTF-8.
+  auto end = kMost;
+  while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) --end;
+  return "\"" + Escaped(text.substr(0, end)) + "...\"";
 }
 
 std::string Written(const Value& value) {

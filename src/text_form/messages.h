@@ -10,7 +10,7 @@
 
 namespace ovl::text_form {
 
-// Control characters become their escapes, so that a message is one line.
+// Control characters become their escapes, so that a message is one line. A long text is cut in quotes.
 std::string Escaped(std::string_view text);
 std::string InQuotes(std::string_view text);
 

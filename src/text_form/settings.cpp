@@ -147,6 +147,7 @@ std::optional<std::string> RecordWith(const Setting& setting, std::string_view t
     image::StoreExceptionText(record, firmware, std::string(text));
     return record;
   }
+  if (!text.empty() && (text.front() == ' ' || text.back() == ' ')) return std::nullopt;
   return record.substr(0, setting.parts.front().digits.first) + image::PaddedText(text) + "00";
 }
 
@@ -174,9 +175,20 @@ std::string Allowed(const Setting& setting, const firmware::FirmwareId& firmware
       return "1 to " + std::to_string(setting.parts.size()) + " decimal digits";
     case Kind::kRange:
       return "two values such as \"0.00 - 100.00\", with " +
-             std::to_string(firmware::RangeIntegersOf(firmware)) + " digits at most before the separator";
-    default:
+             std::to_string(firmware::RangeIntegersOf(firmware)) +
+             " digits at most before the separator and two behind it";
+    case Kind::kExceptionText:
       return "a text of at most 40 characters";
+    default:
+      return "a text of at most 40 characters, without a blank at its ends";
+  }
+}
+
+// A field of another length becomes zero before a part of it is stored.
+void MakeRegular(const Setting& setting, image::ConfigImage& image, const firmware::FirmwareId& firmware) {
+  for (const auto& part : setting.parts) {
+    auto& value = image.at(part.field, part.entry);
+    if (!IsRegularPart(part, image, firmware)) value.assign(DigitsOfField(part.field, firmware), '0');
   }
 }
 
@@ -230,16 +242,14 @@ std::optional<std::string> WordsOf(const Setting& setting, const image::ConfigIm
 
 std::optional<std::string> StoreWords(const Setting& setting, std::string_view words,
                                       image::ConfigImage& image, const firmware::FirmwareId& firmware) {
-  for (const auto& part : setting.parts) {
-    auto& value = image.at(part.field, part.entry);
-    if (!IsRegularPart(part, image, firmware)) value.assign(DigitsOfField(part.field, firmware), '0');
-  }
+  const auto* choice = setting.kind == Kind::kChoice ? ChoiceNamed(*setting.choices, words) : nullptr;
+  if (setting.kind == Kind::kChoice && choice == nullptr) return Allowed(setting, firmware);
+  MakeRegular(setting, image, firmware);
   bool stored = false;
   if (setting.kind == Kind::kChoice) {
-    const auto* choice = ChoiceNamed(*setting.choices, words);
-    for (std::size_t part = 0; choice != nullptr && part < setting.parts.size(); ++part)
+    for (std::size_t part = 0; part < setting.parts.size(); ++part)
       Store(image, setting.parts[part], choice->stored[part]);
-    stored = choice != nullptr;
+    stored = true;
   } else if (setting.kind == Kind::kNumber) {
     stored = StoreNumber(setting, words, image);
   } else if (setting.kind == Kind::kRange) {
@@ -276,14 +286,14 @@ bool StoreDigits(const Setting& setting, std::string_view digits, image::ConfigI
   if (values.size() != setting.parts.size()) return false;
   for (std::size_t place = 0; place < values.size(); ++place) {
     const auto& part = setting.parts[place];
-    const auto width = DigitsOfField(part.field, firmware);
-    auto& value = image.at(part.field, part.entry);
-    if (!IsRegular(value, width)) value.assign(width, '0');
-    const auto held = StoredIn(image, part);
-    if (!IsRegular(values[place], held.size())) return false;
-    if (part.bits != core::kWholeByte && (codecs::HexToInt(values[place]) & ~part.bits) != 0) return false;
-    Store(image, part, values[place]);
+    const auto width = std::min(part.digits.count, DigitsOfField(part.field, firmware) - part.digits.first);
+    const bool whole = part.bits == core::kWholeByte;
+    if (!IsRegular(values[place], whole ? width : kByte)) return false;
+    if (!whole && (codecs::HexToInt(values[place]) & ~part.bits) != 0) return false;
   }
+  MakeRegular(setting, image, firmware);
+  for (std::size_t place = 0; place < values.size(); ++place)
+    Store(image, setting.parts[place], values[place]);
   return true;
 }
 

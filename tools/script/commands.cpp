@@ -3,13 +3,14 @@
 #include <algorithm>
 #include <array>
 #include <map>
-#include <optional>
+#include <utility>
 
 #include "acts/backup.h"
 #include "checks/checks.h"
 #include "core/failure.h"
 #include "host/configurations/configurations.h"
 #include "host/files.h"
+#include "host/toml/toml_reader.h"
 #include "script/finding_lines.h"
 #include "script/text_statements.h"
 #include "text_form/export.h"
@@ -41,14 +42,29 @@ File ReadFile(const std::string& path) {
   return {path, host::DiskFiles().read(path)};
 }
 
+// A text form that does not name every setting.
+bool IsPart(const File& file) {
+  return text_form::IsTextForm(file.bytes) && !text_form::IsComplete(host::ReadToml(file.bytes));
+}
+
+// That of a text form counts for the other file too.
+firmware::FirmwareId FirmwareOf(const File& one, const File& other, const std::string& named) {
+  const bool other_names_it =
+      text_form::IsTextForm(other.bytes) && !text_form::FirmwareNamed(host::ReadToml(other.bytes)).empty();
+  const auto& file = other_names_it && !text_form::IsTextForm(one.bytes) ? other : one;
+  return host::FirmwareOf(file.path, file.bytes, named);
+}
+
+// A part of a configuration is compared with the other file as if that held it.
 ExitStatus Diff(const Wanted& wanted, std::ostream& output, std::ostream&) {
   const auto one = ReadFile(wanted.paths[0]), other = ReadFile(wanted.paths[1]);
-  const bool one_is_text = text_form::IsTextForm(one.bytes),
-             other_is_text = text_form::IsTextForm(other.bytes);
-  const auto& with_firmware = one_is_text && !other_is_text ? other : one;
-  host::Viewer viewer(host::FirmwareOf(with_firmware.path, with_firmware.bytes, wanted.firmware));
-  const auto before = host::ReadConfiguration(viewer, one.path, one.bytes);
-  const auto after = host::ReadConfiguration(viewer, before, other.path, other.bytes);
+  host::Viewer viewer(FirmwareOf(one, other, wanted.firmware));
+  const bool part_is_first = IsPart(one);
+  const auto& whole = part_is_first ? other : one;
+  const auto& second = part_is_first ? one : other;
+  auto before = host::ReadConfiguration(viewer, whole.path, whole.bytes);
+  auto after = host::ReadConfiguration(viewer, before, second.path, second.bytes);
+  if (part_is_first) std::swap(before, after);
   const bool differ = PrintDifferences(output, *viewer.app, before, after);
   return differ ? ExitStatus::kExpectationFailed : ExitStatus::kDone;
 }

@@ -21,6 +21,12 @@ firmware::FirmwareId KnownFirmware(const std::string& name) {
   throw NoConfiguration(name + ": there is no such firmware");
 }
 
+void ThrowProblems(const std::vector<text_form::Problem>& problems, const std::string& path) {
+  std::string words;
+  for (const auto& problem : problems) words += (words.empty() ? "" : "\n") + TextOf(problem, path);
+  if (!words.empty()) throw NoConfiguration(words);
+}
+
 std::string NamesOf(const std::vector<image::FirmwareFit>& fits) {
   std::string names;
   for (const auto& fit : fits) names += (names.empty() ? "" : ", ") + fit.firmware.Joined();
@@ -43,17 +49,16 @@ image::ConfigImage ReadTextForm(text_form::Catalogue& catalogue, const image::Co
                                 text_form::Strictness strictness, std::string& left_out) {
   const auto imported = text_form::Import(catalogue, base, ReadToml(bytes), strictness);
   for (const auto& problem : imported.left_out) left_out += TextOf(problem, path) + "\n";
-  std::string problems;
-  for (const auto& problem : imported.problems)
-    problems += (problems.empty() ? "" : "\n") + TextOf(problem, path);
-  if (!problems.empty()) throw NoConfiguration(problems);
+  ThrowProblems(imported.problems, path);
   return imported.image;
 }
 
 firmware::FirmwareId FirmwareOf(const std::string& path, std::string_view bytes, const std::string& named) {
   if (!named.empty()) return KnownFirmware(named);
   if (text_form::IsTextForm(bytes)) {
-    const auto of_form = text_form::FirmwareNamed(ReadToml(bytes));
+    const auto document = ReadToml(bytes);
+    ThrowProblems(text_form::HeaderProblems(document), path);
+    const auto of_form = text_form::FirmwareNamed(document);
     if (!of_form.empty()) return KnownFirmware(of_form);
     throw NoConfiguration(path + ": the text form names no firmware. Name it with --firmware");
   }
@@ -82,6 +87,8 @@ image::ConfigImage ReadConfiguration(Viewer& viewer, const image::ConfigImage& b
 }
 
 image::ConfigImage ReadConfiguration(Viewer& viewer, const std::string& path, std::string_view bytes) {
+  if (text_form::IsTextForm(bytes) && !text_form::IsComplete(ReadToml(bytes)))
+    throw NoConfiguration(path + ": the text form names only a part of a configuration");
   return ReadConfiguration(viewer, text_form::FilledImage(viewer.catalogue.Firmware(), '0'), path, bytes);
 }
 

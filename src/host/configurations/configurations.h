@@ -40,7 +40,7 @@ firmware::FirmwareId FirmwareOf(const std::string& path, std::string_view bytes,
 image::ConfigImage ReadConfiguration(Viewer& viewer, const image::ConfigImage& base, const std::string& path,
                                      std::string_view bytes);
 
-// The same on an image of zeros.
+// The same without a base: a text form must be complete.
 image::ConfigImage ReadConfiguration(Viewer& viewer, const std::string& path, std::string_view bytes);
 
 }  // namespace ovl::host

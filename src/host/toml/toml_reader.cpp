@@ -5,6 +5,7 @@
 #include <toml++/toml.h>
 
 #include <algorithm>
+#include <optional>
 
 #include "text_form/messages.h"
 
@@ -61,6 +62,20 @@ Value ValueOf(const toml::node& node) {
   return value;
 }
 
+// The library calls itself for each part of a name, so a long one would use up the stack.
+std::optional<text_form::Problem> TooMuch(std::string_view text) {
+  constexpr std::size_t kMostBytes = 1'000'000;
+  constexpr int kMostPoints = 100;
+  if (text.size() > kMostBytes) return text_form::Problem{{1, 1}, "the file is too large for a text form"};
+  int line = 1, points = 0;
+  for (const char letter : text) {
+    points = letter == '\n' ? 0 : points + (letter == '.' ? 1 : 0);
+    line += letter == '\n' ? 1 : 0;
+    if (points > kMostPoints) return text_form::Problem{{line, 1}, "the line has too many points"};
+  }
+  return std::nullopt;
+}
+
 void AddEntry(Document& document, std::string table, const toml::key& key, const toml::node& node) {
   document.entries.push_back(
       {std::move(table), std::string(key.str()), PositionOf(key.source().begin), ValueOf(node)});
@@ -70,6 +85,7 @@ void AddEntry(Document& document, std::string table, const toml::key& key, const
 
 Document ReadToml(std::string_view text) {
   Document document;
+  if (auto problem = TooMuch(text)) return {{}, {std::move(*problem)}};
   const auto parsed = toml::parse(text);
   if (!parsed) {
     const auto& error = parsed.error();
@@ -83,8 +99,9 @@ Document ReadToml(std::string_view text) {
       AddEntry(document, {}, key, node);
       continue;
     }
-    for (const auto& [inner_key, inner] : *table)
-      AddEntry(document, std::string(key.str()), inner_key, inner);
+    // A table without a name must not count as the lines before the first table.
+    const auto name = key.str().empty() ? "\"\"" : std::string(key.str());
+    for (const auto& [inner_key, inner] : *table) AddEntry(document, name, inner_key, inner);
   }
   std::sort(document.entries.begin(), document.entries.end(),
             [](const Entry& one, const Entry& other) { return one.at < other.at; });

@@ -126,9 +126,12 @@ void TextActs::Import() {
   if (path.empty()) return;
   const auto bytes = BytesOf(path, QStringLiteral("Not imported: "));
   if (!bytes) return;
+  const auto base = app_.image;
   const auto image = ImageOfText(path, *bytes);
-  // While the problems are on the screen, the unit can start something else.
+  // While the window is on the screen, the unit can start something else, or bring another configuration.
   if (!image || !CanAct()) return;
+  if (app_.image != base)
+    return hooks_.show_text(QStringLiteral("Not imported: the configuration has changed meanwhile"));
   hooks_.run("Import " + NameOf(path).toStdString(), [&] { core::TakeImage(app_, *image); });
   hooks_.show_text(QStringLiteral("Text imported: ") + QDir::toNativeSeparators(Decoded(path)));
 }

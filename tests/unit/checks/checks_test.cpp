@@ -124,11 +124,11 @@ std::vector<Row> ExceptionRows() {
   const std::string used = Exception(3, "REFUND"), report = "pick ComboExcepRe(0) \"ON\"\n";
   const std::string second = Exception(7, "REFUND") + "pick ComboExcp(3) 1\n";
   return {
-      {"range-order", used + Range("500", "499"),
+      {"range-order", used + "pick ComboExcp(5) \"IN\"\n" + Range("500", "499"),
        "In the range of exception 3 the first value is above the second.", "cmdSetRange", Range("500", "500"),
        3},
       {"blank-exception", "pick ComboExcp(0) 2\npick ComboExcp(1) \"ON\"\n",
-       "The text of exception 3 is empty or only blanks", "cmdSetExcpstr", "pick ComboExcp(1) \"OFF\"\n", 3},
+       "Exception 3 has an action or is not marked as free", "cmdSetExcpstr", "pick ComboExcp(1) \"OFF\"\n", 3},
       {"exception-without-effect", used, "Exception 3, \"REFUND\", is not displayed", "ComboExcp(2)",
        "pick ComboExcp(3) \"ON\"\n", 3},
       {"exception-without-effect", Exception(13, "X") + "pick ComboALM(1) \"1-12\"\n", "Exception 13",

@@ -174,22 +174,22 @@ text = "\u4E2D")",
      R"(3:8 "中" has characters that the unit does not have)"},
     {R"(["Exception 1"]
 RANGE = "5")",
-     R"(3:9 "5" is not allowed for "RANGE"; allowed: two values such as "0.00 - 100.00", with 8 digits at most before the separator)"},
+     R"(3:9 "5" is not allowed for "RANGE"; allowed: two values such as "0.00 - 100.00", with 8 digits at most before the separator and two behind it)"},
     {R"(["Exception 1"]
 RANGE = "1.0 - 2.00")",
-     R"(3:9 "1.0 - 2.00" is not allowed for "RANGE"; allowed: two values such as "0.00 - 100.00", with 8 digits at most before the separator)"},
+     R"(3:9 "1.0 - 2.00" is not allowed for "RANGE"; allowed: two values such as "0.00 - 100.00", with 8 digits at most before the separator and two behind it)"},
     {R"(["Exception 1"]
 RANGE = "123456789.00 - 2.00")",
-     R"(3:9 "123456789.00 - 2.00" is not allowed for "RANGE"; allowed: two values such as "0.00 - 100.00", with 8 digits at most before the separator)"},
+     R"(3:9 "123456789.00 - 2.00" is not allowed for "RANGE"; allowed: two values such as "0.00 - 100.00", with 8 digits at most before the separator and two behind it)"},
     {R"(["Exception 1"]
 RANGE = "-1.00 - 2.00")",
-     R"(3:9 "-1.00 - 2.00" is not allowed for "RANGE"; allowed: two values such as "0.00 - 100.00", with 8 digits at most before the separator)"},
+     R"(3:9 "-1.00 - 2.00" is not allowed for "RANGE"; allowed: two values such as "0.00 - 100.00", with 8 digits at most before the separator and two behind it)"},
     {R"(["Exception 2"]
 OPERATOR = "AND")",
      R"(3:12 "AND" is not allowed for "OPERATOR"; allowed: "NONE", "IN", "OUT". Did you mean "IN"?)"},
     {R"(["TIME / LANGUAGE"]
 TITLE = "12345678901234567890123456789012345678901")",
-     R"(3:9 "12345678901234567890123456789012345678901" is not allowed for "TITLE"; allowed: a text of at most 40 characters)"},
+     R"(3:9 "12345678901234567890123456789012345678901" is not allowed for "TITLE"; allowed: a text of at most 40 characters, without a blank at its ends)"},
     {R"(["REGISTER SELECT"]
 Register = "GENRIC")",
      R"(3:12 "GENRIC" is not allowed for "Register"; allowed: one of 111 entries, from "GENERIC" to "WEIGH SCALE". Did you mean "GENERIC"?)"},
@@ -239,6 +239,30 @@ RX_BAUDRATE = "03")",
     {R"(["Other bytes"]
 "EXCPSTRS" = "00")",
      R"(3:1 "EXCPSTRS" is no field of V1400 R12)"},
+    {R"(["Other bytes"]
+RX_BAUDRATE = "00")",
+     R"(3:15 "00" has bits that other lines store)"},
+    {R"(["Other bytes"]
+COMMCFG_BAK = { digits = "00" })",
+     R"(3:15 { digits = "00" } is allowed only with the line "complete = true")"},
+    {R"(["REGISTER SELECT"]
+Register = "BLEEP"
+Model = "TS5000"
+["Other bytes"]
+REGTYPE_MINOR = "01")",
+     R"(6:17 "01" has bits that an option stores)"},
+    {R"(firmware = "V9999 R9")", R"(2:12 "V9999 R9" is no firmware that this program serves)"},
+    {R"(firmware = "V1300 R14"
+[COMMUNICATION]
+PARITY = { bytes = "00" })",
+     R"(2:12 the text is of V1300 R14, this program serves V1400 R12
+4:10 the bytes of another firmware are not taken)"},
+    {R"([""]
+complete = true)",
+     R"(3:1 there is no table [""])"},
+    {R"(["Alarm 1"]
+text = " DOOR")",
+     R"(3:8 " DOOR" is not allowed for "text"; allowed: a text of at most 40 characters, without a blank at its ends)"},
     {R"(complete = true
 [COMMUNICATION]
 PARITY = "EVEN")",
@@ -264,6 +288,13 @@ TEST_F(TextForm, EveryErrorHasItsPlaceAndWhatIsAllowed) {
       EXPECT_EQ(said, std::string(broken.said) + "\n") << broken.text;
     }
   }
+  // A name of many parts, which would end the library, and many errors.
+  std::string name = "a";
+  for (int part = 0; part < 30'000; ++part) name += ".a";
+  EXPECT_EQ(ProblemsIn("format = 1\n" + name + " = 1"), "2:1 the line has too many points\n");
+  std::string fields = "format = 1\n['Other bytes']\n";
+  for (int field = 0; field < 500; ++field) fields += "X" + std::to_string(field) + " = '00'\n";
+  EXPECT_EQ(Read(fields).problems.size(), 100U);
   EXPECT_EQ(ProblemsIn(""), "1:1 the line \"format = 1\" is missing\n");
   EXPECT_EQ(ProblemsIn("format = 2\nfuture = 1"),
             "1:10 format 2 is not known; this program reads format 1\n");
