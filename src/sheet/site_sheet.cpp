@@ -101,15 +101,15 @@ std::string Sections(const Lines& lines, const image::ConfigImage& image) {
   return html;
 }
 
-std::string FindingsOf(std::span<const Remark> findings) {
-  if (findings.empty()) return {};
+std::string FindingsOf(std::span<const checks::Finding> findings) {
+  if (findings.empty()) return Head("Checks") + "<p>The checks found nothing.</p>\n";
   std::string rows;
   std::size_t shown = 0;
   for (std::size_t lines = 0; shown < findings.size(); ++shown) {
     const auto& finding = findings[shown];
     lines += finding.words.size() / kLettersOfLine + 1;
     if (lines > kLinesForFindings) break;
-    rows += RowOf({Cell("value", Html(finding.severity), "9%"), Cell("words", Html(finding.words))});
+    rows += RowOf({Cell("value", Html(NameOf(finding.severity)), "9%"), Cell("words", Html(finding.words))});
   }
   if (shown < findings.size()) {
     const auto rest = std::to_string(findings.size() - shown);
@@ -141,7 +141,7 @@ std::string HandLines() {
 }  // namespace
 
 std::string SiteSheet(const core::Application& like, const image::ConfigImage& image,
-                      std::span<const Remark> findings) {
+                      std::span<const checks::Finding> findings) {
   text_form::Catalogue catalogue(like);
   const auto lines = text_form::LinesOf(catalogue, image);
   const auto sum = Checksum(image, like.image_firmware).value_or("none: the configuration is not complete");

@@ -72,7 +72,8 @@ int main(int argc, char** argv) {
       ovl::ui::CommandLine::Need::kOptional);
   if (const auto status = command_line.Read(argc, argv)) return *status;
   const ovl::ui::SheetRequest sheet{command_line.Value(sheet_option), command_line.Argument(),
-                                    command_line.Value(paper_option), command_line.Value(firmware_option)};
+                                    command_line.Value(paper_option), command_line.Value(firmware_option),
+                                    command_line.Folder()};
   if (const auto problem = WrongUsageOf(sheet); !problem.isEmpty()) return command_line.Refuse(problem);
   const auto guide = command_line.Value(guide_option);
   if (!guide.isEmpty() || !sheet.file.isEmpty()) ovl::ui::DrawWithoutDisplay();

@@ -22,6 +22,10 @@ QString SheetOfFile(const SheetRequest& request) {
   const auto path = QFile::encodeName(request.configuration).toStdString();
   const auto bytes = host::DiskFiles().read(path);
   host::Viewer viewer(host::FirmwareOf(path, bytes, request.firmware.toStdString()));
+  if (!request.folder.isEmpty()) {
+    viewer.app->platform.files = host::DiskFiles();
+    viewer.app->platform.program_folder = QFile::encodeName(request.folder).toStdString();
+  }
   return SiteSheetOf(*viewer.app, host::ReadConfiguration(viewer, path, bytes));
 }
 

@@ -10,6 +10,7 @@ struct SheetRequest {
   QString configuration;  // a record stream or a text form
   QString paper;          // empty: A4
   QString firmware;       // "V1400R12"; empty: what the configuration says
+  QString folder;         // with the default images, for the checks; may be empty
 };
 
 // What is wrong with the request; empty if nothing is.

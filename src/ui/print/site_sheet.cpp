@@ -27,7 +27,7 @@ core::Result WriteHtml(const QString& sheet, const QString& file) {
 }  // namespace
 
 QString SiteSheetOf(const core::Application& like, const image::ConfigImage& image) {
-  return QString::fromStdString(sheet::SiteSheet(like, image, {}));
+  return QString::fromStdString(sheet::SiteSheet(like, image, checks::FindingsOf(like, image)));
 }
 
 // The document has the size of what the margins leave of the paper. Without a size it would print with

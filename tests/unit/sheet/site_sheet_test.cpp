@@ -34,7 +34,7 @@ class SiteSheet : public ::testing::Test {
     app_.image = text_form::FilledImage(app_.image_firmware, '0');
   }
 
-  std::string Text(std::span<const sheet::Remark> findings = {}) const {
+  std::string Text(std::span<const checks::Finding> findings = {}) const {
     return WithoutTags(sheet::SiteSheet(app_, app_.image, findings));
   }
   bool Has(const std::string& text) const { return Text().find(text) != std::string::npos; }
@@ -64,7 +64,9 @@ TEST_F(SiteSheet, HasTheExceptionsAndAlarmsThatAreInUse) {
 }
 
 TEST_F(SiteSheet, SaysHowManyFindingsHaveNoRoom) {
-  const std::vector<sheet::Remark> findings(30, {"warning", "Words"});
+  checks::Finding finding;
+  finding.words = "Words";
+  const std::vector<checks::Finding> findings(30, finding);
   EXPECT_NE(Text(findings).find("And 13 more."), std::string::npos);
 }
 

@@ -47,12 +47,12 @@ class SiteSheetFile : public ::testing::TestWithParam<firmware::FirmwareId> {};
 TEST_P(SiteSheetFile, OfAFullConfigurationHasTwoPages) {
   core::Application app;
   start::ServeFirmware(app, GetParam());
-  const std::vector<sheet::Remark> remarks(
-      40,
-      {"warning",
-       "Exception 24, \"24 AMOUNT & WIDE <VOID> MW@#%WWWWWWWWWWW\", is not displayed, put out or kept in the "
-       "history, and it triggers no alarm."});
-  const auto sheet = QString::fromStdString(sheet::SiteSheet(app, FullImage(GetParam()), remarks));
+  checks::Finding finding;
+  finding.words =
+      "Exception 24, \"24 AMOUNT & WIDE <VOID> MW@#%WWWWWWWWWWW\", is not displayed, put out or kept in the "
+      "history, and it triggers no alarm.";
+  const std::vector<checks::Finding> findings(40, finding);
+  const auto sheet = QString::fromStdString(sheet::SiteSheet(app, FullImage(GetParam()), findings));
   const TemporaryFolder folder;
   const auto file = QString::fromStdString(folder.File("sheet.pdf"));
   for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
