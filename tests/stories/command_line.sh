@@ -42,9 +42,10 @@ prints 2 err --no-such-option
 prints 1 err
 [[ $(cat err) == "ovl: OVL Software needs a display "* && $(wc -l < err) = 1 ]] || fail "not one sentence"
 
-printf 'format = 1\nfirmware = "V1400 R12"\n' > site.toml
-"$program" --sheet sheet.pdf --paper Letter site.toml > out 2> err && [ "$(head -c 5 sheet.pdf)" = %PDF- ] || fail "no sheet"
+"$(dirname "$program")/ovl-images" . V1300R14 > out
+cp V1300/R14/GENERIC.bin "V1300R14 site.bin"
+"$program" --sheet sheet.pdf --paper Letter "V1300R14 site.bin" > out 2> err && [ "$(head -c 5 sheet.pdf)" = %PDF- ] || fail "no sheet"
 prints 1 err --sheet sheet.pdf missing.toml
 [[ $(cat err) == "ovl: the sheet cannot be written: missing.toml: "* ]] || fail "the missing file is not named"
-prints 2 err --sheet sheet.doc site.toml
+prints 2 err --sheet sheet.doc "V1300R14 site.bin"
 prints 2 err --paper A4

@@ -24,7 +24,7 @@ offers() {
 }
 
 offers '--firmware|--folder' ovl --f
-offers '--firmware|--help|--version' ovl-script --
+offers '--firmware|--folder|--help|--json|--version' ovl-script --
 offers '--list' ovl-setup --l
 offers 'folder' ovl --folder fo
 offers 'fo file|folder' ovl fo
