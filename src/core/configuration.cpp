@@ -53,6 +53,7 @@ std::string SectionsToStream(Application& app) {
 
 void TakeImage(Application& app, const image::ConfigImage& image) {
   const bool were_ready = app.PanelsReady;
+  const auto mode = std::exchange(app.LinkMode, kLinkUpload);  // the window of MICROS stays closed
   app.PanelsReady = false;
   app.UploadApplying = true;
   app.ImageTouched = true;
@@ -65,6 +66,7 @@ void TakeImage(Application& app, const image::ConfigImage& image) {
   AssignPosition(app, shown, 1);
   AssignPosition(app, shown, 0);
   app.UploadApplying = false;
+  app.LinkMode = mode;
   app.PanelsReady = were_ready;
   app.image = image;
 }

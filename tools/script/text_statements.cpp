@@ -31,6 +31,10 @@ void Import(Session& session, Arguments& arguments) {
       host::ReadTextForm(catalogue, app.image, path, app.platform.files.read(path),
                          partial ? text_form::Strictness::kPartial : text_form::Strictness::kWhole, left_out);
   session.Output() << left_out;
+  if (!app.frmMain.form.enabled) {
+    session.Output() << "refused import\n";
+    return;
+  }
   session.History().Run("Import text", [&] { core::TakeImage(app, image); });
 }
 

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "bytes.h"
+#include "firmware/firmware_table.h"
 #include "host/toml/toml_reader.h"
 #include "image/report.h"
 #include "start/start_up.h"

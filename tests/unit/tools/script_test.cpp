@@ -330,6 +330,14 @@ TEST_F(Script, ComparesFilesAndTheConfigurationInWords) {
             "ALARM OUTPUTS: Alarm 15, NORMAL STATE: \"NO\" -> \"NC\"\n"
             "COMMUNICATION: TX BAUDRATE: \"2400\" -> \"9600\"\n"
             "no difference\nno difference\n");
+  // The window of a register does not open, and nothing is taken while another window waits.
+  ovl::testing::WriteFile(folder_.File("micros.toml"),
+                          "format = 1\n[\"REGISTER SELECT\"]\nRegister = \"MICROS\"\n[\"Other bytes\"]\n"
+                          "REGTYPE_MINOR = \"01\"\n");
+  const auto import = "import \"" + folder_.File("micros.toml") + "\"\n";
+  EXPECT_EQ(RunStarted(import + "expect hidden frmMicros\nexpect ComboReg \"MICROS\"\nfield REGTYPE_MINOR\n"),
+            "REGTYPE_MINOR = 01\n");
+  EXPECT_EQ(RunStarted("click cmdConnect\n" + import), "refused import\n");
   ovl::testing::WriteFile(folder_.File("second.bin"), "noise");
   EXPECT_TRUE(RunStarted("diff " + first + " " + second).ends_with("exit 2"));
 }
