@@ -47,12 +47,9 @@ void SetUp(core::Application& app, const firmware::FirmwareId& firmware) {
 
 // The register's options force line settings when they are applied. The image includes these settings, so
 // that loading it later changes nothing.
-image::ConfigImage RegisterImage(const firmware::FirmwareId& firmware, int code) {
-  core::Application app;
-  SetUp(app, firmware);
-  auto image = FactoryImage(firmware);
+image::ConfigImage RegisterImage(const core::Application& like, image::ConfigImage image, int code) {
   image[REGTYPE] = codecs::ByteToHex(code);
-  return checks::TrialProgram(app, image).WithForcedSettings();
+  return checks::TrialProgram(like, image).WithForcedSettings();
 }
 
 }  // namespace
@@ -90,9 +87,12 @@ int WriteDefaultImages(const std::string& folder, const firmware::FirmwareId& fi
   if (error) throw core::Failure(host::TextOf(images), error);
 
   const auto capabilities = firmware::CapabilitiesOf(firmware);
+  core::Application app;
+  SetUp(app, firmware);
+  const auto first = FactoryImage(firmware);
   int code = 0;
   for (const auto& entry : firmware::BuildRegisterEntries(firmware.version, firmware.release)) {
-    const auto stream = StreamOf(RegisterImage(firmware, code++), firmware, capabilities);
+    const auto stream = StreamOf(RegisterImage(app, first, code++), firmware, capabilities);
     host::ReplaceFile(host::TextOf(images / registers::ImageFileOf(firmware, entry.name)), stream + "\r\n",
                       host::Flush::kNo);
   }
