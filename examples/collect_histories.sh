@@ -3,12 +3,7 @@
 #   collect_histories.sh [--jobs N] [--resume] devices.txt histories
 . "$(dirname "$0")/common.sh"
 . "$(dirname "$0")/lists.sh"
-read_options "$@"
-[ ${#arguments[@]} -eq 2 ] || usage "[--jobs N] [--resume] DEVICES FOLDER"
-read_list "${arguments[0]}"
-refuse_same_names
-folder=${arguments[1]}
-mkdir -p -- "$folder"
+take_list_and_folder "$@"
 
 # CmdUpDow(4) asks for remote mode, CmdUpDow(3) loads the history; the program asks where to keep it, and does not tell
 # when it cannot.

@@ -40,6 +40,16 @@ refuse_same_names() {
   [ -z "$twice" ] || refuse "$list: several devices would be kept as ${twice%%$'\n'*}"
 }
 
+# Takes a list and the folder for what is read from its units: take_list_and_folder "$@"
+take_list_and_folder() {
+  read_options "$@"
+  [ ${#arguments[@]} -eq 2 ] || usage "[--jobs N] [--resume] DEVICES FOLDER"
+  read_list "${arguments[0]}"
+  refuse_same_names
+  folder=${arguments[1]}
+  mkdir -p -- "$folder"
+}
+
 # Runs a command for one device in a folder of its own, and keeps the outcome: serve NUMBER STATE COMMAND... DEVICE
 # A file "outcome" that the command leaves there is its outcome if it fails.
 serve() {

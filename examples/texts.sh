@@ -5,12 +5,7 @@
 . "$(dirname "$0")/common.sh"
 . "$(dirname "$0")/lists.sh"
 . "$(dirname "$0")/configurations.sh"
-read_options "$@"
-[ ${#arguments[@]} -eq 2 ] || usage "[--jobs N] [--resume] DEVICES FOLDER"
-read_list "${arguments[0]}"
-refuse_same_names
-folder=${arguments[1]}
-mkdir -p -- "$folder"
+take_list_and_folder "$@"
 
 keep_text() {
   read_unit "$2" && as_text "$unit" > "$work/text" && keep "$work/text" "$1/${2##*/}.toml"

@@ -87,8 +87,12 @@ image::ConfigImage ReadConfiguration(Viewer& viewer, const image::ConfigImage& b
 }
 
 image::ConfigImage ReadConfiguration(Viewer& viewer, const std::string& path, std::string_view bytes) {
-  if (text_form::IsTextForm(bytes) && !text_form::IsComplete(ReadToml(bytes)))
-    throw NoConfiguration(path + ": the text form names only a part of a configuration");
+  if (text_form::IsTextForm(bytes)) {
+    const auto document = ReadToml(bytes);
+    ThrowProblems(text_form::HeaderProblems(document), path);
+    if (!text_form::IsComplete(document))
+      throw NoConfiguration(path + ": the text form names only a part of a configuration");
+  }
   return ReadConfiguration(viewer, text_form::FilledImage(viewer.catalogue.Firmware(), '0'), path, bytes);
 }
 

@@ -62,16 +62,32 @@ Value ValueOf(const toml::node& node) {
   return value;
 }
 
-// The library calls itself for each part of a name, so a long one would use up the stack.
-std::optional<text_form::Problem> TooMuch(std::string_view text) {
+constexpr std::string_view kBlanks = " \t";
+constexpr std::string_view kStartsName =
+    "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_-\"'";
+
+// What the library must not get. It calls itself for each part of a name, so a long one would use up the
+// stack, and it takes for granted that a table begins with a name.
+std::optional<text_form::Problem> WrongIn(std::string_view line, int number) {
+  constexpr auto kMostPoints = 100;
+  if (std::count(line.begin(), line.end(), '.') > kMostPoints)
+    return text_form::Problem{{number, 1}, "the line has too many points"};
+  auto at = std::min(line.find_first_not_of(kBlanks), line.size());
+  if (line.substr(at, 1) != "[") return std::nullopt;
+  at += line.substr(at, 2) == "[[" ? 2 : 1;
+  at = std::min(line.find_first_not_of(kBlanks, at), line.size());
+  if (at < line.size() && (line[at] == ']' || kStartsName.find(line[at]) != std::string_view::npos))
+    return std::nullopt;
+  return text_form::Problem{{number, static_cast<int>(at) + 1}, "wrong syntax: a table needs a name"};
+}
+
+std::optional<text_form::Problem> WrongIn(std::string_view text) {
   constexpr std::size_t kMostBytes = 1'000'000;
-  constexpr int kMostPoints = 100;
   if (text.size() > kMostBytes) return text_form::Problem{{1, 1}, "the file is too large for a text form"};
-  int line = 1, points = 0;
-  for (const char letter : text) {
-    points = letter == '\n' ? 0 : points + (letter == '.' ? 1 : 0);
-    line += letter == '\n' ? 1 : 0;
-    if (points > kMostPoints) return text_form::Problem{{line, 1}, "the line has too many points"};
+  for (int number = 1; !text.empty(); ++number) {
+    const auto line = text.substr(0, text.find('\n'));
+    if (auto problem = WrongIn(line, number)) return problem;
+    text.remove_prefix(std::min(line.size() + 1, text.size()));
   }
   return std::nullopt;
 }
@@ -85,7 +101,7 @@ void AddEntry(Document& document, std::string table, const toml::key& key, const
 
 Document ReadToml(std::string_view text) {
   Document document;
-  if (auto problem = TooMuch(text)) return {{}, {std::move(*problem)}};
+  if (auto problem = WrongIn(text)) return {{}, {std::move(*problem)}};
   const auto parsed = toml::parse(text);
   if (!parsed) {
     const auto& error = parsed.error();

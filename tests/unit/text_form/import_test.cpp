@@ -239,6 +239,9 @@ RX_BAUDRATE = "03")",
     {R"(["Other bytes"]
 "EXCPSTRS" = "00")",
      R"(3:1 "EXCPSTRS" is no field of V1400 R12)"},
+    {"[=COMMUNICATION]", "2:2 wrong syntax"},
+    {"[ .]", "2:3 wrong syntax"},
+    {"[[#", "2:3 wrong syntax"},
     {R"(["Other bytes"]
 RX_BAUDRATE = "00")",
      R"(3:15 "00" has bits that other lines store)"},
