@@ -1,11 +1,12 @@
 #include "host/toml/toml_reader.h"
 
+#include "host/toml/toml_limits.h"
+
 #define TOML_EXCEPTIONS 0
 #define TOML_ENABLE_FORMATTERS 0
 #include <toml++/toml.h>
 
 #include <algorithm>
-#include <optional>
 
 #include "text_form/messages.h"
 
@@ -34,17 +35,6 @@ Value InlineValue(const toml::table& table) {
   return {ValueKind::kOther, "a table", {}};
 }
 
-std::string NameOf(toml::node_type type) {
-  switch (type) {
-    case toml::node_type::array:
-      return "a list";
-    case toml::node_type::floating_point:
-      return "a number with a point";
-    default:
-      return "a date or time";
-  }
-}
-
 Value ValueOf(const toml::node& node) {
   Value value;
   if (const auto* text = node.as_string()) {
@@ -56,40 +46,10 @@ Value ValueOf(const toml::node& node) {
   } else if (const auto* table = node.as_table()) {
     value = InlineValue(*table);
   } else {
-    value = {ValueKind::kOther, NameOf(node.type()), {}};
+    value = {ValueKind::kOther, "a value of another kind", {}};
   }
   value.at = PositionOf(node.source().begin);
   return value;
-}
-
-constexpr std::string_view kBlanks = " \t";
-constexpr std::string_view kStartsName =
-    "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_-\"'";
-
-// What the library must not get. It calls itself for each part of a name, so a long one would use up the
-// stack, and it takes for granted that a table begins with a name.
-std::optional<text_form::Problem> WrongIn(std::string_view line, int number) {
-  constexpr auto kMostPoints = 100;
-  if (std::count(line.begin(), line.end(), '.') > kMostPoints)
-    return text_form::Problem{{number, 1}, "the line has too many points"};
-  auto at = std::min(line.find_first_not_of(kBlanks), line.size());
-  if (line.substr(at, 1) != "[") return std::nullopt;
-  at += line.substr(at, 2) == "[[" ? 2 : 1;
-  at = std::min(line.find_first_not_of(kBlanks, at), line.size());
-  if (at < line.size() && (line[at] == ']' || kStartsName.find(line[at]) != std::string_view::npos))
-    return std::nullopt;
-  return text_form::Problem{{number, static_cast<int>(at) + 1}, "wrong syntax: a table needs a name"};
-}
-
-std::optional<text_form::Problem> WrongIn(std::string_view text) {
-  constexpr std::size_t kMostBytes = 1'000'000;
-  if (text.size() > kMostBytes) return text_form::Problem{{1, 1}, "the file is too large for a text form"};
-  for (int number = 1; !text.empty(); ++number) {
-    const auto line = text.substr(0, text.find('\n'));
-    if (auto problem = WrongIn(line, number)) return problem;
-    text.remove_prefix(std::min(line.size() + 1, text.size()));
-  }
-  return std::nullopt;
 }
 
 void AddEntry(Document& document, std::string table, const toml::key& key, const toml::node& node) {
@@ -101,7 +61,7 @@ void AddEntry(Document& document, std::string table, const toml::key& key, const
 
 Document ReadToml(std::string_view text) {
   Document document;
-  if (auto problem = WrongIn(text)) return {{}, {std::move(*problem)}};
+  if (auto problem = OutsideTomlLimits(text)) return {{}, {std::move(*problem)}};
   const auto parsed = toml::parse(text);
   if (!parsed) {
     const auto& error = parsed.error();

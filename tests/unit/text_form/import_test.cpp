@@ -65,7 +65,7 @@ PARITY = "EVEN")",
      R"(2:15 wrong syntax)"},
     {R"([COMMUNICATION]
 PARITY = EVEN)",
-     R"(3:10 wrong syntax)"},
+     R"(3:10 "EVEN" is not allowed; allowed: a text in quotes)"},
     {R"([COMMUNICATION]
 PARITY = "EVEN)",
      R"(3:15 wrong syntax)"},
@@ -88,8 +88,7 @@ PARITY = "\q")",
     {R"(formt = 2)", R"(2:1 "formt" is in no table. Did you mean "format"?)"},
     {R"(PARITY = "EVEN")", R"(2:1 "PARITY" is in no table)"},
     {R"(complete = 1)", R"(2:12 "1" is not allowed here; allowed: true, false)"},
-    {R"(firmware = 1400.5)",
-     R"(2:12 a number with a point is not allowed here; allowed: a text such as "V1400 R12")"},
+    {R"(firmware = 1400.5)", R"(2:12 "1400.5" is not allowed; allowed: a text in quotes)"},
     {R"([COMUNICATION]
 PARITY = "EVEN")",
      R"(3:1 there is no table [COMUNICATION]. Did you mean "COMMUNICATION"?)"},
@@ -126,13 +125,14 @@ PARITY = true)",
      R"(3:10 true is not allowed for "PARITY"; allowed: a text in quotes, or { bytes = "..." })"},
     {R"([COMMUNICATION]
 PARITY = 2026-01-01)",
-     R"(3:10 a date or time is not allowed for "PARITY"; allowed: a text in quotes, or { bytes = "..." })"},
+     R"(3:10 "2026-01-01" is not allowed; allowed: a text in quotes)"},
     {R"([COMMUNICATION]
 PARITY = ["EVEN"])",
-     R"(3:10 a list is not allowed for "PARITY"; allowed: a text in quotes, or { bytes = "..." })"},
+     R"(3:10 a list is not allowed; allowed: a text in quotes)"},
+    {R"(PARITY = { bytes = { bytes = 1 } })", "2:20 a table within a table is not allowed"},
     {R"([COMMUNICATION]
 PARITY = 1.5)",
-     R"(3:10 a number with a point is not allowed for "PARITY"; allowed: a text in quotes, or { bytes = "..." })"},
+     R"(3:10 "1.5" is not allowed; allowed: a text in quotes)"},
     {R"([COMMUNICATION]
 PARITY = { byte = "01" })",
      R"(3:10 a table is not allowed for "PARITY"; allowed: a text in quotes, or { bytes = "..." })"},
@@ -241,7 +241,13 @@ RX_BAUDRATE = "03")",
      R"(3:1 "EXCPSTRS" is no field of V1400 R12)"},
     {"[=COMMUNICATION]", "2:2 wrong syntax"},
     {"[ .]", "2:3 wrong syntax"},
-    {"[[#", "2:3 wrong syntax"},
+    {"[[#", "2:2 wrong syntax"},
+    {R"(Größe = 1)", "2:3 wrong syntax: letters other than A to Z are allowed only within quotes"},
+    {R"(PARITY = "ö\"" # ö
+EVEN = 'ö\' ü)",
+     "3:13 wrong syntax: letters other than A to Z are allowed only within quotes"},
+    {R"(PARITY = 00"ö")", "2:13 wrong syntax: letters other than A to Z are allowed only within quotes"},
+    {R"(PARITY = """EVEN""")", "2:10 wrong syntax: a text over several lines is not allowed"},
     {R"(["Other bytes"]
 RX_BAUDRATE = "00")",
      R"(3:15 "00" has bits that other lines store)"},
@@ -320,7 +326,8 @@ TEST_F(TextForm, APartKeepsWhatItDoesNotName) {
   image::StoreRange(expected.at(image::FieldId::EXCPSTRS, 3), kLatest, "00000001500000010000");
   expected[image::FieldId::EXECENTRY] = "7F";
   const auto read = Read(
-      "format = 1\r\n[COMMUNICATION]\r\nPARITY = 'odd '\r\n[\"Exception 3\"]\r\n"
+      "format = 1\r\n# Gr\u00F6\u00DFe " + std::string(200, '.') +
+      "\r\n[COMMUNICATION]\r\nPARITY = 'odd '\r\n[\"Exception 3\"]\r\n"
       "text = \"5 \u20AC \\\"\\u0007\\\"\"\r\nRANGE = \"1,50 - 100.00\"\r\n['Other bytes']\r\nEXECENTRY = "
       "'7F'");
   EXPECT_TRUE(read.problems.empty()) << TextOf(read.problems.front(), "text");

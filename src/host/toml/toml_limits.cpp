@@ -1,0 +1,148 @@
+#include "host/toml/toml_limits.h"
+
+#include <algorithm>
+#include <string>
+
+#include "text_form/messages.h"
+
+namespace ovl::host {
+namespace {
+
+using text_form::Problem;
+
+constexpr std::string_view kDigits = "0123456789";
+constexpr std::string_view kHexDigits = "0123456789ABCDEFabcdef_";
+constexpr std::string_view kStartsName =
+    "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_-\"'";
+constexpr std::string_view kAllowed = "; allowed: a text in quotes";
+
+bool IsQuote(char byte) {
+  return byte == '"' || byte == '\'';
+}
+
+bool IsAscii(char byte) {
+  return static_cast<unsigned char>(byte) < 0x80;
+}
+
+bool IsNoFirstByte(char byte) {
+  return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80;
+}
+
+bool IsFlagOrWholeNumber(std::string_view word) {
+  if (word == "true" || word == "false") return true;
+  if (word.starts_with('+') || word.starts_with('-')) word.remove_prefix(1);
+  if (word.empty() || kDigits.find(word.front()) == std::string_view::npos) return false;
+  const auto prefix = word.substr(0, 2);
+  if (prefix == "0x" || prefix == "0o" || prefix == "0b") {
+    word.remove_prefix(2);
+    return word.find_first_not_of(kHexDigits) == std::string_view::npos;
+  }
+  return word.find_first_not_of("0123456789_") == std::string_view::npos;
+}
+
+class Line {
+ public:
+  Line(std::string_view text, int number) : text_(text), number_(number), first_(SkipBlanks(0)) {}
+
+  std::optional<Problem> Wrong() {
+    if (auto problem = WrongTable()) return problem;
+    for (std::size_t at = first_; at < text_.size();) {
+      const char byte = text_[at];
+      if (byte == '#' && quotes_count_) break;
+      quotes_count_ = quotes_count_ && (!IsQuote(byte) || BeginsText(at));
+      if (IsQuote(byte) && quotes_count_) {
+        if (text_.substr(at, 3) == std::string(3, byte))
+          return At(at, "wrong syntax: a text over several lines is not allowed");
+        at = BehindQuotes(at);
+      } else if (auto problem = WrongAt(at)) {
+        return problem;
+      } else {
+        ++at;
+      }
+    }
+    return std::nullopt;
+  }
+
+ private:
+  std::size_t SkipBlanks(std::size_t at) const {
+    return std::min(text_.find_first_not_of(" \t", at), text_.size());
+  }
+
+  // The columns count characters.
+  Problem At(std::size_t at, std::string words) const {
+    const auto before = text_.substr(0, at);
+    const auto rest = std::count_if(before.begin(), before.end(), IsNoFirstByte);
+    return {{number_, static_cast<int>(at) - static_cast<int>(rest) + 1}, std::move(words)};
+  }
+
+  std::optional<Problem> WrongTable() const {
+    if (text_.substr(first_, 1) != "[") return std::nullopt;
+    const auto at = SkipBlanks(first_ + 1);
+    if (at < text_.size() && (text_[at] == ']' || kStartsName.find(text_[at]) != std::string_view::npos))
+      return std::nullopt;
+    return At(at, "wrong syntax: a table needs a name");
+  }
+
+  // A quote within a word or a number begins no text.
+  bool BeginsText(std::size_t at) const {
+    if (at == first_) return true;
+    const char before = text_[at - 1];
+    if (before == '[') return at - 1 == first_;
+    if (before == '=') return text_.find('=') == at - 1;
+    return before == ' ' || before == '\t' || before == ',';
+  }
+
+  // The place behind the text in quotes that begins at `at`.
+  std::size_t BehindQuotes(std::size_t at) const {
+    const char quote = text_[at];
+    for (++at; at < text_.size() && text_[at] != quote; ++at) {
+      if (quote == '"' && text_[at] == '\\') ++at;
+    }
+    return at + 1;
+  }
+
+  std::optional<Problem> WrongAt(std::size_t at) {
+    constexpr int kMostPoints = 100;
+    const char byte = text_[at];
+    if (!IsAscii(byte))
+      return At(at, "wrong syntax: letters other than A to Z are allowed only within quotes");
+    if (byte == '[' && at != first_) return At(at, "a list is not allowed" + std::string(kAllowed));
+    if (byte == '{' && ++braces_ > 1) return At(at, "a table within a table is not allowed");
+    if (byte == '.' && ++points_ > kMostPoints) return At(0, "the line has too many points");
+    return byte == '=' ? WrongValue(SkipBlanks(at + 1)) : std::nullopt;
+  }
+
+  std::optional<Problem> WrongValue(std::size_t at) const {
+    const auto rest = text_.substr(at);
+    const auto word = rest.substr(0, rest.find_first_of(" \t\r#,}"));
+    if (word.empty()) return At(at, "wrong syntax: a value is missing");
+    const bool is_other = IsQuote(word[0]) || word[0] == '{' || word[0] == '[';
+    if (is_other || !std::all_of(word.begin(), word.end(), IsAscii) || IsFlagOrWholeNumber(word))
+      return std::nullopt;
+    return At(at, text_form::InQuotes(word) + " is not allowed" + std::string(kAllowed));
+  }
+
+  std::string_view text_;
+  int number_;
+  std::size_t first_;  // not a blank
+  int points_ = 0;
+  int braces_ = 0;
+  bool quotes_count_ = true;
+};
+
+}  // namespace
+
+std::optional<Problem> OutsideTomlLimits(std::string_view text) {
+  constexpr std::size_t kMostBytes = 1'000'000;
+  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+  if (text.size() > kMostBytes) return Problem{{1, 1}, "the file is too large for a text form"};
+  if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
+  for (int number = 1; !text.empty(); ++number) {
+    const auto line = text.substr(0, text.find('\n'));
+    if (auto problem = Line(line, number).Wrong()) return problem;
+    text.remove_prefix(std::min(line.size() + 1, text.size()));
+  }
+  return std::nullopt;
+}
+
+}  // namespace ovl::host
