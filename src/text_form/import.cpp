@@ -152,6 +152,7 @@ class Importer {
   }
 
   void ReadOtherBytes() {
+    if (others_.empty()) return;
     Coverage panels;
     for (const auto& setting : catalogue_.OfPanels()) panels.Add(setting, firmware_);
     for (const auto* entry : others_) {
