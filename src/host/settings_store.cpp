@@ -11,6 +11,8 @@
 #include <filesystem>
 #include <system_error>
 
+#include "host/files.h"
+#include "host/system/disk.h"
 #include "host/system/settings_place.h"
 #include "host/text_codec.h"
 
@@ -24,6 +26,17 @@ const auto kApplication = QStringLiteral("OVL Software");
 // Settings that the system keeps in no file are in its registry.
 QString RegistryPlace() {
   return QStringLiteral("HKEY_LOCAL_MACHINE\\") + FromWindows1252(kStoreKey);
+}
+
+// Qt writes the bytes of the file to the disk, but not its name, nor that of a folder that it made.
+core::Result KeepNames(const QString& file) {
+  if (file.isEmpty()) return {};
+  const auto folder = std::filesystem::path(QFileInfo(file).absolutePath().toStdU16String());
+  for (const auto& names : {folder, folder.parent_path()}) {
+    if (const int error = FlushFolder(names); error != 0)
+      return core::Failure(TextOf(names), std::error_code(error, std::generic_category()));
+  }
+  return {};
 }
 
 // A name with a separator would address a group below the store's key.
@@ -138,7 +151,7 @@ core::Result SettingsStore::Write(std::string_view key, std::string_view value, 
   settings->setValue(FromWindows1252(value), FromWindows1252(text));
   settings->sync();
   if (settings->status() != QSettings::NoError) return WriteFailure();
-  return {};
+  return KeepNames(Path());
 }
 
 std::string SettingsStore::WhyNotRead() const {

@@ -7,6 +7,7 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
+#include <filesystem>
 
 #include "unit/descriptor.h"
 #include "unit/stream.h"
@@ -27,6 +28,12 @@ bool WriteAll(int descriptor, std::string_view text) {
     text.remove_prefix(static_cast<std::size_t>(written));
   }
   return true;
+}
+
+bool FlushFolderOf(const std::string& path) {
+  const auto folder = std::filesystem::absolute(path).parent_path();
+  const Descriptor names(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  return names.Open() && (::fsync(names.Get()) == 0 || errno == EINVAL);
 }
 
 }  // namespace
@@ -56,7 +63,8 @@ std::string WriteFile(const std::string& path, std::string_view text) {
       return error;
     }
   }
-  if (std::rename(beside.c_str(), path.c_str()) == 0) return {};
+  if (std::rename(beside.c_str(), path.c_str()) == 0)
+    return FlushFolderOf(path) ? std::string() : Failure("cannot keep the name of", path);
   std::string error = Failure("cannot replace", path);
   ::unlink(beside.c_str());
   return error;

@@ -12,7 +12,7 @@
 #include "host/text_codec.h"
 #include "ui/help/help_style.h"
 #include "ui/kit/theme.h"
-#include "ui/print/pdf_file.h"
+#include "ui/print/document_file.h"
 
 namespace ovl::ui {
 namespace {

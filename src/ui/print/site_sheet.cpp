@@ -4,25 +4,15 @@
 #include <QMarginsF>
 #include <QPageLayout>
 #include <QPagedPaintDevice>
-#include <QSaveFile>
 #include <QTextDocument>
 
-#include "host/text_codec.h"
 #include "sheet/site_sheet.h"
-#include "ui/print/pdf_file.h"
+#include "ui/print/document_file.h"
 
 namespace ovl::ui {
 namespace {
 
 const QMarginsF kMargins(12, 12, 12, 12);  // in millimetres
-
-core::Result WriteHtml(const QString& sheet, const QString& file) {
-  QSaveFile target(file);
-  if (!target.open(QIODevice::WriteOnly)) return host::FailureOf(file, target.errorString());
-  target.write(sheet.toUtf8());
-  if (!target.commit()) return host::FailureOf(file, target.errorString());
-  return {};
-}
 
 }  // namespace
 
@@ -50,7 +40,7 @@ std::optional<SheetFormat> SheetFormatOf(const QString& file) {
 
 core::Result WriteSiteSheet(const QString& sheet, const QString& file, SheetFormat format,
                             QPageSize::PageSizeId paper) {
-  if (format == SheetFormat::kHtml) return WriteHtml(sheet, file);
+  if (format == SheetFormat::kHtml) return ReplaceFile(file, sheet.toUtf8());
   return WritePdf(file, kSiteSheetTitle, paper,
                   [&](QPagedPaintDevice& device) { PrintSiteSheet(sheet, device); });
 }

@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <array>
 
-#include "host/files.h"
 #include "host/text_codec.h"
+#include "ui/print/document_file.h"
 
 namespace ovl::ui {
 namespace {
@@ -48,13 +48,7 @@ Theme ChosenTheme(const QString& program_folder) {
 core::Result KeepTheme(const QString& program_folder, Theme theme) {
   const auto word = std::find_if(kThemeWords.begin(), kThemeWords.end(),
                                  [theme](const ThemeWord& at) { return at.theme == theme; });
-  try {
-    host::ReplaceFile(QFile::encodeName(ThemeFile(program_folder)).toStdString(),
-                      std::string(word->text) + "\n", host::Flush::kNo);
-  } catch (const core::Failure& failure) {
-    return failure;
-  }
-  return {};
+  return ReplaceFile(ThemeFile(program_folder), QByteArray(word->text) + '\n');
 }
 
 void BuildViewMenu(QMenuBar& bar, const QString& program_folder, std::function<void(const QString&)> report) {

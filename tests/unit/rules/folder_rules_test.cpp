@@ -46,7 +46,7 @@ const std::map<std::string, Folders> kWindows = {
     {"ui/acts", {"ui/kit"}},
     {"ui/pages", {"ui/kit", "ui/acts"}},
     {"ui/dialogs", {"ui/kit", "ui/pages", "ui/acts"}},
-    {"ui/window", {"ui/kit", "ui/acts", "ui/pages", "ui/dialogs"}},
+    {"ui/window", {"ui/kit", "ui/acts", "ui/pages", "ui/dialogs", "ui/print"}},
     {"ui/files", {"ui/kit", "ui/dialogs"}},
     {"ui/app", {"ui/kit", "ui/help", "ui/pages", "ui/dialogs", "ui/window", "ui/files", "ui/print"}},
 };

@@ -1,6 +1,8 @@
-// Writes a file as PDF.
+// Documents as files. A failure leaves the old file as it was; a file that was written survives a power
+// failure.
 #pragma once
 
+#include <QByteArray>
 #include <QPageSize>
 #include <QString>
 #include <functional>
@@ -11,7 +13,9 @@ class QPagedPaintDevice;
 
 namespace ovl::ui {
 
-// `print` draws the pages. A failure leaves the old file as it was.
+core::Result ReplaceFile(const QString& file, const QByteArray& bytes);
+
+// A PDF. `print` draws the pages.
 core::Result WritePdf(const QString& file, const QString& title, QPageSize::PageSizeId paper,
                       const std::function<void(QPagedPaintDevice&)>& print);
 
