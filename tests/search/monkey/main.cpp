@@ -1,0 +1,130 @@
+// Does random acts in the windows of the program and compares the windows with the model after each. Prints
+// the first finding with the shortest sequence of acts that shows it.
+//   ovl-monkey [ACTS [SEED [FIRMWARE]]]
+// Without a firmware, all in turn, 500 acts each before the program starts again.
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+
+#include "acts.h"
+#include "check.h"
+#include "firmware/firmware_table.h"
+
+namespace ovl::testing {
+namespace {
+
+using Seeds = std::vector<std::uint32_t>;
+
+constexpr int kActsOfRun = 500;
+
+Random answers(1);
+
+struct Outcome {
+  std::string wrong;
+  std::vector<std::string> acts;
+};
+
+struct Longest {
+  std::chrono::milliseconds time{0};
+  std::string act;
+};
+Longest longest;
+
+// Runs the acts until one leaves something wrong, or the program ends.
+Outcome Run(const firmware::FirmwareId& firmware, const Seeds& seeds) {
+  using Clock = std::chrono::steady_clock;
+  Outcome outcome;
+  answers = Random(1);
+  Site site(firmware);
+  site.screen.Show();
+  for (const auto seed : seeds) {
+    const auto before = Clock::now();
+    outcome.acts.push_back(DoAtRandom(site, seed));
+    if (site.screen.App().ended || !site.screen.Main().isVisible()) return outcome;
+    const auto time = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - before);
+    if (time > longest.time) longest = {time, firmware.Joined() + ": " + outcome.acts.back()};
+    site.screen.Show();
+    QCoreApplication::processEvents();
+    outcome.wrong = WhatIsWrong(site.screen);
+    if (!outcome.wrong.empty()) return outcome;
+  }
+  return outcome;
+}
+
+// Leaves out parts of the acts, large ones first, as long as something is still wrong.
+Seeds Shortened(const firmware::FirmwareId& firmware, Seeds seeds) {
+  for (auto part = seeds.size() / 2; part > 0; part /= 2) {
+    for (std::size_t from = 0; from + part <= seeds.size();) {
+      auto fewer = seeds;
+      fewer.erase(fewer.begin() + static_cast<std::ptrdiff_t>(from),
+                  fewer.begin() + static_cast<std::ptrdiff_t>(from + part));
+      const auto outcome = Run(firmware, fewer);
+      if (outcome.wrong.empty()) {
+        from += part;
+      } else {
+        fewer.resize(std::min(fewer.size(), outcome.acts.size()));
+        seeds = std::move(fewer);
+      }
+    }
+  }
+  return seeds;
+}
+
+std::vector<firmware::FirmwareId> FirmwareOf(const char* name) {
+  std::vector<firmware::FirmwareId> all;
+  for (const auto& row : firmware::FirmwareTable()) {
+    const firmware::FirmwareId id{std::string(row.version), std::string(row.release)};
+    if (name == nullptr || id.Joined() == name) all.push_back(id);
+  }
+  return all;
+}
+
+int Search(int acts, std::uint32_t seed, const std::vector<firmware::FirmwareId>& all) {
+  Random random(seed);
+  int done = 0;
+  for (std::size_t run = 0; done < acts; ++run) {
+    const auto& firmware = all[run % all.size()];
+    Seeds seeds;
+    for (int act = 0; act < kActsOfRun; ++act)
+      seeds.push_back(static_cast<std::uint32_t>(random.Below(1 << 30)));
+    const auto outcome = Run(firmware, seeds);
+    done += static_cast<int>(outcome.acts.size());
+    if (outcome.wrong.empty()) continue;
+    std::printf("%s, act %zu of run %zu: %s\n", firmware.Joined().c_str(), outcome.acts.size(), run,
+                outcome.wrong.c_str());
+    seeds.resize(outcome.acts.size());
+    const auto shortest = Run(firmware, Shortened(firmware, seeds));
+    for (const auto& act : shortest.acts) std::printf("  %s\n", act.c_str());
+    std::printf("%s\n", shortest.wrong.c_str());
+    return 1;
+  }
+  std::printf("%d acts, nothing wrong; the longest took %lld ms: %s\n", done,
+              static_cast<long long>(longest.time.count()), longest.act.c_str());
+  return 0;
+}
+
+// The offscreen platform complains about each window that is raised.
+void Print(QtMsgType, const QMessageLogContext&, const QString& text) {
+  if (!text.startsWith(QLatin1String("This plugin")))
+    std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
+}
+
+}  // namespace
+}  // namespace ovl::testing
+
+int main(int count, char** words) {
+  using namespace ovl::testing;
+  qInstallMessageHandler(Print);
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication application(count, words);
+  QApplication::setQuitOnLastWindowClosed(false);
+  AnswerAtRandom(answers);
+  const int acts = count > 1 ? std::atoi(words[1]) : 20'000;
+  const auto seed = count > 2 ? static_cast<std::uint32_t>(std::strtoul(words[2], nullptr, 10)) : 1U;
+  const auto all = FirmwareOf(count > 3 ? words[3] : nullptr);
+  if (acts <= 0 || all.empty()) {
+    std::fprintf(stderr, "Usage: ovl-monkey [ACTS [SEED [FIRMWARE]]]\n");
+    return 2;
+  }
+  return Search(acts, seed, all);
+}
