@@ -77,7 +77,7 @@ Hits RangeDigits(Subject& subject) {
   return ExceptionsWith(
       subject,
       [&](const Exception& exception) {
-        return digits(exception).find_first_not_of("0123456789") != std::string::npos;
+        return exception.IsUsed() && digits(exception).find_first_not_of("0123456789") != std::string::npos;
       },
       digits);
 }

@@ -119,7 +119,10 @@ void Catalogue::AddFields() {
   const auto layout = firmware::LayoutOf(firmware_);
   const auto capabilities = firmware::CapabilitiesOf(firmware_);
   for (const auto& row : image::FieldTable()) {
-    if (!image::InStream(row, layout, firmware_, capabilities, image::Direction::kWrite)) continue;
+    // A field that is sent and never read is not there after a load, and shifts what is behind it.
+    const bool is_read = image::InStream(row, layout, firmware_, capabilities, image::Direction::kRead);
+    if (!is_read || !image::InStream(row, layout, firmware_, capabilities, image::Direction::kWrite))
+      continue;
     for (int entry = 1; entry <= image::EntryCount(row.id); ++entry) {
       image::FieldDifference field;
       field.field = &row;

@@ -41,4 +41,24 @@ std::string Coverage::Masked(image::FieldId field, int entry, std::string_view d
   return masked;
 }
 
+bool IsZero(std::string_view digits) {
+  return digits.find_first_not_of('0') == std::string_view::npos;
+}
+
+void Merge(std::string& value, const std::string& digits, const std::string& mask) {
+  for (std::size_t byte = 0; byte < value.size(); byte += 2) {
+    const int bits = codecs::HexToInt(mask.substr(byte, 2));
+    const int merged =
+        (codecs::HexToInt(value.substr(byte, 2)) & ~bits) | (codecs::HexToInt(digits.substr(byte, 2)) & bits);
+    value.replace(byte, 2, codecs::ByteToHex(merged));
+  }
+}
+
+bool CanBeSent(std::string_view digits) {
+  constexpr std::size_t kMost = 1000;
+  return digits.size() <= kMost && std::all_of(digits.begin(), digits.end(), [](char digit) {
+           return digit > ' ' && digit <= '~' && digit != '$' && digit != '#';
+         });
+}
+
 }  // namespace ovl::text_form

@@ -23,4 +23,12 @@ class Coverage {
   std::map<std::pair<image::FieldId, int>, std::vector<int>> bits_;  // of each byte
 };
 
+bool IsZero(std::string_view digits);
+
+// Whether a load can have left these digits in a field: "$" and "#" end a record.
+bool CanBeSent(std::string_view digits);
+
+// Gives the value the bits of the mask from the digits; the others stay.
+void Merge(std::string& value, const std::string& digits, const std::string& mask);
+
 }  // namespace ovl::text_form

@@ -11,17 +11,35 @@ namespace {
 
 constexpr std::string_view kFormatKey = "format";
 
-bool IsBlank(char letter) {
-  return letter == ' ' || letter == '\t';
+std::string_view WithoutBlanks(std::string_view text) {
+  constexpr std::string_view kBlanks = " \t\r";
+  text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+  return text.substr(0, text.find_last_not_of(kBlanks) + 1);
+}
+
+// Calls the function for each line and its number until it returns true.
+template <class Function>
+void ForEachLine(std::string_view bytes, const Function& ends) {
+  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+  if (bytes.starts_with(kByteOrderMark)) bytes.remove_prefix(kByteOrderMark.size());
+  for (int number = 1; !bytes.empty(); ++number) {
+    const auto line = bytes.substr(0, bytes.find('\n'));
+    if (ends(line, number)) return;
+    bytes.remove_prefix(std::min(line.size() + 1, bytes.size()));
+  }
 }
 
 // Whether a line assigns the format.
 bool IsFormatLine(std::string_view line) {
-  while (!line.empty() && IsBlank(line.front())) line.remove_prefix(1);
-  if (!line.starts_with(kFormatKey)) return false;
-  line.remove_prefix(kFormatKey.size());
-  while (!line.empty() && IsBlank(line.front())) line.remove_prefix(1);
-  return line.starts_with('=');
+  const auto equals = line.find('=');
+  if (equals == std::string_view::npos) return false;
+  const auto key = WithoutBlanks(line.substr(0, equals));
+  return key == kFormatKey || key == "\"format\"" || key == "'format'";
+}
+
+Problem UnknownFormat(Position at, std::string_view found) {
+  const auto known = std::to_string(kFormat);
+  return {at, "format " + Escaped(found) + " is not known; this program reads format " + known};
 }
 
 void ExpectFormat(const Document& document, std::vector<Problem>& problems) {
@@ -29,9 +47,8 @@ void ExpectFormat(const Document& document, std::vector<Problem>& problems) {
   const auto known = std::to_string(kFormat);
   if (format == nullptr) {
     problems.push_back({{1, 1}, "the line \"format = " + known + "\" is missing"});
-  } else if (format->value.text != known) {
-    problems.push_back({format->value.at, "format " + Escaped(format->value.text) +
-                                              " is not known; this program reads format " + known});
+  } else if (format->value.kind != ValueKind::kNumber || format->value.text != known) {
+    problems.push_back(UnknownFormat(format->value.at, Written(format->value)));
   }
 }
 
@@ -52,15 +69,27 @@ std::string TextOf(const Problem& problem, std::string_view path) {
          ": " + problem.words;
 }
 
+// A record stream has no tables.
 bool IsTextForm(std::string_view bytes) {
-  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-  if (bytes.starts_with(kByteOrderMark)) bytes.remove_prefix(kByteOrderMark.size());
-  while (!bytes.empty()) {
-    const auto line = bytes.substr(0, bytes.find('\n'));
-    if (IsFormatLine(line)) return true;
-    bytes.remove_prefix(std::min(line.size() + 1, bytes.size()));
-  }
-  return false;
+  bool found = false;
+  ForEachLine(bytes, [&](std::string_view line, int) {
+    return found = IsFormatLine(line) || WithoutBlanks(line).starts_with('[');
+  });
+  return found;
+}
+
+std::optional<Problem> OtherFormat(std::string_view bytes) {
+  std::optional<Problem> problem;
+  ForEachLine(bytes, [&](std::string_view line, int number) {
+    if (!IsFormatLine(line)) return WithoutBlanks(line).starts_with('[');
+    const auto behind = line.find('=') + 1;
+    const auto value = WithoutBlanks(line.substr(behind, line.find('#') - behind));
+    const bool is_number = !value.empty() && value.find_first_not_of("0123456789") == std::string_view::npos;
+    const auto column = static_cast<int>(value.data() - line.data()) + 1;
+    if (is_number && value != std::to_string(kFormat)) problem = UnknownFormat({number, column}, value);
+    return true;
+  });
+  return problem;
 }
 
 const Entry* HeaderOf(const Document& document, std::string_view key) {

@@ -30,7 +30,8 @@ struct Problem {
 std::string TextOf(const Problem& problem, std::string_view path);
 
 enum class ValueKind {
-  kText,    // "EVEN"; a number is a text too
+  kText,    // "EVEN"
+  kNumber,  // 7
   kBytes,   // { bytes = "7F" }
   kDigits,  // { digits = "7" }
   kFlag,    // true
@@ -60,6 +61,9 @@ inline constexpr std::string_view kFirmwareKey = "firmware", kCompleteKey = "com
 
 // Whether the bytes are a text form and no record stream.
 bool IsTextForm(std::string_view bytes);
+
+// The problem of a form of a later version, whose syntax can be another one.
+std::optional<Problem> OtherFormat(std::string_view bytes);
 
 // The line with this key before the first table; null if there is none.
 const Entry* HeaderOf(const Document& document, std::string_view key);

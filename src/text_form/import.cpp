@@ -19,8 +19,6 @@ std::string NameOf(const firmware::FirmwareId& firmware) {
   return firmware.version + " " + firmware.release;
 }
 
-constexpr std::size_t kMostProblems = 100;  // as many as anybody reads at once
-
 class Importer {
  public:
   Importer(Catalogue& catalogue, const image::ConfigImage& base, const Document& document)
@@ -51,7 +49,6 @@ class Importer {
     if (complete_ && result_.problems.empty()) ExpectAll();
     std::stable_sort(result_.problems.begin(), result_.problems.end(),
                      [](const Problem& one, const Problem& other) { return one.at < other.at; });
-    if (result_.problems.size() > kMostProblems) result_.problems.resize(kMostProblems);
     return std::move(result_);
   }
 
@@ -68,27 +65,50 @@ class Importer {
   }
 
   void ReadSetting(const Entry& entry) {
-    if (const auto* setting = catalogue_.Find(entry.table, entry.key)) {
+    const auto table = TableHere(entry.table);
+    if (const auto* setting = catalogue_.Find(table, entry.key)) {
       named_.insert(setting);
+      const auto before = result_.problems.size();
       Take(*setting, entry);
-    } else if (entry.table == catalogue_.Tables().front()) {
+      const bool is_register = setting == &catalogue_.OfPanels().front();
+      register_left_out_ |= is_register && foreign_ && result_.problems.size() > before;
+    } else if (table == catalogue_.Tables().front()) {
       options_.push_back(&entry);
     } else {
-      SayUnknown(entry);
+      SayUnknown(entry, table);
     }
   }
 
-  void SayUnknown(const Entry& entry) {
+  bool IsTable(std::string_view name) const {
     const auto& tables = catalogue_.Tables();
-    if (std::find(tables.begin(), tables.end(), entry.table) == tables.end()) {
+    return std::find(tables.begin(), tables.end(), name) != tables.end();
+  }
+
+  // A tab can have a longer caption under another firmware: "TIME" and "TIME / LANGUAGE".
+  std::string_view TableHere(std::string_view name) const {
+    if (!foreign_ || IsTable(name)) return name;
+    const auto begins = [](std::string_view longer, std::string_view shorter) {
+      return longer.starts_with(shorter) && longer.substr(shorter.size()).starts_with(' ');
+    };
+    for (const auto& table : catalogue_.Tables()) {
+      if (begins(table, name) || begins(name, table)) return table;
+    }
+    return name;
+  }
+
+  void SayUnknown(const Entry& entry, std::string_view table) {
+    const bool is_read = result_.problems.size() < kMostProblems;  // nobody reads more suggestions
+    if (!IsTable(table)) {
       if (!unknown_tables_.insert(entry.table).second) return;
-      Say(entry.at, "there is no table [" + Escaped(entry.table) + "]" + Suggestion(entry.table, tables),
+      Say(entry.at,
+          "there is no table [" + Escaped(table) + "]" +
+              (is_read ? Suggestion(table, catalogue_.Tables()) : std::string()),
           foreign_);
       return;
     }
     Say(entry.at,
-        InQuotes(entry.key) + " is no setting of [" + entry.table + "]" +
-            Suggestion(entry.key, KeysOf(entry.table)),
+        InQuotes(entry.key) + " is no setting of [" + std::string(table) + "]" +
+            (is_read ? Suggestion(entry.key, KeysOf(table)) : std::string()),
         foreign_);
   }
 
@@ -113,7 +133,8 @@ class Importer {
       }
       return;
     }
-    if (value.kind != ValueKind::kText) {
+    const bool takes_number = setting.kind == Kind::kChoice || setting.kind == Kind::kNumber;
+    if (value.kind != ValueKind::kText && !(value.kind == ValueKind::kNumber && takes_number)) {
       Say(value.at, Written(value) + " is not allowed for " + InQuotes(setting.key) +
                         "; allowed: a text in quotes, or { bytes = \"...\" }");
       return;
@@ -173,6 +194,10 @@ class Importer {
   void TakeAsItIs(const Target& target, const Entry& entry) {
     if (!complete_)
       return Say(entry.value.at, Written(entry.value) + " is allowed only with the line \"complete = true\"");
+    if (!CanBeSent(entry.value.text))
+      return Say(entry.value.at, Written(entry.value) +
+                                     " is not allowed here; allowed: at most 1000 letters and digits of a "
+                                     "record stream");
     for (const auto* setting : named_) {
       const bool is_inside = std::all_of(
           setting->parts.begin(), setting->parts.end(),
@@ -219,25 +244,16 @@ class Importer {
     }
   }
 
-  static bool IsZero(std::string_view digits) {
-    return digits.find_first_not_of('0') == std::string_view::npos;
-  }
-
-  // The bits of the mask from the digits, the others stay.
-  static void Merge(std::string& value, const std::string& digits, const std::string& mask) {
-    for (std::size_t byte = 0; byte < value.size(); byte += 2) {
-      const int bits = codecs::HexToInt(mask.substr(byte, 2));
-      const int merged = (codecs::HexToInt(value.substr(byte, 2)) & ~bits) |
-                         (codecs::HexToInt(digits.substr(byte, 2)) & bits);
-      value.replace(byte, 2, codecs::ByteToHex(merged));
-    }
-  }
-
   // ---- Options of the register
 
   // An option can bring another one, or change what it offers. So the register is asked again until the
   // options that it offers store nothing else.
   void ReadOptions() {
+    if (register_left_out_) {
+      for (const auto* entry : options_)
+        Say(entry->at, InQuotes(entry->key) + " is an option of a register that is left out", true);
+      return;
+    }
     constexpr int kMostRounds = 8;
     std::vector<std::pair<Setting, const Entry*>> taken;
     auto before = result_.problems;
@@ -337,6 +353,7 @@ class Importer {
   Imported result_;
   bool foreign_ = false;
   bool complete_ = false;
+  bool register_left_out_ = false;
   std::set<const Setting*> named_;
   std::set<std::string> unknown_tables_;
   std::vector<const Entry*> others_, options_;
@@ -352,12 +369,17 @@ Imported Import(Catalogue& catalogue, const image::ConfigImage& base, const Docu
                 Strictness strictness) {
   if (!document.problems.empty()) return {base, document.problems, {}};
   auto imported = Importer(catalogue, base, document).Run();
-  if (strictness == Strictness::kWhole) return imported;
+  if (strictness == Strictness::kWhole) {
+    Cut(imported.problems);
+    return imported;
+  }
   const auto left_out =
       std::stable_partition(imported.problems.begin(), imported.problems.end(),
                             [](const Problem& problem) { return !problem.of_other_firmware; });
   imported.left_out.assign(left_out, imported.problems.end());
   imported.problems.erase(left_out, imported.problems.end());
+  Cut(imported.problems);
+  Cut(imported.left_out);
   return imported;
 }
 

@@ -79,9 +79,12 @@ std::string Written(const Value& value) {
       return "{ bytes = " + InQuotes(value.text) + " }";
     case ValueKind::kDigits:
       return "{ digits = " + InQuotes(value.text) + " }";
-    default:
-      return value.text;
+    case ValueKind::kNumber:
+    case ValueKind::kFlag:
+    case ValueKind::kOther:
+      break;
   }
+  return value.text;
 }
 
 std::string Suggestion(std::string_view word, const std::vector<std::string>& words) {
@@ -103,6 +106,14 @@ std::string NotAllowed(const Setting& setting, std::string_view text, std::strin
              " to " + InQuotes(entries.back());
   }
   return words + Suggestion(text, entries);
+}
+
+void Cut(std::vector<Problem>& problems) {
+  if (problems.size() <= kMostProblems) return;
+  const auto others = problems.size() - kMostProblems;
+  const auto at = problems[kMostProblems].at;
+  problems.resize(kMostProblems);
+  problems.push_back({at, "and " + std::to_string(others) + " more"});
 }
 
 }  // namespace ovl::text_form

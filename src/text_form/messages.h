@@ -23,4 +23,8 @@ std::string Suggestion(std::string_view word, const std::vector<std::string>& wo
 // `allowed` is what StoreWords returns.
 std::string NotAllowed(const Setting& setting, std::string_view text, std::string_view allowed);
 
+// As many problems as anybody reads at once. Of more than these only their number is left.
+inline constexpr std::size_t kMostProblems = 100;
+void Cut(std::vector<Problem>& problems);
+
 }  // namespace ovl::text_form

@@ -47,11 +47,14 @@ bool IsPart(const File& file) {
   return text_form::IsTextForm(file.bytes) && !text_form::IsComplete(host::ReadToml(file.bytes));
 }
 
+bool NamesFirmware(const File& file) {
+  return text_form::IsTextForm(file.bytes) && !text_form::FirmwareNamed(host::ReadToml(file.bytes)).empty();
+}
+
 // That of a text form counts for the other file too.
 firmware::FirmwareId FirmwareOf(const File& one, const File& other, const std::string& named) {
-  const bool other_names_it =
-      text_form::IsTextForm(other.bytes) && !text_form::FirmwareNamed(host::ReadToml(other.bytes)).empty();
-  const auto& file = other_names_it && !text_form::IsTextForm(one.bytes) ? other : one;
+  const bool one_is_part = text_form::IsTextForm(one.bytes) && !NamesFirmware(one);
+  const auto& file = !NamesFirmware(one) && (NamesFirmware(other) || one_is_part) ? other : one;
   return host::FirmwareOf(file.path, file.bytes, named);
 }
 

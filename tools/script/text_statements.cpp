@@ -16,8 +16,8 @@ void Export(Session& session, Arguments& arguments) {
   const auto path = arguments.Next("PATH");
   arguments.End();
   const auto& app = session.App();
-  text_form::Catalogue catalogue(app);
-  app.platform.files.replace(path, text_form::Export(catalogue, app.image));
+  host::Viewer viewer(app.image_firmware);
+  app.platform.files.replace(path, text_form::Export(viewer.catalogue, app.image));
 }
 
 void Import(Session& session, Arguments& arguments) {
@@ -25,10 +25,10 @@ void Import(Session& session, Arguments& arguments) {
   const bool partial = arguments.Take("--partial");
   arguments.End();
   auto& app = session.App();
-  text_form::Catalogue catalogue(app);
+  host::Viewer viewer(app.image_firmware);
   std::string left_out;
   const auto image =
-      host::ReadTextForm(catalogue, app.image, path, app.platform.files.read(path),
+      host::ReadTextForm(viewer.catalogue, app.image, path, app.platform.files.read(path),
                          partial ? text_form::Strictness::kPartial : text_form::Strictness::kWhole, left_out);
   session.Output() << left_out;
   if (!app.frmMain.form.enabled) {

@@ -10,8 +10,6 @@ namespace {
 
 using text_form::Problem;
 
-constexpr std::string_view kDigits = "0123456789";
-constexpr std::string_view kHexDigits = "0123456789ABCDEFabcdef_";
 constexpr std::string_view kStartsName =
     "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_-\"'";
 constexpr std::string_view kAllowed = "; allowed: a text in quotes";
@@ -30,14 +28,7 @@ bool IsNoFirstByte(char byte) {
 
 bool IsFlagOrWholeNumber(std::string_view word) {
   if (word == "true" || word == "false") return true;
-  if (word.starts_with('+') || word.starts_with('-')) word.remove_prefix(1);
-  if (word.empty() || kDigits.find(word.front()) == std::string_view::npos) return false;
-  const auto prefix = word.substr(0, 2);
-  if (prefix == "0x" || prefix == "0o" || prefix == "0b") {
-    word.remove_prefix(2);
-    return word.find_first_not_of(kHexDigits) == std::string_view::npos;
-  }
-  return word.find_first_not_of("0123456789_") == std::string_view::npos;
+  return !word.empty() && word.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
 class Line {

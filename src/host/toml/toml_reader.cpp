@@ -40,7 +40,7 @@ Value ValueOf(const toml::node& node) {
   if (const auto* text = node.as_string()) {
     value = {ValueKind::kText, text->get(), {}};
   } else if (const auto* number = node.as_integer()) {
-    value = {ValueKind::kText, std::to_string(number->get()), {}};
+    value = {ValueKind::kNumber, std::to_string(number->get()), {}};
   } else if (const auto* flag = node.as_boolean()) {
     value = {ValueKind::kFlag, flag->get() ? "true" : "false", {}};
   } else if (const auto* table = node.as_table()) {
@@ -61,6 +61,7 @@ void AddEntry(Document& document, std::string table, const toml::key& key, const
 
 Document ReadToml(std::string_view text) {
   Document document;
+  if (auto problem = text_form::OtherFormat(text)) return {{}, {std::move(*problem)}};
   if (auto problem = OutsideTomlLimits(text)) return {{}, {std::move(*problem)}};
   const auto parsed = toml::parse(text);
   if (!parsed) {

@@ -11,6 +11,7 @@
 #include "acts/backup.h"
 #include "core/configuration.h"
 #include "files/files.h"
+#include "host/configurations/configurations.h"
 #include "host/text_codec.h"
 #include "host/toml/toml_reader.h"
 #include "image/report.h"
@@ -94,8 +95,8 @@ void TextActs::Export() {
   const auto path = AskForPath(core::FileDialog::Kind::kSave, name, kTextFilter);
   if (path.empty()) return;
   try {
-    text_form::Catalogue catalogue(app_);
-    app_.platform.files.replace(path, text_form::Export(catalogue, app_.image));
+    host::Viewer viewer(app_.image_firmware);
+    app_.platform.files.replace(path, text_form::Export(viewer.catalogue, app_.image));
     hooks_.show_text(QStringLiteral("Text written: ") + QDir::toNativeSeparators(Decoded(path)));
   } catch (const core::Failure& failure) {
     hooks_.show_text(QStringLiteral("No text written: ") + host::FromSystem(failure.Text()));
@@ -103,9 +104,9 @@ void TextActs::Export() {
 }
 
 std::optional<image::ConfigImage> TextActs::ImageOfText(const std::string& path, const std::string& bytes) {
-  text_form::Catalogue catalogue(app_);
+  host::Viewer viewer(app_.image_firmware);
   const auto document = host::ReadToml(bytes);
-  auto imported = text_form::Import(catalogue, app_.image, document, Strictness::kPartial);
+  auto imported = text_form::Import(viewer.catalogue, app_.image, document, Strictness::kPartial);
   if (!imported.problems.empty()) {
     ShowProblems(hooks_.front(), NameOf(path) + QStringLiteral(" is not taken: nothing has changed."),
                  Lines(imported.problems));
