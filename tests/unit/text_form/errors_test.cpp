@@ -1,0 +1,276 @@
+// Text forms with errors: every error has its place and says what is allowed, and nothing is taken.
+#include "text_form_fixture.h"
+
+namespace ovl::testing {
+namespace {
+
+struct Broken {
+  std::string_view text;  // behind the line of the format, so the first line is line 2
+  std::string_view said;
+};
+
+constexpr Broken kBroken[] = {
+    {R"([COMMUNICATION
+PARITY = "EVEN")",
+     R"(2:15 wrong syntax)"},
+    {R"([COMMUNICATION]
+PARITY = EVEN)",
+     R"(3:10 "EVEN" is not allowed; allowed: a text in quotes)"},
+    {R"([COMMUNICATION]
+PARITY = "EVEN)",
+     R"(3:15 wrong syntax)"},
+    {R"([COMMUNICATION]
+PARITY = 'EVEN'
+PARITY = "ODD")",
+     R"(4:10 wrong syntax)"},
+    {R"([COMMUNICATION]
+PARITY "EVEN")",
+     R"(3:8 wrong syntax)"},
+    {R"([COMMUNICATION]
+PARITY = 1
+[COMMUNICATION])",
+     R"(4:1 wrong syntax)"},
+    {R"([COMMUNICATION]
+PARITY = "\q")",
+     R"(3:12 wrong syntax)"},
+    {"[\"Exception 1\"]\ntext = \"\xFF\"", R"(3:8 wrong syntax)"},
+    {R"(format = 1)", R"(2:10 wrong syntax)"},
+    {R"(formt = 2)", R"(2:1 "formt" is in no table. Did you mean "format"?)"},
+    {R"(PARITY = "EVEN")", R"(2:1 "PARITY" is in no table)"},
+    {R"(complete = 1)", R"(2:12 1 is not allowed here; allowed: true, false)"},
+    {R"(firmware = 1400.5)", R"(2:12 "1400.5" is not allowed; allowed: a text in quotes)"},
+    {R"([COMUNICATION]
+PARITY = "EVEN")",
+     R"(3:1 there is no table [COMUNICATION]. Did you mean "COMMUNICATION"?)"},
+    {R"([comunication]
+PARITY = "EVEN"
+X = 1)",
+     R"(3:1 there is no table [comunication]. Did you mean "COMMUNICATION"?)"},
+    {R"([Fantasy]
+PARITY = "EVEN")",
+     R"(3:1 there is no table [Fantasy])"},
+    {R"(["Exception 25"]
+text = "A")",
+     R"(3:1 there is no table [Exception 25]. Did you mean "Exception 2"?)"},
+    {R"(["Alarm 0"]
+text = "A")",
+     R"(3:1 there is no table [Alarm 0]. Did you mean "Alarm 1"?)"},
+    {R"([COMMUNICATION]
+PARTY = "EVEN")",
+     R"(3:1 "PARTY" is no setting of [COMMUNICATION]. Did you mean "PARITY"?)"},
+    {R"([COMMUNICATION]
+parity = "EVEN")",
+     R"(3:1 "parity" is no setting of [COMMUNICATION]. Did you mean "PARITY"?)"},
+    {R"([COMMUNICATION]
+"LINES PER PAGE" = "3")",
+     R"(3:1 "LINES PER PAGE" is no setting of [COMMUNICATION])"},
+    {R"([COMMUNICATION]
+PARITY = "EVENN")",
+     R"(3:10 "EVENN" is not allowed for "PARITY"; allowed: "NONE", "EVEN", "ODD". Did you mean "EVEN"?)"},
+    {R"([COMMUNICATION]
+PARITY = "MARK")",
+     R"(3:10 "MARK" is not allowed for "PARITY"; allowed: "NONE", "EVEN", "ODD")"},
+    {R"([COMMUNICATION]
+PARITY = true)",
+     R"(3:10 true is not allowed for "PARITY"; allowed: a text in quotes, or { bytes = "..." })"},
+    {R"([COMMUNICATION]
+PARITY = 2026-01-01)",
+     R"(3:10 "2026-01-01" is not allowed; allowed: a text in quotes)"},
+    {R"([COMMUNICATION]
+PARITY = ["EVEN"])",
+     R"(3:10 a list is not allowed; allowed: a text in quotes)"},
+    {R"(PARITY = { bytes = { bytes = 1 } })", "2:20 a table within a table is not allowed"},
+    {R"([COMMUNICATION]
+PARITY = 1.5)",
+     R"(3:10 "1.5" is not allowed; allowed: a text in quotes)"},
+    {R"([COMMUNICATION]
+PARITY = { byte = "01" })",
+     R"(3:10 a table is not allowed for "PARITY"; allowed: a text in quotes, or { bytes = "..." })"},
+    {R"([COMMUNICATION]
+PARITY = { bytes = 1 })",
+     R"(3:10 a table is not allowed for "PARITY"; allowed: a text in quotes, or { bytes = "..." })"},
+    {R"([COMMUNICATION]
+PARITY = { bytes = "04" })",
+     R"(3:10 { bytes = "04" } is not allowed for "PARITY"; allowed: bytes such as "00")"},
+    {R"([COMMUNICATION]
+PARITY = { bytes = "0" })",
+     R"(3:10 { bytes = "0" } is not allowed for "PARITY"; allowed: bytes such as "00")"},
+    {R"([COMMUNICATION]
+PARITY = { bytes = "0g" })",
+     R"(3:10 { bytes = "0g" } is not allowed for "PARITY"; allowed: bytes such as "00")"},
+    {R"([COMMUNICATION]
+PARITY = { digits = "01" })",
+     R"(3:10 { digits = "01" } is not allowed for "PARITY"; allowed: a text in quotes, or { bytes = "..." })"},
+    {R"([COMMUNICATION]
+"RX BAUDRATE" = 1000000)",
+     R"(3:17 "1000000" is not allowed for "RX BAUDRATE"; allowed: "1200", "2400", "4800", "9600", "14400", "19200", "28800", "38400", "57600", "115200", "AUTO")"},
+    {R"([COMMUNICATION]
+"RX BAUDRATE" = "9601")",
+     R"(3:17 "9601" is not allowed for "RX BAUDRATE"; allowed: "1200", "2400", "4800", "9600", "14400", "19200", "28800", "38400", "57600", "115200", "AUTO". Did you mean "9600"?)"},
+    {R"(["TEXT SETUP"]
+"SCREEN BLANK" = { bytes = "FF" })",
+     R"(3:18 { bytes = "FF" } is not allowed for "SCREEN BLANK"; allowed: bytes such as "56 B1 11")"},
+    {R"(["TEXT SETUP"]
+"DISPLAY CHARACTER / LINE" = 41)",
+     R"(3:30 "41" is not allowed for "DISPLAY CHARACTER / LINE"; allowed: one of 31 entries, from "10" to "40". Did you mean "11"?)"},
+    {R"(["Exception 1"]
+text = "12345678901234567890123456789012345678901")",
+     R"(3:8 "12345678901234567890123456789012345678901" is not allowed for "text"; allowed: a text of at most 40 characters)"},
+    {R"(["Exception 1"]
+text = "A\u0000B")",
+     R"(3:8 "A\u0000B" is not allowed for "text"; allowed: a text of at most 40 characters)"},
+    {R"(["Exception 1"]
+text = "\u4E2D")",
+     R"(3:8 "中" has characters that the unit does not have)"},
+    {R"(["Exception 1"]
+RANGE = "5")",
+     R"(3:9 "5" is not allowed for "RANGE"; allowed: two values such as "0.00 - 100.00", with 8 digits at most before the separator and two behind it)"},
+    {R"(["Exception 1"]
+RANGE = "1.0 - 2.00")",
+     R"(3:9 "1.0 - 2.00" is not allowed for "RANGE"; allowed: two values such as "0.00 - 100.00", with 8 digits at most before the separator and two behind it)"},
+    {R"(["Exception 1"]
+RANGE = "123456789.00 - 2.00")",
+     R"(3:9 "123456789.00 - 2.00" is not allowed for "RANGE"; allowed: two values such as "0.00 - 100.00", with 8 digits at most before the separator and two behind it)"},
+    {R"(["Exception 1"]
+RANGE = "-1.00 - 2.00")",
+     R"(3:9 "-1.00 - 2.00" is not allowed for "RANGE"; allowed: two values such as "0.00 - 100.00", with 8 digits at most before the separator and two behind it)"},
+    {R"(["Exception 2"]
+OPERATOR = "AND")",
+     R"(3:12 "AND" is not allowed for "OPERATOR"; allowed: "NONE", "IN", "OUT". Did you mean "IN"?)"},
+    {R"(["TIME / LANGUAGE"]
+TITLE = "12345678901234567890123456789012345678901")",
+     R"(3:9 "12345678901234567890123456789012345678901" is not allowed for "TITLE"; allowed: a text of at most 40 characters, without a blank at its ends)"},
+    {R"(["REGISTER SELECT"]
+Register = "GENRIC")",
+     R"(3:12 "GENRIC" is not allowed for "Register"; allowed: one of 111 entries, from "GENERIC" to "WEIGH SCALE". Did you mean "GENERIC"?)"},
+    {R"(["REGISTER SELECT"]
+Register = "ADS"
+Display = "RECIEPT")",
+     R"(4:11 "RECIEPT" is not allowed for "Display"; allowed: "RECEIPT", "JOURNAL". Did you mean "RECEIPT"?)"},
+    {R"(["REGISTER SELECT"]
+Register = "ADS"
+Scale = "AVERY")",
+     R"(4:1 "Scale" is no option of this register, or not together with its other options)"},
+    {R"(["REGISTER SELECT"]
+Register = "ADS"
+Displai = "RECEIPT")",
+     R"(4:1 "Displai" is no setting of [REGISTER SELECT]. Did you mean "Display"?)"},
+    {R"(["REGISTER SELECT"]
+Register = "TCPIP"
+"IP  ADDRESS  1   :" = 256)",
+     R"(4:24 "256" is not allowed for "IP  ADDRESS  1   :"; allowed: one of 256 entries, from "0" to "255". Did you mean "25"?)"},
+    {R"(["REGISTER SELECT"]
+Register = "DRESSER WAYNE"
+"Point of sale" = "x"
+Terminal = "y")",
+     R"(4:19 "x" is not allowed for "Point of sale"; allowed: "JOURNAL PRINTER", "RECEIPT PRINTER"
+5:12 "y" is not allowed for "Terminal"; allowed: "TERMINAL 1", "TERMINAL 2", "TERMINAL 3", "TERMINAL 4", "TERMINAL 5", "TERMINAL 6", "TERMINAL 7", "TERMINAL 8")"},
+    {R"(["Other bytes"]
+EXECENTRI = "00")",
+     R"(3:1 "EXECENTRI" is no field of V1400 R12. Did you mean "EXECENTRY"?)"},
+    {R"(["Other bytes"]
+EXECENTRY = "0000")",
+     R"(3:13 "0000" is not allowed here; allowed: at most 1 byte of two digits 0 to 9 and A to F)"},
+    {R"(["Other bytes"]
+EXECENTRY = "0")",
+     R"(3:13 "0" is not allowed here; allowed: at most 1 byte of two digits 0 to 9 and A to F)"},
+    {R"(["Other bytes"]
+EXECENTRY = "ab")",
+     R"(3:13 "ab" is not allowed here; allowed: at most 1 byte of two digits 0 to 9 and A to F)"},
+    {R"(["Other bytes"]
+EXECENTRY = { bytes = "00" })",
+     R"(3:13 { bytes = "00" } is not allowed here; allowed: at most 1 byte of two digits 0 to 9 and A to F)"},
+    {R"(["Other bytes"]
+RX_BAUDRATE = "03")",
+     R"(3:15 "03" has bits that other lines store)"},
+    {R"-(["Other bytes"]
+"EXCPSTRS(25)" = "00")-",
+     R"-(3:1 "EXCPSTRS(25)" is no field of V1400 R12. Did you mean "EXCPSTRS(15)"?)-"},
+    {R"(["Other bytes"]
+"EXCPSTRS" = "00")",
+     R"(3:1 "EXCPSTRS" is no field of V1400 R12)"},
+    {"[=COMMUNICATION]", "2:2 wrong syntax"},
+    {"[ .]", "2:3 wrong syntax"},
+    {"[[#", "2:2 wrong syntax"},
+    {R"(Größe = 1)", "2:3 wrong syntax: letters other than A to Z are allowed only within quotes"},
+    {R"(PARITY = "ö\"" # ö
+EVEN = 'ö\' ü)",
+     "3:13 wrong syntax: letters other than A to Z are allowed only within quotes"},
+    {R"(PARITY = 00"ö")", "2:13 wrong syntax: letters other than A to Z are allowed only within quotes"},
+    {R"(PARITY = 0x1F)", R"(2:10 "0x1F" is not allowed; allowed: a text in quotes)"},
+    {R"(["Other bytes"]
+EXECENTRY = 10)",
+     R"(3:13 10 is not allowed here; allowed: at most 1 byte of two digits 0 to 9 and A to F)"},
+    {R"(complete = true
+["Other bytes"]
+EXECENTRY = { digits = "$#" })",
+     R"(4:13 { digits = "$#" } is not allowed here; allowed: at most 1000 letters and digits of a record stream)"},
+    {R"(["TIME / LANGUAGE"]
+TITLE = 7)",
+     R"(3:9 7 is not allowed for "TITLE"; allowed: a text in quotes, or { bytes = "..." })"},
+    {R"(PARITY = """EVEN""")", "2:10 wrong syntax: a text over several lines is not allowed"},
+    {R"(["Other bytes"]
+RX_BAUDRATE = "00")",
+     R"(3:15 "00" has bits that other lines store)"},
+    {R"(["Other bytes"]
+COMMCFG_BAK = { digits = "00" })",
+     R"(3:15 { digits = "00" } is allowed only with the line "complete = true")"},
+    {R"(["REGISTER SELECT"]
+Register = "BLEEP"
+Model = "TS5000"
+["Other bytes"]
+REGTYPE_MINOR = "01")",
+     R"(6:17 "01" has bits that an option stores)"},
+    {R"(firmware = "V9999 R9")", R"(2:12 "V9999 R9" is no firmware that this program serves)"},
+    {R"(firmware = "V1300 R14"
+[COMMUNICATION]
+PARITY = { bytes = "00" })",
+     R"(2:12 the text is of V1300 R14, this program serves V1400 R12
+4:10 the bytes of another firmware are not taken)"},
+    {R"([""]
+complete = true)",
+     R"(3:1 there is no table [""])"},
+    {R"(["Alarm 1"]
+text = " DOOR")",
+     R"(3:8 " DOOR" is not allowed for "text"; allowed: a text of at most 40 characters, without a blank at its ends)"},
+    {R"(complete = true
+[COMMUNICATION]
+PARITY = "EVEN")",
+     R"(2:1 "Register" of [REGISTER SELECT] and 355 others are missing. Without the line "complete = true", what is not named keeps its value)"},
+    {R"([COMMUNICATION]
+PARITY = "MARK"
+["Exception 1"]
+txt = "A"
+["Alarm 3"]
+"ALARM TYPE" = "X")",
+     R"(3:10 "MARK" is not allowed for "PARITY"; allowed: "NONE", "EVEN", "ODD"
+5:1 "txt" is no setting of [Exception 1]. Did you mean "text"?
+7:16 "X" is not allowed for "ALARM TYPE"; allowed: "DWELL", "TIMED")"},
+};
+
+TEST_F(TextForm, EveryErrorHasItsPlaceAndWhatIsAllowed) {
+  for (const auto& broken : kBroken) {
+    const auto said = ProblemsIn("format = 1\n" + std::string(broken.text));
+    // The library's own words for the syntax differ between its versions.
+    if (broken.said.ends_with("wrong syntax")) {
+      EXPECT_TRUE(said.starts_with(broken.said)) << broken.text << '\n' << said;
+    } else {
+      EXPECT_EQ(said, std::string(broken.said) + "\n") << broken.text;
+    }
+  }
+  // A name of many parts, which would end the library, and many errors.
+  std::string name = "a";
+  for (int part = 0; part < 30'000; ++part) name += ".a";
+  EXPECT_EQ(ProblemsIn("format = 1\n" + name + " = 1"), "2:1 the line has too many points\n");
+  std::string fields = "format = 1\n['Other bytes']\n";
+  for (int field = 0; field < 500; ++field) fields += "X" + std::to_string(field) + " = '00'\n";
+  const auto many = Read(fields).problems;
+  EXPECT_EQ(many.size(), 101U);
+  EXPECT_EQ(many.back().words, "and 400 more");
+  EXPECT_EQ(ProblemsIn(""), "1:1 the line \"format = 1\" is missing\n");
+  EXPECT_EQ(ProblemsIn("format = 2\nfuture = [1]"),
+            "1:10 format 2 is not known; this program reads format 1\n");
+}
+
+}  // namespace
+}  // namespace ovl::testing
