@@ -85,7 +85,7 @@ constexpr std::array kRules = {
          "Only free exceptions trigger alarm %1 (%2), so nothing sets it off.", Place::kAlarmOutputs,
          kTrigger, WithoutException},
     Rule{"text-never-comes", kWarning,
-         "Alarm %1 has a text to show or to send, but nothing sets the alarm off.", Place::kAlarmOutputs,
+         "Alarm %1 has a text to show or to send, but nothing triggers the alarm.", Place::kAlarmOutputs,
          kTrigger, TextNeverComes},
     Rule{"blank-trigger-text", kWarning, "The trigger text of alarm %1 is empty or only blanks.",
          Place::kAlarmOutputs, "TextTrigger", BlankTriggerText},

@@ -211,7 +211,7 @@ constexpr std::string_view kText = "TextException";
 constexpr std::string_view kRange = "cmdSetRange";
 
 constexpr std::array kRules = {
-    Rule{"range-digits", kError, "The range of exception %1 is no number: its digits are %2.",
+    Rule{"range-digits", kError, "The range of exception %1 is not a number: its digits are %2.",
          Place::kExceptionReport, kRange, RangeDigits},
     Rule{"free-with-text", kError, "Exception %1 has the text \"%2\", but is marked as free.",
          Place::kExceptionReport, kText, FreeWithText},
@@ -224,12 +224,13 @@ constexpr std::array kRules = {
          "Exception %1 has an action or is not marked as free, but its text is empty or only blanks.",
          Place::kExceptionReport, kText, BlankException},
     Rule{"exception-without-effect", kWarning,
-         "Exception %1, \"%2\", is not displayed, put out or kept in the history, and it triggers no alarm.",
+         "Exception %1, \"%2\", is not displayed, sent to the output or kept in the history, and it triggers "
+         "no alarm.",
          Place::kExceptionReport, "ComboExcp(2)", WithoutEffect},
     Rule{"exception-twice", kWarning, "Exception %1 looks for the same as exception %2: \"%3\".",
          Place::kExceptionReport, kText, Twice},
     Rule{"matches-everything", kWarning,
-         "The text of exception %1 is only \"?\", which stands for any character.", Place::kExceptionReport,
+         "The text of exception %1 is only \"?\", which matches any character.", Place::kExceptionReport,
          kText, MatchesEverything},
     Rule{"scroll-matching-alone", kWarning,
          "Exception %1 has SCROLL MATCHING, so its DISPLAY, OUTPUT and HISTORY BUFFER can go to OFF when it "

@@ -73,10 +73,10 @@ Advice RegisterReset(const core::Application& app, const Observed& observed) {
 Advice FileMisread(const core::Application& app, const Observed& observed) {
   const auto path = observed.files.MisreadIn(app);
   if (path.empty()) return {};
-  auto words = FileNameOf(path) + " has not the form of " + app.image_firmware.Joined() +
+  auto words = FileNameOf(path) + " does not have the form of " + app.image_firmware.Joined() +
                ", so everything from the register options on is shifted. Do not download it.";
   if (!firmware::SavedFileReopens(app.image_firmware))
-    words += " Files that \"Save\" writes under this firmware are such files.";
+    words += " Files that \"Save\" writes under this firmware have this form.";
   return {AdviceId::kCount, {}, words + " Upload again, or open a backup."};
 }
 
@@ -86,7 +86,7 @@ Advice FileRefused(const core::Application& app, const Observed& observed) {
   auto words = FileNameOf(path) + " is no configuration that " + app.image_firmware.Joined() +
                " opens. Nothing has changed.";
   if (!firmware::SavedFileReopens(app.image_firmware))
-    words += " Files that \"Save\" writes under this firmware are such files.";
+    words += " Files that \"Save\" writes under this firmware have this form.";
   return {
       AdviceId::kCount, {}, words + " Open a backup, or pick the firmware of the file in the Version menu."};
 }
@@ -139,7 +139,7 @@ Advice SavedFile(const core::Application& app, const Observed& observed) {
       firmware::ReadsSavedFileShifted(app.image_firmware) ? " reads it shifted" : " refuses it";
   return {AdviceId::kCount,
           {},
-          FileNameOf(path) + " is for keeping only: under " + app.image_firmware.Joined() + " \"Open\"" +
+          FileNameOf(path) + " does not open again: under " + app.image_firmware.Joined() + " \"Open\"" +
               effect + ". Use \"" + kSaveBackup + "\" for a file that opens again.",
           AdviceAction::kSaveBackup,
           kSaveBackup};

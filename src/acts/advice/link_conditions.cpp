@@ -119,7 +119,7 @@ std::string CureOf(const Refusal& refusal) {
       words.replace(place, 2, refusal.settings);
     return words;
   }
-  return "Choose another comport, or look at the device.";
+  return "Choose another comport, or check the device.";
 }
 
 // The data bits and the parity with which the port was scanned, such as "8 Bits and parity NONE".

@@ -24,7 +24,7 @@ constexpr std::string_view kTapOrAcknowledge =
 constexpr std::string_view kAddressDigit =
     "A digit of the register's address to which the unit listens; also sets the whole "
     "register line.";
-constexpr std::string_view kGoesById = "Whether the unit goes by the register ID below.";
+constexpr std::string_view kGoesById = "Whether the unit uses the register ID below.";
 constexpr std::string_view kIdDigit = "A digit of the ID of the register to which the unit listens.";
 constexpr std::string_view kShownIpNumber =
     "One of the four numbers of the IP address; this firmware shows it but keeps no "
@@ -37,7 +37,7 @@ constexpr std::string_view kPrinter = "The printer whose text the unit takes.";
 constexpr std::string_view kIpNumber =
     "One of the four numbers of the IP address from which the unit takes its text.";
 constexpr std::string_view kOverlaidInformation =
-    "Whether the unit lays this kind of information over the picture.";
+    "Whether the unit writes this kind of information over the picture.";
 constexpr std::string_view kModelWithSettings =
     "The register's model, whose print stream the unit then reads; a few open settings "
     "of their own.";
@@ -80,8 +80,7 @@ constexpr OptionRow kRows[] = {
      "The address under which the register calls the unit; ANY takes the text of every "
      "address."},
     {Frame::kDisplay, "Display", "ComboDisplay", kReceiptOrJournal},
-    {Frame::kDelta, "Printer", "OpDelta",
-     "The printer line to which the unit is wired, and the printer's make."},
+    {Frame::kDelta, "Printer", "OpDelta", "The printer, and the line to which the unit is wired."},
     {Frame::kDresserWayne, "Text source", "OpDYWAYE",
      "The printer or terminal whose text the unit takes; the choice also sets the "
      "register line's speed."},
@@ -106,15 +105,14 @@ constexpr OptionRow kRows[] = {
             "data bits of the register line.",
             kFields<REGTYPE_MINOR, UNITADDR>}),
     {Frame::kMicros, "Network", "OpMicros",
-     "The network on which the unit hears the register; each but the first has settings "
+     "The network on which the unit listens to the register; each but the first has settings "
      "of its own."},
     {Frame::kMicros, "Network settings", "cmdMicros", "Opens the settings of the chosen network.", kNoField},
     {Frame::kNcr, "Model", "OpNCR", kModelTapOrEmulate},
     {Frame::kBeetlePrinters, "Device", "OpBEETLE", kDevice},
     {Frame::kNorand, "Wiring", "ComboWoring", kTapOrAcknowledge},
     {Frame::kNorand, "Title display", "ComboTITLEDIP",
-     "Whether the unit shows the title above the register's text; also switches TITLER.",
-     kFields<GTITLE_NF_BAK>},
+     "Whether the unit shows the title above the register's text; also sets TITLER.", kFields<GTITLE_NF_BAK>},
     {Frame::kNorand, "Console ID", "ComboCONSOLEID",
      "The console whose text the unit takes; ANY takes them all.", kFields<DV_ADDRIND_BAK>},
     {Frame::kPanasonic, "Title display", "ComboPana(0)",
@@ -150,9 +148,9 @@ constexpr OptionRow kRows[] = {
     {Frame::kCasioTk500, "Model", "ComboTk500(0)", kFixedModel, kNoField},
     {Frame::kCasioTk500, "Mode", "ComboTk500(1)", kTapOrEmulate},
     {Frame::kClarity, "Address", "ComboCLARITYEPOS",
-     "The address of the register that the unit follows; ALL takes every one.", kFields<UNITADDR>},
+     "The address of the register that the unit follows; ALL follows every register.", kFields<UNITADDR>},
     Columns(2, {Frame::kEpson, "Printer or display", "OpRI_QT2",
-                "What hangs on the line to which the unit is wired.", kFields<REGTYPE_MINOR, REGTYPE_EXT2>}),
+                "The device on the line to which the unit is wired.", kFields<REGTYPE_MINOR, REGTYPE_EXT2>}),
     {Frame::kNixdorfBeetle, "Printer", "OpNIXDORF", kPrinter, kFields<REGTYPE_MINOR, REGTYPE_EXT2>},
     {Frame::kPrinterOrScale, "Device", "OpNUCP", "The device whose text the unit takes."},
     {Frame::kSharpA410, "Mode", "OpA410",
@@ -185,7 +183,7 @@ constexpr OptionRow kRows[] = {
             "The terminal whose text the unit takes; also sets the register line.",
             kFields<REGTYPE_MINOR, REGTYPE_EXT1, REGTYPE_EXT2>}),
     Beside({Frame::kDresserWayneModels, "Printer", "PRNOP",
-            "The printer that the unit answers for; also sets the register line.",
+            "The printer in whose place the unit answers; also sets the register line.",
             kFields<REGTYPE_MINOR, REGTYPE_EXT1, REGTYPE_EXT2>}),
     Beside({Frame::kDresserWayneModels, "Security", "SECUOP",
             "The unit takes the security messages of the register; also sets the register line.",

@@ -125,7 +125,7 @@ void Program::GuardUnsaved() {
   unsaved_ = std::make_unique<UnsavedCopy>(app_, folder_);
   unsaved_->report = [this](const core::Result& written) {
     unguarded_ = written.Ok() ? QString()
-                              : QStringLiteral("Changes are not guarded against a sudden end. ") +
+                              : QStringLiteral("The program cannot keep a copy of your changes. ") +
                                     host::FromSystem(written.Problem().Text());
     ShowRescueNotice();
   };
@@ -137,7 +137,7 @@ void Program::ShowRescueNotice() {
   auto notice = unguarded_;
   if (notice.isEmpty() && !rescued_.isEmpty())
     notice = rescued_.join(QStringLiteral(", ")) +
-             QStringLiteral(": changes of a run that ended suddenly, for File > Open");
+             QStringLiteral(": rescued changes. Open them with \"File\", \"Open\"");
   windows_->Main().Status().SetRescueNotice(notice);
 }
 
@@ -242,9 +242,10 @@ void Program::Restart() {
       Act(core::ClickEvent{&app_.frmMain.menuExit});
       return;
     }
-    status.ShowFileMessage(QStringLiteral("The program did not start again. Exit, and start it yourself."));
+    status.ShowFileMessage(QStringLiteral("The program could not restart. Exit, and start it again."));
   } catch (const core::Failure& failure) {
-    status.ShowFileMessage(QStringLiteral("The changes cannot be kept: ") + host::FromSystem(failure.Text()));
+    status.ShowFileMessage(QStringLiteral("The program cannot save the changes: ") +
+                           host::FromSystem(failure.Text()));
   }
 }
 

@@ -61,7 +61,7 @@ QString TextHint(const core::Application& app) {
   const auto seen = box.text.find_last_not_of(' ') + 1;
   auto hint = QStringLiteral("%1 of %2 characters").arg(seen).arg(box.max_length);
   if (app.TextEntryMode == static_cast<int>(panels::TextTarget::kException)) {
-    hint += QStringLiteral(". A ? stands for any character");
+    hint += QStringLiteral(". A ? matches any character");
   }
   return hint + QLatin1Char('.');
 }
@@ -74,7 +74,7 @@ struct ValueRow {
 
 // How many digits the unit keeps of each value.
 QString RangeHint(const core::Application& app) {
-  return QStringLiteral("Up to %1 digits, and %2 behind the separator: 5 there becomes 05.")
+  return QStringLiteral("Up to %1 digits, and %2 behind the separator: 5 becomes 05.")
       .arg(app.frmSetRange.Range_Hi.max_length)
       .arg(app.frmSetRange.SubRange_Hi.max_length);
 }

@@ -132,7 +132,7 @@ void TextActs::Import() {
   // While the window is on the screen, the unit can start something else, or bring another configuration.
   if (!image || !CanAct()) return;
   if (app_.image != base)
-    return hooks_.show_text(QStringLiteral("Not imported: the configuration has changed meanwhile"));
+    return hooks_.show_text(QStringLiteral("Not imported: the configuration has changed since"));
   hooks_.run("Import " + NameOf(path).toStdString(), [&] { core::TakeImage(app_, *image); });
   hooks_.show_text(QStringLiteral("Text imported: ") + QDir::toNativeSeparators(Decoded(path)));
 }
@@ -142,7 +142,7 @@ std::optional<image::ConfigImage> TextActs::ImageOf(const std::string& path, con
   const auto stream = files::JoinLines(bytes);
   auto image = image::DecodeStream(stream, app_.image_firmware);
   if (image && image::FitsFirmware(stream, app_.image_firmware)) return image;
-  hooks_.show_text(QStringLiteral("Not compared: %1 is no configuration of %2")
+  hooks_.show_text(QStringLiteral("Not compared: %1 is not a configuration of %2")
                        .arg(NameOf(path), host::FromWindows1252(acts::FirmwareName(app_))));
   return std::nullopt;
 }

@@ -126,7 +126,7 @@ class TextValidator : public QValidator {
 
   State validate(QString& text, int& caret) const override {
     if (!host::ToWindows1252(text))
-      return Refuse(QStringLiteral("The unit has no such character: only Windows-1252 can be typed."));
+      return Refuse(QStringLiteral("You can type only characters of Windows-1252."));
     const auto is_digit = [](QChar sign) { return sign >= QLatin1Char('0') && sign <= QLatin1Char('9'); };
     if (digits_only && !std::all_of(text.begin(), text.end(), is_digit))
       return Refuse(QStringLiteral("Only digits can be typed here."));

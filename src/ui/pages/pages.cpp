@@ -10,8 +10,7 @@
 namespace ovl::ui {
 namespace {
 
-const QString kCarriedThrough =
-    QStringLiteral("This firmware's settings of this tab are carried through unchanged.");
+const QString kCarriedThrough = QStringLiteral("The program keeps the settings of this tab unchanged.");
 
 // A row for each list of an array.
 void AddListRows(PageColumn& column, const std::string& array, std::size_t count) {

@@ -6,7 +6,7 @@ namespace ovl::ui {
 namespace {
 
 constexpr std::array kTips{
-    Tip{"frmMicros", "ComboMICROS", "The kind of device in whose place the unit stands on the network."},
+    Tip{"frmMicros", "ComboMICROS", "The kind of device that the unit replaces on the network."},
     Tip{"frmMicros", "ComboMICROSADD", "The address of that device; ANY takes every address."},
     Tip{"frmMicros", "ComboMODE", "Whether the unit only listens (TAP) or answers as the device (EMULATE)."},
     Tip{"frmMicros", "ComboISN(0)", "The kind of device whose messages the unit takes; ANY takes all."},

@@ -19,7 +19,7 @@ constexpr std::array kTips{
     Tip{"frmMain", "ComboExcp(5)",
         "How the unit compares the amount on the line with the two values of the range."},
     Tip{"frmMain", "TextException",
-        "The text that the unit looks for in what the register prints; ? stands for any character."},
+        "The text that the unit looks for in what the register prints; ? matches any character."},
     Tip{"frmMain", "cmdSetExcpstr", "Opens a window in which the text to look for is typed."},
     Tip{"frmMain", "TextRANGE(0)", "The first value with which the unit compares the amount on the line."},
     Tip{"frmMain", "TextRANGE(1)", "The second value with which the unit compares the amount on the line."},
@@ -30,10 +30,10 @@ constexpr std::array kTips{
 
     Tip{"frmMain", "ComboALM(0)", "Which of the 16 alarms is shown here; the overview picks it as well."},
     Tip{"frmMain", "ComboALM(1)",
-        "What sets the alarm off: nothing, one exception, a group of exceptions, or the RTS line."},
-    Tip{"frmMain", "lbAlmTrig", "The number beside it is that of the exception that sets the alarm off."},
+        "What triggers the alarm: nothing, one exception, a group of exceptions, or the RTS line."},
+    Tip{"frmMain", "lbAlmTrig", "The number beside it is that of the exception that triggers the alarm."},
     Tip{"frmMain", "ComboALM(2)",
-        "How the alarm's contact stands while there is no alarm: NO open, NC closed. Alarm 9 keeps the state "
+        "The state of the contact without an alarm: NO open, NC closed. Alarm 9 keeps the state "
         "it has."},
     Tip{"frmMain", "ComboALM(3)", "For how long the unit holds the alarm; PLUSE gives a pulse."},
     Tip{"frmMain", "ComboALM(4)",
@@ -41,16 +41,16 @@ constexpr std::array kTips{
     Tip{"frmMain", "ComboALM(5)",
         "For how long the unit marks the picture, from 000 to 240 in steps of 2; the same for all alarms."},
     Tip{"frmMain", "ComboALM(6)",
-        "How this alarm answers a loss of the video signal: OFF not at all, MANUAL by hand, or with the time "
-        "chosen."},
+        "What this alarm does when the video signal is lost: OFF nothing, MANUAL until somebody ends it, or "
+        "for the "
+        "time that is picked."},
     Tip{"frmMain", "ComboALM(7)", "Which of the unit's two types this alarm has, DWELL or TIMED."},
-    Tip{"frmMain", "TextTrigger", "The text that the unit shows or sends when this alarm goes off."},
+    Tip{"frmMain", "TextTrigger", "The text that the unit shows or sends during this alarm."},
     Tip{"frmMain", "cmdSetTrigger", "Opens a window in which this alarm's text is typed."},
-    Tip{"frmMain", "ComboTrigger(0)",
-        "Whether the unit shows the text in the picture when this alarm goes off."},
-    Tip{"frmMain", "ComboTrigger(1)",
-        "Whether the unit sends the text on its line when this alarm goes off."},
-    Tip{"frmMain", "ComboTrigger(2)", "How long after the RTS line the unit brings this alarm's text."},
+    Tip{"frmMain", "ComboTrigger(0)", "Whether the unit shows the text in the picture during this alarm."},
+    Tip{"frmMain", "ComboTrigger(1)", "Whether the unit sends the text on its line during this alarm."},
+    Tip{"frmMain", "ComboTrigger(2)",
+        "How long after the RTS signal the unit shows or sends the text of this alarm."},
 
     Tip{"frmMain", "Title_Text",
         "The fixed text that the unit writes in the picture, such as the shop's name."},
@@ -62,19 +62,19 @@ constexpr std::array kTips{
     Tip{"frmMain", "DemoSpeed", "How much time the demo takes for a line."},
 
     Tip{"frmSetEXCPSTR", "Text1", "The text that the unit keeps, 40 characters at most."},
-    Tip{"frmSetEXCPSTR", "cmdSET", "Takes the text over and closes this window."},
-    Tip{"frmSetEXCPSTR", "cmdClr", "Empties the text; it is taken over with SET only."},
+    Tip{"frmSetEXCPSTR", "cmdSET", "Stores the text and closes this window."},
+    Tip{"frmSetEXCPSTR", "cmdClr", "Empties the text; only SET stores it."},
     Tip{"frmSetRange", "Range_Hi", "The first value with which the unit compares the amount on the line."},
     Tip{"frmSetRange", "SubRange_Hi", "The two digits of the first value behind the separator."},
     Tip{"frmSetRange", "Range_Low", "The second value with which the unit compares the amount on the line."},
     Tip{"frmSetRange", "SubRange_Low", "The two digits of the second value behind the separator."},
     Tip{"frmSetRange", "ComboDec",
-        "The sign that the register prints between whole and decimal digits; it holds for all exceptions and "
-        "is "
-        "stored at once."},
-    Tip{"frmSetRange", "cmdSetRange", "Takes the two values over and closes this window."},
+        "The separator that the register prints between whole and decimal digits; it is for all exceptions "
+        "and "
+        "is stored at once."},
+    Tip{"frmSetRange", "cmdSetRange", "Stores the two values and closes this window."},
     Tip{"frmSetRange", "cmdClr",
-        "Puts both values to zero, which is taken over with SET only, and the separator to a point at once."},
+        "Sets both values to zero, which only SET stores, and the separator to \".\" at once."},
     Tip{"frmView", "Text", "The text of the file; it can be marked and copied."},
 };
 

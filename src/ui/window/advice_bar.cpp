@@ -26,7 +26,7 @@ AdviceBar::AdviceBar(Bindings& bindings, const OwnActs& acts)
   close_->setObjectName(QStringLiteral("AdviceClose"));
   close_->setText(QStringLiteral("Hide"));
   close_->setAccessibleName(QStringLiteral("Hide this advice"));
-  close_->setToolTip(QStringLiteral("Hides this advice until its reason has gone and come again."));
+  close_->setToolTip(QStringLiteral("Hides this advice until its condition ends and is true again."));
   close_->setAutoRaise(true);
   close_->setFocusPolicy(Qt::TabFocus);
   across->addWidget(words_, 1);

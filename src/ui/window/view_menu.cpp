@@ -64,7 +64,8 @@ void BuildViewMenu(QMenuBar& bar, const QString& program_folder, std::function<v
       ApplyTheme(theme);
       const auto kept = KeepTheme(program_folder, theme);
       if (!kept.Ok())
-        report(QStringLiteral("The choice is not kept. ") + host::FromSystem(kept.Problem().Text()));
+        report(QStringLiteral("The program could not save the choice. ") +
+               host::FromSystem(kept.Problem().Text()));
     });
     QObject::connect(view, &QMenu::aboutToShow, action, [action, program_folder, theme = item.theme] {
       action->setChecked(ChosenTheme(program_folder) == theme);

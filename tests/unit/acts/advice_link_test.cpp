@@ -113,7 +113,7 @@ TEST(AdviceOnTheLink, ARefusedPortHasDeviceReasonAndCureInOneLine) {
       {"Input/output error", "No hardware is behind this name"},
       {"Device or resource busy", "Another program uses the device: close it."},
       {"Invalid argument", "The device cannot use 9600,N,8,1"},
-      {"Out of luck", "did not open: Out of luck. Choose another comport, or look at the device."},
+      {"Out of luck", "did not open: Out of luck. Choose another comport, or check the device."},
   };
   for (const auto& [reason, words] : reasons) {
     Expect({"port-refused", "port fail \"" + reason + "\"\n" + kOpenPort, words, "Set Comport",

@@ -65,12 +65,13 @@ TEST(AdviceOnFiles, NamesAFileThatDoesNotFitTheFirmware) {
   const std::string open_image = "answer \"IMAGE\"\nclick OpenMenu\n";
   const AdviceRow rows[] = {
       {"file-misread", save_and_open,
-       "file.bin has not the form of V1400R12, so everything from the register options on is shifted. Do not "
+       "file.bin does not have the form of V1400R12, so everything from the register options on is shifted. "
+       "Do not "
        "download it.",
        "", open_image},
       {"file-misread",
        save_and_open,
-       "Files that \"Save\" writes under this firmware are such files.",
+       "Files that \"Save\" writes under this firmware have this form.",
        "",
        kOpenPort + kHold + kUpload + "unit \"STREAM\"\n",
        {"V1400", "R7"}},
@@ -78,16 +79,16 @@ TEST(AdviceOnFiles, NamesAFileThatDoesNotFitTheFirmware) {
        "", open_image, kV1334},
       {"file-misread", save_and_open, "is shifted", "", "undo\n"},
       {"saved-file", "answer \"FILE\"\nclick menuSave\n",
-       "file.bin is for keeping only: under V1400R12 \"Open\" reads it shifted. Use \"Save Backup...\"",
+       "file.bin does not open again: under V1400R12 \"Open\" reads it shifted. Use \"Save Backup...\"",
        "Save Backup...", open_image},
-      {"saved-file", "answer \"FILE\"\nclick menuSave\n", "file.bin is for keeping only", "Save Backup...",
+      {"saved-file", "answer \"FILE\"\nclick menuSave\n", "file.bin does not open again", "Save Backup...",
        "backup \"FILE\"\n"},
       {"saved-file", "answer \"FILE\"\nclick menuSave\n", "under V1334R1 \"Open\" refuses it",
        "Save Backup...", open_image, kV1334},
   };
   for (const auto& row : rows) Expect(row);
   AdviceProgram program(kLatest);
-  program.Run("answer cancel\nclick menuSave\nexpect no advice \"for keeping\"\n");
+  program.Run("answer cancel\nclick menuSave\nexpect no advice \"does not open again\"\n");
 }
 
 TEST(AdviceOnRegisters, NamesTheByteThatHidesTheOptions) {

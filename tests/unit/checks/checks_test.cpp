@@ -86,7 +86,7 @@ std::vector<Row> StoredRows() {
        "OpNCR", "set REGTYPE_MINOR 04\n", 0, kOld},
       {"image-of-other-register", "pick ComboReg \"IBM\"\nset GPS_CONFIG_BAK 05\n",
        "GPS_CONFIG_BAK is 05, but the default image of IBM has 00", "ComboReg", "pick ComboReg \"IBM\"\n"},
-      {"range-digits", Stored(Slot(0x01, with_letter, "VOID")), "The range of exception 3 is no number",
+      {"range-digits", Stored(Slot(0x01, with_letter, "VOID")), "The range of exception 3 is not a number",
        "cmdSetRange", Stored(text), 3},
       {"free-with-text", Stored(Slot(0x11, kZeros, "VOID")), "Exception 3 has the text \"VOID\"",
        "cmdSetExcpstr", Stored(text), 3},

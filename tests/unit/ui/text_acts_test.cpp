@@ -99,7 +99,7 @@ TEST_F(TextActsTest, AFileIsComparedInTheWindowOfTheChanges) {
   EXPECT_EQ(list.topLevelItemCount(), 1);
   WriteFile(folder.File("noise.bin"), "noise");
   Choose("menuCompare", "noise.bin");
-  EXPECT_EQ(Note("StatusFile"), "Not compared: noise.bin is no configuration of V1400R12");
+  EXPECT_EQ(Note("StatusFile"), "Not compared: noise.bin is not a configuration of V1400R12");
 }
 
 }  // namespace
