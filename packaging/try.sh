@@ -10,7 +10,7 @@
 set -euo pipefail
 [ "${TRY_ALONE:-}" ] || TRY_ALONE=1 exec unshare --mount --propagation private "$0" "$@"
 
-roots='' given='' cache='' before=() releases=() table=() release='' now='' root='' home='' screen=''
+roots='' given='' cache='' before=() releases=() table=() release='' tried='' now='' root='' home='' screen=''
 while [ $# -gt 0 ]; do
   case $1 in
     --roots) roots=$(realpath -m "$2"); shift ;;
@@ -29,10 +29,10 @@ chmod 755 "$work"  # folders below it become the root of an ordinary user
 : "${roots:=$work/roots}"
 export DEBIAN_FRONTEND=noninteractive LC_ALL=C.UTF-8
 
-end_step() { [ -z "$now" ] || table+=("$(printf '%-9s %-75s %s' "$release" "$now" "$1")"); now=''; }
+end_step() { [ -z "$now" ] || table+=("$(printf '%-9s %-75s %s' "$tried" "$now" "$1")"); now=''; }
 step() {
   end_step passed
-  now=$1
+  now=$1 tried=$release
   printf '\n== %s: %s\n' "$release" "$now"
 }
 report() {

@@ -9,6 +9,7 @@ export PATH=$1:$PATH
 cd "$place"
 mkdir -p site/V1400 store/ORB
 touch conversation
+cp "$here/leaks_of_libraries.txt" leaks  # its option takes no path with blanks
 ln -s "$2/V1400/R12" site/V1400
 printf '[General]\nVersion=V1400\nRelease=R12\n' > 'store/ORB/OVL Software.conf'
 
@@ -57,7 +58,7 @@ end_unit() {
 
 start_program() {
   env -i HOME="$place" XDG_RUNTIME_DIR="$place" LANG=C.UTF-8 DISPLAY="$DISPLAY" \
-    LSAN_OPTIONS="suppressions=$here/leaks_of_libraries.txt:print_suppressions=0" \
+    LSAN_OPTIONS="suppressions=$place/leaks:print_suppressions=0" \
     "$(command -v ovl)" --folder "$place/site" --store "$place/store" 2>> said &
   program=$!
 }
