@@ -40,7 +40,7 @@ if [ "$qt" = "$build/qt" ]; then
   [ -d "$build/source" ] || fetch_qt
   [ -f "$qt/build.ninja" ] || configure_qt
   cmake --build "$qt" --target EntryPointImplementation Gui_resources_{1,2} Widgets Widgets_resources_{1,2,3} \
-    QWindowsIntegrationPlugin QWindowsIntegrationPlugin_{init,resources_1,resources_2} \
+    PrintSupport PrintSupport_resources_{1,2} QWindowsIntegrationPlugin QWindowsIntegrationPlugin_{init,resources_1,resources_2} \
     QOffscreenIntegrationPlugin QOffscreenIntegrationPlugin_init
 fi
 qt_source=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$qt/CMakeCache.txt")
