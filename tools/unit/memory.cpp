@@ -33,7 +33,8 @@ bool WriteAll(int descriptor, std::string_view text) {
 bool FlushFolderOf(const std::string& path) {
   const auto folder = std::filesystem::absolute(path).parent_path();
   const Descriptor names(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  return names.Open() && (::fsync(names.Get()) == 0 || errno == EINVAL);
+  if (!names.Open()) return errno == EACCES;  // it may be written and not read
+  return ::fsync(names.Get()) == 0 || errno == EINVAL;
 }
 
 }  // namespace
