@@ -54,6 +54,7 @@ struct Entry {
 struct Document {
   std::vector<Entry> entries;  // in the order of the lines
   std::vector<Problem> problems;
+  std::vector<Entry> empty_tables = {};  // without a key and a value
 };
 
 inline constexpr int kFormat = 1;  // the version of the form

@@ -44,6 +44,10 @@ class Importer {
         ReadSetting(entry);
       }
     }
+    for (const auto& table : document_.empty_tables) {
+      const auto here = TableHere(table.table);
+      if (here != kOtherBytes && !IsTable(here)) SayUnknown(table, here);
+    }
     ReadOtherBytes();
     ReadOptions();
     if (complete_ && result_.problems.empty()) ExpectAll();
@@ -183,10 +187,18 @@ class Importer {
         Say(entry->at, "the bytes of another firmware are not taken", true);
       } else if (entry->value.kind == ValueKind::kDigits) {
         TakeAsItIs(*target, *entry);
+      } else if (!complete_ && !IsRead(*target->row)) {
+        Say(entry->at, "a unit of " + NameOf(firmware_) + " never sends " + InQuotes(entry->key) +
+                           ", so it is only for the whole of an image");
       } else if (IsBytes(*target, *entry)) {
         TakeBits(panels, *target, *entry);
       }
     }
+  }
+
+  bool IsRead(const image::FieldRow& row) const {
+    return image::InStream(row, firmware::LayoutOf(firmware_), firmware_, firmware::CapabilitiesOf(firmware_),
+                           image::Direction::kRead);
   }
 
   // A field of another length shifts what is behind it in a download, so it is only for the whole of an

@@ -79,6 +79,7 @@ Document ReadToml(std::string_view text) {
     // A table without a name must not count as the lines before the first table.
     const auto name = key.str().empty() ? "\"\"" : std::string(key.str());
     for (const auto& [inner_key, inner] : *table) AddEntry(document, name, inner_key, inner);
+    if (table->empty()) document.empty_tables.push_back({name, {}, PositionOf(key.source().begin), {}});
   }
   std::sort(document.entries.begin(), document.entries.end(),
             [](const Entry& one, const Entry& other) { return one.at < other.at; });

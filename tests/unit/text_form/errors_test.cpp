@@ -49,6 +49,9 @@ X = 1)",
     {R"([Fantasy]
 PARITY = "EVEN")",
      R"(3:1 there is no table [Fantasy])"},
+    {R"([COMMUNICATION]
+[COMUNICATION])",
+     R"(3:2 there is no table [COMUNICATION]. Did you mean "COMMUNICATION"?)"},
     {R"(["Exception 25"]
 text = "A")",
      R"(3:1 there is no table [Exception 25]. Did you mean "Exception 2"?)"},

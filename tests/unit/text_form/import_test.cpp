@@ -69,6 +69,10 @@ TEST_F(TextForm, AFieldThatIsNeverReadStaysEmpty) {
   EXPECT_TRUE(read.problems.empty()) << TextOf(read.problems.front(), "text");
   EXPECT_EQ(read.image[image::FieldId::BLNKRTS_BAK], "");
   EXPECT_NE(read.image[image::FieldId::BLNKVAL], Pattern(late)[image::FieldId::BLNKVAL]);
+  const auto bytes = Read("format = 1\n['Other bytes']\nBLNKRTS_BAK = '05'", Strictness::kWhole, late);
+  ASSERT_EQ(bytes.problems.size(), 1U);
+  EXPECT_EQ(bytes.problems[0].words,
+            "a unit of V1400 R7 never sends \"BLNKRTS_BAK\", so it is only for the whole of an image");
 }
 
 TEST_F(TextForm, OptionsGoWithTheirRegisterAndTabsByTheirTopic) {
