@@ -159,12 +159,21 @@ Hits BlankInFront(Subject& subject) {
   });
 }
 
+constexpr std::string_view kScrollMatching = "ComboExcp(4)";
+
+// Where the form hides the list of SCROLL MATCHING, the bit still switches DISPLAY off.
 Hits ScrollMatchingAlone(Subject& subject) {
-  return ExceptionsWith(subject, [](const Exception& exception) {
+  auto hits = ExceptionsWith(subject, [](const Exception& exception) {
     return exception.Has(image::kScrollBit) &&
            (exception.Has(image::kDisplayBit) || exception.Has(image::kOutputBit) ||
             exception.Has(image::kHistoryBit));
   });
+  if (subject.Offers(std::string(kScrollMatching))) return hits;
+  for (auto& hit : hits) {
+    hit.site = {Place::kExceptionReport, "ComboExcp(1)"};
+    hit.site->slot = hit.slot;
+  }
+  return hits;
 }
 
 Hits RangeWithoutOperator(Subject& subject) {
@@ -235,7 +244,7 @@ constexpr std::array kRules = {
     Rule{"scroll-matching-alone", kWarning,
          "Exception %1 has SCROLL MATCHING, so its DISPLAY, OUTPUT and HISTORY BUFFER can go to OFF when it "
          "is looked at.",
-         Place::kExceptionReport, "ComboExcp(4)", ScrollMatchingAlone},
+         Place::kExceptionReport, kScrollMatching, ScrollMatchingAlone},
     Rule{"display-off", kWarning, "DISPLAY of %1 is ON, but DISPLAY of the text display is OFF.",
          Place::kText, "ComboDIP(6)", DisplayOff},
     Rule{"report-off", kWarning, "OUTPUT of %1 is ON, but OUTPUT of the exception report is OFF.",

@@ -95,6 +95,8 @@ std::vector<Row> StoredRows() {
       {"scroll-matching-alone", "set EXCPSTRS(3) " + Slot(0x42, kZeros.substr(8), "VOID") + "\n",
        "Exception 3 has SCROLL MATCHING", "ComboExcp(4)",
        "set EXCPSTRS(3) " + Slot(0x40, kZeros.substr(8), "VOID") + "\n", 3, kReduced},
+      {"scroll-matching-alone", Stored(Slot(0x42, kZeros, "VOID")), "Exception 3 has SCROLL MATCHING",
+       "ComboExcp(1)", Stored(Slot(0x40, kZeros, "VOID")), 3},
   };
 }
 
