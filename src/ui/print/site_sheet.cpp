@@ -4,6 +4,7 @@
 #include <QMarginsF>
 #include <QPageLayout>
 #include <QPagedPaintDevice>
+#include <QPainter>
 #include <QTextDocument>
 
 #include "sheet/site_sheet.h"
@@ -13,6 +14,19 @@ namespace ovl::ui {
 namespace {
 
 const QMarginsF kMargins(12, 12, 12, 12);  // in millimetres
+constexpr int kPages = 2;                  // that the headings of the sheet name
+
+// How many times as large as the paper the page must be for the sheet to have two of them.
+double EnlargeToFit(QTextDocument& document, QSizeF paper) {
+  constexpr double kStep = 1.03, kMost = 2;
+  double factor = 1;
+  document.setPageSize(paper);
+  while (document.pageCount() > kPages && factor < kMost) {
+    factor *= kStep;
+    document.setPageSize(paper * factor);
+  }
+  return factor;
+}
 
 }  // namespace
 
@@ -20,16 +34,25 @@ QString SiteSheetOf(const core::Application& like, const image::ConfigImage& ima
   return QString::fromStdString(sheet::SiteSheet(like, image, checks::FindingsOf(like, image)));
 }
 
-// The document has the size of what the margins leave of the paper. Without a size it would print with
-// margins of its own.
+// The page is what the margins leave of the paper. Only bytes that this program never stores make the texts
+// so wide that the page must be larger, and is then printed smaller.
 void PrintSiteSheet(const QString& sheet, QPagedPaintDevice& device) {
   device.setPageMargins(kMargins, QPageLayout::Millimeter);
   QTextDocument document;
   document.setDocumentMargin(0);
   document.documentLayout()->setPaintDevice(&device);
   document.setHtml(sheet);
-  document.setPageSize(QSizeF(device.width(), device.height()));
-  document.print(&device);
+  const double factor = EnlargeToFit(document, QSizeF(device.width(), device.height()));
+  const auto page = document.pageSize();
+  QPainter painter(&device);
+  painter.scale(1 / factor, 1 / factor);
+  for (int number = 0; number < document.pageCount(); ++number) {
+    if (number > 0) {
+      device.newPage();
+      painter.translate(0, -page.height());
+    }
+    document.drawContents(&painter, QRectF(QPointF(0, number * page.height()), page));
+  }
 }
 
 std::optional<SheetFormat> SheetFormatOf(const QString& file) {

@@ -52,12 +52,14 @@ TEST_P(SiteSheetFile, OfAFullConfigurationHasTwoPages) {
       "Exception 24, \"24 AMOUNT & WIDE <VOID> MW@#%WWWWWWWWWWW\", is not displayed, put out or kept in the "
       "history, and it triggers no alarm.";
   const std::vector<checks::Finding> findings(40, finding);
-  const auto sheet = QString::fromStdString(sheet::SiteSheet(app, FullImage(GetParam()), findings));
   const TemporaryFolder folder;
   const auto file = QString::fromStdString(folder.File("sheet.pdf"));
-  for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
-    ASSERT_TRUE(ui::WriteSiteSheet(sheet, file, ui::SheetFormat::kPdf, paper).Ok());
-    EXPECT_EQ(PagesOf(file), 2) << QPageSize::name(paper).toStdString();
+  for (const auto& image : {FullImage(GetParam()), text_form::FilledImage(GetParam(), 'C')}) {
+    const auto sheet = QString::fromStdString(sheet::SiteSheet(app, image, findings));
+    for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
+      ASSERT_TRUE(ui::WriteSiteSheet(sheet, file, ui::SheetFormat::kPdf, paper).Ok());
+      EXPECT_EQ(PagesOf(file), 2) << QPageSize::name(paper).toStdString();
+    }
   }
 }
 
