@@ -66,7 +66,7 @@ void PrintJson(std::ostream& output, const std::vector<CheckedFile>& files) {
   output << "[";
   const char* before_file = "\n";
   for (const auto& file : files) {
-    output << before_file << "  {\"path\": " << JsonText(file.path)
+    output << before_file << "  {\"path\": " << JsonText(host::FromSystem(file.path).toStdString())
            << ", \"firmware\": " << JsonText(file.firmware.Joined()) << ", \"findings\": [";
     const char* before_finding = "\n";
     for (const auto& finding : file.findings) {

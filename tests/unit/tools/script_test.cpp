@@ -192,7 +192,7 @@ TEST_F(Script, PrintsBoxesRefusalsSentTextsAndTheEnd) {
 }
 
 TEST_F(Script, ChecksFilesAndTheConfiguration) {
-  const auto good = folder_.File("good.bin"), bad = folder_.File("bad \"1\".bin"),
+  const auto good = folder_.File("good.bin"), bad = folder_.File("bad \"\xD6\".bin"),
              missing = folder_.File("no");
   const firmware::FirmwareId firmware{"V1400", "R12"};
   ovl::testing::WriteFile(folder_.File("V1400/R12/GENERIC.bin"),
@@ -222,7 +222,7 @@ TEST_F(Script, ChecksFilesAndTheConfiguration) {
   const auto json = checked({{0, "V1400R12"}, {1, {}}}, {good, bad});
   EXPECT_NE(json.find("good.bin\", \"firmware\": \"V1400R12\", \"findings\": []},\n"), std::string::npos)
       << json;
-  EXPECT_NE(json.find("bad \\\"1\\\".bin\""), std::string::npos) << json;
+  EXPECT_NE(json.find("bad \\\"\xC3\x96\\\".bin\""), std::string::npos) << json;
   EXPECT_NE(
       json.find("{\"severity\": \"warning\", \"id\": \"demo-on\", \"words\": \"The unit plays its "
                 "demonstration after power up.\", \"tab\": \"REMOTE\", \"setting\": \"Demo On Power Up\", "
