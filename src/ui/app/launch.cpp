@@ -110,7 +110,7 @@ DisplayMessage::~DisplayMessage() {
 }
 
 void DrawWithoutDisplay() {
-  if (host::DisplayHasName() && !NamesDisplay()) qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (host::DisplayHasName()) qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
 void NameApplication() {

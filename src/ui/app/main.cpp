@@ -76,6 +76,8 @@ int main(int argc, char** argv) {
                                     command_line.Folder()};
   if (const auto problem = WrongUsageOf(sheet); !problem.isEmpty()) return command_line.Refuse(problem);
   const auto guide = command_line.Value(guide_option);
+  if (!guide.isEmpty() && !sheet.file.isEmpty())
+    return command_line.Refuse(QStringLiteral("--guide and --sheet do not go together"));
   if (!guide.isEmpty() || !sheet.file.isEmpty()) ovl::ui::DrawWithoutDisplay();
   ovl::host::OutliveSizeLimit();
   std::optional<ovl::ui::DisplayMessage> no_display(std::in_place);
