@@ -58,7 +58,7 @@ serve() {
   make_place "$work/$number"
   if "${@:3}" > "$work/said" 2>&1; then
     echo "$device" >> "$state"
-    echo done > "$outcomes/$number"
+    echo 'done' > "$outcomes/$number"
   elif [ -s "$work/outcome" ]; then
     mv "$work/outcome" "$outcomes/$number"
   else
@@ -80,7 +80,8 @@ end_with() {
 # each WHAT COMMAND... The file LIST.EXAMPLE.done has the devices that are done until all are. A later run for the same
 # WHAT, which says what is done to the units, leaves them out if it resumes.
 each() {
-  local state=$list.$(basename "$0" .sh).done what number=0 device outcome failed=0
+  local state what number=0 device outcome failed=0
+  state=$list.$(basename "$0" .sh).done
   what="# $version $release $(sha256sum <<< "$1" | cut -d ' ' -f 1)"
   shift
   "$resumes" && [ "$(head -n 1 "$state" 2> /dev/null)" = "$what" ] || echo "$what" > "$state" || exit 3
