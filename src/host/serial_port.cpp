@@ -22,12 +22,13 @@ constexpr auto kDelivery = QEvent::User;
 // The longest time that one turn of the event loop may spend on waiting events.
 constexpr auto kTurn = std::chrono::milliseconds(2);
 
-// The event loop is too coarse for the last bit before the end of a character, so this time is spent in a
-// busy loop. A timer fires late by some part of it, so it is set to fire a little earlier. A drained event is
-// due one bit before the character's end: on a slow line the timer may then be late by one bit without any
-// loss.
-constexpr auto kSpin = microseconds(300);
+// The event loop is too coarse for the last bit before the end of a character, so this time is spent without
+// it: asleep, and at the end in a busy loop. A timer fires late by some part of it, so it is set to fire a
+// little earlier. A drained event is due one bit before the character's end: on a slow line the timer may
+// then be late by one bit without any loss.
+constexpr auto kLastPart = microseconds(300);
 constexpr auto kWakeAhead = microseconds(160);
+constexpr auto kBusyPart = microseconds(15);
 
 // A transmitter that is slower than the clock predicts is asked again at growing intervals.
 constexpr auto kFirstRetry = microseconds(100);
@@ -186,6 +187,7 @@ core::Result SerialPort::Write(std::string_view bytes) {
   }
   const auto rest = bytes.substr(result.taken);
   if (!rest.empty()) port_.write(rest.data(), static_cast<qint64>(rest.size()));
+  if (!lost_.Ok()) return lost_;
 
   const auto length = bit_time_ * character_bits_ * static_cast<int>(bytes.size());
   line_free_ = std::max(start, line_free_) + std::chrono::duration_cast<Clock::duration>(length);
@@ -204,18 +206,23 @@ std::string SerialPort::Read() {
 }
 
 void SerialPort::ClearInput() {
-  if (port_.isOpen()) port_.clear(QSerialPort::Input);
+  Discard(QSerialPort::Input);
   if (marks_) marks_.emplace();
   received_.clear();
   undelivered_ = 0;
 }
 
 void SerialPort::ClearOutput() {
+  Discard(QSerialPort::Output);
   if (!port_.isOpen()) return;
-  port_.clear(QSerialPort::Output);
   // At most the character in the chip is still to be sent.
   line_free_ = std::min(line_free_, Clock::now() + bit_time_ * character_bits_);
   ScheduleDrain();
+}
+
+void SerialPort::Discard(QSerialPort::Direction side) {
+  if (!port_.isOpen() || port_.clear(side)) return;
+  if (port_.isOpen() && !LineAlive(port_.handle())) Lose(EIO);
 }
 
 void SerialPort::OnGone() {
@@ -229,8 +236,12 @@ void SerialPort::OnPortError(QSerialPort::SerialPortError error) {
   const bool fatal = error == QSerialPort::ReadError || error == QSerialPort::WriteError ||
                      error == QSerialPort::ResourceError;
   if (!fatal || !port_.isOpen()) return;
-  // If input is discarded after the event loop has seen it, the read fails although the line works.
-  if (error == QSerialPort::ReadError && LineAlive(port_.handle())) return;
+  // If input is discarded after the event loop has seen it, the read fails although the line works. The
+  // reason is then that of an earlier call, and some of them make some versions of Qt read no more.
+  if (error != QSerialPort::WriteError && LineAlive(port_.handle())) {
+    port_.setReadBufferSize(port_.readBufferSize());  // reads again
+    return;
+  }
   Lose(EIO);
 }
 
@@ -333,24 +344,28 @@ SerialPort::Clock::time_point SerialPort::DrainDue() const {
   return line_free_ - std::chrono::duration_cast<Clock::duration>(bit_time_);
 }
 
-bool SerialPort::Drained() const {
+bool SerialPort::Drained() {
   if (!lost_.Ok()) return true;
   if (port_.bytesToWrite() > 0) return false;
-  return !CharactersWait(port_.handle()) && Clock::now() >= DrainDue();
+  const auto waiting = WaitingCharacters(port_.handle());
+  if (waiting.error != 0) Lose(waiting.error);
+  return !lost_.Ok() || (!waiting.characters && Clock::now() >= DrainDue());
 }
 
 // Neither waits nor dispatches an event, since it runs inside the handler that wrote.
 void SerialPort::ScheduleDrain() {
   if (!drain_owed_) return;
   const auto left = std::chrono::duration_cast<microseconds>(DrainDue() - Clock::now());
-  if (left <= kSpin) return Post();
+  if (left <= kLastPart) return Post();
   timer_.Start(left -
                std::max(kWakeAhead - std::chrono::duration_cast<microseconds>(bit_time_), microseconds(0)));
 }
 
 void SerialPort::AwaitDrain() {
   const auto due = DrainDue();
-  if (due - Clock::now() > kSpin) return ScheduleDrain();
+  const auto left = due - Clock::now();
+  if (left > kLastPart) return ScheduleDrain();
+  SleepBriefly(left - kBusyPart);
   for (bool late = false; !late;) {
     late = Clock::now() >= due;
     if (!Drained()) continue;

@@ -60,6 +60,7 @@ class SerialPort : public QObject {
   void ClearInput();
   void ClearOutput();
 
+  void Discard(QSerialPort::Direction side);
   void OnGone();
   void OnPortError(QSerialPort::SerialPortError error);
   void Lose(int error);
@@ -75,7 +76,7 @@ class SerialPort : public QObject {
   bool Kept(core::Outcome outcome);
 
   Clock::time_point DrainDue() const;
-  bool Drained() const;
+  bool Drained();
   void ScheduleDrain();
   void AwaitDrain();
 

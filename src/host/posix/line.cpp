@@ -65,9 +65,11 @@ bool LineAlive(LineHandle line) {
   return ::ioctl(line, FIONREAD, &waiting) == 0 && waiting > 0;
 }
 
-bool CharactersWait(LineHandle line) {
-  int waiting = 0;
-  return ::ioctl(line, TIOCOUTQ, &waiting) == 0 && waiting > 0;
+Waiting WaitingCharacters(LineHandle line) {
+  int count = 0;
+  if (::ioctl(line, TIOCOUTQ, &count) == 0) return {count > 0, 0};
+  const bool lacks_call = errno == ENOTTY || errno == EINVAL;
+  return {false, lacks_call ? 0 : errno};
 }
 
 struct LinePreset::Held {

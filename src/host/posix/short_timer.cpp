@@ -1,10 +1,12 @@
 #include "host/system/short_timer.h"
 
+#include <sys/prctl.h>
 #include <sys/timerfd.h>
 #include <unistd.h>
 
 #include <QSocketNotifier>
 #include <cstdint>
+#include <ctime>
 
 #include "host/posix/descriptor.h"
 
@@ -42,6 +44,17 @@ bool SystemTimer::Start(std::chrono::microseconds time) {
 void SystemTimer::Stop() {
   const itimerspec never = {};
   ::timerfd_settime(source_->descriptor.Number(), 0, &never, nullptr);
+}
+
+// By default the system lets a thread sleep 50 us longer.
+void SleepBriefly(std::chrono::nanoseconds time) {
+  if (time.count() <= 0) return;
+  constexpr unsigned long kExact = 1, kDefault = 0;
+  ::prctl(PR_SET_TIMERSLACK, kExact, 0, 0, 0);
+  timespec wait = {};
+  wait.tv_nsec = time.count();
+  ::clock_nanosleep(CLOCK_MONOTONIC, 0, &wait, nullptr);
+  ::prctl(PR_SET_TIMERSLACK, kDefault, 0, 0, 0);
 }
 
 }  // namespace ovl::host

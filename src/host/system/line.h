@@ -37,9 +37,14 @@ WriteResult WriteAtOnce(LineHandle line, std::string_view bytes);
 // False if nothing can be read any more, because the device is gone.
 bool LineAlive(LineHandle line);
 
-// Whether the driver still holds characters; false if unknown. No driver reports reliably when the last one
-// was sent: some adapters never do, others do as soon as their own buffer is empty.
-bool CharactersWait(LineHandle line);
+struct Waiting {
+  bool characters = false;  // the driver still holds some; false if unknown
+  int error = 0;            // an error number if the line is lost
+};
+
+// No driver reports reliably when the last character was sent: some adapters never do, others do as soon as
+// their own buffer is empty.
+Waiting WaitingCharacters(LineHandle line);
 
 // Sets a closed device as it is about to be opened, and holds it open as long as the object lives if the
 // system allows that. QSerialPort restores the settings that it found when it closes a port, at once and in

@@ -26,6 +26,10 @@ class SystemTimer {
   std::unique_ptr<Source> source_;
 };
 
+// Sleeps for about this long, without the event loop. Where the system cannot sleep so briefly it returns at
+// once.
+void SleepBriefly(std::chrono::nanoseconds time);
+
 // Fires once, in the event loop. Without a timer of the system it waits whole milliseconds.
 class ShortTimer {
  public:

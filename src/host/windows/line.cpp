@@ -40,10 +40,11 @@ bool LineAlive(LineHandle line) {
   return ::ClearCommError(line, &errors, nullptr) != 0;
 }
 
-bool CharactersWait(LineHandle line) {
+Waiting WaitingCharacters(LineHandle line) {
   DWORD errors = 0;
   COMSTAT state = {};
-  return ::ClearCommError(line, &errors, &state) != 0 && state.cbOutQue > 0;
+  if (::ClearCommError(line, &errors, &state) == 0) return {false, ErrorNumber(::GetLastError())};
+  return {state.cbOutQue > 0, 0};
 }
 
 // The port restores no settings when it closes.

@@ -49,4 +49,7 @@ void SystemTimer::Stop() {
   if (source_->timer != nullptr) ::CancelWaitableTimer(source_->timer);
 }
 
+// The shortest sleep of the system is half a millisecond.
+void SleepBriefly(std::chrono::nanoseconds) {}
+
 }  // namespace ovl::host
