@@ -30,12 +30,21 @@ void MakeFolder(const fs::path& path) {
   if (failed) Fail(path, failed);
 }
 
+// A copy that is broken off must not pass for a whole one at the next start.
+void CopyFolder(const fs::path& shipped, const fs::path& own, std::error_code& failed) {
+  auto half = own;
+  half += ".new";
+  fs::remove_all(half, failed);
+  fs::copy(shipped, half, fs::copy_options::recursive, failed);
+  if (!failed) fs::rename(half, own, failed);
+}
+
 void LinkFolder(const fs::path& shipped, const fs::path& own) {
   std::error_code failed;
   if (fs::is_symlink(own, failed) && !fs::exists(own, failed)) fs::remove(own, failed);
   if (fs::exists(own, failed)) return;
   fs::create_directory_symlink(shipped, own, failed);
-  if (failed) fs::copy(shipped, own, fs::copy_options::recursive, failed);
+  if (failed) CopyFolder(shipped, own, failed);
   if (failed) Fail(own, failed);
 }
 
