@@ -21,7 +21,10 @@
 namespace ovl::ui {
 namespace {
 
+// The longest time from an event to its refresh, in milliseconds. A refresh takes the time of some
+// characters, so while a stream runs there are fewer.
 constexpr int kFrame = 16;
+constexpr int kStreamFrame = 150;
 constexpr const char* kHowToSetUp = "\nRoot sets the firmware, for instance: ovl-setup V1400 R12";
 constexpr const char* kNotKept =
     "\nThe next start serves the same firmware as this one. Root sets another: ovl-setup ";
@@ -34,12 +37,11 @@ Program::Program(QString folder, QString store_folder)
       store_(store_folder_),
       port_(folder_, [this](const core::Event& event) { return Act(event); }) {
   frame_.setSingleShot(true);
-  frame_.setInterval(kFrame);
   frame_.callOnTimeout([this] { RefreshNow(); });
   start_again = [](const QStringList& arguments) {
     return QProcess::startDetached(QCoreApplication::applicationFilePath(), arguments);
   };
-  port_.on_loss = [this] { frame_.start(); };
+  port_.on_loss = [this] { frame_.start(kFrame); };
   FillPlatform();
 }
 
@@ -154,11 +156,12 @@ void Program::CollectTimers() {
 
 core::Outcome Program::Act(const core::Event& event) {
   const bool ended_before = app_.ended;
-  const auto outcome =
-      windows_ && !app_.handling && changes::IsAct(event) ? DispatchUserAct(event) : DispatchAny(event);
+  const bool of_user = windows_ && !app_.handling && changes::IsAct(event);
+  const auto outcome = of_user ? DispatchUserAct(event) : DispatchAny(event);
   if (unsaved_ && !ended_before && outcome == core::Outcome::kEnded)
     unsaved_->End(acts::DropsUnsavedChanges(app_, event, store_problem_.empty()));
-  AfterEvent(outcome);
+  const bool streams = history_ && history_->IsHeldByTransfer();
+  AfterEvent(outcome, streams && !of_user ? Pace::kStream : Pace::kPrompt);
   return outcome;
 }
 
@@ -274,16 +277,23 @@ std::optional<core::FileAnswer> Program::AskForFile(const core::FileDialog& requ
 
 // Runs after every event. An event during a running handler changes nothing in the model, but the screen must
 // go back to the state of the model.
-void Program::AfterEvent(core::Outcome outcome) {
+void Program::AfterEvent(core::Outcome outcome, Pace pace) {
   if (app_.handling) {
-    frame_.start();
+    frame_.start(kFrame);
     return;
   }
   if (outcome == core::Outcome::kEnded) return End();
   port_.Resume();
   for (auto& timer : timers_) UpdateTimer(timer);
   if (windows_ && windows_->HasFormsToShowOrHide()) return RefreshNow();
-  if (!frame_.isActive()) frame_.start();
+  if (pace == Pace::kPrompt) return RefreshWithin(kFrame);
+  // The next character was handed over a moment ago, so the line waits for a refresh the least.
+  if (since_refresh_.elapsed() >= kStreamFrame) return RefreshNow();
+  RefreshWithin(2 * kStreamFrame);  // if the stream pauses
+}
+
+void Program::RefreshWithin(int milliseconds) {
+  if (!frame_.isActive() || frame_.remainingTime() > milliseconds) frame_.start(milliseconds);
 }
 
 void Program::UpdateTimer(TimerState& timer) {
@@ -305,6 +315,7 @@ void Program::Tick(controls::Timer& timer) {
 
 void Program::RefreshNow() {
   frame_.stop();
+  since_refresh_.start();
   if (!windows_ || app_.ended) return;
   windows_->Refresh();
   if (unsaved_) unsaved_->WriteSoonIfChanged();

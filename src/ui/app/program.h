@@ -1,6 +1,7 @@
 // The program: the model, the machine it runs on, and the windows. Every event goes through Act.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QString>
 #include <QTimer>
 #include <memory>
@@ -81,7 +82,9 @@ class Program {
   core::Outcome DispatchUserAct(const core::Event& event);
   core::Outcome DispatchAny(const core::Event& event);
   void CollectTimers();
-  void AfterEvent(core::Outcome outcome);
+  enum class Pace { kPrompt, kStream };
+  void AfterEvent(core::Outcome outcome, Pace pace = Pace::kPrompt);
+  void RefreshWithin(int milliseconds);
   void UpdateTimer(TimerState& timer);
   void Tick(controls::Timer& timer);
   void End();
@@ -107,6 +110,7 @@ class Program {
   QString unguarded_;     // why changes are not guarded; empty if they are
   std::vector<TimerState> timers_;
   QTimer frame_;
+  QElapsedTimer since_refresh_;
 };
 
 }  // namespace ovl::ui

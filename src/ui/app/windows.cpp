@@ -18,7 +18,8 @@
 namespace ovl::ui {
 namespace {
 
-constexpr int kNesting = 12;  // the largest depth of nested layouts
+constexpr int kNesting = 12;    // the largest depth of nested layouts
+constexpr int kAskAgain = 500;  // in milliseconds
 
 // A layout passes a change on to the layout around it, one level for each round of events. All rounds run
 // here, so that no state in between is painted.
@@ -43,7 +44,11 @@ Windows::Windows(core::Application& app, ActFunction act, OwnActs own_acts)
               {app.FrmSubMenu.form, BuildSubMenuWindow, true},
               {app.frmView.form, BuildViewerWindow, true},
               {app.frmAbout.form, BuildAboutWindow, true}}) {
+  // To build a page takes the time of many characters, so a stream comes first.
   idle_.callOnTimeout([this] {
+    const bool streams = main_->Acts().history->IsHeldByTransfer();
+    idle_.setInterval(streams ? kAskAgain : 0);
+    if (streams) return;
     if (app_.ended || !BuildNext()) return idle_.stop();
     Refresh();
   });
