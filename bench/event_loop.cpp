@@ -34,6 +34,7 @@ bool EventLoop::RunUntil(const std::function<bool()>& condition) {
   bool met = false;
   QObject::connect(&beat, &QTimer::timeout, &loop, [&] {
     const auto now = Clock::now();
+    longest_before_last_ = longest_;
     longest_ = std::max(longest_, Milliseconds(now - due).count());
     most_work_ = std::max(most_work_, ProcessorMilliseconds() - worked);
     met = condition();

@@ -15,10 +15,15 @@ class EventLoop {
   // machine that is busy with other things does not lengthen.
   double LongestHold() const { return longest_; }
   double MostWork() const { return most_work_; }
-  void Restart() { longest_ = most_work_ = 0; }
+
+  // The longest hold that ended before the condition was found to hold.
+  double LongestHoldBefore() const { return longest_before_last_; }
+
+  void Restart() { longest_ = longest_before_last_ = most_work_ = 0; }
 
  private:
   double longest_ = 0;
+  double longest_before_last_ = 0;
   double most_work_ = 0;
 };
 
