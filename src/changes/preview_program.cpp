@@ -1,5 +1,7 @@
 #include "changes/preview_program.h"
 
+#include <algorithm>
+#include <array>
 #include <stdexcept>
 #include <utility>
 
@@ -13,6 +15,21 @@
 
 namespace ovl::changes {
 namespace {
+
+// Controls whose frame some firmware hide as a whole.
+struct Framed {
+  std::string_view control;
+  controls::Frame controls::MainForm::*frame;
+};
+constexpr std::array kFramed = {
+    Framed{"ComboLang", &controls::MainForm::Frame12},
+    Framed{"DemoMode", &controls::MainForm::FrameDemo},
+    Framed{"CharacterList", &controls::MainForm::FrameDemo},
+    Framed{"DemoType", &controls::MainForm::FrameDemo},
+    Framed{"DemoSpeed", &controls::MainForm::FrameDemo},
+    Framed{"ComboScroll(0)", &controls::MainForm::Frame14},
+    Framed{"ComboScroll(1)", &controls::MainForm::Frame14},
+};
 
 using controls::Alm;
 using controls::Excp;
@@ -126,6 +143,13 @@ const controls::NamedControl& PreviewProgram::Named(std::string_view name) const
   const auto* named = app_.registry.Find(name);
   if (named == nullptr) throw std::logic_error("there is no control " + std::string(name));
   return *named;
+}
+
+bool PreviewProgram::Shows(std::string_view control) const {
+  if (!controls::StateOf(Named(control).control).visible) return false;
+  const auto* framed =
+      std::find_if(kFramed.begin(), kFramed.end(), [&](const Framed& row) { return row.control == control; });
+  return framed == kFramed.end() || (app_.frmMain.*framed->frame).visible;
 }
 
 std::optional<std::string> PreviewProgram::WordsOf(std::string_view name) const {

@@ -37,6 +37,9 @@ class PreviewProgram {
   // The control of this program.
   const controls::NamedControl& Named(std::string_view name) const;
 
+  // Whether the control is visible, and the frame around it that some firmware hide as a whole.
+  bool Shows(std::string_view control) const;
+
   // What the control shows: the entry of a list, the caption of the chosen option, a text, ON or OFF. Nothing
   // if the list has no entry for the stored byte.
   std::optional<std::string> WordsOf(std::string_view name) const;

@@ -118,7 +118,7 @@ std::string SlotCaption(const core::Application& app, const Site& site) {
   if (site.place == Place::kRange) words = Tidy(app.frmSetRange.form.caption) + ", ";
   if (IsOfNetwork(app, site.control)) words = Tidy(app.frmMain.Frame13.caption) + ", ";
   if (site.option != nullptr && !site.option->LabelAlone().empty())
-    return words + std::string(site.option->LabelAlone());
+    return words + Tidy(site.option->LabelAlone());
   return words + CaptionOf(app, site.control);
 }
 

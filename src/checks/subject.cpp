@@ -13,20 +13,6 @@
 namespace ovl::checks {
 namespace {
 
-using controls::MainForm;
-
-// Controls whose frame some firmware hide as a whole.
-struct Framed {
-  std::string_view control;
-  controls::Frame MainForm::*frame;
-};
-constexpr std::array kFramed = {
-    Framed{"ComboLang", &MainForm::Frame12},       Framed{"DemoMode", &MainForm::FrameDemo},
-    Framed{"CharacterList", &MainForm::FrameDemo}, Framed{"DemoType", &MainForm::FrameDemo},
-    Framed{"DemoSpeed", &MainForm::FrameDemo},     Framed{"ComboScroll(0)", &MainForm::Frame14},
-    Framed{"ComboScroll(1)", &MainForm::Frame14},
-};
-
 // Lists that a fixed text covers while they have no meaning.
 struct Covered {
   std::string_view control;
@@ -67,10 +53,7 @@ const image::ConfigImage& Subject::ByPanelRules() {
 }
 
 bool Subject::Offers(const std::string& control) const {
-  const auto& state = controls::StateOf(Program().Named(control).control);
-  if (!state.visible || !state.enabled) return false;
-  const auto framed = RowOf(kFramed, control);
-  if (framed != kFramed.end() && !(Form().*framed->frame).visible) return false;
+  if (!Program().Shows(control) || !controls::StateOf(Program().Named(control).control).enabled) return false;
   const auto covered = RowOf(kCovered, control);
   return covered == kCovered.end() || !Form().ComboNone.at(covered->cover).visible;
 }

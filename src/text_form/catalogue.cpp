@@ -69,13 +69,14 @@ std::vector<std::string> DeclaredCodes(const Setting& setting, std::size_t entri
   return digits;
 }
 
-// Entries of the same words stay with the first of them.
+// Entries of the same words stay with the first of them. One without words cannot be named.
 std::shared_ptr<const Choices> ChoicesOf(const std::vector<std::string>& entries,
                                          const std::vector<std::vector<std::string>>& stored) {
   auto choices = std::make_shared<Choices>();
   std::set<std::string> known;
   for (std::size_t entry = 0; entry < std::min(entries.size(), stored.size()); ++entry) {
-    if (known.insert(entries[entry]).second) choices->push_back({entries[entry], stored[entry]});
+    if (!entries[entry].empty() && known.insert(entries[entry]).second)
+      choices->push_back({entries[entry], stored[entry]});
   }
   return choices;
 }
@@ -134,8 +135,10 @@ void Catalogue::AddFields() {
   }
 }
 
+// Some firmware have shorter records, without the last settings.
 void Catalogue::AddSite(const changes::Site& site, FieldId field, int entry) {
   if (site.option != nullptr || site.control == kDecidedByTimeout) return;
+  if (site.digits.first >= DigitsOfField(field, firmware_)) return;
   const FieldPart part{field, entry, site.digits, site.bits};
   const auto known = std::find_if(panels_.begin(), panels_.end(), [&](const Setting& setting) {
     return setting.control == site.control && setting.slot == site.slot;
@@ -157,11 +160,21 @@ void Catalogue::AddSite(const changes::Site& site, FieldId field, int entry) {
   panels_.push_back(std::move(setting));
 }
 
+// What the form of this firmware never shows, with settings off or on, nobody can read there. Its bytes are
+// still part of the text form.
+void Catalogue::DropHidden(const changes::PreviewProgram& off, const changes::PreviewProgram& on) {
+  const auto is_hidden = [&](const Setting& setting) {
+    return setting.kind == Kind::kChoice && !off.Shows(setting.control) && !on.Shows(setting.control);
+  };
+  panels_.erase(std::remove_if(panels_.begin(), panels_.end(), is_hidden), panels_.end());
+}
+
 void Catalogue::GiveChoices() {
   const auto zeros = FilledImage(firmware_, '0'), ones = FilledImage(firmware_, 'F');
   changes::PreviewProgram program(like_, zeros);
   program.ShowException(1);
   program.ShowAlarm(1);
+  DropHidden(program, changes::PreviewProgram(like_, ones));
   std::map<std::string, Setting> of_first_slot;
   std::map<std::pair<FieldId, int>, int> claimed;
   for (auto& setting : panels_) {
@@ -211,6 +224,13 @@ void Catalogue::SortByTable() {
 const Setting* Catalogue::Find(std::string_view table, std::string_view key) const {
   const auto found = by_name_.find({table, key});
   return found == by_name_.end() ? nullptr : found->second;
+}
+
+const Setting* Catalogue::Showing(std::string_view control, int slot) const {
+  const auto found = std::find_if(panels_.begin(), panels_.end(), [&](const Setting& setting) {
+    return setting.control == control && setting.slot == slot;
+  });
+  return found == panels_.end() ? nullptr : &*found;
 }
 
 // What decides about the options: the register and the fields that they show.

@@ -32,6 +32,9 @@ class Catalogue {
   // The setting of the panels with this name; null if there is none.
   const Setting* Find(std::string_view table, std::string_view key) const;
 
+  // The setting of the panels that this control shows; null if there is none.
+  const Setting* Showing(std::string_view control, int slot) const;
+
   // The options that the register of the image offers, as the form shows them after a load. The latest
   // answers are kept.
   std::vector<Setting> OfRegister(const image::ConfigImage& image);
@@ -55,6 +58,7 @@ class Catalogue {
   std::string StoredOptions(const image::ConfigImage& image) const;
   void AddFields();
   void AddSite(const changes::Site& site, image::FieldId field, int entry);
+  void DropHidden(const changes::PreviewProgram& off, const changes::PreviewProgram& on);
   void GiveChoices();
   void SortByTable();
   std::optional<Setting> OptionSetting(const changes::PreviewProgram& program, const OptionRows& rows,

@@ -84,7 +84,7 @@ std::optional<Problem> OtherFormat(std::string_view bytes) {
     if (!IsFormatLine(line)) return WithoutBlanks(line).starts_with('[');
     const auto behind = line.find('=') + 1;
     const auto value = WithoutBlanks(line.substr(behind, line.find('#') - behind));
-    const bool is_number = !value.empty() && value.find_first_not_of("0123456789") == std::string_view::npos;
+    const bool is_number = !value.empty() && value.find_first_not_of("0123456789.") == std::string_view::npos;
     const auto column = static_cast<int>(value.data() - line.data()) + 1;
     if (is_number && value != std::to_string(kFormat)) problem = UnknownFormat({number, column}, value);
     return true;

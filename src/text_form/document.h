@@ -21,7 +21,6 @@ struct Position {
 struct Problem {
   Position at;
   std::string words;
-  bool of_other_firmware = false;  // the setting or its value does not exist here
 
   bool operator==(const Problem&) const = default;
 };

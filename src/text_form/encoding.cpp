@@ -21,7 +21,8 @@ struct EntriesIn {
   std::vector<std::string> operator()(controls::CheckBox*) const { return {"OFF", "ON"}; }
   std::vector<std::string> operator()(controls::OptionArray* array) const {
     std::vector<std::string> captions;
-    for (const auto& element : array->elements) captions.push_back(element.caption);
+    for (const auto& element : array->elements)
+      captions.push_back(element.visible ? element.caption : std::string());
     return captions;
   }
   template <class Other>

@@ -12,7 +12,8 @@ namespace ovl::text_form {
 // An image of which every field has this digit.
 image::ConfigImage FilledImage(const firmware::FirmwareId& firmware, char digit);
 
-// The captions of the entries of a list or an option array, OFF and ON for a check box.
+// The captions of the entries of a list or an option array, empty for an element that is hidden; OFF and ON
+// for a check box.
 std::vector<std::string> EntriesOf(const changes::PreviewProgram& program, std::string_view control);
 
 // The entry that the control shows; -1: none.

@@ -44,10 +44,19 @@ bool IsNamedAfter(std::string_view path, const firmware::FirmwareId& firmware) {
 
 Viewer::Viewer(const firmware::FirmwareId& firmware) : app(Serving(firmware)), catalogue(*app) {}
 
+text_form::Imported ImportText(text_form::Catalogue& catalogue, const image::ConfigImage& base,
+                               const text_form::Document& document, text_form::Strictness strictness) {
+  std::optional<Viewer> other;
+  const auto catalogue_of = [&](const firmware::FirmwareId& firmware) -> text_form::Catalogue& {
+    return other.emplace(firmware).catalogue;
+  };
+  return text_form::Import(catalogue, catalogue_of, base, document, strictness);
+}
+
 image::ConfigImage ReadTextForm(text_form::Catalogue& catalogue, const image::ConfigImage& base,
                                 const std::string& path, std::string_view bytes,
                                 text_form::Strictness strictness, std::string& left_out) {
-  const auto imported = text_form::Import(catalogue, base, ReadToml(bytes), strictness);
+  const auto imported = ImportText(catalogue, base, ReadToml(bytes), strictness);
   for (const auto& problem : imported.left_out) left_out += TextOf(problem, path) + "\n";
   ThrowProblems(imported.problems, path);
   return imported.image;

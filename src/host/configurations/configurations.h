@@ -8,7 +8,7 @@
 
 #include "core/application.h"
 #include "text_form/catalogue.h"
-#include "text_form/import.h"
+#include "text_form/import/import.h"
 
 namespace ovl::host {
 
@@ -25,6 +25,10 @@ struct Viewer {
   std::unique_ptr<core::Application> app;
   text_form::Catalogue catalogue;
 };
+
+// Imports a text form, also one of another firmware.
+text_form::Imported ImportText(text_form::Catalogue& catalogue, const image::ConfigImage& base,
+                               const text_form::Document& document, text_form::Strictness strictness);
 
 // The image with what the text form says. What is left out goes to `left_out`, one a line behind the path.
 // Throws NoConfiguration.

@@ -1,6 +1,7 @@
 #include "host/toml/toml_limits.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 
 #include "text_form/messages.h"
@@ -110,7 +111,9 @@ class Line {
     const bool is_other = IsQuote(word[0]) || word[0] == '{' || word[0] == '[';
     if (is_other || !std::all_of(word.begin(), word.end(), IsAscii) || IsFlagOrWholeNumber(word))
       return std::nullopt;
-    return At(at, text_form::InQuotes(word) + " is not allowed" + std::string(kAllowed));
+    const bool is_flag = text_.substr(first_).starts_with(text_form::kCompleteKey);
+    return At(at, text_form::InQuotes(word) + " is not allowed" +
+                      (is_flag ? "; allowed: true, false" : std::string(kAllowed)));
   }
 
   std::string_view text_;
@@ -123,17 +126,18 @@ class Line {
 
 }  // namespace
 
-std::optional<Problem> OutsideTomlLimits(std::string_view text) {
+std::vector<Problem> OutsideTomlLimits(std::string_view text) {
   constexpr std::size_t kMostBytes = 1'000'000;
   constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-  if (text.size() > kMostBytes) return Problem{{1, 1}, "the file is too large for a text form"};
+  if (text.size() > kMostBytes) return {{{1, 1}, "the file is too large for a text form"}};
   if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
+  std::vector<Problem> problems;
   for (int number = 1; !text.empty(); ++number) {
     const auto line = text.substr(0, text.find('\n'));
-    if (auto problem = Line(line, number).Wrong()) return problem;
+    if (auto problem = Line(line, number).Wrong()) problems.push_back(std::move(*problem));
     text.remove_prefix(std::min(line.size() + 1, text.size()));
   }
-  return std::nullopt;
+  return problems;
 }
 
 }  // namespace ovl::host

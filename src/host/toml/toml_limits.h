@@ -5,14 +5,14 @@
 // over several lines that is hard to see. A text form needs none of these.
 #pragma once
 
-#include <optional>
 #include <string_view>
+#include <vector>
 
 #include "text_form/document.h"
 
 namespace ovl::host {
 
-// The first place of the text that the library must not get.
-std::optional<text_form::Problem> OutsideTomlLimits(std::string_view text);
+// The first place of each line that the library must not get.
+std::vector<text_form::Problem> OutsideTomlLimits(std::string_view text);
 
 }  // namespace ovl::host

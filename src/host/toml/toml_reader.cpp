@@ -62,7 +62,7 @@ void AddEntry(Document& document, std::string table, const toml::key& key, const
 Document ReadToml(std::string_view text) {
   Document document;
   if (auto problem = text_form::OtherFormat(text)) return {{}, {std::move(*problem)}};
-  if (auto problem = OutsideTomlLimits(text)) return {{}, {std::move(*problem)}};
+  if (auto problems = OutsideTomlLimits(text); !problems.empty()) return {{}, std::move(problems)};
   const auto parsed = toml::parse(text);
   if (!parsed) {
     const auto& error = parsed.error();

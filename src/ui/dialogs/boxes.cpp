@@ -128,9 +128,10 @@ void ShowProblems(QWidget* parent, const QString& text, const QStringList& lines
   window.exec();
 }
 
-bool AskWhetherToTakeTheRest(QWidget* parent, const QString& text, const QStringList& lines) {
+bool AskWhetherToTakeTheRest(QWidget* parent, const QString& text, const QStringList& lines,
+                             const QString& button) {
   LinesWindow window(parent, text, lines);
-  window.Buttons().addButton(QStringLiteral("Import the Rest"), QDialogButtonBox::AcceptRole);
+  window.Buttons().addButton(button, QDialogButtonBox::AcceptRole);
   auto* cancel = window.Buttons().addButton(QDialogButtonBox::Cancel);
   cancel->setDefault(true);
   cancel->setFocus();

@@ -27,7 +27,8 @@ bool AskWhetherToOpen(QWidget* parent, const QString& text, const QString& detai
 // What is wrong in a text form, one line each.
 void ShowProblems(QWidget* parent, const QString& text, const QStringList& lines);
 
-// Lists what a text form of another firmware has too much. True for "Import the Rest".
-bool AskWhetherToTakeTheRest(QWidget* parent, const QString& text, const QStringList& lines);
+// Lists what a text form of another firmware has too much. True for the button, such as "Import the Rest".
+bool AskWhetherToTakeTheRest(QWidget* parent, const QString& text, const QStringList& lines,
+                             const QString& button);
 
 }  // namespace ovl::ui

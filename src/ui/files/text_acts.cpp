@@ -103,13 +103,16 @@ void TextActs::Export() {
   }
 }
 
-std::optional<image::ConfigImage> TextActs::ImageOfText(const std::string& path, const std::string& bytes) {
+std::optional<image::ConfigImage> TextActs::ImageOfText(const std::string& path, const std::string& bytes,
+                                                        Purpose purpose) {
+  const bool imports = purpose == Purpose::kImport;
   host::Viewer viewer(app_.image_firmware);
   const auto document = host::ReadToml(bytes);
-  auto imported = text_form::Import(viewer.catalogue, app_.image, document, Strictness::kPartial);
+  auto imported = host::ImportText(viewer.catalogue, app_.image, document, Strictness::kPartial);
   if (!imported.problems.empty()) {
-    ShowProblems(hooks_.front(), NameOf(path) + QStringLiteral(" is not taken: nothing has changed."),
-                 Lines(imported.problems));
+    const auto words = imports ? QStringLiteral("%1 is not taken: nothing has changed.")
+                               : QStringLiteral("%1 has errors and cannot be compared.");
+    ShowProblems(hooks_.front(), words.arg(NameOf(path)), Lines(imported.problems));
     return std::nullopt;
   }
   if (imported.left_out.empty()) return imported.image;
@@ -117,8 +120,9 @@ std::optional<image::ConfigImage> TextActs::ImageOfText(const std::string& path,
       QStringLiteral("%1 is a text of %2. This program serves %3, which does not have all of it.")
           .arg(NameOf(path), host::FromSystem(text_form::FirmwareNamed(document)),
                host::FromWindows1252(acts::FirmwareName(app_)));
-  if (!AskWhetherToTakeTheRest(hooks_.front(), text, Lines(imported.left_out))) return std::nullopt;
-  return imported.image;
+  const auto button = imports ? QStringLiteral("Import the Rest") : QStringLiteral("Compare the Rest");
+  const bool takes = AskWhetherToTakeTheRest(hooks_.front(), text, Lines(imported.left_out), button);
+  return takes ? std::optional(imported.image) : std::nullopt;
 }
 
 void TextActs::Import() {
@@ -128,7 +132,7 @@ void TextActs::Import() {
   const auto bytes = BytesOf(path, QStringLiteral("Not imported: "));
   if (!bytes) return;
   const auto base = app_.image;
-  const auto image = ImageOfText(path, *bytes);
+  const auto image = ImageOfText(path, *bytes, Purpose::kImport);
   // While the window is on the screen, the unit can start something else, or bring another configuration.
   if (!image || !CanAct()) return;
   if (app_.image != base)
@@ -138,7 +142,7 @@ void TextActs::Import() {
 }
 
 std::optional<image::ConfigImage> TextActs::ImageOf(const std::string& path, const std::string& bytes) {
-  if (text_form::IsTextForm(bytes)) return ImageOfText(path, bytes);
+  if (text_form::IsTextForm(bytes)) return ImageOfText(path, bytes, Purpose::kCompare);
   const auto stream = files::JoinLines(bytes);
   auto image = image::DecodeStream(stream, app_.image_firmware);
   if (image && image::FitsFirmware(stream, app_.image_firmware)) return image;

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "core/application.h"
-#include "text_form/import.h"
+#include "text_form/import/import.h"
 
 class QAction;
 class QMainWindow;
@@ -41,7 +41,9 @@ class TextActs : public QObject {
   std::optional<std::string> BytesOf(const std::string& path, const QString& refusal);
   std::optional<image::ConfigImage> ImageOf(const std::string& path, const std::string& bytes);
   // Nothing if the text is not taken. Shows what is wrong in it.
-  std::optional<image::ConfigImage> ImageOfText(const std::string& path, const std::string& bytes);
+  enum class Purpose { kImport, kCompare };
+  std::optional<image::ConfigImage> ImageOfText(const std::string& path, const std::string& bytes,
+                                                Purpose purpose);
 
   core::Application& app_;
   Hooks hooks_;

@@ -1,6 +1,7 @@
 // Any text is imported as a text form. The first byte chooses one of four firmware; the rest is the text.
 // What is taken comes back from its own export.
 #include <array>
+#include <map>
 #include <memory>
 #include <unordered_set>
 
@@ -12,7 +13,7 @@
 #include "start/start_up.h"
 #include "text_form/encoding.h"
 #include "text_form/export.h"
-#include "text_form/import.h"
+#include "text_form/import/import.h"
 
 namespace {
 
@@ -23,8 +24,8 @@ using text_form::Strictness;
 constexpr std::array kFirmware = {"V1400R12", "V1400R2", "V1300R14", "V1310R1"};
 
 struct Reader {
-  explicit Reader(const char* name) {
-    start::ServeFirmware(app, firmware::ServedFirmware(name));
+  explicit Reader(const firmware::FirmwareId& firmware) {
+    start::ServeFirmware(app, firmware);
     catalogue = std::make_unique<text_form::Catalogue>(app);
     base = text_form::FilledImage(catalogue->Firmware(), '0');
   }
@@ -34,6 +35,20 @@ struct Reader {
   image::ConfigImage base;
   std::unordered_set<std::size_t> came_back;  // by their hashes
 };
+
+Reader& ReaderOf(const firmware::FirmwareId& firmware) {
+  static std::map<std::string, std::unique_ptr<Reader>> readers;
+  auto& reader = readers[firmware.Joined()];
+  if (reader == nullptr) reader = std::make_unique<Reader>(firmware);
+  return *reader;
+}
+
+text_form::Imported Import(Reader& reader, const text_form::Document& document) {
+  const auto catalogue_of = [](const firmware::FirmwareId& firmware) -> text_form::Catalogue& {
+    return *ReaderOf(firmware).catalogue;
+  };
+  return text_form::Import(*reader.catalogue, catalogue_of, reader.base, document, Strictness::kWhole);
+}
 
 std::size_t HashOf(const image::ConfigImage& image, const firmware::FirmwareId& firmware) {
   std::string all;
@@ -53,27 +68,22 @@ void RequirePlaces(const std::vector<text_form::Problem>& problems) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static std::array<std::unique_ptr<Reader>, kFirmware.size()> readers;
   if (size == 0) return 0;
-  const auto chosen = data[0] % kFirmware.size();
-  auto& reader = readers.at(chosen);
-  if (reader == nullptr) reader = std::make_unique<Reader>(kFirmware.at(chosen));
+  auto& reader = ReaderOf(firmware::ServedFirmware(kFirmware.at(data[0] % kFirmware.size())));
   const std::string_view text(reinterpret_cast<const char*>(data + 1), size - 1);
 
   const auto document = host::ReadToml(text);
   RequirePlaces(document.problems);
   if (!document.problems.empty()) return 0;
-  const auto imported = text_form::Import(*reader->catalogue, reader->base, document, Strictness::kWhole);
+  const auto imported = Import(reader, document);
   RequirePlaces(imported.problems);
   if (!imported.problems.empty()) return 0;
 
   // The way back takes a hundred times as long as a short text.
-  if (!reader->came_back.insert(HashOf(imported.image, reader->catalogue->Firmware())).second) return 0;
-  const auto again = text_form::Import(*reader->catalogue, reader->base,
-                                       host::ReadToml(text_form::Export(*reader->catalogue, imported.image)),
-                                       Strictness::kWhole);
+  if (!reader.came_back.insert(HashOf(imported.image, reader.catalogue->Firmware())).second) return 0;
+  const auto again = Import(reader, host::ReadToml(text_form::Export(*reader.catalogue, imported.image)));
   Require(again.problems.empty(), "what was taken is exported without a problem");
-  Require(image::Differences(imported.image, again.image, reader->catalogue->Firmware()).empty(),
+  Require(image::Differences(imported.image, again.image, reader.catalogue->Firmware()).empty(),
           "and comes back as it was");
   return 0;
 }

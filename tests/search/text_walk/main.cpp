@@ -8,13 +8,14 @@
 #include <random>
 
 #include "firmware/firmware_table.h"
+#include "host/configurations/configurations.h"
 #include "host/toml/toml_reader.h"
 #include "image/report.h"
 #include "image/stream_entries.h"
 #include "images/default_images.h"
 #include "start/start_up.h"
 #include "text_form/export.h"
-#include "text_form/import.h"
+#include "text_form/import/import.h"
 
 namespace ovl::testing {
 namespace {
@@ -75,7 +76,7 @@ std::string Compare(text_form::Catalogue& catalogue, const image::ConfigImage& i
   const auto start = std::clock();
   const auto text = text_form::Export(catalogue, image);
   const auto exported = std::clock();
-  const auto again = text_form::Import(catalogue, base, host::ReadToml(text), text_form::Strictness::kWhole);
+  const auto again = host::ImportText(catalogue, base, host::ReadToml(text), text_form::Strictness::kWhole);
   times.out += exported - start;
   times.in += std::clock() - exported;
   std::string wrong;

@@ -100,8 +100,28 @@ TEST_F(TextForm, AFormOfAnotherFirmwareGivesWhatIsThere) {
   const auto text_taken = image::ExceptionText(part.image.at(image::FieldId::EXCPSTRS, 2), kLatest);
   EXPECT_TRUE(text_taken.starts_with("VOID  ")) << text_taken;
   EXPECT_EQ(part.image[image::FieldId::NET_TYPE], Pattern(kLatest)[image::FieldId::NET_TYPE]);
+  // The same control has another caption.
+  const auto handshake =
+      Read("format = 1\nfirmware = 'V1300 R14'\n[COMMUNICATION]\nHANDSHAKE = 'ON'\n", Strictness::kPartial);
+  EXPECT_NE(Exported(handshake.image).find("\n\"HW HANDSHAKING\" = \"ON\""), std::string::npos);
   // An error that has nothing to do with the firmware is one in any case.
+  const auto slip =
+      Read("format = 1\nfirmware = 'V1300 R14'\n[COMMUNICATION]\nPARTIY = 'ODD'\n", Strictness::kPartial);
+  ASSERT_EQ(slip.problems.size(), 1U);
+  EXPECT_EQ(slip.problems[0].words, "\"PARTIY\" is no setting of [COMMUNICATION]. Did you mean \"PARITY\"?");
   EXPECT_FALSE(Read(text + "x = ", Strictness::kPartial).problems.empty());
+}
+
+TEST_F(TextForm, WhatTheFormHidesHasNoWords) {
+  const firmware::FirmwareId old{"V1300", "R14"};
+  const auto read =
+      Read("format = 1\n['REGISTER SELECT']\nRegister = 'MICROS'\nNetwork = 'MICROS 3700 V4.X'\n",
+           Strictness::kWhole, old);
+  ASSERT_EQ(read.problems.size(), 1U);
+  EXPECT_EQ(read.problems[0].words,
+            "\"MICROS 3700 V4.X\" is not allowed for \"Network\"; allowed: \"LOCAL VSS\", \"MICROS IDN "
+            "NETWORK\", \"MICROS ISN NETWORK\"");
+  EXPECT_EQ(Exported(Pattern(old), old).find("VIDEO LOSS"), std::string::npos);
 }
 
 }  // namespace

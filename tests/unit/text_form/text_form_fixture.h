@@ -12,7 +12,7 @@
 #include "support/firmware_facts.h"
 #include "support/harness.h"
 #include "text_form/export.h"
-#include "text_form/import.h"
+#include "text_form/import/import.h"
 
 namespace ovl::testing {
 
@@ -39,7 +39,7 @@ class TextForm : public ::testing::Test {
   }
   static Imported Read(std::string_view text, Strictness strictness = Strictness::kWhole,
                        const firmware::FirmwareId& firmware = kLatest) {
-    return text_form::Import(Of(firmware), Pattern(firmware), host::ReadToml(text), strictness);
+    return text_form::Import(Of(firmware), Of, Pattern(firmware), host::ReadToml(text), strictness);
   }
   // "LINE:COLUMN WORDS", one a line.
   static std::string ProblemsIn(std::string_view text) {

@@ -76,7 +76,8 @@ TEST_F(TextActsTest, ATextWithErrorsChangesNothingAndNamesThem) {
 TEST_F(TextActsTest, TheRestOfATextOfAnotherFirmwareIsTakenAfterAQuestion) {
   const auto image = App().image;
   WriteFile(folder.File("old.toml"),
-            "format = 1\nfirmware = \"V1300 R14\"\n[\"TIME / LANGUAGE\"]\nTITLE = \"SHOP 12\"\nX = \"A\"\n");
+            "format = 1\nfirmware = \"V1300 R14\"\n[TIME]\nTITLE = \"SHOP 12\"\n"
+            "[\"REGISTER SELECT\"]\nRegister = \"IBM RDS\"\n");
   Choose("menuImport", "old.toml", [&](QDialog& window) { PressIn(window, "Cancel"); });
   EXPECT_TRUE(App().image == image);
   Choose("menuImport", "old.toml", [&](QDialog& window) { PressIn(window, "Import the Rest"); });

@@ -1,6 +1,8 @@
 // Reads a text form back into an image. The whole form is checked before anything is taken from it.
 #pragma once
 
+#include <functional>
+
 #include "text_form/catalogue.h"
 #include "text_form/document.h"
 
@@ -17,7 +19,12 @@ struct Imported {
   std::vector<Problem> left_out;
 };
 
-Imported Import(Catalogue& catalogue, const image::ConfigImage& base, const Document& document,
-                Strictness strictness);
+// Gives the catalogue of another firmware, which stays valid during the call of Import.
+using CatalogueOf = std::function<Catalogue&(const firmware::FirmwareId& firmware)>;
+
+// A form of another firmware is checked as one of its own firmware first. Then its settings are looked for by
+// their controls.
+Imported Import(Catalogue& catalogue, const CatalogueOf& catalogue_of, const image::ConfigImage& base,
+                const Document& document, Strictness strictness);
 
 }  // namespace ovl::text_form
