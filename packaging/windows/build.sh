@@ -1,16 +1,25 @@
 #!/usr/bin/env bash
+# Usage: build.sh [--qt FOLDER]
 # Builds the programs for 64-bit Windows below build/windows, runs the stories and the tests of the model under Wine, and
 # makes the installer. Qt is built first, once, from Debian's source package, which takes an hour of two processors.
-# `--qt FOLDER` names the build folder of such a Qt that is there already.
+#   --qt  the build folder of such a Qt that is there already
 set -euo pipefail
-cd "$(dirname "$0")/../.."
+# shellcheck source=tools/common.sh
+. "$(dirname -- "$0")/../../tools/common.sh"
+build=$build/windows
+qt=$build/qt
+read_options qt: "$@"
+set -- "${arguments[@]}"
+while [ "$1" != -- ]; do
+  qt=$(realpath -- "$2")
+  shift 2
+done
+[ $# -eq 1 ] || { echo "$command_name: unknown argument $2" >&2; exit 2; }
+cd "$source_folder"
 tools/require g++-mingw-w64-x86-64-posix wine wine64 nsis cmake ninja-build ccache dpkg-dev qt6-base-dev qt6-base-dev-tools \
   googletest libtomlplusplus-dev librsvg2-bin icoutils
 
 here=$PWD/packaging/windows
-build=$PWD/build/windows
-qt=$build/qt
-[ "${1:-}" != --qt ] || qt=$(realpath "$2")
 mkdir -p "$build"
 
 # The source package of the release that this system runs, whether or not its sources are among those of apt.
