@@ -49,7 +49,9 @@ drop() {
   screen=''
   [ -n "$root" ] || return 0
   for mounted in dev proc cache tmp/.X11-unix; do umount --recursive --lazy "$root/$mounted" 2> /dev/null || true; done
-  if grep -qF " $root/" /proc/self/mounts; then return 1; fi
+  # The list has blanks and some other characters in octal, without the zero in front that %b expects.
+  printf -v mounted %b "$(sed 's/\\/\\0/g' /proc/self/mounts)"
+  [[ $mounted != *" $root/"* ]] || return 1
   rm -rf "$root"
   root=''
 }
