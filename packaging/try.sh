@@ -13,7 +13,7 @@ set -euo pipefail
 read_options roots:,made:,before:,cache: "$@"
 [ "${TRY_ALONE:-}" ] || TRY_ALONE=1 exec unshare --mount --propagation private "$0" "$@"
 
-roots='' given='' cache='' before=() table=() release='' tried='' now='' root='' home='' screen=''
+roots='' given='' cache='' before=() table=() release='' tried='' now='' root='' home='' screen='' status=0
 set -- "${arguments[@]}"
 while [ "$1" != -- ]; do
   case $1 in
@@ -96,7 +96,7 @@ build() {
     mount --bind "$cache" "$root/cache"
     install_in ccache
     compiler=("PATH=/usr/lib/ccache:$PATH" CCACHE_DIR=/cache "CCACHE_BASEDIR=$sources" CCACHE_NOHASHDIR=1
-      CCACHE_SLOPPINESS=pch_defines,time_macros)
+      "CCACHE_SLOPPINESS=pch_defines,time_macros")
   fi
   inside env "${compiler[@]}" "$sources/packaging/build.sh"
   rm -rf "${made:?}"
@@ -155,6 +155,7 @@ try_window() {
 try_start() {
   cp packaging/debian/tests/transfer "$root/tmp/transfer"
   as_user "PATH=\"$1/bin:\$PATH\" XDG_CONFIG_DIRS=\"\$HOME/.local/share/OVL Software\" /tmp/transfer '$1/start'"
+  # shellcheck disable=SC2016  # it is the user's shell that knows this home
   as_user 'readlink "$HOME/.local/share/OVL Software/V1400/R12"' | grep -qxF "$1/share/ovl-software/images/V1400/R12"
 }
 
@@ -214,6 +215,7 @@ try_package() {
   step "packages: removed; files of the users are kept, no link leads nowhere"
   inside touch "/etc/xdg/ORB/OVL Software.conf.unsound" "/etc/xdg/ORB/OVL Software.conf.new"
   contents > "$work/contents"
+  # shellcheck disable=SC2016  # it is the user's shell that knows this home
   as_user 'ln -s "$HOME/gone" "own link"'
   inside apt-get remove -q -y ovl-software
   is_kept
