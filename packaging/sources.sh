@@ -8,7 +8,7 @@ set -euo pipefail
 read_argument "$build" "$@"
 out=$(realpath --canonicalize-missing -- "$argument")
 cd "$source_folder"
-version=$(sed -n 's/^project(.* VERSION \([0-9.]*\) .*/\1/p' CMakeLists.txt)
+version=$(project_version)
 archive=$out/ovl-software-$version.tar.gz
 mkdir -p "$out"
 # The same files give the same archive, with the date of the release.

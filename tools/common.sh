@@ -61,6 +61,8 @@ read_argument() {
   argument=${arguments[1]:-$1}
 }
 
+project_version() { sed -n 's/^project(.* VERSION \([0-9.]*\) .*/\1/p' "$source_folder/CMakeLists.txt"; }
+
 tools() { "$source_folder/tools/$1" "${@:2}"; }
 
 # A program that starts with this ends when the script does, even if the script is killed.

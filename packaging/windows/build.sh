@@ -66,6 +66,6 @@ cmake --install "$build/release" --prefix "$tree" --strip
 export WINEPREFIX=$build/release/wine WINEDEBUG=-all
 wine "$tree/bin/ovl-images.exe" "$tree/share/ovl-software/images"
 
-version=$(sed -n 's/^project(ovl-software VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
+version=$(project_version)
 makensis -V2 -DVERSION="$version" -DTREE="$tree" -DOUTPUT="$build/ovl-software-$version-setup.exe" "$here/installer.nsi"
 echo "$build/ovl-software-$version-setup.exe"
