@@ -25,14 +25,16 @@ mkdir -p "$build"
 # The source package of the release that this system runs, whether or not its sources are among those of apt.
 fetch_qt() {
   local apt=$build/apt
-  mkdir -p "$apt/lists/partial" "$build/source"
+  rm -rf "$build/source.new"
+  mkdir -p "$apt/lists/partial" "$build/source.new"
   apt-cache policy qt6-base-dev |
     sed -n 's,^ *[0-9]* \(http[^ ]*\) \([^ /]*\)/\([^ ]*\) .* Packages$,deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] \1 \2 \3,p' \
     > "$apt/sources.list"
   local options=(-o Dir::Etc::SourceList="$apt/sources.list" -o Dir::Etc::SourceParts=- -o Dir::State::Lists="$apt/lists"
     -o Dir::Cache="$apt" -o APT::Sandbox::User=)
   apt-get "${options[@]}" update
-  (cd "$build/source" && apt-get "${options[@]}" source qt6-base)
+  (cd "$build/source.new" && apt-get "${options[@]}" source qt6-base)
+  mv "$build/source.new" "$build/source"  # only what is whole has this name
 }
 
 # Without network, SQL, D-Bus and tests. The plug-in for Windows needs OpenGL to be there; nothing uses it.
