@@ -47,6 +47,15 @@ configure_qt() {
     -DCMAKE_C_COMPILER_LAUNCHER=ccache -DCMAKE_CXX_COMPILER_LAUNCHER=ccache
 }
 
+# The uninstaller gets a list of what is in the tree, because people may put files into the folders of the program.
+make_installer() {
+  # shellcheck disable=SC2016  # the installer knows this folder
+  find "$1" -mindepth 1 -depth \( -type d -printf '  RMDir' -o -printf '  Delete' \) -printf ' "$INSTDIR/%P"\n' |
+    sed 's,/,\\,g' > "$build/installed.nsh"
+  makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$version" -DTREE="$1" -DINSTALLED="$build/installed.nsh" -DOUTPUT="$2" \
+    "$here/installer.nsi"
+}
+
 if [ "$qt" = "$build/qt" ]; then
   [ -d "$build/source" ] || fetch_qt
   [ -f "$qt/build.ninja" ] || configure_qt
@@ -69,5 +78,5 @@ export WINEPREFIX=$build/release/wine WINEDEBUG=-all
 wine "$tree/bin/ovl-images.exe" "$tree/share/ovl-software/images"
 
 version=$(project_version)
-makensis -V2 -DVERSION="$version" -DTREE="$tree" -DOUTPUT="$build/ovl-software-$version-setup.exe" "$here/installer.nsi"
+make_installer "$tree" "$build/ovl-software-$version-setup.exe"
 echo "$build/ovl-software-$version-setup.exe"

@@ -55,9 +55,7 @@ SectionEnd
 Section "Uninstall"
   SetRegView 64
   SetShellVarContext all
-  RMDir /r "$INSTDIR\bin"
-  RMDir /r "$INSTDIR\share"
-  RMDir /r "$INSTDIR\doc"
+  !include "${INSTALLED}"
   Delete "$INSTDIR\uninstall.exe"
   RMDir "$INSTDIR"
   Delete "$SMPROGRAMS\OVL Software.lnk"
