@@ -3,6 +3,8 @@
 Unicode true
 Target amd64-unicode
 !include FileFunc.nsh
+!include LogicLib.nsh
+!include WinVer.nsh
 
 !define KEY "SOFTWARE\ORB\OVL Software"
 !define UNINSTALL "SOFTWARE\Microsoft\Windows\CurrentVersion\Uninstall\OVL Software"
@@ -32,7 +34,15 @@ UninstPage instfiles
   ${EndIf}
   WriteRegStr HKLM "${KEY}" "${name}" $1
 !macroend
-!include LogicLib.nsh
+
+; Older releases ignore that the programs ask for UTF-8, and the names of files and ports would be wrong.
+Function .onInit
+  ${IfNot} ${AtLeastBuild} 18362
+    MessageBox MB_OK|MB_ICONSTOP "OVL Software needs Windows 10 version 1903 or later." /SD IDOK
+    SetErrorLevel 2
+    Quit
+  ${EndIf}
+FunctionEnd
 
 Section
   SetRegView 64
