@@ -47,6 +47,13 @@ FunctionEnd
 Section
   SetRegView 64
   SetShellVarContext all
+  ; The files of the version before are removed first: the new uninstaller does not know those that are no longer made.
+  ReadRegStr $0 HKLM "${UNINSTALL}" "InstallLocation"
+  ${If} $0 != ""
+    ExecWait '"$0\uninstall.exe" /S /KEEPSETTINGS _?=$0'
+    Delete "$0\uninstall.exe"  ; it cannot delete itself when it is waited for
+    RMDir "$0"
+  ${EndIf}
   SetOutPath "$INSTDIR"
   File /r "${TREE}/*"
   WriteUninstaller "$INSTDIR\uninstall.exe"
@@ -70,6 +77,11 @@ Section "Uninstall"
   RMDir "$INSTDIR"
   Delete "$SMPROGRAMS\OVL Software.lnk"
   DeleteRegKey HKLM "${UNINSTALL}"
-  DeleteRegKey HKLM "${KEY}"
-  DeleteRegKey /ifempty HKLM "SOFTWARE\ORB"
+  ${GetParameters} $0
+  ClearErrors
+  ${GetOptions} $0 "/KEEPSETTINGS" $1
+  ${If} ${Errors}
+    DeleteRegKey HKLM "${KEY}"
+    DeleteRegKey /ifempty HKLM "SOFTWARE\ORB"
+  ${EndIf}
 SectionEnd
