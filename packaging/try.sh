@@ -29,6 +29,7 @@ releases=("${@:2}")
 cd "$source_folder"
 tools/require debootstrap autopkgtest apt-utils desktop-file-utils xvfb xdotool
 work=$(mktemp -d)
+unset TMPDIR  # the systems of the trials do not have that folder
 chmod 755 "$work"  # folders below it become the root of an ordinary user
 : "${roots:=$work/roots}"
 export DEBIAN_FRONTEND=noninteractive LC_ALL=C.UTF-8
