@@ -2,11 +2,11 @@
 
 # The words that begin the rows of a section of the help.
 _ovl_rows() {
-  sed -n "/^$1:/,/^$/s/^  \(-h, \)\?\([a-z-]\+\).*/\2/p"
+  sed -n "/^$1[:,]/,/^$/s/^  \(-h, \)\?\([a-z-]\+\).*/\2/p"
 }
 
 _ovl_software() {
-  local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} help form='' kind='' words=''
+  local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} help form='' kind=() words='' given
   [ "$current" != = ] || current=''
   [ "$previous" != = ] || previous=${COMP_WORDS[COMP_CWORD - 2]}
   help=$("$1" --help 2> /dev/null) || return
@@ -18,12 +18,19 @@ _ovl_software() {
   esac
   case $form,$current in
     ,-*) form=OPTION ;;
-    ,*) form=$(sed -n '1s/.* \[\?\(FILE\|FOLDER\|VERSION\).*/\1/p' <<< "$help") ;;
+    ,*)
+      form=$(sed -n '1s/.* \[\?\(FILE\|FOLDER\|VERSION\).*/\1/p' <<< "$help")
+      # What follows a command is a file.
+      words=$(_ovl_rows Commands <<< "$help")
+      for given in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
+        ! grep -qxF -e "$given" <<< "$words" || words=''
+      done
+      ;;
   esac
 
   case $form in
-    *FILE* | *PATH*) kind=-f ;;
-    FOLDER) kind=-d ;;
+    *FILE* | *PATH*) kind=(-f) ;;
+    FOLDER) kind=(-d) ;;
     OPTION) words=$(_ovl_rows Options <<< "$help") ;;
     FAULT) words=$(_ovl_rows Faults <<< "$help") ;;
     VERSION)
@@ -32,11 +39,7 @@ _ovl_software() {
       ;;
     *'|'*) words=${form//|/ } ;;
   esac
-  if [ "$kind" ]; then
-    compopt -o filenames
-    mapfile -t COMPREPLY < <(compgen "$kind" -- "$current")
-  else
-    mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current" | sort -u)
-  fi
+  [ ${#kind[@]} -eq 0 ] || compopt -o filenames
+  mapfile -t COMPREPLY < <(compgen "${kind[@]}" -W "$words" -- "$current" | sort -u)
 }
 complete -F _ovl_software ovl ovl-images ovl-script ovl-setup ovl-unit

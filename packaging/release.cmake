@@ -3,6 +3,7 @@
 foreach(row "README.md=| Version | ${PROJECT_VERSION}," "CHANGELOG.md=## ${PROJECT_VERSION}\n")
   string(REGEX MATCH "^[^=]+" page ${row})
   string(REGEX REPLACE "^[^=]+=" "" words ${row})
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${page})
   file(READ ${PROJECT_SOURCE_DIR}/${page} text)
   string(FIND "${text}" ${words} found)
   if(found EQUAL -1)

@@ -1,10 +1,14 @@
 #!/usr/bin/env bash
-# Packs the sources as they are, without the folders of any build, and prints the path: sources.sh [FOLDER]
-# The folder is build if none is named. Git is not asked: an unpacked archive can be packed and built in the same way.
+# Usage: sources.sh [FOLDER]
+# Packs the sources as they are, without the folders of any build, into FOLDER, and prints the path of the archive.
+# Without a folder: build. Git is not asked: an unpacked archive can be packed and built in the same way.
 set -euo pipefail
-out=$(realpath --canonicalize-missing "${1:-$(dirname "$0")/../build}")
-cd "$(dirname "$0")/.."
-version=$(sed -n 's/^project(.* VERSION \([0-9.]*\) .*/\1/p' CMakeLists.txt)
+# shellcheck source=tools/common.sh
+. "$(dirname -- "$0")/../tools/common.sh"
+read_argument "$build" "$@"
+out=$(realpath --canonicalize-missing -- "$argument")
+cd "$source_folder"
+version=$(project_version)
 archive=$out/ovl-software-$version.tar.gz
 mkdir -p "$out"
 # The same files give the same archive, with the date of the release.

@@ -1,30 +1,35 @@
 #!/usr/bin/env bash
+# Usage: try.sh [--roots FOLDER] [--made FOLDER] [--before PACKAGE]... [--cache FOLDER] [RELEASE]...
 # Builds the packages and the archive on bare Debian systems and tries every step of their lives, as root, each in a
 # root file system of its own. The outcomes are printed at the end.
-#   try.sh [--roots FOLDER] [--made FOLDER] [--before PACKAGE] [--cache FOLDER] [RELEASE...]
-#     --roots   keeps the bare root file systems and what was built there
-#     --made    tries what is in this folder, for instance what was built on the older release, and builds nothing
-#     --before  an older package, which is upgraded; several may be named
-#     --cache   a folder for ccache, which the builds then use
+#   --roots   keeps the bare root file systems and what was built there
+#   --made    tries what is in this folder, for instance what was built on the older release, and builds nothing
+#   --before  an older package, which is upgraded; several may be named
+#   --cache   a folder for ccache, which the builds then use
 # Without a release: bookworm trixie
 set -euo pipefail
+# shellcheck source=tools/common.sh
+. "$(dirname -- "$0")/../tools/common.sh"
+read_options roots:,made:,before:,cache: "$@"
 [ "${TRY_ALONE:-}" ] || TRY_ALONE=1 exec unshare --mount --propagation private "$0" "$@"
 
-roots='' given='' cache='' before=() releases=() table=() release='' tried='' now='' root='' home='' screen=''
-while [ $# -gt 0 ]; do
+roots='' given='' cache='' before=() table=() release='' tried='' now='' root='' home='' screen='' status=0
+set -- "${arguments[@]}"
+while [ "$1" != -- ]; do
   case $1 in
-    --roots) roots=$(realpath -m "$2"); shift ;;
-    --made) given=$(realpath "$2"); shift ;;
-    --before) before+=("$(realpath "$2")"); shift ;;
-    --cache) cache=$(realpath -m "$2"); shift ;;
-    *) releases+=("$1") ;;
+    --roots) roots=$(realpath --canonicalize-missing -- "$2") ;;
+    --made) given=$(realpath -- "$2") ;;
+    --before) before+=("$(realpath -- "$2")") ;;
+    --cache) cache=$(realpath --canonicalize-missing -- "$2") ;;
   esac
-  shift
+  shift 2
 done
+releases=("${@:2}")
 [ ${#releases[@]} -gt 0 ] || releases=(bookworm trixie)
-cd "$(dirname "$0")/.."
+cd "$source_folder"
 tools/require debootstrap autopkgtest apt-utils desktop-file-utils xvfb xdotool
 work=$(mktemp -d)
+unset TMPDIR  # the systems of the trials do not have that folder
 chmod 755 "$work"  # folders below it become the root of an ordinary user
 : "${roots:=$work/roots}"
 export DEBIAN_FRONTEND=noninteractive LC_ALL=C.UTF-8
@@ -45,7 +50,9 @@ drop() {
   screen=''
   [ -n "$root" ] || return 0
   for mounted in dev proc cache tmp/.X11-unix; do umount --recursive --lazy "$root/$mounted" 2> /dev/null || true; done
-  if grep -qF " $root/" /proc/self/mounts; then return 1; fi
+  # The list has blanks and some other characters in octal, without the zero in front that %b expects.
+  printf -v mounted %b "$(sed 's/\\/\\0/g' /proc/self/mounts)"
+  [[ $mounted != *" $root/"* ]] || return 1
   rm -rf "$root"
   root=''
 }
@@ -55,7 +62,6 @@ trap 'exit 130' HUP INT TERM  # a step that was broken off has not passed
 inside() { chroot "$root" "$@"; }
 as_user() { inside su - installer -c "$1"; }
 install_in() { inside apt-get install -q -y --no-install-recommends "$@" > /dev/null; }
-fail() { echo "$1" >&2; exit 1; }
 
 # A root file system of the release with nothing but Debian's required packages and an ordinary user.
 fresh() {
@@ -79,7 +85,7 @@ fresh() {
 build() {
   fresh
   local sources=$home/ovl-software compiler=()
-  tar --extract --file "$(packaging/sources.sh "$work")" --directory "$root$home"
+  tar --extract --file "$(packaging/sources.sh -- "$work")" --directory "$root$home"
   mv "$root$home"/ovl-software-* "$root$sources"
   step "build.sh without git, as a user without rights: names the missing packages"
   inside chown -R installer: "$sources"
@@ -91,7 +97,7 @@ build() {
     mount --bind "$cache" "$root/cache"
     install_in ccache
     compiler=("PATH=/usr/lib/ccache:$PATH" CCACHE_DIR=/cache "CCACHE_BASEDIR=$sources" CCACHE_NOHASHDIR=1
-      CCACHE_SLOPPINESS=pch_defines,time_macros)
+      "CCACHE_SLOPPINESS=pch_defines,time_macros")
   fi
   inside env "${compiler[@]}" "$sources/packaging/build.sh"
   rm -rf "${made:?}"
@@ -150,6 +156,7 @@ try_window() {
 try_start() {
   cp packaging/debian/tests/transfer "$root/tmp/transfer"
   as_user "PATH=\"$1/bin:\$PATH\" XDG_CONFIG_DIRS=\"\$HOME/.local/share/OVL Software\" /tmp/transfer '$1/start'"
+  # shellcheck disable=SC2016  # it is the user's shell that knows this home
   as_user 'readlink "$HOME/.local/share/OVL Software/V1400/R12"' | grep -qxF "$1/share/ovl-software/images/V1400/R12"
 }
 
@@ -209,6 +216,7 @@ try_package() {
   step "packages: removed; files of the users are kept, no link leads nowhere"
   inside touch "/etc/xdg/ORB/OVL Software.conf.unsound" "/etc/xdg/ORB/OVL Software.conf.new"
   contents > "$work/contents"
+  # shellcheck disable=SC2016  # it is the user's shell that knows this home
   as_user 'ln -s "$HOME/gone" "own link"'
   inside apt-get remove -q -y ovl-software
   is_kept

@@ -1,5 +1,5 @@
-# What ./run, ./test, .ci/run and docs/pictures.sh share: where the build is, what it needs, and that nothing outlives
-# them.
+# What ./run, ./test, .ci/run, docs/pictures.sh and the scripts of packaging share: where the build is, what it needs,
+# their options, and that nothing outlives them.
 # shellcheck shell=bash disable=SC2034  # they use what is set here
 source_folder=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
 build=$source_folder/build
@@ -39,6 +39,29 @@ take_options() {
   esac
   build=$(realpath --canonicalize-missing -- "$build")
 }
+
+# Sorts the arguments of a script into `arguments`: its options, "--", the others. The options are written as for
+# getopt: read_options LONG-OPTIONS [ARGUMENT]... The comment at the head of the script is what --help prints.
+read_options() {
+  local sorted argument
+  sorted=$(getopt --name "$command_name" --options h --longoptions "help,$1" -- "${@:2}") || exit 2
+  eval "arguments=($sorted)"
+  for argument in "${arguments[@]}"; do
+    case $argument in
+      --) return ;;
+      -h | --help) sed '1d; /^#/!Q; s/^# \?//' -- "$0"; exit ;;
+    esac
+  done
+}
+
+# The only argument of a script that has no options: read_argument DEFAULT [ARGUMENT]...
+read_argument() {
+  read_options '' "${@:2}"
+  [ ${#arguments[@]} -le 2 ] || { echo "$command_name: one argument is allowed, not $((${#arguments[@]} - 1))" >&2; exit 2; }
+  argument=${arguments[1]:-$1}
+}
+
+project_version() { sed -n 's/^project(.* VERSION \([0-9.]*\) .*/\1/p' "$source_folder/CMakeLists.txt"; }
 
 tools() { "$source_folder/tools/$1" "${@:2}"; }
 

@@ -1,29 +1,40 @@
 #!/usr/bin/env bash
+# Usage: build.sh [--qt FOLDER]
 # Builds the programs for 64-bit Windows below build/windows, runs the stories and the tests of the model under Wine, and
 # makes the installer. Qt is built first, once, from Debian's source package, which takes an hour of two processors.
-# `--qt FOLDER` names the build folder of such a Qt that is there already.
+#   --qt  the build folder of such a Qt that is there already
 set -euo pipefail
-cd "$(dirname "$0")/../.."
+# shellcheck source=tools/common.sh
+. "$(dirname -- "$0")/../../tools/common.sh"
+build=$build/windows
+qt=$build/qt
+read_options qt: "$@"
+set -- "${arguments[@]}"
+while [ "$1" != -- ]; do
+  qt=$(realpath -- "$2")
+  shift 2
+done
+[ $# -eq 1 ] || { echo "$command_name: unknown argument $2" >&2; exit 2; }
+cd "$source_folder"
 tools/require g++-mingw-w64-x86-64-posix wine wine64 nsis cmake ninja-build ccache dpkg-dev qt6-base-dev qt6-base-dev-tools \
   googletest libtomlplusplus-dev librsvg2-bin icoutils
 
 here=$PWD/packaging/windows
-build=$PWD/build/windows
-qt=$build/qt
-[ "${1:-}" != --qt ] || qt=$(realpath "$2")
 mkdir -p "$build"
 
 # The source package of the release that this system runs, whether or not its sources are among those of apt.
 fetch_qt() {
   local apt=$build/apt
-  mkdir -p "$apt/lists/partial" "$build/source"
+  rm -rf "$build/source.new"
+  mkdir -p "$apt/lists/partial" "$build/source.new"
   apt-cache policy qt6-base-dev |
     sed -n 's,^ *[0-9]* \(http[^ ]*\) \([^ /]*\)/\([^ ]*\) .* Packages$,deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] \1 \2 \3,p' \
     > "$apt/sources.list"
   local options=(-o Dir::Etc::SourceList="$apt/sources.list" -o Dir::Etc::SourceParts=- -o Dir::State::Lists="$apt/lists"
     -o Dir::Cache="$apt" -o APT::Sandbox::User=)
   apt-get "${options[@]}" update
-  (cd "$build/source" && apt-get "${options[@]}" source qt6-base)
+  (cd "$build/source.new" && apt-get "${options[@]}" source qt6-base)
+  mv "$build/source.new" "$build/source"  # only what is whole has this name
 }
 
 # Without network, SQL, D-Bus and tests. The plug-in for Windows needs OpenGL to be there; nothing uses it.
@@ -34,6 +45,15 @@ configure_qt() {
     -DFEATURE_system_zlib=OFF -DFEATURE_concurrent=OFF -DFEATURE_pkg_config=OFF -DFEATURE_vulkan=OFF \
     -DCMAKE_DISABLE_FIND_PACKAGE_WrapVulkanHeaders=ON -DFEATURE_tabletevent=OFF -DQT_BUILD_TESTS=OFF -DQT_BUILD_EXAMPLES=OFF \
     -DCMAKE_C_COMPILER_LAUNCHER=ccache -DCMAKE_CXX_COMPILER_LAUNCHER=ccache
+}
+
+# The uninstaller gets a list of what is in the tree, because people may put files into the folders of the program.
+make_installer() {
+  # shellcheck disable=SC2016  # the installer knows this folder
+  find "$1" -mindepth 1 -depth \( -type d -printf '  RMDir' -o -printf '  Delete' \) -printf ' "$INSTDIR/%P"\n' |
+    sed 's,/,\\,g' > "$build/installed.nsh"
+  makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$version" -DTREE="$1" -DINSTALLED="$build/installed.nsh" -DOUTPUT="$2" \
+    "$here/installer.nsi"
 }
 
 if [ "$qt" = "$build/qt" ]; then
@@ -57,6 +77,6 @@ cmake --install "$build/release" --prefix "$tree" --strip
 export WINEPREFIX=$build/release/wine WINEDEBUG=-all
 wine "$tree/bin/ovl-images.exe" "$tree/share/ovl-software/images"
 
-version=$(sed -n 's/^project(ovl-software VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
-makensis -V2 -DVERSION="$version" -DTREE="$tree" -DOUTPUT="$build/ovl-software-$version-setup.exe" "$here/installer.nsi"
+version=$(project_version)
+make_installer "$tree" "$build/ovl-software-$version-setup.exe"
 echo "$build/ovl-software-$version-setup.exe"

@@ -3,6 +3,8 @@
 Unicode true
 Target amd64-unicode
 !include FileFunc.nsh
+!include LogicLib.nsh
+!include WinVer.nsh
 
 !define KEY "SOFTWARE\ORB\OVL Software"
 !define UNINSTALL "SOFTWARE\Microsoft\Windows\CurrentVersion\Uninstall\OVL Software"
@@ -32,11 +34,26 @@ UninstPage instfiles
   ${EndIf}
   WriteRegStr HKLM "${KEY}" "${name}" $1
 !macroend
-!include LogicLib.nsh
+
+; Older releases ignore that the programs ask for UTF-8, and the names of files and ports would be wrong.
+Function .onInit
+  ${IfNot} ${AtLeastBuild} 18362
+    MessageBox MB_OK|MB_ICONSTOP "OVL Software needs Windows 10 version 1903 or later." /SD IDOK
+    SetErrorLevel 2
+    Quit
+  ${EndIf}
+FunctionEnd
 
 Section
   SetRegView 64
   SetShellVarContext all
+  ; The files of the version before are removed first: the new uninstaller does not know those that are no longer made.
+  ReadRegStr $0 HKLM "${UNINSTALL}" "InstallLocation"
+  ${If} $0 != ""
+    ExecWait '"$0\uninstall.exe" /S /KEEPSETTINGS _?=$0'
+    Delete "$0\uninstall.exe"  ; it cannot delete itself when it is waited for
+    RMDir "$0"
+  ${EndIf}
   SetOutPath "$INSTDIR"
   File /r "${TREE}/*"
   WriteUninstaller "$INSTDIR\uninstall.exe"
@@ -55,13 +72,16 @@ SectionEnd
 Section "Uninstall"
   SetRegView 64
   SetShellVarContext all
-  RMDir /r "$INSTDIR\bin"
-  RMDir /r "$INSTDIR\share"
-  RMDir /r "$INSTDIR\doc"
+  !include "${INSTALLED}"
   Delete "$INSTDIR\uninstall.exe"
   RMDir "$INSTDIR"
   Delete "$SMPROGRAMS\OVL Software.lnk"
   DeleteRegKey HKLM "${UNINSTALL}"
-  DeleteRegKey HKLM "${KEY}"
-  DeleteRegKey /ifempty HKLM "SOFTWARE\ORB"
+  ${GetParameters} $0
+  ClearErrors
+  ${GetOptions} $0 "/KEEPSETTINGS" $1
+  ${If} ${Errors}
+    DeleteRegKey HKLM "${KEY}"
+    DeleteRegKey /ifempty HKLM "SOFTWARE\ORB"
+  ${EndIf}
 SectionEnd

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Types into a shell and compares what it offers: completion.sh PROGRAMS COMPLETION
 set -euo pipefail
+# shellcheck source=packaging/completion.bash
 . "$2"
 place=$(mktemp -d)
 trap 'rm -rf "$place"' EXIT
@@ -25,6 +26,10 @@ offers() {
 
 offers '--firmware|--folder' ovl --f
 offers '--firmware|--folder|--help|--json|--version' ovl-script --
+offers 'check|checksum|diff|export|fo file|folder|import' ovl-script ''
+offers 'export' ovl-script e
+offers 'fo file|folder' ovl-script export fo
+offers '' ovl-script export e
 offers '--list' ovl-setup --l
 offers 'folder' ovl --folder fo
 offers 'fo file|folder' ovl fo
