@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
-# Builds the fuzzers, divides SECONDS among them and prints runs, coverage and findings of each. Findings are in
-# build/fuzz/findings. Inputs that cover something new are in build/fuzz/corpus, where the next run continues.
-# With names of targets after the seconds only these run.
+# Builds the fuzzers, runs them for SECONDS in turns, and prints runs, coverage and findings of each. Every other turn
+# goes to the target that gained the most coverage in its last turn, the others to the target with the fewest runs.
+# Findings are in build/fuzz/findings. Inputs that cover something new are in build/fuzz/corpus, where the next run
+# continues; at the end only those are kept that the coverage needs. With names of targets after the seconds only these
+# run.
 set -euo pipefail
 cd "$(dirname "$0")/../../.."
 seconds=${1:?"Usage: tests/search/fuzz/run.sh SECONDS [TARGET]..."}
@@ -10,7 +12,7 @@ targets=("$@")
 [ ${#targets[@]} -gt 0 ] || targets=(stream link history settings script text unit)
 
 cmake --preset fuzz > build/fuzz.log 2>&1 || { cat build/fuzz.log >&2; exit 1; }
-cmake --build --preset fuzz --target fuzz_seeds $(printf 'fuzz_%s ' "${targets[@]}") > build/fuzz.log 2>&1 ||
+cmake --build --preset fuzz --target fuzz_seeds "${targets[@]/#/fuzz_}" > build/fuzz.log 2>&1 ||
   { cat build/fuzz.log >&2; exit 1; }
 
 bin=$PWD/build/fuzz/bin
@@ -22,31 +24,77 @@ trap 'rm -rf "$TMPDIR"' EXIT
 mkdir -p "$findings"
 "$bin/fuzz_seeds" "$TMPDIR/seeds"
 
-share=$((seconds / ${#targets[@]}))
-all=0
-found=0
-printf '%-10s %12s %10s %10s %9s\n' target runs runs/s coverage findings
+declare -A runs coverage gained found
 for target in "${targets[@]}"; do
   mkdir -p "$corpus/$target"
-  log=$TMPDIR/$target.log
-  words=(-max_total_time="$share" -max_len=512 -timeout=20 -rss_limit_mb=2048 -detect_leaks=0
-    -entropic=0 -print_final_stats=1)
+  runs[$target]=0 coverage[$target]=0 gained[$target]=0 found[$target]=0
+done
+
+# The target without a finding whose number in the array is the largest, or with "least" the smallest.
+pick() {
+  local -n numbers=$1
+  local target best=
+  for target in "${targets[@]}"; do
+    [ "${found[$target]}" = 0 ] || continue
+    if [ -z "$best" ] || { [ "$2" = least ] && [ "${numbers[$target]}" -lt "${numbers[$best]}" ]; } ||
+      { [ "$2" = most ] && [ "${numbers[$target]}" -gt "${numbers[$best]}" ]; }; then
+      best=$target
+    fi
+  done
+  echo "$best"
+}
+
+# Runs a target for some seconds. It ends at its first finding.
+# shellcheck disable=SC2034 # pick reads `gained` by its name
+turn() {
+  local target=$1 log=$TMPDIR/$1.log status=0 covers words
+  words=(-max_total_time="$2" -max_len=512 -timeout=20 -rss_limit_mb=2048 -detect_leaks=0 -entropic=0
+    -print_final_stats=1 -artifact_prefix="$findings/$target-")
   [ ! -f "$TMPDIR/seeds/$target.dict" ] || words+=(-dict="$TMPDIR/seeds/$target.dict")
-  status=0
-  "$bin/fuzz_$target" "${words[@]}" -artifact_prefix="$findings/$target-" "$corpus/$target" \
-    "$TMPDIR/seeds/$target" > "$log" 2>&1 || status=$?
-  runs=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")
-  speed=$(sed -n 's/^stat::average_exec_per_sec: *//p' "$log")
-  coverage=$(sed -n 's/.* cov: \([0-9]*\) .*/\1/p' "$log" | tail -n 1)
-  new=0
-  # A target ends at its first finding. An interrupted one has found nothing.
+  "$bin/fuzz_$target" "${words[@]}" "$corpus/$target" "$TMPDIR/seeds/$target" > "$log" 2>&1 || status=$?
+  runs[$target]=$((runs[$target] + $(sed -n 's/^stat::number_of_executed_units: *//p' "$log" || echo 0)))
+  covers=$(sed -n 's/.* cov: \([0-9]*\) .*/\1/p' "$log" | tail -n 1)
+  gained[$target]=$((${covers:-0} - coverage[$target]))
+  coverage[$target]=${covers:-0}
+  # An interrupted target has found nothing.
   if [ "$status" -ne 0 ] && ! grep -q 'run interrupted' "$log"; then
-    new=1
+    found[$target]=1
     cp "$log" "$findings/$target.log"
   fi
-  printf '%-10s %12s %10s %10s %9s\n' "$target" "${runs:-0}" "${speed:-0}" "${coverage:-0}" "$new"
-  all=$((all + ${runs:-0}))
-  found=$((found + new))
+}
+
+# Leaves the inputs that the coverage needs.
+minimise() {
+  local least=$TMPDIR/least
+  mkdir "$least"
+  if "$bin/fuzz_$1" -merge=1 -max_len=512 -detect_leaks=0 "$least" "$corpus/$1" > "$TMPDIR/merge.log" 2>&1; then
+    rm -rf "${corpus:?}/$1"
+    mv "$least" "$corpus/$1"
+  else
+    rm -rf "$least"
+  fi
+}
+
+for target in "${targets[@]}"; do
+  turn "$target" $((seconds / ${#targets[@]} / 4 + 1))
 done
-printf '%-10s %12s %31s\n' all "$all" "$found"
-[ "$found" -eq 0 ] || { echo "What was found: $findings"; exit 1; }
+by_gain=false
+while [ $SECONDS -lt "$seconds" ]; do
+  if $by_gain; then target=$(pick gained most); by_gain=false; else target=$(pick runs least); by_gain=true; fi
+  [ -n "$target" ] || break
+  turn "$target" $((seconds / 40 + 1))
+done
+
+all=0
+status=0
+printf '%-10s %12s %10s %9s %9s\n' target runs coverage findings inputs
+for target in "${targets[@]}"; do
+  [ "${found[$target]}" != 0 ] || minimise "$target"
+  printf '%-10s %12s %10s %9s %9s\n' "$target" "${runs[$target]}" "${coverage[$target]}" "${found[$target]}" \
+    "$(find "$corpus/$target" -type f | wc -l)"
+  all=$((all + runs[$target]))
+  [ "${found[$target]}" = 0 ] || status=1
+done
+printf '%-10s %12s\n' all "$all"
+[ $status -eq 0 ] || echo "What was found: $findings"
+exit $status
