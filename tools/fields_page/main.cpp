@@ -76,18 +76,17 @@ class Page {
  private:
   void AddHead() {
     text_ +=
-        "# Fields\n\nEverything that a configuration holds, in the order in which it goes over the line and "
-        "stands in a file: three sections, one behind the other. Bytes are two hexadecimal digits.\n\n"
-        "The columns with letters tell at which byte of its section a field begins, counted from 0 (its "
-        "first "
-        "digit is twice that plus one), under these firmware; a dash means that they do not have it:\n\n";
+        "# Fields\n\nThis page lists every field of a configuration, in the order of the record stream and "
+        "of a "
+        "file: three sections, one behind the other. A byte is two hexadecimal digits.\n\n"
+        "The columns with letters show at which byte of its section a field begins under these firmware. The "
+        "first byte has the number 0. A dash means that the firmware does not have the field:\n\n";
     for (std::size_t at = 0; at < columns_.size(); ++at) {
       text_ += "- **" + LetterOf(at) + "** " + columns_[at].firmware + "\n";
     }
     text_ +=
-        "\n\"Register\" marks what picking a register takes from its default image. \"Kept\" fields are "
-        "edited "
-        "nowhere: they are read, kept and written back.\n";
+        "\n\"Register\" marks the fields that a pick of a register takes from its default image. No control "
+        "edits a field that is \"kept\": the program reads it, keeps it and writes it back.\n";
   }
 
   void AddSection(std::size_t section) {

@@ -17,10 +17,9 @@ using command_line::Wish;
 const command_line::Program kProgram = {
     "ovl-images",
     "[OPTION] FOLDER [FIRMWARE]...",
-    "Writes the default image of every register below FOLDER: a folder for each\n"
-    "family, below it one for each release, in it one .bin file for each name of the\n"
-    "firmware's register list. Without FIRMWARE, such as V1400R12, all of them. Files\n"
-    "that are there are replaced.\n",
+    "Writes the default image of every register: FOLDER/FAMILY/RELEASE/REGISTER.bin\n"
+    "for each FIRMWARE, such as V1400R12, or for all firmware. Replaces files that\n"
+    "exist.\n",
     {},
     "\n"
     "Exit status:\n"

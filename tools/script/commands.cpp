@@ -84,7 +84,7 @@ ExitStatus Import(const Wanted& wanted, std::ostream&, std::ostream&) {
   host::Viewer viewer(host::FirmwareOf(text.path, text.bytes, wanted.firmware));
   const auto image = host::ReadConfiguration(viewer, text.path, text.bytes);
   const auto file = acts::ReopenableFile(image, viewer.catalogue.Firmware());
-  if (!file) Wrong(text.path + ": no file gives this configuration back");
+  if (!file) Wrong(text.path + ": this configuration cannot be written to a file that opens again");
   host::DiskFiles().replace(wanted.paths[1], *file);
   return ExitStatus::kDone;
 }

@@ -70,7 +70,7 @@ Word ReadText(std::string_view line, std::size_t& place) {
 Word ReadBare(std::string_view line, std::size_t& place) {
   const auto start = place;
   while (place < line.size() && !EndsWord(line[place])) {
-    if (line[place] == '"') Wrong("a quote stands inside a word");
+    if (line[place] == '"') Wrong("there is a quote inside a word");
     ++place;
   }
   return {std::string(line.substr(start, place - start)), false};
@@ -129,12 +129,12 @@ const std::string& Arguments::Next(std::string_view what) {
 }
 
 const std::string& Arguments::Text(std::string_view what) {
-  if (!AtEnd() && !NextIsQuoted()) Wrong(std::string(what) + " must stand in quotes");
+  if (!AtEnd() && !NextIsQuoted()) Wrong(std::string(what) + " must be in quotes");
   return Next(what);
 }
 
 const std::string& Arguments::Bare(std::string_view what) {
-  if (NextIsQuoted()) Wrong(std::string(what) + " must stand without quotes");
+  if (NextIsQuoted()) Wrong(std::string(what) + " must be without quotes");
   return Next(what);
 }
 

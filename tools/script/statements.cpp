@@ -106,7 +106,7 @@ void Port(Session& session, Arguments& arguments) {
 
 void Wait(Session& session, Arguments& arguments) {
   const int duration = arguments.Number("MS");
-  if (duration < 0) Wrong("time does not run backwards");
+  if (duration < 0) Wrong("MS must not be negative");
   arguments.End();
   session.Wait(duration);
 }

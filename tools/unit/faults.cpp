@@ -52,9 +52,9 @@ constexpr unsigned kMostCharacters = 1'000'000;
 constexpr unsigned kMostMilliseconds = 3'600'000;
 
 constexpr std::array<FaultRow, 10> kRows{{
-    {FaultKind::kRefuse, "refuse", "[:OPERATION]", kRefusable, 0, 0, "answers NAK instead of consent"},
+    {FaultKind::kRefuse, "refuse", "[:OPERATION]", kRefusable, 0, 0, "answers NAK instead of ACK"},
     {FaultKind::kSilent, "silent", "[:OPERATION]", kSilenceable, 0, 0,
-     "does as if it had not heard; final-ack: stores the configuration and says nothing"},
+     "does not answer; final-ack: stores the configuration and does not answer"},
     {FaultKind::kSilentAfter,
      "silent:after=",
      "N",
@@ -104,7 +104,7 @@ constexpr std::array<FaultRow, 10> kRows{{
      {},
      0,
      0,
-     "lets every other fault strike only the first operation that it meets"},
+     "applies every other fault only to the first operation that it fits"},
 }};
 
 unsigned AllOf(std::span<const Target> targets) {

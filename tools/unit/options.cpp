@@ -57,16 +57,15 @@ std::string TakeFault(Options& options, std::string_view value) {
 constexpr std::array<OptionRow, 12> kRows{{
     {{"firmware", "NAME", "the firmware of the unit, V1400R12 by default"}, TakeFirmware},
     {{"memory", "FILE",
-      "keeps the configuration in FILE, which is made at the\nfirst start. Without it the configuration is "
-      "lost "
-      "at\nthe end"},
+      "keeps the configuration in FILE and makes it at the first\nstart. Without it the configuration is "
+      "lost at the end"},
      [](Options& o, std::string_view v) { return TakePath(o.memory, v); }},
     {{"image", "FILE",
-      "a configuration, as a record stream, to begin with when\nthere is no memory file yet. Otherwise it is "
-      "the\nfactory configuration"},
+      "the configuration of the first start, as a record\nstream. Without it the unit starts with the "
+      "factory\nconfiguration"},
      [](Options& o, std::string_view v) { return TakePath(o.image, v); }},
     {{"speed", "1200|2400|4800|9600|14400|19200|28800|38400|57600|115200",
-      "the speed of the line, 9600 by default. At any other\nthe unit neither hears nor answers"},
+      "the baud rate of the unit, 9600 by default. At another\nbaud rate the unit does not answer"},
      [](Options& o, std::string_view v) {
        o.speed = static_cast<unsigned>(*Decimal(v, kFastest));
        return std::string();
@@ -108,9 +107,9 @@ constexpr std::string_view kPurpose =
 
 constexpr std::string_view kCommands =
     "\n"
-    "What the unit hears, at its own speed:\n"
-    "  ~~~SOH_REQUEST_EOT~~~k  remote mode: ACK. Everything else is register traffic\n"
-    "                          until then\n"
+    "Commands that the unit takes, at its baud rate:\n"
+    "  ~~~SOH_REQUEST_EOT~~~k  starts remote mode: ACK. Before that, everything else\n"
+    "                          is text of the register\n"
     "  ENQ                     FF; remote mode ends after 30 seconds without it\n"
     "  CAN                     leaves remote mode\n"
     "  /LU CR                  sends the configuration and leaves remote mode\n"
@@ -127,8 +126,8 @@ constexpr std::string_view kCommands =
 constexpr std::string_view kExitStatus =
     "\n"
     "Exit status:\n"
-    "  0  no complaint\n"
-    "  1  the tool gave cause for complaints\n"
+    "  0  the program sent nothing wrong\n"
+    "  1  the program sent something wrong\n"
     "  2  wrong usage, or the unit could not start\n"
     "\n"
     "Examples:\n"

@@ -55,8 +55,8 @@ ChecksWindow::ChecksWindow(Bindings& bindings, QWidget* parent)
 }
 
 void ChecksWindow::Build() {
-  list_ = new SettingList({QStringLiteral("Setting"), QStringLiteral("What to look at")});
-  list_->setAccessibleName(QStringLiteral("What to look at"));
+  list_ = new SettingList({QStringLiteral("Setting"), QStringLiteral("Finding")});
+  list_->setAccessibleName(QStringLiteral("Findings"));
   list_->header()->setSectionResizeMode(1, QHeaderView::Stretch);
   BuildAround(*list_);
 }
@@ -97,7 +97,7 @@ void ChecksWindow::Fill() {
                               {count.notes, QStringLiteral("note")}});
   Summary().setText(words.isEmpty()
                         ? QStringLiteral("The checks found nothing to look at in this configuration.")
-                        : QStringLiteral("What to look at in this configuration: %1.").arg(words));
+                        : QStringLiteral("The checks found %1 in this configuration.").arg(words));
   std::vector<SettingRow> rows;
   for (const auto& finding : findings_) rows.push_back(RowOf(finding));
   list_->ShowRows(std::move(rows));

@@ -176,7 +176,7 @@ FormWindow* BuildRangeWindow(Bindings& bindings, QWidget* parent) {
   down->addLayout(grid);
   down->addWidget(MakeRangeHint(bindings));
   down->addWidget(
-      MutedLabel(QStringLiteral("The separator holds for all exceptions and is stored at once.")));
+      MutedLabel(QStringLiteral("The separator is the same for all exceptions. It is stored at once.")));
   down->addLayout(MakeButtonRow(bindings, model.form, "cmdSetRange", "cmdClr"));
 
   auto* first = static_cast<QLineEdit*>(bindings.WidgetOf(model.Range_Hi));

@@ -222,7 +222,7 @@ void StatusStrip::ShowMessages() {
 
 QString StatusStrip::PortText() const {
   const int number = app_.PortNumber;
-  if (number == 0) return QStringLiteral("No comport chosen");
+  if (number == 0) return QStringLiteral("No port chosen");
   const auto device = host::ComportDevice(QFile::decodeName(app_.platform.program_folder.c_str()), number);
   auto text = QStringLiteral("Comport %1, %2").arg(QString::number(number), device);
   if (!app_.frmMain.MSComm1.PortOpen) return text;
