@@ -76,6 +76,19 @@ end_with() {
   exit "$1"
 }
 
+# Takes the file that has the devices that are done, for this run alone: two runs would each take the units of the other
+# for its own. The lock ends with the last of the processes of the run.
+hold() {
+  local lock
+  while true; do
+    exec {lock}>> "$1" || exit 3
+    flock -n "$lock" || refuse "$list: another run works on this list, so nothing was done"
+    # A run that ended in between has removed the file.
+    [ "$1" -ef "/dev/fd/$lock" ] && return
+    exec {lock}>&-
+  done
+}
+
 # Runs a command for each device of the list, prints a table of the outcomes, and fails if one has failed:
 # each WHAT COMMAND... The file LIST.EXAMPLE.done has the devices that are done until all are. A later run for the same
 # WHAT, which says what is done to the units, leaves them out if it resumes.
@@ -84,7 +97,8 @@ each() {
   state=$list.$(basename "$0" .sh).done
   what="# $version $release $(sha256sum <<< "$1" | cut -d ' ' -f 1)"
   shift
-  "$resumes" && [ "$(head -n 1 "$state" 2> /dev/null)" = "$what" ] || echo "$what" > "$state" || exit 3
+  hold "$state"
+  "$resumes" && [ "$(head -n 1 "$state")" = "$what" ] || echo "$what" > "$state" || exit 3
   mkdir "$work/outcomes"
   trap 'end_with 130' INT
   trap 'end_with 143' TERM
