@@ -68,11 +68,31 @@ serve() {
   fi
 }
 
+# Prints the table of the outcomes, with the numbers in `failed` and `left`.
+print_table() {
+  local number=0 device outcome
+  failed=0 left=0
+  for device in "${devices[@]}"; do
+    number=$((number + 1))
+    outcome=$(cat "$work/outcomes/$number" 2> /dev/null) || outcome="not started"
+    case $outcome in
+      done*) ;;
+      "not started") left=$((left + 1)) ;;
+      *) failed=$((failed + 1)) ;;
+    esac
+    printf '%-24s %s\n' "$device" "$outcome"
+  done
+  printf '%s units, %s failed' "${#devices[@]}" "$failed"
+  [ "$left" -eq 0 ] || printf ', %s not started' "$left"
+  echo
+}
+
 # A request to end starts no further unit, and waits for those under way: a transfer would go on alone and hold its
 # device.
 end_with() {
   echo "$(basename "$0"): waiting for the units under way" >&2
-  wait
+  while [ -n "$(jobs -pr)" ]; do wait || true; done
+  print_table
   exit "$1"
 }
 
@@ -93,7 +113,7 @@ hold() {
 # each WHAT COMMAND... The file LIST.EXAMPLE.done has the devices that are done until all are. A later run for the same
 # WHAT, which says what is done to the units, leaves them out if it resumes.
 each() {
-  local state what number=0 device outcome failed=0
+  local state what number=0 device failed left
   state=$list.$(basename "$0" .sh).done
   what="# $version $release $(sha256sum <<< "$1" | cut -d ' ' -f 1)"
   shift
@@ -104,23 +124,18 @@ each() {
   trap 'end_with 143' TERM
   for device in "${devices[@]}"; do
     number=$((number + 1))
-    if grep -qxF -- "$device" "$state"; then
-      echo "done before" > "$work/outcomes/$number"
-      continue
-    fi
-    while [ "$(jobs -pr | wc -l)" -ge "$at_once" ]; do wait -n || true; done
-    (serve "$number" "$state" "$@" "$device") &
+    ! grep -qxF -- "$device" "$state" || echo "done before" > "$work/outcomes/$number"
   done
-  wait
-
   number=0
   for device in "${devices[@]}"; do
     number=$((number + 1))
-    outcome=$(cat "$work/outcomes/$number" 2> /dev/null) || outcome="failed: was broken off"
-    [[ $outcome == done* ]] || failed=$((failed + 1))
-    printf '%-24s %s\n' "$device" "$outcome"
+    [ ! -e "$work/outcomes/$number" ] || continue
+    while [ "$(jobs -pr | wc -l)" -ge "$at_once" ]; do wait -n || true; done
+    echo "failed: was broken off" > "$work/outcomes/$number"
+    (serve "$number" "$state" "$@" "$device") &
   done
-  printf '%s\n' "${#devices[@]} units, $failed failed"
+  wait
+  print_table
   [ "$failed" -eq 0 ] || return 1
   rm -f -- "$state"
 }

@@ -111,12 +111,17 @@ case $3 in
     [ "$(grep -c ' done before$' said) $(grep -c ' done$' said)" = "$((count - 1)) 1" ]
     [ ! -e devices.change_all.done ]
     fails 1 '^    TIME / LANGUAGE: TITLE: "SHOP 12" -> "empty"$' "$examples/compare.sh" --jobs 4 devices texts
-    # A second run for the same list does not touch what the first one keeps.
-    "$examples/change_all.sh" devices SITE_NO_BAK=0A > first 2>&1 &
+    # A second run for the same list does not touch what the first one keeps. A run that is broken off prints its table.
+    env --default-signal=INT "$examples/change_all.sh" devices SITE_NO_BAK=0A > first 2>&1 &
     first=$!
     timeout 60 sh -c 'until [ -s devices.change_all.done ]; do sleep 0.05; done'
     fails 2 '^change_all.sh: devices: another run ' "$examples/change_all.sh" devices SITE_NO_BAK=0B
-    wait "$first"
+    kill -INT "$first"
+    status=0
+    wait "$first" || status=$?
+    [ "$status" = 130 ]
+    grep -q "^$site/unit$count *not started\$" first
+    grep -q "^$count units, 0 failed, [1-9][0-9]* not started\$" first
     cp title.toml texts/unit1.toml
     "$examples/compare.sh" unit1 texts/unit1.toml
     ;;
