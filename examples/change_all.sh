@@ -4,6 +4,8 @@
 #   change_all.sh [--jobs N] devices.txt DATE_FORMAT_BAK=02 'TRIGGER_DELAY(2)=0A' ...
 # The change is a text form that names what it changes, or fields; the page "Fields" of the help lists their names. Each
 # unit is read first, so that the rest of it stays as it is to the bit.
+# A text that is wrong for every unit changes none, with exit status 2. Whether a unit takes the options of the register
+# in it depends on the unit: one that does not take them fails, stays as it is, and the others are changed.
 . "$(dirname "$0")/common.sh"
 . "$(dirname "$0")/lists.sh"
 . "$(dirname "$0")/configurations.sh"
@@ -11,11 +13,19 @@ read_options --resume "$@" # a change that is done is not to be done again
 [ ${#arguments[@]} -ge 2 ] || usage "[--jobs N] DEVICES TEXT|FIELD=HEX..."
 read_list "${arguments[0]}"
 
+# Tries a text on the image that the program starts with. That is of the register GENERIC, so what is said about the
+# options of the register is no reason to refuse the text.
+try_text() {
+  local said
+  said=$(started 2>&1 <<< "import $(quoted "$1")") && return
+  [ -n "$said" ] && ! grep -v ': ".*" is no option of this register' <<< "$said" >&2
+}
+
 # The image that the program starts with has every field of the firmware at its length.
 changes=()
 for change in "${arguments[@]:1}"; do
   if [ -f "$change" ]; then
-    started <<< "import $(quoted "$change")" > /dev/null || refuse "$change: no unit was changed"
+    try_text "$change" || refuse "$change: no unit was changed"
     changes+=("import $(quoted "$(readlink -e -- "$change")")")
     continue
   fi

@@ -66,8 +66,17 @@ case $3 in
     "$examples/restore.sh" unit1 images/V1400/R12/PANASONIC.bin
     "$examples/change_all.sh" one RX_BAUDRATE=01
     "$examples/change_all.sh" one DATE_FORMAT_BAK=02
+    # An option of one register changes the unit that has it. The other one stays as it is.
+    printf 'format = 1\n["REGISTER SELECT"]\nWiring = "ACK"\n' > option.toml
+    printf 'unit1\nunit2\n' > devices
+    cp memory2 before
+    fails 1 '^unit2 *failed: .*"Wiring" is no option of this register' "$examples/change_all.sh" devices option.toml
+    cmp memory2 before
+    sed -i 's/Wiring/Wirin/' option.toml
+    fails 2 'Wirin' "$examples/change_all.sh" devices option.toml
     "$examples/backup.sh" unit1 saved
     ovl-script --firmware V1400R12 export saved > text
+    grep -q '^Wiring = "ACK"' text
     grep -q '^"RX BAUDRATE" = "2400"' text
     ;;
   set_clocks)
