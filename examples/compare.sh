@@ -40,6 +40,7 @@ compare_with_folder() {
 
 if [ -d "${arguments[1]}" ]; then
   read_list "${arguments[0]}"
+  refuse_same_names
   each "${arguments[1]}" compare_with_folder "${arguments[1]}"
 else
   status=0

@@ -33,11 +33,11 @@ read_list() {
   [ -z "$twice" ] || refuse "$1: ${twice%%$'\n'*} is in it twice"
 }
 
-# For results that are kept by the name of the device.
+# For files that have the names of the devices.
 refuse_same_names() {
   local twice
   twice=$(printf '%s\n' "${devices[@]##*/}" | sort | uniq -d)
-  [ -z "$twice" ] || refuse "$list: several devices would be kept as ${twice%%$'\n'*}"
+  [ -z "$twice" ] || refuse "$list: several devices share the file name ${twice%%$'\n'*}"
 }
 
 # Takes a list and the folder for what is read from its units: take_list_and_folder "$@"

@@ -92,7 +92,7 @@ case $3 in
     mkdir -p old/unit1.txt
     fails 1 '^unit1 *failed: .' "$examples/collect_histories.sh" one old
     echo other/unit1 >> one
-    fails 2 'as unit1$' "$examples/collect_histories.sh" one histories
+    fails 2 'file name unit1$' "$examples/collect_histories.sh" one histories
     ;;
   compare)
     "$examples/backup.sh" unit1 saved
@@ -101,6 +101,8 @@ case $3 in
     fails 1 '^TIME / LANGUAGE: DATE FORMAT: "YY/MM/DD" -> "MM/DD/YY"$' "$examples/compare.sh" unit1 saved
     fails 3 '^gone/unit3: No such file' "$examples/compare.sh" gone/unit3 saved
     fails 3 'it fits V1400R7$' "$examples/compare.sh" unit1 images/V1400/R7/GENERIC.bin
+    echo other/unit1 >> one
+    fails 2 'file name unit1$' "$examples/compare.sh" one images
     ;;
   # One unit dies in the middle of its transfer. The next run does what is left, and nothing else.
   many)
