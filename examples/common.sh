@@ -1,6 +1,7 @@
 # shellcheck shell=bash
 # What the examples share. OVL_FIRMWARE is the firmware of the units, OVL_IMAGES the folder of the default images.
-# Every example ends with 0 when all is well, 2 when it was called wrongly and nothing was done, else another status.
+# Every example ends with 0 when all is well, 2 when nothing was done because it was called wrongly or has no place for
+# its files, else another status. compare.sh has the statuses of diff.
 set -euo pipefail
 : "${OVL_FIRMWARE:=V1400 R12}"
 # The images are beside the programs, in a package as in an archive.
@@ -20,7 +21,7 @@ usage() {
 version=${BASH_REMATCH[1]} release=${BASH_REMATCH[2]}
 # The compact firmware has the streams and the images of another.
 [ "$version$release" != V1410R1 ] || version=V1400 release=R7
-work=$(mktemp -d) || exit 3
+work=$(mktemp -d) || exit 2
 trap 'rm -rf "$work"' EXIT
 # A request to end waits for the transfers under way, which would go on alone and hold their devices.
 trap 'exit 143' TERM
@@ -32,7 +33,7 @@ make_place() {
   mkdir -p "$work/ports" "$work/$version" &&
     ln -s "$(readlink -m -- "$OVL_IMAGES")/$version/$release" "$work/$version/$release"
 }
-make_place "$work" || exit 3
+make_place "$work" || exit 2
 
 # A text as ovl-script takes it.
 quoted() {

@@ -5,6 +5,9 @@ at_once=1
 
 resumes=false
 
+# The exit status when a unit has failed.
+trouble=1
+
 # Takes the options from the front of the arguments; the rest is in `arguments`. --jobs N: how many units are served at
 # once. --resume: leaves out those that an earlier run, which failed for others, has done.
 read_options() {
@@ -68,21 +71,23 @@ serve() {
   fi
 }
 
-# Prints the table of the outcomes, with the numbers in `failed` and `left`.
+# Prints the table of the outcomes, with the numbers in `failed`, `different` and `left`.
 print_table() {
   local number=0 device outcome
-  failed=0 left=0
+  failed=0 different=0 left=0
   for device in "${devices[@]}"; do
     number=$((number + 1))
     outcome=$(cat "$work/outcomes/$number" 2> /dev/null) || outcome="not started"
     case $outcome in
       done*) ;;
+      differs*) different=$((different + 1)) ;;
       "not started") left=$((left + 1)) ;;
       *) failed=$((failed + 1)) ;;
     esac
     printf '%-24s %s\n' "$device" "$outcome"
   done
   printf '%s units, %s failed' "${#devices[@]}" "$failed"
+  [ "$different" -eq 0 ] || printf ', %s different' "$different"
   [ "$left" -eq 0 ] || printf ', %s not started' "$left"
   echo
 }
@@ -101,7 +106,7 @@ end_with() {
 hold() {
   local lock
   while true; do
-    exec {lock}>> "$1" || exit 3
+    exec {lock}>> "$1" || exit 2
     flock -n "$lock" || refuse "$list: another run works on this list, so nothing was done"
     # A run that ended in between has removed the file.
     [ "$1" -ef "/dev/fd/$lock" ] && return
@@ -113,12 +118,12 @@ hold() {
 # each WHAT COMMAND... The file LIST.EXAMPLE.done has the devices that are done until all are. A later run for the same
 # WHAT, which says what is done to the units, leaves them out if it resumes.
 each() {
-  local state what number=0 device failed left
+  local state what number=0 device failed different left
   state=$list.$(basename "$0" .sh).done
   what="# $version $release $(sha256sum <<< "$1" | cut -d ' ' -f 1)"
   shift
   hold "$state"
-  "$resumes" && [ "$(head -n 1 "$state")" = "$what" ] || echo "$what" > "$state" || exit 3
+  "$resumes" && [ "$(head -n 1 "$state")" = "$what" ] || echo "$what" > "$state" || exit 2
   mkdir "$work/outcomes"
   trap 'end_with 130' INT
   trap 'end_with 143' TERM
@@ -136,6 +141,7 @@ each() {
   done
   wait
   print_table
-  [ "$failed" -eq 0 ] || return 1
+  [ "$failed" -eq 0 ] || return "$trouble"
+  [ "$different" -eq 0 ] || return 1
   rm -f -- "$state"
 }

@@ -99,8 +99,12 @@ case $3 in
     "$examples/compare.sh" unit1 saved
     "$examples/change_all.sh" one DATE_FORMAT_BAK=02
     fails 1 '^TIME / LANGUAGE: DATE FORMAT: "YY/MM/DD" -> "MM/DD/YY"$' "$examples/compare.sh" unit1 saved
-    fails 3 '^gone/unit3: No such file' "$examples/compare.sh" gone/unit3 saved
-    fails 3 'it fits V1400R7$' "$examples/compare.sh" unit1 images/V1400/R7/GENERIC.bin
+    fails 2 '^gone/unit3: No such file' "$examples/compare.sh" gone/unit3 saved
+    fails 2 'it fits V1400R7$' "$examples/compare.sh" unit1 images/V1400/R7/GENERIC.bin
+    mkdir files
+    cp saved files/unit1.bin
+    printf 'unit1\ngone/unit3\n' > devices
+    fails 2 '^2 units, 1 failed, 1 different$' "$examples/compare.sh" devices files
     echo other/unit1 >> one
     fails 2 'file name unit1$' "$examples/compare.sh" one images
     ;;
