@@ -1,33 +1,45 @@
 #!/usr/bin/env bash
-# Checks that a folder holds the default image of every register of a firmware, and prints what to look at in them:
+# Checks that a folder holds the default image of every register of a firmware, and prints a table of what each is:
+# sound, with findings to look at, or wrong.
 #   check_images.sh site/V1400/R12
+# It reads files and no unit, in seconds: there is no port to wait for with --jobs, and nothing to resume. It goes on
+# after a wrong image, and ends with 1 if there is one. Images are made to be changed, so a finding is no fault.
 . "$(dirname "$0")/common.sh"
 . "$(dirname "$0")/configurations.sh"
 [ $# -eq 1 ] || usage FOLDER
 [ -d "$1" ] || refuse "$1: no such folder"
 registers=$(started <<< "list ComboReg") || refuse "$1: was not checked"
-wrong=0 sound=()
+images=0 with_findings=0 wrong=0
 
-complain() {
-  echo "$1: $2"
-  wrong=1
+# The last of what was said, without its place.
+reason() {
+  sed '$!d; s/^stdin:[0-9]*: //; s/.*: //' "$work/said"
+}
+
+# Prints what a file is: judge FILE REGISTER
+judge() {
+  local found findings status=0
+  [ -e "$1" ] || { echo "wrong: missing"; return; }
+  found=$(fits "$1" 2> "$work/said") || { echo "wrong: $(reason)"; return; }
+  [ "$found" = "$2" ] || { echo "wrong: the image of register $found"; return; }
+  findings=$(ovl-script --firmware "$version$release" check "$1" 2> "$work/said") || status=$?
+  [ "$status" -le 1 ] || { echo "wrong: $(reason)"; return; }
+  [ -n "$findings" ] || { echo "sound"; return; }
+  echo "findings:"
+  echo "${findings//"$1: "/    }"
 }
 
 while read -r register; do
   name=${register:1:-1}
   # In the file names of V1400 each slash and comma is a blank.
   [ "$version" != V1400 ] || name=${name//[\/,]/ }
-  file=$1/$name.bin
-  if [ ! -e "$file" ]; then
-    complain "$file" "missing"
-  elif ! found=$(fits "$file" 2> "$work/said"); then
-    complain "$file" "$(sed '$!d; s/^stdin:[0-9]*: //; s/.*: //' "$work/said")"
-  elif [ "$found" != "$register" ]; then
-    complain "$file" "the image of register $found"
-  else
-    sound+=("$file")
-  fi
+  outcome=$(judge "$1/$name.bin" "$register")
+  case $outcome in
+    findings*) with_findings=$((with_findings + 1)) ;;
+    wrong*) wrong=$((wrong + 1)) ;;
+  esac
+  images=$((images + 1))
+  printf '%-32s %s\n' "$name.bin" "$outcome"
 done <<< "$registers"
-# Images are made to be changed, so a finding in one is no fault of the folder.
-[ ${#sound[@]} -eq 0 ] || ovl-script --firmware "$version$release" check "${sound[@]}" || true
-exit $wrong
+echo "$images images, $with_findings with findings, $wrong wrong"
+[ "$wrong" -eq 0 ]

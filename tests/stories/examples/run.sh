@@ -148,9 +148,10 @@ case $3 in
     mkdir copy/CASIO.bin
     cp copy/IBM.bin copy/NCR.bin
     cp images/V1300/R14/GENERIC.bin copy
-    fails 1 '^copy/ALOHA.bin: missing$' "$examples/check_images.sh" copy
-    found=$(grep -c -e '^copy/GENERIC.bin: .* V1300R14 ' -e '^copy/NCR.bin: .*"IBM"$' -e '^copy/CASIO.bin: Is a d' said)
-    [ "$found $(wc -l < said)" = "3 5" ]
+    fails 1 '^ALOHA.bin *wrong: missing$' "$examples/check_images.sh" copy
+    found=$(grep -c -e '^GENERIC.bin *wrong: .* V1300R14 ' -e '^NCR.bin *wrong: .*"IBM"$' -e '^CASIO.bin *wrong: Is a d' said)
+    grep -A 1 '^TCPIP.bin *findings:$' said | grep -q '^    error: no-ip-address: '
+    [ "$found $(tail -n 1 said)" = "3 $(ls "$2/V1400/R12" | wc -l) images, 1 with findings, 4 wrong" ]
     OVL_IMAGES=none fails 2 '^none/V1400/R12/GENERIC.bin: ' "$examples/check_images.sh" copy
     ;;
 esac
