@@ -6,7 +6,7 @@ build=$source_folder/build
 command_name=./$(realpath --relative-to="$source_folder" "$0")
 
 needed_to_build=(g++ cmake ninja-build ccache qt6-base-dev qt6-serialport-dev libtomlplusplus-dev fonts-dejavu-core)
-needed_to_test=(libgtest-dev xvfb xdotool xclip matchbox-window-manager)
+needed_to_test=(libgtest-dev hunspell hunspell-en-gb xvfb xdotool xclip matchbox-window-manager)
 
 # Qt complains at every start where the names of files are not in UTF-8.
 [ "$(locale charmap 2> /dev/null)" = UTF-8 ] || export LC_ALL=C.UTF-8
