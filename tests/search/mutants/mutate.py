@@ -1,7 +1,9 @@
 #!/usr/bin/env python3
-"""Makes one small change of the model at a time and reports which changes the tests notice.
+"""Makes one small change of the program at a time and reports which changes the tests notice.
 
 mutate.py [--places N] [--seed N] [FOLDER...]
+
+A folder is one below src, such as "host", "ui" or "ui/kit". Without a folder it takes those of the model.
 
 Works in a copy of the committed tree below build/mutants. A change that does not build does not count, nor does
 one from which the compiler makes the same object file, because it behaves like the original. A change is noticed when a
@@ -17,11 +19,13 @@ import sys
 
 TOP = pathlib.Path(__file__).resolve().parents[3]
 COPY = TOP / "build" / "mutants"
-FOLDERS = ["codecs", "firmware", "image", "core", "files", "panels", "registers", "link", "changes", "start"]
+FOLDERS = ["codecs", "firmware", "image", "core", "files", "panels", "registers", "link", "changes", "text_form", "checks",
+           "acts", "sheet", "start"]
 # The tests of a folder come first: most changes are noticed there.
 PROGRAMS = ["test_codecs", "test_firmware", "test_image", "test_core", "test_files", "test_panels", "test_registers", "test_link",
-            "test_changes", "test_start", "test_tools", "test_stories", "ovl-disk-faults", "ovl-reference-model 50000",
-            "ovl-fault-sweep 1499", "ovl-random-walk 3000", "test_ui"]
+            "test_changes", "test_text_form", "test_checks", "test_acts", "test_sheet", "test_start", "test_host", "test_tools",
+            "test_stories", "ovl-disk-faults", "ovl-reference-model 50000", "ovl-fault-sweep 1499", "ovl-random-walk 3000",
+            "ovl-text-walk 1", "test_ui", "ovl-monkey 150", "ovl-power-cuts"]
 SWAPS = [(r" == ", " != "), (r" != ", " == "), (r" < ", " <= "), (r" <= ", " < "), (r" > ", " >= "), (r" >= ", " > "),
          (r" && ", " || "), (r" \|\| ", " && "), (r"\btrue\b", "false"), (r"\bfalse\b", "true"), (r" \+ ", " - ")]
 NUMBER = re.compile(r"(?<![\w.\"'])(0x[0-9A-Fa-f]+|[1-9]\d*|0)(?![\w.\"'])")
@@ -82,10 +86,11 @@ def compiled(path):
 
 def notices(folder):
     """The program that fails first."""
-    for program in sorted(PROGRAMS, key=lambda name: name != "test_" + folder):
+    first = "test_" + folder.split("/")[0]
+    for program in sorted(PROGRAMS, key=lambda name: name != first):
         name, *words = program.split()
         options = ["--gtest_fail_fast"] if name.startswith("test_") else words
-        if run("build/bin/" + name, *options, seconds=120) != 0:
+        if run("build/bin/" + name, *options, seconds=300) != 0:
             return name
     return None
 
