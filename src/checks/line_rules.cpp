@@ -13,6 +13,7 @@ namespace {
 
 using enum image::FieldId;
 using enum Severity;
+using changes::Site;
 using controls::Comm;
 using core::Place;
 
@@ -66,12 +67,16 @@ Hits NetworkSpeed(Subject& subject) {
   return {{0, {speed_of(subject.Image()), subject.Entry("ComboCOMM(11)"), speed_of(after)}}};
 }
 
+// The firmware of the old frame shows the address in lists of their own, which store nothing.
 Hits NoIpAddress(Subject& subject) {
-  if (!subject.Form().FrameOf(controls::OptionFrame::kTcpip).visible) return {};
+  using Frame = controls::OptionFrame;
+  const bool old = subject.Form().FrameOf(Frame::kOldTcpip).visible;
+  if (!old && !subject.Form().FrameOf(Frame::kTcpip).visible) return {};
   for (int number = 1; number <= image::EntryCount(IPADDRESS); ++number) {
     if (subject.Byte(IPADDRESS, number) != 0) return {};
   }
-  return {{0, {subject.Words().RegisterName()}}};
+  return {
+      {0, {subject.Words().RegisterName()}, Site{Place::kRegister, old ? "ComboTCPIP(0)" : "ComboTCPIP(4)"}}};
 }
 
 constexpr std::array kRules = {

@@ -104,6 +104,8 @@ std::vector<Row> LineRows() {
   return {
       {"no-ip-address", "pick ComboReg \"TCPIP\"\n", "The IP address of TCPIP is 0.0.0.0.", "ComboTCPIP(4)",
        "pick ComboTCPIP(7) 1\n"},
+      {"no-ip-address", "pick ComboReg \"TCPIP\"\n", "The IP address of TCPIP is 0.0.0.0.", "ComboTCPIP(0)",
+       "set IPADDRESS(4) 01\n", 0, kOld},
       {"slave-without-address", "pick ComboCOMM(9) \"SLAVE\"\n",
        "TYPE of the network is SLAVE, but its ADDRESS is N/A.", "ComboCOMM(10)",
        "pick ComboCOMM(10) \"1\"\n"},
@@ -262,7 +264,8 @@ TEST(Checks, FindNothingInADefaultImage) {
       const int position = registers::RegisterIndexOf(program.App(), row.key);
       if (position < 0 || !firmware::IsInReleases(firmware, row.Served())) continue;
       program.Run("pick ComboReg " + std::to_string(position) + "\n");
-      const bool needs_address = row.frame == controls::OptionFrame::kTcpip;
+      const bool needs_address =
+          row.frame == controls::OptionFrame::kTcpip || row.frame == controls::OptionFrame::kOldTcpip;
       EXPECT_EQ(found_in(program), needs_address ? "no-ip-address" : "") << row.key;
     }
   }
