@@ -29,6 +29,7 @@ struct Alarm {
   bool GoesOff() const { return trigger != image::kNoTrigger || video_loss != 0; }
 };
 
+// The alarms for which the condition holds. The texts are the number, the trigger, and what else sets it off.
 template <class Condition>
 Hits AlarmsWith(Subject& subject, const Condition& condition) {
   const auto& triggers = subject.Form().ComboALM[controls::Alm::kTrigger].items;
@@ -42,7 +43,9 @@ Hits AlarmsWith(Subject& subject, const Condition& condition) {
                       record, !IsBlank(text)};
     if (!condition(alarm)) continue;
     const auto trigger = static_cast<std::size_t>(alarm.trigger);
-    hits.push_back({number, {std::to_string(number), trigger < triggers.size() ? triggers[trigger] : ""}});
+    hits.push_back({number,
+                    {std::to_string(number), trigger < triggers.size() ? triggers[trigger] : "",
+                     alarm.video_loss == 0 ? "nothing" : "only VIDEO LOSS"}});
   }
   return hits;
 }
@@ -82,8 +85,8 @@ constexpr std::string_view kTrigger = "ComboALM(1)";
 
 constexpr std::array kRules = {
     Rule{"alarm-without-exception", kWarning,
-         "Only free exceptions trigger alarm %1 (%2), so nothing sets it off.", Place::kAlarmOutputs,
-         kTrigger, WithoutException},
+         "Only free exceptions trigger alarm %1 (%2), so %3 sets it off.", Place::kAlarmOutputs, kTrigger,
+         WithoutException},
     Rule{"text-never-comes", kWarning,
          "Alarm %1 has a text to show or to send, but nothing triggers the alarm.", Place::kAlarmOutputs,
          kTrigger, TextNeverComes},
