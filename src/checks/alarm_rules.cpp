@@ -3,6 +3,7 @@
 
 #include "checks/conditions.h"
 #include "checks/rule.h"
+#include "codecs/bytes.h"
 #include "codecs/codecs.h"
 #include "firmware/traits.h"
 #include "image/slot_records.h"
@@ -22,6 +23,7 @@ struct Alarm {
   std::string_view record;  // of the text
   bool has_text;
 
+  bool Shows() const { return codecs::HasBit(codecs::HexToInt(record), image::kDisplayBit); }
   bool ShowsOrSends() const {
     constexpr int kShownOrSent = 1 << image::kDisplayBit | 1 << image::kOutputBit;
     return (codecs::HexToInt(record) & kShownOrSent) != 0;
@@ -75,6 +77,17 @@ Hits DelayWithoutRts(Subject& subject) {
   });
 }
 
+// One hit for all alarms.
+Hits TextDisplayOff(Subject& subject) {
+  if (subject.HasBit(DSPCFG_BAK, image::kTextBit)) return {};
+  std::vector<int> numbers;
+  for (const auto& hit : AlarmsWith(
+           subject, [](const Alarm& alarm) { return alarm.has_text && alarm.Shows() && alarm.GoesOff(); }))
+    numbers.push_back(hit.slot);
+  if (numbers.empty()) return {};
+  return {{0, {Numbered("alarm", numbers)}}};
+}
+
 Hits FlagWithoutDuration(Subject& subject) {
   if (subject.Form().ComboALM[controls::Alm::kFlagType].position <= 0) return {};
   if (subject.Form().ComboALM[controls::Alm::kFlagDuration].position != 0) return {};
@@ -94,6 +107,9 @@ constexpr std::array kRules = {
          Place::kAlarmOutputs, "TextTrigger", BlankTriggerText},
     Rule{"text-unused", kNote, "The trigger text of alarm %1 is neither shown nor sent.",
          Place::kAlarmOutputs, "ComboTrigger(1)", TextUnused},
+    Rule{"trigger-text-display-off", kNote,
+         "DISPLAY TEXT of %1 is ON, but DISPLAY of the text display is OFF.", Place::kText, "ComboDIP(6)",
+         TextDisplayOff},
     Rule{"delay-without-rts", kNote, "Alarm %1 has a delay after the RTS line, but its ALARM TRIGGER is %2.",
          Place::kAlarmOutputs, "ComboTrigger(2)", DelayWithoutRts},
     Rule{"flag-without-duration", kNote, "FLAG TYPE is %1, but FLAG DURATION is %2.", Place::kAlarmOutputs,
