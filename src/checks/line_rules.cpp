@@ -17,6 +17,8 @@ using changes::Site;
 using controls::Comm;
 using core::Place;
 
+constexpr std::string_view kNetAddress = "ComboCOMM(10)";
+
 // What the options of the register store on other tabs, where the image has something else.
 Hits NotAsForced(Subject& subject) {
   const auto forced = TrialProgram(subject.Like(), subject.Image()).WithForcedSettings();
@@ -54,17 +56,32 @@ Hits SlaveWithoutAddress(Subject& subject) {
   return {{0, {subject.Entry("ComboCOMM(9)"), address.Text()}}};
 }
 
+// The entry of a list for a position; the byte if the list has none.
+std::string EntryAt(const controls::List& list, const std::string& position) {
+  const auto at = static_cast<std::size_t>(codecs::HexToInt(position));
+  return at < list.items.size() ? list.items[at] : changes::BytesInWords(position);
+}
+
 // The list of the speed follows the protocol on the screen; the byte does so only when the protocol is
 // picked.
 Hits NetworkSpeed(Subject& subject) {
-  const auto& after = subject.ByPanelRules();
-  const auto speed_of = [&](const image::ConfigImage& image) {
-    const auto& speeds = subject.Form().ComboCOMM[Comm::kNetSpeed].items;
-    const auto at = static_cast<std::size_t>(codecs::HexToInt(image[NET_BAUDRATE]));
-    return at < speeds.size() ? speeds[at] : changes::BytesInWords(image[NET_BAUDRATE]);
-  };
-  if (after[NET_BAUDRATE] == subject.Image()[NET_BAUDRATE]) return {};
-  return {{0, {speed_of(subject.Image()), subject.Entry("ComboCOMM(11)"), speed_of(after)}}};
+  const auto& stored = subject.Image()[NET_BAUDRATE];
+  const auto& needed = subject.ByPanelRules()[NET_BAUDRATE];
+  if (needed == stored) return {};
+  const auto& speeds = subject.Form().ComboCOMM[Comm::kNetSpeed];
+  return {{0, {EntryAt(speeds, stored), subject.Entry("ComboCOMM(11)"), EntryAt(speeds, needed)}}};
+}
+
+// The same with the address and the type. A fixed text can cover the list of the address.
+Hits NetworkAddress(Subject& subject) {
+  const auto& stored = subject.Image()[NET_ADDRESS];
+  const auto& shown = subject.ByPanelRules()[NET_ADDRESS];
+  if (shown == stored) return {};
+  const auto& addresses = subject.Form().ComboCOMM[Comm::kNetAddress];
+  const auto control = subject.Offers(std::string(kNetAddress)) ? kNetAddress : "ComboCOMM(9)";
+  return {{0,
+           {EntryAt(addresses, stored), EntryAt(addresses, shown), subject.Entry("ComboCOMM(9)")},
+           Site{Place::kCommunication, control}}};
 }
 
 // The firmware of the old frame shows the address in lists of their own, which store nothing.
@@ -83,12 +100,15 @@ constexpr std::array kRules = {
     Rule{"no-ip-address", kError, "The IP address of %1 is 0.0.0.0.", Place::kRegister, "ComboTCPIP(4)",
          NoIpAddress},
     Rule{"slave-without-address", kError, "TYPE of the network is %1, but its ADDRESS is %2.",
-         Place::kCommunication, "ComboCOMM(10)", SlaveWithoutAddress},
+         Place::kCommunication, kNetAddress, SlaveWithoutAddress},
     Rule{"not-as-forced", kWarning, "%1 is %2, but the options of %3 set it to %4.", Place::kCommunication,
          "ComboCOMM(1)", NotAsForced},
     Rule{"network-speed", kWarning,
          "The network is stored with the BAUD RATE %1, but its PROTOCOL %2 needs %3.", Place::kCommunication,
          "ComboCOMM(11)", NetworkSpeed},
+    Rule{"network-address", kWarning,
+         "The network is stored with the ADDRESS %1, but the form shows %2 for its TYPE %3.",
+         Place::kCommunication, kNetAddress, NetworkAddress},
 };
 
 }  // namespace

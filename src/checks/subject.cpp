@@ -45,7 +45,9 @@ const image::ConfigImage& Subject::ByPanelRules() {
     by_panel_rules_ = TrialProgram(like_, image_).After([](core::Application& app) {
       panels::ApplyLineRule(app);
       if (!firmware::HasNetwork(app.firmware)) return;
-      app.frmMain.ComboCOMM[controls::Comm::kNetSpeed].position = -1;  // so that the rule stores its speed
+      // So that the rules store their speed and their address.
+      for (const auto member : {controls::Comm::kNetSpeed, controls::Comm::kNetAddress})
+        app.frmMain.ComboCOMM[member].position = -1;
       panels::ApplyNetworkRules(app);
     });
   }

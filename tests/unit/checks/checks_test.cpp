@@ -121,6 +121,12 @@ std::vector<Row> LineRows() {
       {"network-speed", "set NET_TYPE 01\nset NET_PROTOCOL 01\nset NET_BAUDRATE 03\n",
        "stored with the BAUD RATE 9600, but its PROTOCOL REGCOM 57.6K needs 57600", "ComboCOMM(11)",
        "set NET_BAUDRATE 08\n"},
+      {"network-address", "set NET_TYPE 03\nset NET_ADDRESS 05\n",
+       "stored with the ADDRESS 5, but the form shows N/A for its TYPE GENERIC", "ComboCOMM(9)",
+       "set NET_ADDRESS 00\n"},
+      {"network-address", "set NET_TYPE 01\nset NET_ADDRESS 11\nset NET_BAUDRATE 03\n",
+       "stored with the ADDRESS byte 11, but the form shows N/A for its TYPE MASTER", "ComboCOMM(10)",
+       "set NET_TYPE 02\nset NET_ADDRESS 10\n"},
   };
 }
 
