@@ -43,7 +43,7 @@ std::vector<RuleName> RuleNames();
 
 // The findings in an image of the firmware of `like`: errors first, then warnings, then notes. A setting that
 // the form of this firmware does not offer has none. Of the platform it only reads the default image of the
-// register. Costs about as much as two loads.
+// register. Costs as much as a few loads.
 std::vector<Finding> FindingsOf(const core::Application& like, const image::ConfigImage& image);
 
 struct Count {

@@ -1,6 +1,8 @@
 // The rules about bytes that the form cannot have stored, and about the default image of the register.
 #include <algorithm>
 #include <array>
+#include <set>
+#include <utility>
 
 #include "changes/editors.h"
 #include "checks/rule.h"
@@ -22,6 +24,7 @@ using core::Place;
 
 constexpr std::size_t kByte = 2;
 constexpr std::string_view kRegisterList = "ComboReg";
+constexpr std::string_view kNetAddress = "ComboCOMM(10)";  // has a rule of its own
 
 std::string NameOf(const image::FieldRow& row, int entry) {
   return image::EntryName(row.name, image::EntryCount(row.id), entry);
@@ -101,6 +104,65 @@ Hits WithoutEntry(Subject& subject) {
       auto caption = changes::SlotCaption(subject.Shown(), *site);
       if (site->option != nullptr) caption = subject.Words().RegisterName() + ", " + caption;
       hits.push_back({site->slot, {caption, changes::BytesInWords(changes::PartOf(*site, value))}, *site});
+    }
+  });
+  return hits;
+}
+
+// Every value of a bit has an entry. What the entries of the list of registers store is their place.
+bool IsAlwaysAsPicked(const Site& site) {
+  return (site.bits & (site.bits - 1)) == 0 || site.control == kRegisterList || site.control == kNetAddress;
+}
+
+// The parts of slots that are as their lists store them. What a list stores is the same for all slots, and a
+// pick in each of them would take long.
+using PartsAsPicked = std::set<std::pair<std::string_view, std::string>>;
+
+// The first control of the group whose entry would be stored in another way, with what it would store.
+struct Repicked {
+  Site site;
+  std::string stored;
+};
+std::optional<Repicked> RepickedIn(Subject& subject, const changes::SiteGroup& group,
+                                   image::FieldDifference whole, PartsAsPicked& known) {
+  std::optional<Repicked> first;
+  for (const auto& site : group) {
+    if (IsAlwaysAsPicked(site) || !Shows(subject, site)) continue;
+    if (site.option == nullptr && !subject.Offers(changes::ReachedBy(subject.Program(), site))) continue;
+    const auto part = std::pair(site.control, changes::PartOf(site, whole.before));
+    if (site.slot > 0 && known.count(part) == 1) return std::nullopt;
+    const auto after = subject.AfterPickAgain(site);
+    if (!after) continue;
+    whole.after = after->at(whole.field->id, whole.entry);
+    if (whole.after.size() != whole.before.size()) continue;
+    if (!changes::Differs(site, whole)) {
+      known.insert(part);
+      return std::nullopt;
+    }
+    if (!first && (site.option == nullptr || subject.ShowsPicks(site)))
+      first = {site, changes::PartOf(site, whole.after)};
+  }
+  return first;
+}
+
+// The form rounds the byte, or does not read it.
+Hits NotAsPicked(Subject& subject) {
+  Hits hits;
+  PartsAsPicked known;
+  ForEachEntry(subject, image::Direction::kWrite, [&](const image::FieldRow& row, int entry) {
+    const auto& value = subject.Image().at(row.id, entry);
+    const image::FieldDifference whole{&row, NameOf(row, entry), 0, value, value, entry};
+    for (const auto& group : changes::SitesOf(whole, subject.Firmware())) {
+      const auto repicked = RepickedIn(subject, group, whole, known);
+      if (!repicked) continue;
+      const auto& site = repicked->site;
+      auto caption = changes::SlotCaption(subject.Shown(), site);
+      if (site.option != nullptr) caption = subject.Words().RegisterName() + ", " + caption;
+      hits.push_back(
+          {site.slot,
+           {caption, subject.Words().WordsOf(site, value).value_or("it"), whole.name,
+            changes::BytesInWords(changes::PartOf(site, value)), changes::BytesInWords(repicked->stored)},
+           site});
     }
   });
   return hits;
@@ -196,6 +258,8 @@ constexpr std::array kRules = {
          Place::kRegister, kRegisterList, OptionsHidden},
     Rule{"value-without-entry", kError, "%1 holds %2, for which the list has no entry.", Place::kRegister,
          kRegisterList, WithoutEntry},
+    Rule{"not-as-picked", kWarning, "%1 shows \"%2\", but %3 holds %4, and a pick of \"%2\" stores %5.",
+         Place::kRegister, kRegisterList, NotAsPicked},
     Rule{"image-of-other-register", kWarning,
          "%1 is %2, but the default image of %3 has %4, as if another register had been picked.",
          Place::kRegister, kRegisterList, OfOtherRegister},

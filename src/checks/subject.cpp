@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "checks/trial_program.h"
 #include "codecs/bytes.h"
@@ -20,6 +21,14 @@ struct Covered {
 };
 constexpr std::array kCovered = {Covered{"ComboCOMM(7)", 0}, Covered{"ComboCOMM(10)", 1},
                                  Covered{"ComboCOMM(11)", 2}};
+
+// The entry of a list or an option array; -1: none, or another control.
+int EntryShown(const changes::PreviewProgram& program, std::string_view control) {
+  const auto& named = program.Named(control).control;
+  if (auto* const* list = std::get_if<controls::List*>(&named)) return (*list)->position;
+  if (auto* const* array = std::get_if<controls::OptionArray*>(&named)) return (*array)->chosen;
+  return -1;
+}
 
 template <class Rows>
 auto RowOf(const Rows& rows, std::string_view control) {
@@ -52,6 +61,23 @@ const image::ConfigImage& Subject::ByPanelRules() {
     });
   }
   return *by_panel_rules_;
+}
+
+std::optional<image::ConfigImage> Subject::AfterPickAgain(const changes::Site& site) {
+  wording_.WordsOf(site, {});  // loads the exception or the alarm
+  const int entry = EntryShown(Program(), site.control);
+  if (entry < 0) return std::nullopt;
+  if (!picks_) picks_.emplace(like_, image_);
+  if (site.slot > 0 && site.place == core::Place::kAlarmOutputs) picks_->ShowAlarm(site.slot);
+  if (site.slot > 0 && site.place == core::Place::kExceptionReport) picks_->ShowException(site.slot);
+  auto after = picks_->AfterPick(site.control, entry, image_);
+  return EntryShown(*picks_, site.control) == entry ? std::move(after) : std::nullopt;
+}
+
+bool Subject::ShowsPicks(const changes::Site& site) {
+  const int other = EntryShown(Program(), site.control) == 0 ? 1 : 0;
+  const auto after = picks_->AfterPick(site.control, other, image_);
+  return after && EntryShown(changes::PreviewProgram(like_, *after), site.control) == other;
 }
 
 bool Subject::Offers(const std::string& control) const {

@@ -32,6 +32,14 @@ class Subject {
   // The image as the rules of the panels about lines of the display and about the network would store it.
   const image::ConfigImage& ByPanelRules();
 
+  // The image after the entry that the list or the option array shows was picked again. Nothing if it shows
+  // none, or if the pick moves it to another entry.
+  std::optional<image::ConfigImage> AfterPickAgain(const changes::Site& site);
+
+  // Whether a load shows another entry of the option after that was picked. Some firmware read another field
+  // than they write. Only for options with an entry that was picked again.
+  bool ShowsPicks(const changes::Site& site);
+
   // Whether a person can see the control and use it.
   bool Offers(const std::string& control) const;
 
@@ -40,6 +48,7 @@ class Subject {
   const image::ConfigImage& image_;
   changes::Wording wording_;
   std::optional<image::ConfigImage> by_panel_rules_;
+  std::optional<changes::PreviewProgram> picks_;  // its lists move
 };
 
 }  // namespace ovl::checks

@@ -84,6 +84,20 @@ std::vector<Row> StoredRows() {
        "MICROS, DEVICE holds byte 02", "cmdMicros", "pick OpMicros 0\n"},
       {"value-without-entry", "pick ComboReg \"NCR\"\nset REGTYPE_MINOR 05\n", "NCR, Model holds byte 05",
        "OpNCR", "set REGTYPE_MINOR 04\n", 0, kOld},
+      {"not-as-picked", "set DAYLIGHT_BAK 03\n",
+       "DAYLIGHT SAVING shows \"CANADA\", but DAYLIGHT_BAK holds byte 03, and a pick of \"CANADA\" stores "
+       "byte 04",
+       "ComboTD(3)", "set DAYLIGHT_BAK 04\n"},
+      {"not-as-picked", "set BLNKVAL 00\nset BLNKIND 05\n",
+       "SCREEN BLANK shows \"NONE\", but BLNKIND holds byte 05", "ComboDIP(0)", "set BLNKIND 0B\n"},
+      {"not-as-picked", "set ALMSTRUCT_BAK(2) 1CFF0500\n",
+       "Alarm 2, ALARM DURATION shows \"1\", but ALMSTRUCT_BAK(2) holds bytes FF 05", "ComboALM(3)",
+       "set ALMSTRUCT_BAK(2) 1CF10400\n", 2},
+      {"not-as-picked", "set DECIMAL_POINT_BAK 07\n", "Decimal separator shows \",\"", "cmdSetRange",
+       "set DECIMAL_POINT_BAK 01\n"},
+      {"not-as-picked", "pick ComboReg \"MICRELEC\"\nset REGTYPE_MINOR 02\n",
+       "MICRELEC, Printer, 9500 shows \"JOURNAL\", but REGTYPE_MINOR holds byte 02", "OpMicrelec9500",
+       "set REGTYPE_MINOR 01\n"},
       {"image-of-other-register", "pick ComboReg \"IBM\"\nset GPS_CONFIG_BAK 05\n",
        "GPS_CONFIG_BAK is 05, but the default image of IBM has 00", "ComboReg", "pick ComboReg \"IBM\"\n"},
       {"range-digits", Stored(Slot(0x01, with_letter, "VOID")), "The range of exception 3 is not a number",
@@ -294,6 +308,13 @@ TEST(Checks, OfTheCompactFirmwareLeaveOutWhatItsFormDoesNotOffer) {
   const auto findings = checks::FindingsOf(compact.App(), compact.App().image);
   ASSERT_EQ(findings.size(), 1U);
   EXPECT_EQ(findings.front().id, "exception-without-effect");
+}
+
+// This firmware stores the printer in another byte than it reads, so a load shows the first one again.
+TEST(Checks, TakeAPickThatALoadDoesNotShowForAsItShouldBe) {
+  AdviceProgram program(kLatest);
+  program.Run("pick ComboReg \"TKMAXX\"\npick OpNIXDORF 1\n");
+  EXPECT_TRUE(FindingsIn(program, "not-as-picked").empty());
 }
 
 // Also for bytes that no panel stores, and for an image that ended early.
