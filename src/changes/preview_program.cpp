@@ -56,6 +56,14 @@ struct WordsIn {
   }
 };
 
+// Lists that a fixed text covers while they have no meaning.
+struct Covered {
+  std::string_view control;
+  std::size_t cover;  // its place in ComboNone
+};
+constexpr std::array kCovered = {Covered{"ComboCOMM(7)", 0}, Covered{"ComboCOMM(10)", 1},
+                                 Covered{"ComboCOMM(11)", 2}};
+
 }  // namespace
 
 void SetUpWithoutScreen(core::Application& app, const core::Application& like) {
@@ -150,6 +158,21 @@ bool PreviewProgram::Shows(std::string_view control) const {
   const auto* framed =
       std::find_if(kFramed.begin(), kFramed.end(), [&](const Framed& row) { return row.control == control; });
   return framed == kFramed.end() || (app_.frmMain.*framed->frame).visible;
+}
+
+int PreviewProgram::EntryShown(std::string_view control) const {
+  const auto& named = Named(control).control;
+  if (auto* const* list = std::get_if<controls::List*>(&named)) return (*list)->position;
+  if (auto* const* array = std::get_if<controls::OptionArray*>(&named)) return (*array)->chosen;
+  return -1;
+}
+
+std::optional<std::string> PreviewProgram::CoverOf(std::string_view control) const {
+  const auto* covered = std::find_if(kCovered.begin(), kCovered.end(),
+                                     [&](const Covered& row) { return row.control == control; });
+  if (covered == kCovered.end()) return std::nullopt;
+  const auto& text = app_.frmMain.ComboNone.at(covered->cover);
+  return text.visible ? std::optional(text.text) : std::nullopt;
 }
 
 std::optional<std::string> PreviewProgram::WordsOf(std::string_view name) const {

@@ -40,6 +40,12 @@ class PreviewProgram {
   // Whether the control is visible, and the frame around it that some firmware hide as a whole.
   bool Shows(std::string_view control) const;
 
+  // The entry of a list, or the element of an option array, that the control shows; -1: none.
+  int EntryShown(std::string_view control) const;
+
+  // The fixed text over a list that has no meaning as long as another one has its entry, such as "N/A".
+  std::optional<std::string> CoverOf(std::string_view control) const;
+
   // What the control shows: the entry of a list, the caption of the chosen option, a text, ON or OFF. Nothing
   // if the list has no entry for the stored byte.
   std::optional<std::string> WordsOf(std::string_view name) const;

@@ -1,7 +1,5 @@
 #include "checks/subject.h"
 
-#include <algorithm>
-#include <array>
 #include <utility>
 
 #include "checks/trial_program.h"
@@ -12,30 +10,6 @@
 #include "panels/text_display.h"
 
 namespace ovl::checks {
-namespace {
-
-// Lists that a fixed text covers while they have no meaning.
-struct Covered {
-  std::string_view control;
-  std::size_t cover;  // its place in ComboNone
-};
-constexpr std::array kCovered = {Covered{"ComboCOMM(7)", 0}, Covered{"ComboCOMM(10)", 1},
-                                 Covered{"ComboCOMM(11)", 2}};
-
-// The entry of a list or an option array; -1: none, or another control.
-int EntryShown(const changes::PreviewProgram& program, std::string_view control) {
-  const auto& named = program.Named(control).control;
-  if (auto* const* list = std::get_if<controls::List*>(&named)) return (*list)->position;
-  if (auto* const* array = std::get_if<controls::OptionArray*>(&named)) return (*array)->chosen;
-  return -1;
-}
-
-template <class Rows>
-auto RowOf(const Rows& rows, std::string_view control) {
-  return std::find_if(rows.begin(), rows.end(), [&](const auto& row) { return row.control == control; });
-}
-
-}  // namespace
 
 int Subject::Byte(image::FieldId field, int entry) const {
   return codecs::HexToInt(image_.at(field, entry));
@@ -65,25 +39,24 @@ const image::ConfigImage& Subject::ByPanelRules() {
 
 std::optional<image::ConfigImage> Subject::AfterPickAgain(const changes::Site& site) {
   wording_.WordsOf(site, {});  // loads the exception or the alarm
-  const int entry = EntryShown(Program(), site.control);
+  const int entry = Program().EntryShown(site.control);
   if (entry < 0) return std::nullopt;
   if (!picks_) picks_.emplace(like_, image_);
   if (site.slot > 0 && site.place == core::Place::kAlarmOutputs) picks_->ShowAlarm(site.slot);
   if (site.slot > 0 && site.place == core::Place::kExceptionReport) picks_->ShowException(site.slot);
   auto after = picks_->AfterPick(site.control, entry, image_);
-  return EntryShown(*picks_, site.control) == entry ? std::move(after) : std::nullopt;
+  return picks_->EntryShown(site.control) == entry ? std::move(after) : std::nullopt;
 }
 
 bool Subject::ShowsPicks(const changes::Site& site) {
-  const int other = EntryShown(Program(), site.control) == 0 ? 1 : 0;
+  const int other = Program().EntryShown(site.control) == 0 ? 1 : 0;
   const auto after = picks_->AfterPick(site.control, other, image_);
-  return after && EntryShown(changes::PreviewProgram(like_, *after), site.control) == other;
+  return after && changes::PreviewProgram(like_, *after).EntryShown(site.control) == other;
 }
 
 bool Subject::Offers(const std::string& control) const {
-  if (!Program().Shows(control) || !controls::StateOf(Program().Named(control).control).enabled) return false;
-  const auto covered = RowOf(kCovered, control);
-  return covered == kCovered.end() || !Form().ComboNone.at(covered->cover).visible;
+  return Program().Shows(control) && !Program().CoverOf(control) &&
+         controls::StateOf(Program().Named(control).control).enabled;
 }
 
 }  // namespace ovl::checks

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "changes/preview_program.h"
 #include "image/slot_records.h"
 #include "sheet/checksum.h"
 #include "sheet/html.h"
@@ -60,7 +61,8 @@ std::string RowOf(const std::vector<std::string>& cells) {
 }
 
 // A table of the settings of one tab, with some beside each other. A text has a row of its own.
-std::string Section(const Lines& lines, const image::ConfigImage& image) {
+std::string Section(const Lines& lines, const image::ConfigImage& image,
+                    const changes::PreviewProgram& program) {
   constexpr std::string_view kNameWidth = "18%", kValueWidth = "15.3%";
   std::string rows, texts;
   std::vector<std::string> cells;
@@ -77,7 +79,7 @@ std::string Section(const Lines& lines, const image::ConfigImage& image) {
       continue;
     }
     cells.push_back(Cell("name", Html(line.key), kNameWidth));
-    cells.push_back(Cell("value", Html(ValueOf(line)), kValueWidth));
+    cells.push_back(Cell("value", Html(program.CoverOf(line.control).value_or(ValueOf(line))), kValueWidth));
     if (cells.size() == 2 * kPairs) end_row();
   }
   if (!cells.empty()) end_row();
@@ -85,11 +87,12 @@ std::string Section(const Lines& lines, const image::ConfigImage& image) {
 }
 
 // The tabs in the order of the text form.
-std::string Sections(const Lines& lines, const image::ConfigImage& image) {
+std::string Sections(const Lines& lines, const core::Application& like, const image::ConfigImage& image) {
+  const changes::PreviewProgram program(like, image);
   std::string html;
   Lines section;
   const auto end_section = [&] {
-    if (!section.empty()) html += Section(section, image);
+    if (!section.empty()) html += Section(section, image, program);
     section.clear();
   };
   for (const auto& line : lines) {
@@ -145,7 +148,7 @@ std::string SiteSheet(const core::Application& like, const image::ConfigImage& i
   text_form::Catalogue catalogue(like);
   const auto lines = text_form::LinesOf(catalogue, image);
   const auto sum = Checksum(image, like.image_firmware).value_or("none: the configuration is not complete");
-  return std::string(kHead) + TitleOf(like, sum, 1) + HandLines() + Sections(lines, image) +
+  return std::string(kHead) + TitleOf(like, sum, 1) + HandLines() + Sections(lines, like, image) +
          FindingsOf(findings) + TitleOf(like, sum, 2) +
          SlotTable(acts::SlotKind::kException, lines, like, image) +
          SlotTable(acts::SlotKind::kAlarm, lines, like, image) + "</body>\n</html>\n";

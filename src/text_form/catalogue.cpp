@@ -330,7 +330,7 @@ bool Catalogue::ShowsWhatItStores(const Encoding& encoding, std::string_view con
     for (std::size_t part = 0; part < encoding.parts.size(); ++part)
       Store(with_entry, encoding.parts[part], encoding.stored[entry][part]);
     const changes::PreviewProgram program(like_, with_entry);
-    if (EntryShown(program, control) != static_cast<int>(entry)) return false;
+    if (program.EntryShown(control) != static_cast<int>(entry)) return false;
   }
   return true;
 }

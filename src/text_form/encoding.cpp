@@ -46,13 +46,6 @@ std::vector<std::string> EntriesOf(const changes::PreviewProgram& program, std::
   return std::visit(EntriesIn{}, program.Named(control).control);
 }
 
-int EntryShown(const changes::PreviewProgram& program, std::string_view control) {
-  const auto& named = program.Named(control).control;
-  if (auto* const* list = std::get_if<controls::List*>(&named)) return (*list)->position;
-  if (auto* const* array = std::get_if<controls::OptionArray*>(&named)) return (*array)->chosen;
-  return -1;
-}
-
 Picked PickEach(changes::PreviewProgram& program, std::string_view control, std::vector<FieldPart> parts,
                 const image::ConfigImage& zeros, const image::ConfigImage& ones) {
   std::vector<image::ConfigImage> after;

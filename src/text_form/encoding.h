@@ -16,9 +16,6 @@ image::ConfigImage FilledImage(const firmware::FirmwareId& firmware, char digit)
 // for a check box.
 std::vector<std::string> EntriesOf(const changes::PreviewProgram& program, std::string_view control);
 
-// The entry that the control shows; -1: none.
-int EntryShown(const changes::PreviewProgram& program, std::string_view control);
-
 struct Picked {
   std::vector<FieldPart> parts;                  // without the bits that a pick does not decide
   std::vector<std::vector<std::string>> stored;  // by entry and part
