@@ -31,12 +31,15 @@ int FreeNumber(const QDir& folder, QLatin1String what, const QString& firmware, 
   return from;
 }
 
-// QLockFile does not report why it cannot create a file, so this tries it with a file.
+// QLockFile does not report why it cannot create a file, so this tries it with a file. A full disk has room
+// for its name alone.
 QString WhyNotCreated(const QString& path) {
   QFile file(path);
   if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) return file.errorString();
+  const bool written = file.putChar('\n') && file.flush();
+  const auto reason = written ? QStringLiteral("its lock cannot be made") : file.errorString();
   file.remove();
-  return QStringLiteral("its lock cannot be made");
+  return reason;
 }
 
 bool OpensAgain(const QString& path, const QString& firmware) {
