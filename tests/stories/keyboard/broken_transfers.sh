@@ -10,10 +10,6 @@ stream "changed"
 END
 ! cmp -s changed before || fail 'the same configuration'
 
-# Characters that the unit has read and written.
-passed() { awk '/char/ { all += $2 } END { print all }' "/proc/$unit/io"; }
-passed_more() { [ "$(passed)" -ge "$1" ]; }
-
 # Half of the configuration has passed in this direction, "<" from the unit, ">" to it, when the unit ends.
 end_unit_halfway() {
   wait_until passed_more $(($(passed) + 2000))

@@ -1,0 +1,80 @@
+# A locale that writes numbers with commas.
+# shellcheck shell=bash disable=SC2154  # what run.sh and acts.sh set
+localedef --no-archive -i de_DE -f UTF-8 "$place/de_DE.UTF-8" 2> /dev/null || true
+german=(LOCPATH="$place" LANG=de_DE.UTF-8 LC_ALL=de_DE.UTF-8)
+
+# Everything that the programs write without a window: outputs FOLDER [VARIABLE=VALUE]...
+outputs() {
+  mkdir "$1"
+  local image=$images/V1400/R12/NCR.bin
+  cp "$image" "$1/V1400R12.bin"
+  touch -d '2026-03-05 14:07:09' "$1/V1400R12.bin"
+  (
+    export "${@:2}"
+    cd "$1" || exit
+    ovl-script --firmware V1400R12 export "$image" > text
+    ovl-script --firmware V1400R12 import text imported
+    ovl-script --firmware V1400R12 --json check "$image" > checks || true
+    ovl-script --firmware V1400R12 check "$image" > findings || true
+    ovl-script --firmware V1400R12 checksum "$image" > sum
+    ovl-script --firmware V1400R12 diff "$image" "$images/V1400/R12/IBM.bin" > difference || true
+    QT_QPA_PLATFORM=offscreen ovl --firmware V1400R12 --sheet sheet.html V1400R12.bin
+    ovl-unit --help > help
+    cd .. || exit
+    by_script << END > "$1/changes"
+answer "$image"
+click OpenMenu
+click cmdTitle
+type frmSetEXCPSTR.Text1 "1,5 KG 2.50"
+key frmSetEXCPSTR.Text1 Enter
+pick ComboDIP(3) "ON"
+click cmdSetRange
+type frmSetRange.Range_Hi "1234"
+leave frmSetRange.Range_Hi
+type frmSetRange.SubRange_Hi "56"
+leave frmSetRange.SubRange_Hi
+click frmSetRange.cmdSetRange
+show TextRANGE(0)
+changes
+dump "$1/image"
+stream "$1/stream"
+advice
+check
+export "$1/exported"
+backup "$1/backup"
+answer "$1/saved"
+click menuSave
+END
+  )
+}
+
+same_outputs() {
+  set_up_site "$images"
+  [ "$(env "${german[@]}" locale decimal_point)" = , ]
+  outputs plain LC_ALL=C.UTF-8
+  outputs german "${german[@]}"
+  diff -r plain german >&2 || fail "the outputs differ"
+  echo "$(find german -type f | wc -l) files are equal byte for byte"
+}
+
+same_session() {
+  set_up_site "$images"
+  start_display
+  start_unit --image "$images/V1400/R12/NCR.bin"
+  cp memory before
+  open_program "${german[@]}"
+  set_title '1,5 KG 2.50'
+  titled '1,5 KG 2.50' kept
+  hold_remote_mode "$changed_window"
+  begin_download
+  finish_download
+  cp memory before
+  key alt+7
+  enter_remote alt+r
+  begin_upload
+  finish_upload
+  echo "download and upload are right"
+}
+
+row "de_DE.UTF-8 beside C.UTF-8" "exports, JSON, sheet, texts, Save" same_outputs
+row "de_DE.UTF-8" "change, download, upload" same_session
