@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QSettings>
 #include <QVariant>
 #include <cerrno>
@@ -20,6 +19,7 @@ namespace ovl::host {
 namespace {
 
 constexpr std::string_view kStoreKey = "SOFTWARE\\ORB\\OVL Software";
+constexpr int kTrialSize = 512;
 const auto kOrganisation = QStringLiteral("ORB");
 const auto kApplication = QStringLiteral("OVL Software");
 
@@ -165,6 +165,7 @@ std::string SettingsStore::WhyNotRead() const {
   return FailureOf(path, reason).Text();
 }
 
+// QSettings does not report why it cannot write a file, so this tries it in the same way.
 core::Failure SettingsStore::WriteFailure() const {
   if (Path().isEmpty())
     return {RegistryPlace().toStdString(), std::make_error_code(std::errc::permission_denied)};
@@ -173,10 +174,17 @@ core::Failure SettingsStore::WriteFailure() const {
   std::error_code failed;
   std::filesystem::create_directories(folder.toStdU16String(), failed);
   if (failed) return {QFile::encodeName(folder).toStdString(), failed.message()};
-  QSaveFile file(path);
-  const bool opened = file.open(QIODevice::WriteOnly);
-  file.cancelWriting();
-  return FailureOf(path, opened ? QStringLiteral("it cannot be written") : file.errorString());
+  QFile file(path);
+  if (file.exists() && !file.open(QIODevice::ReadWrite)) return FailureOf(path, file.errorString());
+  // A full disk has room for a name alone, so there are bytes to write.
+  const auto trial = path + QStringLiteral(".trial");
+  try {
+    ReplaceFile(QFile::encodeName(trial).toStdString(), std::string(kTrialSize, '\n'), Flush::kNo);
+  } catch (const core::Failure& reason) {
+    return {QFile::encodeName(path).toStdString(), reason};
+  }
+  QFile::remove(trial);
+  return FailureOf(path, QStringLiteral("it cannot be written"));
 }
 
 }  // namespace ovl::host

@@ -70,17 +70,21 @@ Act Upload() {
   return {"upload.bin", "V1400/upload.bin", false, kOld, run};
 }
 
-// A failed write is not reported: the message box comes in any case, and the program ends.
+// The message box comes in any case, and the program ends. The windows add why a write failed.
 Act Settings() {
   const auto run = [program = Started()](const std::string& folder, const std::string&) {
     const host::SettingsStore store(QFile::decodeName(folder.c_str()));
-    bool done = true;
+    std::string problem;
     program->app.platform.write_setting = [&](auto key, auto value, auto text) {
-      return done = store.Write(key, value, text).Ok() && done;
+      const auto written = store.Write(key, value, text);
+      if (!written.Ok()) problem = written.Problem().Text();
+      return written.Ok();
     };
     const bool ended = program->Click("V1300R14mnu") == core::Outcome::kEnded;
     const auto text = program->TakeBox().text;
-    return Result{done, text, ended && text.find("V1300R14") != std::string::npos};
+    const bool told = ended && text.find("V1300R14") != std::string::npos;
+    const bool vague = problem.ends_with("it cannot be written");
+    return Result{problem.empty(), problem.empty() ? text : problem, told && !vague};
   };
   // The two values are written one after the other, and the file may be removed in between. Qt opens the file
   // to see whether it can be written; a file that is removed at this moment comes back empty.
