@@ -189,7 +189,7 @@ END
     return
   fi
   grep -q "^StatusNote = .*$last: another program" acted || fail "no reason is given"
-  echo "it takes nothing and says \"$(sed -n 's/^StatusNote = //p' acted)\""
+  echo "it takes nothing and says $(sed -n 's/^StatusNote = //p' acted)"
 }
 
 row "one program folder" "both change; each is killed, another starts" both_keep_changes
