@@ -236,12 +236,7 @@ void SerialPort::OnPortError(QSerialPort::SerialPortError error) {
   const bool fatal = error == QSerialPort::ReadError || error == QSerialPort::WriteError ||
                      error == QSerialPort::ResourceError;
   if (!fatal || !port_.isOpen()) return;
-  // If input is discarded after the event loop has seen it, the read fails although the line works. The
-  // reason is then that of an earlier call, and some of them make some versions of Qt read no more.
-  if (error != QSerialPort::WriteError && LineAlive(port_.handle())) {
-    port_.setReadBufferSize(port_.readBufferSize());  // reads again
-    return;
-  }
+  if (error != QSerialPort::WriteError && ReadAgain(port_)) return;
   Lose(EIO);
 }
 

@@ -65,6 +65,14 @@ bool LineAlive(LineHandle line) {
   return ::ioctl(line, FIONREAD, &waiting) == 0 && waiting > 0;
 }
 
+// If input is discarded after the event loop has seen it, the read fails although the line works. The reason
+// is then that of an earlier call, and some of them make some versions of Qt read no more.
+bool ReadAgain(QSerialPort& port) {
+  if (!LineAlive(port.handle())) return false;
+  port.setReadBufferSize(port.readBufferSize());  // starts to read
+  return true;
+}
+
 Waiting WaitingCharacters(LineHandle line) {
   int count = 0;
   if (::ioctl(line, TIOCOUTQ, &count) == 0) return {count > 0, 0};

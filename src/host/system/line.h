@@ -37,6 +37,10 @@ WriteResult WriteAtOnce(LineHandle line, std::string_view bytes);
 // False if nothing can be read any more, because the device is gone.
 bool LineAlive(LineHandle line);
 
+// After a failed read. Makes the port read again if the line works all the same, and returns false if it is
+// lost.
+bool ReadAgain(QSerialPort& port);
+
 struct Waiting {
   bool characters = false;  // the driver still holds some; false if unknown
   int error = 0;            // an error number if the line is lost

@@ -7,6 +7,7 @@
 
 #include "core/failure.h"
 #include "host/program_folder.h"
+#include "host/system/console.h"
 #include "host/system/disk.h"
 #include "ui/app/launch.h"
 #include "ui/app/program.h"
@@ -51,6 +52,7 @@ int SaveGuide(const QString& file) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  std::optional<ovl::host::ParentConsole> console(std::in_place);
   const auto guide_option = QStringLiteral("guide"), sheet_option = QStringLiteral("sheet");
   const auto paper_option = QStringLiteral("paper"), firmware_option = QStringLiteral("firmware");
   ovl::ui::CommandLine command_line(QStringLiteral("ovl"), kDescription, kExitStatus);
@@ -88,6 +90,7 @@ int main(int argc, char** argv) {
   ovl::ui::ApplyTheme(ovl::ui::Theme::kDesktop);
   if (!guide.isEmpty()) return SaveGuide(guide);
   if (!sheet.file.isEmpty()) return WriteSheetFile(sheet);
+  console.reset();
   const auto folder = FindFolder(command_line.Folder());
   if (!folder) return EXIT_FAILURE;
   ovl::ui::ApplyTheme(ovl::ui::ChosenTheme(*folder));
