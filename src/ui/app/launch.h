@@ -61,7 +61,8 @@ class DisplayMessage {
   DisplayMessage& operator=(const DisplayMessage&) = delete;
 };
 
-// For a run that only writes a file: whether there is a display does not matter. To be called before the application object is made.
+// For a run that only writes a file: whether there is a display does not matter. To be called before the
+// application object is made.
 void DrawWithoutDisplay();
 
 // Sets the names that Qt uses for the desktop and for folders.
