@@ -81,7 +81,7 @@ class Line {
     const char before = text_[at - 1];
     if (before == '[') return at - 1 == first_;
     if (before == '=') return text_.find('=') == at - 1;
-    return before == ' ' || before == '\t' || before == ',';
+    return before == ' ' || before == '\t' || before == ',' || before == '{';
   }
 
   // The place behind the text in quotes that begins at `at`.

@@ -15,6 +15,7 @@ PARITY = EVEN
 X = Y)",
      R"(3:10 "EVEN" is not allowed; allowed: a text in quotes
 4:5 "Y" is not allowed; allowed: a text in quotes)"},
+    {"x = {\"\"\"a\nb\"\"\"}", R"(2:6 wrong syntax: a text over several lines is not allowed)"},
     {R"(complete = yes)", R"(2:12 "yes" is not allowed; allowed: true, false)"},
     {R"([COMMUNICATION
 PARITY = "EVEN")",
