@@ -93,3 +93,16 @@ finish_download() {
   key Return
   wait_until cmp -s memory kept
 }
+
+# The statements that put the unit into remote mode, for a script of ovl-script.
+hold_by_script() {
+  cat << 'END'
+port real
+click cmdConnect
+pick Comport_Select 1
+click cmdSET
+click CmdUpDow(4)
+expect var RemoteHeld true within 3000
+wait 400
+END
+}

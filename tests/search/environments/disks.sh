@@ -20,13 +20,7 @@ site_on_disk() {
 # What the model reports about a folder that takes nothing.
 reported() {
   by_script << END
-port real
-click cmdConnect
-pick Comport_Select 1
-click cmdSET
-click CmdUpDow(4)
-expect var RemoteHeld true within 3000
-wait 400
+$(hold_by_script)
 var ImageTouched
 click CmdUpDow(0)
 wait 8000

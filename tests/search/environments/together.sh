@@ -157,18 +157,12 @@ one_last_upload() {
   set_up_site "$images"
   start_unit --image "$images/V1400/R12/NCR.bin"
   local last=site/V1400/upload.bin
-  cat > act << 'END'
+  cat > act << END
 folder "site"
 setting Version "V1400"
 setting Release "R12"
 start
-port real
-click cmdConnect
-pick Comport_Select 1
-click cmdSET
-click CmdUpDow(4)
-expect var RemoteHeld true within 3000
-wait 400
+$(hold_by_script)
 click CmdUpDow(0)
 wait 9000
 show frmOK_buttom.Label1
