@@ -23,10 +23,17 @@ fail() {
   exit 1
 }
 
+# The comment at the head of the script.
+print_help() { sed '1d; /^#/!Q; s/^# \?//' -- "$0"; }
+
 # Takes "--build FOLDER" from the front of the arguments; the others are left in `arguments`.
 take_options() {
   arguments=("$@")
   case ${1:-} in
+    -h | --help)
+      print_help
+      exit
+      ;;
     --build)
       [ -n "${2:-}" ] || { echo "$command_name: --build needs a folder" >&2; exit 2; }
       build=$2
@@ -49,7 +56,7 @@ read_options() {
   for argument in "${arguments[@]}"; do
     case $argument in
       --) return ;;
-      -h | --help) sed '1d; /^#/!Q; s/^# \?//' -- "$0"; exit ;;
+      -h | --help) print_help; exit ;;
     esac
   done
 }
