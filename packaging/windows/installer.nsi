@@ -50,13 +50,14 @@ Section
   ; The files of the version before are removed first: the new uninstaller does not know those that are no longer made.
   ReadRegStr $0 HKLM "${UNINSTALL}" "InstallLocation"
   ${If} $0 != ""
-    ExecWait '"$0\uninstall.exe" /S /KEEPSETTINGS _?=$0'
-    Delete "$0\uninstall.exe"  ; it cannot delete itself when it is waited for
+    ExecWait '"$0\uninstall-ovl-software.exe" /S /KEEPSETTINGS _?=$0'
+    Delete "$0\uninstall-ovl-software.exe"  ; it cannot delete itself when it is waited for
     RMDir "$0"
   ${EndIf}
   SetOutPath "$INSTDIR"
   File /r "${TREE}/*"
-  WriteUninstaller "$INSTDIR\uninstall.exe"
+  ; Not just "uninstall.exe", which another program in this folder may have.
+  WriteUninstaller "$INSTDIR\uninstall-ovl-software.exe"
   CreateShortcut "$SMPROGRAMS\OVL Software.lnk" "$INSTDIR\bin\ovl.exe"
   !insertmacro Setting "Version" "V1400"
   !insertmacro Setting "Release" "R12"
@@ -64,8 +65,8 @@ Section
   WriteRegStr HKLM "${UNINSTALL}" "DisplayVersion" "${VERSION}"
   WriteRegStr HKLM "${UNINSTALL}" "DisplayIcon" "$INSTDIR\bin\ovl.exe"
   WriteRegStr HKLM "${UNINSTALL}" "InstallLocation" "$INSTDIR"
-  WriteRegStr HKLM "${UNINSTALL}" "UninstallString" '"$INSTDIR\uninstall.exe"'
-  WriteRegStr HKLM "${UNINSTALL}" "QuietUninstallString" '"$INSTDIR\uninstall.exe" /S'
+  WriteRegStr HKLM "${UNINSTALL}" "UninstallString" '"$INSTDIR\uninstall-ovl-software.exe"'
+  WriteRegStr HKLM "${UNINSTALL}" "QuietUninstallString" '"$INSTDIR\uninstall-ovl-software.exe" /S'
 SectionEnd
 
 ; Only what was installed goes. A file that a person put there stays, and so does its folder.
@@ -73,7 +74,7 @@ Section "Uninstall"
   SetRegView 64
   SetShellVarContext all
   !include "${INSTALLED}"
-  Delete "$INSTDIR\uninstall.exe"
+  Delete "$INSTDIR\uninstall-ovl-software.exe"
   RMDir "$INSTDIR"
   Delete "$SMPROGRAMS\OVL Software.lnk"
   DeleteRegKey HKLM "${UNINSTALL}"
