@@ -83,8 +83,9 @@ struct Application {
   // The configuration, and the three sections that streams are made of
   image::ConfigImage image;
   std::string SYSCFG, SYSFIXED, SYSSTR;
-  image::ConfigImage known_image;          // the image after the last whole load or complete download
-  image::ConfigImage sent_image;           // of the download under way
+  image::ConfigImage known_image;                // the image after the last whole load or confirmed download
+  std::optional<image::ConfigImage> sent_image;  // of a download that the unit has not confirmed
+  unsigned downloads_confirmed = 0;
   std::vector<ApplyRoutine> Setting_Code;  // in the order in which panels are refreshed
 
   // Calls from a lower folder to a higher one, which it may not include. The wiring of the higher one sets

@@ -76,6 +76,7 @@ void Disconnect(core::Application& app) {
   app.HistoryPending = false;
   app.MasterResetPending = false;
   app.FinalAckExpected = false;
+  app.sent_image.reset();
   app.ComboTouched = false;
   app.PendingOutput.clear();
   app.LastReceived.clear();

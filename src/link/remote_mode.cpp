@@ -157,6 +157,7 @@ void OnCharReceived(core::Application& app) {
     if (app.SetTimePending) return SetTimeStep(app);
   }
   const bool acknowledged = app.LastReceived == kAck;
+  if (acknowledged) ConfirmDownload(app);
   switch (app.LinkMode) {
     case core::kLinkRemote:
       if (acknowledged) Grant(app);
@@ -194,10 +195,12 @@ void CloseLink(core::Application& app) {
   app.LinkMode = core::kLinkIdle;
   app.PendingOutput.clear();
   app.LastReceived.clear();
+  app.sent_image.reset();
 }
 
 void CmdUpDow_Click(core::Application& app, int index) {
   app.FinalAckExpected = false;
+  app.sent_image.reset();
   switch (index) {
     case controls::kUpload:
       BeginUpload(app);

@@ -1,5 +1,7 @@
 #include "link/transfer.h"
 
+#include <utility>
+
 #include "core/actions.h"
 #include "core/configuration.h"
 #include "core/failure.h"
@@ -131,6 +133,12 @@ void FinishUpload(core::Application& app) {
   app.UploadApplying = false;
 }
 
+void ConfirmDownload(core::Application& app) {
+  if (!app.sent_image || !app.PendingOutput.empty()) return;
+  app.known_image = *std::exchange(app.sent_image, std::nullopt);
+  ++app.downloads_confirmed;
+}
+
 void DownloadAcknowledged(core::Application& app) {
   if (app.on_download_acknowledged != nullptr) app.on_download_acknowledged(app);
   if (app.FinalAckExpected) {
@@ -150,9 +158,9 @@ void StartDownload(core::Application& app) {
   app.SYSFIXED.clear();
   app.SYSSTR.clear();
   if (firmware::IsKnownFamily(app.firmware.version)) app.StreamBuffer = SectionsToStream(app);
-  app.sent_image = app.image;
   app.PendingOutput = app.StreamBuffer;
   if (app.PendingOutput.empty()) return;  // nothing is sent, so the watchdog reports the failure
+  app.sent_image = app.image;
   app.LastSent = app.PendingOutput.substr(0, 1);
   app.PendingOutput.erase(0, app.LastSent.size());
   Output(app, app.LastSent);
@@ -169,7 +177,6 @@ void FinishDownload(core::Application& app) {
   app.FinalAckExpected = true;
   HideTransfer(app, app.frmMain.Label64[0]);
   app.DownloadActive = false;
-  app.known_image = app.sent_image;
   EndRemoteMode(app);
 }
 

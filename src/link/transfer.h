@@ -18,6 +18,10 @@ void FinishUpload(core::Application& app);
 // Handles the unit's ACK in a download. It answers the command or the finished stream.
 void DownloadAcknowledged(core::Application& app);
 
+// An ACK after a whole stream: what the unit holds is `known_image` from now on. It can arrive before the
+// drained event of the last character.
+void ConfirmDownload(core::Application& app);
+
 // Sends the first character of the stream. Throws Failure if the device is lost.
 void StartDownload(core::Application& app);
 void FinishDownload(core::Application& app);

@@ -189,6 +189,20 @@ Advice DeviceLost(const core::Application& app, const Observed& observed) {
   return Click(words + disconnect + ", " + Reconnect(app, last), disconnect, "cmdDisConnect");
 }
 
+std::string EndOf(const BrokenDownload& broken) {
+  switch (broken.sent) {
+    case BrokenDownload::Sent::kNothing:
+      return "The download of " + At(broken.at) +
+             " did not begin. The unit holds its old configuration. To try again: ";
+    case BrokenDownload::Sent::kPart:
+      return "A download broke off at " + At(broken.at) +
+             ". The unit may hold half a configuration, so download again: ";
+    default:
+      return "The unit has not confirmed the download of " + At(broken.at) +
+             ". It may hold another configuration, so download again: ";
+  }
+}
+
 // A loss during the stream says the same. While another download runs, its end decides.
 Advice DownloadBroke(const core::Application& app, const Observed& observed) {
   const auto& broken = observed.link.Broken();
@@ -196,11 +210,7 @@ Advice DownloadBroke(const core::Application& app, const Observed& observed) {
   const bool shown = loss && loss->during == LinkPhase::kDownloadStream;
   const bool waits = PhaseOf(app) == LinkPhase::kDownloadCommand && app.frmMain.Timer_Operating.enabled;
   if (!broken || shown || waits || app.DownloadActive) return {};
-  auto words = broken->half ? "A download broke off at " + At(broken->at) +
-                                  ". The unit may hold half a configuration, so download again: "
-                            : "The download of " + At(broken->at) +
-                                  " did not begin. The unit holds its old configuration. To try again: ";
-  return OnRemote(app, words + StepsOnRemote(app, Caption(app, LinkAction::kDownload)) + ".");
+  return OnRemote(app, EndOf(*broken) + StepsOnRemote(app, Caption(app, LinkAction::kDownload)) + ".");
 }
 
 Advice PortRefused(const core::Application&, const Observed& observed) {

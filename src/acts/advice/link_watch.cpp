@@ -23,7 +23,13 @@ LinkPhase PhaseOf(const core::Application& app) {
 }
 
 void LinkWatch::Before(const core::Application& app) {
-  before_ = {PhaseOf(app), app.LinkMode, app.FrameState, app.last_port_attempt.number, app.uploads_taken};
+  before_ = {PhaseOf(app),
+             app.LinkMode,
+             app.FrameState,
+             app.last_port_attempt.number,
+             app.uploads_taken,
+             app.downloads_confirmed,
+             app.sent_image.has_value()};
 }
 
 void LinkWatch::After(const core::Application& app, const core::Event& event) {
@@ -83,16 +89,27 @@ void LinkWatch::WatchUpload(const core::Application& app) {
   upload_broke_ = false;
 }
 
+// A unit confirms the last character at once. The installer needs longer to close the box that appears then.
 void LinkWatch::WatchDownload(const core::Application& app) {
-  const bool streaming = before_.phase == LinkPhase::kDownloadStream;
-  download_completed_ = streaming && !app.DownloadActive && app.FinalAckExpected;
+  using Sent = BrokenDownload::Sent;
+  download_completed_ = app.downloads_confirmed != before_.downloads_confirmed;
   if (download_completed_ || upload_completed_) broken_.reset();
-  if (download_completed_ || !IsDownload(before_.phase)) return;
+  if (download_completed_) return;
   const auto now = PhaseOf(app);
-  const bool cut = streaming && now != LinkPhase::kDownloadStream;
-  const bool known_half = broken_ && broken_->half;
-  if (!cut && (IsDownload(now) || known_half)) return;
-  broken_ = BrokenDownload{app.platform.clock(), cut};
+  if (before_.phase == LinkPhase::kDownloadEnd) {
+    const bool waits = app.sent_image && app.LinkMode == core::kLinkDownload;
+    if (before_.unconfirmed && before_.link_mode == core::kLinkDownload && !waits) Break(app, Sent::kAll);
+    return;
+  }
+  if (!IsDownload(before_.phase) || now == LinkPhase::kDownloadEnd) return;
+  const bool cut = before_.phase == LinkPhase::kDownloadStream && now != LinkPhase::kDownloadStream;
+  const bool known_sent = broken_ && broken_->sent != Sent::kNothing;
+  if (!cut && (IsDownload(now) || known_sent)) return;
+  Break(app, cut ? Sent::kPart : Sent::kNothing);
+}
+
+void LinkWatch::Break(const core::Application& app, BrokenDownload::Sent sent) {
+  broken_ = {app.platform.clock(), sent};
   Add(renewed_, AdviceId::kDownloadBroke);
 }
 

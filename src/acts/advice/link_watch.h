@@ -40,10 +40,11 @@ struct Refusal {
   core::Failure reason;  // names the device
 };
 
-// A download that ended before its last character was sent.
+// A download that the unit has not confirmed.
 struct BrokenDownload {
+  enum class Sent { kNothing, kPart, kAll };
   core::ClockTime at;
-  bool half = false;  // the stream had begun: the unit may hold a part of it
+  Sent sent = Sent::kNothing;
 };
 
 // A scan that has tried all rates.
@@ -59,7 +60,7 @@ class LinkWatch {
   // Until a port opens.
   const std::optional<Loss>& Lost() const { return loss_; }
   const std::optional<Refusal>& Refused() const { return refusal_; }
-  // Until a download or an upload is complete.
+  // Until a download is confirmed or an upload is complete.
   const std::optional<BrokenDownload>& Broken() const { return broken_; }
   // Until the port is opened again, or remote mode is held.
   const std::optional<FailedScan>& Scan() const { return scan_; }
@@ -82,6 +83,8 @@ class LinkWatch {
     std::int16_t frame_state = 0;
     unsigned attempts = 0;
     unsigned uploads_taken = 0;
+    unsigned downloads_confirmed = 0;
+    bool unconfirmed = false;
   };
 
   void WatchAttempt(const core::Application& app);
@@ -90,6 +93,7 @@ class LinkWatch {
   void WatchDownload(const core::Application& app);
   void WatchScan(const core::Application& app, const core::Event& event);
   void Lose(const core::Application& app, const core::Failure& why);
+  void Break(const core::Application& app, BrokenDownload::Sent sent);
 
   Seen before_;
   std::optional<Loss> loss_;

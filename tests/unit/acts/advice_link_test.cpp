@@ -82,24 +82,35 @@ TEST(AdviceOnTheLink, ALossThatIsNoNewsIsNotTimedAnew) {
 
 TEST(AdviceOnTheLink, ADownloadThatEndsEarlyIsRepeated) {
   const auto begun = kOpenPort + kHold + kDownload + "drain 300\n";
-  const auto whole = kOpenPort + kHold + kDownload + "drain\n";
+  const auto sent = kOpenPort + kHold + kDownload + "drain\n";
+  const auto whole = sent + "unit hex 06\n";
   const char* half =
       "A download broke off at 14:07:09. The unit may hold half a configuration, so download again: Set "
       "Comport, Remote, Download.";
   const char* untouched = "The download of 14:07:09 did not begin. The unit holds its old configuration.";
+  const char* refused =
+      "The unit has not confirmed the download of 14:07:09. It may hold another configuration, so download "
+      "again: Remote, Download.";
   const AdviceRow rows[] = {
       {"download-broke", begun + "click cmdDisConnect\n", half, "Set Comport", whole},
       {"download-broke", begun + "unit \"?\"\n", half, "Set Comport", whole},
       {"download-broke", begun + "port unplug\ndrain\n" + kConnectAgain,
-       "so download again: Remote, Download.", "Remote", kHold + kDownload + "drain\n"},
+       "so download again: Remote, Download.", "Remote", kHold + kDownload + "drain\nunit hex 06\n"},
       {"download-broke", begun + "unit \"?\"\n" + kOpenPort + kHold, "so download again: Download.", "",
        kUpload + "unit \"STREAM\"\n"},
       {"download-broke", kOpenPort + kHold + "click CmdUpDow(1)\ndrain\ntick Timer_Operating 6\n", untouched,
        "Set Comport", whole},
       {"download-broke", kOpenPort + kHold + "click CmdUpDow(1)\ndrain\nunit \"?\"\n", untouched,
        "Set Comport", whole},
+      {"download-broke", sent + "unit hex 15\n" + kTransferEnd, refused, "Remote",
+       kHold + kDownload + "drain\nunit hex 06\n"},
   };
   for (const auto& row : rows) Expect(row);
+  AdviceProgram program(kLatest);
+  program.Run(kOpenPort + kHold + kDownload);
+  while (!program.App().PendingOutput.empty()) program.Run("drain 1\n");
+  program.Run("unit hex 06\ndrain\nclick frmOK_buttom.Command1\n");
+  EXPECT_EQ(program.Line("download-broke").words, "") << "confirmed before the last character counts as sent";
 }
 
 TEST(AdviceOnTheLink, ARefusedPortHasDeviceReasonAndCureInOneLine) {

@@ -117,7 +117,7 @@ TEST(AdviceOnRegisters, NamesWhatAPickStoredOnOtherTabs) {
             "", "pick ComboReg \"ADS\"\n", firmware});
   }
   Expect({"other-tabs-changed", on + "pick ComboReg \"ADS\"\n", "EXCEPTION REPORT: OUTPUT OFF", "",
-          kOpenPort + kHold + kDownload + "drain\n"});
+          kOpenPort + kHold + kDownload + "drain\nunit hex 06\n"});
   Expect({"other-tabs-changed", "pick ComboReg \"ODOMETER\"\n", "TEXT SETUP: DISPLAY LINE 1", "",
           "answer \"IMAGE\"\nclick OpenMenu\n"});
 }

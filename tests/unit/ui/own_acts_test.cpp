@@ -58,7 +58,10 @@ TEST_F(ChangesTest, AreGroupedByTabAndFollowPicksAndDownloads) {
   link::StartDownload(app);
   const auto sent = app.image;
   const auto language = "TIME / LANGUAGE|LANGUAGE: " + pick_other("ComboLang", app.frmMain.ComboLang);
+  app.PendingOutput.clear();
   link::FinishDownload(app);
+  EXPECT_TRUE(app.known_image != sent) << "the unit has not confirmed it";
+  link::ConfirmDownload(app);
   Show();
   EXPECT_EQ(Listed(), language) << "the unit holds what was sent, not what was picked meanwhile";
   EXPECT_TRUE(app.known_image == sent);
