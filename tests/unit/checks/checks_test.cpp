@@ -1,6 +1,4 @@
 // Every rule of the checks: acts that bring its finding, where it leads, and acts after which it is gone.
-#include "checks/checks.h"
-
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -11,15 +9,12 @@
 #include "registers/register_catalogue.h"
 #include "registers/register_table.h"
 #include "support/firmware_facts.h"
-#include "unit/acts/advice_program.h"
-#include "unit/panels/panel_program.h"
+#include "unit/checks/check_acts.h"
 
 namespace ovl::testing {
 namespace {
 
-using checks::Finding;
-
-const firmware::FirmwareId kOld{"V1300", "R14"}, kSeventh{"V1400", "R7"}, kReduced{"V1300", "R27"};
+const firmware::FirmwareId kSeventh{"V1400", "R7"}, kReduced{"V1300", "R27"};
 
 struct Row {
   const char* id;
@@ -31,18 +26,6 @@ struct Row {
   firmware::FirmwareId firmware = kLatest;
 };
 
-std::string Text(const std::string& button, const std::string& words) {
-  return "click " + button + "\ntype frmSetEXCPSTR.Text1 \"" + words + "\"\nclick frmSetEXCPSTR.cmdSET\n";
-}
-
-std::string Exception(int number, const std::string& text) {
-  return "pick ComboExcp(0) " + std::to_string(number - 1) + "\n" + Text("cmdSetExcpstr", text);
-}
-
-std::string Alarm(int number) {
-  return "pick ComboALM(0) " + std::to_string(number - 1) + "\n";
-}
-
 std::string Range(const std::string& first, const std::string& second) {
   return "click cmdSetRange\ntype Range_Hi \"" + first + "\"\ntype Range_Low \"" + second +
          "\"\nclick frmSetRange.cmdSetRange\n";
@@ -52,8 +35,6 @@ std::string Range(const std::string& first, const std::string& second) {
 std::string Stored(const std::string& slot) {
   return "set EXCPSTRS(3) " + slot + "\n";
 }
-
-const std::string kZeros(20, '0');
 
 std::vector<Row> StoredRows() {
   const auto with_letter = "0000000A" + std::string(12, '0');
@@ -84,12 +65,14 @@ std::vector<Row> StoredRows() {
        "MICROS, DEVICE holds byte 02", "cmdMicros", "pick OpMicros 0\n"},
       {"value-without-entry", "pick ComboReg \"NCR\"\nset REGTYPE_MINOR 05\n", "NCR, Model holds byte 05",
        "OpNCR", "set REGTYPE_MINOR 04\n", 0, kOld},
+      {"value-without-entry", "pick ComboReg \"DRESSER WAYNE\"\nset REGTYPE_MINOR 05\n",
+       "DRESSER WAYNE, Point of sale holds byte 05", "POSOP", "set REGTYPE_MINOR 00\n"},
       {"not-as-picked", "set DAYLIGHT_BAK 03\n",
        "DAYLIGHT SAVING shows \"CANADA\", but DAYLIGHT_BAK holds byte 03, and a pick of \"CANADA\" stores "
        "byte 04",
        "ComboTD(3)", "set DAYLIGHT_BAK 04\n"},
-      {"not-as-picked", "set BLNKVAL 00\nset BLNKIND 05\n",
-       "SCREEN BLANK shows \"NONE\", but BLNKIND holds byte 05", "ComboDIP(0)", "set BLNKIND 0B\n"},
+      {"not-as-picked", "set BLNKVAL 00\nset BLNKIND 00\n",
+       "SCREEN BLANK shows \"NONE\", but BLNKIND holds byte 00", "ComboDIP(0)", "set BLNKIND 0B\n"},
       {"not-as-picked", "set ALMSTRUCT_BAK(2) 1CFF0500\n",
        "Alarm 2, ALARM DURATION shows \"1\", but ALMSTRUCT_BAK(2) holds bytes FF 05", "ComboALM(3)",
        "set ALMSTRUCT_BAK(2) 1CF10400\n", 2},
@@ -220,14 +203,6 @@ std::vector<Row> PanelRows() {
       {"clock-locked", "pick ComboTD(4) \"ON\"\n", "T/D LOCKING is ON, but T/D DISPLAY is OFF.", "ComboTD(0)",
        "pick ComboTD(0) \"ON\"\n"},
   };
-}
-
-std::vector<Finding> FindingsIn(AdviceProgram& program, std::string_view id) {
-  auto findings = checks::FindingsOf(program.App(), program.App().image);
-  findings.erase(std::remove_if(findings.begin(), findings.end(),
-                                [id](const Finding& finding) { return finding.id != id; }),
-                 findings.end());
-  return findings;
 }
 
 void ExpectRow(const Row& row) {
