@@ -43,7 +43,8 @@ td.value { font-weight: bold; }
 table.checks td { font-size: 7.5pt; }
 table.slots td { font-size: 7.5pt; padding: 2px 4px 2px 2px; }
 table.slots th { font-size: 6pt; padding: 1px 3px 1px 2px; font-weight: normal; text-align: left; vertical-align: bottom; color: #404040; }
-td.text, table.slots td.value { white-space: nowrap; }
+td.text, table.slots td.value, th { white-space: nowrap; }
+td.words { white-space: pre-wrap; }
 .picture { font-family: 'DejaVu Sans Mono', 'Courier New', monospace; font-size: 7pt; background-color: #e8e8e8; }
 </style>
 </head>

@@ -87,9 +87,25 @@ std::vector<std::string> ColumnsOf(std::span<const Line> lines) {
   return columns;
 }
 
+// The lines of a caption end where it says so: a printed table breaks a word rather than widen a column.
+std::string HeadCell(std::string_view caption) {
+  constexpr std::size_t kLetters = 10;
+  std::string cell = "<th>";
+  std::size_t letters = 0;
+  while (!caption.empty()) {
+    const auto word = caption.substr(0, caption.find(' '));
+    const bool fits = letters + word.size() < kLetters;
+    if (letters > 0) cell += fits ? "&#160;" : "<br>";
+    letters = (letters > 0 && fits ? letters + 1 : 0) + word.size();
+    cell += Html(word);
+    caption.remove_prefix(std::min(word.size() + 1, caption.size()));
+  }
+  return cell + "</th>";
+}
+
 std::string HeadOf(const std::vector<std::string>& columns) {
   std::string head = "<tr><th>No.</th><th>TEXT</th>";
-  for (const auto& column : columns) head += "<th>" + Html(column) + "</th>";
+  for (const auto& column : columns) head += HeadCell(column);
   return head + "</tr>\n";
 }
 

@@ -61,6 +61,7 @@ TEST_F(SiteSheet, HasTheExceptionsAndAlarmsThatAreInUse) {
   // A list without a meaning shows a fixed text.
   EXPECT_TRUE(Has("TX PROTOCOL  ASCII "));
   EXPECT_TRUE(Has("EX.&#160;2"));
+  EXPECT_TRUE(Has("RTS TRIGGERED TEXT&#160;DELAY "));
   EXPECT_TRUE(Has("TILL&#160;&#160;OPEN" + Blanks(30) + " "));
   EXPECT_TRUE(Has("Alarms 1 to 3, 5, 6 and 8 to 15 are free."));
 }
