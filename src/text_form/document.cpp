@@ -29,12 +29,24 @@ void ForEachLine(std::string_view bytes, const Function& ends) {
   }
 }
 
-// Whether a line assigns the format.
-bool IsFormatLine(std::string_view line) {
+// Whether a line assigns this key.
+bool Assigns(std::string_view line, std::string_view key) {
   const auto equals = line.find('=');
   if (equals == std::string_view::npos) return false;
-  const auto key = WithoutBlanks(line.substr(0, equals));
-  return key == kFormatKey || key == "\"format\"" || key == "'format'";
+  auto found = WithoutBlanks(line.substr(0, equals));
+  const bool in_quotes = found.size() > 2 && (found.front() == '"' || found.front() == '\'');
+  if (in_quotes && found.front() == found.back()) found = found.substr(1, found.size() - 2);
+  return found == key;
+}
+
+bool IsFormatLine(std::string_view line) {
+  return Assigns(line, kFormatKey);
+}
+
+// One of the lines before the first table, or the line of a table.
+bool IsOfTextForm(std::string_view line) {
+  return IsFormatLine(line) || Assigns(line, kFirmwareKey) || Assigns(line, kCompleteKey) ||
+         WithoutBlanks(line).starts_with('[');
 }
 
 Problem UnknownFormat(Position at, std::string_view found) {
@@ -69,12 +81,10 @@ std::string TextOf(const Problem& problem, std::string_view path) {
          ": " + problem.words;
 }
 
-// A record stream has no tables.
+// A record stream has none of these lines. Without a format, a text form has an error, but is one.
 bool IsTextForm(std::string_view bytes) {
   bool found = false;
-  ForEachLine(bytes, [&](std::string_view line, int) {
-    return found = IsFormatLine(line) || WithoutBlanks(line).starts_with('[');
-  });
+  ForEachLine(bytes, [&](std::string_view line, int) { return found = IsOfTextForm(line); });
   return found;
 }
 

@@ -41,6 +41,16 @@ TEST(TextCommands, ReadTheTextsOfTheCompactFirmware) {
   EXPECT_EQ(Printed({"export", file}), "0\n" + text);
 }
 
+TEST(TextCommands, ATextWithoutAFormatIsNoDamagedStream) {
+  const testing::TemporaryFolder folder;
+  const auto file = folder.File("text.toml");
+  for (const auto* text :
+       {"[COMMUNICATION]\nPARITY = 'ODD'\n", "'firmware' = 'V1400 R12'\n", "complete=true"}) {
+    testing::WriteFile(file, text);
+    EXPECT_EQ(Printed({"check", file}), "2\n" + file + ":1:1: the line \"format = 1\" is missing\n");
+  }
+}
+
 TEST(TextCommands, APartIsComparedOnEitherSide) {
   const testing::TemporaryFolder folder;
   const auto whole = folder.File("whole.toml"), part = folder.File("part.toml");
