@@ -20,6 +20,7 @@ using image::FieldId;
 // The list of an on and off that another list decides: the timeout is 0 or not.
 constexpr std::string_view kDecidedByTimeout = "ComboScroll(0)";
 constexpr std::string_view kRegister = "ComboReg";
+constexpr std::string_view kTrigger = "ComboALM(1)";
 
 Kind KindOf(std::string_view control) {
   if (control == "TextException") return Kind::kExceptionText;
@@ -70,8 +71,8 @@ std::vector<std::string> DeclaredCodes(const Setting& setting, std::size_t entri
 }
 
 // Entries of the same words stay with the first of them. One without words cannot be named.
-std::shared_ptr<const Choices> ChoicesOf(const std::vector<std::string>& entries,
-                                         const std::vector<std::vector<std::string>>& stored) {
+std::shared_ptr<Choices> ChoicesOf(const std::vector<std::string>& entries,
+                                   const std::vector<std::vector<std::string>>& stored) {
   auto choices = std::make_shared<Choices>();
   std::set<std::string> known;
   for (std::size_t entry = 0; entry < std::min(entries.size(), stored.size()); ++entry) {
@@ -79,6 +80,14 @@ std::shared_ptr<const Choices> ChoicesOf(const std::vector<std::string>& entries
       choices->push_back({entries[entry], stored[entry]});
   }
   return choices;
+}
+
+// The form and a comparison have a mark in front of the triggers that are exceptions.
+void AddMarks(Choices& triggers, const std::string& mark) {
+  for (auto& trigger : triggers) {
+    const auto [first, last] = image::ExceptionsOfTrigger(codecs::HexToInt(trigger.stored.front()));
+    if (first <= last) trigger.marked = mark + " " + trigger.words;
+  }
 }
 
 std::string TableOf(const core::Application& app, const Setting& setting, core::Place place) {
@@ -194,7 +203,9 @@ void Catalogue::GiveChoices() {
     } else {
       auto picked = PickEach(program, setting.control, setting.parts, zeros, ones);
       setting.parts = std::move(picked.parts);
-      setting.choices = ChoicesOf(entries, picked.stored);
+      const auto choices = ChoicesOf(entries, picked.stored);
+      if (setting.control == kTrigger) AddMarks(*choices, like_.frmMain.lbAlmTrig.caption);
+      setting.choices = choices;
     }
     if (setting.slot == 1) of_first_slot.emplace(setting.control, setting);
     Claim(claimed, setting);

@@ -56,7 +56,7 @@ const Choice* ChoiceOf(const Setting& setting, const image::ConfigImage& image,
 const Choice* ChoiceNamed(const Choices& choices, std::string_view words) {
   const auto exact = [&](const Choice& choice) { return choice.words == words; };
   const auto similar = [simple = Simple(words)](const Choice& choice) {
-    return Simple(choice.words) == simple;
+    return Simple(choice.words) == simple || (!choice.marked.empty() && Simple(choice.marked) == simple);
   };
   auto found = std::find_if(choices.begin(), choices.end(), exact);
   if (found == choices.end()) found = std::find_if(choices.begin(), choices.end(), similar);

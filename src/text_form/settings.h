@@ -27,6 +27,7 @@ struct FieldPart {
 struct Choice {
   std::string words;
   std::vector<std::string> stored;
+  std::string marked = {};  // with the mark that the form shows in front of it, if any: "EX. 3"
 };
 using Choices = std::vector<Choice>;
 

@@ -21,12 +21,13 @@ TEST_F(TextForm, APartKeepsWhatItDoesNotName) {
       codecs::ByteToHex(image::WithParityEntry(codecs::HexToInt(before[image::FieldId::COMMCFG_BAK]), 2));
   image::StoreExceptionText(expected.at(image::FieldId::EXCPSTRS, 3), kLatest, "5 \x80 \"\x07\"");
   image::StoreRange(expected.at(image::FieldId::EXCPSTRS, 3), kLatest, "00000001500000010000");
+  image::StoreAlarmTrigger(expected.at(image::FieldId::ALMSTRUCT_BAK, 2), 26);
   expected[image::FieldId::EXECENTRY] = "7F";
-  const auto read = Read(
-      "format = 1\r\n# Gr\u00F6\u00DFe " + std::string(200, '.') +
-      "\r\n[COMMUNICATION]\r\nPARITY = 'odd '\r\n[\"Exception 3\"]\r\n"
-      "text = \"5 \u20AC \\\"\\u0007\\\"\"\r\nRANGE = \"1,50 - 100.00\"\r\n['Other bytes']\r\nEXECENTRY = "
-      "'7F'");
+  const auto read = Read("format = 1\r\n# Gr\u00F6\u00DFe " + std::string(200, '.') +
+                         "\r\n[COMMUNICATION]\r\nPARITY = 'odd '\r\n[\"Exception 3\"]\r\n"
+                         "text = \"5 \u20AC \\\"\\u0007\\\"\"\r\nRANGE = \"1,50 - 100.00\"\r\n['Alarm "
+                         "2']\r\n'ALARM TRIGGER' = 'Ex. 13-24'\r\n['Other bytes']\r\nEXECENTRY = "
+                         "'7F'");
   EXPECT_TRUE(read.problems.empty()) << TextOf(read.problems.front(), "text");
   EXPECT_EQ(Changed(expected, read.image), "");
 }
