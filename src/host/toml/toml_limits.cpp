@@ -41,10 +41,11 @@ class Line {
     for (std::size_t at = first_; at < text_.size();) {
       const char byte = text_[at];
       if (byte == '#' && quotes_count_) break;
+      // Also where the line is wrong already: the library does not expect every character in such a text.
+      opens_text_ = IsQuote(byte) && text_.substr(at, 3) == std::string(3, byte);
+      if (opens_text_) return At(at, "wrong syntax: a text over several lines is not allowed");
       quotes_count_ = quotes_count_ && (!IsQuote(byte) || BeginsText(at));
       if (IsQuote(byte) && quotes_count_) {
-        if (text_.substr(at, 3) == std::string(3, byte))
-          return At(at, "wrong syntax: a text over several lines is not allowed");
         at = BehindQuotes(at);
       } else if (auto problem = WrongAt(at)) {
         return problem;
@@ -54,6 +55,9 @@ class Line {
     }
     return std::nullopt;
   }
+
+  // The next lines are the text, and nothing can be said of them.
+  bool OpensText() const { return opens_text_; }
 
  private:
   std::size_t SkipBlanks(std::size_t at) const {
@@ -81,7 +85,7 @@ class Line {
     const char before = text_[at - 1];
     if (before == '[') return at - 1 == first_;
     if (before == '=') return text_.find('=') == at - 1;
-    return before == ' ' || before == '\t' || before == ',' || before == '{';
+    return before == ' ' || before == '\t' || before == ',' || before == '{' || before == '.';
   }
 
   // The place behind the text in quotes that begins at `at`.
@@ -122,6 +126,7 @@ class Line {
   int points_ = 0;
   int braces_ = 0;
   bool quotes_count_ = true;
+  bool opens_text_ = false;
 };
 
 }  // namespace
@@ -134,7 +139,9 @@ std::vector<Problem> OutsideTomlLimits(std::string_view text) {
   std::vector<Problem> problems;
   for (int number = 1; !text.empty(); ++number) {
     const auto line = text.substr(0, text.find('\n'));
-    if (auto problem = Line(line, number).Wrong()) problems.push_back(std::move(*problem));
+    Line checked(line, number);
+    if (auto problem = checked.Wrong()) problems.push_back(std::move(*problem));
+    if (checked.OpensText()) break;
     text.remove_prefix(std::min(line.size() + 1, text.size()));
   }
   return problems;

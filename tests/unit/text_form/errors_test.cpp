@@ -16,6 +16,8 @@ X = Y)",
      R"(3:10 "EVEN" is not allowed; allowed: a text in quotes
 4:5 "Y" is not allowed; allowed: a text in quotes)"},
     {"x = {\"\"\"a\nb\"\"\"}", R"(2:6 wrong syntax: a text over several lines is not allowed)"},
+    {"A.\"\"\"\n\"\\\uFCFF\n\"\"\"", R"(2:3 wrong syntax: a text over several lines is not allowed)"},
+    {"A = \"x\"\"\"\"\n\"\\\uFCFF\n\"\"\"", R"(2:8 wrong syntax: a text over several lines is not allowed)"},
     {R"(complete = yes)", R"(2:12 "yes" is not allowed; allowed: true, false)"},
     {R"([COMMUNICATION
 PARITY = "EVEN")",
