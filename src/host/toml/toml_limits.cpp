@@ -40,18 +40,17 @@ class Line {
     if (auto problem = WrongTable()) return problem;
     for (std::size_t at = first_; at < text_.size();) {
       const char byte = text_[at];
-      if (byte == '#' && quotes_count_) break;
+      if (byte == '#' && expected_ != Expected::kUnknown) break;
       // Also where the line is wrong already: the library does not expect every character in such a text.
       opens_text_ = IsQuote(byte) && text_.substr(at, 3) == std::string(3, byte);
       if (opens_text_) return At(at, "wrong syntax: a text over several lines is not allowed");
-      quotes_count_ = quotes_count_ && (!IsQuote(byte) || BeginsText(at));
-      if (IsQuote(byte) && quotes_count_) {
-        at = BehindQuotes(at);
-      } else if (auto problem = WrongAt(at)) {
-        return problem;
-      } else {
-        ++at;
+      const bool is_text = IsQuote(byte) && MayBegin();
+      if (!is_text) {
+        if (auto problem = WrongAt(at)) return problem;
       }
+      const auto end = is_text ? BehindQuotes(at) : BehindWord(at);
+      expected_ = Behind(byte, at, end);
+      at = end;
     }
     return std::nullopt;
   }
@@ -79,13 +78,46 @@ class Line {
     return At(at, "wrong syntax: a table needs a name");
   }
 
-  // A quote within a word or a number begins no text.
-  bool BeginsText(std::size_t at) const {
-    if (at == first_) return true;
-    const char before = text_[at - 1];
-    if (before == '[') return at - 1 == first_;
-    if (before == '=') return text_.find('=') == at - 1;
-    return before == ' ' || before == '\t' || before == ',' || before == '{' || before == '.';
+  // What can come next in a line whose syntax is right so far. In any other line it is not known where a text
+  // begins for the library, which is not prepared for every letter outside of texts.
+  enum class Expected { kName, kBehindName, kValue, kBehindValue, kEnd, kUnknown };
+
+  bool MayBegin() const { return expected_ == Expected::kName || expected_ == Expected::kValue; }
+
+  // What is expected behind the character, word or text from `at` to `end`.
+  Expected Behind(char byte, std::size_t at, std::size_t end) const {
+    const auto only_from = [this](Expected before, Expected next) {
+      return expected_ == before ? next : Expected::kUnknown;
+    };
+    switch (byte) {
+      case ' ':
+      case '\t':
+        return expected_;
+      case '\r':
+        return end == text_.size() ? expected_ : Expected::kUnknown;
+      case '.':
+        return only_from(Expected::kBehindName, Expected::kName);
+      case '=':
+        return is_table_ ? Expected::kUnknown : only_from(Expected::kBehindName, Expected::kValue);
+      case '{':
+        return only_from(Expected::kValue, Expected::kName);
+      case ',':
+        return braces_ == 0 ? Expected::kUnknown : only_from(Expected::kBehindValue, Expected::kName);
+      case '}':
+        return braces_ == 0 ? Expected::kUnknown : only_from(Expected::kBehindValue, Expected::kEnd);
+      case '[':
+        return at == first_ ? Expected::kName : Expected::kUnknown;
+      case ']':
+        return is_table_ ? only_from(Expected::kBehindName, Expected::kEnd) : Expected::kUnknown;
+      default:
+        if (!MayBegin() || kStartsName.find(byte) == std::string_view::npos) return Expected::kUnknown;
+        return expected_ == Expected::kName ? Expected::kBehindName : Expected::kBehindValue;
+    }
+  }
+
+  std::size_t BehindWord(std::size_t at) const {
+    const auto in_word = kStartsName.substr(0, kStartsName.find('"'));
+    return std::max(at + 1, std::min(text_.find_first_not_of(in_word, at), text_.size()));
   }
 
   // The place behind the text in quotes that begins at `at`.
@@ -125,8 +157,9 @@ class Line {
   std::size_t first_;  // not a blank
   int points_ = 0;
   int braces_ = 0;
-  bool quotes_count_ = true;
+  bool is_table_ = text_.substr(first_, 1) == "[";
   bool opens_text_ = false;
+  Expected expected_ = Expected::kName;
 };
 
 }  // namespace

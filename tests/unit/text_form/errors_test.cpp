@@ -18,6 +18,7 @@ X = Y)",
     {"x = {\"\"\"a\nb\"\"\"}", R"(2:6 wrong syntax: a text over several lines is not allowed)"},
     {"A.\"\"\"\n\"\\\uFCFF\n\"\"\"", R"(2:3 wrong syntax: a text over several lines is not allowed)"},
     {"A = \"x\"\"\"\"\n\"\\\uFCFF\n\"\"\"", R"(2:8 wrong syntax: a text over several lines is not allowed)"},
+    {"A = 7{\"\u034A", R"(2:8 wrong syntax: letters other than A to Z are allowed only within quotes)"},
     {R"(complete = yes)", R"(2:12 "yes" is not allowed; allowed: true, false)"},
     {R"([COMMUNICATION
 PARITY = "EVEN")",
