@@ -5,7 +5,8 @@ source_folder=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
 build=$source_folder/build
 command_name=./$(realpath --relative-to="$source_folder" "$0")
 
-needed_to_build=(g++ cmake ninja-build ccache qt6-base-dev qt6-serialport-dev libtomlplusplus-dev fonts-dejavu-core)
+needed_to_build=(g++ cmake ninja-build ccache qt6-base-dev qt6-l10n-tools qt6-serialport-dev libtomlplusplus-dev
+  fonts-dejavu-core)
 needed_to_test=(libgtest-dev hunspell hunspell-en-gb xvfb xdotool xclip matchbox-window-manager)
 
 # Qt complains at every start where the names of files are not in UTF-8.

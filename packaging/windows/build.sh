@@ -17,7 +17,7 @@ done
 [ $# -eq 1 ] || { echo "$command_name: unknown argument $2" >&2; exit 2; }
 cd "$source_folder"
 tools/require g++-mingw-w64-x86-64-posix wine wine64 nsis cmake ninja-build ccache dpkg-dev qt6-base-dev qt6-base-dev-tools \
-  googletest libtomlplusplus-dev librsvg2-bin icoutils
+  qt6-l10n-tools googletest libtomlplusplus-dev librsvg2-bin icoutils
 
 here=$PWD/packaging/windows
 mkdir -p "$build"

@@ -7,6 +7,11 @@
 namespace ovl::acts {
 namespace {
 
+using phrases::OfForm;
+using phrases::Pattern;
+using phrases::Sentence;
+using phrases::Words;
+
 // Keeps the shared value if it is equal to the present one.
 template <class Value>
 bool Update(std::shared_ptr<const Value>& kept, const Value& now) {
@@ -32,13 +37,13 @@ core::Outcome ActHistory::Act(const core::Event& event) {
   const auto outcome = core::Dispatch(app_, event);
   if (outcome != core::Outcome::kDone) return outcome;
   const bool opened = app_.files_taken != files_taken;
-  auto origin = opened ? FileNameOf(app_.CurrentFilePath) : now_.origin;
-  if (opened) name += " " + origin;
+  auto origin = opened ? Words(FileNameOf(app_.CurrentFilePath)) : now_.origin;
+  if (opened) name = Sentence(Pattern("List", "%1 %2"), {name, origin});
   Add(std::move(name), std::move(origin));
   return outcome;
 }
 
-core::Outcome ActHistory::Run(std::string name, const std::function<void()>& act) {
+core::Outcome ActHistory::Run(phrases::Words name, const std::function<void()>& act) {
   if (app_.handling) return core::Outcome::kBusy;
   Observe();
   const auto outcome = core::DispatchAct(app_, act);
@@ -49,10 +54,10 @@ core::Outcome ActHistory::Run(std::string name, const std::function<void()>& act
 void ActHistory::Observe() {
   if (app_.handling || app_.ended) return;
   if (std::exchange(uploads_taken_, app_.uploads_taken) != app_.uploads_taken)
-    return Add("Upload", "Uploaded " + TimeOfDay(app_));
+    return Add(OfForm("Upload"), Sentence(Pattern("Act", "Uploaded %1"), {TimeOfDay(app_)}));
   // A wrong parity selects the first register, which loads its default image.
   const auto code = image::FieldId::REGTYPE;
-  if (app_.image[code] != (*now_.image)[code]) return Add(kRegisterAct, now_.origin);
+  if (app_.image[code] != (*now_.image)[code]) return Add(OfForm(kRegisterAct), now_.origin);
   if (app_.known_image != *now_.known_image) ForgetKnownImages();
   auto changed = TakeControls();
   const bool moved = TakeSnapshot();
@@ -96,7 +101,7 @@ ActHistory::Variables ActHistory::VariablesNow() const {
           app_.CurrentFilePath, app_.SavedIndexes, app_.unfit_option};
 }
 
-void ActHistory::Add(std::string name, std::string origin) {
+void ActHistory::Add(Words name, Words origin) {
   auto before = now_;
   auto changed = TakeControls();
   const bool moved = TakeSnapshot();
@@ -128,11 +133,11 @@ bool ActHistory::IsHeld() const {
   return app_.ended || app_.handling || IsHeldByTransfer() || !app_.frmMain.form.enabled;
 }
 
-const std::string* ActHistory::NextUndo() const {
+const Words* ActHistory::NextUndo() const {
   return IsHeld() || done_ == 0 ? nullptr : &entries_[done_ - 1].name;
 }
 
-const std::string* ActHistory::NextRedo() const {
+const Words* ActHistory::NextRedo() const {
   return IsHeld() || done_ == entries_.size() ? nullptr : &entries_[done_].name;
 }
 

@@ -11,6 +11,7 @@
 
 #include "acts/control_memory.h"
 #include "core/gate.h"
+#include "phrases/phrases.h"
 
 namespace ovl::acts {
 
@@ -27,7 +28,7 @@ class ActHistory {
   core::Outcome Act(const core::Event& event);
 
   // The same for an act of our own, which runs inside the gate.
-  core::Outcome Run(std::string name, const std::function<void()>& act);
+  core::Outcome Run(phrases::Words name, const std::function<void()>& act);
 
   // Records what the line has changed since the last act, such as a finished upload. Call it before the names
   // are shown.
@@ -38,8 +39,8 @@ class ActHistory {
 
   // The name of the act that would be undone or redone: "ALARM DURATION", "Open shop12.bin", "Upload". Null:
   // there is none, or a transfer or a window holds the settings.
-  const std::string* NextUndo() const;
-  const std::string* NextRedo() const;
+  const phrases::Words* NextUndo() const;
+  const phrases::Words* NextRedo() const;
 
   // False: there is nothing to undo or redo now.
   bool Undo();
@@ -49,7 +50,7 @@ class ActHistory {
   std::size_t Recorded() const { return recorded_; }
 
   // Where the image comes from: "GENERIC", "shop12.bin", "Uploaded 11:08".
-  const std::string& Origin() const { return now_.origin; }
+  const phrases::Words& Origin() const { return now_.origin; }
 
  private:
   // State variables that belong to the settings.
@@ -66,7 +67,7 @@ class ActHistory {
   struct Snapshot {
     std::shared_ptr<const image::ConfigImage> image, known_image;
     std::shared_ptr<const Variables> variables;
-    std::string origin;
+    phrases::Words origin;
   };
 
   struct ControlChange {
@@ -75,7 +76,7 @@ class ActHistory {
   };
 
   struct Entry {
-    std::string name;
+    phrases::Words name;
     Snapshot before, after;
     std::vector<ControlChange> controls;
   };
@@ -87,7 +88,7 @@ class ActHistory {
   std::vector<ControlChange> TakeControls();
   bool TakeSnapshot();
   // Adds an entry with what has changed. Without a change it adds none.
-  void Add(std::string name, std::string origin);
+  void Add(phrases::Words name, phrases::Words origin);
   void ForgetRedo();
   void ForgetKnownImages();
   void PutBackControl(std::size_t control, const ControlMemory& memory);

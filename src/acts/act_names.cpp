@@ -15,20 +15,21 @@ const controls::Form* FormOf(const core::Application& app, const core::Event& ev
   return close == nullptr ? nullptr : close->form;
 }
 
-std::string WordsOf(const core::Application& app, const controls::ControlRef& control) {
-  if (&controls::StateOf(control) == &app.frmMain.ComboReg) return kRegisterAct;
+phrases::Words WordsOf(const core::Application& app, const controls::ControlRef& control) {
+  if (&controls::StateOf(control) == &app.frmMain.ComboReg) return phrases::OfForm(kRegisterAct);
   return changes::PlainCaption(control);
 }
 
 }  // namespace
 
-std::string NameOf(const core::Application& app, const core::Event& event) {
+phrases::Words NameOf(const core::Application& app, const core::Event& event) {
   const auto control = core::ControlOf(event);
   const auto* form = FormOf(app, event);
   const bool of_main = form == nullptr || form == &app.frmMain.form;
   // The buttons of the other windows have captions such as "SET", which name nothing.
-  if (!of_main && (!control || std::holds_alternative<controls::Button*>(*control))) return form->caption;
-  return control ? WordsOf(app, *control) : std::string();
+  if (!of_main && (!control || std::holds_alternative<controls::Button*>(*control)))
+    return phrases::OfForm(form->caption);
+  return control ? WordsOf(app, *control) : phrases::Words();
 }
 
 std::string FileNameOf(const std::string& path) {

@@ -4,15 +4,16 @@
 #include <string>
 
 #include "core/gate.h"
+#include "phrases/phrases.h"
 
 namespace ovl::acts {
 
 // In the words of the form: "ALARM DURATION", "Register", "Open". To be called before the event is
 // dispatched.
-std::string NameOf(const core::Application& app, const core::Event& event);
+phrases::Words NameOf(const core::Application& app, const core::Event& event);
 
 // A pick in the register list, and what selects another register in its place.
-inline constexpr const char* kRegisterAct = "Register";
+inline constexpr const char* kRegisterAct = phrases::Marked("Form", "Register");
 
 // The last part of a path.
 std::string FileNameOf(const std::string& path);

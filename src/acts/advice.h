@@ -11,6 +11,7 @@
 #include "acts/advice/file_watch.h"
 #include "acts/advice/link_watch.h"
 #include "core/gate.h"
+#include "phrases/phrases.h"
 
 namespace ovl::acts {
 
@@ -28,9 +29,9 @@ enum class AdviceAction {
 struct Advice {
   AdviceId id = AdviceId::kCount;
   std::string_view name;  // of the condition, such as "device-lost"
-  std::string words;      // in Windows-1252
+  phrases::Words words;   // in Windows-1252
   AdviceAction action = AdviceAction::kNone;
-  std::string caption = {};       // of the action; empty without one
+  phrases::Words caption = {};    // of the action; empty without one
   std::string_view control = {};  // its registry name, for the last two kinds of action
   std::string_view list = {};     // if not empty: first the exception or alarm is picked in this list
   int slot = 0;                   // its number

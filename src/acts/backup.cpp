@@ -8,6 +8,7 @@
 #include "image/field_map.h"
 #include "image/record_stream.h"
 #include "image/report.h"
+#include "phrases/phrases.h"
 
 namespace ovl::acts {
 namespace {
@@ -78,7 +79,8 @@ std::optional<std::string> ReopenableFile(const image::ConfigImage& image,
 
 std::string ReopenableFileOf(const core::Application& app) {
   auto file = ReopenableFile(app.image, app.image_firmware);
-  if (!file) throw core::Failure(FirmwareName(app), "The configuration is not complete");
+  if (!file)
+    throw core::Failure(FirmwareName(app), phrases::Marked("Reason", "The configuration is not complete"));
   return *std::move(file);
 }
 

@@ -15,6 +15,8 @@ namespace ovl::acts {
 namespace {
 
 using enum image::FieldId;
+using phrases::Pattern;
+using phrases::Sentence;
 
 constexpr std::array kAlarmFields = {ALMSTRUCT_BAK, TRIGGER_TEXT, TRIGGER_DELAY, ALM_MODE};
 
@@ -58,15 +60,6 @@ void StoreAlarm(core::Application& app, int from, int target) {
   panels::StoreNormalState(image, target, image::IsNormallyClosed(image, from));
 }
 
-std::string NumbersInWords(const std::vector<int>& numbers) {
-  std::string words;
-  for (std::size_t at = 0; at < numbers.size(); ++at) {
-    if (at > 0) words += at + 1 == numbers.size() ? " and " : ", ";
-    words += std::to_string(numbers[at]);
-  }
-  return words;
-}
-
 }  // namespace
 
 int SlotCount(SlotKind kind) {
@@ -78,14 +71,23 @@ controls::List& SlotList(core::Application& app, SlotKind kind) {
                                   : app.frmMain.ComboExcp[controls::Excp::kNumber];
 }
 
-std::string OverwriteWarning(const core::Application& app, const SlotCopy& copy) {
-  std::vector<int> used;
+phrases::Words OverwriteWarning(const core::Application& app, const SlotCopy& copy) {
+  std::vector<phrases::Words> used;
   for (const int number : IsInOrder(copy) ? TargetsOf(copy) : std::vector<int>()) {
-    if (IsUsed(app, copy.kind, number)) used.push_back(number);
+    if (IsUsed(app, copy.kind, number)) used.push_back(std::to_string(number));
   }
   if (used.empty()) return {};
-  const std::string kind = copy.kind == SlotKind::kAlarm ? "alarm" : "exception";
-  return "This overwrites " + kind + (used.size() > 1 ? "s " : " ") + NumbersInWords(used) + ".";
+  const std::vector<phrases::Words> parts = {phrases::Listed(used)};
+  if (copy.kind == SlotKind::kAlarm)
+    return used.size() == 1 ? Sentence(Pattern("Act", "This overwrites alarm %1."), parts)
+                            : Sentence(Pattern("Act", "This overwrites alarms %1."), parts);
+  return used.size() == 1 ? Sentence(Pattern("Act", "This overwrites exception %1."), parts)
+                          : Sentence(Pattern("Act", "This overwrites exceptions %1."), parts);
+}
+
+phrases::Words NameOfCopy(SlotKind kind) {
+  return kind == SlotKind::kAlarm ? Sentence(Pattern("Act", "Copy alarm"))
+                                  : Sentence(Pattern("Act", "Copy exception"));
 }
 
 bool CanCopySlot(const core::Application& app, const SlotCopy& copy) {

@@ -1,9 +1,8 @@
 // Copies an exception or an alarm to other numbers.
 #pragma once
 
-#include <string>
-
 #include "core/application.h"
+#include "phrases/phrases.h"
 
 namespace ovl::acts {
 
@@ -24,7 +23,10 @@ int SlotCount(SlotKind kind);
 controls::List& SlotList(core::Application& app, SlotKind kind);
 
 // "This overwrites exceptions 4 and 7." Empty if all targets are free.
-std::string OverwriteWarning(const core::Application& app, const SlotCopy& copy);
+phrases::Words OverwriteWarning(const core::Application& app, const SlotCopy& copy);
+
+// "Copy alarm", in the Edit menu.
+phrases::Words NameOfCopy(SlotKind kind);
 
 // False: the numbers are not in order, or the main form is not on the screen or another window blocks it.
 bool CanCopySlot(const core::Application& app, const SlotCopy& copy);

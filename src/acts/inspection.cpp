@@ -6,25 +6,45 @@
 namespace ovl::acts {
 namespace {
 
+using phrases::Pattern;
+using phrases::Sentence;
+using phrases::Words;
+
 // "It fits V1300R14, V1300R15."
-std::string FitText(const std::vector<image::FirmwareFit>& fits) {
-  if (fits.empty()) return "It fits no firmware: it is cut, or damaged, or no configuration.";
+Words FitText(const std::vector<image::FirmwareFit>& fits) {
+  if (fits.empty())
+    return Sentence(Pattern("Question", "It fits no firmware: it is cut, or damaged, or no configuration."));
   std::string names;
   for (const auto& fit : fits) names += (names.empty() ? "" : ", ") + fit.firmware.Joined();
-  return "It fits " + names + ".";
+  return Sentence(Pattern("Question", "It fits %1."), {names});
+}
+
+// Two sentences.
+Words Followed(const Words& first, const Words& second) {
+  return phrases::SideBySide({first, std::string(" "), second});
 }
 
 Question QuestionOfEnd(const std::string& file, const Inspection& inspection, const std::string& served) {
-  auto detail = FitText(inspection.fits) + " This program serves " + served + ".";
-  if (!inspection.fits.empty()) detail += " Pick the firmware of the file in the Version menu first.";
-  return {"Opening " + file + " ends the program.", detail};
+  auto detail =
+      Followed(FitText(inspection.fits), Sentence(Pattern("Question", "This program serves %1."), {served}));
+  if (!inspection.fits.empty()) {
+    detail = Followed(
+        detail, Sentence(Pattern("Question", "Pick the firmware of the file in the Version menu first.")));
+  }
+  return {Sentence(Pattern("Question", "Opening %1 ends the program."), {file}), detail};
 }
 
 Question QuestionOfShift(const std::string& file, const Inspection& inspection, const std::string& served,
                          bool saved_files_reopen) {
-  auto detail = FitText(inspection.fits) + " This program serves " + served + " and reads it as such a file.";
-  if (!saved_files_reopen) detail += " \"Save\" under " + served + " writes such files. A backup opens.";
-  return {"Opening " + file + " puts settings in the wrong place.", detail};
+  auto detail = Followed(
+      FitText(inspection.fits),
+      Sentence(Pattern("Question", "This program serves %1 and reads it as such a file."), {served}));
+  if (!saved_files_reopen) {
+    detail = Followed(
+        detail,
+        Sentence(Pattern("Question", "\"Save\" under %1 writes such files. A backup opens."), {served}));
+  }
+  return {Sentence(Pattern("Question", "Opening %1 puts settings in the wrong place."), {file}), detail};
 }
 
 }  // namespace

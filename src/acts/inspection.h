@@ -8,6 +8,7 @@
 
 #include "core/application.h"
 #include "image/report.h"
+#include "phrases/phrases.h"
 
 namespace ovl::acts {
 
@@ -20,7 +21,7 @@ struct Inspection {
 Inspection Inspect(std::string_view stream, const firmware::FirmwareId& firmware);
 
 struct Question {
-  std::string text, detail;
+  phrases::Words text, detail;
 };
 
 // What to ask the user before the file is opened. Nothing for a file that opens as it should, and for one

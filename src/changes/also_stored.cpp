@@ -14,6 +14,22 @@ namespace {
 
 using core::Editor;
 using core::ValueDisplay;
+using phrases::OfForm;
+using phrases::Pattern;
+using phrases::Sentence;
+using phrases::Words;
+
+// "A, B, C"
+Words Enumerated(const std::vector<Words>& parts) {
+  Words line;
+  for (const auto& part : parts)
+    line = line.empty() ? part : Sentence(Pattern("List", "%1, %2"), {line, part});
+  return line;
+}
+
+Words AlsoStoredLine(const Words& stored) {
+  return stored.empty() ? stored : Sentence(Pattern("Setting", "Also stored: %1."), {stored});
+}
 
 // The list entry for some bits of a byte. The lowest of these bits has the value 1.
 std::size_t EntryFor(ValueDisplay display, int bits) {
@@ -34,30 +50,28 @@ class Comparison {
           return shown.display != ValueDisplay::kNothing && ListOf(shown) == acted_;
         })) {}
 
-  std::string Line() const {
-    std::vector<std::string> stored;
+  Words Line() const {
+    std::vector<Words> stored;
     for (const auto& row : image::FieldTable()) {
       for (int entry = 1; entry <= image::EntryCount(row.id); ++entry) Compare(row, entry, stored);
     }
-    std::string line;
-    for (const auto& words : stored) line += (line.empty() ? "Also stored: " : ", ") + words;
-    return line.empty() ? line : line + ".";
+    return AlsoStoredLine(Enumerated(stored));
   }
 
   // The fields on other tabs, one part for each tab.
-  std::string OtherTabs() const {
+  Words OtherTabs() const {
     constexpr std::array kOtherTabs = {core::Place::kText,          core::Place::kAlarmOutputs,
                                        core::Place::kCommunication, core::Place::kExceptionReport,
                                        core::Place::kTime,          core::Place::kRemote};
-    std::string line;
+    Words line;
     for (const auto place : kOtherTabs) {
-      std::vector<std::string> stored;
+      std::vector<Words> stored;
       for (const auto& shown : Editors()) {
         if (shown.place == place) CompareShown(shown, stored);
       }
       if (stored.empty()) continue;
-      line += (line.empty() ? "" : "; ") + PlaceName(app_, place) + ": ";
-      for (const auto& words : stored) line += (&words == &stored.front() ? "" : ", ") + words;
+      const auto of_tab = Sentence(Pattern("List", "%1: %2"), {PlaceName(app_, place), Enumerated(stored)});
+      line = line.empty() ? of_tab : Sentence(Pattern("List", "%1; %2"), {line, of_tab});
     }
     return line;
   }
@@ -75,7 +89,7 @@ class Comparison {
     return list.control == acted_ || (form_ == list.form && form_ != &app_.frmMain.form);
   }
 
-  void Compare(const image::FieldRow& row, int entry, std::vector<std::string>& stored) const {
+  void Compare(const image::FieldRow& row, int entry, std::vector<Words>& stored) const {
     const auto& now = app_.image.at(row.id, entry);
     const auto& was = before_.at(row.id, entry);
     if (now == was) return;
@@ -91,22 +105,22 @@ class Comparison {
     if (!shown_somewhere && acts_for_shown_) AddOnce(stored, std::string(row.name) + " " + now);
   }
 
-  void CompareShown(const Editor& shown, std::vector<std::string>& stored) const {
+  void CompareShown(const Editor& shown, std::vector<Words>& stored) const {
     const int now = codecs::HexToInt(app_.image[shown.field]);
     const bool changed = ((now ^ codecs::HexToInt(before_[shown.field])) & shown.bits) != 0;
     if (changed && shown.display != ValueDisplay::kNothing) AddOnce(stored, WordsOf(shown, now));
   }
 
-  static void AddOnce(std::vector<std::string>& stored, const std::string& words) {
+  static void AddOnce(std::vector<Words>& stored, const Words& words) {
     if (!words.empty() && std::find(stored.begin(), stored.end(), words) == stored.end())
       stored.push_back(words);
   }
 
-  std::string WordsOf(const Editor& shown, int value) const {
+  Words WordsOf(const Editor& shown, int value) const {
     const auto& list = *std::get<controls::List*>(ListOf(shown));
     auto caption = list.caption;
     if (!caption.empty() && caption.back() == ':') caption.pop_back();
-    return caption + " " + EntryOf(shown, list, value);
+    return Sentence(Pattern("List", "%1 %2"), {OfForm(caption), OfForm(EntryOf(shown, list, value))});
   }
 
   static std::string EntryOf(const Editor& shown, const controls::List& list, int value) {
@@ -130,17 +144,15 @@ bool IsAct(const core::Event& event) {
          !std::holds_alternative<core::CloseEvent>(event);
 }
 
-std::string OtherTabsStored(const core::Application& app, const image::ConfigImage& before) {
+Words OtherTabsStored(const core::Application& app, const image::ConfigImage& before) {
   return Comparison(app, before, app.registry.Find("ComboReg")->control).OtherTabs();
 }
 
-std::string AlsoStored(const core::Application& app, const core::Event& event,
-                       const image::ConfigImage& before) {
+Words AlsoStored(const core::Application& app, const core::Event& event, const image::ConfigImage& before) {
   const auto acted = IsAct(event) ? core::ControlOf(event) : std::nullopt;
   if (!acted || app.image == before || std::holds_alternative<controls::MenuItem*>(*acted)) return {};
   if (!core::Picks(event, app.frmMain.ComboReg)) return Comparison(app, before, *acted).Line();
-  const auto others = OtherTabsStored(app, before);
-  return others.empty() ? others : "Also stored: " + others + ".";
+  return AlsoStoredLine(OtherTabsStored(app, before));
 }
 
 }  // namespace ovl::changes

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "core/gate.h"
+#include "phrases/phrases.h"
 
 namespace ovl::changes {
 
@@ -14,11 +15,11 @@ bool IsAct(const core::Event& event);
 // One line with captions and list entries, such as "Also stored: RX BAUDRATE AUTO, TX BAUDRATE 9600."; empty
 // if the action stored nothing else. It is also empty for an action that loads a whole image. After a pick in
 // the register list it names what is on the other tabs, and the tab in front of it.
-std::string AlsoStored(const core::Application& app, const core::Event& event,
-                       const image::ConfigImage& before);
+phrases::Words AlsoStored(const core::Application& app, const core::Event& event,
+                          const image::ConfigImage& before);
 
 // What a pick in the register list stored on the other tabs: "COMMUNICATION: PARITY NONE; EXCEPTION REPORT:
 // OUTPUT OFF". Empty if nothing there differs.
-std::string OtherTabsStored(const core::Application& app, const image::ConfigImage& before);
+phrases::Words OtherTabsStored(const core::Application& app, const image::ConfigImage& before);
 
 }  // namespace ovl::changes

@@ -45,7 +45,7 @@ std::string Trimmed(const std::string& text) {
 std::string CaptionOf(const core::Application& app, std::string_view name) {
   const auto* control = app.registry.Find(name);
   if (control == nullptr) throw std::logic_error("there is no control " + std::string(name));
-  auto caption = PlainCaption(control->control);
+  std::string caption = PlainCaption(control->control);
   if (caption.empty()) throw std::logic_error(control->name + " has no caption");
   return caption;
 }
@@ -63,10 +63,10 @@ std::string Captions(const core::Application& app, std::string_view controls, st
 
 }  // namespace
 
-std::string PlaceName(const core::Application& app, Place place) {
+phrases::Words PlaceName(const core::Application& app, Place place) {
   const auto at = static_cast<std::size_t>(place);
-  if (at >= kTabs) return place == Place::kRange ? "range window" : app.frmMicros.form.caption;
-  return Trimmed(app.frmMain.SSTab1.captions.at(at));
+  if (at < kTabs) return phrases::OfForm(Trimmed(app.frmMain.SSTab1.captions.at(at)));
+  return phrases::OfForm(place == Place::kRange ? "range window" : app.frmMicros.form.caption);
 }
 
 std::span<const Editor> Editors() {
@@ -81,10 +81,10 @@ std::span<const Editor> Editors() {
   return editors;
 }
 
-std::string PlainCaption(const controls::ControlRef& control) {
+phrases::Words PlainCaption(const controls::ControlRef& control) {
   auto caption = Trimmed(controls::StateOf(control).caption);
   if (!caption.empty() && caption.back() == ':') caption.pop_back();
-  return caption;
+  return phrases::OfForm(std::move(caption));
 }
 
 std::string EditedBy(const core::Application& app, image::FieldId field, std::string_view options) {
@@ -93,7 +93,8 @@ std::string EditedBy(const core::Application& app, image::FieldId field, std::st
   for (const auto& editor : Editors()) {
     if (editor.field != field) continue;
     if (last != nullptr) words += last->place == editor.place ? ", " : "; ";
-    if (last == nullptr || last->place != editor.place) words += PlaceName(app, editor.place) + ": ";
+    if (last == nullptr || last->place != editor.place)
+      words += PlaceName(app, editor.place).English() + ": ";
     words += Captions(app, editor.controls, options);
     last = &editor;
   }

@@ -7,6 +7,7 @@
 
 #include "core/application.h"
 #include "core/editor.h"
+#include "phrases/phrases.h"
 
 namespace ovl::changes {
 
@@ -14,10 +15,10 @@ namespace ovl::changes {
 std::span<const core::Editor> Editors();
 
 // The caption of a control without blanks at both ends and without a colon.
-std::string PlainCaption(const controls::ControlRef& control);
+phrases::Words PlainCaption(const controls::ControlRef& control);
 
 // The caption of the tab or window, such as "COMMUNICATION".
-std::string PlaceName(const core::Application& app, core::Place place);
+phrases::Words PlaceName(const core::Application& app, core::Place place);
 
 // The captions of the controls that edit the field, such as "COMMUNICATION: PARITY, DATA BITS"; empty if no
 // control edits it. `options` is the word for the options of a register. Throws std::logic_error if a control

@@ -83,7 +83,7 @@ bool IsOnScreen(const PreviewProgram& program, const OptionRow& option) {
   return (option.inner.empty() || visible(option.inner)) && visible(option.control);
 }
 
-std::optional<std::string> OptionWords(const PreviewProgram& program, const OptionRow& option) {
+std::optional<phrases::Words> OptionWords(const PreviewProgram& program, const OptionRow& option) {
   return IsOnScreen(program, option) ? program.WordsOf(option.control) : std::nullopt;
 }
 

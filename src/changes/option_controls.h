@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "changes/preview_program.h"
+#include "phrases/phrases.h"
 #include "registers/options/option_rows.h"
 
 namespace ovl::changes {
@@ -24,6 +25,6 @@ std::vector<const registers::OptionRow*> OptionsThatShow(image::FieldId field, i
 bool IsOnScreen(const PreviewProgram& program, const registers::OptionRow& option);
 
 // What the control shows. Nothing if the options of the register do not have it on the screen.
-std::optional<std::string> OptionWords(const PreviewProgram& program, const registers::OptionRow& option);
+std::optional<phrases::Words> OptionWords(const PreviewProgram& program, const registers::OptionRow& option);
 
 }  // namespace ovl::changes

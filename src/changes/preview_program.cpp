@@ -40,16 +40,22 @@ void Forget(Lists& lists) {
 }
 
 struct WordsIn {
-  using Words = std::optional<std::string>;
+  using Words = std::optional<phrases::Words>;
 
-  Words operator()(controls::List* list) const { return list->position < 0 ? Words() : Words(list->Text()); }
+  // The names of registers are the same in every language.
+  const controls::List* registers;
+
+  Words operator()(controls::List* list) const {
+    if (list->position < 0) return std::nullopt;
+    return list == registers ? phrases::Words(list->Text()) : phrases::OfForm(list->Text());
+  }
   Words operator()(controls::OptionArray* array) const {
     if (array->chosen < 0) return std::nullopt;
     const auto& caption = array->elements.at(static_cast<std::size_t>(array->chosen)).caption;
-    return caption.empty() ? Words() : Words(caption);
+    return caption.empty() ? Words() : Words(phrases::OfForm(caption));
   }
-  Words operator()(controls::TextBox* box) const { return box->text; }
-  Words operator()(controls::CheckBox* box) const { return box->checked ? "ON" : "OFF"; }
+  Words operator()(controls::TextBox* box) const { return phrases::Words(box->text); }
+  Words operator()(controls::CheckBox* box) const { return phrases::OfForm(box->checked ? "ON" : "OFF"); }
   template <class Other>
   Words operator()(const Other&) const {
     return std::nullopt;
@@ -175,8 +181,8 @@ std::optional<std::string> PreviewProgram::CoverOf(std::string_view control) con
   return text.visible ? std::optional(text.text) : std::nullopt;
 }
 
-std::optional<std::string> PreviewProgram::WordsOf(std::string_view name) const {
-  return std::visit(WordsIn{}, Named(name).control);
+std::optional<phrases::Words> PreviewProgram::WordsOf(std::string_view name) const {
+  return std::visit(WordsIn{&app_.frmMain.ComboReg}, Named(name).control);
 }
 
 }  // namespace ovl::changes

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "core/application.h"
+#include "phrases/phrases.h"
 
 namespace ovl::changes {
 
@@ -48,7 +49,7 @@ class PreviewProgram {
 
   // What the control shows: the entry of a list, the caption of the chosen option, a text, ON or OFF. Nothing
   // if the list has no entry for the stored byte.
-  std::optional<std::string> WordsOf(std::string_view name) const;
+  std::optional<phrases::Words> WordsOf(std::string_view name) const;
 
  private:
   void ApplyAll();

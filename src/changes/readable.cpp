@@ -12,10 +12,11 @@ namespace ovl::changes {
 namespace {
 
 using image::FieldDifference;
+using phrases::Pattern;
+using phrases::Sentence;
 
 constexpr std::size_t kByte = 2;
 constexpr std::array kSections = {"SYSCFG", "SYSFIXED", "SYSSTR"};
-constexpr const char* kNoControl = "No control";
 constexpr std::string_view kRegisterList = "ComboReg";
 
 // The bits of each byte that differ. A byte that is not two digits in both values differs as a whole.
@@ -80,7 +81,7 @@ class Comparison {
     SettingChange change;
   };
   struct Words {
-    std::optional<std::string> before, after;
+    std::optional<phrases::Words> before, after;
     bool operator==(const Words&) const = default;
   };
 
@@ -132,18 +133,19 @@ class Comparison {
     change.before = InWords(site, words.before, bytes.before, same);
     change.after = InWords(site, words.after, bytes.after, same);
     const auto& shown_in = words.after || !words.before ? after_ : before_;
-    if (site.option != nullptr) change.caption = shown_in.RegisterName() + ", " + change.caption;
+    if (site.option != nullptr)
+      change.caption = Sentence(Pattern("List", "%1, %2"), {shown_in.RegisterName(), change.caption});
     change.control = ReachedBy(shown_in.Program(), site);
     change.list = SlotListOf(site);
     change.slot = site.slot;
     rows_.push_back({{tab, site.slot, site.control == kRegisterList ? 0 : 1}, site.control, change});
   }
 
-  static std::string InWords(const Site& site, const std::optional<std::string>& words,
-                             const std::string& digits, bool with_bytes) {
+  static phrases::Words InWords(const Site& site, const std::optional<phrases::Words>& words,
+                                const std::string& digits, bool with_bytes) {
     const auto bytes = BytesInWords(digits);
-    if (words) return with_bytes ? *words + " (" + bytes + ")" : *words;
-    return site.option == nullptr ? bytes : "not shown (" + bytes + ")";
+    if (words) return with_bytes ? Sentence(Pattern("Setting", "%1 (%2)"), {*words, bytes}) : *words;
+    return site.option == nullptr ? bytes : Sentence(Pattern("Setting", "not shown (%1)"), {bytes});
   }
 
   // The bytes of the site that differ. They are no longer left.
@@ -164,7 +166,7 @@ class Comparison {
   void AddUnshown(const FieldDifference& difference, const Span& span) {
     const auto bytes = BytesOf(difference, span);
     SettingChange change;
-    change.place = kNoControl;
+    change.place = Sentence(Pattern("Setting", "No control"));
     change.caption = difference.name;
     change.before = BytesInWords(bytes.before);
     change.after = BytesInWords(bytes.after);

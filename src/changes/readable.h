@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/application.h"
+#include "phrases/phrases.h"
 
 namespace ovl::changes {
 
@@ -22,10 +23,10 @@ struct ByteChange {
 struct SettingChange {
   static constexpr int kNoTab = -1;
 
-  int tab = kNoTab;           // of the main form; kNoTab for bytes that no control shows
-  std::string place;          // the caption of the tab, or "No control"
-  std::string caption;        // "Register", "PARITY", "Exception 3, text"
-  std::string before, after;  // in words; "byte 7F" for a byte that has no entry
+  int tab = kNoTab;              // of the main form; kNoTab for bytes that no control shows
+  phrases::Words place;          // the caption of the tab, or "No control"
+  phrases::Words caption;        // "Register", "PARITY", "Exception 3, text"
+  phrases::Words before, after;  // in words; "byte 7F" for a byte that has no entry
   std::vector<ByteChange> bytes;
   std::string control;  // of the main form, to edit the setting; empty without a tab
   std::string list;     // the list that first has to select the exception or alarm; may be empty

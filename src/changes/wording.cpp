@@ -13,6 +13,12 @@ namespace ovl::changes {
 namespace {
 
 using core::Place;
+using phrases::Marked;
+using phrases::OfForm;
+using phrases::Pattern;
+using phrases::Sentence;
+using phrases::Tidied;
+using phrases::Words;
 
 constexpr std::string_view kExceptionText = "TextException";
 constexpr std::string_view kRange = "cmdSetRange";
@@ -27,8 +33,9 @@ constexpr std::array<std::string_view, 6> kFlagLists = {"ComboExcp(1)", "ComboEx
 struct Caption {
   std::string_view control, words;
 };
-constexpr std::array kCaptions = {Caption{"ComboReg", "Register"}, Caption{kExceptionText, "text"},
-                                  Caption{"TextTrigger", "text"}, Caption{kRange, "RANGE"}};
+constexpr std::array kCaptions = {
+    Caption{"ComboReg", Marked("Form", "Register")}, Caption{kExceptionText, Marked("Form", "text")},
+    Caption{"TextTrigger", Marked("Form", "text")}, Caption{kRange, Marked("Form", "RANGE")}};
 
 // Texts are read-only on the form. Their buttons open the window in which they are edited.
 struct Button {
@@ -42,22 +49,13 @@ bool IsOneOf(std::string_view name, std::span<const std::string_view> names) {
   return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-// Without blanks at both ends, double blanks and the colon.
-std::string Tidy(std::string_view caption) {
-  std::string words;
-  for (const char letter : caption) {
-    if (letter != ' ' || (!words.empty() && words.back() != ' ')) words += letter;
-  }
-  while (!words.empty() && (words.back() == ' ' || words.back() == ':')) words.pop_back();
-  return words;
-}
-
-std::string CaptionOf(const core::Application& app, std::string_view control) {
+Words CaptionOf(const core::Application& app, std::string_view control) {
   for (const auto& row : kCaptions) {
-    if (row.control == control) return std::string(row.words);
+    if (row.control == control) return OfForm(std::string(row.words));
   }
   const auto* named = app.registry.Find(control);
-  return named == nullptr ? std::string(control) : Tidy(controls::StateOf(named->control).caption);
+  return named == nullptr ? Words(std::string(control))
+                          : OfForm(Tidied(controls::StateOf(named->control).caption));
 }
 
 // The network has captions that the register line has too.
@@ -81,9 +79,9 @@ std::string RangeWords(const controls::MainForm& form) {
   return WithoutZeros(form.TextRANGE[0].caption) + " - " + WithoutZeros(form.TextRANGE[1].caption);
 }
 
-std::string TextWords(std::string text, const char* without) {
+Words TextWords(std::string text, const Words& without) {
   text.erase(text.find_last_not_of(' ') + 1);
-  return text.empty() ? without : text;
+  return text.empty() ? without : Words(std::move(text));
 }
 
 bool IsText(const controls::ControlRef& control) {
@@ -92,12 +90,14 @@ bool IsText(const controls::ControlRef& control) {
 
 }  // namespace
 
-std::string BytesInWords(std::string_view digits) {
+Words BytesInWords(std::string_view digits) {
   constexpr std::size_t kByte = 2;
-  std::string words = digits.size() <= kByte ? "byte" : "bytes";
+  if (digits.empty()) return Sentence(Pattern("Setting", "byte"));
+  std::string bytes;
   for (std::size_t digit = 0; digit < digits.size(); digit += kByte)
-    words.append(" ").append(digits.substr(digit, kByte));
-  return words;
+    bytes.append(digit == 0 ? "" : " ").append(digits.substr(digit, kByte));
+  return digits.size() <= kByte ? Sentence(Pattern("Setting", "byte %1"), {bytes})
+                                : Sentence(Pattern("Setting", "bytes %1"), {bytes});
 }
 
 int TabOf(Place place) {
@@ -105,21 +105,21 @@ int TabOf(Place place) {
   return static_cast<int>(place == Place::kRange ? Place::kExceptionReport : place);
 }
 
-std::string TabCaption(const core::Application& app, int tab) {
-  return Tidy(app.frmMain.SSTab1.captions.at(static_cast<std::size_t>(tab)));
+Words TabCaption(const core::Application& app, int tab) {
+  return OfForm(Tidied(app.frmMain.SSTab1.captions.at(static_cast<std::size_t>(tab))));
 }
 
-std::string SlotCaption(const core::Application& app, const Site& site) {
-  std::string words;
-  if (site.slot > 0) {
-    words = site.place == Place::kAlarmOutputs ? "Alarm " : "Exception ";
-    words += std::to_string(site.slot) + ", ";
-  }
-  if (site.place == Place::kRange) words = Tidy(app.frmSetRange.form.caption) + ", ";
-  if (IsOfNetwork(app, site.control)) words = Tidy(app.frmMain.Frame13.caption) + ", ";
-  if (site.option != nullptr && !site.option->LabelAlone().empty())
-    return words + Tidy(site.option->LabelAlone());
-  return words + CaptionOf(app, site.control);
+Words SlotCaption(const core::Application& app, const Site& site) {
+  const bool labelled = site.option != nullptr && !site.option->LabelAlone().empty();
+  auto caption = labelled ? OfForm(Tidied(site.option->LabelAlone())) : CaptionOf(app, site.control);
+  if (IsOfNetwork(app, site.control))
+    return Sentence(Pattern("List", "%1, %2"), {OfForm(Tidied(app.frmMain.Frame13.caption)), caption});
+  if (site.place == Place::kRange)
+    return Sentence(Pattern("List", "%1, %2"), {OfForm(Tidied(app.frmSetRange.form.caption)), caption});
+  if (site.slot == 0) return caption;
+  const std::vector<Words> parts = {std::to_string(site.slot), caption};
+  return site.place == Place::kAlarmOutputs ? Sentence(Pattern("Setting", "Alarm %1, %2"), parts)
+                                            : Sentence(Pattern("Setting", "Exception %1, %2"), parts);
 }
 
 std::string ReachedBy(const PreviewProgram& program, const Site& site) {
@@ -154,26 +154,27 @@ void Wording::Show(const Site& site) {
   }
 }
 
-std::optional<std::string> Wording::FlagWords(const Site& site, std::string_view value) const {
+std::optional<Words> Wording::FlagWords(const Site& site, std::string_view value) const {
   const auto& list = *std::get<controls::List*>(program_.Named(site.control).control);
   const bool set = (codecs::HexToInt(PartOf(site, value)) & site.bits) != 0;
-  return list.items.at(set ? 1 : 0);
+  return OfForm(list.items.at(set ? 1 : 0));
 }
 
-std::optional<std::string> Wording::WordsOf(const Site& site, std::string_view value) {
+std::optional<Words> Wording::WordsOf(const Site& site, std::string_view value) {
   if (site.option != nullptr) return OptionWords(program_, *site.option);
   if (IsOneOf(site.control, kFlagLists)) return FlagWords(site, value);
   Show(site);
   const auto& form = program_.Form().frmMain;
-  if (site.control == kRange) return RangeWords(form);
+  if (site.control == kRange) return Words(RangeWords(form));
   auto words = program_.WordsOf(site.control);
   if (site.control == kExceptionText) {
-    if (image::IsFreeException(value)) return "free";
-    return TextWords(*words, "free");
+    const auto free = Sentence(Pattern("Setting", "free"));
+    return image::IsFreeException(value) ? free : TextWords(*words, free);
   }
   if (site.control == kTrigger && form.lbAlmTrig.visible && words)
-    return form.lbAlmTrig.caption + " " + *words;
-  if (IsText(program_.Named(site.control).control)) return TextWords(*words, "empty");
+    return Sentence(Pattern("List", "%1 %2"), {OfForm(form.lbAlmTrig.caption), *words});
+  if (IsText(program_.Named(site.control).control))
+    return TextWords(*words, Sentence(Pattern("Setting", "empty")));
   return words;
 }
 

@@ -6,16 +6,17 @@
 
 #include "changes/preview_program.h"
 #include "changes/sites.h"
+#include "phrases/phrases.h"
 
 namespace ovl::changes {
 
 // "byte 7F", or "bytes 01 02"; at most eight bytes.
-std::string BytesInWords(std::string_view digits);
+phrases::Words BytesInWords(std::string_view digits);
 
 // Tab, title of the panel where a caption alone is not clear, number of the exception or alarm.
 int TabOf(core::Place place);
-std::string TabCaption(const core::Application& app, int tab);
-std::string SlotCaption(const core::Application& app, const Site& site);
+phrases::Words TabCaption(const core::Application& app, int tab);
+phrases::Words SlotCaption(const core::Application& app, const Site& site);
 
 // The control of the main form with which a person reaches the setting, and the list that first selects the
 // exception or alarm.
@@ -28,14 +29,14 @@ class Wording {
   Wording(const core::Application& like, const image::ConfigImage& image) : program_(like, image) {}
 
   // Nothing if the form does not show the value.
-  std::optional<std::string> WordsOf(const Site& site, std::string_view value);
+  std::optional<phrases::Words> WordsOf(const Site& site, std::string_view value);
 
   const PreviewProgram& Program() const { return program_; }
   std::string RegisterName() const { return program_.Form().frmMain.ComboReg.Text(); }
 
  private:
   void Show(const Site& site);
-  std::optional<std::string> FlagWords(const Site& site, std::string_view value) const;
+  std::optional<phrases::Words> FlagWords(const Site& site, std::string_view value) const;
 
   PreviewProgram program_;
   int exception_ = 0;

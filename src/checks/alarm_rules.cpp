@@ -14,6 +14,9 @@ namespace {
 using enum image::FieldId;
 using enum Severity;
 using core::Place;
+using phrases::OfForm;
+using phrases::Pattern;
+using phrases::Sentence;
 
 // An alarm of the image, with its triggered text.
 struct Alarm {
@@ -46,8 +49,9 @@ Hits AlarmsWith(Subject& subject, const Condition& condition) {
     if (!condition(alarm)) continue;
     const auto trigger = static_cast<std::size_t>(alarm.trigger);
     hits.push_back({number,
-                    {std::to_string(number), trigger < triggers.size() ? triggers[trigger] : "",
-                     alarm.video_loss == 0 ? "nothing" : "only VIDEO LOSS"}});
+                    {std::to_string(number), OfForm(trigger < triggers.size() ? triggers[trigger] : ""),
+                     alarm.video_loss == 0 ? Sentence(Pattern("Check", "nothing"))
+                                           : Sentence(Pattern("Check", "only VIDEO LOSS"))}});
   }
   return hits;
 }
@@ -85,7 +89,7 @@ Hits TextDisplayOff(Subject& subject) {
            subject, [](const Alarm& alarm) { return alarm.has_text && alarm.Shows() && alarm.GoesOff(); }))
     numbers.push_back(hit.slot);
   if (numbers.empty()) return {};
-  return {{0, {Numbered("alarm", numbers)}}};
+  return {{0, {NumberedAlarms(numbers)}}};
 }
 
 Hits FlagWithoutDuration(Subject& subject) {

@@ -11,19 +11,6 @@ namespace {
 using Part = std::span<const Rule> (*)();
 constexpr std::array<Part, 5> kParts = {StoredRules, LineRules, ExceptionRules, AlarmRules, PanelRules};
 
-// The words with the texts in place of "%1", "%2" and so on.
-std::string Filled(std::string_view words, const std::vector<std::string>& texts) {
-  std::string filled;
-  for (std::size_t at = 0; at < words.size(); ++at) {
-    if (words[at] == '%' && at + 1 < words.size()) {
-      filled += texts.at(static_cast<std::size_t>(words[++at] - '1'));
-    } else {
-      filled += words[at];
-    }
-  }
-  return filled;
-}
-
 changes::Site SiteOf(const Rule& rule, const Hit& hit) {
   if (hit.site) return *hit.site;
   changes::Site site{rule.place, rule.control};
@@ -37,10 +24,10 @@ void AddFindings(const Rule& rule, Subject& subject, std::vector<Finding>& findi
     auto control = changes::ReachedBy(subject.Program(), site);
     if (!subject.Offers(control)) continue;
     const int tab = changes::TabOf(site.place);
-    findings.push_back({rule.id, rule.severity, Filled(rule.words, hit.texts), tab,
-                        changes::TabCaption(subject.Shown(), tab),
-                        changes::SlotCaption(subject.Shown(), site), std::move(control),
-                        std::string(changes::SlotListOf(site)), site.slot});
+    findings.push_back(
+        {rule.id, rule.severity, phrases::Sentence(phrases::Pattern("Check", rule.words), hit.texts), tab,
+         changes::TabCaption(subject.Shown(), tab), changes::SlotCaption(subject.Shown(), site),
+         std::move(control), std::string(changes::SlotListOf(site)), site.slot});
   }
 }
 
@@ -54,7 +41,7 @@ std::string_view NameOf(Severity severity) {
 std::vector<RuleName> RuleNames() {
   std::vector<RuleName> names;
   for (const auto& part : kParts) {
-    for (const auto& rule : part()) names.push_back({rule.id, rule.severity});
+    for (const auto& rule : part()) names.push_back({rule.id, rule.severity, rule.words});
   }
   return names;
 }

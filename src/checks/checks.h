@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/application.h"
+#include "phrases/phrases.h"
 
 namespace ovl::checks {
 
@@ -23,13 +24,13 @@ std::string_view NameOf(Severity severity);
 struct Finding {
   std::string_view id;  // of the rule
   Severity severity = Severity::kNote;
-  std::string words;    // in Windows-1252
-  int tab = 0;          // of the main form
-  std::string place;    // the caption of the tab
-  std::string caption;  // "Exception 3, RANGE"
-  std::string control;  // of the main form, to edit the setting
-  std::string list;     // the list that first has to select the exception or alarm; may be empty
-  int slot = 0;         // its number, counted from 1
+  phrases::Words words;    // in Windows-1252
+  int tab = 0;             // of the main form
+  phrases::Words place;    // the caption of the tab
+  phrases::Words caption;  // "Exception 3, RANGE"
+  std::string control;     // of the main form, to edit the setting
+  std::string list;        // the list that first has to select the exception or alarm; may be empty
+  int slot = 0;            // its number, counted from 1
 
   bool operator==(const Finding&) const = default;
 };
@@ -38,6 +39,7 @@ struct Finding {
 struct RuleName {
   std::string_view id;
   Severity severity;
+  std::string_view words;  // with "%1" for what is different in each finding
 };
 std::vector<RuleName> RuleNames();
 

@@ -9,6 +9,9 @@
 namespace ovl::checks {
 
 using enum image::FieldId;
+using phrases::Pattern;
+using phrases::Sentence;
+using phrases::Words;
 
 bool IsBlank(std::string_view text) {
   return std::all_of(text.begin(), text.end(), [](char character) { return character == ' '; });
@@ -47,30 +50,34 @@ bool IsBlankTrigger(std::string_view record) {
   return IsBlank(text) && (!text.empty() || (codecs::HexToInt(record) & kShownOrSent) != 0);
 }
 
-std::string Listed(const std::vector<std::string>& words) {
-  std::string text;
-  for (std::size_t at = 0; at < words.size(); ++at) {
-    if (at > 0) text += at + 1 == words.size() ? " and " : ", ";
-    text += words[at];
-  }
-  return text;
-}
-
-std::string Numbered(const std::string& kind, const std::vector<std::string>& numbers) {
-  return kind + (numbers.size() == 1 ? " " : "s ") + Listed(numbers);
-}
-
-std::string Numbered(const std::string& kind, const std::vector<int>& numbers) {
-  std::vector<std::string> words;
+std::vector<Words> InWords(const std::vector<int>& numbers) {
+  std::vector<Words> words;
   for (std::size_t at = 0; at < numbers.size();) {
     auto last = at;
     while (last + 1 < numbers.size() && numbers[last + 1] == numbers[last] + 1) ++last;
     if (last < at + 2) last = at;
-    words.push_back(std::to_string(numbers[at]));
-    if (last > at) words.back() += " to " + std::to_string(numbers[last]);
+    const Words first(std::to_string(numbers[at]));
+    words.push_back(last > at ? Sentence(Pattern("List", "%1 to %2"), {first, std::to_string(numbers[last])})
+                              : first);
     at = last + 1;
   }
-  return kind + (numbers.size() == 1 ? " " : "s ") + Listed(words);
+  return words;
+}
+
+Words NumberedExceptions(const std::vector<int>& numbers) {
+  const auto list = phrases::Listed(InWords(numbers));
+  return numbers.size() == 1 ? Sentence(Pattern("List", "exception %1"), {list})
+                             : Sentence(Pattern("List", "exceptions %1"), {list});
+}
+
+Words NumberedAlarms(const std::vector<Words>& numbers, std::size_t count) {
+  const auto list = phrases::Listed(numbers);
+  return count == 1 ? Sentence(Pattern("List", "alarm %1"), {list})
+                    : Sentence(Pattern("List", "alarms %1"), {list});
+}
+
+Words NumberedAlarms(const std::vector<int>& numbers) {
+  return NumberedAlarms(InWords(numbers), numbers.size());
 }
 
 }  // namespace ovl::checks

@@ -7,6 +7,7 @@
 
 #include "firmware/firmware_id.h"
 #include "image/config_image.h"
+#include "phrases/phrases.h"
 
 namespace ovl::checks {
 
@@ -24,13 +25,14 @@ bool IsBlankTrigger(std::string_view record);
 
 bool IsBlank(std::string_view text);
 
-// "3", "3 and 7", "3, 7 and 9".
-std::string Listed(const std::vector<std::string>& words);
+// The numbers of three and more neighbours are "3 to 7".
+std::vector<phrases::Words> InWords(const std::vector<int>& numbers);
 
 // "exception 3", "exceptions 3 and 7".
-std::string Numbered(const std::string& kind, const std::vector<std::string>& numbers);
+phrases::Words NumberedExceptions(const std::vector<int>& numbers);
 
-// The same with the numbers of three and more neighbours as "3 to 7".
-std::string Numbered(const std::string& kind, const std::vector<int>& numbers);
+// "alarm 3", "alarms 3 and 7"; the numbers are those of `count` alarms.
+phrases::Words NumberedAlarms(const std::vector<phrases::Words>& numbers, std::size_t count);
+phrases::Words NumberedAlarms(const std::vector<int>& numbers);
 
 }  // namespace ovl::checks

@@ -195,7 +195,7 @@ Hits AllWith(const Subject& subject, int bit) {
     if (exception.IsUsed() && exception.Has(bit)) numbers.push_back(exception.number);
   }
   if (numbers.empty()) return {};
-  return {{0, {Numbered("exception", numbers)}}};
+  return {{0, {NumberedExceptions(numbers)}}};
 }
 
 Hits DisplayOff(Subject& subject) {

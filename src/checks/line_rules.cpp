@@ -53,13 +53,13 @@ bool IsSlave(const Subject& subject) {
 Hits SlaveWithoutAddress(Subject& subject) {
   const auto& address = subject.Form().ComboCOMM[Comm::kNetAddress];
   if (!IsSlave(subject) || address.position != 0) return {};
-  return {{0, {subject.Entry("ComboCOMM(9)"), address.Text()}}};
+  return {{0, {subject.Entry("ComboCOMM(9)"), phrases::OfForm(address.Text())}}};
 }
 
 // The entry of a list for a position; the byte if the list has none.
-std::string EntryAt(const controls::List& list, const std::string& position) {
+phrases::Words EntryAt(const controls::List& list, const std::string& position) {
   const auto at = static_cast<std::size_t>(codecs::HexToInt(position));
-  return at < list.items.size() ? list.items[at] : changes::BytesInWords(position);
+  return at < list.items.size() ? phrases::OfForm(list.items[at]) : changes::BytesInWords(position);
 }
 
 // The list of the speed follows the protocol on the screen; the byte does so only when the protocol is

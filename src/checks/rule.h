@@ -16,7 +16,7 @@ namespace ovl::checks {
 // One place where a rule applies. The texts replace "%1", "%2" and so on in the words of the rule.
 struct Hit {
   int slot = 0;  // the exception or alarm, counted from 1; 0: none
-  std::vector<std::string> texts = {};
+  std::vector<phrases::Words> texts = {};
   // Of a rule that finds its controls itself, instead of that of the rule.
   std::optional<changes::Site> site = std::nullopt;
 };

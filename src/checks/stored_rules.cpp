@@ -21,6 +21,9 @@ using enum image::FieldId;
 using enum Severity;
 using changes::Site;
 using core::Place;
+using phrases::Pattern;
+using phrases::Sentence;
+using phrases::Words;
 
 constexpr std::size_t kByte = 2;
 constexpr std::string_view kRegisterList = "ComboReg";
@@ -102,7 +105,8 @@ Hits WithoutEntry(Subject& subject) {
           std::any_of(hits.begin(), hits.end(), [&](const Hit& hit) { return AreTheSame(hit, *site); });
       if (known) continue;
       auto caption = changes::SlotCaption(subject.Shown(), *site);
-      if (site->option != nullptr) caption = subject.Words().RegisterName() + ", " + caption;
+      if (site->option != nullptr)
+        caption = Sentence(Pattern("List", "%1, %2"), {subject.Words().RegisterName(), caption});
       hits.push_back({site->slot, {caption, changes::BytesInWords(changes::PartOf(*site, value))}, *site});
     }
   });
@@ -157,11 +161,13 @@ Hits NotAsPicked(Subject& subject) {
       if (!repicked) continue;
       const auto& site = repicked->site;
       auto caption = changes::SlotCaption(subject.Shown(), site);
-      if (site.option != nullptr) caption = subject.Words().RegisterName() + ", " + caption;
+      if (site.option != nullptr)
+        caption = Sentence(Pattern("List", "%1, %2"), {subject.Words().RegisterName(), caption});
       hits.push_back(
           {site.slot,
-           {caption, subject.Words().WordsOf(site, value).value_or("it"), whole.name,
-            changes::BytesInWords(changes::PartOf(site, value)), changes::BytesInWords(repicked->stored)},
+           {caption, subject.Words().WordsOf(site, value).value_or(Sentence(Pattern("Check", "it"))),
+            whole.name, changes::BytesInWords(changes::PartOf(site, value)),
+            changes::BytesInWords(repicked->stored)},
            site});
     }
   });
@@ -247,7 +253,9 @@ Hits DefaultImageOfOther(Subject& subject) {
   if (!from_file || IsOfRegister(subject, *from_file)) return {};
   const auto& names = subject.Form().ComboReg.items;
   const auto code = static_cast<std::size_t>(codecs::HexToInt((*from_file)[REGTYPE]));
-  return {{0, {name, code < names.size() ? names[code] : "an unknown register"}}};
+  return {
+      {0,
+       {name, code < names.size() ? Words(names[code]) : Sentence(Pattern("Check", "an unknown register"))}}};
 }
 
 constexpr std::array kRules = {

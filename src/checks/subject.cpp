@@ -19,8 +19,8 @@ bool Subject::HasBit(image::FieldId field, int bit) const {
   return codecs::HasBit(Byte(field), bit);
 }
 
-std::string Subject::Entry(std::string_view control) const {
-  return Program().WordsOf(control).value_or("");
+phrases::Words Subject::Entry(std::string_view control) const {
+  return Program().WordsOf(control).value_or(phrases::Words());
 }
 
 const image::ConfigImage& Subject::ByPanelRules() {

@@ -27,7 +27,7 @@ class Subject {
   const controls::MainForm& Form() const { return Shown().frmMain; }
 
   // What the control shows without an exception or alarm; empty if its list has no entry for the byte.
-  std::string Entry(std::string_view control) const;
+  phrases::Words Entry(std::string_view control) const;
 
   // The image as the rules of the panels about lines of the display and about the network would store it.
   const image::ConfigImage& ByPanelRules();

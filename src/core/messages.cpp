@@ -58,7 +58,7 @@ std::span<const BoxWords> BoxTable() {
 MessageBox BoxOf(Box box, std::string_view detail) {
   const auto& words = kBoxes.at(static_cast<std::size_t>(box));
   MessageBox shown{std::string(words.title), std::string(words.text), words.icon, words.topic,
-                   words.shows_note};
+                   words.shows_note,         std::string(detail)};
   if (const auto place = shown.text.find(kDetail); place != std::string::npos) {
     shown.text.replace(place, kDetail.size(), detail);
   }

@@ -21,6 +21,7 @@ struct MessageBox {
   BoxIcon icon = BoxIcon::kNone;
   std::string_view topic = {};  // under which the help explains it
   bool shows_note = false;      // the box also shows the text of the status bar
+  std::string detail = {};      // what is already in the text in place of "%1"
 };
 
 // A filter is a row of "description|pattern" pairs joined by "|"; filter_index counts the pairs from 1.

@@ -1,5 +1,6 @@
 #include "host/comports.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QSerialPortInfo>
@@ -42,11 +43,14 @@ std::vector<Comport> ListComports(const QString& program_folder) {
 
 QString ComportProblem(int number, const core::Failure& failure) {
   const auto device = QFile::decodeName(failure.Subject().c_str());
-  auto sentence = QStringLiteral("Comport %1, %2: %3.")
+  auto sentence = QCoreApplication::translate("StatusBar", "Comport %1, %2: %3.")
                       .arg(QString::number(number), device, FromWindows1252(failure.what()));
   if (failure.Is(std::errc::permission_denied)) {
     const auto group = DeviceGroup(device);
-    if (!group.isEmpty()) sentence += QStringLiteral(" The device belongs to the group %1.").arg(group);
+    if (!group.isEmpty()) {
+      sentence += QLatin1Char(' ') +
+                  QCoreApplication::translate("StatusBar", "The device belongs to the group %1.").arg(group);
+    }
   }
   return sentence;
 }

@@ -1,5 +1,6 @@
 #include "host/settings_store.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -155,13 +156,14 @@ core::Result SettingsStore::Write(std::string_view key, std::string_view value, 
 }
 
 std::string SettingsStore::WhyNotRead() const {
-  const auto lacks_value = QStringLiteral("it lacks the value");
+  const auto lacks_value = QCoreApplication::translate("Reason", "it lacks the value");
   if (Path().isEmpty()) return FailureOf(RegistryPlace(), lacks_value).Text();
   QFile file(Path());
   const auto path = QDir::toNativeSeparators(file.fileName());
   if (!file.open(QIODevice::ReadOnly)) return FailureOf(path, file.errorString()).Text();
   const auto reason =
-      IsSound() ? lacks_value : QStringLiteral("it holds a value that is neither text nor number");
+      IsSound() ? lacks_value
+                : QCoreApplication::translate("Reason", "it holds a value that is neither text nor number");
   return FailureOf(path, reason).Text();
 }
 
@@ -184,7 +186,7 @@ core::Failure SettingsStore::WriteFailure() const {
     return {QFile::encodeName(path).toStdString(), reason};
   }
   QFile::remove(trial);
-  return FailureOf(path, QStringLiteral("it cannot be written"));
+  return FailureOf(path, QCoreApplication::translate("Reason", "it cannot be written"));
 }
 
 }  // namespace ovl::host

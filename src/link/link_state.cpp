@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/actions.h"
+#include "phrases/phrases.h"
 
 namespace ovl::link {
 namespace {
@@ -22,7 +23,7 @@ void ShowNoAccess(core::Application& app) {
 void ShowAccess(core::Application& app) {
   auto& form = app.frmMain;
   form.EnableActions(true);
-  form.lbRemoteAccess.caption = "ACCESS";
+  form.lbRemoteAccess.caption = phrases::Marked("Form", "ACCESS");
   form.Picture1[0].visible = false;
   form.Picture1[3].visible = true;
 }

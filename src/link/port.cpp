@@ -3,6 +3,7 @@
 #include "core/actions.h"
 #include "core/failure.h"
 #include "link/link_state.h"
+#include "phrases/phrases.h"
 
 namespace ovl::link {
 namespace {
@@ -46,8 +47,8 @@ void OpenPort(core::Application& app) {
     app.noted_failure.reset();
   }
   form.CmdUpDow[controls::kRemote].enabled = true;
-  form.lbConnectting.caption =
-      "Connected at COM " + std::to_string(app.PortNumber) + ": " + SettingsText(app);
+  form.lbConnectting.caption = phrases::Sentence(phrases::Pattern("Form", "Connected at COM %1 %2"),
+                                                 {std::to_string(app.PortNumber) + ":", SettingsText(app)});
   form.cmdConnect.caption = "Disconnect";
   form.cmdConnect.visible = false;
   form.cmdDisConnect.visible = true;

@@ -8,6 +8,7 @@
 #include "files/files.h"
 #include "image/record_stream.h"
 #include "link/link_state.h"
+#include "phrases/phrases.h"
 
 namespace ovl::link {
 namespace {
@@ -125,7 +126,8 @@ void FinishUpload(core::Application& app) {
   app.PanelsReady = true;
   ShowBarFull(app);
   LoadForm(app, app.frmOK_buttom.form);
-  app.frmOK_buttom.Label1.caption = taken ? "Upload Completed." : "Upload Incompleted.";
+  app.frmOK_buttom.Label1.caption =
+      taken ? phrases::Marked("Form", "Upload Completed.") : phrases::Marked("Form", "Upload Incompleted.");
   ShowForm(app, app.frmOK_buttom.form);
   HideTransfer(app, app.frmMain.Label64[1]);
   EndRemoteMode(app);

@@ -111,7 +111,7 @@ std::string FindingsOf(std::span<const checks::Finding> findings) {
   std::size_t shown = 0;
   for (std::size_t lines = 0; shown < findings.size(); ++shown) {
     const auto& finding = findings[shown];
-    lines += finding.words.size() / kLettersOfLine + 1;
+    lines += finding.words.English().size() / kLettersOfLine + 1;
     if (lines > kLinesForFindings) break;
     rows += RowOf({Cell("value", Html(NameOf(finding.severity)), "9%"), Cell("words", Html(finding.words))});
   }

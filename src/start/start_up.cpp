@@ -14,6 +14,7 @@
 #include "panels/text_display.h"
 #include "panels/time_date.h"
 #include "panels/wiring.h"
+#include "phrases/phrases.h"
 #include "registers/register_catalogue.h"
 #include "registers/selection_driver.h"
 #include "start/version_menu.h"
@@ -31,7 +32,8 @@ void menuAbout_Click(core::Application& app, int) {
 
 // The firmware as the settings store names it, which the tabs show too.
 void frmAbout_Load(core::Application& app, int) {
-  app.frmAbout.lbFirmware.caption = "Firmware " + app.frmMain.lbVersionID[0].caption;
+  app.frmAbout.lbFirmware.caption =
+      phrases::Sentence(phrases::Pattern("Form", "Firmware %1"), {app.frmMain.lbVersionID[0].caption});
 }
 
 void AboutOk_Click(core::Application& app, int) {

@@ -11,6 +11,7 @@
 #include "ui/app/launch.h"
 #include "ui/help/guide.h"
 #include "ui/help/help_pages.h"
+#include "ui/language/language.h"
 #include "ui/window/main_window.h"
 
 namespace {
@@ -47,6 +48,9 @@ int main(int argc, char** argv) {
   const auto size_option = QStringLiteral("size");
   command_line.AddOption(size_option, QStringLiteral("WIDTHxHEIGHT"),
                          QStringLiteral("the size of the main window, instead of that at the start"));
+  const auto language_option = QStringLiteral("language");
+  command_line.AddOption(language_option, QStringLiteral("CODE"),
+                         QStringLiteral("the language of the windows, such as de; without it English"));
   if (const auto status = command_line.Read(argc, argv)) return *status;
   // With the offscreen platform the pictures are the same on every machine.
   qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -54,6 +58,8 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   ovl::ui::NameApplication();
   QApplication::setQuitOnLastWindowClosed(false);
+  const auto language = command_line.Value(language_option);
+  ovl::ui::UseLanguage(language.isEmpty() ? QStringLiteral("en") : language);
   const auto pictures = command_line.Argument();
   try {
     const auto folder = ovl::host::ProgramFolder(command_line.Folder());

@@ -11,7 +11,7 @@ namespace {
 
 std::string Printed(const acts::Advice& line) {
   auto text = std::string(line.name) + " " + Quoted(line.words);
-  return line.caption.empty() ? text : text + " [" + line.caption + "]";
+  return line.caption.empty() ? text : text + " [" + line.caption.English() + "]";
 }
 
 std::string AllPrinted(const std::vector<acts::Advice>& lines) {
@@ -21,8 +21,9 @@ std::string AllPrinted(const std::vector<acts::Advice>& lines) {
 }
 
 bool HaveWords(const std::vector<acts::Advice>& lines, const std::string& words) {
-  return std::any_of(lines.begin(), lines.end(),
-                     [&](const acts::Advice& line) { return line.words.find(words) != std::string::npos; });
+  return std::any_of(lines.begin(), lines.end(), [&](const acts::Advice& line) {
+    return line.words.English().find(words) != std::string::npos;
+  });
 }
 
 [[noreturn]] void Fail(const std::string& expected, const std::vector<acts::Advice>& found) {

@@ -34,7 +34,7 @@ void Copy(Session& session, Arguments& arguments) {
     session.Output() << "refused copy\n";
     return;
   }
-  session.History().Run(alarm ? "Copy alarm" : "Copy exception", [&] { acts::CopySlot(app, copy); });
+  session.History().Run(acts::NameOfCopy(copy.kind), [&] { acts::CopySlot(app, copy); });
 }
 
 constexpr auto kStatements = std::to_array<Statement>({
@@ -52,8 +52,8 @@ std::span<const Statement> ChangeStatements() {
 }
 
 std::string ChangeLine(const changes::SettingChange& change) {
-  return change.place + ": " + change.caption + ": " + Quoted(change.before) + " -> " + Quoted(change.after) +
-         "\n";
+  return change.place.English() + ": " + change.caption.English() + ": " + Quoted(change.before) + " -> " +
+         Quoted(change.after) + "\n";
 }
 
 }  // namespace ovl::script

@@ -35,7 +35,7 @@ void Import(Session& session, Arguments& arguments) {
     session.Output() << "refused import\n";
     return;
   }
-  session.History().Run("Import text", [&] { core::TakeImage(app, image); });
+  session.History().Run(std::string("Import text"), [&] { core::TakeImage(app, image); });
 }
 
 void Diff(Session& session, Arguments& arguments) {

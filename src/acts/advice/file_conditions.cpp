@@ -16,10 +16,12 @@ namespace {
 
 using core::Place;
 using image::FieldId;
+using phrases::OfForm;
+using phrases::Pattern;
+using phrases::Sentence;
+using phrases::Words;
 
-constexpr const char* kSaveBackup = "Save Backup...";
-
-Advice GoToRegisterList(const core::Application& app, std::string words) {
+Advice GoToRegisterList(const core::Application& app, Words words) {
   return {AdviceId::kCount,
           {},
           std::move(words),
@@ -29,15 +31,25 @@ Advice GoToRegisterList(const core::Application& app, std::string words) {
 }
 
 // The register of the configuration, whatever the list shows.
-std::string RegisterOfImage(const core::Application& app) {
+Words RegisterOfImage(const core::Application& app) {
   const auto& names = app.frmMain.ComboReg.items;
   const auto code = static_cast<std::size_t>(codecs::HexToInt(app.image[FieldId::REGTYPE]));
-  return code < names.size() ? names[code] : "another register";
+  return code < names.size() ? Words(names[code]) : Sentence(Pattern("Advice", "another register"));
 }
 
 bool IsSwallowed(const core::Application& app, const Observed& observed) {
   return observed.files.PickSwallowed() &&
          app.frmMain.ComboReg.position != codecs::HexToInt(app.image[FieldId::REGTYPE]);
+}
+
+// What went wrong, where such files come from, and what to do.
+Words AboutSavedFiles(const core::Application& app, const Words& problem, const Words& cure) {
+  const Words blank(std::string(" "));
+  if (firmware::SavedFileReopens(app.image_firmware)) return phrases::SideBySide({problem, blank, cure});
+  return phrases::SideBySide(
+      {problem, blank,
+       Sentence(Pattern("Advice", "Files that \"Save\" writes under this firmware have this form.")), blank,
+       cure});
 }
 
 std::string FieldName(const core::UnfitOption& unfit) {
@@ -53,117 +65,168 @@ Advice UploadNotTaken(const core::Application& app, const Observed& observed) {
   const auto& problem = observed.files.UploadProblem();
   const auto of_image = RegisterOfImage(app);
   if (problem.empty() || app.frmMain.ComboReg.Text() == of_image) return {};
-  return GoToRegisterList(app, "The upload was not taken: " + problem + ". The list shows " +
-                                   app.frmMain.ComboReg.Text() + ", but the configuration is still that of " +
-                                   of_image + ". Upload again, or pick " + of_image + ".");
+  return GoToRegisterList(
+      app,
+      Sentence(
+          Pattern("Advice",
+                  "The upload was not taken: %1. The list shows %2, but the configuration is still that of "
+                  "%3. Upload again, or pick %3."),
+          {problem, app.frmMain.ComboReg.Text(), of_image}));
 }
 
 Advice RegisterReset(const core::Application& app, const Observed& observed) {
   const auto& reset = observed.files.Reset();
   if (!reset || app.image[FieldId::REGTYPE] != reset->code) return {};
-  return {AdviceId::kCount,
-          {},
-          "The answer had a wrong parity, so " + RegisterOfImage(app) +
-              " was selected, with its options and its line. Undo brings " + reset->register_before +
-              " back.",
-          AdviceAction::kUndo,
-          "Undo"};
+  return {
+      AdviceId::kCount,
+      {},
+      Sentence(
+          Pattern("Advice",
+                  "The answer had a wrong parity, so %1 was selected, with its options and its line. Undo "
+                  "brings %2 back."),
+          {RegisterOfImage(app), reset->register_before}),
+      AdviceAction::kUndo,
+      Sentence(Pattern("EditMenu", "Undo"))};
 }
 
 Advice FileMisread(const core::Application& app, const Observed& observed) {
   const auto path = observed.files.MisreadIn(app);
   if (path.empty()) return {};
-  auto words = FileNameOf(path) + " does not have the form of " + app.image_firmware.Joined() +
-               ", so everything from the register options on is shifted. Do not download it.";
-  if (!firmware::SavedFileReopens(app.image_firmware))
-    words += " Files that \"Save\" writes under this firmware have this form.";
-  return {AdviceId::kCount, {}, words + " Upload again, or open a backup."};
+  const auto misread = Sentence(
+      Pattern("Advice",
+              "%1 does not have the form of %2, so everything from the register options on is shifted. Do "
+              "not download it."),
+      {FileNameOf(path), app.image_firmware.Joined()});
+  return {AdviceId::kCount,
+          {},
+          AboutSavedFiles(app, misread, Sentence(Pattern("Advice", "Upload again, or open a backup.")))};
 }
 
 Advice FileRefused(const core::Application& app, const Observed& observed) {
   const auto& path = observed.files.Refused();
   if (path.empty() || app.image != observed.files.ImageAtRefusal()) return {};
-  auto words = FileNameOf(path) + " is no configuration that " + app.image_firmware.Joined() +
-               " opens. Nothing has changed.";
-  if (!firmware::SavedFileReopens(app.image_firmware))
-    words += " Files that \"Save\" writes under this firmware have this form.";
-  return {
-      AdviceId::kCount, {}, words + " Open a backup, or pick the firmware of the file in the Version menu."};
+  const auto refused =
+      Sentence(Pattern("Advice", "%1 is no configuration that %2 opens. Nothing has changed."),
+               {FileNameOf(path), app.image_firmware.Joined()});
+  return {AdviceId::kCount,
+          {},
+          AboutSavedFiles(
+              app, refused,
+              Sentence(Pattern("Advice",
+                               "Open a backup, or pick the firmware of the file in the Version menu.")))};
 }
 
 Advice PickSwallowed(const core::Application& app, const Observed& observed) {
   if (!IsSwallowed(app, observed)) return {};
   const auto picked = app.frmMain.ComboReg.Text();
   return GoToRegisterList(
-      app, "The list shows " + picked + ", but the options and the configuration are those of " +
-               RegisterOfImage(app) + ": the pick was swallowed. Pick " + picked + " again.");
+      app,
+      Sentence(
+          Pattern("Advice",
+                  "The list shows %1, but the options and the configuration are those of %2: the pick was "
+                  "swallowed. Pick %1 again."),
+          {picked, RegisterOfImage(app)}));
 }
 
 Advice NextPickSwallowed(const core::Application& app, const Observed& observed) {
   if (!app.UploadApplying || app.handling) return {};
   const auto& problem = observed.files.OpenProblem();
   return GoToRegisterList(
-      app, (problem.empty() ? "Open was cancelled." : "Open failed: " + problem + ".") +
-               " The next pick in the register list is swallowed: the list moves, and nothing is "
-               "loaded. Pick the register twice.");
+      app,
+      problem.empty()
+          ? Sentence(Pattern("Advice",
+                             "Open was cancelled. The next pick in the register list is swallowed: the list "
+                             "moves, and nothing is loaded. Pick the register twice."))
+          : Sentence(Pattern("Advice",
+                             "Open failed: %1. The next pick in the register list is swallowed: the list "
+                             "moves, and nothing is loaded. Pick the register twice."),
+                     {problem}));
 }
 
 Advice UnknownFirmware(const core::Application& app, const Observed&) {
   if (!app.frmMain.ComboReg.items.empty()) return {};
-  const auto& menu = app.frmMain.VersionMenu.caption;
-  return {AdviceId::kCount,
-          {},
-          "The program does not know the firmware " + app.image_firmware.Joined() +
-              ", so the register list and the tabs are empty. Pick the firmware on the label of the unit in "
-              "the " +
-              menu + " menu. The program then ends; start it again.",
-          AdviceAction::kPickVersion,
-          menu};
+  const auto menu = OfForm(app.frmMain.VersionMenu.caption);
+  return {
+      AdviceId::kCount,
+      {},
+      Sentence(
+          Pattern("Advice",
+                  "The program does not know the firmware %1, so the register list and the tabs are empty. "
+                  "Pick the firmware on the label of the unit in the %2 menu. The program then ends; start "
+                  "it again."),
+          {app.image_firmware.Joined(), menu}),
+      AdviceAction::kPickVersion,
+      menu};
 }
 
 Advice OptionsHidden(const core::Application& app, const Observed& observed) {
   if (IsSwallowed(app, observed) || !registers::OptionsAreHidden(app)) return {};
   const auto name = app.frmMain.ComboReg.Text();
   const auto* unfit = registers::UnfitOptionOf(app);
-  const auto byte =
-      unfit == nullptr ? "a stored option" : FieldName(*unfit) + " holds " + unfit->value + ", which";
-  return GoToRegisterList(app, "The options of " + name + " are hidden: " + byte +
-                                   " is not in its list. Pick " + name +
-                                   " again: this loads its default options and its default line.");
+  return GoToRegisterList(
+      app,
+      unfit == nullptr
+          ? Sentence(
+                Pattern("Advice",
+                        "The options of %1 are hidden: a stored option is not in its list. Pick %1 again: "
+                        "this loads its default options and its default line."),
+                {name})
+          : Sentence(Pattern("Advice",
+                             "The options of %1 are hidden: %2 holds %3, which is not in its list. Pick %1 "
+                             "again: this loads its default options and its default line."),
+                     {name, FieldName(*unfit), unfit->value}));
 }
 
 Advice SavedFile(const core::Application& app, const Observed& observed) {
   const auto& path = observed.files.Saved();
   if (path.empty() || firmware::SavedFileReopens(app.image_firmware)) return {};
-  const auto effect =
-      firmware::ReadsSavedFileShifted(app.image_firmware) ? " reads it shifted" : " refuses it";
-  return {AdviceId::kCount,
-          {},
-          FileNameOf(path) + " does not open again: under " + app.image_firmware.Joined() + " \"Open\"" +
-              effect + ". Use \"" + kSaveBackup + "\" for a file that opens again.",
-          AdviceAction::kSaveBackup,
-          kSaveBackup};
+  const auto backup = Sentence(Pattern("FileActs", "Save Backup..."));
+  const std::vector<Words> parts = {FileNameOf(path), app.image_firmware.Joined(), backup};
+  return {
+      AdviceId::kCount,
+      {},
+      firmware::ReadsSavedFileShifted(app.image_firmware)
+          ? Sentence(Pattern("Advice",
+                             "%1 does not open again: under %2 \"Open\" reads it shifted. Use \"%3\" for a "
+                             "file that opens again."),
+                     parts)
+          : Sentence(Pattern("Advice",
+                             "%1 does not open again: under %2 \"Open\" refuses it. Use \"%3\" for a file "
+                             "that opens again."),
+                     parts),
+      AdviceAction::kSaveBackup,
+      backup};
 }
 
 Advice OtherTabsChanged(const core::Application& app, const Observed& observed) {
   const auto& change = observed.files.OtherTabs();
   if (!change || app.image[FieldId::REGTYPE] != change->code) return {};
   if (app.image == change->before) return {};  // taken back
+  const std::vector<Words> parts = {RegisterOfImage(app), change->words};
   return {AdviceId::kCount,
           {},
-          (change->picked ? "The pick of " : "The options of ") + RegisterOfImage(app) + " also stored " +
-              change->words + ". Look at these tabs before you download."};
+          change->picked
+              ? Sentence(Pattern("Advice",
+                                 "The pick of %1 also stored %2. Look at these tabs before you download."),
+                         parts)
+              : Sentence(Pattern("Advice",
+                                 "The options of %1 also stored %2. Look at these tabs before you download."),
+                         parts)};
 }
 
 Advice FirstSteps(const core::Application& app, const Observed& observed) {
   if (observed.files.Begun()) return {};
   const auto tab = changes::PlaceName(app, Place::kRemote);
-  const auto& upload = app.frmMain.CmdUpDow[controls::kUpload].caption;
+  const auto upload = OfForm(app.frmMain.CmdUpDow[controls::kUpload].caption);
   const auto* next = !app.frmMain.MSComm1.PortOpen ? "cmdConnect"
                      : app.RemoteHeld              ? "CmdUpDow(0)"
                                                    : "CmdUpDow(4)";
-  return {AdviceId::kCount,           {},  "Begin on " + tab + ": " + StepsOnRemote(app, upload) + ".",
-          AdviceAction::kGoToControl, tab, next};
+  return {AdviceId::kCount,
+          {},
+          Sentence(Pattern("Advice", "Begin on %1: %2."), {tab, StepsOnRemote(app, upload)}),
+          AdviceAction::kGoToControl,
+          tab,
+          next};
 }
 
 }  // namespace ovl::acts

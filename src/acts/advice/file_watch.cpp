@@ -51,7 +51,7 @@ void FileWatch::TakenIn(const core::Application& app) {
 
 void FileWatch::WatchOtherTabs(const core::Application& app, const image::ConfigImage& before, bool picked) {
   other_tabs_.reset();
-  auto words = app.image == before ? std::string() : changes::OtherTabsStored(app, before);
+  auto words = app.image == before ? phrases::Words() : changes::OtherTabsStored(app, before);
   if (words.empty()) return;
   other_tabs_ = TabsChange{app.image[FieldId::REGTYPE], before, std::move(words), picked};
   Add(renewed_, AdviceId::kOtherTabsChanged);

@@ -8,6 +8,7 @@
 #include "acts/advice/advice_id.h"
 #include "acts/advice/link_watch.h"
 #include "core/gate.h"
+#include "phrases/phrases.h"
 
 namespace ovl::acts {
 
@@ -15,7 +16,7 @@ namespace ovl::acts {
 struct TabsChange {
   std::string code;           // REGTYPE since then
   image::ConfigImage before;  // as it was before the pick, or as it was read
-  std::string words;          // "COMMUNICATION: PARITY NONE; EXCEPTION REPORT: OUTPUT OFF"
+  phrases::Words words;       // "COMMUNICATION: PARITY NONE; EXCEPTION REPORT: OUTPUT OFF"
   bool picked = false;        // by the installer
 };
 

@@ -7,22 +7,30 @@ namespace ovl::acts {
 namespace {
 
 using controls::LinkAction;
+using phrases::OfForm;
+using phrases::Pattern;
+using phrases::Sentence;
+using phrases::Words;
 
-constexpr const char* kSetComport = "Set Comport";
+// As long as a port is open, its button has another caption.
+Words SetComport() {
+  return OfForm("Set Comport");
+}
 
-// Why a scan passes over the answer of the unit, and what to do instead.
-constexpr const char* kDeaf =
-    ": the program takes an answer only if remote mode was held before and Disconnect ended it. ";
-constexpr const char* kChooseLine =
-    "Choose the baud rate, the data bits and the parity of the unit in Set Comport, then press SET and "
-    "Remote.";
+// What to do where a scan passes over the answer of the unit.
+Words ChooseLine() {
+  return Sentence(
+      Pattern("Advice",
+              "Choose the baud rate, the data bits and the parity of the unit in Set Comport, then press "
+              "SET and Remote."));
+}
 
 bool PortOpen(const core::Application& app) {
   return app.frmMain.MSComm1.PortOpen;
 }
 
-const std::string& Caption(const core::Application& app, LinkAction action) {
-  return app.frmMain.CmdUpDow[static_cast<std::size_t>(action)].caption;
+Words Caption(const core::Application& app, LinkAction action) {
+  return OfForm(app.frmMain.CmdUpDow[static_cast<std::size_t>(action)].caption);
 }
 
 std::string TwoDigits(int number) {
@@ -33,42 +41,66 @@ std::string At(const core::ClockTime& time) {
   return TwoDigits(time.hour) + ":" + TwoDigits(time.minute) + ":" + TwoDigits(time.second);
 }
 
-std::string Device(int comport, const std::string& device) {
-  return "Comport " + std::to_string(comport) + ", " + device + ",";
-}
-
-Advice Click(std::string words, std::string caption, std::string_view control) {
+Advice Click(Words words, Words caption, std::string_view control) {
   return {AdviceId::kCount, {}, std::move(words), AdviceAction::kClickControl, std::move(caption), control};
 }
 
-Advice ClickSetComport(std::string words) {
-  return Click(std::move(words), kSetComport, "cmdConnect");
+Advice ClickSetComport(Words words) {
+  return Click(std::move(words), SetComport(), "cmdConnect");
 }
 
-// What the unit holds after the loss.
-std::string_view LeftByLoss(LinkPhase during) {
-  switch (during) {
+// What was lost, when, and what the unit holds after it.
+Words LossText(const Loss& loss) {
+  const std::vector<Words> parts = {std::to_string(loss.comport), loss.device, At(loss.at), loss.reason};
+  switch (loss.during) {
     case LinkPhase::kScan:
-      return " during the scan. The unit is untouched.";
+      return Sentence(
+          Pattern("Advice", "Comport %1, %2, was lost at %3 (%4) during the scan. The unit is untouched."),
+          parts);
     case LinkPhase::kUpload:
-      return " during the upload. The unit is untouched, and nothing of the upload is on the tabs.";
+      return Sentence(
+          Pattern("Advice",
+                  "Comport %1, %2, was lost at %3 (%4) during the upload. The unit is untouched, and "
+                  "nothing of the upload is on the tabs."),
+          parts);
     case LinkPhase::kDownloadCommand:
-      return " before the download began. The unit holds its old configuration.";
+      return Sentence(
+          Pattern("Advice",
+                  "Comport %1, %2, was lost at %3 (%4) before the download began. The unit holds its old "
+                  "configuration."),
+          parts);
     case LinkPhase::kDownloadStream:
-      return " during the download. The unit may hold half a configuration, so download again.";
+      return Sentence(
+          Pattern("Advice",
+                  "Comport %1, %2, was lost at %3 (%4) during the download. The unit may hold half a "
+                  "configuration, so download again."),
+          parts);
     case LinkPhase::kDownloadEnd:
-      return " after the download. The unit was sent the whole configuration, but has not confirmed it.";
+      return Sentence(
+          Pattern("Advice",
+                  "Comport %1, %2, was lost at %3 (%4) after the download. The unit was sent the whole "
+                  "configuration, but has not confirmed it."),
+          parts);
     case LinkPhase::kSetTime:
-      return " while the clock was set. The unit may have the new time.";
+      return Sentence(
+          Pattern("Advice",
+                  "Comport %1, %2, was lost at %3 (%4) while the clock was set. The unit may have the "
+                  "new time."),
+          parts);
     case LinkPhase::kMasterReset:
-      return " during the master reset. The unit may be at its factory settings.";
+      return Sentence(
+          Pattern("Advice",
+                  "Comport %1, %2, was lost at %3 (%4) during the master reset. The unit may be at its "
+                  "factory settings."),
+          parts);
     default:
-      return ". The unit is untouched.";
+      return Sentence(Pattern("Advice", "Comport %1, %2, was lost at %3 (%4). The unit is untouched."),
+                      parts);
   }
 }
 
 // The transfer to repeat; empty if there was none.
-std::string ToRepeat(const core::Application& app, LinkPhase during) {
+Words ToRepeat(const core::Application& app, LinkPhase during) {
   switch (during) {
     case LinkPhase::kUpload:
       return Caption(app, LinkAction::kUpload);
@@ -80,126 +112,135 @@ std::string ToRepeat(const core::Application& app, LinkPhase during) {
   }
 }
 
-std::string Reconnect(const core::Application& app, const std::string& last) {
-  std::string steps = std::string(kSetComport) + ", " + app.frmSettSR.cmdSET.caption + ", " +
-                      Caption(app, LinkAction::kRemote);
-  if (!last.empty()) steps += ", " + last;
-  return steps + ".";
+// "Set Comport, SET, Remote"
+Words Followed(const Words& steps, const Words& next) {
+  if (steps.empty() || next.empty()) return steps.empty() ? next : steps;
+  return Sentence(Pattern("List", "%1, %2"), {steps, next});
+}
+
+Words Reconnect(const core::Application& app, const Words& first, const Words& last) {
+  auto steps = Followed(first, SetComport());
+  steps = Followed(steps, OfForm(app.frmSettSR.cmdSET.caption));
+  return Followed(Followed(steps, Caption(app, LinkAction::kRemote)), last);
 }
 
 // What cures the failure.
-std::string CureOf(const Refusal& refusal) {
-  struct Cure {
-    std::errc error;
-    const char* words;
-  };
-  constexpr std::array kCures = {
-      Cure{
-          std::errc::permission_denied,
-          "Only root and the group of the device, mostly dialout, may use it. As root: adduser NAME dialout; "
-          "then log in again."},
-      Cure{std::errc::no_such_file_or_directory,
-           "Plug the adapter in, choose the comport of another device, or set the link ports/com%1 in the "
-           "program folder."},
-      Cure{std::errc::no_such_device,
-           "The device is not there: plug the adapter in, or choose the comport of another device."},
-      Cure{std::errc::no_such_device_or_address,
-           "No hardware is behind this name: choose the comport of another device."},
-      Cure{std::errc::io_error, "No hardware is behind this name: choose the comport of another device."},
-      Cure{std::errc::device_or_resource_busy, "Another program uses the device: close it."},
-      Cure{std::errc::invalid_argument,
-           "The device cannot use %2: choose another baud rate, or data bits and parity."},
-  };
-  for (const auto& cure : kCures) {
-    if (!refusal.reason.Is(cure.error)) continue;
-    std::string words = cure.words;
-    if (const auto place = words.find("%1"); place != std::string::npos)
-      words.replace(place, 2, std::to_string(refusal.comport));
-    if (const auto place = words.find("%2"); place != std::string::npos)
-      words.replace(place, 2, refusal.settings);
-    return words;
-  }
-  return "Choose another comport, or check the device.";
+Words CureOf(const Refusal& refusal) {
+  const auto& reason = refusal.reason;
+  if (reason.Is(std::errc::permission_denied))
+    return Sentence(
+        Pattern("Advice",
+                "Only root and the group of the device, mostly dialout, may use it. As root: adduser NAME "
+                "dialout; then log in again."));
+  if (reason.Is(std::errc::no_such_file_or_directory))
+    return Sentence(
+        Pattern("Advice",
+                "Plug the adapter in, choose the comport of another device, or set the link ports/com%1 "
+                "in the program folder."),
+        {std::to_string(refusal.comport)});
+  if (reason.Is(std::errc::no_such_device))
+    return Sentence(Pattern(
+        "Advice", "The device is not there: plug the adapter in, or choose the comport of another device."));
+  if (reason.Is(std::errc::no_such_device_or_address) || reason.Is(std::errc::io_error))
+    return Sentence(
+        Pattern("Advice", "No hardware is behind this name: choose the comport of another device."));
+  if (reason.Is(std::errc::device_or_resource_busy))
+    return Sentence(Pattern("Advice", "Another program uses the device: close it."));
+  if (reason.Is(std::errc::invalid_argument))
+    return Sentence(
+        Pattern("Advice", "The device cannot use %1: choose another baud rate, or data bits and parity."),
+        {refusal.settings});
+  return Sentence(Pattern("Advice", "Choose another comport, or check the device."));
 }
 
-// The data bits and the parity with which the port was scanned, such as "8 Bits and parity NONE".
-std::string LineOfScan(const core::Application& app) {
+// The data bits and the parity with which the port was scanned.
+std::vector<Words> LineOfScan(const core::Application& app) {
   const auto& dialog = app.frmSettSR;
   const auto& parities = dialog.OpParity.elements;
   const auto& bits = dialog.OpDataBits.elements;
-  const auto parity = app.PortParity == "O" ? parities[1] : app.PortParity == "E" ? parities[2] : parities[0];
-  return (app.PortDataBits == "7" ? bits[0] : bits[1]).caption + " and parity " + parity.caption;
+  const auto& parity = app.PortParity == "O"   ? parities[1]
+                       : app.PortParity == "E" ? parities[2]
+                                               : parities[0];
+  return {OfForm((app.PortDataBits == "7" ? bits[0] : bits[1]).caption), OfForm(parity.caption)};
 }
 
 // Words with the next of the steps on REMOTE as their action.
-Advice OnRemote(const core::Application& app, std::string words) {
+Advice OnRemote(const core::Application& app, Words words) {
   if (!PortOpen(app)) return ClickSetComport(std::move(words));
   if (!app.RemoteHeld) return Click(std::move(words), Caption(app, LinkAction::kRemote), "CmdUpDow(4)");
   return {AdviceId::kCount, {}, std::move(words)};
 }
 
 // While a window holds the main form, the program cannot be ended either.
-Advice RestartAdvice(const core::Application& app, std::string words) {
+Advice RestartAdvice(const core::Application& app, Words words) {
   if (!app.frmMain.form.enabled) return {AdviceId::kCount, {}, std::move(words)};
-  return {AdviceId::kCount, {}, std::move(words), AdviceAction::kRestart, "Restart"};
+  return {
+      AdviceId::kCount, {}, std::move(words), AdviceAction::kRestart, Sentence(Pattern("Advice", "Restart"))};
 }
 
 }  // namespace
 
-std::string StepsOnRemote(const core::Application& app, const std::string& last) {
-  std::string steps;
-  if (!PortOpen(app)) steps += std::string(kSetComport) + ", ";
-  if (!app.RemoteHeld) steps += Caption(app, LinkAction::kRemote) + ", ";
-  return steps + last;
+Words StepsOnRemote(const core::Application& app, const Words& last) {
+  Words steps;
+  if (!PortOpen(app)) steps = SetComport();
+  if (!app.RemoteHeld) steps = Followed(steps, Caption(app, LinkAction::kRemote));
+  return Followed(steps, last);
 }
 
 Advice UploadBroke(const core::Application& app, const Observed& observed) {
   if (!observed.link.UploadBroke()) return {};
   return RestartAdvice(
       app,
-      "An upload broke off. What had arrived is still ahead of the next upload and would be read in its "
-      "place. Restart the program before you upload again.");
+      Sentence(Pattern("Advice",
+                       "An upload broke off. What had arrived is still ahead of the next upload and would be "
+                       "read in its place. Restart the program before you upload again.")));
 }
 
 Advice UploadMixed(const core::Application& app, const Observed& observed) {
   if (!observed.link.UploadMixedIn(app)) return {};
   return RestartAdvice(
-      app,
-      "The tabs show a mixture: the beginning is from an upload that broke off, the rest from the last "
-      "one. Do not download it. Restart the program, which drops the mixture, and upload again.");
+      app, Sentence(Pattern(
+               "Advice",
+               "The tabs show a mixture: the beginning is from an upload that broke off, the rest from "
+               "the last one. Do not download it. Restart the program, which drops the mixture, and "
+               "upload again.")));
 }
 
 Advice DeviceLost(const core::Application& app, const Observed& observed) {
   const auto& loss = observed.link.Lost();
   if (!loss) return {};
-  auto words =
-      Device(loss->comport, loss->device) + " was lost at " + At(loss->at) + " (" + loss->reason + ")";
-  words += LeftByLoss(loss->during);
   const bool begun = observed.link.UploadBroke() || app.FrameState != 0;
   const bool restart = begun && loss->during == LinkPhase::kUpload;
-  words += std::string(" Plug the device in again") + (restart ? " and restart the program" : "") +
-           ". Then press ";
-  const auto last = ToRepeat(app, loss->during);
+  const auto words = [&](const Words& first) {
+    const std::vector<Words> parts = {LossText(*loss), Reconnect(app, first, ToRepeat(app, loss->during))};
+    return restart ? Sentence(Pattern("Advice",
+                                      "%1 Plug the device in again and restart the program. Then press %2."),
+                              parts)
+                   : Sentence(Pattern("Advice", "%1 Plug the device in again. Then press %2."), parts);
+  };
   if (app.ScanActive) {
-    const auto& cancel = app.frmScanBProgress.Command1.caption;
-    return Click(words + cancel + ", " + Reconnect(app, last), cancel, "frmScanBProgress.Command1");
+    const auto cancel = OfForm(app.frmScanBProgress.Command1.caption);
+    return Click(words(cancel), cancel, "frmScanBProgress.Command1");
   }
-  if (!PortOpen(app)) return ClickSetComport(words + Reconnect(app, last));
-  const auto& disconnect = app.frmMain.cmdDisConnect.caption;
-  return Click(words + disconnect + ", " + Reconnect(app, last), disconnect, "cmdDisConnect");
+  if (!PortOpen(app)) return ClickSetComport(words({}));
+  const auto disconnect = OfForm(app.frmMain.cmdDisConnect.caption);
+  return Click(words(disconnect), disconnect, "cmdDisConnect");
 }
 
-std::string EndOf(const BrokenDownload& broken) {
+Pattern EndOf(const BrokenDownload& broken) {
   switch (broken.sent) {
     case BrokenDownload::Sent::kNothing:
-      return "The download of " + At(broken.at) +
-             " did not begin. The unit holds its old configuration. To try again: ";
+      return Pattern("Advice",
+                     "The download of %1 did not begin. The unit holds its old configuration. To try again: "
+                     "%2.");
     case BrokenDownload::Sent::kPart:
-      return "A download broke off at " + At(broken.at) +
-             ". The unit may hold half a configuration, so download again: ";
+      return Pattern("Advice",
+                     "A download broke off at %1. The unit may hold half a configuration, so download again: "
+                     "%2.");
     default:
-      return "The unit has not confirmed the download of " + At(broken.at) +
-             ". It may hold another configuration, so download again: ";
+      return Pattern("Advice",
+                     "The unit has not confirmed the download of %1. It may hold another configuration, so "
+                     "download again: %2.");
   }
 }
 
@@ -210,32 +251,44 @@ Advice DownloadBroke(const core::Application& app, const Observed& observed) {
   const bool shown = loss && loss->during == LinkPhase::kDownloadStream;
   const bool waits = PhaseOf(app) == LinkPhase::kDownloadCommand && app.frmMain.Timer_Operating.enabled;
   if (!broken || shown || waits || app.DownloadActive) return {};
-  return OnRemote(app, EndOf(*broken) + StepsOnRemote(app, Caption(app, LinkAction::kDownload)) + ".");
+  const std::vector<Words> parts = {At(broken->at), StepsOnRemote(app, Caption(app, LinkAction::kDownload))};
+  return OnRemote(app, Sentence(EndOf(*broken), parts));
 }
 
 Advice PortRefused(const core::Application&, const Observed& observed) {
   const auto& refusal = observed.link.Refused();
   if (!refusal) return {};
-  return ClickSetComport(Device(refusal->comport, refusal->reason.Subject()) +
-                         " did not open: " + refusal->reason.what() + ". " + CureOf(*refusal));
+  return ClickSetComport(Sentence(Pattern("Advice", "Comport %1, %2, did not open: %3. %4"),
+                                  {std::to_string(refusal->comport), refusal->reason.Subject(),
+                                   std::string(refusal->reason.what()), CureOf(*refusal)}));
 }
 
 Advice ScanCannotHear(const core::Application& app, const Observed&) {
   if (!app.ScanActive || app.LinkMode == core::kLinkRemote) return {};
-  const auto& cancel = app.frmScanBProgress.Command1.caption;
-  return Click(std::string("This scan cannot find the unit") + kDeaf + "Press " + cancel + ". " + kChooseLine,
-               cancel, "frmScanBProgress.Command1");
+  const auto cancel = OfForm(app.frmScanBProgress.Command1.caption);
+  return Click(
+      Sentence(Pattern("Advice",
+                       "This scan cannot find the unit: the program takes an answer only if remote mode was "
+                       "held before and Disconnect ended it. Press %1. %2"),
+               {cancel, ChooseLine()}),
+      cancel, "frmScanBProgress.Command1");
 }
 
 Advice ScanFoundNothing(const core::Application& app, const Observed& observed) {
   const auto& scan = observed.link.Scan();
   if (!scan || app.ScanActive) return {};
   if (!scan->could_hear)
-    return ClickSetComport(std::string("The scan could not find the unit") + kDeaf + kChooseLine);
-  return ClickSetComport(
-      "No unit answered the scan, which tried every baud rate with " + LineOfScan(app) +
-      ". Check the cable and the power of the unit. If the unit has other data bits or another "
-      "parity, choose them in Set Comport and scan again.");
+    return ClickSetComport(Sentence(
+        Pattern("Advice",
+                "The scan could not find the unit: the program takes an answer only if remote mode was held "
+                "before and Disconnect ended it. %1"),
+        {ChooseLine()}));
+  return ClickSetComport(Sentence(
+      Pattern("Advice",
+              "No unit answered the scan, which tried every baud rate with %1 and parity %2. Check the cable "
+              "and the power of the unit. If the unit has other data bits or another parity, choose them in "
+              "Set Comport and scan again."),
+      LineOfScan(app)));
 }
 
 }  // namespace ovl::acts

@@ -15,6 +15,6 @@ Advice ScanFoundNothing(const core::Application& app, const Observed& observed);
 
 // What to press on REMOTE until the unit obeys, without the steps that are done: "Set Comport, Remote". It
 // ends with the caption of `last`, if any.
-std::string StepsOnRemote(const core::Application& app, const std::string& last);
+phrases::Words StepsOnRemote(const core::Application& app, const phrases::Words& last);
 
 }  // namespace ovl::acts

@@ -10,14 +10,15 @@ namespace ovl::acts {
 namespace {
 
 using enum image::FieldId;
-using checks::Listed;
-using checks::Numbered;
+using phrases::OfForm;
+using phrases::Pattern;
+using phrases::Sentence;
+using phrases::Words;
 
 // An action that shows the first of the exceptions or alarms that the line names.
 constexpr std::string_view kExceptionList = "ComboExcp(0)";
 constexpr std::string_view kAlarmList = "ComboALM(0)";
-Advice GoTo(std::string words, std::string caption, std::string_view control, std::string_view list,
-            int number) {
+Advice GoTo(Words words, Words caption, std::string_view control, std::string_view list, int number) {
   return {AdviceId::kCount,
           {},
           std::move(words),
@@ -37,28 +38,33 @@ Advice RangeOrder(const core::Application& app, const Observed&) {
       numbers.push_back(number);
   }
   if (numbers.empty()) return {};
-  const auto& button = app.frmMain.cmdSetRange.caption;
-  return GoTo("In the range of " + Numbered("exception", numbers) +
-                  " the first value is above the second. Check it with " + button + ".",
-              button, "cmdSetRange", kExceptionList, numbers.front());
+  const auto button = OfForm(app.frmMain.cmdSetRange.caption);
+  return GoTo(
+      Sentence(Pattern("Advice", "In the range of %1 the first value is above the second. Check it with %2."),
+               {checks::NumberedExceptions(numbers), button}),
+      button, "cmdSetRange", kExceptionList, numbers.front());
 }
 
 Advice AlarmWithoutException(const core::Application& app, const Observed&) {
   const auto& triggers = app.frmMain.ComboALM[controls::Alm::kTrigger];
-  std::vector<std::string> alarms;
+  std::vector<Words> alarms;
   int first = 0;
   for (int number = 1; number <= image::kAlarms; ++number) {
     const int trigger = image::AlarmTrigger(app.image.at(ALMSTRUCT_BAK, number));
     if (!checks::WaitsForFreeExceptions(app.image, trigger)) continue;
     if (first == 0) first = number;
-    alarms.push_back(std::to_string(number) + " (" + triggers.items.at(static_cast<std::size_t>(trigger)) +
-                     ")");
+    alarms.push_back(
+        Sentence(Pattern("List", "%1 (%2)"),
+                 {std::to_string(number), OfForm(triggers.items.at(static_cast<std::size_t>(trigger)))}));
   }
   if (alarms.empty()) return {};
-  return GoTo("Free exceptions trigger " + Numbered("alarm", alarms) +
-                  ", so nothing sets off such an alarm. Give the exceptions a text, or pick another " +
-                  triggers.caption + ".",
-              triggers.caption, "ComboALM(1)", kAlarmList, first);
+  const auto caption = OfForm(triggers.caption);
+  return GoTo(
+      Sentence(Pattern("Advice",
+                       "Free exceptions trigger %1, so nothing sets off such an alarm. Give the exceptions a "
+                       "text, or pick another %2."),
+               {checks::NumberedAlarms(alarms, alarms.size()), caption}),
+      caption, "ComboALM(1)", kAlarmList, first);
 }
 
 Advice BlankText(const core::Application& app, const Observed&) {
@@ -71,16 +77,20 @@ Advice BlankText(const core::Application& app, const Observed&) {
     if (checks::IsBlankTrigger(app.image.at(TRIGGER_TEXT, number))) alarms.push_back(number);
   }
   if (exceptions.empty() && alarms.empty()) return {};
-  std::vector<std::string> texts;
-  if (!exceptions.empty()) texts.push_back(Numbered("exception", exceptions));
-  if (!alarms.empty()) texts.push_back("the trigger text of " + Numbered("alarm", alarms));
+  std::vector<Words> texts;
+  if (!exceptions.empty()) texts.push_back(checks::NumberedExceptions(exceptions));
+  if (!alarms.empty())
+    texts.push_back(Sentence(Pattern("Advice", "the trigger text of %1"), {checks::NumberedAlarms(alarms)}));
   const bool of_exception = !exceptions.empty();
   const auto& button = of_exception ? app.frmMain.cmdSetExcpstr : app.frmMain.cmdSetTrigger;
-  return GoTo("The text is empty or only blanks: " + Listed(texts) +
-                  ". Such a text never matches and shows nothing. Enter one with " + button.caption +
-                  ", or switch its actions and its operator off.",
-              button.caption, of_exception ? "cmdSetExcpstr" : "cmdSetTrigger",
-              of_exception ? kExceptionList : kAlarmList, of_exception ? exceptions.front() : alarms.front());
+  const auto caption = OfForm(button.caption);
+  return GoTo(
+      Sentence(Pattern("Advice",
+                       "The text is empty or only blanks: %1. Such a text never matches and shows nothing. "
+                       "Enter one with %2, or switch its actions and its operator off."),
+               {phrases::Listed(texts), caption}),
+      caption, of_exception ? "cmdSetExcpstr" : "cmdSetTrigger", of_exception ? kExceptionList : kAlarmList,
+      of_exception ? exceptions.front() : alarms.front());
 }
 
 }  // namespace ovl::acts

@@ -4,11 +4,15 @@
 
 #include "core/actions.h"
 #include "image/slot_records.h"
+#include "phrases/phrases.h"
 
 namespace ovl::panels {
 namespace {
 
-constexpr std::array kCaptions = {"ALARM TRIGGER SETUP", "EXCEPTION SETUP", "TITLE SETUP"};
+using phrases::Marked;
+
+constexpr std::array kCaptions = {Marked("Form", "ALARM TRIGGER SETUP"), Marked("Form", "EXCEPTION SETUP"),
+                                  Marked("Form", "TITLE SETUP")};
 
 controls::TextBox& TargetOf(core::Application& app) {
   auto& form = app.frmMain;

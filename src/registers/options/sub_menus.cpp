@@ -4,6 +4,7 @@
 #include <array>
 
 #include "core/actions.h"
+#include "phrases/phrases.h"
 
 namespace ovl::registers {
 namespace {
@@ -103,7 +104,7 @@ bool ArrangeCasioSubmenu(core::Application& app, int element) {
   auto& form = app.FrmSubMenu;
   const auto model = ModelOf(kCasioModels, element);
   app.frmMain.Command1.enabled = model != kCasioModels.end();
-  form.form.caption = "CASIO SUBMENU";
+  form.form.caption = phrases::Marked("Form", "CASIO SUBMENU");
   const int port = codecs::HexToInt(app.image[REGTYPE_EXT1]);
   if (!ChooseElement(app, form.F1OP, port)) form.F1OP.chosen = -1;
   ShowMode(app);
@@ -122,7 +123,7 @@ bool ArrangeSharpSubmenu(core::Application& app, int element) {
   auto& form = app.FrmSubMenu;
   const auto model = ModelOf(kSharpModels, element);
   app.frmMain.SharpCom.enabled = model != kSharpModels.end();
-  form.form.caption = "SHARP SUBMENU";
+  form.form.caption = phrases::Marked("Form", "SHARP SUBMENU");
   if (model == kSharpModels.end()) return false;
 
   HideFrames(form);
@@ -140,7 +141,7 @@ bool ArrangeTecSubmenu(core::Application& app, int element) {
   auto& form = app.FrmSubMenu;
   const bool has_menu = element == kTecSlipPrinter;
   app.frmMain.Command2.enabled = has_menu;
-  form.form.caption = "TEC SUBMENU";
+  form.form.caption = phrases::Marked("Form", "TEC SUBMENU");
   if (!has_menu) return false;
 
   HideFrames(form);

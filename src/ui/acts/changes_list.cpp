@@ -1,5 +1,6 @@
 #include "ui/acts/changes_list.h"
 
+#include <QCoreApplication>
 #include <QHeaderView>
 
 namespace ovl::ui {
@@ -29,8 +30,12 @@ QStringList CellsOf(const changes::SettingChange& row) {
 }  // namespace
 
 ChangesList::ChangesList(QWidget* parent)
-    : SettingList({QStringLiteral("Setting"), QStringLiteral("Before"), QStringLiteral("Now"),
-                   QStringLiteral("Bytes"), QStringLiteral("Bytes before"), QStringLiteral("Bytes now")},
+    : SettingList({QCoreApplication::translate("ChangesWindow", "Setting"),
+                   QCoreApplication::translate("ChangesWindow", "Before"),
+                   QCoreApplication::translate("ChangesWindow", "Now"),
+                   QCoreApplication::translate("ChangesWindow", "Bytes"),
+                   QCoreApplication::translate("ChangesWindow", "Bytes before"),
+                   QCoreApplication::translate("ChangesWindow", "Bytes now")},
                   parent) {
   ShowBytes(false);
 }

@@ -1,5 +1,6 @@
 #include "ui/acts/checks_window.h"
 
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
@@ -12,11 +13,11 @@ constexpr int kIdleTime = 200;
 QString GroupOf(checks::Severity severity) {
   switch (severity) {
     case checks::Severity::kError:
-      return QStringLiteral("Errors");
+      return QCoreApplication::translate("ChecksWindow", "Errors");
     case checks::Severity::kWarning:
-      return QStringLiteral("Warnings");
+      return QCoreApplication::translate("ChecksWindow", "Warnings");
     default:
-      return QStringLiteral("Notes");
+      return QCoreApplication::translate("ChecksWindow", "Notes");
   }
 }
 
@@ -27,11 +28,26 @@ SettingRow RowOf(const checks::Finding& finding) {
           {finding.tab, finding.control, finding.list, finding.slot}};
 }
 
+QString CountText(checks::Severity severity, std::size_t findings) {
+  const int count = static_cast<int>(findings);
+  switch (severity) {
+    case checks::Severity::kError:
+      return count == 1 ? QCoreApplication::translate("ChecksWindow", "%n error", nullptr, count)
+                        : QCoreApplication::translate("ChecksWindow", "%n errors", nullptr, count);
+    case checks::Severity::kWarning:
+      return count == 1 ? QCoreApplication::translate("ChecksWindow", "%n warning", nullptr, count)
+                        : QCoreApplication::translate("ChecksWindow", "%n warnings", nullptr, count);
+    default:
+      return count == 1 ? QCoreApplication::translate("ChecksWindow", "%n note", nullptr, count)
+                        : QCoreApplication::translate("ChecksWindow", "%n notes", nullptr, count);
+  }
+}
+
 // "1 error, 2 warnings"; kinds without a finding are left out.
-QString WordsOf(const std::vector<std::pair<std::size_t, QString>>& counts) {
+QString WordsOf(const std::vector<std::pair<std::size_t, checks::Severity>>& counts) {
   QStringList words;
-  for (const auto& [count, one] : counts) {
-    if (count > 0) words.append(CountOf(count, one));
+  for (const auto& [count, severity] : counts) {
+    if (count > 0) words.append(CountText(severity, count));
   }
   return words.join(QStringLiteral(", "));
 }
@@ -39,9 +55,11 @@ QString WordsOf(const std::vector<std::pair<std::size_t, QString>>& counts) {
 }  // namespace
 
 ChecksWindow::ChecksWindow(Bindings& bindings, QWidget* parent)
-    : SettingWindow(bindings, QStringLiteral("Checks"), parent),
+    : SettingWindow(bindings, QStringLiteral("Checks"), QCoreApplication::translate("ChecksWindow", "Checks"),
+                    parent),
       button_(StatusButton(*this, QStringLiteral("StatusChecks"),
-                           QStringLiteral("Shows what to look at in the configuration (Ctrl+K)"))) {
+                           QCoreApplication::translate(
+                               "ChecksWindow", "Shows what to look at in the configuration (Ctrl+K)"))) {
   button_->hide();
   due_.setSingleShot(true);
   due_.setInterval(kIdleTime);
@@ -55,8 +73,9 @@ ChecksWindow::ChecksWindow(Bindings& bindings, QWidget* parent)
 }
 
 void ChecksWindow::Build() {
-  list_ = new SettingList({QStringLiteral("Setting"), QStringLiteral("Finding")});
-  list_->setAccessibleName(QStringLiteral("Findings"));
+  list_ = new SettingList({QCoreApplication::translate("ChecksWindow", "Setting"),
+                           QCoreApplication::translate("ChecksWindow", "Finding")});
+  list_->setAccessibleName(QCoreApplication::translate("ChecksWindow", "Findings"));
   list_->header()->setSectionResizeMode(1, QHeaderView::Stretch);
   BuildAround(*list_);
 }
@@ -85,19 +104,22 @@ void ChecksWindow::Refresh() {
 void ChecksWindow::ShowCount() {
   const auto count = checks::CountOf(findings_);
   button_->setText(
-      WordsOf({{count.errors, QStringLiteral("error")}, {count.warnings, QStringLiteral("warning")}}));
+      WordsOf({{count.errors, checks::Severity::kError}, {count.warnings, checks::Severity::kWarning}}));
   button_->setAccessibleName(button_->text());
   button_->setVisible(count.errors + count.warnings > 0);
 }
 
 void ChecksWindow::Fill() {
   const auto count = checks::CountOf(findings_);
-  const auto words = WordsOf({{count.errors, QStringLiteral("error")},
-                              {count.warnings, QStringLiteral("warning")},
-                              {count.notes, QStringLiteral("note")}});
-  Summary().setText(words.isEmpty()
-                        ? QStringLiteral("The checks found nothing to look at in this configuration.")
-                        : QStringLiteral("The checks found %1 in this configuration.").arg(words));
+  const auto words = WordsOf({{count.errors, checks::Severity::kError},
+                              {count.warnings, checks::Severity::kWarning},
+                              {count.notes, checks::Severity::kNote}});
+  Summary().setText(
+      words.isEmpty()
+          ? QCoreApplication::translate("ChecksWindow",
+                                        "The checks found nothing to look at in this configuration.")
+          : QCoreApplication::translate("ChecksWindow", "The checks found %1 in this configuration.")
+                .arg(words));
   std::vector<SettingRow> rows;
   for (const auto& finding : findings_) rows.push_back(RowOf(finding));
   list_->ShowRows(std::move(rows));

@@ -1,5 +1,6 @@
 #include "ui/acts/copy_slot_window.h"
 
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -21,6 +22,18 @@ bool IsAlarm(acts::SlotKind kind) {
   return kind == acts::SlotKind::kAlarm;
 }
 
+QString ItselfText(acts::SlotKind kind) {
+  return IsAlarm(kind)
+             ? QCoreApplication::translate("CopySlotWindow", "This is the alarm itself. Pick another number.")
+             : QCoreApplication::translate("CopySlotWindow",
+                                           "This is the exception itself. Pick another number.");
+}
+
+QString NoneInUseText(acts::SlotKind kind) {
+  return IsAlarm(kind) ? QCoreApplication::translate("CopySlotWindow", "No alarm in use is overwritten.")
+                       : QCoreApplication::translate("CopySlotWindow", "No exception in use is overwritten.");
+}
+
 }  // namespace
 
 CopySlotWindow::CopySlotWindow(const Bindings& bindings, acts::SlotKind kind, QWidget* parent)
@@ -28,12 +41,13 @@ CopySlotWindow::CopySlotWindow(const Bindings& bindings, acts::SlotKind kind, QW
       bindings_(bindings),
       kind_(kind),
       from_(acts::SlotList(bindings.Model(), kind).position + 1),
-      first_(MakeNumber("CopyFirst", QStringLiteral("First target"))),
-      last_(MakeNumber("CopyLast", QStringLiteral("Last target"))),
+      first_(MakeNumber("CopyFirst", QCoreApplication::translate("CopySlotWindow", "First target"))),
+      last_(MakeNumber("CopyLast", QCoreApplication::translate("CopySlotWindow", "Last target"))),
       effect_(new QLabel),
-      copy_(new QPushButton(QStringLiteral("Copy"))) {
+      copy_(new QPushButton(QCoreApplication::translate("CopySlotWindow", "Copy"))) {
   setObjectName(IsAlarm(kind) ? QStringLiteral("CopyAlarm") : QStringLiteral("CopyException"));
-  setWindowTitle(IsAlarm(kind) ? QStringLiteral("Copy alarm") : QStringLiteral("Copy exception"));
+  setWindowTitle(IsAlarm(kind) ? QCoreApplication::translate("CopySlotWindow", "Copy alarm")
+                               : QCoreApplication::translate("CopySlotWindow", "Copy exception"));
   setWindowModality(Qt::WindowModal);
   setAttribute(Qt::WA_DeleteOnClose);
   StayOnScreen(*this);
@@ -52,13 +66,13 @@ CopySlotWindow::CopySlotWindow(const Bindings& bindings, acts::SlotKind kind, QW
 }
 
 void CopySlotWindow::LayOut() {
-  const auto source =
-      IsAlarm(kind_) ? QStringLiteral("Copy alarm %1 to") : QStringLiteral("Copy exception %1 to");
+  const auto source = IsAlarm(kind_) ? QCoreApplication::translate("CopySlotWindow", "Copy alarm %1 to")
+                                     : QCoreApplication::translate("CopySlotWindow", "Copy exception %1 to");
   auto* numbers = new QHBoxLayout;
   numbers->setSpacing(kFieldGap);
   numbers->addWidget(new QLabel(source.arg(from_)));
   numbers->addWidget(first_);
-  numbers->addWidget(new QLabel(QStringLiteral("up to")));
+  numbers->addWidget(new QLabel(QCoreApplication::translate("CopySlotWindow", "up to")));
   numbers->addWidget(last_);
   numbers->addStretch(1);
   effect_->setObjectName(QStringLiteral("CopyEffect"));
@@ -97,23 +111,21 @@ acts::SlotCopy CopySlotWindow::Wanted() const {
 void CopySlotWindow::ShowEffect() {
   const auto wanted = Wanted();
   const bool only_itself = wanted.first == from_ && wanted.last == from_;
-  const auto warning = host::FromWindows1252(acts::OverwriteWarning(bindings_.Model(), wanted));
-  const auto what = IsAlarm(kind_) ? QStringLiteral("alarm") : QStringLiteral("exception");
-  effect_->setText(only_itself ? QStringLiteral("This is the %1 itself. Pick another number.").arg(what)
-                   : warning.isEmpty() ? QStringLiteral("No %1 in use is overwritten.").arg(what)
-                                       : warning);
+  const auto warning = Shown(acts::OverwriteWarning(bindings_.Model(), wanted));
+  effect_->setText(only_itself ? ItselfText(kind_) : warning.isEmpty() ? NoneInUseText(kind_) : warning);
   copy_->setEnabled(!only_itself);
 }
 
 void CopySlotWindow::Copy() {
   auto& app = bindings_.Model();
   const auto wanted = Wanted();
-  const auto* name = IsAlarm(kind_) ? "Copy alarm" : "Copy exception";
-  if (acts::CanCopySlot(app, wanted) &&
-      bindings_.RunOwn(name, [&] { acts::CopySlot(app, wanted); }) == core::Outcome::kDone) {
+  if (acts::CanCopySlot(app, wanted) && bindings_.RunOwn(acts::NameOfCopy(kind_), [&] {
+        acts::CopySlot(app, wanted);
+      }) == core::Outcome::kDone) {
     return accept();
   }
-  effect_->setText(QStringLiteral("Nothing was copied, because another window is open. Close it first."));
+  effect_->setText(QCoreApplication::translate(
+      "CopySlotWindow", "Nothing was copied, because another window is open. Close it first."));
 }
 
 void OpenCopySlotWindow(const Bindings& bindings, acts::SlotKind kind, QWidget& parent) {
@@ -123,11 +135,14 @@ void OpenCopySlotWindow(const Bindings& bindings, acts::SlotKind kind, QWidget& 
 }
 
 QPushButton* BuildCopySlotButton(const Bindings& bindings, acts::SlotKind kind) {
-  auto* button = new QPushButton(QStringLiteral("Copy to..."));
+  auto* button = new QPushButton(QCoreApplication::translate("CopySlotWindow", "Copy to..."));
   button->setObjectName(IsAlarm(kind) ? QStringLiteral("CopyAlarmTo") : QStringLiteral("CopyExceptionTo"));
-  button->setToolTip(IsAlarm(kind) ? QStringLiteral("Copies the shown alarm to other numbers")
-                                   : QStringLiteral("Copies the shown exception to other numbers"));
-  button->setAccessibleName(IsAlarm(kind) ? QStringLiteral("Copy alarm") : QStringLiteral("Copy exception"));
+  button->setToolTip(
+      IsAlarm(kind)
+          ? QCoreApplication::translate("CopySlotWindow", "Copies the shown alarm to other numbers")
+          : QCoreApplication::translate("CopySlotWindow", "Copies the shown exception to other numbers"));
+  button->setAccessibleName(IsAlarm(kind) ? QCoreApplication::translate("CopySlotWindow", "Copy alarm")
+                                          : QCoreApplication::translate("CopySlotWindow", "Copy exception"));
   button->setProperty(kReachedByMenu, true);
   button->setAutoDefault(false);
   QObject::connect(button, &QPushButton::clicked, button,
@@ -139,8 +154,8 @@ void AddCopySlotItems(const Bindings& bindings, QMenu& menu, QWidget& window) {
   const auto add = [&](const QString& text, acts::SlotKind kind) {
     menu.addAction(text, &window, [&bindings, kind, &window] { OpenCopySlotWindow(bindings, kind, window); });
   };
-  add(QStringLiteral("Copy Exception..."), acts::SlotKind::kException);
-  add(QStringLiteral("Copy Alarm..."), acts::SlotKind::kAlarm);
+  add(QCoreApplication::translate("CopySlotWindow", "Copy Exception..."), acts::SlotKind::kException);
+  add(QCoreApplication::translate("CopySlotWindow", "Copy Alarm..."), acts::SlotKind::kAlarm);
 }
 
 }  // namespace ovl::ui

@@ -27,10 +27,10 @@ QString KeyOf(const SettingRow& row) {
 
 }  // namespace
 
-QString PrintableText(const std::string& words) {
+QString PrintableText(const phrases::Words& words) {
   constexpr char16_t kFirstSign = 0x2400;
   constexpr char16_t kDelete = 0x7F, kDeleteSign = 0x2421;
-  auto text = host::FromWindows1252(words);
+  auto text = Shown(words);
   for (auto& letter : text) {
     if (letter.unicode() < u' ') letter = QChar(kFirstSign + letter.unicode());
     if (letter.unicode() == kDelete) letter = QChar(kDeleteSign);

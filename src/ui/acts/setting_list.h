@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "ui/language/model_texts.h"
+
 namespace ovl::ui {
 
 // Where a row leads. Without a control it leads nowhere.
@@ -24,7 +26,7 @@ struct SettingRow {
 };
 
 // The text with visible signs in place of the control characters of a stored text.
-QString PrintableText(const std::string& words);
+QString PrintableText(const phrases::Words& words);
 
 class SettingList : public QTreeWidget {
  public:

@@ -1,5 +1,6 @@
 #include "ui/acts/setting_window.h"
 
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -26,10 +27,10 @@ void ScrollTo(QWidget& widget) {
 
 }  // namespace
 
-SettingWindow::SettingWindow(Bindings& bindings, const QString& name, QWidget* parent)
+SettingWindow::SettingWindow(Bindings& bindings, const QString& name, const QString& title, QWidget* parent)
     : QDialog(parent), bindings_(bindings) {
   setObjectName(name);
-  setWindowTitle(name);
+  setWindowTitle(title);
   resize(QSize(kStartWidth, kStartHeight).boundedTo(screen()->availableSize()));
   StayOnScreen(*this);
 }
@@ -39,14 +40,16 @@ void SettingWindow::BuildAround(SettingList& list, QWidget* beside) {
   summary_->setWordWrap(true);
   list_ = &list;
   list.setObjectName(objectName() + QStringLiteral("List"));
-  list.setAccessibleDescription(QStringLiteral("Enter goes to the control. Ctrl+C copies the rows."));
+  list.setAccessibleDescription(
+      QCoreApplication::translate("SettingWindow", "Enter goes to the control. Ctrl+C copies the rows."));
   list.opened = [this](const SettingGoal& goal) { GoTo(goal); };
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
   for (auto* button : buttons->buttons()) static_cast<QPushButton*>(button)->setAutoDefault(false);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::close);
   auto* below = new QHBoxLayout;
   if (beside != nullptr) below->addWidget(beside);
-  below->addWidget(MutedLabel(QStringLiteral("Enter goes to the setting. Ctrl+C copies rows.")));
+  below->addWidget(MutedLabel(
+      QCoreApplication::translate("SettingWindow", "Enter goes to the setting. Ctrl+C copies rows.")));
   below->addStretch(1);
   below->addWidget(buttons);
   below->setSpacing(kSectionGap);
@@ -102,10 +105,6 @@ QPushButton* StatusButton(SettingWindow& window, const QString& name, const QStr
   button->setToolTip(tip);
   QObject::connect(button, &QPushButton::clicked, &window, &SettingWindow::Open);
   return button;
-}
-
-QString CountOf(std::size_t count, const QString& one) {
-  return QStringLiteral("%1 %2%3").arg(count).arg(one, count == 1 ? QString() : QStringLiteral("s"));
 }
 
 }  // namespace ovl::ui

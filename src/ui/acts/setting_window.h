@@ -25,8 +25,7 @@ class SettingWindow : public QDialog {
   virtual void Refresh() = 0;
 
  protected:
-  // The name is also the title.
-  SettingWindow(Bindings& bindings, const QString& name, QWidget* parent);
+  SettingWindow(Bindings& bindings, const QString& name, const QString& title, QWidget* parent);
 
   // Makes the list, which must come to BuildAround, with a widget that changes what it shows or none.
   virtual void Build() = 0;
@@ -46,8 +45,5 @@ class SettingWindow : public QDialog {
 
 // A button of the status bar that opens the window.
 QPushButton* StatusButton(SettingWindow& window, const QString& name, const QString& tip);
-
-// "1 field", "2 fields".
-QString CountOf(std::size_t count, const QString& one);
 
 }  // namespace ovl::ui

@@ -1,6 +1,7 @@
 #include "ui/app/launch.h"
 
 #include <QByteArrayView>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <algorithm>
 #include <array>

@@ -16,6 +16,8 @@
 #include "ui/help/guide.h"
 #include "ui/help/help_pages.h"
 #include "ui/kit/theme.h"
+#include "ui/language/language.h"
+#include "ui/language/model_texts.h"
 #include "ui/window/view_menu.h"
 
 namespace {
@@ -35,9 +37,10 @@ std::optional<QString> FindFolder(const QString& given) {
   try {
     return ovl::host::ProgramFolder(given);
   } catch (const ovl::core::Failure& failure) {
-    const auto text = "The program's folder cannot be made.\n\n" + failure.Text();
-    std::cerr << "ovl: " << text << std::endl;
-    ovl::ui::ShowBox(nullptr, {{}, text});
+    std::cerr << "ovl: The program's folder cannot be made.\n\n" << failure.Text() << std::endl;
+    const auto text = QCoreApplication::translate("Program", "The program's folder cannot be made.\n\n%1")
+                          .arg(ovl::ui::FailureText(failure));
+    ovl::ui::ShowBox(nullptr, {{}, text.toStdString()});
     return std::nullopt;
   }
 }
@@ -91,8 +94,10 @@ int main(int argc, char** argv) {
   if (!guide.isEmpty()) return SaveGuide(guide);
   if (!sheet.file.isEmpty()) return WriteSheetFile(sheet);
   console.reset();
+  ovl::ui::UseLanguage({});
   const auto folder = FindFolder(command_line.Folder());
   if (!folder) return EXIT_FAILURE;
+  ovl::ui::UseLanguage(ovl::ui::ChosenLanguage(*folder));
   ovl::ui::ApplyTheme(ovl::ui::ChosenTheme(*folder));
   ovl::ui::Program program(*folder, command_line.Store());
   if (program.Start() == ovl::core::Outcome::kEnded) return EXIT_FAILURE;

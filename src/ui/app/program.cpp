@@ -15,6 +15,7 @@
 #include "start/start_up.h"
 #include "ui/dialogs/boxes.h"
 #include "ui/dialogs/changes_window.h"
+#include "ui/language/model_texts.h"
 #include "ui/print/print_item.h"
 #include "ui/window/status_strip.h"
 
@@ -25,9 +26,6 @@ namespace {
 // characters, so while a stream runs there are fewer.
 constexpr int kFrame = 16;
 constexpr int kStreamFrame = 150;
-constexpr const char* kHowToSetUp = "\nRoot sets the firmware, for instance: ovl-setup V1400 R12";
-constexpr const char* kNotKept =
-    "\nThe next start serves the same firmware as this one. Root sets another: ovl-setup ";
 
 }  // namespace
 
@@ -64,14 +62,22 @@ void Program::FillPlatform() {
   platform.ask_file = [this](const core::FileDialog& request) { return AskForFile(request); };
   platform.read_setting = [this](std::string_view key, std::string_view value) {
     auto found = store_.Read(key, value);
-    if (!found) store_problem_ = store_.WhyNotRead() + kHowToSetUp;
+    if (!found) {
+      store_problem_ = QCoreApplication::translate(
+                           "Program", "%1\nRoot sets the firmware, for instance: ovl-setup V1400 R12")
+                           .arg(host::FromSystem(store_.WhyNotRead()));
+    }
     return found;
   };
   platform.write_setting = [this](std::string_view key, std::string_view value, std::string_view text) {
     const auto written = store_.Write(key, value, text);
     if (!written.Ok()) {
       store_problem_ =
-          written.Problem().Text() + kNotKept + app_.firmware.version + " " + app_.firmware.release;
+          QCoreApplication::translate(
+              "Program",
+              "%1\nThe next start serves the same firmware as this one. Root sets another: ovl-setup %2")
+              .arg(FailureText(written.Problem()),
+                   QString::fromStdString(app_.firmware.version + " " + app_.firmware.release));
     }
     return written.Ok();
   };
@@ -92,7 +98,7 @@ core::Outcome Program::Start() {
       OwnActs{history_.get(), advisor_.get(), [this] { Undo(); }, [this] { Redo(); },
               [this](const acts::Advice& advice) { RunAdvice(advice); }});
   windows_->SetOwnActs(
-      [this](const std::string& name, const std::function<void()>& act) { return RunOwn(name, act); });
+      [this](const phrases::Words& name, const std::function<void()>& act) { return RunOwn(name, act); });
   windows_->Main().Status().port_problem = [this] { return port_.LastProblem(); };
   BuildFileActs();
   CollectTimers();
@@ -115,7 +121,7 @@ void Program::BuildFileActs() {
       app_, windows_->Main(),
       TextActs::Hooks{
           front, show_text,
-          [this](const std::string& name, const std::function<void()>& act) { RunOwn(name, act); },
+          [this](const phrases::Words& name, const std::function<void()>& act) { RunOwn(name, act); },
           [this](const QString& file, const image::ConfigImage& other) {
             windows_->Main().Changes().OpenComparison(file, other);
           }});
@@ -127,8 +133,9 @@ void Program::GuardUnsaved() {
   unsaved_ = std::make_unique<UnsavedCopy>(app_, folder_);
   unsaved_->report = [this](const core::Result& written) {
     unguarded_ = written.Ok() ? QString()
-                              : QStringLiteral("The program cannot keep a copy of your changes. ") +
-                                    host::FromSystem(written.Problem().Text());
+                              : QCoreApplication::translate(
+                                    "Program", "The program cannot keep a copy of your changes. %1")
+                                    .arg(FailureText(written.Problem()));
     ShowRescueNotice();
   };
   ShowRescueNotice();
@@ -138,8 +145,8 @@ void Program::GuardUnsaved() {
 void Program::ShowRescueNotice() {
   auto notice = unguarded_;
   if (notice.isEmpty() && !rescued_.isEmpty())
-    notice = rescued_.join(QStringLiteral(", ")) +
-             QStringLiteral(": rescued changes. Open them with \"File\", \"Open\"");
+    notice = QCoreApplication::translate("Program", "%1: rescued changes. Open them with \"File\", \"Open\"")
+                 .arg(rescued_.join(QStringLiteral(", ")));
   windows_->Main().Status().SetRescueNotice(notice);
 }
 
@@ -159,13 +166,13 @@ core::Outcome Program::Act(const core::Event& event) {
   const bool of_user = windows_ && !app_.handling && changes::IsAct(event);
   const auto outcome = of_user ? DispatchUserAct(event) : DispatchAny(event);
   if (unsaved_ && !ended_before && outcome == core::Outcome::kEnded)
-    unsaved_->End(acts::DropsUnsavedChanges(app_, event, store_problem_.empty()));
+    unsaved_->End(acts::DropsUnsavedChanges(app_, event, store_problem_.isEmpty()));
   const bool streams = history_ && history_->IsHeldByTransfer();
   AfterEvent(outcome, streams && !of_user ? Pace::kStream : Pace::kPrompt);
   return outcome;
 }
 
-core::Outcome Program::RunOwn(const std::string& name, const std::function<void()>& act) {
+core::Outcome Program::RunOwn(const phrases::Words& name, const std::function<void()>& act) {
   const auto outcome = history_->Run(name, act);
   AfterOwnAct(outcome);
   return outcome;
@@ -245,10 +252,11 @@ void Program::Restart() {
       Act(core::ClickEvent{&app_.frmMain.menuExit});
       return;
     }
-    status.ShowFileMessage(QStringLiteral("The program could not restart. Exit, and start it again."));
+    status.ShowFileMessage(
+        QCoreApplication::translate("Program", "The program could not restart. Exit, and start it again."));
   } catch (const core::Failure& failure) {
-    status.ShowFileMessage(QStringLiteral("The program cannot save the changes: ") +
-                           host::FromSystem(failure.Text()));
+    status.ShowFileMessage(QCoreApplication::translate("Program", "The program cannot save the changes: %1")
+                               .arg(FailureText(failure)));
   }
 }
 
@@ -258,12 +266,13 @@ core::Outcome Program::DispatchUserAct(const core::Event& event) {
   const auto outcome = DispatchAny(event);
   opening_ = false;
   if (outcome != core::Outcome::kDone) return outcome;
-  windows_->SetAlsoStored(host::FromWindows1252(changes::AlsoStored(app_, event, before)));
+  windows_->SetAlsoStored(Shown(changes::AlsoStored(app_, event, before)));
   const bool opened = core::Clicks(event, app_.frmMain.OpenMenu) && !app_.UploadApplying;
   const QFileInfo file(QFile::decodeName(app_.CurrentFilePath.c_str()));
   if (opened && file.dir() == QDir(folder_) && rescued_.removeAll(file.fileName()) > 0) ShowRescueNotice();
   if (core::Clicks(event, app_.frmMain.menuSave) && !app_.saved_path.empty())
-    windows_->Main().Status().ShowFileMessage(QStringLiteral("Saved: ") + host::FromSystem(app_.saved_path));
+    windows_->Main().Status().ShowFileMessage(
+        QCoreApplication::translate("Program", "Saved: %1").arg(host::FromSystem(app_.saved_path)));
   return outcome;
 }
 
@@ -330,8 +339,8 @@ void Program::End() {
 
 // The reason from the system that the text of the box does not contain.
 QString Program::BoxDetail(const core::MessageBox& box) const {
-  if (!store_problem_.empty()) return host::FromSystem(store_problem_);
-  return box.shows_note ? host::FromSystem(app_.StatusNote) : QString();
+  if (!store_problem_.isEmpty()) return store_problem_;
+  return box.shows_note ? StatusNoteText(app_) : QString();
 }
 
 }  // namespace ovl::ui

@@ -45,7 +45,7 @@ class Program {
   core::Outcome Act(const core::Event& event);
 
   // The same for an act of our own, under the name by which it can be undone.
-  core::Outcome RunOwn(const std::string& name, const std::function<void()>& act);
+  core::Outcome RunOwn(const phrases::Words& name, const std::function<void()>& act);
 
   // Take back the last act, or repeat the one taken back last.
   void Undo();
@@ -97,7 +97,7 @@ class Program {
   QString folder_, store_folder_;
   core::Application app_;
   host::SettingsStore store_;
-  std::string store_problem_;
+  QString store_problem_;
   host::SerialPort port_;
   std::unique_ptr<acts::ActHistory> history_;  // of the started program, as the next one
   std::unique_ptr<acts::Advisor> advisor_;

@@ -1,5 +1,6 @@
 #include "ui/app/unsaved_copy.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <utility>
 
@@ -37,7 +38,8 @@ QString WhyNotCreated(const QString& path) {
   QFile file(path);
   if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) return file.errorString();
   const bool written = file.putChar('\n') && file.flush();
-  const auto reason = written ? QStringLiteral("its lock cannot be made") : file.errorString();
+  const auto reason =
+      written ? QCoreApplication::translate("UnsavedCopy", "its lock cannot be made") : file.errorString();
   file.remove();
   return reason;
 }

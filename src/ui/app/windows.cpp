@@ -66,10 +66,11 @@ void Windows::FillHelpMenu() {
   const auto folder = QFile::decodeName(app_.platform.program_folder.c_str());
   help_ = std::make_unique<HelpDesk>(*main_, folder);
   auto& menu = main_->HelpMenu();
-  auto* contents = menu.addAction(QStringLiteral("Help"), help_.get(), &HelpDesk::OpenPageInFront);
+  auto* contents = menu.addAction(QCoreApplication::translate("HelpMenu", "Help"), help_.get(),
+                                  &HelpDesk::OpenPageInFront);
   contents->setShortcut(QKeySequence::HelpContents);
   contents->setObjectName(QStringLiteral("menuHelp"));
-  auto* manuals = menu.addMenu(QStringLiteral("Manual"));
+  auto* manuals = menu.addMenu(QCoreApplication::translate("HelpMenu", "Manual"));
   manuals->setObjectName(QStringLiteral("menuManual"));
   FillManualMenu(*manuals, ManualFolder(folder), [this](const QString& problem) {
     ShowBox(main_.get(),

@@ -1,5 +1,6 @@
 #include "ui/dialogs/boxes.h"
 
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QFileDialog>
@@ -12,6 +13,7 @@
 
 #include "host/text_codec.h"
 #include "ui/kit/theme.h"
+#include "ui/language/model_texts.h"
 
 namespace ovl::ui {
 namespace {
@@ -20,7 +22,7 @@ const QString kProgramName = QStringLiteral("OVL Software");
 
 // Converts "Text Files(*.txt)|*.txt|..." to the filters of Qt, such as "Text Files (*.txt)".
 QStringList NameFilters(const std::string& filter) {
-  const auto parts = host::FromWindows1252(filter).split(QLatin1Char('|'));
+  const auto parts = QCoreApplication::translate("Filter", filter.c_str()).split(QLatin1Char('|'));
   QStringList filters;
   for (qsizetype at = 0; at + 1 < parts.size(); at += 2) {
     auto words = parts[at];
@@ -76,8 +78,8 @@ QString SuffixFor(const QString& filter, const QFileInfo& start) {
 
 void ShowBox(QWidget* parent, const core::MessageBox& box, const QString& detail) {
   const auto icon = box.icon == core::BoxIcon::kInformation ? QMessageBox::Information : QMessageBox::NoIcon;
-  const auto title = box.title.empty() ? kProgramName : host::FromWindows1252(box.title);
-  QMessageBox window(icon, title, host::FromSystem(box.text), QMessageBox::Ok, parent);
+  const auto [title, text] = TextsOf(box);
+  QMessageBox window(icon, title.isEmpty() ? kProgramName : title, text, QMessageBox::Ok, parent);
   window.setTextFormat(Qt::PlainText);
   window.setInformativeText(detail);
   window.setObjectName(QStringLiteral("MessageBox"));
@@ -87,7 +89,8 @@ void ShowBox(QWidget* parent, const core::MessageBox& box, const QString& detail
 
 std::optional<core::FileAnswer> AskFile(QWidget* parent, const core::FileDialog& request) {
   const bool saves = request.kind == core::FileDialog::Kind::kSave;
-  QFileDialog dialog(parent, saves ? QStringLiteral("Save") : QStringLiteral("Open"));
+  QFileDialog dialog(parent, saves ? QCoreApplication::translate("Boxes", "Save")
+                                   : QCoreApplication::translate("Boxes", "Open"));
   dialog.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   const QFileInfo start(QFile::decodeName(request.file_name.c_str()));
@@ -110,7 +113,8 @@ std::optional<core::FileAnswer> AskFile(QWidget* parent, const core::FileDialog&
 
 bool AskWhetherToOpen(QWidget* parent, const QString& text, const QString& detail) {
   QMessageBox window(QMessageBox::Warning, kProgramName, text, QMessageBox::Cancel, parent);
-  const auto* open = window.addButton(QStringLiteral("Open anyway"), QMessageBox::AcceptRole);
+  const auto* open =
+      window.addButton(QCoreApplication::translate("Boxes", "Open anyway"), QMessageBox::AcceptRole);
   window.setDefaultButton(QMessageBox::Cancel);
   window.setEscapeButton(QMessageBox::Cancel);
   window.setTextFormat(Qt::PlainText);

@@ -1,6 +1,7 @@
 #include "ui/dialogs/changes_window.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <set>
@@ -19,15 +20,23 @@ std::size_t FieldsIn(const std::vector<changes::SettingChange>& rows) {
   return fields.size();
 }
 
+QString FieldCount(std::size_t fields) {
+  const int count = static_cast<int>(fields);
+  return count == 1
+             ? QCoreApplication::translate("ChangesWindow", "%n field", "of the configuration", count)
+             : QCoreApplication::translate("ChangesWindow", "%n fields", "of the configuration", count);
+}
+
 }  // namespace
 
 ChangesWindow::ChangesWindow(Bindings& bindings, QWidget* parent)
-    : SettingWindow(bindings, QStringLiteral("Changes"), parent) {}
+    : SettingWindow(bindings, QStringLiteral("Changes"),
+                    QCoreApplication::translate("ChangesWindow", "Changes"), parent) {}
 
 void ChangesWindow::Build() {
   list_ = new ChangesList;
-  list_->setAccessibleName(QStringLiteral("Changed settings"));
-  auto* bytes = new QCheckBox(QStringLiteral("Show bytes"));
+  list_->setAccessibleName(QCoreApplication::translate("ChangesWindow", "Changed settings"));
+  auto* bytes = new QCheckBox(QCoreApplication::translate("ChangesWindow", "Show bytes"));
   bytes->setObjectName(QStringLiteral("ChangesBytes"));
   connect(bytes, &QCheckBox::toggled, list_, &ChangesList::ShowBytes);
   BuildAround(*list_, bytes);
@@ -44,7 +53,8 @@ void ChangesWindow::OpenComparison(const QString& file, const image::ConfigImage
 }
 
 void ChangesWindow::ShowNow() {
-  setWindowTitle(other_ ? QStringLiteral("Changes: ") + other_->file : QStringLiteral("Changes"));
+  setWindowTitle(other_ ? QCoreApplication::translate("ChangesWindow", "Changes: %1").arg(other_->file)
+                        : QCoreApplication::translate("ChangesWindow", "Changes"));
   known_.Forget();
   image_.Forget();
   SettingWindow::Open();
@@ -59,34 +69,51 @@ void ChangesWindow::Refresh() {
 }
 
 QString ChangesWindow::SummaryOf(const std::vector<changes::SettingChange>& rows) const {
-  const auto count = CountOf(rows.size(), QStringLiteral("setting"));
-  if (other_ && rows.empty()) return QStringLiteral("%1 has the same settings.").arg(other_->file);
-  if (other_) return QStringLiteral("%1 differs from the tabs in %2.").arg(other_->file, count);
-  const auto unit = QStringLiteral("in a unit that holds the configuration last loaded or sent");
-  if (rows.empty()) return QStringLiteral("A download would change nothing %1.").arg(unit);
-  return QStringLiteral("What a download would change %1: %2 in %3.")
-      .arg(unit, count, CountOf(FieldsIn(rows), QStringLiteral("field")));
+  const int settings = static_cast<int>(rows.size());
+  const auto count = settings == 1
+                         ? QCoreApplication::translate("ChangesWindow", "%n setting", nullptr, settings)
+                         : QCoreApplication::translate("ChangesWindow", "%n settings", nullptr, settings);
+  if (other_ && rows.empty())
+    return QCoreApplication::translate("ChangesWindow", "%1 has the same settings.").arg(other_->file);
+  if (other_)
+    return QCoreApplication::translate("ChangesWindow", "%1 differs from the tabs in %2.",
+                                       "a file, \"3 settings\"")
+        .arg(other_->file, count);
+  if (rows.empty())
+    return QCoreApplication::translate(
+        "ChangesWindow",
+        "A download would change nothing in a unit that holds the configuration last loaded or sent.");
+  return QCoreApplication::translate("ChangesWindow",
+                                     "What a download would change in a unit that holds the configuration "
+                                     "last loaded or sent: %1 in %2.",
+                                     "\"3 settings\", \"2 fields\"")
+      .arg(count, FieldCount(FieldsIn(rows)));
 }
 
 void ChangesWindow::Fill(const std::vector<changes::SettingChange>& rows) {
-  list_->SetSides(other_ ? QStringLiteral("Here") : QStringLiteral("Before"),
-                  other_ ? QStringLiteral("In the file") : QStringLiteral("Now"));
+  list_->SetSides(other_ ? QCoreApplication::translate("ChangesWindow", "Here")
+                         : QCoreApplication::translate("ChangesWindow", "Before"),
+                  other_ ? QCoreApplication::translate("ChangesWindow", "In the file")
+                         : QCoreApplication::translate("ChangesWindow", "Now"));
   Summary().setText(SummaryOf(rows));
   list_->Show(rows);
 }
 
 QPushButton* BuildChangesButton(Bindings& bindings, ChangesWindow& window) {
-  auto* button = StatusButton(
-      window, QStringLiteral("StatusChanges"),
-      QStringLiteral("Shows what a download would change in the unit: what has changed since the last "
-                     "load or download (Ctrl+D)"));
+  auto* button =
+      StatusButton(window, QStringLiteral("StatusChanges"),
+                   QCoreApplication::translate(
+                       "ChangesWindow",
+                       "Shows what a download would change in the unit: what has changed since the last "
+                       "load or download (Ctrl+D)"));
   bindings.OnRefresh([&app = bindings.Model(), button, &window, known = ChangeDetector<image::ConfigImage>(),
                       image = ChangeDetector<image::ConfigImage>()]() mutable {
     window.Refresh();
     const bool other_known = known.Update(app.known_image), other_image = image.Update(app.image);
     if (!other_known && !other_image) return false;
     const auto count = image::Differences(app.known_image, app.image, app.image_firmware).size();
-    button->setText(CountOf(count, QStringLiteral("field")) + QStringLiteral(" changed"));
+    button->setText(
+        QCoreApplication::translate("ChangesWindow", "%1 changed", "\"3 fields\"").arg(FieldCount(count)));
     button->setAccessibleName(button->text());
     const bool comes_or_goes = button->isHidden() != (count == 0);
     button->setVisible(count != 0);

@@ -21,6 +21,11 @@ namespace {
 constexpr Em kGapToParent(0.67);
 constexpr Em kFromTop(8);
 
+// The title of a text that is looked at is the name of its file.
+QString TitleOf(const core::Application& app, const controls::Form& form) {
+  return &form == &app.frmView.form ? host::FromSystem(form.caption) : FormText(form.caption);
+}
+
 }  // namespace
 
 FormWindow::FormWindow(Bindings& bindings, controls::Form& form, QWidget* parent)
@@ -29,7 +34,7 @@ FormWindow::FormWindow(Bindings& bindings, controls::Form& form, QWidget* parent
   setModal(false);
   StayOnScreen(*this);
   bindings_.OnRefresh([this, caption = ChangeDetector<std::string>()]() mutable {
-    if (caption.Update(form_.caption)) setWindowTitle(host::FromSystem(form_.caption));
+    if (caption.Update(form_.caption)) setWindowTitle(TitleOf(bindings_.Model(), form_));
     if (enabled_.Update(form_.enabled)) setEnabled(form_.enabled);
     return false;
   });

@@ -1,5 +1,6 @@
 #include "ui/dialogs/link_windows.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -23,9 +24,10 @@ constexpr Em kDialogWidth(33.33);
 constexpr Em kSmallWidth(26.67);
 
 QString DetailOf(const host::Comport& comport) {
-  auto detail = comport.device;
-  if (!comport.description.isEmpty()) detail += QStringLiteral(", ") + comport.description;
-  return detail + (comport.present ? QStringLiteral(", present") : QStringLiteral(", not present"));
+  auto device = comport.device;
+  if (!comport.description.isEmpty()) device += QStringLiteral(", ") + comport.description;
+  return comport.present ? QCoreApplication::translate("LinkWindows", "%1, present", "a device").arg(device)
+                         : QCoreApplication::translate("LinkWindows", "%1, not present").arg(device);
 }
 
 // Serial ports can appear and disappear, so they are listed again whenever the window opens.
@@ -52,8 +54,8 @@ void BindPortDetails(Bindings& bindings, PickList& list, QLabel& detail) {
 QWidget* PortField(Bindings& bindings, const controls::Form& form) {
   auto* holder = new QWidget;
   auto* across = LayOutAcross(*holder, kFieldGap);
-  auto* list = static_cast<PickList*>(
-      bindings.Make(bindings.Named(form, "Comport_Select"), QStringLiteral("Comport")));
+  auto* list = static_cast<PickList*>(bindings.Make(bindings.Named(form, "Comport_Select"),
+                                                    QCoreApplication::translate("LinkWindows", "Comport")));
   list->ShowDetails();
   auto* detail = MutedLabel({});
   detail->setObjectName(QStringLiteral("ComportDetail"));
@@ -85,7 +87,7 @@ FormWindow* BuildPortSettingsWindow(Bindings& bindings, QWidget* parent) {
   auto* down = WindowLayout(*window);
   auto* settings = new QWidget;
   PageColumn column(bindings, model.form, *settings);
-  const auto title = [](const controls::Frame& frame) { return QString::fromStdString(frame.caption); };
+  const auto title = [](const controls::Frame& frame) { return FormText(frame.caption); };
   column.OwnSection(title(model.comport_frame)).FullWidth(PortField(bindings, model.form));
   column.OwnSection(title(model.baudrate_frame)).Options("OpBaud", kBaudColumns);
   column.OwnSection(title(model.data_bits_frame)).Options("OpDataBits", 2);
@@ -110,10 +112,12 @@ FormWindow* BuildScanProgressWindow(Bindings& bindings, QWidget* parent) {
   rate->setObjectName(QStringLiteral("ScanRate"));
   words->addWidget(rate);
   down->addLayout(words);
-  down->addWidget(bindings.Make(bindings.Named(model.form, "ScanProgressBar1"),
-                                QStringLiteral("Progress of the baud rate scan")));
+  down->addWidget(
+      bindings.Make(bindings.Named(model.form, "ScanProgressBar1"),
+                    QCoreApplication::translate("LinkWindows", "Progress of the baud rate scan")));
   bindings.OnRefresh([rate, &app = bindings.Model(), shown = ChangeDetector<std::string>()]() mutable {
-    if (shown.Update(app.PortBaud)) rate->setText(QStringLiteral("%1 baud").arg(app.PortBaud.c_str()));
+    if (shown.Update(app.PortBaud))
+      rate->setText(QCoreApplication::translate("LinkWindows", "%1 baud").arg(app.PortBaud.c_str()));
     return false;
   });
   down->addLayout(MakeButtonRow(bindings, model.form, "Command1"));

@@ -1,5 +1,6 @@
 #include "ui/dialogs/register_windows.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -35,8 +36,8 @@ QWidget* NumberField(Bindings& bindings, const controls::MicrosForm& model) {
   auto* holder = new QWidget;
   auto* across = LayOutAcross(*holder, kFieldGap);
   across->addWidget(
-      bindings.Make(bindings.Named(model.form, "ECRNumber"), host::FromWindows1252(model.ECRNumber.caption)));
-  across->addWidget(MutedLabel(host::FromWindows1252(model.ecr_hint.caption)));
+      bindings.Make(bindings.Named(model.form, "ECRNumber"), FormText(model.ECRNumber.caption)));
+  across->addWidget(MutedLabel(FormText(model.ecr_hint.caption)));
   return holder;
 }
 
@@ -87,7 +88,7 @@ FormWindow* BuildSubMenuWindow(Bindings& bindings, QWidget* parent) {
       .Row(RowLabel::FromModel("Label1(1)"), "Combo1(1)");
   column.Section("SharpSubMenuFrame").Options("Option1", 1);
   column.Section("UP3000Frm").Row(RowLabel::FromModel("Label2"), "Combo2");
-  down->addWidget(MutedLabel(QStringLiteral("A pick is stored at once.")));
+  down->addWidget(MutedLabel(QCoreApplication::translate("RegisterWindows", "A pick is stored at once.")));
   return window;
 }
 

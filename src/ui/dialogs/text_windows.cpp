@@ -1,5 +1,6 @@
 #include "ui/dialogs/text_windows.h"
 
+#include <QCoreApplication>
 #include <QFocusEvent>
 #include <QFontDatabase>
 #include <QGridLayout>
@@ -59,11 +60,11 @@ class WholeTextMarker : public QObject {
 QString TextHint(const core::Application& app) {
   const auto& box = app.frmSetEXCPSTR.Text1;
   const auto seen = box.text.find_last_not_of(' ') + 1;
-  auto hint = QStringLiteral("%1 of %2 characters").arg(seen).arg(box.max_length);
-  if (app.TextEntryMode == static_cast<int>(panels::TextTarget::kException)) {
-    hint += QStringLiteral(". A ? matches any character");
-  }
-  return hint + QLatin1Char('.');
+  const bool of_exception = app.TextEntryMode == static_cast<int>(panels::TextTarget::kException);
+  const auto hint = of_exception ? QCoreApplication::translate(
+                                       "TextWindows", "%1 of %2 characters. A ? matches any character.")
+                                 : QCoreApplication::translate("TextWindows", "%1 of %2 characters.");
+  return hint.arg(seen).arg(box.max_length);
 }
 
 // One value: whole digits, separator, decimal digits.
@@ -74,7 +75,8 @@ struct ValueRow {
 
 // How many digits the unit keeps of each value.
 QString RangeHint(const core::Application& app) {
-  return QStringLiteral("Up to %1 digits, and %2 behind the separator: 5 becomes 05.")
+  return QCoreApplication::translate("TextWindows",
+                                     "Up to %1 digits, and %2 behind the separator: 5 becomes 05.")
       .arg(app.frmSetRange.Range_Hi.max_length)
       .arg(app.frmSetRange.SubRange_Hi.max_length);
 }
@@ -120,7 +122,7 @@ QLabel* CopyOfLabel(Bindings& bindings, const controls::Label& label) {
   auto* copy = new QLabel;
   copy->setTextFormat(Qt::PlainText);
   bindings.OnRefresh([copy, &label, caption = ChangeDetector<std::string>()]() mutable {
-    if (caption.Update(label.caption)) copy->setText(host::FromWindows1252(label.caption));
+    if (caption.Update(label.caption)) copy->setText(FormText(label.caption));
     return false;
   });
   return copy;
@@ -175,8 +177,8 @@ FormWindow* BuildRangeWindow(Bindings& bindings, QWidget* parent) {
   grid->addWidget(list, 2, 1, 1, 4, Qt::AlignLeft);
   down->addLayout(grid);
   down->addWidget(MakeRangeHint(bindings));
-  down->addWidget(
-      MutedLabel(QStringLiteral("The separator is the same for all exceptions. It is stored at once.")));
+  down->addWidget(MutedLabel(QCoreApplication::translate(
+      "TextWindows", "The separator is the same for all exceptions. It is stored at once.")));
   down->addLayout(MakeButtonRow(bindings, model.form, "cmdSetRange", "cmdClr"));
 
   auto* first = static_cast<QLineEdit*>(bindings.WidgetOf(model.Range_Hi));

@@ -1,6 +1,7 @@
 #include "ui/files/file_acts.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QDir>
 #include <QDropEvent>
 #include <QFile>
@@ -19,6 +20,7 @@
 #include "files/files.h"
 #include "host/text_codec.h"
 #include "ui/dialogs/boxes.h"
+#include "ui/language/model_texts.h"
 
 namespace ovl::ui {
 namespace {
@@ -65,11 +67,11 @@ FileActs::FileActs(core::Application& app, QMainWindow& main, Hooks hooks)
 void FileActs::AddMenuItems(QMainWindow& main) {
   auto* file = main.findChild<QMenu*>(QStringLiteral("FileMenu"));
   auto* save = main.findChild<QAction*>(QStringLiteral("menuSave"));
-  auto* recent = new QMenu(QStringLiteral("Open Recent"), file);
+  auto* recent = new QMenu(QCoreApplication::translate("FileActs", "Open Recent"), file);
   recent->setObjectName(QStringLiteral("menuRecent"));
   recent_.FillWhenOpened(*recent, [this](const QString& path) { Open(path); });
   file->insertMenu(save, recent);
-  auto* backup = new QAction(QStringLiteral("Save Backup..."), file);
+  auto* backup = new QAction(QCoreApplication::translate("FileActs", "Save Backup..."), file);
   backup->setObjectName(QStringLiteral("menuBackup"));
   backup->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
   connect(backup, &QAction::triggered, this, &FileActs::SaveBackup);
@@ -85,22 +87,23 @@ std::optional<std::string> FileActs::StreamOf(const QString& path, QString& prob
   try {
     return files::ReadJoined(app_.platform.files, Encoded(path));
   } catch (const core::Failure& failure) {
-    problem = host::FromSystem(failure.Text());
+    problem = FailureText(failure);
     return std::nullopt;
   }
 }
 
 bool FileActs::MayOpen(const QString& path, const std::string& stream) const {
   const auto question = acts::QuestionBeforeOpening(stream, Encoded(QFileInfo(path).fileName()), app_);
-  return !question || AskWhetherToOpen(hooks_.front(), host::FromSystem(question->text),
-                                       host::FromWindows1252(question->detail));
+  return !question ||
+         AskWhetherToOpen(hooks_.front(), Shown(question->text, host::FromSystem), Shown(question->detail));
 }
 
 void FileActs::Open(const QString& path) {
   if (!CanAct()) return;
   QString problem;
   const auto stream = StreamOf(path, problem);
-  if (!stream) return hooks_.show_text(QStringLiteral("Not opened: ") + problem);
+  if (!stream)
+    return hooks_.show_text(QCoreApplication::translate("FileActs", "Not opened: %1").arg(problem));
   // While the question is on the screen, the unit can start something else.
   if (!MayOpen(path, *stream) || !CanAct()) return;
   const OneAnswer answer(app_, Encoded(path));
@@ -127,17 +130,18 @@ void FileActs::SaveBackup() {
   request.kind = core::FileDialog::Kind::kSave;
   request.file_name =
       files::PathBelow(app_.platform.program_folder, std::string("\\").append(acts::BackupName(app_)));
-  request.filter = "Backups(*.bin)|*.bin|All Files(*.*)|*.*";
+  request.filter = QT_TRANSLATE_NOOP("Filter", "Backups(*.bin)|*.bin|All Files(*.*)|*.*");
   const auto answer = AskFile(hooks_.front(), request);
   if (!answer || app_.ended) return;
   const auto written = acts::SaveBackup(app_, answer->file_name);
   if (!written.Ok())
-    return hooks_.show_text(QStringLiteral("No backup written: ") +
-                            host::FromSystem(written.Problem().Text()));
+    return hooks_.show_text(
+        QCoreApplication::translate("FileActs", "No backup written: %1").arg(FailureText(written.Problem())));
   const auto path = Decoded(answer->file_name);
   recent_.Add(path);
   hooks_.backup_written();
-  hooks_.show_text(QStringLiteral("Backup written: ") + QDir::toNativeSeparators(path));
+  hooks_.show_text(
+      QCoreApplication::translate("FileActs", "Backup written: %1").arg(QDir::toNativeSeparators(path)));
 }
 
 // A drop is handled after its event, because the program that the file comes from waits for the end of that.

@@ -1,6 +1,7 @@
 #include "ui/files/recent_files.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
@@ -50,9 +51,11 @@ void RecentFiles::Fill(QMenu& menu, const std::function<void(const QString& path
         menu.addAction(QStringLiteral("&%1 ").arg(++number) + title, &menu, [open, path] { open(path); });
     item->setEnabled(QFileInfo(path).isFile());
   }
-  if (paths.isEmpty()) menu.addAction(QStringLiteral("No file yet"))->setEnabled(false);
+  if (paths.isEmpty())
+    menu.addAction(QCoreApplication::translate("RecentFiles", "No file yet"))->setEnabled(false);
   menu.addSeparator();
-  menu.addAction(QStringLiteral("Clear this list"), &menu, [this] { Clear(); })->setEnabled(!paths.isEmpty());
+  menu.addAction(QCoreApplication::translate("RecentFiles", "Clear this list"), &menu, [this] { Clear(); })
+      ->setEnabled(!paths.isEmpty());
 }
 
 }  // namespace ovl::ui

@@ -1,6 +1,7 @@
 #include "ui/files/text_acts.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -17,6 +18,7 @@
 #include "image/report.h"
 #include "text_form/export.h"
 #include "ui/dialogs/boxes.h"
+#include "ui/language/model_texts.h"
 
 namespace ovl::ui {
 namespace {
@@ -24,8 +26,10 @@ namespace {
 using text_form::Problem;
 using text_form::Strictness;
 
-constexpr const char* kTextFilter = "Text Forms(*.toml)|*.toml|All Files(*.*)|*.*";
-constexpr const char* kEveryFilter = "Configurations(*.bin;*.toml)|*.bin;*.toml|All Files(*.*)|*.*";
+constexpr const char* kTextFilter =
+    QT_TRANSLATE_NOOP("Filter", "Text Forms(*.toml)|*.toml|All Files(*.*)|*.*");
+constexpr const char* kEveryFilter =
+    QT_TRANSLATE_NOOP("Filter", "Configurations(*.bin;*.toml)|*.bin;*.toml|All Files(*.*)|*.*");
 
 QString Decoded(const std::string& path) {
   return QFile::decodeName(path.c_str());
@@ -38,7 +42,7 @@ QString NameOf(const std::string& path) {
 QStringList Lines(const std::vector<Problem>& problems) {
   QStringList lines;
   for (const auto& problem : problems)
-    lines.append(QStringLiteral("Line %1, column %2: %3")
+    lines.append(QCoreApplication::translate("TextActs", "Line %1, column %2: %3")
                      .arg(problem.at.line)
                      .arg(problem.at.column)
                      .arg(host::FromSystem(problem.words)));
@@ -50,9 +54,10 @@ QStringList Lines(const std::vector<Problem>& problems) {
 TextActs::TextActs(core::Application& app, QMainWindow& main, Hooks hooks)
     : app_(app), hooks_(std::move(hooks)) {
   // Each item goes behind that of the backup, so the last one comes first.
-  AddItem(main, "menuCompare", QStringLiteral("Compare with File..."), &TextActs::Compare);
-  AddItem(main, "menuImport", QStringLiteral("Import Text..."), &TextActs::Import);
-  AddItem(main, "menuExport", QStringLiteral("Export Text..."), &TextActs::Export);
+  AddItem(main, "menuCompare", QCoreApplication::translate("TextActs", "Compare with File..."),
+          &TextActs::Compare);
+  AddItem(main, "menuImport", QCoreApplication::translate("TextActs", "Import Text..."), &TextActs::Import);
+  AddItem(main, "menuExport", QCoreApplication::translate("TextActs", "Export Text..."), &TextActs::Export);
 }
 
 void TextActs::AddItem(QMainWindow& main, const char* name, const QString& caption, void (TextActs::*act)()) {
@@ -83,7 +88,7 @@ std::optional<std::string> TextActs::BytesOf(const std::string& path, const QStr
   try {
     return app_.platform.files.read(path);
   } catch (const core::Failure& failure) {
-    hooks_.show_text(refusal + host::FromSystem(failure.Text()));
+    hooks_.show_text(refusal.arg(FailureText(failure)));
     return std::nullopt;
   }
 }
@@ -97,9 +102,11 @@ void TextActs::Export() {
   try {
     host::Viewer viewer(app_.image_firmware);
     app_.platform.files.replace(path, text_form::Export(viewer.catalogue, app_.image));
-    hooks_.show_text(QStringLiteral("Text written: ") + QDir::toNativeSeparators(Decoded(path)));
+    hooks_.show_text(QCoreApplication::translate("TextActs", "Text written: %1")
+                         .arg(QDir::toNativeSeparators(Decoded(path))));
   } catch (const core::Failure& failure) {
-    hooks_.show_text(QStringLiteral("No text written: ") + host::FromSystem(failure.Text()));
+    hooks_.show_text(
+        QCoreApplication::translate("TextActs", "No text written: %1").arg(FailureText(failure)));
   }
 }
 
@@ -110,17 +117,20 @@ std::optional<image::ConfigImage> TextActs::ImageOfText(const std::string& path,
   const auto document = host::ReadToml(bytes);
   auto imported = host::ImportText(viewer.catalogue, app_.image, document, Strictness::kPartial);
   if (!imported.problems.empty()) {
-    const auto words = imports ? QStringLiteral("%1 is not taken: nothing has changed.")
-                               : QStringLiteral("%1 has errors and cannot be compared.");
+    const auto words = imports
+                           ? QCoreApplication::translate("TextActs", "%1 is not taken: nothing has changed.")
+                           : QCoreApplication::translate("TextActs", "%1 has errors and cannot be compared.");
     ShowProblems(hooks_.front(), words.arg(NameOf(path)), Lines(imported.problems));
     return std::nullopt;
   }
   if (imported.left_out.empty()) return imported.image;
   const auto text =
-      QStringLiteral("%1 is a text of %2. This program serves %3, which does not have all of it.")
+      QCoreApplication::translate(
+          "TextActs", "%1 is a text of %2. This program serves %3, which does not have all of it.")
           .arg(NameOf(path), host::FromSystem(text_form::FirmwareNamed(document)),
                host::FromWindows1252(acts::FirmwareName(app_)));
-  const auto button = imports ? QStringLiteral("Import the Rest") : QStringLiteral("Compare the Rest");
+  const auto button = imports ? QCoreApplication::translate("TextActs", "Import the Rest")
+                              : QCoreApplication::translate("TextActs", "Compare the Rest");
   const bool takes = AskWhetherToTakeTheRest(hooks_.front(), text, Lines(imported.left_out), button);
   return takes ? std::optional(imported.image) : std::nullopt;
 }
@@ -129,16 +139,19 @@ void TextActs::Import() {
   if (!CanAct()) return;
   const auto path = AskForPath(core::FileDialog::Kind::kOpen, "*.toml", kTextFilter);
   if (path.empty()) return;
-  const auto bytes = BytesOf(path, QStringLiteral("Not imported: "));
+  const auto bytes = BytesOf(path, QCoreApplication::translate("TextActs", "Not imported: %1"));
   if (!bytes) return;
   const auto base = app_.image;
   const auto image = ImageOfText(path, *bytes, Purpose::kImport);
   // While the window is on the screen, the unit can start something else, or bring another configuration.
   if (!image || !CanAct()) return;
   if (app_.image != base)
-    return hooks_.show_text(QStringLiteral("Not imported: the configuration has changed since"));
-  hooks_.run("Import " + NameOf(path).toStdString(), [&] { core::TakeImage(app_, *image); });
-  hooks_.show_text(QStringLiteral("Text imported: ") + QDir::toNativeSeparators(Decoded(path)));
+    return hooks_.show_text(
+        QCoreApplication::translate("TextActs", "Not imported: the configuration has changed since"));
+  hooks_.run(phrases::Sentence(phrases::Pattern("Act", "Import %1"), {NameOf(path).toStdString()}),
+             [&] { core::TakeImage(app_, *image); });
+  hooks_.show_text(QCoreApplication::translate("TextActs", "Text imported: %1")
+                       .arg(QDir::toNativeSeparators(Decoded(path))));
 }
 
 std::optional<image::ConfigImage> TextActs::ImageOf(const std::string& path, const std::string& bytes) {
@@ -146,7 +159,7 @@ std::optional<image::ConfigImage> TextActs::ImageOf(const std::string& path, con
   const auto stream = files::JoinLines(bytes);
   auto image = image::DecodeStream(stream, app_.image_firmware);
   if (image && image::FitsFirmware(stream, app_.image_firmware)) return image;
-  hooks_.show_text(QStringLiteral("Not compared: %1 is not a configuration of %2")
+  hooks_.show_text(QCoreApplication::translate("TextActs", "Not compared: %1 is not a configuration of %2")
                        .arg(NameOf(path), host::FromWindows1252(acts::FirmwareName(app_))));
   return std::nullopt;
 }
@@ -155,7 +168,7 @@ void TextActs::Compare() {
   if (!CanAct()) return;
   const auto path = AskForPath(core::FileDialog::Kind::kOpen, "*.bin", kEveryFilter);
   if (path.empty()) return;
-  const auto bytes = BytesOf(path, QStringLiteral("Not compared: "));
+  const auto bytes = BytesOf(path, QCoreApplication::translate("TextActs", "Not compared: %1"));
   if (!bytes) return;
   if (const auto image = ImageOf(path, *bytes)) hooks_.compare(NameOf(path), *image);
 }

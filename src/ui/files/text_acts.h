@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/application.h"
+#include "phrases/phrases.h"
 #include "text_form/import/import.h"
 
 class QAction;
@@ -19,7 +20,7 @@ class TextActs : public QObject {
     std::function<QWidget*()> front;                // the window that boxes belong to
     std::function<void(const QString&)> show_text;  // in the status bar
     // Runs an act of our own under the name by which it can be undone.
-    std::function<void(const std::string& name, const std::function<void()>& act)> run;
+    std::function<void(const phrases::Words& name, const std::function<void()>& act)> run;
     // Shows how another image differs.
     std::function<void(const QString& file, const image::ConfigImage& other)> compare;
   };

@@ -1,5 +1,6 @@
 #include "ui/help/help_pages.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
@@ -44,7 +45,8 @@ QString HelpPages::Text(const QString& file, const QString& pictures) const {
   const auto path = QDir(folder_).filePath(file);
   const auto page = ReadFile(path);
   if (!page.problem.isEmpty()) {
-    return QStringLiteral(
+    return QCoreApplication::translate(
+               "HelpWindow",
                "# This page is missing\n\nThe help page %1 cannot be read: %2. The program works without it.")
         .arg(QDir::toNativeSeparators(path), page.problem);
   }

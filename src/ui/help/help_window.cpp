@@ -1,5 +1,6 @@
 #include "ui/help/help_window.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -35,7 +36,7 @@ QUrl AddressOf(const QString& page) {
 
 HelpBrowser::HelpBrowser(const HelpPages& pages, QWidget* parent) : QTextBrowser(parent), pages_(pages) {
   setObjectName(QStringLiteral("HelpPage"));
-  setAccessibleName(QStringLiteral("Help page"));
+  setAccessibleName(QCoreApplication::translate("HelpWindow", "Help page"));
   setFrameShape(QFrame::NoFrame);
   document()->setDocumentMargin(kMargin);
   setWordWrapMode(QTextOption::WordWrap);
@@ -104,12 +105,12 @@ QWidget* HelpWindow::BuildSide() {
   down->setSpacing(kRowGap);
   search_ = new QLineEdit;
   search_->setObjectName(QStringLiteral("HelpSearch"));
-  search_->setAccessibleName(QStringLiteral("Search all pages"));
-  search_->setPlaceholderText(QStringLiteral("Search all pages (Ctrl+F)"));
+  search_->setAccessibleName(QCoreApplication::translate("HelpWindow", "Search all pages"));
+  search_->setPlaceholderText(QCoreApplication::translate("HelpWindow", "Search all pages (Ctrl+F)"));
   search_->setClearButtonEnabled(true);
   list_ = new QListWidget;
   list_->setObjectName(QStringLiteral("HelpList"));
-  list_->setAccessibleName(QStringLiteral("Contents"));
+  list_->setAccessibleName(QCoreApplication::translate("HelpWindow", "Contents"));
   list_->setWordWrap(true);
   list_->setSpacing(kBetweenEntries);
   down->addWidget(search_);
@@ -143,10 +144,10 @@ QWidget* HelpWindow::BuildPage() {
     connect(shortcut, &QShortcut::activated, browser_, go);
     buttons->addWidget(button);
   };
-  add(QStringLiteral("Back"), QStringLiteral("Alt+Left"), &QTextBrowser::backwardAvailable,
-      &QTextBrowser::backward);
-  add(QStringLiteral("Forward"), QStringLiteral("Alt+Right"), &QTextBrowser::forwardAvailable,
-      &QTextBrowser::forward);
+  add(QCoreApplication::translate("HelpWindow", "Back"), QStringLiteral("Alt+Left"),
+      &QTextBrowser::backwardAvailable, &QTextBrowser::backward);
+  add(QCoreApplication::translate("HelpWindow", "Forward"), QStringLiteral("Alt+Right"),
+      &QTextBrowser::forwardAvailable, &QTextBrowser::forward);
   buttons->addStretch(1);
   down->addLayout(buttons);
   down->addWidget(browser_, 1);
@@ -174,7 +175,9 @@ void HelpWindow::ListContents() {
   }
   if (pages_.Contents().empty()) {
     auto* item = new QListWidgetItem(
-        QStringLiteral("There are no help pages in %1. The program works without them.").arg(pages_.Folder()),
+        QCoreApplication::translate("HelpWindow",
+                                    "There are no help pages in %1. The program works without them.")
+            .arg(pages_.Folder()),
         list_);
     item->setFlags(Qt::NoItemFlags);
   }
@@ -189,7 +192,7 @@ void HelpWindow::ListHits() {
     item->setData(kLineRole, hit.line);
   }
   if (list_->count() == 0) {
-    new QListWidgetItem(QStringLiteral("No page has all of these words."), list_);
+    new QListWidgetItem(QCoreApplication::translate("HelpWindow", "No page has all of these words."), list_);
     list_->item(0)->setFlags(Qt::NoItemFlags);
   }
 }

@@ -1,5 +1,6 @@
 #include "ui/help/manuals.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
@@ -40,14 +41,15 @@ void AskForProgram(QObject& owner, const char* kind, std::function<void(bool)> t
 
 void OpenFolder(QObject& owner, const QString& folder, const Report& report) {
   const auto fail = [folder, report](const QString& reason) {
-    report(QStringLiteral("The manual folder cannot be opened.\n\n%1: %2")
+    report(QCoreApplication::translate("HelpMenu", "The manual folder cannot be opened.\n\n%1: %2")
                .arg(QDir::toNativeSeparators(folder), reason));
   };
   std::error_code failed;
   std::filesystem::directory_iterator(folder.toStdU16String(), failed);
   if (failed) return fail(QString::fromLocal8Bit(failed.message().c_str()));
   AskForProgram(owner, "inode/directory", [folder, fail](bool has_browser) {
-    if (!has_browser || !OpenPath(folder)) fail(QStringLiteral("no program opens folders"));
+    if (!has_browser || !OpenPath(folder))
+      fail(QCoreApplication::translate("HelpMenu", "no program opens folders"));
   });
 }
 
@@ -83,7 +85,8 @@ void FillManualMenu(QMenu& menu, const QString& folder, Report report) {
                      [open, file] { open(file); });
     }
     if (!menu.isEmpty()) menu.addSeparator();
-    menu.addAction(QStringLiteral("Open the manual folder"), &menu, [open] { open({}); });
+    menu.addAction(QCoreApplication::translate("HelpMenu", "Open the manual folder"), &menu,
+                   [open] { open({}); });
   });
 }
 

@@ -44,10 +44,6 @@ bool LosesFocusForGood(const QEvent& event) {
 
 }  // namespace
 
-QString CaptionText(const std::string& caption) {
-  return host::FromWindows1252(caption).replace(QLatin1Char('&'), QStringLiteral("&&"));
-}
-
 Bindings::Bindings(core::Application& app, ActFunction act, HintFunction hint)
     : app_(app), act_(std::move(act)), hint_(std::move(hint)) {}
 
@@ -89,7 +85,7 @@ void Bindings::SetUp(QWidget& widget, const controls::NamedControl& control, con
   const bool shared = by_name == nullptr || by_name->form != control.form;
   const auto name = host::FromWindows1252(control.name);
   widget.setObjectName(shared ? host::FromWindows1252(control.form->name) + QLatin1Char('.') + name : name);
-  widget.setAccessibleName(label.isEmpty() ? host::FromWindows1252(state.caption) : label);
+  widget.setAccessibleName(label.isEmpty() ? FormText(state.caption) : label);
   const auto tip = ToolTipOf(control.form->name, control.name);
   widget.setToolTip(tip);
   widget.setAccessibleDescription(tip);
@@ -114,7 +110,7 @@ void Bindings::BindCaption(QAbstractButton& button, const controls::ControlState
   OnRefresh([&button, &state, caption = ChangeDetector<std::string>()]() mutable {
     if (!caption.Update(state.caption)) return false;
     button.setText(CaptionText(state.caption).trimmed());
-    button.setAccessibleName(host::FromWindows1252(state.caption));
+    button.setAccessibleName(FormText(state.caption));
     return true;
   });
 }

@@ -13,6 +13,7 @@
 #include <string_view>
 
 #include "core/gate.h"
+#include "ui/language/model_texts.h"
 
 class QAbstractButton;
 class QAction;
@@ -28,7 +29,7 @@ class ListBox;
 
 using ActFunction = std::function<core::Outcome(const core::Event&)>;
 using OwnActFunction =
-    std::function<core::Outcome(const std::string& name, const std::function<void()>& act)>;
+    std::function<core::Outcome(const phrases::Words& name, const std::function<void()>& act)>;
 using HintFunction = std::function<void(const QString&)>;
 
 // Remembers the value that was last shown.
@@ -60,7 +61,7 @@ class Bindings {
   core::Outcome Act(const core::Event& event) const { return act_(event); }
 
   // Runs an act of our own inside the gate. It can be undone under its name.
-  core::Outcome RunOwn(const std::string& name, const std::function<void()>& act) const {
+  core::Outcome RunOwn(const phrases::Words& name, const std::function<void()>& act) const {
     return own_act_(name, act);
   }
   void SetOwnActs(OwnActFunction own_act) { own_act_ = std::move(own_act); }
@@ -136,8 +137,5 @@ class Bindings {
   std::deque<std::function<bool()>> refreshes_;
   std::map<const controls::ControlState*, QWidget*> widgets_;
 };
-
-// A text of the model for the screen; "&" does not underline a letter in it.
-QString CaptionText(const std::string& caption);
 
 }  // namespace ovl::ui

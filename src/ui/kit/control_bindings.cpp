@@ -1,4 +1,5 @@
 // Makes the widget for each kind of control and binds it.
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -18,11 +19,16 @@ namespace {
 
 constexpr Em kOptionGap(2);
 
-QStringList Texts(const std::vector<std::string>& items) {
+QStringList Texts(const std::vector<std::string>& items, QString (*text)(const std::string&) = FormText) {
   QStringList texts;
   texts.reserve(static_cast<qsizetype>(items.size()));
-  for (const auto& item : items) texts.append(host::FromWindows1252(item));
+  for (const auto& item : items) texts.append(text(item));
   return texts;
+}
+
+// The names of registers are the same in every language.
+QString AsItIs(const std::string& item) {
+  return host::FromWindows1252(item);
 }
 
 struct ListShadow {
@@ -90,9 +96,9 @@ PickList* Bindings::MakeReadOnlyList(const controls::NamedControl& control, cons
   auto* box = new PickList;
   SetUp(*box, control, label);
   box->setEnabled(false);
-  box->addItem(host::FromWindows1252(text.text));
+  box->addItem(FormText(text.text));
   OnRefresh([box, &text, visible = ChangeDetector<bool>(), shown = ChangeDetector<std::string>()]() mutable {
-    if (shown.Update(text.text)) box->setItemText(0, host::FromWindows1252(text.text));
+    if (shown.Update(text.text)) box->setItemText(0, FormText(text.text));
     if (!visible.Update(text.visible)) return false;
     box->setVisible(text.visible);
     return true;
@@ -112,7 +118,7 @@ ListBox* Bindings::MakeListBox(const controls::NamedControl& control, const QStr
   OnRefresh([box, &list, shadow] {
     if (shadow->items.Update(list.items)) {
       box->clear();
-      box->addItems(Texts(list.items));
+      box->addItems(Texts(list.items, AsItIs));
       shadow->position.Forget();
     }
     if (shadow->position.Update(list.position)) box->SetMarked(list.position);
@@ -215,7 +221,7 @@ QWidget* Bindings::MakeTextEdit(controls::TextBox& box) {
     const auto text = lines->toPlainText();
     shadow->Forget();
     if (!host::ToWindows1252(text))
-      return hint_(QStringLiteral("Only characters of Windows-1252 can be kept."));
+      return hint_(QCoreApplication::translate("TextLine", "Only characters of Windows-1252 can be kept."));
     if (act_(core::TypeEvent{&box, host::ToWindows1252(text).value_or(std::string())}) ==
         core::Outcome::kDone)
       shadow->Update(box.text);
@@ -237,8 +243,8 @@ QWidget* Bindings::MakeLabel(controls::Label& label) {
   BindState(*text, label);
   OnRefresh([text, &label, caption = ChangeDetector<std::string>()]() mutable {
     if (!caption.Update(label.caption)) return false;
-    text->setText(host::FromWindows1252(label.caption));
-    text->setAccessibleName(host::FromWindows1252(label.caption));
+    text->setText(FormText(label.caption));
+    text->setAccessibleName(FormText(label.caption));
     return true;
   });
   return text;

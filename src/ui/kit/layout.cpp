@@ -140,7 +140,7 @@ PageColumn& PageColumn::Section(std::string_view frame) {
   within_ = nullptr;
   auto& section = state_->sections.emplace_back();
   section.frame = std::get<controls::Frame*>(bindings_.Named(form_, frame).control);
-  section.title = [frame = section.frame] { return host::FromWindows1252(frame->caption); };
+  section.title = [frame = section.frame] { return FormText(frame->caption); };
   return *this;
 }
 
@@ -252,7 +252,8 @@ QWidget* PageColumn::MakeFields(const QString& label, const std::vector<Field>& 
 
 QLabel* PageColumn::MakeRowLabel(const RowLabel& label, const controls::NamedControl& first,
                                  const controls::ControlState* substitute) {
-  auto* text = new RowLabelWidget(CaptionText(label.text.toStdString()));
+  auto text_of_label = label.text;
+  auto* text = new RowLabelWidget(text_of_label.replace(QLatin1Char('&'), QStringLiteral("&&")));
   text->setTextFormat(Qt::PlainText);
   const controls::ControlState* named =
       label.control.empty() ? nullptr : &controls::StateOf(bindings_.Named(form_, label.control).control);
@@ -262,7 +263,7 @@ QLabel* PageColumn::MakeRowLabel(const RowLabel& label, const controls::NamedCon
     bindings_.OnRefresh([text, &state, caption = ChangeDetector<std::string>()]() mutable {
       if (!caption.Update(state.caption)) return false;
       text->setText(CaptionText(state.caption));
-      if (text->buddy() != nullptr) text->buddy()->setAccessibleName(host::FromWindows1252(state.caption));
+      if (text->buddy() != nullptr) text->buddy()->setAccessibleName(FormText(state.caption));
       return true;
     });
   }
@@ -280,9 +281,9 @@ QLabel* PageColumn::MakeRowLabel(const RowLabel& label, const controls::NamedCon
 }
 
 QString PageColumn::AccessibleNameOf(const RowLabel& label, const controls::NamedControl& first) const {
-  if (label.of_field) return host::FromWindows1252(controls::StateOf(first.control).caption);
+  if (label.of_field) return FormText(controls::StateOf(first.control).caption);
   if (label.control.empty()) return label.text;
-  return host::FromWindows1252(controls::StateOf(bindings_.Named(form_, label.control).control).caption);
+  return FormText(controls::StateOf(bindings_.Named(form_, label.control).control).caption);
 }
 
 PageColumn& PageColumn::Row(const RowLabel& label, const std::vector<Field>& fields) {

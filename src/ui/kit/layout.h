@@ -39,7 +39,7 @@ inline constexpr Em kLetterRoom(0.17);
 // of the field itself.
 struct RowLabel {
   RowLabel(const QString& words) : text(words) {}
-  RowLabel(const char* words) : text(QString::fromLatin1(words)) {}
+  RowLabel(const char* words) : text(FormText(words)) {}
   static RowLabel FromModel(std::string name) {
     RowLabel label("");
     label.control = std::move(name);
@@ -62,7 +62,7 @@ struct Field {
   Field(const char* name) : names{name} {}
   Field(std::string name) : names{std::move(name)} {}
   Field(std::vector<std::string> alternatives, const char* below)
-      : names(std::move(alternatives)), caption(QString::fromLatin1(below)) {}
+      : names(std::move(alternatives)), caption(FormText(below)) {}
   static Field WithSubstitute(const char* name, const char* substitute) {
     Field field(name);
     field.substitute = substitute;

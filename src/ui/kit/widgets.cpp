@@ -1,6 +1,7 @@
 #include "ui/kit/widgets.h"
 
 #include <QAbstractItemView>
+#include <QCoreApplication>
 #include <QFocusEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -126,15 +127,16 @@ class TextValidator : public QValidator {
 
   State validate(QString& text, int& caret) const override {
     if (!host::ToWindows1252(text))
-      return Refuse(QStringLiteral("You can type only characters of Windows-1252."));
+      return Refuse(QCoreApplication::translate("TextLine", "You can type only characters of Windows-1252."));
     const auto is_digit = [](QChar sign) { return sign >= QLatin1Char('0') && sign <= QLatin1Char('9'); };
     if (digits_only && !std::all_of(text.begin(), text.end(), is_digit))
-      return Refuse(QStringLiteral("Only digits can be typed here."));
+      return Refuse(QCoreApplication::translate("TextLine", "Only digits can be typed here."));
     if (limit == 0 || text.size() <= limit) return Acceptable;
     text.truncate(std::max<qsizetype>({limit, caret, SizeWithoutPadding(text)}));
     if (text.size() <= limit) return Acceptable;
-    return Refuse((digits_only ? QStringLiteral("No more than %1 digits fit here.")
-                               : QStringLiteral("No more than %1 characters fit here."))
+    return Refuse((digits_only
+                       ? QCoreApplication::translate("TextLine", "No more than %1 digits fit here.")
+                       : QCoreApplication::translate("TextLine", "No more than %1 characters fit here."))
                       .arg(limit));
   }
 

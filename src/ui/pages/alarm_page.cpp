@@ -1,5 +1,6 @@
 #include "ui/pages/pages.h"
 
+#include <QCoreApplication>
 #include <QPushButton>
 #include <QScrollArea>
 
@@ -15,15 +16,13 @@ using enum image::FieldId;
 
 QString EntryText(const controls::List& list, int position) {
   const bool known = position >= 0 && position < static_cast<int>(list.items.size());
-  return known ? host::FromWindows1252(list.items[static_cast<std::size_t>(position)]) : QStringLiteral("?");
+  return known ? FormText(list.items[static_cast<std::size_t>(position)]) : QStringLiteral("?");
 }
 
 QString TriggerText(const controls::MainForm& form, int trigger) {
-  if (trigger == image::kNoTrigger) return QStringLiteral("free");
+  if (trigger == image::kNoTrigger) return QCoreApplication::translate("AlarmPage", "free");
   const auto entry = EntryText(form.ComboALM[controls::Alm::kTrigger], trigger);
-  return trigger < image::kRtsTrigger
-             ? host::FromWindows1252(form.lbAlmTrig.caption) + QLatin1Char(' ') + entry
-             : entry;
+  return trigger < image::kRtsTrigger ? FormText(form.lbAlmTrig.caption) + QLatin1Char(' ') + entry : entry;
 }
 
 // The last entry is the pulse.
@@ -42,14 +41,17 @@ QWidget* AlarmOverview(Bindings& bindings) {
   return BuildOverview(
       bindings, bindings.Model().frmMain.ComboALM[controls::Alm::kNumber],
       {QStringLiteral("AlarmOverview"),
-       QStringLiteral("Overview of the alarms"),
-       {{QStringLiteral("No."), QStringLiteral("16")},
-        {QStringLiteral("Trigger"), QStringLiteral("EX. 13-24")},
-        {QStringLiteral("Duration"), QStringLiteral("PLUSE")},
-        {QStringLiteral("Normal"), QStringLiteral("NC")},
-        {QStringLiteral("Text"), {}}},
+       QCoreApplication::translate("AlarmPage", "Overview of the alarms"),
+       {{QCoreApplication::translate("AlarmPage", "No."), QStringLiteral("16")},
+        {QCoreApplication::translate("AlarmPage", "Trigger"), FormText("EX.") + QStringLiteral(" 13-24")},
+        {QCoreApplication::translate("AlarmPage", "Duration"), FormText("PLUSE")},
+        {QCoreApplication::translate("AlarmPage", "Normal"), QStringLiteral("NC")},
+        {QCoreApplication::translate("AlarmPage", "Text"), {}}},
        [&app] { return AlarmLines(app); },
-       [] { return QStringLiteral("EX. exceptions   NO normally open   NC normally closed"); },
+       [] {
+         return QCoreApplication::translate("AlarmPage",
+                                            "EX. exceptions   NO normally open   NC normally closed");
+       },
        BuildCopySlotButton(bindings, acts::SlotKind::kAlarm)});
 }
 
@@ -62,7 +64,7 @@ void AddEditor(PageColumn& column, const controls::MainForm& form) {
       .Row("ComboALM(3)")
       .Row("ComboALM(6)")
       .Row("ComboALM(7)")
-      .Note(QStringLiteral("All alarms"),
+      .Note(QCoreApplication::translate("AlarmPage", "All alarms"),
             [&form] {
               return form.ComboALM[controls::Alm::kFlagType].visible ||
                      form.ComboALM[controls::Alm::kFlagDuration].visible;

@@ -1,5 +1,6 @@
 #include "ui/pages/pages.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -32,8 +33,10 @@ struct Act {
   const char* word;
 };
 constexpr std::array kActs = {
-    Act{1, image::kDisplayBit, 'D', "D display"}, Act{2, image::kOutputBit, 'O', "O output"},
-    Act{3, image::kHistoryBit, 'H', "H history"}, Act{4, image::kScrollBit, 'S', "S scroll matching"}};
+    Act{1, image::kDisplayBit, 'D', QT_TRANSLATE_NOOP("ExceptionPage", "D display")},
+    Act{2, image::kOutputBit, 'O', QT_TRANSLATE_NOOP("ExceptionPage", "O output")},
+    Act{3, image::kHistoryBit, 'H', QT_TRANSLATE_NOOP("ExceptionPage", "H history")},
+    Act{4, image::kScrollBit, 'S', QT_TRANSLATE_NOOP("ExceptionPage", "S scroll matching")}};
 constexpr std::size_t kScrollMatching = 4;
 
 // Scroll matching is listed even when the panel has no list for it, because it prevents the other acts.
@@ -49,11 +52,11 @@ QString ValueText(const core::Application& app, const std::string& slot, std::si
 }
 
 QString RangeText(const core::Application& app, const std::string& slot) {
-  constexpr std::array kOperators = {"", "IN ", "OUT ", "IN OUT "};
+  constexpr std::array kOperators = {"", "IN", "OUT", "IN OUT"};
   const auto operation = static_cast<std::size_t>(image::OperatorOf(codecs::HexToInt(slot)));
   if (operation == 0) return {};
-  return QLatin1String(kOperators[operation]) + ValueText(app, slot, 0) + QStringLiteral(" - ") +
-         ValueText(app, slot, 1);
+  return FormText(kOperators[operation]) + QLatin1Char(' ') + ValueText(app, slot, 0) +
+         QStringLiteral(" - ") + ValueText(app, slot, 1);
 }
 
 QString TextOf(const core::Application& app, const std::string& slot) {
@@ -74,7 +77,7 @@ QString ActsText(const core::Application& app, int flags) {
 QString Legend(const core::Application& app) {
   QStringList words;
   for (const auto& act : kActs) {
-    if (IsListed(app.frmMain, act)) words.append(QString::fromLatin1(act.word));
+    if (IsListed(app.frmMain, act)) words.append(QCoreApplication::translate("ExceptionPage", act.word));
   }
   return words.join(QStringLiteral("   "));
 }
@@ -83,11 +86,12 @@ QWidget* ExceptionOverview(Bindings& bindings) {
   const auto& app = bindings.Model();
   return BuildOverview(bindings, bindings.Model().frmMain.ComboExcp[controls::Excp::kNumber],
                        {QStringLiteral("ExceptionOverview"),
-                        QStringLiteral("Overview of the exceptions"),
-                        {{QStringLiteral("No."), QStringLiteral("24")},
-                         {QStringLiteral("Text"), {}},
-                         {QStringLiteral("Range"), QStringLiteral("IN 0.00 - 9.99"), true},
-                         {QStringLiteral("Acts"), QStringLiteral("D O H S")}},
+                        QCoreApplication::translate("ExceptionPage", "Overview of the exceptions"),
+                        {{QCoreApplication::translate("ExceptionPage", "No."), QStringLiteral("24")},
+                         {QCoreApplication::translate("ExceptionPage", "Text"), {}},
+                         {QCoreApplication::translate("ExceptionPage", "Range"),
+                          FormText("IN") + QStringLiteral(" 0.00 - 9.99"), true},
+                         {QCoreApplication::translate("ExceptionPage", "Acts"), QStringLiteral("D O H S")}},
                         [&app] { return ExceptionLines(app); },
                         [&app] { return Legend(app); },
                         BuildCopySlotButton(bindings, acts::SlotKind::kException)});
@@ -115,7 +119,7 @@ void AddRange(Bindings& bindings, PageColumn& column) {
   dash->setFixedWidth(kStoredTextWidth - 2 * (kRangeBoxWidth + kFieldGap));
   static_cast<QHBoxLayout*>(row->layout())->insertWidget(1, dash);
   for (auto* label : column.Holder().findChildren<QLabel*>()) {
-    if (label->text() == QLatin1String("RANGE")) label->setMinimumHeight(height);
+    if (label->text() == FormText("RANGE")) label->setMinimumHeight(height);
   }
 }
 
@@ -139,7 +143,8 @@ void AddRecorder(Bindings& bindings, PageColumn& column) {
   for (std::size_t list = 0; list < form.ComboKLM4011.size(); ++list) {
     const auto& recorder = form.OpDVR.elements.at(1 + list / 2).caption;
     auto* widget = bindings.WidgetOf(form.ComboKLM4011[list]);
-    widget->setAccessibleName(host::FromWindows1252(recorder + " " + form.ComboKLM4011[list].caption));
+    widget->setAccessibleName(FormText(recorder) + QLatin1Char(' ') +
+                              FormText(form.ComboKLM4011[list].caption));
     for (auto* label : column.Holder().findChildren<QLabel*>()) {
       if (label->buddy() == widget) label->setIndent(kBelowOption);
     }
@@ -180,9 +185,10 @@ std::vector<OverviewLine> ExceptionLines(const core::Application& app) {
     const auto& slot = app.image.at(image::FieldId::EXCPSTRS, number);
     const auto text = TextOf(app, slot);
     const bool used = !image::IsFreeException(slot) && !text.trimmed().isEmpty();
-    lines.push_back({{QString::number(number), used ? text : QStringLiteral("free"), RangeText(app, slot),
-                      ActsText(app, codecs::HexToInt(slot))},
-                     used});
+    lines.push_back(
+        {{QString::number(number), used ? text : QCoreApplication::translate("ExceptionPage", "free"),
+          RangeText(app, slot), ActsText(app, codecs::HexToInt(slot))},
+         used});
   }
   return lines;
 }

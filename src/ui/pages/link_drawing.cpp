@@ -1,5 +1,6 @@
 #include "ui/pages/link_drawing.h"
 
+#include <QCoreApplication>
 #include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
@@ -54,21 +55,21 @@ LinkState LinkStateOf(const core::Application& app) {
 QString LinkStateText(LinkState state) {
   switch (state) {
     case LinkState::kClosed:
-      return QStringLiteral("Port closed");
+      return QCoreApplication::translate("LinkDrawing", "Port closed");
     case LinkState::kOpen:
-      return QStringLiteral("Port open");
+      return QCoreApplication::translate("LinkDrawing", "Port open");
     case LinkState::kAsked:
-      return QStringLiteral("Asking for remote");
+      return QCoreApplication::translate("LinkDrawing", "Asking for remote");
     case LinkState::kAccess:
-      return QStringLiteral("Remote held");
+      return QCoreApplication::translate("LinkDrawing", "Remote held");
     case LinkState::kUploading:
-      return QStringLiteral("Uploading");
+      return QCoreApplication::translate("LinkDrawing", "Uploading");
     case LinkState::kDownloading:
-      return QStringLiteral("Downloading");
+      return QCoreApplication::translate("LinkDrawing", "Downloading");
     case LinkState::kScanning:
-      return QStringLiteral("Scanning");
+      return QCoreApplication::translate("LinkDrawing", "Scanning");
     case LinkState::kLost:
-      return QStringLiteral("Device lost");
+      return QCoreApplication::translate("LinkDrawing", "Device lost");
   }
   return {};
 }
@@ -96,8 +97,10 @@ LinkDrawing::Shown LinkDrawing::FromModel() const {
   shown.state = LinkStateOf(app_);
   if (form.Picture1[1].visible) shown.hint = Hint::kToComputer;
   if (form.Picture1[2].visible) shown.hint = Hint::kToUnit;
-  shown.port = app_.PortNumber == 0 ? QStringLiteral("Computer")
-                                    : QStringLiteral("Comport %1").arg(static_cast<int>(app_.PortNumber));
+  shown.port =
+      app_.PortNumber == 0
+          ? QCoreApplication::translate("LinkDrawing", "Computer")
+          : QCoreApplication::translate("LinkDrawing", "Comport %1").arg(static_cast<int>(app_.PortNumber));
   return shown;
 }
 
@@ -105,7 +108,8 @@ void LinkDrawing::Refresh() {
   auto now = FromModel();
   if (now == shown_ && !accessibleName().isEmpty()) return;
   shown_ = std::move(now);
-  setAccessibleName(QStringLiteral("Link to the unit: ") + LinkStateText(shown_.state));
+  setAccessibleName(
+      QCoreApplication::translate("LinkDrawing", "Link to the unit: %1").arg(LinkStateText(shown_.state)));
   access_.setForegroundRole(IsLive(shown_.state) ? QPalette::Link : QPalette::WindowText);
   update();
 }
@@ -229,7 +233,8 @@ void LinkDrawing::DrawWords(QPainter& painter) const {
 
   painter.setPen(MutedColor(palette()));
   put(QRectF(kScreen.left() - 20, foot, kScreen.width() + 40, kWordHeight), shown_.port);
-  put(QRectF(kUnit.left() - 10, foot, kUnit.width() + 20, kWordHeight), QStringLiteral("Unit"));
+  put(QRectF(kUnit.left() - 10, foot, kUnit.width() + 20, kWordHeight),
+      QCoreApplication::translate("LinkDrawing", "Unit"));
   put(under, LinkStateText(shown_.state));
 }
 

@@ -1,5 +1,6 @@
 #include "ui/pages/overview_list.h"
 
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
@@ -79,7 +80,7 @@ void FillItem(QTreeWidgetItem& item, const OverviewLine& line) {
 
 QString UseText(const std::vector<OverviewLine>& lines) {
   const auto used = std::count_if(lines.begin(), lines.end(), [](const auto& line) { return line.used; });
-  return QStringLiteral("%1 of %2 in use").arg(used).arg(lines.size());
+  return QCoreApplication::translate("OverviewList", "%1 of %2 in use").arg(used).arg(lines.size());
 }
 
 // Fills the table and marks the entry that is picked in the list.
@@ -206,7 +207,7 @@ QWidget* BuildOverview(Bindings& bindings, controls::List& list, Overview overvi
   auto* table = new OverviewList(overview.columns);
   table->setObjectName(overview.object_name);
   table->setAccessibleName(overview.accessible_name);
-  table->setAccessibleDescription(QStringLiteral("Arrows move, Enter picks."));
+  table->setAccessibleDescription(QCoreApplication::translate("OverviewList", "Arrows move, Enter picks."));
   auto* below = new QHBoxLayout;
   auto* legend = MutedLabel({});
   auto* use = MutedLabel({});

@@ -1,4 +1,5 @@
 
+#include <QCoreApplication>
 #include <QScrollArea>
 #include <array>
 #include <string>
@@ -10,7 +11,9 @@
 namespace ovl::ui {
 namespace {
 
-const QString kCarriedThrough = QStringLiteral("The program keeps the settings of this tab unchanged.");
+QString CarriedThrough() {
+  return QCoreApplication::translate("Pages", "The program keeps the settings of this tab unchanged.");
+}
 
 // A row for each list of an array.
 void AddListRows(PageColumn& column, const std::string& array, std::size_t count) {
@@ -24,7 +27,7 @@ QWidget* TextSetupPage(Bindings& bindings) {
   auto& column = page.Column();
   column.Section("Frame3");
   AddListRows(column, "ComboDIP", bindings.Model().frmMain.ComboDIP.size());
-  return page.Finish(kCarriedThrough);
+  return page.Finish(CarriedThrough());
 }
 
 QWidget* CommunicationPage(Bindings& bindings) {
@@ -46,7 +49,7 @@ QWidget* CommunicationPage(Bindings& bindings) {
       .Row(RowLabel::OfField(), {Field::WithSubstitute("ComboCOMM(10)", "ComboNone(1)")})
       .Row(RowLabel::OfField(), {Field::WithSubstitute("ComboCOMM(11)", "ComboNone(2)")})
       .Row("ComboCOMM(12)");
-  return page.Finish(kCarriedThrough);
+  return page.Finish(CarriedThrough());
 }
 
 QWidget* TimeLanguagePage(Bindings& bindings) {
@@ -56,7 +59,7 @@ QWidget* TimeLanguagePage(Bindings& bindings) {
   AddListRows(column, "ComboTD", bindings.Model().frmMain.ComboTD.size());
   AddTitleRows(bindings, column);
   page.Column().Section("Frame12").Row("ComboLang");
-  return page.Finish(kCarriedThrough);
+  return page.Finish(CarriedThrough());
 }
 
 }  // namespace

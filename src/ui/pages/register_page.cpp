@@ -1,5 +1,6 @@
 #include "ui/pages/pages.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -35,9 +36,10 @@ class FilterLine : public QLineEdit {
  public:
   explicit FilterLine(ListBox& list) : list_(list) {
     setObjectName(QStringLiteral("RegisterFilter"));
-    setAccessibleName(QStringLiteral("Filter of the registers"));
-    setPlaceholderText(QStringLiteral("Filter"));
-    setToolTip(QStringLiteral("Shows only the registers whose names have all of these words (Ctrl+F)."));
+    setAccessibleName(QCoreApplication::translate("RegisterPage", "Filter of the registers"));
+    setPlaceholderText(QCoreApplication::translate("RegisterPage", "Filter"));
+    setToolTip(QCoreApplication::translate(
+        "RegisterPage", "Shows only the registers whose names have all of these words (Ctrl+F)."));
     // The icon of the button takes time to load, which a start does not need.
     connect(this, &QLineEdit::textEdited, this, [this] { setClearButtonEnabled(true); });
     connect(this, &QLineEdit::textChanged, &list, &ListBox::SetFilter);
@@ -68,9 +70,11 @@ class FilterLine : public QLineEdit {
 
 QString CountText(const ListBox& list) {
   const int all = list.count(), shown = list.ShownEntries();
-  if (shown == all) return QStringLiteral("Type to find, Enter picks. %1 registers.").arg(all);
-  if (shown == 0) return QStringLiteral("No register has these words.");
-  return QStringLiteral("%1 of %2 registers.").arg(shown).arg(all);
+  if (shown == all)
+    return QCoreApplication::translate("RegisterPage", "Type to find, Enter picks. %n registers.", nullptr,
+                                       all);
+  if (shown == 0) return QCoreApplication::translate("RegisterPage", "No register has these words.");
+  return QCoreApplication::translate("RegisterPage", "%1 of %n registers.", nullptr, all).arg(shown);
 }
 
 QWidget* RegisterList(Bindings& bindings) {
@@ -79,7 +83,7 @@ QWidget* RegisterList(Bindings& bindings) {
   auto* down = new QVBoxLayout(side);
   down->setContentsMargins(kMargin, kMargin, 0, kMargin);
   down->setSpacing(kRowGap);
-  auto* title = TitleLabel(QStringLiteral("Register"));
+  auto* title = TitleLabel(QCoreApplication::translate("RegisterPage", "Register"));
   auto* list = bindings.MakeListBox(bindings.Named(form.form, "ComboReg"), title->text());
   title->setBuddy(list);
   auto* filter = new FilterLine(*list);
@@ -154,13 +158,13 @@ class FrameBuilder {
     const auto& model = bindings_.Model();
     const auto* label = model.registry.Find(model.frmMain.form, row.label);
     if (label != nullptr) return RowLabel::FromModel(label->name);
-    return QString::fromLatin1(row.label.data(), static_cast<qsizetype>(row.label.size()));
+    return FormText(std::string(row.label));
   }
 
   void AddOptions(std::span<const OptionRow> line) {
     std::vector<OptionColumn> arrays;
     for (const auto& row : line) {
-      const auto head = QString::fromLatin1(row.label.data(), static_cast<qsizetype>(row.label.size()));
+      const auto head = FormText(std::string(row.label));
       arrays.push_back({head, std::string(row.control), row.columns, std::string(row.inner)});
     }
     column_.Options(arrays);
@@ -207,12 +211,14 @@ QWidget* RegisterOptionsPage(Bindings& bindings) {
   column.OwnSection([&form] { return host::FromWindows1252(form.ComboReg.Text()); },
                     [&form, without_options] { return form.ComboReg.position >= 0 && without_options(); });
   const auto hidden = [&app = bindings.Model()] { return registers::OptionsAreHidden(app); };
-  column.Note(QStringLiteral("This register has no options of its own."), [hidden] { return !hidden(); });
-  column.Note(
-      QStringLiteral("The options of this register are hidden: one of the stored options is not in its "
-                     "list. Pick the register again to load its default options."),
-      hidden);
-  return page.Finish(QStringLiteral("No register is selected."));
+  column.Note(QCoreApplication::translate("RegisterPage", "This register has no options of its own."),
+              [hidden] { return !hidden(); });
+  column.Note(QCoreApplication::translate(
+                  "RegisterPage",
+                  "The options of this register are hidden: one of the stored options is not in its "
+                  "list. Pick the register again to load its default options."),
+              hidden);
+  return page.Finish(QCoreApplication::translate("RegisterPage", "No register is selected."));
 }
 
 }  // namespace

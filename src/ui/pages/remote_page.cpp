@@ -1,3 +1,4 @@
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPointer>
@@ -84,7 +85,8 @@ QWidget* HistoryLine(Bindings& bindings) {
         if (!pending.Update(app.HistoryPending) || std::exchange(first, false)) return false;
         // "Disconnect" ends the wait for a history too.
         const bool saved = !app.HistoryPending && app.frmMain.MSComm1.PortOpen && !app.history_path.empty();
-        line->setText(QStringLiteral("The history is in %1.").arg(host::FromSystem(app.history_path)));
+        line->setText(QCoreApplication::translate("RemotePage", "The history is in %1.")
+                          .arg(host::FromSystem(app.history_path)));
         line->setVisible(saved);
         return true;
       });
@@ -113,7 +115,8 @@ QWidget* MasterReset(Bindings& bindings) {
   down->addWidget(Hairline());
   auto* across = new QHBoxLayout;
   across->setSpacing(kFieldGap);
-  auto* words = MutedLabel(QStringLiteral("Puts the unit back to its factory settings at once."));
+  auto* words = MutedLabel(
+      QCoreApplication::translate("RemotePage", "Puts the unit back to its factory settings at once."));
   words->setWordWrap(true);
   auto* button = ActionButton(bindings, controls::kMasterReset);
   button->setIcon(GlyphIcon(Glyph::kWarning, DangerColor));
@@ -136,7 +139,7 @@ QWidget* Progress(Bindings& bindings) {
   across->addWidget(passed);
   down->addLayout(across);
   auto* bar = bindings.Make(bindings.Named(bindings.Model().frmMain.form, "vbalProgressBar1"),
-                            QStringLiteral("Progress of the transfer"));
+                            QCoreApplication::translate("RemotePage", "Progress of the transfer"));
   down->addWidget(bar);
   bindings.OnRefresh(
       [passed, directions, &app = bindings.Model(), shown = ChangeDetector<QString>()]() mutable {
@@ -241,12 +244,15 @@ void LockClockLists(Bindings& bindings) {
 }
 
 void ClockColumn(Bindings& bindings, PageColumn& column) {
-  column.OwnSection(QStringLiteral("Clock of the unit"))
+  column.OwnSection(QCoreApplication::translate("RemotePage", "Clock of the unit"))
       .Unlabelled("CheckTD")
-      .Row("Date", {{{"ComboMonth"}, "month"},
-                    {{"ComboDay(0)", "ComboDay(1)", "ComboDay(2)", "ComboDay(3)"}, "day"},
-                    {{"ComboYear"}, "year"}})
-      .Row("Time", {{{"ComboHR"}, "hour"}, {{"ComboMin"}, "minute"}, {{"ComboSec"}, "second"}})
+      .Row(phrases::Marked("Form", "Date"),
+           {{{"ComboMonth"}, phrases::Marked("Form", "month")},
+            {{"ComboDay(0)", "ComboDay(1)", "ComboDay(2)", "ComboDay(3)"}, phrases::Marked("Form", "day")},
+            {{"ComboYear"}, phrases::Marked("Form", "year")}})
+      .Row(phrases::Marked("Form", "Time"), {{{"ComboHR"}, phrases::Marked("Form", "hour")},
+                                             {{"ComboMin"}, phrases::Marked("Form", "minute")},
+                                             {{"ComboSec"}, phrases::Marked("Form", "second")}})
       .FullWidth(SetTime(bindings));
   LockClockLists(bindings);
   column.Section("FrameDemo").Unlabelled("DemoMode").Row("CharacterList").Row("DemoType").Row("DemoSpeed");

@@ -1,5 +1,6 @@
 #include "ui/pages/transfer_progress.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 #include <algorithm>
 
@@ -48,9 +49,13 @@ std::size_t LineTime(const core::Application& app, std::size_t characters) {
 
 QString TimeText(std::size_t milliseconds) {
   constexpr std::size_t kMinute = 60 * kSecond;
-  if (milliseconds < kSecond) return QStringLiteral("less than 1 s left");
-  if (milliseconds < kMinute) return QStringLiteral("%1 s left").arg((milliseconds + kSecond - 1) / kSecond);
-  return QStringLiteral("%1 min %2 s left").arg(milliseconds / kMinute).arg(milliseconds % kMinute / kSecond);
+  if (milliseconds < kSecond) return QCoreApplication::translate("TransferProgress", "less than 1 s left");
+  if (milliseconds < kMinute)
+    return QCoreApplication::translate("TransferProgress", "%1 s left")
+        .arg((milliseconds + kSecond - 1) / kSecond);
+  return QCoreApplication::translate("TransferProgress", "%1 min %2 s left")
+      .arg(milliseconds / kMinute)
+      .arg(milliseconds % kMinute / kSecond);
 }
 
 }  // namespace
@@ -59,10 +64,15 @@ QString TransferProgressText(const core::Application& app) {
   if (!app.frmMain.vbalProgressBar1.visible) return {};
   const auto progress = app.LinkMode == core::kLinkDownload ? DownloadProgress(app) : UploadProgress(app);
   const bool stopped = core::LostDevice(app) != nullptr || !app.frmMain.MSComm1.PortOpen;
-  if (progress.done == 0) return stopped ? QString() : QStringLiteral("waiting for the unit");
-  const auto done = QLocale(QLocale::English).toString(static_cast<qulonglong>(progress.done));
-  if (stopped) return QStringLiteral("stopped after %1 characters").arg(done);
-  return QStringLiteral("%1 characters, %2").arg(done, TimeText(LineTime(app, progress.left)));
+  if (progress.done == 0)
+    return stopped ? QString() : QCoreApplication::translate("TransferProgress", "waiting for the unit");
+  const auto done = QLocale(QCoreApplication::translate("TransferProgress", "en",
+                                                        "the language in which numbers are written"))
+                        .toString(static_cast<qulonglong>(progress.done));
+  if (stopped)
+    return QCoreApplication::translate("TransferProgress", "stopped after %1 characters").arg(done);
+  return QCoreApplication::translate("TransferProgress", "%1 characters, %2")
+      .arg(done, TimeText(LineTime(app, progress.left)));
 }
 
 }  // namespace ovl::ui

@@ -1,6 +1,7 @@
 #include "ui/print/print_item.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QMainWindow>
 #include <QMenu>
 #include <utility>
@@ -19,8 +20,9 @@ void Print(const core::Application& app, const PrintHooks& hooks) {
   const auto printed = PrintWithDialog(hooks.front(), kSiteSheetTitle,
                                        [&](QPagedPaintDevice& device) { PrintSiteSheet(sheet, device); });
   if (app.ended || printed == Printed::kCancelled) return;
-  hooks.show_text(printed == Printed::kDone ? QStringLiteral("Site sheet printed")
-                                            : QStringLiteral("The site sheet was not printed"));
+  hooks.show_text(printed == Printed::kDone
+                      ? QCoreApplication::translate("PrintItem", "Site sheet printed")
+                      : QCoreApplication::translate("PrintItem", "The site sheet was not printed"));
 }
 
 }  // namespace
@@ -28,7 +30,7 @@ void Print(const core::Application& app, const PrintHooks& hooks) {
 void AddPrintItem(const core::Application& app, QMainWindow& main, PrintHooks hooks) {
   if (!HasPrinting()) return;
   auto* file = main.findChild<QMenu*>(QStringLiteral("FileMenu"));
-  auto* item = new QAction(QStringLiteral("Print Site Sheet..."), file);
+  auto* item = new QAction(QCoreApplication::translate("PrintItem", "Print Site Sheet..."), file);
   item->setObjectName(QStringLiteral("menuPrintSheet"));
   item->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_P));
   QObject::connect(item, &QAction::triggered, &main, [&app, hooks = std::move(hooks)] { Print(app, hooks); });

@@ -1,5 +1,6 @@
 #include "ui/print/printer.h"
 
+#include <QCoreApplication>
 #include <QPrintDialog>
 #include <QPrinter>
 
@@ -14,7 +15,7 @@ Printed PrintWithDialog(QWidget* front, const QString& title,
   QPrinter printer(QPrinter::HighResolution);
   printer.setDocName(title);
   QPrintDialog dialog(&printer, front);
-  dialog.setWindowTitle(QStringLiteral("Print ") + title);
+  dialog.setWindowTitle(QCoreApplication::translate("PrintItem", "Print %1").arg(title));
   if (dialog.exec() != QDialog::Accepted) return Printed::kCancelled;
   print(printer);
   return printer.printerState() == QPrinter::Error ? Printed::kFailed : Printed::kDone;

@@ -1,5 +1,6 @@
 #include "ui/window/advice_bar.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -7,6 +8,7 @@
 
 #include "host/text_codec.h"
 #include "ui/kit/theme.h"
+#include "ui/language/model_texts.h"
 
 namespace ovl::ui {
 
@@ -24,9 +26,10 @@ AdviceBar::AdviceBar(Bindings& bindings, const OwnActs& acts)
   words_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   action_->setObjectName(QStringLiteral("AdviceAction"));
   close_->setObjectName(QStringLiteral("AdviceClose"));
-  close_->setText(QStringLiteral("Hide"));
-  close_->setAccessibleName(QStringLiteral("Hide this advice"));
-  close_->setToolTip(QStringLiteral("Hides this advice until its condition ends and is true again."));
+  close_->setText(QCoreApplication::translate("AdviceBar", "Hide"));
+  close_->setAccessibleName(QCoreApplication::translate("AdviceBar", "Hide this advice"));
+  close_->setToolTip(QCoreApplication::translate(
+      "AdviceBar", "Hides this advice until its condition ends and is true again."));
   close_->setAutoRaise(true);
   close_->setFocusPolicy(Qt::TabFocus);
   across->addWidget(words_, 1);
@@ -45,9 +48,9 @@ bool AdviceBar::ShowFirst() {
   const bool was_shown = !shown_.words.empty();
   const auto before = std::exchange(shown_, lines.empty() ? acts::Advice() : std::move(lines.front()));
   if (before.words == shown_.words && before.caption == shown_.caption) return false;
-  words_->setText(host::FromSystem(shown_.words));
+  words_->setText(Shown(shown_.words, host::FromSystem));
   setAccessibleName(words_->text());
-  action_->setText(host::FromWindows1252(shown_.caption));
+  action_->setText(Shown(shown_.caption));
   action_->setVisible(!shown_.caption.empty());
   setVisible(!shown_.words.empty());
   return was_shown == shown_.words.empty();

@@ -21,6 +21,7 @@
 #include "ui/dialogs/changes_window.h"
 #include "ui/kit/box_layouts.h"
 #include "ui/kit/theme.h"
+#include "ui/language/model_texts.h"
 #include "ui/pages/pages.h"
 #include "ui/window/advice_bar.h"
 #include "ui/window/status_strip.h"
@@ -94,7 +95,7 @@ void MainWindow::BuildTabs() {
   const auto& model = bindings_.Model().frmMain.SSTab1;
   int tab = 0;
   for (const auto& caption : model.captions) {
-    tabs_->addTab(new QWidget, host::FromWindows1252(caption));
+    tabs_->addTab(new QWidget, FormText(caption));
     const auto keys = QStringLiteral("Alt+%1").arg(tab + 1);
     tabs_->setTabToolTip(tab, keys);
     auto* shortcut = new QShortcut(QKeySequence(keys), this);
@@ -167,7 +168,7 @@ void MainWindow::BindTabs() {
   bindings_.OnRefresh([this, &model, captions = ChangeDetector<std::vector<std::string>>()]() mutable {
     if (!captions.Update(model.captions)) return false;
     for (int at = 0; at < tabs_->count(); ++at) {
-      const auto caption = host::FromWindows1252(model.captions.at(static_cast<std::size_t>(at)));
+      const auto caption = FormText(model.captions.at(static_cast<std::size_t>(at)));
       tabs_->setTabText(at, caption);
       tabs_->widget(at)->setAccessibleName(caption.trimmed());
     }
@@ -187,9 +188,10 @@ void MainWindow::BuildMenus() {
   keys(bindings_.Item(*file, form.menuSave), QKeySequence::Save);
   bindings_.Item(*file, form.OpenHistory_menu);
   file->addSeparator();
-  auto* changes = file->addAction(QStringLiteral("Changes"), changes_, &ChangesWindow::Open);
+  auto* changes =
+      file->addAction(QCoreApplication::translate("FileMenu", "Changes"), changes_, &ChangesWindow::Open);
   keys(changes, QKeySequence(Qt::CTRL | Qt::Key_D));
-  keys(file->addAction(QStringLiteral("Checks"), checks_, &ChecksWindow::Open),
+  keys(file->addAction(QCoreApplication::translate("FileMenu", "Checks"), checks_, &ChecksWindow::Open),
        QKeySequence(Qt::CTRL | Qt::Key_K));
   file->addSeparator();
   keys(bindings_.Item(*file, form.menuExit), QKeySequence(Qt::CTRL | Qt::Key_Q));
@@ -205,10 +207,10 @@ void MainWindow::BuildMenus() {
 // Where the image comes from, with an asterisk when it differs from what was loaded or sent: "shop12.bin* -
 // OVL Software".
 void MainWindow::BindTitle() {
-  bindings_.OnRefresh([this, origin = ChangeDetector<std::string>()]() mutable {
+  bindings_.OnRefresh([this, origin = ChangeDetector<phrases::Words>()]() mutable {
     const auto& app = bindings_.Model();
     if (origin.Update(own_acts_.history->Origin()))
-      setWindowTitle(host::FromSystem(own_acts_.history->Origin()) + QStringLiteral("[*] - ") +
+      setWindowTitle(Shown(own_acts_.history->Origin(), host::FromSystem) + QStringLiteral("[*] - ") +
                      host::FromWindows1252(app.frmMain.form.caption));
     setWindowModified(app.image != app.known_image);
     return false;

@@ -1,5 +1,6 @@
 #include "ui/window/status_strip.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -14,6 +15,7 @@
 #include "host/text_codec.h"
 #include "ui/kit/box_layouts.h"
 #include "ui/kit/theme.h"
+#include "ui/language/model_texts.h"
 
 namespace ovl::ui {
 namespace {
@@ -158,7 +160,8 @@ QWidget* StatusStrip::FirmwareLabels(Bindings& bindings) {
     auto* page = new QWidget;
     auto* across = LayOutAcross(*page);
     const auto name = "lbVersionID(" + std::to_string(tab) + ")";
-    across->addWidget(bindings.Make(bindings.Named(form.form, name), QStringLiteral("Firmware")));
+    across->addWidget(
+        bindings.Make(bindings.Named(form.form, name), QCoreApplication::translate("StatusBar", "Firmware")));
     firmware_->addWidget(page);
   }
   firmware_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -204,7 +207,7 @@ QString StatusStrip::Problem() const {
   const bool of_port = app_.noted_failure && app_.noted_failure->Subject() == core::PortName(app_);
   if (of_port && port_problem && !port_problem().isEmpty()) return {};
   if (!of_port && !file_message_.isEmpty() && failures_before_file_ == app_.failures_noted) return {};
-  return host::FromSystem(app_.StatusNote);
+  return StatusNoteText(app_);
 }
 
 void StatusStrip::ShowMessages() {
@@ -222,9 +225,10 @@ void StatusStrip::ShowMessages() {
 
 QString StatusStrip::PortText() const {
   const int number = app_.PortNumber;
-  if (number == 0) return QStringLiteral("No port chosen");
+  if (number == 0) return QCoreApplication::translate("StatusBar", "No port chosen");
   const auto device = host::ComportDevice(QFile::decodeName(app_.platform.program_folder.c_str()), number);
-  auto text = QStringLiteral("Comport %1, %2").arg(QString::number(number), device);
+  auto text = QCoreApplication::translate("StatusBar", "Comport %1, %2", "number, device")
+                  .arg(QString::number(number), device);
   if (!app_.frmMain.MSComm1.PortOpen) return text;
   return text + QStringLiteral(", ") +
          host::FromWindows1252(app_.frmMain.MSComm1.Settings).replace(QLatin1Char(','), QLatin1Char(' '));

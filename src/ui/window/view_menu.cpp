@@ -1,13 +1,15 @@
 #include "ui/window/view_menu.h"
 
 #include <QActionGroup>
+#include <QCoreApplication>
 #include <QFile>
 #include <QMenu>
 #include <QMenuBar>
 #include <algorithm>
 #include <array>
 
-#include "host/text_codec.h"
+#include "ui/language/language.h"
+#include "ui/language/model_texts.h"
 #include "ui/print/document_file.h"
 
 namespace ovl::ui {
@@ -15,62 +17,122 @@ namespace {
 
 struct ThemeItem {
   Theme theme;
+  const char* word;  // in the file that keeps the choice
   const char* text;
   const char* name;
 };
-constexpr std::array kThemes = {ThemeItem{Theme::kLight, "Light", "menuLight"},
-                                ThemeItem{Theme::kDark, "Dark", "menuDark"},
-                                ThemeItem{Theme::kDesktop, "As the system", "menuAsSystem"}};
+constexpr std::array kThemes = {
+    ThemeItem{Theme::kLight, "light", QT_TRANSLATE_NOOP("ViewMenu", "Light"), "menuLight"},
+    ThemeItem{Theme::kDark, "dark", QT_TRANSLATE_NOOP("ViewMenu", "Dark"), "menuDark"},
+    ThemeItem{Theme::kDesktop, "system", QT_TRANSLATE_NOOP("ViewMenu", "As the system"), "menuAsSystem"}};
 
-// The words of the file that keeps the choice.
-struct ThemeWord {
-  Theme theme;
-  const char* text;
-};
-constexpr std::array kThemeWords = {ThemeWord{Theme::kDesktop, "theme=system"},
-                                    ThemeWord{Theme::kLight, "theme=light"},
-                                    ThemeWord{Theme::kDark, "theme=dark"}};
+constexpr const char* kTheme = "theme";
+constexpr const char* kLanguage = "language";
 
-QString ThemeFile(const QString& program_folder) {
+QString ChoicesFile(const QString& program_folder) {
   return program_folder + QStringLiteral("/window.ini");
+}
+
+QByteArrayList LinesOf(const QString& program_folder) {
+  QFile file(ChoicesFile(program_folder));
+  return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed().split('\n') : QByteArrayList();
+}
+
+bool IsOf(const QByteArray& line, const char* key) {
+  return line.startsWith(QByteArray(key) + '=');
+}
+
+// Empty before a first choice.
+QByteArray Choice(const QString& program_folder, const char* key) {
+  for (const auto& line : LinesOf(program_folder)) {
+    if (IsOf(line, key)) return line.mid(line.indexOf('=') + 1).trimmed();
+  }
+  return {};
+}
+
+core::Result KeepChoice(const QString& program_folder, const char* key, const char* word) {
+  QByteArrayList kept;
+  for (const auto& line : LinesOf(program_folder)) {
+    if (!IsOf(line, key) && line.contains('=')) kept.append(line.trimmed());
+  }
+  kept.append(QByteArray(key) + '=' + word);
+  return ReplaceFile(ChoicesFile(program_folder), kept.join('\n') + '\n');
+}
+
+using Report = std::function<void(const QString&)>;
+
+void ReportProblem(const core::Result& kept, const Report& report) {
+  if (!kept.Ok())
+    report(QCoreApplication::translate("ViewMenu", "The program could not save the choice. %1")
+               .arg(FailureText(kept.Problem())));
+}
+
+// The items of a group check the one that is chosen.
+QAction* AddChoice(QMenu& menu, QActionGroup& group, const QString& text, std::function<bool()> chosen) {
+  auto* action = menu.addAction(text);
+  action->setCheckable(true);
+  group.addAction(action);
+  QObject::connect(&menu, &QMenu::aboutToShow, action,
+                   [action, chosen = std::move(chosen)] { action->setChecked(chosen()); });
+  return action;
+}
+
+// What is already on the screen keeps its language.
+void AddLanguages(QMenu& view, const QString& program_folder, const Report& report) {
+  auto* menu = view.addMenu(QCoreApplication::translate("ViewMenu", "Language"));
+  menu->setObjectName(QStringLiteral("LanguageMenu"));
+  auto* group = new QActionGroup(menu);
+  for (const auto& language : kLanguages) {
+    const bool of_system = *language.code == '\0';
+    const auto text = of_system ? QCoreApplication::translate("ViewMenu", "As the system")
+                                : QString::fromUtf8(language.name);
+    auto* action = AddChoice(*menu, *group, text, [program_folder, code = language.code] {
+      return ChosenLanguage(program_folder) == QLatin1String(code);
+    });
+    action->setObjectName(QStringLiteral("language_") + QLatin1String(language.code));
+    QObject::connect(action, &QAction::triggered, menu, [program_folder, report, code = language.code] {
+      const auto kept = KeepChoice(program_folder, kLanguage, code);
+      if (!kept.Ok()) return ReportProblem(kept, report);
+      report(QCoreApplication::translate("ViewMenu", "The language changes at the next start."));
+    });
+  }
 }
 
 }  // namespace
 
 Theme ChosenTheme(const QString& program_folder) {
-  QFile file(ThemeFile(program_folder));
-  const auto text = file.open(QIODevice::ReadOnly) ? file.readAll().trimmed() : QByteArray();
-  const auto found = std::find_if(kThemeWords.begin(), kThemeWords.end(),
-                                  [&](const ThemeWord& word) { return text == word.text; });
-  return found == kThemeWords.end() ? Theme::kDesktop : found->theme;
+  const auto word = Choice(program_folder, kTheme);
+  const auto found =
+      std::find_if(kThemes.begin(), kThemes.end(), [&](const ThemeItem& item) { return word == item.word; });
+  return found == kThemes.end() ? Theme::kDesktop : found->theme;
 }
 
 core::Result KeepTheme(const QString& program_folder, Theme theme) {
-  const auto word = std::find_if(kThemeWords.begin(), kThemeWords.end(),
-                                 [theme](const ThemeWord& at) { return at.theme == theme; });
-  return ReplaceFile(ThemeFile(program_folder), QByteArray(word->text) + '\n');
+  const auto item = std::find_if(kThemes.begin(), kThemes.end(),
+                                 [theme](const ThemeItem& at) { return at.theme == theme; });
+  return KeepChoice(program_folder, kTheme, item->word);
 }
 
-void BuildViewMenu(QMenuBar& bar, const QString& program_folder, std::function<void(const QString&)> report) {
-  auto* view = bar.addMenu(QStringLiteral("Vie&w"));
+QString ChosenLanguage(const QString& program_folder) {
+  return QString::fromLatin1(Choice(program_folder, kLanguage));
+}
+
+void BuildViewMenu(QMenuBar& bar, const QString& program_folder, Report report) {
+  auto* view = bar.addMenu(QCoreApplication::translate("ViewMenu", "Vie&w"));
   view->setObjectName(QStringLiteral("ViewMenu"));
   auto* themes = new QActionGroup(view);
   for (const auto& item : kThemes) {
-    auto* action = view->addAction(QString::fromLatin1(item.text));
+    auto* action =
+        AddChoice(*view, *themes, QCoreApplication::translate("ViewMenu", item.text),
+                  [program_folder, theme = item.theme] { return ChosenTheme(program_folder) == theme; });
     action->setObjectName(QString::fromLatin1(item.name));
-    action->setCheckable(true);
-    themes->addAction(action);
     QObject::connect(action, &QAction::triggered, view, [program_folder, report, theme = item.theme] {
       ApplyTheme(theme);
-      const auto kept = KeepTheme(program_folder, theme);
-      if (!kept.Ok())
-        report(QStringLiteral("The program could not save the choice. ") +
-               host::FromSystem(kept.Problem().Text()));
-    });
-    QObject::connect(view, &QMenu::aboutToShow, action, [action, program_folder, theme = item.theme] {
-      action->setChecked(ChosenTheme(program_folder) == theme);
+      ReportProblem(KeepTheme(program_folder, theme), report);
     });
   }
+  view->addSeparator();
+  AddLanguages(*view, program_folder, report);
 }
 
 }  // namespace ovl::ui

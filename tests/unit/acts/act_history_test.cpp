@@ -32,7 +32,7 @@ class ActHistoryTest : public ::testing::Test {
   std::string NextUndo() {
     session_.History().Observe();
     const auto* name = session_.History().NextUndo();
-    return name == nullptr ? "none" : *name;
+    return name == nullptr ? "none" : name->English();
   }
 
   void Upload(int seed) {

@@ -29,7 +29,7 @@ TEST(AdviceOnTheLink, SaysWhatAFailureDidToTheRegister) {
     throw core::Failure(path, std::make_error_code(std::errc::no_space_on_device));
   };
   program.Run(ads + kOpenPort + kHold + kUpload + "unit \"STREAM\"\n");
-  const auto words = program.Line("upload-not-taken").words;
+  const auto words = program.Line("upload-not-taken").words.English();
   EXPECT_NE(words.find("The list shows "), std::string::npos) << words;
   EXPECT_NE(words.find("the configuration is still that of ADS"), std::string::npos) << words;
   EXPECT_EQ(program.Line("pick-swallowed").words, "");
@@ -73,7 +73,7 @@ TEST(AdviceOnTheLink, NamesTheLostDeviceAndWhatTheUnitHolds) {
 TEST(AdviceOnTheLink, ALossThatIsNoNewsIsNotTimedAnew) {
   AdviceProgram program(kLatest);
   program.Run(kAt + kOpenPort + kLose + "wait 60000\n");
-  EXPECT_NE(program.Line("device-lost").words.find("at 14:07:09"), std::string::npos);
+  EXPECT_NE(program.Line("device-lost").words.English().find("at 14:07:09"), std::string::npos);
   EXPECT_EQ(program.Line("port-refused").words, "");
   program.Run("click cmdDisConnect\n" + kOpenPort);
   EXPECT_EQ(program.Line("device-lost").words, "") << "the refusal is the newer news";

@@ -32,7 +32,7 @@ inline void Expect(const AdviceRow& row) {
   EXPECT_EQ(program.Line(row.name).words, "");
   program.Run(kAt + row.bring);
   const auto line = program.Line(row.name);
-  EXPECT_NE(line.words.find(row.words), std::string::npos) << line.words;
+  EXPECT_NE(line.words.English().find(row.words), std::string::npos) << line.words;
   EXPECT_EQ(line.caption, row.action);
   EXPECT_EQ(line.action == acts::AdviceAction::kNone, line.caption.empty());
   EXPECT_TRUE(line.control.empty() || program.App().registry.Find(line.control) != nullptr) << line.control;

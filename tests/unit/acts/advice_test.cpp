@@ -126,7 +126,8 @@ TEST(AdviceOnRegisters, AnUnknownFirmwareIsPickedInTheMenu) {
   AdviceProgram program(kLatest);
   program.Run("setting Release \"R99\"\nstart\n");
   const auto line = program.Line("unknown-firmware");
-  EXPECT_NE(line.words.find("does not know the firmware V1400R99"), std::string::npos) << line.words;
+  EXPECT_NE(line.words.English().find("does not know the firmware V1400R99"), std::string::npos)
+      << line.words;
   EXPECT_EQ(line.caption, "Version");
   EXPECT_EQ(line.action, acts::AdviceAction::kPickVersion);
   program.Run("setting Release \"R12\"\nstart\nexpect no advice \"does not know\"\n");

@@ -16,7 +16,7 @@ std::string Joined(std::string file) {
 
 std::string QuestionOf(const std::string& file, const Installed& program) {
   const auto question = acts::QuestionBeforeOpening(Joined(file), "shop.bin", program.app);
-  return question ? question->text + "|" + question->detail : "";
+  return question ? question->text.English() + "|" + question->detail.English() : "";
 }
 
 // Every stream under every firmware: there is a question exactly if the program ends or the fields shift.

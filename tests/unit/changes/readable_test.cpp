@@ -20,7 +20,8 @@ namespace {
 using changes::SettingChange;
 
 std::string LineOf(const SettingChange& row) {
-  return row.place + ": " + row.caption + ": " + row.before + " -> " + row.after;
+  return row.place.English() + ": " + row.caption.English() + ": " + row.before.English() + " -> " +
+         row.after.English();
 }
 
 std::vector<std::string> Lines(const std::vector<SettingChange>& rows) {
@@ -170,7 +171,7 @@ TEST(ReadableChanges, OfEveryRegisterOptionHaveItsEntriesAndLeadToIt) {
     ASSERT_NE(found, rows.end());
     EXPECT_EQ(found->before, entry(shown));
     EXPECT_EQ(found->after, entry(other));
-    EXPECT_TRUE(found->caption.starts_with(register_name + ", ")) << found->caption;
+    EXPECT_TRUE(found->caption.English().starts_with(register_name + ", ")) << found->caption;
     ASSERT_EQ(found->bytes.size(), 1U);
     EXPECT_EQ(found->bytes[0].after, codecs::ByteToHex(other));
   }
@@ -241,7 +242,7 @@ TEST(ReadableChanges, HaveTheWordsThatTheProgramShowsAfterALoad) {
     program.Open(PatternStream(firmware, 3));
     for (const auto& row : changes::ReadableChanges(program.app, before, program.app.image)) {
       SCOPED_TRACE(firmware.Joined() + " " + LineOf(row));
-      if (row.control.empty() || row.after.find("byte") != std::string::npos) continue;
+      if (row.control.empty() || row.after.English().find("byte") != std::string::npos) continue;
       const auto control = program.app.registry.Find(row.control)->control;
       if (std::holds_alternative<controls::Button*>(control)) continue;
       // Scroll matching shows the other acts as OFF, whatever is stored.

@@ -214,7 +214,7 @@ void ExpectRow(const Row& row) {
   const auto findings = FindingsIn(program, row.id);
   ASSERT_EQ(findings.size(), 1U);
   const auto& finding = findings.front();
-  EXPECT_NE(finding.words.find(row.words), std::string::npos) << finding.words;
+  EXPECT_NE(finding.words.English().find(row.words), std::string::npos) << finding.words;
   EXPECT_EQ(finding.control, row.control);
   EXPECT_EQ(finding.slot, row.slot);
   EXPECT_EQ(finding.list.empty(), row.slot == 0);
@@ -304,7 +304,7 @@ TEST(Checks, OfAnyBytesHaveWordsAndLeadToAControl) {
       if (seed == 3) image.at(EXCPSTRS, 9) = "4", image[REGTYPE].clear(), image.at(ALMSTRUCT_BAK, 2) = "1";
       for (const auto& finding : checks::FindingsOf(program.App(), image)) {
         ++found;
-        EXPECT_EQ(finding.words.find("%1"), std::string::npos) << finding.words;
+        EXPECT_EQ(finding.words.English().find("%1"), std::string::npos) << finding.words;
         EXPECT_NE(program.App().registry.Find(finding.control), nullptr) << finding.control;
         EXPECT_FALSE(finding.place.empty() || finding.caption.empty()) << finding.words;
         EXPECT_EQ(finding.slot == 0, finding.list.empty()) << finding.words;

@@ -68,7 +68,7 @@ TEST_F(SiteSheet, HasTheExceptionsAndAlarmsThatAreInUse) {
 
 TEST_F(SiteSheet, SaysHowManyFindingsHaveNoRoom) {
   checks::Finding finding;
-  finding.words = "Words";
+  finding.words = std::string("Words");
   const std::vector<checks::Finding> findings(30, finding);
   EXPECT_NE(Text(findings).find("And 13 more."), std::string::npos);
 }

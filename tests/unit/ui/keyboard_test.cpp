@@ -8,12 +8,16 @@
 #include <QScrollArea>
 #include <QSet>
 #include <QTreeView>
+#include <array>
+#include <ostream>
 #include <set>
 #include <tuple>
 
+#include "longer_texts.h"
 #include "screen.h"
 #include "ui/acts/checks_window.h"
 #include "ui/dialogs/changes_window.h"
+#include "ui/language/language.h"
 
 namespace ovl::testing {
 namespace {
@@ -73,28 +77,51 @@ void ExpectLettersOfTheirOwn(const QList<QAction*>& menus, const QWidget& page) 
   }
 }
 
-// The size of the font in points.
-class Keyboard : public ::testing::TestWithParam<int> {
+enum class Texts { kEnglish, kGerman, kLonger };
+
+// The size of the font in points, and the language.
+struct Look {
+  int points;
+  Texts texts;
+
+  friend std::ostream& operator<<(std::ostream& out, const Look& look) {
+    constexpr std::array kNames = {"", "german", "longer"};
+    return out << look.points << kNames.at(static_cast<std::size_t>(look.texts));
+  }
+};
+
+class Keyboard : public ::testing::TestWithParam<Look> {
  protected:
   Keyboard() {
     auto font = usual_;
-    font.setPointSize(GetParam());
+    font.setPointSize(GetParam().points);
     QApplication::setFont(font);
+    if (GetParam().texts == Texts::kGerman) ui::UseLanguage("de");
+    if (GetParam().texts == Texts::kLonger) QCoreApplication::installTranslator(&longer_);
   }
-  ~Keyboard() override { QApplication::setFont(usual_); }
+  ~Keyboard() override {
+    QApplication::setFont(usual_);
+    QCoreApplication::removeTranslator(&longer_);
+    ui::UseLanguage("en");
+  }
 
   // A page that does not fit into the window scrolls.
   std::vector<QSize> Sizes() const {
-    const bool small_font = GetParam() == kUsualPoints;
+    const bool small_font = GetParam().points == kUsualPoints;
     return small_font ? std::vector{QSize(1040, 700), QSize(683, 384), QSize(960, 565)}
                       : std::vector{QSize(1040, 700), QSize(960, 565)};
   }
 
   static constexpr int kUsualPoints = 9;
   const QFont usual_ = QApplication::font();
+  LongerTexts longer_;
 };
 
-INSTANTIATE_TEST_SUITE_P(Points, Keyboard, ::testing::Values(9, 12, 16), ::testing::PrintToStringParamName());
+INSTANTIATE_TEST_SUITE_P(Looks, Keyboard,
+                         ::testing::Values(Look{9, Texts::kEnglish}, Look{12, Texts::kEnglish},
+                                           Look{16, Texts::kEnglish}, Look{9, Texts::kGerman},
+                                           Look{9, Texts::kLonger}),
+                         ::testing::PrintToStringParamName());
 
 TEST_P(Keyboard, EveryControlOfATabIsReachedOnceAndNoTextIsCut) {
   for (const auto& firmware : {firmware::FirmwareId{"V1400", "R12"},
@@ -126,7 +153,7 @@ TEST_P(Keyboard, EveryControlOfATabIsReachedOnceAndNoTextIsCut) {
         EXPECT_GE(checks.width(), checks.sizeHint().width());
         Controls(page, screen.App().registry);
       }
-      if (GetParam() != kUsualPoints) continue;  // the font changes neither letters nor order
+      if (GetParam().points != kUsualPoints) continue;  // the font changes neither letters nor order
       ExpectLettersOfTheirOwn(window.menuBar()->actions(), page);
       std::multiset<std::string> visited;
       window.Tabs().setFocus();

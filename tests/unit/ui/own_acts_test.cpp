@@ -205,7 +205,7 @@ TEST_F(CopySlotTest, SaysWhatItOverwritesAndShowsTheCopy) {
   EXPECT_EQ(effect.text().toStdString(),
             acts::OverwriteWarning(app, {acts::SlotKind::kException, 2, 2, 4}).empty()
                 ? "No exception in use is overwritten."
-                : acts::OverwriteWarning(app, {acts::SlotKind::kException, 2, 2, 4}));
+                : acts::OverwriteWarning(app, {acts::SlotKind::kException, 2, 2, 4}).English());
   Press(last, Qt::Key_Return);
   Show();
   EXPECT_EQ(app.image.at(image::FieldId::EXCPSTRS, 3), slot);

@@ -48,9 +48,9 @@ TEST_P(SiteSheetFile, OfAFullConfigurationHasTwoPages) {
   core::Application app;
   start::ServeFirmware(app, GetParam());
   checks::Finding finding;
-  finding.words =
+  finding.words = std::string(
       "Exception 24, \"24 AMOUNT & WIDE <VOID> MW@#%WWWWWWWWWWW\", is not displayed, put out or kept in the "
-      "history, and it triggers no alarm.";
+      "history, and it triggers no alarm.");
   const std::vector<checks::Finding> findings(40, finding);
   const TemporaryFolder folder;
   const auto file = QString::fromStdString(folder.File("sheet.pdf"));

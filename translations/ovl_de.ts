@@ -1,0 +1,3963 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en">
+<context>
+    <name>Act</name>
+    <message>
+        <source>Import %1</source>
+        <translation>Import von %1</translation>
+    </message>
+    <message>
+        <source>Uploaded %1</source>
+        <translation>Ausgelesen um %1</translation>
+    </message>
+    <message>
+        <source>This overwrites alarm %1.</source>
+        <translation>Das überschreibt Alarm %1.</translation>
+    </message>
+    <message>
+        <source>This overwrites alarms %1.</source>
+        <translation>Das überschreibt die Alarme %1.</translation>
+    </message>
+    <message>
+        <source>This overwrites exception %1.</source>
+        <translation>Das überschreibt Ausnahme %1.</translation>
+    </message>
+    <message>
+        <source>This overwrites exceptions %1.</source>
+        <translation>Das überschreibt die Ausnahmen %1.</translation>
+    </message>
+    <message>
+        <source>Copy alarm</source>
+        <translation>Alarm kopieren</translation>
+    </message>
+    <message>
+        <source>Copy exception</source>
+        <translation>Ausnahme kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>Advice</name>
+    <message>
+        <source>In the range of %1 the first value is above the second. Check it with %2.</source>
+        <translation>Im Bereich von %1 ist der erste Wert größer als der zweite. Prüfen Sie ihn mit „%2“.</translation>
+    </message>
+    <message>
+        <source>Free exceptions trigger %1, so nothing sets off such an alarm. Give the exceptions a text, or pick another %2.</source>
+        <translation>Auslöser von %1 sind nur freie Ausnahmen, deshalb wird dort nie ein Alarm ausgelöst. Geben Sie den Ausnahmen einen Text oder wählen Sie bei „%2“ etwas anderes.</translation>
+    </message>
+    <message>
+        <source>the trigger text of %1</source>
+        <translation>der Auslösetext von %1</translation>
+    </message>
+    <message>
+        <source>The text is empty or only blanks: %1. Such a text never matches and shows nothing. Enter one with %2, or switch its actions and its operator off.</source>
+        <translation>Der Text ist leer oder besteht nur aus Leerzeichen: %1. Ein solcher Text passt nie und zeigt nichts an. Geben Sie mit „%2“ einen Text ein oder schalten Sie seine Aktionen und seinen Operator aus.</translation>
+    </message>
+    <message>
+        <source>another register</source>
+        <translation>eine andere Kasse</translation>
+    </message>
+    <message>
+        <source>Files that &quot;Save&quot; writes under this firmware have this form.</source>
+        <translation>Dateien, die „Speichern“ unter dieser Firmware schreibt, haben diese Form.</translation>
+    </message>
+    <message>
+        <source>The upload was not taken: %1. The list shows %2, but the configuration is still that of %3. Upload again, or pick %3.</source>
+        <translation>Die ausgelesenen Daten wurden nicht übernommen: %1. Die Liste zeigt %2, aber die Konfiguration ist noch die von %3. Lesen Sie das Gerät erneut aus oder wählen Sie %3.</translation>
+    </message>
+    <message>
+        <source>The answer had a wrong parity, so %1 was selected, with its options and its line. Undo brings %2 back.</source>
+        <translation>Die Antwort hatte eine falsche Parität, deshalb wurde %1 gewählt, mit den zugehörigen Optionen und Leitungseinstellungen. „Rückgängig“ stellt %2 wieder her.</translation>
+    </message>
+    <message>
+        <source>%1 does not have the form of %2, so everything from the register options on is shifted. Do not download it.</source>
+        <translation>%1 hat nicht die Form von %2, deshalb ist alles ab den Optionen der Kasse verschoben. Schreiben Sie diese Konfiguration nicht in das Gerät.</translation>
+    </message>
+    <message>
+        <source>Upload again, or open a backup.</source>
+        <translation>Lesen Sie das Gerät erneut aus oder öffnen Sie eine Sicherung.</translation>
+    </message>
+    <message>
+        <source>%1 is no configuration that %2 opens. Nothing has changed.</source>
+        <translation>%1 ist keine Konfiguration, die sich unter %2 öffnen lässt. Es hat sich nichts geändert.</translation>
+    </message>
+    <message>
+        <source>Open a backup, or pick the firmware of the file in the Version menu.</source>
+        <translation>Öffnen Sie eine Sicherung oder wählen Sie im Menü „Version“ die Firmware der Datei.</translation>
+    </message>
+    <message>
+        <source>The list shows %1, but the options and the configuration are those of %2: the pick was swallowed. Pick %1 again.</source>
+        <translation>Die Liste zeigt %1, aber die Optionen und die Konfiguration sind die von %2: Die Auswahl wurde verschluckt. Wählen Sie %1 noch einmal.</translation>
+    </message>
+    <message>
+        <source>Open was cancelled. The next pick in the register list is swallowed: the list moves, and nothing is loaded. Pick the register twice.</source>
+        <translation>Das Öffnen wurde abgebrochen. Die nächste Auswahl in der Liste der Kassen wird verschluckt: Die Liste bewegt sich, aber nichts wird geladen. Wählen Sie die Kasse zweimal.</translation>
+    </message>
+    <message>
+        <source>Open failed: %1. The next pick in the register list is swallowed: the list moves, and nothing is loaded. Pick the register twice.</source>
+        <translation>Das Öffnen ist fehlgeschlagen: %1. Die nächste Auswahl in der Liste der Kassen wird verschluckt: Die Liste bewegt sich, aber nichts wird geladen. Wählen Sie die Kasse zweimal.</translation>
+    </message>
+    <message>
+        <source>The program does not know the firmware %1, so the register list and the tabs are empty. Pick the firmware on the label of the unit in the %2 menu. The program then ends; start it again.</source>
+        <translation>Das Programm kennt die Firmware %1 nicht, deshalb sind die Liste der Kassen und die Registerkarten leer. Wählen Sie im Menü „%2“ die Firmware, die auf dem Typenschild des Geräts steht. Das Programm beendet sich danach; starten Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The options of %1 are hidden: a stored option is not in its list. Pick %1 again: this loads its default options and its default line.</source>
+        <translation>Die Optionen von %1 sind ausgeblendet: Eine gespeicherte Option kommt in ihrer Liste nicht vor. Wählen Sie %1 noch einmal: Das lädt die Standardwerte der Optionen und der Leitung.</translation>
+    </message>
+    <message>
+        <source>The options of %1 are hidden: %2 holds %3, which is not in its list. Pick %1 again: this loads its default options and its default line.</source>
+        <translation>Die Optionen von %1 sind ausgeblendet: %2 enthält %3, und das kommt in der Liste nicht vor. Wählen Sie %1 noch einmal: Das lädt die Standardwerte der Optionen und der Leitung.</translation>
+    </message>
+    <message>
+        <source>%1 does not open again: under %2 &quot;Open&quot; reads it shifted. Use &quot;%3&quot; for a file that opens again.</source>
+        <translation>%1 lässt sich nicht wieder öffnen: Unter %2 liest „Öffnen“ die Datei verschoben. Eine Datei, die sich wieder öffnen lässt, erhalten Sie mit „%3“.</translation>
+    </message>
+    <message>
+        <source>%1 does not open again: under %2 &quot;Open&quot; refuses it. Use &quot;%3&quot; for a file that opens again.</source>
+        <translation>%1 lässt sich nicht wieder öffnen: Unter %2 lehnt „Öffnen“ die Datei ab. Eine Datei, die sich wieder öffnen lässt, erhalten Sie mit „%3“.</translation>
+    </message>
+    <message>
+        <source>The pick of %1 also stored %2. Look at these tabs before you download.</source>
+        <translation>Die Wahl von %1 hat außerdem gespeichert: %2. Sehen Sie diese Registerkarten an, bevor Sie in das Gerät schreiben.</translation>
+    </message>
+    <message>
+        <source>The options of %1 also stored %2. Look at these tabs before you download.</source>
+        <translation>Die Optionen von %1 haben außerdem gespeichert: %2. Sehen Sie diese Registerkarten an, bevor Sie in das Gerät schreiben.</translation>
+    </message>
+    <message>
+        <source>Begin on %1: %2.</source>
+        <translation>Beginnen Sie auf %1: %2.</translation>
+    </message>
+    <message>
+        <source>Choose the baud rate, the data bits and the parity of the unit in Set Comport, then press SET and Remote.</source>
+        <translation>Wählen Sie unter „Comport einstellen“ die Baudrate, die Datenbits und die Parität des Geräts. Drücken Sie dann „SETZEN“ und „Fernsteuern“.</translation>
+    </message>
+    <message>
+        <source>Comport %1, %2, was lost at %3 (%4) during the scan. The unit is untouched.</source>
+        <translation>Comport %1, %2, ging um %3 während der Suche verloren (%4). Das Gerät ist unverändert.</translation>
+    </message>
+    <message>
+        <source>Comport %1, %2, was lost at %3 (%4) during the upload. The unit is untouched, and nothing of the upload is on the tabs.</source>
+        <translation>Comport %1, %2, ging um %3 während des Auslesens verloren (%4). Das Gerät ist unverändert, und auf den Registerkarten ist nichts von den ausgelesenen Daten.</translation>
+    </message>
+    <message>
+        <source>Comport %1, %2, was lost at %3 (%4) before the download began. The unit holds its old configuration.</source>
+        <translation>Comport %1, %2, ging um %3 verloren, bevor das Schreiben begann (%4). Das Gerät hat seine alte Konfiguration.</translation>
+    </message>
+    <message>
+        <source>Comport %1, %2, was lost at %3 (%4) during the download. The unit may hold half a configuration, so download again.</source>
+        <translation>Comport %1, %2, ging um %3 während des Schreibens verloren (%4). Das Gerät hat vielleicht eine halbe Konfiguration, schreiben Sie deshalb noch einmal.</translation>
+    </message>
+    <message>
+        <source>Comport %1, %2, was lost at %3 (%4) after the download. The unit was sent the whole configuration, but has not confirmed it.</source>
+        <translation>Comport %1, %2, ging um %3 nach dem Schreiben verloren (%4). Das Gerät hat die ganze Konfiguration erhalten, sie aber nicht bestätigt.</translation>
+    </message>
+    <message>
+        <source>Comport %1, %2, was lost at %3 (%4) while the clock was set. The unit may have the new time.</source>
+        <translation>Comport %1, %2, ging um %3 verloren, während die Uhr gestellt wurde (%4). Das Gerät hat vielleicht schon die neue Zeit.</translation>
+    </message>
+    <message>
+        <source>Comport %1, %2, was lost at %3 (%4) during the master reset. The unit may be at its factory settings.</source>
+        <translation>Comport %1, %2, ging um %3 während des Zurücksetzens verloren (%4). Das Gerät hat vielleicht seine Werkseinstellungen.</translation>
+    </message>
+    <message>
+        <source>Comport %1, %2, was lost at %3 (%4). The unit is untouched.</source>
+        <translation>Comport %1, %2, ging um %3 verloren (%4). Das Gerät ist unverändert.</translation>
+    </message>
+    <message>
+        <source>Only root and the group of the device, mostly dialout, may use it. As root: adduser NAME dialout; then log in again.</source>
+        <translation>Nur root und die Gruppe der Schnittstelle, meist dialout, dürfen sie benutzen. Als root: adduser NAME dialout; melden Sie sich danach neu an.</translation>
+    </message>
+    <message>
+        <source>Plug the adapter in, choose the comport of another device, or set the link ports/com%1 in the program folder.</source>
+        <translation>Stecken Sie den Adapter ein, wählen Sie den Comport einer anderen Schnittstelle oder legen Sie im Programmordner die Verknüpfung ports/com%1 an.</translation>
+    </message>
+    <message>
+        <source>The device is not there: plug the adapter in, or choose the comport of another device.</source>
+        <translation>Die Schnittstelle ist nicht da: Stecken Sie den Adapter ein oder wählen Sie den Comport einer anderen Schnittstelle.</translation>
+    </message>
+    <message>
+        <source>No hardware is behind this name: choose the comport of another device.</source>
+        <translation>Unter diesem Namen gibt es keine Hardware: Wählen Sie den Comport einer anderen Schnittstelle.</translation>
+    </message>
+    <message>
+        <source>Another program uses the device: close it.</source>
+        <translation>Ein anderes Programm benutzt die Schnittstelle: Schließen Sie es.</translation>
+    </message>
+    <message>
+        <source>The device cannot use %1: choose another baud rate, or data bits and parity.</source>
+        <translation>Die Schnittstelle kann %1 nicht verwenden: Wählen Sie eine andere Baudrate oder andere Datenbits und eine andere Parität.</translation>
+    </message>
+    <message>
+        <source>Choose another comport, or check the device.</source>
+        <translation>Wählen Sie einen anderen Comport oder prüfen Sie die Schnittstelle.</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Neu starten</translation>
+    </message>
+    <message>
+        <source>An upload broke off. What had arrived is still ahead of the next upload and would be read in its place. Restart the program before you upload again.</source>
+        <translation>Ein Auslesen ist abgebrochen. Was schon angekommen war, steht noch vor den nächsten Daten und würde an ihrer Stelle gelesen. Starten Sie das Programm neu, bevor Sie erneut auslesen.</translation>
+    </message>
+    <message>
+        <source>The tabs show a mixture: the beginning is from an upload that broke off, the rest from the last one. Do not download it. Restart the program, which drops the mixture, and upload again.</source>
+        <translation>Die Registerkarten zeigen eine Mischung: Der Anfang stammt von einem abgebrochenen Auslesen, der Rest vom letzten. Schreiben Sie sie nicht in das Gerät. Starten Sie das Programm neu, das die Mischung verwirft, und lesen Sie erneut aus.</translation>
+    </message>
+    <message>
+        <source>%1 Plug the device in again and restart the program. Then press %2.</source>
+        <translation>%1 Stecken Sie die Schnittstelle wieder ein und starten Sie das Programm neu. Drücken Sie dann: %2.</translation>
+    </message>
+    <message>
+        <source>%1 Plug the device in again. Then press %2.</source>
+        <translation>%1 Stecken Sie die Schnittstelle wieder ein. Drücken Sie dann: %2.</translation>
+    </message>
+    <message>
+        <source>A download broke off at %1. The unit may hold half a configuration, so download again: %2.</source>
+        <translation>Um %1 ist ein Schreiben abgebrochen. Das Gerät hat vielleicht eine halbe Konfiguration, schreiben Sie deshalb noch einmal: %2.</translation>
+    </message>
+    <message>
+        <source>The download of %1 did not begin. The unit holds its old configuration. To try again: %2.</source>
+        <translation>Das Schreiben von %1 hat nicht begonnen. Das Gerät hat seine alte Konfiguration. Für einen neuen Versuch: %2.</translation>
+    </message>
+    <message>
+        <source>Comport %1, %2, did not open: %3. %4</source>
+        <translation>Comport %1, %2, ließ sich nicht öffnen: %3. %4</translation>
+    </message>
+    <message>
+        <source>This scan cannot find the unit: the program takes an answer only if remote mode was held before and Disconnect ended it. Press %1. %2</source>
+        <translation>Diese Suche kann das Gerät nicht finden: Das Programm nimmt eine Antwort nur an, wenn zuvor der Fernsteuermodus bestand und mit „Trennen“ beendet wurde. Drücken Sie „%1“. %2</translation>
+    </message>
+    <message>
+        <source>The scan could not find the unit: the program takes an answer only if remote mode was held before and Disconnect ended it. %1</source>
+        <translation>Die Suche konnte das Gerät nicht finden: Das Programm nimmt eine Antwort nur an, wenn zuvor der Fernsteuermodus bestand und mit „Trennen“ beendet wurde. %1</translation>
+    </message>
+    <message>
+        <source>No unit answered the scan, which tried every baud rate with %1 and parity %2. Check the cable and the power of the unit. If the unit has other data bits or another parity, choose them in Set Comport and scan again.</source>
+        <translation>Auf die Suche hat kein Gerät geantwortet. Sie hat jede Baudrate mit %1 und Parität %2 versucht. Prüfen Sie das Kabel und die Stromversorgung des Geräts. Hat das Gerät andere Datenbits oder eine andere Parität, wählen Sie diese unter „Comport einstellen“ und suchen Sie erneut.</translation>
+    </message>
+</context>
+<context>
+    <name>AdviceBar</name>
+    <message>
+        <source>Hide</source>
+        <translation>Ausblenden</translation>
+    </message>
+    <message>
+        <source>Hide this advice</source>
+        <translation>Diesen Rat ausblenden</translation>
+    </message>
+    <message>
+        <source>Hides this advice until its condition ends and is true again.</source>
+        <translation>Blendet diesen Rat aus, bis sein Anlass wegfällt und erneut eintritt.</translation>
+    </message>
+</context>
+<context>
+    <name>AlarmPage</name>
+    <message>
+        <source>free</source>
+        <translation>frei</translation>
+    </message>
+    <message>
+        <source>Overview of the alarms</source>
+        <translation>Übersicht der Alarme</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>Auslöser</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Ruhe</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>EX. exceptions   NO normally open   NC normally closed</source>
+        <translation>EX. Ausnahmen   NO Schließer   NC Öffner</translation>
+    </message>
+    <message>
+        <source>All alarms</source>
+        <translation>Alle Alarme</translation>
+    </message>
+</context>
+<context>
+    <name>Box</name>
+    <message>
+        <source>                            !!! Remote Connection Fail. !!!
+Cable Disconnected Or Communication Setting Wrong ,Try Again</source>
+        <translation>                            !!! Fernsteuerverbindung fehlgeschlagen. !!!
+Kabel nicht angeschlossen oder falsche Schnittstelleneinstellung, versuchen Sie es erneut</translation>
+    </message>
+    <message>
+        <source>                   %1
+Please ReInstall Ovalon PC Software !!</source>
+        <translation>                   %1
+Bitte installieren Sie die Ovalon PC Software neu !!</translation>
+    </message>
+    <message>
+        <source>                System File Error. 
+Please ReInstall Ovalon PC Software !!</source>
+        <translation>                Fehler in einer Systemdatei. 
+Bitte installieren Sie die Ovalon PC Software neu !!</translation>
+    </message>
+    <message>
+        <source>        Please Select Comport.</source>
+        <translation>        Bitte wählen Sie einen Comport.</translation>
+    </message>
+    <message>
+        <source>       Master Reset Done.</source>
+        <translation>       Zurücksetzen abgeschlossen.</translation>
+    </message>
+    <message>
+        <source> ! Please Reinstall OVL PC Software !</source>
+        <translation> ! Bitte installieren Sie die OVL PC Software neu !</translation>
+    </message>
+    <message>
+        <source>!!! Remote Connection Time out. !!!</source>
+        <translation>!!! Zeitüberschreitung der Fernsteuerverbindung. !!!</translation>
+    </message>
+    <message>
+        <source>%1 WILL TAKE EFFECT WHEN THE APPLICATION NEXT START</source>
+        <translation>%1 WIRD BEIM NÄCHSTEN START DES PROGRAMMS WIRKSAM</translation>
+    </message>
+    <message>
+        <source>- Connection Fail -</source>
+        <translation>- Verbindung fehlgeschlagen -</translation>
+    </message>
+    <message>
+        <source>- Connection Time Out -</source>
+        <translation>- Zeitüberschreitung der Verbindung -</translation>
+    </message>
+    <message>
+        <source>Cannot Master Reset to Device.</source>
+        <translation>Das Gerät lässt sich nicht zurücksetzen.</translation>
+    </message>
+    <message>
+        <source>Check Parity and Data Bit Setting that Same OVL ,Try again !!!</source>
+        <translation>Prüfen Sie, ob Parität und Datenbits mit dem OVL übereinstimmen, und versuchen Sie es erneut !!!</translation>
+    </message>
+    <message>
+        <source>Incompatible File !!!, try again.</source>
+        <translation>Datei nicht kompatibel !!!, versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>No Response From The Device</source>
+        <translation>Keine Antwort vom Gerät</translation>
+    </message>
+    <message>
+        <source>NoFile Save. !!!        </source>
+        <translation>Keine Datei gespeichert. !!!        </translation>
+    </message>
+    <message>
+        <source>Please ReInstall Ovalon PC Software</source>
+        <translation>Bitte installieren Sie die Ovalon PC Software neu</translation>
+    </message>
+    <message>
+        <source>Please Send Time Date agian.</source>
+        <translation>Bitte senden Sie Uhrzeit und Datum erneut.</translation>
+    </message>
+    <message>
+        <source>Registry Error.</source>
+        <translation>Fehler in der Registrierung.</translation>
+    </message>
+    <message>
+        <source>SET TIME DATE FINISHED.</source>
+        <translation>UHRZEIT UND DATUM GESTELLT.</translation>
+    </message>
+    <message>
+        <source>Save Completed.        </source>
+        <translation>Speichern abgeschlossen.        </translation>
+    </message>
+    <message>
+        <source>The Ovalon Version is not compatible !!!
+       Try with the same version again.</source>
+        <translation>Die Ovalon-Version ist nicht kompatibel !!!
+       Versuchen Sie es mit derselben Version erneut.</translation>
+    </message>
+</context>
+<context>
+    <name>Boxes</name>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Open anyway</source>
+        <translation>Trotzdem öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>ChangesWindow</name>
+    <message numerus="yes">
+        <source>%n field</source>
+        <comment>of the configuration</comment>
+        <translation>
+            <numerusform>%n Feld</numerusform>
+            <numerusform>%n Felder</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n fields</source>
+        <comment>of the configuration</comment>
+        <translation>
+            <numerusform>%n Feld</numerusform>
+            <numerusform>%n Felder</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Änderungen</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>Geänderte Einstellungen</translation>
+    </message>
+    <message>
+        <source>Show bytes</source>
+        <translation>Bytes anzeigen</translation>
+    </message>
+    <message>
+        <source>Changes: %1</source>
+        <translation>Änderungen: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n setting</source>
+        <translation>
+            <numerusform>%n Einstellung</numerusform>
+            <numerusform>%n Einstellungen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings</source>
+        <translation>
+            <numerusform>%n Einstellung</numerusform>
+            <numerusform>%n Einstellungen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 has the same settings.</source>
+        <translation>%1 hat dieselben Einstellungen.</translation>
+    </message>
+    <message>
+        <source>%1 differs from the tabs in %2.</source>
+        <comment>a file, &quot;3 settings&quot;</comment>
+        <translation>%1 unterscheidet sich von den Registerkarten: %2.</translation>
+    </message>
+    <message>
+        <source>A download would change nothing in a unit that holds the configuration last loaded or sent.</source>
+        <translation>Schreiben würde in einem Gerät, das die zuletzt geladene oder gesendete Konfiguration hat, nichts ändern.</translation>
+    </message>
+    <message>
+        <source>What a download would change in a unit that holds the configuration last loaded or sent: %1 in %2.</source>
+        <comment>&quot;3 settings&quot;, &quot;2 fields&quot;</comment>
+        <translation>Was Schreiben in einem Gerät ändern würde, das die zuletzt geladene oder gesendete Konfiguration hat: %1, %2.</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>Hier</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Vorher</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>In der Datei</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Jetzt</translation>
+    </message>
+    <message>
+        <source>Shows what a download would change in the unit: what has changed since the last load or download (Ctrl+D)</source>
+        <translation>Zeigt, was Schreiben im Gerät ändern würde: was sich seit dem letzten Laden oder Schreiben geändert hat (Strg+D)</translation>
+    </message>
+    <message>
+        <source>%1 changed</source>
+        <comment>&quot;3 fields&quot;</comment>
+        <translation>%1 geändert</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Einstellung</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>Bytes</translation>
+    </message>
+    <message>
+        <source>Bytes before</source>
+        <translation>Bytes vorher</translation>
+    </message>
+    <message>
+        <source>Bytes now</source>
+        <translation>Bytes jetzt</translation>
+    </message>
+</context>
+<context>
+    <name>Check</name>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
+    </message>
+    <message>
+        <source>only VIDEO LOSS</source>
+        <translation>nur VIDEOVERLUST</translation>
+    </message>
+    <message>
+        <source>it</source>
+        <translation>es</translation>
+    </message>
+    <message>
+        <source>an unknown register</source>
+        <translation>eine unbekannte Kasse</translation>
+    </message>
+    <message>
+        <source>%1 holds %2, for which the list has no entry.</source>
+        <translation>%1 enthält %2, und dafür hat die Liste keinen Eintrag.</translation>
+    </message>
+    <message>
+        <source>%1 holds bytes: %2, where %4 reads %3, so a download shifts everything behind it.</source>
+        <translation>%1 enthält so viele Bytes: %2. %4 liest dort %3, deshalb verschiebt das Schreiben alles dahinter.</translation>
+    </message>
+    <message>
+        <source>%1 is %2, but the default image of %3 has %4, as if another register had been picked.</source>
+        <translation>%1 ist %2, aber das Standardabbild von %3 hat %4, als wäre eine andere Kasse gewählt worden.</translation>
+    </message>
+    <message>
+        <source>%1 is %2, but the options of %3 set it to %4.</source>
+        <translation>%1 ist %2, aber die Optionen von %3 setzen es auf %4.</translation>
+    </message>
+    <message>
+        <source>%1 shows &quot;%2&quot;, but %3 holds %4, and a pick of &quot;%2&quot; stores %5.</source>
+        <translation>%1 zeigt „%2“, aber %3 enthält %4, und eine Auswahl von „%2“ speichert %5.</translation>
+    </message>
+    <message>
+        <source>Alarm %1 has a delay after the RTS line, but its ALARM TRIGGER is %2.</source>
+        <translation>Alarm %1 hat eine Verzögerung nach der RTS-Leitung, aber sein ALARMAUSLÖSER ist %2.</translation>
+    </message>
+    <message>
+        <source>Alarm %1 has a text to show or to send, but nothing triggers the alarm.</source>
+        <translation>Alarm %1 hat einen Text zum Zeigen oder Senden, aber nichts löst den Alarm aus.</translation>
+    </message>
+    <message>
+        <source>DISPLAY LINE is %1, but the clock and the title need %2 lines at least.</source>
+        <translation>ANZEIGEZEILEN ist %1, aber Uhr und Titel brauchen mindestens %2 Zeilen.</translation>
+    </message>
+    <message>
+        <source>DISPLAY TEXT of %1 is ON, but DISPLAY of the text display is OFF.</source>
+        <translation>TEXT ANZEIGEN von %1 ist EIN, aber ANZEIGE der Textanzeige ist AUS.</translation>
+    </message>
+    <message>
+        <source>DISPLAY of %1 is ON, but DISPLAY of the text display is OFF.</source>
+        <translation>ANZEIGE von %1 ist EIN, aber ANZEIGE der Textanzeige ist AUS.</translation>
+    </message>
+    <message>
+        <source>DUPLICATE LINE is ON, but OUTPUT of the exception report is OFF.</source>
+        <translation>GLEICHE ZEILE ist EIN, aber AUSGABE der Ausnahmemeldung ist AUS.</translation>
+    </message>
+    <message>
+        <source>Exception %1 compares the amount, but both values of its range are 0.</source>
+        <translation>Ausnahme %1 vergleicht den Betrag, aber beide Werte ihres Bereichs sind 0.</translation>
+    </message>
+    <message>
+        <source>Exception %1 has SCROLL MATCHING, so its DISPLAY, OUTPUT and HISTORY BUFFER can go to OFF when it is looked at.</source>
+        <translation>Ausnahme %1 hat MEHRZEILENSUCHE, deshalb können ANZEIGE, AUSGABE und VERLAUFSSPEICHER auf AUS gehen, wenn sie angesehen wird.</translation>
+    </message>
+    <message>
+        <source>Exception %1 has a range, but its OPERATOR is NONE, so no amount is compared.</source>
+        <translation>Ausnahme %1 hat einen Bereich, aber ihr OPERATOR ist KEINE, deshalb wird kein Betrag verglichen.</translation>
+    </message>
+    <message>
+        <source>Exception %1 has an action or is not marked as free, but its text is empty or only blanks.</source>
+        <translation>Ausnahme %1 hat eine Aktion oder ist nicht als frei markiert, aber ihr Text ist leer oder besteht nur aus Leerzeichen.</translation>
+    </message>
+    <message>
+        <source>Exception %1 has the text &quot;%2&quot;, but is marked as free.</source>
+        <translation>Ausnahme %1 hat den Text „%2“, ist aber als frei markiert.</translation>
+    </message>
+    <message>
+        <source>Exception %1 looks for the same as exception %2: &quot;%3&quot;.</source>
+        <translation>Ausnahme %1 sucht dasselbe wie Ausnahme %2: „%3“.</translation>
+    </message>
+    <message>
+        <source>Exception %1, &quot;%2&quot;, is not displayed, sent to the output or kept in the history, and it triggers no alarm.</source>
+        <translation>Ausnahme %1, „%2“, wird weder angezeigt noch ausgegeben noch im Verlauf behalten, und sie löst keinen Alarm aus.</translation>
+    </message>
+    <message>
+        <source>FLAG TYPE is %1, but FLAG DURATION is %2.</source>
+        <translation>KENNZEICHEN ist %1, aber KENNZEICHENDAUER ist %2.</translation>
+    </message>
+    <message>
+        <source>In the range of exception %1 the first value is above the second.</source>
+        <translation>Im Bereich von Ausnahme %1 ist der erste Wert größer als der zweite.</translation>
+    </message>
+    <message>
+        <source>OUTPUT of %1 is ON, but OUTPUT of the exception report is OFF.</source>
+        <translation>AUSGABE von %1 ist EIN, aber AUSGABE der Ausnahmemeldung ist AUS.</translation>
+    </message>
+    <message>
+        <source>Only free exceptions trigger alarm %1 (%2), so %3 sets it off.</source>
+        <translation>Auslöser von Alarm %1 (%2) sind nur freie Ausnahmen, deshalb löst ihn %3 aus.</translation>
+    </message>
+    <message>
+        <source>T/D LOCKING is ON, but T/D DISPLAY is OFF.</source>
+        <translation>UHR SPERREN ist EIN, aber UHR ZEIGEN ist AUS.</translation>
+    </message>
+    <message>
+        <source>TIME STAMP is ON, but OUTPUT of the exception report is OFF.</source>
+        <translation>ZEITSTEMPEL ist EIN, aber AUSGABE der Ausnahmemeldung ist AUS.</translation>
+    </message>
+    <message>
+        <source>TITLER is ON, but the title is empty.</source>
+        <translation>TITEL ZEIGEN ist EIN, aber der Titel ist leer.</translation>
+    </message>
+    <message>
+        <source>TYPE of the network is %1, but its ADDRESS is %2.</source>
+        <translation>TYP des Netzwerks ist %1, aber ADRESSE ist %2.</translation>
+    </message>
+    <message>
+        <source>The IP address of %1 is 0.0.0.0.</source>
+        <translation>Die IP-Adresse von %1 ist 0.0.0.0.</translation>
+    </message>
+    <message>
+        <source>The default image of %1 in the program folder is that of %2, so a pick of %1 selects %2.</source>
+        <translation>Das Standardabbild von %1 im Programmordner ist das von %2, deshalb führt die Wahl von %1 zu %2.</translation>
+    </message>
+    <message>
+        <source>The network is stored with the ADDRESS %1, but the form shows %2 for its TYPE %3.</source>
+        <translation>Das Netzwerk ist mit der ADRESSE %1 gespeichert, aber das Formular zeigt %2 für seinen TYP %3.</translation>
+    </message>
+    <message>
+        <source>The network is stored with the BAUD RATE %1, but its PROTOCOL %2 needs %3.</source>
+        <translation>Das Netzwerk ist mit der BAUDRATE %1 gespeichert, aber sein PROTOKOLL %2 braucht %3.</translation>
+    </message>
+    <message>
+        <source>The options of %1 are hidden: %2 holds %3, which is not in its list.</source>
+        <translation>Die Optionen von %1 sind ausgeblendet: %2 enthält %3, und das kommt in der Liste nicht vor.</translation>
+    </message>
+    <message>
+        <source>The range of exception %1 is not a number: its digits are %2.</source>
+        <translation>Der Bereich von Ausnahme %1 ist keine Zahl: Seine Ziffern sind %2.</translation>
+    </message>
+    <message>
+        <source>The text of exception %1 begins with a blank, which the line must have as well.</source>
+        <translation>Der Text von Ausnahme %1 beginnt mit einem Leerzeichen, das auch die Zeile haben muss.</translation>
+    </message>
+    <message>
+        <source>The text of exception %1 is only &quot;?&quot;, which matches any character.</source>
+        <translation>Der Text von Ausnahme %1 besteht nur aus „?“, das für jedes beliebige Zeichen steht.</translation>
+    </message>
+    <message>
+        <source>The text of exception %1 is stored with the length %2, and its own length is %3.</source>
+        <translation>Der Text von Ausnahme %1 ist mit der Länge %2 gespeichert, seine eigene Länge ist %3.</translation>
+    </message>
+    <message>
+        <source>The trigger text of alarm %1 is empty or only blanks.</source>
+        <translation>Der Auslösetext von Alarm %1 ist leer oder besteht nur aus Leerzeichen.</translation>
+    </message>
+    <message>
+        <source>The trigger text of alarm %1 is neither shown nor sent.</source>
+        <translation>Der Auslösetext von Alarm %1 wird weder gezeigt noch gesendet.</translation>
+    </message>
+    <message>
+        <source>The unit plays its demonstration after power up.</source>
+        <translation>Das Gerät spielt nach dem Einschalten seine Vorführung ab.</translation>
+    </message>
+    <message>
+        <source>There is a title, but TITLER is OFF.</source>
+        <translation>Es gibt einen Titel, aber TITEL ZEIGEN ist AUS.</translation>
+    </message>
+</context>
+<context>
+    <name>ChecksWindow</name>
+    <message>
+        <source>Errors</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>Warnungen</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Hinweise</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n error</source>
+        <translation>
+            <numerusform>%n Fehler</numerusform>
+            <numerusform>%n Fehler</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n errors</source>
+        <translation>
+            <numerusform>%n Fehler</numerusform>
+            <numerusform>%n Fehler</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n warning</source>
+        <translation>
+            <numerusform>%n Warnung</numerusform>
+            <numerusform>%n Warnungen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n warnings</source>
+        <translation>
+            <numerusform>%n Warnung</numerusform>
+            <numerusform>%n Warnungen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note</source>
+        <translation>
+            <numerusform>%n Hinweis</numerusform>
+            <numerusform>%n Hinweise</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n notes</source>
+        <translation>
+            <numerusform>%n Hinweis</numerusform>
+            <numerusform>%n Hinweise</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Checks</source>
+        <translation>Prüfungen</translation>
+    </message>
+    <message>
+        <source>Shows what to look at in the configuration (Ctrl+K)</source>
+        <translation>Zeigt, was Sie in der Konfiguration ansehen sollten (Strg+K)</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Einstellung</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>Befund</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Befunde</translation>
+    </message>
+    <message>
+        <source>The checks found nothing to look at in this configuration.</source>
+        <translation>Die Prüfungen haben in dieser Konfiguration nichts gefunden.</translation>
+    </message>
+    <message>
+        <source>The checks found %1 in this configuration.</source>
+        <translation>Ergebnis der Prüfungen dieser Konfiguration: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>CopySlotWindow</name>
+    <message>
+        <source>This is the alarm itself. Pick another number.</source>
+        <translation>Das ist der Alarm selbst. Wählen Sie eine andere Nummer.</translation>
+    </message>
+    <message>
+        <source>This is the exception itself. Pick another number.</source>
+        <translation>Das ist die Ausnahme selbst. Wählen Sie eine andere Nummer.</translation>
+    </message>
+    <message>
+        <source>No alarm in use is overwritten.</source>
+        <translation>Kein belegter Alarm wird überschrieben.</translation>
+    </message>
+    <message>
+        <source>No exception in use is overwritten.</source>
+        <translation>Keine belegte Ausnahme wird überschrieben.</translation>
+    </message>
+    <message>
+        <source>First target</source>
+        <translation>Erstes Ziel</translation>
+    </message>
+    <message>
+        <source>Last target</source>
+        <translation>Letztes Ziel</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy alarm</source>
+        <translation>Alarm kopieren</translation>
+    </message>
+    <message>
+        <source>Copy exception</source>
+        <translation>Ausnahme kopieren</translation>
+    </message>
+    <message>
+        <source>Copy alarm %1 to</source>
+        <translation>Alarm %1 kopieren nach</translation>
+    </message>
+    <message>
+        <source>Copy exception %1 to</source>
+        <translation>Ausnahme %1 kopieren nach</translation>
+    </message>
+    <message>
+        <source>up to</source>
+        <translation>bis</translation>
+    </message>
+    <message>
+        <source>Nothing was copied, because another window is open. Close it first.</source>
+        <translation>Es wurde nichts kopiert, weil ein anderes Fenster geöffnet ist. Schließen Sie es zuerst.</translation>
+    </message>
+    <message>
+        <source>Copy to...</source>
+        <translation>Kopieren nach...</translation>
+    </message>
+    <message>
+        <source>Copies the shown alarm to other numbers</source>
+        <translation>Kopiert den angezeigten Alarm auf andere Nummern</translation>
+    </message>
+    <message>
+        <source>Copies the shown exception to other numbers</source>
+        <translation>Kopiert die angezeigte Ausnahme auf andere Nummern</translation>
+    </message>
+    <message>
+        <source>Copy Exception...</source>
+        <translation>Ausnahme kopieren...</translation>
+    </message>
+    <message>
+        <source>Copy Alarm...</source>
+        <translation>Alarm kopieren...</translation>
+    </message>
+</context>
+<context>
+    <name>EditMenu</name>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <comment>such as: Undo ALARM DURATION</comment>
+        <translation>Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Wiederholen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExceptionPage</name>
+    <message>
+        <source>D display</source>
+        <translation>D Anzeige</translation>
+    </message>
+    <message>
+        <source>O output</source>
+        <translation>O Ausgabe</translation>
+    </message>
+    <message>
+        <source>H history</source>
+        <translation>H Verlauf</translation>
+    </message>
+    <message>
+        <source>S scroll matching</source>
+        <translation>S Mehrzeilensuche</translation>
+    </message>
+    <message>
+        <source>Overview of the exceptions</source>
+        <translation>Übersicht der Ausnahmen</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation>Bereich</translation>
+    </message>
+    <message>
+        <source>Acts</source>
+        <translation>Aktionen</translation>
+    </message>
+    <message>
+        <source>free</source>
+        <translation>frei</translation>
+    </message>
+</context>
+<context>
+    <name>FileActs</name>
+    <message>
+        <source>Open Recent</source>
+        <translation>Zuletzt verwendet</translation>
+    </message>
+    <message>
+        <source>Save Backup...</source>
+        <translation>Sicherung speichern...</translation>
+    </message>
+    <message>
+        <source>Not opened: %1</source>
+        <translation>Nicht geöffnet: %1</translation>
+    </message>
+    <message>
+        <source>No backup written: %1</source>
+        <translation>Keine Sicherung geschrieben: %1</translation>
+    </message>
+    <message>
+        <source>Backup written: %1</source>
+        <translation>Sicherung geschrieben: %1</translation>
+    </message>
+</context>
+<context>
+    <name>FileMenu</name>
+    <message>
+        <source>Changes</source>
+        <translation>Änderungen</translation>
+    </message>
+    <message>
+        <source>Checks</source>
+        <translation>Prüfungen</translation>
+    </message>
+</context>
+<context>
+    <name>Filter</name>
+    <message>
+        <source>Text Forms(*.toml)|*.toml|All Files(*.*)|*.*</source>
+        <translation>Textformen(*.toml)|*.toml|Alle Dateien(*.*)|*.*</translation>
+    </message>
+    <message>
+        <source>Configurations(*.bin;*.toml)|*.bin;*.toml|All Files(*.*)|*.*</source>
+        <translation>Konfigurationen(*.bin;*.toml)|*.bin;*.toml|Alle Dateien(*.*)|*.*</translation>
+    </message>
+    <message>
+        <source>Backups(*.bin)|*.bin|All Files(*.*)|*.*</source>
+        <translation>Sicherungen(*.bin)|*.bin|Alle Dateien(*.*)|*.*</translation>
+    </message>
+</context>
+<context>
+    <name>Form</name>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>month</source>
+        <translation>Monat</translation>
+    </message>
+    <message>
+        <source>day</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>year</source>
+        <translation>Jahr</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Uhrzeit</translation>
+    </message>
+    <message>
+        <source>hour</source>
+        <translation>Stunde</translation>
+    </message>
+    <message>
+        <source>minute</source>
+        <translation>Minute</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>Sekunde</translation>
+    </message>
+    <message>
+        <source>Register</source>
+        <translation>Kasse</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>RANGE</source>
+        <translation>BEREICH</translation>
+    </message>
+    <message>
+        <source>Firmware %1</source>
+        <translation>Firmware %1</translation>
+    </message>
+    <message>
+        <source>CASIO SUBMENU</source>
+        <translation>CASIO UNTERMENÜ</translation>
+    </message>
+    <message>
+        <source>SHARP SUBMENU</source>
+        <translation>SHARP UNTERMENÜ</translation>
+    </message>
+    <message>
+        <source>TEC SUBMENU</source>
+        <translation>TEC UNTERMENÜ</translation>
+    </message>
+    <message>
+        <source>ALARM TRIGGER SETUP</source>
+        <translation>ALARMAUSLÖSER EINSTELLEN</translation>
+    </message>
+    <message>
+        <source>EXCEPTION SETUP</source>
+        <translation>AUSNAHME EINSTELLEN</translation>
+    </message>
+    <message>
+        <source>TITLE SETUP</source>
+        <translation>TITEL EINSTELLEN</translation>
+    </message>
+    <message>
+        <source>Upload Completed.</source>
+        <translation>Auslesen abgeschlossen.</translation>
+    </message>
+    <message>
+        <source>Upload Incompleted.</source>
+        <translation>Auslesen unvollständig.</translation>
+    </message>
+    <message>
+        <source>Connected at COM %1 %2</source>
+        <translation>Verbunden mit COM %1 %2</translation>
+    </message>
+    <message>
+        <source>ACCESS</source>
+        <translation>ZUGRIFF</translation>
+    </message>
+    <message>
+        <source>%1 Bits</source>
+        <translation>%1 Bits</translation>
+    </message>
+    <message>
+        <source>%1 Character</source>
+        <translation>%1 Zeichen</translation>
+    </message>
+    <message>
+        <source>%1 HOUR</source>
+        <translation>%1 STUNDEN</translation>
+    </message>
+    <message>
+        <source>%1 KITCHEN PRINTER</source>
+        <translation>%1 KÜCHENDRUCKER</translation>
+    </message>
+    <message>
+        <source>%1 LCD VERSION</source>
+        <translation>%1 LCD-VERSION</translation>
+    </message>
+    <message>
+        <source>%1 PORT</source>
+        <translation>%1 ANSCHLUSS</translation>
+    </message>
+    <message>
+        <source>%1 PRINTERS</source>
+        <translation>%1 DRUCKER</translation>
+    </message>
+    <message>
+        <source>%1 Printers SETTING</source>
+        <translation>%1 DRUCKER</translation>
+    </message>
+    <message>
+        <source>%1 REM DISPLAY</source>
+        <translation>%1 FERNANZEIGE</translation>
+    </message>
+    <message>
+        <source>%1 Sec</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 Sec.</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 TERMINAL</source>
+        <translation>%1 TERMINAL</translation>
+    </message>
+    <message>
+        <source>%1 [ NEW FMT ]</source>
+        <translation>%1 [ NEUES FORMAT ]</translation>
+    </message>
+    <message>
+        <source>%1 [ OLD FMT ]</source>
+        <translation>%1 [ ALTES FORMAT ]</translation>
+    </message>
+    <message>
+        <source>*** MAKE SURE HAVE UART DAUGHTER BOARD INSTALLED ***</source>
+        <translation>*** DIE UART-ZUSATZPLATINE MUSS EINGEBAUT SEIN ***</translation>
+    </message>
+    <message>
+        <source>ACK</source>
+        <translation>ACK</translation>
+    </message>
+    <message>
+        <source>ACK/NAK</source>
+        <translation>ACK/NAK</translation>
+    </message>
+    <message>
+        <source>ADDRESS</source>
+        <translation>ADRESSE</translation>
+    </message>
+    <message>
+        <source>ADS SET DISPLAY</source>
+        <translation>ADS ANZEIGE</translation>
+    </message>
+    <message>
+        <source>ALARM DURATION</source>
+        <translation>ALARMDAUER</translation>
+    </message>
+    <message>
+        <source>ALARM NO.</source>
+        <translation>ALARM NR.</translation>
+    </message>
+    <message>
+        <source>ALARM OUTPUTS</source>
+        <translation>ALARME</translation>
+    </message>
+    <message>
+        <source>ALARM TRIGGER</source>
+        <translation>ALARMAUSLÖSER</translation>
+    </message>
+    <message>
+        <source>ALARM TYPE</source>
+        <translation>ALARMART</translation>
+    </message>
+    <message>
+        <source>ALL</source>
+        <translation>ALLE</translation>
+    </message>
+    <message>
+        <source>ANY</source>
+        <translation>ALLE</translation>
+    </message>
+    <message>
+        <source>ASCII</source>
+        <translation>ASCII</translation>
+    </message>
+    <message>
+        <source>AUSTRALIA</source>
+        <translation>AUSTRALIEN</translation>
+    </message>
+    <message>
+        <source>AUTO</source>
+        <translation>AUTO</translation>
+    </message>
+    <message>
+        <source>AUTO LINEFEED</source>
+        <translation>AUTOM. ZEILENVORSCHUB</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>About OVL Software</source>
+        <translation>Über OVL Software</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Address, first digit</source>
+        <translation>Adresse, erste Ziffer</translation>
+    </message>
+    <message>
+        <source>Address, second digit</source>
+        <translation>Adresse, zweite Ziffer</translation>
+    </message>
+    <message>
+        <source>Address, third digit</source>
+        <translation>Adresse, dritte Ziffer</translation>
+    </message>
+    <message>
+        <source>Addressing</source>
+        <translation>Adressierung</translation>
+    </message>
+    <message>
+        <source>Alarm Outputs</source>
+        <translation>Alarmausgänge</translation>
+    </message>
+    <message>
+        <source>BAUD RATE</source>
+        <translation>BAUDRATE</translation>
+    </message>
+    <message>
+        <source>BOTTOM</source>
+        <translation>UNTEN</translation>
+    </message>
+    <message>
+        <source>Baudrate Scan</source>
+        <translation>Baudrate suchen</translation>
+    </message>
+    <message>
+        <source>Baudrate Scaning..</source>
+        <translation>Sucht die Baudrate..</translation>
+    </message>
+    <message>
+        <source>CANADA</source>
+        <translation>KANADA</translation>
+    </message>
+    <message>
+        <source>CELSIUS</source>
+        <translation>CELSIUS</translation>
+    </message>
+    <message>
+        <source>CHECK</source>
+        <translation>SCHECK</translation>
+    </message>
+    <message>
+        <source>CLARITY EPOS SETTING</source>
+        <translation>CLARITY EPOS EINSTELLEN</translation>
+    </message>
+    <message>
+        <source>COFFEE SHOP</source>
+        <translation>CAFÉ</translation>
+    </message>
+    <message>
+        <source>COMBINED</source>
+        <translation>KOMBINIERT</translation>
+    </message>
+    <message>
+        <source>COMMUNICATION</source>
+        <translation>SCHNITTSTELLE</translation>
+    </message>
+    <message>
+        <source>CONSOLE</source>
+        <translation>KONSOLE</translation>
+    </message>
+    <message>
+        <source>CONVENIENCE STORE</source>
+        <translation>KLEINER MARKT</translation>
+    </message>
+    <message>
+        <source>CREDIT</source>
+        <translation>KREDIT</translation>
+    </message>
+    <message>
+        <source>CRSOSS %1</source>
+        <translation>CRSOSS %1</translation>
+    </message>
+    <message>
+        <source>CSL OLD</source>
+        <translation>CSL ALT</translation>
+    </message>
+    <message>
+        <source>CUSTOMER</source>
+        <translation>KUNDE</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Communication Setting</source>
+        <translation>Schnittstelle einstellen</translation>
+    </message>
+    <message>
+        <source>Comport %1</source>
+        <translation>Comport %1</translation>
+    </message>
+    <message>
+        <source>Console ID</source>
+        <translation>Konsolen-ID</translation>
+    </message>
+    <message>
+        <source>DALLMEIER</source>
+        <translation>DALLMEIER</translation>
+    </message>
+    <message>
+        <source>DATA BITS</source>
+        <translation>DATENBITS</translation>
+    </message>
+    <message>
+        <source>DATE FORMAT</source>
+        <translation>DATUMSFORMAT</translation>
+    </message>
+    <message>
+        <source>DAYLIGHT SAVING</source>
+        <translation>SOMMERZEIT</translation>
+    </message>
+    <message>
+        <source>DELTA JOURNAL</source>
+        <translation>DELTA JOURNAL</translation>
+    </message>
+    <message>
+        <source>DELTA RECEIPT</source>
+        <translation>DELTA BELEG</translation>
+    </message>
+    <message>
+        <source>DELTA SETTING</source>
+        <translation>DELTA EINSTELLEN</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION/XML</source>
+        <translation>BESCHREIBUNG/XML</translation>
+    </message>
+    <message>
+        <source>DEST ID</source>
+        <translation>ZIEL-ID</translation>
+    </message>
+    <message>
+        <source>DESTIN TYPE</source>
+        <translation>TYP DES ZIELS</translation>
+    </message>
+    <message>
+        <source>DEVICE</source>
+        <translation>QUELLE</translation>
+    </message>
+    <message>
+        <source>DEVICE ADDRESS</source>
+        <translation>ADRESSE DER QUELLE</translation>
+    </message>
+    <message>
+        <source>DISABLED</source>
+        <translation>KEINE</translation>
+    </message>
+    <message>
+        <source>DISPLAY</source>
+        <translation>ANZEIGE</translation>
+    </message>
+    <message>
+        <source>DISPLAY CHARACTER / LINE</source>
+        <translation>ZEICHEN JE ZEILE</translation>
+    </message>
+    <message>
+        <source>DISPLAY FORMAT</source>
+        <translation>TEXTPOSITION</translation>
+    </message>
+    <message>
+        <source>DISPLAY LINE</source>
+        <translation>ANZEIGEZEILEN</translation>
+    </message>
+    <message>
+        <source>DISPLAY TEXT</source>
+        <translation>TEXT ANZEIGEN</translation>
+    </message>
+    <message>
+        <source>DOUBLE CHAR PRINTER</source>
+        <translation>DRUCKER MIT DOPPELZEICHEN</translation>
+    </message>
+    <message>
+        <source>DRESSER WAYNE SETTING</source>
+        <translation>DRESSER WAYNE EINSTELLEN</translation>
+    </message>
+    <message>
+        <source>DST IDN ID</source>
+        <translation>DST IDN ID</translation>
+    </message>
+    <message>
+        <source>DST ISN GNA</source>
+        <translation>DST ISN GNA</translation>
+    </message>
+    <message>
+        <source>DST ISN LNA</source>
+        <translation>DST ISN LNA</translation>
+    </message>
+    <message>
+        <source>DUPLICATE LINE</source>
+        <translation>GLEICHE ZEILE</translation>
+    </message>
+    <message>
+        <source>DVR Selection</source>
+        <translation>Auswahl des Rekorders</translation>
+    </message>
+    <message>
+        <source>DWELL</source>
+        <translation>VERWEILEN</translation>
+    </message>
+    <message>
+        <source>Decimal separator</source>
+        <translation>Dezimaltrennzeichen</translation>
+    </message>
+    <message>
+        <source>Demo On Power Up</source>
+        <translation>Vorführung nach dem Einschalten</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>Device address</source>
+        <translation>Adresse der Quelle</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Trennen</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Anzeige</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Schreiben</translation>
+    </message>
+    <message>
+        <source>Download Completed.</source>
+        <translation>Schreiben abgeschlossen.</translation>
+    </message>
+    <message>
+        <source>Downloading . . .</source>
+        <translation>Schreibt . . .</translation>
+    </message>
+    <message>
+        <source>ECR NUMBER</source>
+        <translation>KASSENNUMMER</translation>
+    </message>
+    <message>
+        <source>EDACOM MODEL SETTING</source>
+        <translation>EDACOM MODELL EINSTELLEN</translation>
+    </message>
+    <message>
+        <source>EMAX</source>
+        <translation>EMAX</translation>
+    </message>
+    <message>
+        <source>EMULATE</source>
+        <translation>EMULATE</translation>
+    </message>
+    <message>
+        <source>EMULATE US</source>
+        <translation>EMULATE US</translation>
+    </message>
+    <message>
+        <source>EMULATING</source>
+        <translation>EMULATING</translation>
+    </message>
+    <message>
+        <source>EPSON JOURNAL</source>
+        <translation>EPSON JOURNAL</translation>
+    </message>
+    <message>
+        <source>EPSON RECEIPT</source>
+        <translation>EPSON BELEG</translation>
+    </message>
+    <message>
+        <source>ESSO POLE DISPLAY</source>
+        <translation>ESSO KUNDENANZEIGE</translation>
+    </message>
+    <message>
+        <source>EUROPAD</source>
+        <translation>EUROPAD</translation>
+    </message>
+    <message>
+        <source>EVEN</source>
+        <translation>GERADE</translation>
+    </message>
+    <message>
+        <source>EXCEPTION NO.</source>
+        <translation>AUSNAHME NR.</translation>
+    </message>
+    <message>
+        <source>EXCEPTION REPORT</source>
+        <translation>AUSNAHMEN</translation>
+    </message>
+    <message>
+        <source>EXCEPTION STRING</source>
+        <translation>SUCHTEXT</translation>
+    </message>
+    <message>
+        <source>EXTERNAL CUSTOM DISPLAY</source>
+        <translation>EXTERNE KUNDENANZEIGE</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>Englisch</translation>
+    </message>
+    <message>
+        <source>Exception Report</source>
+        <translation>Ausnahmemeldung</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>FAHRENHEIT</source>
+        <translation>FAHRENHEIT</translation>
+    </message>
+    <message>
+        <source>FAST FOOD</source>
+        <translation>SCHNELLIMBISS</translation>
+    </message>
+    <message>
+        <source>FLAG DURATION</source>
+        <translation>KENNZEICHENDAUER</translation>
+    </message>
+    <message>
+        <source>FLAG TYPE</source>
+        <translation>KENNZEICHEN</translation>
+    </message>
+    <message>
+        <source>FLASH</source>
+        <translation>BLINKEND</translation>
+    </message>
+    <message>
+        <source>FLASH *</source>
+        <translation>BLINKEND *</translation>
+    </message>
+    <message>
+        <source>FUJITSU %1 SET DISPLAY</source>
+        <translation>FUJITSU %1 ANZEIGE</translation>
+    </message>
+    <message>
+        <source>FUJITSU SETTINGS</source>
+        <translation>FUJITSU EINSTELLEN</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>First value</source>
+        <translation>Erster Wert</translation>
+    </message>
+    <message>
+        <source>First value, decimals</source>
+        <translation>Erster Wert, Nachkommastellen</translation>
+    </message>
+    <message>
+        <source>GASBOY SETTING</source>
+        <translation>GASBOY EINSTELLEN</translation>
+    </message>
+    <message>
+        <source>GENERIC</source>
+        <translation>GENERIC</translation>
+    </message>
+    <message>
+        <source>GILBRACO</source>
+        <translation>GILBRACO</translation>
+    </message>
+    <message>
+        <source>GRAPHIC FILTER</source>
+        <translation>GRAFIKFILTER</translation>
+    </message>
+    <message>
+        <source>GROCERY</source>
+        <translation>LEBENSMITTEL</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>Gold %1</source>
+        <translation>Gold %1</translation>
+    </message>
+    <message>
+        <source>HANDSHAKE</source>
+        <translation>HANDSHAKE</translation>
+    </message>
+    <message>
+        <source>HANDSHAKING</source>
+        <translation>HANDSHAKE</translation>
+    </message>
+    <message>
+        <source>HISTORY BUFFER</source>
+        <translation>VERLAUFSSPEICHER</translation>
+    </message>
+    <message>
+        <source>HW HANDSHAKING</source>
+        <translation>HW-HANDSHAKE</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>I-CNTRL INT JAVELIN VIPER</source>
+        <translation>I-CNTRL INT JAVELIN VIPER</translation>
+    </message>
+    <message>
+        <source>IBM RDS SET DISPLAY</source>
+        <translation>IBM RDS ANZEIGE</translation>
+    </message>
+    <message>
+        <source>IN</source>
+        <translation>IN</translation>
+    </message>
+    <message>
+        <source>INFORMATION %1</source>
+        <translation>INFORMATION %1</translation>
+    </message>
+    <message>
+        <source>INTERFACE TYPE</source>
+        <translation>ANSCHLUSSART</translation>
+    </message>
+    <message>
+        <source>IP ADDRESS %1</source>
+        <translation>IP-ADRESSE %1</translation>
+    </message>
+    <message>
+        <source>IP AND INFORMATION CONFIG</source>
+        <translation>IP UND INFORMATION</translation>
+    </message>
+    <message>
+        <source>JMC</source>
+        <translation>JMC</translation>
+    </message>
+    <message>
+        <source>JOURNAL</source>
+        <translation>JOURNAL</translation>
+    </message>
+    <message>
+        <source>JOURNAL EMULATING</source>
+        <translation>JOURNAL EMULATING</translation>
+    </message>
+    <message>
+        <source>JOURNAL PRINTER</source>
+        <translation>JOURNALDRUCKER</translation>
+    </message>
+    <message>
+        <source>JOURNAL PRINTER ONLY</source>
+        <translation>NUR JOURNALDRUCKER</translation>
+    </message>
+    <message>
+        <source>JOURNAL TAPPING</source>
+        <translation>JOURNAL TAPPING</translation>
+    </message>
+    <message>
+        <source>LANGUAGE</source>
+        <translation>SPRACHE</translation>
+    </message>
+    <message>
+        <source>LINE COMPRESS</source>
+        <translation>LEERZEILEN KÜRZEN</translation>
+    </message>
+    <message>
+        <source>LINE JUSTIFIED</source>
+        <translation>ZEILEN AUSRICHTEN</translation>
+    </message>
+    <message>
+        <source>LOAD HISTORY</source>
+        <translation>VERLAUF LADEN</translation>
+    </message>
+    <message>
+        <source>LOCAL VSS</source>
+        <translation>LOCAL VSS</translation>
+    </message>
+    <message>
+        <source>Language Settings</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>MANUAL</source>
+        <translation>MANUELL</translation>
+    </message>
+    <message>
+        <source>MASTER</source>
+        <translation>MASTER</translation>
+    </message>
+    <message>
+        <source>MASTER RESET</source>
+        <translation>ZURÜCKSETZEN</translation>
+    </message>
+    <message>
+        <source>MERIT</source>
+        <translation>MERIT</translation>
+    </message>
+    <message>
+        <source>MICRELEC MODE</source>
+        <translation>MICRELEC MODUS</translation>
+    </message>
+    <message>
+        <source>MICROS</source>
+        <translation>MICROS</translation>
+    </message>
+    <message>
+        <source>MICROS %1 %2</source>
+        <translation>MICROS %1 %2</translation>
+    </message>
+    <message>
+        <source>MICROS IDN NETWORK</source>
+        <translation>MICROS IDN NETZWERK</translation>
+    </message>
+    <message>
+        <source>MICROS ISN NETWORK</source>
+        <translation>MICROS ISN NETZWERK</translation>
+    </message>
+    <message>
+        <source>MICROSS %1 %2</source>
+        <translation>MICROSS %1 %2</translation>
+    </message>
+    <message>
+        <source>MILLENIUM</source>
+        <translation>MILLENIUM</translation>
+    </message>
+    <message>
+        <source>MIT licence</source>
+        <translation>MIT-Lizenz</translation>
+    </message>
+    <message>
+        <source>MIXED</source>
+        <translation>GEMISCHT</translation>
+    </message>
+    <message>
+        <source>MODE</source>
+        <translation>MODUS</translation>
+    </message>
+    <message>
+        <source>Make sure you are select correct the comport.</source>
+        <translation>Achten Sie darauf, den richtigen Comport zu wählen.</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modus</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modell</translation>
+    </message>
+    <message>
+        <source>NC</source>
+        <translation>NC</translation>
+    </message>
+    <message>
+        <source>NCR %1</source>
+        <translation>NCR %1</translation>
+    </message>
+    <message>
+        <source>NCR %1 %2</source>
+        <translation>NCR %1 %2</translation>
+    </message>
+    <message>
+        <source>NCR %1 (EMULATE)</source>
+        <translation>NCR %1 (EMULATE)</translation>
+    </message>
+    <message>
+        <source>NCR %1 (POLE)</source>
+        <translation>NCR %1 (POLE)</translation>
+    </message>
+    <message>
+        <source>NCR %1 (TAP)</source>
+        <translation>NCR %1 (TAP)</translation>
+    </message>
+    <message>
+        <source>NCR %1 [POLE]</source>
+        <translation>NCR %1 [POLE]</translation>
+    </message>
+    <message>
+        <source>NCR JOURNAL PRINTER</source>
+        <translation>NCR JOURNALDRUCKER</translation>
+    </message>
+    <message>
+        <source>NCR JRNL PRINTER</source>
+        <translation>NCR JOURNALDRUCKER</translation>
+    </message>
+    <message>
+        <source>NCR MODEL</source>
+        <translation>NCR MODELL</translation>
+    </message>
+    <message>
+        <source>NCR RCPT PRINTER</source>
+        <translation>NCR BELEGDRUCKER</translation>
+    </message>
+    <message>
+        <source>NCR RECEIPT PRINTER</source>
+        <translation>NCR BELEGDRUCKER</translation>
+    </message>
+    <message>
+        <source>NCR SLIP PRINTER</source>
+        <translation>NCR SLIPDRUCKER</translation>
+    </message>
+    <message>
+        <source>NIXDORF BEETLE</source>
+        <translation>NIXDORF BEETLE</translation>
+    </message>
+    <message>
+        <source>NIXDORF BEETLE SETTING</source>
+        <translation>NIXDORF BEETLE EINSTELLEN</translation>
+    </message>
+    <message>
+        <source>NO</source>
+        <translation>NO</translation>
+    </message>
+    <message>
+        <source>NONE</source>
+        <translation>KEINE</translation>
+    </message>
+    <message>
+        <source>NORAND</source>
+        <translation>NORAND</translation>
+    </message>
+    <message>
+        <source>NORBAIN VISTA</source>
+        <translation>NORBAIN VISTA</translation>
+    </message>
+    <message>
+        <source>NORMAL STATE</source>
+        <translation>RUHEZUSTAND</translation>
+    </message>
+    <message>
+        <source>NUCLEUS PRINTER SETTING</source>
+        <translation>NUCLEUS DRUCKER EINSTELLEN</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Netzwerk</translation>
+    </message>
+    <message>
+        <source>Network Settings</source>
+        <translation>Netzwerkeinstellungen</translation>
+    </message>
+    <message>
+        <source>Network settings</source>
+        <translation>Netzwerkeinstellungen</translation>
+    </message>
+    <message>
+        <source>No Access</source>
+        <translation>Kein Zugriff</translation>
+    </message>
+    <message>
+        <source>Not Connected</source>
+        <translation>Nicht verbunden</translation>
+    </message>
+    <message>
+        <source>ODD</source>
+        <translation>UNGERADE</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>AUS</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>OMEGA %1 SETTING</source>
+        <translation>OMEGA %1 EINSTELLEN</translation>
+    </message>
+    <message>
+        <source>OMRON</source>
+        <translation>OMRON</translation>
+    </message>
+    <message>
+        <source>ON</source>
+        <translation>EIN</translation>
+    </message>
+    <message>
+        <source>ONET</source>
+        <translation>ONET</translation>
+    </message>
+    <message>
+        <source>OPERATOR</source>
+        <translation>OPERATOR</translation>
+    </message>
+    <message>
+        <source>OPERATOR DISPLAY</source>
+        <translation>BEDIENERANZEIGE</translation>
+    </message>
+    <message>
+        <source>OUT</source>
+        <translation>OUT</translation>
+    </message>
+    <message>
+        <source>OUTPUT</source>
+        <translation>AUSGABE</translation>
+    </message>
+    <message>
+        <source>OUTPUT CHARACTER / LINE</source>
+        <translation>AUSGABEZEICHEN JE ZEILE</translation>
+    </message>
+    <message>
+        <source>OUTPUT TEXT</source>
+        <translation>TEXT AUSGEBEN</translation>
+    </message>
+    <message>
+        <source>OVL Software</source>
+        <translation>OVL Software</translation>
+    </message>
+    <message>
+        <source>OVL-ADD</source>
+        <translation>OVL-ADD</translation>
+    </message>
+    <message>
+        <source>OVL-DRS</source>
+        <translation>OVL-DRS</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Open History</source>
+        <translation>Verlauf öffnen</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Ausgabe</translation>
+    </message>
+    <message>
+        <source>PANASONIC</source>
+        <translation>PANASONIC</translation>
+    </message>
+    <message>
+        <source>PAR</source>
+        <translation>PAR</translation>
+    </message>
+    <message>
+        <source>PARAGON CLARITY SMARTPAD</source>
+        <translation>PARAGON CLARITY SMARTPAD</translation>
+    </message>
+    <message>
+        <source>PARITY</source>
+        <translation>PARITÄT</translation>
+    </message>
+    <message>
+        <source>PASSIVE TAP</source>
+        <translation>PASSIVER ABGRIFF</translation>
+    </message>
+    <message>
+        <source>PASSPORT</source>
+        <translation>PASSPORT</translation>
+    </message>
+    <message>
+        <source>PASSPORT (XML FMT)</source>
+        <translation>PASSPORT (XML-FORMAT)</translation>
+    </message>
+    <message>
+        <source>PC G-SITE</source>
+        <translation>PC G-SITE</translation>
+    </message>
+    <message>
+        <source>PIZZA SHOP</source>
+        <translation>PIZZERIA</translation>
+    </message>
+    <message>
+        <source>PLUSE</source>
+        <translation>IMPULS</translation>
+    </message>
+    <message>
+        <source>POLE DISPLAY</source>
+        <translation>KUNDENANZEIGE</translation>
+    </message>
+    <message>
+        <source>POLE DISPLAY %1</source>
+        <translation>KUNDENANZEIGE %1</translation>
+    </message>
+    <message>
+        <source>POLE VIA PRINTER</source>
+        <translation>ANZEIGE ÜBER DRUCKER</translation>
+    </message>
+    <message>
+        <source>POS %1</source>
+        <translation>POS %1</translation>
+    </message>
+    <message>
+        <source>POSIFLEX</source>
+        <translation>POSIFLEX</translation>
+    </message>
+    <message>
+        <source>PRINTER</source>
+        <translation>DRUCKER</translation>
+    </message>
+    <message>
+        <source>PRINTER WITH POLE</source>
+        <translation>DRUCKER MIT ANZEIGE</translation>
+    </message>
+    <message>
+        <source>PRINTER/CUSTOMER DISPLAY</source>
+        <translation>DRUCKER/KUNDENANZEIGE</translation>
+    </message>
+    <message>
+        <source>PROSPER</source>
+        <translation>PROSPER</translation>
+    </message>
+    <message>
+        <source>PROTOCOL</source>
+        <translation>PROTOKOLL</translation>
+    </message>
+    <message>
+        <source>Point of sale</source>
+        <translation>Verkaufsstelle</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Anschluss</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>Printer of the %1</source>
+        <translation>Drucker der %1</translation>
+    </message>
+    <message>
+        <source>Printer or display</source>
+        <translation>Drucker oder Anzeige</translation>
+    </message>
+    <message>
+        <source>Printer, %1</source>
+        <translation>Drucker, %1</translation>
+    </message>
+    <message>
+        <source>Program Download</source>
+        <translation>Konfiguration schreiben</translation>
+    </message>
+    <message>
+        <source>RDS</source>
+        <translation>RDS</translation>
+    </message>
+    <message>
+        <source>REALPOS %1</source>
+        <translation>REALPOS %1</translation>
+    </message>
+    <message>
+        <source>RECEIPT</source>
+        <translation>BELEG</translation>
+    </message>
+    <message>
+        <source>RECEIPT EMULATING</source>
+        <translation>BELEG EMULATING</translation>
+    </message>
+    <message>
+        <source>RECEIPT PRINTER</source>
+        <translation>BELEGDRUCKER</translation>
+    </message>
+    <message>
+        <source>RECEIPT TAPPING</source>
+        <translation>BELEG TAPPING</translation>
+    </message>
+    <message>
+        <source>RECIEPT PRINTER ONLY</source>
+        <translation>NUR BELEGDRUCKER</translation>
+    </message>
+    <message>
+        <source>REDWOOD %1</source>
+        <translation>REDWOOD %1</translation>
+    </message>
+    <message>
+        <source>REGCOM %1</source>
+        <translation>REGCOM %1</translation>
+    </message>
+    <message>
+        <source>REGISTER SELECT</source>
+        <translation>KASSE</translation>
+    </message>
+    <message>
+        <source>REMOTE</source>
+        <translation>FERNSTEUERUNG</translation>
+    </message>
+    <message>
+        <source>REMOTE SLIP</source>
+        <translation>EXTERNER BELEG</translation>
+    </message>
+    <message>
+        <source>RETAIL STORE</source>
+        <translation>EINZELHANDEL</translation>
+    </message>
+    <message>
+        <source>REVERSE</source>
+        <translation>INVERS</translation>
+    </message>
+    <message>
+        <source>RIVA</source>
+        <translation>RIVA</translation>
+    </message>
+    <message>
+        <source>RTS</source>
+        <translation>RTS</translation>
+    </message>
+    <message>
+        <source>RTS TRIGGERED TEXT DELAY</source>
+        <translation>TEXTVERZÖGERUNG NACH RTS</translation>
+    </message>
+    <message>
+        <source>RX BAUDRATE</source>
+        <translation>RX-BAUDRATE</translation>
+    </message>
+    <message>
+        <source>Register Demo</source>
+        <translation>Kassenvorführung</translation>
+    </message>
+    <message>
+        <source>Register ID</source>
+        <translation>Kassen-ID</translation>
+    </message>
+    <message>
+        <source>Register ID, first digit</source>
+        <translation>Kassen-ID, erste Ziffer</translation>
+    </message>
+    <message>
+        <source>Register ID, second digit</source>
+        <translation>Kassen-ID, zweite Ziffer</translation>
+    </message>
+    <message>
+        <source>Register ID, third digit</source>
+        <translation>Kassen-ID, dritte Ziffer</translation>
+    </message>
+    <message>
+        <source>Register Settings</source>
+        <translation>Kasseneinstellungen</translation>
+    </message>
+    <message>
+        <source>Remote</source>
+        <translation>Fernsteuern</translation>
+    </message>
+    <message>
+        <source>Remote Function</source>
+        <translation>Fernsteuerung</translation>
+    </message>
+    <message>
+        <source>SAMSUNG</source>
+        <translation>SAMSUNG</translation>
+    </message>
+    <message>
+        <source>SCREEN BLANK</source>
+        <translation>BILD LEEREN</translation>
+    </message>
+    <message>
+        <source>SCROLL DELAY</source>
+        <translation>ROLLVERZÖGERUNG</translation>
+    </message>
+    <message>
+        <source>SCROLL MATCHING</source>
+        <translation>MEHRZEILENSUCHE</translation>
+    </message>
+    <message>
+        <source>SECURITY</source>
+        <translation>SICHERHEIT</translation>
+    </message>
+    <message>
+        <source>SET</source>
+        <translation>SETZEN</translation>
+    </message>
+    <message>
+        <source>SET ADDRESS</source>
+        <translation>ADRESSE EINSTELLEN</translation>
+    </message>
+    <message>
+        <source>SET IP ADDRESS</source>
+        <translation>IP-ADRESSE EINSTELLEN</translation>
+    </message>
+    <message>
+        <source>SET MODEL</source>
+        <translation>MODELL EINSTELLEN</translation>
+    </message>
+    <message>
+        <source>SET TIME</source>
+        <translation>UHR STELLEN</translation>
+    </message>
+    <message>
+        <source>SHARP %1 %2 SET DISPLAY</source>
+        <translation>SHARP %1 %2 ANZEIGE</translation>
+    </message>
+    <message>
+        <source>SHARP MODEL</source>
+        <translation>SHARP MODELL</translation>
+    </message>
+    <message>
+        <source>SHOW</source>
+        <translation>ZEIGEN</translation>
+    </message>
+    <message>
+        <source>SICOM</source>
+        <translation>SICOM</translation>
+    </message>
+    <message>
+        <source>SLAVE</source>
+        <translation>SLAVE</translation>
+    </message>
+    <message>
+        <source>SLIP PRINTER ONLY</source>
+        <translation>NUR SLIPDRUCKER</translation>
+    </message>
+    <message>
+        <source>SNA SOFTWARE</source>
+        <translation>SNA SOFTWARE</translation>
+    </message>
+    <message>
+        <source>SOURCE TYPE</source>
+        <translation>TYP DER QUELLE</translation>
+    </message>
+    <message>
+        <source>SPACE COMPRESS</source>
+        <translation>LEERZEICHEN KÜRZEN</translation>
+    </message>
+    <message>
+        <source>SPEDI CCTV SET ADDRESS</source>
+        <translation>SPEDI CCTV ADRESSE</translation>
+    </message>
+    <message>
+        <source>SRC ID</source>
+        <translation>QUELL-ID</translation>
+    </message>
+    <message>
+        <source>SRC IDN ID</source>
+        <translation>SRC IDN ID</translation>
+    </message>
+    <message>
+        <source>SRC ISN GNA</source>
+        <translation>SRC ISN GNA</translation>
+    </message>
+    <message>
+        <source>SRC ISN LNA</source>
+        <translation>SRC ISN LNA</translation>
+    </message>
+    <message>
+        <source>STANDARD</source>
+        <translation>STANDARD</translation>
+    </message>
+    <message>
+        <source>STANDARD (Both)</source>
+        <translation>STANDARD (beide)</translation>
+    </message>
+    <message>
+        <source>SUNTRONIC</source>
+        <translation>SUNTRONIC</translation>
+    </message>
+    <message>
+        <source>SURE POS / %1</source>
+        <translation>SURE POS / %1</translation>
+    </message>
+    <message>
+        <source>SW HANDSHAKING</source>
+        <translation>SW-HANDSHAKE</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Waage</translation>
+    </message>
+    <message>
+        <source>Scan Baudrate</source>
+        <translation>Baudrate suchen</translation>
+    </message>
+    <message>
+        <source>Scroll Matching</source>
+        <translation>Mehrzeilensuche</translation>
+    </message>
+    <message>
+        <source>Second value</source>
+        <translation>Zweiter Wert</translation>
+    </message>
+    <message>
+        <source>Second value, decimals</source>
+        <translation>Zweiter Wert, Nachkommastellen</translation>
+    </message>
+    <message>
+        <source>Security</source>
+        <translation>Sicherheit</translation>
+    </message>
+    <message>
+        <source>Sensor</source>
+        <translation>Sensor</translation>
+    </message>
+    <message>
+        <source>Set Comport</source>
+        <translation>Comport einstellen</translation>
+    </message>
+    <message>
+        <source>Set Exception</source>
+        <translation>Ausnahme</translation>
+    </message>
+    <message>
+        <source>Set Exception String</source>
+        <translation>Text ...</translation>
+    </message>
+    <message>
+        <source>Set RANGE</source>
+        <translation>Bereich ...</translation>
+    </message>
+    <message>
+        <source>Set Title</source>
+        <translation>Titel ...</translation>
+    </message>
+    <message>
+        <source>Set Trigger Text</source>
+        <translation>Text ...</translation>
+    </message>
+    <message>
+        <source>Show Detail</source>
+        <translation>Details zeigen</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>Software</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>Spanisch</translation>
+    </message>
+    <message>
+        <source>Speed Per Line</source>
+        <translation>Zeit je Zeile</translation>
+    </message>
+    <message>
+        <source>T/D DISPLAY</source>
+        <translation>UHR ZEIGEN</translation>
+    </message>
+    <message>
+        <source>T/D LOCKING</source>
+        <translation>UHR SPERREN</translation>
+    </message>
+    <message>
+        <source>TAP</source>
+        <translation>TAP</translation>
+    </message>
+    <message>
+        <source>TAP US</source>
+        <translation>TAP US</translation>
+    </message>
+    <message>
+        <source>TAPPING</source>
+        <translation>TAPPING</translation>
+    </message>
+    <message>
+        <source>TASMANIA</source>
+        <translation>TASMANIEN</translation>
+    </message>
+    <message>
+        <source>TCI ADDRESS</source>
+        <translation>TCI ADRESSE</translation>
+    </message>
+    <message>
+        <source>TEAM POS %1</source>
+        <translation>TEAM POS %1</translation>
+    </message>
+    <message>
+        <source>TEAM POS %1 - CBE</source>
+        <translation>TEAM POS %1 - CBE</translation>
+    </message>
+    <message>
+        <source>TEAM POS %1 - ISTORE</source>
+        <translation>TEAM POS %1 - ISTORE</translation>
+    </message>
+    <message>
+        <source>TEC SLIP PRINTER</source>
+        <translation>TEC SLIPDRUCKER</translation>
+    </message>
+    <message>
+        <source>TEC SLIP PRINTER EMULATE</source>
+        <translation>TEC SLIPDRUCKER EMULATE</translation>
+    </message>
+    <message>
+        <source>TERMINAL</source>
+        <translation>TERMINAL</translation>
+    </message>
+    <message>
+        <source>TERMINAL %1</source>
+        <translation>TERMINAL %1</translation>
+    </message>
+    <message>
+        <source>TEXT SETUP</source>
+        <translation>TEXT</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>ZEIT</translation>
+    </message>
+    <message>
+        <source>TIME / LANGUAGE</source>
+        <translation>ZEIT / SPRACHE</translation>
+    </message>
+    <message>
+        <source>TIME FORMAT</source>
+        <translation>ZEITFORMAT</translation>
+    </message>
+    <message>
+        <source>TIME STAMP</source>
+        <translation>ZEITSTEMPEL</translation>
+    </message>
+    <message>
+        <source>TIMED</source>
+        <translation>ZEIT</translation>
+    </message>
+    <message>
+        <source>TIMEOUT</source>
+        <translation>WARTEZEIT</translation>
+    </message>
+    <message>
+        <source>TITLE</source>
+        <translation>TITEL</translation>
+    </message>
+    <message>
+        <source>TITLER</source>
+        <translation>TITEL ZEIGEN</translation>
+    </message>
+    <message>
+        <source>TKMAXX SETTING</source>
+        <translation>TKMAXX EINSTELLEN</translation>
+    </message>
+    <message>
+        <source>TOP</source>
+        <translation>OBEN</translation>
+    </message>
+    <message>
+        <source>TPIF PRINTER ADAPTER</source>
+        <translation>TPIF-DRUCKERADAPTER</translation>
+    </message>
+    <message>
+        <source>TRIGGER TEXT</source>
+        <translation>AUSLÖSETEXT</translation>
+    </message>
+    <message>
+        <source>TRIGGERED TEXT</source>
+        <translation>AUSLÖSETEXT</translation>
+    </message>
+    <message>
+        <source>TRVX</source>
+        <translation>TRVX</translation>
+    </message>
+    <message>
+        <source>TX BAUDRATE</source>
+        <translation>TX-BAUDRATE</translation>
+    </message>
+    <message>
+        <source>TX PROTOCOL</source>
+        <translation>TX-PROTOKOLL</translation>
+    </message>
+    <message>
+        <source>TYPE</source>
+        <translation>TYP</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message>
+        <source>Terminal</source>
+        <translation>Terminal</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Text Display Settings</source>
+        <translation>Textanzeige</translation>
+    </message>
+    <message>
+        <source>Text source</source>
+        <translation>Textquelle</translation>
+    </message>
+    <message>
+        <source>Time / Date Settings</source>
+        <translation>Uhrzeit und Datum</translation>
+    </message>
+    <message>
+        <source>Title display</source>
+        <translation>Titelanzeige</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>UNIWELL</source>
+        <translation>UNIWELL</translation>
+    </message>
+    <message>
+        <source>Upload</source>
+        <translation>Auslesen</translation>
+    </message>
+    <message>
+        <source>Uploading . . .</source>
+        <translation>Liest aus . . .</translation>
+    </message>
+    <message>
+        <source>Use Current Time Date</source>
+        <translation>Aktuelle Zeit verwenden</translation>
+    </message>
+    <message>
+        <source>VECTRON</source>
+        <translation>VECTRON</translation>
+    </message>
+    <message>
+        <source>VERIFONE</source>
+        <translation>VERIFONE</translation>
+    </message>
+    <message>
+        <source>VIDEO</source>
+        <translation>VIDEO</translation>
+    </message>
+    <message>
+        <source>VIDEO LOSS</source>
+        <translation>VIDEOVERLUST</translation>
+    </message>
+    <message>
+        <source>VIDEO SYSTEM</source>
+        <translation>VIDEOSYSTEM</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>Version ID</source>
+        <translation>Versions-ID</translation>
+    </message>
+    <message>
+        <source>W.OUT</source>
+        <translation>W.OUT</translation>
+    </message>
+    <message>
+        <source>WEIGH SCALE SETTING</source>
+        <translation>WAAGE EINSTELLEN</translation>
+    </message>
+    <message>
+        <source>Wiring</source>
+        <translation>Verdrahtung</translation>
+    </message>
+    <message>
+        <source>XON/XOFF</source>
+        <translation>XON/XOFF</translation>
+    </message>
+    <message>
+        <source>Baudrate</source>
+        <translation>Baudrate</translation>
+    </message>
+    <message>
+        <source>Comport</source>
+        <translation>Comport</translation>
+    </message>
+    <message>
+        <source>Data Bits</source>
+        <translation>Datenbits</translation>
+    </message>
+    <message>
+        <source>Parity</source>
+        <translation>Parität</translation>
+    </message>
+</context>
+<context>
+    <name>HelpMenu</name>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Handbuch</translation>
+    </message>
+    <message>
+        <source>The manual folder cannot be opened.
+
+%1: %2</source>
+        <translation>Der Ordner der Handbücher lässt sich nicht öffnen.
+
+%1: %2</translation>
+    </message>
+    <message>
+        <source>no program opens folders</source>
+        <translation>kein Programm öffnet Ordner</translation>
+    </message>
+    <message>
+        <source>Open the manual folder</source>
+        <translation>Ordner der Handbücher öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWindow</name>
+    <message>
+        <source># This page is missing
+
+The help page %1 cannot be read: %2. The program works without it.</source>
+        <translation># Diese Seite fehlt
+
+Die Hilfeseite %1 lässt sich nicht lesen: %2. Das Programm funktioniert ohne sie.</translation>
+    </message>
+    <message>
+        <source>Help page</source>
+        <translation>Hilfeseite</translation>
+    </message>
+    <message>
+        <source>Search all pages</source>
+        <translation>Alle Seiten durchsuchen</translation>
+    </message>
+    <message>
+        <source>Search all pages (Ctrl+F)</source>
+        <translation>Alle Seiten durchsuchen (Strg+F)</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>There are no help pages in %1. The program works without them.</source>
+        <translation>In %1 gibt es keine Hilfeseiten. Das Programm funktioniert ohne sie.</translation>
+    </message>
+    <message>
+        <source>No page has all of these words.</source>
+        <translation>Keine Seite enthält alle diese Wörter.</translation>
+    </message>
+</context>
+<context>
+    <name>LinkDrawing</name>
+    <message>
+        <source>Port closed</source>
+        <translation>Port geschlossen</translation>
+    </message>
+    <message>
+        <source>Port open</source>
+        <translation>Port offen</translation>
+    </message>
+    <message>
+        <source>Asking for remote</source>
+        <translation>Fernsteuerung angefragt</translation>
+    </message>
+    <message>
+        <source>Remote held</source>
+        <translation>Ferngesteuert</translation>
+    </message>
+    <message>
+        <source>Uploading</source>
+        <translation>Liest aus</translation>
+    </message>
+    <message>
+        <source>Downloading</source>
+        <translation>Schreibt</translation>
+    </message>
+    <message>
+        <source>Scanning</source>
+        <translation>Sucht</translation>
+    </message>
+    <message>
+        <source>Device lost</source>
+        <translation>Schnittstelle verloren</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Computer</translation>
+    </message>
+    <message>
+        <source>Comport %1</source>
+        <translation>Comport %1</translation>
+    </message>
+    <message>
+        <source>Link to the unit: %1</source>
+        <translation>Verbindung zum Gerät: %1</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Gerät</translation>
+    </message>
+</context>
+<context>
+    <name>LinkWindows</name>
+    <message>
+        <source>%1, present</source>
+        <comment>a device</comment>
+        <translation>%1, vorhanden</translation>
+    </message>
+    <message>
+        <source>%1, not present</source>
+        <translation>%1, nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>Comport</source>
+        <translation>Comport</translation>
+    </message>
+    <message>
+        <source>Progress of the baud rate scan</source>
+        <translation>Fortschritt der Suche nach der Baudrate</translation>
+    </message>
+    <message>
+        <source>%1 baud</source>
+        <translation>%1 Baud</translation>
+    </message>
+</context>
+<context>
+    <name>List</name>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <translation>%1; %2</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>exception %1</source>
+        <translation>Ausnahme %1</translation>
+    </message>
+    <message>
+        <source>exceptions %1</source>
+        <translation>Ausnahmen %1</translation>
+    </message>
+    <message>
+        <source>alarm %1</source>
+        <translation>Alarm %1</translation>
+    </message>
+    <message>
+        <source>alarms %1</source>
+        <translation>Alarmen %1</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>OverviewList</name>
+    <message>
+        <source>%1 of %2 in use</source>
+        <translation>%1 von %2 belegt</translation>
+    </message>
+    <message>
+        <source>Arrows move, Enter picks.</source>
+        <translation>Pfeiltasten bewegen, Eingabe wählt.</translation>
+    </message>
+</context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>The program keeps the settings of this tab unchanged.</source>
+        <translation>Das Programm behält die Einstellungen dieser Registerkarte unverändert bei.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintItem</name>
+    <message>
+        <source>Print %1</source>
+        <translation>%1 drucken</translation>
+    </message>
+    <message>
+        <source>Site sheet printed</source>
+        <translation>Anlagenblatt gedruckt</translation>
+    </message>
+    <message>
+        <source>The site sheet was not printed</source>
+        <translation>Das Anlagenblatt wurde nicht gedruckt</translation>
+    </message>
+    <message>
+        <source>Print Site Sheet...</source>
+        <translation>Anlagenblatt drucken...</translation>
+    </message>
+</context>
+<context>
+    <name>Program</name>
+    <message>
+        <source>The program&apos;s folder cannot be made.
+
+%1</source>
+        <translation>Der Programmordner lässt sich nicht anlegen.
+
+%1</translation>
+    </message>
+    <message>
+        <source>%1
+Root sets the firmware, for instance: ovl-setup V1400 R12</source>
+        <translation>%1
+root legt die Firmware fest, zum Beispiel: ovl-setup V1400 R12</translation>
+    </message>
+    <message>
+        <source>%1
+The next start serves the same firmware as this one. Root sets another: ovl-setup %2</source>
+        <translation>%1
+Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere fest: ovl-setup %2</translation>
+    </message>
+    <message>
+        <source>The program cannot keep a copy of your changes. %1</source>
+        <translation>Das Programm kann keine Kopie Ihrer Änderungen anlegen. %1</translation>
+    </message>
+    <message>
+        <source>%1: rescued changes. Open them with &quot;File&quot;, &quot;Open&quot;</source>
+        <translation>%1: gerettete Änderungen. Öffnen Sie sie mit „Datei“, „Öffnen“</translation>
+    </message>
+    <message>
+        <source>The program could not restart. Exit, and start it again.</source>
+        <translation>Das Programm konnte nicht neu starten. Beenden Sie es und starten Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The program cannot save the changes: %1</source>
+        <translation>Das Programm kann die Änderungen nicht speichern: %1</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Gespeichert: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Question</name>
+    <message>
+        <source>It fits no firmware: it is cut, or damaged, or no configuration.</source>
+        <translation>Sie passt zu keiner Firmware: Sie ist abgeschnitten, beschädigt oder keine Konfiguration.</translation>
+    </message>
+    <message>
+        <source>It fits %1.</source>
+        <translation>Sie passt zu %1.</translation>
+    </message>
+    <message>
+        <source>This program serves %1.</source>
+        <translation>Dieses Programm verwendet %1.</translation>
+    </message>
+    <message>
+        <source>Pick the firmware of the file in the Version menu first.</source>
+        <translation>Wählen Sie zuerst im Menü „Version“ die Firmware der Datei.</translation>
+    </message>
+    <message>
+        <source>Opening %1 ends the program.</source>
+        <translation>Das Öffnen von %1 beendet das Programm.</translation>
+    </message>
+    <message>
+        <source>This program serves %1 and reads it as such a file.</source>
+        <translation>Dieses Programm verwendet %1 und liest sie als eine solche Datei.</translation>
+    </message>
+    <message>
+        <source>&quot;Save&quot; under %1 writes such files. A backup opens.</source>
+        <translation>„Speichern“ schreibt unter %1 solche Dateien. Eine Sicherung lässt sich öffnen.</translation>
+    </message>
+    <message>
+        <source>Opening %1 puts settings in the wrong place.</source>
+        <translation>Das Öffnen von %1 setzt Einstellungen an die falsche Stelle.</translation>
+    </message>
+</context>
+<context>
+    <name>Reason</name>
+    <message>
+        <source>it lacks the value</source>
+        <translation>der Wert fehlt</translation>
+    </message>
+    <message>
+        <source>it holds a value that is neither text nor number</source>
+        <translation>sie enthält einen Wert, der weder Text noch Zahl ist</translation>
+    </message>
+    <message>
+        <source>it cannot be written</source>
+        <translation>sie lässt sich nicht schreiben</translation>
+    </message>
+    <message>
+        <source>The configuration is not complete</source>
+        <translation>Die Konfiguration ist nicht vollständig</translation>
+    </message>
+</context>
+<context>
+    <name>RecentFiles</name>
+    <message>
+        <source>No file yet</source>
+        <translation>Noch keine Datei</translation>
+    </message>
+    <message>
+        <source>Clear this list</source>
+        <translation>Diese Liste leeren</translation>
+    </message>
+</context>
+<context>
+    <name>RegisterPage</name>
+    <message>
+        <source>Filter of the registers</source>
+        <translation>Filter der Kassen</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Shows only the registers whose names have all of these words (Ctrl+F).</source>
+        <translation>Zeigt nur die Kassen, deren Namen alle diese Wörter enthalten (Strg+F).</translation>
+    </message>
+    <message numerus="yes">
+        <source>Type to find, Enter picks. %n registers.</source>
+        <translation>
+            <numerusform>Tippen sucht, Eingabe wählt. %n Kasse.</numerusform>
+            <numerusform>Tippen sucht, Eingabe wählt. %n Kassen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No register has these words.</source>
+        <translation>Keine Kasse enthält diese Wörter.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n registers.</source>
+        <translation>
+            <numerusform>%1 von %n Kasse.</numerusform>
+            <numerusform>%1 von %n Kassen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Register</source>
+        <translation>Kasse</translation>
+    </message>
+    <message>
+        <source>This register has no options of its own.</source>
+        <translation>Diese Kasse hat keine eigenen Optionen.</translation>
+    </message>
+    <message>
+        <source>The options of this register are hidden: one of the stored options is not in its list. Pick the register again to load its default options.</source>
+        <translation>Die Optionen dieser Kasse sind ausgeblendet: Eine der gespeicherten Optionen kommt in ihrer Liste nicht vor. Wählen Sie die Kasse noch einmal, um die Standardwerte ihrer Optionen zu laden.</translation>
+    </message>
+    <message>
+        <source>No register is selected.</source>
+        <translation>Es ist keine Kasse gewählt.</translation>
+    </message>
+</context>
+<context>
+    <name>RegisterWindows</name>
+    <message>
+        <source>A pick is stored at once.</source>
+        <translation>Eine Auswahl wird sofort gespeichert.</translation>
+    </message>
+</context>
+<context>
+    <name>RemotePage</name>
+    <message>
+        <source>The history is in %1.</source>
+        <translation>Der Verlauf ist in %1.</translation>
+    </message>
+    <message>
+        <source>Puts the unit back to its factory settings at once.</source>
+        <translation>Setzt das Gerät sofort auf die Werkseinstellungen zurück.</translation>
+    </message>
+    <message>
+        <source>Progress of the transfer</source>
+        <translation>Fortschritt der Übertragung</translation>
+    </message>
+    <message>
+        <source>Clock of the unit</source>
+        <translation>Uhr des Geräts</translation>
+    </message>
+</context>
+<context>
+    <name>Setting</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>not shown (%1)</source>
+        <translation>nicht angezeigt (%1)</translation>
+    </message>
+    <message>
+        <source>No control</source>
+        <translation>Kein Bedienelement</translation>
+    </message>
+    <message>
+        <source>byte</source>
+        <translation>Byte</translation>
+    </message>
+    <message>
+        <source>byte %1</source>
+        <translation>Byte %1</translation>
+    </message>
+    <message>
+        <source>bytes %1</source>
+        <translation>Bytes %1</translation>
+    </message>
+    <message>
+        <source>Alarm %1, %2</source>
+        <translation>Alarm %1, %2</translation>
+    </message>
+    <message>
+        <source>Exception %1, %2</source>
+        <translation>Ausnahme %1, %2</translation>
+    </message>
+    <message>
+        <source>free</source>
+        <translation>frei</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>leer</translation>
+    </message>
+    <message>
+        <source>Also stored: %1.</source>
+        <translation>Außerdem gespeichert: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingWindow</name>
+    <message>
+        <source>Enter goes to the control. Ctrl+C copies the rows.</source>
+        <translation>Eingabe führt zum Bedienelement. Strg+C kopiert die Zeilen.</translation>
+    </message>
+    <message>
+        <source>Enter goes to the setting. Ctrl+C copies rows.</source>
+        <translation>Eingabe führt zur Einstellung. Strg+C kopiert Zeilen.</translation>
+    </message>
+</context>
+<context>
+    <name>StatusBar</name>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>No port chosen</source>
+        <translation>Kein Port gewählt</translation>
+    </message>
+    <message>
+        <source>Comport %1, %2</source>
+        <comment>number, device</comment>
+        <translation>Comport %1, %2</translation>
+    </message>
+    <message>
+        <source>Comport %1, %2: %3.</source>
+        <translation>Comport %1, %2: %3.</translation>
+    </message>
+    <message>
+        <source>The device belongs to the group %1.</source>
+        <translation>Die Schnittstelle gehört der Gruppe %1.</translation>
+    </message>
+</context>
+<context>
+    <name>TextActs</name>
+    <message>
+        <source>Line %1, column %2: %3</source>
+        <translation>Zeile %1, Spalte %2: %3</translation>
+    </message>
+    <message>
+        <source>Compare with File...</source>
+        <translation>Mit Datei vergleichen...</translation>
+    </message>
+    <message>
+        <source>Import Text...</source>
+        <translation>Text importieren...</translation>
+    </message>
+    <message>
+        <source>Export Text...</source>
+        <translation>Text exportieren...</translation>
+    </message>
+    <message>
+        <source>Text written: %1</source>
+        <translation>Text geschrieben: %1</translation>
+    </message>
+    <message>
+        <source>No text written: %1</source>
+        <translation>Kein Text geschrieben: %1</translation>
+    </message>
+    <message>
+        <source>%1 is not taken: nothing has changed.</source>
+        <translation>%1 wird nicht übernommen: Es hat sich nichts geändert.</translation>
+    </message>
+    <message>
+        <source>%1 has errors and cannot be compared.</source>
+        <translation>%1 enthält Fehler und lässt sich nicht vergleichen.</translation>
+    </message>
+    <message>
+        <source>%1 is a text of %2. This program serves %3, which does not have all of it.</source>
+        <translation>%1 ist ein Text für %2. Dieses Programm verwendet %3, das nicht alles davon hat.</translation>
+    </message>
+    <message>
+        <source>Import the Rest</source>
+        <translation>Rest importieren</translation>
+    </message>
+    <message>
+        <source>Compare the Rest</source>
+        <translation>Rest vergleichen</translation>
+    </message>
+    <message>
+        <source>Not imported: %1</source>
+        <translation>Nicht importiert: %1</translation>
+    </message>
+    <message>
+        <source>Not imported: the configuration has changed since</source>
+        <translation>Nicht importiert: Die Konfiguration hat sich inzwischen geändert</translation>
+    </message>
+    <message>
+        <source>Text imported: %1</source>
+        <translation>Text importiert: %1</translation>
+    </message>
+    <message>
+        <source>Not compared: %1 is not a configuration of %2</source>
+        <translation>Nicht verglichen: %1 ist keine Konfiguration von %2</translation>
+    </message>
+    <message>
+        <source>Not compared: %1</source>
+        <translation>Nicht verglichen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TextLine</name>
+    <message>
+        <source>You can type only characters of Windows-1252.</source>
+        <translation>Sie können nur Zeichen aus Windows-1252 eingeben.</translation>
+    </message>
+    <message>
+        <source>Only digits can be typed here.</source>
+        <translation>Hier können nur Ziffern eingegeben werden.</translation>
+    </message>
+    <message>
+        <source>No more than %1 digits fit here.</source>
+        <translation>Hier ist nur Platz für %1 Ziffern.</translation>
+    </message>
+    <message>
+        <source>No more than %1 characters fit here.</source>
+        <translation>Hier ist nur Platz für %1 Zeichen.</translation>
+    </message>
+    <message>
+        <source>Only characters of Windows-1252 can be kept.</source>
+        <translation>Nur Zeichen aus Windows-1252 können gespeichert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>TextRows</name>
+    <message>
+        <source>A click opens its window.</source>
+        <translation>Ein Klick öffnet das Fenster dazu.</translation>
+    </message>
+</context>
+<context>
+    <name>TextWindows</name>
+    <message>
+        <source>%1 of %2 characters. A ? matches any character.</source>
+        <translation>%1 von %2 Zeichen. Ein ? steht für ein beliebiges Zeichen.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 characters.</source>
+        <translation>%1 von %2 Zeichen.</translation>
+    </message>
+    <message>
+        <source>Up to %1 digits, and %2 behind the separator: 5 becomes 05.</source>
+        <translation>Bis zu %1 Ziffern und %2 hinter dem Trennzeichen: Aus 5 wird 05.</translation>
+    </message>
+    <message>
+        <source>The separator is the same for all exceptions. It is stored at once.</source>
+        <translation>Das Trennzeichen gilt für alle Ausnahmen. Es wird sofort gespeichert.</translation>
+    </message>
+</context>
+<context>
+    <name>Tip</name>
+    <message>
+        <source>The register whose print stream the unit listens to. A pick takes in that register&apos;s default settings.</source>
+        <translation>Die Kasse, deren Druckdaten das Gerät mithört. Eine Auswahl übernimmt die Standardeinstellungen dieser Kasse.</translation>
+    </message>
+    <message>
+        <source>The video recorder that the unit feeds with its history data.</source>
+        <translation>Der Videorekorder, dem das Gerät seine Verlaufsdaten liefert.</translation>
+    </message>
+    <message>
+        <source>The address under which the recorder listens to the unit&apos;s history data.</source>
+        <translation>Die Adresse, unter der der Rekorder die Verlaufsdaten des Geräts empfängt.</translation>
+    </message>
+    <message>
+        <source>The address under which the unit sends its history data to the recorder.</source>
+        <translation>Die Adresse, unter der das Gerät seine Verlaufsdaten an den Rekorder sendet.</translation>
+    </message>
+    <message>
+        <source>Reads the unit&apos;s whole configuration into this program. The unit leaves remote mode.</source>
+        <translation>Liest die ganze Konfiguration des Geräts in dieses Programm. Das Gerät verlässt den Fernsteuermodus.</translation>
+    </message>
+    <message>
+        <source>Writes the configuration shown here into the unit. The unit leaves remote mode.</source>
+        <translation>Schreibt die hier angezeigte Konfiguration in das Gerät. Das Gerät verlässt den Fernsteuermodus.</translation>
+    </message>
+    <message>
+        <source>Sets the unit&apos;s clock to the date and time shown. The unit leaves remote mode.</source>
+        <translation>Stellt die Uhr des Geräts auf das angezeigte Datum und die angezeigte Uhrzeit. Das Gerät verlässt den Fernsteuermodus.</translation>
+    </message>
+    <message>
+        <source>Reads the unit&apos;s history into a text file. The unit leaves remote mode.</source>
+        <translation>Liest den Verlauf des Geräts in eine Textdatei. Das Gerät verlässt den Fernsteuermodus.</translation>
+    </message>
+    <message>
+        <source>Asks the unit for remote mode, in which it obeys this program; pressed again, ends remote mode.</source>
+        <translation>Fragt beim Gerät den Fernsteuermodus an, in dem es diesem Programm gehorcht; ein zweiter Druck beendet den Fernsteuermodus.</translation>
+    </message>
+    <message>
+        <source>Puts the unit back to its factory settings at once, without a question.</source>
+        <translation>Setzt das Gerät sofort und ohne Rückfrage auf die Werkseinstellungen zurück.</translation>
+    </message>
+    <message>
+        <source>Chooses and opens the serial port to which the unit is wired.</source>
+        <translation>Wählt und öffnet die serielle Schnittstelle, an der das Gerät angeschlossen ist.</translation>
+    </message>
+    <message>
+        <source>Ends remote mode and closes the serial port.</source>
+        <translation>Beendet den Fernsteuermodus und schließt die serielle Schnittstelle.</translation>
+    </message>
+    <message>
+        <source>The date and time below follow this computer&apos;s clock.</source>
+        <translation>Datum und Uhrzeit darunter folgen der Uhr dieses Computers.</translation>
+    </message>
+    <message>
+        <source>The month that SET TIME gives to the unit&apos;s clock.</source>
+        <translation>Der Monat, den UHR STELLEN der Uhr des Geräts gibt.</translation>
+    </message>
+    <message>
+        <source>The day that SET TIME gives to the unit&apos;s clock.</source>
+        <translation>Der Tag, den UHR STELLEN der Uhr des Geräts gibt.</translation>
+    </message>
+    <message>
+        <source>The year that SET TIME gives to the unit&apos;s clock.</source>
+        <translation>Das Jahr, das UHR STELLEN der Uhr des Geräts gibt.</translation>
+    </message>
+    <message>
+        <source>The hour that SET TIME gives to the unit&apos;s clock.</source>
+        <translation>Die Stunde, die UHR STELLEN der Uhr des Geräts gibt.</translation>
+    </message>
+    <message>
+        <source>The minute that SET TIME gives to the unit&apos;s clock.</source>
+        <translation>Die Minute, die UHR STELLEN der Uhr des Geräts gibt.</translation>
+    </message>
+    <message>
+        <source>The second that SET TIME gives to the unit&apos;s clock.</source>
+        <translation>Die Sekunde, die UHR STELLEN der Uhr des Geräts gibt.</translation>
+    </message>
+    <message>
+        <source>The progress of the transfer.</source>
+        <translation>Der Fortschritt der Übertragung.</translation>
+    </message>
+    <message>
+        <source>The serial port to which the unit is wired.</source>
+        <translation>Die serielle Schnittstelle, an der das Gerät angeschlossen ist.</translation>
+    </message>
+    <message>
+        <source>The baud rate of the unit; both ends must agree.</source>
+        <translation>Die Baudrate des Geräts; beide Seiten müssen übereinstimmen.</translation>
+    </message>
+    <message>
+        <source>Data bits of a character; both ends must agree.</source>
+        <translation>Datenbits eines Zeichens; beide Seiten müssen übereinstimmen.</translation>
+    </message>
+    <message>
+        <source>Parity of a character; both ends must agree.</source>
+        <translation>Parität eines Zeichens; beide Seiten müssen übereinstimmen.</translation>
+    </message>
+    <message>
+        <source>Opens the port with these settings.</source>
+        <translation>Öffnet die Schnittstelle mit diesen Einstellungen.</translation>
+    </message>
+    <message>
+        <source>Asks the unit at one rate after the other until it answers.</source>
+        <translation>Fragt das Gerät mit einer Baudrate nach der anderen, bis es antwortet.</translation>
+    </message>
+    <message>
+        <source>Ends the scan and closes the port.</source>
+        <translation>Beendet die Suche und schließt die Schnittstelle.</translation>
+    </message>
+    <message>
+        <source>The kind of device that the unit replaces on the network.</source>
+        <translation>Die Art des Geräts, das das Gerät im Netzwerk ersetzt.</translation>
+    </message>
+    <message>
+        <source>The address of that device; ANY takes every address.</source>
+        <translation>Die Adresse dieses Netzwerkgeräts; ALLE nimmt jede Adresse.</translation>
+    </message>
+    <message>
+        <source>Whether the unit only listens (TAP) or answers as the device (EMULATE).</source>
+        <translation>Ob das Gerät nur mithört (TAP) oder anstelle des Netzwerkgeräts antwortet (EMULATE).</translation>
+    </message>
+    <message>
+        <source>The kind of device whose messages the unit takes; ANY takes all.</source>
+        <translation>Die Art des Netzwerkgeräts, dessen Meldungen das Gerät nimmt; ALLE nimmt alle.</translation>
+    </message>
+    <message>
+        <source>The group address from which a message must come; ANY takes all.</source>
+        <translation>Die Gruppenadresse, von der eine Meldung kommen muss; ALLE nimmt alle.</translation>
+    </message>
+    <message>
+        <source>The local address from which a message must come; ANY takes all.</source>
+        <translation>Die lokale Adresse, von der eine Meldung kommen muss; ALLE nimmt alle.</translation>
+    </message>
+    <message>
+        <source>The IDN number from which a message must come; ANY takes all.</source>
+        <translation>Die IDN-Nummer, von der eine Meldung kommen muss; ALLE nimmt alle.</translation>
+    </message>
+    <message>
+        <source>The kind of device to which a message must go; ANY takes all.</source>
+        <translation>Die Art des Netzwerkgeräts, an das eine Meldung gehen muss; ALLE nimmt alle.</translation>
+    </message>
+    <message>
+        <source>The group address to which a message must go; ANY takes all.</source>
+        <translation>Die Gruppenadresse, an die eine Meldung gehen muss; ALLE nimmt alle.</translation>
+    </message>
+    <message>
+        <source>The local address to which a message must go; ANY takes all.</source>
+        <translation>Die lokale Adresse, an die eine Meldung gehen muss; ALLE nimmt alle.</translation>
+    </message>
+    <message>
+        <source>The IDN number to which a message must go; ANY takes all.</source>
+        <translation>Die IDN-Nummer, an die eine Meldung gehen muss; ALLE nimmt alle.</translation>
+    </message>
+    <message>
+        <source>Whether the unit acknowledges what the register sends.</source>
+        <translation>Ob das Gerät bestätigt, was die Kasse sendet.</translation>
+    </message>
+    <message>
+        <source>The number of the register that the unit follows; seven digits are stored.</source>
+        <translation>Die Nummer der Kasse, der das Gerät folgt; gespeichert werden sieben Ziffern.</translation>
+    </message>
+    <message>
+        <source>Stores what this window shows; closing it otherwise stores nothing.</source>
+        <translation>Speichert, was dieses Fenster zeigt; wird es anders geschlossen, wird nichts gespeichert.</translation>
+    </message>
+    <message>
+        <source>The port of the register to which the unit is wired.</source>
+        <translation>Der Anschluss der Kasse, mit dem das Gerät verbunden ist.</translation>
+    </message>
+    <message>
+        <source>The model, which is fixed.</source>
+        <translation>Das Modell; es steht fest.</translation>
+    </message>
+    <message>
+        <source>Whether the unit listens to the printer line (TAPPING) or answers as the printer (EMULATING).</source>
+        <translation>Ob das Gerät die Druckerleitung mithört (TAPPING) oder als Drucker antwortet (EMULATING).</translation>
+    </message>
+    <message>
+        <source>How the unit takes the text of this model; the choice is stored at once.</source>
+        <translation>Wie das Gerät den Text dieses Modells aufnimmt; die Wahl wird sofort gespeichert.</translation>
+    </message>
+    <message>
+        <source>The terminal whose text the unit takes; ANY takes them all.</source>
+        <translation>Das Terminal, dessen Text das Gerät nimmt; ALLE nimmt alle.</translation>
+    </message>
+    <message>
+        <source>Which of the 24 exceptions is shown here; the overview picks it as well.</source>
+        <translation>Welche der 24 Ausnahmen hier angezeigt wird; auch die Übersicht wählt sie.</translation>
+    </message>
+    <message>
+        <source>Whether the unit shows a line in the picture when this exception matches.</source>
+        <translation>Ob das Gerät eine Zeile im Bild zeigt, wenn diese Ausnahme zutrifft.</translation>
+    </message>
+    <message>
+        <source>Whether the unit passes a line on when this exception matches.</source>
+        <translation>Ob das Gerät eine Zeile weitergibt, wenn diese Ausnahme zutrifft.</translation>
+    </message>
+    <message>
+        <source>Whether the unit keeps a line in its history buffer when this exception matches.</source>
+        <translation>Ob das Gerät eine Zeile in seinem Verlaufsspeicher behält, wenn diese Ausnahme zutrifft.</translation>
+    </message>
+    <message>
+        <source>Whether this exception starts a scroll match; it then has no display, output or history of its own.</source>
+        <translation>Ob diese Ausnahme eine Mehrzeilensuche beginnt; sie hat dann keine eigene Anzeige, Ausgabe und keinen eigenen Verlauf.</translation>
+    </message>
+    <message>
+        <source>How the unit compares the amount on the line with the two values of the range.</source>
+        <translation>Wie das Gerät den Betrag in der Zeile mit den beiden Werten des Bereichs vergleicht.</translation>
+    </message>
+    <message>
+        <source>The text that the unit looks for in what the register prints; ? matches any character.</source>
+        <translation>Der Text, den das Gerät in den Druckdaten der Kasse sucht; ? steht für ein beliebiges Zeichen.</translation>
+    </message>
+    <message>
+        <source>Opens a window in which the text to look for is typed.</source>
+        <translation>Öffnet ein Fenster, in dem der gesuchte Text eingegeben wird.</translation>
+    </message>
+    <message>
+        <source>The first value with which the unit compares the amount on the line.</source>
+        <translation>Der erste Wert, mit dem das Gerät den Betrag in der Zeile vergleicht.</translation>
+    </message>
+    <message>
+        <source>The second value with which the unit compares the amount on the line.</source>
+        <translation>Der zweite Wert, mit dem das Gerät den Betrag in der Zeile vergleicht.</translation>
+    </message>
+    <message>
+        <source>Opens a window in which the two values are typed.</source>
+        <translation>Öffnet ein Fenster, in dem die beiden Werte eingegeben werden.</translation>
+    </message>
+    <message>
+        <source>Whether the unit matches texts that run over several lines.</source>
+        <translation>Ob das Gerät Texte sucht, die über mehrere Zeilen gehen.</translation>
+    </message>
+    <message>
+        <source>How long the unit waits for the rest of a match that runs over several lines.</source>
+        <translation>Wie lange das Gerät auf den Rest eines Treffers wartet, der über mehrere Zeilen geht.</translation>
+    </message>
+    <message>
+        <source>Which of the 16 alarms is shown here; the overview picks it as well.</source>
+        <translation>Welcher der 16 Alarme hier angezeigt wird; auch die Übersicht wählt ihn.</translation>
+    </message>
+    <message>
+        <source>What triggers the alarm: nothing, one exception, a group of exceptions, or the RTS line.</source>
+        <translation>Was den Alarm auslöst: nichts, eine Ausnahme, eine Gruppe von Ausnahmen oder die RTS-Leitung.</translation>
+    </message>
+    <message>
+        <source>The number beside it is that of the exception that triggers the alarm.</source>
+        <translation>Die Nummer daneben ist die der Ausnahme, die den Alarm auslöst.</translation>
+    </message>
+    <message>
+        <source>The state of the contact without an alarm: NO open, NC closed. Alarm 9 keeps the state it has.</source>
+        <translation>Der Zustand des Kontakts ohne Alarm: NO offen, NC geschlossen. Alarm 9 behält seinen Zustand.</translation>
+    </message>
+    <message>
+        <source>For how long the unit holds the alarm; PLUSE gives a pulse.</source>
+        <translation>Wie lange das Gerät den Alarm hält; IMPULS gibt einen Impuls.</translation>
+    </message>
+    <message>
+        <source>How the unit marks the picture while an alarm is on; the same for all alarms.</source>
+        <translation>Wie das Gerät das Bild während eines Alarms kennzeichnet; für alle Alarme gleich.</translation>
+    </message>
+    <message>
+        <source>For how long the unit marks the picture, from 000 to 240 in steps of 2; the same for all alarms.</source>
+        <translation>Wie lange das Gerät das Bild kennzeichnet, von 000 bis 240 in Schritten von 2; für alle Alarme gleich.</translation>
+    </message>
+    <message>
+        <source>What this alarm does when the video signal is lost: OFF nothing, MANUAL until somebody ends it, or for the time that is picked.</source>
+        <translation>Was dieser Alarm tut, wenn das Videosignal ausfällt: AUS nichts, MANUELL bis ihn jemand beendet, oder für die gewählte Zeit.</translation>
+    </message>
+    <message>
+        <source>Which of the unit&apos;s two types this alarm has, DWELL or TIMED.</source>
+        <translation>Welche der beiden Arten des Geräts dieser Alarm hat, VERWEILEN oder ZEIT.</translation>
+    </message>
+    <message>
+        <source>The text that the unit shows or sends during this alarm.</source>
+        <translation>Der Text, den das Gerät während dieses Alarms zeigt oder sendet.</translation>
+    </message>
+    <message>
+        <source>Opens a window in which this alarm&apos;s text is typed.</source>
+        <translation>Öffnet ein Fenster, in dem der Text dieses Alarms eingegeben wird.</translation>
+    </message>
+    <message>
+        <source>Whether the unit shows the text in the picture during this alarm.</source>
+        <translation>Ob das Gerät den Text während dieses Alarms im Bild zeigt.</translation>
+    </message>
+    <message>
+        <source>Whether the unit sends the text on its line during this alarm.</source>
+        <translation>Ob das Gerät den Text während dieses Alarms auf seiner Leitung sendet.</translation>
+    </message>
+    <message>
+        <source>How long after the RTS signal the unit shows or sends the text of this alarm.</source>
+        <translation>Wie lange nach dem RTS-Signal das Gerät den Text dieses Alarms zeigt oder sendet.</translation>
+    </message>
+    <message>
+        <source>The fixed text that the unit writes in the picture, such as the shop&apos;s name.</source>
+        <translation>Der feste Text, den das Gerät ins Bild schreibt, etwa der Name des Geschäfts.</translation>
+    </message>
+    <message>
+        <source>Opens a window in which the title of the picture is typed.</source>
+        <translation>Öffnet ein Fenster, in dem der Titel des Bildes eingegeben wird.</translation>
+    </message>
+    <message>
+        <source>After power up the unit plays a built-in register, so that the picture can be tried without one.</source>
+        <translation>Nach dem Einschalten spielt das Gerät eine eingebaute Kasse ab, damit sich das Bild ohne Kasse testen lässt.</translation>
+    </message>
+    <message>
+        <source>How many characters a line of the demo has.</source>
+        <translation>Wie viele Zeichen eine Zeile der Vorführung hat.</translation>
+    </message>
+    <message>
+        <source>The kind of shop whose receipts the demo plays.</source>
+        <translation>Die Art des Geschäfts, dessen Belege die Vorführung abspielt.</translation>
+    </message>
+    <message>
+        <source>How much time the demo takes for a line.</source>
+        <translation>Wie viel Zeit die Vorführung für eine Zeile braucht.</translation>
+    </message>
+    <message>
+        <source>The text that the unit keeps, 40 characters at most.</source>
+        <translation>Der Text, den das Gerät behält, höchstens 40 Zeichen.</translation>
+    </message>
+    <message>
+        <source>Stores the text and closes this window.</source>
+        <translation>Speichert den Text und schließt dieses Fenster.</translation>
+    </message>
+    <message>
+        <source>Empties the text; only SET stores it.</source>
+        <translation>Leert den Text; erst SETZEN speichert ihn.</translation>
+    </message>
+    <message>
+        <source>The two digits of the first value behind the separator.</source>
+        <translation>Die beiden Ziffern des ersten Werts hinter dem Trennzeichen.</translation>
+    </message>
+    <message>
+        <source>The two digits of the second value behind the separator.</source>
+        <translation>Die beiden Ziffern des zweiten Werts hinter dem Trennzeichen.</translation>
+    </message>
+    <message>
+        <source>The separator that the register prints between whole and decimal digits; it is for all exceptions and is stored at once.</source>
+        <translation>Das Trennzeichen, das die Kasse vor den Nachkommastellen druckt; es gilt für alle Ausnahmen und wird sofort gespeichert.</translation>
+    </message>
+    <message>
+        <source>Stores the two values and closes this window.</source>
+        <translation>Speichert die beiden Werte und schließt dieses Fenster.</translation>
+    </message>
+    <message>
+        <source>Sets both values to zero, which only SET stores, and the separator to &quot;.&quot; at once.</source>
+        <translation>Setzt beide Werte auf null, was erst SETZEN speichert, und das Trennzeichen sofort auf „.“.</translation>
+    </message>
+    <message>
+        <source>The text of the file; it can be marked and copied.</source>
+        <translation>Der Text der Datei; er lässt sich markieren und kopieren.</translation>
+    </message>
+    <message>
+        <source>How the unit is wired to the register: on an RS-232 line of its own, as a passive tap, or on a bus.</source>
+        <translation>Wie das Gerät mit der Kasse verbunden ist: mit einer eigenen RS-232-Leitung, als passiver Abgriff oder an einem Bus.</translation>
+    </message>
+    <message>
+        <source>The speed at which the unit listens to the register; AUTO finds it by itself.</source>
+        <translation>Die Baudrate, mit der das Gerät die Kasse mithört; AUTO findet sie selbst.</translation>
+    </message>
+    <message>
+        <source>The speed at which the unit sends.</source>
+        <translation>Die Baudrate, mit der das Gerät sendet.</translation>
+    </message>
+    <message>
+        <source>The parity of a character on the register line.</source>
+        <translation>Die Parität eines Zeichens auf der Kassenleitung.</translation>
+    </message>
+    <message>
+        <source>The data bits of a character on the register line.</source>
+        <translation>Die Datenbits eines Zeichens auf der Kassenleitung.</translation>
+    </message>
+    <message>
+        <source>Whether the unit uses the handshake signals of the register line.</source>
+        <translation>Ob das Gerät die Handshake-Signale der Kassenleitung benutzt.</translation>
+    </message>
+    <message>
+        <source>Whether the unit begins a new line of text at every carriage return; what is stored follows the handshaking.</source>
+        <translation>Ob das Gerät bei jedem Wagenrücklauf eine neue Textzeile beginnt; gespeichert wird, was zum Handshake passt.</translation>
+    </message>
+    <message>
+        <source>The form in which the unit sends its text on to the recorder; a choice for a MASTER only.</source>
+        <translation>Die Form, in der das Gerät seinen Text an den Rekorder weitergibt; wählbar nur bei MASTER.</translation>
+    </message>
+    <message>
+        <source>Whether characters on the register line control the flow.</source>
+        <translation>Ob Zeichen auf der Kassenleitung den Datenfluss steuern.</translation>
+    </message>
+    <message>
+        <source>The role of the unit in the network: none, master, slave, or generic.</source>
+        <translation>Die Rolle des Geräts im Netzwerk: keine, Master, Slave oder allgemein.</translation>
+    </message>
+    <message>
+        <source>The network address of this unit.</source>
+        <translation>Die Netzwerkadresse dieses Geräts.</translation>
+    </message>
+    <message>
+        <source>The protocol of the network; it also sets the baud rate of the network.</source>
+        <translation>Das Protokoll des Netzwerks; es legt auch die Baudrate des Netzwerks fest.</translation>
+    </message>
+    <message>
+        <source>The baud rate of the network.</source>
+        <translation>Die Baudrate des Netzwerks.</translation>
+    </message>
+    <message>
+        <source>Only a master has a choice of transmit protocol.</source>
+        <translation>Nur ein Master hat die Wahl des Sendeprotokolls.</translation>
+    </message>
+    <message>
+        <source>This role in the network has no address.</source>
+        <translation>Diese Rolle im Netzwerk hat keine Adresse.</translation>
+    </message>
+    <message>
+        <source>Without a network there is no protocol to pick.</source>
+        <translation>Ohne Netzwerk gibt es kein Protokoll zu wählen.</translation>
+    </message>
+    <message>
+        <source>Minutes without text after which the unit clears the picture; every pick but 10 also sets DISPLAY FORMAT, LINE COMPRESS and SCROLL DELAY back.</source>
+        <translation>Minuten ohne Text, nach denen das Gerät das Bild leert; jede Auswahl außer 10 setzt auch TEXTPOSITION, LEERZEILEN KÜRZEN und ROLLVERZÖGERUNG zurück.</translation>
+    </message>
+    <message>
+        <source>How many lines of text the unit shows; title and clock need a line each.</source>
+        <translation>Wie viele Textzeilen das Gerät zeigt; Titel und Uhr brauchen je eine Zeile.</translation>
+    </message>
+    <message>
+        <source>Whether the text is at the top or at the bottom of the picture.</source>
+        <translation>Ob der Text oben oder unten im Bild ist.</translation>
+    </message>
+    <message>
+        <source>Whether the unit leaves out empty lines.</source>
+        <translation>Ob das Gerät leere Zeilen weglässt.</translation>
+    </message>
+    <message>
+        <source>Whether the unit moves each line to the edge of the picture.</source>
+        <translation>Ob das Gerät jede Zeile an den Rand des Bildes rückt.</translation>
+    </message>
+    <message>
+        <source>Whether the unit holds lines back so that they can be read as they scroll.</source>
+        <translation>Ob das Gerät Zeilen zurückhält, damit sie sich beim Rollen lesen lassen.</translation>
+    </message>
+    <message>
+        <source>Whether the unit shows the register&apos;s text at all.</source>
+        <translation>Ob das Gerät den Text der Kasse überhaupt zeigt.</translation>
+    </message>
+    <message>
+        <source>How many blanks in a row the unit keeps; OFF keeps all.</source>
+        <translation>Wie viele Leerzeichen hintereinander das Gerät behält; AUS behält alle.</translation>
+    </message>
+    <message>
+        <source>How many characters a line of the picture holds.</source>
+        <translation>Wie viele Zeichen eine Zeile im Bild hat.</translation>
+    </message>
+    <message>
+        <source>Whether the unit shows its clock in the picture; it takes a line of the text.</source>
+        <translation>Ob das Gerät seine Uhr im Bild zeigt; sie braucht eine Zeile des Texts.</translation>
+    </message>
+    <message>
+        <source>How the unit shows the hour.</source>
+        <translation>Wie das Gerät die Stunde zeigt.</translation>
+    </message>
+    <message>
+        <source>The order of day, month and year.</source>
+        <translation>Die Reihenfolge von Tag, Monat und Jahr.</translation>
+    </message>
+    <message>
+        <source>The rule by which the unit changes to summer time and back.</source>
+        <translation>Die Regel, nach der das Gerät auf Sommerzeit und zurück umstellt.</translation>
+    </message>
+    <message>
+        <source>Whether the unit&apos;s clock is locked.</source>
+        <translation>Ob die Uhr des Geräts gesperrt ist.</translation>
+    </message>
+    <message>
+        <source>Whether the unit shows the title in the picture; it takes a line of the text.</source>
+        <translation>Ob das Gerät den Titel im Bild zeigt; er braucht eine Zeile des Texts.</translation>
+    </message>
+    <message>
+        <source>The language of the unit&apos;s own texts.</source>
+        <translation>Die Sprache der eigenen Texte des Geräts.</translation>
+    </message>
+    <message>
+        <source>Whether the unit reports exceptions on its line.</source>
+        <translation>Ob das Gerät Ausnahmen auf seiner Leitung meldet.</translation>
+    </message>
+    <message>
+        <source>Whether the unit puts the time in front of a report.</source>
+        <translation>Ob das Gerät einer Meldung die Uhrzeit voranstellt.</translation>
+    </message>
+    <message>
+        <source>Whether the unit reports a line again that is the same as the last.</source>
+        <translation>Ob das Gerät eine Zeile erneut meldet, die der letzten gleicht.</translation>
+    </message>
+    <message>
+        <source>A digit of the ID of the register to which the unit listens.</source>
+        <translation>Eine Ziffer der ID der Kasse, die das Gerät mithört.</translation>
+    </message>
+    <message>
+        <source>A digit of the register&apos;s address to which the unit listens; also sets the whole register line.</source>
+        <translation>Eine Ziffer der Adresse der Kasse, die das Gerät mithört; legt auch die ganze Kassenleitung fest.</translation>
+    </message>
+    <message>
+        <source>One of the four numbers of the IP address from which the unit takes its text.</source>
+        <translation>Eine der vier Zahlen der IP-Adresse, von der das Gerät seinen Text nimmt.</translation>
+    </message>
+    <message>
+        <source>One of the four numbers of the IP address; this firmware shows it but keeps no change.</source>
+        <translation>Eine der vier Zahlen der IP-Adresse; diese Firmware zeigt sie, behält aber keine Änderung.</translation>
+    </message>
+    <message>
+        <source>Opens the further settings of the chosen model, if it has any.</source>
+        <translation>Öffnet die weiteren Einstellungen des gewählten Modells, falls es welche hat.</translation>
+    </message>
+    <message>
+        <source>Opens the settings of the chosen network.</source>
+        <translation>Öffnet die Einstellungen des gewählten Netzwerks.</translation>
+    </message>
+    <message>
+        <source>The address of the counter that the unit reads.</source>
+        <translation>Die Adresse des Zählers, den das Gerät liest.</translation>
+    </message>
+    <message>
+        <source>The address of the device whose text the unit takes; ANY takes them all.</source>
+        <translation>Die Adresse der Quelle, deren Text das Gerät nimmt; ALLE nimmt alle.</translation>
+    </message>
+    <message>
+        <source>The address of the register that the unit follows, ANY for all; also sets the register line&apos;s speed.</source>
+        <translation>Die Adresse der Kasse, der das Gerät folgt, ALLE für alle; legt auch die Baudrate der Kassenleitung fest.</translation>
+    </message>
+    <message>
+        <source>The address of the register that the unit follows; ALL follows every register.</source>
+        <translation>Die Adresse der Kasse, der das Gerät folgt; ALLE folgt jeder Kasse.</translation>
+    </message>
+    <message>
+        <source>The address under which the register calls the unit; ANY takes the text of every address.</source>
+        <translation>Die Adresse, unter der die Kasse das Gerät anspricht; ALLE nimmt den Text jeder Adresse.</translation>
+    </message>
+    <message>
+        <source>The console whose text the unit takes; ANY takes them all.</source>
+        <translation>Die Konsole, deren Text das Gerät nimmt; ALLE nimmt alle.</translation>
+    </message>
+    <message>
+        <source>The device of the register whose text the unit takes.</source>
+        <translation>Das Gerät der Kasse, dessen Text das Gerät nimmt.</translation>
+    </message>
+    <message>
+        <source>The device on the line to which the unit is wired.</source>
+        <translation>Die Quelle an der Leitung, mit der das Gerät verbunden ist.</translation>
+    </message>
+    <message>
+        <source>The device whose text the unit takes.</source>
+        <translation>Die Quelle, deren Text das Gerät nimmt.</translation>
+    </message>
+    <message>
+        <source>The kind of device to whose line the unit listens.</source>
+        <translation>Die Art der Quelle, deren Leitung das Gerät mithört.</translation>
+    </message>
+    <message>
+        <source>The make of the pole display whose line the unit reads.</source>
+        <translation>Das Fabrikat der Kundenanzeige, deren Leitung das Gerät liest.</translation>
+    </message>
+    <message>
+        <source>The network on which the unit listens to the register; each but the first has settings of its own.</source>
+        <translation>Das Netzwerk, in dem das Gerät die Kasse mithört; jedes außer dem ersten hat eigene Einstellungen.</translation>
+    </message>
+    <message>
+        <source>The output format of the weighbridge that the unit reads.</source>
+        <translation>Das Ausgabeformat der Fahrzeugwaage, die das Gerät liest.</translation>
+    </message>
+    <message>
+        <source>The printer in whose place the unit answers; also sets the register line.</source>
+        <translation>Der Drucker, anstelle dessen das Gerät antwortet; legt auch die Kassenleitung fest.</translation>
+    </message>
+    <message>
+        <source>The printer of the 7059 whose text the unit takes.</source>
+        <translation>Der Drucker der 7059, dessen Text das Gerät nimmt.</translation>
+    </message>
+    <message>
+        <source>The printer of the point of sale that the unit taps; also sets the register line.</source>
+        <translation>Der Drucker der Verkaufsstelle, den das Gerät mithört; legt auch die Kassenleitung fest.</translation>
+    </message>
+    <message>
+        <source>The printer or terminal whose text the unit takes; the choice also sets the register line&apos;s speed.</source>
+        <translation>Der Drucker oder das Terminal, dessen Text das Gerät nimmt; die Wahl legt auch die Baudrate der Kassenleitung fest.</translation>
+    </message>
+    <message>
+        <source>The printer whose text the unit takes.</source>
+        <translation>Der Drucker, dessen Text das Gerät nimmt.</translation>
+    </message>
+    <message>
+        <source>The printer whose text the unit takes: by listening (TAPPING) or in the printer&apos;s place (EMULATING).</source>
+        <translation>Der Drucker, dessen Text das Gerät nimmt: durch Mithören (TAPPING) oder anstelle des Druckers (EMULATING).</translation>
+    </message>
+    <message>
+        <source>The printer, and the line to which the unit is wired.</source>
+        <translation>Der Drucker und die Leitung, mit der das Gerät verbunden ist.</translation>
+    </message>
+    <message>
+        <source>The register or printer whose print stream the unit reads; TAP listens, EMULATE answers as the printer.</source>
+        <translation>Die Kasse oder der Drucker, deren Druckdaten das Gerät liest; TAP hört mit, EMULATE antwortet als Drucker.</translation>
+    </message>
+    <message>
+        <source>The register or printer whose text the unit reads; a few have a further choice below.</source>
+        <translation>Die Kasse oder der Drucker, deren Text das Gerät liest; einige haben darunter eine weitere Wahl.</translation>
+    </message>
+    <message>
+        <source>The register system whose messages the unit reads.</source>
+        <translation>Das Kassensystem, dessen Meldungen das Gerät liest.</translation>
+    </message>
+    <message>
+        <source>The register&apos;s model or device, whose text the unit then reads.</source>
+        <translation>Das Modell oder die Quelle der Kasse, deren Text das Gerät dann liest.</translation>
+    </message>
+    <message>
+        <source>The register&apos;s model, whose print stream the unit then reads.</source>
+        <translation>Das Modell der Kasse, deren Druckdaten das Gerät dann liest.</translation>
+    </message>
+    <message>
+        <source>The register&apos;s model, whose print stream the unit then reads; a few are told apart by an ID.</source>
+        <translation>Das Modell der Kasse, deren Druckdaten das Gerät dann liest; einige werden durch eine ID unterschieden.</translation>
+    </message>
+    <message>
+        <source>The register&apos;s model, whose print stream the unit then reads; a few open settings of their own.</source>
+        <translation>Das Modell der Kasse, deren Druckdaten das Gerät dann liest; einige öffnen eigene Einstellungen.</translation>
+    </message>
+    <message>
+        <source>The register&apos;s model, whose print stream the unit then reads; the slip printer opens settings of its own.</source>
+        <translation>Das Modell der Kasse, deren Druckdaten das Gerät dann liest; der Belegdrucker öffnet eigene Einstellungen.</translation>
+    </message>
+    <message>
+        <source>The scale in which the unit shows the temperature.</source>
+        <translation>Die Einheit, in der das Gerät die Temperatur zeigt.</translation>
+    </message>
+    <message>
+        <source>The scale whose output the unit reads.</source>
+        <translation>Die Waage, deren Ausgabe das Gerät liest.</translation>
+    </message>
+    <message>
+        <source>The sensor whose readings the unit shows.</source>
+        <translation>Der Sensor, dessen Messwerte das Gerät zeigt.</translation>
+    </message>
+    <message>
+        <source>The software that the register runs, which decides the form of its messages.</source>
+        <translation>Die Software der Kasse; sie bestimmt die Form ihrer Meldungen.</translation>
+    </message>
+    <message>
+        <source>The terminal whose text the unit takes; also sets the register line.</source>
+        <translation>Das Terminal, dessen Text das Gerät nimmt; legt auch die Kassenleitung fest.</translation>
+    </message>
+    <message>
+        <source>The unit takes the security messages of the register; also sets the register line.</source>
+        <translation>Das Gerät nimmt die Sicherheitsmeldungen der Kasse; legt auch die Kassenleitung fest.</translation>
+    </message>
+    <message>
+        <source>Whether the unit listens (TAP) or answers as the printer (EMULATE); also sets the register line&apos;s speed.</source>
+        <translation>Ob das Gerät mithört (TAP) oder als Drucker antwortet (EMULATE); legt auch die Baudrate der Kassenleitung fest.</translation>
+    </message>
+    <message>
+        <source>Whether the unit listens to the printer line (TAP) or answers as the printer (EMULATE).</source>
+        <translation>Ob das Gerät die Druckerleitung mithört (TAP) oder als Drucker antwortet (EMULATE).</translation>
+    </message>
+    <message>
+        <source>Whether the unit listens to the printer line (TAP) or answers as the printer (EMULATE); US for registers of the United States.</source>
+        <translation>Ob das Gerät die Druckerleitung mithört (TAP) oder als Drucker antwortet (EMULATE); US für Kassen der Vereinigten Staaten.</translation>
+    </message>
+    <message>
+        <source>Whether the unit listens to the printer line or answers as the printer; also sets the register line&apos;s speed.</source>
+        <translation>Ob das Gerät die Druckerleitung mithört oder als Drucker antwortet; legt auch die Baudrate der Kassenleitung fest.</translation>
+    </message>
+    <message>
+        <source>Whether the unit only listens (TAP) or acknowledges what the register sends (ACK); also sets the register line.</source>
+        <translation>Ob das Gerät nur mithört (TAP) oder bestätigt, was die Kasse sendet (ACK); legt auch die Kassenleitung fest.</translation>
+    </message>
+    <message>
+        <source>Whether the unit shows the title above the register&apos;s text.</source>
+        <translation>Ob das Gerät den Titel über dem Text der Kasse zeigt.</translation>
+    </message>
+    <message>
+        <source>Whether the unit shows the title above the register&apos;s text; also sets TITLER.</source>
+        <translation>Ob das Gerät den Titel über dem Text der Kasse zeigt; legt auch TITEL ZEIGEN fest.</translation>
+    </message>
+    <message>
+        <source>Whether the unit takes the descriptions out of the register&apos;s XML messages.</source>
+        <translation>Ob das Gerät die Beschreibungen aus den XML-Meldungen der Kasse nimmt.</translation>
+    </message>
+    <message>
+        <source>Whether the unit uses the register ID below.</source>
+        <translation>Ob das Gerät die Kassen-ID darunter benutzt.</translation>
+    </message>
+    <message>
+        <source>Whether the unit writes this kind of information over the picture.</source>
+        <translation>Ob das Gerät diese Art von Information über das Bild schreibt.</translation>
+    </message>
+    <message>
+        <source>Which of the register&apos;s texts the unit shows.</source>
+        <translation>Welchen der Texte der Kasse das Gerät zeigt.</translation>
+    </message>
+    <message>
+        <source>Which of the register&apos;s texts the unit shows: that of the receipt or that of the journal.</source>
+        <translation>Welchen Text der Kasse das Gerät zeigt: den des Belegs oder den des Journals.</translation>
+    </message>
+    <message>
+        <source>Which printer of the 9500 the unit follows; the choice also sets speed, parity and data bits of the register line.</source>
+        <translation>Welchem Drucker der 9500 das Gerät folgt; die Wahl legt auch Baudrate, Parität und Datenbits der Kassenleitung fest.</translation>
+    </message>
+    <message>
+        <source>Which printer&apos;s text the unit takes from the register.</source>
+        <translation>Welchen Druckertext das Gerät von der Kasse nimmt.</translation>
+    </message>
+    <message>
+        <source>Which printer&apos;s text the unit takes from the terminal; MIXED takes both.</source>
+        <translation>Welchen Druckertext das Gerät vom Terminal nimmt; GEMISCHT nimmt beide.</translation>
+    </message>
+    <message>
+        <source>Whose display the unit follows; the choice also sets speed, parity and data bits of the register line.</source>
+        <translation>Wessen Anzeige das Gerät folgt; die Wahl legt auch Baudrate, Parität und Datenbits der Kassenleitung fest.</translation>
+    </message>
+</context>
+<context>
+    <name>TransferProgress</name>
+    <message>
+        <source>less than 1 s left</source>
+        <translation>noch weniger als 1 s</translation>
+    </message>
+    <message>
+        <source>%1 s left</source>
+        <translation>noch %1 s</translation>
+    </message>
+    <message>
+        <source>%1 min %2 s left</source>
+        <translation>noch %1 min %2 s</translation>
+    </message>
+    <message>
+        <source>waiting for the unit</source>
+        <translation>wartet auf das Gerät</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <comment>the language in which numbers are written</comment>
+        <translation>de</translation>
+    </message>
+    <message>
+        <source>stopped after %1 characters</source>
+        <translation>nach %1 Zeichen abgebrochen</translation>
+    </message>
+    <message>
+        <source>%1 characters, %2</source>
+        <translation>%1 Zeichen, %2</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedCopy</name>
+    <message>
+        <source>its lock cannot be made</source>
+        <translation>die Sperre lässt sich nicht anlegen</translation>
+    </message>
+</context>
+<context>
+    <name>ViewMenu</name>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>As the system</source>
+        <translation>Wie das System</translation>
+    </message>
+    <message>
+        <source>The program could not save the choice. %1</source>
+        <translation>Das Programm konnte die Auswahl nicht speichern. %1</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>The language changes at the next start.</source>
+        <translation>Die Sprache ändert sich beim nächsten Start.</translation>
+    </message>
+    <message>
+        <source>Vie&amp;w</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+</context>
+</TS>
