@@ -251,7 +251,8 @@ QWidget* Bindings::MakeLabel(controls::Label& label) {
 }
 
 QWidget* Bindings::MakeButton(controls::Button& button) {
-  auto* push = new QPushButton;
+  // With its caption, so that a layout measures it.
+  auto* push = new QPushButton(CaptionText(button.caption).trimmed());
   push->setAutoDefault(true);
   QObject::connect(push, &QPushButton::clicked, push, [this, &button] { act_(core::ClickEvent{&button}); });
   BindState(*push, button);

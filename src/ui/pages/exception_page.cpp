@@ -102,7 +102,7 @@ void AddRange(Bindings& bindings, PageColumn& column) {
   column.Row("RANGE", {"TextRANGE(0)", "TextRANGE(1)", "cmdSetRange"});
   auto& form = bindings.Model().frmMain;
   auto* button = bindings.WidgetOf(form.cmdSetRange);
-  button->setMinimumWidth(kSetButtonWidth);
+  WidenSetButton(*button);
   const int height = button->sizeHint().height();
   for (const auto& value : form.TextRANGE) {
     auto* box = static_cast<QLabel*>(bindings.WidgetOf(value));

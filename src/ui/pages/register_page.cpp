@@ -89,6 +89,7 @@ QWidget* RegisterList(Bindings& bindings) {
   auto* filter = new FilterLine(*list);
   auto* count = MutedLabel({});
   count->setObjectName(QStringLiteral("RegisterCount"));
+  count->setWordWrap(true);
   down->addWidget(title);
   down->addWidget(filter);
   down->addWidget(list, 1);

@@ -51,6 +51,11 @@ void OpenWithButton(Bindings& bindings, QWidget& shown, controls::Button& button
   shown.setAccessibleDescription(shown.toolTip());
 }
 
+// A least width replaces the one that the caption needs.
+void WidenSetButton(QWidget& button) {
+  button.setMinimumWidth(std::max<int>(kSetButtonWidth, button.sizeHint().width()));
+}
+
 void AddTextRow(Bindings& bindings, PageColumn& column, const char* name, const char* button,
                 ButtonPlace place) {
   if (place == ButtonPlace::kBeside) {
@@ -62,7 +67,7 @@ void AddTextRow(Bindings& bindings, PageColumn& column, const char* name, const 
   const auto widget = [&](const char* control) {
     return bindings.WidgetOf(controls::StateOf(bindings.Named(form, control).control));
   };
-  widget(button)->setMinimumWidth(kSetButtonWidth);
+  WidenSetButton(*widget(button));
   auto* line = static_cast<QLineEdit*>(widget(name));
   line->setFixedWidth(kStoredTextWidth);
   QObject::connect(line, &QLineEdit::textChanged, line, [line] { line->home(false); });

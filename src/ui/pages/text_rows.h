@@ -9,6 +9,9 @@ namespace ovl::ui {
 inline constexpr Em kStoredTextWidth(18.33);
 inline constexpr Em kSetButtonWidth(12.5);
 
+// Gives a button beside a text the width of the others, or that of its caption.
+void WidenSetButton(QWidget& button);
+
 // Adds a read-only text that shows its beginning, with its own caption, and the button beside it or below it.
 enum class ButtonPlace { kBeside, kBelow };
 void AddTextRow(Bindings& bindings, PageColumn& column, const char* name, const char* button,
