@@ -238,6 +238,10 @@
         <source>No unit answered the scan, which tried every baud rate with %1 and parity %2. Check the cable and the power of the unit. If the unit has other data bits or another parity, choose them in Set Comport and scan again.</source>
         <translation>Auf die Suche hat kein Gerät geantwortet. Sie hat jede Baudrate mit %1 und Parität %2 versucht. Prüfen Sie das Kabel und die Stromversorgung des Geräts. Hat das Gerät andere Datenbits oder eine andere Parität, wählen Sie diese unter „Comport einstellen“ und suchen Sie erneut.</translation>
     </message>
+    <message>
+        <source>The unit has not confirmed the download of %1. It may hold another configuration, so download again: %2.</source>
+        <translation>Das Gerät hat das Schreiben von %1 nicht bestätigt. Es hat vielleicht eine andere Konfiguration, schreiben Sie deshalb noch einmal: %2.</translation>
+    </message>
 </context>
 <context>
     <name>AdviceBar</name>
