@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <algorithm>
+#include <cctype>
 
 #include "core/messages.h"
 
@@ -29,6 +30,9 @@ QString Filled(const QString& text, const QStringList& parts) {
 
 // The blanks and the colon around the caption stay where they are.
 QString FormText(const std::string& caption) {
+  // Most entries of long lists are numbers.
+  const auto is_letter = [](unsigned char letter) { return std::isalpha(letter) != 0; };
+  if (std::none_of(caption.begin(), caption.end(), is_letter)) return host::FromWindows1252(caption);
   const auto [pattern, values] = phrases::CaptionOf(caption);
   const auto translated = QCoreApplication::translate(phrases::kForm, pattern.c_str());
   if (pattern.empty() || translated == QString::fromUtf8(pattern.c_str()))
