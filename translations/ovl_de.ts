@@ -40,147 +40,147 @@
     <name>Advice</name>
     <message>
         <source>In the range of %1 the first value is above the second. Check it with %2.</source>
-        <translation>Im Bereich von %1 ist der erste Wert größer als der zweite. Prüfen Sie ihn mit „%2“.</translation>
+        <translation>Im Bereich von %1 ist der erste Wert größer als der zweite. Prüfen Sie den Bereich mit „%2“.</translation>
     </message>
     <message>
-        <source>Free exceptions trigger %1, so nothing sets off such an alarm. Give the exceptions a text, or pick another %2.</source>
-        <translation>Auslöser von %1 sind nur freie Ausnahmen, deshalb wird dort nie ein Alarm ausgelöst. Geben Sie den Ausnahmen einen Text oder wählen Sie bei „%2“ etwas anderes.</translation>
+        <source>Only free exceptions trigger %1, so no alarm occurs. Enter a text for the exceptions, or pick another %2.</source>
+        <translation>Als Auslöser von %1 sind nur freie Ausnahmen gewählt, deshalb wird dort nie ein Alarm ausgelöst. Geben Sie den Ausnahmen einen Text oder wählen Sie bei „%2“ etwas anderes.</translation>
     </message>
     <message>
         <source>the trigger text of %1</source>
-        <translation>der Auslösetext von %1</translation>
+        <translation>der Alarmtext von %1</translation>
     </message>
     <message>
-        <source>The text is empty or only blanks: %1. Such a text never matches and shows nothing. Enter one with %2, or switch its actions and its operator off.</source>
-        <translation>Der Text ist leer oder besteht nur aus Leerzeichen: %1. Ein solcher Text passt nie und zeigt nichts an. Geben Sie mit „%2“ einen Text ein oder schalten Sie seine Aktionen und seinen Operator aus.</translation>
+        <source>The text is empty or only blanks: %1. Such a text never matches and shows nothing. Enter a text with %2, or switch off the actions and the operator.</source>
+        <translation>Der Text ist leer oder besteht nur aus Leerzeichen: %1. Ein solcher Text passt nie und zeigt nichts an. Geben Sie mit „%2“ einen Text ein oder schalten Sie die zugehörigen Aktionen und den Vergleich aus.</translation>
     </message>
     <message>
         <source>another register</source>
         <translation>eine andere Kasse</translation>
     </message>
     <message>
-        <source>Files that &quot;Save&quot; writes under this firmware have this form.</source>
-        <translation>Dateien, die „Speichern“ unter dieser Firmware schreibt, haben diese Form.</translation>
+        <source>Files that &quot;Save&quot; writes under this firmware have this format.</source>
+        <translation>Unter dieser Firmware erzeugt „Speichern“ Dateien in diesem Format.</translation>
     </message>
     <message>
-        <source>The upload was not taken: %1. The list shows %2, but the configuration is still that of %3. Upload again, or pick %3.</source>
-        <translation>Die ausgelesenen Daten wurden nicht übernommen: %1. Die Liste zeigt %2, aber die Konfiguration ist noch die von %3. Lesen Sie das Gerät erneut aus oder wählen Sie %3.</translation>
+        <source>The program could not use the upload: %1. The list shows %2, but the configuration is still that of %3. Upload again, or pick %3.</source>
+        <translation>Die ausgelesenen Daten wurden nicht übernommen: %1. Die Liste der Kassen zeigt %2, aber die Konfiguration ist noch die von %3. Lesen Sie das Gerät erneut aus oder wählen Sie %3.</translation>
     </message>
     <message>
-        <source>The answer had a wrong parity, so %1 was selected, with its options and its line. Undo brings %2 back.</source>
+        <source>The answer of the unit had a wrong parity, so the program selected %1, with its options and its line settings. Undo restores %2.</source>
         <translation>Die Antwort hatte eine falsche Parität, deshalb wurde %1 gewählt, mit den zugehörigen Optionen und Leitungseinstellungen. „Rückgängig“ stellt %2 wieder her.</translation>
     </message>
     <message>
-        <source>%1 does not have the form of %2, so everything from the register options on is shifted. Do not download it.</source>
-        <translation>%1 hat nicht die Form von %2, deshalb ist alles ab den Optionen der Kasse verschoben. Schreiben Sie diese Konfiguration nicht in das Gerät.</translation>
+        <source>%1 does not have the format of %2, so all settings from the register options on are in the wrong place. Do not download them.</source>
+        <translation>%1 hat nicht das Format von %2, deshalb ist ab den Optionen der Kasse alles verschoben. Schreiben Sie diese Konfiguration nicht in das Gerät.</translation>
     </message>
     <message>
         <source>Upload again, or open a backup.</source>
         <translation>Lesen Sie das Gerät erneut aus oder öffnen Sie eine Sicherung.</translation>
     </message>
     <message>
-        <source>%1 is no configuration that %2 opens. Nothing has changed.</source>
-        <translation>%1 ist keine Konfiguration, die sich unter %2 öffnen lässt. Es hat sich nichts geändert.</translation>
+        <source>%1 is not a configuration that %2 can open. Nothing has changed.</source>
+        <translation>%1 ist keine Konfiguration, die sich unter %2 öffnen lässt. Es wurde nichts geändert.</translation>
     </message>
     <message>
         <source>Open a backup, or pick the firmware of the file in the Version menu.</source>
         <translation>Öffnen Sie eine Sicherung oder wählen Sie im Menü „Version“ die Firmware der Datei.</translation>
     </message>
     <message>
-        <source>The list shows %1, but the options and the configuration are those of %2: the pick was swallowed. Pick %1 again.</source>
-        <translation>Die Liste zeigt %1, aber die Optionen und die Konfiguration sind die von %2: Die Auswahl wurde verschluckt. Wählen Sie %1 noch einmal.</translation>
+        <source>The list shows %1, but the options and the configuration are still those of %2. Pick %1 again.</source>
+        <translation>Die Liste der Kassen zeigt %1, aber die Optionen und die Konfiguration gehören noch zu %2: Die Auswahl wurde ignoriert. Wählen Sie %1 noch einmal.</translation>
     </message>
     <message>
-        <source>Open was cancelled. The next pick in the register list is swallowed: the list moves, and nothing is loaded. Pick the register twice.</source>
-        <translation>Das Öffnen wurde abgebrochen. Die nächste Auswahl in der Liste der Kassen wird verschluckt: Die Liste bewegt sich, aber nichts wird geladen. Wählen Sie die Kasse zweimal.</translation>
+        <source>Open was cancelled. The next pick in the register list has no effect: the list moves, but the program loads nothing. Pick the register twice.</source>
+        <translation>Das Öffnen wurde abgebrochen. Die nächste Auswahl in der Liste der Kassen wird ignoriert: Die Markierung wechselt, aber es wird nichts geladen. Wählen Sie die Kasse zweimal.</translation>
     </message>
     <message>
-        <source>Open failed: %1. The next pick in the register list is swallowed: the list moves, and nothing is loaded. Pick the register twice.</source>
-        <translation>Das Öffnen ist fehlgeschlagen: %1. Die nächste Auswahl in der Liste der Kassen wird verschluckt: Die Liste bewegt sich, aber nichts wird geladen. Wählen Sie die Kasse zweimal.</translation>
+        <source>Open failed: %1. The next pick in the register list has no effect: the list moves, but the program loads nothing. Pick the register twice.</source>
+        <translation>Das Öffnen ist fehlgeschlagen: %1. Die nächste Auswahl in der Liste der Kassen wird ignoriert: Die Markierung wechselt, aber es wird nichts geladen. Wählen Sie die Kasse zweimal.</translation>
     </message>
     <message>
-        <source>The program does not know the firmware %1, so the register list and the tabs are empty. Pick the firmware on the label of the unit in the %2 menu. The program then ends; start it again.</source>
+        <source>The program does not know the firmware %1, so the register list and the tabs are empty. Pick the firmware on the label of the unit in the %2 menu. The program then ends. Start it again.</source>
         <translation>Das Programm kennt die Firmware %1 nicht, deshalb sind die Liste der Kassen und die Registerkarten leer. Wählen Sie im Menü „%2“ die Firmware, die auf dem Typenschild des Geräts steht. Das Programm beendet sich danach; starten Sie es erneut.</translation>
     </message>
     <message>
-        <source>The options of %1 are hidden: a stored option is not in its list. Pick %1 again: this loads its default options and its default line.</source>
-        <translation>Die Optionen von %1 sind ausgeblendet: Eine gespeicherte Option kommt in ihrer Liste nicht vor. Wählen Sie %1 noch einmal: Das lädt die Standardwerte der Optionen und der Leitung.</translation>
+        <source>The options of %1 are hidden: a stored option is not in its list. Pick %1 again to load its default options and its default line settings.</source>
+        <translation>Die Optionen von %1 sind ausgeblendet: Eine der gespeicherten Optionen kommt in ihrer Liste nicht vor. Wählen Sie %1 noch einmal, um die Standardwerte der Optionen und der Leitung zu laden.</translation>
     </message>
     <message>
-        <source>The options of %1 are hidden: %2 holds %3, which is not in its list. Pick %1 again: this loads its default options and its default line.</source>
-        <translation>Die Optionen von %1 sind ausgeblendet: %2 enthält %3, und das kommt in der Liste nicht vor. Wählen Sie %1 noch einmal: Das lädt die Standardwerte der Optionen und der Leitung.</translation>
+        <source>The options of %1 are hidden: %2 contains %3, which is not in its list. Pick %1 again to load its default options and its default line settings.</source>
+        <translation>Die Optionen von %1 sind ausgeblendet: %2 enthält %3, was in der Liste nicht vorkommt. Wählen Sie %1 noch einmal, um die Standardwerte der Optionen und der Leitung zu laden.</translation>
     </message>
     <message>
-        <source>%1 does not open again: under %2 &quot;Open&quot; reads it shifted. Use &quot;%3&quot; for a file that opens again.</source>
-        <translation>%1 lässt sich nicht wieder öffnen: Unter %2 liest „Öffnen“ die Datei verschoben. Eine Datei, die sich wieder öffnen lässt, erhalten Sie mit „%3“.</translation>
+        <source>%1 does not open again correctly: under %2, &quot;Open&quot; reads its settings in the wrong place. Use &quot;%3&quot; for a file that opens again.</source>
+        <translation>%1 lässt sich nicht richtig wieder öffnen: Unter %2 liest „Öffnen“ die Werte der Datei verschoben ein. Eine Datei, die sich wieder öffnen lässt, erhalten Sie mit „%3“.</translation>
     </message>
     <message>
-        <source>%1 does not open again: under %2 &quot;Open&quot; refuses it. Use &quot;%3&quot; for a file that opens again.</source>
+        <source>%1 does not open again: under %2, &quot;Open&quot; refuses it. Use &quot;%3&quot; for a file that opens again.</source>
         <translation>%1 lässt sich nicht wieder öffnen: Unter %2 lehnt „Öffnen“ die Datei ab. Eine Datei, die sich wieder öffnen lässt, erhalten Sie mit „%3“.</translation>
     </message>
     <message>
-        <source>The pick of %1 also stored %2. Look at these tabs before you download.</source>
-        <translation>Die Wahl von %1 hat außerdem gespeichert: %2. Sehen Sie diese Registerkarten an, bevor Sie in das Gerät schreiben.</translation>
+        <source>The pick of %1 also changed %2. Check these tabs before you download.</source>
+        <translation>Mit der Wahl von %1 wurde außerdem gespeichert: %2. Prüfen Sie diese Registerkarten, bevor Sie in das Gerät schreiben.</translation>
     </message>
     <message>
-        <source>The options of %1 also stored %2. Look at these tabs before you download.</source>
-        <translation>Die Optionen von %1 haben außerdem gespeichert: %2. Sehen Sie diese Registerkarten an, bevor Sie in das Gerät schreiben.</translation>
+        <source>The options of %1 also changed %2. Check these tabs before you download.</source>
+        <translation>Mit den Optionen von %1 wurde außerdem gespeichert: %2. Prüfen Sie diese Registerkarten, bevor Sie in das Gerät schreiben.</translation>
     </message>
     <message>
-        <source>Begin on %1: %2.</source>
-        <translation>Beginnen Sie auf %1: %2.</translation>
+        <source>The tabs show default settings, not those of the unit. On %1, press %2.</source>
+        <translation>Die Registerkarten zeigen Standardeinstellungen, nicht die des Geräts. Drücken Sie auf %1: %2.</translation>
     </message>
     <message>
         <source>Choose the baud rate, the data bits and the parity of the unit in Set Comport, then press SET and Remote.</source>
-        <translation>Wählen Sie unter „Comport einstellen“ die Baudrate, die Datenbits und die Parität des Geräts. Drücken Sie dann „SETZEN“ und „Fernsteuern“.</translation>
+        <translation>Wählen Sie unter „COM-Port einstellen“ die Baudrate, die Datenbits und die Parität des Geräts. Drücken Sie dann „ÜBERNEHMEN“ und „Fernsteuern“.</translation>
     </message>
     <message>
-        <source>Comport %1, %2, was lost at %3 (%4) during the scan. The unit is untouched.</source>
-        <translation>Comport %1, %2, ging um %3 während der Suche verloren (%4). Das Gerät ist unverändert.</translation>
+        <source>Comport %1, %2, was lost at %3 (%4) during the scan. The unit is unchanged.</source>
+        <translation>COM-Port %1, %2, ist um %3 während der Suche ausgefallen (%4). Das Gerät ist unverändert.</translation>
     </message>
     <message>
-        <source>Comport %1, %2, was lost at %3 (%4) during the upload. The unit is untouched, and nothing of the upload is on the tabs.</source>
-        <translation>Comport %1, %2, ging um %3 während des Auslesens verloren (%4). Das Gerät ist unverändert, und auf den Registerkarten ist nichts von den ausgelesenen Daten.</translation>
+        <source>Comport %1, %2, was lost at %3 (%4) during the upload. The unit is unchanged, and the tabs show nothing of the upload.</source>
+        <translation>COM-Port %1, %2, ist um %3 während des Auslesens ausgefallen (%4). Das Gerät ist unverändert, und die Registerkarten enthalten nichts von den ausgelesenen Daten.</translation>
     </message>
     <message>
-        <source>Comport %1, %2, was lost at %3 (%4) before the download began. The unit holds its old configuration.</source>
-        <translation>Comport %1, %2, ging um %3 verloren, bevor das Schreiben begann (%4). Das Gerät hat seine alte Konfiguration.</translation>
+        <source>Comport %1, %2, was lost at %3 (%4) before the download began. The unit has its old configuration.</source>
+        <translation>COM-Port %1, %2, ist um %3 ausgefallen, bevor das Schreiben begann (%4). Das Gerät hat noch seine alte Konfiguration.</translation>
     </message>
     <message>
-        <source>Comport %1, %2, was lost at %3 (%4) during the download. The unit may hold half a configuration, so download again.</source>
-        <translation>Comport %1, %2, ging um %3 während des Schreibens verloren (%4). Das Gerät hat vielleicht eine halbe Konfiguration, schreiben Sie deshalb noch einmal.</translation>
+        <source>Comport %1, %2, was lost at %3 (%4) during the download. The unit may have half a configuration, so download again.</source>
+        <translation>COM-Port %1, %2, ist um %3 während des Schreibens ausgefallen (%4). Das Gerät hat die Konfiguration vielleicht nur teilweise erhalten, schreiben Sie sie deshalb noch einmal.</translation>
     </message>
     <message>
-        <source>Comport %1, %2, was lost at %3 (%4) after the download. The unit was sent the whole configuration, but has not confirmed it.</source>
-        <translation>Comport %1, %2, ging um %3 nach dem Schreiben verloren (%4). Das Gerät hat die ganze Konfiguration erhalten, sie aber nicht bestätigt.</translation>
+        <source>Comport %1, %2, was lost at %3 (%4) after the download. The program sent the whole configuration, but the unit has not confirmed it.</source>
+        <translation>COM-Port %1, %2, ist um %3 nach dem Schreiben ausgefallen (%4). Das Gerät hat die ganze Konfiguration erhalten, sie aber nicht bestätigt.</translation>
     </message>
     <message>
         <source>Comport %1, %2, was lost at %3 (%4) while the clock was set. The unit may have the new time.</source>
-        <translation>Comport %1, %2, ging um %3 verloren, während die Uhr gestellt wurde (%4). Das Gerät hat vielleicht schon die neue Zeit.</translation>
+        <translation>COM-Port %1, %2, ist um %3 beim Stellen der Uhr ausgefallen (%4). Das Gerät hat vielleicht schon die neue Zeit.</translation>
     </message>
     <message>
-        <source>Comport %1, %2, was lost at %3 (%4) during the master reset. The unit may be at its factory settings.</source>
-        <translation>Comport %1, %2, ging um %3 während des Zurücksetzens verloren (%4). Das Gerät hat vielleicht seine Werkseinstellungen.</translation>
+        <source>Comport %1, %2, was lost at %3 (%4) during the master reset. The unit may have its factory settings.</source>
+        <translation>COM-Port %1, %2, ist um %3 während des Zurücksetzens ausgefallen (%4). Das Gerät hat vielleicht schon die Werkseinstellungen.</translation>
     </message>
     <message>
-        <source>Comport %1, %2, was lost at %3 (%4). The unit is untouched.</source>
-        <translation>Comport %1, %2, ging um %3 verloren (%4). Das Gerät ist unverändert.</translation>
+        <source>Comport %1, %2, was lost at %3 (%4). The unit is unchanged.</source>
+        <translation>COM-Port %1, %2, ist um %3 ausgefallen (%4). Das Gerät ist unverändert.</translation>
     </message>
     <message>
         <source>Only root and the group of the device, mostly dialout, may use it. As root: adduser NAME dialout; then log in again.</source>
-        <translation>Nur root und die Gruppe der Schnittstelle, meist dialout, dürfen sie benutzen. Als root: adduser NAME dialout; melden Sie sich danach neu an.</translation>
+        <translation>Nur root und die Mitglieder ihrer Gruppe, meist „dialout“, dürfen die Schnittstelle benutzen. Führen Sie als root „adduser NAME dialout“ aus und melden Sie sich danach neu an.</translation>
     </message>
     <message>
         <source>Plug the adapter in, choose the comport of another device, or set the link ports/com%1 in the program folder.</source>
-        <translation>Stecken Sie den Adapter ein, wählen Sie den Comport einer anderen Schnittstelle oder legen Sie im Programmordner die Verknüpfung ports/com%1 an.</translation>
+        <translation>Stecken Sie den Adapter ein, wählen Sie den COM-Port einer anderen Schnittstelle oder legen Sie im Programmordner die Verknüpfung ports/com%1 an.</translation>
     </message>
     <message>
         <source>The device is not there: plug the adapter in, or choose the comport of another device.</source>
-        <translation>Die Schnittstelle ist nicht da: Stecken Sie den Adapter ein oder wählen Sie den Comport einer anderen Schnittstelle.</translation>
+        <translation>Die Schnittstelle ist nicht vorhanden: Stecken Sie den Adapter ein oder wählen Sie den COM-Port einer anderen Schnittstelle.</translation>
     </message>
     <message>
-        <source>No hardware is behind this name: choose the comport of another device.</source>
-        <translation>Unter diesem Namen gibt es keine Hardware: Wählen Sie den Comport einer anderen Schnittstelle.</translation>
+        <source>No hardware belongs to this name: choose the comport of another device.</source>
+        <translation>Unter diesem Namen gibt es keine Hardware: Wählen Sie den COM-Port einer anderen Schnittstelle.</translation>
     </message>
     <message>
         <source>Another program uses the device: close it.</source>
@@ -188,59 +188,59 @@
     </message>
     <message>
         <source>The device cannot use %1: choose another baud rate, or data bits and parity.</source>
-        <translation>Die Schnittstelle kann %1 nicht verwenden: Wählen Sie eine andere Baudrate oder andere Datenbits und eine andere Parität.</translation>
+        <translation>Die Schnittstelle unterstützt %1 nicht: Wählen Sie eine andere Baudrate, andere Datenbits oder eine andere Parität.</translation>
     </message>
     <message>
         <source>Choose another comport, or check the device.</source>
-        <translation>Wählen Sie einen anderen Comport oder prüfen Sie die Schnittstelle.</translation>
+        <translation>Wählen Sie einen anderen COM-Port oder prüfen Sie die Schnittstelle.</translation>
     </message>
     <message>
         <source>Restart</source>
         <translation>Neu starten</translation>
     </message>
     <message>
-        <source>An upload broke off. What had arrived is still ahead of the next upload and would be read in its place. Restart the program before you upload again.</source>
-        <translation>Ein Auslesen ist abgebrochen. Was schon angekommen war, steht noch vor den nächsten Daten und würde an ihrer Stelle gelesen. Starten Sie das Programm neu, bevor Sie erneut auslesen.</translation>
+        <source>An upload stopped before its end. The program would put what it received in front of the next upload. Restart the program before you upload again.</source>
+        <translation>Das Auslesen wurde abgebrochen. Die bereits empfangenen Daten stehen noch vor den nächsten und würden an deren Stelle gelesen. Starten Sie das Programm neu, bevor Sie erneut auslesen.</translation>
     </message>
     <message>
-        <source>The tabs show a mixture: the beginning is from an upload that broke off, the rest from the last one. Do not download it. Restart the program, which drops the mixture, and upload again.</source>
-        <translation>Die Registerkarten zeigen eine Mischung: Der Anfang stammt von einem abgebrochenen Auslesen, der Rest vom letzten. Schreiben Sie sie nicht in das Gerät. Starten Sie das Programm neu, das die Mischung verwirft, und lesen Sie erneut aus.</translation>
+        <source>The tabs show a mixture of two uploads: the beginning of one that stopped, and the rest of the last one. Do not download it. Restart the program, which discards the mixture, and upload again.</source>
+        <translation>Die Registerkarten zeigen eine Mischung: Der Anfang stammt aus einem abgebrochenen Auslesen, der Rest aus dem letzten. Schreiben Sie sie nicht in das Gerät. Starten Sie das Programm neu, um die Mischung zu verwerfen, und lesen Sie das Gerät erneut aus.</translation>
     </message>
     <message>
         <source>%1 Plug the device in again and restart the program. Then press %2.</source>
-        <translation>%1 Stecken Sie die Schnittstelle wieder ein und starten Sie das Programm neu. Drücken Sie dann: %2.</translation>
+        <translation>%1 Stecken Sie den Adapter wieder ein und starten Sie das Programm neu. Drücken Sie dann: %2.</translation>
     </message>
     <message>
         <source>%1 Plug the device in again. Then press %2.</source>
-        <translation>%1 Stecken Sie die Schnittstelle wieder ein. Drücken Sie dann: %2.</translation>
+        <translation>%1 Stecken Sie den Adapter wieder ein. Drücken Sie dann: %2.</translation>
     </message>
     <message>
-        <source>A download broke off at %1. The unit may hold half a configuration, so download again: %2.</source>
-        <translation>Um %1 ist ein Schreiben abgebrochen. Das Gerät hat vielleicht eine halbe Konfiguration, schreiben Sie deshalb noch einmal: %2.</translation>
+        <source>A download stopped at %1. The unit may have half a configuration, so download again: %2.</source>
+        <translation>Um %1 wurde das Schreiben abgebrochen. Das Gerät hat die Konfiguration vielleicht nur teilweise erhalten, schreiben Sie sie deshalb noch einmal: %2.</translation>
     </message>
     <message>
-        <source>The download of %1 did not begin. The unit holds its old configuration. To try again: %2.</source>
-        <translation>Das Schreiben von %1 hat nicht begonnen. Das Gerät hat seine alte Konfiguration. Für einen neuen Versuch: %2.</translation>
+        <source>The download of %1 did not begin. The unit has its old configuration. To try again: %2.</source>
+        <translation>Das Schreiben um %1 wurde nicht begonnen. Das Gerät hat noch seine alte Konfiguration. Für einen neuen Versuch: %2.</translation>
     </message>
     <message>
         <source>Comport %1, %2, did not open: %3. %4</source>
-        <translation>Comport %1, %2, ließ sich nicht öffnen: %3. %4</translation>
+        <translation>COM-Port %1, %2, ließ sich nicht öffnen: %3. %4</translation>
     </message>
     <message>
-        <source>This scan cannot find the unit: the program takes an answer only if remote mode was held before and Disconnect ended it. Press %1. %2</source>
-        <translation>Diese Suche kann das Gerät nicht finden: Das Programm nimmt eine Antwort nur an, wenn zuvor der Fernsteuermodus bestand und mit „Trennen“ beendet wurde. Drücken Sie „%1“. %2</translation>
+        <source>This scan cannot find the unit: the program accepts an answer only if the unit was in remote mode before, and Disconnect ended it. Press %1. %2</source>
+        <translation>Diese Suche kann das Gerät nicht finden: Das Programm nimmt eine Antwort nur an, wenn zuvor der Fernsteuermodus aktiv war und mit „Trennen“ beendet wurde. Drücken Sie „%1“. %2</translation>
     </message>
     <message>
-        <source>The scan could not find the unit: the program takes an answer only if remote mode was held before and Disconnect ended it. %1</source>
-        <translation>Die Suche konnte das Gerät nicht finden: Das Programm nimmt eine Antwort nur an, wenn zuvor der Fernsteuermodus bestand und mit „Trennen“ beendet wurde. %1</translation>
+        <source>The scan could not find the unit: the program accepts an answer only if the unit was in remote mode before, and Disconnect ended it. %1</source>
+        <translation>Die Suche konnte das Gerät nicht finden: Das Programm nimmt eine Antwort nur an, wenn zuvor der Fernsteuermodus aktiv war und mit „Trennen“ beendet wurde. %1</translation>
     </message>
     <message>
         <source>No unit answered the scan, which tried every baud rate with %1 and parity %2. Check the cable and the power of the unit. If the unit has other data bits or another parity, choose them in Set Comport and scan again.</source>
-        <translation>Auf die Suche hat kein Gerät geantwortet. Sie hat jede Baudrate mit %1 und Parität %2 versucht. Prüfen Sie das Kabel und die Stromversorgung des Geräts. Hat das Gerät andere Datenbits oder eine andere Parität, wählen Sie diese unter „Comport einstellen“ und suchen Sie erneut.</translation>
+        <translation>Auf die Suche hat kein Gerät geantwortet. Versucht wurde jede Baudrate mit %1 und Parität %2. Prüfen Sie das Kabel und die Stromversorgung des Geräts. Hat das Gerät andere Datenbits oder eine andere Parität, wählen Sie diese unter „COM-Port einstellen“ und suchen Sie erneut.</translation>
     </message>
     <message>
-        <source>The unit has not confirmed the download of %1. It may hold another configuration, so download again: %2.</source>
-        <translation>Das Gerät hat das Schreiben von %1 nicht bestätigt. Es hat vielleicht eine andere Konfiguration, schreiben Sie deshalb noch einmal: %2.</translation>
+        <source>The unit has not confirmed the download of %1. It may have another configuration, so download again: %2.</source>
+        <translation>Das Gerät hat das Schreiben um %1 nicht bestätigt. Es hat vielleicht eine andere Konfiguration, schreiben Sie deshalb noch einmal: %2.</translation>
     </message>
 </context>
 <context>
@@ -251,11 +251,11 @@
     </message>
     <message>
         <source>Hide this advice</source>
-        <translation>Diesen Rat ausblenden</translation>
+        <translation>Diese Meldung ausblenden</translation>
     </message>
     <message>
-        <source>Hides this advice until its condition ends and is true again.</source>
-        <translation>Blendet diesen Rat aus, bis sein Anlass wegfällt und erneut eintritt.</translation>
+        <source>Hides this advice until its condition occurs again.</source>
+        <translation>Blendet diese Meldung aus, bis ihr Anlass wegfällt und erneut eintritt.</translation>
     </message>
 </context>
 <context>
@@ -282,7 +282,7 @@
     </message>
     <message>
         <source>Normal</source>
-        <translation>Ruhe</translation>
+        <translation>Ruhezustand</translation>
     </message>
     <message>
         <source>Text</source>
@@ -302,8 +302,8 @@
     <message>
         <source>                            !!! Remote Connection Fail. !!!
 Cable Disconnected Or Communication Setting Wrong ,Try Again</source>
-        <translation>                            !!! Fernsteuerverbindung fehlgeschlagen. !!!
-Kabel nicht angeschlossen oder falsche Schnittstelleneinstellung, versuchen Sie es erneut</translation>
+        <translation>                            !!! Fernsteuerverbindung fehlgeschlagen !!!
+Kabel nicht angeschlossen oder Schnittstelle falsch eingestellt. Versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>                   %1
@@ -319,7 +319,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>        Please Select Comport.</source>
-        <translation>        Bitte wählen Sie einen Comport.</translation>
+        <translation>        Bitte wählen Sie einen COM-Port.</translation>
     </message>
     <message>
         <source>       Master Reset Done.</source>
@@ -331,7 +331,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>!!! Remote Connection Time out. !!!</source>
-        <translation>!!! Zeitüberschreitung der Fernsteuerverbindung. !!!</translation>
+        <translation>!!! Zeitüberschreitung der Fernsteuerverbindung !!!</translation>
     </message>
     <message>
         <source>%1 WILL TAKE EFFECT WHEN THE APPLICATION NEXT START</source>
@@ -351,11 +351,11 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>Check Parity and Data Bit Setting that Same OVL ,Try again !!!</source>
-        <translation>Prüfen Sie, ob Parität und Datenbits mit dem OVL übereinstimmen, und versuchen Sie es erneut !!!</translation>
+        <translation>Prüfen Sie, ob Parität und Datenbits mit denen des Geräts übereinstimmen, und versuchen Sie es erneut!</translation>
     </message>
     <message>
         <source>Incompatible File !!!, try again.</source>
-        <translation>Datei nicht kompatibel !!!, versuchen Sie es erneut.</translation>
+        <translation>Datei nicht kompatibel! Versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>No Response From The Device</source>
@@ -363,7 +363,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>NoFile Save. !!!        </source>
-        <translation>Keine Datei gespeichert. !!!        </translation>
+        <translation>Keine Datei gespeichert!        </translation>
     </message>
     <message>
         <source>Please ReInstall Ovalon PC Software</source>
@@ -371,7 +371,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>Please Send Time Date agian.</source>
-        <translation>Bitte senden Sie Uhrzeit und Datum erneut.</translation>
+        <translation>Bitte stellen Sie Uhrzeit und Datum erneut.</translation>
     </message>
     <message>
         <source>Registry Error.</source>
@@ -457,7 +457,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>%1 has the same settings.</source>
-        <translation>%1 hat dieselben Einstellungen.</translation>
+        <translation>%1 hat dieselben Einstellungen wie die Registerkarten.</translation>
     </message>
     <message>
         <source>%1 differs from the tabs in %2.</source>
@@ -465,13 +465,13 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
         <translation>%1 unterscheidet sich von den Registerkarten: %2.</translation>
     </message>
     <message>
-        <source>A download would change nothing in a unit that holds the configuration last loaded or sent.</source>
-        <translation>Schreiben würde in einem Gerät, das die zuletzt geladene oder gesendete Konfiguration hat, nichts ändern.</translation>
+        <source>A download would change nothing if the unit has the configuration that was last uploaded, opened or downloaded.</source>
+        <translation>„Schreiben“ würde in einem Gerät mit der zuletzt geladenen oder geschriebenen Konfiguration nichts ändern.</translation>
     </message>
     <message>
-        <source>What a download would change in a unit that holds the configuration last loaded or sent: %1 in %2.</source>
+        <source>A download would change %1 in %2 if the unit has the configuration that was last uploaded, opened or downloaded.</source>
         <comment>&quot;3 settings&quot;, &quot;2 fields&quot;</comment>
-        <translation>Was Schreiben in einem Gerät ändern würde, das die zuletzt geladene oder gesendete Konfiguration hat: %1, %2.</translation>
+        <translation>„Schreiben“ würde in einem Gerät mit der zuletzt geladenen oder geschriebenen Konfiguration Folgendes ändern: %1, %2.</translation>
     </message>
     <message>
         <source>Here</source>
@@ -491,7 +491,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>Shows what a download would change in the unit: what has changed since the last load or download (Ctrl+D)</source>
-        <translation>Zeigt, was Schreiben im Gerät ändern würde: was sich seit dem letzten Laden oder Schreiben geändert hat (Strg+D)</translation>
+        <translation>Zeigt, was „Schreiben“ im Gerät ändern würde, also was sich seit dem letzten Laden oder Schreiben geändert hat (Strg+D)</translation>
     </message>
     <message>
         <source>%1 changed</source>
@@ -534,32 +534,32 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
         <translation>eine unbekannte Kasse</translation>
     </message>
     <message>
-        <source>%1 holds %2, for which the list has no entry.</source>
-        <translation>%1 enthält %2, und dafür hat die Liste keinen Eintrag.</translation>
+        <source>%1 contains %2, for which its list has no entry.</source>
+        <translation>%1 enthält %2, was in der Liste nicht vorkommt.</translation>
     </message>
     <message>
-        <source>%1 holds bytes: %2, where %4 reads %3, so a download shifts everything behind it.</source>
-        <translation>%1 enthält so viele Bytes: %2. %4 liest dort %3, deshalb verschiebt das Schreiben alles dahinter.</translation>
+        <source>%1 has this number of bytes: %2. %4 reads %3, so a download moves everything behind it.</source>
+        <translation>Anzahl der Bytes von %1: %2. %4 liest dort aber %3, deshalb verschiebt das Schreiben alles dahinter.</translation>
     </message>
     <message>
         <source>%1 is %2, but the default image of %3 has %4, as if another register had been picked.</source>
-        <translation>%1 ist %2, aber das Standardabbild von %3 hat %4, als wäre eine andere Kasse gewählt worden.</translation>
+        <translation>%1 ist %2, aber die Standardkonfiguration von %3 hat %4, als wäre eine andere Kasse gewählt worden.</translation>
     </message>
     <message>
         <source>%1 is %2, but the options of %3 set it to %4.</source>
         <translation>%1 ist %2, aber die Optionen von %3 setzen es auf %4.</translation>
     </message>
     <message>
-        <source>%1 shows &quot;%2&quot;, but %3 holds %4, and a pick of &quot;%2&quot; stores %5.</source>
-        <translation>%1 zeigt „%2“, aber %3 enthält %4, und eine Auswahl von „%2“ speichert %5.</translation>
+        <source>%1 shows &quot;%2&quot;, but %3 contains %4, and a pick of &quot;%2&quot; stores %5.</source>
+        <translation>%1 zeigt „%2“, aber %3 enthält %4, und die Wahl von „%2“ würde %5 speichern.</translation>
     </message>
     <message>
         <source>Alarm %1 has a delay after the RTS line, but its ALARM TRIGGER is %2.</source>
-        <translation>Alarm %1 hat eine Verzögerung nach der RTS-Leitung, aber sein ALARMAUSLÖSER ist %2.</translation>
+        <translation>Für Alarm %1 ist TEXTVERZÖGERUNG NACH RTS eingestellt, aber sein ALARMAUSLÖSER ist %2.</translation>
     </message>
     <message>
         <source>Alarm %1 has a text to show or to send, but nothing triggers the alarm.</source>
-        <translation>Alarm %1 hat einen Text zum Zeigen oder Senden, aber nichts löst den Alarm aus.</translation>
+        <translation>Alarm %1 hat einen Text zum Anzeigen oder Ausgeben, aber nichts löst den Alarm aus.</translation>
     </message>
     <message>
         <source>DISPLAY LINE is %1, but the clock and the title need %2 lines at least.</source>
@@ -575,19 +575,19 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>DUPLICATE LINE is ON, but OUTPUT of the exception report is OFF.</source>
-        <translation>GLEICHE ZEILE ist EIN, aber AUSGABE der Ausnahmemeldung ist AUS.</translation>
+        <translation>DOPPELTE ZEILEN ist EIN, aber AUSGABE der Ausnahmemeldung ist AUS.</translation>
     </message>
     <message>
         <source>Exception %1 compares the amount, but both values of its range are 0.</source>
         <translation>Ausnahme %1 vergleicht den Betrag, aber beide Werte ihres Bereichs sind 0.</translation>
     </message>
     <message>
-        <source>Exception %1 has SCROLL MATCHING, so its DISPLAY, OUTPUT and HISTORY BUFFER can go to OFF when it is looked at.</source>
-        <translation>Ausnahme %1 hat MEHRZEILENSUCHE, deshalb können ANZEIGE, AUSGABE und VERLAUFSSPEICHER auf AUS gehen, wenn sie angesehen wird.</translation>
+        <source>Exception %1 has SCROLL MATCHING, so its DISPLAY, OUTPUT and HISTORY BUFFER can change to OFF when the tab shows it.</source>
+        <translation>Bei Ausnahme %1 ist MEHRZEILENSUCHE EIN, deshalb können ANZEIGE, AUSGABE und VERLAUFSSPEICHER auf AUS wechseln, sobald Sie die Ausnahme aufrufen.</translation>
     </message>
     <message>
         <source>Exception %1 has a range, but its OPERATOR is NONE, so no amount is compared.</source>
-        <translation>Ausnahme %1 hat einen Bereich, aber ihr OPERATOR ist KEINE, deshalb wird kein Betrag verglichen.</translation>
+        <translation>Ausnahme %1 hat einen Bereich, aber bei VERGLEICH ist OHNE gewählt, deshalb wird kein Betrag verglichen.</translation>
     </message>
     <message>
         <source>Exception %1 has an action or is not marked as free, but its text is empty or only blanks.</source>
@@ -603,11 +603,11 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>Exception %1, &quot;%2&quot;, is not displayed, sent to the output or kept in the history, and it triggers no alarm.</source>
-        <translation>Ausnahme %1, „%2“, wird weder angezeigt noch ausgegeben noch im Verlauf behalten, und sie löst keinen Alarm aus.</translation>
+        <translation>Ausnahme %1, „%2“, wird weder angezeigt noch ausgegeben noch im Verlauf gespeichert, und sie löst keinen Alarm aus.</translation>
     </message>
     <message>
         <source>FLAG TYPE is %1, but FLAG DURATION is %2.</source>
-        <translation>KENNZEICHEN ist %1, aber KENNZEICHENDAUER ist %2.</translation>
+        <translation>MARKIERUNG ist %1, aber MARKIERUNGSDAUER ist %2.</translation>
     </message>
     <message>
         <source>In the range of exception %1 the first value is above the second.</source>
@@ -618,12 +618,12 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
         <translation>AUSGABE von %1 ist EIN, aber AUSGABE der Ausnahmemeldung ist AUS.</translation>
     </message>
     <message>
-        <source>Only free exceptions trigger alarm %1 (%2), so %3 sets it off.</source>
-        <translation>Auslöser von Alarm %1 (%2) sind nur freie Ausnahmen, deshalb löst ihn %3 aus.</translation>
+        <source>Only free exceptions trigger alarm %1 (%2), so %3 triggers it.</source>
+        <translation>Als Auslöser von Alarm %1 (%2) sind nur freie Ausnahmen gewählt, deshalb löst ihn %3 aus.</translation>
     </message>
     <message>
         <source>T/D LOCKING is ON, but T/D DISPLAY is OFF.</source>
-        <translation>UHR SPERREN ist EIN, aber UHR ZEIGEN ist AUS.</translation>
+        <translation>UHR SPERREN ist EIN, aber UHR ANZEIGEN ist AUS.</translation>
     </message>
     <message>
         <source>TIME STAMP is ON, but OUTPUT of the exception report is OFF.</source>
@@ -631,7 +631,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>TITLER is ON, but the title is empty.</source>
-        <translation>TITEL ZEIGEN ist EIN, aber der Titel ist leer.</translation>
+        <translation>TITEL ANZEIGEN ist EIN, aber der Titel ist leer.</translation>
     </message>
     <message>
         <source>TYPE of the network is %1, but its ADDRESS is %2.</source>
@@ -643,27 +643,27 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>The default image of %1 in the program folder is that of %2, so a pick of %1 selects %2.</source>
-        <translation>Das Standardabbild von %1 im Programmordner ist das von %2, deshalb führt die Wahl von %1 zu %2.</translation>
+        <translation>Die Standardkonfiguration von %1 im Programmordner ist die von %2, deshalb stellt die Wahl von %1 in Wirklichkeit %2 ein.</translation>
     </message>
     <message>
         <source>The network is stored with the ADDRESS %1, but the form shows %2 for its TYPE %3.</source>
-        <translation>Das Netzwerk ist mit der ADRESSE %1 gespeichert, aber das Formular zeigt %2 für seinen TYP %3.</translation>
+        <translation>Das Netzwerk ist mit der ADRESSE %1 gespeichert, aber die Registerkarte zeigt %2 für seinen TYP %3.</translation>
     </message>
     <message>
         <source>The network is stored with the BAUD RATE %1, but its PROTOCOL %2 needs %3.</source>
-        <translation>Das Netzwerk ist mit der BAUDRATE %1 gespeichert, aber sein PROTOKOLL %2 braucht %3.</translation>
+        <translation>Das Netzwerk ist mit der BAUDRATE %1 gespeichert, aber sein PROTOKOLL %2 erfordert %3.</translation>
     </message>
     <message>
-        <source>The options of %1 are hidden: %2 holds %3, which is not in its list.</source>
-        <translation>Die Optionen von %1 sind ausgeblendet: %2 enthält %3, und das kommt in der Liste nicht vor.</translation>
+        <source>The options of %1 are hidden: %2 contains %3, which is not in its list.</source>
+        <translation>Die Optionen von %1 sind ausgeblendet: %2 enthält %3, was in der Liste nicht vorkommt.</translation>
     </message>
     <message>
         <source>The range of exception %1 is not a number: its digits are %2.</source>
-        <translation>Der Bereich von Ausnahme %1 ist keine Zahl: Seine Ziffern sind %2.</translation>
+        <translation>Der Bereich von Ausnahme %1 enthält keine gültige Zahl: %2.</translation>
     </message>
     <message>
         <source>The text of exception %1 begins with a blank, which the line must have as well.</source>
-        <translation>Der Text von Ausnahme %1 beginnt mit einem Leerzeichen, das auch die Zeile haben muss.</translation>
+        <translation>Der Text von Ausnahme %1 beginnt mit einem Leerzeichen, das auch in der Zeile stehen muss.</translation>
     </message>
     <message>
         <source>The text of exception %1 is only &quot;?&quot;, which matches any character.</source>
@@ -671,23 +671,23 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>The text of exception %1 is stored with the length %2, and its own length is %3.</source>
-        <translation>Der Text von Ausnahme %1 ist mit der Länge %2 gespeichert, seine eigene Länge ist %3.</translation>
+        <translation>Der Text von Ausnahme %1 ist mit der Länge %2 gespeichert, seine tatsächliche Länge ist %3.</translation>
     </message>
     <message>
         <source>The trigger text of alarm %1 is empty or only blanks.</source>
-        <translation>Der Auslösetext von Alarm %1 ist leer oder besteht nur aus Leerzeichen.</translation>
+        <translation>Der Alarmtext von Alarm %1 ist leer oder besteht nur aus Leerzeichen.</translation>
     </message>
     <message>
         <source>The trigger text of alarm %1 is neither shown nor sent.</source>
-        <translation>Der Auslösetext von Alarm %1 wird weder gezeigt noch gesendet.</translation>
+        <translation>Der Alarmtext von Alarm %1 wird weder angezeigt noch ausgegeben.</translation>
     </message>
     <message>
-        <source>The unit plays its demonstration after power up.</source>
-        <translation>Das Gerät spielt nach dem Einschalten seine Vorführung ab.</translation>
+        <source>The unit starts its demo after power up.</source>
+        <translation>Das Gerät spielt nach dem Einschalten seine Demo ab.</translation>
     </message>
     <message>
         <source>There is a title, but TITLER is OFF.</source>
-        <translation>Es gibt einen Titel, aber TITEL ZEIGEN ist AUS.</translation>
+        <translation>Es gibt einen Titel, aber TITEL ANZEIGEN ist AUS.</translation>
     </message>
 </context>
 <context>
@@ -751,8 +751,8 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
         <translation>Prüfungen</translation>
     </message>
     <message>
-        <source>Shows what to look at in the configuration (Ctrl+K)</source>
-        <translation>Zeigt, was Sie in der Konfiguration ansehen sollten (Strg+K)</translation>
+        <source>Shows the findings of the checks (Ctrl+K)</source>
+        <translation>Zeigt, was Sie in der Konfiguration prüfen sollten (Strg+K)</translation>
     </message>
     <message>
         <source>Setting</source>
@@ -767,7 +767,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
         <translation>Befunde</translation>
     </message>
     <message>
-        <source>The checks found nothing to look at in this configuration.</source>
+        <source>The checks found nothing in this configuration.</source>
         <translation>Die Prüfungen haben in dieser Konfiguration nichts gefunden.</translation>
     </message>
     <message>
@@ -831,7 +831,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>Copy to...</source>
-        <translation>Kopieren nach...</translation>
+        <translation>Kopieren nach…</translation>
     </message>
     <message>
         <source>Copies the shown alarm to other numbers</source>
@@ -843,11 +843,11 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>Copy Exception...</source>
-        <translation>Ausnahme kopieren...</translation>
+        <translation>Ausnahme kopieren…</translation>
     </message>
     <message>
         <source>Copy Alarm...</source>
-        <translation>Alarm kopieren...</translation>
+        <translation>Alarm kopieren…</translation>
     </message>
 </context>
 <context>
@@ -909,7 +909,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
         <translation>Bereich</translation>
     </message>
     <message>
-        <source>Acts</source>
+        <source>Actions</source>
         <translation>Aktionen</translation>
     </message>
     <message>
@@ -925,19 +925,19 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>Save Backup...</source>
-        <translation>Sicherung speichern...</translation>
+        <translation>Sicherung speichern…</translation>
     </message>
     <message>
         <source>Not opened: %1</source>
         <translation>Nicht geöffnet: %1</translation>
     </message>
     <message>
-        <source>No backup written: %1</source>
-        <translation>Keine Sicherung geschrieben: %1</translation>
+        <source>Backup not written: %1</source>
+        <translation>Sicherung nicht gespeichert: %1</translation>
     </message>
     <message>
         <source>Backup written: %1</source>
-        <translation>Sicherung geschrieben: %1</translation>
+        <translation>Sicherung gespeichert: %1</translation>
     </message>
 </context>
 <context>
@@ -955,15 +955,15 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     <name>Filter</name>
     <message>
         <source>Text Forms(*.toml)|*.toml|All Files(*.*)|*.*</source>
-        <translation>Textformen(*.toml)|*.toml|Alle Dateien(*.*)|*.*</translation>
+        <translation>Textdateien (*.toml)|*.toml|Alle Dateien (*.*)|*.*</translation>
     </message>
     <message>
         <source>Configurations(*.bin;*.toml)|*.bin;*.toml|All Files(*.*)|*.*</source>
-        <translation>Konfigurationen(*.bin;*.toml)|*.bin;*.toml|Alle Dateien(*.*)|*.*</translation>
+        <translation>Konfigurationen (*.bin;*.toml)|*.bin;*.toml|Alle Dateien (*.*)|*.*</translation>
     </message>
     <message>
         <source>Backups(*.bin)|*.bin|All Files(*.*)|*.*</source>
-        <translation>Sicherungen(*.bin)|*.bin|Alle Dateien(*.*)|*.*</translation>
+        <translation>Sicherungen (*.bin)|*.bin|Alle Dateien (*.*)|*.*</translation>
     </message>
 </context>
 <context>
@@ -1018,15 +1018,15 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>CASIO SUBMENU</source>
-        <translation>CASIO UNTERMENÜ</translation>
+        <translation>CASIO-UNTERMENÜ</translation>
     </message>
     <message>
         <source>SHARP SUBMENU</source>
-        <translation>SHARP UNTERMENÜ</translation>
+        <translation>SHARP-UNTERMENÜ</translation>
     </message>
     <message>
         <source>TEC SUBMENU</source>
-        <translation>TEC UNTERMENÜ</translation>
+        <translation>TEC-UNTERMENÜ</translation>
     </message>
     <message>
         <source>ALARM TRIGGER SETUP</source>
@@ -1050,7 +1050,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>Connected at COM %1 %2</source>
-        <translation>Verbunden mit COM %1 %2</translation>
+        <translation>Verbunden mit COM-Port %1, %2</translation>
     </message>
     <message>
         <source>ACCESS</source>
@@ -1070,27 +1070,27 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>%1 KITCHEN PRINTER</source>
-        <translation>%1 KÜCHENDRUCKER</translation>
+        <translation>%1-KÜCHENDRUCKER</translation>
     </message>
     <message>
         <source>%1 LCD VERSION</source>
-        <translation>%1 LCD-VERSION</translation>
+        <translation>%1-LCD-VERSION</translation>
     </message>
     <message>
         <source>%1 PORT</source>
-        <translation>%1 ANSCHLUSS</translation>
+        <translation>%1-ANSCHLUSS</translation>
     </message>
     <message>
         <source>%1 PRINTERS</source>
-        <translation>%1 DRUCKER</translation>
+        <translation>%1-DRUCKER</translation>
     </message>
     <message>
         <source>%1 Printers SETTING</source>
-        <translation>%1 DRUCKER</translation>
+        <translation>%1-DRUCKER</translation>
     </message>
     <message>
         <source>%1 REM DISPLAY</source>
-        <translation>%1 FERNANZEIGE</translation>
+        <translation>%1, EXTERNE ANZEIGE</translation>
     </message>
     <message>
         <source>%1 Sec</source>
@@ -1102,15 +1102,15 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>%1 TERMINAL</source>
-        <translation>%1 TERMINAL</translation>
+        <translation>%1-TERMINAL</translation>
     </message>
     <message>
         <source>%1 [ NEW FMT ]</source>
-        <translation>%1 [ NEUES FORMAT ]</translation>
+        <translation>%1 [NEUES FORMAT]</translation>
     </message>
     <message>
         <source>%1 [ OLD FMT ]</source>
-        <translation>%1 [ ALTES FORMAT ]</translation>
+        <translation>%1 [ALTES FORMAT]</translation>
     </message>
     <message>
         <source>*** MAKE SURE HAVE UART DAUGHTER BOARD INSTALLED ***</source>
@@ -1130,7 +1130,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>ADS SET DISPLAY</source>
-        <translation>ADS ANZEIGE</translation>
+        <translation>ADS-ANZEIGE</translation>
     </message>
     <message>
         <source>ALARM DURATION</source>
@@ -1138,7 +1138,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>ALARM NO.</source>
-        <translation>ALARM NR.</translation>
+        <translation>ALARM-NR.</translation>
     </message>
     <message>
         <source>ALARM OUTPUTS</source>
@@ -1178,11 +1178,11 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>About</source>
-        <translation>Über</translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>About OVL Software</source>
-        <translation>Über OVL Software</translation>
+        <translation>Info über OVL Software</translation>
     </message>
     <message>
         <source>Address</source>
@@ -1222,7 +1222,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>Baudrate Scaning..</source>
-        <translation>Sucht die Baudrate..</translation>
+        <translation>Sucht die Baudrate…</translation>
     </message>
     <message>
         <source>CANADA</source>
@@ -1258,7 +1258,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>CONVENIENCE STORE</source>
-        <translation>KLEINER MARKT</translation>
+        <translation>MINIMARKT</translation>
     </message>
     <message>
         <source>CREDIT</source>
@@ -1270,7 +1270,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>CSL OLD</source>
-        <translation>CSL ALT</translation>
+        <translation>CSL (ALT)</translation>
     </message>
     <message>
         <source>CUSTOMER</source>
@@ -1290,7 +1290,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>Comport %1</source>
-        <translation>Comport %1</translation>
+        <translation>COM-Port %1</translation>
     </message>
     <message>
         <source>Console ID</source>
@@ -1314,11 +1314,11 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>DELTA JOURNAL</source>
-        <translation>DELTA JOURNAL</translation>
+        <translation>DELTA-JOURNAL</translation>
     </message>
     <message>
         <source>DELTA RECEIPT</source>
-        <translation>DELTA BELEG</translation>
+        <translation>DELTA-BELEG</translation>
     </message>
     <message>
         <source>DELTA SETTING</source>
@@ -1334,7 +1334,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>DESTIN TYPE</source>
-        <translation>TYP DES ZIELS</translation>
+        <translation>ZIELTYP</translation>
     </message>
     <message>
         <source>DEVICE</source>
@@ -1342,7 +1342,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>DEVICE ADDRESS</source>
-        <translation>ADRESSE DER QUELLE</translation>
+        <translation>QUELLADRESSE</translation>
     </message>
     <message>
         <source>DISABLED</source>
@@ -1378,19 +1378,19 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>DST IDN ID</source>
-        <translation>DST IDN ID</translation>
+        <translation>ZIEL-IDN-ID</translation>
     </message>
     <message>
         <source>DST ISN GNA</source>
-        <translation>DST ISN GNA</translation>
+        <translation>ZIEL-ISN-GNA</translation>
     </message>
     <message>
         <source>DST ISN LNA</source>
-        <translation>DST ISN LNA</translation>
+        <translation>ZIEL-ISN-LNA</translation>
     </message>
     <message>
         <source>DUPLICATE LINE</source>
-        <translation>GLEICHE ZEILE</translation>
+        <translation>DOPPELTE ZEILEN</translation>
     </message>
     <message>
         <source>DVR Selection</source>
@@ -1406,7 +1406,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>Demo On Power Up</source>
-        <translation>Vorführung nach dem Einschalten</translation>
+        <translation>Demo nach dem Einschalten</translation>
     </message>
     <message>
         <source>Device</source>
@@ -1414,7 +1414,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>Device address</source>
-        <translation>Adresse der Quelle</translation>
+        <translation>Quelladresse</translation>
     </message>
     <message>
         <source>Disconnect</source>
@@ -1434,7 +1434,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>Downloading . . .</source>
-        <translation>Schreibt . . .</translation>
+        <translation>Schreibt…</translation>
     </message>
     <message>
         <source>ECR NUMBER</source>
@@ -1442,7 +1442,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>EDACOM MODEL SETTING</source>
-        <translation>EDACOM MODELL EINSTELLEN</translation>
+        <translation>EDACOM-MODELL EINSTELLEN</translation>
     </message>
     <message>
         <source>EMAX</source>
@@ -1450,27 +1450,27 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>EMULATE</source>
-        <translation>EMULATE</translation>
+        <translation>EMULIEREN</translation>
     </message>
     <message>
         <source>EMULATE US</source>
-        <translation>EMULATE US</translation>
+        <translation>EMULIEREN US</translation>
     </message>
     <message>
         <source>EMULATING</source>
-        <translation>EMULATING</translation>
+        <translation>EMULIEREN</translation>
     </message>
     <message>
         <source>EPSON JOURNAL</source>
-        <translation>EPSON JOURNAL</translation>
+        <translation>EPSON-JOURNAL</translation>
     </message>
     <message>
         <source>EPSON RECEIPT</source>
-        <translation>EPSON BELEG</translation>
+        <translation>EPSON-BELEG</translation>
     </message>
     <message>
         <source>ESSO POLE DISPLAY</source>
-        <translation>ESSO KUNDENANZEIGE</translation>
+        <translation>ESSO-KUNDENANZEIGE</translation>
     </message>
     <message>
         <source>EUROPAD</source>
@@ -1482,7 +1482,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>EXCEPTION NO.</source>
-        <translation>AUSNAHME NR.</translation>
+        <translation>AUSNAHME-NR.</translation>
     </message>
     <message>
         <source>EXCEPTION REPORT</source>
@@ -1518,11 +1518,11 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>FLAG DURATION</source>
-        <translation>KENNZEICHENDAUER</translation>
+        <translation>MARKIERUNGSDAUER</translation>
     </message>
     <message>
         <source>FLAG TYPE</source>
-        <translation>KENNZEICHEN</translation>
+        <translation>MARKIERUNG</translation>
     </message>
     <message>
         <source>FLASH</source>
@@ -1534,7 +1534,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>FUJITSU %1 SET DISPLAY</source>
-        <translation>FUJITSU %1 ANZEIGE</translation>
+        <translation>FUJITSU-%1-ANZEIGE</translation>
     </message>
     <message>
         <source>FUJITSU SETTINGS</source>
@@ -1558,7 +1558,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>GENERIC</source>
-        <translation>GENERIC</translation>
+        <translation>ALLGEMEIN</translation>
     </message>
     <message>
         <source>GILBRACO</source>
@@ -1606,7 +1606,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>IBM RDS SET DISPLAY</source>
-        <translation>IBM RDS ANZEIGE</translation>
+        <translation>IBM-RDS-ANZEIGE</translation>
     </message>
     <message>
         <source>IN</source>
@@ -1638,7 +1638,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>JOURNAL EMULATING</source>
-        <translation>JOURNAL EMULATING</translation>
+        <translation>JOURNAL EMULIEREN</translation>
     </message>
     <message>
         <source>JOURNAL PRINTER</source>
@@ -1650,7 +1650,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>JOURNAL TAPPING</source>
-        <translation>JOURNAL TAPPING</translation>
+        <translation>JOURNAL MITHÖREN</translation>
     </message>
     <message>
         <source>LANGUAGE</source>
@@ -1658,7 +1658,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>LINE COMPRESS</source>
-        <translation>LEERZEILEN KÜRZEN</translation>
+        <translation>LEERZEILEN WEGLASSEN</translation>
     </message>
     <message>
         <source>LINE JUSTIFIED</source>
@@ -1666,7 +1666,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>LOAD HISTORY</source>
-        <translation>VERLAUF LADEN</translation>
+        <translation>VERLAUF AUSLESEN</translation>
     </message>
     <message>
         <source>LOCAL VSS</source>
@@ -1694,7 +1694,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>MICRELEC MODE</source>
-        <translation>MICRELEC MODUS</translation>
+        <translation>MICRELEC-MODUS</translation>
     </message>
     <message>
         <source>MICROS</source>
@@ -1706,11 +1706,11 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>MICROS IDN NETWORK</source>
-        <translation>MICROS IDN NETZWERK</translation>
+        <translation>MICROS-IDN-NETZWERK</translation>
     </message>
     <message>
         <source>MICROS ISN NETWORK</source>
-        <translation>MICROS ISN NETZWERK</translation>
+        <translation>MICROS-ISN-NETZWERK</translation>
     </message>
     <message>
         <source>MICROSS %1 %2</source>
@@ -1734,7 +1734,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>Make sure you are select correct the comport.</source>
-        <translation>Achten Sie darauf, den richtigen Comport zu wählen.</translation>
+        <translation>Achten Sie darauf, den richtigen COM-Port zu wählen.</translation>
     </message>
     <message>
         <source>Mode</source>
@@ -1758,43 +1758,43 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>NCR %1 (EMULATE)</source>
-        <translation>NCR %1 (EMULATE)</translation>
+        <translation>NCR %1 (EMULIEREN)</translation>
     </message>
     <message>
         <source>NCR %1 (POLE)</source>
-        <translation>NCR %1 (POLE)</translation>
+        <translation>NCR %1 (KUNDENANZEIGE)</translation>
     </message>
     <message>
         <source>NCR %1 (TAP)</source>
-        <translation>NCR %1 (TAP)</translation>
+        <translation>NCR %1 (MITHÖREN)</translation>
     </message>
     <message>
         <source>NCR %1 [POLE]</source>
-        <translation>NCR %1 [POLE]</translation>
+        <translation>NCR %1 [KUNDENANZEIGE]</translation>
     </message>
     <message>
         <source>NCR JOURNAL PRINTER</source>
-        <translation>NCR JOURNALDRUCKER</translation>
+        <translation>NCR-JOURNALDRUCKER</translation>
     </message>
     <message>
         <source>NCR JRNL PRINTER</source>
-        <translation>NCR JOURNALDRUCKER</translation>
+        <translation>NCR-JOURNALDRUCKER</translation>
     </message>
     <message>
         <source>NCR MODEL</source>
-        <translation>NCR MODELL</translation>
+        <translation>NCR-MODELL</translation>
     </message>
     <message>
         <source>NCR RCPT PRINTER</source>
-        <translation>NCR BELEGDRUCKER</translation>
+        <translation>NCR-BELEGDRUCKER</translation>
     </message>
     <message>
         <source>NCR RECEIPT PRINTER</source>
-        <translation>NCR BELEGDRUCKER</translation>
+        <translation>NCR-BELEGDRUCKER</translation>
     </message>
     <message>
         <source>NCR SLIP PRINTER</source>
-        <translation>NCR SLIPDRUCKER</translation>
+        <translation>NCR-SLIPDRUCKER</translation>
     </message>
     <message>
         <source>NIXDORF BEETLE</source>
@@ -1810,7 +1810,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>NONE</source>
-        <translation>KEINE</translation>
+        <translation>OHNE</translation>
     </message>
     <message>
         <source>NORAND</source>
@@ -1826,7 +1826,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>NUCLEUS PRINTER SETTING</source>
-        <translation>NUCLEUS DRUCKER EINSTELLEN</translation>
+        <translation>NUCLEUS-DRUCKER EINSTELLEN</translation>
     </message>
     <message>
         <source>Network</source>
@@ -1878,7 +1878,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>OPERATOR</source>
-        <translation>OPERATOR</translation>
+        <translation>VERGLEICH</translation>
     </message>
     <message>
         <source>OPERATOR DISPLAY</source>
@@ -2006,7 +2006,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>Point of sale</source>
-        <translation>Verkaufsstelle</translation>
+        <translation>Kassenplatz</translation>
     </message>
     <message>
         <source>Port</source>
@@ -2046,7 +2046,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>RECEIPT EMULATING</source>
-        <translation>BELEG EMULATING</translation>
+        <translation>BELEG EMULIEREN</translation>
     </message>
     <message>
         <source>RECEIPT PRINTER</source>
@@ -2054,7 +2054,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>RECEIPT TAPPING</source>
-        <translation>BELEG TAPPING</translation>
+        <translation>BELEG MITHÖREN</translation>
     </message>
     <message>
         <source>RECIEPT PRINTER ONLY</source>
@@ -2106,7 +2106,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>Register Demo</source>
-        <translation>Kassenvorführung</translation>
+        <translation>Kassendemo</translation>
     </message>
     <message>
         <source>Register ID</source>
@@ -2142,7 +2142,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>SCREEN BLANK</source>
-        <translation>BILD LEEREN</translation>
+        <translation>BILD LEEREN NACH</translation>
     </message>
     <message>
         <source>SCROLL DELAY</source>
@@ -2158,7 +2158,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>SET</source>
-        <translation>SETZEN</translation>
+        <translation>ÜBERNEHMEN</translation>
     </message>
     <message>
         <source>SET ADDRESS</source>
@@ -2178,15 +2178,15 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>SHARP %1 %2 SET DISPLAY</source>
-        <translation>SHARP %1 %2 ANZEIGE</translation>
+        <translation>SHARP-%1-%2-ANZEIGE</translation>
     </message>
     <message>
         <source>SHARP MODEL</source>
-        <translation>SHARP MODELL</translation>
+        <translation>SHARP-MODELL</translation>
     </message>
     <message>
         <source>SHOW</source>
-        <translation>ZEIGEN</translation>
+        <translation>ANZEIGEN</translation>
     </message>
     <message>
         <source>SICOM</source>
@@ -2202,19 +2202,19 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>SNA SOFTWARE</source>
-        <translation>SNA SOFTWARE</translation>
+        <translation>SNA-SOFTWARE</translation>
     </message>
     <message>
         <source>SOURCE TYPE</source>
-        <translation>TYP DER QUELLE</translation>
+        <translation>QUELLTYP</translation>
     </message>
     <message>
         <source>SPACE COMPRESS</source>
-        <translation>LEERZEICHEN KÜRZEN</translation>
+        <translation>LEERZEICHEN BEGRENZEN</translation>
     </message>
     <message>
         <source>SPEDI CCTV SET ADDRESS</source>
-        <translation>SPEDI CCTV ADRESSE</translation>
+        <translation>SPEDI-CCTV-ADRESSE</translation>
     </message>
     <message>
         <source>SRC ID</source>
@@ -2222,15 +2222,15 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>SRC IDN ID</source>
-        <translation>SRC IDN ID</translation>
+        <translation>QUELL-IDN-ID</translation>
     </message>
     <message>
         <source>SRC ISN GNA</source>
-        <translation>SRC ISN GNA</translation>
+        <translation>QUELL-ISN-GNA</translation>
     </message>
     <message>
         <source>SRC ISN LNA</source>
-        <translation>SRC ISN LNA</translation>
+        <translation>QUELL-ISN-LNA</translation>
     </message>
     <message>
         <source>STANDARD</source>
@@ -2238,7 +2238,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>STANDARD (Both)</source>
-        <translation>STANDARD (beide)</translation>
+        <translation>STANDARD (BEIDE)</translation>
     </message>
     <message>
         <source>SUNTRONIC</source>
@@ -2286,7 +2286,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>Set Comport</source>
-        <translation>Comport einstellen</translation>
+        <translation>COM-Port einstellen</translation>
     </message>
     <message>
         <source>Set Exception</source>
@@ -2294,23 +2294,23 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>Set Exception String</source>
-        <translation>Text ...</translation>
+        <translation>Text…</translation>
     </message>
     <message>
         <source>Set RANGE</source>
-        <translation>Bereich ...</translation>
+        <translation>Bereich…</translation>
     </message>
     <message>
         <source>Set Title</source>
-        <translation>Titel ...</translation>
+        <translation>Titel…</translation>
     </message>
     <message>
         <source>Set Trigger Text</source>
-        <translation>Text ...</translation>
+        <translation>Text…</translation>
     </message>
     <message>
         <source>Show Detail</source>
-        <translation>Details zeigen</translation>
+        <translation>Details anzeigen</translation>
     </message>
     <message>
         <source>Software</source>
@@ -2326,7 +2326,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>T/D DISPLAY</source>
-        <translation>UHR ZEIGEN</translation>
+        <translation>UHR ANZEIGEN</translation>
     </message>
     <message>
         <source>T/D LOCKING</source>
@@ -2334,15 +2334,15 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>TAP</source>
-        <translation>TAP</translation>
+        <translation>MITHÖREN</translation>
     </message>
     <message>
         <source>TAP US</source>
-        <translation>TAP US</translation>
+        <translation>MITHÖREN US</translation>
     </message>
     <message>
         <source>TAPPING</source>
-        <translation>TAPPING</translation>
+        <translation>MITHÖREN</translation>
     </message>
     <message>
         <source>TASMANIA</source>
@@ -2350,7 +2350,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>TCI ADDRESS</source>
-        <translation>TCI ADRESSE</translation>
+        <translation>TCI-ADRESSE</translation>
     </message>
     <message>
         <source>TEAM POS %1</source>
@@ -2366,11 +2366,11 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>TEC SLIP PRINTER</source>
-        <translation>TEC SLIPDRUCKER</translation>
+        <translation>TEC-SLIPDRUCKER</translation>
     </message>
     <message>
         <source>TEC SLIP PRINTER EMULATE</source>
-        <translation>TEC SLIPDRUCKER EMULATE</translation>
+        <translation>TEC-SLIPDRUCKER EMULIEREN</translation>
     </message>
     <message>
         <source>TERMINAL</source>
@@ -2390,7 +2390,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>TIME / LANGUAGE</source>
-        <translation>ZEIT / SPRACHE</translation>
+        <translation>ZEIT/SPRACHE</translation>
     </message>
     <message>
         <source>TIME FORMAT</source>
@@ -2414,7 +2414,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>TITLER</source>
-        <translation>TITEL ZEIGEN</translation>
+        <translation>TITEL ANZEIGEN</translation>
     </message>
     <message>
         <source>TKMAXX SETTING</source>
@@ -2430,11 +2430,11 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>TRIGGER TEXT</source>
-        <translation>AUSLÖSETEXT</translation>
+        <translation>ALARMTEXT</translation>
     </message>
     <message>
         <source>TRIGGERED TEXT</source>
-        <translation>AUSLÖSETEXT</translation>
+        <translation>ALARMTEXT</translation>
     </message>
     <message>
         <source>TRVX</source>
@@ -2494,11 +2494,11 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>Uploading . . .</source>
-        <translation>Liest aus . . .</translation>
+        <translation>Liest aus…</translation>
     </message>
     <message>
         <source>Use Current Time Date</source>
-        <translation>Aktuelle Zeit verwenden</translation>
+        <translation>Uhr des Computers verwenden</translation>
     </message>
     <message>
         <source>VECTRON</source>
@@ -2554,7 +2554,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>Comport</source>
-        <translation>Comport</translation>
+        <translation>COM-Port</translation>
     </message>
     <message>
         <source>Data Bits</source>
@@ -2584,8 +2584,8 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
 %1: %2</translation>
     </message>
     <message>
-        <source>no program opens folders</source>
-        <translation>kein Programm öffnet Ordner</translation>
+        <source>no program is installed that opens folders</source>
+        <translation>es gibt kein Programm zum Öffnen von Ordnern</translation>
     </message>
     <message>
         <source>Open the manual folder</source>
@@ -2639,18 +2639,18 @@ Die Hilfeseite %1 lässt sich nicht lesen: %2. Das Programm funktioniert ohne si
     <name>LinkDrawing</name>
     <message>
         <source>Port closed</source>
-        <translation>Port geschlossen</translation>
+        <translation>COM-Port geschlossen</translation>
     </message>
     <message>
         <source>Port open</source>
-        <translation>Port offen</translation>
+        <translation>COM-Port geöffnet</translation>
     </message>
     <message>
-        <source>Asking for remote</source>
-        <translation>Fernsteuerung angefragt</translation>
+        <source>Requesting remote mode</source>
+        <translation>Fernsteuerung angefordert</translation>
     </message>
     <message>
-        <source>Remote held</source>
+        <source>In remote mode</source>
         <translation>Ferngesteuert</translation>
     </message>
     <message>
@@ -2667,7 +2667,7 @@ Die Hilfeseite %1 lässt sich nicht lesen: %2. Das Programm funktioniert ohne si
     </message>
     <message>
         <source>Device lost</source>
-        <translation>Schnittstelle verloren</translation>
+        <translation>COM-Port ausgefallen</translation>
     </message>
     <message>
         <source>Computer</source>
@@ -2675,7 +2675,7 @@ Die Hilfeseite %1 lässt sich nicht lesen: %2. Das Programm funktioniert ohne si
     </message>
     <message>
         <source>Comport %1</source>
-        <translation>Comport %1</translation>
+        <translation>COM-Port %1</translation>
     </message>
     <message>
         <source>Link to the unit: %1</source>
@@ -2699,11 +2699,11 @@ Die Hilfeseite %1 lässt sich nicht lesen: %2. Das Programm funktioniert ohne si
     </message>
     <message>
         <source>Comport</source>
-        <translation>Comport</translation>
+        <translation>COM-Port</translation>
     </message>
     <message>
         <source>Progress of the baud rate scan</source>
-        <translation>Fortschritt der Suche nach der Baudrate</translation>
+        <translation>Fortschritt der Baudratensuche</translation>
     </message>
     <message>
         <source>%1 baud</source>
@@ -2765,7 +2765,7 @@ Die Hilfeseite %1 lässt sich nicht lesen: %2. Das Programm funktioniert ohne si
     </message>
     <message>
         <source>Arrows move, Enter picks.</source>
-        <translation>Pfeiltasten bewegen, Eingabe wählt.</translation>
+        <translation>Pfeiltasten zum Bewegen, Eingabetaste zum Wählen.</translation>
     </message>
 </context>
 <context>
@@ -2783,21 +2783,21 @@ Die Hilfeseite %1 lässt sich nicht lesen: %2. Das Programm funktioniert ohne si
     </message>
     <message>
         <source>Site sheet printed</source>
-        <translation>Anlagenblatt gedruckt</translation>
+        <translation>Konfigurationsblatt gedruckt</translation>
     </message>
     <message>
         <source>The site sheet was not printed</source>
-        <translation>Das Anlagenblatt wurde nicht gedruckt</translation>
+        <translation>Das Konfigurationsblatt wurde nicht gedruckt</translation>
     </message>
     <message>
         <source>Print Site Sheet...</source>
-        <translation>Anlagenblatt drucken...</translation>
+        <translation>Konfigurationsblatt drucken…</translation>
     </message>
 </context>
 <context>
     <name>Program</name>
     <message>
-        <source>The program&apos;s folder cannot be made.
+        <source>The program folder could not be created.
 
 %1</source>
         <translation>Der Programmordner lässt sich nicht anlegen.
@@ -2806,15 +2806,15 @@ Die Hilfeseite %1 lässt sich nicht lesen: %2. Das Programm funktioniert ohne si
     </message>
     <message>
         <source>%1
-Root sets the firmware, for instance: ovl-setup V1400 R12</source>
+To set the firmware, run as root, for instance: ovl-setup V1400 R12</source>
         <translation>%1
-root legt die Firmware fest, zum Beispiel: ovl-setup V1400 R12</translation>
+Die Firmware legt root fest, zum Beispiel mit: ovl-setup V1400 R12</translation>
     </message>
     <message>
         <source>%1
-The next start serves the same firmware as this one. Root sets another: ovl-setup %2</source>
+The next start serves the same firmware as this one. To set the other one, run as root: ovl-setup %2</source>
         <translation>%1
-Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere fest: ovl-setup %2</translation>
+Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root fest mit: ovl-setup %2</translation>
     </message>
     <message>
         <source>The program cannot keep a copy of your changes. %1</source>
@@ -2822,7 +2822,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>%1: rescued changes. Open them with &quot;File&quot;, &quot;Open&quot;</source>
-        <translation>%1: gerettete Änderungen. Öffnen Sie sie mit „Datei“, „Öffnen“</translation>
+        <translation>%1 enthält gerettete Änderungen. Öffnen Sie die Datei mit „Datei“, „Öffnen“.</translation>
     </message>
     <message>
         <source>The program could not restart. Exit, and start it again.</source>
@@ -2840,12 +2840,12 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
 <context>
     <name>Question</name>
     <message>
-        <source>It fits no firmware: it is cut, or damaged, or no configuration.</source>
-        <translation>Sie passt zu keiner Firmware: Sie ist abgeschnitten, beschädigt oder keine Konfiguration.</translation>
+        <source>It does not fit any firmware: it is cut off, damaged, or not a configuration.</source>
+        <translation>Die Datei passt zu keiner Firmware: Sie ist abgeschnitten, beschädigt oder keine Konfiguration.</translation>
     </message>
     <message>
         <source>It fits %1.</source>
-        <translation>Sie passt zu %1.</translation>
+        <translation>Die Datei passt zu %1.</translation>
     </message>
     <message>
         <source>This program serves %1.</source>
@@ -2857,29 +2857,29 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>Opening %1 ends the program.</source>
-        <translation>Das Öffnen von %1 beendet das Programm.</translation>
+        <translation>Beim Öffnen von %1 wird das Programm beendet.</translation>
     </message>
     <message>
         <source>This program serves %1 and reads it as such a file.</source>
-        <translation>Dieses Programm verwendet %1 und liest sie als eine solche Datei.</translation>
+        <translation>Dieses Programm verwendet %1 und liest die Datei in diesem Format.</translation>
     </message>
     <message>
-        <source>&quot;Save&quot; under %1 writes such files. A backup opens.</source>
-        <translation>„Speichern“ schreibt unter %1 solche Dateien. Eine Sicherung lässt sich öffnen.</translation>
+        <source>&quot;Save&quot; under %1 writes such files. Open a backup instead.</source>
+        <translation>Unter %1 erzeugt „Speichern“ solche Dateien. Eine Sicherung lässt sich dagegen öffnen.</translation>
     </message>
     <message>
         <source>Opening %1 puts settings in the wrong place.</source>
-        <translation>Das Öffnen von %1 setzt Einstellungen an die falsche Stelle.</translation>
+        <translation>Beim Öffnen von %1 geraten Einstellungen an die falsche Stelle.</translation>
     </message>
 </context>
 <context>
     <name>Reason</name>
     <message>
-        <source>it lacks the value</source>
+        <source>the value is missing</source>
         <translation>der Wert fehlt</translation>
     </message>
     <message>
-        <source>it holds a value that is neither text nor number</source>
+        <source>a value is neither text nor number</source>
         <translation>sie enthält einen Wert, der weder Text noch Zahl ist</translation>
     </message>
     <message>
@@ -2888,7 +2888,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>The configuration is not complete</source>
-        <translation>Die Konfiguration ist nicht vollständig</translation>
+        <translation>die Konfiguration ist nicht vollständig</translation>
     </message>
 </context>
 <context>
@@ -2906,7 +2906,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     <name>RegisterPage</name>
     <message>
         <source>Filter of the registers</source>
-        <translation>Filter der Kassen</translation>
+        <translation>Kassenfilter</translation>
     </message>
     <message>
         <source>Filter</source>
@@ -2917,15 +2917,15 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
         <translation>Zeigt nur die Kassen, deren Namen alle diese Wörter enthalten (Strg+F).</translation>
     </message>
     <message numerus="yes">
-        <source>Type to find, Enter picks. %n registers.</source>
+        <source>Type to find, Enter goes to the list. %n registers.</source>
         <translation>
-            <numerusform>Tippen sucht, Eingabe wählt. %n Kasse.</numerusform>
-            <numerusform>Tippen sucht, Eingabe wählt. %n Kassen.</numerusform>
+            <numerusform>Tippen sucht, Eingabetaste springt in die Liste. %n Kasse.</numerusform>
+            <numerusform>Tippen sucht, Eingabetaste springt in die Liste. %n Kassen.</numerusform>
         </translation>
     </message>
     <message>
         <source>No register has these words.</source>
-        <translation>Keine Kasse enthält diese Wörter.</translation>
+        <translation>Kein Kassenname enthält alle diese Wörter.</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n registers.</source>
@@ -2962,10 +2962,10 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     <name>RemotePage</name>
     <message>
         <source>The history is in %1.</source>
-        <translation>Der Verlauf ist in %1.</translation>
+        <translation>Der Verlauf wurde in %1 gespeichert.</translation>
     </message>
     <message>
-        <source>Puts the unit back to its factory settings at once.</source>
+        <source>Resets the unit to its factory settings at once.</source>
         <translation>Setzt das Gerät sofort auf die Werkseinstellungen zurück.</translation>
     </message>
     <message>
@@ -3028,11 +3028,11 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     <name>SettingWindow</name>
     <message>
         <source>Enter goes to the control. Ctrl+C copies the rows.</source>
-        <translation>Eingabe führt zum Bedienelement. Strg+C kopiert die Zeilen.</translation>
+        <translation>Die Eingabetaste springt zum Bedienelement. Strg+C kopiert die Zeilen.</translation>
     </message>
     <message>
         <source>Enter goes to the setting. Ctrl+C copies rows.</source>
-        <translation>Eingabe führt zur Einstellung. Strg+C kopiert Zeilen.</translation>
+        <translation>Die Eingabetaste springt zur Einstellung. Strg+C kopiert die Zeilen.</translation>
     </message>
 </context>
 <context>
@@ -3043,16 +3043,16 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>No port chosen</source>
-        <translation>Kein Port gewählt</translation>
+        <translation>Kein COM-Port gewählt</translation>
     </message>
     <message>
         <source>Comport %1, %2</source>
         <comment>number, device</comment>
-        <translation>Comport %1, %2</translation>
+        <translation>COM-Port %1, %2</translation>
     </message>
     <message>
         <source>Comport %1, %2: %3.</source>
-        <translation>Comport %1, %2: %3.</translation>
+        <translation>COM-Port %1, %2: %3.</translation>
     </message>
     <message>
         <source>The device belongs to the group %1.</source>
@@ -3067,35 +3067,35 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>Compare with File...</source>
-        <translation>Mit Datei vergleichen...</translation>
+        <translation>Mit Datei vergleichen…</translation>
     </message>
     <message>
         <source>Import Text...</source>
-        <translation>Text importieren...</translation>
+        <translation>Text importieren…</translation>
     </message>
     <message>
         <source>Export Text...</source>
-        <translation>Text exportieren...</translation>
+        <translation>Text exportieren…</translation>
     </message>
     <message>
         <source>Text written: %1</source>
-        <translation>Text geschrieben: %1</translation>
+        <translation>Text exportiert: %1</translation>
     </message>
     <message>
-        <source>No text written: %1</source>
-        <translation>Kein Text geschrieben: %1</translation>
+        <source>Text not written: %1</source>
+        <translation>Text nicht exportiert: %1</translation>
     </message>
     <message>
-        <source>%1 is not taken: nothing has changed.</source>
-        <translation>%1 wird nicht übernommen: Es hat sich nichts geändert.</translation>
+        <source>The program did not use %1. Nothing has changed.</source>
+        <translation>%1 wurde nicht übernommen. Es wurde nichts geändert.</translation>
     </message>
     <message>
         <source>%1 has errors and cannot be compared.</source>
         <translation>%1 enthält Fehler und lässt sich nicht vergleichen.</translation>
     </message>
     <message>
-        <source>%1 is a text of %2. This program serves %3, which does not have all of it.</source>
-        <translation>%1 ist ein Text für %2. Dieses Programm verwendet %3, das nicht alles davon hat.</translation>
+        <source>%1 is a text of %2. This program serves %3, which does not have all of its settings.</source>
+        <translation>%1 ist ein Text für %2. Dieses Programm verwendet %3, und dort gibt es nicht alle Einstellungen dieses Texts.</translation>
     </message>
     <message>
         <source>Import the Rest</source>
@@ -3119,7 +3119,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>Not compared: %1 is not a configuration of %2</source>
-        <translation>Nicht verglichen: %1 ist keine Konfiguration von %2</translation>
+        <translation>Nicht verglichen: %1 ist keine Konfiguration für %2</translation>
     </message>
     <message>
         <source>Not compared: %1</source>
@@ -3133,7 +3133,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
         <translation>Sie können nur Zeichen aus Windows-1252 eingeben.</translation>
     </message>
     <message>
-        <source>Only digits can be typed here.</source>
+        <source>You can type only digits here.</source>
         <translation>Hier können nur Ziffern eingegeben werden.</translation>
     </message>
     <message>
@@ -3145,7 +3145,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
         <translation>Hier ist nur Platz für %1 Zeichen.</translation>
     </message>
     <message>
-        <source>Only characters of Windows-1252 can be kept.</source>
+        <source>The program can store only characters of Windows-1252.</source>
         <translation>Nur Zeichen aus Windows-1252 können gespeichert werden.</translation>
     </message>
 </context>
@@ -3153,14 +3153,14 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     <name>TextRows</name>
     <message>
         <source>A click opens its window.</source>
-        <translation>Ein Klick öffnet das Fenster dazu.</translation>
+        <translation>Ein Klick öffnet das zugehörige Fenster.</translation>
     </message>
 </context>
 <context>
     <name>TextWindows</name>
     <message>
         <source>%1 of %2 characters. A ? matches any character.</source>
-        <translation>%1 von %2 Zeichen. Ein ? steht für ein beliebiges Zeichen.</translation>
+        <translation>%1 von %2 Zeichen. Ein „?“ steht für ein beliebiges Zeichen.</translation>
     </message>
     <message>
         <source>%1 of %2 characters.</source>
@@ -3168,7 +3168,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>Up to %1 digits, and %2 behind the separator: 5 becomes 05.</source>
-        <translation>Bis zu %1 Ziffern und %2 hinter dem Trennzeichen: Aus 5 wird 05.</translation>
+        <translation>Bis zu %1 Ziffern vor und %2 nach dem Trennzeichen; aus 5 wird dort 05.</translation>
     </message>
     <message>
         <source>The separator is the same for all exceptions. It is stored at once.</source>
@@ -3194,28 +3194,28 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
         <translation>Die Adresse, unter der das Gerät seine Verlaufsdaten an den Rekorder sendet.</translation>
     </message>
     <message>
-        <source>Reads the unit&apos;s whole configuration into this program. The unit leaves remote mode.</source>
-        <translation>Liest die ganze Konfiguration des Geräts in dieses Programm. Das Gerät verlässt den Fernsteuermodus.</translation>
+        <source>Reads the unit&apos;s whole configuration into this program. Press Remote first. The unit then leaves remote mode.</source>
+        <translation>Liest die ganze Konfiguration des Geräts in dieses Programm. Drücken Sie vorher „Fernsteuern“. Das Gerät verlässt den Fernsteuermodus.</translation>
     </message>
     <message>
-        <source>Writes the configuration shown here into the unit. The unit leaves remote mode.</source>
-        <translation>Schreibt die hier angezeigte Konfiguration in das Gerät. Das Gerät verlässt den Fernsteuermodus.</translation>
+        <source>Writes the configuration shown here into the unit. Press Remote first. The unit then leaves remote mode.</source>
+        <translation>Schreibt die hier angezeigte Konfiguration in das Gerät. Drücken Sie vorher „Fernsteuern“. Das Gerät verlässt den Fernsteuermodus.</translation>
     </message>
     <message>
-        <source>Sets the unit&apos;s clock to the date and time shown. The unit leaves remote mode.</source>
-        <translation>Stellt die Uhr des Geräts auf das angezeigte Datum und die angezeigte Uhrzeit. Das Gerät verlässt den Fernsteuermodus.</translation>
+        <source>Sets the unit&apos;s clock to the date and time shown. Press Remote first. The unit then leaves remote mode.</source>
+        <translation>Stellt die Uhr des Geräts auf das angezeigte Datum und die angezeigte Uhrzeit. Drücken Sie vorher „Fernsteuern“. Das Gerät verlässt den Fernsteuermodus.</translation>
     </message>
     <message>
-        <source>Reads the unit&apos;s history into a text file. The unit leaves remote mode.</source>
-        <translation>Liest den Verlauf des Geräts in eine Textdatei. Das Gerät verlässt den Fernsteuermodus.</translation>
+        <source>Reads the unit&apos;s history into a text file. Press Remote first. The unit then leaves remote mode.</source>
+        <translation>Liest den Verlauf des Geräts in eine Textdatei. Drücken Sie vorher „Fernsteuern“. Das Gerät verlässt den Fernsteuermodus.</translation>
     </message>
     <message>
-        <source>Asks the unit for remote mode, in which it obeys this program; pressed again, ends remote mode.</source>
-        <translation>Fragt beim Gerät den Fernsteuermodus an, in dem es diesem Programm gehorcht; ein zweiter Druck beendet den Fernsteuermodus.</translation>
+        <source>Puts the unit into remote mode, in which it follows this program. Press it again to end remote mode.</source>
+        <translation>Schaltet das Gerät in den Fernsteuermodus, in dem es diesem Programm folgt. Ein zweiter Druck beendet ihn.</translation>
     </message>
     <message>
-        <source>Puts the unit back to its factory settings at once, without a question.</source>
-        <translation>Setzt das Gerät sofort und ohne Rückfrage auf die Werkseinstellungen zurück.</translation>
+        <source>Resets the unit to its factory settings at once, without a question. Press Remote first.</source>
+        <translation>Setzt das Gerät sofort und ohne Rückfrage auf die Werkseinstellungen zurück. Drücken Sie vorher „Fernsteuern“.</translation>
     </message>
     <message>
         <source>Chooses and opens the serial port to which the unit is wired.</source>
@@ -3231,27 +3231,27 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>The month that SET TIME gives to the unit&apos;s clock.</source>
-        <translation>Der Monat, den UHR STELLEN der Uhr des Geräts gibt.</translation>
+        <translation>Der Monat, auf den UHR STELLEN die Uhr des Geräts stellt.</translation>
     </message>
     <message>
         <source>The day that SET TIME gives to the unit&apos;s clock.</source>
-        <translation>Der Tag, den UHR STELLEN der Uhr des Geräts gibt.</translation>
+        <translation>Der Tag, auf den UHR STELLEN die Uhr des Geräts stellt.</translation>
     </message>
     <message>
         <source>The year that SET TIME gives to the unit&apos;s clock.</source>
-        <translation>Das Jahr, das UHR STELLEN der Uhr des Geräts gibt.</translation>
+        <translation>Das Jahr, auf das UHR STELLEN die Uhr des Geräts stellt.</translation>
     </message>
     <message>
         <source>The hour that SET TIME gives to the unit&apos;s clock.</source>
-        <translation>Die Stunde, die UHR STELLEN der Uhr des Geräts gibt.</translation>
+        <translation>Die Stunde, auf die UHR STELLEN die Uhr des Geräts stellt.</translation>
     </message>
     <message>
         <source>The minute that SET TIME gives to the unit&apos;s clock.</source>
-        <translation>Die Minute, die UHR STELLEN der Uhr des Geräts gibt.</translation>
+        <translation>Die Minute, auf die UHR STELLEN die Uhr des Geräts stellt.</translation>
     </message>
     <message>
         <source>The second that SET TIME gives to the unit&apos;s clock.</source>
-        <translation>Die Sekunde, die UHR STELLEN der Uhr des Geräts gibt.</translation>
+        <translation>Die Sekunde, auf die UHR STELLEN die Uhr des Geräts stellt.</translation>
     </message>
     <message>
         <source>The progress of the transfer.</source>
@@ -3267,11 +3267,11 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>Data bits of a character; both ends must agree.</source>
-        <translation>Datenbits eines Zeichens; beide Seiten müssen übereinstimmen.</translation>
+        <translation>Die Datenbits eines Zeichens; beide Seiten müssen übereinstimmen.</translation>
     </message>
     <message>
         <source>Parity of a character; both ends must agree.</source>
-        <translation>Parität eines Zeichens; beide Seiten müssen übereinstimmen.</translation>
+        <translation>Die Parität eines Zeichens; beide Seiten müssen übereinstimmen.</translation>
     </message>
     <message>
         <source>Opens the port with these settings.</source>
@@ -3287,47 +3287,47 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>The kind of device that the unit replaces on the network.</source>
-        <translation>Die Art des Geräts, das das Gerät im Netzwerk ersetzt.</translation>
+        <translation>Die Art des Netzwerkgeräts, dessen Stelle dieses Gerät einnimmt.</translation>
     </message>
     <message>
         <source>The address of that device; ANY takes every address.</source>
-        <translation>Die Adresse dieses Netzwerkgeräts; ALLE nimmt jede Adresse.</translation>
+        <translation>Die Adresse dieses Netzwerkgeräts; ALLE lässt jede Adresse zu.</translation>
     </message>
     <message>
         <source>Whether the unit only listens (TAP) or answers as the device (EMULATE).</source>
-        <translation>Ob das Gerät nur mithört (TAP) oder anstelle des Netzwerkgeräts antwortet (EMULATE).</translation>
+        <translation>Ob das Gerät nur mithört (MITHÖREN) oder anstelle des Netzwerkgeräts antwortet (EMULIEREN).</translation>
     </message>
     <message>
         <source>The kind of device whose messages the unit takes; ANY takes all.</source>
-        <translation>Die Art des Netzwerkgeräts, dessen Meldungen das Gerät nimmt; ALLE nimmt alle.</translation>
+        <translation>Die Art des Netzwerkgeräts, dessen Meldungen das Gerät übernimmt; ALLE lässt jede Art zu.</translation>
     </message>
     <message>
         <source>The group address from which a message must come; ANY takes all.</source>
-        <translation>Die Gruppenadresse, von der eine Meldung kommen muss; ALLE nimmt alle.</translation>
+        <translation>Die Gruppenadresse, von der eine Meldung kommen muss; ALLE lässt jede zu.</translation>
     </message>
     <message>
         <source>The local address from which a message must come; ANY takes all.</source>
-        <translation>Die lokale Adresse, von der eine Meldung kommen muss; ALLE nimmt alle.</translation>
+        <translation>Die lokale Adresse, von der eine Meldung kommen muss; ALLE lässt jede zu.</translation>
     </message>
     <message>
         <source>The IDN number from which a message must come; ANY takes all.</source>
-        <translation>Die IDN-Nummer, von der eine Meldung kommen muss; ALLE nimmt alle.</translation>
+        <translation>Die IDN-Nummer, von der eine Meldung kommen muss; ALLE lässt jede zu.</translation>
     </message>
     <message>
         <source>The kind of device to which a message must go; ANY takes all.</source>
-        <translation>Die Art des Netzwerkgeräts, an das eine Meldung gehen muss; ALLE nimmt alle.</translation>
+        <translation>Die Art des Netzwerkgeräts, an das eine Meldung gehen muss; ALLE lässt jede Art zu.</translation>
     </message>
     <message>
         <source>The group address to which a message must go; ANY takes all.</source>
-        <translation>Die Gruppenadresse, an die eine Meldung gehen muss; ALLE nimmt alle.</translation>
+        <translation>Die Gruppenadresse, an die eine Meldung gehen muss; ALLE lässt jede zu.</translation>
     </message>
     <message>
         <source>The local address to which a message must go; ANY takes all.</source>
-        <translation>Die lokale Adresse, an die eine Meldung gehen muss; ALLE nimmt alle.</translation>
+        <translation>Die lokale Adresse, an die eine Meldung gehen muss; ALLE lässt jede zu.</translation>
     </message>
     <message>
         <source>The IDN number to which a message must go; ANY takes all.</source>
-        <translation>Die IDN-Nummer, an die eine Meldung gehen muss; ALLE nimmt alle.</translation>
+        <translation>Die IDN-Nummer, an die eine Meldung gehen muss; ALLE lässt jede zu.</translation>
     </message>
     <message>
         <source>Whether the unit acknowledges what the register sends.</source>
@@ -3335,7 +3335,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>The number of the register that the unit follows; seven digits are stored.</source>
-        <translation>Die Nummer der Kasse, der das Gerät folgt; gespeichert werden sieben Ziffern.</translation>
+        <translation>Die Nummer der Kasse, die das Gerät mithört; gespeichert werden sieben Ziffern.</translation>
     </message>
     <message>
         <source>Stores what this window shows; closing it otherwise stores nothing.</source>
@@ -3347,19 +3347,19 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>The model, which is fixed.</source>
-        <translation>Das Modell; es steht fest.</translation>
+        <translation>Das Modell; es lässt sich nicht ändern.</translation>
     </message>
     <message>
         <source>Whether the unit listens to the printer line (TAPPING) or answers as the printer (EMULATING).</source>
-        <translation>Ob das Gerät die Druckerleitung mithört (TAPPING) oder als Drucker antwortet (EMULATING).</translation>
+        <translation>Ob das Gerät die Druckerleitung mithört (MITHÖREN) oder als Drucker antwortet (EMULIEREN).</translation>
     </message>
     <message>
         <source>How the unit takes the text of this model; the choice is stored at once.</source>
-        <translation>Wie das Gerät den Text dieses Modells aufnimmt; die Wahl wird sofort gespeichert.</translation>
+        <translation>Wie das Gerät den Text dieses Modells empfängt; die Wahl wird sofort gespeichert.</translation>
     </message>
     <message>
         <source>The terminal whose text the unit takes; ANY takes them all.</source>
-        <translation>Das Terminal, dessen Text das Gerät nimmt; ALLE nimmt alle.</translation>
+        <translation>Das Terminal, dessen Text das Gerät übernimmt; ALLE lässt jedes zu.</translation>
     </message>
     <message>
         <source>Which of the 24 exceptions is shown here; the overview picks it as well.</source>
@@ -3371,15 +3371,15 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>Whether the unit passes a line on when this exception matches.</source>
-        <translation>Ob das Gerät eine Zeile weitergibt, wenn diese Ausnahme zutrifft.</translation>
+        <translation>Ob das Gerät eine Zeile ausgibt, wenn diese Ausnahme zutrifft.</translation>
     </message>
     <message>
         <source>Whether the unit keeps a line in its history buffer when this exception matches.</source>
-        <translation>Ob das Gerät eine Zeile in seinem Verlaufsspeicher behält, wenn diese Ausnahme zutrifft.</translation>
+        <translation>Ob das Gerät eine Zeile in seinem Verlaufsspeicher speichert, wenn diese Ausnahme zutrifft.</translation>
     </message>
     <message>
         <source>Whether this exception starts a scroll match; it then has no display, output or history of its own.</source>
-        <translation>Ob diese Ausnahme eine Mehrzeilensuche beginnt; sie hat dann keine eigene Anzeige, Ausgabe und keinen eigenen Verlauf.</translation>
+        <translation>Ob diese Ausnahme eine Mehrzeilensuche beginnt; sie hat dann keine eigene Anzeige, keine eigene Ausgabe und keinen eigenen Verlauf.</translation>
     </message>
     <message>
         <source>How the unit compares the amount on the line with the two values of the range.</source>
@@ -3387,7 +3387,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>The text that the unit looks for in what the register prints; ? matches any character.</source>
-        <translation>Der Text, den das Gerät in den Druckdaten der Kasse sucht; ? steht für ein beliebiges Zeichen.</translation>
+        <translation>Der Text, den das Gerät in den Druckdaten der Kasse sucht; „?“ steht für ein beliebiges Zeichen.</translation>
     </message>
     <message>
         <source>Opens a window in which the text to look for is typed.</source>
@@ -3435,23 +3435,23 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>How the unit marks the picture while an alarm is on; the same for all alarms.</source>
-        <translation>Wie das Gerät das Bild während eines Alarms kennzeichnet; für alle Alarme gleich.</translation>
+        <translation>Wie das Gerät das Bild während eines Alarms markiert; für alle Alarme gleich.</translation>
     </message>
     <message>
         <source>For how long the unit marks the picture, from 000 to 240 in steps of 2; the same for all alarms.</source>
-        <translation>Wie lange das Gerät das Bild kennzeichnet, von 000 bis 240 in Schritten von 2; für alle Alarme gleich.</translation>
+        <translation>Wie lange das Gerät das Bild markiert, von 000 bis 240 in Schritten von 2; für alle Alarme gleich.</translation>
     </message>
     <message>
         <source>What this alarm does when the video signal is lost: OFF nothing, MANUAL until somebody ends it, or for the time that is picked.</source>
-        <translation>Was dieser Alarm tut, wenn das Videosignal ausfällt: AUS nichts, MANUELL bis ihn jemand beendet, oder für die gewählte Zeit.</translation>
+        <translation>Was dieser Alarm tut, wenn das Videosignal ausfällt: bei AUS nichts, bei MANUELL Alarm, bis ihn jemand beendet, sonst Alarm für die gewählte Zeit.</translation>
     </message>
     <message>
         <source>Which of the unit&apos;s two types this alarm has, DWELL or TIMED.</source>
-        <translation>Welche der beiden Arten des Geräts dieser Alarm hat, VERWEILEN oder ZEIT.</translation>
+        <translation>Die Art dieses Alarms: VERWEILEN oder ZEIT.</translation>
     </message>
     <message>
         <source>The text that the unit shows or sends during this alarm.</source>
-        <translation>Der Text, den das Gerät während dieses Alarms zeigt oder sendet.</translation>
+        <translation>Der Text, den das Gerät während dieses Alarms anzeigt oder ausgibt.</translation>
     </message>
     <message>
         <source>Opens a window in which this alarm&apos;s text is typed.</source>
@@ -3463,11 +3463,11 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>Whether the unit sends the text on its line during this alarm.</source>
-        <translation>Ob das Gerät den Text während dieses Alarms auf seiner Leitung sendet.</translation>
+        <translation>Ob das Gerät den Text während dieses Alarms über seine Leitung ausgibt.</translation>
     </message>
     <message>
         <source>How long after the RTS signal the unit shows or sends the text of this alarm.</source>
-        <translation>Wie lange nach dem RTS-Signal das Gerät den Text dieses Alarms zeigt oder sendet.</translation>
+        <translation>Wie lange nach dem RTS-Signal das Gerät den Text dieses Alarms anzeigt oder ausgibt.</translation>
     </message>
     <message>
         <source>The fixed text that the unit writes in the picture, such as the shop&apos;s name.</source>
@@ -3479,23 +3479,23 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>After power up the unit plays a built-in register, so that the picture can be tried without one.</source>
-        <translation>Nach dem Einschalten spielt das Gerät eine eingebaute Kasse ab, damit sich das Bild ohne Kasse testen lässt.</translation>
+        <translation>Nach dem Einschalten spielt das Gerät die Daten einer Demokasse ab, damit sich das Bild ohne Kasse testen lässt.</translation>
     </message>
     <message>
         <source>How many characters a line of the demo has.</source>
-        <translation>Wie viele Zeichen eine Zeile der Vorführung hat.</translation>
+        <translation>Wie viele Zeichen eine Zeile der Demo hat.</translation>
     </message>
     <message>
         <source>The kind of shop whose receipts the demo plays.</source>
-        <translation>Die Art des Geschäfts, dessen Belege die Vorführung abspielt.</translation>
+        <translation>Die Art des Geschäfts, dessen Belege die Demo abspielt.</translation>
     </message>
     <message>
         <source>How much time the demo takes for a line.</source>
-        <translation>Wie viel Zeit die Vorführung für eine Zeile braucht.</translation>
+        <translation>Wie viel Zeit die Demo für eine Zeile braucht.</translation>
     </message>
     <message>
         <source>The text that the unit keeps, 40 characters at most.</source>
-        <translation>Der Text, den das Gerät behält, höchstens 40 Zeichen.</translation>
+        <translation>Der Text, den das Gerät speichert, höchstens 40 Zeichen.</translation>
     </message>
     <message>
         <source>Stores the text and closes this window.</source>
@@ -3503,7 +3503,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>Empties the text; only SET stores it.</source>
-        <translation>Leert den Text; erst SETZEN speichert ihn.</translation>
+        <translation>Leert den Text; erst ÜBERNEHMEN speichert ihn.</translation>
     </message>
     <message>
         <source>The two digits of the first value behind the separator.</source>
@@ -3523,7 +3523,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>Sets both values to zero, which only SET stores, and the separator to &quot;.&quot; at once.</source>
-        <translation>Setzt beide Werte auf null, was erst SETZEN speichert, und das Trennzeichen sofort auf „.“.</translation>
+        <translation>Setzt beide Werte auf 0 (erst ÜBERNEHMEN speichert sie) und das Trennzeichen sofort auf „.“.</translation>
     </message>
     <message>
         <source>The text of the file; it can be marked and copied.</source>
@@ -3531,7 +3531,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>How the unit is wired to the register: on an RS-232 line of its own, as a passive tap, or on a bus.</source>
-        <translation>Wie das Gerät mit der Kasse verbunden ist: mit einer eigenen RS-232-Leitung, als passiver Abgriff oder an einem Bus.</translation>
+        <translation>Wie das Gerät mit der Kasse verbunden ist: über eine eigene RS-232-Leitung, als passiver Abgriff oder an einem Bus.</translation>
     </message>
     <message>
         <source>The speed at which the unit listens to the register; AUTO finds it by itself.</source>
@@ -3559,7 +3559,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>The form in which the unit sends its text on to the recorder; a choice for a MASTER only.</source>
-        <translation>Die Form, in der das Gerät seinen Text an den Rekorder weitergibt; wählbar nur bei MASTER.</translation>
+        <translation>Das Format, in dem das Gerät seinen Text an den Rekorder ausgibt; nur bei MASTER wählbar.</translation>
     </message>
     <message>
         <source>Whether characters on the register line control the flow.</source>
@@ -3567,7 +3567,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>The role of the unit in the network: none, master, slave, or generic.</source>
-        <translation>Die Rolle des Geräts im Netzwerk: keine, Master, Slave oder allgemein.</translation>
+        <translation>Die Rolle des Geräts im Netzwerk: OHNE, MASTER, SLAVE oder ALLGEMEIN.</translation>
     </message>
     <message>
         <source>The network address of this unit.</source>
@@ -3583,7 +3583,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>Only a master has a choice of transmit protocol.</source>
-        <translation>Nur ein Master hat die Wahl des Sendeprotokolls.</translation>
+        <translation>Das Sendeprotokoll lässt sich nur bei MASTER wählen.</translation>
     </message>
     <message>
         <source>This role in the network has no address.</source>
@@ -3591,11 +3591,11 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>Without a network there is no protocol to pick.</source>
-        <translation>Ohne Netzwerk gibt es kein Protokoll zu wählen.</translation>
+        <translation>Ohne Netzwerk lässt sich kein Protokoll wählen.</translation>
     </message>
     <message>
         <source>Minutes without text after which the unit clears the picture; every pick but 10 also sets DISPLAY FORMAT, LINE COMPRESS and SCROLL DELAY back.</source>
-        <translation>Minuten ohne Text, nach denen das Gerät das Bild leert; jede Auswahl außer 10 setzt auch TEXTPOSITION, LEERZEILEN KÜRZEN und ROLLVERZÖGERUNG zurück.</translation>
+        <translation>Minuten ohne Text, nach denen das Gerät das Bild leert; jede Auswahl außer 10 setzt auch TEXTPOSITION, LEERZEILEN WEGLASSEN und ROLLVERZÖGERUNG zurück.</translation>
     </message>
     <message>
         <source>How many lines of text the unit shows; title and clock need a line each.</source>
@@ -3603,7 +3603,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>Whether the text is at the top or at the bottom of the picture.</source>
-        <translation>Ob der Text oben oder unten im Bild ist.</translation>
+        <translation>Ob der Text oben oder unten im Bild steht.</translation>
     </message>
     <message>
         <source>Whether the unit leaves out empty lines.</source>
@@ -3631,7 +3631,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>Whether the unit shows its clock in the picture; it takes a line of the text.</source>
-        <translation>Ob das Gerät seine Uhr im Bild zeigt; sie braucht eine Zeile des Texts.</translation>
+        <translation>Ob das Gerät seine Uhr im Bild zeigt; sie braucht eine Textzeile.</translation>
     </message>
     <message>
         <source>How the unit shows the hour.</source>
@@ -3651,7 +3651,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>Whether the unit shows the title in the picture; it takes a line of the text.</source>
-        <translation>Ob das Gerät den Titel im Bild zeigt; er braucht eine Zeile des Texts.</translation>
+        <translation>Ob das Gerät den Titel im Bild zeigt; er braucht eine Textzeile.</translation>
     </message>
     <message>
         <source>The language of the unit&apos;s own texts.</source>
@@ -3659,7 +3659,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>Whether the unit reports exceptions on its line.</source>
-        <translation>Ob das Gerät Ausnahmen auf seiner Leitung meldet.</translation>
+        <translation>Ob das Gerät Ausnahmen über seine Leitung meldet.</translation>
     </message>
     <message>
         <source>Whether the unit puts the time in front of a report.</source>
@@ -3667,7 +3667,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>Whether the unit reports a line again that is the same as the last.</source>
-        <translation>Ob das Gerät eine Zeile erneut meldet, die der letzten gleicht.</translation>
+        <translation>Ob das Gerät eine Zeile erneut meldet, wenn sie der vorigen gleicht.</translation>
     </message>
     <message>
         <source>A digit of the ID of the register to which the unit listens.</source>
@@ -3675,15 +3675,15 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>A digit of the register&apos;s address to which the unit listens; also sets the whole register line.</source>
-        <translation>Eine Ziffer der Adresse der Kasse, die das Gerät mithört; legt auch die ganze Kassenleitung fest.</translation>
+        <translation>Eine Ziffer der Adresse der Kasse, die das Gerät mithört; legt auch alle Einstellungen der Kassenleitung fest.</translation>
     </message>
     <message>
         <source>One of the four numbers of the IP address from which the unit takes its text.</source>
-        <translation>Eine der vier Zahlen der IP-Adresse, von der das Gerät seinen Text nimmt.</translation>
+        <translation>Eine der vier Zahlen der IP-Adresse, von der das Gerät seinen Text bezieht.</translation>
     </message>
     <message>
         <source>One of the four numbers of the IP address; this firmware shows it but keeps no change.</source>
-        <translation>Eine der vier Zahlen der IP-Adresse; diese Firmware zeigt sie, behält aber keine Änderung.</translation>
+        <translation>Eine der vier Zahlen der IP-Adresse; diese Firmware zeigt sie, speichert aber keine Änderung.</translation>
     </message>
     <message>
         <source>Opens the further settings of the chosen model, if it has any.</source>
@@ -3699,27 +3699,27 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>The address of the device whose text the unit takes; ANY takes them all.</source>
-        <translation>Die Adresse der Quelle, deren Text das Gerät nimmt; ALLE nimmt alle.</translation>
+        <translation>Die Adresse der Quelle, deren Text das Gerät übernimmt; ALLE lässt jede zu.</translation>
     </message>
     <message>
         <source>The address of the register that the unit follows, ANY for all; also sets the register line&apos;s speed.</source>
-        <translation>Die Adresse der Kasse, der das Gerät folgt, ALLE für alle; legt auch die Baudrate der Kassenleitung fest.</translation>
+        <translation>Die Adresse der Kasse, die das Gerät mithört, ALLE für alle Kassen; legt auch die Baudrate der Kassenleitung fest.</translation>
     </message>
     <message>
         <source>The address of the register that the unit follows; ALL follows every register.</source>
-        <translation>Die Adresse der Kasse, der das Gerät folgt; ALLE folgt jeder Kasse.</translation>
+        <translation>Die Adresse der Kasse, die das Gerät mithört; ALLE lässt jede Kasse zu.</translation>
     </message>
     <message>
         <source>The address under which the register calls the unit; ANY takes the text of every address.</source>
-        <translation>Die Adresse, unter der die Kasse das Gerät anspricht; ALLE nimmt den Text jeder Adresse.</translation>
+        <translation>Die Adresse, unter der die Kasse das Gerät anspricht; ALLE lässt jede Adresse zu.</translation>
     </message>
     <message>
         <source>The console whose text the unit takes; ANY takes them all.</source>
-        <translation>Die Konsole, deren Text das Gerät nimmt; ALLE nimmt alle.</translation>
+        <translation>Die Konsole, deren Text das Gerät übernimmt; ALLE lässt jede zu.</translation>
     </message>
     <message>
         <source>The device of the register whose text the unit takes.</source>
-        <translation>Das Gerät der Kasse, dessen Text das Gerät nimmt.</translation>
+        <translation>Der Teil der Kasse, dessen Text das Gerät übernimmt.</translation>
     </message>
     <message>
         <source>The device on the line to which the unit is wired.</source>
@@ -3727,7 +3727,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>The device whose text the unit takes.</source>
-        <translation>Die Quelle, deren Text das Gerät nimmt.</translation>
+        <translation>Die Quelle, deren Text das Gerät übernimmt.</translation>
     </message>
     <message>
         <source>The kind of device to whose line the unit listens.</source>
@@ -3747,27 +3747,27 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>The printer in whose place the unit answers; also sets the register line.</source>
-        <translation>Der Drucker, anstelle dessen das Gerät antwortet; legt auch die Kassenleitung fest.</translation>
+        <translation>Der Drucker, an dessen Stelle das Gerät antwortet; legt auch die Einstellungen der Kassenleitung fest.</translation>
     </message>
     <message>
         <source>The printer of the 7059 whose text the unit takes.</source>
-        <translation>Der Drucker der 7059, dessen Text das Gerät nimmt.</translation>
+        <translation>Der Drucker des Modells 7059, dessen Text das Gerät übernimmt.</translation>
     </message>
     <message>
         <source>The printer of the point of sale that the unit taps; also sets the register line.</source>
-        <translation>Der Drucker der Verkaufsstelle, den das Gerät mithört; legt auch die Kassenleitung fest.</translation>
+        <translation>Der Drucker des Kassenplatzes, den das Gerät mithört; legt auch die Einstellungen der Kassenleitung fest.</translation>
     </message>
     <message>
         <source>The printer or terminal whose text the unit takes; the choice also sets the register line&apos;s speed.</source>
-        <translation>Der Drucker oder das Terminal, dessen Text das Gerät nimmt; die Wahl legt auch die Baudrate der Kassenleitung fest.</translation>
+        <translation>Der Drucker oder das Terminal, dessen Text das Gerät übernimmt; die Wahl legt auch die Baudrate der Kassenleitung fest.</translation>
     </message>
     <message>
         <source>The printer whose text the unit takes.</source>
-        <translation>Der Drucker, dessen Text das Gerät nimmt.</translation>
+        <translation>Der Drucker, dessen Text das Gerät übernimmt.</translation>
     </message>
     <message>
         <source>The printer whose text the unit takes: by listening (TAPPING) or in the printer&apos;s place (EMULATING).</source>
-        <translation>Der Drucker, dessen Text das Gerät nimmt: durch Mithören (TAPPING) oder anstelle des Druckers (EMULATING).</translation>
+        <translation>Der Drucker, dessen Text das Gerät übernimmt: durch Mithören (MITHÖREN) oder an seiner Stelle (EMULIEREN).</translation>
     </message>
     <message>
         <source>The printer, and the line to which the unit is wired.</source>
@@ -3775,11 +3775,11 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>The register or printer whose print stream the unit reads; TAP listens, EMULATE answers as the printer.</source>
-        <translation>Die Kasse oder der Drucker, deren Druckdaten das Gerät liest; TAP hört mit, EMULATE antwortet als Drucker.</translation>
+        <translation>Die Kasse oder der Drucker, dessen Druckdaten das Gerät liest; MITHÖREN hört mit, EMULIEREN antwortet als Drucker.</translation>
     </message>
     <message>
         <source>The register or printer whose text the unit reads; a few have a further choice below.</source>
-        <translation>Die Kasse oder der Drucker, deren Text das Gerät liest; einige haben darunter eine weitere Wahl.</translation>
+        <translation>Die Kasse oder der Drucker, dessen Text das Gerät liest; zu einigen gibt es darunter eine weitere Auswahl.</translation>
     </message>
     <message>
         <source>The register system whose messages the unit reads.</source>
@@ -3823,23 +3823,23 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>The terminal whose text the unit takes; also sets the register line.</source>
-        <translation>Das Terminal, dessen Text das Gerät nimmt; legt auch die Kassenleitung fest.</translation>
+        <translation>Das Terminal, dessen Text das Gerät übernimmt; legt auch die Einstellungen der Kassenleitung fest.</translation>
     </message>
     <message>
         <source>The unit takes the security messages of the register; also sets the register line.</source>
-        <translation>Das Gerät nimmt die Sicherheitsmeldungen der Kasse; legt auch die Kassenleitung fest.</translation>
+        <translation>Das Gerät übernimmt die Sicherheitsmeldungen der Kasse; legt auch die Einstellungen der Kassenleitung fest.</translation>
     </message>
     <message>
         <source>Whether the unit listens (TAP) or answers as the printer (EMULATE); also sets the register line&apos;s speed.</source>
-        <translation>Ob das Gerät mithört (TAP) oder als Drucker antwortet (EMULATE); legt auch die Baudrate der Kassenleitung fest.</translation>
+        <translation>Ob das Gerät mithört (MITHÖREN) oder als Drucker antwortet (EMULIEREN); legt auch die Baudrate der Kassenleitung fest.</translation>
     </message>
     <message>
         <source>Whether the unit listens to the printer line (TAP) or answers as the printer (EMULATE).</source>
-        <translation>Ob das Gerät die Druckerleitung mithört (TAP) oder als Drucker antwortet (EMULATE).</translation>
+        <translation>Ob das Gerät die Druckerleitung mithört (MITHÖREN) oder als Drucker antwortet (EMULIEREN).</translation>
     </message>
     <message>
         <source>Whether the unit listens to the printer line (TAP) or answers as the printer (EMULATE); US for registers of the United States.</source>
-        <translation>Ob das Gerät die Druckerleitung mithört (TAP) oder als Drucker antwortet (EMULATE); US für Kassen der Vereinigten Staaten.</translation>
+        <translation>Ob das Gerät die Druckerleitung mithört (MITHÖREN) oder als Drucker antwortet (EMULIEREN); US für Kassen aus den USA.</translation>
     </message>
     <message>
         <source>Whether the unit listens to the printer line or answers as the printer; also sets the register line&apos;s speed.</source>
@@ -3847,7 +3847,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>Whether the unit only listens (TAP) or acknowledges what the register sends (ACK); also sets the register line.</source>
-        <translation>Ob das Gerät nur mithört (TAP) oder bestätigt, was die Kasse sendet (ACK); legt auch die Kassenleitung fest.</translation>
+        <translation>Ob das Gerät nur mithört (MITHÖREN) oder bestätigt, was die Kasse sendet (ACK); legt auch die Einstellungen der Kassenleitung fest.</translation>
     </message>
     <message>
         <source>Whether the unit shows the title above the register&apos;s text.</source>
@@ -3855,11 +3855,11 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>Whether the unit shows the title above the register&apos;s text; also sets TITLER.</source>
-        <translation>Ob das Gerät den Titel über dem Text der Kasse zeigt; legt auch TITEL ZEIGEN fest.</translation>
+        <translation>Ob das Gerät den Titel über dem Text der Kasse zeigt; legt auch TITEL ANZEIGEN fest.</translation>
     </message>
     <message>
         <source>Whether the unit takes the descriptions out of the register&apos;s XML messages.</source>
-        <translation>Ob das Gerät die Beschreibungen aus den XML-Meldungen der Kasse nimmt.</translation>
+        <translation>Ob das Gerät die Beschreibungen aus den XML-Meldungen der Kasse übernimmt.</translation>
     </message>
     <message>
         <source>Whether the unit uses the register ID below.</source>
@@ -3867,7 +3867,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>Whether the unit writes this kind of information over the picture.</source>
-        <translation>Ob das Gerät diese Art von Information über das Bild schreibt.</translation>
+        <translation>Ob das Gerät diese Art von Information ins Bild schreibt.</translation>
     </message>
     <message>
         <source>Which of the register&apos;s texts the unit shows.</source>
@@ -3879,19 +3879,19 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>Which printer of the 9500 the unit follows; the choice also sets speed, parity and data bits of the register line.</source>
-        <translation>Welchem Drucker der 9500 das Gerät folgt; die Wahl legt auch Baudrate, Parität und Datenbits der Kassenleitung fest.</translation>
+        <translation>Welchen Drucker des Modells 9500 das Gerät mithört; die Wahl legt auch Baudrate, Parität und Datenbits der Kassenleitung fest.</translation>
     </message>
     <message>
         <source>Which printer&apos;s text the unit takes from the register.</source>
-        <translation>Welchen Druckertext das Gerät von der Kasse nimmt.</translation>
+        <translation>Welchen Druckertext das Gerät von der Kasse übernimmt.</translation>
     </message>
     <message>
         <source>Which printer&apos;s text the unit takes from the terminal; MIXED takes both.</source>
-        <translation>Welchen Druckertext das Gerät vom Terminal nimmt; GEMISCHT nimmt beide.</translation>
+        <translation>Welchen Druckertext das Gerät vom Terminal übernimmt; GEMISCHT übernimmt beide.</translation>
     </message>
     <message>
         <source>Whose display the unit follows; the choice also sets speed, parity and data bits of the register line.</source>
-        <translation>Wessen Anzeige das Gerät folgt; die Wahl legt auch Baudrate, Parität und Datenbits der Kassenleitung fest.</translation>
+        <translation>Wessen Anzeige das Gerät mithört; die Wahl legt auch Baudrate, Parität und Datenbits der Kassenleitung fest.</translation>
     </message>
 </context>
 <context>
@@ -3929,8 +3929,8 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
 <context>
     <name>UnsavedCopy</name>
     <message>
-        <source>its lock cannot be made</source>
-        <translation>die Sperre lässt sich nicht anlegen</translation>
+        <source>its lock file could not be created</source>
+        <translation>die Sperrdatei lässt sich nicht anlegen</translation>
     </message>
 </context>
 <context>
@@ -3957,7 +3957,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. root legt eine andere
     </message>
     <message>
         <source>The language changes at the next start.</source>
-        <translation>Die Sprache ändert sich beim nächsten Start.</translation>
+        <translation>Die neue Sprache gilt ab dem nächsten Start.</translation>
     </message>
     <message>
         <source>Vie&amp;w</source>

@@ -13,7 +13,8 @@ using phrases::Words;
 // "It fits V1300R14, V1300R15."
 Words FitText(const std::vector<image::FirmwareFit>& fits) {
   if (fits.empty())
-    return Sentence(Pattern("Question", "It fits no firmware: it is cut, or damaged, or no configuration."));
+    return Sentence(
+        Pattern("Question", "It does not fit any firmware: it is cut off, damaged, or not a configuration."));
   std::string names;
   for (const auto& fit : fits) names += (names.empty() ? "" : ", ") + fit.firmware.Joined();
   return Sentence(Pattern("Question", "It fits %1."), {names});
@@ -41,8 +42,8 @@ Question QuestionOfShift(const std::string& file, const Inspection& inspection, 
       Sentence(Pattern("Question", "This program serves %1 and reads it as such a file."), {served}));
   if (!saved_files_reopen) {
     detail = Followed(
-        detail,
-        Sentence(Pattern("Question", "\"Save\" under %1 writes such files. A backup opens."), {served}));
+        detail, Sentence(Pattern("Question", "\"Save\" under %1 writes such files. Open a backup instead."),
+                         {served}));
   }
   return {Sentence(Pattern("Question", "Opening %1 puts settings in the wrong place."), {file}), detail};
 }

@@ -102,7 +102,7 @@ constexpr std::string_view kTrigger = "ComboALM(1)";
 
 constexpr std::array kRules = {
     Rule{"alarm-without-exception", kWarning,
-         "Only free exceptions trigger alarm %1 (%2), so %3 sets it off.", Place::kAlarmOutputs, kTrigger,
+         "Only free exceptions trigger alarm %1 (%2), so %3 triggers it.", Place::kAlarmOutputs, kTrigger,
          WithoutException},
     Rule{"text-never-comes", kWarning,
          "Alarm %1 has a text to show or to send, but nothing triggers the alarm.", Place::kAlarmOutputs,

@@ -242,8 +242,8 @@ constexpr std::array kRules = {
          "The text of exception %1 is only \"?\", which matches any character.", Place::kExceptionReport,
          kText, MatchesEverything},
     Rule{"scroll-matching-alone", kWarning,
-         "Exception %1 has SCROLL MATCHING, so its DISPLAY, OUTPUT and HISTORY BUFFER can go to OFF when it "
-         "is looked at.",
+         "Exception %1 has SCROLL MATCHING, so its DISPLAY, OUTPUT and HISTORY BUFFER can change to OFF when "
+         "the tab shows it.",
          Place::kExceptionReport, kScrollMatching, ScrollMatchingAlone},
     Rule{"display-off", kWarning, "DISPLAY of %1 is ON, but DISPLAY of the text display is OFF.",
          Place::kText, "ComboDIP(6)", DisplayOff},

@@ -260,13 +260,13 @@ Hits DefaultImageOfOther(Subject& subject) {
 
 constexpr std::array kRules = {
     Rule{"download-shifted", kError,
-         "%1 holds bytes: %2, where %4 reads %3, so a download shifts everything behind it.",
+         "%1 has this number of bytes: %2. %4 reads %3, so a download moves everything behind it.",
          Place::kRegister, kRegisterList, DownloadShifted},
-    Rule{"options-hidden", kError, "The options of %1 are hidden: %2 holds %3, which is not in its list.",
+    Rule{"options-hidden", kError, "The options of %1 are hidden: %2 contains %3, which is not in its list.",
          Place::kRegister, kRegisterList, OptionsHidden},
-    Rule{"value-without-entry", kError, "%1 holds %2, for which the list has no entry.", Place::kRegister,
+    Rule{"value-without-entry", kError, "%1 contains %2, for which its list has no entry.", Place::kRegister,
          kRegisterList, WithoutEntry},
-    Rule{"not-as-picked", kWarning, "%1 shows \"%2\", but %3 holds %4, and a pick of \"%2\" stores %5.",
+    Rule{"not-as-picked", kWarning, "%1 shows \"%2\", but %3 contains %4, and a pick of \"%2\" stores %5.",
          Place::kRegister, kRegisterList, NotAsPicked},
     Rule{"image-of-other-register", kWarning,
          "%1 is %2, but the default image of %3 has %4, as if another register had been picked.",

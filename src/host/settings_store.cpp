@@ -156,14 +156,13 @@ core::Result SettingsStore::Write(std::string_view key, std::string_view value, 
 }
 
 std::string SettingsStore::WhyNotRead() const {
-  const auto lacks_value = QCoreApplication::translate("Reason", "it lacks the value");
+  const auto lacks_value = QCoreApplication::translate("Reason", "the value is missing");
   if (Path().isEmpty()) return FailureOf(RegistryPlace(), lacks_value).Text();
   QFile file(Path());
   const auto path = QDir::toNativeSeparators(file.fileName());
   if (!file.open(QIODevice::ReadOnly)) return FailureOf(path, file.errorString()).Text();
   const auto reason =
-      IsSound() ? lacks_value
-                : QCoreApplication::translate("Reason", "it holds a value that is neither text nor number");
+      IsSound() ? lacks_value : QCoreApplication::translate("Reason", "a value is neither text nor number");
   return FailureOf(path, reason).Text();
 }
 

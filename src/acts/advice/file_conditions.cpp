@@ -48,7 +48,7 @@ Words AboutSavedFiles(const core::Application& app, const Words& problem, const 
   if (firmware::SavedFileReopens(app.image_firmware)) return phrases::SideBySide({problem, blank, cure});
   return phrases::SideBySide(
       {problem, blank,
-       Sentence(Pattern("Advice", "Files that \"Save\" writes under this firmware have this form.")), blank,
+       Sentence(Pattern("Advice", "Files that \"Save\" writes under this firmware have this format.")), blank,
        cure});
 }
 
@@ -65,38 +65,33 @@ Advice UploadNotTaken(const core::Application& app, const Observed& observed) {
   const auto& problem = observed.files.UploadProblem();
   const auto of_image = RegisterOfImage(app);
   if (problem.empty() || app.frmMain.ComboReg.Text() == of_image) return {};
-  return GoToRegisterList(
-      app,
-      Sentence(
-          Pattern("Advice",
-                  "The upload was not taken: %1. The list shows %2, but the configuration is still that of "
-                  "%3. Upload again, or pick %3."),
-          {problem, app.frmMain.ComboReg.Text(), of_image}));
+  return GoToRegisterList(app, Sentence(Pattern("Advice",
+                                                "The program could not use the upload: %1. The list shows "
+                                                "%2, but the configuration is still that of "
+                                                "%3. Upload again, or pick %3."),
+                                        {problem, app.frmMain.ComboReg.Text(), of_image}));
 }
 
 Advice RegisterReset(const core::Application& app, const Observed& observed) {
   const auto& reset = observed.files.Reset();
   if (!reset || app.image[FieldId::REGTYPE] != reset->code) return {};
-  return {
-      AdviceId::kCount,
-      {},
-      Sentence(
-          Pattern("Advice",
-                  "The answer had a wrong parity, so %1 was selected, with its options and its line. Undo "
-                  "brings %2 back."),
-          {RegisterOfImage(app), reset->register_before}),
-      AdviceAction::kUndo,
-      Sentence(Pattern("EditMenu", "Undo"))};
+  return {AdviceId::kCount,
+          {},
+          Sentence(Pattern("Advice",
+                           "The answer of the unit had a wrong parity, so the program selected %1, with its "
+                           "options and its line settings. Undo restores %2."),
+                   {RegisterOfImage(app), reset->register_before}),
+          AdviceAction::kUndo,
+          Sentence(Pattern("EditMenu", "Undo"))};
 }
 
 Advice FileMisread(const core::Application& app, const Observed& observed) {
   const auto path = observed.files.MisreadIn(app);
   if (path.empty()) return {};
-  const auto misread = Sentence(
-      Pattern("Advice",
-              "%1 does not have the form of %2, so everything from the register options on is shifted. Do "
-              "not download it."),
-      {FileNameOf(path), app.image_firmware.Joined()});
+  const auto misread = Sentence(Pattern("Advice",
+                                        "%1 does not have the format of %2, so all settings from the "
+                                        "register options on are in the wrong place. Do not download them."),
+                                {FileNameOf(path), app.image_firmware.Joined()});
   return {AdviceId::kCount,
           {},
           AboutSavedFiles(app, misread, Sentence(Pattern("Advice", "Upload again, or open a backup.")))};
@@ -106,7 +101,7 @@ Advice FileRefused(const core::Application& app, const Observed& observed) {
   const auto& path = observed.files.Refused();
   if (path.empty() || app.image != observed.files.ImageAtRefusal()) return {};
   const auto refused =
-      Sentence(Pattern("Advice", "%1 is no configuration that %2 opens. Nothing has changed."),
+      Sentence(Pattern("Advice", "%1 is not a configuration that %2 can open. Nothing has changed."),
                {FileNameOf(path), app.image_firmware.Joined()});
   return {AdviceId::kCount,
           {},
@@ -119,28 +114,24 @@ Advice FileRefused(const core::Application& app, const Observed& observed) {
 Advice PickSwallowed(const core::Application& app, const Observed& observed) {
   if (!IsSwallowed(app, observed)) return {};
   const auto picked = app.frmMain.ComboReg.Text();
-  return GoToRegisterList(
-      app,
-      Sentence(
-          Pattern("Advice",
-                  "The list shows %1, but the options and the configuration are those of %2: the pick was "
-                  "swallowed. Pick %1 again."),
-          {picked, RegisterOfImage(app)}));
+  return GoToRegisterList(app, Sentence(Pattern("Advice",
+                                                "The list shows %1, but the options and the configuration "
+                                                "are still those of %2. Pick %1 again."),
+                                        {picked, RegisterOfImage(app)}));
 }
 
 Advice NextPickSwallowed(const core::Application& app, const Observed& observed) {
   if (!app.UploadApplying || app.handling) return {};
   const auto& problem = observed.files.OpenProblem();
   return GoToRegisterList(
-      app,
-      problem.empty()
-          ? Sentence(Pattern("Advice",
-                             "Open was cancelled. The next pick in the register list is swallowed: the list "
-                             "moves, and nothing is loaded. Pick the register twice."))
-          : Sentence(Pattern("Advice",
-                             "Open failed: %1. The next pick in the register list is swallowed: the list "
-                             "moves, and nothing is loaded. Pick the register twice."),
-                     {problem}));
+      app, problem.empty()
+               ? Sentence(Pattern("Advice",
+                                  "Open was cancelled. The next pick in the register list has no effect: the "
+                                  "list moves, but the program loads nothing. Pick the register twice."))
+               : Sentence(Pattern("Advice",
+                                  "Open failed: %1. The next pick in the register list has no effect: the "
+                                  "list moves, but the program loads nothing. Pick the register twice."),
+                          {problem}));
 }
 
 Advice UnknownFirmware(const core::Application& app, const Observed&) {
@@ -152,7 +143,7 @@ Advice UnknownFirmware(const core::Application& app, const Observed&) {
       Sentence(
           Pattern("Advice",
                   "The program does not know the firmware %1, so the register list and the tabs are empty. "
-                  "Pick the firmware on the label of the unit in the %2 menu. The program then ends; start "
+                  "Pick the firmware on the label of the unit in the %2 menu. The program then ends. Start "
                   "it again."),
           {app.image_firmware.Joined(), menu}),
       AdviceAction::kPickVersion,
@@ -164,17 +155,15 @@ Advice OptionsHidden(const core::Application& app, const Observed& observed) {
   const auto name = app.frmMain.ComboReg.Text();
   const auto* unfit = registers::UnfitOptionOf(app);
   return GoToRegisterList(
-      app,
-      unfit == nullptr
-          ? Sentence(
-                Pattern("Advice",
-                        "The options of %1 are hidden: a stored option is not in its list. Pick %1 again: "
-                        "this loads its default options and its default line."),
-                {name})
-          : Sentence(Pattern("Advice",
-                             "The options of %1 are hidden: %2 holds %3, which is not in its list. Pick %1 "
-                             "again: this loads its default options and its default line."),
-                     {name, FieldName(*unfit), unfit->value}));
+      app, unfit == nullptr
+               ? Sentence(Pattern("Advice",
+                                  "The options of %1 are hidden: a stored option is not in its list. Pick %1 "
+                                  "again to load its default options and its default line settings."),
+                          {name})
+               : Sentence(Pattern("Advice",
+                                  "The options of %1 are hidden: %2 contains %3, which is not in its list. "
+                                  "Pick %1 again to load its default options and its default line settings."),
+                          {name, FieldName(*unfit), unfit->value}));
 }
 
 Advice SavedFile(const core::Application& app, const Observed& observed) {
@@ -187,11 +176,11 @@ Advice SavedFile(const core::Application& app, const Observed& observed) {
       {},
       firmware::ReadsSavedFileShifted(app.image_firmware)
           ? Sentence(Pattern("Advice",
-                             "%1 does not open again: under %2 \"Open\" reads it shifted. Use \"%3\" for a "
-                             "file that opens again."),
+                             "%1 does not open again correctly: under %2, \"Open\" reads its settings in the "
+                             "wrong place. Use \"%3\" for a file that opens again."),
                      parts)
           : Sentence(Pattern("Advice",
-                             "%1 does not open again: under %2 \"Open\" refuses it. Use \"%3\" for a file "
+                             "%1 does not open again: under %2, \"Open\" refuses it. Use \"%3\" for a file "
                              "that opens again."),
                      parts),
       AdviceAction::kSaveBackup,
@@ -207,10 +196,10 @@ Advice OtherTabsChanged(const core::Application& app, const Observed& observed) 
           {},
           change->picked
               ? Sentence(Pattern("Advice",
-                                 "The pick of %1 also stored %2. Look at these tabs before you download."),
+                                 "The pick of %1 also changed %2. Check these tabs before you download."),
                          parts)
               : Sentence(Pattern("Advice",
-                                 "The options of %1 also stored %2. Look at these tabs before you download."),
+                                 "The options of %1 also changed %2. Check these tabs before you download."),
                          parts)};
 }
 
@@ -221,12 +210,14 @@ Advice FirstSteps(const core::Application& app, const Observed& observed) {
   const auto* next = !app.frmMain.MSComm1.PortOpen ? "cmdConnect"
                      : app.RemoteHeld              ? "CmdUpDow(0)"
                                                    : "CmdUpDow(4)";
-  return {AdviceId::kCount,
-          {},
-          Sentence(Pattern("Advice", "Begin on %1: %2."), {tab, StepsOnRemote(app, upload)}),
-          AdviceAction::kGoToControl,
-          tab,
-          next};
+  return {
+      AdviceId::kCount,
+      {},
+      Sentence(Pattern("Advice", "The tabs show default settings, not those of the unit. On %1, press %2."),
+               {tab, StepsOnRemote(app, upload)}),
+      AdviceAction::kGoToControl,
+      tab,
+      next};
 }
 
 }  // namespace ovl::acts

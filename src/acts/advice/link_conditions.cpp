@@ -55,32 +55,28 @@ Words LossText(const Loss& loss) {
   switch (loss.during) {
     case LinkPhase::kScan:
       return Sentence(
-          Pattern("Advice", "Comport %1, %2, was lost at %3 (%4) during the scan. The unit is untouched."),
+          Pattern("Advice", "Comport %1, %2, was lost at %3 (%4) during the scan. The unit is unchanged."),
           parts);
     case LinkPhase::kUpload:
-      return Sentence(
-          Pattern("Advice",
-                  "Comport %1, %2, was lost at %3 (%4) during the upload. The unit is untouched, and "
-                  "nothing of the upload is on the tabs."),
-          parts);
+      return Sentence(Pattern("Advice",
+                              "Comport %1, %2, was lost at %3 (%4) during the upload. The unit is unchanged, "
+                              "and the tabs show nothing of the upload."),
+                      parts);
     case LinkPhase::kDownloadCommand:
-      return Sentence(
-          Pattern("Advice",
-                  "Comport %1, %2, was lost at %3 (%4) before the download began. The unit holds its old "
-                  "configuration."),
-          parts);
+      return Sentence(Pattern("Advice",
+                              "Comport %1, %2, was lost at %3 (%4) before the download began. The unit has "
+                              "its old configuration."),
+                      parts);
     case LinkPhase::kDownloadStream:
-      return Sentence(
-          Pattern("Advice",
-                  "Comport %1, %2, was lost at %3 (%4) during the download. The unit may hold half a "
-                  "configuration, so download again."),
-          parts);
+      return Sentence(Pattern("Advice",
+                              "Comport %1, %2, was lost at %3 (%4) during the download. The unit may have "
+                              "half a configuration, so download again."),
+                      parts);
     case LinkPhase::kDownloadEnd:
-      return Sentence(
-          Pattern("Advice",
-                  "Comport %1, %2, was lost at %3 (%4) after the download. The unit was sent the whole "
-                  "configuration, but has not confirmed it."),
-          parts);
+      return Sentence(Pattern("Advice",
+                              "Comport %1, %2, was lost at %3 (%4) after the download. The program sent the "
+                              "whole configuration, but the unit has not confirmed it."),
+                      parts);
     case LinkPhase::kSetTime:
       return Sentence(
           Pattern("Advice",
@@ -88,13 +84,12 @@ Words LossText(const Loss& loss) {
                   "new time."),
           parts);
     case LinkPhase::kMasterReset:
-      return Sentence(
-          Pattern("Advice",
-                  "Comport %1, %2, was lost at %3 (%4) during the master reset. The unit may be at its "
-                  "factory settings."),
-          parts);
+      return Sentence(Pattern("Advice",
+                              "Comport %1, %2, was lost at %3 (%4) during the master reset. The unit may "
+                              "have its factory settings."),
+                      parts);
     default:
-      return Sentence(Pattern("Advice", "Comport %1, %2, was lost at %3 (%4). The unit is untouched."),
+      return Sentence(Pattern("Advice", "Comport %1, %2, was lost at %3 (%4). The unit is unchanged."),
                       parts);
   }
 }
@@ -143,7 +138,7 @@ Words CureOf(const Refusal& refusal) {
         "Advice", "The device is not there: plug the adapter in, or choose the comport of another device."));
   if (reason.Is(std::errc::no_such_device_or_address) || reason.Is(std::errc::io_error))
     return Sentence(
-        Pattern("Advice", "No hardware is behind this name: choose the comport of another device."));
+        Pattern("Advice", "No hardware belongs to this name: choose the comport of another device."));
   if (reason.Is(std::errc::device_or_resource_busy))
     return Sentence(Pattern("Advice", "Another program uses the device: close it."));
   if (reason.Is(std::errc::invalid_argument))
@@ -190,20 +185,18 @@ Words StepsOnRemote(const core::Application& app, const Words& last) {
 Advice UploadBroke(const core::Application& app, const Observed& observed) {
   if (!observed.link.UploadBroke()) return {};
   return RestartAdvice(
-      app,
-      Sentence(Pattern("Advice",
-                       "An upload broke off. What had arrived is still ahead of the next upload and would be "
-                       "read in its place. Restart the program before you upload again.")));
+      app, Sentence(Pattern("Advice",
+                            "An upload stopped before its end. The program would put what it received in "
+                            "front of the next upload. Restart the program before you upload again.")));
 }
 
 Advice UploadMixed(const core::Application& app, const Observed& observed) {
   if (!observed.link.UploadMixedIn(app)) return {};
-  return RestartAdvice(
-      app, Sentence(Pattern(
-               "Advice",
-               "The tabs show a mixture: the beginning is from an upload that broke off, the rest from "
-               "the last one. Do not download it. Restart the program, which drops the mixture, and "
-               "upload again.")));
+  return RestartAdvice(app,
+                       Sentence(Pattern("Advice",
+                                        "The tabs show a mixture of two uploads: the beginning of one that "
+                                        "stopped, and the rest of the last one. Do not download it. Restart "
+                                        "the program, which discards the mixture, and upload again.")));
 }
 
 Advice DeviceLost(const core::Application& app, const Observed& observed) {
@@ -231,15 +224,15 @@ Pattern EndOf(const BrokenDownload& broken) {
   switch (broken.sent) {
     case BrokenDownload::Sent::kNothing:
       return Pattern("Advice",
-                     "The download of %1 did not begin. The unit holds its old configuration. To try again: "
+                     "The download of %1 did not begin. The unit has its old configuration. To try again: "
                      "%2.");
     case BrokenDownload::Sent::kPart:
       return Pattern("Advice",
-                     "A download broke off at %1. The unit may hold half a configuration, so download again: "
+                     "A download stopped at %1. The unit may have half a configuration, so download again: "
                      "%2.");
     default:
       return Pattern("Advice",
-                     "The unit has not confirmed the download of %1. It may hold another configuration, so "
+                     "The unit has not confirmed the download of %1. It may have another configuration, so "
                      "download again: %2.");
   }
 }
@@ -266,23 +259,22 @@ Advice PortRefused(const core::Application&, const Observed& observed) {
 Advice ScanCannotHear(const core::Application& app, const Observed&) {
   if (!app.ScanActive || app.LinkMode == core::kLinkRemote) return {};
   const auto cancel = OfForm(app.frmScanBProgress.Command1.caption);
-  return Click(
-      Sentence(Pattern("Advice",
-                       "This scan cannot find the unit: the program takes an answer only if remote mode was "
-                       "held before and Disconnect ended it. Press %1. %2"),
-               {cancel, ChooseLine()}),
-      cancel, "frmScanBProgress.Command1");
+  return Click(Sentence(Pattern("Advice",
+                                "This scan cannot find the unit: the program accepts an answer only if the "
+                                "unit was in remote mode before, and Disconnect ended it. Press %1. %2"),
+                        {cancel, ChooseLine()}),
+               cancel, "frmScanBProgress.Command1");
 }
 
 Advice ScanFoundNothing(const core::Application& app, const Observed& observed) {
   const auto& scan = observed.link.Scan();
   if (!scan || app.ScanActive) return {};
   if (!scan->could_hear)
-    return ClickSetComport(Sentence(
-        Pattern("Advice",
-                "The scan could not find the unit: the program takes an answer only if remote mode was held "
-                "before and Disconnect ended it. %1"),
-        {ChooseLine()}));
+    return ClickSetComport(
+        Sentence(Pattern("Advice",
+                         "The scan could not find the unit: the program accepts an answer only if the unit "
+                         "was in remote mode before, and Disconnect ended it. %1"),
+                 {ChooseLine()}));
   return ClickSetComport(Sentence(
       Pattern("Advice",
               "No unit answered the scan, which tried every baud rate with %1 and parity %2. Check the cable "

@@ -59,12 +59,11 @@ Advice AlarmWithoutException(const core::Application& app, const Observed&) {
   }
   if (alarms.empty()) return {};
   const auto caption = OfForm(triggers.caption);
-  return GoTo(
-      Sentence(Pattern("Advice",
-                       "Free exceptions trigger %1, so nothing sets off such an alarm. Give the exceptions a "
-                       "text, or pick another %2."),
-               {checks::NumberedAlarms(alarms, alarms.size()), caption}),
-      caption, "ComboALM(1)", kAlarmList, first);
+  return GoTo(Sentence(Pattern("Advice",
+                               "Only free exceptions trigger %1, so no alarm occurs. Enter a text for the "
+                               "exceptions, or pick another %2."),
+                       {checks::NumberedAlarms(alarms, alarms.size()), caption}),
+              caption, "ComboALM(1)", kAlarmList, first);
 }
 
 Advice BlankText(const core::Application& app, const Observed&) {
@@ -84,13 +83,12 @@ Advice BlankText(const core::Application& app, const Observed&) {
   const bool of_exception = !exceptions.empty();
   const auto& button = of_exception ? app.frmMain.cmdSetExcpstr : app.frmMain.cmdSetTrigger;
   const auto caption = OfForm(button.caption);
-  return GoTo(
-      Sentence(Pattern("Advice",
-                       "The text is empty or only blanks: %1. Such a text never matches and shows nothing. "
-                       "Enter one with %2, or switch its actions and its operator off."),
-               {phrases::Listed(texts), caption}),
-      caption, of_exception ? "cmdSetExcpstr" : "cmdSetTrigger", of_exception ? kExceptionList : kAlarmList,
-      of_exception ? exceptions.front() : alarms.front());
+  return GoTo(Sentence(Pattern("Advice",
+                               "The text is empty or only blanks: %1. Such a text never matches and shows "
+                               "nothing. Enter a text with %2, or switch off the actions and the operator."),
+                       {phrases::Listed(texts), caption}),
+              caption, of_exception ? "cmdSetExcpstr" : "cmdSetTrigger",
+              of_exception ? kExceptionList : kAlarmList, of_exception ? exceptions.front() : alarms.front());
 }
 
 }  // namespace ovl::acts

@@ -57,9 +57,9 @@ QString WordsOf(const std::vector<std::pair<std::size_t, checks::Severity>>& cou
 ChecksWindow::ChecksWindow(Bindings& bindings, QWidget* parent)
     : SettingWindow(bindings, QStringLiteral("Checks"), QCoreApplication::translate("ChecksWindow", "Checks"),
                     parent),
-      button_(StatusButton(*this, QStringLiteral("StatusChecks"),
-                           QCoreApplication::translate(
-                               "ChecksWindow", "Shows what to look at in the configuration (Ctrl+K)"))) {
+      button_(StatusButton(
+          *this, QStringLiteral("StatusChecks"),
+          QCoreApplication::translate("ChecksWindow", "Shows the findings of the checks (Ctrl+K)"))) {
   button_->hide();
   due_.setSingleShot(true);
   due_.setInterval(kIdleTime);
@@ -116,8 +116,7 @@ void ChecksWindow::Fill() {
                               {count.notes, checks::Severity::kNote}});
   Summary().setText(
       words.isEmpty()
-          ? QCoreApplication::translate("ChecksWindow",
-                                        "The checks found nothing to look at in this configuration.")
+          ? QCoreApplication::translate("ChecksWindow", "The checks found nothing in this configuration.")
           : QCoreApplication::translate("ChecksWindow", "The checks found %1 in this configuration.")
                 .arg(words));
   std::vector<SettingRow> rows;

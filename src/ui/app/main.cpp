@@ -37,8 +37,8 @@ std::optional<QString> FindFolder(const QString& given) {
   try {
     return ovl::host::ProgramFolder(given);
   } catch (const ovl::core::Failure& failure) {
-    std::cerr << "ovl: The program's folder cannot be made.\n\n" << failure.Text() << std::endl;
-    const auto text = QCoreApplication::translate("Program", "The program's folder cannot be made.\n\n%1")
+    std::cerr << "ovl: The program folder could not be created.\n\n" << failure.Text() << std::endl;
+    const auto text = QCoreApplication::translate("Program", "The program folder could not be created.\n\n%1")
                           .arg(ovl::ui::FailureText(failure));
     ovl::ui::ShowBox(nullptr, {{}, text.toStdString()});
     return std::nullopt;

@@ -63,21 +63,21 @@ void Program::FillPlatform() {
   platform.read_setting = [this](std::string_view key, std::string_view value) {
     auto found = store_.Read(key, value);
     if (!found) {
-      store_problem_ = QCoreApplication::translate(
-                           "Program", "%1\nRoot sets the firmware, for instance: ovl-setup V1400 R12")
-                           .arg(host::FromSystem(store_.WhyNotRead()));
+      store_problem_ =
+          QCoreApplication::translate(
+              "Program", "%1\nTo set the firmware, run as root, for instance: ovl-setup V1400 R12")
+              .arg(host::FromSystem(store_.WhyNotRead()));
     }
     return found;
   };
   platform.write_setting = [this](std::string_view key, std::string_view value, std::string_view text) {
     const auto written = store_.Write(key, value, text);
     if (!written.Ok()) {
-      store_problem_ =
-          QCoreApplication::translate(
-              "Program",
-              "%1\nThe next start serves the same firmware as this one. Root sets another: ovl-setup %2")
-              .arg(FailureText(written.Problem()),
-                   QString::fromStdString(app_.firmware.version + " " + app_.firmware.release));
+      store_problem_ = QCoreApplication::translate("Program",
+                                                   "%1\nThe next start serves the same firmware as this one. "
+                                                   "To set the other one, run as root: ovl-setup %2")
+                           .arg(FailureText(written.Problem()),
+                                QString::fromStdString(app_.firmware.version + " " + app_.firmware.release));
     }
     return written.Ok();
   };

@@ -38,8 +38,9 @@ QString WhyNotCreated(const QString& path) {
   QFile file(path);
   if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) return file.errorString();
   const bool written = file.putChar('\n') && file.flush();
-  const auto reason =
-      written ? QCoreApplication::translate("UnsavedCopy", "its lock cannot be made") : file.errorString();
+  const auto reason = written
+                          ? QCoreApplication::translate("UnsavedCopy", "its lock file could not be created")
+                          : file.errorString();
   file.remove();
   return reason;
 }

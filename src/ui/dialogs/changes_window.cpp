@@ -80,12 +80,12 @@ QString ChangesWindow::SummaryOf(const std::vector<changes::SettingChange>& rows
                                        "a file, \"3 settings\"")
         .arg(other_->file, count);
   if (rows.empty())
-    return QCoreApplication::translate(
-        "ChangesWindow",
-        "A download would change nothing in a unit that holds the configuration last loaded or sent.");
+    return QCoreApplication::translate("ChangesWindow",
+                                       "A download would change nothing if the unit has the configuration "
+                                       "that was last uploaded, opened or downloaded.");
   return QCoreApplication::translate("ChangesWindow",
-                                     "What a download would change in a unit that holds the configuration "
-                                     "last loaded or sent: %1 in %2.",
+                                     "A download would change %1 in %2 if the unit has the configuration "
+                                     "that was last uploaded, opened or downloaded.",
                                      "\"3 settings\", \"2 fields\"")
       .arg(count, FieldCount(FieldsIn(rows)));
 }

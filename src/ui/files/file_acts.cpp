@@ -135,8 +135,8 @@ void FileActs::SaveBackup() {
   if (!answer || app_.ended) return;
   const auto written = acts::SaveBackup(app_, answer->file_name);
   if (!written.Ok())
-    return hooks_.show_text(
-        QCoreApplication::translate("FileActs", "No backup written: %1").arg(FailureText(written.Problem())));
+    return hooks_.show_text(QCoreApplication::translate("FileActs", "Backup not written: %1")
+                                .arg(FailureText(written.Problem())));
   const auto path = Decoded(answer->file_name);
   recent_.Add(path);
   hooks_.backup_written();

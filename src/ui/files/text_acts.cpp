@@ -106,7 +106,7 @@ void TextActs::Export() {
                          .arg(QDir::toNativeSeparators(Decoded(path))));
   } catch (const core::Failure& failure) {
     hooks_.show_text(
-        QCoreApplication::translate("TextActs", "No text written: %1").arg(FailureText(failure)));
+        QCoreApplication::translate("TextActs", "Text not written: %1").arg(FailureText(failure)));
   }
 }
 
@@ -117,16 +117,16 @@ std::optional<image::ConfigImage> TextActs::ImageOfText(const std::string& path,
   const auto document = host::ReadToml(bytes);
   auto imported = host::ImportText(viewer.catalogue, app_.image, document, Strictness::kPartial);
   if (!imported.problems.empty()) {
-    const auto words = imports
-                           ? QCoreApplication::translate("TextActs", "%1 is not taken: nothing has changed.")
-                           : QCoreApplication::translate("TextActs", "%1 has errors and cannot be compared.");
+    const auto words =
+        imports ? QCoreApplication::translate("TextActs", "The program did not use %1. Nothing has changed.")
+                : QCoreApplication::translate("TextActs", "%1 has errors and cannot be compared.");
     ShowProblems(hooks_.front(), words.arg(NameOf(path)), Lines(imported.problems));
     return std::nullopt;
   }
   if (imported.left_out.empty()) return imported.image;
   const auto text =
       QCoreApplication::translate(
-          "TextActs", "%1 is a text of %2. This program serves %3, which does not have all of it.")
+          "TextActs", "%1 is a text of %2. This program serves %3, which does not have all of its settings.")
           .arg(NameOf(path), host::FromSystem(text_form::FirmwareNamed(document)),
                host::FromWindows1252(acts::FirmwareName(app_)));
   const auto button = imports ? QCoreApplication::translate("TextActs", "Import the Rest")

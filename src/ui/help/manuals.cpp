@@ -49,7 +49,7 @@ void OpenFolder(QObject& owner, const QString& folder, const Report& report) {
   if (failed) return fail(QString::fromLocal8Bit(failed.message().c_str()));
   AskForProgram(owner, "inode/directory", [folder, fail](bool has_browser) {
     if (!has_browser || !OpenPath(folder))
-      fail(QCoreApplication::translate("HelpMenu", "no program opens folders"));
+      fail(QCoreApplication::translate("HelpMenu", "no program is installed that opens folders"));
   });
 }
 

@@ -221,7 +221,8 @@ QWidget* Bindings::MakeTextEdit(controls::TextBox& box) {
     const auto text = lines->toPlainText();
     shadow->Forget();
     if (!host::ToWindows1252(text))
-      return hint_(QCoreApplication::translate("TextLine", "Only characters of Windows-1252 can be kept."));
+      return hint_(
+          QCoreApplication::translate("TextLine", "The program can store only characters of Windows-1252."));
     if (act_(core::TypeEvent{&box, host::ToWindows1252(text).value_or(std::string())}) ==
         core::Outcome::kDone)
       shadow->Update(box.text);

@@ -130,7 +130,7 @@ class TextValidator : public QValidator {
       return Refuse(QCoreApplication::translate("TextLine", "You can type only characters of Windows-1252."));
     const auto is_digit = [](QChar sign) { return sign >= QLatin1Char('0') && sign <= QLatin1Char('9'); };
     if (digits_only && !std::all_of(text.begin(), text.end(), is_digit))
-      return Refuse(QCoreApplication::translate("TextLine", "Only digits can be typed here."));
+      return Refuse(QCoreApplication::translate("TextLine", "You can type only digits here."));
     if (limit == 0 || text.size() <= limit) return Acceptable;
     text.truncate(std::max<qsizetype>({limit, caret, SizeWithoutPadding(text)}));
     if (text.size() <= limit) return Acceptable;

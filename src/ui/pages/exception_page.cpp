@@ -84,17 +84,18 @@ QString Legend(const core::Application& app) {
 
 QWidget* ExceptionOverview(Bindings& bindings) {
   const auto& app = bindings.Model();
-  return BuildOverview(bindings, bindings.Model().frmMain.ComboExcp[controls::Excp::kNumber],
-                       {QStringLiteral("ExceptionOverview"),
-                        QCoreApplication::translate("ExceptionPage", "Overview of the exceptions"),
-                        {{QCoreApplication::translate("ExceptionPage", "No."), QStringLiteral("24")},
-                         {QCoreApplication::translate("ExceptionPage", "Text"), {}},
-                         {QCoreApplication::translate("ExceptionPage", "Range"),
-                          FormText("IN") + QStringLiteral(" 0.00 - 9.99"), true},
-                         {QCoreApplication::translate("ExceptionPage", "Acts"), QStringLiteral("D O H S")}},
-                        [&app] { return ExceptionLines(app); },
-                        [&app] { return Legend(app); },
-                        BuildCopySlotButton(bindings, acts::SlotKind::kException)});
+  return BuildOverview(
+      bindings, bindings.Model().frmMain.ComboExcp[controls::Excp::kNumber],
+      {QStringLiteral("ExceptionOverview"),
+       QCoreApplication::translate("ExceptionPage", "Overview of the exceptions"),
+       {{QCoreApplication::translate("ExceptionPage", "No."), QStringLiteral("24")},
+        {QCoreApplication::translate("ExceptionPage", "Text"), {}},
+        {QCoreApplication::translate("ExceptionPage", "Range"),
+         FormText("IN") + QStringLiteral(" 0.00 - 9.99"), true},
+        {QCoreApplication::translate("ExceptionPage", "Actions"), QStringLiteral("D O H S")}},
+       [&app] { return ExceptionLines(app); },
+       [&app] { return Legend(app); },
+       BuildCopySlotButton(bindings, acts::SlotKind::kException)});
 }
 
 // The two values of the range, in the look of fields that cannot be edited.

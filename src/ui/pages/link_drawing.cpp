@@ -59,9 +59,9 @@ QString LinkStateText(LinkState state) {
     case LinkState::kOpen:
       return QCoreApplication::translate("LinkDrawing", "Port open");
     case LinkState::kAsked:
-      return QCoreApplication::translate("LinkDrawing", "Asking for remote");
+      return QCoreApplication::translate("LinkDrawing", "Requesting remote mode");
     case LinkState::kAccess:
-      return QCoreApplication::translate("LinkDrawing", "Remote held");
+      return QCoreApplication::translate("LinkDrawing", "In remote mode");
     case LinkState::kUploading:
       return QCoreApplication::translate("LinkDrawing", "Uploading");
     case LinkState::kDownloading:

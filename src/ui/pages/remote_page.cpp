@@ -116,7 +116,7 @@ QWidget* MasterReset(Bindings& bindings) {
   auto* across = new QHBoxLayout;
   across->setSpacing(kFieldGap);
   auto* words = MutedLabel(
-      QCoreApplication::translate("RemotePage", "Puts the unit back to its factory settings at once."));
+      QCoreApplication::translate("RemotePage", "Resets the unit to its factory settings at once."));
   words->setWordWrap(true);
   auto* button = ActionButton(bindings, controls::kMasterReset);
   button->setIcon(GlyphIcon(Glyph::kWarning, DangerColor));

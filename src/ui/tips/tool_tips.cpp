@@ -27,22 +27,29 @@ constexpr std::array kTips{
     Tip{"frmMain", "ComboKLM4011(3)",
         QT_TRANSLATE_NOOP("Tip", "The address under which the unit sends its history data to the recorder.")},
     Tip{"frmMain", "CmdUpDow(0)",
-        QT_TRANSLATE_NOOP(
-            "Tip", "Reads the unit's whole configuration into this program. The unit leaves remote mode.")},
+        QT_TRANSLATE_NOOP("Tip",
+                          "Reads the unit's whole configuration into this program. Press Remote first. The "
+                          "unit then leaves remote mode.")},
     Tip{"frmMain", "CmdUpDow(1)",
         QT_TRANSLATE_NOOP("Tip",
-                          "Writes the configuration shown here into the unit. The unit leaves remote mode.")},
+                          "Writes the configuration shown here into the unit. Press Remote first. The unit "
+                          "then leaves remote mode.")},
     Tip{"frmMain", "CmdUpDow(2)",
         QT_TRANSLATE_NOOP("Tip",
-                          "Sets the unit's clock to the date and time shown. The unit leaves remote mode.")},
+                          "Sets the unit's clock to the date and time shown. Press Remote first. The unit "
+                          "then leaves remote mode.")},
     Tip{"frmMain", "CmdUpDow(3)",
-        QT_TRANSLATE_NOOP("Tip", "Reads the unit's history into a text file. The unit leaves remote mode.")},
+        QT_TRANSLATE_NOOP("Tip",
+                          "Reads the unit's history into a text file. Press Remote first. The unit then "
+                          "leaves remote mode.")},
     Tip{"frmMain", "CmdUpDow(4)",
         QT_TRANSLATE_NOOP("Tip",
-                          "Asks the unit for remote mode, in which it obeys this program; pressed again, "
-                          "ends remote mode.")},
+                          "Puts the unit into remote mode, in which it follows this program. Press it again "
+                          "to end remote mode.")},
     Tip{"frmMain", "CmdUpDow(5)",
-        QT_TRANSLATE_NOOP("Tip", "Puts the unit back to its factory settings at once, without a question.")},
+        QT_TRANSLATE_NOOP(
+            "Tip",
+            "Resets the unit to its factory settings at once, without a question. Press Remote first.")},
     Tip{"frmMain", "cmdConnect",
         QT_TRANSLATE_NOOP("Tip", "Chooses and opens the serial port to which the unit is wired.")},
     Tip{"frmMain", "cmdDisConnect", QT_TRANSLATE_NOOP("Tip", "Ends remote mode and closes the serial port.")},

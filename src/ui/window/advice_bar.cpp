@@ -28,8 +28,8 @@ AdviceBar::AdviceBar(Bindings& bindings, const OwnActs& acts)
   close_->setObjectName(QStringLiteral("AdviceClose"));
   close_->setText(QCoreApplication::translate("AdviceBar", "Hide"));
   close_->setAccessibleName(QCoreApplication::translate("AdviceBar", "Hide this advice"));
-  close_->setToolTip(QCoreApplication::translate(
-      "AdviceBar", "Hides this advice until its condition ends and is true again."));
+  close_->setToolTip(
+      QCoreApplication::translate("AdviceBar", "Hides this advice until its condition occurs again."));
   close_->setAutoRaise(true);
   close_->setFocusPolicy(Qt::TabFocus);
   across->addWidget(words_, 1);

@@ -7,7 +7,7 @@ namespace ovl::testing {
 namespace {
 
 TEST(AdviceOnTheLink, NamesABrokenUploadUntilTheProgramStartsAnew) {
-  const char* broke = "An upload broke off. What had arrived is still ahead of the next upload";
+  const char* broke = "An upload stopped before its end. The program would put what it received in front";
   const AdviceRow rows[] = {
       {"upload-broke", kHalfUpload + "tick Timer_Operating 6\n", broke, "Restart", "start\n"},
       {"upload-broke", kHalfUpload + "click cmdDisConnect\n", broke, "Restart", "start\n"},
@@ -23,7 +23,8 @@ TEST(AdviceOnTheLink, NamesABrokenUploadUntilTheProgramStartsAnew) {
 TEST(AdviceOnTheLink, SaysWhatAFailureDidToTheRegister) {
   const std::string ads = "pick ComboReg \"ADS\"\n";
   Expect({"register-reset", ads + "click cmdConnect\nclick cmdSET\nclick CmdUpDow(4)\nunit \"?\"\n",
-          "so GENERIC was selected, with its options and its line. Undo brings ADS back.", "Undo", "undo\n"});
+          "so the program selected GENERIC, with its options and its line settings. Undo restores ADS.",
+          "Undo", "undo\n"});
   AdviceProgram program(kLatest);
   program.App().platform.files.replace = [](const std::string& path, std::string_view) {
     throw core::Failure(path, std::make_error_code(std::errc::no_space_on_device));
@@ -38,7 +39,7 @@ TEST(AdviceOnTheLink, SaysWhatAFailureDidToTheRegister) {
 
 TEST(AdviceOnTheLink, NamesTheLostDeviceAndWhatTheUnitHolds) {
   const char* lost =
-      "Comport 1, simulated line, was lost at 14:07:09 (No such device). The unit is untouched. Plug "
+      "Comport 1, simulated line, was lost at 14:07:09 (No such device). The unit is unchanged. Plug "
       "the device in again. Then press Disconnect, Set Comport, SET, Remote.";
   const std::string scan = "click cmdConnect\nclick BaudrateCMD\n";
   const AdviceRow rows[] = {
@@ -47,7 +48,7 @@ TEST(AdviceOnTheLink, NamesTheLostDeviceAndWhatTheUnitHolds) {
       {"device-lost", kOpenPort + kLose + "click cmdDisConnect\n", "Then press Set Comport, SET, Remote.",
        "Set Comport", "port ok\n" + kOpenPort},
       {"device-lost", kOpenPort + kHold + kUpload + kLose,
-       " during the upload. The unit is untouched, and nothing of the upload is on the tabs. Plug the device "
+       " during the upload. The unit is unchanged, and the tabs show nothing of the upload. Plug the device "
        "in again. "
        "Then press Disconnect, Set Comport, SET, Remote, Upload.",
        "Disconnect", kConnectAgain},
@@ -55,16 +56,16 @@ TEST(AdviceOnTheLink, NamesTheLostDeviceAndWhatTheUnitHolds) {
        "Plug the device in again and restart the program. Then press Set Comport,", "Set Comport",
        "port ok\n" + kOpenPort},
       {"device-lost", kOpenPort + kHold + "click CmdUpDow(1)\n" + kLose,
-       " before the download began. The unit holds its old configuration.", "Disconnect", kConnectAgain},
+       " before the download began. The unit has its old configuration.", "Disconnect", kConnectAgain},
       {"device-lost", kOpenPort + kHold + kDownload + "drain 300\nport unplug\ndrain\n",
-       " during the download. The unit may hold half a configuration, so download again. Plug the device in "
+       " during the download. The unit may have half a configuration, so download again. Plug the device in "
        "again. Then "
        "press Disconnect, Set Comport, SET, Remote, Download.",
        "Disconnect", kConnectAgain},
-      {"device-lost", scan + kLose, " during the scan. The unit is untouched.", "Cancel",
+      {"device-lost", scan + kLose, " during the scan. The unit is unchanged.", "Cancel",
        "port ok\nclick frmScanBProgress.Command1\n" + kOpenPort},
       {"device-lost", scan + "port unplug\ntick BaudRateScan 11\n",
-       "(No such file or directory) during the scan. The unit is untouched.", "Set Comport",
+       "(No such file or directory) during the scan. The unit is unchanged.", "Set Comport",
        "port ok\n" + kOpenPort},
   };
   for (const auto& row : rows) Expect(row);
@@ -85,11 +86,11 @@ TEST(AdviceOnTheLink, ADownloadThatEndsEarlyIsRepeated) {
   const auto sent = kOpenPort + kHold + kDownload + "drain\n";
   const auto whole = sent + "unit hex 06\n";
   const char* half =
-      "A download broke off at 14:07:09. The unit may hold half a configuration, so download again: Set "
+      "A download stopped at 14:07:09. The unit may have half a configuration, so download again: Set "
       "Comport, Remote, Download.";
-  const char* untouched = "The download of 14:07:09 did not begin. The unit holds its old configuration.";
+  const char* untouched = "The download of 14:07:09 did not begin. The unit has its old configuration.";
   const char* refused =
-      "The unit has not confirmed the download of 14:07:09. It may hold another configuration, so download "
+      "The unit has not confirmed the download of 14:07:09. It may have another configuration, so download "
       "again: Remote, Download.";
   const AdviceRow rows[] = {
       {"download-broke", begun + "click cmdDisConnect\n", half, "Set Comport", whole},
@@ -121,7 +122,7 @@ TEST(AdviceOnTheLink, ARefusedPortHasDeviceReasonAndCureInOneLine) {
       {"No such file or directory",
        "Plug the adapter in, choose the comport of another device, or set the link ports/com1"},
       {"No such device", "plug the adapter in"},
-      {"Input/output error", "No hardware is behind this name"},
+      {"Input/output error", "No hardware belongs to this name"},
       {"Device or resource busy", "Another program uses the device: close it."},
       {"Invalid argument", "The device cannot use 9600,N,8,1"},
       {"Out of luck", "did not open: Out of luck. Choose another comport, or check the device."},

@@ -19,15 +19,14 @@ const firmware::FirmwareId kV1300{"V1300", "R23"}, kV1334{"V1334", "R1"};
 
 TEST(AdviceOnFiles, APickAfterACancelledOpenIsSwallowed) {
   const std::string cancel = "answer cancel\nclick OpenMenu\n", pick = "pick ComboReg \"ADS\"\n";
-  const char* next = "The next pick in the register list is swallowed";
+  const char* next = "The next pick in the register list has no effect";
   const AdviceRow rows[] = {
       {"next-pick-swallowed", cancel, "Open was cancelled. The next pick", "REGISTER SELECT", pick},
       {"next-pick-swallowed", "answer \"/no/file.bin\"\nclick OpenMenu\n",
        "Open failed: /no/file.bin: No such file or directory. The next pick", "REGISTER SELECT", pick},
       {"next-pick-swallowed", cancel, next, "REGISTER SELECT", "answer \"IMAGE\"\nclick OpenMenu\n"},
       {"pick-swallowed", cancel + pick,
-       "The list shows ADS, but the options and the configuration are those of GENERIC: the pick was "
-       "swallowed. Pick ADS "
+       "The list shows ADS, but the options and the configuration are still those of GENERIC. Pick ADS "
        "again.",
        "REGISTER SELECT", pick},
       {"pick-swallowed", cancel + pick, "Pick ADS again.", "REGISTER SELECT",
@@ -36,8 +35,8 @@ TEST(AdviceOnFiles, APickAfterACancelledOpenIsSwallowed) {
   for (const auto& row : rows) Expect(row);
 
   AdviceProgram program(kLatest);
-  program.Run(pick + "pick ComboReg \"GENERIC\"\nexpect no advice \"swallowed\"\n" + cancel +
-              "pick ComboReg \"GENERIC\"\nexpect no advice \"swallowed\"\n");
+  program.Run(pick + "pick ComboReg \"GENERIC\"\nexpect no advice \"still those of\"\n" + cancel +
+              "pick ComboReg \"GENERIC\"\nexpect no advice \"still those of\"\n");
 }
 
 TEST(AdviceOnFiles, SaysWhatASavedFileIsGoodForUnderEachFirmware) {
@@ -65,25 +64,25 @@ TEST(AdviceOnFiles, NamesAFileThatDoesNotFitTheFirmware) {
   const std::string open_image = "answer \"IMAGE\"\nclick OpenMenu\n";
   const AdviceRow rows[] = {
       {"file-misread", save_and_open,
-       "file.bin does not have the form of V1400R12, so everything from the register options on is shifted. "
-       "Do not "
-       "download it.",
+       "file.bin does not have the format of V1400R12, so all settings from the register options on are in "
+       "the wrong place. Do not download them.",
        "", open_image},
       {"file-misread",
        save_and_open,
-       "Files that \"Save\" writes under this firmware have this form.",
+       "Files that \"Save\" writes under this firmware have this format.",
        "",
        kOpenPort + kHold + kUpload + "unit \"STREAM\"\n",
        {"V1400", "R7"}},
-      {"file-refused", save_and_open, "file.bin is no configuration that V1334R1 opens. Nothing has changed.",
-       "", open_image, kV1334},
-      {"file-misread", save_and_open, "is shifted", "", "undo\n"},
+      {"file-refused", save_and_open,
+       "file.bin is not a configuration that V1334R1 can open. Nothing has changed.", "", open_image, kV1334},
+      {"file-misread", save_and_open, "are in the wrong place", "", "undo\n"},
       {"saved-file", "answer \"FILE\"\nclick menuSave\n",
-       "file.bin does not open again: under V1400R12 \"Open\" reads it shifted. Use \"Save Backup...\"",
+       "file.bin does not open again correctly: under V1400R12, \"Open\" reads its settings in the wrong "
+       "place. Use \"Save Backup...\"",
        "Save Backup...", open_image},
       {"saved-file", "answer \"FILE\"\nclick menuSave\n", "file.bin does not open again", "Save Backup...",
        "backup \"FILE\"\n"},
-      {"saved-file", "answer \"FILE\"\nclick menuSave\n", "under V1334R1 \"Open\" refuses it",
+      {"saved-file", "answer \"FILE\"\nclick menuSave\n", "under V1334R1, \"Open\" refuses it",
        "Save Backup...", open_image, kV1334},
   };
   for (const auto& row : rows) Expect(row);
@@ -96,14 +95,14 @@ TEST(AdviceOnRegisters, NamesTheByteThatHidesTheOptions) {
   const AdviceRow rows[] = {
       {"options-hidden",
        "pick ComboReg \"IBM\"\npick IBMOP 0\npick IBMCombo \"MIXED\"\npick IBMOP 4\n" + reopen,
-       "The options of IBM are hidden: REGTYPE_EXT2 holds 02, which is not in its list. Pick IBM again",
+       "The options of IBM are hidden: REGTYPE_EXT2 contains 02, which is not in its list. Pick IBM again",
        "REGISTER SELECT", "pick ComboReg \"IBM\"\n"},
-      {"options-hidden", "pick ComboReg \"TCI\"\nset TCIADDBAK_2 1F\n" + reopen, "TCIADDBAK_2 holds 1F",
+      {"options-hidden", "pick ComboReg \"TCI\"\nset TCIADDBAK_2 1F\n" + reopen, "TCIADDBAK_2 contains 1F",
        "REGISTER SELECT", "pick ComboReg \"ADS\"\n"},
-      {"options-hidden", "pick ComboReg \"BLEEP\"\nset REGTYPE_MINOR 7F\n" + reopen, "REGTYPE_MINOR holds 7F",
-       "REGISTER SELECT", "set REGTYPE_MINOR 00\n" + reopen},
+      {"options-hidden", "pick ComboReg \"BLEEP\"\nset REGTYPE_MINOR 7F\n" + reopen,
+       "REGTYPE_MINOR contains 7F", "REGISTER SELECT", "set REGTYPE_MINOR 00\n" + reopen},
       {"options-hidden", "pick ComboReg \"DELTA SONO 3.1\"\nset REGTYPE_MINOR 7F\n" + reopen,
-       "The options of DELTA SONO 3.1 are hidden: REGTYPE_MINOR holds 7F", "REGISTER SELECT",
+       "The options of DELTA SONO 3.1 are hidden: REGTYPE_MINOR contains 7F", "REGISTER SELECT",
        "pick ComboReg \"DELTA SONO 3.1\"\n", kV1300},
   };
   for (const auto& row : rows) Expect(row);
@@ -113,7 +112,8 @@ TEST(AdviceOnRegisters, NamesWhatAPickStoredOnOtherTabs) {
   const std::string on = "pick ComboExcepRe(0) \"ON\"\npick ComboCOMM(4) \"7\"\n";
   for (const auto& firmware : {kLatest, kV1300}) {
     Expect({"other-tabs-changed", on + "pick ComboReg \"ADS\"\n",
-            "The pick of ADS also stored COMMUNICATION: DATA BITS 8; EXCEPTION REPORT: OUTPUT OFF. Look at",
+            "The pick of ADS also changed COMMUNICATION: DATA BITS 8; EXCEPTION REPORT: OUTPUT OFF. Check "
+            "these tabs",
             "", "pick ComboReg \"ADS\"\n", firmware});
   }
   Expect({"other-tabs-changed", on + "pick ComboReg \"ADS\"\n", "EXCEPTION REPORT: OUTPUT OFF", "",
@@ -138,14 +138,16 @@ TEST(AdviceOnRegisters, TheFirstStepsGoWithTheFirstUploadOrOpen) {
                             std::string("answer \"IMAGE\"\nclick OpenMenu\n")}) {
     AdviceProgram program(kLatest);
     const auto line = program.Line("first-steps");
-    EXPECT_EQ(line.words, "Begin on REMOTE: Set Comport, Remote, Upload.");
+    EXPECT_EQ(line.words,
+              "The tabs show default settings, not those of the unit. On REMOTE, press Set Comport, Remote, "
+              "Upload.");
     EXPECT_EQ(line.caption, "REMOTE");
-    program.Run("answer cancel\nclick OpenMenu\nexpect advice \"Begin on REMOTE\"\n" + begin);
+    program.Run("answer cancel\nclick OpenMenu\nexpect advice \"On REMOTE, press\"\n" + begin);
     EXPECT_EQ(program.Line("first-steps").words, "");
   }
   AdviceProgram program(kLatest);
-  program.Run(kOpenPort + "expect advice \"Begin on REMOTE: Remote, Upload.\"\n" + kHold +
-              "expect advice \"Begin on REMOTE: Upload.\"\n");
+  program.Run(kOpenPort + "expect advice \"On REMOTE, press Remote, Upload.\"\n" + kHold +
+              "expect advice \"On REMOTE, press Upload.\"\n");
 }
 
 TEST(AdviceOnSettings, NamesTheSlotsThatDoNothing) {
@@ -164,7 +166,7 @@ TEST(AdviceOnSettings, NamesTheSlotsThatDoNothing) {
         {"range-order", range("9", "8") + "pick ComboExcp(0) 23\n" + range("2", "1"), "exceptions 1 and 24",
          "Set RANGE", range("1", "2") + "pick ComboExcp(0) 0\n" + range("0", "0"), firmware},
         {"alarm-without-exception", "pick ComboALM(1) \"3\"\n",
-         "Free exceptions trigger alarm 1 (3), so nothing sets off such an alarm.", "ALARM TRIGGER",
+         "Only free exceptions trigger alarm 1 (3), so no alarm occurs.", "ALARM TRIGGER",
          "pick ComboExcp(0) 2\n" + text("cmdSetExcpstr", "REFUND"), firmware},
         {"alarm-without-exception",
          "pick ComboALM(1) \"13-24\"\npick ComboALM(0) 15\npick ComboALM(1) \"1\"\n",

@@ -67,8 +67,7 @@ TEST_F(Settings, AFileWithOtherTypesIsReportedAndRenamedByTheNextWrite) {
     const auto content = "Release=R12\nVersion=" + name + "(\\0\\0\\0\\x9\\0\\x7f\\xff\\xff\\xff)\n";
     Content(content);
     EXPECT_EQ(At("Release"), kNone);
-    EXPECT_EQ(store_.WhyNotRead(),
-              File().toStdString() + ": it holds a value that is neither text nor number");
+    EXPECT_EQ(store_.WhyNotRead(), File().toStdString() + ": a value is neither text nor number");
     EXPECT_TRUE(store_.Write(kKey, "Version", "V1400").Ok());
     EXPECT_EQ(At("Version"), core::SettingValue("V1400"));
     QFile aside(File() + ".unsound");

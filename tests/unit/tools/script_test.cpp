@@ -199,7 +199,7 @@ TEST_F(Script, ChecksFilesAndTheConfiguration) {
                           acts::ReopenableFile(images::FactoryImage(firmware), firmware).value());
   EXPECT_EQ(RunStarted("check\nstream \"" + good + "\"\nclick DemoMode\npick ComboTD(4) 1\ncheck\n" +
                        "stream " + Quoted(bad) + "\n"),
-            "no findings\nwarning: demo-on: The unit plays its demonstration after power up.\n"
+            "no findings\nwarning: demo-on: The unit starts its demo after power up.\n"
             "note: clock-locked: T/D LOCKING is ON, but T/D DISPLAY is OFF.\n");
   using Options = std::vector<command_line::Given>;
   const auto checked = [](Options options, std::vector<std::string> words) {
@@ -210,7 +210,7 @@ TEST_F(Script, ChecksFilesAndTheConfiguration) {
     return std::to_string(static_cast<int>(status)) + '\n' + output.str() + errors.str();
   };
   const auto of = [](const char* name) { return Options{{0, name}}; };
-  const auto lines = bad + ": warning: demo-on: The unit plays its demonstration after power up.\n" + bad +
+  const auto lines = bad + ": warning: demo-on: The unit starts its demo after power up.\n" + bad +
                      ": note: clock-locked: T/D LOCKING is ON, but T/D DISPLAY is OFF.\n";
   EXPECT_EQ(checked(of("V1400R12"), {good}), "0\n");
   EXPECT_EQ(checked(of("V1400 R12"), {good, bad}), "1\n" + lines);
@@ -223,11 +223,10 @@ TEST_F(Script, ChecksFilesAndTheConfiguration) {
   EXPECT_NE(json.find("good.bin\", \"firmware\": \"V1400R12\", \"findings\": []},\n"), std::string::npos)
       << json;
   EXPECT_NE(json.find("bad \\\"\xC3\x96\\\".bin\""), std::string::npos) << json;
-  EXPECT_NE(
-      json.find("{\"severity\": \"warning\", \"id\": \"demo-on\", \"words\": \"The unit plays its "
-                "demonstration after power up.\", \"tab\": \"REMOTE\", \"setting\": \"Demo On Power Up\", "
-                "\"control\": \"DemoMode\", \"list\": \"\", \"number\": 0}"),
-      std::string::npos)
+  EXPECT_NE(json.find("{\"severity\": \"warning\", \"id\": \"demo-on\", \"words\": \"The unit starts its "
+                      "demo after power up.\", \"tab\": \"REMOTE\", \"setting\": \"Demo On Power Up\", "
+                      "\"control\": \"DemoMode\", \"list\": \"\", \"number\": 0}"),
+            std::string::npos)
       << json;
 }
 

@@ -41,11 +41,12 @@ class AdviceBarTest : public ::testing::Test {
 };
 
 TEST_F(AdviceBarTest, AHiddenLineMakesRoomForTheNextAndAnEmptyBarDisappears) {
-  EXPECT_NE(Words().find("Begin on REMOTE"), std::string::npos) << Words();
+  EXPECT_NE(Words().find("not those of the unit. On REMOTE, press "), std::string::npos) << Words();
   screen_.App().image[image::FieldId::TRIGGER_TEXT].replace(0, 2, "03");
-  EXPECT_EQ(Words().find("Begin on REMOTE"), std::string::npos) << "the setting is more important";
+  EXPECT_EQ(Words().find("not those of the unit. On REMOTE, press "), std::string::npos)
+      << "the setting is more important";
   screen_.Click("AdviceClose");
-  EXPECT_NE(Words().find("Begin on REMOTE"), std::string::npos) << Words();
+  EXPECT_NE(Words().find("not those of the unit. On REMOTE, press "), std::string::npos) << Words();
   screen_.Click("AdviceClose");
   EXPECT_FALSE(IsShown());
 }

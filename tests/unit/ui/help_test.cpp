@@ -255,7 +255,7 @@ TEST_F(HelpWindowTest, OpensAManualOrItsFolderOrReportsWhyNot) {
   Answer(tools, "", "browser");
   EXPECT_EQ(opened(manuals, "B.pdf"), "Manual");
   Answer(tools, "", "");
-  EXPECT_TRUE(opened(manuals, "B.pdf").endsWith(manuals + ": no program opens folders"));
+  EXPECT_TRUE(opened(manuals, "B.pdf").endsWith(manuals + ": no program is installed that opens folders"));
   EXPECT_TRUE(opened(manuals + "/B.pdf", "B.pdf").endsWith("/B.pdf: Not a directory"));
   qputenv("PATH", path);
 }

@@ -65,7 +65,7 @@ TEST(Store, ItsErrorIsInTheMessageBox) {
   };
   EXPECT_EQ(start(), "Please ReInstall Ovalon PC Software|" + folder +
                          "/ORB/OVL Software.conf: No such file or directory\n"
-                         "Root sets the firmware, for instance: ovl-setup V1400 R12");
+                         "To set the firmware, run as root, for instance: ovl-setup V1400 R12");
   MakeSite(site, {"V1400", "R12"});
   fs::remove(site.File("V1400/R12/GENERIC.bin"));
   EXPECT_TRUE(start().endsWith(folder + "/V1400/R12/GENERIC.bin: No such file or directory"));
@@ -84,11 +84,11 @@ TEST(Store, ItsErrorIsInTheMessageBox) {
   fs::remove(settings);
   fs::create_directory(settings);
   const auto item = program.Model().registry.Find("V1300R14mnu")->control;
-  EXPECT_EQ(
-      BoxesOf([&] { program.Act(core::ClickEvent{item}); }),
-      "V1300R14 WILL TAKE EFFECT WHEN THE APPLICATION NEXT START|" + folder +
-          "/ORB/OVL Software.conf: Is a directory\n"
-          "The next start serves the same firmware as this one. Root sets another: ovl-setup V1300 R14");
+  EXPECT_EQ(BoxesOf([&] { program.Act(core::ClickEvent{item}); }),
+            "V1300R14 WILL TAKE EFFECT WHEN THE APPLICATION NEXT START|" + folder +
+                "/ORB/OVL Software.conf: Is a directory\n"
+                "The next start serves the same firmware as this one. To set the other one, run as root: "
+                "ovl-setup V1300 R14");
 }
 
 }  // namespace

@@ -101,7 +101,7 @@ TEST(RangeWindow, ItsValuesCanBeTyped) {
   const auto usual = hint.text();
   EXPECT_TRUE(usual.contains("4 digits") && usual.contains("2 behind")) << usual.toStdString();
   screen.Type("7x");
-  EXPECT_EQ(hint.text(), "Only digits can be typed here.");
+  EXPECT_EQ(hint.text(), "You can type only digits here.");
   screen.Type("890");
   EXPECT_EQ(hint.text(), usual);
   screen.Type("1");
