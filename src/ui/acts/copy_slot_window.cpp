@@ -63,6 +63,8 @@ CopySlotWindow::CopySlotWindow(const Bindings& bindings, acts::SlotKind kind, QW
   });
   connect(last_, &QSpinBox::valueChanged, this, &CopySlotWindow::ShowEffect);
   ShowEffect();
+  first_->setFocus();
+  first_->selectAll();  // a number that is typed replaces it
 }
 
 void CopySlotWindow::LayOut() {
