@@ -111,8 +111,8 @@ const Entry* HeaderOf(const Document& document, std::string_view key) {
 
 std::vector<Problem> HeaderProblems(const Document& document) {
   auto problems = document.problems;
-  if (problems.empty()) ExpectFormat(document, problems);
-  if (!problems.empty()) return problems;
+  if (problems.empty() || HeaderOf(document, kFormatKey) != nullptr) ExpectFormat(document, problems);
+  if (problems.size() > document.problems.size()) return problems;
   const std::vector<std::string> keys = {std::string(kFormatKey), std::string(kFirmwareKey),
                                          std::string(kCompleteKey)};
   for (const auto& entry : document.entries) {

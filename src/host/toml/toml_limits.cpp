@@ -164,20 +164,23 @@ class Line {
 
 }  // namespace
 
-std::vector<Problem> OutsideTomlLimits(std::string_view text) {
+OutsideLimits OutsideTomlLimits(std::string_view text) {
   constexpr std::size_t kMostBytes = 1'000'000;
   constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-  if (text.size() > kMostBytes) return {{{1, 1}, "the file is too large for a text form"}};
+  if (text.size() > kMostBytes) return {{{{1, 1}, "the file is too large for a text form"}}, 0};
   if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
-  std::vector<Problem> problems;
+  OutsideLimits outside;
   for (int number = 1; !text.empty(); ++number) {
     const auto line = text.substr(0, text.find('\n'));
     Line checked(line, number);
-    if (auto problem = checked.Wrong()) problems.push_back(std::move(*problem));
-    if (checked.OpensText()) break;
+    if (auto problem = checked.Wrong()) outside.problems.push_back(std::move(*problem));
+    if (checked.OpensText()) {
+      outside.last_line = number;
+      break;
+    }
     text.remove_prefix(std::min(line.size() + 1, text.size()));
   }
-  return problems;
+  return outside;
 }
 
 }  // namespace ovl::host

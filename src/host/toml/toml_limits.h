@@ -5,6 +5,7 @@
 // over several lines that is hard to see. A text form needs none of these.
 #pragma once
 
+#include <limits>
 #include <string_view>
 #include <vector>
 
@@ -12,7 +13,11 @@
 
 namespace ovl::host {
 
-// The first place of each line that the library must not get.
-std::vector<text_form::Problem> OutsideTomlLimits(std::string_view text);
+struct OutsideLimits {
+  std::vector<text_form::Problem> problems;  // the first place of each line that the library must not get
+  int last_line = std::numeric_limits<int>::max();  // what follows is a part of a text, or too much
+};
+
+OutsideLimits OutsideTomlLimits(std::string_view text);
 
 }  // namespace ovl::host

@@ -1,11 +1,14 @@
 #include "text_form/import/import.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <set>
 
+#include "codecs/codecs.h"
 #include "codecs/windows_1252.h"
 #include "firmware/firmware_table.h"
+#include "firmware/register_lists.h"
 #include "image/stream_entries.h"
 #include "text_form/encoding.h"
 #include "text_form/export.h"
@@ -51,9 +54,12 @@ class Importer {
     for (const auto& table : document_.empty_tables) {
       if (own_ == nullptr && table.table != kOtherBytes && !IsTable(table.table)) SayUnknown(table);
     }
-    other_bytes_.Take(others_, named_, result_.image);
-    ReadOptions();
-    if (complete_ && result_.problems.empty()) ExpectAll();
+    // What depends on other lines is not judged where some could not be read.
+    if (document_.problems.empty()) {
+      other_bytes_.Take(others_, named_, result_.image);
+      ReadOptions();
+      if (complete_ && result_.problems.empty()) ExpectAll();
+    }
     std::stable_sort(result_.problems.begin(), result_.problems.end(),
                      [](const Problem& one, const Problem& other) { return one.at < other.at; });
     return std::move(result_);
@@ -262,13 +268,28 @@ class Importer {
   std::vector<const Entry*> others_, options_;
 };
 
-// An image of the firmware with what it shares with the base.
-image::ConfigImage SharedWith(const image::ConfigImage& base, const firmware::FirmwareId& firmware) {
+// The code of the same register under another firmware; 00 if that one does not serve it.
+std::string CodeUnder(const firmware::FirmwareId& other, const firmware::FirmwareId& firmware,
+                      const std::string& code) {
+  const auto entries = firmware::BuildRegisterEntries(firmware.version, firmware.release);
+  const auto others = firmware::BuildRegisterEntries(other.version, other.release);
+  const auto at = static_cast<std::size_t>(codecs::HexToInt(code));
+  if (at >= entries.size()) return "00";
+  const auto found = std::find_if(others.begin(), others.end(), [&](const firmware::RegisterEntry& entry) {
+    return entry.name == entries[at].name;
+  });
+  return found == others.end() ? "00" : codecs::ByteToHex(static_cast<int>(found - others.begin()));
+}
+
+// An image of another firmware with what it shares with the base, which is an image of the firmware.
+image::ConfigImage SharedWith(const image::ConfigImage& base, const firmware::FirmwareId& base_firmware,
+                              const firmware::FirmwareId& firmware) {
   auto image = FilledImage(firmware, '0');
   image::ForEachStreamEntry(firmware, [&](const image::FieldRow& row, int entry) {
     const auto& value = base.at(row.id, entry);
     if (IsRegular(value, DigitsOfField(row.id, firmware))) image.at(row.id, entry) = value;
   });
+  image[image::FieldId::REGTYPE] = CodeUnder(firmware, base_firmware, base[image::FieldId::REGTYPE]);
   return image;
 }
 
@@ -281,7 +302,14 @@ std::optional<firmware::FirmwareId> OtherFirmware(const Document& document,
   return served == firmware ? std::nullopt : std::optional(served);
 }
 
+void Add(std::vector<Problem> others, std::vector<Problem>& problems) {
+  problems.insert(problems.end(), std::make_move_iterator(others.begin()),
+                  std::make_move_iterator(others.end()));
+}
+
 Imported Refused(const image::ConfigImage& base, std::vector<Problem> problems) {
+  std::stable_sort(problems.begin(), problems.end(),
+                   [](const Problem& one, const Problem& other) { return one.at < other.at; });
   Cut(problems);
   return {base, std::move(problems), {}};
 }
@@ -290,14 +318,20 @@ Imported Refused(const image::ConfigImage& base, std::vector<Problem> problems) 
 
 Imported Import(Catalogue& catalogue, const CatalogueOf& catalogue_of, const image::ConfigImage& base,
                 const Document& document, Strictness strictness) {
-  if (auto problems = HeaderProblems(document); !problems.empty()) return Refused(base, std::move(problems));
+  auto problems = HeaderProblems(document);
+  if (problems.size() > document.problems.size()) return Refused(base, std::move(problems));
   const auto other = OtherFirmware(document, catalogue.Firmware());
   Catalogue* own = other ? &catalogue_of(*other) : nullptr;
   if (own != nullptr) {
-    auto judged = Importer(*own, nullptr, SharedWith(base, *other), document).Run();
-    if (!judged.problems.empty()) return Refused(base, std::move(judged.problems));
+    const auto shared = SharedWith(base, catalogue.Firmware(), *other);
+    Add(Importer(*own, nullptr, shared, document).Run().problems, problems);
+    if (!problems.empty()) return Refused(base, std::move(problems));
   }
   auto imported = Importer(catalogue, own, base, document).Run();
+  if (!problems.empty()) {
+    Add(std::move(imported.problems), problems);
+    return Refused(base, std::move(problems));
+  }
   Cut(imported.problems);
   if (own != nullptr && strictness == Strictness::kPartial) imported.left_out.swap(imported.problems);
   return imported;

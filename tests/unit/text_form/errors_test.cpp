@@ -32,19 +32,31 @@ PARITY = "EVEN)",
     {R"([COMMUNICATION]
 PARITY = 'EVEN'
 PARITY = "ODD")",
-     R"(4:10 wrong syntax)"},
+     R"(4:1 "PARITY" is already on line 3)"},
     {R"([COMMUNICATION]
 PARITY "EVEN")",
      R"(3:8 wrong syntax)"},
     {R"([COMMUNICATION]
 PARITY = 1
 [COMMUNICATION])",
-     R"(4:1 wrong syntax)"},
+     R"(3:10 "1" is not allowed for "PARITY"; allowed: "NONE", "EVEN", "ODD"
+4:2 [COMMUNICATION] is already on line 2)"},
+    {R"(["Exception 1"]
+text = "A"
+DISPLAY = ON
+["Exception 1"]
+OPERATR = "IN"
+[COMMUNICATION]
+PARITY = "EVN")",
+     R"(4:11 "ON" is not allowed; allowed: a text in quotes
+5:2 [Exception 1] is already on line 2
+6:1 "OPERATR" is no setting of [Exception 1]. Did you mean "OPERATOR"?
+8:10 "EVN" is not allowed for "PARITY"; allowed: "NONE", "EVEN", "ODD". Did you mean "EVEN"?)"},
     {R"([COMMUNICATION]
 PARITY = "\q")",
      R"(3:12 wrong syntax)"},
     {"[\"Exception 1\"]\ntext = \"\xFF\"", R"(3:8 wrong syntax)"},
-    {R"(format = 1)", R"(2:10 wrong syntax)"},
+    {R"(format = 1)", R"(2:1 "format" is already on line 1)"},
     {R"(formt = 2)", R"(2:1 "formt" is in no table. Did you mean "format"?)"},
     {R"(PARITY = "EVEN")", R"(2:1 "PARITY" is in no table)"},
     {R"(complete = 1)", R"(2:12 1 is not allowed here; allowed: true, false)"},
@@ -208,6 +220,7 @@ RX_BAUDRATE = "03")",
     {R"(Größe = 1)", "2:3 wrong syntax: letters other than A to Z are allowed only within quotes"},
     {R"(PARITY = "ö\"" # ö
 EVEN = 'ö\' ü)",
+     "2:1 \"PARITY\" is in no table\n"
      "3:13 wrong syntax: letters other than A to Z are allowed only within quotes"},
     {R"(PARITY = 00"ö")", "2:13 wrong syntax: letters other than A to Z are allowed only within quotes"},
     {R"(PARITY = 0x1F)", R"(2:10 "0x1F" is not allowed; allowed: a text in quotes)"},
