@@ -1,4 +1,6 @@
 // What a text form stores: in part, as a whole, and one of another firmware.
+#include <algorithm>
+
 #include "codecs/codecs.h"
 #include "image/slot_records.h"
 #include "text_form_fixture.h"
@@ -105,6 +107,14 @@ TEST_F(TextForm, AFormOfAnotherFirmwareGivesWhatIsThere) {
   const auto handshake =
       Read("format = 1\nfirmware = 'V1300 R14'\n[COMMUNICATION]\nHANDSHAKE = 'ON'\n", Strictness::kPartial);
   EXPECT_NE(Exported(handshake.image).find("\n\"HW HANDSHAKING\" = \"ON\""), std::string::npos);
+  // The option belongs to the register of the unit, which has another code under the other firmware.
+  const auto list = Served(kLatest).frmMain.ComboReg.items;
+  const auto micros = static_cast<int>(std::find(list.begin(), list.end(), "MICROS") - list.begin());
+  const auto option = text_form::Import(
+      Of(kLatest), Of, Pattern(kLatest, micros),
+      host::ReadToml("format = 1\nfirmware = 'V1300 R14'\n['REGISTER SELECT']\nNetwork = 'LOCAL VSS'\n"),
+      Strictness::kPartial);
+  EXPECT_TRUE(option.problems.empty());
   // An error that has nothing to do with the firmware is one in any case.
   const auto slip =
       Read("format = 1\nfirmware = 'V1300 R14'\n[COMMUNICATION]\nPARTIY = 'ODD'\n", Strictness::kPartial);
