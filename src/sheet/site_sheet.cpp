@@ -16,8 +16,6 @@ namespace {
 using text_form::Line;
 using Lines = std::vector<Line>;
 
-constexpr std::size_t kLinesForFindings = 17;  // that page 1 has room for
-constexpr std::size_t kLettersOfLine = 90;
 constexpr std::string_view kEmpty = "&#160;";  // a cell without anything would spoil the space below a table
 constexpr std::size_t kPairs = 3;              // settings beside each other
 constexpr std::string_view kTitleText = "Title_Text";
@@ -105,21 +103,13 @@ std::string Sections(const Lines& lines, const core::Application& like, const im
   return html;
 }
 
-std::string FindingsOf(std::span<const checks::Finding> findings) {
-  if (findings.empty()) return Head("Checks") + "<p>The checks found nothing.</p>\n";
-  std::string rows;
-  std::size_t shown = 0;
-  for (std::size_t lines = 0; shown < findings.size(); ++shown) {
-    const auto& finding = findings[shown];
-    lines += finding.words.English().size() / kLettersOfLine + 1;
-    if (lines > kLinesForFindings) break;
-    rows += RowOf({Cell("value", Html(NameOf(finding.severity)), "9%"), Cell("words", Html(finding.words))});
+std::vector<std::string> RowsOf(std::span<const checks::Finding> findings) {
+  std::vector<std::string> rows;
+  for (const auto& finding : findings) {
+    rows.push_back(
+        RowOf({Cell("value", Html(NameOf(finding.severity)), "9%"), Cell("words", Html(finding.words))}));
   }
-  if (shown < findings.size()) {
-    const auto rest = std::to_string(findings.size() - shown);
-    rows += RowOf({Cell("plain", kEmpty), Cell("plain", "And " + rest + " more.")});
-  }
-  return Head("Checks") + Table("checks", rows);
+  return rows;
 }
 
 // What both pages begin with.
@@ -144,15 +134,27 @@ std::string HandLines() {
 
 }  // namespace
 
-std::string SiteSheet(const core::Application& like, const image::ConfigImage& image,
-                      std::span<const checks::Finding> findings) {
+SiteSheet::SiteSheet(const core::Application& like, const image::ConfigImage& image,
+                     std::span<const checks::Finding> findings)
+    : findings_(RowsOf(findings)) {
   text_form::Catalogue catalogue(like);
   const auto lines = text_form::LinesOf(catalogue, image);
   const auto sum = Checksum(image, like.image_firmware).value_or("none: the configuration is not complete");
-  return std::string(kHead) + TitleOf(like, sum, 1) + HandLines() + Sections(lines, like, image) +
-         FindingsOf(findings) + TitleOf(like, sum, 2) +
-         SlotTable(acts::SlotKind::kException, lines, like, image) +
-         SlotTable(acts::SlotKind::kAlarm, lines, like, image) + "</body>\n</html>\n";
+  settings_ = TitleOf(like, sum, 1) + HandLines() + Sections(lines, like, image);
+  slots_ = TitleOf(like, sum, 2) + SlotTable(acts::SlotKind::kException, lines, like, image) +
+           SlotTable(acts::SlotKind::kAlarm, lines, like, image);
+}
+
+std::string SiteSheet::Html(std::size_t findings) const {
+  const auto shown = std::min(findings, findings_.size());
+  std::string rows;
+  for (std::size_t finding = 0; finding < shown; ++finding) rows += findings_[finding];
+  if (shown < findings_.size()) {
+    const auto rest = std::to_string(findings_.size() - shown);
+    rows += RowOf({Cell("plain", kEmpty), Cell("plain", "And " + rest + " more.")});
+  }
+  const auto checks = rows.empty() ? "<p>The checks found nothing.</p>\n" : Table("checks", rows);
+  return std::string(kHead) + settings_ + Head("Checks") + checks + slots_ + "</body>\n</html>\n";
 }
 
 }  // namespace ovl::sheet

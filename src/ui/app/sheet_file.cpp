@@ -18,7 +18,7 @@ std::optional<QPageSize::PageSizeId> PaperOf(const QString& name) {
 }
 
 // Throws NoConfiguration or Failure.
-QString SheetOfFile(const SheetRequest& request) {
+sheet::SiteSheet SheetOfFile(const SheetRequest& request) {
   const auto path = QFile::encodeName(request.configuration).toStdString();
   const auto bytes = host::DiskFiles().read(path);
   host::Viewer viewer(host::FirmwareOf(path, bytes, request.firmware.toStdString()));

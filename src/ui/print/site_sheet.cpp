@@ -7,7 +7,6 @@
 #include <QPainter>
 #include <QTextDocument>
 
-#include "sheet/site_sheet.h"
 #include "ui/print/document_file.h"
 
 namespace ovl::ui {
@@ -16,36 +15,52 @@ namespace {
 const QMarginsF kMargins(12, 12, 12, 12);  // in millimetres
 constexpr int kPages = 2;                  // that the headings of the sheet name
 
-// How many times as large as the paper the page must be for the sheet to have two of them.
-double EnlargeToFit(QTextDocument& document, QSizeF paper) {
+bool Fits(QTextDocument& document, const sheet::SiteSheet& sheet, std::size_t findings) {
+  document.setHtml(QString::fromStdString(sheet.Html(findings)));
+  return document.pageCount() <= kPages;
+}
+
+// Only bytes that this program never stores make the texts so wide that the page must be larger than the
+// paper.
+void EnlargeToFit(QTextDocument& document, QSizeF paper) {
   constexpr double kStep = 1.03, kMost = 2;
-  double factor = 1;
-  document.setPageSize(paper);
-  while (document.pageCount() > kPages && factor < kMost) {
-    factor *= kStep;
+  for (double factor = kStep; document.pageCount() > kPages && factor < kMost; factor *= kStep)
     document.setPageSize(paper * factor);
-  }
-  return factor;
 }
 
 }  // namespace
 
-QString SiteSheetOf(const core::Application& like, const image::ConfigImage& image) {
-  return QString::fromStdString(sheet::SiteSheet(like, image, checks::FindingsOf(like, image)));
+sheet::SiteSheet SiteSheetOf(const core::Application& like, const image::ConfigImage& image) {
+  return sheet::SiteSheet(like, image, checks::FindingsOf(like, image));
 }
 
-// The page is what the margins leave of the paper. Only bytes that this program never stores make the texts
-// so wide that the page must be larger, and is then printed smaller.
-void PrintSiteSheet(const QString& sheet, QPagedPaintDevice& device) {
+void LayOutSiteSheet(const sheet::SiteSheet& sheet, QSizeF paper, QTextDocument& document) {
+  document.setPageSize(paper);
+  std::size_t fitting = 0;
+  auto most = sheet.Findings();
+  if (!Fits(document, sheet, 0)) EnlargeToFit(document, paper);
+  while (fitting < most) {
+    const auto tried = most - (most - fitting) / 2;
+    if (Fits(document, sheet, tried)) {
+      fitting = tried;
+    } else {
+      most = tried - 1;
+    }
+  }
+  Fits(document, sheet, fitting);
+}
+
+// The page is what the margins leave of the paper. A larger page is printed smaller.
+void PrintSiteSheet(const sheet::SiteSheet& sheet, QPagedPaintDevice& device) {
   device.setPageMargins(kMargins, QPageLayout::Millimeter);
   QTextDocument document;
   document.setDocumentMargin(0);
   document.documentLayout()->setPaintDevice(&device);
-  document.setHtml(sheet);
-  const double factor = EnlargeToFit(document, QSizeF(device.width(), device.height()));
+  const QSizeF paper(device.width(), device.height());
+  LayOutSiteSheet(sheet, paper, document);
   const auto page = document.pageSize();
   QPainter painter(&device);
-  painter.scale(1 / factor, 1 / factor);
+  painter.scale(paper.width() / page.width(), paper.width() / page.width());
   for (int number = 0; number < document.pageCount(); ++number) {
     if (number > 0) {
       device.newPage();
@@ -61,9 +76,9 @@ std::optional<SheetFormat> SheetFormatOf(const QString& file) {
   return std::nullopt;
 }
 
-core::Result WriteSiteSheet(const QString& sheet, const QString& file, SheetFormat format,
+core::Result WriteSiteSheet(const sheet::SiteSheet& sheet, const QString& file, SheetFormat format,
                             QPageSize::PageSizeId paper) {
-  if (format == SheetFormat::kHtml) return ReplaceFile(file, sheet.toUtf8());
+  if (format == SheetFormat::kHtml) return ReplaceFile(file, QByteArray::fromStdString(sheet.Html()));
   return WritePdf(file, kSiteSheetTitle, paper,
                   [&](QPagedPaintDevice& device) { PrintSiteSheet(sheet, device); });
 }

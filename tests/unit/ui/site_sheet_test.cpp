@@ -1,5 +1,6 @@
 // The site sheet as a document.
 #include <QFile>
+#include <QTextDocument>
 
 #include "image/slot_records.h"
 #include "screen.h"
@@ -55,11 +56,33 @@ TEST_P(SiteSheetFile, OfAFullConfigurationHasTwoPages) {
   const TemporaryFolder folder;
   const auto file = QString::fromStdString(folder.File("sheet.pdf"));
   for (const auto& image : {FullImage(GetParam()), text_form::FilledImage(GetParam(), 'C')}) {
-    const auto sheet = QString::fromStdString(sheet::SiteSheet(app, image, findings));
+    const sheet::SiteSheet sheet(app, image, findings);
     for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
       ASSERT_TRUE(ui::WriteSiteSheet(sheet, file, ui::SheetFormat::kPdf, paper).Ok());
       EXPECT_EQ(PagesOf(file), 2) << QPageSize::name(paper).toStdString();
     }
+  }
+}
+
+TEST(SiteSheetLayout, HasAsManyFindingsAsFitAndCountsTheOthers) {
+  core::Application app;
+  start::ServeFirmware(app, {"V1400", "R12"});
+  const auto image = text_form::FilledImage(app.image_firmware, '0');
+  checks::Finding finding;
+  finding.words = std::string("Words");
+  for (const std::size_t count : {5, 200}) {
+    const std::vector<checks::Finding> findings(count, finding);
+    const sheet::SiteSheet sheet(app, image, findings);
+    QTextDocument document;
+    ui::LayOutSiteSheet(sheet, QPageSize::size(QPageSize::A4, QPageSize::Point), document);
+    EXPECT_EQ(document.pageCount(), 2);
+    const auto text = document.toPlainText();
+    const auto shown = static_cast<std::size_t>(text.count(QStringLiteral("Words")));
+    EXPECT_EQ(shown == count, count == 5);
+    if (shown == count) continue;
+    EXPECT_TRUE(text.contains(QStringLiteral("And %1 more.").arg(count - shown)));
+    document.setHtml(QString::fromStdString(sheet.Html(shown + 1)));
+    EXPECT_GT(document.pageCount(), 2) << "there was room for one more";
   }
 }
 
