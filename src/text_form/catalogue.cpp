@@ -17,8 +17,6 @@ namespace {
 using core::ValueDisplay;
 using image::FieldId;
 
-// The list of an on and off that another list decides: the timeout is 0 or not.
-constexpr std::string_view kDecidedByTimeout = "ComboScroll(0)";
 constexpr std::string_view kRegister = "ComboReg";
 constexpr std::string_view kTrigger = "ComboALM(1)";
 
@@ -108,6 +106,11 @@ void Claim(std::map<std::pair<FieldId, int>, int>& claimed, Setting& setting) {
 
 }  // namespace
 
+// The timeout of scroll matching is 0 or not.
+bool IsDecidedByAnother(std::string_view control) {
+  return control == "ComboScroll(0)";
+}
+
 Catalogue::Catalogue(const core::Application& like) : like_(like), firmware_(like.image_firmware) {
   AddFields();
   GiveChoices();
@@ -146,7 +149,7 @@ void Catalogue::AddFields() {
 
 // Some firmware have shorter records, without the last settings.
 void Catalogue::AddSite(const changes::Site& site, FieldId field, int entry) {
-  if (site.option != nullptr || site.control == kDecidedByTimeout) return;
+  if (site.option != nullptr || IsDecidedByAnother(site.control)) return;
   if (site.digits.first >= DigitsOfField(field, firmware_)) return;
   const FieldPart part{field, entry, site.digits, site.bits};
   const auto known = std::find_if(panels_.begin(), panels_.end(), [&](const Setting& setting) {

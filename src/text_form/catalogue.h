@@ -15,6 +15,9 @@ namespace ovl::text_form {
 
 using OptionRows = std::vector<const registers::OptionRow*>;
 
+// The on and off that another control of the form decides is no setting of its own.
+bool IsDecidedByAnother(std::string_view control);
+
 class Catalogue {
  public:
   // Of the firmware of the image of `like`, which has to outlive it.

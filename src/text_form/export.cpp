@@ -27,20 +27,6 @@ void AppendEscaped(std::string& text, char32_t character) {
   for (int shift = 12; shift >= 0; shift -= 4) text += kDigits[character >> shift & 0xF];
 }
 
-// A text of Windows-1252 in quotes.
-std::string Quoted(std::string_view text) {
-  std::string quoted = "\"";
-  for (const char byte : text) {
-    const auto character = codecs::CharacterOfCode(static_cast<unsigned char>(byte));
-    if (IsPlain(character)) {
-      codecs::AppendUtf8(quoted, character);
-    } else {
-      AppendEscaped(quoted, character);
-    }
-  }
-  return quoted + '"';
-}
-
 bool IsBare(std::string_view key) {
   return !key.empty() && std::all_of(key.begin(), key.end(), [](char letter) {
     return (letter >= 'A' && letter <= 'Z') || (letter >= 'a' && letter <= 'z') ||
@@ -114,6 +100,19 @@ std::string ValueOf(const Line& line) {
 }
 
 }  // namespace
+
+std::string Quoted(std::string_view text) {
+  std::string quoted = "\"";
+  for (const char byte : text) {
+    const auto character = codecs::CharacterOfCode(static_cast<unsigned char>(byte));
+    if (IsPlain(character)) {
+      codecs::AppendUtf8(quoted, character);
+    } else {
+      AppendEscaped(quoted, character);
+    }
+  }
+  return quoted + '"';
+}
 
 std::vector<Line> LinesOf(Catalogue& catalogue, const image::ConfigImage& image) {
   std::vector<Line> lines;

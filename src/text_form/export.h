@@ -11,6 +11,9 @@ namespace ovl::text_form {
 
 inline constexpr std::string_view kOtherBytes = "Other bytes";
 
+// A text of Windows-1252 as it is written: in quotes, in UTF-8, with escapes.
+std::string Quoted(std::string_view text);
+
 // A setting as it is stored. Texts are in Windows-1252.
 struct Line {
   int tab = 0;

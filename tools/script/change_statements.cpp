@@ -5,6 +5,7 @@
 
 #include "acts/copy_slot.h"
 #include "script/stop.h"
+#include "text_form/export.h"
 
 namespace ovl::script {
 namespace {
@@ -52,8 +53,8 @@ std::span<const Statement> ChangeStatements() {
 }
 
 std::string ChangeLine(const changes::SettingChange& change) {
-  return change.place.English() + ": " + change.caption.English() + ": " + Quoted(change.before) + " -> " +
-         Quoted(change.after) + "\n";
+  return change.place.English() + ": " + change.caption.English() + ": " + text_form::Quoted(change.before) +
+         " -> " + text_form::Quoted(change.after) + "\n";
 }
 
 }  // namespace ovl::script

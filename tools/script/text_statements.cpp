@@ -85,7 +85,9 @@ std::span<const Statement> TextStatements() {
 
 bool PrintDifferences(std::ostream& output, const core::Application& app, const image::ConfigImage& before,
                       const image::ConfigImage& after) {
-  const auto rows = changes::ReadableChanges(app, before, after);
+  auto rows = changes::ReadableChanges(app, before, after);
+  const auto is_no_line = [](const auto& row) { return text_form::IsDecidedByAnother(row.control); };
+  rows.erase(std::remove_if(rows.begin(), rows.end(), is_no_line), rows.end());
   for (const auto& row : rows) output << ChangeLine(row);
   return !rows.empty();
 }

@@ -350,7 +350,7 @@ TEST_F(Script, PrintsChangesInWordsAndCopiesExceptionsAndAlarms) {
                            "EXCEPTION REPORT: Exception 6, text: "}) {
     EXPECT_NE(printed.find(line), std::string::npos) << printed;
   }
-  EXPECT_NE(printed.find(" -> \"A \\\"B\\\" \\xE4\"\n"), std::string::npos) << printed;
+  EXPECT_NE(printed.find(" -> \"A \\\"B\\\" \xC3\xA4\"\n"), std::string::npos) << printed;
   EXPECT_EQ(RunStarted("click cmdConnect\ncopy alarm 1 2\n"), "refused copy\n");
   for (const auto* wrong : {"copy exception 1 25", "copy alarm 1 17", "copy alarm 0 1", "copy alarm 1 5 4",
                             "copy 1 2", "changes now"}) {
