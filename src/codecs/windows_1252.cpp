@@ -74,6 +74,16 @@ std::string Utf8OfWindows1252(std::string_view bytes) {
   return text;
 }
 
+std::string WithoutCode(std::string_view text) {
+  while (!text.empty()) {
+    const auto before = text;
+    const auto character = TakeCharacter(text);
+    if (!character) return std::string(before);
+    if (!CodeOfCharacter(*character)) return std::string(before.substr(0, before.size() - text.size()));
+  }
+  return {};
+}
+
 std::optional<std::string> Windows1252OfUtf8(std::string_view text) {
   std::string bytes;
   while (!text.empty()) {

@@ -13,6 +13,9 @@ std::optional<char> CodeOfCharacter(char32_t character);
 
 std::string Utf8OfWindows1252(std::string_view bytes);
 
+// The first character that has no code, and what is not valid UTF-8 as it is; empty if every one has a code.
+std::string WithoutCode(std::string_view text);
+
 // Nothing if a character has no code, or if the text is not valid UTF-8.
 std::optional<std::string> Windows1252OfUtf8(std::string_view text);
 

@@ -64,13 +64,22 @@ void ExpectFormat(const Document& document, std::vector<Problem>& problems) {
   }
 }
 
+std::vector<std::string> FirmwareNames() {
+  std::vector<std::string> names;
+  for (const auto& entry : firmware::FirmwareTable()) {
+    if (entry.in_menu) names.push_back(std::string(entry.version) + " " + std::string(entry.release));
+  }
+  return names;
+}
+
 void ExpectFirmware(const Entry& entry, std::vector<Problem>& problems) {
   const auto& value = entry.value;
   if (value.kind != ValueKind::kText) {
     problems.push_back(
         {value.at, Written(value) + " is not allowed here; allowed: a text such as \"V1400 R12\""});
   } else if (!firmware::FindFirmware(value.text)) {
-    problems.push_back({value.at, InQuotes(value.text) + " is no firmware that this program serves"});
+    problems.push_back({value.at, InQuotes(value.text) + " is no firmware that this program serves" +
+                                      Suggestion(value.text, FirmwareNames())});
   }
 }
 
@@ -94,7 +103,8 @@ std::optional<Problem> OtherFormat(std::string_view bytes) {
     if (!IsFormatLine(line)) return WithoutBlanks(line).starts_with('[');
     const auto behind = line.find('=') + 1;
     const auto value = WithoutBlanks(line.substr(behind, line.find('#') - behind));
-    const bool is_number = !value.empty() && value.find_first_not_of("0123456789.") == std::string_view::npos;
+    const bool is_number =
+        !value.empty() && value.find_first_not_of("+-0123456789.") == std::string_view::npos;
     const auto column = static_cast<int>(value.data() - line.data()) + 1;
     if (is_number && value != std::to_string(kFormat)) problem = UnknownFormat({number, column}, value);
     return true;

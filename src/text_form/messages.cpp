@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cmath>
 #include <numeric>
+#include <optional>
 
 #include "codecs/windows_1252.h"
 
@@ -31,19 +33,66 @@ std::size_t Distance(std::string_view one, std::string_view other) {
   return row.back();
 }
 
-// The word with the fewest letters to change, whatever its case. Empty if none is near.
-std::string Nearest(std::string_view word, const std::vector<std::string>& words) {
-  constexpr std::size_t kLongest = 80;
-  if (word.size() > kLongest) return {};
-  std::string nearest;
-  auto least = std::min(std::max<std::size_t>(2, word.size() / 3) + 1, word.size());
+std::optional<double> NumberOf(std::string_view word) {
+  constexpr std::size_t kMostDigits = 9;
+  if (word.empty() || word.size() > kMostDigits) return std::nullopt;
+  if (word.find_first_not_of("0123456789") != std::string_view::npos) return std::nullopt;
+  return std::stod(std::string(word));
+}
+
+// The number of the list that differs least, if that is little. 255 is meant by 256, and not 25.
+std::optional<std::string> NearNumber(std::string_view word, const std::vector<std::string>& words) {
+  constexpr double kShare = 0.1;
+  const auto number = NumberOf(word);
+  if (!number) return std::nullopt;
+  std::optional<std::string> nearest;
+  auto least = *number * kShare;
   for (const auto& candidate : words) {
-    const auto distance = Distance(word, candidate);
-    if (distance >= least) continue;
-    least = distance;
+    const auto other = NumberOf(candidate);
+    if (!other || std::abs(*other - *number) > least) continue;
+    least = std::abs(*other - *number);
     nearest = candidate;
   }
   return nearest;
+}
+
+std::size_t SharedStart(std::string_view one, std::string_view other) {
+  const auto ends = std::mismatch(one.begin(), one.end(), other.begin(), other.end(), Alike);
+  return static_cast<std::size_t>(ends.first - one.begin());
+}
+
+// The word with the fewest letters to change, whatever its case; of several the one that begins most alike,
+// and then the last one, which is near a number that is too large. Empty if none is near.
+std::string Nearest(std::string_view word, const std::vector<std::string>& words) {
+  constexpr std::size_t kLongest = 80;
+  if (word.size() > kLongest) return {};
+  if (const auto number = NearNumber(word, words)) return *number;
+  const auto least = std::min(std::max<std::size_t>(2, word.size() / 3) + 1, word.size());
+  std::pair best(least, word.size());  // letters to change, and letters that are not shared
+  std::string nearest;
+  for (const auto& candidate : words) {
+    const std::pair found(Distance(word, candidate), word.size() - SharedStart(word, candidate));
+    if (found.first >= least || found > best) continue;
+    best = found;
+    nearest = candidate;
+  }
+  return nearest;
+}
+
+// Of many words only how many they are, the first and the last.
+std::string Listed(const std::vector<std::string>& words) {
+  constexpr std::size_t kFew = 12;
+  if (words.size() > kFew) {
+    return "one of " + std::to_string(words.size()) + ", from " + InQuotes(words.front()) + " to " +
+           InQuotes(words.back());
+  }
+  std::string listed;
+  for (const auto& word : words) listed.append(listed.empty() ? "" : ", ").append(InQuotes(word));
+  return listed;
+}
+
+std::string DidYouMean(std::string_view word) {
+  return ". Did you mean " + InQuotes(word) + "?";
 }
 
 }  // namespace
@@ -89,23 +138,22 @@ std::string Written(const Value& value) {
 
 std::string Suggestion(std::string_view word, const std::vector<std::string>& words) {
   const auto nearest = Nearest(word, words);
-  return nearest.empty() ? std::string() : ". Did you mean " + InQuotes(nearest) + "?";
+  if (!nearest.empty()) return DidYouMean(nearest);
+  return words.empty() ? std::string() : "; allowed: " + Listed(words);
 }
 
 std::string NotAllowed(const Setting& setting, std::string_view text, std::string_view allowed) {
-  constexpr std::size_t kFew = 12;
+  const auto words = InQuotes(text) + " is not allowed for " + InQuotes(setting.key) + "; allowed: ";
+  if (setting.kind != Kind::kChoice) return words + codecs::Utf8OfWindows1252(allowed);
   std::vector<std::string> entries;
-  if (setting.kind == Kind::kChoice) {
-    for (const auto& choice : *setting.choices) entries.push_back(codecs::Utf8OfWindows1252(choice.words));
-  }
-  auto words = InQuotes(text) + " is not allowed for " + InQuotes(setting.key) + "; allowed: ";
-  if (entries.size() <= kFew) {
-    words += codecs::Utf8OfWindows1252(allowed);
-  } else {
-    words += "one of " + std::to_string(entries.size()) + " entries, from " + InQuotes(entries.front()) +
-             " to " + InQuotes(entries.back());
-  }
-  return words + Suggestion(text, entries);
+  for (const auto& choice : *setting.choices) entries.push_back(codecs::Utf8OfWindows1252(choice.words));
+  const auto nearest = Nearest(text, entries);
+  return words + Listed(entries) + (nearest.empty() ? std::string() : DidYouMean(nearest));
+}
+
+void SortByPlace(std::vector<Problem>& problems) {
+  std::stable_sort(problems.begin(), problems.end(),
+                   [](const Problem& one, const Problem& other) { return one.at < other.at; });
 }
 
 void Cut(std::vector<Problem>& problems) {

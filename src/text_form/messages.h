@@ -17,11 +17,13 @@ std::string InQuotes(std::string_view text);
 // As the value is written.
 std::string Written(const Value& value);
 
-// ". Did you mean "PARITY"?", or nothing if no word of the list is near.
+// For a word that is not in the list: ". Did you mean "PARITY"?", or what is allowed if no word is near.
 std::string Suggestion(std::string_view word, const std::vector<std::string>& words);
 
 // `allowed` is what StoreWords returns.
 std::string NotAllowed(const Setting& setting, std::string_view text, std::string_view allowed);
+
+void SortByPlace(std::vector<Problem>& problems);
 
 // As many problems as anybody reads at once. Of more than these only their number is left.
 inline constexpr std::size_t kMostProblems = 100;

@@ -97,8 +97,7 @@ class LineReader {
       ReadLine(line.substr(0, line.find_last_not_of('\r') + 1), number);
       text.remove_prefix(std::min(line.size() + 1, text.size()));
     }
-    std::stable_sort(document_.problems.begin(), document_.problems.end(),
-                     [](const Problem& one, const Problem& other) { return one.at < other.at; });
+    text_form::SortByPlace(document_.problems);
     return std::move(document_);
   }
 

@@ -60,8 +60,7 @@ class Importer {
       ReadOptions();
       if (complete_ && result_.problems.empty()) ExpectAll();
     }
-    std::stable_sort(result_.problems.begin(), result_.problems.end(),
-                     [](const Problem& one, const Problem& other) { return one.at < other.at; });
+    SortByPlace(result_.problems);
     return std::move(result_);
   }
 
@@ -147,7 +146,8 @@ class Importer {
     }
     const auto words = codecs::Windows1252OfUtf8(value.text);
     if (!words) {
-      Say(value.at, InQuotes(value.text) + " has characters that the unit does not have");
+      Say(value.at, InQuotes(codecs::WithoutCode(value.text)) +
+                        " is not a character of the unit; allowed: those of Windows-1252");
       return;
     }
     const auto allowed = StoreWords(setting, *words, result_.image, firmware_);
@@ -308,8 +308,7 @@ void Add(std::vector<Problem> others, std::vector<Problem>& problems) {
 }
 
 Imported Refused(const image::ConfigImage& base, std::vector<Problem> problems) {
-  std::stable_sort(problems.begin(), problems.end(),
-                   [](const Problem& one, const Problem& other) { return one.at < other.at; });
+  SortByPlace(problems);
   Cut(problems);
   return {base, std::move(problems), {}};
 }

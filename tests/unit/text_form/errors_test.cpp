@@ -58,7 +58,7 @@ PARITY = "\q")",
     {"[\"Exception 1\"]\ntext = \"\xFF\"", R"(3:8 wrong syntax)"},
     {R"(format = 1)", R"(2:1 "format" is already on line 1)"},
     {R"(formt = 2)", R"(2:1 "formt" is in no table. Did you mean "format"?)"},
-    {R"(PARITY = "EVEN")", R"(2:1 "PARITY" is in no table)"},
+    {R"(PARITY = "EVEN")", R"(2:1 "PARITY" is in no table; allowed: "format", "firmware", "complete")"},
     {R"(complete = 1)", R"(2:12 1 is not allowed here; allowed: true, false)"},
     {R"(firmware = 1400.5)", R"(2:12 "1400.5" is not allowed; allowed: a text in quotes)"},
     {R"([COMUNICATION]
@@ -70,16 +70,16 @@ X = 1)",
      R"(3:1 there is no table [comunication]. Did you mean "COMMUNICATION"?)"},
     {R"([Fantasy]
 PARITY = "EVEN")",
-     R"(3:1 there is no table [Fantasy])"},
+     R"(3:1 there is no table [Fantasy]; allowed: one of 47, from "REGISTER SELECT" to "REMOTE")"},
     {R"([COMMUNICATION]
 [COMUNICATION])",
      R"(3:2 there is no table [COMUNICATION]. Did you mean "COMMUNICATION"?)"},
     {R"(["Exception 25"]
 text = "A")",
-     R"(3:1 there is no table [Exception 25]. Did you mean "Exception 2"?)"},
+     R"(3:1 there is no table [Exception 25]. Did you mean "Exception 24"?)"},
     {R"(["Alarm 0"]
 text = "A")",
-     R"(3:1 there is no table [Alarm 0]. Did you mean "Alarm 1"?)"},
+     R"(3:1 there is no table [Alarm 0]. Did you mean "Alarm 10"?)"},
     {R"([COMMUNICATION]
 PARTY = "EVEN")",
      R"(3:1 "PARTY" is no setting of [COMMUNICATION]. Did you mean "PARITY"?)"},
@@ -88,7 +88,7 @@ parity = "EVEN")",
      R"(3:1 "parity" is no setting of [COMMUNICATION]. Did you mean "PARITY"?)"},
     {R"([COMMUNICATION]
 "LINES PER PAGE" = "3")",
-     R"(3:1 "LINES PER PAGE" is no setting of [COMMUNICATION])"},
+     R"(3:1 "LINES PER PAGE" is no setting of [COMMUNICATION]; allowed: one of 13, from "PARITY" to "SW HANDSHAKING")"},
     {R"([COMMUNICATION]
 PARITY = "EVENN")",
      R"(3:10 "EVENN" is not allowed for "PARITY"; allowed: "NONE", "EVEN", "ODD". Did you mean "EVEN"?)"},
@@ -137,7 +137,7 @@ PARITY = { digits = "01" })",
      R"(3:18 { bytes = "FF" } is not allowed for "SCREEN BLANK"; allowed: bytes such as "56 B1 11")"},
     {R"(["TEXT SETUP"]
 "DISPLAY CHARACTER / LINE" = 41)",
-     R"(3:30 "41" is not allowed for "DISPLAY CHARACTER / LINE"; allowed: one of 31 entries, from "10" to "40". Did you mean "11"?)"},
+     R"(3:30 "41" is not allowed for "DISPLAY CHARACTER / LINE"; allowed: one of 31, from "10" to "40". Did you mean "40"?)"},
     {R"(["Exception 1"]
 text = "12345678901234567890123456789012345678901")",
      R"(3:8 "12345678901234567890123456789012345678901" is not allowed for "text"; allowed: a text of at most 40 characters)"},
@@ -146,7 +146,7 @@ text = "A\u0000B")",
      R"(3:8 "A\u0000B" is not allowed for "text"; allowed: a text of at most 40 characters)"},
     {R"(["Exception 1"]
 text = "\u4E2D")",
-     R"(3:8 "中" has characters that the unit does not have)"},
+     R"(3:8 "中" is not a character of the unit; allowed: those of Windows-1252)"},
     {R"(["Exception 1"]
 RANGE = "5")",
      R"(3:9 "5" is not allowed for "RANGE"; allowed: two values such as "0.00 - 100.00", with 8 digits at most before the separator and two behind it)"},
@@ -167,7 +167,7 @@ TITLE = "12345678901234567890123456789012345678901")",
      R"(3:9 "12345678901234567890123456789012345678901" is not allowed for "TITLE"; allowed: a text of at most 40 characters, without a blank at its ends)"},
     {R"(["REGISTER SELECT"]
 Register = "GENRIC")",
-     R"(3:12 "GENRIC" is not allowed for "Register"; allowed: one of 111 entries, from "GENERIC" to "WEIGH SCALE". Did you mean "GENERIC"?)"},
+     R"(3:12 "GENRIC" is not allowed for "Register"; allowed: one of 111, from "GENERIC" to "WEIGH SCALE". Did you mean "GENERIC"?)"},
     {R"(["REGISTER SELECT"]
 Register = "ADS"
 Display = "RECIEPT")",
@@ -175,7 +175,7 @@ Display = "RECIEPT")",
     {R"(["REGISTER SELECT"]
 Register = "ADS"
 Scale = "AVERY")",
-     R"(4:1 "Scale" is no option of this register, or not together with its other options)"},
+     R"(4:1 "Scale" is no option of this register, or not together with its other options; allowed: "Register", "Display")"},
     {R"(["REGISTER SELECT"]
 Register = "ADS"
 Displai = "RECEIPT")",
@@ -183,7 +183,7 @@ Displai = "RECEIPT")",
     {R"(["REGISTER SELECT"]
 Register = "TCPIP"
 "IP ADDRESS 1" = 256)",
-     R"(4:18 "256" is not allowed for "IP ADDRESS 1"; allowed: one of 256 entries, from "0" to "255". Did you mean "25"?)"},
+     R"(4:18 "256" is not allowed for "IP ADDRESS 1"; allowed: one of 256, from "0" to "255". Did you mean "255"?)"},
     {R"(["REGISTER SELECT"]
 Register = "DRESSER WAYNE"
 "Point of sale" = "x"
@@ -210,17 +210,17 @@ RX_BAUDRATE = "03")",
      R"(3:15 "03" has bits that other lines store)"},
     {R"-(["Other bytes"]
 "EXCPSTRS(25)" = "00")-",
-     R"-(3:1 "EXCPSTRS(25)" is no field of V1400 R12. Did you mean "EXCPSTRS(15)"?)-"},
+     R"-(3:1 "EXCPSTRS(25)" is no field of V1400 R12. Did you mean "EXCPSTRS(24)"?)-"},
     {R"(["Other bytes"]
 "EXCPSTRS" = "00")",
-     R"(3:1 "EXCPSTRS" is no field of V1400 R12)"},
+     R"(3:1 "EXCPSTRS" is no field of V1400 R12; allowed: one of 170, from "ALMCFG_BAK" to "XATMNOTX")"},
     {"[=COMMUNICATION]", "2:2 wrong syntax"},
     {"[ .]", "2:3 wrong syntax"},
     {"[[#", "2:2 wrong syntax"},
     {R"(Größe = 1)", "2:3 wrong syntax: letters other than A to Z are allowed only within quotes"},
     {R"(PARITY = "ö\"" # ö
 EVEN = 'ö\' ü)",
-     "2:1 \"PARITY\" is in no table\n"
+     "2:1 \"PARITY\" is in no table; allowed: \"format\", \"firmware\", \"complete\"\n"
      "3:13 wrong syntax: letters other than A to Z are allowed only within quotes"},
     {R"(PARITY = 00"ö")", "2:13 wrong syntax: letters other than A to Z are allowed only within quotes"},
     {R"(PARITY = 0x1F)", R"(2:10 "0x1F" is not allowed; allowed: a text in quotes)"},
@@ -247,7 +247,10 @@ Model = "TS5000"
 ["Other bytes"]
 REGTYPE_MINOR = "01")",
      R"(6:17 "01" has bits that an option stores)"},
-    {R"(firmware = "V9999 R9")", R"(2:12 "V9999 R9" is no firmware that this program serves)"},
+    {R"(firmware = "V9999 R9")",
+     R"(2:12 "V9999 R9" is no firmware that this program serves; allowed: one of 29, from "V1400 R1" to "V1334 R1")"},
+    {R"(firmware = "V1400 R13")",
+     R"(2:12 "V1400 R13" is no firmware that this program serves. Did you mean "V1400 R12"?)"},
     {R"(firmware = "V1300 R14"
 [COMMUNICATION]
 PARITY = { bytes = "00" })",
@@ -255,7 +258,7 @@ PARITY = { bytes = "00" })",
 4:10 the bytes of another firmware are not taken)"},
     {R"([""]
 complete = true)",
-     R"(3:1 there is no table [""])"},
+     R"(3:1 there is no table [""]; allowed: one of 47, from "REGISTER SELECT" to "REMOTE")"},
     {R"(["Alarm 1"]
 text = " DOOR")",
      R"(3:8 " DOOR" is not allowed for "text"; allowed: a text of at most 40 characters, without a blank at its ends)"},
@@ -294,8 +297,10 @@ TEST_F(TextForm, EveryErrorHasItsPlaceAndWhatIsAllowed) {
   EXPECT_EQ(many.size(), 101U);
   EXPECT_EQ(many.back().words, "and 400 more");
   EXPECT_EQ(ProblemsIn(""), "1:1 the line \"format = 1\" is missing\n");
-  EXPECT_EQ(ProblemsIn("format = 2\nfuture = [1]"),
-            "1:10 format 2 is not known; this program reads format 1\n");
+  for (const std::string later : {"2", "+2"}) {
+    EXPECT_EQ(ProblemsIn("format = " + later + "\nfuture = [1]"),
+              "1:10 format " + later + " is not known; this program reads format 1\n");
+  }
 }
 
 }  // namespace
