@@ -139,6 +139,11 @@ Inputs OfText() {
         "[COMMUNICATION]\nPARITY = { bytes = '03' }\n"s, "['Other bytes']\n'EXCPSTRS(3)' = '80'\n"s,
         "['REGISTER SELECT']\nRegister = 'ADS'\nDisplay = 'JOURNAL'\n"s})
     seeds.push_back("\0format = 1\n"s + lines);
+  seeds.push_back("\4format = 1\nfirmware = 'V1300 R14'\n[COMMUNICATION]\nPARITY = 'ODD'\n"s);
+  // Changes to lines of the whole form.
+  for (const auto& change :
+       {"\0\x0APARITY = 'ODD'"s, "\0\x03complete = false\n\0\x20"s, "\x01\0['Other bytes']"s})
+    seeds.push_back("\x08" + change);
   return seeds;
 }
 
