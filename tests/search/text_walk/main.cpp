@@ -1,10 +1,14 @@
-// Exports images as text and imports the text into another image, under every firmware. Half of the images
-// are default images after random changes of whole settings, the other half random bytes behind a random
-// register. Prints the first text that does not give its image back.
-//   ovl-text-walk [IMAGES [SEED]]
+// Exports images as text and imports the text into another image, under every firmware. The images are of
+// three kinds: what random acts of a person and of the unit leave, default images after random changes of
+// whole settings, and random bytes behind a random register, with some fields of another length. Prints the
+// first text that does not give its image back.
+//   ovl-text-walk [IMAGES OF EACH KIND [SEED]]
 #include <cmath>
 #include <ctime>
+#include <filesystem>
+#include <functional>
 #include <iostream>
+#include <optional>
 #include <random>
 
 #include "firmware/firmware_table.h"
@@ -13,7 +17,10 @@
 #include "image/report.h"
 #include "image/stream_entries.h"
 #include "images/default_images.h"
+#include "search/random_walk/act_generator.h"
+#include "search/random_walk/checked_program.h"
 #include "start/start_up.h"
+#include "support/harness.h"
 #include "text_form/export.h"
 #include "text_form/import/import.h"
 
@@ -32,11 +39,20 @@ std::string RandomDigits(Random& random, std::size_t count) {
   return digits;
 }
 
+// A field that a damaged file or line leaves.
+void MakeIrregular(Random& random, std::string& value) {
+  value = RandomDigits(random, static_cast<std::size_t>(1 + Below(random, 200)));
+  if (Below(random, 2) == 0)
+    value[static_cast<std::size_t>(Below(random, value.size()))] = "Gg~!\\\"'"[Below(random, 7)];
+}
+
 // The register and its options are small numbers, so that the register offers them.
 image::ConfigImage RandomImage(Random& random, const firmware::FirmwareId& firmware, std::size_t registers) {
   image::ConfigImage image;
   image::ForEachStreamEntry(firmware, [&](const image::FieldRow& row, int entry) {
-    image.at(row.id, entry) = RandomDigits(random, text_form::DigitsOfField(row.id, firmware));
+    auto& value = image.at(row.id, entry);
+    value = RandomDigits(random, text_form::DigitsOfField(row.id, firmware));
+    if (Below(random, 500) == 0) MakeIrregular(random, value);
   });
   image[image::FieldId::REGTYPE] = codecs::ByteToHex(Below(random, registers));
   for (const auto field :
@@ -65,6 +81,33 @@ image::ConfigImage WalkedImage(Random& random, text_form::Catalogue& catalogue, 
   return image;
 }
 
+// A program in which a person and the unit act.
+class Acts {
+ public:
+  Acts(const firmware::FirmwareId& firmware, unsigned seed) : firmware_(firmware), generator_(seed) {}
+
+  // After some more of them. A pick of another firmware starts all over again.
+  const image::ConfigImage& Next() {
+    constexpr int kActs = 3;
+    for (int act = 0; act < kActs || !IsOfFirmware(); ++act) {
+      if (!IsOfFirmware()) program_.emplace(firmware_);
+      for (const auto& line : generator_.Next(program_->App())) {
+        if (program_->Ended() && line != "start") break;
+        program_->Do(line);
+      }
+    }
+    return program_->Image();
+  }
+
+ private:
+  bool IsOfFirmware() { return program_ && program_->App().image_firmware == served_; }
+
+  firmware::FirmwareId firmware_;
+  firmware::FirmwareId served_ = firmware::ServedFirmware(firmware_.Joined());
+  ActGenerator generator_;
+  std::optional<CheckedProgram> program_;
+};
+
 // Of the processor.
 struct Times {
   std::clock_t out = 0, in = 0;
@@ -87,27 +130,36 @@ std::string Compare(text_form::Catalogue& catalogue, const image::ConfigImage& i
 }
 
 int Walk(int images, unsigned seed) {
+  const TemporaryFolder folder;
+  std::filesystem::current_path(folder.Path());
   Random random(seed);
   Times times;
   long count = 0;
   for (const auto& entry : firmware::FirmwareTable()) {
+    if (firmware::IsKnownFamily(entry.Id().version)) images::WriteDefaultImages(".", entry.Id());
     core::Application app;
     start::ServeFirmware(app, entry.Id());
     text_form::Catalogue catalogue(app);
     const auto registers = app.frmMain.ComboReg.items.size();
+    Acts acts(entry.Id(), seed);
+    const std::function<image::ConfigImage()> kinds[] = {
+        [&] { return acts.Next(); }, [&] { return WalkedImage(random, catalogue, registers); },
+        [&] { return RandomImage(random, catalogue.Firmware(), registers); }};
     auto base = images::FactoryImage(app.image_firmware);
     for (int number = 0; number < images; ++number) {
-      const auto image = number % 2 == 0 ? WalkedImage(random, catalogue, registers)
-                                         : RandomImage(random, catalogue.Firmware(), registers);
-      const auto wrong = Compare(catalogue, image, base, times);
-      if (!wrong.empty()) {
-        std::cout << entry.Id().Joined() << ", image " << number << ":\n" << wrong;
-        return 1;
+      for (const auto& next : kinds) {
+        const auto image = next();
+        const auto wrong = Compare(catalogue, image, base, times);
+        if (!wrong.empty()) {
+          std::cout << entry.Id().Joined() << ", image " << number << ":\n" << wrong;
+          return 1;
+        }
+        base = image;
+        ++count;
       }
-      base = image;
-      ++count;
     }
   }
+  std::filesystem::current_path("/");
   const auto mean = [&](std::clock_t time) {
     return static_cast<double>(time) * 1e6 / CLOCKS_PER_SEC / static_cast<double>(count);
   };
