@@ -72,12 +72,12 @@ std::vector<std::string> FirmwareNames() {
   return names;
 }
 
-void ExpectFirmware(const Entry& entry, std::vector<Problem>& problems) {
+void ExpectFirmware(const Entry& entry, std::string_view running, std::vector<Problem>& problems) {
   const auto& value = entry.value;
   if (value.kind != ValueKind::kText) {
     problems.push_back(
         {value.at, Written(value) + " is not allowed here; allowed: a text such as \"V1400 R12\""});
-  } else if (!firmware::FindFirmware(value.text)) {
+  } else if (value.text != running && !firmware::FindFirmware(value.text)) {
     problems.push_back({value.at, InQuotes(value.text) + " is no firmware that this program serves" +
                                       Suggestion(value.text, FirmwareNames())});
   }
@@ -119,7 +119,7 @@ const Entry* HeaderOf(const Document& document, std::string_view key) {
   return found == document.entries.end() ? nullptr : &*found;
 }
 
-std::vector<Problem> HeaderProblems(const Document& document) {
+std::vector<Problem> HeaderProblems(const Document& document, std::string_view running) {
   auto problems = document.problems;
   if (problems.empty() || HeaderOf(document, kFormatKey) != nullptr) ExpectFormat(document, problems);
   if (problems.size() > document.problems.size()) return problems;
@@ -133,7 +133,7 @@ std::vector<Problem> HeaderProblems(const Document& document) {
       problems.push_back(
           {entry.value.at, Written(entry.value) + " is not allowed here; allowed: true, false"});
     } else if (entry.key == kFirmwareKey) {
-      ExpectFirmware(entry, problems);
+      ExpectFirmware(entry, running, problems);
     }
   }
   return problems;

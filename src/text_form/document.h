@@ -68,8 +68,9 @@ std::optional<Problem> OtherFormat(std::string_view bytes);
 // The line with this key before the first table; null if there is none.
 const Entry* HeaderOf(const Document& document, std::string_view key);
 
-// What is wrong with the syntax or with the lines before the first table.
-std::vector<Problem> HeaderProblems(const Document& document);
+// What is wrong with the syntax or with the lines before the first table. `running` is the firmware of the
+// program, which the settings can name although no other program serves it; empty if there is none.
+std::vector<Problem> HeaderProblems(const Document& document, std::string_view running = {});
 
 // The firmware that the form names, such as "V1400 R12"; empty if it names none.
 std::string FirmwareNamed(const Document& document);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <map>
+#include <sstream>
 #include <utility>
 
 #include "acts/backup.h"
@@ -123,7 +124,7 @@ CheckedFile Checked(const std::string& path, const Wanted& wanted, Viewers& view
   viewer.app->platform.files = host::DiskFiles();
   viewer.app->platform.program_folder = wanted.folder;
   const auto image = host::ReadConfiguration(viewer, file.path, file.bytes);
-  return {path, viewer.catalogue.Firmware(), checks::FindingsOf(*viewer.app, image)};
+  return {path, viewer.catalogue.Firmware(), checks::FindingsOf(*viewer.app, image), {}};
 }
 
 bool HasMoreThanNotes(const CheckedFile& file) {
@@ -136,8 +137,14 @@ ExitStatus Check(const Wanted& wanted, std::ostream& output, std::ostream& error
   Viewers viewers;
   std::vector<CheckedFile> files;
   bool wrong = false;
-  for (const auto& path : wanted.paths)
-    wrong |= !Attempt(errors, [&] { files.push_back(Checked(path, wanted, viewers)); });
+  for (const auto& path : wanted.paths) {
+    std::ostringstream problem;
+    if (Attempt(problem, [&] { files.push_back(Checked(path, wanted, viewers)); })) continue;
+    wrong = true;
+    errors << problem.str();
+    const auto words = problem.str();
+    files.push_back({path, {}, {}, words.substr(0, words.find_last_not_of('\n') + 1)});
+  }
   if (wanted.json) PrintJson(output, files);
   for (const auto& file : files) {
     for (const auto& finding : file.findings) {

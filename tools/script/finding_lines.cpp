@@ -66,8 +66,13 @@ void PrintJson(std::ostream& output, const std::vector<CheckedFile>& files) {
   output << "[";
   const char* before_file = "\n";
   for (const auto& file : files) {
-    output << before_file << "  {\"path\": " << JsonText(host::FromSystem(file.path).toStdString())
-           << ", \"firmware\": " << JsonText(file.firmware.Joined()) << ", \"findings\": [";
+    output << before_file << "  {\"path\": " << JsonText(host::FromSystem(file.path).toStdString()) << ", ";
+    before_file = ",\n";
+    if (!file.problem.empty()) {
+      output << "\"problem\": " << JsonText(host::FromSystem(file.problem).toStdString()) << "}";
+      continue;
+    }
+    output << "\"firmware\": " << JsonText(file.firmware.Joined()) << ", \"findings\": [";
     const char* before_finding = "\n";
     for (const auto& finding : file.findings) {
       output << before_finding;
@@ -75,7 +80,6 @@ void PrintJson(std::ostream& output, const std::vector<CheckedFile>& files) {
       before_finding = ",\n";
     }
     output << (file.findings.empty() ? "]}" : "\n  ]}");
-    before_file = ",\n";
   }
   output << (files.empty() ? "]\n" : "\n]\n");
 }

@@ -17,6 +17,7 @@ struct CheckedFile {
   std::string path;
   firmware::FirmwareId firmware;
   std::vector<checks::Finding> findings;
+  std::string problem;  // why it could not be checked
 };
 
 // An array with an object for each file.

@@ -317,7 +317,7 @@ Imported Refused(const image::ConfigImage& base, std::vector<Problem> problems) 
 
 Imported Import(Catalogue& catalogue, const CatalogueOf& catalogue_of, const image::ConfigImage& base,
                 const Document& document, Strictness strictness) {
-  auto problems = HeaderProblems(document);
+  auto problems = HeaderProblems(document, NameOf(catalogue.Firmware()));
   if (problems.size() > document.problems.size()) return Refused(base, std::move(problems));
   const auto other = OtherFirmware(document, catalogue.Firmware());
   Catalogue* own = other ? &catalogue_of(*other) : nullptr;

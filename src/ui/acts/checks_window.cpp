@@ -103,10 +103,12 @@ void ChecksWindow::Refresh() {
 
 void ChecksWindow::ShowCount() {
   const auto count = checks::CountOf(findings_);
-  button_->setText(
-      WordsOf({{count.errors, checks::Severity::kError}, {count.warnings, checks::Severity::kWarning}}));
+  const bool only_notes = count.errors + count.warnings == 0;
+  button_->setText(only_notes ? WordsOf({{count.notes, checks::Severity::kNote}})
+                              : WordsOf({{count.errors, checks::Severity::kError},
+                                         {count.warnings, checks::Severity::kWarning}}));
   button_->setAccessibleName(button_->text());
-  button_->setVisible(count.errors + count.warnings > 0);
+  button_->setVisible(!findings_.empty());
 }
 
 void ChecksWindow::Fill() {

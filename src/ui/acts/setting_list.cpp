@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QTreeWidgetItemIterator>
 #include <algorithm>
+#include <utility>
 
 #include "host/text_codec.h"
 #include "ui/kit/theme.h"
@@ -86,6 +87,11 @@ void SettingList::AddRow(QTreeWidgetItem& group, int at) {
 void SettingList::ShowRows(std::vector<SettingRow> rows) {
   const auto* current = RowOf(currentItem());
   const auto cursor = current == nullptr ? QString() : KeyOf(*current);
+  // A setting can have several findings.
+  auto alike_before = current == nullptr
+                          ? 0
+                          : std::count_if(std::as_const(rows_).data(), current,
+                                          [&](const SettingRow& row) { return KeyOf(row) == cursor; });
   rows_ = std::move(rows);
   clear();
   QTreeWidgetItem* group = nullptr;
@@ -97,7 +103,9 @@ void SettingList::ShowRows(std::vector<SettingRow> rows) {
   for (QTreeWidgetItemIterator item(this); *item != nullptr; ++item) {
     const auto* row = RowOf(*item);
     if (row == nullptr) continue;
-    if (currentItem() == nullptr || KeyOf(*row) == cursor) setCurrentItem(*item);
+    const bool is_alike = KeyOf(*row) == cursor;
+    if (currentItem() == nullptr || is_alike) setCurrentItem(*item);
+    if (is_alike && alike_before-- == 0) return;
   }
 }
 

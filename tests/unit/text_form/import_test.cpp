@@ -123,6 +123,12 @@ TEST_F(TextForm, AFormOfAnotherFirmwareGivesWhatIsThere) {
   EXPECT_FALSE(Read(text + "x = ", Strictness::kPartial).problems.empty());
 }
 
+// The settings can name a release of a family that no menu has.
+TEST_F(TextForm, AFormOfTheRunningFirmwareIsReadWhateverItIs) {
+  const firmware::FirmwareId running{"V1300", "R12"};
+  EXPECT_TRUE(Read(Exported(Pattern(running), running), Strictness::kWhole, running).problems.empty());
+}
+
 TEST_F(TextForm, WhatTheFormHidesHasNoWords) {
   const firmware::FirmwareId old{"V1300", "R14"};
   const auto read =

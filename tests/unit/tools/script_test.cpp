@@ -223,6 +223,10 @@ TEST_F(Script, ChecksFilesAndTheConfiguration) {
   EXPECT_NE(json.find("good.bin\", \"firmware\": \"V1400R12\", \"findings\": []},\n"), std::string::npos)
       << json;
   EXPECT_NE(json.find("bad \\\"\xC3\x96\\\".bin\""), std::string::npos) << json;
+  const auto without = checked({{0, "V1400R12"}, {1, {}}}, {missing, good});
+  EXPECT_NE(without.find("/no\", \"problem\": \"" + missing + ": No such file or directory\"},\n"),
+            std::string::npos)
+      << without;
   EXPECT_NE(json.find("{\"severity\": \"warning\", \"id\": \"demo-on\", \"words\": \"The unit starts its "
                       "demo after power up.\", \"tab\": \"REMOTE\", \"setting\": \"Demo On Power Up\", "
                       "\"control\": \"DemoMode\", \"list\": \"\", \"number\": 0}"),
