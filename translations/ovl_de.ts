@@ -242,6 +242,10 @@
         <source>The unit has not confirmed the download of %1. It may have another configuration, so download again: %2.</source>
         <translation>Das Gerät hat das Schreiben um %1 nicht bestätigt. Es hat vielleicht eine andere Konfiguration, schreiben Sie deshalb noch einmal: %2.</translation>
     </message>
+    <message>
+        <source>No unit answered on Comport %1 at %2 baud with %3 and parity %4. Check the cable and the power of the unit. If the unit has other settings, choose them in Set Comport.</source>
+        <translation>Auf COM-Port %1 hat kein Gerät geantwortet (%2 Baud, %3, Parität %4). Prüfen Sie das Kabel und die Stromversorgung des Geräts. Hat das Gerät andere Einstellungen, wählen Sie diese unter „COM-Port einstellen“.</translation>
+    </message>
 </context>
 <context>
     <name>AdviceBar</name>

@@ -15,6 +15,7 @@ constexpr std::array kTable = {
     AdviceCondition{AdviceId::kDeviceLost, "device-lost", DeviceLost},
     AdviceCondition{AdviceId::kDownloadBroke, "download-broke", DownloadBroke},
     AdviceCondition{AdviceId::kPortRefused, "port-refused", PortRefused},
+    AdviceCondition{AdviceId::kNoAnswer, "no-answer", NoAnswer},
     AdviceCondition{AdviceId::kScanCannotHear, "scan-cannot-hear", ScanCannotHear},
     AdviceCondition{AdviceId::kScanFoundNothing, "scan-found-nothing", ScanFoundNothing},
     AdviceCondition{AdviceId::kUploadNotTaken, "upload-not-taken", UploadNotTaken},

@@ -57,6 +57,10 @@ class AdviceStates {
     Connect();
     Take("port_refused");
     Connect();
+    Press(controls::kRemote);
+    Tick(Main().General_timer, 1);
+    Take("no_answer");
+    Connect();
     port_.Lose();
     Take("device_lost");
     Click(&Main().cmdDisConnect);

@@ -12,6 +12,7 @@ enum class AdviceId {
   kDeviceLost,
   kDownloadBroke,
   kPortRefused,
+  kNoAnswer,
   kScanCannotHear,
   kScanFoundNothing,
   kUploadNotTaken,

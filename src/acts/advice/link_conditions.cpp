@@ -148,8 +148,8 @@ Words CureOf(const Refusal& refusal) {
   return Sentence(Pattern("Advice", "Choose another comport, or check the device."));
 }
 
-// The data bits and the parity with which the port was scanned.
-std::vector<Words> LineOfScan(const core::Application& app) {
+// The data bits and the parity with which the port was opened.
+std::vector<Words> LineOfPort(const core::Application& app) {
   const auto& dialog = app.frmSettSR;
   const auto& parities = dialog.OpParity.elements;
   const auto& bits = dialog.OpDataBits.elements;
@@ -256,6 +256,20 @@ Advice PortRefused(const core::Application&, const Observed& observed) {
                                    std::string(refusal->reason.what()), CureOf(*refusal)}));
 }
 
+Advice NoAnswer(const core::Application& app, const Observed& observed) {
+  const auto& silence = observed.link.Silent();
+  if (!silence) return {};
+  std::vector<Words> parts = {std::to_string(silence->comport),
+                              silence->settings.substr(0, silence->settings.find(','))};
+  for (auto& words : LineOfPort(app)) parts.push_back(std::move(words));
+  return ClickSetComport(Sentence(
+      Pattern(
+          "Advice",
+          "No unit answered on Comport %1 at %2 baud with %3 and parity %4. Check the cable and the power "
+          "of the unit. If the unit has other settings, choose them in Set Comport."),
+      parts));
+}
+
 Advice ScanCannotHear(const core::Application& app, const Observed&) {
   if (!app.ScanActive || app.LinkMode == core::kLinkRemote) return {};
   const auto cancel = OfForm(app.frmScanBProgress.Command1.caption);
@@ -280,7 +294,7 @@ Advice ScanFoundNothing(const core::Application& app, const Observed& observed) 
               "No unit answered the scan, which tried every baud rate with %1 and parity %2. Check the cable "
               "and the power of the unit. If the unit has other data bits or another parity, choose them in "
               "Set Comport and scan again."),
-      LineOfScan(app)));
+      LineOfPort(app)));
 }
 
 }  // namespace ovl::acts

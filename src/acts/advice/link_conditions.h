@@ -10,6 +10,7 @@ Advice UploadMixed(const core::Application& app, const Observed& observed);
 Advice DeviceLost(const core::Application& app, const Observed& observed);
 Advice DownloadBroke(const core::Application& app, const Observed& observed);
 Advice PortRefused(const core::Application& app, const Observed& observed);
+Advice NoAnswer(const core::Application& app, const Observed& observed);
 Advice ScanCannotHear(const core::Application& app, const Observed& observed);
 Advice ScanFoundNothing(const core::Application& app, const Observed& observed);
 

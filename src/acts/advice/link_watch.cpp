@@ -27,6 +27,8 @@ void LinkWatch::Before(const core::Application& app) {
              app.LinkMode,
              app.FrameState,
              app.last_port_attempt.number,
+             app.frmMain.MSComm1.PortOpen,
+             app.RemoteHeld,
              app.uploads_taken,
              app.downloads_confirmed,
              app.sent_image.has_value()};
@@ -38,6 +40,7 @@ void LinkWatch::After(const core::Application& app, const core::Event& event) {
   download_completed_ = false;
   WatchAttempt(app);
   WatchDevice(app);
+  WatchAnswer(app, event);
   WatchUpload(app);
   WatchDownload(app);
   WatchScan(app, event);
@@ -48,6 +51,7 @@ void LinkWatch::WatchAttempt(const core::Application& app) {
   const auto& attempt = app.last_port_attempt;
   if (attempt.number == before_.attempts) return;
   refusal_.reset();
+  silence_.reset();
   scan_.reset();
   if (!attempt.refused) {
     loss_.reset();
@@ -66,6 +70,18 @@ void LinkWatch::WatchAttempt(const core::Application& app) {
 void LinkWatch::WatchDevice(const core::Application& app) {
   if (loss_) return;
   if (const auto* why = core::LostDevice(app)) Lose(app, *why);
+}
+
+// Then a timer closes the port.
+void LinkWatch::WatchAnswer(const core::Application& app, const core::Event& event) {
+  const bool asked =
+      before_.port_open && before_.phase == LinkPhase::kIdle && before_.link_mode == core::kLinkRemote;
+  const auto& comm = app.frmMain.MSComm1;
+  if (!asked || before_.remote_held || comm.PortOpen || loss_ ||
+      !std::holds_alternative<core::TickEvent>(event))
+    return;
+  silence_ = Silence{comm.CommPort, comm.Settings};
+  Add(renewed_, AdviceId::kNoAnswer);
 }
 
 void LinkWatch::Lose(const core::Application& app, const core::Failure& why) {

@@ -40,6 +40,12 @@ struct Refusal {
   core::Failure reason;  // names the device
 };
 
+// The program asked for remote mode and heard nothing.
+struct Silence {
+  int comport = 0;
+  std::string settings;
+};
+
 // A download that the unit has not confirmed.
 struct BrokenDownload {
   enum class Sent { kNothing, kPart, kAll };
@@ -60,6 +66,7 @@ class LinkWatch {
   // Until a port opens.
   const std::optional<Loss>& Lost() const { return loss_; }
   const std::optional<Refusal>& Refused() const { return refusal_; }
+  const std::optional<Silence>& Silent() const { return silence_; }
   // Until a download is confirmed or an upload is complete.
   const std::optional<BrokenDownload>& Broken() const { return broken_; }
   // Until the port is opened again, or remote mode is held.
@@ -82,6 +89,8 @@ class LinkWatch {
     std::int16_t link_mode = core::kLinkIdle;
     std::int16_t frame_state = 0;
     unsigned attempts = 0;
+    bool port_open = false;
+    bool remote_held = false;
     unsigned uploads_taken = 0;
     unsigned downloads_confirmed = 0;
     bool unconfirmed = false;
@@ -89,6 +98,7 @@ class LinkWatch {
 
   void WatchAttempt(const core::Application& app);
   void WatchDevice(const core::Application& app);
+  void WatchAnswer(const core::Application& app, const core::Event& event);
   void WatchUpload(const core::Application& app);
   void WatchDownload(const core::Application& app);
   void WatchScan(const core::Application& app, const core::Event& event);
@@ -98,6 +108,7 @@ class LinkWatch {
   Seen before_;
   std::optional<Loss> loss_;
   std::optional<Refusal> refusal_;
+  std::optional<Silence> silence_;
   std::optional<BrokenDownload> broken_;
   std::optional<FailedScan> scan_;
   std::optional<image::ConfigImage> mixed_image_;  // as it was read

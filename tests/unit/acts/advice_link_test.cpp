@@ -133,6 +133,19 @@ TEST(AdviceOnTheLink, ARefusedPortHasDeviceReasonAndCureInOneLine) {
   }
 }
 
+TEST(AdviceOnTheLink, AUnitThatDoesNotAnswerIsLookedForInSetComport) {
+  const auto asked = kOpenPort + "click CmdUpDow(4)\n";
+  Expect({"no-answer", asked + "tick General_timer\n",
+          "on Comport 1 at 9600 baud with 8 Bits and parity NONE. Check the cable", "Set Comport",
+          kOpenPort});
+  for (const auto& end :
+       {"click cmdDisConnect\n", "unit hex 15\n", "unit hex 06\ntick Time_handcheck 30\n"}) {
+    AdviceProgram program(kLatest);
+    program.Run(asked + end);
+    EXPECT_EQ(program.Line("no-answer").words, "") << end;
+  }
+}
+
 TEST(AdviceOnTheLink, AScanThatFindsNoUnitSaysWhy) {
   const std::string scan = "click BaudrateCMD\n";
   const auto heard = kOpenPort + kHold + "click cmdDisConnect\nclick cmdConnect\n";
