@@ -10,6 +10,14 @@ set -euo pipefail
 . "$(dirname -- "$0")/../tools/common.sh"
 read_argument "$build/package" "$@"
 out=$(realpath --canonicalize-missing -- "$argument")
+name_folder=FOLDER
+if [ "$out" = "$build/package" ]; then
+  reserve package
+elif ! can_write "$out"; then
+  fail "$out cannot be written"
+elif [ -n "$(ls -A "$out")" ]; then
+  fail "$out is not empty"
+fi
 cd "$source_folder"
 
 # Build-Depends is the only list of what the build needs.
@@ -17,11 +25,7 @@ mapfile -t packages < <(sed -n '/^Build-Depends:/,/^[^ ]/s/^ \([a-z0-9.+-]*\).*/
 tools/require build-essential "${packages[@]/debhelper-compat/debhelper}" lintian appstream desktop-file-utils
 
 echo "== Sources"
-if [ "$out" = "$build/package" ]; then
-  rm -rf "$out"
-elif [ -n "$(ls -A "$out" 2> /dev/null)" ]; then
-  fail "$out is not empty"
-fi
+[ "$out" != "$build/package" ] || rm -rf "$out"
 sources=$(packaging/sources.sh -- "$out")
 tree=${sources%.tar.gz}
 tar --extract --file "$sources" --directory "$out"

@@ -10,9 +10,12 @@ out=$(realpath --canonicalize-missing -- "$argument")
 cd "$source_folder"
 version=$(project_version)
 archive=$out/ovl-software-$version.tar.gz
-mkdir -p "$out"
+can_write "$out" || fail "$out cannot be written. Name another folder: $command_name FOLDER"
+own=$out
+[ "$out" != "$source_folder" ] || own=$archive
 # The same files give the same archive, with the date of the release.
-tar --create --gzip --file "$archive" --anchored --exclude=./.git --exclude=./build --exclude="./$(realpath --relative-to=. "$out")" \
+tar --create --gzip --file "$archive" --anchored --no-wildcards --exclude=./.git --exclude=./build \
+  --exclude="./$(realpath --relative-to=. -- "$own")" \
   --exclude-from=<(find . -mindepth 2 -name CMakeCache.txt -printf '%h\n') \
   --sort=name --mtime="$(sed -n '/^ -- /{s/.*>  //p;q}' packaging/debian/changelog)" --owner=root:0 --group=root:0 \
   --mode=u+rw,go=u,go-w --transform="s,^\.,ovl-software-$version," .

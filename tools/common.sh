@@ -1,8 +1,10 @@
 # What ./run, ./test, .ci/run, docs/pictures.sh and the scripts of packaging share: where the build is, what it needs,
 # their options, and that nothing outlives them.
 # shellcheck shell=bash disable=SC2034  # they use what is set here
+unset CDPATH  # with it, cd prints where it goes
 source_folder=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
 build=$source_folder/build
+name_folder="--build FOLDER"  # how the script is given another folder
 command_name=./$(realpath --relative-to="$source_folder" "$0")
 
 needed_to_build=(g++ cmake ninja-build ccache qt6-base-dev qt6-l10n-tools qt6-serialport-dev libtomlplusplus-dev
@@ -84,10 +86,15 @@ forget_configuration() { rm -rf "$1/CMakeCache.txt" "$1/CMakeFiles"; }
 reserve() {
   local folder=$build/$1 here home
   if ! can_write "$build" || ! can_write "$folder"; then
-    fail "$folder cannot be written. Name another folder for the build: $command_name --build FOLDER"
+    fail "$folder cannot be written. Name another folder for the build: $command_name $name_folder"
   fi
+  [ -w "$folder.lock" ] || [ ! -e "$folder.lock" ] || fail "$folder.lock belongs to another user"
   exec {lock}> "$folder.lock"
-  flock --wait 5 "$lock" || fail "another run works in $folder. Wait for its end, or use --build FOLDER."
+  flock --wait 5 "$lock" || fail "another run works in $folder. Wait for its end, or use $name_folder."
+  # The compiler cache is in the home folder, which not every user has.
+  if [ -z "${CCACHE_DIR:-}" ] && { [ -z "${HOME:-}" ] || ! can_write "${XDG_CACHE_HOME:-$HOME/.cache}"; }; then
+    export CCACHE_DIR=$build/ccache
+  fi
 
   # CMake writes this file last.
   [ -e "$folder/build.ninja" ] || forget_configuration "$folder"
@@ -96,7 +103,7 @@ reserve() {
   here=$(sed -n 's/^CMAKE_CACHEFILE_DIR:INTERNAL=//p' "$folder/CMakeCache.txt")
   [ "$home" != "$source_folder" ] || [ "$here" != "$folder" ] || return 0
   if [ "$here" = "$folder" ] && [ -e "$home/CMakeLists.txt" ]; then
-    fail "$folder has the build of $home. Name another folder with --build FOLDER, or remove this one."
+    fail "$folder has the build of $home. Name another folder with $name_folder, or remove this one."
   fi
   echo "The folder was moved; everything is built again."
   forget_configuration "$folder"

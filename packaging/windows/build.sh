@@ -1,26 +1,30 @@
 #!/usr/bin/env bash
-# Usage: build.sh [--qt FOLDER]
-# Builds the programs for 64-bit Windows below build/windows, runs the stories and the tests of the model under Wine, and
-# makes the installer. Qt is built first, once, from Debian's source package, which takes an hour of two processors.
+# Usage: build.sh [--build FOLDER] [--qt FOLDER]
+# Builds the programs for 64-bit Windows in FOLDER, or in build/windows, runs the stories and the tests of the model
+# under Wine, and makes the installer. Qt is built first, once, from Debian's source package, which takes an hour of two
+# processors.
 #   --qt  the build folder of such a Qt that is there already
 set -euo pipefail
 # shellcheck source=tools/common.sh
 . "$(dirname -- "$0")/../../tools/common.sh"
-build=$build/windows
-qt=$build/qt
-read_options qt: "$@"
+build=$build/windows qt=
+read_options build:,qt: "$@"
 set -- "${arguments[@]}"
 while [ "$1" != -- ]; do
-  qt=$(realpath -- "$2")
+  case $1 in
+    --build) build=$(realpath --canonicalize-missing -- "$2") ;;
+    --qt) qt=$(realpath -- "$2") ;;
+  esac
   shift 2
 done
+: "${qt:=$build/qt}"
 [ $# -eq 1 ] || { echo "$command_name: unknown argument $2" >&2; exit 2; }
 cd "$source_folder"
+reserve release
 tools/require g++-mingw-w64-x86-64-posix wine wine64 nsis cmake ninja-build ccache dpkg-dev qt6-base-dev qt6-base-dev-tools \
   qt6-l10n-tools googletest libtomlplusplus-dev librsvg2-bin icoutils
 
 here=$PWD/packaging/windows
-mkdir -p "$build"
 
 # The source package of the release that this system runs, whether or not its sources are among those of apt.
 fetch_qt() {
