@@ -261,6 +261,10 @@
         <source>Hides this advice until its condition occurs again.</source>
         <translation>Blendet diese Meldung aus, bis ihr Anlass wegfällt und erneut eintritt.</translation>
     </message>
+    <message>
+        <source>Does the next step of the advice.</source>
+        <translation>Führt den nächsten Schritt des Hinweises aus.</translation>
+    </message>
 </context>
 <context>
     <name>AlarmPage</name>

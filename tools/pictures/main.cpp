@@ -17,8 +17,8 @@
 namespace {
 
 const QString kDescription = QStringLiteral(
-    "\nWrites pictures of all windows of OVL Software into the folder, light and dark, and a drawing\n"
-    "of what a unit writes over the picture of a camera.");
+    "\nWrites pictures of all windows of OVL Software into the folder, light and dark, beside each what a\n"
+    "screen reader says for it, and a drawing of what a unit writes over the picture of a camera.");
 
 const QString kExitStatus = QStringLiteral(
     "Exit status:\n"

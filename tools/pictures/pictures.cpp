@@ -15,6 +15,7 @@
 #include "pictures/advice_pictures.h"
 #include "pictures/sample_settings.h"
 #include "pictures/simulated_port.h"
+#include "pictures/spoken_text.h"
 #include "ui/acts/checks_window.h"
 #include "ui/acts/copy_slot_window.h"
 #include "ui/app/program.h"
@@ -80,8 +81,15 @@ class Photographer {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     // The second round is for layouts that the first one has changed, such as a text that wraps.
     for (int round = 0; round < 2; ++round) QCoreApplication::sendPostedEvents();
-    QSaveFile file(folder_.filePath(name + QStringLiteral(".png")));
-    if (!file.open(QIODevice::WriteOnly) || !window.grab().save(&file, "PNG") || !file.commit())
+    Save(name + QStringLiteral(".png"), [&](QIODevice& file) { return window.grab().save(&file, "PNG"); });
+    Save(name + QStringLiteral(".txt"),
+         [&](QIODevice& file) { return file.write(SpokenText(window).toUtf8()) >= 0; });
+  }
+
+  template <class Write>
+  void Save(const QString& name, const Write& write) {
+    QSaveFile file(folder_.filePath(name));
+    if (!file.open(QIODevice::WriteOnly) || !write(file) || !file.commit())
       saved_ = host::FailureOf(file.fileName(), file.errorString());
   }
 

@@ -12,6 +12,7 @@
 #include <stdexcept>
 
 #include "host/text_codec.h"
+#include "ui/access/spoken_controls.h"
 #include "ui/kit/mnemonics.h"
 #include "ui/kit/widgets.h"
 #include "ui/tips/tool_tips.h"
@@ -45,7 +46,9 @@ bool LosesFocusForGood(const QEvent& event) {
 }  // namespace
 
 Bindings::Bindings(core::Application& app, ActFunction act, HintFunction hint)
-    : app_(app), act_(std::move(act)), hint_(std::move(hint)) {}
+    : app_(app), act_(std::move(act)), hint_(std::move(hint)) {
+  UseSpokenControls();
+}
 
 const controls::NamedControl& Bindings::Named(const controls::Form& form, std::string_view name) const {
   const auto* found = app_.registry.Find(form, name);

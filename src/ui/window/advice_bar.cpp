@@ -25,6 +25,7 @@ AdviceBar::AdviceBar(Bindings& bindings, const OwnActs& acts)
   words_->setWordWrap(true);
   words_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   action_->setObjectName(QStringLiteral("AdviceAction"));
+  action_->setToolTip(QCoreApplication::translate("AdviceBar", "Does the next step of the advice."));
   close_->setObjectName(QStringLiteral("AdviceClose"));
   close_->setText(QCoreApplication::translate("AdviceBar", "Hide"));
   close_->setAccessibleName(QCoreApplication::translate("AdviceBar", "Hide this advice"));

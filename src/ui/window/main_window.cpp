@@ -170,6 +170,7 @@ void MainWindow::BindTabs() {
     for (int at = 0; at < tabs_->count(); ++at) {
       const auto caption = FormText(model.captions.at(static_cast<std::size_t>(at)));
       tabs_->setTabText(at, caption);
+      tabs_->tabBar()->setAccessibleTabName(at, caption.trimmed());
       tabs_->widget(at)->setAccessibleName(caption.trimmed());
     }
     return true;

@@ -46,7 +46,8 @@ const std::map<std::string, Folders> kModel = {
 const std::map<std::string, Folders> kWindows = {
     {"ui/tips", {}},
     {"ui/language", {}},
-    {"ui/kit", {"ui/tips", "ui/language"}},
+    {"ui/access", {}},
+    {"ui/kit", {"ui/access", "ui/tips", "ui/language"}},
     {"ui/print", {}},
     {"ui/help", {"ui/kit", "ui/print"}},
     {"ui/acts", {"ui/kit", "ui/language"}},

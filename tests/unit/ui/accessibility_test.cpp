@@ -1,0 +1,95 @@
+// What a screen reader says, and whether texts can be read in both themes.
+#include <QImage>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <cmath>
+#include <map>
+
+#include "pictures/spoken_text.h"
+#include "screen.h"
+
+namespace ovl::testing {
+namespace {
+
+void ExpectNamesAndPurposes(const QString& spoken) {
+  static const QRegularExpression control(
+      QStringLiteral("^(Button|CheckBox|RadioButton|ComboBox|EditableText|List|Tree) (.*)$"));
+  for (const auto& line : spoken.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+    const auto found = control.match(line);
+    if (!found.hasMatch()) continue;
+    EXPECT_FALSE(found.captured(2).startsWith(QLatin1String("\"\""))) << line.toStdString();
+    EXPECT_TRUE(line.contains(QLatin1String(": "))) << line.toStdString();
+  }
+}
+
+TEST(Accessibility, EachControlHasANameAndAPurpose) {
+  Screen screen;
+  for (const auto* name : {"GENERIC", "TCPIP", "IBM"}) {
+    screen.Select(name);
+    for (int tab = kRegisterTab; tab <= kRemoteTab; ++tab) {
+      screen.Main().Tabs().setCurrentIndex(tab);
+      screen.Show();
+      ExpectNamesAndPurposes(pictures::SpokenText(screen.Main()));
+    }
+  }
+  screen.Main().Tabs().setCurrentIndex(kRegisterTab);
+  screen.Show();
+  EXPECT_TRUE(pictures::SpokenText(screen.Main())
+                  .contains(QStringLiteral("\nRadioButton \"IBM3151 TERMINAL\", checked: ")));
+  screen.Main().Tabs().setCurrentIndex(kLineTab);
+  const auto spoken = pictures::SpokenText(screen.Main());
+  EXPECT_TRUE(spoken.contains(QStringLiteral("\nPageTab \"COMMUNICATION\": Alt+4\n")))
+      << spoken.toStdString();
+  EXPECT_TRUE(spoken.contains(
+      QStringLiteral("\nComboBox \"PARITY\", \"NONE\": The parity of a character on the register line.\n")))
+      << spoken.toStdString();
+}
+
+// The contrast as accessibility rules define it.
+double Luminance(QRgb color) {
+  const auto linear = [](int part) { return std::pow((part / 255.0 + 0.055) / 1.055, 2.4); };
+  return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) + 0.0722 * linear(qBlue(color));
+}
+
+// Of the most frequent color of a picture with the one that differs most from it.
+double ContrastIn(const QImage& image) {
+  std::map<QRgb, int> counts;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) ++counts[image.pixel(x, y)];
+  }
+  const auto by_count = [](const auto& one, const auto& other) { return one.second < other.second; };
+  const double ground = Luminance(std::max_element(counts.begin(), counts.end(), by_count)->first);
+  double most = 1;
+  for (const auto& [color, count] : counts) {
+    const auto [less, more] = std::minmax(ground, Luminance(color));
+    most = std::max(most, (more + 0.05) / (less + 0.05));
+  }
+  return most;
+}
+
+TEST(Accessibility, TextsCanBeReadInPicturesOfBothThemes) {
+  Screen screen;
+  screen.Select("TCPIP");
+  for (const auto theme : {ui::Theme::kLight, ui::Theme::kDark}) {
+    ui::ApplyTheme(theme);
+    for (int tab = kRegisterTab; tab <= kRemoteTab; ++tab) {
+      screen.Main().Tabs().setCurrentIndex(tab);
+      screen.Show();
+      const auto picture = screen.Main().grab().toImage();
+      for (const auto* widget : VisibleIn<QLabel, QAbstractButton>(screen.Main())) {
+        const auto text = widget->property("text").toString().trimmed();
+        const bool is_scrolled_away = widget->visibleRegion().boundingRect() != widget->rect();
+        if (!widget->isEnabled() || text.isEmpty() || is_scrolled_away) continue;
+        // The frame of a button is no text.
+        const QRect inside(widget->mapTo(&screen.Main(), QPoint()), widget->size());
+        const auto frame = IsOne<QPushButton>(widget) ? 3 : 0;
+        EXPECT_GE(ContrastIn(picture.copy(inside.adjusted(frame, frame, -frame, -frame))), 4.5)
+            << text.toStdString() << (theme == ui::Theme::kDark ? " in the dark" : "");
+      }
+    }
+  }
+  ui::ApplyTheme(ui::Theme::kLight);
+}
+
+}  // namespace
+}  // namespace ovl::testing

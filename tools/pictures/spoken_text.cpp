@@ -1,0 +1,53 @@
+#include "pictures/spoken_text.h"
+
+#include <QAccessible>
+#include <QMetaEnum>
+#include <QWidget>
+
+namespace ovl::pictures {
+namespace {
+
+// Their parts are entries, or the same control again.
+bool IsWhole(QAccessible::Role role) {
+  switch (role) {
+    case QAccessible::ComboBox:
+    case QAccessible::List:
+    case QAccessible::Table:
+    case QAccessible::Tree:
+    case QAccessible::SpinBox:
+    case QAccessible::PopupMenu:
+      return true;
+    default:
+      return false;
+  }
+}
+
+QString LineOf(QAccessibleInterface& face) {
+  const auto role = QMetaEnum::fromType<QAccessible::Role>().valueToKey(face.role());
+  auto line = QLatin1String(role) + QStringLiteral(" \"%1\"").arg(face.text(QAccessible::Name));
+  const auto state = face.state();
+  const auto value = face.text(QAccessible::Value);
+  if (!value.isEmpty()) line += QStringLiteral(", \"%1\"").arg(value);
+  if (state.checkable) line += state.checked ? QStringLiteral(", checked") : QStringLiteral(", not checked");
+  if (state.disabled) line += QStringLiteral(", disabled");
+  const auto description = face.text(QAccessible::Description);
+  return description.isEmpty() ? line : line + QStringLiteral(": ") + description;
+}
+
+void Append(QAccessibleInterface* face, QString& text) {
+  if (face == nullptr || face->state().invisible) return;
+  const bool is_said = face->state().focusable || !face->text(QAccessible::Name).isEmpty();
+  if (is_said) text += LineOf(*face) + QLatin1Char('\n');
+  if (IsWhole(face->role())) return;
+  for (int child = 0; child < face->childCount(); ++child) Append(face->child(child), text);
+}
+
+}  // namespace
+
+QString SpokenText(QWidget& window) {
+  QString text;
+  Append(QAccessible::queryAccessibleInterface(&window), text);
+  return text;
+}
+
+}  // namespace ovl::pictures
