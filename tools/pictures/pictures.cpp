@@ -16,6 +16,7 @@
 #include "pictures/sample_settings.h"
 #include "pictures/simulated_port.h"
 #include "pictures/spoken_text.h"
+#include "pictures/step_marks.h"
 #include "ui/acts/checks_window.h"
 #include "ui/acts/copy_slot_window.h"
 #include "ui/app/program.h"
@@ -81,9 +82,16 @@ class Photographer {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     // The second round is for layouts that the first one has changed, such as a text that wraps.
     for (int round = 0; round < 2; ++round) QCoreApplication::sendPostedEvents();
-    Save(name + QStringLiteral(".png"), [&](QIODevice& file) { return window.grab().save(&file, "PNG"); });
+    const auto picture = window.grab();
+    SavePicture(name, picture);
+    const auto marked = WithStepMarks(name, picture, window);
+    if (!marked.isNull()) SavePicture(name + QStringLiteral("_steps"), marked);
     Save(name + QStringLiteral(".txt"),
          [&](QIODevice& file) { return file.write(SpokenText(window).toUtf8()) >= 0; });
+  }
+
+  void SavePicture(const QString& name, const QPixmap& picture) {
+    Save(name + QStringLiteral(".png"), [&](QIODevice& file) { return picture.save(&file, "PNG"); });
   }
 
   template <class Write>

@@ -194,7 +194,7 @@ TEST_F(HelpWindowTest, ThePagesAreExportedAsOneGuideWithPictures) {
   const auto without_pictures = QFileInfo(guide).size();
   QImage picture(200, 100, QImage::Format_RGB32);
   picture.fill(Qt::red);
-  ASSERT_TRUE(picture.save(Path("tab2_alarm_outputs.png")) && picture.save(Path("micros_idn.png")));
+  ASSERT_TRUE(picture.save(Path("tab2_alarm_outputs_steps.png")) && picture.save(Path("micros_idn.png")));
   EXPECT_TRUE(ui::WriteGuide(pages, Path(""), guide).Ok());
   EXPECT_GT(QFileInfo(guide).size(), without_pictures);
   const auto blocked = guide + "/no/guide.pdf";
