@@ -10,8 +10,8 @@
 namespace ovl::host {
 namespace {
 
-std::unique_ptr<core::Application> Serving(const firmware::FirmwareId& firmware) {
-  auto app = std::make_unique<core::Application>();
+std::shared_ptr<core::Application> Serving(const firmware::FirmwareId& firmware) {
+  auto app = std::make_shared<core::Application>();
   start::ServeFirmware(*app, firmware);
   return app;
 }
@@ -42,7 +42,10 @@ bool IsNamedAfter(std::string_view path, const firmware::FirmwareId& firmware) {
 
 }  // namespace
 
-Viewer::Viewer(const firmware::FirmwareId& firmware) : app(Serving(firmware)), catalogue(*app) {}
+Viewer::Viewer(const firmware::FirmwareId& firmware)
+    : app(Serving(firmware)),
+      whole(app->image_firmware == firmware ? app : Serving(app->image_firmware)),
+      catalogue(*whole) {}
 
 text_form::Imported ImportText(text_form::Catalogue& catalogue, const image::ConfigImage& base,
                                const text_form::Document& document, text_form::Strictness strictness) {

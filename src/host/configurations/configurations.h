@@ -22,8 +22,10 @@ class NoConfiguration : public std::runtime_error {
 struct Viewer {
   explicit Viewer(const firmware::FirmwareId& firmware);
 
-  std::unique_ptr<core::Application> app;
-  text_form::Catalogue catalogue;
+  std::shared_ptr<core::Application> app;
+  // With every setting of the image: the form of compact firmware shows only some. Otherwise the same one.
+  std::shared_ptr<core::Application> whole;
+  text_form::Catalogue catalogue;  // of `whole`
 };
 
 // Imports a text form, also one of another firmware.

@@ -19,7 +19,6 @@
 #include "images/default_images.h"
 #include "search/random_walk/act_generator.h"
 #include "search/random_walk/checked_program.h"
-#include "start/start_up.h"
 #include "support/harness.h"
 #include "text_form/export.h"
 #include "text_form/import/import.h"
@@ -137,15 +136,14 @@ int Walk(int images, unsigned seed) {
   long count = 0;
   for (const auto& entry : firmware::FirmwareTable()) {
     if (firmware::IsKnownFamily(entry.Id().version)) images::WriteDefaultImages(".", entry.Id());
-    core::Application app;
-    start::ServeFirmware(app, entry.Id());
-    text_form::Catalogue catalogue(app);
-    const auto registers = app.frmMain.ComboReg.items.size();
+    host::Viewer viewer(entry.Id());
+    auto& catalogue = viewer.catalogue;
+    const auto registers = viewer.whole->frmMain.ComboReg.items.size();
     Acts acts(entry.Id(), seed);
     const std::function<image::ConfigImage()> kinds[] = {
         [&] { return acts.Next(); }, [&] { return WalkedImage(random, catalogue, registers); },
         [&] { return RandomImage(random, catalogue.Firmware(), registers); }};
-    auto base = images::FactoryImage(app.image_firmware);
+    auto base = images::FactoryImage(catalogue.Firmware());
     for (int number = 0; number < images; ++number) {
       for (const auto& next : kinds) {
         const auto image = next();
