@@ -51,8 +51,9 @@ struct WordsIn {
   }
   Words operator()(controls::OptionArray* array) const {
     if (array->chosen < 0) return std::nullopt;
-    const auto& caption = array->elements.at(static_cast<std::size_t>(array->chosen)).caption;
-    return caption.empty() ? Words() : Words(phrases::OfForm(caption));
+    const auto& element = array->elements.at(static_cast<std::size_t>(array->chosen));
+    const bool is_offered = element.visible && !element.caption.empty();
+    return is_offered ? Words(phrases::OfForm(element.caption)) : Words();
   }
   Words operator()(controls::TextBox* box) const { return phrases::Words(box->text); }
   Words operator()(controls::CheckBox* box) const { return phrases::OfForm(box->checked ? "ON" : "OFF"); }

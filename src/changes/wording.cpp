@@ -75,8 +75,12 @@ std::string WithoutZeros(std::string digits) {
   return digits;
 }
 
-std::string RangeWords(const controls::MainForm& form) {
-  return WithoutZeros(form.TextRANGE[0].caption) + " - " + WithoutZeros(form.TextRANGE[1].caption);
+std::optional<Words> RangeWords(const controls::MainForm& form) {
+  const auto words =
+      WithoutZeros(form.TextRANGE[0].caption) + " - " + WithoutZeros(form.TextRANGE[1].caption);
+  // Other bytes than digits are no amount.
+  return words.find_first_not_of("0123456789.,- ") == std::string::npos ? std::optional<Words>(words)
+                                                                        : std::nullopt;
 }
 
 Words TextWords(std::string text, const Words& without) {
@@ -165,7 +169,7 @@ std::optional<Words> Wording::WordsOf(const Site& site, std::string_view value) 
   if (IsOneOf(site.control, kFlagLists)) return FlagWords(site, value);
   Show(site);
   const auto& form = program_.Form().frmMain;
-  if (site.control == kRange) return Words(RangeWords(form));
+  if (site.control == kRange) return RangeWords(form);
   auto words = program_.WordsOf(site.control);
   if (site.control == kExceptionText) {
     const auto free = Sentence(Pattern("Setting", "free"));

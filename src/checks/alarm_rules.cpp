@@ -34,10 +34,19 @@ struct Alarm {
   bool GoesOff() const { return trigger != image::kNoTrigger || video_loss != 0; }
 };
 
+// In the words of the form, which marks the triggers that are exceptions.
+phrases::Words TriggerWords(const controls::MainForm& form, int trigger) {
+  const auto& triggers = form.ComboALM[controls::Alm::kTrigger].items;
+  const auto at = static_cast<std::size_t>(trigger);
+  const auto words = OfForm(at < triggers.size() ? triggers[at] : "");
+  const auto exceptions = image::ExceptionsOfTrigger(trigger);
+  if (exceptions.first > exceptions.last) return words;
+  return Sentence(Pattern("List", "%1 %2"), {OfForm(form.lbAlmTrig.caption), words});
+}
+
 // The alarms for which the condition holds. The texts are the number, the trigger, and what else sets it off.
 template <class Condition>
 Hits AlarmsWith(Subject& subject, const Condition& condition) {
-  const auto& triggers = subject.Form().ComboALM[controls::Alm::kTrigger].items;
   const bool with_video = firmware::HasVideoLoss(subject.Firmware());
   Hits hits;
   for (int number = 1; number <= image::kAlarms; ++number) {
@@ -47,9 +56,8 @@ Hits AlarmsWith(Subject& subject, const Condition& condition) {
     const Alarm alarm{number, image::AlarmTrigger(stored), with_video ? image::AlarmVideoLoss(stored) : 0,
                       record, !IsBlank(text)};
     if (!condition(alarm)) continue;
-    const auto trigger = static_cast<std::size_t>(alarm.trigger);
     hits.push_back({number,
-                    {std::to_string(number), OfForm(trigger < triggers.size() ? triggers[trigger] : ""),
+                    {std::to_string(number), TriggerWords(subject.Form(), alarm.trigger),
                      alarm.video_loss == 0 ? Sentence(Pattern("Check", "nothing"))
                                            : Sentence(Pattern("Check", "only VIDEO LOSS"))}});
   }

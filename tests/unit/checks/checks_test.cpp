@@ -172,10 +172,10 @@ std::vector<Row> PanelRows() {
   const std::string text = Text("cmdSetTrigger", "DOOR");
   return {
       {"alarm-without-exception", Alarm(2) + "pick ComboALM(1) \"13-24\"\n",
-       "Only free exceptions trigger alarm 2 (13-24), so nothing triggers it.", "ComboALM(1)",
+       "Only free exceptions trigger alarm 2 (EX. 13-24), so nothing triggers it.", "ComboALM(1)",
        Exception(24, "VOID"), 2},
       {"alarm-without-exception", Alarm(2) + "pick ComboALM(1) \"5\"\npick ComboALM(6) \"MANUAL\"\n",
-       "Only free exceptions trigger alarm 2 (5), so only VIDEO LOSS triggers it.", "ComboALM(1)",
+       "Only free exceptions trigger alarm 2 (EX. 5), so only VIDEO LOSS triggers it.", "ComboALM(1)",
        Exception(5, "VOID"), 2},
       {"text-never-comes", Alarm(2) + text + "pick ComboTrigger(1) \"ON\"\n",
        "Alarm 2 has a text to show or to send", "ComboALM(1)", "pick ComboALM(6) \"1S\"\n", 2},
