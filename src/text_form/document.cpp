@@ -54,12 +54,20 @@ Problem UnknownFormat(Position at, std::string_view found) {
   return {at, "format " + Escaped(found) + " is not known; this program reads format " + known};
 }
 
+bool IsKnownFormat(const Value& value) {
+  return value.kind == ValueKind::kNumber && value.text == std::to_string(kFormat);
+}
+
+bool IsKnownFirmware(const Value& value, std::string_view running) {
+  return value.kind == ValueKind::kText && (value.text == running || firmware::FindFirmware(value.text));
+}
+
 void ExpectFormat(const Document& document, std::vector<Problem>& problems) {
   const auto* format = HeaderOf(document, kFormatKey);
   const auto known = std::to_string(kFormat);
   if (format == nullptr) {
     problems.push_back({{1, 1}, "the line \"format = " + known + "\" is missing"});
-  } else if (format->value.kind != ValueKind::kNumber || format->value.text != known) {
+  } else if (!IsKnownFormat(format->value)) {
     problems.push_back(UnknownFormat(format->value.at, Written(format->value)));
   }
 }
@@ -77,7 +85,7 @@ void ExpectFirmware(const Entry& entry, std::string_view running, std::vector<Pr
   if (value.kind != ValueKind::kText) {
     problems.push_back(
         {value.at, Written(value) + " is not allowed here; allowed: a text such as \"V1400 R12\""});
-  } else if (value.text != running && !firmware::FindFirmware(value.text)) {
+  } else if (!IsKnownFirmware(value, running)) {
     problems.push_back({value.at, InQuotes(value.text) + " is no firmware that this program serves" +
                                       Suggestion(value.text, FirmwareNames())});
   }
@@ -122,7 +130,6 @@ const Entry* HeaderOf(const Document& document, std::string_view key) {
 std::vector<Problem> HeaderProblems(const Document& document, std::string_view running) {
   auto problems = document.problems;
   if (problems.empty() || HeaderOf(document, kFormatKey) != nullptr) ExpectFormat(document, problems);
-  if (problems.size() > document.problems.size()) return problems;
   const std::vector<std::string> keys = {std::string(kFormatKey), std::string(kFirmwareKey),
                                          std::string(kCompleteKey)};
   for (const auto& entry : document.entries) {
@@ -137,6 +144,13 @@ std::vector<Problem> HeaderProblems(const Document& document, std::string_view r
     }
   }
   return problems;
+}
+
+bool CanBeJudged(const Document& document, std::string_view running) {
+  const auto* format = HeaderOf(document, kFormatKey);
+  const auto* firmware = HeaderOf(document, kFirmwareKey);
+  return (format == nullptr || IsKnownFormat(format->value)) &&
+         (firmware == nullptr || IsKnownFirmware(firmware->value, running));
 }
 
 std::string FirmwareNamed(const Document& document) {

@@ -72,6 +72,9 @@ const Entry* HeaderOf(const Document& document, std::string_view key);
 // program, which the settings can name although no other program serves it; empty if there is none.
 std::vector<Problem> HeaderProblems(const Document& document, std::string_view running = {});
 
+// Whether the settings can be judged: the format is not another one, and neither is the firmware unknown.
+bool CanBeJudged(const Document& document, std::string_view running);
+
 // The firmware that the form names, such as "V1400 R12"; empty if it names none.
 std::string FirmwareNamed(const Document& document);
 

@@ -257,7 +257,9 @@ std::optional<std::string> StoreWords(const Setting& setting, std::string_view w
   } else {
     stored = StoreText(setting, words, image, firmware);
   }
-  return stored ? std::nullopt : std::optional(Allowed(setting, firmware));
+  if (stored) return std::nullopt;
+  return words.find('\0') == std::string_view::npos ? Allowed(setting, firmware)
+                                                    : "a text without the character 0";
 }
 
 std::string DigitsOf(const Setting& setting, const image::ConfigImage& image,

@@ -29,7 +29,10 @@ bool IsNoFirstByte(char byte) {
 
 bool IsFlagOrWholeNumber(std::string_view word) {
   if (word == "true" || word == "false") return true;
-  return !word.empty() && word.find_first_not_of("0123456789") == std::string_view::npos;
+  constexpr std::size_t kMostDigits = 18;  // of a number of the library
+  const bool has_zero_in_front = word.size() > 1 && word.front() == '0';
+  return !word.empty() && word.size() <= kMostDigits && !has_zero_in_front &&
+         word.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
 class Line {
@@ -147,9 +150,11 @@ class Line {
     const bool is_other = IsQuote(word[0]) || word[0] == '{' || word[0] == '[';
     if (is_other || !std::all_of(word.begin(), word.end(), IsAscii) || IsFlagOrWholeNumber(word))
       return std::nullopt;
-    const bool is_flag = text_.substr(first_).starts_with(text_form::kCompleteKey);
-    return At(at, text_form::InQuotes(word) + " is not allowed" +
-                      (is_flag ? "; allowed: true, false" : std::string(kAllowed)));
+    const auto line = text_.substr(first_);
+    const auto allowed = line.starts_with(text_form::kCompleteKey) ? "true, false"
+                         : line.starts_with("format")              ? "1"
+                                                      : "a text in quotes, or a whole number of a list";
+    return At(at, text_form::InQuotes(word) + " is not allowed; allowed: " + allowed);
   }
 
   std::string_view text_;

@@ -32,7 +32,8 @@ class Importer {
         own_(own),
         document_(document),
         complete_(IsComplete(document) && own == nullptr),
-        other_bytes_(catalogue, complete_, [this](Position at, std::string words) { Say(at, words); }) {
+        other_bytes_(catalogue, complete_ || !document.problems.empty(),
+                     [this](Position at, std::string words) { Say(at, words); }) {
     result_.image = base;
   }
 
@@ -54,11 +55,13 @@ class Importer {
     for (const auto& table : document_.empty_tables) {
       if (own_ == nullptr && table.table != kOtherBytes && !IsTable(table.table)) SayUnknown(table);
     }
+    other_bytes_.Take(others_, named_, result_.image);
     // What depends on other lines is not judged where some could not be read.
     if (document_.problems.empty()) {
-      other_bytes_.Take(others_, named_, result_.image);
       ReadOptions();
       if (complete_ && result_.problems.empty()) ExpectAll();
+    } else {
+      ExpectKnownOptions();
     }
     SortByPlace(result_.problems);
     return std::move(result_);
@@ -92,7 +95,7 @@ class Importer {
       const auto before = result_.problems.size();
       Take(*setting, entry);
       const bool is_register = setting == &catalogue_.OfPanels().front();
-      register_left_out_ |= is_register && own_ != nullptr && result_.problems.size() > before;
+      register_failed_ |= is_register && result_.problems.size() > before;
     } else if (CanBeOption(entry)) {
       options_.push_back(&entry);
     } else {
@@ -159,9 +162,11 @@ class Importer {
   // An option can bring another one, or change what it offers. So the register is asked again until the
   // options that it offers store nothing else.
   void ReadOptions() {
-    if (register_left_out_) {
-      for (const auto* entry : options_)
+    if (register_failed_) {
+      for (const auto* entry : options_) {
+        if (own_ == nullptr) continue;
         Say(entry->at, InQuotes(entry->key) + " is an option of a register that is left out");
+      }
       return;
     }
     constexpr int kMostRounds = 8;
@@ -181,6 +186,13 @@ class Importer {
     other_bytes_.StoreIrregular(result_.image);
     other_bytes_.ExpectNoBitsOf(taken);
     if (result_.problems.empty()) ExpectTogether(taken);
+  }
+
+  void ExpectKnownOptions() {
+    const auto all = catalogue_.OptionKeys();
+    for (const auto* entry : options_) {
+      if (std::find(all.begin(), all.end(), entry->key) == all.end()) SayNoOption(*entry);
+    }
   }
 
   // With a byte that fits no entry, the form shows none of the options.
@@ -262,7 +274,7 @@ class Importer {
   const bool complete_;
   OtherByteLines other_bytes_;
   Imported result_;
-  bool register_left_out_ = false;
+  bool register_failed_ = false;
   std::set<const Setting*> named_;
   std::set<std::string> unknown_tables_;
   std::vector<const Entry*> others_, options_;
@@ -317,8 +329,9 @@ Imported Refused(const image::ConfigImage& base, std::vector<Problem> problems) 
 
 Imported Import(Catalogue& catalogue, const CatalogueOf& catalogue_of, const image::ConfigImage& base,
                 const Document& document, Strictness strictness) {
-  auto problems = HeaderProblems(document, NameOf(catalogue.Firmware()));
-  if (problems.size() > document.problems.size()) return Refused(base, std::move(problems));
+  const auto running = NameOf(catalogue.Firmware());
+  auto problems = HeaderProblems(document, running);
+  if (!CanBeJudged(document, running)) return Refused(base, std::move(problems));
   const auto other = OtherFirmware(document, catalogue.Firmware());
   Catalogue* own = other ? &catalogue_of(*other) : nullptr;
   if (own != nullptr) {

@@ -13,8 +13,8 @@ constexpr Broken kBroken[] = {
     {R"([COMMUNICATION]
 PARITY = EVEN
 X = Y)",
-     R"(3:10 "EVEN" is not allowed; allowed: a text in quotes
-4:5 "Y" is not allowed; allowed: a text in quotes)"},
+     R"(3:10 "EVEN" is not allowed; allowed: a text in quotes, or a whole number of a list
+4:5 "Y" is not allowed; allowed: a text in quotes, or a whole number of a list)"},
     {"x = {\"\"\"a\nb\"\"\"}", R"(2:6 wrong syntax: a text over several lines is not allowed)"},
     {"A.\"\"\"\n\"\\\uFCFF\n\"\"\"", R"(2:3 wrong syntax: a text over several lines is not allowed)"},
     {"A = \"x\"\"\"\"\n\"\\\uFCFF\n\"\"\"", R"(2:8 wrong syntax: a text over several lines is not allowed)"},
@@ -25,7 +25,7 @@ PARITY = "EVEN")",
      R"(2:15 wrong syntax)"},
     {R"([COMMUNICATION]
 PARITY = EVEN)",
-     R"(3:10 "EVEN" is not allowed; allowed: a text in quotes)"},
+     R"(3:10 "EVEN" is not allowed; allowed: a text in quotes, or a whole number of a list)"},
     {R"([COMMUNICATION]
 PARITY = "EVEN)",
      R"(3:15 wrong syntax)"},
@@ -48,7 +48,7 @@ DISPLAY = ON
 OPERATR = "IN"
 [COMMUNICATION]
 PARITY = "EVN")",
-     R"(4:11 "ON" is not allowed; allowed: a text in quotes
+     R"(4:11 "ON" is not allowed; allowed: a text in quotes, or a whole number of a list
 5:2 [Exception 1] is already on line 2
 6:1 "OPERATR" is no setting of [Exception 1]. Did you mean "OPERATOR"?
 8:10 "EVN" is not allowed for "PARITY"; allowed: "NONE", "EVEN", "ODD". Did you mean "EVEN"?)"},
@@ -60,7 +60,8 @@ PARITY = "\q")",
     {R"(formt = 2)", R"(2:1 "formt" is in no table. Did you mean "format"?)"},
     {R"(PARITY = "EVEN")", R"(2:1 "PARITY" is in no table; allowed: "format", "firmware", "complete")"},
     {R"(complete = 1)", R"(2:12 1 is not allowed here; allowed: true, false)"},
-    {R"(firmware = 1400.5)", R"(2:12 "1400.5" is not allowed; allowed: a text in quotes)"},
+    {R"(firmware = 1400.5)",
+     R"(2:12 "1400.5" is not allowed; allowed: a text in quotes, or a whole number of a list)"},
     {R"([COMUNICATION]
 PARITY = "EVEN")",
      R"(3:1 there is no table [COMUNICATION]. Did you mean "COMMUNICATION"?)"},
@@ -100,14 +101,14 @@ PARITY = true)",
      R"(3:10 true is not allowed for "PARITY"; allowed: a text in quotes, or { bytes = "..." })"},
     {R"([COMMUNICATION]
 PARITY = 2026-01-01)",
-     R"(3:10 "2026-01-01" is not allowed; allowed: a text in quotes)"},
+     R"(3:10 "2026-01-01" is not allowed; allowed: a text in quotes, or a whole number of a list)"},
     {R"([COMMUNICATION]
 PARITY = ["EVEN"])",
      R"(3:10 a list is not allowed; allowed: a text in quotes)"},
     {R"(PARITY = { bytes = { bytes = 1 } })", "2:20 a table within a table is not allowed"},
     {R"([COMMUNICATION]
 PARITY = 1.5)",
-     R"(3:10 "1.5" is not allowed; allowed: a text in quotes)"},
+     R"(3:10 "1.5" is not allowed; allowed: a text in quotes, or a whole number of a list)"},
     {R"([COMMUNICATION]
 PARITY = { byte = "01" })",
      R"(3:10 a table is not allowed for "PARITY"; allowed: a text in quotes, or { bytes = "..." })"},
@@ -143,7 +144,7 @@ text = "12345678901234567890123456789012345678901")",
      R"(3:8 "12345678901234567890123456789012345678901" is not allowed for "text"; allowed: a text of at most 40 characters)"},
     {R"(["Exception 1"]
 text = "A\u0000B")",
-     R"(3:8 "A\u0000B" is not allowed for "text"; allowed: a text of at most 40 characters)"},
+     R"(3:8 "A\u0000B" is not allowed for "text"; allowed: a text without the character 0)"},
     {R"(["Exception 1"]
 text = "\u4E2D")",
      R"(3:8 "中" is not a character of the unit; allowed: those of Windows-1252)"},
@@ -223,7 +224,22 @@ EVEN = 'ö\' ü)",
      "2:1 \"PARITY\" is in no table; allowed: \"format\", \"firmware\", \"complete\"\n"
      "3:13 wrong syntax: letters other than A to Z are allowed only within quotes"},
     {R"(PARITY = 00"ö")", "2:13 wrong syntax: letters other than A to Z are allowed only within quotes"},
-    {R"(PARITY = 0x1F)", R"(2:10 "0x1F" is not allowed; allowed: a text in quotes)"},
+    {R"(["REGISTER SELECT"]
+Register = "BLEP"
+Model = "TS5000")",
+     R"(3:12 "BLEP" is not allowed for "Register"; allowed: one of 111, from "GENERIC" to "WEIGH SCALE". Did you mean "BLEEP"?)"},
+    {R"(X = 1
+[COMMUNICATION]
+PARITY = 'EVN'
+"TX BAUDRATE" = 09600
+["Other bytes"]
+EXECENTRY = 'zz')",
+     R"(2:1 "X" is in no table; allowed: "format", "firmware", "complete"
+4:10 "EVN" is not allowed for "PARITY"; allowed: "NONE", "EVEN", "ODD". Did you mean "EVEN"?
+5:17 "09600" is not allowed; allowed: a text in quotes, or a whole number of a list
+7:13 "zz" is not allowed here; allowed: at most 1 byte of two digits 0 to 9 and A to F)"},
+    {R"(PARITY = 0x1F)",
+     R"(2:10 "0x1F" is not allowed; allowed: a text in quotes, or a whole number of a list)"},
     {R"(["Other bytes"]
 EXECENTRY = 10)",
      R"(3:13 10 is not allowed here; allowed: at most 1 byte of two digits 0 to 9 and A to F)"},
