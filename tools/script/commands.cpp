@@ -19,7 +19,7 @@
 namespace ovl::script {
 namespace {
 
-enum OptionAt : std::size_t { kFirmware, kJson, kFolder };
+enum OptionAt : std::size_t { kFirmware, kJson, kFolder, kPartial };
 constexpr std::array kOptions = {
     command_line::Option{"firmware", "NAME",
                          "for a command: the firmware of the files, such as V1400R12.\n"
@@ -27,11 +27,15 @@ constexpr std::array kOptions = {
     command_line::Option{"json", "", "for check: prints JSON instead of lines"},
     command_line::Option{"folder", "FOLDER",
                          "for check: the program folder, for the default image of the\nregister"},
+    command_line::Option{
+        "partial", "",
+        "for import: changes FILE by a text that names only a part, or\nthat is of another firmware"},
 };
 
 struct Wanted {
   std::string firmware, folder;
   bool json = false;
+  bool partial = false;
   std::vector<std::string> paths;
 };
 
@@ -69,7 +73,7 @@ ExitStatus Diff(const Wanted& wanted, std::ostream& output, std::ostream&) {
   auto before = host::ReadConfiguration(viewer, whole.path, whole.bytes);
   auto after = host::ReadConfiguration(viewer, before, second.path, second.bytes);
   if (part_is_first) std::swap(before, after);
-  const bool differ = PrintDifferences(output, *viewer.app, before, after);
+  const bool differ = PrintDifferences(output, *viewer.whole, before, after);
   return differ ? ExitStatus::kExpectationFailed : ExitStatus::kDone;
 }
 
@@ -80,13 +84,34 @@ ExitStatus Export(const Wanted& wanted, std::ostream& output, std::ostream&) {
   return ExitStatus::kDone;
 }
 
-ExitStatus Import(const Wanted& wanted, std::ostream&, std::ostream&) {
+void WriteReopenable(const std::string& path, const image::ConfigImage& image,
+                     const firmware::FirmwareId& firmware) {
+  const auto file = acts::ReopenableFile(image, firmware);
+  if (!file) Wrong(path + ": this configuration cannot be written to a file that opens again");
+  host::DiskFiles().replace(path, *file);
+}
+
+// What this firmware does not have is printed, and left out.
+void ImportPart(const Wanted& wanted, std::ostream& output) {
+  const auto text = ReadFile(wanted.paths[0]), file = ReadFile(wanted.paths[1]);
+  host::Viewer viewer(host::FirmwareOf(file.path, file.bytes, wanted.firmware));
+  const auto base = host::ReadConfiguration(viewer, file.path, file.bytes);
+  std::string left_out;
+  const auto image = host::ReadTextForm(viewer.catalogue, base, text.path, text.bytes,
+                                        text_form::Strictness::kPartial, left_out);
+  WriteReopenable(file.path, image, viewer.catalogue.Firmware());
+  output << left_out;
+}
+
+ExitStatus Import(const Wanted& wanted, std::ostream& output, std::ostream&) {
+  if (wanted.partial) {
+    ImportPart(wanted, output);
+    return ExitStatus::kDone;
+  }
   const auto text = ReadFile(wanted.paths[0]);
   host::Viewer viewer(host::FirmwareOf(text.path, text.bytes, wanted.firmware));
-  const auto image = host::ReadConfiguration(viewer, text.path, text.bytes);
-  const auto file = acts::ReopenableFile(image, viewer.catalogue.Firmware());
-  if (!file) Wrong(text.path + ": this configuration cannot be written to a file that opens again");
-  host::DiskFiles().replace(wanted.paths[1], *file);
+  WriteReopenable(wanted.paths[1], host::ReadConfiguration(viewer, text.path, text.bytes),
+                  viewer.catalogue.Firmware());
   return ExitStatus::kDone;
 }
 
@@ -175,7 +200,9 @@ std::string MisusedOption(const command_line::CommandLine& read, const Row* row)
   for (const auto& given : read.options) {
     const auto name = "--" + std::string(kOptions.at(given.option).name);
     if (row == nullptr) return name + " is for a command";
-    if (given.option != kFirmware && row->run != Check) return name + " is for check";
+    const auto& needed = given.option == kPartial ? Import : Check;
+    if (given.option != kFirmware && row->run != needed)
+      return name + " is for " + (given.option == kPartial ? "import" : "check");
   }
   return {};
 }
@@ -208,6 +235,7 @@ Command CommandOf(const command_line::CommandLine& read) {
     if (option == kFirmware) wanted.firmware = value;
     if (option == kFolder) wanted.folder = value;
     if (option == kJson) wanted.json = true;
+    if (option == kPartial) wanted.partial = true;
   }
   return {
       [row, wanted](std::ostream& output, std::ostream& errors) { return Run(*row, wanted, output, errors); },
