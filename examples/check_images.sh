@@ -10,7 +10,9 @@
 [ -d "$1" ] || refuse "$1: no such folder"
 registers=$(started <<< "list ComboReg") || refuse "$1: was not checked"
 # The findings of all files at once. Why one of them cannot be read is asked of each below.
-ovl-script --firmware "$version$release" check "$1"/*.bin > "$work/findings" 2> /dev/null || true
+checked=0
+ovl-script --firmware "$version$release" check -- "$1"/*.bin > "$work/findings" 2> /dev/null || checked=$?
+[ "$checked" -le 2 ] || refuse "$1: was not checked"
 images=0 with_findings=0 wrong=0
 
 # The last of what was said, without its place.

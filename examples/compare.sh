@@ -14,7 +14,12 @@ read_options "$@"
 # 1: they differ; 2: one of them cannot be read.
 compare() {
   local report
-  [ "${2##*.}" = toml ] || fits "$2" > "$work/register" || return 2
+  # A wrong file is refused before the unit is asked.
+  if grep -qE '^ *(format|firmware|complete) *=|^ *\[' "$2"; then
+    started <<< "diff $(quoted "$2")" > /dev/null || return 2
+  else
+    fits "$2" > "$work/register" || return 2
+  fi
   read_unit "$1" || return 2
   as_text "$unit" > "$work/unit.toml" || return 2
   report=$(started <<< "import $(quoted "$work/unit.toml")
