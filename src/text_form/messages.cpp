@@ -99,13 +99,19 @@ std::string DidYouMean(std::string_view word) {
 
 std::string Escaped(std::string_view text) {
   constexpr std::string_view kDigits = "0123456789ABCDEF";
+  constexpr unsigned char kLeadOfControls = 0xC2;  // U+0080 to U+009F
+  const auto code_at = [&](std::size_t at) {
+    return static_cast<unsigned char>(at < text.size() ? text[at] : ' ');
+  };
   std::string escaped;
-  for (const char letter : text) {
-    const auto code = static_cast<unsigned char>(letter);
-    if (code < ' ' || code == 0x7F) {
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const bool is_pair = code_at(at) == kLeadOfControls && code_at(at + 1) >= 0x80 && code_at(at + 1) < 0xA0;
+    if (is_pair) ++at;
+    const auto code = code_at(at);
+    if (is_pair || code < ' ' || code == 0x7F) {
       escaped.append("\\u00").append(1, kDigits[code >> 4U]).append(1, kDigits[code & 0xFU]);
     } else {
-      escaped += letter;
+      escaped += text[at];
     }
   }
   return escaped;

@@ -146,6 +146,9 @@ text = "12345678901234567890123456789012345678901")",
 text = "A\u0000B")",
      R"(3:8 "A\u0000B" is not allowed for "text"; allowed: a text without the character 0)"},
     {R"(["Exception 1"]
+text = "A\u009BB")",
+     R"(3:8 "\u009B" is not a character of the unit; allowed: those of Windows-1252)"},
+    {R"(["Exception 1"]
 text = "\u4E2D")",
      R"(3:8 "中" is not a character of the unit; allowed: those of Windows-1252)"},
     {R"(["Exception 1"]
