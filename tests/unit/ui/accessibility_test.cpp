@@ -61,7 +61,7 @@ double ContrastIn(const QImage& image) {
   const double ground = Luminance(std::max_element(counts.begin(), counts.end(), by_count)->first);
   double most = 1;
   for (const auto& [color, count] : counts) {
-    const auto [less, more] = std::minmax(ground, Luminance(color));
+    const auto [less, more] = std::minmax({ground, Luminance(color)});
     most = std::max(most, (more + 0.05) / (less + 0.05));
   }
   return most;
