@@ -25,7 +25,7 @@ offers() {
 }
 
 offers '--firmware|--folder' ovl --f
-offers '--firmware|--folder|--help|--json|--version' ovl-script --
+offers '--firmware|--folder|--help|--json|--partial|--version' ovl-script --
 offers 'check|checksum|diff|export|fo file|folder|import' ovl-script ''
 offers 'export' ovl-script e
 offers 'fo file|folder' ovl-script export fo

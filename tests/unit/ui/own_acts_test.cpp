@@ -161,7 +161,7 @@ TEST_F(ChecksTest, AreCountedWhenTheProgramIsIdleAndLeadToTheirControls) {
   EXPECT_EQ(CountWhenIdle("1 error, 1 warning"), "1 error, 1 warning");
   Click("StatusChecks");
   EXPECT_EQ(Cell(0, 0), "Network Settings, ADDRESS");
-  EXPECT_EQ(Cell(1, 1), "Only free exceptions trigger alarm 5 (9), so nothing triggers it.");
+  EXPECT_EQ(Cell(1, 1), "Only free exceptions trigger alarm 5 (EX. 9), so nothing triggers it.");
   EXPECT_EQ(Cell(2, 1), "T/D LOCKING is ON, but T/D DISPLAY is OFF.");
   Pick("ComboALM(0)", 0);
   OpenFirst(1);
