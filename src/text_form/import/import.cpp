@@ -233,9 +233,13 @@ class Importer {
                       Suggestion(entry.key, keys));
   }
 
-  // Two lines can name the same byte.
+  // Two lines can name the same byte. A field that is stored as it is has a line of its own.
   void ExpectTogether(const std::vector<OtherByteLines::OptionLine>& taken) {
     for (const auto& [setting, entry] : taken) {
+      const auto is_regular = [&](const FieldPart& part) {
+        return IsRegular(result_.image.at(part.field, part.entry), DigitsOfField(part.field, firmware_));
+      };
+      if (!std::all_of(setting.parts.begin(), setting.parts.end(), is_regular)) continue;
       auto again = result_.image;
       Importer alone(catalogue_, own_, again, document_);
       alone.Take(setting, *entry);

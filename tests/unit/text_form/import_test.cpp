@@ -57,6 +57,12 @@ TEST_F(TextForm, FieldsThatNoListShowsComeBackAsTheyAre) {
   image.at(image::FieldId::EXCPSTRS, 24).resize(7);
   image.at(image::FieldId::TRIGGER_TEXT, 2) = "zz\"\\";
   image[image::FieldId::REGTYPE] = "FF";
+  auto with_option = Pattern(kLatest, 1);  // TCPIP
+  with_option.at(image::FieldId::IPADDRESS, 3) = "0A4";
+  const auto option = Read(Exported(with_option));
+  EXPECT_TRUE(option.problems.empty()) << TextOf(option.problems.front(), "text");
+  EXPECT_EQ(Changed(with_option, option.image), "");
+
   const auto text = Exported(image);
   EXPECT_NE(text.find("\"RX BAUDRATE\" = { bytes = \"EE\" }"), std::string::npos);
   EXPECT_NE(text.find("TX_BAUDRATE = { digits = \"\" }"), std::string::npos);
