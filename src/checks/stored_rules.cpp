@@ -178,10 +178,8 @@ Hits OptionsHidden(Subject& subject) {
   if (!registers::OptionsAreHidden(subject.Shown())) return {};
   const auto* unfit = registers::UnfitOptionOf(subject.Shown());
   if (unfit == nullptr) return {};
-  const auto rows = image::FieldTable();
-  const auto row = std::find_if(rows.begin(), rows.end(),
-                                [&](const image::FieldRow& at) { return at.id == unfit->field; });
-  return {{0, {subject.Words().RegisterName(), NameOf(*row, unfit->entry), unfit->value}}};
+  const auto name = NameOf(image::RowOf(unfit->field), unfit->entry);
+  return {{0, {subject.Words().RegisterName(), name, unfit->value}}};
 }
 
 // Bytes that make a download longer or shorter than the unit reads it.

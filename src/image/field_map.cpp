@@ -117,6 +117,14 @@ constexpr auto kFields = std::to_array<FieldRow>({
 });
 static_assert(kFields.size() == kFieldCount);
 
+// The place of each field in the table.
+constexpr auto kPlaces = [] {
+  std::array<std::size_t, kFieldCount> places{};
+  for (std::size_t place = 0; place < kFieldCount; ++place)
+    places[static_cast<std::size_t>(kFields[place].id)] = place;
+  return places;
+}();
+
 bool IsExtension(FieldId id) {
   return id == FieldId::REGTYPE_EXT1 || id == FieldId::REGTYPE_EXT2;
 }
@@ -175,6 +183,10 @@ const FieldRow* FindField(std::string_view name) {
   const auto found =
       std::find_if(kFields.begin(), kFields.end(), [&](const FieldRow& row) { return row.name == name; });
   return found == kFields.end() ? nullptr : &*found;
+}
+
+const FieldRow& RowOf(FieldId field) {
+  return kFields.at(kPlaces.at(static_cast<std::size_t>(field)));
 }
 
 int DigitsOf(const FieldRow& row, firmware::Layout layout) {

@@ -54,11 +54,9 @@ void Merge(std::string& value, const std::string& digits, const std::string& mas
   }
 }
 
-bool CanBeSent(std::string_view digits) {
+bool CanBeLoaded(std::string_view digits) {
   constexpr std::size_t kMost = 1000;
-  return digits.size() <= kMost && std::all_of(digits.begin(), digits.end(), [](char digit) {
-           return digit > ' ' && digit <= '~' && digit != '$' && digit != '#';
-         });
+  return digits.size() <= kMost && digits.find_first_of("#\r\n") == std::string_view::npos;
 }
 
 }  // namespace ovl::text_form

@@ -25,8 +25,8 @@ class Coverage {
 
 bool IsZero(std::string_view digits);
 
-// Whether a load can have left these digits in a field: "$" and "#" end a record.
-bool CanBeSent(std::string_view digits);
+// Whether a load can have left these characters in a field: any others than the end of a stream and of a line.
+bool CanBeLoaded(std::string_view digits);
 
 // Gives the value the bits of the mask from the digits; the others stay.
 void Merge(std::string& value, const std::string& digits, const std::string& mask);

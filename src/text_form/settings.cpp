@@ -200,9 +200,7 @@ bool IsRegular(std::string_view value, std::size_t digits) {
 }
 
 std::size_t DigitsOfField(image::FieldId field, const firmware::FirmwareId& firmware) {
-  const auto table = image::FieldTable();
-  const auto row = std::find_if(table.begin(), table.end(), [&](const auto& one) { return one.id == field; });
-  return static_cast<std::size_t>(image::DigitsOf(*row, firmware::LayoutOf(firmware)));
+  return static_cast<std::size_t>(image::DigitsOf(image::RowOf(field), firmware::LayoutOf(firmware)));
 }
 
 std::string StoredIn(const image::ConfigImage& image, const FieldPart& part) {
@@ -301,13 +299,10 @@ bool StoreDigits(const Setting& setting, std::string_view digits, image::ConfigI
 
 std::string FieldNames(const Setting& setting) {
   std::string names;
-  const auto table = image::FieldTable();
   for (const auto& part : setting.parts) {
     if (IsText(setting.kind) && !names.empty()) continue;  // the bit that marks a free slot
-    const auto row =
-        std::find_if(table.begin(), table.end(), [&](const auto& one) { return one.id == part.field; });
     if (!names.empty()) names += ", ";
-    names += image::EntryName(row->name, image::EntryCount(part.field), part.entry);
+    names += image::EntryName(image::RowOf(part.field).name, image::EntryCount(part.field), part.entry);
     if (part.bits == core::kWholeByte) continue;
     std::string bits;
     for (int bit = 0; bit < 8; ++bit) {

@@ -1,7 +1,5 @@
 #include "acts/advice/file_conditions.h"
 
-#include <algorithm>
-
 #include "acts/act_names.h"
 #include "acts/advice/link_conditions.h"
 #include "changes/editors.h"
@@ -53,10 +51,7 @@ Words AboutSavedFiles(const core::Application& app, const Words& problem, const 
 }
 
 std::string FieldName(const core::UnfitOption& unfit) {
-  const auto rows = image::FieldTable();
-  const auto row =
-      std::find_if(rows.begin(), rows.end(), [&](const image::FieldRow& at) { return at.id == unfit.field; });
-  return image::EntryName(row->name, image::EntryCount(unfit.field), unfit.entry);
+  return image::EntryName(image::RowOf(unfit.field).name, image::EntryCount(unfit.field), unfit.entry);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include "codecs/windows_1252.h"
 #include "image/stream_entries.h"
 #include "text_form/coverage.h"
 #include "text_form/messages.h"
@@ -76,10 +77,12 @@ void OtherByteLines::TakeIrregular(const Target& target, const Entry& line,
   const auto& value = line.value;
   if (!complete_)
     return say_(value.at, Written(value) + " is allowed only with the line \"complete = true\"");
-  if (!CanBeSent(value.text))
-    return say_(value.at, Written(value) +
-                              " is not allowed here; allowed: at most 1000 letters and digits of a record "
-                              "stream");
+  const auto characters = codecs::Windows1252OfUtf8(value.text);
+  if (!characters || !CanBeLoaded(*characters))
+    return say_(value.at,
+                Written(value) +
+                    " is not allowed here; allowed: at most 1000 characters of Windows-1252, without "
+                    "\"#\" and ends of lines");
   for (const auto* setting : named) {
     const bool is_inside = std::all_of(
         setting->parts.begin(), setting->parts.end(),
@@ -88,7 +91,7 @@ void OtherByteLines::TakeIrregular(const Target& target, const Entry& line,
       return say_(value.at, "the line " + InQuotes(setting->key) + " of [" + setting->table +
                                 "] stores this field too: leave out one of them");
   }
-  irregular_.push_back({target, &line, value.text});
+  irregular_.push_back({target, &line, *characters});
 }
 
 // As many digits as the field has.

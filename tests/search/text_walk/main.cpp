@@ -38,11 +38,13 @@ std::string RandomDigits(Random& random, std::size_t count) {
   return digits;
 }
 
-// A field that a damaged file or line leaves.
+// A field that a damaged file or line leaves: any characters but the end of the stream and those of lines.
 void MakeIrregular(Random& random, std::string& value) {
   value = RandomDigits(random, static_cast<std::size_t>(1 + Below(random, 200)));
-  if (Below(random, 2) == 0)
-    value[static_cast<std::size_t>(Below(random, value.size()))] = "Gg~!\\\"'"[Below(random, 7)];
+  if (Below(random, 2) != 0) return;
+  auto other = static_cast<char>(Below(random, 256));
+  if (other == '#' || other == '\r' || other == '\n') other = '$';
+  value[static_cast<std::size_t>(Below(random, value.size()))] = other;
 }
 
 // The register and its options are small numbers, so that the register offers them.

@@ -249,7 +249,7 @@ EXECENTRY = 10)",
     {R"(complete = true
 ["Other bytes"]
 EXECENTRY = { digits = "$#" })",
-     R"(4:13 { digits = "$#" } is not allowed here; allowed: at most 1000 letters and digits of a record stream)"},
+     R"(4:13 { digits = "$#" } is not allowed here; allowed: at most 1000 characters of Windows-1252, without "#" and ends of lines)"},
     {R"(["TIME / LANGUAGE"]
 TITLE = 7)",
      R"(3:9 7 is not allowed for "TITLE"; allowed: a text in quotes, or { bytes = "..." })"},

@@ -55,7 +55,7 @@ TEST_F(TextForm, FieldsThatNoListShowsComeBackAsTheyAre) {
   image[image::FieldId::TX_BAUDRATE] = "";
   image[image::FieldId::LANGUAGE_BAK] = "0";
   image.at(image::FieldId::EXCPSTRS, 24).resize(7);
-  image.at(image::FieldId::TRIGGER_TEXT, 2) = "zz\"\\";
+  image.at(image::FieldId::TRIGGER_TEXT, 2) = std::string("$2z\"\\\0\x81\xE9", 8);
   image[image::FieldId::REGTYPE] = "FF";
   auto with_option = Pattern(kLatest, 1);  // TCPIP
   with_option.at(image::FieldId::IPADDRESS, 3) = "0A4";
