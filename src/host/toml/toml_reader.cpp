@@ -113,7 +113,7 @@ class LineReader {
     AddTable(read, parsed.table());
     if (is_table && !parsed.table().empty()) table_ = TableName(parsed.table().begin()->first);
     for (const auto& table : read.empty_tables)
-      IsNew({table.table, {}}, "[" + table.table + "]", {number, table.at.column});
+      IsNew({table.table, {}}, "[" + text_form::Escaped(table.table) + "]", {number, table.at.column});
     for (auto& entry : read.entries) {
       entry.at.line = entry.value.at.line = number;
       if (table_) TakeEntry(std::move(entry), is_table);

@@ -52,6 +52,9 @@ PARITY = "EVN")",
 5:2 [Exception 1] is already on line 2
 6:1 "OPERATR" is no setting of [Exception 1]. Did you mean "OPERATOR"?
 8:10 "EVN" is not allowed for "PARITY"; allowed: "NONE", "EVEN", "ODD". Did you mean "EVEN"?)"},
+    {R"(["A\nB"]
+["A\nB"])",
+     R"(3:2 [A\u000AB] is already on line 2)"},
     {R"([COMMUNICATION]
 PARITY = "\q")",
      R"(3:12 wrong syntax)"},
