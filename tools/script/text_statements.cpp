@@ -52,7 +52,7 @@ void Diff(Session& session, Arguments& arguments) {
   } else {
     after = host::ReadConfiguration(viewer, before, second, read(second));
   }
-  if (!PrintDifferences(session.Output(), *viewer.app, before, after)) session.Output() << "no difference\n";
+  if (!PrintDifferences(session.Output(), *viewer.whole, before, after)) session.Output() << "no difference\n";
 }
 
 void Checksum(Session& session, Arguments& arguments) {

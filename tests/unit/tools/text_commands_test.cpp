@@ -25,8 +25,13 @@ std::string Exported(const firmware::FirmwareId& firmware, const firmware::Firmw
 }
 
 // The exit status and what was printed.
-std::string Printed(std::vector<std::string> words) {
-  const auto command = CommandOf({command_line::Wish::kRun, {}, {}, std::move(words)});
+std::string Printed(std::vector<std::string> words, std::string_view option = {}) {
+  const auto options = CommandOptions();
+  std::vector<command_line::Given> given;
+  for (std::size_t number = 0; number < options.size(); ++number) {
+    if (options[number].name == option) given.push_back({number, {}});
+  }
+  const auto command = CommandOf({command_line::Wish::kRun, {}, std::move(given), std::move(words)});
   std::ostringstream output, errors;
   const auto status = command.run(output, errors);
   return std::to_string(static_cast<int>(status)) + '\n' + output.str() + errors.str();
@@ -59,6 +64,30 @@ TEST(TextCommands, APartIsComparedOnEitherSide) {
   const auto compared = Printed({"diff", part, whole});
   EXPECT_TRUE(compared.starts_with("1\nCOMMUNICATION: PARITY: \"ODD\" -> ")) << compared;
   EXPECT_TRUE(Printed({"diff", whole, part}).ends_with("-> \"ODD\"\n"));
+}
+
+TEST(TextCommands, APartChangesAFile) {
+  const testing::TemporaryFolder folder;
+  const auto text = folder.File("text.toml"), part = folder.File("part.toml"), file = folder.File("file.bin");
+  testing::WriteFile(text, Exported({"V1400", "R12"}, {"V1400", "R12"}));
+  ASSERT_EQ(Printed({"import", text, file}), "0\n");
+
+  const std::string parity = "[COMMUNICATION]\nPARITY = 'ODD'\n";
+  testing::WriteFile(part, "format = 1\n" + parity);
+  const auto before = testing::ReadFile(file);
+  EXPECT_TRUE(Printed({"import", part, file}).starts_with("2\n" + part + ":1:1: "));
+  EXPECT_EQ(testing::ReadFile(file), before);
+  EXPECT_EQ(Printed({"import", part, file}, "partial"), "0\n");
+  EXPECT_TRUE(Printed({"diff", text, file}).ends_with(" -> \"ODD\"\n"));
+  EXPECT_EQ(Printed({"diff", part, file}), "0\n");
+
+  const auto left_out = part + ":4:1: V1400 R12 does not have \"TITLE\" of [TIME]\n";
+  testing::WriteFile(part, "format = 1\nfirmware = 'V1300 R14'\n[TIME]\nTITLE = 'SHOP 7'\n" + parity);
+  EXPECT_EQ(Printed({"import", part, file}, "partial"), "0\n" + left_out);
+  testing::WriteFile(part, "format = 1\n[COMMUNICATION]\nPARITY = 'EVN'\n");
+  const auto changed = testing::ReadFile(file);
+  EXPECT_TRUE(Printed({"import", part, file}, "partial").starts_with("2\n" + part + ":3:10: \"EVN\" is "));
+  EXPECT_EQ(testing::ReadFile(file), changed);
 }
 
 }  // namespace
