@@ -22,6 +22,7 @@ AdviceBar::AdviceBar(Bindings& bindings, const OwnActs& acts)
   across->setContentsMargins(kMargin, kRowGap / 2, kRowGap, kRowGap / 2);
   across->setSpacing(kRowGap);
   words_->setObjectName(QStringLiteral("AdviceWords"));
+  words_->setTextFormat(Qt::PlainText);  // it can have names of files
   words_->setWordWrap(true);
   words_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   action_->setObjectName(QStringLiteral("AdviceAction"));
