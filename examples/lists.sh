@@ -50,7 +50,7 @@ take_list_and_folder() {
   read_list "${arguments[0]}"
   refuse_same_names
   folder=${arguments[1]}
-  mkdir -p -- "$folder"
+  mkdir -p -- "$folder" || exit 2
 }
 
 # Runs a command for one device in a folder of its own, and keeps the outcome: serve NUMBER STATE COMMAND... DEVICE

@@ -25,7 +25,8 @@ class Coverage {
 
 bool IsZero(std::string_view digits);
 
-// Whether a load can have left these characters in a field: any others than the end of a stream and of a line.
+// Whether a load can have left these characters in a field: any others than the end of a stream and of a
+// line.
 bool CanBeLoaded(std::string_view digits);
 
 // Gives the value the bits of the mask from the digits; the others stay.

@@ -17,6 +17,10 @@ std::string_view WithoutBlanks(std::string_view text) {
   return text.substr(0, text.find_last_not_of(kBlanks) + 1);
 }
 
+bool IsUtf16(std::string_view bytes) {
+  return bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF");
+}
+
 // Calls the function for each line and its number until it returns true.
 template <class Function>
 void ForEachLine(std::string_view bytes, const Function& ends) {
@@ -100,12 +104,13 @@ std::string TextOf(const Problem& problem, std::string_view path) {
 
 // A record stream has none of these lines. Without a format, a text form has an error, but is one.
 bool IsTextForm(std::string_view bytes) {
-  bool found = false;
-  ForEachLine(bytes, [&](std::string_view line, int) { return found = IsOfTextForm(line); });
+  bool found = IsUtf16(bytes);  // a record stream is in ASCII
+  ForEachLine(bytes, [&](std::string_view line, int) { return found || (found = IsOfTextForm(line)); });
   return found;
 }
 
 std::optional<Problem> OtherFormat(std::string_view bytes) {
+  if (IsUtf16(bytes)) return Problem{{1, 1}, "the text is in UTF-16. Save it in UTF-8"};
   std::optional<Problem> problem;
   ForEachLine(bytes, [&](std::string_view line, int number) {
     if (!IsFormatLine(line)) return WithoutBlanks(line).starts_with('[');

@@ -50,10 +50,15 @@ struct Entry {
   Value value;
 };
 
+struct Table {
+  std::string name;
+  Position at;  // of the name
+};
+
 struct Document {
   std::vector<Entry> entries;  // in the order of the lines
   std::vector<Problem> problems;
-  std::vector<Entry> empty_tables = {};  // without a key and a value
+  std::vector<Table> tables = {};
 };
 
 inline constexpr int kFormat = 1;  // the version of the form
@@ -62,7 +67,7 @@ inline constexpr std::string_view kFirmwareKey = "firmware", kCompleteKey = "com
 // Whether the bytes are a text form and no record stream.
 bool IsTextForm(std::string_view bytes);
 
-// The problem of a form of a later version, whose syntax can be another one.
+// The problem of a form in other characters, or of a later version, whose syntax can be another one.
 std::optional<Problem> OtherFormat(std::string_view bytes);
 
 // The line with this key before the first table; null if there is none.

@@ -11,8 +11,10 @@ namespace {
 
 constexpr std::size_t kCommentColumn = 48;
 
-// Whether the character needs an escape in a text of TOML.
+// Whether the character needs no escape: TOML allows it, and it can be seen in an editor.
 bool IsPlain(char32_t character) {
+  constexpr char32_t kNoBreakSpace = 0xA0, kSoftHyphen = 0xAD;
+  if (character == kNoBreakSpace || character == kSoftHyphen) return false;
   return character >= ' ' && character != '"' && character != '\\' && character != 0x7F &&
          (character < 0x80 || character > 0x9F);
 }

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <numeric>
 #include <optional>
+#include <tuple>
 
 #include "codecs/windows_1252.h"
 
@@ -61,18 +62,28 @@ std::size_t SharedStart(std::string_view one, std::string_view other) {
   return static_cast<std::size_t>(ends.first - one.begin());
 }
 
+// The last number in a word; zero if there is none.
+double LastNumber(std::string_view word) {
+  constexpr std::string_view kDigits = "0123456789";
+  const auto last = word.find_last_of(kDigits);
+  if (last == std::string_view::npos) return 0;
+  const auto first = word.find_last_not_of(kDigits, last) + 1;
+  return NumberOf(word.substr(first, last + 1 - first)).value_or(0);
+}
+
 // The word with the fewest letters to change, whatever its case; of several the one that begins most alike,
-// and then the last one, which is near a number that is too large. Empty if none is near.
+// and then the one with the nearest number. Empty if none is near.
 std::string Nearest(std::string_view word, const std::vector<std::string>& words) {
   constexpr std::size_t kLongest = 80;
   if (word.size() > kLongest) return {};
   if (const auto number = NearNumber(word, words)) return *number;
   const auto least = std::min(std::max<std::size_t>(2, word.size() / 3) + 1, word.size());
-  std::pair best(least, word.size());  // letters to change, and letters that are not shared
+  std::tuple best(least, std::size_t{0}, 0.0);
   std::string nearest;
   for (const auto& candidate : words) {
-    const std::pair found(Distance(word, candidate), word.size() - SharedStart(word, candidate));
-    if (found.first >= least || found > best) continue;
+    const std::tuple found(Distance(word, candidate), word.size() - SharedStart(word, candidate),
+                           std::abs(LastNumber(candidate) - LastNumber(word)));
+    if (found >= best) continue;
     best = found;
     nearest = candidate;
   }
@@ -81,7 +92,7 @@ std::string Nearest(std::string_view word, const std::vector<std::string>& words
 
 // Of many words only how many they are, the first and the last.
 std::string Listed(const std::vector<std::string>& words) {
-  constexpr std::size_t kFew = 12;
+  constexpr std::size_t kFew = 20;
   if (words.size() > kFew) {
     return "one of " + std::to_string(words.size()) + ", from " + InQuotes(words.front()) + " to " +
            InQuotes(words.back());

@@ -25,8 +25,8 @@ std::string NotAllowed(const Setting& setting, std::string_view text, std::strin
 
 void SortByPlace(std::vector<Problem>& problems);
 
-// As many problems as anybody reads at once. Of more than these only their number is left.
-inline constexpr std::size_t kMostProblems = 100;
+// More than a whole form has lines. Of more problems than these only their number is left.
+inline constexpr std::size_t kMostProblems = 1000;
 void Cut(std::vector<Problem>& problems);
 
 }  // namespace ovl::text_form

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
 #include <map>
 #include <sstream>
 #include <utility>
@@ -9,9 +10,12 @@
 #include "acts/backup.h"
 #include "checks/checks.h"
 #include "core/failure.h"
+#include "files/files.h"
+#include "firmware/firmware_table.h"
 #include "host/configurations/configurations.h"
 #include "host/files.h"
 #include "host/toml/toml_reader.h"
+#include "image/report.h"
 #include "script/finding_lines.h"
 #include "script/text_statements.h"
 #include "text_form/export.h"
@@ -84,17 +88,32 @@ ExitStatus Export(const Wanted& wanted, std::ostream& output, std::ostream&) {
   return ExitStatus::kDone;
 }
 
+// A text form keeps the words of a person, and "import" writes record streams.
+void ExpectNoTextForm(const std::string& path) {
+  if (std::filesystem::is_regular_file(path) && text_form::IsTextForm(ReadFile(path).bytes))
+    Wrong(path + ": this file is a text form. Name another file: import writes a record stream");
+}
+
 void WriteReopenable(const std::string& path, const image::ConfigImage& image,
                      const firmware::FirmwareId& firmware) {
   const auto file = acts::ReopenableFile(image, firmware);
+  ExpectNoTextForm(path);
   if (!file) Wrong(path + ": this configuration cannot be written to a file that opens again");
   host::DiskFiles().replace(path, *file);
+}
+
+// A text form can name one of several firmware that a stream fits.
+firmware::FirmwareId FirmwareOfFile(const File& file, const File& text, const std::string& named) {
+  const auto of_text = firmware::FindFirmware(text_form::FirmwareNamed(host::ReadToml(text.bytes)));
+  const bool fits = of_text && image::FitsFirmware(files::JoinLines(file.bytes), *of_text);
+  return host::FirmwareOf(file.path, file.bytes, named.empty() && fits ? of_text->Joined() : named);
 }
 
 // What this firmware does not have is printed, and left out.
 void ImportPart(const Wanted& wanted, std::ostream& output) {
   const auto text = ReadFile(wanted.paths[0]), file = ReadFile(wanted.paths[1]);
-  host::Viewer viewer(host::FirmwareOf(file.path, file.bytes, wanted.firmware));
+  ExpectNoTextForm(file.path);
+  host::Viewer viewer(FirmwareOfFile(file, text, wanted.firmware));
   const auto base = host::ReadConfiguration(viewer, file.path, file.bytes);
   std::string left_out;
   const auto image = host::ReadTextForm(viewer.catalogue, base, text.path, text.bytes,

@@ -21,8 +21,9 @@ void Export(Session& session, Arguments& arguments) {
 }
 
 void Import(Session& session, Arguments& arguments) {
+  const bool partial_first = arguments.Take("--partial");
   const auto path = arguments.Next("PATH");
-  const bool partial = arguments.Take("--partial");
+  const bool partial = arguments.Take("--partial") || partial_first;
   arguments.End();
   auto& app = session.App();
   host::Viewer viewer(app.image_firmware);
@@ -52,7 +53,8 @@ void Diff(Session& session, Arguments& arguments) {
   } else {
     after = host::ReadConfiguration(viewer, before, second, read(second));
   }
-  if (!PrintDifferences(session.Output(), *viewer.whole, before, after)) session.Output() << "no difference\n";
+  if (!PrintDifferences(session.Output(), *viewer.whole, before, after))
+    session.Output() << "no difference\n";
 }
 
 void Checksum(Session& session, Arguments& arguments) {

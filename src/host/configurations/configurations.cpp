@@ -103,7 +103,10 @@ image::ConfigImage ReadConfiguration(Viewer& viewer, const std::string& path, st
     const auto document = ReadToml(bytes);
     ThrowProblems(text_form::HeaderProblems(document), path);
     if (!text_form::IsComplete(document))
-      throw NoConfiguration(path + ": the text form names only a part of a configuration");
+      throw NoConfiguration(
+          path +
+          ": the text form names only a part of a configuration. With \"import --partial\", "
+          "ovl-script changes a file by it");
   }
   return ReadConfiguration(viewer, text_form::FilledImage(viewer.catalogue.Firmware(), '0'), path, bytes);
 }

@@ -75,7 +75,7 @@ void AddTable(Document& document, const toml::table& parsed) {
     }
     const auto name = TableName(key);
     for (const auto& [inner_key, inner] : *table) AddEntry(document, name, inner_key, inner);
-    if (table->empty()) document.empty_tables.push_back({name, {}, PositionOf(key.source().begin), {}});
+    document.tables.push_back({name, PositionOf(key.source().begin)});
   }
 }
 
@@ -112,8 +112,13 @@ class LineReader {
     Document read;
     AddTable(read, parsed.table());
     if (is_table && !parsed.table().empty()) table_ = TableName(parsed.table().begin()->first);
-    for (const auto& table : read.empty_tables)
-      IsNew({table.table, {}}, "[" + text_form::Escaped(table.table) + "]", {number, table.at.column});
+    const bool is_in_table = !is_table && !(table_ && table_->empty());  // where a point in a name makes none
+    for (auto& table : read.tables) {
+      if (is_in_table) continue;
+      table.at.line = number;
+      if (IsNew({table.name, {}}, "[" + text_form::Escaped(table.name) + "]", table.at))
+        document_.tables.push_back(std::move(table));
+    }
     for (auto& entry : read.entries) {
       entry.at.line = entry.value.at.line = number;
       if (table_) TakeEntry(std::move(entry), is_table);

@@ -52,9 +52,7 @@ class Importer {
         Say(entry.at, "the bytes of another firmware are not taken");
       }
     }
-    for (const auto& table : document_.empty_tables) {
-      if (own_ == nullptr && table.table != kOtherBytes && !IsTable(table.table)) SayUnknown(table);
-    }
+    for (const auto& table : document_.tables) ExpectTable(table);
     other_bytes_.Take(others_, named_, result_.image);
     // What depends on other lines is not judged where some could not be read.
     if (document_.problems.empty()) {
@@ -108,16 +106,19 @@ class Importer {
     return std::find(tables.begin(), tables.end(), name) != tables.end();
   }
 
+  void ExpectTable(const Table& table) {
+    if (own_ != nullptr || table.name == kOtherBytes || IsTable(table.name)) return;
+    const bool is_read = result_.problems.size() < kMostProblems;  // nobody reads more suggestions
+    Say(table.at, "there is no table [" + Escaped(table.name) + "]" +
+                      (is_read ? Suggestion(table.name, catalogue_.Tables()) : std::string()));
+  }
+
   void SayUnknown(const Entry& entry) {
     if (own_ != nullptr)
       return Say(entry.at, NameOf(firmware_) + " does not have " + InQuotes(entry.key) + " of [" +
                                Escaped(entry.table) + "]");
-    const bool is_read = result_.problems.size() < kMostProblems;  // nobody reads more suggestions
-    if (!IsTable(entry.table)) {
-      if (!unknown_tables_.insert(entry.table).second) return;
-      return Say(entry.at, "there is no table [" + Escaped(entry.table) + "]" +
-                               (is_read ? Suggestion(entry.table, catalogue_.Tables()) : std::string()));
-    }
+    if (!IsTable(entry.table)) return;
+    const bool is_read = result_.problems.size() < kMostProblems;
     Say(entry.at, InQuotes(entry.key) + " is no setting of [" + entry.table + "]" +
                       (is_read ? Suggestion(entry.key, KeysOf(entry.table)) : std::string()));
   }
@@ -227,6 +228,7 @@ class Importer {
     for (const auto& setting : Offered()) keys.push_back(setting.key);
     const auto all = catalogue_.OptionKeys();
     const bool known = std::find(all.begin(), all.end(), entry.key) != all.end();
+    if (!known) keys.insert(keys.end(), all.begin(), all.end());  // of a register that the line goes with
     Say(entry.at, InQuotes(entry.key) +
                       (known ? " is no option of this register, or not together with its other options"
                              : " is no setting of [" + entry.table + "]") +
@@ -263,12 +265,16 @@ class Importer {
                                      [&](const Entry* entry) { return entry->key == setting.key; });
       if (!named && WordsOf(setting, result_.image, firmware_)) add(setting);
     }
-    if (missing.empty()) return;
-    const auto others = missing.size() - 1;
-    Say(HeaderOf(document_, kCompleteKey)->at,
-        (others == 0 ? missing.front() + " is missing"
-                     : missing.front() + " and " + std::to_string(others) + " others are missing") +
-            ". Without the line \"complete = true\", what is not named keeps its value");
+    constexpr std::size_t kFew = 20;
+    if (missing.size() > kFew) {
+      missing.front() += " and " + std::to_string(missing.size() - 1) + " others are";
+      missing.resize(1);
+    } else {
+      for (auto& name : missing) name += " is";
+    }
+    for (const auto& name : missing)
+      Say(HeaderOf(document_, kCompleteKey)->at,
+          name + " missing. Without the line \"complete = true\", what is not named keeps its value");
   }
 
   Catalogue& catalogue_;
@@ -280,7 +286,6 @@ class Importer {
   Imported result_;
   bool register_failed_ = false;
   std::set<const Setting*> named_;
-  std::set<std::string> unknown_tables_;
   std::vector<const Entry*> others_, options_;
 };
 
@@ -348,8 +353,8 @@ Imported Import(Catalogue& catalogue, const CatalogueOf& catalogue_of, const ima
     Add(std::move(imported.problems), problems);
     return Refused(base, std::move(problems));
   }
-  Cut(imported.problems);
   if (own != nullptr && strictness == Strictness::kPartial) imported.left_out.swap(imported.problems);
+  Cut(imported.problems);
   return imported;
 }
 

@@ -39,6 +39,13 @@ QString NameOf(const std::string& path) {
   return QFileInfo(Decoded(path)).fileName();
 }
 
+// For the name of an act. Characters without a code are question marks.
+std::string InWindows1252(const QString& text) {
+  std::string bytes;
+  for (const auto character : text) bytes += host::ToWindows1252(QStringView(&character, 1)).value_or("?");
+  return bytes;
+}
+
 QStringList Lines(const std::vector<Problem>& problems) {
   QStringList lines;
   for (const auto& problem : problems)
@@ -55,16 +62,20 @@ TextActs::TextActs(core::Application& app, QMainWindow& main, Hooks hooks)
     : app_(app), hooks_(std::move(hooks)) {
   // Each item goes behind that of the backup, so the last one comes first.
   AddItem(main, "menuCompare", QCoreApplication::translate("TextActs", "Compare with File..."),
-          &TextActs::Compare);
-  AddItem(main, "menuImport", QCoreApplication::translate("TextActs", "Import Text..."), &TextActs::Import);
-  AddItem(main, "menuExport", QCoreApplication::translate("TextActs", "Export Text..."), &TextActs::Export);
+          Qt::CTRL | Qt::SHIFT | Qt::Key_D, &TextActs::Compare);
+  AddItem(main, "menuImport", QCoreApplication::translate("TextActs", "Import Text..."), Qt::CTRL | Qt::Key_I,
+          &TextActs::Import);
+  AddItem(main, "menuExport", QCoreApplication::translate("TextActs", "Export Text..."), Qt::CTRL | Qt::Key_E,
+          &TextActs::Export);
 }
 
-void TextActs::AddItem(QMainWindow& main, const char* name, const QString& caption, void (TextActs::*act)()) {
+void TextActs::AddItem(QMainWindow& main, const char* name, const QString& caption, const QKeySequence& keys,
+                       void (TextActs::*act)()) {
   auto* file = main.findChild<QMenu*>(QStringLiteral("FileMenu"));
   auto* backup = main.findChild<QAction*>(QStringLiteral("menuBackup"));
   auto* item = new QAction(caption, file);
   item->setObjectName(QLatin1String(name));
+  item->setShortcut(keys);
   connect(item, &QAction::triggered, this, act);
   const auto items = file->actions();
   file->insertAction(items.value(items.indexOf(backup) + 1), item);
@@ -148,7 +159,7 @@ void TextActs::Import() {
   if (app_.image != base)
     return hooks_.show_text(
         QCoreApplication::translate("TextActs", "Not imported: the configuration has changed since"));
-  hooks_.run(phrases::Sentence(phrases::Pattern("Act", "Import %1"), {NameOf(path).toStdString()}),
+  hooks_.run(phrases::Sentence(phrases::Pattern("Act", "Import %1"), {InWindows1252(NameOf(path))}),
              [&] { core::TakeImage(app_, *image); });
   hooks_.show_text(QCoreApplication::translate("TextActs", "Text imported: %1")
                        .arg(QDir::toNativeSeparators(Decoded(path))));

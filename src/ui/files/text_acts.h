@@ -1,6 +1,7 @@
 // Our own acts on configurations as text: "Export Text...", "Import Text..." and "Compare with File...".
 #pragma once
 
+#include <QKeySequence>
 #include <QObject>
 #include <functional>
 #include <string>
@@ -34,7 +35,8 @@ class TextActs : public QObject {
   void Compare();
 
  private:
-  void AddItem(QMainWindow& main, const char* name, const QString& caption, void (TextActs::*act)());
+  void AddItem(QMainWindow& main, const char* name, const QString& caption, const QKeySequence& keys,
+               void (TextActs::*act)());
   bool CanAct() const;
   // Empty path: cancelled.
   std::string AskForPath(core::FileDialog::Kind kind, const std::string& name, const std::string& filter);

@@ -68,26 +68,49 @@ TEST(TextCommands, APartIsComparedOnEitherSide) {
 
 TEST(TextCommands, APartChangesAFile) {
   const testing::TemporaryFolder folder;
-  const auto text = folder.File("text.toml"), part = folder.File("part.toml"), file = folder.File("file.bin");
+  const auto text = folder.File("text.toml"), part = folder.File("part.toml");
+  const auto file = folder.File("V1400R12 file.bin"), unnamed = folder.File("file.bin");
+  const auto import = [&](const std::string& form, const std::string& into) {
+    testing::WriteFile(part, "format = 1\n" + form);
+    return Printed({"import", part, into}, "partial");
+  };
   testing::WriteFile(text, Exported({"V1400", "R12"}, {"V1400", "R12"}));
   ASSERT_EQ(Printed({"import", text, file}), "0\n");
 
   const std::string parity = "[COMMUNICATION]\nPARITY = 'ODD'\n";
-  testing::WriteFile(part, "format = 1\n" + parity);
-  const auto before = testing::ReadFile(file);
-  EXPECT_TRUE(Printed({"import", part, file}).starts_with("2\n" + part + ":1:1: "));
-  EXPECT_EQ(testing::ReadFile(file), before);
-  EXPECT_EQ(Printed({"import", part, file}, "partial"), "0\n");
+  EXPECT_EQ(import(parity, file), "0\n");
   EXPECT_TRUE(Printed({"diff", text, file}).ends_with(" -> \"ODD\"\n"));
   EXPECT_EQ(Printed({"diff", part, file}), "0\n");
+  EXPECT_EQ(import("firmware = 'V1300 R14'\n[TIME]\nTITLE = 'SHOP 7'\n" + parity, file),
+            "0\n" + part + ":2:12: the text is of V1300 R14, this program serves V1400 R12\n");
 
-  const auto left_out = part + ":4:1: V1400 R12 does not have \"TITLE\" of [TIME]\n";
-  testing::WriteFile(part, "format = 1\nfirmware = 'V1300 R14'\n[TIME]\nTITLE = 'SHOP 7'\n" + parity);
-  EXPECT_EQ(Printed({"import", part, file}, "partial"), "0\n" + left_out);
-  testing::WriteFile(part, "format = 1\n[COMMUNICATION]\nPARITY = 'EVN'\n");
-  const auto changed = testing::ReadFile(file);
-  EXPECT_TRUE(Printed({"import", part, file}, "partial").starts_with("2\n" + part + ":3:10: \"EVN\" is "));
-  EXPECT_EQ(testing::ReadFile(file), changed);
+  const auto before = testing::ReadFile(file);
+  testing::WriteFile(unnamed, before);
+  EXPECT_TRUE(import(parity, unnamed).starts_with("2\n" + unnamed + ": it fits V1400R11, V1400R12. "));
+  EXPECT_EQ(import("firmware = 'V1400 R12'\n" + parity, unnamed), "0\n");
+  EXPECT_TRUE(import("[COMMUNICATION]\nPARITY = 'EVN'\n", file).starts_with("2\n" + part + ":3:10: "));
+  EXPECT_TRUE(Printed({"import", part, file}).starts_with("2\n" + part + ": the text form names no "));
+  EXPECT_EQ(testing::ReadFile(file), before);
+}
+
+// A record stream in its place would lose what a person has written there.
+TEST(TextCommands, AnImportNeverReplacesATextForm) {
+  const testing::TemporaryFolder folder;
+  const auto text = folder.File("text.toml");
+  const auto form = Exported({"V1400", "R12"}, {"V1400", "R12"});
+  testing::WriteFile(text, form);
+  EXPECT_TRUE(Printed({"import", text, text}).starts_with("2\n" + text + ": this file is a text form. "));
+  EXPECT_TRUE(Printed({"import", text, text}, "partial").starts_with("2\n" + text + ": this file is a "));
+  EXPECT_EQ(testing::ReadFile(text), form);
+}
+
+TEST(TextCommands, ATextInUtf16IsNamedAsOne) {
+  const testing::TemporaryFolder folder;
+  const auto text = folder.File("text.toml");
+  testing::WriteFile(text, std::string("\xFF\xFE"
+                                       "f\0",
+                                       4));
+  EXPECT_EQ(Printed({"check", text}), "2\n" + text + ":1:1: the text is in UTF-16. Save it in UTF-8\n");
 }
 
 }  // namespace
