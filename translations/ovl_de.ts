@@ -3438,24 +3438,24 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>Der Zustand des Kontakts ohne Alarm: NO offen, NC geschlossen. Alarm 9 behält seinen Zustand.</translation>
     </message>
     <message>
-        <source>For how long the unit holds the alarm; PLUSE gives a pulse.</source>
-        <translation>Wie lange das Gerät den Alarm hält; IMPULS gibt einen Impuls.</translation>
+        <source>For how long the unit holds the alarm; PLUSE gives a pulse. The program does not know the unit of time: see the manual of the unit.</source>
+        <translation>Wie lange das Gerät den Alarm hält; IMPULS gibt einen Impuls. Das Programm kennt die Zeiteinheit nicht: siehe das Handbuch des Geräts.</translation>
     </message>
     <message>
         <source>How the unit marks the picture while an alarm is on; the same for all alarms.</source>
         <translation>Wie das Gerät das Bild während eines Alarms markiert; für alle Alarme gleich.</translation>
     </message>
     <message>
-        <source>For how long the unit marks the picture, from 000 to 240 in steps of 2; the same for all alarms.</source>
-        <translation>Wie lange das Gerät das Bild markiert, von 000 bis 240 in Schritten von 2; für alle Alarme gleich.</translation>
+        <source>For how long the unit marks the picture, from 000 to 240 in steps of 2; the same for all alarms. The program does not know the unit of time: see the manual of the unit.</source>
+        <translation>Wie lange das Gerät das Bild markiert, von 000 bis 240 in Schritten von 2; für alle Alarme gleich. Das Programm kennt die Zeiteinheit nicht: siehe das Handbuch des Geräts.</translation>
     </message>
     <message>
         <source>What this alarm does when the video signal is lost: OFF nothing, MANUAL until somebody ends it, or for the time that is picked.</source>
         <translation>Was dieser Alarm tut, wenn das Videosignal ausfällt: bei AUS nichts, bei MANUELL Alarm, bis ihn jemand beendet, sonst Alarm für die gewählte Zeit.</translation>
     </message>
     <message>
-        <source>Which of the unit&apos;s two types this alarm has, DWELL or TIMED.</source>
-        <translation>Die Art dieses Alarms: VERWEILEN oder ZEIT.</translation>
+        <source>Which of two types this alarm has, DWELL or TIMED: see the manual of the unit. If you do not know the types, keep what you uploaded. The type is not a time. It has an effect only when something triggers this alarm.</source>
+        <translation>Welche von zwei Arten dieser Alarm hat, VERWEILEN oder ZEIT: siehe das Handbuch des Geräts. Wenn Sie die Arten nicht kennen, lassen Sie den ausgelesenen Wert stehen. Die Art ist keine Zeitdauer. Sie wirkt nur, wenn etwas diesen Alarm auslöst.</translation>
     </message>
     <message>
         <source>The text that the unit shows or sends during this alarm.</source>

@@ -56,14 +56,18 @@ constexpr std::array kTips{
             "The state of the contact without an alarm: NO open, NC closed. Alarm 9 keeps the state "
             "it has.")},
     Tip{"frmMain", "ComboALM(3)",
-        QT_TRANSLATE_NOOP("Tip", "For how long the unit holds the alarm; PLUSE gives a pulse.")},
+        QT_TRANSLATE_NOOP(
+            "Tip",
+            "For how long the unit holds the alarm; PLUSE gives a pulse. The program does not know the "
+            "unit of time: see the manual of the unit.")},
     Tip{"frmMain", "ComboALM(4)",
         QT_TRANSLATE_NOOP("Tip",
                           "How the unit marks the picture while an alarm is on; the same for all alarms.")},
     Tip{"frmMain", "ComboALM(5)",
-        QT_TRANSLATE_NOOP("Tip",
-                          "For how long the unit marks the picture, from 000 to 240 in steps of 2; the same "
-                          "for all alarms.")},
+        QT_TRANSLATE_NOOP(
+            "Tip",
+            "For how long the unit marks the picture, from 000 to 240 in steps of 2; the same "
+            "for all alarms. The program does not know the unit of time: see the manual of the unit.")},
     Tip{"frmMain", "ComboALM(6)",
         QT_TRANSLATE_NOOP("Tip",
                           "What this alarm does when the video signal is lost: OFF nothing, MANUAL until "
@@ -71,7 +75,11 @@ constexpr std::array kTips{
                           "for the "
                           "time that is picked.")},
     Tip{"frmMain", "ComboALM(7)",
-        QT_TRANSLATE_NOOP("Tip", "Which of the unit's two types this alarm has, DWELL or TIMED.")},
+        QT_TRANSLATE_NOOP(
+            "Tip",
+            "Which of two types this alarm has, DWELL or TIMED: see the manual of the unit. If you do "
+            "not know the types, keep what you uploaded. The type is not a time. It has an effect only "
+            "when something triggers this alarm.")},
     Tip{"frmMain", "TextTrigger",
         QT_TRANSLATE_NOOP("Tip", "The text that the unit shows or sends during this alarm.")},
     Tip{"frmMain", "cmdSetTrigger",
