@@ -901,6 +901,10 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
         <translation>S Mehrzeilensuche</translation>
     </message>
     <message>
+        <source>A alarms</source>
+        <translation>A Alarme</translation>
+    </message>
+    <message>
         <source>Overview of the exceptions</source>
         <translation>Übersicht der Ausnahmen</translation>
     </message>

@@ -25,6 +25,12 @@ QString TriggerText(const controls::MainForm& form, int trigger) {
   return trigger < image::kRtsTrigger ? FormText(form.lbAlmTrig.caption) + QLatin1Char(' ') + entry : entry;
 }
 
+// The trigger with the text of its exception; nothing for a group or another trigger.
+QString TriggerTip(const QString& trigger, int exception, const std::vector<OverviewLine>& exceptions) {
+  if (exception < 1 || exception > image::kExceptions) return {};
+  return trigger + QStringLiteral(": ") + exceptions[static_cast<std::size_t>(exception - 1)].cells[1];
+}
+
 // The last entry is the pulse.
 QString DurationText(const controls::MainForm& form, int counter) {
   const auto& list = form.ComboALM[controls::Alm::kDuration];
@@ -77,16 +83,19 @@ void AddEditor(PageColumn& column, const controls::MainForm& form) {
 
 std::vector<OverviewLine> AlarmLines(const core::Application& app) {
   const auto& form = app.frmMain;
+  const auto exceptions = ExceptionLines(app);
   std::vector<OverviewLine> lines;
   for (int number = 1; number <= image::kAlarms; ++number) {
     const auto& record = app.image.at(ALMSTRUCT_BAK, number);
     const int trigger = image::AlarmTrigger(record);
+    const auto trigger_text = TriggerText(form, trigger);
     const int counter = image::AlarmCounter(record);
-    lines.push_back({{QString::number(number), TriggerText(form, trigger), DurationText(form, counter),
+    lines.push_back({{QString::number(number), trigger_text, DurationText(form, counter),
                       EntryText(form.ComboALM[controls::Alm::kNormalState],
                                 image::IsNormallyClosed(app.image, number) ? 1 : 0),
                       TriggeredText(app.image.at(TRIGGER_TEXT, number))},
-                     trigger != image::kNoTrigger});
+                     trigger != image::kNoTrigger,
+                     {QString(), TriggerTip(trigger_text, trigger, exceptions)}});
   }
   return lines;
 }

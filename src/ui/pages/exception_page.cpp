@@ -65,12 +65,33 @@ QString TextOf(const core::Application& app, const std::string& slot) {
   return host::FromWindows1252(text);
 }
 
-QString ActsText(const core::Application& app, int flags) {
+bool IsTriggeredBy(const core::Application& app, int alarm, int exception) {
+  const int trigger = image::AlarmTrigger(app.image.at(image::FieldId::ALMSTRUCT_BAK, alarm));
+  const auto [first, last] = image::ExceptionsOfTrigger(trigger);
+  return first <= exception && exception <= last;
+}
+
+// The alarms that an exception triggers: "1-3, 7".
+QString AlarmsText(const core::Application& app, int exception) {
+  QStringList runs;
+  for (int alarm = 1; alarm <= image::kAlarms; ++alarm) {
+    const int first = alarm;
+    while (alarm <= image::kAlarms && IsTriggeredBy(app, alarm, exception)) ++alarm;
+    const int last = alarm - 1;
+    if (first == last) runs.append(QString::number(first));
+    if (first < last) runs.append(QStringLiteral("%1-%2").arg(first).arg(last));
+  }
+  return runs.join(QStringLiteral(", "));
+}
+
+QString ActsText(const core::Application& app, int exception, int flags) {
   QStringList letters;
   for (const auto& act : kActs) {
     if (IsListed(app.frmMain, act) && codecs::HasBit(flags, act.bit))
       letters.append(QChar::fromLatin1(act.letter));
   }
+  const auto alarms = AlarmsText(app, exception);
+  if (!alarms.isEmpty()) letters.append(QLatin1Char('A') + alarms);
   return letters.join(QLatin1Char(' '));
 }
 
@@ -79,6 +100,7 @@ QString Legend(const core::Application& app) {
   for (const auto& act : kActs) {
     if (IsListed(app.frmMain, act)) words.append(QCoreApplication::translate("ExceptionPage", act.word));
   }
+  words.append(QCoreApplication::translate("ExceptionPage", "A alarms"));
   return words.join(QStringLiteral("   "));
 }
 
@@ -92,7 +114,7 @@ QWidget* ExceptionOverview(Bindings& bindings) {
         {QCoreApplication::translate("ExceptionPage", "Text"), {}},
         {QCoreApplication::translate("ExceptionPage", "Range"),
          FormText("IN") + QStringLiteral(" 0.00 - 9.99"), true},
-        {QCoreApplication::translate("ExceptionPage", "Actions"), QStringLiteral("D O H S")}},
+        {QCoreApplication::translate("ExceptionPage", "Actions"), QStringLiteral("D O H A1-3")}},
        [&app] { return ExceptionLines(app); },
        [&app] { return Legend(app); },
        BuildCopySlotButton(bindings, acts::SlotKind::kException)});
@@ -188,7 +210,7 @@ std::vector<OverviewLine> ExceptionLines(const core::Application& app) {
     const bool used = !image::IsFreeException(slot) && !text.trimmed().isEmpty();
     lines.push_back(
         {{QString::number(number), used ? text : QCoreApplication::translate("ExceptionPage", "free"),
-          RangeText(app, slot), ActsText(app, codecs::HexToInt(slot))},
+          RangeText(app, slot), ActsText(app, number, codecs::HexToInt(slot))},
          used});
   }
   return lines;

@@ -74,7 +74,8 @@ void FillItem(QTreeWidgetItem& item, const OverviewLine& line) {
     item.setText(cell, line.cells[cell]);
     item.setData(cell, kUsedRole, line.used);
     // The tool tip shows the text that the column cuts.
-    item.setToolTip(cell, line.cells[cell]);
+    const auto tip = line.tips.value(cell);
+    item.setToolTip(cell, tip.isEmpty() ? line.cells[cell] : tip);
   }
 }
 

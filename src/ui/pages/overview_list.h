@@ -15,6 +15,7 @@ namespace ovl::ui {
 struct OverviewLine {
   QStringList cells;
   bool used = false;
+  QStringList tips = {};  // of the cells; a cell without one shows its text there
 
   bool operator==(const OverviewLine&) const = default;
 };

@@ -10,6 +10,7 @@
 #include <cmath>
 #include <map>
 
+#include "image/slot_records.h"
 #include "link/transfer.h"
 #include "pictures/pictures.h"
 #include "screen.h"
@@ -298,6 +299,21 @@ TEST_F(WindowsTest, TheOverviewKeepsItsFormWhileTheBoxOfAnotherFirmwareIsOpen) {
   };
   Find<QAction>("V1300R14mnu").trigger();
   EXPECT_EQ(checked, 1);
+}
+
+TEST_F(WindowsTest, TheOverviewsNameTheAlarmsOfAnExceptionAndTheExceptionOfAnAlarm) {
+  auto& image = App().image;
+  for (int alarm = 1; alarm <= image::kAlarms; ++alarm)
+    image::StoreAlarmTrigger(image.at(image::FieldId::ALMSTRUCT_BAK, alarm), alarm == 16 ? 25 : 0);
+  for (const int alarm : {2, 3, 7})
+    image::StoreAlarmTrigger(image.at(image::FieldId::ALMSTRUCT_BAK, alarm), 4);
+  image::StoreExceptionText(image.at(image::FieldId::EXCPSTRS, 4), App().firmware, "REFUND");
+  const auto lines = ui::ExceptionLines(App());
+  EXPECT_TRUE(lines[3].cells.back().endsWith("A2-3, 7, 16"));
+  EXPECT_TRUE(lines[11].cells.back().endsWith("A16"));
+  EXPECT_FALSE(lines[12].cells.back().contains('A'));
+  Show();
+  EXPECT_EQ(Find<QTreeWidget>("AlarmOverview").topLevelItem(6)->toolTip(1), "EX. 4: REFUND");
 }
 
 // For each of these firmware there is no default image, no list of registers or no layout of its own.
