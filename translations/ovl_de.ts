@@ -417,22 +417,6 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
 </context>
 <context>
     <name>ChangesWindow</name>
-    <message numerus="yes">
-        <source>%n field</source>
-        <comment>of the configuration</comment>
-        <translation>
-            <numerusform>%n Feld</numerusform>
-            <numerusform>%n Felder</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n fields</source>
-        <comment>of the configuration</comment>
-        <translation>
-            <numerusform>%n Feld</numerusform>
-            <numerusform>%n Felder</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Changes</source>
         <translation>Änderungen</translation>
@@ -477,9 +461,9 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
         <translation>„Schreiben“ würde in einem Gerät mit der zuletzt geladenen oder geschriebenen Konfiguration nichts ändern.</translation>
     </message>
     <message>
-        <source>A download would change %1 in %2 if the unit has the configuration that was last uploaded, opened or downloaded.</source>
-        <comment>&quot;3 settings&quot;, &quot;2 fields&quot;</comment>
-        <translation>„Schreiben“ würde in einem Gerät mit der zuletzt geladenen oder geschriebenen Konfiguration Folgendes ändern: %1, %2.</translation>
+        <source>A download would change %1 if the unit has the configuration that was last uploaded, opened or downloaded.</source>
+        <comment>&quot;3 settings&quot;</comment>
+        <translation>„Schreiben“ würde in einem Gerät mit der zuletzt geladenen oder geschriebenen Konfiguration Folgendes ändern: %1.</translation>
     </message>
     <message>
         <source>Here</source>
@@ -503,7 +487,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     </message>
     <message>
         <source>%1 changed</source>
-        <comment>&quot;3 fields&quot;</comment>
+        <comment>&quot;3 settings&quot;</comment>
         <translation>%1 geändert</translation>
     </message>
     <message>

@@ -4,27 +4,16 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QPushButton>
-#include <set>
 
-#include "image/report.h"
 #include "ui/acts/changes_list.h"
 
 namespace ovl::ui {
 namespace {
 
-std::size_t FieldsIn(const std::vector<changes::SettingChange>& rows) {
-  std::set<std::string> fields;
-  for (const auto& row : rows) {
-    for (const auto& bytes : row.bytes) fields.insert(bytes.field);
-  }
-  return fields.size();
-}
-
-QString FieldCount(std::size_t fields) {
-  const int count = static_cast<int>(fields);
-  return count == 1
-             ? QCoreApplication::translate("ChangesWindow", "%n field", "of the configuration", count)
-             : QCoreApplication::translate("ChangesWindow", "%n fields", "of the configuration", count);
+QString CountText(const std::vector<changes::SettingChange>& rows) {
+  const int count = static_cast<int>(rows.size());
+  return count == 1 ? QCoreApplication::translate("ChangesWindow", "%n setting", nullptr, count)
+                    : QCoreApplication::translate("ChangesWindow", "%n settings", nullptr, count);
 }
 
 }  // namespace
@@ -69,25 +58,21 @@ void ChangesWindow::Refresh() {
 }
 
 QString ChangesWindow::SummaryOf(const std::vector<changes::SettingChange>& rows) const {
-  const int settings = static_cast<int>(rows.size());
-  const auto count = settings == 1
-                         ? QCoreApplication::translate("ChangesWindow", "%n setting", nullptr, settings)
-                         : QCoreApplication::translate("ChangesWindow", "%n settings", nullptr, settings);
   if (other_ && rows.empty())
     return QCoreApplication::translate("ChangesWindow", "%1 has the same settings.").arg(other_->file);
   if (other_)
     return QCoreApplication::translate("ChangesWindow", "%1 differs from the tabs in %2.",
                                        "a file, \"3 settings\"")
-        .arg(other_->file, count);
+        .arg(other_->file, CountText(rows));
   if (rows.empty())
     return QCoreApplication::translate("ChangesWindow",
                                        "A download would change nothing if the unit has the configuration "
                                        "that was last uploaded, opened or downloaded.");
   return QCoreApplication::translate("ChangesWindow",
-                                     "A download would change %1 in %2 if the unit has the configuration "
+                                     "A download would change %1 if the unit has the configuration "
                                      "that was last uploaded, opened or downloaded.",
-                                     "\"3 settings\", \"2 fields\"")
-      .arg(count, FieldCount(FieldsIn(rows)));
+                                     "\"3 settings\"")
+      .arg(CountText(rows));
 }
 
 void ChangesWindow::Fill(const std::vector<changes::SettingChange>& rows) {
@@ -111,12 +96,12 @@ QPushButton* BuildChangesButton(Bindings& bindings, ChangesWindow& window) {
     window.Refresh();
     const bool other_known = known.Update(app.known_image), other_image = image.Update(app.image);
     if (!other_known && !other_image) return false;
-    const auto count = image::Differences(app.known_image, app.image, app.image_firmware).size();
+    const auto rows = changes::ReadableChanges(app);
     button->setText(
-        QCoreApplication::translate("ChangesWindow", "%1 changed", "\"3 fields\"").arg(FieldCount(count)));
+        QCoreApplication::translate("ChangesWindow", "%1 changed", "\"3 settings\"").arg(CountText(rows)));
     button->setAccessibleName(button->text());
-    const bool comes_or_goes = button->isHidden() != (count == 0);
-    button->setVisible(count != 0);
+    const bool comes_or_goes = button->isHidden() != rows.empty();
+    button->setVisible(!rows.empty());
     return comes_or_goes;
   });
   return button;

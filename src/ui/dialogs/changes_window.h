@@ -40,7 +40,8 @@ class ChangesWindow : public SettingWindow {
   std::optional<Other> other_;
 };
 
-// A button with the number of fields that differ. It opens the window and is hidden while the number is zero.
+// A button with the number of settings that differ. It opens the window and is hidden while the number is
+// zero.
 QPushButton* BuildChangesButton(Bindings& bindings, ChangesWindow& window);
 
 }  // namespace ovl::ui

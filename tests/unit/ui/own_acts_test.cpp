@@ -49,7 +49,7 @@ TEST_F(ChangesTest, AreGroupedByTabAndFollowPicksAndDownloads) {
     return before + " -> " + list.Text();
   };
   const auto parity = "COMMUNICATION|PARITY: " + pick_other("ComboCOMM(3)", app.frmMain.ComboCOMM[3]);
-  EXPECT_EQ(button.text(), "1 field changed");
+  EXPECT_EQ(button.text(), "1 setting changed");
   Click("StatusChanges");
   EXPECT_EQ(Listed(), parity);
   const auto format = "|TIME / LANGUAGE|DATE FORMAT: " + pick_other("ComboTD(2)", app.frmMain.ComboTD[2]);
