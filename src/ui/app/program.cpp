@@ -109,10 +109,11 @@ core::Outcome Program::Start() {
 
 void Program::BuildFileActs() {
   const auto front = [this] { return windows_->Front(); };
-  const auto show_text = [this](const QString& text) { windows_->Main().Status().ShowFileMessage(text); };
+  const auto show_done = [this](const QString& text) { windows_->Main().Status().ShowDone(text); };
+  const auto show_failure = [this](const QString& text) { windows_->Main().Status().ShowFailure(text); };
   files_ = std::make_unique<FileActs>(
       app_, windows_->Main(),
-      FileActs::Hooks{[this](const core::Event& event) { return Act(event); }, front, show_text,
+      FileActs::Hooks{[this](const core::Event& event) { return Act(event); }, front, show_done, show_failure,
                       [this] {
                         advisor_->BackupWritten();
                         RefreshNow();
@@ -120,12 +121,12 @@ void Program::BuildFileActs() {
   texts_ = std::make_unique<TextActs>(
       app_, windows_->Main(),
       TextActs::Hooks{
-          front, show_text,
+          front, show_done, show_failure,
           [this](const phrases::Words& name, const std::function<void()>& act) { RunOwn(name, act); },
           [this](const QString& file, const image::ConfigImage& other) {
             windows_->Main().Changes().OpenComparison(file, other);
           }});
-  AddPrintItem(app_, windows_->Main(), {front, show_text});
+  AddPrintItem(app_, windows_->Main(), {front, show_done, show_failure});
 }
 
 void Program::GuardUnsaved() {
@@ -252,26 +253,28 @@ void Program::Restart() {
       Act(core::ClickEvent{&app_.frmMain.menuExit});
       return;
     }
-    status.ShowFileMessage(
+    status.ShowFailure(
         QCoreApplication::translate("Program", "The program could not restart. Exit, and start it again."));
   } catch (const core::Failure& failure) {
-    status.ShowFileMessage(QCoreApplication::translate("Program", "The program cannot save the changes: %1")
-                               .arg(FailureText(failure)));
+    status.ShowFailure(QCoreApplication::translate("Program", "The program cannot save the changes: %1")
+                           .arg(FailureText(failure)));
   }
 }
 
 core::Outcome Program::DispatchUserAct(const core::Event& event) {
   const auto before = app_.image;
+  const auto failures_before = app_.failures_noted;
   opening_ = core::Clicks(event, app_.frmMain.OpenMenu);
   const auto outcome = DispatchAny(event);
   opening_ = false;
   if (outcome != core::Outcome::kDone) return outcome;
   windows_->SetAlsoStored(Shown(changes::AlsoStored(app_, event, before)));
   const bool opened = core::Clicks(event, app_.frmMain.OpenMenu) && !app_.UploadApplying;
+  if (opened && app_.failures_noted == failures_before) windows_->Main().Status().ShowDone({});
   const QFileInfo file(QFile::decodeName(app_.CurrentFilePath.c_str()));
   if (opened && file.dir() == QDir(folder_) && rescued_.removeAll(file.fileName()) > 0) ShowRescueNotice();
   if (core::Clicks(event, app_.frmMain.menuSave) && !app_.saved_path.empty())
-    windows_->Main().Status().ShowFileMessage(
+    windows_->Main().Status().ShowDone(
         QCoreApplication::translate("Program", "Saved: %1").arg(host::FromSystem(app_.saved_path)));
   return outcome;
 }

@@ -103,7 +103,7 @@ void FileActs::Open(const QString& path) {
   QString problem;
   const auto stream = StreamOf(path, problem);
   if (!stream)
-    return hooks_.show_text(QCoreApplication::translate("FileActs", "Not opened: %1").arg(problem));
+    return hooks_.show_failure(QCoreApplication::translate("FileActs", "Not opened: %1").arg(problem));
   // While the question is on the screen, the unit can start something else.
   if (!MayOpen(path, *stream) || !CanAct()) return;
   const OneAnswer answer(app_, Encoded(path));
@@ -135,12 +135,12 @@ void FileActs::SaveBackup() {
   if (!answer || app_.ended) return;
   const auto written = acts::SaveBackup(app_, answer->file_name);
   if (!written.Ok())
-    return hooks_.show_text(QCoreApplication::translate("FileActs", "Backup not written: %1")
-                                .arg(FailureText(written.Problem())));
+    return hooks_.show_failure(QCoreApplication::translate("FileActs", "Backup not written: %1")
+                                   .arg(FailureText(written.Problem())));
   const auto path = Decoded(answer->file_name);
   recent_.Add(path);
   hooks_.backup_written();
-  hooks_.show_text(
+  hooks_.show_done(
       QCoreApplication::translate("FileActs", "Backup written: %1").arg(QDir::toNativeSeparators(path)));
 }
 

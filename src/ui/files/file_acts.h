@@ -18,8 +18,8 @@ class FileActs : public QObject {
  public:
   struct Hooks {
     ActFunction act;
-    std::function<QWidget*()> front;                // the window that boxes belong to
-    std::function<void(const QString&)> show_text;  // in the status bar
+    std::function<QWidget*()> front;                              // the window that boxes belong to
+    std::function<void(const QString&)> show_done, show_failure;  // in the status bar
     std::function<void()> backup_written;
   };
 

@@ -92,14 +92,16 @@ std::string TextActs::AskForPath(core::FileDialog::Kind kind, const std::string&
   request.file_name = files::PathBelow(app_.platform.program_folder, "\\" + name);
   request.filter = filter;
   const auto answer = AskFile(hooks_.front(), request);
-  return answer && CanAct() ? answer->file_name : std::string();
+  if (!answer || !CanAct()) return {};
+  hooks_.show_done({});  // what the status bar says of another file is outdated
+  return answer->file_name;
 }
 
 std::optional<std::string> TextActs::BytesOf(const std::string& path, const QString& refusal) {
   try {
     return app_.platform.files.read(path);
   } catch (const core::Failure& failure) {
-    hooks_.show_text(refusal.arg(FailureText(failure)));
+    hooks_.show_failure(refusal.arg(FailureText(failure)));
     return std::nullopt;
   }
 }
@@ -113,10 +115,10 @@ void TextActs::Export() {
   try {
     host::Viewer viewer(app_.image_firmware);
     app_.platform.files.replace(path, text_form::Export(viewer.catalogue, app_.image));
-    hooks_.show_text(QCoreApplication::translate("TextActs", "Text written: %1")
+    hooks_.show_done(QCoreApplication::translate("TextActs", "Text written: %1")
                          .arg(QDir::toNativeSeparators(Decoded(path))));
   } catch (const core::Failure& failure) {
-    hooks_.show_text(
+    hooks_.show_failure(
         QCoreApplication::translate("TextActs", "Text not written: %1").arg(FailureText(failure)));
   }
 }
@@ -157,11 +159,11 @@ void TextActs::Import() {
   // While the window is on the screen, the unit can start something else, or bring another configuration.
   if (!image || !CanAct()) return;
   if (app_.image != base)
-    return hooks_.show_text(
+    return hooks_.show_failure(
         QCoreApplication::translate("TextActs", "Not imported: the configuration has changed since"));
   hooks_.run(phrases::Sentence(phrases::Pattern("Act", "Import %1"), {InWindows1252(NameOf(path))}),
              [&] { core::TakeImage(app_, *image); });
-  hooks_.show_text(QCoreApplication::translate("TextActs", "Text imported: %1")
+  hooks_.show_done(QCoreApplication::translate("TextActs", "Text imported: %1")
                        .arg(QDir::toNativeSeparators(Decoded(path))));
 }
 
@@ -170,8 +172,8 @@ std::optional<image::ConfigImage> TextActs::ImageOf(const std::string& path, con
   const auto stream = files::JoinLines(bytes);
   auto image = image::DecodeStream(stream, app_.image_firmware);
   if (image && image::FitsFirmware(stream, app_.image_firmware)) return image;
-  hooks_.show_text(QCoreApplication::translate("TextActs", "Not compared: %1 is not a configuration of %2")
-                       .arg(NameOf(path), host::FromWindows1252(acts::FirmwareName(app_))));
+  hooks_.show_failure(QCoreApplication::translate("TextActs", "Not compared: %1 is not a configuration of %2")
+                          .arg(NameOf(path), host::FromWindows1252(acts::FirmwareName(app_))));
   return std::nullopt;
 }
 

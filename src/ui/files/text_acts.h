@@ -18,8 +18,8 @@ namespace ovl::ui {
 class TextActs : public QObject {
  public:
   struct Hooks {
-    std::function<QWidget*()> front;                // the window that boxes belong to
-    std::function<void(const QString&)> show_text;  // in the status bar
+    std::function<QWidget*()> front;                              // the window that boxes belong to
+    std::function<void(const QString&)> show_done, show_failure;  // in the status bar
     // Runs an act of our own under the name by which it can be undone.
     std::function<void(const phrases::Words& name, const std::function<void()>& act)> run;
     // Shows how another image differs.

@@ -20,9 +20,9 @@ void Print(const core::Application& app, const PrintHooks& hooks) {
   const auto printed = PrintWithDialog(hooks.front(), kSiteSheetTitle,
                                        [&](QPagedPaintDevice& device) { PrintSiteSheet(sheet, device); });
   if (app.ended || printed == Printed::kCancelled) return;
-  hooks.show_text(printed == Printed::kDone
-                      ? QCoreApplication::translate("PrintItem", "Site sheet printed")
-                      : QCoreApplication::translate("PrintItem", "The site sheet was not printed"));
+  if (printed == Printed::kDone)
+    return hooks.show_done(QCoreApplication::translate("PrintItem", "Site sheet printed"));
+  hooks.show_failure(QCoreApplication::translate("PrintItem", "The site sheet was not printed"));
 }
 
 }  // namespace

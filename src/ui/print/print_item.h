@@ -12,8 +12,8 @@ class QWidget;
 namespace ovl::ui {
 
 struct PrintHooks {
-  std::function<QWidget*()> front;                // the window that the dialog belongs to
-  std::function<void(const QString&)> show_text;  // in the status bar
+  std::function<QWidget*()> front;                              // the window that the dialog belongs to
+  std::function<void(const QString&)> show_done, show_failure;  // in the status bar
 };
 
 // Adds the item in front of "Open History", if there is printing. The program must outlive the window.

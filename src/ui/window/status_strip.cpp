@@ -183,8 +183,19 @@ void StatusStrip::ShowHint(const QString& hint) {
   hint_end_.start(kHintTime);
 }
 
+void StatusStrip::ShowDone(const QString& message) {
+  done_with_ = app_.image;
+  ShowFileMessage(message);
+}
+
+void StatusStrip::ShowFailure(const QString& message) {
+  done_with_.reset();
+  ShowFileMessage(message);
+}
+
 void StatusStrip::ShowFileMessage(const QString& message) {
   file_message_ = message;
+  note_before_file_ = app_.StatusNote;
   failures_before_file_ = app_.failures_noted;
   ShowMessages();
 }
@@ -206,11 +217,32 @@ QString StatusStrip::Problem() const {
   if (!hint_.isEmpty()) return hint_;
   const bool of_port = app_.noted_failure && app_.noted_failure->Subject() == core::PortName(app_);
   if (of_port && port_problem && !port_problem().isEmpty()) return {};
-  if (!of_port && !file_message_.isEmpty() && failures_before_file_ == app_.failures_noted) return {};
+  const bool replaced = failures_before_file_ == app_.failures_noted && note_before_file_ == app_.StatusNote;
+  if (!of_port && replaced) return {};
   return StatusNoteText(app_);
 }
 
+// What the user has cancelled is no failure.
+void StatusStrip::ForgetOutdated() {
+  if (failures_seen_ != app_.failures_noted) {
+    failures_seen_ = app_.failures_noted;
+    cancelled_with_.reset();
+    if (app_.noted_failure && app_.noted_failure->Is(std::errc::operation_canceled))
+      cancelled_with_ = app_.image;
+  }
+  if (cancelled_with_ && *cancelled_with_ != app_.image) {
+    note_before_file_ = app_.StatusNote;
+    failures_before_file_ = app_.failures_noted;
+    cancelled_with_.reset();
+  }
+  if (done_with_ && *done_with_ != app_.image) {
+    file_message_.clear();
+    done_with_.reset();
+  }
+}
+
 void StatusStrip::ShowMessages() {
+  ForgetOutdated();
   const std::array texts = {Problem(), port_problem ? port_problem() : QString(), file_message_,
                             rescue_notice_};
   auto* across = static_cast<QBoxLayout*>(layout());

@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <QWidget>
 #include <array>
+#include <optional>
 
 #include "ui/kit/bindings.h"
 #include "ui/pages/link_drawing.h"
@@ -57,8 +58,10 @@ class StatusStrip : public QWidget {
   // What became of changes of an earlier run and of the copy of unsaved changes; empty if all is well.
   void SetRescueNotice(const QString& notice);
 
-  // What became of a file, until another file is named.
-  void ShowFileMessage(const QString& message);
+  // What became of a file, until the next message of this kind. That an act is done also goes when the
+  // configuration changes; a failure stays. An empty text takes away what was shown.
+  void ShowDone(const QString& message);
+  void ShowFailure(const QString& message);
 
   // Shows a hint for a few seconds, instead of the last problem.
   void ShowHint(const QString& hint);
@@ -76,7 +79,9 @@ class StatusStrip : public QWidget {
   // The messages side by side. Each has the room that its length asks for.
   enum Source { kProblem, kPort, kFile, kRescue, kSources };
 
+  void ShowFileMessage(const QString& message);
   QString Problem() const;
+  void ForgetOutdated();
   void ShowMessages();
   QString PortText() const;
   QWidget* FirmwareLabels(Bindings& bindings);
@@ -89,6 +94,10 @@ class StatusStrip : public QWidget {
   std::array<CutLabel*, kSources> messages_{};
   QStackedWidget* firmware_;
   QString hint_, rescue_notice_, file_message_;
+  // The configuration when the act was done, or when the user cancelled one.
+  std::optional<image::ConfigImage> done_with_, cancelled_with_;
+  unsigned failures_seen_ = 0;
+  std::string note_before_file_;
   unsigned failures_before_file_ = 0;
   QTimer hint_end_;
 };

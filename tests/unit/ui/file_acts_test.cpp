@@ -118,6 +118,8 @@ TEST_F(FileActsTest, SaveStartsWithoutANameAddsTheSuffixAndSaysWhere) {
   Find<QAction>("menuSave").trigger();
   Show();
   EXPECT_EQ(Note(), folder.File("*.Bin: Operation canceled")) << "beside the file that was saved before";
+  Pick("ComboTD(2)", App().frmMain.ComboTD[2].position == 0 ? 1 : 0);
+  EXPECT_EQ(Note() + Note("StatusFile"), "") << "both are outdated";
 }
 
 TEST_F(FileActsTest, AFileIsOpenedByADropByTheListAndByItsName) {
@@ -158,6 +160,10 @@ TEST_F(FileActsTest, AFileThatCannotBeReadIsNotOpened) {
   EXPECT_FALSE(App().UploadApplying) << "the next pick of a register would do nothing";
   Select("ADS");
   EXPECT_EQ(App().frmMain.ComboReg.Text(), "ADS");
+  EXPECT_NE(Note("StatusFile"), "") << "nobody may have read it yet";
+  program->OpenFile(FileOf(kLatest, "good.bin"));
+  Show();
+  EXPECT_EQ(Note("StatusFile"), "");
   // While a small window holds the main window, nothing is opened.
   Main().Tabs().setCurrentIndex(kRemoteTab);
   Click("cmdConnect");

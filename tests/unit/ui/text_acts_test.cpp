@@ -48,6 +48,7 @@ TEST_F(TextActsTest, AnExportedTextComesBackAndIsOneActToUndo) {
   Pick("ComboCOMM(3)", App().frmMain.ComboCOMM[3].position == 0 ? 1 : 0);
   const auto changed = App().image;
   EXPECT_FALSE(changed == exported);
+  EXPECT_EQ(Note("StatusFile"), "") << "the text is not that of the tabs any more";
   Choose("menuImport", "shop.toml");
   EXPECT_TRUE(App().image == exported);
   EXPECT_EQ(Note("StatusFile"), "Text imported: " + folder.File("shop.toml"));
