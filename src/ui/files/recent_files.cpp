@@ -7,6 +7,8 @@
 #include <QMenu>
 #include <QSettings>
 
+#include "ui/kit/mnemonics.h"
+
 namespace ovl::ui {
 namespace {
 
@@ -56,6 +58,7 @@ void RecentFiles::Fill(QMenu& menu, const std::function<void(const QString& path
   menu.addSeparator();
   menu.addAction(QCoreApplication::translate("RecentFiles", "Clear this list"), &menu, [this] { Clear(); })
       ->setEnabled(!paths.isEmpty());
+  AssignItemMnemonics(menu);
 }
 
 }  // namespace ovl::ui

@@ -11,6 +11,8 @@
 #include <filesystem>
 #include <utility>
 
+#include "ui/kit/mnemonics.h"
+
 namespace ovl::ui {
 namespace {
 
@@ -87,6 +89,7 @@ void FillManualMenu(QMenu& menu, const QString& folder, Report report) {
     if (!menu.isEmpty()) menu.addSeparator();
     menu.addAction(QCoreApplication::translate("HelpMenu", "Open the manual folder"), &menu,
                    [open] { open({}); });
+    AssignItemMnemonics(menu);
   });
 }
 

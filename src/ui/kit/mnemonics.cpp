@@ -169,6 +169,10 @@ Letters AssignMenuMnemonics(QMenuBar& bar) {
   return RenewItems(bar.actions());
 }
 
+void AssignItemMnemonics(const QMenu& menu) {
+  RenewItems(menu.actions());
+}
+
 void AssignPageMnemonics(QWidget& page, const Letters& taken) {
   std::vector<CaptionedWidget> captioned;
   for (auto* widget : page.findChildren<QWidget*>()) {

@@ -20,6 +20,9 @@ using Letters = QSet<QChar>;
 // menus.
 Letters AssignMenuMnemonics(QMenuBar& bar);
 
+// The same for one menu, after an item was added or renamed.
+void AssignItemMnemonics(const QMenu& menu);
+
 // The property of a button whose act is also a menu item. It gets no letter, because letters are scarce.
 inline constexpr const char* kReachedByMenu = "ReachedByMenu";
 

@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include "ui/kit/mnemonics.h"
 #include "ui/language/model_texts.h"
 
 namespace ovl::ui {
@@ -13,12 +14,13 @@ namespace {
 // Shows the name of the act that the item takes back or repeats; null: there is none now.
 void BindItem(Bindings& bindings, QAction& item, const QString& verb, const QString& verb_with_name,
               const std::function<const phrases::Words*()>& name) {
-  bindings.OnRefresh([&item, verb, verb_with_name, name] {
+  bindings.OnRefresh([&item, verb, verb_with_name, name, shown = ChangeDetector<QString>()]() mutable {
     const auto* act = name();
     item.setEnabled(act != nullptr);
     // A "&" of a name is not the mark of a mnemonic.
     const auto words = act == nullptr ? QString() : Shown(*act).replace('&', QLatin1String("&&"));
-    item.setText(words.isEmpty() ? verb : verb_with_name.arg(words));
+    const auto text = words.isEmpty() ? verb : verb_with_name.arg(words);
+    if (shown.Update(text)) item.setText(text);
     return false;
   });
 }
@@ -40,6 +42,8 @@ QMenu* BuildEditMenu(QMenuBar& bar, Bindings& bindings, const OwnActs& acts) {
   redo->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
   BindItem(bindings, *redo, redo->text(), QCoreApplication::translate("EditMenu", "Redo %1"),
            [history] { return history->NextRedo(); });
+  // An act changes the text of an item, and a new text has no underlined letter.
+  QObject::connect(menu, &QMenu::aboutToShow, menu, [menu] { AssignItemMnemonics(*menu); });
   return menu;
 }
 

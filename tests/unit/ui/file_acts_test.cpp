@@ -68,8 +68,7 @@ class FileActsTest : public ScreenTest {
     emit menu.aboutToShow();
     QStringList items;
     for (const auto* item : menu.actions()) {
-      if (item->isEnabled() && !item->isSeparator())
-        items.append(item->text().remove(0, 3).section(QLatin1Char('/'), -1));
+      if (item->isEnabled() && !item->isSeparator()) items.append(item->text().section(QLatin1Char('/'), -1));
     }
     return items;
   }
@@ -91,7 +90,7 @@ TEST_F(FileActsTest, ABackupIsOfferedByItsNameAndOpensAgain) {
   Show();
   EXPECT_EQ(offered, "V1400R12 GENERIC 2026-03-05.bin");
   EXPECT_EQ(Note("StatusFile"), "Backup written: " + folder.File("mine.bin"));
-  EXPECT_EQ(Recent(), QStringList({"mine.bin", "ar this list"}));
+  EXPECT_EQ(Recent(), QStringList({"mine.bin", "&Clear this list"}));
 
   Pick("ComboTD(2)", App().frmMain.ComboTD[2].position == 0 ? 1 : 0);
   program->OpenFile(Path("mine.bin"));
@@ -132,11 +131,11 @@ TEST_F(FileActsTest, AFileIsOpenedByADropByTheListAndByItsName) {
   EXPECT_FALSE(opened == start);
   EXPECT_FALSE(App().UploadApplying);
   program->OpenFile(second);
-  EXPECT_EQ(Recent(), QStringList({"second && last.bin", "first.bin", "ar this list"}));
+  EXPECT_EQ(Recent(), QStringList({"second && last.bin", "first.bin", "&Clear this list"}));
 
   App().image = start;
   QFile::remove(second);
-  EXPECT_EQ(Recent(), QStringList({"first.bin", "ar this list"}));
+  EXPECT_EQ(Recent(), QStringList({"first.bin", "&Clear this list"}));
   Find<QMenu>("menuRecent").actions().at(1)->trigger();
   Show();
   EXPECT_TRUE(App().image == opened);
@@ -150,7 +149,7 @@ TEST_F(FileActsTest, TheListKeepsTheLastEightFiles) {
     program->OpenFile(FileOf(kLatest, "shop" + std::to_string(number) + ".bin"));
   program->OpenFile(Path("shop5.bin"));
   EXPECT_EQ(Recent(), QStringList({"shop5.bin", "shop10.bin", "shop9.bin", "shop8.bin", "shop7.bin",
-                                   "shop6.bin", "shop4.bin", "shop3.bin", "ar this list"}));
+                                   "shop6.bin", "shop4.bin", "shop3.bin", "&Clear this list"}));
 }
 
 TEST_F(FileActsTest, AFileThatCannotBeReadIsNotOpened) {
