@@ -1,4 +1,4 @@
-// One line above the tabs: what happened, and what to do now. It is hidden while there is no advice.
+// One line below the tabs: what happened, and what to do now. It is hidden while there is no advice.
 #pragma once
 
 #include <QFrame>

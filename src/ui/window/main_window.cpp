@@ -104,8 +104,10 @@ void MainWindow::BuildTabs() {
   }
   auto* content = new QWidget;
   auto* down = LayOutDown(*content);
+  // The advice comes and goes below the pages, so that the tabs and their controls keep their place. It is
+  // added first, so that the Tab key reaches it before the tabs.
   down->addWidget(new AdviceBar(bindings_, own_acts_));
-  down->addWidget(tabs_, 1);
+  down->insertWidget(0, tabs_, 1);
   setCentralWidget(content);
   BuildPage(model.current);
   connect(tabs_, &QTabWidget::currentChanged, this, [this](int current) {

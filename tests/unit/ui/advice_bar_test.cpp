@@ -1,4 +1,4 @@
-// The line of advice above the tabs, and its action "Restart".
+// The line of advice below the tabs, and its action "Restart".
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -42,6 +42,7 @@ class AdviceBarTest : public ::testing::Test {
 
 TEST_F(AdviceBarTest, AHiddenLineMakesRoomForTheNextAndAnEmptyBarDisappears) {
   EXPECT_NE(Words().find("not those of the unit. On REMOTE, press "), std::string::npos) << Words();
+  const auto place = screen_.Main().Tabs().mapToGlobal(QPoint());
   screen_.App().image[image::FieldId::TRIGGER_TEXT].replace(0, 2, "03");
   EXPECT_EQ(Words().find("not those of the unit. On REMOTE, press "), std::string::npos)
       << "the setting is more important";
@@ -49,6 +50,7 @@ TEST_F(AdviceBarTest, AHiddenLineMakesRoomForTheNextAndAnEmptyBarDisappears) {
   EXPECT_NE(Words().find("not those of the unit. On REMOTE, press "), std::string::npos) << Words();
   screen_.Click("AdviceClose");
   EXPECT_FALSE(IsShown());
+  EXPECT_EQ(screen_.Main().Tabs().mapToGlobal(QPoint()), place) << "a click would meet another control";
 }
 
 TEST_F(AdviceBarTest, TheActionShowsTheAlarmThatTheLineNames) {
