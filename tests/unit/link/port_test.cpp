@@ -4,7 +4,6 @@
 #include <functional>
 #include <tuple>
 
-#include "core/actions.h"
 #include "core/messages.h"
 #include "unit/link/states.h"
 
@@ -43,21 +42,6 @@ TEST(PortSettings, StartWithTheSameValuesExceptThePort) {
   EXPECT_EQ(program.opened, (std::vector<std::string>{"COM5:38400,E,7,1", "COM5:9600,O,8,1"}));
 }
 
-TEST(PortSettings, AnOpenPortIsClosedFirst) {
-  InState program(State::kHeld);
-  auto& main = program.app.frmMain;
-  main.cmdConnect.visible = true;
-  program.Click("cmdConnect");
-  EXPECT_EQ(program.TakeSent(), kCan);
-  EXPECT_EQ(main.cmdConnect.caption + ", " + main.lbConnectting.caption, "Set Comport, Not Connected");
-  EXPECT_EQ(main.lbRemoteAccess.caption, "No Access");
-  program.Scan();
-  ExpectState(program.app, State::kScanning);
-  core::ShowForm(program.app, program.app.frmSettSR.form);
-  program.Click("BaudrateCMD");
-  EXPECT_EQ(program.opened, std::vector<std::string>(3, "COM1:9600,N,8,1"));
-}
-
 TEST(Scan, KeepsParityAndDataBitsClearsTheLineAndComesToTheTop) {
   InState program(State::kClosed);
   auto& app = program.app;
@@ -81,32 +65,14 @@ TEST(Scan, KeepsParityAndDataBitsClearsTheLineAndComesToTheTop) {
   EXPECT_EQ(bar.value, bar.maximum);
 }
 
-TEST(Scan, EscapeCancelsItAndTheWindowButtonOnlyClosesTheWindow) {
-  const auto escape = [](core::Application& app) -> core::Event {
-    return core::KeyEvent{&app.frmScanBProgress.form, core::Key::kEscape};
-  };
-  const auto close = [](core::Application& app) -> core::Event {
-    return core::CloseEvent{&app.frmScanBProgress.form};
-  };
-  const std::tuple<core::Event (*)(core::Application&), bool> rows[] = {{escape, false}, {close, true}};
-  for (const auto& [event, port_stays_open] : rows) {
-    InState program(State::kClosed);
-    program.Scan();
-    auto& app = program.app;
-    EXPECT_EQ(core::Dispatch(app, event(app)), core::Outcome::kDone);
-    EXPECT_FALSE(app.ScanActive || app.frmScanBProgress.form.loaded || app.frmSettSR.BaudRateScan.enabled);
-    EXPECT_EQ(app.frmMain.MSComm1.PortOpen, port_stays_open);
-  }
-}
-
-TEST(KeepAlive, ATimeOutLeavesAButtonToConnectWith) {
-  InState program(State::kHeld);
-  auto& main = program.app.frmMain;
-  main.cmdConnect.enabled = false;
-  program.Tick(main.Time_handcheck, 30);
-  EXPECT_EQ(program.TakeBox().title, "- Connection Time Out -");
-  EXPECT_TRUE(main.cmdConnect.visible && main.cmdConnect.enabled);
-  ExpectState(program.app, State::kClosed);
+TEST(Scan, EscapeCancelsIt) {
+  InState program(State::kClosed);
+  program.Scan();
+  auto& app = program.app;
+  const core::KeyEvent escape{&app.frmScanBProgress.form, core::Key::kEscape};
+  EXPECT_EQ(core::Dispatch(app, escape), core::Outcome::kDone);
+  EXPECT_FALSE(app.ScanActive || app.frmScanBProgress.form.loaded || app.frmSettSR.BaudRateScan.enabled);
+  EXPECT_FALSE(app.frmMain.MSComm1.PortOpen);
 }
 
 // Other faults of the line are part of the random events of ovl-reference-model.
@@ -133,29 +99,9 @@ TEST(LostDevice, IsReportedInTheBoxAndInTheStatusBarUntilAPortOpens) {
   }
 }
 
-TEST(WrongParity, SelectsTheFirstRegisterAgain) {
-  InState program(State::kAsked, kV1400, {"TCPIP"});
-  program.Pick("ComboReg", 1);
-  program.Unit("?");
-  EXPECT_EQ(program.TakeBox().text, kParityBox);
-  EXPECT_EQ(program.app.frmMain.ComboReg.Text(), "GENERIC");
-}
-
 TEST(Boxes, OfTheLinkHaveNoIcon) {
   for (const auto& box : core::BoxTable())
     EXPECT_TRUE(box.box < core::Box::kPortFailed || box.icon == core::BoxIcon::kNone) << box.topic;
-}
-
-TEST(Hints, ThePointerOverATransferButtonShowsItsPicture) {
-  InState program(State::kHeld);
-  const auto& pictures = program.app.frmMain.Picture1;
-  const std::pair<const char*, int> moves[] = {{"CmdUpDow(0)", 1}, {"CmdUpDow(1)", 2}, {"CmdUpDow(4)", 0},
-                                               {"CmdUpDow(1)", 2}, {"Frame11", 0},     {"CmdUpDow(0)", 1},
-                                               {"Frame11", 0}};
-  for (const auto& [name, picture] : moves) {
-    core::Dispatch(program.app, core::PointEvent{program.app.registry.Find(name)->control});
-    EXPECT_EQ((pictures[1].visible ? 1 : 0) + (pictures[2].visible ? 2 : 0), picture) << name;
-  }
 }
 
 }  // namespace

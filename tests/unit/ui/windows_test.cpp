@@ -204,14 +204,17 @@ TEST_F(WindowsTest, TheAboutBoxShowsProgramFirmwareQtAndLicence) {
     EXPECT_TRUE(all_texts.contains(part)) << part.toStdString() << " in " << all_texts.toStdString();
 }
 
-TEST_F(WindowsTest, ThePointerOverUploadAndDownloadShowsTheHint) {
-  for (const std::size_t button : {0U, 1U}) {
-    App().frmMain.CmdUpDow[button].enabled = true;
-    for (const auto type : {QEvent::Enter, QEvent::Leave}) {
-      QEvent event(type);
-      QCoreApplication::sendEvent(&Find("CmdUpDow(" + std::to_string(button) + ")"), &event);
-      EXPECT_EQ(App().frmMain.Picture1[button + 1].visible, type == QEvent::Enter) << button;
-    }
+TEST_F(WindowsTest, ThePointerOverATransferButtonShowsItsPicture) {
+  const auto& pictures = App().frmMain.Picture1;
+  for (const auto& [button, type, picture] : {std::tuple(0, QEvent::Enter, 1),
+                                              {1, QEvent::Enter, 2},
+                                              {1, QEvent::Leave, 0},
+                                              {0, QEvent::Enter, 1},
+                                              {0, QEvent::Leave, 0}}) {
+    App().frmMain.CmdUpDow.at(static_cast<std::size_t>(button)).enabled = true;
+    QEvent event(type);
+    QCoreApplication::sendEvent(&Find("CmdUpDow(" + std::to_string(button) + ")"), &event);
+    EXPECT_EQ((pictures[1].visible ? 1 : 0) + (pictures[2].visible ? 2 : 0), picture) << button;
   }
 }
 
