@@ -56,28 +56,5 @@ TEST(Editors, HaveCaptionsUnderEveryFirmware) {
   }
 }
 
-// ComboCOMM(6) is left out, because the handshake decides what it stores.
-TEST(Editors, APickChangesOnlyTheBitsOfItsEditor) {
-  int tried = 0;
-  Harness harness({"V1400", "R12"});
-  harness.Start();
-  auto& app = harness.app;
-  for (const auto& editor : changes::Editors()) {
-    const bool of_main =
-        editor.display != core::ValueDisplay::kNothing && editor.place != core::Place::kMicros;
-    if (!of_main || editor.controls == "ComboCOMM(6)") continue;
-    const auto& list = *std::get<controls::List*>(app.registry.Find(editor.controls)->control);
-    int changed = 0;
-    for (int position = 0; position < static_cast<int>(list.items.size()); ++position) {
-      const int before = codecs::HexToInt(app.image[editor.field]);
-      harness.Pick(editor.controls, position);
-      changed |= before ^ codecs::HexToInt(app.image[editor.field]);
-    }
-    EXPECT_TRUE(editor.bits == core::kWholeByte ? changed != 0 : changed == editor.bits) << editor.controls;
-    ++tried;
-  }
-  EXPECT_GE(tried, 28);
-}
-
 }  // namespace
 }  // namespace ovl::testing
