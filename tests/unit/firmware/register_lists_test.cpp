@@ -51,19 +51,17 @@ TEST(RegisterLists, UnknownPairsHaveNoList) {
     EXPECT_TRUE(firmware::BuildRegisterEntries(version, release).empty()) << version << release;
 }
 
-const firmware::FirmwareId kV1400R4{"V1400", "R4"}, kV1400R6{"V1400", "R6"}, kV1400R7{"V1400", "R7"},
-    kV1400R11{"V1400", "R11"}, kV1400R12{"V1400", "R12"}, kV1300R14{"V1300", "R14"},
-    kV1300R19{"V1300", "R19"}, kV1300R20{"V1300", "R20"}, kV1300R23{"V1300", "R23"},
-    kV1300R26{"V1300", "R26"}, kV1300R27{"V1300", "R27"}, kV1324R17{"V1324", "R17"},
-    kV1324R18{"V1324", "R18"}, kV1324R20{"V1324", "R20"}, kV1324R21{"V1324", "R21"},
+const firmware::FirmwareId kV1400R6{"V1400", "R6"}, kV1400R7{"V1400", "R7"}, kV1400R11{"V1400", "R11"},
+    kV1300R14{"V1300", "R14"}, kV1300R19{"V1300", "R19"}, kV1300R20{"V1300", "R20"},
+    kV1300R23{"V1300", "R23"}, kV1300R26{"V1300", "R26"}, kV1300R27{"V1300", "R27"},
+    kV1324R17{"V1324", "R17"}, kV1324R18{"V1324", "R18"}, kV1324R20{"V1324", "R20"},
     kV1324R24{"V1324", "R24"}, kV1324R25{"V1324", "R25"}, kV1310R1{"V1310", "R1"}, kV1334R1{"V1334", "R1"};
 
+// Names with their codes.
 struct Samples {
   firmware::FirmwareId firmware;
   std::vector<std::pair<int, std::string>> numbers;
 };
-
-// Names with their codes.
 const std::vector<Samples> kNames = {
     {kV1400R6, {{6, "BEETLE 50 PRINTERS"}, {21, "HTEC"}, {45, "POINT4 DV10"}, {77, "WEIGH SCALE"}}},
     {kV1400R7, {{72, "QUEST VMD40X"}, {73, "REMANCO 260R139507"}, {104, "UNIPAR"}, {109, "WEIGH SCALE"}}},
@@ -86,39 +84,10 @@ const std::vector<Samples> kNames = {
     {kV1334R1, {{4, "BEETLE 50 PRINTERS"}, {14, "NCR RCPT PRINTER"}, {24, "UP3000"}, {26, "WEIGH SCALE"}}},
 };
 
-// Keys with the numbers that recognise them. A model has the same key, whatever its list calls it.
-const std::vector<Samples> kKeys = {
-    {kV1400R4, {{6, "BEETLE 50 PRINTERS"}, {37, "NIXDORF BEETLE"}, {18, "FUJITSU"}, {22, "HUTH"}}},
-    {kV1400R4, {{33, "NCR"}, {36, "NCR RCPT PRINTER"}, {-1, "NCR MODEL"}, {34, "NCR7454WS"}, {43, "PC COM"}}},
-    {kV1400R4, {{53, "SHARP UP600"}, {66, "TEC"}, {70, "UNIPAR"}, {72, "UNIWELL"}, {73, "UNIWELL MODEL"}}},
-    {kV1400R4, {{74, "UP3000 3300"}}},
-    {kV1400R7, {{28, "FUJITSU"}, {37, "HUTH"}, {-1, "NCR"}, {52, "NCR MODEL"}, {62, "PC COM"}, {97, "TEC"}}},
-    {kV1400R7, {{103, "TOWA PROSPER ET-7826"}, {104, "UNIPAR"}, {-1, "UNIWELL"}, {106, "UNIWELL MODEL"}}},
-    {kV1400R7, {{-1, "RADIENT"}, {-1, "BEETLE 50 PRINTERS"}}},
-    {kV1400R12, {{73, "RADIENT"}, {98, "TEC"}, {104, "UNIPAR"}, {-1, "UNIWELL"}, {107, "UNIWELL MODEL"}}},
-    {kV1300R14, {{3, "PC COM"}, {10, "FUJITSU"}, {22, "NCR"}, {23, "NCR7454WS"}, {24, "BEETLE 50 PRINTERS"}}},
-    {kV1300R14, {{-1, "NIXDORF BEETLE"}, {37, "UNIWELL MODEL"}, {38, "UP3000 3300"}, {-1, "SENSORS"}}},
-    {kV1300R26, {{32, "SENSORS"}, {20, "MICROPOS"}}},
-    {kV1324R17, {{-1, "ADDRESSABLE OVL"}, {-1, "TCPIP"}, {1, "BEETLE 50 PRINTERS"}, {11, "HUTH"}}},
-    {kV1324R17, {{13, "NIXDORF BEETLE"}, {-1, "NCR"}, {25, "SHARP UP600"}, {-1, "TEC"}, {34, "UNIPAR"}}},
-    {kV1324R21, {{1, "TCPIP"}, {15, "NCR"}, {-1, "NCR RCPT PRINTER"}, {41, "TEC"}, {-1, "UP3000 3300"}}},
-    {kV1310R1, {{4, "PC COM"}, {15, "NCR"}, {16, "NCR7454WS"}, {19, "BEETLE 50 PRINTERS"}}},
-    {kV1310R1, {{-1, "NIXDORF BEETLE"}, {26, "TEC"}, {29, "UP3000 3300"}}},
-    {kV1334R1, {{4, "BEETLE 50 PRINTERS"}, {14, "NCR"}, {-1, "NCR RCPT PRINTER"}, {15, "NIXDORF BEETLE"}}},
-    {kV1334R1, {{20, "SHARP UP600"}, {22, "TEC"}, {25, "UNIWELL"}, {-1, "UNIWELL MODEL"}}},
-};
-
 TEST(RegisterLists, NamesHaveTheirCodes) {
   for (const auto& [firmware, numbers] : kNames) {
     for (const auto& [code, name] : numbers)
       EXPECT_EQ(Catalogue(firmware).names.at(static_cast<std::size_t>(code)), name) << firmware.Joined();
-  }
-}
-
-TEST(RegisterLists, KeysRecogniseAModelByItsNumber) {
-  for (const auto& [firmware, numbers] : kKeys) {
-    for (const auto& [number, key] : numbers)
-      EXPECT_EQ(Catalogue(firmware).index.at(key), number) << firmware.Joined() << " " << key;
   }
 }
 
