@@ -110,20 +110,5 @@ TEST(Selections, TheBitsOfTheDemonstrationDependOnTheFirmware) {
   }
 }
 
-TEST(Selections, EveryPickIsInSavedIndexes) {
-  PanelProgram program(kLatest);
-  program.Click("OpDVR(1)");
-  const std::pair<const char*, int> rows[] = {{"ComboCOMM", 4},    {"ComboDIP", 2},    {"ComboTD", 1},
-                                              {"ComboKLM4011", 1}, {"ComboALM", 4},    {"ComboTrigger", 1},
-                                              {"ComboExcp", 3},    {"ComboExcepRe", 0}};
-  for (const auto& [array, picked] : rows) {
-    ASSERT_EQ(program.Pick(Member(array, picked), 1), core::Outcome::kDone) << array;
-    std::vector<int> positions;
-    for (int member = 0; program.app.registry.Find(Member(array, member)) != nullptr; ++member)
-      positions.push_back(program.At(Member(array, member)));
-    EXPECT_EQ(program.app.SavedIndexes[array], positions) << array;
-  }
-}
-
 }  // namespace
 }  // namespace ovl::testing
