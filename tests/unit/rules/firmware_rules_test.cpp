@@ -84,20 +84,5 @@ TEST(FirmwareRules, FamiliesAndReleasesAreComparedInOneFolderOnly) {
   EXPECT_GT(files, 130);
 }
 
-TEST(FirmwareRules, EveryKindOfComparisonIsFound) {
-  for (const auto* line :
-       {"if (firmware.version == \"V1300\") return;", "return app.firmware.Number() >= 26;",
-        "const bool first = firmware.release != \"R1\";", "if (release == first.release) return;",
-        "const auto known = {\"V1334\"};", "if (release < 7) return;", "if (name == \"R6\") return;",
-        "return app.firmware.Joined() == name;", "if (firmware::ReleaseNumber(text) < 3) return;",
-        "if (app.firmware.IsV1400()) return;"})
-    EXPECT_TRUE(ComparesFirmware(line)) << line;
-  for (const auto* line :
-       {"// Like \"V1400\", with release >= 6.", "app.firmware.release = stored;",
-        "label.caption = app.firmware.Joined();", "ShowTip(\"since release 6\");",
-        "out << firmware.release << ' ';", "Of<&FirmwareId::release>}", "\"V1400R12, all of them\""})
-    EXPECT_FALSE(ComparesFirmware(line)) << line;
-}
-
 }  // namespace
 }  // namespace ovl::testing
