@@ -9,6 +9,7 @@
 #include "acts.h"
 #include "check.h"
 #include "firmware/firmware_table.h"
+#include "search/fault_sweep/long_run.h"
 
 namespace ovl::testing {
 namespace {
@@ -51,25 +52,6 @@ Outcome Run(const firmware::FirmwareId& firmware, const Seeds& seeds) {
   return outcome;
 }
 
-// Leaves out parts of the acts, large ones first, as long as something is still wrong.
-Seeds Shortened(const firmware::FirmwareId& firmware, Seeds seeds) {
-  for (auto part = seeds.size() / 2; part > 0; part /= 2) {
-    for (std::size_t from = 0; from + part <= seeds.size();) {
-      auto fewer = seeds;
-      fewer.erase(fewer.begin() + static_cast<std::ptrdiff_t>(from),
-                  fewer.begin() + static_cast<std::ptrdiff_t>(from + part));
-      const auto outcome = Run(firmware, fewer);
-      if (outcome.wrong.empty()) {
-        from += part;
-      } else {
-        fewer.resize(std::min(fewer.size(), outcome.acts.size()));
-        seeds = std::move(fewer);
-      }
-    }
-  }
-  return seeds;
-}
-
 std::vector<firmware::FirmwareId> FirmwareOf(const char* name) {
   std::vector<firmware::FirmwareId> all;
   for (const auto& row : firmware::FirmwareTable()) {
@@ -93,7 +75,8 @@ int Search(int acts, std::uint32_t seed, const std::vector<firmware::FirmwareId>
     std::printf("%s, act %zu of run %zu: %s\n", firmware.Joined().c_str(), outcome.acts.size(), run,
                 outcome.wrong.c_str());
     seeds.resize(outcome.acts.size());
-    const auto shortest = Run(firmware, Shortened(firmware, seeds));
+    const auto is_wrong = [&](const Seeds& fewer) { return !Run(firmware, fewer).wrong.empty(); };
+    const auto shortest = Run(firmware, Shortest(seeds, is_wrong));
     for (const auto& act : shortest.acts) std::printf("  %s\n", act.c_str());
     std::printf("%s\n", shortest.wrong.c_str());
     return 1;
