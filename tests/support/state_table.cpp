@@ -19,15 +19,11 @@ const StateRow& RowOf(State state) {
   static const StateRow rows[] = {
       {"Closed", "", kAnyMode, false, false, false, true, false, true},
       {"Open", "", kAnyMode, true, false, false, true, false, {}},
-      {"Asked", "General_timer", 0, true, false, false, true, false, {}},
       {"Held", "Time_handcheck", 0, true, true, true, true, true, {}},
       {"Uploading", "Timer_Operating", 1, true, true, false, false, true, false},
       {"DownloadCommand", "Timer_Operating", 2, true, true, false, false, true, false},
       {"DownloadStream", "", 2, true, true, false, false, true, false},
       {"TransferDone", "", kAnyMode, true, false, false, false, false, false},
-      {"SettingClock", "Timer_Operating", 0, true, true, true, true, true, {}},
-      {"ReadingHistory", "", 0, true, true, true, true, true, {}},
-      {"Resetting", "", 0, true, true, true, true, true, {}},
       {"Scanning", "BaudRateScan", kAnyMode, true, false, false, true, false, {}},
   };
   return rows[static_cast<std::size_t>(state)];

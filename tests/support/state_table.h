@@ -10,15 +10,11 @@ namespace ovl::testing {
 enum class State {
   kClosed,
   kOpen,
-  kAsked,
   kHeld,
   kUploading,
   kDownloadCommand,
   kDownloadStream,
   kTransferDone,
-  kSettingClock,
-  kReadingHistory,
-  kResetting,
   kScanning,
 };
 

@@ -34,8 +34,7 @@ class InState : public Harness {
       : Harness(firmware, further_registers) {
     EXPECT_EQ(Start(), core::Outcome::kDone);
     if (state != State::kClosed) OpenPort();
-    if (state == State::kAsked) Press(kRemoteButton);
-    if (state > State::kAsked) FromHeld(state);
+    if (state > State::kOpen) FromHeld(state);
     TakeSent();
     EXPECT_TRUE(NoBoxLeft());
   }
