@@ -2,7 +2,6 @@
 #include <QImage>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <cmath>
 #include <map>
 
 #include "pictures/spoken_text.h"
@@ -45,12 +44,6 @@ TEST(Accessibility, EachControlHasANameAndAPurpose) {
       << spoken.toStdString();
 }
 
-// The contrast as accessibility rules define it.
-double Luminance(QRgb color) {
-  const auto linear = [](int part) { return std::pow((part / 255.0 + 0.055) / 1.055, 2.4); };
-  return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) + 0.0722 * linear(qBlue(color));
-}
-
 // Of the most frequent color of a picture with the one that differs most from it.
 double ContrastIn(const QImage& image) {
   std::map<QRgb, int> counts;
@@ -58,12 +51,9 @@ double ContrastIn(const QImage& image) {
     for (int x = 0; x < image.width(); ++x) ++counts[image.pixel(x, y)];
   }
   const auto by_count = [](const auto& one, const auto& other) { return one.second < other.second; };
-  const double ground = Luminance(std::max_element(counts.begin(), counts.end(), by_count)->first);
+  const auto ground = std::max_element(counts.begin(), counts.end(), by_count)->first;
   double most = 1;
-  for (const auto& [color, count] : counts) {
-    const auto [less, more] = std::minmax({ground, Luminance(color)});
-    most = std::max(most, (more + 0.05) / (less + 0.05));
-  }
+  for (const auto& [color, count] : counts) most = std::max(most, Contrast(color, ground));
   return most;
 }
 

@@ -12,6 +12,7 @@
 #include <QListView>
 #include <QTabWidget>
 #include <algorithm>
+#include <cmath>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -60,6 +61,16 @@ inline void ExpectRoom(const QWidget& page) {
       EXPECT_GE(widget->height(), widget->sizeHint().height());
     }
   }
+}
+
+// The contrast as accessibility rules define it.
+inline double Contrast(const QColor& one, const QColor& other) {
+  const auto luminance = [](const QColor& color) {
+    const auto linear = [](double part) { return std::pow((part + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+  };
+  const auto [less, more] = std::minmax({luminance(one), luminance(other)});
+  return (more + 0.05) / (less + 0.05);
 }
 
 // A program folder with the image of the first register, and settings that name its firmware.
