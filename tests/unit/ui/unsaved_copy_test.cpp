@@ -107,14 +107,6 @@ TEST(UnsavedCopy, StaysWhenTheSettingsDoNotKeepThePick) {
   EXPECT_EQ(Copies(folder), QStringList("unsaved V1400R12 1.bin"));
 }
 
-TEST(UnsavedCopy, IsRemovedWhenTheUserCloses) {
-  Screen screen({"V1400", "R12"});
-  const auto folder = ChangeAndWait(screen);
-  EXPECT_EQ(Copies(folder).size(), 1);
-  screen.Find<QAction>("menuExit").trigger();
-  EXPECT_EQ(Copies(folder), QStringList());
-}
-
 // Another process may have the number of the one that ended, so the lock and its owner count.
 TEST(UnsavedCopy, OfAnotherFirmwareIsKeptEvenIfItsProcessNumberIsUsedAgain) {
   Screen screen({"V1400", "R12"});
