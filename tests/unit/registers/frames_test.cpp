@@ -247,15 +247,6 @@ TEST(OptionFrames, SomeCaptionsFollowTheFirmwareOrTheRegister) {
   }
 }
 
-TEST(OptionFrames, OdometerNeedsOneLineOnly) {
-  Installed program(kLatest);
-  for (const auto& [list, position] : {std::pair{"ComboTD(0)", 0}, {"ComboTD(5)", 0}, {"ComboDIP(1)", 6}})
-    ASSERT_EQ(program.Pick(list, position), core::Outcome::kDone);
-  ASSERT_EQ(program.Register("ODOMETER"), core::Outcome::kDone);
-  EXPECT_EQ(program.Selected("ComboDIP(1)"), 0);
-  EXPECT_EQ(program.app.image[image::FieldId::DSPLINES_BAK], "01");
-}
-
 TEST(OptionFrames, TheUniwellFrameShowsOneOfItsTwoLists) {
   Installed base({"V1400", "R6"}), models({"V1400", "R7"});
   for (const std::string name : {"UNIWELL UN4025", "MERIT", "UNIWELL"}) {
