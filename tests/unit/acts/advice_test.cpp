@@ -118,6 +118,9 @@ TEST(AdviceOnRegisters, NamesWhatAPickStoredOnOtherTabs) {
   }
   Expect({"other-tabs-changed", on + "pick ComboReg \"ADS\"\n", "EXCEPTION REPORT: OUTPUT OFF", "",
           kOpenPort + kHold + kDownload + "drain\nunit hex 06\n"});
+  Expect({"other-tabs-changed", "pick ComboReg \"MICRELEC\"\n",
+          "COMMUNICATION: PARITY EVEN, DATA BITS 7, RX BAUDRATE 14400, TX BAUDRATE 2400. Check", "",
+          "pick ComboReg \"MICRELEC\"\n"});
   Expect({"other-tabs-changed", "pick ComboReg \"ODOMETER\"\n", "TEXT SETUP: DISPLAY LINE 1", "",
           "answer \"IMAGE\"\nclick OpenMenu\n"});
 }
