@@ -1,7 +1,6 @@
 // The line of advice below the tabs, and its action "Restart".
 #include <gtest/gtest.h>
 
-#include <QDir>
 #include <QLabel>
 
 #include "unit/ui/screen.h"
@@ -63,34 +62,18 @@ TEST_F(AdviceBarTest, TheActionShowsTheAlarmThatTheLineNames) {
   EXPECT_EQ(screen_.Focus(), "ComboALM(1)");
 }
 
-TEST_F(AdviceBarTest, RestartKeepsTheChangesAndOpensThemInTheNewProgram) {
-  auto& app = screen_.App();
-  screen_.program->GuardUnsaved();
+// What the new program opens is part of the session "broken_transfers".
+TEST_F(AdviceBarTest, RestartEndsTheProgramOnlyWhenANewOneHasStarted) {
   screen_.Pick("ComboTD(2)", 1);
-  const auto changed = app.image;
-  QStringList started;
   bool starts = false;
-  screen_.program->start_again = [&](const QStringList& arguments) {
-    started = arguments;
-    return starts;
-  };
+  screen_.program->start_again = [&](const QStringList&) { return starts; };
   BreakAnUpload();
   ASSERT_TRUE(IsShown());
   screen_.Click("AdviceAction");
-  EXPECT_FALSE(app.ended) << "the new program did not start";
+  EXPECT_FALSE(screen_.App().ended);
   starts = true;
   screen_.Click("AdviceAction");
-  EXPECT_TRUE(app.ended);
-  ASSERT_EQ(started.size(), 5);
-  EXPECT_EQ(QDir(started.at(1)).filePath("rescued V1400R12 2.bin"), started.back());
-
-  ui::Program again(started.at(1), started.at(3));
-  again.Model().platform.ask_file = [&](const core::FileDialog&) {
-    return std::optional(core::FileAnswer{started.back().toStdString(), {}});
-  };
-  ASSERT_EQ(again.Start(), core::Outcome::kDone);
-  again.Act(core::ClickEvent{&again.Model().frmMain.OpenMenu});
-  EXPECT_TRUE(again.Model().image == changed);
+  EXPECT_TRUE(screen_.App().ended);
 }
 
 }  // namespace
