@@ -99,8 +99,6 @@ TEST(AdviceOnRegisters, NamesTheByteThatHidesTheOptions) {
        "REGISTER SELECT", "pick ComboReg \"IBM\"\n"},
       {"options-hidden", "pick ComboReg \"TCI\"\nset TCIADDBAK_2 1F\n" + reopen, "TCIADDBAK_2 contains 1F",
        "REGISTER SELECT", "pick ComboReg \"ADS\"\n"},
-      {"options-hidden", "pick ComboReg \"BLEEP\"\nset REGTYPE_MINOR 7F\n" + reopen,
-       "REGTYPE_MINOR contains 7F", "REGISTER SELECT", "set REGTYPE_MINOR 00\n" + reopen},
       {"options-hidden", "pick ComboReg \"DELTA SONO 3.1\"\nset REGTYPE_MINOR 7F\n" + reopen,
        "The options of DELTA SONO 3.1 are hidden: REGTYPE_MINOR contains 7F", "REGISTER SELECT",
        "pick ComboReg \"DELTA SONO 3.1\"\n", kV1300},
@@ -163,32 +161,14 @@ TEST(AdviceOnSettings, NamesTheSlotsThatDoNothing) {
   };
   for (const auto& firmware : {kLatest, kV1300}) {
     const AdviceRow rows[] = {
-        {"range-order", "pick ComboExcp(0) 2\n" + range("500", "100"),
-         "In the range of exception 3 the first value is above the second.", "Set RANGE", range("500", "500"),
-         firmware},
         {"range-order", range("9", "8") + "pick ComboExcp(0) 23\n" + range("2", "1"), "exceptions 1 and 24",
          "Set RANGE", range("1", "2") + "pick ComboExcp(0) 0\n" + range("0", "0"), firmware},
-        {"alarm-without-exception", "pick ComboALM(1) \"3\"\n",
-         "Only free exceptions trigger alarm 1 (3), so no alarm occurs.", "ALARM TRIGGER",
-         "pick ComboExcp(0) 2\n" + text("cmdSetExcpstr", "REFUND"), firmware},
         {"alarm-without-exception",
          "pick ComboALM(1) \"13-24\"\npick ComboALM(0) 15\npick ComboALM(1) \"1\"\n",
          "alarms 1 (13-24) and 16 (1)", "ALARM TRIGGER",
          "pick ComboALM(1) \"RTS\"\npick ComboExcp(0) 12\n" + text("cmdSetExcpstr", "X"), firmware},
         {"blank-text", "pick ComboExcp(1) \"ON\"\n", "The text is empty or only blanks: exception 1.",
          "Set Exception String", text("cmdSetExcpstr", "REFUND"), firmware},
-        {"blank-text",
-         text("cmdSetExcpstr", "REFUND") + "pick ComboExcp(3) \"ON\"\n" + text("cmdSetExcpstr", "   "),
-         "exception 1.", "Set Exception String", "pick ComboExcp(3) \"OFF\"\n", firmware},
-        {"blank-text",
-         "pick ComboExcp(1) 1\npick ComboExcp(0) 1\npick ComboExcp(1) 1\npick ComboExcp(0) 2\npick "
-         "ComboExcp(1) 1\npick "
-         "ComboExcp(0) 4\npick ComboExcp(1) 1\n",
-         "exceptions 1 to 3 and 5.", "Set Exception String",
-         "pick ComboExcp(1) 0\npick ComboExcp(0) 0\npick ComboExcp(1) 0\npick ComboExcp(0) 1\npick "
-         "ComboExcp(1) 0\npick "
-         "ComboExcp(0) 2\npick ComboExcp(1) 0\n",
-         firmware},
         {"blank-text", "pick ComboALM(0) 1\npick ComboTrigger(0) \"ON\"\n", "the trigger text of alarm 2.",
          "Set Trigger Text", text("cmdSetTrigger", "DOOR"), firmware},
     };

@@ -129,6 +129,7 @@ std::vector<Row> LineRows() {
 
 std::vector<Row> ExceptionRows() {
   const std::string used = Exception(3, "REFUND"), report = "pick ComboExcepRe(0) \"ON\"\n";
+  const std::string sent = "pick ComboExcp(2) 1\n";
   const std::string second = Exception(7, "REFUND") + "pick ComboExcp(3) 1\n";
   return {
       {"range-order", used + "pick ComboExcp(5) \"IN\"\n" + Range("500", "499"),
@@ -154,9 +155,10 @@ std::vector<Row> ExceptionRows() {
       {"display-off", used + "pick ComboExcp(1) \"ON\"\npick ComboDIP(6) \"OFF\"\n",
        "DISPLAY of exception 3 is ON, but DISPLAY of the text display is OFF.", "ComboDIP(6)",
        "pick ComboExcp(1) \"OFF\"\n"},
-      {"report-off", used + "pick ComboExcp(2) 1\n" + Exception(4, "X") + "pick ComboExcp(2) 1\n",
-       "OUTPUT of exceptions 3 and 4 is ON, but OUTPUT of the exception report is OFF.", "ComboExcepRe(0)",
-       report},
+      {"report-off",
+       used + sent + Exception(4, "X") + sent + Exception(5, "Y") + sent + Exception(7, "Z") + sent,
+       "OUTPUT of exceptions 3 to 5 and 7 is ON, but OUTPUT of the exception report is OFF.",
+       "ComboExcepRe(0)", report},
       {"stamp-without-report", "pick ComboExcepRe(1) \"ON\"\n", "TIME STAMP is ON", "ComboExcepRe(1)",
        report},
       {"duplicates-without-report", "pick ComboExcepRe(2) \"ON\"\n", "DUPLICATE LINE is ON",
