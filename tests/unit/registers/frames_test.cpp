@@ -85,6 +85,7 @@ struct OptionBytesChange {
 TEST(RegisterPick, AStoredCodeChangesWhereReaderAndWriterDiffer) {
   const OptionBytesChange rows[] = {
       {{"V1400", "R6"}, "EPSON GENERIC", "030000", "000000"},
+      {{"V1324", "R23"}, "EPSON GENERIC", "030000", "030000"},
       {{"V1324", "R24"}, "EPSON GENERIC", "030000", "000000"},
       {{"V1334", "R1"}, "EPSON GENERIC", "030002", "020002"},
       {{"V1310", "R1"}, "EPSON GENERIC", "030002", "030002"},

@@ -195,6 +195,7 @@ const std::vector<ModelChoice> kModelChoices = {
     {"NIXDORF14OP", 1, {"NIXDORFrm", "NIXDORF14OPSelect"}, {"BEETLEFrm"}, "NIXDORF14OPSelect"},
     {"NIXDORF14OP", 0, {"BEETLEFrm", "BEETLEOp"}, {"NIXDORFrm"}, "BEETLEOp"},
     {"OpGilbraco", 5, kXml, {}, "ComboXML", kV1300R27},
+    {"OpGilbraco", 5, kXml, {}, "ComboXML", {"V1310", "R1"}},
     {"OpGilbraco", 4, {}, kXml, nullptr, kV1300R27},
     {"OpGilbraco", 5, {}, kXml, nullptr, kV1300R26},
 };
