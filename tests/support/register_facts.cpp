@@ -120,10 +120,6 @@ std::size_t NumberOfRegisters(const firmware::FirmwareId& firmware) {
   return registers;
 }
 
-std::size_t NumberOfRegisterKeys() {
-  return 136;
-}
-
 std::string FrameOf(const firmware::FirmwareId& firmware, std::string_view register_name) {
   const auto text = [](int frame, std::string_view title) {
     return std::to_string(frame) + " " + std::string(title);

@@ -11,9 +11,8 @@
 
 namespace ovl::testing {
 
-// The registers in the list of a firmware, and the keys that recognise the registers of all firmware.
+// The registers in the list of a firmware.
 std::size_t NumberOfRegisters(const firmware::FirmwareId& firmware);
-std::size_t NumberOfRegisterKeys();
 
 // The number and the title of the option frame that a register shows when it is picked. Empty: the register
 // has no options under this firmware.
