@@ -1,7 +1,5 @@
 #include "search/fault_sweep/expectation.h"
 
-#include <algorithm>
-
 #include "support/firmware_facts.h"
 
 namespace ovl::testing {

@@ -5,8 +5,6 @@
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
-#include <optional>
-#include <sstream>
 #include <string>
 #include <string_view>
 #include <tuple>
