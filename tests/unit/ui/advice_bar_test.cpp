@@ -64,7 +64,7 @@ TEST_F(AdviceBarTest, TheActionShowsTheAlarmThatTheLineNames) {
 
 // What the new program opens is part of the session "broken_transfers".
 TEST_F(AdviceBarTest, RestartEndsTheProgramOnlyWhenANewOneHasStarted) {
-  screen_.Pick("ComboTD(2)", 1);
+  screen_.program->GuardUnsaved();
   bool starts = false;
   screen_.program->start_again = [&](const QStringList&) { return starts; };
   BreakAnUpload();
