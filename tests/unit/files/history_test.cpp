@@ -1,6 +1,4 @@
 // Histories are saved to a file and opened in the viewer.
-#include "files/history.h"
-
 #include <gtest/gtest.h>
 
 #include "support/control_characters.h"
@@ -106,30 +104,11 @@ TEST(History, OnlyAFileWithTheTagOpensAndAnUnreadableOneChangesNothing) {
   }
 }
 
-TEST(History, TheViewerIsReadOnlyAndAlsoShowsTheDiagnosticLog) {
+TEST(History, TheViewerIsReadOnly) {
   Viewing program;
-  const auto& view = program.app.frmView;
   program.Open(program.Write("OVLH\r\nfirst"));
-  program.Open(program.Write("OVLH\r\nsecond"));
-  EXPECT_EQ(core::DispatchStart(program.app, files::ShowDataDump), core::Outcome::kDone);
-  program.ExpectShown(program.folder.File("log.txt"), "second\r\n");
-  EXPECT_NE(program.app.StatusNote.find("DataDump.log"), std::string::npos);
   EXPECT_EQ(core::Dispatch(program.app, core::TypeEvent{&program.app.frmView.Text, "typed"}),
             core::Outcome::kRefused);
-  // This flag alone keeps the dialog from being shown.
-  for (const unsigned flags : {0U, 4096U, 4097U, 4095U, 8192U}) {
-    SCOPED_TRACE(flags);
-    core::Dispatch(program.app, core::CloseEvent{&program.app.frmView.form});
-    EXPECT_FALSE(view.form.visible);
-    const auto path = program.Write("OVLH\r\nline " + std::to_string(flags));
-    program.app.platform.ask_file = [&](const core::FileDialog&) { return core::FileAnswer{path, flags}; };
-    ASSERT_EQ(program.Click("OpenHistory_menu"), core::Outcome::kDone);
-    EXPECT_EQ(view.form.visible, flags != 4096);
-    EXPECT_EQ(view.Text.text, "line " + std::to_string(flags) + "\r\n");
-  }
-  WriteFile(program.folder.File("DataDump.log"), "any line\r\n\r\nlast");
-  EXPECT_EQ(core::DispatchStart(program.app, files::ShowDataDump), core::Outcome::kDone);
-  program.ExpectShown("Debuging Windwos", "any line\r\n\r\nlast\r\n");
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 #include <array>
 
 #include "core/actions.h"
-#include "core/settings.h"
 #include "support/control_characters.h"
 #include "support/firmware_facts.h"
 #include "support/harness.h"
@@ -81,16 +80,6 @@ TEST(Timers, HaveTheirIntervalsAndStartOnceUntilTheyAreStopped) {
   const auto before = timer.starts;
   for (const bool enabled : {true, true, false, false, true}) core::EnableTimer(timer, enabled);
   EXPECT_EQ(timer.starts, before + 2);
-}
-
-TEST(Settings, AnEmptyTextIsStoredAsABlankAndAnUnknownRootStoresNothing) {
-  Harness program({"V1400", "R12"});
-  core::WriteSetting(program.app, core::SettingRoot::kLocalMachine, core::kSettingsKey, core::kVersionValue,
-                     "");
-  core::WriteSetting(program.app, core::SettingRoot::kNone, core::kSettingsKey, core::kReleaseValue, "R7");
-  EXPECT_EQ(Stored(program), " R12");
-  EXPECT_EQ(core::ReadSetting(program.app, core::SettingRoot::kNone, core::kSettingsKey, core::kReleaseValue),
-            "");
 }
 
 TEST(StartUp, ADefaultImageThatCannotBeReadEndsTheProgram) {
