@@ -30,28 +30,5 @@ TEST(Traits, TcpIpGoesByTheLastTwoCharacters) {
   EXPECT_TRUE(firmware::CapabilitiesOf({"V1300", "R14"}).HasTcpIp);
 }
 
-TEST(Traits, ListsFollowTheRelease) {
-  const auto codes = [](const FirmwareId& id) {
-    const auto* found = firmware::InterfaceCodesOf(id);
-    return found == nullptr ? std::string() : (*found)[0] + std::string(" ") + (*found)[2];
-  };
-  EXPECT_EQ(codes({"V1400", "R6"}), "0A 36");
-  EXPECT_EQ(codes({"V1400", "R5"}), "0E 36");
-  EXPECT_EQ(codes({"V1324", "R24"}), "0A 26");
-  EXPECT_EQ(codes({"V1334", "R1"}), "0E 26");
-  EXPECT_EQ(codes({"V1410", "R1"}), "");
-  EXPECT_EQ(firmware::WeighScaleModelsOf({"V1400", "R5"}).size(), 0U);
-}
-
-TEST(Traits, RowsOfATableEndWithTheirLastRelease) {
-  const firmware::Releases row = {firmware::kFamily1300 | firmware::kFamily1324, 14, 17};
-  for (const auto* release : {"R14", "R17"})
-    EXPECT_TRUE(firmware::IsInReleases({"V1324", release}, row)) << release;
-  for (const auto* release : {"R13", "R18", ""})
-    EXPECT_FALSE(firmware::IsInReleases({"V1300", release}, row)) << release;
-  EXPECT_FALSE(firmware::IsInReleases({"V1310", "R15"}, row));
-  EXPECT_FALSE(firmware::IsInReleases({"V9", "R15"}, {~0U}));
-}
-
 }  // namespace
 }  // namespace ovl::testing
