@@ -128,7 +128,7 @@ bool RunOnce(const firmware::FirmwareId& stored, unsigned seed, long acts, Diges
 }
 
 int Run(long acts, unsigned seed) {
-  constexpr long kActsOfARun = 1000;
+  constexpr long kMostActsOfARun = 1000;
   const TemporaryFolder folder;
   fs::current_path(folder.Path());
   std::vector<firmware::FirmwareId> all;
@@ -137,13 +137,15 @@ int Run(long acts, unsigned seed) {
         all.emplace_back(firmware::FirmwareId{std::string(entry.version), std::string(entry.release)});
     if (firmware::IsKnownFamily(firmware.version)) images::WriteDefaultImages(".", firmware);
   }
+  // A short walk takes every firmware, too.
+  const long acts_of_a_run = std::clamp(acts / static_cast<long>(all.size()), 1L, kMostActsOfARun);
   const StopWatch watch;
   long done = 0;
   Digest digest;
   std::size_t runs = 0, failed = 0;
   constexpr std::size_t kFailures = 10;
   for (; done < acts && failed < kFailures; ++runs) {
-    const long length = std::min(kActsOfARun, acts - done);
+    const long length = std::min(acts_of_a_run, acts - done);
     failed += RunOnce(all[runs % all.size()], seed + static_cast<unsigned>(runs), length, digest) ? 0U : 1U;
     done += length;
   }

@@ -1,107 +1,15 @@
-// A backup opens again under its firmware without a difference, whatever the user did before.
+// The bytes, the name and the refusal of a backup. That it opens again without a difference, whatever the
+// user did before, is the random walk's to find out.
 #include "acts/backup.h"
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
 #include "core/configuration.h"
-#include "firmware/firmware_table.h"
-#include "firmware/traits.h"
-#include "image/field_map.h"
-#include "image/record_stream.h"
-#include "search/random_walk/act_generator.h"
-#include "search/random_walk/checked_program.h"
 #include "support/firmware_facts.h"
 #include "support/installed.h"
 
 namespace ovl::testing {
 namespace {
-
-namespace fs = std::filesystem;
-
-constexpr const char* kBackup = "backup.bin";
-
-// The walk works in the current folder.
-class BackupWalk : public ::testing::Test {
- protected:
-  BackupWalk() : before_(fs::current_path()) { fs::current_path(folder_.Path()); }
-  ~BackupWalk() override { fs::current_path(before_); }
-
- private:
-  TemporaryFolder folder_;
-  fs::path before_;
-};
-
-// The entries that differ among those that a stream of the firmware contains.
-std::string DifferentEntries(const image::ConfigImage& one, const image::ConfigImage& other,
-                             const firmware::FirmwareId& firmware) {
-  std::string names;
-  for (const auto& row : image::FieldTable()) {
-    if (!InStream(row, LayoutOf(firmware), firmware, firmware::CapabilitiesOf(firmware),
-                  image::Direction::kRead))
-      continue;
-    for (int entry = 1; entry <= image::EntryCount(row.id); ++entry) {
-      if (one.at(row.id, entry) != other.at(row.id, entry))
-        names += std::string(row.name) + "(" + std::to_string(entry) + ") ";
-    }
-  }
-  return names;
-}
-
-// Whether the image has all digits of its firmware, and none too many.
-bool IsComplete(core::Application& app) {
-  auto copy = app.image;
-  copy[image::FieldId::BLNKRTS_BAK].resize(firmware::StoresBlankByRts(app.firmware) ? 2 : 0, '0');
-  const auto sections =
-      image::WriteSections(copy, LayoutOf(app.firmware), app.firmware, CapabilitiesOf(app.firmware));
-  return sections.SYSCFG.size() + sections.SYSFIXED.size() + sections.SYSSTR.size() ==
-         FactsOf(app.firmware).stream.digits;
-}
-
-void Walk(CheckedProgram& program, unsigned seed, int acts) {
-  ActGenerator generator(seed);
-  for (int act = 0; act < acts; ++act) {
-    for (const auto& line : generator.Next(program.App())) {
-      if (program.Ended() && line != "start") break;
-      ASSERT_EQ(program.Do(line), "") << line;
-    }
-  }
-  if (program.Ended()) program.Do("start");
-}
-
-// False: the walk has ended the program, led to another firmware, or opened a file of another layout. Then
-// there is nothing to compare, but a backup is refused exactly if the image is not complete.
-bool BackUpAndReopen(const firmware::FirmwareId& stored, unsigned seed) {
-  constexpr int kActs = 40;
-  for (const auto* file : kWalkFiles) fs::remove(file);
-  CheckedProgram program(stored);
-  Walk(program, seed, kActs);
-  if (program.Ended()) return false;
-  auto& app = program.App();
-  const auto written = acts::SaveBackup(app, kBackup);
-  EXPECT_EQ(written.Ok(), IsComplete(app));
-  if (!written.Ok() || app.firmware != firmware::ServedFirmware(stored.Joined())) return false;
-  CheckedProgram other(stored);
-  other.Do(std::string("answer ") + kBackup);
-  other.Do("click OpenMenu");
-  EXPECT_FALSE(other.Ended());
-  // As read. Open then shows it, and the panels put a record in order when they show it.
-  EXPECT_EQ(DifferentEntries(other.App().known_image, app.image, app.firmware), "");
-  EXPECT_EQ(acts::ReopenableFile(other.App().known_image, app.firmware), ReadFile(kBackup));
-  return true;
-}
-
-TEST_F(BackupWalk, OpensAgainWithoutADifferenceUnderEveryFirmware) {
-  constexpr unsigned kLastSeed = 20;
-  for (const auto& entry : firmware::FirmwareTable()) {
-    const auto stored = entry.Id();
-    SCOPED_TRACE(stored.Joined());
-    images::WriteDefaultImages(".", firmware::ServedFirmware(stored.Joined()));
-    unsigned seed = 1;
-    while (!BackUpAndReopen(stored, seed)) ASSERT_LE(++seed, kLastSeed);
-  }
-}
 
 TEST(Backup, IsTheStreamOfADownload) {
   for (const auto& firmware : EveryFirmware()) {
