@@ -14,9 +14,10 @@ can_write "$out" || fail "$out cannot be written. Name another folder: $command_
 own=$out
 [ "$out" != "$source_folder" ] || own=$archive
 # The same files give the same archive, with the date of the release.
-tar --create --gzip --file "$archive" --anchored --no-wildcards --exclude=./.git --exclude=./build \
-  --exclude="./$(realpath --relative-to=. -- "$own")" \
+tar --create --gzip --file "$archive.new" --anchored --no-wildcards --exclude=./.git --exclude=./build \
+  --exclude="./$(realpath --relative-to=. -- "$own")" --exclude="./$(realpath --relative-to=. -- "$archive.new")" \
   --exclude-from=<(find . -mindepth 2 -name CMakeCache.txt -printf '%h\n') \
   --sort=name --mtime="$(sed -n '/^ -- /{s/.*>  //p;q}' packaging/debian/changelog)" --owner=root:0 --group=root:0 \
   --mode=u+rw,go=u,go-w --transform="s,^\.,ovl-software-$version," .
+mv "$archive.new" "$archive"
 echo "$archive"

@@ -11,6 +11,7 @@ set -euo pipefail
 # shellcheck source=tools/common.sh
 . "$(dirname -- "$0")/../tools/common.sh"
 read_options roots:,made:,before:,cache: "$@"
+[ "$(id -u)" = 0 ] || fail "this needs root, for root file systems of its own"
 [ "${TRY_ALONE:-}" ] || TRY_ALONE=1 exec unshare --mount --propagation private "$0" "$@"
 
 roots='' given='' cache='' before=() table=() release='' tried='' now='' root='' home='' screen='' status=0

@@ -19,6 +19,7 @@ while [ "$1" != -- ]; do
 done
 : "${qt:=$build/qt}"
 [ $# -eq 1 ] || { echo "$command_name: unknown argument $2" >&2; exit 2; }
+[ "$qt" = "$build/qt" ] || [ -f "$qt/CMakeCache.txt" ] || fail "$qt is no build folder of Qt"
 cd "$source_folder"
 reserve release
 tools/require g++-mingw-w64-x86-64-posix wine wine64 nsis cmake ninja-build ccache dpkg-dev qt6-base-dev qt6-base-dev-tools \

@@ -42,6 +42,19 @@ Function .onInit
     SetErrorLevel 2
     Quit
   ${EndIf}
+  ; A program that runs cannot be replaced, and the one of before would stay.
+  SetRegView 64
+  ReadRegStr $0 HKLM "${UNINSTALL}" "InstallLocation"
+  ${If} ${FileExists} "$0\bin\ovl.exe"
+    ClearErrors
+    FileOpen $1 "$0\bin\ovl.exe" a
+    ${If} ${Errors}
+      MessageBox MB_OK|MB_ICONSTOP "OVL Software is running. Close it, and start the installation again." /SD IDOK
+      SetErrorLevel 2
+      Quit
+    ${EndIf}
+    FileClose $1
+  ${EndIf}
 FunctionEnd
 
 Section
