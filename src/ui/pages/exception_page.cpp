@@ -84,13 +84,12 @@ QString AlarmsText(const core::Application& app, int exception) {
   return runs.join(QStringLiteral(", "));
 }
 
-QString ActsText(const core::Application& app, int exception, int flags) {
+QString ActsText(const core::Application& app, int flags, const QString& alarms) {
   QStringList letters;
   for (const auto& act : kActs) {
     if (IsListed(app.frmMain, act) && codecs::HasBit(flags, act.bit))
       letters.append(QChar::fromLatin1(act.letter));
   }
-  const auto alarms = AlarmsText(app, exception);
   if (!alarms.isEmpty()) letters.append(QLatin1Char('A') + alarms);
   return letters.join(QLatin1Char(' '));
 }
@@ -208,9 +207,11 @@ std::vector<OverviewLine> ExceptionLines(const core::Application& app) {
     const auto& slot = app.image.at(image::FieldId::EXCPSTRS, number);
     const auto text = TextOf(app, slot);
     const bool used = !image::IsFreeException(slot) && !text.trimmed().isEmpty();
+    // A free exception does not occur, so a group that contains it says nothing about it.
+    const auto alarms = used ? AlarmsText(app, number) : QString();
     lines.push_back(
         {{QString::number(number), used ? text : QCoreApplication::translate("ExceptionPage", "free"),
-          RangeText(app, slot), ActsText(app, number, codecs::HexToInt(slot))},
+          RangeText(app, slot), ActsText(app, codecs::HexToInt(slot), alarms)},
          used});
   }
   return lines;
