@@ -178,6 +178,8 @@ bool HasMoreThanNotes(const CheckedFile& file) {
 
 // A file that cannot be checked does not keep the others from it.
 ExitStatus Check(const Wanted& wanted, std::ostream& output, std::ostream& errors) {
+  if (!wanted.folder.empty() && !std::filesystem::is_directory(wanted.folder))
+    Wrong(wanted.folder + ": there is no such folder");
   Viewers viewers;
   std::vector<CheckedFile> files;
   bool wrong = false;
