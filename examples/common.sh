@@ -17,6 +17,13 @@ usage() {
   refuse "usage: $(basename "$0") $*"
 }
 
+case ${1-} in
+  -h | --help)
+    sed '1d; /^#/!Q; s/^# \?//' -- "$0"
+    exit
+    ;;
+esac
+
 [[ $OVL_FIRMWARE =~ ^(V[0-9]+)\ ?(R[0-9]+)$ ]] || refuse "OVL_FIRMWARE is \"$OVL_FIRMWARE\", not such as \"V1400 R12\""
 version=${BASH_REMATCH[1]} release=${BASH_REMATCH[2]}
 # The compact firmware has the streams and the images of another.
