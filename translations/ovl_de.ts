@@ -3019,6 +3019,10 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <source>Also stored: %1.</source>
         <translation>Außerdem gespeichert: %1.</translation>
     </message>
+    <message>
+        <source>Stored: %1, not %2.</source>
+        <translation>Gespeichert: %1, nicht %2.</translation>
+    </message>
 </context>
 <context>
     <name>SettingWindow</name>

@@ -58,6 +58,20 @@ class Comparison {
     return AlsoStoredLine(Enumerated(stored));
   }
 
+  // What the list of the action shows is not what it has stored: "Stored: AUTO LINEFEED ON, not OFF."
+  Words Contradiction() const {
+    for (const auto& shown : Editors()) {
+      if (shown.display == ValueDisplay::kNothing || shown.display == ValueDisplay::kPicked) continue;
+      if (ListOf(shown) != acted_) continue;
+      const auto& list = *std::get<controls::List*>(acted_);
+      const int stored = codecs::HexToInt(app_.image[shown.field]);
+      if (list.position < 0 || EntryOf(shown, list, stored) == list.Text()) return {};
+      return Sentence(Pattern("Setting", "Stored: %1, not %2."),
+                      {WordsOf(shown, stored), OfForm(list.Text())});
+    }
+    return {};
+  }
+
   // The fields on other tabs, one part for each tab.
   Words OtherTabs() const {
     constexpr std::array kOtherTabs = {core::Place::kText,          core::Place::kAlarmOutputs,
@@ -150,7 +164,9 @@ Words OtherTabsStored(const core::Application& app, const image::ConfigImage& be
 
 Words AlsoStored(const core::Application& app, const core::Event& event, const image::ConfigImage& before) {
   const auto acted = IsAct(event) ? core::ControlOf(event) : std::nullopt;
-  if (!acted || app.image == before || std::holds_alternative<controls::MenuItem*>(*acted)) return {};
+  if (!acted || std::holds_alternative<controls::MenuItem*>(*acted)) return {};
+  if (auto other = Comparison(app, before, *acted).Contradiction(); !other.empty()) return other;
+  if (app.image == before) return {};
   if (!core::Picks(event, app.frmMain.ComboReg)) return Comparison(app, before, *acted).Line();
   return AlsoStoredLine(OtherTabsStored(app, before));
 }

@@ -13,8 +13,9 @@ namespace ovl::changes {
 bool IsAct(const core::Event& event);
 
 // One line with captions and list entries, such as "Also stored: RX BAUDRATE AUTO, TX BAUDRATE 9600."; empty
-// if the action stored nothing else. It is also empty for an action that loads a whole image. After a pick in
-// the register list it names what is on the other tabs, and the tab in front of it.
+// if the action stored nothing else. If a list now shows another entry than it has stored, the line says that
+// instead: "Stored: AUTO LINEFEED ON, not OFF." It is also empty for an action that loads a whole image.
+// After a pick in the register list it names what is on the other tabs, and the tab in front of it.
 phrases::Words AlsoStored(const core::Application& app, const core::Event& event,
                           const image::ConfigImage& before);
 
