@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <map>
 #include <sstream>
+#include <system_error>
 #include <utility>
 
 #include "acts/backup.h"
@@ -90,7 +91,9 @@ ExitStatus Export(const Wanted& wanted, std::ostream& output, std::ostream&) {
 
 // A text form keeps the words of a person, and "import" writes record streams.
 void ExpectNoTextForm(const std::string& path) {
-  if (std::filesystem::is_regular_file(path) && text_form::IsTextForm(ReadFile(path).bytes))
+  std::error_code absent;
+  const bool is_there = std::filesystem::is_regular_file(path, absent);
+  if (is_there && text_form::IsTextForm(ReadFile(path).bytes))
     Wrong(path + ": this file is a text form. Name another file: import writes a record stream");
 }
 
@@ -178,7 +181,8 @@ bool HasMoreThanNotes(const CheckedFile& file) {
 
 // A file that cannot be checked does not keep the others from it.
 ExitStatus Check(const Wanted& wanted, std::ostream& output, std::ostream& errors) {
-  if (!wanted.folder.empty() && !std::filesystem::is_directory(wanted.folder))
+  std::error_code absent;
+  if (!wanted.folder.empty() && !std::filesystem::is_directory(wanted.folder, absent))
     Wrong(wanted.folder + ": there is no such folder");
   Viewers viewers;
   std::vector<CheckedFile> files;
