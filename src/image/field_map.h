@@ -55,6 +55,7 @@ struct FieldRow {
 
 std::span<const FieldRow> FieldTable();
 const FieldRow* FindField(std::string_view name);
+// In constant time, for every field is in the table.
 const FieldRow& RowOf(FieldId field);
 
 int DigitsOf(const FieldRow& row, firmware::Layout layout);

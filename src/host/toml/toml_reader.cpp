@@ -20,6 +20,7 @@ using text_form::Document;
 using text_form::Entry;
 using text_form::Position;
 using text_form::Problem;
+using text_form::Table;
 using text_form::Value;
 using text_form::ValueKind;
 
@@ -112,18 +113,21 @@ class LineReader {
     Document read;
     AddTable(read, parsed.table());
     if (is_table && !parsed.table().empty()) table_ = TableName(parsed.table().begin()->first);
-    const bool is_in_table = !is_table && !(table_ && table_->empty());  // where a point in a name makes none
-    for (auto& table : read.tables) {
-      if (is_in_table) continue;
-      table.at.line = number;
-      if (IsNew({table.name, {}}, "[" + text_form::Escaped(table.name) + "]", table.at))
-        document_.tables.push_back(std::move(table));
-    }
+    // A point in a name makes a table only before the first table.
+    if (is_table || (table_ && table_->empty())) TakeTables(std::move(read.tables), number);
     for (auto& entry : read.entries) {
       entry.at.line = entry.value.at.line = number;
       if (table_) TakeEntry(std::move(entry), is_table);
     }
     if (is_table && !read.entries.empty()) table_.reset();  // a table within a table
+  }
+
+  void TakeTables(std::vector<Table> tables, int number) {
+    for (auto& table : tables) {
+      table.at.line = number;
+      if (IsNew({table.name, {}}, "[" + text_form::Escaped(table.name) + "]", table.at))
+        document_.tables.push_back(std::move(table));
+    }
   }
 
   void TakeEntry(Entry entry, bool is_table) {
