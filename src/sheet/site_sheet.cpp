@@ -19,6 +19,8 @@ using Lines = std::vector<Line>;
 constexpr std::string_view kEmpty = "&#160;";  // a cell without anything would spoil the space below a table
 constexpr std::size_t kPairs = 3;              // settings beside each other
 constexpr std::string_view kTitleText = "Title_Text";
+constexpr const char* kChangedWords =
+    "<p class=\"head\">Some of these settings have changed and were not downloaded to the unit.</p>\n";
 
 // The sizes are such that 24 exceptions and 16 alarms fit on page 2 of either paper.
 constexpr std::string_view kHead = R"(<!DOCTYPE html>
@@ -135,12 +137,13 @@ std::string HandLines() {
 }  // namespace
 
 SiteSheet::SiteSheet(const core::Application& like, const image::ConfigImage& image,
-                     std::span<const checks::Finding> findings)
+                     std::span<const checks::Finding> findings, Changes changes)
     : findings_(RowsOf(findings)) {
   text_form::Catalogue catalogue(like);
   const auto lines = text_form::LinesOf(catalogue, image);
   const auto sum = Checksum(image, like.image_firmware).value_or("none: the configuration is not complete");
-  settings_ = TitleOf(like, sum, 1) + HandLines() + Sections(lines, like, image);
+  settings_ = TitleOf(like, sum, 1) + HandLines() +
+              (changes == Changes::kNotDownloaded ? kChangedWords : "") + Sections(lines, like, image);
   slots_ = TitleOf(like, sum, 2) + SlotTable(acts::SlotKind::kException, lines, like, image) +
            SlotTable(acts::SlotKind::kAlarm, lines, like, image);
 }

@@ -6,6 +6,7 @@
 #include <QMenu>
 #include <utility>
 
+#include "acts/unsaved_changes.h"
 #include "ui/print/printer.h"
 #include "ui/print/site_sheet.h"
 
@@ -16,7 +17,8 @@ namespace {
 // send another one.
 void Print(const core::Application& app, const PrintHooks& hooks) {
   if (app.ended || app.handling || !app.frmMain.form.enabled) return;
-  const auto sheet = SiteSheetOf(app, app.image);
+  const auto changes = acts::HasUnsavedChanges(app) ? sheet::Changes::kNotDownloaded : sheet::Changes::kNone;
+  const auto sheet = SiteSheetOf(app, app.image, changes);
   const auto printed = PrintWithDialog(hooks.front(), kSiteSheetTitle,
                                        [&](QPagedPaintDevice& device) { PrintSiteSheet(sheet, device); });
   if (app.ended || printed == Printed::kCancelled) return;

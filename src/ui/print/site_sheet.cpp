@@ -30,8 +30,9 @@ void EnlargeToFit(QTextDocument& document, QSizeF paper) {
 
 }  // namespace
 
-sheet::SiteSheet SiteSheetOf(const core::Application& like, const image::ConfigImage& image) {
-  return sheet::SiteSheet(like, image, checks::FindingsOf(like, image));
+sheet::SiteSheet SiteSheetOf(const core::Application& like, const image::ConfigImage& image,
+                             sheet::Changes changes) {
+  return {like, image, checks::FindingsOf(like, image), changes};
 }
 
 void LayOutSiteSheet(const sheet::SiteSheet& sheet, QSizeF paper, QTextDocument& document) {

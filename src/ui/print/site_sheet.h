@@ -18,7 +18,8 @@ namespace ovl::ui {
 inline const QString kSiteSheetTitle = QStringLiteral("Site Sheet");
 
 // For an image of the firmware of `like`, with the findings of all checks.
-sheet::SiteSheet SiteSheetOf(const core::Application& like, const image::ConfigImage& image);
+sheet::SiteSheet SiteSheetOf(const core::Application& like, const image::ConfigImage& image,
+                             sheet::Changes changes = sheet::Changes::kNone);
 
 // On two pages, with as many findings as fit on the first one. The pages are as large as the paper, or larger
 // if the settings need that.

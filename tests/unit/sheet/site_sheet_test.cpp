@@ -64,6 +64,12 @@ TEST_F(SiteSheet, HasTheExceptionsAndAlarmsThatAreInUse) {
   EXPECT_TRUE(Has("Alarms 1 to 3, 5, 6 and 8 to 15 are free."));
 }
 
+TEST_F(SiteSheet, SaysIfTheUnitMayNotHaveAllOfIt) {
+  const auto html = sheet::SiteSheet(app_, app_.image, {}, sheet::Changes::kNotDownloaded).Html();
+  EXPECT_NE(html.find("not downloaded"), std::string::npos);
+  EXPECT_FALSE(Has("not downloaded"));
+}
+
 TEST_F(SiteSheet, TheChecksumIsThatOfTheStreamOfADownload) {
   EXPECT_EQ(sheet::Crc32("123456789"), 0xCBF43926);
   image::StoreExceptionText(app_.image.at(FieldId::EXCPSTRS, 24), app_.image_firmware, "VOID");
