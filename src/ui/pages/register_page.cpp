@@ -97,6 +97,13 @@ QWidget* RegisterList(Bindings& bindings) {
   side->setFixedWidth(kMargin + kRegisterListWidth);
   QObject::connect(filter, &QLineEdit::textChanged, count,
                    [count, list] { count->setText(CountText(*list)); });
+  // A register that came with a file or an upload is shown, whatever was looked for before.
+  bindings.OnRefresh([filter, list, &form, register_detector = ChangeDetector<int>()]() mutable {
+    const int row = form.ComboReg.position;
+    if (register_detector.Update(row) && row >= 0 && row < list->count() && list->isRowHidden(row))
+      filter->clear();
+    return false;
+  });
   bindings.OnRefresh([count, list, &form, entries = ChangeDetector<std::size_t>()]() mutable {
     if (!entries.Update(form.ComboReg.items.size())) return false;
     count->setText(CountText(*list));

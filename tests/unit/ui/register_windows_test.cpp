@@ -218,6 +218,9 @@ TEST_F(ScreenTest, TheFilterShowsRegistersWithAllItsWordsAndAPickSendsTheTruePos
   Keys({Qt::Key_Return});
   EXPECT_EQ(model.position, picked);
   EXPECT_EQ(Find<QLabel>("RegisterCount").text(), "No register has these words.");
+  Select("GENERIC");
+  EXPECT_EQ(filter.text(), "") << "the register of an opened file was hidden";
+  EXPECT_EQ(list.currentRow(), model.position);
 }
 
 TEST_F(ScreenTest, TheSubMenuFollowsTheChosenModel) {
