@@ -35,7 +35,7 @@ QRectF Scaled(const QRectF& place) {
 }
 
 bool IsLive(LinkState state) {
-  return state == LinkState::kAccess || state == LinkState::kUploading || state == LinkState::kDownloading;
+  return state == LinkState::kAccess || IsTransfer(state);
 }
 
 }  // namespace
@@ -50,6 +50,10 @@ LinkState LinkStateOf(const core::Application& app) {
   if (access && app.LinkMode == core::kLinkUpload) return LinkState::kUploading;
   if (access && app.LinkMode == core::kLinkDownload) return LinkState::kDownloading;
   return access ? LinkState::kAccess : LinkState::kOpen;
+}
+
+bool IsTransfer(LinkState state) {
+  return state == LinkState::kUploading || state == LinkState::kDownloading;
 }
 
 QString LinkStateText(LinkState state) {
@@ -201,8 +205,7 @@ void LinkDrawing::DrawMark(QPainter& painter) const {
   }
   painter.setBrush(Qt::NoBrush);
   painter.setPen(pen);
-  const bool moving = shown_.state == LinkState::kUploading || shown_.state == LinkState::kDownloading;
-  if (shown_.hint != Hint::kNone && !moving && shown_.state != LinkState::kLost)
+  if (shown_.hint != Hint::kNone && !IsTransfer(shown_.state) && shown_.state != LinkState::kLost)
     DrawArrows(painter, shown_.hint == Hint::kToUnit, false);
 }
 

@@ -235,7 +235,7 @@ void StatusStrip::ForgetOutdated() {
     failures_before_file_ = app_.failures_noted;
     cancelled_with_.reset();
   }
-  if (done_with_ && *done_with_ != app_.image) {
+  if (done_with_ && (*done_with_ != app_.image || IsTransfer(LinkStateOf(app_)))) {
     file_message_.clear();
     done_with_.reset();
   }

@@ -59,7 +59,7 @@ class StatusStrip : public QWidget {
   void SetRescueNotice(const QString& notice);
 
   // What became of a file, until the next message of this kind. That an act is done also goes when the
-  // configuration changes; a failure stays. An empty text takes away what was shown.
+  // configuration changes or a transfer begins; a failure stays. An empty text takes away what was shown.
   void ShowDone(const QString& message);
   void ShowFailure(const QString& message);
 
