@@ -25,6 +25,18 @@ void ScrollTo(QWidget& widget) {
   }
 }
 
+QRect OnScreen(const QWidget& widget) {
+  return {widget.mapToGlobal(QPoint()), widget.size()};
+}
+
+// The label beside a control, or the control itself.
+QWidget& CaptionOf(QWidget& control) {
+  for (auto* label : control.parentWidget()->findChildren<QLabel*>()) {
+    if (label->buddy() == &control) return *label;
+  }
+  return control;
+}
+
 }  // namespace
 
 SettingWindow::SettingWindow(Bindings& bindings, const QString& name, const QString& title, QWidget* parent)
@@ -95,6 +107,7 @@ void SettingWindow::GoTo(const SettingGoal& goal) {
   if (widget == nullptr || !widget->isVisibleTo(parentWidget())) return;
   widget->setFocus(Qt::ShortcutFocusReason);
   ScrollTo(*widget);
+  MoveAside(*this, OnScreen(*widget).united(OnScreen(CaptionOf(*widget))));
 }
 
 QPushButton* StatusButton(SettingWindow& window, const QString& name, const QString& tip) {

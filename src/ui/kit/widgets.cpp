@@ -338,4 +338,15 @@ void StayOnScreen(QWidget& window) {
   new ScreenKeeper(window);
 }
 
+void MoveAside(QWidget& window, const QRect& shown) {
+  const auto frame = window.frameGeometry();
+  if (!frame.intersects(shown)) return;
+  const auto room = window.screen()->availableGeometry();
+  for (const auto place :
+       {QPoint(frame.left(), shown.bottom() + 1), QPoint(frame.left(), shown.top() - frame.height()),
+        QPoint(shown.right() + 1, frame.top()), QPoint(shown.left() - frame.width(), frame.top())}) {
+    if (room.contains(QRect(place, frame.size()))) return window.move(place);
+  }
+}
+
 }  // namespace ovl::ui

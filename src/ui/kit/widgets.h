@@ -116,4 +116,7 @@ QSize RoomOnScreen(const QWidget& window);
 // smaller where the screen is.
 void StayOnScreen(QWidget& window);
 
+// Moves a window that covers a part of the screen beside it. Stays where it is if there is no room.
+void MoveAside(QWidget& window, const QRect& shown);
+
 }  // namespace ovl::ui

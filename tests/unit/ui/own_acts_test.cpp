@@ -93,6 +93,15 @@ TEST_F(ChangesTest, LeadToTheControlAndPickItsExceptionOrAlarm) {
   EXPECT_EQ(app.frmMain.ComboExcp[0].position, 6);
   EXPECT_EQ(Main().focusWidget()->objectName(), "cmdSetRange");
 
+  auto& window = *List().window();
+  const auto& parity = Find("ComboCOMM(3)");
+  window.resize(window.minimumSizeHint());
+  window.move(parity.mapToGlobal(QPoint(1, 1)));
+  OpenRow(1, 0);
+  const QRect place(parity.mapToGlobal(QPoint()), parity.size());
+  EXPECT_FALSE(window.frameGeometry().intersects(place)) << "the window covers what it leads to";
+  OpenRow(2, 0);
+
   app.frmMain.form.enabled = false;
   OpenRow(1, 0);
   EXPECT_EQ(Main().Tabs().currentIndex(), kExceptionTab) << "another window blocks the main window";
