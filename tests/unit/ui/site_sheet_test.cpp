@@ -2,6 +2,7 @@
 #include <QFile>
 #include <QTextDocument>
 
+#include "firmware/firmware_table.h"
 #include "image/slot_records.h"
 #include "screen.h"
 #include "sheet/site_sheet.h"
@@ -43,11 +44,12 @@ int PagesOf(const QString& path) {
   return static_cast<int>(file.readAll().count("/Type /Page\n"));
 }
 
-class SiteSheetFile : public ::testing::TestWithParam<firmware::FirmwareId> {};
+class SiteSheetFile : public ::testing::TestWithParam<std::string> {};
 
 TEST_P(SiteSheetFile, OfAFullConfigurationHasTwoPages) {
   core::Application app;
-  start::ServeFirmware(app, GetParam());
+  const auto firmware = firmware::ServedFirmware(GetParam());
+  start::ServeFirmware(app, firmware);
   checks::Finding finding;
   finding.words = std::string(
       "Exception 24, \"24 AMOUNT & WIDE <VOID> MW@#%WWWWWWWWWWW\", is not displayed, put out or kept in the "
@@ -55,8 +57,8 @@ TEST_P(SiteSheetFile, OfAFullConfigurationHasTwoPages) {
   const std::vector<checks::Finding> findings(40, finding);
   const TemporaryFolder folder;
   const auto file = QString::fromStdString(folder.File("sheet.pdf"));
-  for (const auto& image : {FullImage(GetParam()), text_form::FilledImage(GetParam(), 'C')}) {
-    const sheet::SiteSheet sheet(app, image, findings);
+  for (const auto& image : {FullImage(firmware), text_form::FilledImage(firmware, 'C')}) {
+    const sheet::SiteSheet sheet(app, image, findings, sheet::Changes::kNotDownloaded);
     for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
       ASSERT_TRUE(ui::WriteSiteSheet(sheet, file, ui::SheetFormat::kPdf, paper).Ok());
       EXPECT_EQ(PagesOf(file), 2) << QPageSize::name(paper).toStdString();
@@ -86,10 +88,8 @@ TEST(SiteSheetLayout, HasAsManyFindingsAsFitAndCountsTheOthers) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Families, SiteSheetFile,
-                         ::testing::Values(firmware::FirmwareId{"V1400", "R12"},
-                                           firmware::FirmwareId{"V1300", "R14"}),
-                         [](const auto& each) { return each.param.Joined(); });
+INSTANTIATE_TEST_SUITE_P(Families, SiteSheetFile, ::testing::Values("V1400R12", "V1300R14"),
+                         [](const auto& each) { return each.param; });
 
 }  // namespace
 }  // namespace ovl::testing
