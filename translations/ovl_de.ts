@@ -457,15 +457,6 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
         <translation>%1 unterscheidet sich von den Registerkarten: %2.</translation>
     </message>
     <message>
-        <source>A download would change nothing if the unit has the configuration that was last uploaded, opened or downloaded.</source>
-        <translation>„Schreiben“ würde in einem Gerät mit der zuletzt geladenen oder geschriebenen Konfiguration nichts ändern.</translation>
-    </message>
-    <message>
-        <source>A download would change %1 if the unit has the configuration that was last uploaded, opened or downloaded.</source>
-        <comment>&quot;3 settings&quot;</comment>
-        <translation>„Schreiben“ würde in einem Gerät mit der zuletzt geladenen oder geschriebenen Konfiguration Folgendes ändern: %1.</translation>
-    </message>
-    <message>
         <source>Here</source>
         <translation>Hier</translation>
     </message>
@@ -480,10 +471,6 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     <message>
         <source>Now</source>
         <translation>Jetzt</translation>
-    </message>
-    <message>
-        <source>Shows what a download would change in the unit: what has changed since the last load or download (Ctrl+D)</source>
-        <translation>Zeigt, was „Schreiben“ im Gerät ändern würde, also was sich seit dem letzten Laden oder Schreiben geändert hat (Strg+D)</translation>
     </message>
     <message>
         <source>%1 changed</source>
@@ -505,6 +492,19 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
     <message>
         <source>Bytes now</source>
         <translation>Bytes jetzt</translation>
+    </message>
+    <message>
+        <source>Nothing has changed since the last upload, download or Open.</source>
+        <translation>Seit dem letzten Auslesen, Schreiben oder Öffnen hat sich nichts geändert.</translation>
+    </message>
+    <message>
+        <source>Since the last upload, download or Open, %1 changed. A download writes all settings into the unit, not only the changed ones.</source>
+        <comment>&quot;3 settings&quot;</comment>
+        <translation>Seit dem letzten Auslesen, Schreiben oder Öffnen geändert: %1. „Schreiben“ überträgt alle Einstellungen in das Gerät, nicht nur die geänderten.</translation>
+    </message>
+    <message>
+        <source>Shows what has changed since the last upload, download or Open (Ctrl+D)</source>
+        <translation>Zeigt, was sich seit dem letzten Auslesen, Schreiben oder Öffnen geändert hat (Strg+D)</translation>
     </message>
 </context>
 <context>

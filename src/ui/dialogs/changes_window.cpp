@@ -66,12 +66,12 @@ QString ChangesWindow::SummaryOf(const std::vector<changes::SettingChange>& rows
         .arg(other_->file, CountText(rows));
   if (rows.empty())
     return QCoreApplication::translate("ChangesWindow",
-                                       "A download would change nothing if the unit has the configuration "
-                                       "that was last uploaded, opened or downloaded.");
-  return QCoreApplication::translate("ChangesWindow",
-                                     "A download would change %1 if the unit has the configuration "
-                                     "that was last uploaded, opened or downloaded.",
-                                     "\"3 settings\"")
+                                       "Nothing has changed since the last upload, download or Open.");
+  return QCoreApplication::translate(
+             "ChangesWindow",
+             "Since the last upload, download or Open, %1 changed. A download writes all "
+             "settings into the unit, not only the changed ones.",
+             "\"3 settings\"")
       .arg(CountText(rows));
 }
 
@@ -85,12 +85,10 @@ void ChangesWindow::Fill(const std::vector<changes::SettingChange>& rows) {
 }
 
 QPushButton* BuildChangesButton(Bindings& bindings, ChangesWindow& window) {
-  auto* button =
-      StatusButton(window, QStringLiteral("StatusChanges"),
-                   QCoreApplication::translate(
-                       "ChangesWindow",
-                       "Shows what a download would change in the unit: what has changed since the last "
-                       "load or download (Ctrl+D)"));
+  auto* button = StatusButton(
+      window, QStringLiteral("StatusChanges"),
+      QCoreApplication::translate("ChangesWindow",
+                                  "Shows what has changed since the last upload, download or Open (Ctrl+D)"));
   bindings.OnRefresh([&app = bindings.Model(), button, &window, known = ChangeDetector<image::ConfigImage>(),
                       image = ChangeDetector<image::ConfigImage>()]() mutable {
     window.Refresh();

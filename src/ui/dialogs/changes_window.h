@@ -1,6 +1,6 @@
-// Shows what a download would change in the unit, in the words of the form. It compares the image with the
-// one that was last uploaded, opened, loaded at the start or downloaded. It writes nothing; a row leads to
-// the control of its setting.
+// Shows what has changed since the last load or download, in the words of the form. It compares the image
+// with the one that was last uploaded, opened, loaded at the start or downloaded. It writes nothing; a row
+// leads to the control of its setting.
 #pragma once
 
 #include <optional>
