@@ -1,6 +1,7 @@
 #include "ui/window/advice_bar.h"
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -24,7 +25,7 @@ AdviceBar::AdviceBar(Bindings& bindings, const OwnActs& acts)
   words_->setObjectName(QStringLiteral("AdviceWords"));
   words_->setTextFormat(Qt::PlainText);  // it can have names of files
   words_->setWordWrap(true);
-  words_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  words_->installEventFilter(this);
   action_->setObjectName(QStringLiteral("AdviceAction"));
   action_->setToolTip(QCoreApplication::translate("AdviceBar", "Does the next step of the advice."));
   close_->setObjectName(QStringLiteral("AdviceClose"));
@@ -43,6 +44,13 @@ AdviceBar::AdviceBar(Bindings& bindings, const OwnActs& acts)
     ShowFirst();
   });
   bindings.OnRefresh([this] { return ShowFirst(); });
+}
+
+// A label with text that can be selected lays it out as a document, which takes time that a start does not
+// need.
+bool AdviceBar::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Enter) words_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  return QWidget::eventFilter(watched, event);
 }
 
 bool AdviceBar::ShowFirst() {

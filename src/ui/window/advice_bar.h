@@ -17,6 +17,9 @@ class AdviceBar : public QFrame {
   // The acts must outlive the bar.
   AdviceBar(Bindings& bindings, const OwnActs& acts);
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   // Shows the most important line. True if the bar appears or disappears.
   bool ShowFirst();
