@@ -19,6 +19,13 @@ std::vector<QWidget*> VisibleWindows() {
   return windows;
 }
 
+// Those with a frame. Nobody can pull at a popup.
+QWidget* AnyFramedWindow(Random& random) {
+  auto windows = VisibleWindows();
+  std::erase_if(windows, [](const QWidget* window) { return window->windowType() == Qt::Popup; });
+  return windows.empty() ? nullptr : random.Any(windows);
+}
+
 // A popup takes all input while it is open.
 QWidget* AnyWindow(Random& random) {
   if (auto* popup = QApplication::activePopupWidget()) return popup;
@@ -122,17 +129,15 @@ std::string Wheel(Site&, Random& random) {
 }
 
 std::string Resize(Site&, Random& random) {
-  auto windows = VisibleWindows();
-  if (windows.empty()) return {};
-  auto* window = random.Any(windows);
+  auto* window = AnyFramedWindow(random);
+  if (window == nullptr) return {};
   window->resize(random.From(200, 1300), random.From(150, 900));
   return "resize " + NameOf(*window);
 }
 
 std::string MoveFocus(Site&, Random& random) {
-  auto windows = VisibleWindows();
-  if (windows.empty()) return {};
-  auto* window = random.Any(windows);
+  auto* window = AnyFramedWindow(random);
+  if (window == nullptr) return {};
   window->activateWindow();
   return "activate " + NameOf(*window);
 }
@@ -174,9 +179,8 @@ std::string ChooseMenuItem(Site& site, Random& random) {
 }
 
 std::string CloseWindow(Site& site, Random& random) {
-  auto windows = VisibleWindows();
-  if (windows.empty()) return {};
-  auto* window = random.Any(windows);
+  auto* window = AnyFramedWindow(random);
+  if (window == nullptr) return {};
   if (window == &site.screen.Main() && !random.OneOf(10)) return {};
   const auto words = "close " + NameOf(*window);
   window->close();

@@ -1,9 +1,11 @@
 #include "line.h"
 
+#include "firmware/firmware_table.h"
+
 namespace ovl::testing {
 
 Line::Line(ui::Program& program, const firmware::FirmwareId& firmware)
-    : program_(program), firmware_(firmware.Joined() == "V1410R1" ? "V1400R7" : firmware.Joined()) {
+    : program_(program), firmware_(firmware::ServedFirmware(firmware.Joined()).Joined()) {
   unit_ = std::make_unique<SimulatedUnit>(SimulatedUnitSetup{.firmware = firmware_, .speed = 0});
   auto& serial = program.Model().platform.serial;
   serial.open = [this](const core::LineSettings&) {

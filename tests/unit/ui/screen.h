@@ -18,6 +18,7 @@
 #include <memory>
 #include <stdexcept>
 
+#include "firmware/firmware_table.h"
 #include "images/default_images.h"
 #include "support/harness.h"
 #include "ui/app/program.h"
@@ -89,7 +90,7 @@ class Screen {
   explicit Screen(const firmware::FirmwareId& firmware = {"V1400", "R12"}, Pages pages = Pages::kAll) {
     ui::ApplyTheme(ui::Theme::kLight);
     MakeSite(folder, firmware);
-    images::WriteDefaultImages(folder.Path().string(), firmware);
+    images::WriteDefaultImages(folder.Path().string(), firmware::ServedFirmware(firmware.Joined()));
     const auto path = QString::fromStdString(folder.Path().string());
     program = std::make_unique<ui::Program>(path, path);
     App().platform.show_message = [this](const core::MessageBox& box) {
@@ -100,7 +101,8 @@ class Screen {
     serial.open = [](const core::LineSettings&) { return core::Result(); };
     serial.write = [](std::string_view) { return core::Result(); };
     serial.close = serial.clear_input = serial.clear_output = [] {};
-    if (program->Start() != core::Outcome::kDone) throw std::runtime_error("no start");
+    if (program->Start() != core::Outcome::kDone)
+      throw std::runtime_error("no start: " + (boxes.empty() ? App().StatusNote : boxes.front()));
     if (pages == Pages::kAll) OnScreen().BuildAll();
     Main().resize(960, 600);
   }
