@@ -43,14 +43,21 @@ HelpBrowser::HelpBrowser(const HelpPages& pages, QWidget* parent) : QTextBrowser
   connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl& source) { OnSourceChanged(source); });
 }
 
+// A page with a long table is read and styled in many steps. It is laid out once, when its source has
+// changed, and not after each of them.
 QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
-  if (type == QTextDocument::MarkdownResource) return pages_.Text(name.fileName());
+  if (type == QTextDocument::MarkdownResource) {
+    document()->setLayoutEnabled(false);
+    return pages_.Text(name.fileName());
+  }
   return QTextBrowser::loadResource(
       type, QUrl::fromLocalFile(pages_.Folder() + QLatin1Char('/') + name.fileName()));
 }
 
 void HelpBrowser::OnSourceChanged(const QUrl& source) {
   StyleHelp(*document(), HairlineColor(palette()));
+  document()->setLayoutEnabled(true);
+  document()->markContentsDirty(0, document()->characterCount());
   if (source.hasFragment()) ScrollTo(source.fragment());
 }
 

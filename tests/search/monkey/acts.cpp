@@ -45,8 +45,10 @@ QWidget* AnyWidget(Random& random) {
 }
 
 std::string NameOf(const QWidget& widget) {
-  const auto name = widget.objectName().toStdString();
-  return name.empty() ? std::string(widget.metaObject()->className()) : name;
+  if (!widget.objectName().isEmpty()) return widget.objectName().toStdString();
+  const auto* button = qobject_cast<const QAbstractButton*>(&widget);
+  const bool has_words = button != nullptr && !button->text().isEmpty();
+  return has_words ? button->text().toStdString() : std::string(widget.metaObject()->className());
 }
 
 QPoint AnyPoint(Random& random, const QWidget& widget) {

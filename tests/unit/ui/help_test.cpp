@@ -143,6 +143,7 @@ TEST_F(HelpWindowTest, OpensThePageOfTheActiveWindowSearchesAndGoesBack) {
   Main().Tabs().setCurrentIndex(kExceptionTab);
   Press(*Main().Tabs().currentWidget(), Qt::Key_F1);
   EXPECT_EQ(Page().source().fileName(), "exception_report.md");
+  const auto size = Page().document()->size();
 
   auto& search = *Help()->findChild<QLineEdit*>();
   auto& list = *Help()->findChild<QListWidget*>();
@@ -153,6 +154,7 @@ TEST_F(HelpWindowTest, OpensThePageOfTheActiveWindowSearchesAndGoesBack) {
   EXPECT_EQ(Page().source().fileName(), "text_setup.md");
   Page().backward();
   EXPECT_EQ(Page().source().fileName(), "exception_report.md");
+  EXPECT_EQ(Page().document()->size(), size) << "it has the same style as before";
   Press(*Help(), Qt::Key_Escape);
   EXPECT_TRUE(search.text().isEmpty() && Help()->isVisible());
   Press(*Help(), Qt::Key_Escape);
