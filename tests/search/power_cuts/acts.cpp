@@ -2,12 +2,14 @@
 
 #include <unistd.h>
 
+#include <QCoreApplication>
 #include <cstdio>
 #include <memory>
 
 #include "acts/backup.h"
 #include "host/files.h"
 #include "support/harness.h"
+#include "ui/app/unsaved_copy.h"
 #include "unit/memory.h"
 
 namespace ovl::testing {
@@ -25,6 +27,32 @@ Act Backup() {
     return Result{acts::SaveBackup(program->app, path).Ok(), {}};
   };
   return {"Save Backup", "kept.bin", true, kOld, run};
+}
+
+// Two changes, so that the second copy replaces the first one.
+Act UnsavedChanges() {
+  auto program = std::make_shared<Harness>(firmware::FirmwareId{"V1400", "R12"});
+  program->app.platform.files = host::DiskFiles();
+  program->Start();
+  const auto change = [program](const char* digits) {
+    program->app.image[image::FieldId::DECIMAL_POINT_BAK] = digits;
+    return acts::ReopenableFileOf(program->app);
+  };
+  const auto first = change("01");
+  const auto run = [program, change](const std::string& folder, const std::string&) {
+    int count = 0;
+    const QCoreApplication application(count, nullptr);
+    ui::UnsavedCopy copy(program->app, QString::fromStdString(folder));
+    bool written = true;
+    copy.report = [&](const core::Result& result) { written = written && result.Ok(); };
+    for (const auto* digits : {"01", "02"}) {
+      change(digits);
+      copy.WriteSoonIfChanged();
+      copy.WritePending();
+    }
+    return Result{written, {}};
+  };
+  return {"unsaved copy", "unsaved V1400R12 1.bin", false, {}, run, {first}};
 }
 
 Act UnitMemory() {
@@ -53,7 +81,7 @@ Act Setup() {
 
 std::vector<Act> ActsOfAllTools() {
   auto all = AllActs();
-  for (auto act : {Backup(), UnitMemory(), Setup()}) all.push_back(std::move(act));
+  for (auto act : {Backup(), UnsavedChanges(), UnitMemory(), Setup()}) all.push_back(std::move(act));
   return all;
 }
 

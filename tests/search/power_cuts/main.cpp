@@ -25,11 +25,17 @@ struct Outcome {
   bool kept = false;  // after the end
 };
 
+// Nothing where the act makes the file.
+std::optional<std::string> Before(const Act& act) {
+  return act.before.empty() ? std::nullopt : std::optional(act.before);
+}
+
 bool IsWhole(const Act& act, const std::optional<std::string>& content, const std::string& after) {
+  if (content == Before(act)) return true;
   if (!content) return false;
   // An empty store is what another process can leave, and not what a power cut may.
   const bool between = !content->empty() && std::ranges::count(act.between, *content) > 0;
-  return between || *content == act.before || *content == after;
+  return between || *content == after;
 }
 
 Outcome CutEverywhere(const Act& act, const Recording& recording, const fs::path& file,
@@ -43,7 +49,7 @@ Outcome CutEverywhere(const Act& act, const Recording& recording, const fs::path
         std::ranges::all_of(contents, [&](const auto& content) { return IsWhole(act, content, after); });
     if (!whole) ++outcome.torn;
     if (!whole) continue;
-    const bool only_old = contents == Contents{act.before}, only_new = contents == Contents{after};
+    const bool only_old = contents == Contents{Before(act)}, only_new = contents == Contents{after};
     ++(only_old ? outcome.old_files : only_new ? outcome.new_files : outcome.either);
   }
   outcome.kept = contents == Contents{after};
@@ -60,7 +66,7 @@ bool CheckAct(const Act& act) {
   const TemporaryFolder folder;
   const auto file = folder.Path() / act.file;
   fs::create_directories(file.parent_path());
-  std::ofstream(file, std::ios::binary) << act.before;
+  if (Before(act)) std::ofstream(file, std::ios::binary) << act.before;
   const auto recording =
       Record(folder.Path(), [&] { return act.run(folder.Path().string(), file.string()).done; });
   const auto after = host::ReadFile(file.string());
