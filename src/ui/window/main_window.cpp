@@ -116,6 +116,9 @@ void MainWindow::BuildTabs() {
     status_->ShowTab(current);
     RenewMnemonics();
     if (tab_shown) tab_shown();
+    // A page gives the focus back to the widget that had it before. An undo may have hidden it since.
+    auto* focus = focusWidget();
+    if (focus != nullptr && (!focus->isVisible() || !focus->isEnabled())) FocusFirstUsable(*focus);
   });
   BindTabs();
 }

@@ -240,5 +240,16 @@ TEST(LatePages, AreBuiltWhenTheyAreShownAndTheStatusBarIsTheLastStop) {
   EXPECT_EQ(screen.Focus(), "StatusChanges");
 }
 
+TEST(LatePages, GiveTheFocusToAControlThatIsShown) {
+  Screen screen;
+  screen.Main().activateWindow();
+  screen.Select("CLARITY EPOS");
+  screen.Find("ComboCLARITYEPOS").setFocus();
+  screen.Main().Tabs().setCurrentIndex(kLineTab);
+  screen.Select("GENERIC");
+  screen.Main().Tabs().setCurrentIndex(kRegisterTab);
+  EXPECT_TRUE(screen.Main().focusWidget()->isVisible()) << screen.Focus();
+}
+
 }  // namespace
 }  // namespace ovl::testing
