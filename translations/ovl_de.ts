@@ -494,17 +494,17 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
         <translation>Bytes jetzt</translation>
     </message>
     <message>
-        <source>Nothing has changed since the last upload, download or Open.</source>
-        <translation>Seit dem letzten Auslesen, Schreiben oder Öffnen hat sich nichts geändert.</translation>
+        <source>Nothing has changed since the start or the last upload, download or Open.</source>
+        <translation>Seit dem Start oder dem letzten Auslesen, Schreiben oder Öffnen hat sich nichts geändert.</translation>
     </message>
     <message>
-        <source>Since the last upload, download or Open, %1 changed. A download writes all settings into the unit, not only the changed ones.</source>
+        <source>Since the start or the last upload, download or Open, %1 changed. A download writes all settings into the unit, not only the changed ones.</source>
         <comment>&quot;3 settings&quot;</comment>
-        <translation>Seit dem letzten Auslesen, Schreiben oder Öffnen geändert: %1. „Schreiben“ überträgt alle Einstellungen in das Gerät, nicht nur die geänderten.</translation>
+        <translation>Seit dem Start oder dem letzten Auslesen, Schreiben oder Öffnen geändert: %1. „Schreiben“ überträgt alle Einstellungen in das Gerät, nicht nur die geänderten.</translation>
     </message>
     <message>
-        <source>Shows what has changed since the last upload, download or Open (Ctrl+D)</source>
-        <translation>Zeigt, was sich seit dem letzten Auslesen, Schreiben oder Öffnen geändert hat (Strg+D)</translation>
+        <source>Shows what has changed since the start or the last upload, download or Open (Ctrl+D)</source>
+        <translation>Zeigt, was sich seit dem Start oder dem letzten Auslesen, Schreiben oder Öffnen geändert hat (Strg+D)</translation>
     </message>
 </context>
 <context>

@@ -65,11 +65,11 @@ QString ChangesWindow::SummaryOf(const std::vector<changes::SettingChange>& rows
                                        "a file, \"3 settings\"")
         .arg(other_->file, CountText(rows));
   if (rows.empty())
-    return QCoreApplication::translate("ChangesWindow",
-                                       "Nothing has changed since the last upload, download or Open.");
+    return QCoreApplication::translate(
+        "ChangesWindow", "Nothing has changed since the start or the last upload, download or Open.");
   return QCoreApplication::translate(
              "ChangesWindow",
-             "Since the last upload, download or Open, %1 changed. A download writes all "
+             "Since the start or the last upload, download or Open, %1 changed. A download writes all "
              "settings into the unit, not only the changed ones.",
              "\"3 settings\"")
       .arg(CountText(rows));
@@ -87,8 +87,9 @@ void ChangesWindow::Fill(const std::vector<changes::SettingChange>& rows) {
 QPushButton* BuildChangesButton(Bindings& bindings, ChangesWindow& window) {
   auto* button = StatusButton(
       window, QStringLiteral("StatusChanges"),
-      QCoreApplication::translate("ChangesWindow",
-                                  "Shows what has changed since the last upload, download or Open (Ctrl+D)"));
+      QCoreApplication::translate(
+          "ChangesWindow",
+          "Shows what has changed since the start or the last upload, download or Open (Ctrl+D)"));
   bindings.OnRefresh([&app = bindings.Model(), button, &window, known = ChangeDetector<image::ConfigImage>(),
                       image = ChangeDetector<image::ConfigImage>()]() mutable {
     window.Refresh();

@@ -16,6 +16,7 @@ enum class LinkState { kClosed, kOpen, kAsked, kAccess, kUploading, kDownloading
 
 LinkState LinkStateOf(const core::Application& app);
 QString LinkStateText(LinkState state);
+// An upload or a download; a scan is none.
 bool IsTransfer(LinkState state);
 
 class LinkDrawing : public QWidget {

@@ -45,6 +45,10 @@ TEST_F(AdviceBarTest, AHiddenLineMakesRoomForTheNextAndAnEmptyBarDisappears) {
   screen_.App().image[image::FieldId::TRIGGER_TEXT].replace(0, 2, "03");
   EXPECT_EQ(Words().find("not those of the unit. On REMOTE, press "), std::string::npos)
       << "the setting is more important";
+  auto& line = screen_.Find<QLabel>("AdviceWords");
+  QEvent enter(QEvent::Enter);
+  QApplication::sendEvent(&line, &enter);
+  EXPECT_TRUE(line.textInteractionFlags() & Qt::TextSelectableByMouse) << "to send it to somebody";
   screen_.Click("AdviceClose");
   EXPECT_NE(Words().find("not those of the unit. On REMOTE, press "), std::string::npos) << Words();
   screen_.Click("AdviceClose");

@@ -56,6 +56,12 @@ TEST_F(TextActsTest, AnExportedTextComesBackAndIsOneActToUndo) {
   EXPECT_EQ(undo.text().remove('&').toStdString(), "Undo Import shop.toml");
   undo.trigger();
   EXPECT_TRUE(App().image == changed);
+  Choose("menuExport", "other.toml");
+  EXPECT_NE(Note("StatusFile"), "");
+  App().frmMain.MSComm1.PortOpen = App().frmMain.Picture1[3].visible = true;
+  App().LinkMode = core::kLinkUpload;
+  Show();
+  EXPECT_EQ(Note("StatusFile"), "") << "the transfer reports itself";
 }
 
 TEST_F(TextActsTest, ATextWithErrorsChangesNothingAndNamesThem) {
