@@ -4,6 +4,7 @@
 #include <QDropEvent>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScreen>
 #include <QTimer>
 #include <QUrl>
 #include <QWheelEvent>
@@ -133,7 +134,8 @@ std::string Wheel(Site&, Random& random) {
 std::string Resize(Site&, Random& random) {
   auto* window = AnyFramedWindow(random);
   if (window == nullptr) return {};
-  window->resize(random.From(200, 1300), random.From(150, 900));
+  const auto room = window->screen()->availableGeometry().bottomRight() - window->frameGeometry().topLeft();
+  window->resize(random.From(200, std::max(room.x(), 200)), random.From(150, std::max(room.y(), 150)));
   return "resize " + NameOf(*window);
 }
 
