@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QTabWidget>
+#include <QTimer>
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
@@ -88,6 +89,7 @@ inline void MakeSite(const TemporaryFolder& folder, const firmware::FirmwareId& 
 class Screen {
  public:
   explicit Screen(const firmware::FirmwareId& firmware = {"V1400", "R12"}, Pages pages = Pages::kAll) {
+    StayOpen();
     ui::ApplyTheme(ui::Theme::kLight);
     MakeSite(folder, firmware);
     images::WriteDefaultImages(folder.Path().string(), firmware::ServedFirmware(firmware.Joined()));
@@ -185,6 +187,13 @@ class Screen {
   std::unique_ptr<ui::Program> program;
 
  private:
+  // A program that ended earlier in this process has also ended the event loop. Until the loop has run once
+  // more, each dialog would close at once.
+  static void StayOpen() {
+    QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(); });
+    QCoreApplication::exec();
+  }
+
   QWidget& FocusWidget() {
     auto* window = OnScreen().Front();
     return window->focusWidget() == nullptr ? *window : *window->focusWidget();
