@@ -2,26 +2,26 @@
 # Makes the same change on every unit of a list:
 #   change_all.sh [--jobs N] devices.txt change.toml
 #   change_all.sh [--jobs N] devices.txt DATE_FORMAT_BAK=02 'TRIGGER_DELAY(2)=0A' ...
-# The change is a text form that names what it changes, or fields; the page "Fields" of the help lists their names. Each
-# unit is read first, so that the rest of it stays as it is to the bit.
-# A text that is wrong for every unit changes none, with exit status 2. Whether a unit takes the options of the register
-# in it depends on the unit: one that does not take them fails, stays as it is, and the others are changed.
+# The change is a text form with the settings to change, or a list of fields. The page "Fields" of the help lists the
+# names of the fields. The script reads each unit first, so every other bit of its configuration stays the same.
+# If the text has an error, the script changes no unit and ends with status 2. If the register of a unit does not have an
+# option of the text, this unit fails and stays unchanged. The script changes the others.
 . "$(dirname "$0")/common.sh"
 . "$(dirname "$0")/lists.sh"
 . "$(dirname "$0")/configurations.sh"
-read_options --resume "$@" # a change that is done is not to be done again
+read_options --resume "$@" # do not repeat a change that is done
 [ ${#arguments[@]} -ge 2 ] || usage "[--jobs N] DEVICES TEXT|FIELD=HEX..."
 read_list "${arguments[0]}"
 
-# Tries a text on the image that the program starts with. That is of the register GENERIC, so what is said about the
-# options of the register is no reason to refuse the text.
+# Tries a text on the image that the program starts with. This image is for the register GENERIC, so an error in the
+# options of a register is no reason to refuse the text.
 try_text() {
   local said
   said=$(started 2>&1 <<< "import $(quoted "$1")") && return
   [ -n "$said" ] && ! grep -v ': ".*" is no option of this register' <<< "$said" >&2
 }
 
-# The image that the program starts with has every field of the firmware at its length.
+# In the image that the program starts with, every field of the firmware has its right length.
 changes=()
 for change in "${arguments[@]:1}"; do
   if [ -f "$change" ]; then
@@ -36,7 +36,7 @@ for change in "${arguments[@]:1}"; do
   changes+=("set $field $value")
 done
 
-# Open would set the line for some registers; a text form is taken as it is.
+# "Open" would set the line settings for some registers. The import of a text form stores only what the text says.
 change() {
   read_unit "$1" && as_text "$unit" > "$work/before.toml" || return 1
   {

@@ -1,26 +1,26 @@
 #!/usr/bin/env bash
-# Checks that a folder holds the default image of every register of a firmware, and prints a table of what each is:
-# sound, with findings to look at, or wrong.
+# Checks that a folder contains the default image of every register of a firmware. Prints a table with a result for each
+# image: sound (no findings), with findings to look at, or wrong.
 #   check_images.sh site/V1400/R12
-# It reads files and no unit, in seconds: there is no port to wait for with --jobs, and nothing to resume. It goes on
-# after a wrong image, and ends with 1 if there is one. Images are made to be changed, so a finding is no fault.
+# It reads only files, which takes seconds, so it needs neither --jobs nor --resume. It continues after a wrong image. The
+# exit status is 1 if an image is wrong. A finding is not an error, because you may change the images.
 . "$(dirname "$0")/common.sh"
 . "$(dirname "$0")/configurations.sh"
 [ $# -eq 1 ] || usage FOLDER
 [ -d "$1" ] || refuse "$1: no such folder"
 registers=$(started <<< "list ComboReg") || refuse "$1: was not checked"
-# The findings of all files at once. Why one of them cannot be read is asked of each below.
+# The findings of all files at once. The reason why a file cannot be read is found below, for each file.
 checked=0
 ovl-script --firmware "$version$release" check -- "$1"/*.bin > "$work/findings" 2> /dev/null || checked=$?
 [ "$checked" -le 2 ] || refuse "$1: was not checked"
 images=0 with_findings=0 wrong=0
 
-# The last of what was said, without its place.
+# The last line of the output, without its place.
 reason() {
   sed '$!d; s/^stdin:[0-9]*: //; s/.*: //' "$work/said"
 }
 
-# Prints what a file is: judge FILE REGISTER
+# Prints the result for a file: judge FILE REGISTER
 judge() {
   local found findings
   [ -e "$1" ] || { echo "wrong: missing"; return; }
@@ -34,7 +34,7 @@ judge() {
 
 while read -r register; do
   name=${register:1:-1}
-  # In the file names of V1400 each slash and comma is a blank.
+  # On V1400, file names have a blank instead of each slash and comma.
   [ "$version" != V1400 ] || name=${name//[\/,]/ }
   outcome=$(judge "$1/$name.bin" "$register")
   case $outcome in

@@ -5,8 +5,8 @@
 . "$(dirname "$0")/lists.sh"
 take_list_and_folder "$@"
 
-# CmdUpDow(4) asks for remote mode, CmdUpDow(3) loads the history; the program asks where to keep it, and does not tell
-# when it cannot.
+# CmdUpDow(4) asks for remote mode, CmdUpDow(3) loads the history. The program asks for a file, and does not report it if
+# it cannot write this file.
 collect() {
   rm -f "$work/history"
   on_unit "$2" <<END || return 1

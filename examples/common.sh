@@ -1,10 +1,10 @@
 # shellcheck shell=bash
 # What the examples share. OVL_FIRMWARE is the firmware of the units, OVL_IMAGES the folder of the default images.
-# Every example ends with 0 when all is well, 2 when nothing was done because it was called wrongly or has no place for
-# its files, else another status. compare.sh has the statuses of diff.
+# The exit status of every example is 0 for success. It is 2 if nothing was done, because the usage was wrong or there was
+# no place for the files of the script. All other failures have another status. compare.sh has the exit status of diff.
 set -euo pipefail
 : "${OVL_FIRMWARE:=V1400 R12}"
-# The images are beside the programs, in a package as in an archive.
+# The path from the programs to the images is the same in the package and in the archive.
 programs=$(dirname "$(readlink -f "$(command -v ovl-script || echo /usr/bin/ovl-script)")")
 : "${OVL_IMAGES:=${programs%/bin}/share/ovl-software/images}"
 
@@ -26,15 +26,15 @@ esac
 
 [[ $OVL_FIRMWARE =~ ^(V[0-9]+)\ ?(R[0-9]+)$ ]] || refuse "OVL_FIRMWARE is \"$OVL_FIRMWARE\", not such as \"V1400 R12\""
 version=${BASH_REMATCH[1]} release=${BASH_REMATCH[2]}
-# The compact firmware has the streams and the images of another.
+# This firmware uses the streams and the images of another one.
 [ "$version$release" != V1410R1 ] || version=V1400 release=R7
 work=$(mktemp -d) || exit 2
 trap 'rm -rf "$work"' EXIT
-# A request to end waits for the transfers under way, which would go on alone and hold their devices.
+# A request to end waits for the running transfers. Otherwise they would continue alone and keep their devices open.
 trap 'exit 143' TERM
 
-# A program folder of its own. The program keeps what it reads from a unit beside the images, where not everyone may
-# write. Transfers at the same time need one each.
+# Makes a program folder for one transfer. The program stores what it reads from a unit beside the images, where not
+# every user may write. Transfers that run at the same time need a folder each.
 make_place() {
   work=$1 unit=$1/$version/upload.bin
   mkdir -p "$work/ports" "$work/$version" &&
@@ -42,14 +42,14 @@ make_place() {
 }
 make_place "$work" || exit 2
 
-# A text as ovl-script takes it.
+# Quotes a text for ovl-script.
 quoted() {
   local text=${1//\\/\\\\}
   text=${text//\"/\\\"}
   printf '"%s"' "${text//$'\n'/\\n}"
 }
 
-# Runs the statements of standard input in a program that was started.
+# Starts a program and runs the statements of standard input in it.
 started() {
   local first=$version/$release/GENERIC.bin
   [ -r "$work/$first" ] || { echo "$OVL_IMAGES/$first: the program does not start without it" >&2; return 3; }
@@ -60,8 +60,8 @@ started() {
   } | ovl-script
 }
 
-# The same with the unit behind a device: on_unit /dev/ttyUSB0. The link makes it Comport 1, at 9600 baud, 8 bits, no
-# parity. Without the link Comport 1 would be another device.
+# The same for the unit on a device: on_unit /dev/ttyUSB0. The link makes the device Comport 1, with 9600 baud, 8 bits and
+# no parity. Without the link, Comport 1 would be another device.
 on_unit() {
   local device
   rm -f "$work/ports/com1" "$unit"
@@ -74,7 +74,7 @@ on_unit() {
   } | started
 }
 
-# Puts a file in its place in one step: what was there stays if that fails.
+# Puts a file in its place in one step. If this fails, the old file stays.
 keep() {
   local place
   place=$(readlink -m -- "$2")

@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
-# Compares a unit with its file, setting by setting, or each unit of a list with the file of its name in a folder, such
-# as kitchen.toml for /dev/kitchen. A file is a configuration or a text form; a text form can name some settings only.
+# Compares a unit with a file, one setting after the other. With a list, it compares each unit with the file of its name
+# in a folder, such as kitchen.toml for /dev/kitchen. A file is a configuration or a text form. A text form can have some
+# of the settings only.
 #   compare.sh /dev/ttyUSB0 unit.bin
 #   compare.sh [--jobs N] [--resume] devices.txt folder
-# Exit status, as of diff: 0 they are the same; 1 they differ; 2 wrong usage, or a unit or a file cannot be read.
+# The exit status is that of diff: 0 no difference; 1 a difference; 2 wrong usage, or a unit or a file cannot be read.
 . "$(dirname "$0")/common.sh"
 . "$(dirname "$0")/lists.sh"
 . "$(dirname "$0")/configurations.sh"
@@ -14,7 +15,7 @@ read_options "$@"
 # 1: they differ; 2: one of them cannot be read.
 compare() {
   local report
-  # A wrong file is refused before the unit is asked.
+  # Refuses a wrong file before it reads the unit.
   if grep -qE '^ *(format|firmware|complete) *=|^ *\[' "$2"; then
     started <<< "diff $(quoted "$2")" > /dev/null || return 2
   else

@@ -1,8 +1,8 @@
 # shellcheck shell=bash disable=SC2154
-# What the examples that look at configurations share, behind common.sh.
+# What the examples that read configurations share. They include it after common.sh.
 
-# Whether a file is a configuration of the firmware; the program itself looks at no more than the first digits. Prints
-# its register, or to standard error what it is instead: fits FILE, fits FILE NAME.
+# Whether a file is a configuration of the firmware. The program itself checks only the first digits. Prints the register
+# of the file. If it does not fit, prints to standard error what it is: fits FILE, fits FILE NAME.
 fits() {
   local lines others
   lines=$(started <<< "inspect $(quoted "$1")") || return 1
@@ -12,12 +12,12 @@ fits() {
   return 1
 }
 
-# Reads the unit behind a device into the file $unit.
+# Reads the unit on a device into the file $unit.
 read_unit() {
   on_unit "$1" <<< upload && fits "$unit" "${1##*/}" > "$work/register"
 }
 
-# A configuration file as text.
+# Prints a configuration file as text.
 as_text() {
   ovl-script --firmware "$version$release" export "$1"
 }

@@ -1,5 +1,5 @@
 # shellcheck shell=bash disable=SC2154
-# What the examples for a list of units share, behind common.sh.
+# What the examples for a list of units share. They include it after common.sh.
 
 at_once=1
 
@@ -8,8 +8,8 @@ resumes=false
 # The exit status when a unit has failed.
 trouble=1
 
-# Takes the options from the front of the arguments; the rest is in `arguments`. --jobs N: how many units are served at
-# once. --resume: leaves out those that an earlier run, which failed for others, has done.
+# Takes the options from the beginning of the arguments. The rest is in `arguments`. --jobs N: works with N units at the
+# same time. --resume: leaves out the units for which an earlier run succeeded.
 read_options() {
   while true; do
     case ${1-} in
@@ -25,7 +25,7 @@ read_options() {
   arguments=("$@")
 }
 
-# Takes the devices of a list, one a line. A # at the beginning or behind a blank starts a comment.
+# Reads the devices of a list, one on each line. A # at the beginning or after a blank begins a comment.
 read_list() {
   local text twice
   list=$1
@@ -36,14 +36,14 @@ read_list() {
   [ -z "$twice" ] || refuse "$1: ${twice%%$'\n'*} is in it twice"
 }
 
-# For files that have the names of the devices.
+# Refuses devices that would have the same file name.
 refuse_same_names() {
   local twice
   twice=$(printf '%s\n' "${devices[@]##*/}" | sort | uniq -d)
   [ -z "$twice" ] || refuse "$list: several devices share the file name ${twice%%$'\n'*}"
 }
 
-# Takes a list and the folder for what is read from its units: take_list_and_folder "$@"
+# Reads the arguments: a list, and a folder for what is read from its units: take_list_and_folder "$@"
 take_list_and_folder() {
   read_options "$@"
   [ ${#arguments[@]} -eq 2 ] || usage "[--jobs N] [--resume] DEVICES FOLDER"
@@ -53,11 +53,11 @@ take_list_and_folder() {
   mkdir -p -- "$folder" || exit 2
 }
 
-# Runs a command for one device in a folder of its own, and keeps the outcome: serve NUMBER STATE COMMAND... DEVICE
-# A file "outcome" that the command leaves there is its outcome if it fails.
+# Runs a command for one device in a folder of its own, and stores the outcome: serve NUMBER STATE COMMAND... DEVICE
+# If the command fails and has written a file "outcome" there, this file is the outcome.
 serve() {
   local number=$1 state=$2 outcomes=$work/outcomes device=${*: -1}
-  trap '' INT # it ends its transfer
+  trap '' INT # finish the transfer
   make_place "$work/$number"
   if "${@:3}" > "$work/said" 2>&1; then
     echo "$device" >> "$state"
@@ -65,7 +65,7 @@ serve() {
   elif [ -s "$work/outcome" ]; then
     mv "$work/outcome" "$outcomes/$number"
   else
-    # The last of what was said, with its further lines.
+    # The last message of the output, with all its lines.
     echo "failed: $(sed '/^[^ ]*: /!H; //h; $!d; g; s/\s\+/ /g; s/^ //; s/^stdin:[0-9]*: //' "$work/said")" > \
       "$outcomes/$number"
   fi
@@ -92,8 +92,8 @@ print_table() {
   echo
 }
 
-# A request to end starts no further unit, and waits for those under way: a transfer would go on alone and hold its
-# device.
+# After a request to end, this starts no further unit and waits for the running transfers. Otherwise a transfer would
+# continue alone and keep its device open.
 end_with() {
   echo "$(basename "$0"): waiting for the units under way" >&2
   while [ -n "$(jobs -pr)" ]; do wait || true; done
@@ -101,22 +101,22 @@ end_with() {
   exit "$1"
 }
 
-# Takes the file that has the devices that are done, for this run alone: two runs would each take the units of the other
-# for its own. The lock ends with the last of the processes of the run.
+# Locks the file with the devices that are done, because two runs at the same time would mix their units. The lock ends
+# with the last process of the run.
 hold() {
   local lock
   while true; do
     exec {lock}>> "$1" || exit 2
     flock -n "$lock" || refuse "$list: another run works on this list, so nothing was done"
-    # A run that ended in between has removed the file.
+    # Another run has ended in the meantime and removed the file.
     [ "$1" -ef "/dev/fd/$lock" ] && return
     exec {lock}>&-
   done
 }
 
 # Runs a command for each device of the list, prints a table of the outcomes, and fails if one has failed:
-# each WHAT COMMAND... The file LIST.EXAMPLE.done has the devices that are done until all are. A later run for the same
-# WHAT, which says what is done to the units, leaves them out if it resumes.
+# each WHAT COMMAND... WHAT says what the run does to the units. The file LIST.EXAMPLE.done has the devices that are done,
+# until all are done. A later run with --resume and the same WHAT leaves these devices out.
 each() {
   local state what number=0 device failed different left
   state=$list.$(basename "$0" .sh).done

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Writes a configuration into a unit, reads it back and compares to the byte: restore.sh /dev/ttyUSB0 unit.bin
+# Writes a configuration into a unit, reads it back and compares every byte: restore.sh /dev/ttyUSB0 unit.bin
 . "$(dirname "$0")/common.sh"
 . "$(dirname "$0")/configurations.sh"
 [ $# -eq 2 ] || usage DEVICE FILE

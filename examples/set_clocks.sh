@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Sets the clock of every unit of a list to the time of this machine:
+# Sets the clock of every unit of a list to the time of this computer:
 #   set_clocks.sh [--jobs N] [--resume] devices.txt
 . "$(dirname "$0")/common.sh"
 . "$(dirname "$0")/lists.sh"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Reads every unit of a list and keeps its configuration as text in a folder, kitchen.toml for /dev/kitchen: for a
-# folder under version control, which then shows what has changed where.
+# Reads every unit of a list and writes its configuration as text into a folder, such as kitchen.toml for /dev/kitchen.
+# If the folder is under version control, you see what has changed in which unit.
 #   texts.sh [--jobs N] [--resume] devices.txt folder
 . "$(dirname "$0")/common.sh"
 . "$(dirname "$0")/lists.sh"

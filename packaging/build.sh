@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # Usage: build.sh [FOLDER]
-# Makes and checks everything that is given to others, in FOLDER, which must be empty, or anew in build/package:
+# Makes and checks the files of a release in FOLDER, which must be empty. Without FOLDER, it replaces build/package:
 #   ovl-software-VERSION.tar.gz                    the sources; unpacked, they build without git
 #   ovl-software_*.deb, ovl-software-images_*.deb  the Debian packages
-#   ovl-software-VERSION-linux-MACHINE.tar.gz      the programs, to be started from any folder
-# Needs root or sudo only for Debian packages that are missing.
+#   ovl-software-VERSION-linux-MACHINE.tar.gz      the programs; they start from any folder
+# It needs root or sudo only to install missing Debian packages.
 set -euo pipefail
 # shellcheck source=tools/common.sh
 . "$(dirname -- "$0")/../tools/common.sh"

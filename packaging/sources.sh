@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Usage: sources.sh [FOLDER]
-# Packs the sources as they are, without the folders of any build, into FOLDER, and prints the path of the archive.
-# Without a folder: build. Git is not asked: an unpacked archive can be packed and built in the same way.
+# Packs the sources as they are, without build folders, into an archive in FOLDER, and prints its path. Without FOLDER,
+# the archive is in the folder build. This does not use git, so the sources of an unpacked archive can be packed too.
 set -euo pipefail
 # shellcheck source=tools/common.sh
 . "$(dirname -- "$0")/../tools/common.sh"

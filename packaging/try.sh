@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # Usage: try.sh [--roots FOLDER] [--made FOLDER] [--before PACKAGE]... [--cache FOLDER] [RELEASE]...
-# Builds the packages and the archive on bare Debian systems and tries every step of their lives, as root, each in a
-# root file system of its own. The outcomes are printed at the end.
-#   --roots   keeps the bare root file systems and what was built there
-#   --made    tries what is in this folder, for instance what was built on the older release, and builds nothing
-#   --before  an older package, which is upgraded; several may be named
+# Builds the packages and the archive on new Debian systems, and tests installation, use, upgrade and removal. It runs as
+# root, and each system has a root file system of its own. At the end it prints the outcomes.
+#   --roots   keeps the new root file systems and what was built there
+#   --made    tests what is in this folder, such as what was built on the older release, and builds nothing
+#   --before  an older package that is installed first and then upgraded; you can name several
 #   --cache   a folder for ccache, which the builds then use
 # Without a release: bookworm trixie
 set -euo pipefail

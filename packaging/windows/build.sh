@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # Usage: build.sh [--build FOLDER] [--qt FOLDER]
 # Builds the programs for 64-bit Windows in FOLDER, or in build/windows, runs the stories and the tests of the model
-# under Wine, and makes the installer. Qt is built first, once, from Debian's source package, which takes an hour of two
-# processors.
-#   --qt  the build folder of such a Qt that is there already
+# under Wine, and makes the installer. The first run builds Qt from the source package of Debian, which takes an hour on
+# two cores.
+#   --qt  the build folder of an earlier such Qt
 set -euo pipefail
 # shellcheck source=tools/common.sh
 . "$(dirname -- "$0")/../../tools/common.sh"

@@ -1,5 +1,5 @@
-; Installs the programs for all users. Silent: /S /VERSION=V1400 /RELEASE=R12; without these two, and without settings from
-; before, the firmware is the one below.
+; Installs the programs for all users. Silent: /S /VERSION=V1400 /RELEASE=R12. Without these two options, the firmware is
+; that of an earlier installation, or the one below.
 Unicode true
 Target amd64-unicode
 !include FileFunc.nsh
@@ -21,7 +21,7 @@ Page instfiles
 UninstPage uninstConfirm
 UninstPage instfiles
 
-; Sets the value from the command line, or else to the second parameter if the settings have none.
+; Sets the value from the command line. Without one, it keeps the value of the settings or sets the second parameter.
 !macro Setting name fallback
   ${GetParameters} $0
   ClearErrors
@@ -42,7 +42,7 @@ Function .onInit
     SetErrorLevel 2
     Quit
   ${EndIf}
-  ; A program that runs cannot be replaced, and the one of before would stay.
+  ; A running program cannot be replaced: the old one would stay.
   SetRegView 64
   ReadRegStr $0 HKLM "${UNINSTALL}" "InstallLocation"
   ${If} ${FileExists} "$0\bin\ovl.exe"
@@ -60,7 +60,7 @@ FunctionEnd
 Section
   SetRegView 64
   SetShellVarContext all
-  ; The files of the version before are removed first: the new uninstaller does not know those that are no longer made.
+  ; First remove the files of the earlier version: the new uninstaller does not know those that no longer exist.
   ReadRegStr $0 HKLM "${UNINSTALL}" "InstallLocation"
   ${If} $0 != ""
     ExecWait '"$0\uninstall-ovl-software.exe" /S /KEEPSETTINGS _?=$0'
@@ -82,7 +82,7 @@ Section
   WriteRegStr HKLM "${UNINSTALL}" "QuietUninstallString" '"$INSTDIR\uninstall-ovl-software.exe" /S'
 SectionEnd
 
-; Only what was installed goes. A file that a person put there stays, and so does its folder.
+; Removes only what was installed. A file of a user stays, and so does its folder.
 Section "Uninstall"
   SetRegView 64
   SetShellVarContext all
