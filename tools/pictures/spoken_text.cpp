@@ -22,11 +22,22 @@ bool IsWhole(QAccessible::Role role) {
   }
 }
 
+// The accessibility bus of Linux has no value for a list, so a screen reader says its selected entry.
+QString ValueOf(const QAccessibleInterface& face) {
+  if (face.role() != QAccessible::ComboBox) return face.text(QAccessible::Value);
+  const auto* entries = face.child(0);
+  for (int entry = 0; entries != nullptr && entry < entries->childCount(); ++entry) {
+    const auto* child = entries->child(entry);
+    if (child != nullptr && child->state().selected) return child->text(QAccessible::Name);
+  }
+  return {};
+}
+
 QString LineOf(QAccessibleInterface& face) {
   const auto role = QMetaEnum::fromType<QAccessible::Role>().valueToKey(face.role());
   auto line = QLatin1String(role) + QStringLiteral(" \"%1\"").arg(face.text(QAccessible::Name));
   const auto state = face.state();
-  const auto value = face.text(QAccessible::Value);
+  const auto value = ValueOf(face);
   if (!value.isEmpty()) line += QStringLiteral(", \"%1\"").arg(value);
   if (state.checkable) line += state.checked ? QStringLiteral(", checked") : QStringLiteral(", not checked");
   if (state.disabled) line += QStringLiteral(", disabled");

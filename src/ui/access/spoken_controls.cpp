@@ -8,6 +8,14 @@
 namespace ovl::ui {
 namespace {
 
+// The accessibility bus has no value for a list: screen readers take the name of the selected entry. Qt
+// selects the current entry only when the list opens.
+void SelectCurrentEntry(QComboBox& list) {
+  if (list.view()->isVisible()) return;
+  list.view()->setCurrentIndex(
+      list.model()->index(list.currentIndex(), list.modelColumn(), list.rootModelIndex()));
+}
+
 class SpokenList : public QAccessibleWidget {
  public:
   explicit SpokenList(QComboBox& list) : QAccessibleWidget(&list, QAccessible::ComboBox), list_(list) {}
@@ -27,7 +35,9 @@ class SpokenList : public QAccessibleWidget {
 
   int childCount() const override { return 1; }
   QAccessibleInterface* child(int index) const override {
-    return index == 0 ? QAccessible::queryAccessibleInterface(list_.view()) : nullptr;
+    if (index != 0) return nullptr;
+    SelectCurrentEntry(list_);
+    return QAccessible::queryAccessibleInterface(list_.view());
   }
   int indexOfChild(const QAccessibleInterface* child) const override {
     return child->object() == list_.view() ? 0 : -1;

@@ -152,6 +152,11 @@ void AddEditor(Bindings& bindings, PageColumn& column) {
   AddRange(bindings, column);
 }
 
+// For lists on this tab that have the same caption. A screen reader does not say under which title a list is.
+void NameWithGroup(Bindings& bindings, const controls::List& list, const std::string& group) {
+  bindings.WidgetOf(list)->setAccessibleName(FormText(group) + QLatin1Char(' ') + FormText(list.caption));
+}
+
 void AddRecorder(Bindings& bindings, PageColumn& column) {
   column.Section("Frame5")
       .Unlabelled("OpDVR(0)")
@@ -163,12 +168,9 @@ void AddRecorder(Bindings& bindings, PageColumn& column) {
       .Row(RowLabel::FromModel("Label1(15)"), "ComboKLM4011(3)");
   const auto& form = bindings.Model().frmMain;
   for (std::size_t list = 0; list < form.ComboKLM4011.size(); ++list) {
-    const auto& recorder = form.OpDVR.elements.at(1 + list / 2).caption;
-    auto* widget = bindings.WidgetOf(form.ComboKLM4011[list]);
-    widget->setAccessibleName(FormText(recorder) + QLatin1Char(' ') +
-                              FormText(form.ComboKLM4011[list].caption));
+    NameWithGroup(bindings, form.ComboKLM4011[list], form.OpDVR.elements.at(1 + list / 2).caption);
     for (auto* label : column.Holder().findChildren<QLabel*>()) {
-      if (label->buddy() == widget) label->setIndent(kBelowOption);
+      if (label->buddy() == bindings.WidgetOf(form.ComboKLM4011[list])) label->setIndent(kBelowOption);
     }
   }
 }
@@ -191,6 +193,8 @@ QWidget* LowerPart(Bindings& bindings, int labels) {
       .Section("Frame14")
       .Row("ComboScroll(0)")
       .Row("ComboScroll(1)");
+  const auto& main = bindings.Model().frmMain;
+  NameWithGroup(bindings, main.ComboExcepRe[0], main.Frame7.caption);
   auto* right = new QWidget;
   PageColumn recorder(bindings, form, *right);
   AddRecorder(bindings, recorder);

@@ -59,7 +59,6 @@ bool AdviceBar::ShowFirst() {
   const auto before = std::exchange(shown_, lines.empty() ? acts::Advice() : std::move(lines.front()));
   if (before.words == shown_.words && before.caption == shown_.caption) return false;
   words_->setText(Shown(shown_.words, host::FromSystem));
-  setAccessibleName(words_->text());
   action_->setText(Shown(shown_.caption));
   action_->setVisible(!shown_.caption.empty());
   setVisible(!shown_.words.empty());

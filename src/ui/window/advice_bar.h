@@ -1,7 +1,7 @@
 // One line below the tabs: what happened, and what to do now. It is hidden while there is no advice.
 #pragma once
 
-#include <QFrame>
+#include <QWidget>
 
 #include "ui/kit/bindings.h"
 #include "ui/window/own_acts.h"
@@ -12,7 +12,7 @@ class QToolButton;
 
 namespace ovl::ui {
 
-class AdviceBar : public QFrame {
+class AdviceBar : public QWidget {
  public:
   // The acts must outlive the bar.
   AdviceBar(Bindings& bindings, const OwnActs& acts);
