@@ -35,14 +35,14 @@ TEST(Accessibility, EachControlHasANameAndAPurpose) {
   screen.Show();
   EXPECT_TRUE(pictures::SpokenText(screen.Main())
                   .contains(QStringLiteral("\nRadioButton \"IBM3151 TERMINAL\", checked: ")));
-  screen.App().frmMain.ComboCOMM[4].position = 1;
+  screen.App().frmMain.ComboCOMM[controls::Comm::kParity].position = 1;
   screen.Main().Tabs().setCurrentIndex(kLineTab);
   screen.Show();
   const auto spoken = pictures::SpokenText(screen.Main());
   EXPECT_TRUE(spoken.contains(QStringLiteral("\nPageTab \"COMMUNICATION\": Alt+4\n")))
       << spoken.toStdString();
   EXPECT_TRUE(spoken.contains(
-      QStringLiteral("\nComboBox \"PARITY\", \"ODD\": The parity of a character on the register line.\n")))
+      QStringLiteral("\nComboBox \"PARITY\", \"EVEN\": The parity of a character on the register line.\n")))
       << spoken.toStdString();
 }
 
