@@ -116,10 +116,16 @@ void MainWindow::BuildTabs() {
     status_->ShowTab(current);
     RenewMnemonics();
     if (tab_shown) tab_shown();
-    // A page gives the focus back to the widget that had it before. An undo may have hidden it since.
-    auto* focus = focusWidget();
-    if (focus != nullptr && (!focus->isVisible() || !focus->isEnabled())) FocusFirstUsable(*focus);
   });
+  // Pages and menus give the focus back to the widget that had it before. An undo or another tab may have
+  // hidden it since.
+  connect(
+      qApp, &QApplication::focusChanged, this,
+      [this] {
+        auto* focus = focusWidget();
+        if (focus != nullptr && (!focus->isVisible() || !focus->isEnabled())) FocusFirstUsable(*focus);
+      },
+      Qt::QueuedConnection);
   BindTabs();
 }
 

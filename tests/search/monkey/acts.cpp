@@ -131,7 +131,9 @@ std::string Wheel(Site&, Random& random) {
   return words;
 }
 
+// A popup takes the mouse, so nobody can pull at a window below it.
 std::string Resize(Site&, Random& random) {
+  if (QApplication::activePopupWidget() != nullptr) return {};
   auto* window = AnyFramedWindow(random);
   if (window == nullptr) return {};
   const auto room = window->screen()->availableGeometry().bottomRight() - window->frameGeometry().topLeft();

@@ -1,7 +1,8 @@
 // Does random acts in the windows of the program and compares the windows with the model after each. Prints
 // the first finding with the shortest sequence of acts that shows it.
-//   ovl-monkey [ACTS [SEED [FIRMWARE]]]
-// Without a firmware, all in turn, 500 acts each before the program starts again.
+//   ovl-monkey [ACTS [SEED [RUN [FIRMWARE]]]]
+// Starts the program again after 500 acts, with the next firmware if none is given. A finding names its run:
+// with the same seed and this run it comes again at once.
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
@@ -49,6 +50,9 @@ void NoteHold(const std::string& act, double time) {
 Outcome Run(const firmware::FirmwareId& firmware, const Seeds& seeds) {
   Outcome outcome;
   answers = Random(1);
+  // An act of an earlier run can have changed it.
+  static const auto font = QApplication::font();
+  QApplication::setFont(font);
   Site site(firmware);
   site.screen.Show();
   for (const auto seed : seeds) {
@@ -73,7 +77,8 @@ std::vector<firmware::FirmwareId> FirmwareOf(const char* name) {
   return all;
 }
 
-int Search(int acts, std::uint32_t seed, const std::vector<firmware::FirmwareId>& all) {
+int Search(int acts, std::uint32_t seed, std::size_t first_run,
+           const std::vector<firmware::FirmwareId>& all) {
   Random random(seed);
   int done = 0;
   for (std::size_t run = 0; done < acts; ++run) {
@@ -81,6 +86,7 @@ int Search(int acts, std::uint32_t seed, const std::vector<firmware::FirmwareId>
     Seeds seeds;
     for (int act = 0; act < kActsOfRun; ++act)
       seeds.push_back(static_cast<std::uint32_t>(random.Below(1 << 30)));
+    if (run < first_run) continue;
     const auto outcome = Run(firmware, seeds);
     done += static_cast<int>(outcome.acts.size());
     if (outcome.wrong.empty()) continue;
@@ -117,10 +123,11 @@ int main(int count, char** words) {
   AnswerAtRandom(answers);
   const int acts = count > 1 ? std::atoi(words[1]) : 20'000;
   const auto seed = count > 2 ? static_cast<std::uint32_t>(std::strtoul(words[2], nullptr, 10)) : 1U;
-  const auto all = FirmwareOf(count > 3 ? words[3] : nullptr);
+  const std::size_t first_run = count > 3 ? std::strtoul(words[3], nullptr, 10) : 0;
+  const auto all = FirmwareOf(count > 4 ? words[4] : nullptr);
   if (acts <= 0 || all.empty()) {
-    std::fprintf(stderr, "Usage: ovl-monkey [ACTS [SEED [FIRMWARE]]]\n");
+    std::fprintf(stderr, "Usage: ovl-monkey [ACTS [SEED [RUN [FIRMWARE]]]]\n");
     return 2;
   }
-  return Search(acts, seed, all);
+  return Search(acts, seed, first_run, all);
 }

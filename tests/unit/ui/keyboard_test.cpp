@@ -248,6 +248,11 @@ TEST(LatePages, GiveTheFocusToAControlThatIsShown) {
   screen.Main().Tabs().setCurrentIndex(kLineTab);
   screen.Select("GENERIC");
   screen.Main().Tabs().setCurrentIndex(kRegisterTab);
+  screen.Show();
+  EXPECT_TRUE(screen.Main().focusWidget()->isVisible()) << screen.Focus();
+  // The menu bar gives the focus back in this way.
+  screen.Find("ComboCLARITYEPOS").setFocus(Qt::MenuBarFocusReason);
+  screen.Show();
   EXPECT_TRUE(screen.Main().focusWidget()->isVisible()) << screen.Focus();
 }
 
