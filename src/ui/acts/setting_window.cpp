@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
-#include <QScrollArea>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -18,12 +17,6 @@ namespace ovl::ui {
 namespace {
 
 constexpr Em kStartWidth(75), kStartHeight(38.33);
-
-void ScrollTo(QWidget& widget) {
-  for (auto* around = widget.parentWidget(); around != nullptr; around = around->parentWidget()) {
-    if (auto* area = qobject_cast<QScrollArea*>(around)) area->ensureWidgetVisible(&widget);
-  }
-}
 
 QRect OnScreen(const QWidget& widget) {
   return {widget.mapToGlobal(QPoint()), widget.size()};

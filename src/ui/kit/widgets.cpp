@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScreen>
+#include <QScrollArea>
 #include <QStyledItemDelegate>
 #include <QValidator>
 #include <QWheelEvent>
@@ -164,6 +165,8 @@ void PickList::showPopup() {
     setItemDelegate(shows_details_ ? new DetailDelegate(this) : new EntryDelegate(this));
   }
   view()->setMinimumWidth(view()->sizeHintForColumn(0) + style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+  // A key also opens a list that was scrolled away. Its entries would then be outside of the window.
+  if (visibleRegion().isEmpty()) ScrollTo(*this);
   QComboBox::showPopup();
 }
 
@@ -346,6 +349,12 @@ void MoveAside(QWidget& window, const QRect& shown) {
        {QPoint(frame.left(), shown.bottom() + 1), QPoint(frame.left(), shown.top() - frame.height()),
         QPoint(shown.right() + 1, frame.top()), QPoint(shown.left() - frame.width(), frame.top())}) {
     if (room.contains(QRect(place, frame.size()))) return window.move(place);
+  }
+}
+
+void ScrollTo(QWidget& widget) {
+  for (auto* around = widget.parentWidget(); around != nullptr; around = around->parentWidget()) {
+    if (auto* area = qobject_cast<QScrollArea*>(around)) area->ensureWidgetVisible(&widget);
   }
 }
 

@@ -119,4 +119,7 @@ void StayOnScreen(QWidget& window);
 // Moves a window that covers a part of the screen beside it. Stays where it is if there is no room.
 void MoveAside(QWidget& window, const QRect& shown);
 
+// Scrolls what is around the widget until the widget is visible.
+void ScrollTo(QWidget& widget);
+
 }  // namespace ovl::ui

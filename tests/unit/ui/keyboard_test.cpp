@@ -7,6 +7,7 @@
 #include <QMenuBar>
 #include <QRadioButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSet>
 #include <QTreeView>
 #include <array>
@@ -254,6 +255,19 @@ TEST(LatePages, GiveTheFocusToAControlThatIsShown) {
   screen.Find("ComboCLARITYEPOS").setFocus(Qt::MenuBarFocusReason);
   screen.Show();
   EXPECT_TRUE(screen.Main().focusWidget()->isVisible()) << screen.Focus();
+}
+
+TEST_F(ScreenTest, AKeyScrollsToTheListThatItOpens) {
+  Main().resize(400, 300);
+  FocusOn("ComboCOMM(0)", kLineTab);
+  Show();
+  for (auto* bar : Main().Tabs().currentWidget()->findChildren<QScrollBar*>()) bar->setValue(bar->maximum());
+  auto& list = Find<QComboBox>("ComboCOMM(0)");
+  ASSERT_TRUE(list.visibleRegion().isEmpty());
+  Press(list, Qt::Key_Space, " ");
+  EXPECT_TRUE(list.view()->isVisible());
+  EXPECT_EQ(list.visibleRegion().boundingRect(), list.rect());
+  list.hidePopup();
 }
 
 }  // namespace
