@@ -25,11 +25,12 @@ std::string Unlike(const char* what, int shown, int expected) {
   return Unlike(what, QString::number(shown), QString::number(expected));
 }
 
-// Compares a widget with its control. An answer is empty if they agree.
+// Compares a widget with its control. An answer is empty if they agree. A parameter of another type than that
+// of the variant would leave the control to the last function, which compares nothing.
 struct Compared {
   const QWidget& widget;
 
-  std::string operator()(const controls::List* list) const {
+  std::string operator()(controls::List* list) const {
     const int items = static_cast<int>(list->items.size());
     if (const auto* box = qobject_cast<const QComboBox*>(&widget)) {
       if (box->count() != items) return Unlike("entries", box->count(), items);
@@ -48,7 +49,7 @@ struct Compared {
     if (button == nullptr) return "an option without a button";
     return Unlike("choice", button->isChecked() ? 1 : 0, element.array->chosen == element.element ? 1 : 0);
   }
-  std::string operator()(const controls::TextBox* box) const {
+  std::string operator()(controls::TextBox* box) const {
     const auto expected = host::FromWindows1252(box->text);
     if (const auto* line = qobject_cast<const QLineEdit*>(&widget))
       return Unlike("text", line->text(), expected);
@@ -59,19 +60,19 @@ struct Compared {
     return Unlike("text", lines->toPlainText().remove(QLatin1Char('\r')).trimmed(),
                   QString(expected).remove(QLatin1Char('\r')).trimmed());
   }
-  std::string operator()(const controls::Label* label) const {
+  std::string operator()(controls::Label* label) const {
     const auto* text = qobject_cast<const QLabel*>(&widget);
     return text == nullptr
                ? std::string()
                : Unlike("label", Plain(text->text()), Plain(host::FromWindows1252(label->caption)));
   }
-  std::string operator()(const controls::Button* button) const { return Caption(*button); }
-  std::string operator()(const controls::CheckBox* box) const {
+  std::string operator()(controls::Button* button) const { return Caption(*button); }
+  std::string operator()(controls::CheckBox* box) const {
     const auto* check = qobject_cast<const QCheckBox*>(&widget);
     if (check == nullptr) return "a check box without a box";
     return Unlike("check", check->isChecked() ? 1 : 0, box->checked ? 1 : 0) + Caption(*box);
   }
-  std::string operator()(const controls::ProgressBar* bar) const {
+  std::string operator()(controls::ProgressBar* bar) const {
     const auto* progress = qobject_cast<const QProgressBar*>(&widget);
     return progress == nullptr ? std::string()
                                : Unlike("progress", progress->value(), std::min(bar->value, bar->maximum));
