@@ -118,12 +118,14 @@ void MainWindow::BuildTabs() {
     if (tab_shown) tab_shown();
   });
   // Pages and menus give the focus back to the widget that had it before. An undo or another tab may have
-  // hidden it since.
+  // hidden it since. The focus is nowhere if a refresh disables all controls from its widget on.
   connect(
       qApp, &QApplication::focusChanged, this,
       [this] {
         auto* focus = focusWidget();
-        if (focus != nullptr && (!focus->isVisible() || !focus->isEnabled())) FocusFirstUsable(*focus);
+        if (focus != nullptr && focus->isVisible() && focus->isEnabled()) return;
+        if (focus == nullptr) focus = focus_before_;
+        FocusFirstUsable(focus == nullptr ? *tabs_ : *focus);
       },
       Qt::QueuedConnection);
   BindTabs();

@@ -56,6 +56,11 @@ QPoint AnyPoint(Random& random, const QWidget& widget) {
   return {random.Below(std::max(widget.width(), 1)), random.Below(std::max(widget.height(), 1))};
 }
 
+// Only a press of the system itself gives the focus.
+void GiveFocus(QWidget& widget) {
+  if (widget.focusPolicy() & Qt::ClickFocus) widget.setFocus(Qt::MouseFocusReason);
+}
+
 void SendMouse(QWidget* widget, QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons held) {
   QMouseEvent event(type, at, widget->mapToGlobal(at), button, held, Qt::NoModifier);
   QApplication::sendEvent(widget, &event);
@@ -68,7 +73,7 @@ std::string ClickSomewhere(Site&, Random& random) {
   const auto words =
       "click " + NameOf(*widget) + " at " + std::to_string(at.x()) + "," + std::to_string(at.y());
   const auto press = random.OneOf(8) ? QEvent::MouseButtonDblClick : QEvent::MouseButtonPress;
-  if (widget->focusPolicy() & Qt::ClickFocus) widget->setFocus(Qt::MouseFocusReason);
+  GiveFocus(*widget);
   SendMouse(widget, press, at, Qt::LeftButton, Qt::LeftButton);
   if (widget != nullptr) SendMouse(widget, QEvent::MouseButtonRelease, at, Qt::LeftButton, Qt::NoButton);
   return words;
@@ -78,6 +83,7 @@ std::string Drag(Site&, Random& random) {
   const QPointer<QWidget> widget = AnyWidget(random);
   if (widget == nullptr) return {};
   const auto words = "drag in " + NameOf(*widget);
+  GiveFocus(*widget);
   SendMouse(widget, QEvent::MouseButtonPress, AnyPoint(random, *widget), Qt::LeftButton, Qt::LeftButton);
   for (int move = 0; move < 3 && widget != nullptr; ++move)
     SendMouse(widget, QEvent::MouseMove, AnyPoint(random, *widget), Qt::NoButton, Qt::LeftButton);

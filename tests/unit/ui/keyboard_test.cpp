@@ -255,6 +255,11 @@ TEST(LatePages, GiveTheFocusToAControlThatIsShown) {
   screen.Find("ComboCLARITYEPOS").setFocus(Qt::MenuBarFocusReason);
   screen.Show();
   EXPECT_TRUE(screen.Main().focusWidget()->isVisible()) << screen.Focus();
+  // The lists of the clock are disabled one after the other.
+  screen.Click("CheckTD");
+  screen.FocusOn("ComboDay(0)", kRemoteTab);
+  screen.Click("CheckTD");
+  EXPECT_NE(screen.Main().focusWidget(), nullptr);
 }
 
 TEST_F(ScreenTest, AKeyScrollsToTheListThatItOpens) {
