@@ -227,6 +227,20 @@ std::string TickTimer(Site& site, Random& random) {
   return "tick " + site.screen.App().registry.NameOf(timer);
 }
 
+// Not by its widget, so that the widget shows it only if it is refreshed. By clicks alone, settings seldom
+// differ from those of the start.
+std::string PickInModel(Site& site, Random& random) {
+  std::vector<controls::List*> lists;
+  for (const auto& control : site.screen.App().registry.All()) {
+    auto* const* list = std::get_if<controls::List*>(&control.control);
+    if (list != nullptr && (*list)->enabled && !(*list)->items.empty()) lists.push_back(*list);
+  }
+  auto* list = random.Any(lists);
+  const int position = random.Below(static_cast<int>(list->items.size()));
+  site.screen.program->Act(core::PickEvent{list, position});
+  return "pick " + std::to_string(position) + " in " + site.screen.App().registry.NameOf(list);
+}
+
 std::string ChangeLine(Site& site, Random& random) {
   if (random.OneOf(4)) return site.line.Lose(), "the device goes";
   return site.line.Mend(random), "the device comes";
@@ -249,7 +263,7 @@ constexpr std::array kActs = {
     Weighted{4, Wheel},           Weighted{3, Resize},           Weighted{3, MoveFocus},
     Weighted{6, ChooseTab},       Weighted{6, ChooseMenuItem},   Weighted{3, CloseWindow},
     Weighted{1, DropFile},        Weighted{12, CarryCharacters}, Weighted{8, TickTimer},
-    Weighted{1, ChangeLine},      Weighted{1, ChangeFont}};
+    Weighted{12, PickInModel},    Weighted{1, ChangeLine},       Weighted{1, ChangeFont}};
 
 // Files that the program asks for.
 std::optional<core::FileAnswer> AnyFile(const TemporaryFolder& folder, Random& random) {
