@@ -29,7 +29,7 @@ void Copy(Session& session, Arguments& arguments) {
   for (const int number : {copy.from, copy.first, copy.last}) {
     if (number < 1 || number > count) Wrong("the numbers are 1 to " + std::to_string(count));
   }
-  if (copy.last < copy.first) Wrong("LAST must not be below TO");
+  if (copy.last < copy.first) Wrong("LAST must not be less than TO");
   auto& app = session.App();
   if (!acts::CanCopySlot(app, copy)) {
     session.Output() << "refused copy\n";
