@@ -67,12 +67,12 @@
         <translation>Die ausgelesenen Daten wurden nicht übernommen: %1. Die Liste der Kassen zeigt %2, aber die Konfiguration ist noch die von %3. Lesen Sie das Gerät erneut aus oder wählen Sie %3.</translation>
     </message>
     <message>
-        <source>The answer of the unit had a wrong parity, so the program selected %1, with its options and its line settings. Undo restores %2.</source>
+        <source>The answer of the unit had a wrong parity, so the program changed the register to %1, with its options and its line settings. Undo restores %2.</source>
         <translation>Die Antwort hatte eine falsche Parität, deshalb wurde %1 gewählt, mit den zugehörigen Optionen und Leitungseinstellungen. „Rückgängig“ stellt %2 wieder her.</translation>
     </message>
     <message>
-        <source>%1 does not have the format of %2, so all settings from the register options on are in the wrong place. Do not download them.</source>
-        <translation>%1 hat nicht das Format von %2, deshalb ist ab den Optionen der Kasse alles verschoben. Schreiben Sie diese Konfiguration nicht in das Gerät.</translation>
+        <source>%1 does not have the format of %2, so the register options and all settings after them are in the wrong place. Do not download them.</source>
+        <translation>%1 hat nicht das Format von %2, deshalb sind die Optionen der Kasse und alle Einstellungen danach an der falschen Stelle. Schreiben Sie diese Konfiguration nicht in das Gerät.</translation>
     </message>
     <message>
         <source>Upload again, or open a backup.</source>
@@ -91,11 +91,11 @@
         <translation>Die Liste der Kassen zeigt %1, aber die Optionen und die Konfiguration gehören noch zu %2: Die Auswahl wurde ignoriert. Wählen Sie %1 noch einmal.</translation>
     </message>
     <message>
-        <source>Open was cancelled. The next pick in the register list has no effect: the list moves, but the program loads nothing. Pick the register twice.</source>
+        <source>Open was cancelled. The next pick in the register list has no effect: the list shows it, but the program loads nothing. Pick the register twice.</source>
         <translation>Das Öffnen wurde abgebrochen. Die nächste Auswahl in der Liste der Kassen wird ignoriert: Die Markierung wechselt, aber es wird nichts geladen. Wählen Sie die Kasse zweimal.</translation>
     </message>
     <message>
-        <source>Open failed: %1. The next pick in the register list has no effect: the list moves, but the program loads nothing. Pick the register twice.</source>
+        <source>Open failed: %1. The next pick in the register list has no effect: the list shows it, but the program loads nothing. Pick the register twice.</source>
         <translation>Das Öffnen ist fehlgeschlagen: %1. Die nächste Auswahl in der Liste der Kassen wird ignoriert: Die Markierung wechselt, aber es wird nichts geladen. Wählen Sie die Kasse zweimal.</translation>
     </message>
     <message>
@@ -187,7 +187,7 @@
         <translation>Ein anderes Programm benutzt die Schnittstelle: Schließen Sie es.</translation>
     </message>
     <message>
-        <source>The device cannot use %1: choose another baud rate, or data bits and parity.</source>
+        <source>The device cannot use %1: choose another baud rate, other data bits or another parity.</source>
         <translation>Die Schnittstelle unterstützt %1 nicht: Wählen Sie eine andere Baudrate, andere Datenbits oder eine andere Parität.</translation>
     </message>
     <message>
@@ -199,8 +199,8 @@
         <translation>Neu starten</translation>
     </message>
     <message>
-        <source>An upload stopped before its end. The program would put what it received in front of the next upload. Restart the program before you upload again.</source>
-        <translation>Das Auslesen wurde abgebrochen. Die bereits empfangenen Daten stehen noch vor den nächsten und würden an deren Stelle gelesen. Starten Sie das Programm neu, bevor Sie erneut auslesen.</translation>
+        <source>An upload stopped before its end. The program keeps what it received and would read it together with the next upload. Restart the program before you upload again.</source>
+        <translation>Das Auslesen wurde abgebrochen. Das Programm behält die empfangenen Daten und würde sie zusammen mit den nächsten lesen. Starten Sie das Programm neu, bevor Sie erneut auslesen.</translation>
     </message>
     <message>
         <source>The tabs show a mixture of two uploads: the beginning of one that stopped, and the rest of the last one. Do not download it. Restart the program, which discards the mixture, and upload again.</source>
@@ -219,7 +219,7 @@
         <translation>Um %1 wurde das Schreiben abgebrochen. Das Gerät hat die Konfiguration vielleicht nur teilweise erhalten, schreiben Sie sie deshalb noch einmal: %2.</translation>
     </message>
     <message>
-        <source>The download of %1 did not begin. The unit has its old configuration. To try again: %2.</source>
+        <source>The download at %1 did not begin. The unit has its old configuration. To try again: %2.</source>
         <translation>Das Schreiben um %1 wurde nicht begonnen. Das Gerät hat noch seine alte Konfiguration. Für einen neuen Versuch: %2.</translation>
     </message>
     <message>
@@ -227,19 +227,19 @@
         <translation>COM-Port %1, %2, ließ sich nicht öffnen: %3. %4</translation>
     </message>
     <message>
-        <source>This scan cannot find the unit: the program accepts an answer only if the unit was in remote mode before, and Disconnect ended it. Press %1. %2</source>
-        <translation>Diese Suche kann das Gerät nicht finden: Das Programm nimmt eine Antwort nur an, wenn zuvor der Fernsteuermodus aktiv war und mit „Trennen“ beendet wurde. Drücken Sie „%1“. %2</translation>
+        <source>This scan cannot find the unit. The program accepts an answer only if the unit was in remote mode before, and Disconnect or a time-out ended remote mode. Press %1. %2</source>
+        <translation>Diese Suche kann das Gerät nicht finden. Das Programm nimmt eine Antwort nur an, wenn zuvor der Fernsteuermodus aktiv war und durch „Trennen“ oder eine Zeitüberschreitung endete. Drücken Sie „%1“. %2</translation>
     </message>
     <message>
-        <source>The scan could not find the unit: the program accepts an answer only if the unit was in remote mode before, and Disconnect ended it. %1</source>
-        <translation>Die Suche konnte das Gerät nicht finden: Das Programm nimmt eine Antwort nur an, wenn zuvor der Fernsteuermodus aktiv war und mit „Trennen“ beendet wurde. %1</translation>
+        <source>The scan could not find the unit. The program accepts an answer only if the unit was in remote mode before, and Disconnect or a time-out ended remote mode. %1</source>
+        <translation>Die Suche konnte das Gerät nicht finden. Das Programm nimmt eine Antwort nur an, wenn zuvor der Fernsteuermodus aktiv war und durch „Trennen“ oder eine Zeitüberschreitung endete. %1</translation>
     </message>
     <message>
-        <source>No unit answered the scan, which tried every baud rate with %1 and parity %2. Check the cable and the power of the unit. If the unit has other data bits or another parity, choose them in Set Comport and scan again.</source>
+        <source>No unit answered the scan. It tried every baud rate with %1 and parity %2. Check the cable and the power of the unit. If the unit has other data bits or another parity, choose them in Set Comport and scan again.</source>
         <translation>Auf die Suche hat kein Gerät geantwortet. Versucht wurde jede Baudrate mit %1 und Parität %2. Prüfen Sie das Kabel und die Stromversorgung des Geräts. Hat das Gerät andere Datenbits oder eine andere Parität, wählen Sie diese unter „COM-Port einstellen“ und suchen Sie erneut.</translation>
     </message>
     <message>
-        <source>The unit has not confirmed the download of %1. It may have another configuration, so download again: %2.</source>
+        <source>The unit has not confirmed the download at %1. It may have another configuration, so download again: %2.</source>
         <translation>Das Gerät hat das Schreiben um %1 nicht bestätigt. Es hat vielleicht eine andere Konfiguration, schreiben Sie deshalb noch einmal: %2.</translation>
     </message>
     <message>
@@ -258,7 +258,7 @@
         <translation>Diese Meldung ausblenden</translation>
     </message>
     <message>
-        <source>Hides this advice until its condition occurs again.</source>
+        <source>Hides this advice until its condition has ended and is true again.</source>
         <translation>Blendet diese Meldung aus, bis ihr Anlass wegfällt und erneut eintritt.</translation>
     </message>
     <message>
@@ -526,16 +526,16 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
         <translation>eine unbekannte Kasse</translation>
     </message>
     <message>
-        <source>%1 contains %2, for which its list has no entry.</source>
+        <source>%1 contains %2, but its list has no entry for it.</source>
         <translation>%1 enthält %2, was in der Liste nicht vorkommt.</translation>
     </message>
     <message>
-        <source>%1 has this number of bytes: %2. %4 reads %3, so a download moves everything behind it.</source>
-        <translation>Anzahl der Bytes von %1: %2. %4 liest dort aber %3, deshalb verschiebt das Schreiben alles dahinter.</translation>
+        <source>%1 has this number of bytes: %2. %4 reads %3, so a download puts all settings after it in the wrong place.</source>
+        <translation>Anzahl der Bytes von %1: %2. %4 liest dort aber %3, deshalb kommen beim Schreiben alle Einstellungen danach an die falsche Stelle.</translation>
     </message>
     <message>
-        <source>%1 is %2, but the default image of %3 has %4, as if another register had been picked.</source>
-        <translation>%1 ist %2, aber die Standardkonfiguration von %3 hat %4, als wäre eine andere Kasse gewählt worden.</translation>
+        <source>%1 is %2, but the default image of %3 has %4. The stored value can be that of another register.</source>
+        <translation>%1 ist %2, aber die Standardkonfiguration von %3 enthält %4. Der gespeicherte Wert kann der einer anderen Kasse sein.</translation>
     </message>
     <message>
         <source>%1 is %2, but the options of %3 set it to %4.</source>
@@ -554,7 +554,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
         <translation>Alarm %1 hat einen Text zum Anzeigen oder Ausgeben, aber nichts löst den Alarm aus.</translation>
     </message>
     <message>
-        <source>DISPLAY LINE is %1, but the clock and the title need %2 lines at least.</source>
+        <source>DISPLAY LINE is %1, but the clock and the title need at least %2 lines.</source>
         <translation>ANZEIGEZEILEN ist %1, aber Uhr und Titel brauchen mindestens %2 Zeilen.</translation>
     </message>
     <message>
@@ -578,7 +578,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
         <translation>Bei Ausnahme %1 ist MEHRZEILENSUCHE EIN, deshalb können ANZEIGE, AUSGABE und VERLAUFSSPEICHER auf AUS wechseln, sobald Sie die Ausnahme aufrufen.</translation>
     </message>
     <message>
-        <source>Exception %1 has a range, but its OPERATOR is NONE, so no amount is compared.</source>
+        <source>Exception %1 has a range, but its OPERATOR is NONE, so the unit does not compare the amount.</source>
         <translation>Ausnahme %1 hat einen Bereich, aber bei VERGLEICH ist OHNE gewählt, deshalb wird kein Betrag verglichen.</translation>
     </message>
     <message>
@@ -590,12 +590,12 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
         <translation>Ausnahme %1 hat den Text „%2“, ist aber als frei markiert.</translation>
     </message>
     <message>
-        <source>Exception %1 looks for the same as exception %2: &quot;%3&quot;.</source>
-        <translation>Ausnahme %1 sucht dasselbe wie Ausnahme %2: „%3“.</translation>
+        <source>Exception %1 has the same text, operator and range as exception %2: &quot;%3&quot;.</source>
+        <translation>Ausnahme %1 hat denselben Text, Vergleich und Bereich wie Ausnahme %2: „%3“.</translation>
     </message>
     <message>
-        <source>Exception %1, &quot;%2&quot;, is not displayed, sent to the output or kept in the history, and it triggers no alarm.</source>
-        <translation>Ausnahme %1, „%2“, wird weder angezeigt noch ausgegeben noch im Verlauf gespeichert, und sie löst keinen Alarm aus.</translation>
+        <source>Exception %1, &quot;%2&quot;, has no effect: its actions are OFF, and it triggers no alarm.</source>
+        <translation>Ausnahme %1, „%2“, hat keine Wirkung: Ihre Aktionen sind AUS, und sie löst keinen Alarm aus.</translation>
     </message>
     <message>
         <source>FLAG TYPE is %1, but FLAG DURATION is %2.</source>
@@ -638,7 +638,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
         <translation>Die Standardkonfiguration von %1 im Programmordner ist die von %2, deshalb stellt die Wahl von %1 in Wirklichkeit %2 ein.</translation>
     </message>
     <message>
-        <source>The network is stored with the ADDRESS %1, but the form shows %2 for its TYPE %3.</source>
+        <source>The network is stored with the ADDRESS %1, but the tab shows %2 for its TYPE %3.</source>
         <translation>Das Netzwerk ist mit der ADRESSE %1 gespeichert, aber die Registerkarte zeigt %2 für seinen TYP %3.</translation>
     </message>
     <message>
@@ -654,7 +654,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
         <translation>Der Bereich von Ausnahme %1 enthält keine gültige Zahl: %2.</translation>
     </message>
     <message>
-        <source>The text of exception %1 begins with a blank, which the line must have as well.</source>
+        <source>The text of exception %1 begins with a blank, so the line must have this blank too.</source>
         <translation>Der Text von Ausnahme %1 beginnt mit einem Leerzeichen, das auch in der Zeile stehen muss.</translation>
     </message>
     <message>
@@ -662,7 +662,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
         <translation>Der Text von Ausnahme %1 besteht nur aus „?“, das für jedes beliebige Zeichen steht.</translation>
     </message>
     <message>
-        <source>The text of exception %1 is stored with the length %2, and its own length is %3.</source>
+        <source>The text of exception %1 is stored with the length %2, but its length is %3.</source>
         <translation>Der Text von Ausnahme %1 ist mit der Länge %2 gespeichert, seine tatsächliche Länge ist %3.</translation>
     </message>
     <message>
@@ -770,12 +770,12 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
 <context>
     <name>CopySlotWindow</name>
     <message>
-        <source>This is the alarm itself. Pick another number.</source>
-        <translation>Das ist der Alarm selbst. Wählen Sie eine andere Nummer.</translation>
+        <source>This is the number of the alarm that you copy. Pick another number.</source>
+        <translation>Das ist die Nummer des Alarms, den Sie kopieren. Wählen Sie eine andere Nummer.</translation>
     </message>
     <message>
-        <source>This is the exception itself. Pick another number.</source>
-        <translation>Das ist die Ausnahme selbst. Wählen Sie eine andere Nummer.</translation>
+        <source>This is the number of the exception that you copy. Pick another number.</source>
+        <translation>Das ist die Nummer der Ausnahme, die Sie kopieren. Wählen Sie eine andere Nummer.</translation>
     </message>
     <message>
         <source>No alarm in use is overwritten.</source>
@@ -2760,8 +2760,8 @@ Die Hilfeseite %1 lässt sich nicht lesen: %2. Das Programm funktioniert ohne si
         <translation>%1 von %2 belegt</translation>
     </message>
     <message>
-        <source>Arrows move, Enter picks.</source>
-        <translation>Pfeiltasten zum Bewegen, Eingabetaste zum Wählen.</translation>
+        <source>Move with the arrow keys, and pick with Enter.</source>
+        <translation>Bewegen Sie sich mit den Pfeiltasten und wählen Sie mit der Eingabetaste.</translation>
     </message>
 </context>
 <context>
@@ -2808,7 +2808,7 @@ Die Firmware legt root fest, zum Beispiel mit: ovl-setup V1400 R12</translation>
     </message>
     <message>
         <source>%1
-The next start serves the same firmware as this one. To set the other one, run as root: ovl-setup %2</source>
+The next start uses the same firmware as this one. To set the other one, run as root: ovl-setup %2</source>
         <translation>%1
 Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root fest mit: ovl-setup %2</translation>
     </message>
@@ -2817,7 +2817,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>Das Programm kann keine Kopie Ihrer Änderungen anlegen. %1</translation>
     </message>
     <message>
-        <source>%1: rescued changes. Open them with &quot;File&quot;, &quot;Open&quot;</source>
+        <source>%1 contains rescued changes. Open it with &quot;File&quot;, &quot;Open&quot;</source>
         <translation>%1 enthält gerettete Änderungen. Öffnen Sie die Datei mit „Datei“, „Öffnen“.</translation>
     </message>
     <message>
@@ -2836,15 +2836,15 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
 <context>
     <name>Question</name>
     <message>
-        <source>It does not fit any firmware: it is cut off, damaged, or not a configuration.</source>
-        <translation>Die Datei passt zu keiner Firmware: Sie ist abgeschnitten, beschädigt oder keine Konfiguration.</translation>
+        <source>The file does not fit any firmware: it is not complete, damaged, or not a configuration.</source>
+        <translation>Die Datei passt zu keiner Firmware: Sie ist unvollständig, beschädigt oder keine Konfiguration.</translation>
     </message>
     <message>
-        <source>It fits %1.</source>
+        <source>The file fits %1.</source>
         <translation>Die Datei passt zu %1.</translation>
     </message>
     <message>
-        <source>This program serves %1.</source>
+        <source>This program uses %1.</source>
         <translation>Dieses Programm verwendet %1.</translation>
     </message>
     <message>
@@ -2856,8 +2856,8 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>Beim Öffnen von %1 wird das Programm beendet.</translation>
     </message>
     <message>
-        <source>This program serves %1 and reads it as such a file.</source>
-        <translation>Dieses Programm verwendet %1 und liest die Datei in diesem Format.</translation>
+        <source>This program uses %1 and reads the file as a file of this firmware.</source>
+        <translation>Dieses Programm verwendet %1 und liest die Datei wie eine Datei dieser Firmware.</translation>
     </message>
     <message>
         <source>&quot;Save&quot; under %1 writes such files. Open a backup instead.</source>
@@ -2913,10 +2913,10 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>Zeigt nur die Kassen, deren Namen alle diese Wörter enthalten (Strg+F).</translation>
     </message>
     <message numerus="yes">
-        <source>Type to find, Enter goes to the list. %n registers.</source>
+        <source>Type a part of the name. Enter goes to the list. %n registers.</source>
         <translation>
-            <numerusform>Tippen sucht, Eingabetaste springt in die Liste. %n Kasse.</numerusform>
-            <numerusform>Tippen sucht, Eingabetaste springt in die Liste. %n Kassen.</numerusform>
+            <numerusform>Tippen Sie einen Teil des Namens. Die Eingabetaste springt in die Liste. %n Kasse.</numerusform>
+            <numerusform>Tippen Sie einen Teil des Namens. Die Eingabetaste springt in die Liste. %n Kassen.</numerusform>
         </translation>
     </message>
     <message>
@@ -2950,7 +2950,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
 <context>
     <name>RegisterWindows</name>
     <message>
-        <source>A pick is stored at once.</source>
+        <source>The program stores your pick at once.</source>
         <translation>Eine Auswahl wird sofort gespeichert.</translation>
     </message>
 </context>
@@ -3094,7 +3094,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>%1 enthält Fehler und lässt sich nicht vergleichen.</translation>
     </message>
     <message>
-        <source>%1 is a text of %2. This program serves %3, which does not have all of its settings.</source>
+        <source>%1 is a text of %2. This program uses %3, which does not have all of its settings.</source>
         <translation>%1 ist ein Text für %2. Dieses Programm verwendet %3, und dort gibt es nicht alle Einstellungen dieses Texts.</translation>
     </message>
     <message>
@@ -3152,8 +3152,8 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
 <context>
     <name>TextRows</name>
     <message>
-        <source>A click opens its window.</source>
-        <translation>Ein Klick öffnet das zugehörige Fenster.</translation>
+        <source>Click here to change it.</source>
+        <translation>Klicken Sie hier, um die Einstellung zu ändern.</translation>
     </message>
 </context>
 <context>
@@ -3167,11 +3167,11 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>%1 von %2 Zeichen.</translation>
     </message>
     <message>
-        <source>Up to %1 digits, and %2 behind the separator: 5 becomes 05.</source>
+        <source>Up to %1 digits before the separator, and %2 after it: 5 becomes 05.</source>
         <translation>Bis zu %1 Ziffern vor und %2 nach dem Trennzeichen; aus 5 wird dort 05.</translation>
     </message>
     <message>
-        <source>The separator is the same for all exceptions. It is stored at once.</source>
+        <source>The separator is for all exceptions. The program stores it at once.</source>
         <translation>Das Trennzeichen gilt für alle Ausnahmen. Es wird sofort gespeichert.</translation>
     </message>
 </context>
@@ -3948,7 +3948,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>Wie das System</translation>
     </message>
     <message>
-        <source>The program could not save the choice. %1</source>
+        <source>The program could not save your pick. %1</source>
         <translation>Das Programm konnte die Auswahl nicht speichern. %1</translation>
     </message>
     <message>
