@@ -43,7 +43,7 @@ constexpr auto kStatements = std::to_array<Statement>({
      "prints what a download would change, TAB: CAPTION: \"BEFORE\" -> \"AFTER\", one setting a line",
      Changes},
     {"copy", "copy exception FROM TO [LAST]\ncopy alarm FROM TO [LAST]",
-     "copies an exception to another number, or to TO to LAST\nthe same for alarms", Copy},
+     "copies an exception to TO, or to all numbers from TO to LAST\ncopies an alarm in the same way", Copy},
 });
 
 }  // namespace
