@@ -18,7 +18,7 @@ read_list "${arguments[0]}"
 try_text() {
   local said
   said=$(started 2>&1 <<< "import $(quoted "$1")") && return
-  [ -n "$said" ] && ! grep -v ': ".*" is no option of this register' <<< "$said" >&2
+  [ -n "$said" ] && ! grep -v ': ".*" is not an option of this register' <<< "$said" >&2
 }
 
 # In the image that the program starts with, every field of the firmware has its right length.
@@ -44,7 +44,7 @@ change() {
     printf '%s\n' "${changes[@]}"
     printf 'stream %s\ndownload\nupload\n' "$(quoted "$work/changed")"
   } | on_unit "$1" || return 1
-  cmp -s "$work/changed" "$unit" || { echo "$1: what came back is not what was sent" >&2; return 1; }
+  cmp -s "$work/changed" "$unit" || { echo "$1: the unit does not have the configuration that was sent" >&2; return 1; }
 }
 
 each "$(printf '%s\n' "${changes[@]}"; cat -- "${arguments[@]:1}" 2> /dev/null || true)" change

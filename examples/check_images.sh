@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Checks that a folder contains the default image of every register of a firmware. Prints a table with a result for each
-# image: sound (no findings), with findings to look at, or wrong.
+# image: good (no findings), with findings to look at, or wrong.
 #   check_images.sh site/V1400/R12
 # It reads only files, which takes seconds, so it needs neither --jobs nor --resume. It continues after a wrong image. The
 # exit status is 1 if an image is wrong. A finding is not an error, because you may change the images.
@@ -27,7 +27,7 @@ judge() {
   found=$(fits "$1" 2> "$work/said") || { echo "wrong: $(reason)"; return; }
   [ "$found" = "$2" ] || { echo "wrong: the image of register $found"; return; }
   findings=$(place="$1: " awk 'index($0, ENVIRON["place"]) == 1' "$work/findings")
-  [ -n "$findings" ] || { echo "sound"; return; }
+  [ -n "$findings" ] || { echo "good"; return; }
   echo "findings:"
   echo "${findings//"$1: "/    }"
 }

@@ -52,7 +52,7 @@ quoted() {
 # Starts a program and runs the statements of standard input in it.
 started() {
   local first=$version/$release/GENERIC.bin
-  [ -r "$work/$first" ] || { echo "$OVL_IMAGES/$first: the program does not start without it" >&2; return 3; }
+  [ -r "$work/$first" ] || { echo "$OVL_IMAGES/$first: this file is missing, and the program needs it to start" >&2; return 3; }
   {
     printf 'setting Version "%s"\nsetting Release "%s"\n' "$version" "$release"
     printf 'folder %s\nport real\nstart\nexpect no box\n' "$(quoted "$work")"

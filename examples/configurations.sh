@@ -8,7 +8,7 @@ fits() {
   lines=$(started <<< "inspect $(quoted "$1")") || return 1
   sed -n "s/^fits $version$release: register [0-9]* \(\".*\"\)$/\1/p" <<< "$lines" | grep . && return
   others=$(sed -n 's/^fits \([^:]*\): .*/\1/p' <<< "$lines" | paste -sd ' ')
-  echo "${2-$1}: no configuration of $version$release, it fits ${others:-no firmware}" >&2
+  echo "${2-$1}: not a configuration of $version$release. It fits ${others:-no firmware}" >&2
   return 1
 }
 

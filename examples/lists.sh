@@ -95,7 +95,7 @@ print_table() {
 # After a request to end, this starts no further unit and waits for the running transfers. Otherwise a transfer would
 # continue alone and keep its device open.
 end_with() {
-  echo "$(basename "$0"): waiting for the units under way" >&2
+  echo "$(basename "$0"): waiting for the units that have started" >&2
   while [ -n "$(jobs -pr)" ]; do wait || true; done
   print_table
   exit "$1"
@@ -136,7 +136,7 @@ each() {
     number=$((number + 1))
     [ ! -e "$work/outcomes/$number" ] || continue
     while [ "$(jobs -pr | wc -l)" -ge "$at_once" ]; do wait -n || true; done
-    echo "failed: was broken off" > "$work/outcomes/$number"
+    echo "failed: interrupted" > "$work/outcomes/$number"
     (serve "$number" "$state" "$@" "$device") &
   done
   wait

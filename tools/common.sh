@@ -90,7 +90,7 @@ reserve() {
   fi
   [ -w "$folder.lock" ] || [ ! -e "$folder.lock" ] || fail "$folder.lock belongs to another user"
   exec {lock}> "$folder.lock"
-  flock --wait 5 "$lock" || fail "another run works in $folder. Wait for its end, or use $name_folder."
+  flock --wait 5 "$lock" || fail "another script builds in $folder. Wait until it ends, or use $name_folder."
   # The compiler cache is in the home folder, which not every user has.
   if [ -z "${CCACHE_DIR:-}" ] && { [ -z "${HOME:-}" ] || ! can_write "${XDG_CACHE_HOME:-$HOME/.cache}"; }; then
     export CCACHE_DIR=$build/ccache
@@ -105,7 +105,7 @@ reserve() {
   if [ "$here" = "$folder" ] && [ -e "$home/CMakeLists.txt" ]; then
     fail "$folder has the build of $home. Name another folder with $name_folder, or remove this one."
   fi
-  echo "The folder was moved; everything is built again."
+  echo "The folder was moved. Everything is built again."
   forget_configuration "$folder"
 }
 

@@ -67,12 +67,12 @@
         <translation>Die ausgelesenen Daten wurden nicht übernommen: %1. Die Liste der Kassen zeigt %2, aber die Konfiguration ist noch die von %3. Lesen Sie das Gerät erneut aus oder wählen Sie %3.</translation>
     </message>
     <message>
-        <source>The answer of the unit had a wrong parity, so the program selected %1, with its options and its line settings. Undo restores %2.</source>
+        <source>The answer of the unit had a wrong parity, so the program changed the register to %1, with its options and its line settings. Undo restores %2.</source>
         <translation>Die Antwort hatte eine falsche Parität, deshalb wurde %1 gewählt, mit den zugehörigen Optionen und Leitungseinstellungen. „Rückgängig“ stellt %2 wieder her.</translation>
     </message>
     <message>
-        <source>%1 does not have the format of %2, so all settings from the register options on are in the wrong place. Do not download them.</source>
-        <translation>%1 hat nicht das Format von %2, deshalb ist ab den Optionen der Kasse alles verschoben. Schreiben Sie diese Konfiguration nicht in das Gerät.</translation>
+        <source>%1 does not have the format of %2, so the register options and all settings after them are in the wrong place. Do not download them.</source>
+        <translation>%1 hat nicht das Format von %2, deshalb sind die Optionen der Kasse und alle Einstellungen danach an der falschen Stelle. Schreiben Sie diese Konfiguration nicht in das Gerät.</translation>
     </message>
     <message>
         <source>Upload again, or open a backup.</source>
@@ -91,11 +91,11 @@
         <translation>Die Liste der Kassen zeigt %1, aber die Optionen und die Konfiguration gehören noch zu %2: Die Auswahl wurde ignoriert. Wählen Sie %1 noch einmal.</translation>
     </message>
     <message>
-        <source>Open was cancelled. The next pick in the register list has no effect: the list moves, but the program loads nothing. Pick the register twice.</source>
+        <source>Open was cancelled. The next pick in the register list has no effect: the list shows it, but the program loads nothing. Pick the register twice.</source>
         <translation>Das Öffnen wurde abgebrochen. Die nächste Auswahl in der Liste der Kassen wird ignoriert: Die Markierung wechselt, aber es wird nichts geladen. Wählen Sie die Kasse zweimal.</translation>
     </message>
     <message>
-        <source>Open failed: %1. The next pick in the register list has no effect: the list moves, but the program loads nothing. Pick the register twice.</source>
+        <source>Open failed: %1. The next pick in the register list has no effect: the list shows it, but the program loads nothing. Pick the register twice.</source>
         <translation>Das Öffnen ist fehlgeschlagen: %1. Die nächste Auswahl in der Liste der Kassen wird ignoriert: Die Markierung wechselt, aber es wird nichts geladen. Wählen Sie die Kasse zweimal.</translation>
     </message>
     <message>
@@ -187,7 +187,7 @@
         <translation>Ein anderes Programm benutzt die Schnittstelle: Schließen Sie es.</translation>
     </message>
     <message>
-        <source>The device cannot use %1: choose another baud rate, or data bits and parity.</source>
+        <source>The device cannot use %1: choose another baud rate, other data bits or another parity.</source>
         <translation>Die Schnittstelle unterstützt %1 nicht: Wählen Sie eine andere Baudrate, andere Datenbits oder eine andere Parität.</translation>
     </message>
     <message>
@@ -199,8 +199,8 @@
         <translation>Neu starten</translation>
     </message>
     <message>
-        <source>An upload stopped before its end. The program would put what it received in front of the next upload. Restart the program before you upload again.</source>
-        <translation>Das Auslesen wurde abgebrochen. Die bereits empfangenen Daten stehen noch vor den nächsten und würden an deren Stelle gelesen. Starten Sie das Programm neu, bevor Sie erneut auslesen.</translation>
+        <source>An upload stopped before its end. The program keeps what it received and would read it together with the next upload. Restart the program before you upload again.</source>
+        <translation>Das Auslesen wurde abgebrochen. Das Programm behält die empfangenen Daten und würde sie zusammen mit den nächsten lesen. Starten Sie das Programm neu, bevor Sie erneut auslesen.</translation>
     </message>
     <message>
         <source>The tabs show a mixture of two uploads: the beginning of one that stopped, and the rest of the last one. Do not download it. Restart the program, which discards the mixture, and upload again.</source>
@@ -219,7 +219,7 @@
         <translation>Um %1 wurde das Schreiben abgebrochen. Das Gerät hat die Konfiguration vielleicht nur teilweise erhalten, schreiben Sie sie deshalb noch einmal: %2.</translation>
     </message>
     <message>
-        <source>The download of %1 did not begin. The unit has its old configuration. To try again: %2.</source>
+        <source>The download at %1 did not begin. The unit has its old configuration. To try again: %2.</source>
         <translation>Das Schreiben um %1 wurde nicht begonnen. Das Gerät hat noch seine alte Konfiguration. Für einen neuen Versuch: %2.</translation>
     </message>
     <message>
@@ -227,19 +227,19 @@
         <translation>COM-Port %1, %2, ließ sich nicht öffnen: %3. %4</translation>
     </message>
     <message>
-        <source>This scan cannot find the unit: the program accepts an answer only if the unit was in remote mode before, and Disconnect ended it. Press %1. %2</source>
-        <translation>Diese Suche kann das Gerät nicht finden: Das Programm nimmt eine Antwort nur an, wenn zuvor der Fernsteuermodus aktiv war und mit „Trennen“ beendet wurde. Drücken Sie „%1“. %2</translation>
+        <source>This scan cannot find the unit. The program accepts an answer only if the unit was in remote mode before, and Disconnect or a time-out ended remote mode. Press %1. %2</source>
+        <translation>Diese Suche kann das Gerät nicht finden. Das Programm nimmt eine Antwort nur an, wenn zuvor der Fernsteuermodus aktiv war und durch „Trennen“ oder eine Zeitüberschreitung endete. Drücken Sie „%1“. %2</translation>
     </message>
     <message>
-        <source>The scan could not find the unit: the program accepts an answer only if the unit was in remote mode before, and Disconnect ended it. %1</source>
-        <translation>Die Suche konnte das Gerät nicht finden: Das Programm nimmt eine Antwort nur an, wenn zuvor der Fernsteuermodus aktiv war und mit „Trennen“ beendet wurde. %1</translation>
+        <source>The scan could not find the unit. The program accepts an answer only if the unit was in remote mode before, and Disconnect or a time-out ended remote mode. %1</source>
+        <translation>Die Suche konnte das Gerät nicht finden. Das Programm nimmt eine Antwort nur an, wenn zuvor der Fernsteuermodus aktiv war und durch „Trennen“ oder eine Zeitüberschreitung endete. %1</translation>
     </message>
     <message>
-        <source>No unit answered the scan, which tried every baud rate with %1 and parity %2. Check the cable and the power of the unit. If the unit has other data bits or another parity, choose them in Set Comport and scan again.</source>
+        <source>No unit answered the scan. It tried every baud rate with %1 and parity %2. Check the cable and the power of the unit. If the unit has other data bits or another parity, choose them in Set Comport and scan again.</source>
         <translation>Auf die Suche hat kein Gerät geantwortet. Versucht wurde jede Baudrate mit %1 und Parität %2. Prüfen Sie das Kabel und die Stromversorgung des Geräts. Hat das Gerät andere Datenbits oder eine andere Parität, wählen Sie diese unter „COM-Port einstellen“ und suchen Sie erneut.</translation>
     </message>
     <message>
-        <source>The unit has not confirmed the download of %1. It may have another configuration, so download again: %2.</source>
+        <source>The unit has not confirmed the download at %1. It may have another configuration, so download again: %2.</source>
         <translation>Das Gerät hat das Schreiben um %1 nicht bestätigt. Es hat vielleicht eine andere Konfiguration, schreiben Sie deshalb noch einmal: %2.</translation>
     </message>
     <message>
@@ -258,7 +258,7 @@
         <translation>Diese Meldung ausblenden</translation>
     </message>
     <message>
-        <source>Hides this advice until its condition occurs again.</source>
+        <source>Hides this advice until its condition has ended and is true again.</source>
         <translation>Blendet diese Meldung aus, bis ihr Anlass wegfällt und erneut eintritt.</translation>
     </message>
     <message>
@@ -526,16 +526,16 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
         <translation>eine unbekannte Kasse</translation>
     </message>
     <message>
-        <source>%1 contains %2, for which its list has no entry.</source>
+        <source>%1 contains %2, but its list has no entry for it.</source>
         <translation>%1 enthält %2, was in der Liste nicht vorkommt.</translation>
     </message>
     <message>
-        <source>%1 has this number of bytes: %2. %4 reads %3, so a download moves everything behind it.</source>
-        <translation>Anzahl der Bytes von %1: %2. %4 liest dort aber %3, deshalb verschiebt das Schreiben alles dahinter.</translation>
+        <source>%1 has this number of bytes: %2. %4 reads %3, so a download puts all settings after it in the wrong place.</source>
+        <translation>Anzahl der Bytes von %1: %2. %4 liest dort aber %3, deshalb kommen beim Schreiben alle Einstellungen danach an die falsche Stelle.</translation>
     </message>
     <message>
-        <source>%1 is %2, but the default image of %3 has %4, as if another register had been picked.</source>
-        <translation>%1 ist %2, aber die Standardkonfiguration von %3 hat %4, als wäre eine andere Kasse gewählt worden.</translation>
+        <source>%1 is %2, but the default image of %3 has %4. The stored value can be that of another register.</source>
+        <translation>%1 ist %2, aber die Standardkonfiguration von %3 enthält %4. Der gespeicherte Wert kann der einer anderen Kasse sein.</translation>
     </message>
     <message>
         <source>%1 is %2, but the options of %3 set it to %4.</source>
@@ -554,7 +554,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
         <translation>Alarm %1 hat einen Text zum Anzeigen oder Ausgeben, aber nichts löst den Alarm aus.</translation>
     </message>
     <message>
-        <source>DISPLAY LINE is %1, but the clock and the title need %2 lines at least.</source>
+        <source>DISPLAY LINE is %1, but the clock and the title need at least %2 lines.</source>
         <translation>ANZEIGEZEILEN ist %1, aber Uhr und Titel brauchen mindestens %2 Zeilen.</translation>
     </message>
     <message>
@@ -578,7 +578,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
         <translation>Bei Ausnahme %1 ist MEHRZEILENSUCHE EIN, deshalb können ANZEIGE, AUSGABE und VERLAUFSSPEICHER auf AUS wechseln, sobald Sie die Ausnahme aufrufen.</translation>
     </message>
     <message>
-        <source>Exception %1 has a range, but its OPERATOR is NONE, so no amount is compared.</source>
+        <source>Exception %1 has a range, but its OPERATOR is NONE, so the unit does not compare the amount.</source>
         <translation>Ausnahme %1 hat einen Bereich, aber bei VERGLEICH ist OHNE gewählt, deshalb wird kein Betrag verglichen.</translation>
     </message>
     <message>
@@ -590,12 +590,12 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
         <translation>Ausnahme %1 hat den Text „%2“, ist aber als frei markiert.</translation>
     </message>
     <message>
-        <source>Exception %1 looks for the same as exception %2: &quot;%3&quot;.</source>
-        <translation>Ausnahme %1 sucht dasselbe wie Ausnahme %2: „%3“.</translation>
+        <source>Exception %1 has the same text, operator and range as exception %2: &quot;%3&quot;.</source>
+        <translation>Ausnahme %1 hat denselben Text, Vergleich und Bereich wie Ausnahme %2: „%3“.</translation>
     </message>
     <message>
-        <source>Exception %1, &quot;%2&quot;, is not displayed, sent to the output or kept in the history, and it triggers no alarm.</source>
-        <translation>Ausnahme %1, „%2“, wird weder angezeigt noch ausgegeben noch im Verlauf gespeichert, und sie löst keinen Alarm aus.</translation>
+        <source>Exception %1, &quot;%2&quot;, has no effect: its actions are OFF, and it triggers no alarm.</source>
+        <translation>Ausnahme %1, „%2“, hat keine Wirkung: Ihre Aktionen sind AUS, und sie löst keinen Alarm aus.</translation>
     </message>
     <message>
         <source>FLAG TYPE is %1, but FLAG DURATION is %2.</source>
@@ -638,7 +638,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
         <translation>Die Standardkonfiguration von %1 im Programmordner ist die von %2, deshalb stellt die Wahl von %1 in Wirklichkeit %2 ein.</translation>
     </message>
     <message>
-        <source>The network is stored with the ADDRESS %1, but the form shows %2 for its TYPE %3.</source>
+        <source>The network is stored with the ADDRESS %1, but the tab shows %2 for its TYPE %3.</source>
         <translation>Das Netzwerk ist mit der ADRESSE %1 gespeichert, aber die Registerkarte zeigt %2 für seinen TYP %3.</translation>
     </message>
     <message>
@@ -654,7 +654,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
         <translation>Der Bereich von Ausnahme %1 enthält keine gültige Zahl: %2.</translation>
     </message>
     <message>
-        <source>The text of exception %1 begins with a blank, which the line must have as well.</source>
+        <source>The text of exception %1 begins with a blank, so the line must have this blank too.</source>
         <translation>Der Text von Ausnahme %1 beginnt mit einem Leerzeichen, das auch in der Zeile stehen muss.</translation>
     </message>
     <message>
@@ -662,7 +662,7 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
         <translation>Der Text von Ausnahme %1 besteht nur aus „?“, das für jedes beliebige Zeichen steht.</translation>
     </message>
     <message>
-        <source>The text of exception %1 is stored with the length %2, and its own length is %3.</source>
+        <source>The text of exception %1 is stored with the length %2, but its length is %3.</source>
         <translation>Der Text von Ausnahme %1 ist mit der Länge %2 gespeichert, seine tatsächliche Länge ist %3.</translation>
     </message>
     <message>
@@ -770,12 +770,12 @@ Bitte installieren Sie die Ovalon PC Software neu !!</translation>
 <context>
     <name>CopySlotWindow</name>
     <message>
-        <source>This is the alarm itself. Pick another number.</source>
-        <translation>Das ist der Alarm selbst. Wählen Sie eine andere Nummer.</translation>
+        <source>This is the number of the alarm that you copy. Pick another number.</source>
+        <translation>Das ist die Nummer des Alarms, den Sie kopieren. Wählen Sie eine andere Nummer.</translation>
     </message>
     <message>
-        <source>This is the exception itself. Pick another number.</source>
-        <translation>Das ist die Ausnahme selbst. Wählen Sie eine andere Nummer.</translation>
+        <source>This is the number of the exception that you copy. Pick another number.</source>
+        <translation>Das ist die Nummer der Ausnahme, die Sie kopieren. Wählen Sie eine andere Nummer.</translation>
     </message>
     <message>
         <source>No alarm in use is overwritten.</source>
@@ -2760,8 +2760,8 @@ Die Hilfeseite %1 lässt sich nicht lesen: %2. Das Programm funktioniert ohne si
         <translation>%1 von %2 belegt</translation>
     </message>
     <message>
-        <source>Arrows move, Enter picks.</source>
-        <translation>Pfeiltasten zum Bewegen, Eingabetaste zum Wählen.</translation>
+        <source>Move with the arrow keys, and pick with Enter.</source>
+        <translation>Bewegen Sie sich mit den Pfeiltasten und wählen Sie mit der Eingabetaste.</translation>
     </message>
 </context>
 <context>
@@ -2808,7 +2808,7 @@ Die Firmware legt root fest, zum Beispiel mit: ovl-setup V1400 R12</translation>
     </message>
     <message>
         <source>%1
-The next start serves the same firmware as this one. To set the other one, run as root: ovl-setup %2</source>
+The next start uses the same firmware as this one. To set the other one, run as root: ovl-setup %2</source>
         <translation>%1
 Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root fest mit: ovl-setup %2</translation>
     </message>
@@ -2817,7 +2817,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>Das Programm kann keine Kopie Ihrer Änderungen anlegen. %1</translation>
     </message>
     <message>
-        <source>%1: rescued changes. Open them with &quot;File&quot;, &quot;Open&quot;</source>
+        <source>%1 contains rescued changes. Open it with &quot;File&quot;, &quot;Open&quot;</source>
         <translation>%1 enthält gerettete Änderungen. Öffnen Sie die Datei mit „Datei“, „Öffnen“.</translation>
     </message>
     <message>
@@ -2836,15 +2836,15 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
 <context>
     <name>Question</name>
     <message>
-        <source>It does not fit any firmware: it is cut off, damaged, or not a configuration.</source>
-        <translation>Die Datei passt zu keiner Firmware: Sie ist abgeschnitten, beschädigt oder keine Konfiguration.</translation>
+        <source>The file does not fit any firmware: it is not complete, damaged, or not a configuration.</source>
+        <translation>Die Datei passt zu keiner Firmware: Sie ist unvollständig, beschädigt oder keine Konfiguration.</translation>
     </message>
     <message>
-        <source>It fits %1.</source>
+        <source>The file fits %1.</source>
         <translation>Die Datei passt zu %1.</translation>
     </message>
     <message>
-        <source>This program serves %1.</source>
+        <source>This program uses %1.</source>
         <translation>Dieses Programm verwendet %1.</translation>
     </message>
     <message>
@@ -2856,8 +2856,8 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>Beim Öffnen von %1 wird das Programm beendet.</translation>
     </message>
     <message>
-        <source>This program serves %1 and reads it as such a file.</source>
-        <translation>Dieses Programm verwendet %1 und liest die Datei in diesem Format.</translation>
+        <source>This program uses %1 and reads the file as a file of this firmware.</source>
+        <translation>Dieses Programm verwendet %1 und liest die Datei wie eine Datei dieser Firmware.</translation>
     </message>
     <message>
         <source>&quot;Save&quot; under %1 writes such files. Open a backup instead.</source>
@@ -2913,10 +2913,10 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>Zeigt nur die Kassen, deren Namen alle diese Wörter enthalten (Strg+F).</translation>
     </message>
     <message numerus="yes">
-        <source>Type to find, Enter goes to the list. %n registers.</source>
+        <source>Type a part of the name. Enter goes to the list. %n registers.</source>
         <translation>
-            <numerusform>Tippen sucht, Eingabetaste springt in die Liste. %n Kasse.</numerusform>
-            <numerusform>Tippen sucht, Eingabetaste springt in die Liste. %n Kassen.</numerusform>
+            <numerusform>Tippen Sie einen Teil des Namens. Die Eingabetaste springt in die Liste. %n Kasse.</numerusform>
+            <numerusform>Tippen Sie einen Teil des Namens. Die Eingabetaste springt in die Liste. %n Kassen.</numerusform>
         </translation>
     </message>
     <message>
@@ -2950,7 +2950,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
 <context>
     <name>RegisterWindows</name>
     <message>
-        <source>A pick is stored at once.</source>
+        <source>The program stores your pick at once.</source>
         <translation>Eine Auswahl wird sofort gespeichert.</translation>
     </message>
 </context>
@@ -3094,7 +3094,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>%1 enthält Fehler und lässt sich nicht vergleichen.</translation>
     </message>
     <message>
-        <source>%1 is a text of %2. This program serves %3, which does not have all of its settings.</source>
+        <source>%1 is a text of %2. This program uses %3, which does not have all of its settings.</source>
         <translation>%1 ist ein Text für %2. Dieses Programm verwendet %3, und dort gibt es nicht alle Einstellungen dieses Texts.</translation>
     </message>
     <message>
@@ -3152,8 +3152,8 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
 <context>
     <name>TextRows</name>
     <message>
-        <source>A click opens its window.</source>
-        <translation>Ein Klick öffnet das zugehörige Fenster.</translation>
+        <source>Click here to change it.</source>
+        <translation>Klicken Sie hier, um die Einstellung zu ändern.</translation>
     </message>
 </context>
 <context>
@@ -3167,31 +3167,31 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>%1 von %2 Zeichen.</translation>
     </message>
     <message>
-        <source>Up to %1 digits, and %2 behind the separator: 5 becomes 05.</source>
+        <source>Up to %1 digits before the separator, and %2 after it: 5 becomes 05.</source>
         <translation>Bis zu %1 Ziffern vor und %2 nach dem Trennzeichen; aus 5 wird dort 05.</translation>
     </message>
     <message>
-        <source>The separator is the same for all exceptions. It is stored at once.</source>
+        <source>The separator is for all exceptions. The program stores it at once.</source>
         <translation>Das Trennzeichen gilt für alle Ausnahmen. Es wird sofort gespeichert.</translation>
     </message>
 </context>
 <context>
     <name>Tip</name>
     <message>
-        <source>The register whose print stream the unit listens to. A pick takes in that register&apos;s default settings.</source>
-        <translation>Die Kasse, deren Druckdaten das Gerät mithört. Eine Auswahl übernimmt die Standardeinstellungen dieser Kasse.</translation>
+        <source>The register that the unit listens to. A pick loads the default settings of this register.</source>
+        <translation>Die Kasse, die das Gerät mithört. Eine Auswahl lädt die Standardeinstellungen dieser Kasse.</translation>
     </message>
     <message>
-        <source>The video recorder that the unit feeds with its history data.</source>
-        <translation>Der Videorekorder, dem das Gerät seine Verlaufsdaten liefert.</translation>
+        <source>The video recorder to which the unit sends its history data.</source>
+        <translation>Der Videorekorder, an den das Gerät seine Verlaufsdaten sendet.</translation>
     </message>
     <message>
-        <source>The address under which the recorder listens to the unit&apos;s history data.</source>
-        <translation>Die Adresse, unter der der Rekorder die Verlaufsdaten des Geräts empfängt.</translation>
+        <source>The address of the recorder that receives the history data.</source>
+        <translation>Die Adresse des Rekorders, der die Verlaufsdaten empfängt.</translation>
     </message>
     <message>
-        <source>The address under which the unit sends its history data to the recorder.</source>
-        <translation>Die Adresse, unter der das Gerät seine Verlaufsdaten an den Rekorder sendet.</translation>
+        <source>The address of the unit when it sends the history data.</source>
+        <translation>Die Adresse des Geräts, wenn es die Verlaufsdaten sendet.</translation>
     </message>
     <message>
         <source>Reads the unit&apos;s whole configuration into this program. Press Remote first. The unit then leaves remote mode.</source>
@@ -3210,7 +3210,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>Liest den Verlauf des Geräts in eine Textdatei. Drücken Sie vorher „Fernsteuern“. Das Gerät verlässt den Fernsteuermodus.</translation>
     </message>
     <message>
-        <source>Puts the unit into remote mode, in which it follows this program. Press it again to end remote mode.</source>
+        <source>Starts remote mode, in which the unit obeys this program. Press the button again to end remote mode.</source>
         <translation>Schaltet das Gerät in den Fernsteuermodus, in dem es diesem Programm folgt. Ein zweiter Druck beendet ihn.</translation>
     </message>
     <message>
@@ -3218,39 +3218,39 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>Setzt das Gerät sofort und ohne Rückfrage auf die Werkseinstellungen zurück. Drücken Sie vorher „Fernsteuern“.</translation>
     </message>
     <message>
-        <source>Chooses and opens the serial port to which the unit is wired.</source>
-        <translation>Wählt und öffnet die serielle Schnittstelle, an der das Gerät angeschlossen ist.</translation>
+        <source>Opens the window in which you choose and open the serial port of the unit.</source>
+        <translation>Öffnet das Fenster, in dem Sie die serielle Schnittstelle des Geräts wählen und öffnen.</translation>
     </message>
     <message>
         <source>Ends remote mode and closes the serial port.</source>
         <translation>Beendet den Fernsteuermodus und schließt die serielle Schnittstelle.</translation>
     </message>
     <message>
-        <source>The date and time below follow this computer&apos;s clock.</source>
-        <translation>Datum und Uhrzeit darunter folgen der Uhr dieses Computers.</translation>
+        <source>SET TIME uses the clock of this computer. The lists below show its date and time.</source>
+        <translation>UHR STELLEN benutzt die Uhr dieses Computers. Die Listen darunter zeigen ihr Datum und ihre Uhrzeit.</translation>
     </message>
     <message>
-        <source>The month that SET TIME gives to the unit&apos;s clock.</source>
+        <source>The month to which SET TIME sets the clock of the unit.</source>
         <translation>Der Monat, auf den UHR STELLEN die Uhr des Geräts stellt.</translation>
     </message>
     <message>
-        <source>The day that SET TIME gives to the unit&apos;s clock.</source>
+        <source>The day to which SET TIME sets the clock of the unit.</source>
         <translation>Der Tag, auf den UHR STELLEN die Uhr des Geräts stellt.</translation>
     </message>
     <message>
-        <source>The year that SET TIME gives to the unit&apos;s clock.</source>
+        <source>The year to which SET TIME sets the clock of the unit.</source>
         <translation>Das Jahr, auf das UHR STELLEN die Uhr des Geräts stellt.</translation>
     </message>
     <message>
-        <source>The hour that SET TIME gives to the unit&apos;s clock.</source>
+        <source>The hour to which SET TIME sets the clock of the unit.</source>
         <translation>Die Stunde, auf die UHR STELLEN die Uhr des Geräts stellt.</translation>
     </message>
     <message>
-        <source>The minute that SET TIME gives to the unit&apos;s clock.</source>
+        <source>The minute to which SET TIME sets the clock of the unit.</source>
         <translation>Die Minute, auf die UHR STELLEN die Uhr des Geräts stellt.</translation>
     </message>
     <message>
-        <source>The second that SET TIME gives to the unit&apos;s clock.</source>
+        <source>The second to which SET TIME sets the clock of the unit.</source>
         <translation>Die Sekunde, auf die UHR STELLEN die Uhr des Geräts stellt.</translation>
     </message>
     <message>
@@ -3258,28 +3258,28 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>Der Fortschritt der Übertragung.</translation>
     </message>
     <message>
-        <source>The serial port to which the unit is wired.</source>
+        <source>The serial port to which the unit is connected.</source>
         <translation>Die serielle Schnittstelle, an der das Gerät angeschlossen ist.</translation>
     </message>
     <message>
-        <source>The baud rate of the unit; both ends must agree.</source>
-        <translation>Die Baudrate des Geräts; beide Seiten müssen übereinstimmen.</translation>
+        <source>The baud rate. The unit must have the same.</source>
+        <translation>Die Baudrate. Sie muss mit der des Geräts übereinstimmen.</translation>
     </message>
     <message>
-        <source>Data bits of a character; both ends must agree.</source>
-        <translation>Die Datenbits eines Zeichens; beide Seiten müssen übereinstimmen.</translation>
+        <source>The data bits of a character. The unit must have the same.</source>
+        <translation>Die Datenbits eines Zeichens. Sie müssen mit denen des Geräts übereinstimmen.</translation>
     </message>
     <message>
-        <source>Parity of a character; both ends must agree.</source>
-        <translation>Die Parität eines Zeichens; beide Seiten müssen übereinstimmen.</translation>
+        <source>The parity of a character. The unit must have the same.</source>
+        <translation>Die Parität eines Zeichens. Sie muss mit der des Geräts übereinstimmen.</translation>
     </message>
     <message>
         <source>Opens the port with these settings.</source>
         <translation>Öffnet die Schnittstelle mit diesen Einstellungen.</translation>
     </message>
     <message>
-        <source>Asks the unit at one rate after the other until it answers.</source>
-        <translation>Fragt das Gerät mit einer Baudrate nach der anderen, bis es antwortet.</translation>
+        <source>Tries one baud rate after the other until the unit answers.</source>
+        <translation>Versucht eine Baudrate nach der anderen, bis das Gerät antwortet.</translation>
     </message>
     <message>
         <source>Ends the scan and closes the port.</source>
@@ -3290,160 +3290,160 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>Die Art des Netzwerkgeräts, dessen Stelle dieses Gerät einnimmt.</translation>
     </message>
     <message>
-        <source>The address of that device; ANY takes every address.</source>
-        <translation>Die Adresse dieses Netzwerkgeräts; ALLE lässt jede Adresse zu.</translation>
+        <source>The address of this device. ANY means every address.</source>
+        <translation>Die Adresse dieses Netzwerkgeräts. ALLE lässt jede Adresse zu.</translation>
     </message>
     <message>
-        <source>Whether the unit only listens (TAP) or answers as the device (EMULATE).</source>
+        <source>Whether the unit only listens (TAP) or answers as this device (EMULATE).</source>
         <translation>Ob das Gerät nur mithört (MITHÖREN) oder anstelle des Netzwerkgeräts antwortet (EMULIEREN).</translation>
     </message>
     <message>
-        <source>The kind of device whose messages the unit takes; ANY takes all.</source>
-        <translation>Die Art des Netzwerkgeräts, dessen Meldungen das Gerät übernimmt; ALLE lässt jede Art zu.</translation>
+        <source>The unit reads only messages from this kind of device. ANY means every kind.</source>
+        <translation>Das Gerät liest nur Meldungen von dieser Art von Netzwerkgerät. ALLE lässt jede Art zu.</translation>
     </message>
     <message>
-        <source>The group address from which a message must come; ANY takes all.</source>
-        <translation>Die Gruppenadresse, von der eine Meldung kommen muss; ALLE lässt jede zu.</translation>
+        <source>The unit reads only messages from this group address. ANY means every address.</source>
+        <translation>Das Gerät liest nur Meldungen von dieser Gruppenadresse. ALLE lässt jede Adresse zu.</translation>
     </message>
     <message>
-        <source>The local address from which a message must come; ANY takes all.</source>
-        <translation>Die lokale Adresse, von der eine Meldung kommen muss; ALLE lässt jede zu.</translation>
+        <source>The unit reads only messages from this local address. ANY means every address.</source>
+        <translation>Das Gerät liest nur Meldungen von dieser lokalen Adresse. ALLE lässt jede Adresse zu.</translation>
     </message>
     <message>
-        <source>The IDN number from which a message must come; ANY takes all.</source>
-        <translation>Die IDN-Nummer, von der eine Meldung kommen muss; ALLE lässt jede zu.</translation>
+        <source>The unit reads only messages from this IDN number. ANY means every number.</source>
+        <translation>Das Gerät liest nur Meldungen von dieser IDN-Nummer. ALLE lässt jede Nummer zu.</translation>
     </message>
     <message>
-        <source>The kind of device to which a message must go; ANY takes all.</source>
-        <translation>Die Art des Netzwerkgeräts, an das eine Meldung gehen muss; ALLE lässt jede Art zu.</translation>
+        <source>The unit reads only messages to this kind of device. ANY means every kind.</source>
+        <translation>Das Gerät liest nur Meldungen an diese Art von Netzwerkgerät. ALLE lässt jede Art zu.</translation>
     </message>
     <message>
-        <source>The group address to which a message must go; ANY takes all.</source>
-        <translation>Die Gruppenadresse, an die eine Meldung gehen muss; ALLE lässt jede zu.</translation>
+        <source>The unit reads only messages to this group address. ANY means every address.</source>
+        <translation>Das Gerät liest nur Meldungen an diese Gruppenadresse. ALLE lässt jede Adresse zu.</translation>
     </message>
     <message>
-        <source>The local address to which a message must go; ANY takes all.</source>
-        <translation>Die lokale Adresse, an die eine Meldung gehen muss; ALLE lässt jede zu.</translation>
+        <source>The unit reads only messages to this local address. ANY means every address.</source>
+        <translation>Das Gerät liest nur Meldungen an diese lokale Adresse. ALLE lässt jede Adresse zu.</translation>
     </message>
     <message>
-        <source>The IDN number to which a message must go; ANY takes all.</source>
-        <translation>Die IDN-Nummer, an die eine Meldung gehen muss; ALLE lässt jede zu.</translation>
+        <source>The unit reads only messages to this IDN number. ANY means every number.</source>
+        <translation>Das Gerät liest nur Meldungen an diese IDN-Nummer. ALLE lässt jede Nummer zu.</translation>
     </message>
     <message>
         <source>Whether the unit acknowledges what the register sends.</source>
         <translation>Ob das Gerät bestätigt, was die Kasse sendet.</translation>
     </message>
     <message>
-        <source>The number of the register that the unit follows; seven digits are stored.</source>
-        <translation>Die Nummer der Kasse, die das Gerät mithört; gespeichert werden sieben Ziffern.</translation>
+        <source>The number of the register that the unit listens to. The program stores seven digits.</source>
+        <translation>Die Nummer der Kasse, die das Gerät mithört. Das Programm speichert sieben Ziffern.</translation>
     </message>
     <message>
-        <source>Stores what this window shows; closing it otherwise stores nothing.</source>
-        <translation>Speichert, was dieses Fenster zeigt; wird es anders geschlossen, wird nichts gespeichert.</translation>
+        <source>Stores the settings of this window. If you close the window without SET, they do not change.</source>
+        <translation>Speichert die Einstellungen dieses Fensters. Wenn Sie das Fenster ohne ÜBERNEHMEN schließen, ändern sie sich nicht.</translation>
     </message>
     <message>
-        <source>The port of the register to which the unit is wired.</source>
+        <source>The port of the register to which the unit is connected.</source>
         <translation>Der Anschluss der Kasse, mit dem das Gerät verbunden ist.</translation>
     </message>
     <message>
-        <source>The model, which is fixed.</source>
-        <translation>Das Modell; es lässt sich nicht ändern.</translation>
+        <source>The model. You cannot change it.</source>
+        <translation>Das Modell. Es lässt sich nicht ändern.</translation>
     </message>
     <message>
         <source>Whether the unit listens to the printer line (TAPPING) or answers as the printer (EMULATING).</source>
         <translation>Ob das Gerät die Druckerleitung mithört (MITHÖREN) oder als Drucker antwortet (EMULIEREN).</translation>
     </message>
     <message>
-        <source>How the unit takes the text of this model; the choice is stored at once.</source>
-        <translation>Wie das Gerät den Text dieses Modells empfängt; die Wahl wird sofort gespeichert.</translation>
+        <source>How the unit receives the text of this model. The program stores your pick at once.</source>
+        <translation>Wie das Gerät den Text dieses Modells empfängt. Das Programm speichert Ihre Wahl sofort.</translation>
     </message>
     <message>
-        <source>The terminal whose text the unit takes; ANY takes them all.</source>
-        <translation>Das Terminal, dessen Text das Gerät übernimmt; ALLE lässt jedes zu.</translation>
+        <source>The terminal whose text the unit reads. ANY means every terminal.</source>
+        <translation>Das Terminal, dessen Text das Gerät liest. ALLE lässt jedes Terminal zu.</translation>
     </message>
     <message>
-        <source>Which of the 24 exceptions is shown here; the overview picks it as well.</source>
-        <translation>Welche der 24 Ausnahmen hier angezeigt wird; auch die Übersicht wählt sie.</translation>
+        <source>Which of the 24 exceptions this tab shows. You can also pick it in the overview.</source>
+        <translation>Welche der 24 Ausnahmen diese Seite zeigt. Sie lässt sich auch in der Übersicht wählen.</translation>
     </message>
     <message>
         <source>Whether the unit shows a line in the picture when this exception matches.</source>
         <translation>Ob das Gerät eine Zeile im Bild zeigt, wenn diese Ausnahme zutrifft.</translation>
     </message>
     <message>
-        <source>Whether the unit passes a line on when this exception matches.</source>
-        <translation>Ob das Gerät eine Zeile ausgibt, wenn diese Ausnahme zutrifft.</translation>
+        <source>Whether the unit sends a line on its serial line when this exception matches.</source>
+        <translation>Ob das Gerät eine Zeile über seine Leitung ausgibt, wenn diese Ausnahme zutrifft.</translation>
     </message>
     <message>
-        <source>Whether the unit keeps a line in its history buffer when this exception matches.</source>
-        <translation>Ob das Gerät eine Zeile in seinem Verlaufsspeicher speichert, wenn diese Ausnahme zutrifft.</translation>
+        <source>Whether the unit keeps a line in its history when this exception matches.</source>
+        <translation>Ob das Gerät eine Zeile in seinem Verlauf speichert, wenn diese Ausnahme zutrifft.</translation>
     </message>
     <message>
-        <source>Whether this exception starts a scroll match; it then has no display, output or history of its own.</source>
-        <translation>Ob diese Ausnahme eine Mehrzeilensuche beginnt; sie hat dann keine eigene Anzeige, keine eigene Ausgabe und keinen eigenen Verlauf.</translation>
+        <source>Whether a match over several lines begins with this exception. It then has no display, output or history.</source>
+        <translation>Ob diese Ausnahme eine Mehrzeilensuche beginnt. Sie hat dann keine Anzeige, keine Ausgabe und keinen Verlauf.</translation>
     </message>
     <message>
-        <source>How the unit compares the amount on the line with the two values of the range.</source>
-        <translation>Wie das Gerät den Betrag in der Zeile mit den beiden Werten des Bereichs vergleicht.</translation>
+        <source>Whether the unit compares the amount in the line with the two values of the range, and how.</source>
+        <translation>Ob und wie das Gerät den Betrag in der Zeile mit den beiden Werten des Bereichs vergleicht.</translation>
     </message>
     <message>
-        <source>The text that the unit looks for in what the register prints; ? matches any character.</source>
-        <translation>Der Text, den das Gerät in den Druckdaten der Kasse sucht; „?“ steht für ein beliebiges Zeichen.</translation>
+        <source>The text that the unit looks for in each line of the register. &quot;?&quot; matches any character.</source>
+        <translation>Der Text, den das Gerät in jeder Zeile der Kasse sucht. „?“ steht für ein beliebiges Zeichen.</translation>
     </message>
     <message>
-        <source>Opens a window in which the text to look for is typed.</source>
-        <translation>Öffnet ein Fenster, in dem der gesuchte Text eingegeben wird.</translation>
+        <source>Opens the window in which you type the text of this exception.</source>
+        <translation>Öffnet das Fenster, in dem Sie den Text dieser Ausnahme eingeben.</translation>
     </message>
     <message>
-        <source>The first value with which the unit compares the amount on the line.</source>
+        <source>The first value with which the unit compares the amount in the line.</source>
         <translation>Der erste Wert, mit dem das Gerät den Betrag in der Zeile vergleicht.</translation>
     </message>
     <message>
-        <source>The second value with which the unit compares the amount on the line.</source>
+        <source>The second value with which the unit compares the amount in the line.</source>
         <translation>Der zweite Wert, mit dem das Gerät den Betrag in der Zeile vergleicht.</translation>
     </message>
     <message>
-        <source>Opens a window in which the two values are typed.</source>
-        <translation>Öffnet ein Fenster, in dem die beiden Werte eingegeben werden.</translation>
+        <source>Opens the window in which you type the two values.</source>
+        <translation>Öffnet das Fenster, in dem Sie die beiden Werte eingeben.</translation>
     </message>
     <message>
-        <source>Whether the unit matches texts that run over several lines.</source>
-        <translation>Ob das Gerät Texte sucht, die über mehrere Zeilen gehen.</translation>
+        <source>Whether the unit looks for matches over several lines.</source>
+        <translation>Ob das Gerät Treffer über mehrere Zeilen sucht.</translation>
     </message>
     <message>
-        <source>How long the unit waits for the rest of a match that runs over several lines.</source>
-        <translation>Wie lange das Gerät auf den Rest eines Treffers wartet, der über mehrere Zeilen geht.</translation>
+        <source>How long the unit waits for the rest of a match over several lines.</source>
+        <translation>Wie lange das Gerät auf den Rest eines Treffers über mehrere Zeilen wartet.</translation>
     </message>
     <message>
-        <source>Which of the 16 alarms is shown here; the overview picks it as well.</source>
-        <translation>Welcher der 16 Alarme hier angezeigt wird; auch die Übersicht wählt ihn.</translation>
+        <source>Which of the 16 alarms this tab shows. You can also pick it in the overview.</source>
+        <translation>Welchen der 16 Alarme diese Seite zeigt. Er lässt sich auch in der Übersicht wählen.</translation>
     </message>
     <message>
         <source>What triggers the alarm: nothing, one exception, a group of exceptions, or the RTS line.</source>
         <translation>Was den Alarm auslöst: nichts, eine Ausnahme, eine Gruppe von Ausnahmen oder die RTS-Leitung.</translation>
     </message>
     <message>
-        <source>The number beside it is that of the exception that triggers the alarm.</source>
-        <translation>Die Nummer daneben ist die der Ausnahme, die den Alarm auslöst.</translation>
+        <source>The number beside &quot;EX.&quot; is the number of the exception that triggers the alarm.</source>
+        <translation>Die Nummer daneben ist die Nummer der Ausnahme, die den Alarm auslöst.</translation>
     </message>
     <message>
-        <source>The state of the contact without an alarm: NO open, NC closed. Alarm 9 keeps the state it has.</source>
-        <translation>Der Zustand des Kontakts ohne Alarm: NO offen, NC geschlossen. Alarm 9 behält seinen Zustand.</translation>
+        <source>The state of the contact without an alarm: NO is open, NC is closed. You cannot change the state of alarm 9.</source>
+        <translation>Der Zustand des Kontakts ohne Alarm: NO offen, NC geschlossen. Der Zustand von Alarm 9 lässt sich nicht ändern.</translation>
     </message>
     <message>
-        <source>For how long the unit holds the alarm; PLUSE gives a pulse. The program does not know the unit of time: see the manual of the unit.</source>
-        <translation>Wie lange das Gerät den Alarm hält; IMPULS gibt einen Impuls. Das Programm kennt die Zeiteinheit nicht: siehe das Handbuch des Geräts.</translation>
+        <source>How long the unit keeps the alarm on. PLUSE is a short pulse. The program does not know the unit of time: see the manual of the unit.</source>
+        <translation>Wie lange das Gerät den Alarm hält. IMPULS ist ein kurzer Impuls. Das Programm kennt die Zeiteinheit nicht: siehe das Handbuch des Geräts.</translation>
     </message>
     <message>
-        <source>How the unit marks the picture while an alarm is on; the same for all alarms.</source>
-        <translation>Wie das Gerät das Bild während eines Alarms markiert; für alle Alarme gleich.</translation>
+        <source>How the unit marks the text during an alarm. The setting is for all alarms.</source>
+        <translation>Wie das Gerät den Text während eines Alarms markiert. Die Einstellung gilt für alle Alarme.</translation>
     </message>
     <message>
-        <source>For how long the unit marks the picture, from 000 to 240 in steps of 2; the same for all alarms. The program does not know the unit of time: see the manual of the unit.</source>
-        <translation>Wie lange das Gerät das Bild markiert, von 000 bis 240 in Schritten von 2; für alle Alarme gleich. Das Programm kennt die Zeiteinheit nicht: siehe das Handbuch des Geräts.</translation>
+        <source>How long the unit keeps the mark, from 000 to 240 in steps of 2. The setting is for all alarms. The program does not know the unit of time: see the manual of the unit.</source>
+        <translation>Wie lange das Gerät die Markierung zeigt, von 000 bis 240 in Schritten von 2. Die Einstellung gilt für alle Alarme. Das Programm kennt die Zeiteinheit nicht: siehe das Handbuch des Geräts.</translation>
     </message>
     <message>
-        <source>What this alarm does when the video signal is lost: OFF nothing, MANUAL until somebody ends it, or for the time that is picked.</source>
-        <translation>Was dieser Alarm tut, wenn das Videosignal ausfällt: bei AUS nichts, bei MANUELL Alarm, bis ihn jemand beendet, sonst Alarm für die gewählte Zeit.</translation>
+        <source>Whether a lost video signal triggers this alarm. OFF: no. MANUAL: until somebody ends the alarm. A time: for this time.</source>
+        <translation>Ob ein Ausfall des Videosignals diesen Alarm auslöst. AUS: nein. MANUELL: bis jemand den Alarm beendet. Eine Zeit: für diese Zeit.</translation>
     </message>
     <message>
         <source>Which of two types this alarm has, DWELL or TIMED: see the manual of the unit. If you do not know the types, keep what you uploaded. The type is not a time. It has an effect only when something triggers this alarm.</source>
@@ -3454,15 +3454,15 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>Der Text, den das Gerät während dieses Alarms anzeigt oder ausgibt.</translation>
     </message>
     <message>
-        <source>Opens a window in which this alarm&apos;s text is typed.</source>
-        <translation>Öffnet ein Fenster, in dem der Text dieses Alarms eingegeben wird.</translation>
+        <source>Opens the window in which you type the text of this alarm.</source>
+        <translation>Öffnet das Fenster, in dem Sie den Text dieses Alarms eingeben.</translation>
     </message>
     <message>
         <source>Whether the unit shows the text in the picture during this alarm.</source>
         <translation>Ob das Gerät den Text während dieses Alarms im Bild zeigt.</translation>
     </message>
     <message>
-        <source>Whether the unit sends the text on its line during this alarm.</source>
+        <source>Whether the unit sends the text on its serial line during this alarm.</source>
         <translation>Ob das Gerät den Text während dieses Alarms über seine Leitung ausgibt.</translation>
     </message>
     <message>
@@ -3470,75 +3470,75 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>Wie lange nach dem RTS-Signal das Gerät den Text dieses Alarms anzeigt oder ausgibt.</translation>
     </message>
     <message>
-        <source>The fixed text that the unit writes in the picture, such as the shop&apos;s name.</source>
+        <source>The fixed text that the unit writes into the picture, such as the name of the shop.</source>
         <translation>Der feste Text, den das Gerät ins Bild schreibt, etwa der Name des Geschäfts.</translation>
     </message>
     <message>
-        <source>Opens a window in which the title of the picture is typed.</source>
-        <translation>Öffnet ein Fenster, in dem der Titel des Bildes eingegeben wird.</translation>
+        <source>Opens the window in which you type the title.</source>
+        <translation>Öffnet das Fenster, in dem Sie den Titel eingeben.</translation>
     </message>
     <message>
-        <source>After power up the unit plays a built-in register, so that the picture can be tried without one.</source>
-        <translation>Nach dem Einschalten spielt das Gerät die Daten einer Demokasse ab, damit sich das Bild ohne Kasse testen lässt.</translation>
+        <source>After power up the unit simulates a register. You can then see text in the picture without a register.</source>
+        <translation>Nach dem Einschalten simuliert das Gerät eine Kasse. So sehen Sie Text im Bild, auch ohne Kasse.</translation>
     </message>
     <message>
-        <source>How many characters a line of the demo has.</source>
-        <translation>Wie viele Zeichen eine Zeile der Demo hat.</translation>
+        <source>How many characters a line of the receipts has.</source>
+        <translation>Wie viele Zeichen eine Zeile der Belege hat.</translation>
     </message>
     <message>
-        <source>The kind of shop whose receipts the demo plays.</source>
-        <translation>Die Art des Geschäfts, dessen Belege die Demo abspielt.</translation>
+        <source>The kind of shop whose receipts the demo shows.</source>
+        <translation>Die Art des Geschäfts, dessen Belege die Demo zeigt.</translation>
     </message>
     <message>
-        <source>How much time the demo takes for a line.</source>
-        <translation>Wie viel Zeit die Demo für eine Zeile braucht.</translation>
+        <source>The time between two lines of the demo.</source>
+        <translation>Die Zeit zwischen zwei Zeilen der Demo.</translation>
     </message>
     <message>
-        <source>The text that the unit keeps, 40 characters at most.</source>
-        <translation>Der Text, den das Gerät speichert, höchstens 40 Zeichen.</translation>
+        <source>The text, 40 characters at most.</source>
+        <translation>Der Text, höchstens 40 Zeichen.</translation>
     </message>
     <message>
         <source>Stores the text and closes this window.</source>
         <translation>Speichert den Text und schließt dieses Fenster.</translation>
     </message>
     <message>
-        <source>Empties the text; only SET stores it.</source>
-        <translation>Leert den Text; erst ÜBERNEHMEN speichert ihn.</translation>
+        <source>Deletes the text in this window. Press SET to store the change.</source>
+        <translation>Löscht den Text in diesem Fenster. Drücken Sie ÜBERNEHMEN, um die Änderung zu speichern.</translation>
     </message>
     <message>
-        <source>The two digits of the first value behind the separator.</source>
+        <source>The two digits of the first value after the separator.</source>
         <translation>Die beiden Ziffern des ersten Werts hinter dem Trennzeichen.</translation>
     </message>
     <message>
-        <source>The two digits of the second value behind the separator.</source>
+        <source>The two digits of the second value after the separator.</source>
         <translation>Die beiden Ziffern des zweiten Werts hinter dem Trennzeichen.</translation>
     </message>
     <message>
-        <source>The separator that the register prints between whole and decimal digits; it is for all exceptions and is stored at once.</source>
-        <translation>Das Trennzeichen, das die Kasse vor den Nachkommastellen druckt; es gilt für alle Ausnahmen und wird sofort gespeichert.</translation>
+        <source>The separator that the register prints before the last two digits of an amount. It is for all exceptions. The program stores it at once.</source>
+        <translation>Das Trennzeichen, das die Kasse vor den letzten beiden Ziffern eines Betrags druckt. Es gilt für alle Ausnahmen. Das Programm speichert es sofort.</translation>
     </message>
     <message>
         <source>Stores the two values and closes this window.</source>
         <translation>Speichert die beiden Werte und schließt dieses Fenster.</translation>
     </message>
     <message>
-        <source>Sets both values to zero, which only SET stores, and the separator to &quot;.&quot; at once.</source>
-        <translation>Setzt beide Werte auf 0 (erst ÜBERNEHMEN speichert sie) und das Trennzeichen sofort auf „.“.</translation>
+        <source>Sets both values to zero. Press SET to store them. The separator becomes &quot;.&quot; at once.</source>
+        <translation>Setzt beide Werte auf 0. Drücken Sie ÜBERNEHMEN, um sie zu speichern. Das Trennzeichen wird sofort „.“.</translation>
     </message>
     <message>
-        <source>The text of the file; it can be marked and copied.</source>
-        <translation>Der Text der Datei; er lässt sich markieren und kopieren.</translation>
+        <source>The text of the file. You can mark and copy it.</source>
+        <translation>Der Text der Datei. Er lässt sich markieren und kopieren.</translation>
     </message>
     <message>
-        <source>How the unit is wired to the register: on an RS-232 line of its own, as a passive tap, or on a bus.</source>
-        <translation>Wie das Gerät mit der Kasse verbunden ist: über eine eigene RS-232-Leitung, als passiver Abgriff oder an einem Bus.</translation>
+        <source>How the unit is connected to the register: with its own RS-232 line, as a passive tap that only listens, or on an RS-485 bus.</source>
+        <translation>Wie das Gerät mit der Kasse verbunden ist: über eine eigene RS-232-Leitung, als passiver Abgriff, der nur mithört, oder an einem RS-485-Bus.</translation>
     </message>
     <message>
-        <source>The speed at which the unit listens to the register; AUTO finds it by itself.</source>
-        <translation>Die Baudrate, mit der das Gerät die Kasse mithört; AUTO findet sie selbst.</translation>
+        <source>The baud rate at which the unit receives from the register. With AUTO, the unit finds the baud rate itself.</source>
+        <translation>Die Baudrate, mit der das Gerät von der Kasse empfängt. Bei AUTO findet das Gerät die Baudrate selbst.</translation>
     </message>
     <message>
-        <source>The speed at which the unit sends.</source>
+        <source>The baud rate at which the unit sends.</source>
         <translation>Die Baudrate, mit der das Gerät sendet.</translation>
     </message>
     <message>
@@ -3554,35 +3554,35 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>Ob das Gerät die Handshake-Signale der Kassenleitung benutzt.</translation>
     </message>
     <message>
-        <source>Whether the unit begins a new line of text at every carriage return; what is stored follows the handshaking.</source>
-        <translation>Ob das Gerät bei jedem Wagenrücklauf eine neue Textzeile beginnt; gespeichert wird, was zum Handshake passt.</translation>
+        <source>Whether the unit begins a new line at every carriage return. The stored value depends on the handshaking, not on your pick.</source>
+        <translation>Ob das Gerät bei jedem Wagenrücklauf eine neue Zeile beginnt. Der gespeicherte Wert hängt vom Handshake ab, nicht von Ihrer Wahl.</translation>
     </message>
     <message>
-        <source>The form in which the unit sends its text on to the recorder; a choice for a MASTER only.</source>
-        <translation>Das Format, in dem das Gerät seinen Text an den Rekorder ausgibt; nur bei MASTER wählbar.</translation>
+        <source>The form in which the unit sends its text. You can choose only for a MASTER.</source>
+        <translation>Das Format, in dem das Gerät seinen Text sendet. Nur bei MASTER wählbar.</translation>
     </message>
     <message>
         <source>Whether characters on the register line control the flow.</source>
         <translation>Ob Zeichen auf der Kassenleitung den Datenfluss steuern.</translation>
     </message>
     <message>
-        <source>The role of the unit in the network: none, master, slave, or generic.</source>
-        <translation>Die Rolle des Geräts im Netzwerk: OHNE, MASTER, SLAVE oder ALLGEMEIN.</translation>
+        <source>The role of the unit in the network. With OFF it works alone. A MASTER calls the other units, and a SLAVE answers.</source>
+        <translation>Die Rolle des Geräts im Netzwerk. Bei OHNE arbeitet es allein. Ein MASTER ruft die anderen Geräte, ein SLAVE antwortet.</translation>
     </message>
     <message>
         <source>The network address of this unit.</source>
         <translation>Die Netzwerkadresse dieses Geräts.</translation>
     </message>
     <message>
-        <source>The protocol of the network; it also sets the baud rate of the network.</source>
-        <translation>Das Protokoll des Netzwerks; es legt auch die Baudrate des Netzwerks fest.</translation>
+        <source>The protocol of the network. A pick also sets the baud rate of the network.</source>
+        <translation>Das Protokoll des Netzwerks. Eine Auswahl legt auch die Baudrate des Netzwerks fest.</translation>
     </message>
     <message>
         <source>The baud rate of the network.</source>
         <translation>Die Baudrate des Netzwerks.</translation>
     </message>
     <message>
-        <source>Only a master has a choice of transmit protocol.</source>
+        <source>You can choose the TX PROTOCOL only for a MASTER.</source>
         <translation>Das Sendeprotokoll lässt sich nur bei MASTER wählen.</translation>
     </message>
     <message>
@@ -3590,16 +3590,16 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>Diese Rolle im Netzwerk hat keine Adresse.</translation>
     </message>
     <message>
-        <source>Without a network there is no protocol to pick.</source>
+        <source>Without a network you cannot pick a protocol.</source>
         <translation>Ohne Netzwerk lässt sich kein Protokoll wählen.</translation>
     </message>
     <message>
-        <source>Minutes without text after which the unit clears the picture; every pick but 10 also sets DISPLAY FORMAT, LINE COMPRESS and SCROLL DELAY back.</source>
-        <translation>Minuten ohne Text, nach denen das Gerät das Bild leert; jede Auswahl außer 10 setzt auch TEXTPOSITION, LEERZEILEN WEGLASSEN und ROLLVERZÖGERUNG zurück.</translation>
+        <source>After this number of minutes without text from the register, the unit clears the text. Any pick except 10 also resets DISPLAY FORMAT, LINE COMPRESS and SCROLL DELAY.</source>
+        <translation>Nach so vielen Minuten ohne Text der Kasse löscht das Gerät den Text im Bild. Jede Auswahl außer 10 setzt auch TEXTPOSITION, LEERZEILEN WEGLASSEN und ROLLVERZÖGERUNG zurück.</translation>
     </message>
     <message>
-        <source>How many lines of text the unit shows; title and clock need a line each.</source>
-        <translation>Wie viele Textzeilen das Gerät zeigt; Titel und Uhr brauchen je eine Zeile.</translation>
+        <source>How many lines the unit shows. The clock and the title need a line each.</source>
+        <translation>Wie viele Zeilen das Gerät zeigt. Uhr und Titel brauchen je eine Zeile.</translation>
     </message>
     <message>
         <source>Whether the text is at the top or at the bottom of the picture.</source>
@@ -3614,196 +3614,196 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>Ob das Gerät jede Zeile an den Rand des Bildes rückt.</translation>
     </message>
     <message>
-        <source>Whether the unit holds lines back so that they can be read as they scroll.</source>
-        <translation>Ob das Gerät Zeilen zurückhält, damit sie sich beim Rollen lesen lassen.</translation>
+        <source>Whether the unit delays the lines, so you can read the text while it scrolls.</source>
+        <translation>Ob das Gerät die Zeilen verzögert, damit sich der Text beim Rollen lesen lässt.</translation>
     </message>
     <message>
-        <source>Whether the unit shows the register&apos;s text at all.</source>
-        <translation>Ob das Gerät den Text der Kasse überhaupt zeigt.</translation>
+        <source>Whether the unit shows the text of the register.</source>
+        <translation>Ob das Gerät den Text der Kasse zeigt.</translation>
     </message>
     <message>
-        <source>How many blanks in a row the unit keeps; OFF keeps all.</source>
-        <translation>Wie viele Leerzeichen hintereinander das Gerät behält; AUS behält alle.</translation>
+        <source>The unit shortens a run of blanks to this number. OFF keeps all blanks.</source>
+        <translation>Auf so viele Leerzeichen kürzt das Gerät mehrere Leerzeichen hintereinander. AUS behält alle.</translation>
     </message>
     <message>
-        <source>How many characters a line of the picture holds.</source>
+        <source>How many characters a line in the picture has.</source>
         <translation>Wie viele Zeichen eine Zeile im Bild hat.</translation>
     </message>
     <message>
-        <source>Whether the unit shows its clock in the picture; it takes a line of the text.</source>
-        <translation>Ob das Gerät seine Uhr im Bild zeigt; sie braucht eine Textzeile.</translation>
+        <source>Whether the unit shows its clock in one line of the picture.</source>
+        <translation>Ob das Gerät seine Uhr in einer Zeile des Bildes zeigt.</translation>
     </message>
     <message>
-        <source>How the unit shows the hour.</source>
-        <translation>Wie das Gerät die Stunde zeigt.</translation>
+        <source>Whether the unit shows the time with 12 or with 24 hours.</source>
+        <translation>Ob das Gerät die Uhrzeit mit 12 oder mit 24 Stunden zeigt.</translation>
     </message>
     <message>
         <source>The order of day, month and year.</source>
         <translation>Die Reihenfolge von Tag, Monat und Jahr.</translation>
     </message>
     <message>
-        <source>The rule by which the unit changes to summer time and back.</source>
-        <translation>Die Regel, nach der das Gerät auf Sommerzeit und zurück umstellt.</translation>
+        <source>The country whose rule the unit uses to change to summer time and back.</source>
+        <translation>Das Land, nach dessen Regel das Gerät auf Sommerzeit und zurück umstellt.</translation>
     </message>
     <message>
-        <source>Whether the unit&apos;s clock is locked.</source>
+        <source>Whether the clock of the unit is locked.</source>
         <translation>Ob die Uhr des Geräts gesperrt ist.</translation>
     </message>
     <message>
-        <source>Whether the unit shows the title in the picture; it takes a line of the text.</source>
-        <translation>Ob das Gerät den Titel im Bild zeigt; er braucht eine Textzeile.</translation>
+        <source>Whether the unit shows the title in one line of the picture.</source>
+        <translation>Ob das Gerät den Titel in einer Zeile des Bildes zeigt.</translation>
     </message>
     <message>
         <source>The language of the unit&apos;s own texts.</source>
         <translation>Die Sprache der eigenen Texte des Geräts.</translation>
     </message>
     <message>
-        <source>Whether the unit reports exceptions on its line.</source>
+        <source>Whether the unit reports exceptions on its serial line.</source>
         <translation>Ob das Gerät Ausnahmen über seine Leitung meldet.</translation>
     </message>
     <message>
-        <source>Whether the unit puts the time in front of a report.</source>
+        <source>Whether the unit puts the time at the beginning of a report.</source>
         <translation>Ob das Gerät einer Meldung die Uhrzeit voranstellt.</translation>
     </message>
     <message>
-        <source>Whether the unit reports a line again that is the same as the last.</source>
+        <source>Whether the unit reports a line again if it is the same as the last one.</source>
         <translation>Ob das Gerät eine Zeile erneut meldet, wenn sie der vorigen gleicht.</translation>
     </message>
     <message>
-        <source>A digit of the ID of the register to which the unit listens.</source>
+        <source>A digit of the ID of the register that the unit listens to.</source>
         <translation>Eine Ziffer der ID der Kasse, die das Gerät mithört.</translation>
     </message>
     <message>
-        <source>A digit of the register&apos;s address to which the unit listens; also sets the whole register line.</source>
-        <translation>Eine Ziffer der Adresse der Kasse, die das Gerät mithört; legt auch alle Einstellungen der Kassenleitung fest.</translation>
+        <source>A digit of the address of the register that the unit listens to. A pick also sets the line settings.</source>
+        <translation>Eine Ziffer der Adresse der Kasse, die das Gerät mithört. Eine Auswahl legt auch die Einstellungen der Kassenleitung fest.</translation>
     </message>
     <message>
-        <source>One of the four numbers of the IP address from which the unit takes its text.</source>
+        <source>One of the four numbers of the IP address from which the unit receives its text.</source>
         <translation>Eine der vier Zahlen der IP-Adresse, von der das Gerät seinen Text bezieht.</translation>
     </message>
     <message>
-        <source>One of the four numbers of the IP address; this firmware shows it but keeps no change.</source>
-        <translation>Eine der vier Zahlen der IP-Adresse; diese Firmware zeigt sie, speichert aber keine Änderung.</translation>
+        <source>One of the four numbers of the IP address. With this firmware the program does not store a change.</source>
+        <translation>Eine der vier Zahlen der IP-Adresse. Bei dieser Firmware speichert das Programm keine Änderung.</translation>
     </message>
     <message>
-        <source>Opens the further settings of the chosen model, if it has any.</source>
-        <translation>Öffnet die weiteren Einstellungen des gewählten Modells, falls es welche hat.</translation>
+        <source>Opens further settings of the model, if it has any.</source>
+        <translation>Öffnet weitere Einstellungen des Modells, falls es welche hat.</translation>
     </message>
     <message>
-        <source>Opens the settings of the chosen network.</source>
+        <source>Opens the settings of the network that you picked.</source>
         <translation>Öffnet die Einstellungen des gewählten Netzwerks.</translation>
     </message>
     <message>
-        <source>The address of the counter that the unit reads.</source>
-        <translation>Die Adresse des Zählers, den das Gerät liest.</translation>
+        <source>The address of the counter that the unit listens to.</source>
+        <translation>Die Adresse des Zählers, den das Gerät mithört.</translation>
     </message>
     <message>
-        <source>The address of the device whose text the unit takes; ANY takes them all.</source>
-        <translation>Die Adresse der Quelle, deren Text das Gerät übernimmt; ALLE lässt jede zu.</translation>
+        <source>The address of the device whose text the unit reads. ANY means every device.</source>
+        <translation>Die Adresse der Quelle, deren Text das Gerät liest. ALLE lässt jede zu.</translation>
     </message>
     <message>
-        <source>The address of the register that the unit follows, ANY for all; also sets the register line&apos;s speed.</source>
-        <translation>Die Adresse der Kasse, die das Gerät mithört, ALLE für alle Kassen; legt auch die Baudrate der Kassenleitung fest.</translation>
+        <source>The address of the register that the unit listens to. ANY means every register. A pick also sets the baud rate of the register line.</source>
+        <translation>Die Adresse der Kasse, die das Gerät mithört. ALLE lässt jede Kasse zu. Eine Auswahl legt auch die Baudrate der Kassenleitung fest.</translation>
     </message>
     <message>
-        <source>The address of the register that the unit follows; ALL follows every register.</source>
-        <translation>Die Adresse der Kasse, die das Gerät mithört; ALLE lässt jede Kasse zu.</translation>
+        <source>The address of the register that the unit listens to. ALL means every register.</source>
+        <translation>Die Adresse der Kasse, die das Gerät mithört. ALLE lässt jede Kasse zu.</translation>
     </message>
     <message>
-        <source>The address under which the register calls the unit; ANY takes the text of every address.</source>
-        <translation>Die Adresse, unter der die Kasse das Gerät anspricht; ALLE lässt jede Adresse zu.</translation>
+        <source>The address to which the register sends the text for the unit. ANY means every address.</source>
+        <translation>Die Adresse, an die die Kasse den Text für das Gerät sendet. ALLE lässt jede Adresse zu.</translation>
     </message>
     <message>
-        <source>The console whose text the unit takes; ANY takes them all.</source>
-        <translation>Die Konsole, deren Text das Gerät übernimmt; ALLE lässt jede zu.</translation>
+        <source>The console whose text the unit reads. ANY means every console.</source>
+        <translation>Die Konsole, deren Text das Gerät liest. ALLE lässt jede zu.</translation>
     </message>
     <message>
-        <source>The device of the register whose text the unit takes.</source>
-        <translation>Der Teil der Kasse, dessen Text das Gerät übernimmt.</translation>
+        <source>The device of the register whose text the unit reads.</source>
+        <translation>Der Teil der Kasse, dessen Text das Gerät liest.</translation>
     </message>
     <message>
-        <source>The device on the line to which the unit is wired.</source>
-        <translation>Die Quelle an der Leitung, mit der das Gerät verbunden ist.</translation>
+        <source>The device whose line the unit is connected to.</source>
+        <translation>Die Quelle, mit deren Leitung das Gerät verbunden ist.</translation>
     </message>
     <message>
-        <source>The device whose text the unit takes.</source>
-        <translation>Die Quelle, deren Text das Gerät übernimmt.</translation>
+        <source>The device whose text the unit reads.</source>
+        <translation>Die Quelle, deren Text das Gerät liest.</translation>
     </message>
     <message>
-        <source>The kind of device to whose line the unit listens.</source>
-        <translation>Die Art der Quelle, deren Leitung das Gerät mithört.</translation>
+        <source>The kind of device that the unit listens to.</source>
+        <translation>Die Art der Quelle, die das Gerät mithört.</translation>
     </message>
     <message>
-        <source>The make of the pole display whose line the unit reads.</source>
-        <translation>Das Fabrikat der Kundenanzeige, deren Leitung das Gerät liest.</translation>
+        <source>The make of the pole display that the unit listens to.</source>
+        <translation>Das Fabrikat der Kundenanzeige, die das Gerät mithört.</translation>
     </message>
     <message>
-        <source>The network on which the unit listens to the register; each but the first has settings of its own.</source>
-        <translation>Das Netzwerk, in dem das Gerät die Kasse mithört; jedes außer dem ersten hat eigene Einstellungen.</translation>
+        <source>The network in which the unit listens to the register. All but the first have further settings.</source>
+        <translation>Das Netzwerk, in dem das Gerät die Kasse mithört. Alle außer dem ersten haben weitere Einstellungen.</translation>
     </message>
     <message>
-        <source>The output format of the weighbridge that the unit reads.</source>
-        <translation>Das Ausgabeformat der Fahrzeugwaage, die das Gerät liest.</translation>
+        <source>The output format of the weighbridge.</source>
+        <translation>Das Ausgabeformat der Fahrzeugwaage.</translation>
     </message>
     <message>
-        <source>The printer in whose place the unit answers; also sets the register line.</source>
-        <translation>Der Drucker, an dessen Stelle das Gerät antwortet; legt auch die Einstellungen der Kassenleitung fest.</translation>
+        <source>The unit answers in place of this printer. A pick also sets the line settings.</source>
+        <translation>Das Gerät antwortet anstelle dieses Druckers. Eine Auswahl legt auch die Einstellungen der Kassenleitung fest.</translation>
     </message>
     <message>
-        <source>The printer of the 7059 whose text the unit takes.</source>
-        <translation>Der Drucker des Modells 7059, dessen Text das Gerät übernimmt.</translation>
+        <source>The printer of the 7059 whose text the unit reads.</source>
+        <translation>Der Drucker des Modells 7059, dessen Text das Gerät liest.</translation>
     </message>
     <message>
-        <source>The printer of the point of sale that the unit taps; also sets the register line.</source>
-        <translation>Der Drucker des Kassenplatzes, den das Gerät mithört; legt auch die Einstellungen der Kassenleitung fest.</translation>
+        <source>The printer of the point of sale that the unit listens to. A pick also sets the line settings.</source>
+        <translation>Der Drucker des Kassenplatzes, den das Gerät mithört. Eine Auswahl legt auch die Einstellungen der Kassenleitung fest.</translation>
     </message>
     <message>
-        <source>The printer or terminal whose text the unit takes; the choice also sets the register line&apos;s speed.</source>
-        <translation>Der Drucker oder das Terminal, dessen Text das Gerät übernimmt; die Wahl legt auch die Baudrate der Kassenleitung fest.</translation>
+        <source>The printer or terminal whose text the unit reads. A pick also sets the baud rate of the register line.</source>
+        <translation>Der Drucker oder das Terminal, dessen Text das Gerät liest. Eine Auswahl legt auch die Baudrate der Kassenleitung fest.</translation>
     </message>
     <message>
-        <source>The printer whose text the unit takes.</source>
-        <translation>Der Drucker, dessen Text das Gerät übernimmt.</translation>
+        <source>The printer whose text the unit reads.</source>
+        <translation>Der Drucker, dessen Text das Gerät liest.</translation>
     </message>
     <message>
-        <source>The printer whose text the unit takes: by listening (TAPPING) or in the printer&apos;s place (EMULATING).</source>
-        <translation>Der Drucker, dessen Text das Gerät übernimmt: durch Mithören (MITHÖREN) oder an seiner Stelle (EMULIEREN).</translation>
+        <source>The printer whose text the unit reads. The unit listens to it (TAPPING) or answers in its place (EMULATING).</source>
+        <translation>Der Drucker, dessen Text das Gerät liest. Das Gerät hört ihn mit (MITHÖREN) oder antwortet an seiner Stelle (EMULIEREN).</translation>
     </message>
     <message>
-        <source>The printer, and the line to which the unit is wired.</source>
+        <source>The printer and the line to which the unit is connected.</source>
         <translation>Der Drucker und die Leitung, mit der das Gerät verbunden ist.</translation>
     </message>
     <message>
-        <source>The register or printer whose print stream the unit reads; TAP listens, EMULATE answers as the printer.</source>
-        <translation>Die Kasse oder der Drucker, dessen Druckdaten das Gerät liest; MITHÖREN hört mit, EMULIEREN antwortet als Drucker.</translation>
+        <source>The register or printer whose text the unit reads. With TAP the unit listens. With EMULATE it answers as the printer.</source>
+        <translation>Die Kasse oder der Drucker, dessen Text das Gerät liest. Bei MITHÖREN hört das Gerät mit. Bei EMULIEREN antwortet es als Drucker.</translation>
     </message>
     <message>
-        <source>The register or printer whose text the unit reads; a few have a further choice below.</source>
-        <translation>Die Kasse oder der Drucker, dessen Text das Gerät liest; zu einigen gibt es darunter eine weitere Auswahl.</translation>
+        <source>The register or printer whose text the unit reads. A few have a further list below.</source>
+        <translation>Die Kasse oder der Drucker, dessen Text das Gerät liest. Zu einigen gibt es darunter eine weitere Liste.</translation>
     </message>
     <message>
-        <source>The register system whose messages the unit reads.</source>
-        <translation>Das Kassensystem, dessen Meldungen das Gerät liest.</translation>
+        <source>The register system whose text the unit reads.</source>
+        <translation>Das Kassensystem, dessen Text das Gerät liest.</translation>
     </message>
     <message>
-        <source>The register&apos;s model or device, whose text the unit then reads.</source>
-        <translation>Das Modell oder die Quelle der Kasse, deren Text das Gerät dann liest.</translation>
+        <source>The model or device whose text the unit reads.</source>
+        <translation>Das Modell oder die Quelle, deren Text das Gerät liest.</translation>
     </message>
     <message>
-        <source>The register&apos;s model, whose print stream the unit then reads.</source>
-        <translation>Das Modell der Kasse, deren Druckdaten das Gerät dann liest.</translation>
+        <source>The model of the register.</source>
+        <translation>Das Modell der Kasse.</translation>
     </message>
     <message>
-        <source>The register&apos;s model, whose print stream the unit then reads; a few are told apart by an ID.</source>
-        <translation>Das Modell der Kasse, deren Druckdaten das Gerät dann liest; einige werden durch eine ID unterschieden.</translation>
+        <source>The model of the register. A few models have an ID.</source>
+        <translation>Das Modell der Kasse. Einige Modelle haben eine ID.</translation>
     </message>
     <message>
-        <source>The register&apos;s model, whose print stream the unit then reads; a few open settings of their own.</source>
-        <translation>Das Modell der Kasse, deren Druckdaten das Gerät dann liest; einige öffnen eigene Einstellungen.</translation>
+        <source>The model of the register. A few models have further settings.</source>
+        <translation>Das Modell der Kasse. Einige Modelle haben weitere Einstellungen.</translation>
     </message>
     <message>
-        <source>The register&apos;s model, whose print stream the unit then reads; the slip printer opens settings of its own.</source>
-        <translation>Das Modell der Kasse, deren Druckdaten das Gerät dann liest; der Belegdrucker öffnet eigene Einstellungen.</translation>
+        <source>The model of the register. The slip printer has further settings.</source>
+        <translation>Das Modell der Kasse. Der Belegdrucker hat weitere Einstellungen.</translation>
     </message>
     <message>
         <source>The scale in which the unit shows the temperature.</source>
@@ -3818,48 +3818,48 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>Der Sensor, dessen Messwerte das Gerät zeigt.</translation>
     </message>
     <message>
-        <source>The software that the register runs, which decides the form of its messages.</source>
-        <translation>Die Software der Kasse; sie bestimmt die Form ihrer Meldungen.</translation>
+        <source>The software of the register. The form of its messages depends on it.</source>
+        <translation>Die Software der Kasse. Von ihr hängt die Form der Meldungen ab.</translation>
     </message>
     <message>
-        <source>The terminal whose text the unit takes; also sets the register line.</source>
-        <translation>Das Terminal, dessen Text das Gerät übernimmt; legt auch die Einstellungen der Kassenleitung fest.</translation>
+        <source>The terminal whose text the unit reads. A pick also sets the line settings.</source>
+        <translation>Das Terminal, dessen Text das Gerät liest. Eine Auswahl legt auch die Einstellungen der Kassenleitung fest.</translation>
     </message>
     <message>
-        <source>The unit takes the security messages of the register; also sets the register line.</source>
-        <translation>Das Gerät übernimmt die Sicherheitsmeldungen der Kasse; legt auch die Einstellungen der Kassenleitung fest.</translation>
+        <source>The unit reads the security messages of the register. A pick also sets the line settings.</source>
+        <translation>Das Gerät liest die Sicherheitsmeldungen der Kasse. Eine Auswahl legt auch die Einstellungen der Kassenleitung fest.</translation>
     </message>
     <message>
-        <source>Whether the unit listens (TAP) or answers as the printer (EMULATE); also sets the register line&apos;s speed.</source>
-        <translation>Ob das Gerät mithört (MITHÖREN) oder als Drucker antwortet (EMULIEREN); legt auch die Baudrate der Kassenleitung fest.</translation>
+        <source>Whether the unit listens (TAP) or answers as the printer (EMULATE). A pick also sets the baud rate of the register line.</source>
+        <translation>Ob das Gerät mithört (MITHÖREN) oder als Drucker antwortet (EMULIEREN). Eine Auswahl legt auch die Baudrate der Kassenleitung fest.</translation>
     </message>
     <message>
         <source>Whether the unit listens to the printer line (TAP) or answers as the printer (EMULATE).</source>
         <translation>Ob das Gerät die Druckerleitung mithört (MITHÖREN) oder als Drucker antwortet (EMULIEREN).</translation>
     </message>
     <message>
-        <source>Whether the unit listens to the printer line (TAP) or answers as the printer (EMULATE); US for registers of the United States.</source>
-        <translation>Ob das Gerät die Druckerleitung mithört (MITHÖREN) oder als Drucker antwortet (EMULIEREN); US für Kassen aus den USA.</translation>
+        <source>Whether the unit listens to the printer line (TAP) or answers as the printer (EMULATE). US is for registers of the United States.</source>
+        <translation>Ob das Gerät die Druckerleitung mithört (MITHÖREN) oder als Drucker antwortet (EMULIEREN). US ist für Kassen aus den USA.</translation>
     </message>
     <message>
-        <source>Whether the unit listens to the printer line or answers as the printer; also sets the register line&apos;s speed.</source>
-        <translation>Ob das Gerät die Druckerleitung mithört oder als Drucker antwortet; legt auch die Baudrate der Kassenleitung fest.</translation>
+        <source>Whether the unit listens to the printer line or answers as the printer. A pick also sets the baud rate of the register line.</source>
+        <translation>Ob das Gerät die Druckerleitung mithört oder als Drucker antwortet. Eine Auswahl legt auch die Baudrate der Kassenleitung fest.</translation>
     </message>
     <message>
-        <source>Whether the unit only listens (TAP) or acknowledges what the register sends (ACK); also sets the register line.</source>
-        <translation>Ob das Gerät nur mithört (MITHÖREN) oder bestätigt, was die Kasse sendet (ACK); legt auch die Einstellungen der Kassenleitung fest.</translation>
+        <source>Whether the unit only listens (TAP) or acknowledges what the register sends (ACK). A pick also sets the line settings.</source>
+        <translation>Ob das Gerät nur mithört (MITHÖREN) oder bestätigt, was die Kasse sendet (ACK). Eine Auswahl legt auch die Einstellungen der Kassenleitung fest.</translation>
     </message>
     <message>
-        <source>Whether the unit shows the title above the register&apos;s text.</source>
+        <source>Whether the unit shows the title above the text of the register.</source>
         <translation>Ob das Gerät den Titel über dem Text der Kasse zeigt.</translation>
     </message>
     <message>
-        <source>Whether the unit shows the title above the register&apos;s text; also sets TITLER.</source>
-        <translation>Ob das Gerät den Titel über dem Text der Kasse zeigt; legt auch TITEL ANZEIGEN fest.</translation>
+        <source>Whether the unit shows the title above the text of the register. A pick also sets TITLER.</source>
+        <translation>Ob das Gerät den Titel über dem Text der Kasse zeigt. Eine Auswahl legt auch TITEL ANZEIGEN fest.</translation>
     </message>
     <message>
-        <source>Whether the unit takes the descriptions out of the register&apos;s XML messages.</source>
-        <translation>Ob das Gerät die Beschreibungen aus den XML-Meldungen der Kasse übernimmt.</translation>
+        <source>Whether the unit uses the descriptions in the XML messages of the register.</source>
+        <translation>Ob das Gerät die Beschreibungen in den XML-Meldungen der Kasse benutzt.</translation>
     </message>
     <message>
         <source>Whether the unit uses the register ID below.</source>
@@ -3870,28 +3870,28 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>Ob das Gerät diese Art von Information ins Bild schreibt.</translation>
     </message>
     <message>
-        <source>Which of the register&apos;s texts the unit shows.</source>
-        <translation>Welchen der Texte der Kasse das Gerät zeigt.</translation>
+        <source>Which text of the register the unit shows.</source>
+        <translation>Welchen Text der Kasse das Gerät zeigt.</translation>
     </message>
     <message>
-        <source>Which of the register&apos;s texts the unit shows: that of the receipt or that of the journal.</source>
-        <translation>Welchen Text der Kasse das Gerät zeigt: den des Belegs oder den des Journals.</translation>
+        <source>Which text of the register the unit shows: the receipt or the journal.</source>
+        <translation>Welchen Text der Kasse das Gerät zeigt: den Beleg oder das Journal.</translation>
     </message>
     <message>
-        <source>Which printer of the 9500 the unit follows; the choice also sets speed, parity and data bits of the register line.</source>
-        <translation>Welchen Drucker des Modells 9500 das Gerät mithört; die Wahl legt auch Baudrate, Parität und Datenbits der Kassenleitung fest.</translation>
+        <source>Which printer of the 9500 the unit listens to. A pick also sets the baud rate, parity and data bits of the register line.</source>
+        <translation>Welchen Drucker des Modells 9500 das Gerät mithört. Eine Auswahl legt auch Baudrate, Parität und Datenbits der Kassenleitung fest.</translation>
     </message>
     <message>
-        <source>Which printer&apos;s text the unit takes from the register.</source>
-        <translation>Welchen Druckertext das Gerät von der Kasse übernimmt.</translation>
+        <source>The printer of the register whose text the unit reads.</source>
+        <translation>Der Drucker der Kasse, dessen Text das Gerät liest.</translation>
     </message>
     <message>
-        <source>Which printer&apos;s text the unit takes from the terminal; MIXED takes both.</source>
-        <translation>Welchen Druckertext das Gerät vom Terminal übernimmt; GEMISCHT übernimmt beide.</translation>
+        <source>The printer of the terminal whose text the unit reads. MIXED means both printers.</source>
+        <translation>Der Drucker des Terminals, dessen Text das Gerät liest. GEMISCHT bedeutet beide Drucker.</translation>
     </message>
     <message>
-        <source>Whose display the unit follows; the choice also sets speed, parity and data bits of the register line.</source>
-        <translation>Wessen Anzeige das Gerät mithört; die Wahl legt auch Baudrate, Parität und Datenbits der Kassenleitung fest.</translation>
+        <source>Which display the unit listens to. A pick also sets the baud rate, parity and data bits of the register line.</source>
+        <translation>Welche Anzeige das Gerät mithört. Eine Auswahl legt auch Baudrate, Parität und Datenbits der Kassenleitung fest.</translation>
     </message>
 </context>
 <context>
@@ -3948,7 +3948,7 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>Wie das System</translation>
     </message>
     <message>
-        <source>The program could not save the choice. %1</source>
+        <source>The program could not save your pick. %1</source>
         <translation>Das Programm konnte die Auswahl nicht speichern. %1</translation>
     </message>
     <message>

@@ -14,10 +14,11 @@ using phrases::Words;
 Words FitText(const std::vector<image::FirmwareFit>& fits) {
   if (fits.empty())
     return Sentence(
-        Pattern("Question", "It does not fit any firmware: it is cut off, damaged, or not a configuration."));
+        Pattern("Question",
+                "The file does not fit any firmware: it is not complete, damaged, or not a configuration."));
   std::string names;
   for (const auto& fit : fits) names += (names.empty() ? "" : ", ") + fit.firmware.Joined();
-  return Sentence(Pattern("Question", "It fits %1."), {names});
+  return Sentence(Pattern("Question", "The file fits %1."), {names});
 }
 
 // Two sentences.
@@ -27,7 +28,7 @@ Words Followed(const Words& first, const Words& second) {
 
 Question QuestionOfEnd(const std::string& file, const Inspection& inspection, const std::string& served) {
   auto detail =
-      Followed(FitText(inspection.fits), Sentence(Pattern("Question", "This program serves %1."), {served}));
+      Followed(FitText(inspection.fits), Sentence(Pattern("Question", "This program uses %1."), {served}));
   if (!inspection.fits.empty()) {
     detail = Followed(
         detail, Sentence(Pattern("Question", "Pick the firmware of the file in the Version menu first.")));
@@ -39,7 +40,8 @@ Question QuestionOfShift(const std::string& file, const Inspection& inspection, 
                          bool saved_files_reopen) {
   auto detail = Followed(
       FitText(inspection.fits),
-      Sentence(Pattern("Question", "This program serves %1 and reads it as such a file."), {served}));
+      Sentence(Pattern("Question", "This program uses %1 and reads the file as a file of this firmware."),
+               {served}));
   if (!saved_files_reopen) {
     detail = Followed(
         detail, Sentence(Pattern("Question", "\"Save\" under %1 writes such files. Open a backup instead."),

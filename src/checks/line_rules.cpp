@@ -107,7 +107,7 @@ constexpr std::array kRules = {
          "The network is stored with the BAUD RATE %1, but its PROTOCOL %2 needs %3.", Place::kCommunication,
          "ComboCOMM(11)", NetworkSpeed},
     Rule{"network-address", kWarning,
-         "The network is stored with the ADDRESS %1, but the form shows %2 for its TYPE %3.",
+         "The network is stored with the ADDRESS %1, but the tab shows %2 for its TYPE %3.",
          Place::kCommunication, kNetAddress, NetworkAddress},
 };
 

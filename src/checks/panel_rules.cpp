@@ -44,7 +44,7 @@ Hits DemoOn(Subject& subject) {
 }
 
 constexpr std::array kRules = {
-    Rule{"too-few-lines", kWarning, "DISPLAY LINE is %1, but the clock and the title need %2 lines at least.",
+    Rule{"too-few-lines", kWarning, "DISPLAY LINE is %1, but the clock and the title need at least %2 lines.",
          Place::kText, "ComboDIP(1)", TooFewLines},
     Rule{"title-empty", kWarning, "TITLER is ON, but the title is empty.", Place::kTime, "Title_Text",
          TitleEmpty},

@@ -258,16 +258,17 @@ Hits DefaultImageOfOther(Subject& subject) {
 
 constexpr std::array kRules = {
     Rule{"download-shifted", kError,
-         "%1 has this number of bytes: %2. %4 reads %3, so a download moves everything behind it.",
+         "%1 has this number of bytes: %2. %4 reads %3, so a download puts all settings after it in the "
+         "wrong place.",
          Place::kRegister, kRegisterList, DownloadShifted},
     Rule{"options-hidden", kError, "The options of %1 are hidden: %2 contains %3, which is not in its list.",
          Place::kRegister, kRegisterList, OptionsHidden},
-    Rule{"value-without-entry", kError, "%1 contains %2, for which its list has no entry.", Place::kRegister,
+    Rule{"value-without-entry", kError, "%1 contains %2, but its list has no entry for it.", Place::kRegister,
          kRegisterList, WithoutEntry},
     Rule{"not-as-picked", kWarning, "%1 shows \"%2\", but %3 contains %4, and a pick of \"%2\" stores %5.",
          Place::kRegister, kRegisterList, NotAsPicked},
     Rule{"image-of-other-register", kWarning,
-         "%1 is %2, but the default image of %3 has %4, as if another register had been picked.",
+         "%1 is %2, but the default image of %3 has %4. The stored value can be that of another register.",
          Place::kRegister, kRegisterList, OfOtherRegister},
     Rule{"default-image-of-other", kWarning,
          "The default image of %1 in the program folder is that of %2, so a pick of %1 selects %2.",

@@ -90,7 +90,7 @@ void ExpectFirmware(const Entry& entry, std::string_view running, std::vector<Pr
     problems.push_back(
         {value.at, Written(value) + " is not allowed here; allowed: a text such as \"V1400 R12\""});
   } else if (!IsKnownFirmware(value, running)) {
-    problems.push_back({value.at, InQuotes(value.text) + " is no firmware that this program serves" +
+    problems.push_back({value.at, InQuotes(value.text) + " is not a firmware of this program" +
                                       Suggestion(value.text, FirmwareNames())});
   }
 }

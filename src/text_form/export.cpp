@@ -133,7 +133,7 @@ std::string Export(Catalogue& catalogue, const image::ConfigImage& image) {
   std::string text = "# A configuration of OVL Software as text: one setting a line.\n";
   text += "format = " + std::to_string(kFormat) + "\n";
   text += "firmware = " + Quoted(firmware.version + " " + firmware.release) + "\n";
-  text += "complete = true  # without this line, what is not named keeps its value\n";
+  text += "complete = true  # without this line, settings that the text does not name keep their values\n";
   std::string_view table;
   for (const auto& setting : shown) {
     if (setting.table != table) text += "\n[" + KeyOf(setting.table) + "]\n";

@@ -176,7 +176,7 @@ std::string Allowed(const Setting& setting, const firmware::FirmwareId& firmware
     case Kind::kRange:
       return "two values such as \"0.00 - 100.00\", with " +
              std::to_string(firmware::RangeIntegersOf(firmware)) +
-             " digits at most before the separator and two behind it";
+             " digits at most before the separator and two after it";
     case Kind::kExceptionText:
       return "a text of at most 40 characters";
     default:

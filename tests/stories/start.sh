@@ -70,5 +70,5 @@ done
 rm "$build/release/bin/ovl-script"
 printf '#!/bin/sh\nexit 4\n' > "$build/release/bin/ovl-script"
 chmod +x "$build/release/bin/ovl-script"
-ends 4 'What the unit heard' "$checkout/run" --build "$build"
+ends 4 'What the unit received' "$checkout/run" --build "$build"
 not_linked || fail "the unit is still there"

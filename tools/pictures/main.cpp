@@ -17,8 +17,8 @@
 namespace {
 
 const QString kDescription = QStringLiteral(
-    "\nWrites pictures of all windows of OVL Software into the folder, light and dark, beside each what a\n"
-    "screen reader says for it, and a drawing of what a unit writes over the picture of a camera.");
+    "\nWrites pictures of all windows of OVL Software into the folder, light and dark. For each it also "
+    "writes\nwhat a screen reader says. It draws what a unit writes over the picture of a camera.");
 
 const QString kExitStatus = QStringLiteral(
     "Exit status:\n"
@@ -42,15 +42,15 @@ void PrintMessage(QtMsgType, const QMessageLogContext&, const QString& text) {
 int main(int argc, char** argv) {
   const auto guide_option = QStringLiteral("guide");
   ovl::ui::CommandLine command_line(QStringLiteral("ovl-pictures"), kDescription, kExitStatus);
-  command_line.AddArgument(QStringLiteral("FOLDER"), QStringLiteral("where the pictures go"));
+  command_line.AddArgument(QStringLiteral("FOLDER"), QStringLiteral("the folder of the pictures"));
   command_line.AddOption(guide_option, QStringLiteral("FILE"),
                          QStringLiteral("writes the installer's guide with the pictures as a PDF"));
   const auto size_option = QStringLiteral("size");
   command_line.AddOption(size_option, QStringLiteral("WIDTHxHEIGHT"),
-                         QStringLiteral("the size of the main window, instead of that at the start"));
+                         QStringLiteral("the size of the main window; by default its size at the start"));
   const auto language_option = QStringLiteral("language");
   command_line.AddOption(language_option, QStringLiteral("CODE"),
-                         QStringLiteral("the language of the windows, such as de; without it English"));
+                         QStringLiteral("the language of the windows, such as de; English by default"));
   if (const auto status = command_line.Read(argc, argv)) return *status;
   // With the offscreen platform the pictures are the same on every machine.
   qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -29,7 +29,7 @@ void Copy(Session& session, Arguments& arguments) {
   for (const int number : {copy.from, copy.first, copy.last}) {
     if (number < 1 || number > count) Wrong("the numbers are 1 to " + std::to_string(count));
   }
-  if (copy.last < copy.first) Wrong("LAST must not be below TO");
+  if (copy.last < copy.first) Wrong("LAST must not be less than TO");
   auto& app = session.App();
   if (!acts::CanCopySlot(app, copy)) {
     session.Output() << "refused copy\n";
@@ -43,7 +43,7 @@ constexpr auto kStatements = std::to_array<Statement>({
      "prints what a download would change, TAB: CAPTION: \"BEFORE\" -> \"AFTER\", one setting a line",
      Changes},
     {"copy", "copy exception FROM TO [LAST]\ncopy alarm FROM TO [LAST]",
-     "copies an exception to another number, or to TO to LAST\nthe same for alarms", Copy},
+     "copies an exception to TO, or to all numbers from TO to LAST\ncopies an alarm in the same way", Copy},
 });
 
 }  // namespace

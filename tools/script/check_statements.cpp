@@ -17,8 +17,8 @@ void Check(Session& session, Arguments& arguments) {
 }
 
 constexpr std::array kStatements = {
-    Statement{"check", "check",
-              "checks the configuration and prints what to look at, error|warning|note: RULE: WORDS", Check},
+    Statement{"check", "check", "prints the findings for the configuration, error|warning|note: RULE: WORDS",
+              Check},
 };
 
 }  // namespace

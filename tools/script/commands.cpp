@@ -32,9 +32,9 @@ constexpr std::array kOptions = {
     command_line::Option{"json", "", "for check: prints JSON instead of lines"},
     command_line::Option{"folder", "FOLDER",
                          "for check: the program folder, for the default image of the\nregister"},
-    command_line::Option{
-        "partial", "",
-        "for import: changes FILE by a text that names only a part, or\nthat is of another firmware"},
+    command_line::Option{"partial", "",
+                         "for import: the text may name only a part of the settings, or\nbe of another "
+                         "firmware. FILE keeps its other settings"},
 };
 
 struct Wanted {
@@ -213,10 +213,10 @@ struct Row {
 };
 constexpr std::size_t kAnyNumber = 1'000'000;
 constexpr std::array kCommands = {
-    Row{"check", "check FILE...", "prints what to look at: FILE: error|warning|note: RULE: WORDS", 1,
-        kAnyNumber, Check},
+    Row{"check", "check FILE...", "prints the findings: FILE: error|warning|note: RULE: WORDS", 1, kAnyNumber,
+        Check},
     Row{"checksum", "checksum FILE", "prints the checksum that is on the site sheet", 1, 1, Checksum},
-    Row{"diff", "diff FILE FILE", "compares two files in the words of the form", 2, 2, Diff},
+    Row{"diff", "diff FILE FILE", "prints the settings that differ", 2, 2, Diff},
     Row{"export", "export FILE", "prints a file as text, one setting a line", 1, 1, Export},
     Row{"import", "import TEXT FILE", "writes the configuration of a text as a file", 2, 2, Import},
 };

@@ -98,7 +98,7 @@ void ExpectBox(Session& session, Arguments& arguments) {
 
 void ExpectNo(Session& session, Arguments& arguments) {
   if (arguments.Take("advice")) return ExpectNoAdvice(session, arguments);
-  if (!arguments.Take("box")) Wrong("what can be missing is a box or advice");
+  if (!arguments.Take("box")) Wrong("after \"no\", only \"box\" or \"advice\" is allowed");
   arguments.End();
   const auto& boxes = session.Boxes();
   Require(boxes.empty(), "no box", boxes.empty() ? "" : Described(boxes.front()));

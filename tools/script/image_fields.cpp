@@ -40,7 +40,7 @@ std::vector<FieldEntry> FieldsNamed(std::string_view name) {
 FieldEntry FieldNamed(std::string_view name) {
   const auto fields = FieldsNamed(name);
   if (fields.size() != 1)
-    Wrong(std::string(name) + " has several entries, " + fields.front().Name() + " is one");
+    Wrong(std::string(name) + " has several entries. Name one, such as " + fields.front().Name());
   return fields.front();
 }
 

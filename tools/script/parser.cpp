@@ -51,7 +51,7 @@ char Unescape(std::string_view line, std::size_t& place) {
   }
   const auto found =
       std::find_if(kEscapes.begin(), kEscapes.end(), [code](const auto& row) { return row.first == code; });
-  if (found == kEscapes.end()) Wrong(std::string("no text has the escape \\") + code);
+  if (found == kEscapes.end()) Wrong(std::string("there is no escape \\") + code);
   return found->second;
 }
 
@@ -61,9 +61,9 @@ Word ReadText(std::string_view line, std::size_t& place) {
   for (++place; place < line.size() && line[place] != '"'; ++place) {
     word.text += line[place] == '\\' ? Unescape(line, ++place) : line[place];
   }
-  if (place == line.size()) Wrong("a text lacks its closing quote");
+  if (place == line.size()) Wrong("the closing quote of a text is missing");
   ++place;
-  if (place < line.size() && !EndsWord(line[place])) Wrong("a blank is missing behind a text");
+  if (place < line.size() && !EndsWord(line[place])) Wrong("a blank is missing after a text");
   return word;
 }
 

@@ -15,18 +15,18 @@ constexpr std::size_t kHelpColumn = 31;
 
 constexpr std::string_view kPurpose =
     "Runs OVL Software without a screen, from a script or from standard input. The\n"
-    "statements press the program's controls by name, let the unit speak on a\n"
-    "simulated line or use the machine's own ports, transfer whole configurations,\n"
-    "look at files, and check the results. There is one statement on a line, and #\n"
-    "starts a comment. A text is in double quotes, with \\\" \\\\ \\r \\n \\t \\xHH.\n"
+    "statements press the controls of the program by name, simulate what the unit\n"
+    "sends or use the ports of the computer, transfer whole configurations, inspect\n"
+    "files, and check the results. There is one statement on a line, and # begins a\n"
+    "comment. A text is in double quotes, with \\\" \\\\ \\r \\n \\t \\xHH.\n"
     "\n"
-    "NAME is a control's name with its index, ComboCOMM(3). If two forms share it,\n"
-    "the form is in front, FrmSubMenu.Combo1(1). OpMicros(3) is an element of an\n"
-    "option array.\n"
+    "NAME is the name of a control with its index, ComboCOMM(3). If two forms have\n"
+    "this name, put the form before it, FrmSubMenu.Combo1(1). OpMicros(3) is an\n"
+    "element of an option array.\n"
     "\n"
     "pick, click and type on a control that is disabled or hidden print\n"
-    "\"refused NAME\". A message box prints \"box TITLE TEXT\", the end of the program\n"
-    "\"ended\".\n";
+    "\"refused NAME\". A message box prints \"box TITLE TEXT\". The end of the\n"
+    "program prints \"ended\".\n";
 
 constexpr std::string_view kExitStatus =
     "\n"
@@ -34,13 +34,13 @@ constexpr std::string_view kExitStatus =
     "  0  done\n"
     "  1  an expectation failed\n"
     "  2  wrong usage, or a statement is wrong\n"
-    "  3  the program ended, and a statement that needs it was left\n"
+    "  3  the program ended before a statement that needs it\n"
     "  4  a transfer failed\n"
     "\n"
     "Of a command:\n"
-    "  0  done; nothing differs; no finding is above a note\n"
+    "  0  done; no difference; no finding, or only notes\n"
     "  1  the files differ; there is an error or a warning\n"
-    "  2  wrong usage, or a file cannot be read or is none of the firmware\n";
+    "  2  wrong usage, or a file cannot be read or does not fit the firmware\n";
 
 void RunLine(Session& session, std::string_view line) {
   auto words = SplitWords(line);
@@ -50,7 +50,7 @@ void RunLine(Session& session, std::string_view line) {
   const auto* statement = word.quoted ? nullptr : FindStatement(word.text);
   if (statement == nullptr) Wrong("there is no statement " + Quoted(word.text));
   if (session.Ended() && !statement->after_end) {
-    throw Stop(ExitStatus::kProgramEnded, "the program has ended, " + word.text + " needs it");
+    throw Stop(ExitStatus::kProgramEnded, "the program has ended, but " + word.text + " needs it");
   }
   Arguments arguments(std::move(words));
   statement->run(session, arguments);

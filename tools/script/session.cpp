@@ -22,7 +22,8 @@ void Session::SetFolder(std::string folder) {
 
 void Session::StoreSetting(const std::string& value, const std::string& text) {
   const auto written = WriteStore(core::kSettingsKey, value, text);
-  if (!written.Ok()) Wrong("the machine's settings store cannot be written: " + written.Problem().Text());
+  if (!written.Ok())
+    Wrong("the settings store of the computer cannot be written: " + written.Problem().Text());
 }
 
 void Session::SetClock(const core::ClockTime& time) {
@@ -55,12 +56,12 @@ void Session::UseSimulatedPort() {
 }
 
 SimulatedLine& Session::Simulated() {
-  if (real_ != nullptr) Wrong("the machine's own ports are in use");
+  if (real_ != nullptr) Wrong("the ports of the computer are in use");
   return simulated_;
 }
 
 RealLine& Session::Real() {
-  if (real_ == nullptr) Wrong("the machine's own ports are not in use");
+  if (real_ == nullptr) Wrong("the ports of the computer are not in use");
   return *real_;
 }
 

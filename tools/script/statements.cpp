@@ -32,7 +32,7 @@ Kind ControlOf(Session& session, Arguments& arguments, const char* kind) {
   const auto& name = arguments.Bare("NAME");
   const auto control = session.Control(name);
   const auto* held = std::get_if<Kind>(&control);
-  if (held == nullptr) Wrong(name + " is no " + kind);
+  if (held == nullptr) Wrong(name + " is not a " + kind);
   return *held;
 }
 
@@ -64,7 +64,7 @@ void Setting(Session& session, Arguments& arguments) {
 }
 
 void Store(Session& session, Arguments& arguments) {
-  if (!arguments.Take("system")) Wrong("the only other store is: system");
+  if (!arguments.Take("system")) Wrong("the only other store is \"system\"");
   arguments.End();
   session.UseSystemStore();
 }
@@ -77,7 +77,7 @@ void Start(Session& session, Arguments& arguments) {
 void Clock(Session& session, Arguments& arguments) {
   const auto& text = arguments.Next("the time");
   const auto time = ParseClock(text);
-  if (!time) Wrong("no clock shows " + Quoted(text));
+  if (!time) Wrong(Quoted(text) + " is not a date and time");
   arguments.End();
   session.SetClock(*time);
 }
@@ -95,7 +95,7 @@ void Port(Session& session, Arguments& arguments) {
     arguments.End();
     return session.UseRealPorts();
   }
-  if (word != "ok" && word != "fail" && word != "unplug") Wrong("no port is " + Quoted(word));
+  if (word != "ok" && word != "fail" && word != "unplug") Wrong(Quoted(word) + " is not a state of the port");
   const auto reason = word == "fail" ? arguments.Next("REASON") : std::string();
   arguments.End();
   session.UseSimulatedPort();
@@ -139,7 +139,7 @@ void Click(Session& session, Arguments& arguments) {
   const auto control = session.Control(name);
   arguments.End();
   const bool clickable = std::holds_alternative<controls::Button*>(control) || CheckedOf(control).has_value();
-  if (!clickable) Wrong(name + " is no button, menu item, check box or element");
+  if (!clickable) Wrong(name + " is not a button, menu item, check box or element");
   PrintRefusal(session, name, session.Act(core::ClickEvent{control}));
 }
 
@@ -150,7 +150,7 @@ void Type(Session& session, Arguments& arguments) {
   arguments.End();
   if (std::holds_alternative<controls::List*>(control)) return;
   auto* const* box = std::get_if<controls::TextBox*>(&control);
-  if (box == nullptr) Wrong(name + " is no text box");
+  if (box == nullptr) Wrong(name + " is not a text box");
   PrintRefusal(session, name, session.Act(core::TypeEvent{*box, text}));
 }
 
@@ -189,7 +189,7 @@ void Unit(Session& session, Arguments& arguments) {
     do {
       const auto& digits = arguments.Bare("a byte");
       const auto byte = HexByte(digits);
-      if (!byte) Wrong(Quoted(digits) + " is no byte");
+      if (!byte) Wrong(Quoted(digits) + " is not a byte");
       characters += *byte;
     } while (!arguments.AtEnd());
   } else {
@@ -214,7 +214,7 @@ void Drain(Session& session, Arguments& arguments) {
     session.Act(core::DrainedEvent{});
     ++drained;
   }
-  if (all && drained == kLongestDrain) Wrong("the transmitter never runs empty");
+  if (all && drained == kLongestDrain) Wrong("the send buffer does not become empty");
 }
 
 void Sent(Session& session, Arguments& arguments) {
@@ -303,29 +303,29 @@ void Echo(Session& session, Arguments& arguments) {
 }
 
 constexpr auto kStatements = std::to_array<Statement>({
-    {"folder", "folder PATH", "the program folder", Folder},
-    {"setting", "setting NAME \"TEXT\"", "a value of the settings store, which is kept in memory", Setting},
-    {"store", "store system", "the machine's settings store instead", Store},
+    {"folder", "folder PATH", "sets the program folder", Folder},
+    {"setting", "setting NAME \"TEXT\"", "sets a value of the settings store, which is in memory", Setting},
+    {"store", "store system", "uses the settings store of the computer instead", Store},
     {"start", "start", "starts the program; again: the next start with the same store and folder", Start,
      true},
     {"pick", "pick NAME POSITION|\"ENTRY\"", "picks in a list, or an element of an option array", Pick},
     {"click", "click NAME", "clicks a button, a menu item or a check box", Click},
-    {"type", "type NAME \"TEXT\"", "replaces the text of a text box; a list refuses it silently", Type},
-    {"leave", "leave NAME", "the control loses the focus", Leave},
-    {"key", "key NAME Enter|Escape", "a key pressed in it", Press},
-    {"point", "point NAME", "the pointer moves over it", Point},
-    {"close", "close FORM", "the form's window button", Close},
+    {"type", "type NAME \"TEXT\"", "replaces the text of a text box; in a list it does nothing", Type},
+    {"leave", "leave NAME", "takes the focus from the control", Leave},
+    {"key", "key NAME Enter|Escape", "presses a key in the control", Press},
+    {"point", "point NAME", "moves the pointer over the control", Point},
+    {"close", "close FORM", "presses the close button of the window", Close},
     {"unit", "unit \"TEXT\"\nunit hex 06 15",
-     "the unit sends these characters, one receive event each\nthe same as bytes", Unit},
-    {"drain", "drain [N]", "the transmitter runs empty N times, or until nothing more is sent", Drain},
-    {"sent", "sent", "prints what was written to the port since it was last asked", Sent, true},
-    {"tick", "tick TIMER [N]", "N ticks of a timer that is enabled; of another, nothing", Tick},
-    {"wait", "wait MS", "time passes; timers tick in the order in which they come due", Wait},
+     "the unit sends these characters, one receive event each\nthe unit sends these bytes", Unit},
+    {"drain", "drain [N]", "empties the send buffer N times, or until it stays empty", Drain},
+    {"sent", "sent", "prints what the program has sent since the last such statement", Sent, true},
+    {"tick", "tick TIMER [N]", "lets a timer tick N times, if it is enabled", Tick},
+    {"wait", "wait MS", "lets time pass; the timers tick in the order of their times", Wait},
     {"clock", "clock \"2026-03-05 14:07:09\"", "sets the clock; it moves with wait", Clock},
     {"answer", "answer \"PATH\"\nanswer cancel",
-     "answers the next file dialog\ncancels it, as without an answer", Answer},
+     "answers the next file dialog\ncancels it; a dialog without an answer is cancelled too", Answer},
     {"port", "port ok\nport fail \"REASON\"\nport unplug\nport real",
-     "the simulated line opens\nit refuses to open\nit is lost\nuses the machine's own ports", Port},
+     "the simulated line opens\nit does not open\nit is lost\nuses the ports of the computer", Port},
     {"show", "show NAME", "prints NAME = position \"text\" visible|hidden enabled|disabled", Show},
     {"list", "list NAME", "prints its entries, one a line", PrintList},
     {"field", "field NAME", "prints an image field, NAME = HEX; entries count from 1: EXCPSTRS(3)", Field},
@@ -336,8 +336,8 @@ constexpr auto kStatements = std::to_array<Statement>({
      Dump},
     {"inspect", "inspect PATH", "prints which firmware a file fits and what opening it here would do",
      Inspect},
-    {"upload", "upload [PATH]", "a whole upload on the real port; the image then into a file", Upload},
-    {"download", "download [PATH]", "a whole download on the real port, of the image or of a file", Download},
+    {"upload", "upload [PATH]", "uploads on a real port; writes the image into a file, if named", Upload},
+    {"download", "download [PATH]", "downloads the image, or a file, on a real port", Download},
     {"expect",
      "expect field NAME HEX\nexpect var NAME VALUE [within MS]\nexpect count NAME N\nexpect list NAME "
      "\"TEXT\"...\nexpect NAME POSITION\nexpect NAME \"TEXT\"\nexpect visible|hidden NAME\n"
@@ -346,10 +346,9 @@ constexpr auto kStatements = std::to_array<Statement>({
      "expect ended",
      "the script fails unless an image field has these digits\na state variable has this value, or gets it "
      "in time\na list has N entries\nit has these entries\nthis position is selected\nthe control has this "
-     "text\nit is visible or hidden\nit is enabled or disabled\nit is checked or not\nthis was written to "
-     "the "
-     "port since it was last asked\nthe next message box has this title and text\nno message box is left\n"
-     "this advice applies\nnone applies, or not this\nthe program has ended",
+     "text\nit is visible or hidden\nit is enabled or disabled\nit is checked or not\nthe program has sent "
+     "this since the last such statement\nthe next message box has this title and text\nthere is no other "
+     "message box\nthis advice applies\nno advice applies, or not this\nthe program has ended",
      Expect, true},
     {"echo", "echo \"TEXT\"", "prints a text", Echo, true},
 });

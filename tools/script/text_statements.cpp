@@ -72,9 +72,8 @@ void Checksum(Session& session, Arguments& arguments) {
 constexpr auto kStatements = std::to_array<Statement>({
     {"export", "export PATH", "writes the configuration as text, one setting a line", Export},
     {"import", "import PATH [--partial]",
-     "takes the settings of a text; with --partial those that this firmware has", Import},
-    {"diff", "diff PATH [PATH]",
-     "compares the configuration with a file, or two files, in the words of the form", Diff},
+     "loads the settings of a text; with --partial only those that this firmware has", Import},
+    {"diff", "diff PATH [PATH]", "prints the settings that differ from a file, or between two files", Diff},
     {"checksum", "checksum [PATH]", "prints the checksum of the site sheet, of the configuration or a file",
      Checksum},
 });

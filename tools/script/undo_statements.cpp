@@ -33,8 +33,8 @@ void Redo(Session& session, Arguments& arguments) {
 }
 
 constexpr std::array kStatements = {
-    Statement{"undo", "undo [N]", "takes back the last N acts that changed a setting", Undo},
-    Statement{"redo", "redo [N]", "does again what undo has taken back", Redo},
+    Statement{"undo", "undo [N]", "undoes the last N steps", Undo},
+    Statement{"redo", "redo [N]", "redoes steps that undo took back", Redo},
 };
 
 }  // namespace

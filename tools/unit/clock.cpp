@@ -30,7 +30,7 @@ std::string FormError(std::string_view text) {
     if (!fits) return place + expected + ", found " + Quoted(text[i]);
   }
   if (text.size() > kForm.size())
-    return "characters behind the date and time: " + Printable(text.substr(kForm.size()));
+    return "characters after the date and time: " + Printable(text.substr(kForm.size()));
   return {};
 }
 

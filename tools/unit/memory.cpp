@@ -65,7 +65,7 @@ std::string WriteFile(const std::string& path, std::string_view text) {
     }
   }
   if (std::rename(beside.c_str(), path.c_str()) == 0)
-    return FlushFolderOf(path) ? std::string() : Failure("cannot keep the name of", path);
+    return FlushFolderOf(path) ? std::string() : Failure("cannot save the name of", path);
   std::string error = Failure("cannot replace", path);
   ::unlink(beside.c_str());
   return error;
@@ -81,7 +81,8 @@ Loaded LoadImage(const std::string& path, const Firmware& firmware) {
   if (!file.error.empty()) return file;
   StreamText stream = ReadStreamText(RegionOf(firmware), file.text);
   if (stream.errors.empty()) return {std::move(stream.image), {}};
-  return {{}, path + " is no configuration of " + std::string(firmware.name) + ": " + stream.errors.front()};
+  return {{},
+          path + " is not a configuration of " + std::string(firmware.name) + ": " + stream.errors.front()};
 }
 
 std::string SaveImage(const std::string& path, const Firmware& firmware, std::string_view image) {
@@ -104,7 +105,7 @@ Loaded LoadHistory(const std::string& path) {
   if (!file.error.empty()) return file;
   std::string text;
   for (const char c : file.text) {
-    if (c == kAck) return {{}, path + " holds the byte ACK, which would end the history"};
+    if (c == kAck) return {{}, path + " contains the byte ACK, which would end the history"};
     if (c == '\n' && (text.empty() || text.back() != '\r')) text += '\r';
     text += c;
   }

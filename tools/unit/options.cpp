@@ -26,7 +26,7 @@ std::string TakeFirmware(Options& options, std::string_view value) {
   if (options.firmware != nullptr) return {};
   std::string names;
   for (const Firmware& firmware : AllFirmware()) names.append(" ").append(firmware.name);
-  return "no firmware of that name; there are" + names;
+  return "there is no such firmware. The names are:" + names;
 }
 
 std::string TakePath(std::string& path, std::string_view value) {
@@ -57,12 +57,12 @@ std::string TakeFault(Options& options, std::string_view value) {
 constexpr std::array<OptionRow, 12> kRows{{
     {{"firmware", "NAME", "the firmware of the unit, V1400R12 by default"}, TakeFirmware},
     {{"memory", "FILE",
-      "keeps the configuration in FILE and makes it at the first\nstart. Without it the configuration is "
-      "lost at the end"},
+      "keeps the configuration in FILE, and makes this file at\nthe first start. Without this option the "
+      "configuration\nis lost at the end"},
      [](Options& o, std::string_view v) { return TakePath(o.memory, v); }},
     {{"image", "FILE",
-      "the configuration of the first start, as a record\nstream. Without it the unit starts with the "
-      "factory\nconfiguration"},
+      "the configuration of the first start, as a record\nstream. Without this option the unit starts with "
+      "the\nfactory configuration"},
      [](Options& o, std::string_view v) { return TakePath(o.image, v); }},
     {{"speed", "1200|2400|4800|9600|14400|19200|28800|38400|57600|115200",
       "the baud rate of the unit, 9600 by default. At another\nbaud rate the unit does not answer"},
@@ -70,25 +70,27 @@ constexpr std::array<OptionRow, 12> kRows{{
        o.speed = static_cast<unsigned>(*Decimal(v, kFastest));
        return std::string();
      }},
-    {{"pace", "on|off", "sends as fast as the line carries it (on, the default)\nor at once"},
+    {{"pace", "on|off", "sends at the speed of the line (on, the default), or\neverything at once (off)"},
      [](Options& o, std::string_view v) { return o.paced = v == "on", std::string(); }},
     {{"link", "PATH",
       "makes the symbolic link PATH to the port, and removes it\nat the end. With ports/com1 in the program "
       "folder the\nunit is Comport 1"},
      [](Options& o, std::string_view v) { return TakePath(o.link, v); }},
     {{"history", "FILE|lines:N",
-      "the history log, from a text file or made up of N lines,\n100000 at most; lines:12 by default"},
+      "the history: a text file, or N lines that ovl-unit makes,\n100000 at most; lines:12 by default"},
      TakeHistory},
-    {{"clock-file", "FILE", "the clock, when it is set, goes there as\n\"MM-DD-YY HH:MM:SS\""},
+    {{"clock-file", "FILE",
+      "writes the time into FILE when the program sets the clock,\nas \"MM-DD-YY HH:MM:SS\""},
      [](Options& o, std::string_view v) { return TakePath(o.clock_file, v); }},
     {{"log", "FILE|-",
-      "writes the conversation down, - for the standard output:\n\"> \" tool to unit, \"< \" unit to tool, "
-      "\"-- \" remarks"},
+      "writes what both sides send; - is the standard output:\n\"> \" program to unit, \"< \" unit to "
+      "program, \"-- \" remarks"},
      [](Options& o, std::string_view v) { return TakePath(o.log, v); }},
-    {{"fault", "FAULT", "makes something go wrong, see below. May be given\nseveral times"}, TakeFault},
+    {{"fault", "FAULT", "makes something go wrong, see below. You can give this\noption several times"},
+     TakeFault},
     {{"seed", "N", "the seed of the random faults, 1 by default. The same\nseed gives the same bytes"},
      TakeSeed},
-    {{"verbose", "", "also reports remarks that are no complaint"},
+    {{"verbose", "", "prints all remarks, not only mistakes of the program"},
      [](Options& o, std::string_view) { return o.verbose = true, std::string(); }},
 }};
 
@@ -99,26 +101,26 @@ constexpr auto kOptions = [] {
 }();
 
 constexpr std::string_view kPurpose =
-    "Plays a unit on a pseudo-terminal, for practice and for tests. The first line on\n"
-    "standard output names the port, \"port /dev/pts/3\". What a tool does wrong is\n"
-    "reported on standard error. The unit checks every record that it receives and\n"
-    "stores only a stream without any error. It ends on an interrupt or termination\n"
-    "signal.\n";
+    "Simulates a unit on a pseudo-terminal, for practice and for tests. The first line\n"
+    "on standard output names the port, \"port /dev/pts/3\". Standard error names the\n"
+    "mistakes of the program that is connected. The unit checks every record that it\n"
+    "receives, and stores only a stream without an error. It ends on an interrupt or\n"
+    "termination signal.\n";
 
 constexpr std::string_view kCommands =
     "\n"
-    "Commands that the unit takes, at its baud rate:\n"
+    "Commands that the unit accepts, at its baud rate:\n"
     "  ~~~SOH_REQUEST_EOT~~~k  starts remote mode: ACK. Before that, everything else\n"
     "                          is text of the register\n"
     "  ENQ                     FF; remote mode ends after 30 seconds without it\n"
     "  CAN                     leaves remote mode\n"
     "  /LU CR                  sends the configuration and leaves remote mode\n"
-    "  /LD CR                  ACK, then takes a configuration; ACK when it is\n"
+    "  /LD CR                  ACK, then receives a configuration; ACK when it is\n"
     "                          stored, else NAK; leaves remote mode\n"
     "  /TDMM-DD-YY HH:MM:SS CR LF CR\n"
     "                          sets the clock: ACK and leaves remote mode, or NAK\n"
-    "  /LH CR LF CR            sends the history log, then ACK; leaves remote mode\n"
-    "  /MR CR LF CR            goes back to the factory configuration: ACK; leaves\n"
+    "  /LH CR LF CR            sends the history, then ACK; leaves remote mode\n"
+    "  /MR CR LF CR            restores the factory configuration: ACK; leaves\n"
     "                          remote mode\n"
     "\n"
     "Faults:\n";

@@ -86,7 +86,7 @@ std::string PtyLine::MakeLink(const std::string& link) {
   if (kind == std::filesystem::file_type::symlink) {
     std::filesystem::remove(place, failure);
   } else if (kind != std::filesystem::file_type::not_found) {
-    return "cannot make the link " + link + ": something other than a link is there";
+    return "cannot make the link " + link + ": there is already something that is not a link";
   }
   failure.clear();
   std::filesystem::create_symlink(path_, place, failure);

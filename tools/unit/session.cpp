@@ -167,14 +167,14 @@ void Session::Speak(const std::string& bytes) {
   journal_.Add(Journal::Side::kUnit, bytes, Now());
   if (line_->Write(bytes) || overrun_noted_) return;
   overrun_noted_ = true;
-  Note("the tool does not read; bytes are lost");
+  Note("the program does not read, so bytes are lost");
 }
 
 void Session::NoteNoise(unsigned speed, std::size_t count) {
   if (speed == noise_speed_) return;
   noise_speed_ = speed;
   Note("the line is set to " + std::to_string(speed) + ", not to " + std::to_string(options_.speed) + ": " +
-       std::to_string(count) + " bytes and what follows at that speed are noise");
+       std::to_string(count) + " bytes and all others at this baud rate are lost");
 }
 
 }  // namespace unit

@@ -143,7 +143,7 @@ void StreamChecker::BreakOff(std::string_view why) {
   const std::string place = count_ == 0 ? "before its first character"
                                         : "after " + std::to_string(count_) + " characters, in record " +
                                               std::to_string(record_) + ", address " + Hex4(address_);
-  errors_.push_back("the stream broke off " + place + ": " + std::string(why));
+  errors_.push_back("the stream stopped " + place + ": " + std::string(why));
 }
 
 std::vector<std::string> StreamChecker::Errors() const {
@@ -173,7 +173,7 @@ StreamText ReadStreamText(const Region& region, std::string_view text) {
   const std::string_view rest = text.substr(taken);
   const bool only_line_ends = std::ranges::all_of(rest, [](char c) { return c == '\r' || c == '\n'; });
   if (!only_line_ends) {
-    result.errors.push_back(std::to_string(rest.size()) + " characters behind the end mark \"#\"");
+    result.errors.push_back(std::to_string(rest.size()) + " characters after the end mark \"#\"");
   }
   return result;
 }

@@ -24,7 +24,7 @@ class StreamChecker {
   // characters.
   bool Feed(char c);
 
-  // The stream ended without its end mark; `why` completes the sentence "the stream broke off ...".
+  // The stream ended without its end mark; `why` completes the sentence "the stream stopped ...".
   void BreakOff(std::string_view why);
 
   // Complete and without any error.

@@ -101,16 +101,16 @@ void Unit::Asked(Time now) {
   const std::string_view earlier = kRequest.substr(0, kRequest.size() - 1);
   if (state_ == State::kListening && line_ != earlier) {
     const std::size_t extra = line_.size() < earlier.size() ? 0 : line_.size() - earlier.size();
-    hooks_.complain("unexpected ahead of the request for remote mode: \"" +
-                    Printable(line_.substr(0, extra)) + "\"");
+    hooks_.complain("unexpected before the request for remote mode: \"" + Printable(line_.substr(0, extra)) +
+                    "\"");
   }
   if (state_ == State::kTakingStream) {
-    checker_.BreakOff("the tool asks for remote mode");
+    checker_.BreakOff("the program asks for remote mode");
     for (const std::string& error : checker_.Errors()) hooks_.complain(error);
   }
   if (state_ == State::kSending) {
     transmitter_.Clear();
-    hooks_.note("stops sending, the tool asks for remote mode");
+    hooks_.note("stops sending, because the program asks for remote mode");
   }
   if (faults_.Refuses(Operation::kRequest)) {
     hooks_.note("fault: refuses the request");
@@ -118,10 +118,10 @@ void Unit::Asked(Time now) {
     return Sleep();
   }
   if (faults_.Silences(Operation::kRequest)) {
-    hooks_.note("fault: does not hear the request");
+    hooks_.note("fault: ignores the request");
     return Sleep();
   }
-  hooks_.note("remote mode granted");
+  hooks_.note("remote mode begins");
   Listen(now);
   Answer(kAck, now);
 }
@@ -130,13 +130,13 @@ void Unit::HearAsleep(char byte, Time now) {
   const bool watching = now < std::exchange(stream_end_watch_, Time{});
   const bool expected = byte == kCan || byte == kRequest.front();
   if (!watching || expected) return;
-  hooks_.complain("a character behind the end mark of the stream: " + Quoted(byte));
+  hooks_.complain("a character after the end mark of the stream: " + Quoted(byte));
 }
 
 void Unit::HearCommand(char byte, Time now) {
-  if (byte == kCan) return Leave("the tool sent CAN");
+  if (byte == kCan) return Leave("the program sent CAN");
   if (byte == kEnq) {
-    if (!line_.empty()) hooks_.complain("ENQ in the middle of \"" + Printable(line_) + "\"");
+    if (!line_.empty()) hooks_.complain("ENQ within \"" + Printable(line_) + "\"");
     heard_ = now;
     if (faults_.Silences(Operation::kKeepAlive)) return hooks_.note("fault: does not answer ENQ");
     return Answer(kFormFeed, now);
@@ -155,7 +155,7 @@ void Unit::JudgeLine(Time now) {
   const std::size_t end = line_.find('\r');
   const auto command = FindCommand(line_);
   if (!command) {
-    RefuseLine("no command: \"" + Printable(line_.substr(0, end)) + "\"", now);
+    RefuseLine("unknown command: \"" + Printable(line_.substr(0, end)) + "\"", now);
     skipped_ending_ = kRestOfLongEnding;
     return;
   }
@@ -178,7 +178,7 @@ void Unit::Obey(const Command& command, std::string_view text, Time now) {
     return Answer(kNak, now);
   }
   if (faults_.Silences(command.operation)) {
-    return hooks_.note("fault: does not hear " + std::string(command.word));
+    return hooks_.note("fault: ignores " + std::string(command.word));
   }
   switch (command.operation) {
     case Operation::kUpload:
@@ -239,12 +239,13 @@ void Unit::SetClock(std::string_view text, Time now) {
 void Unit::MasterReset(Time now) {
   if (!Keep(FactoryImage(firmware_))) return Answer(kNak, now);
   Answer(kAck, now);
-  Leave("the factory configuration is back");
+  Leave("the unit has its factory configuration again");
 }
 
 void Unit::HearStream(char byte, Time now) {
   heard_ = now;
-  if (byte == kCan) return Leave("the tool gave up its stream after " + Characters(checker_.Count()));
+  if (byte == kCan)
+    return Leave("the program ended its stream with CAN after " + Characters(checker_.Count()));
   line_ += byte;
   if (kRequest.starts_with(line_)) return;
   const std::string due = std::move(line_);
@@ -258,7 +259,8 @@ void Unit::EndStream(Time now) {
   for (const std::string& error : checker_.Errors()) hooks_.complain(error);
   if (checker_.Oversized()) {
     hooks_.complain("the stream has more digits than the " + std::to_string(RegionOf(firmware_).Digits()) +
-                    " of " + std::string(firmware_.name) + "; accepted, the rest has no place");
+                    " of " + std::string(firmware_.name) +
+                    ". The unit accepts the stream and ignores the rest");
   }
   const bool kept = checker_.Correct() && Keep(checker_.Image());
   if (faults_.Silences(Operation::kFinalAnswer)) {
@@ -267,7 +269,7 @@ void Unit::EndStream(Time now) {
     Answer(kept ? kAck : kNak, now);
   }
   stream_end_watch_ = now + kStreamEndWatch;
-  Leave(kept ? "the configuration is stored" : "the configuration is as it was");
+  Leave(kept ? "the configuration is stored" : "the configuration has not changed");
 }
 
 bool Unit::Keep(const std::string& image) {
@@ -283,7 +285,7 @@ bool Unit::Keep(const std::string& image) {
 void Unit::HearWhileSending(char byte) {
   if (byte == kCan) {
     transmitter_.Clear();
-    return Leave("the tool sent CAN and the rest was not sent");
+    return Leave("the program sent CAN, so the unit did not send the rest");
   }
   if (complained_) return;
   line_ += byte;
@@ -316,7 +318,7 @@ void Unit::Sleep() {
 
 void Unit::Leave(const std::string& why) {
   Sleep();
-  hooks_.note("remote mode is over: " + why);
+  hooks_.note("remote mode ends: " + why);
 }
 
 std::optional<Time> Unit::Deadline() const {
@@ -328,13 +330,13 @@ void Unit::GiveUp(Time now) {
   const auto deadline = Deadline();
   if (!deadline || now < *deadline) return;
   if (state_ == State::kTakingStream) {
-    checker_.BreakOff("the tool fell silent");
+    checker_.BreakOff("the program sent nothing more");
     for (const std::string& error : checker_.Errors()) hooks_.complain(error);
     Answer(kNak, now);
   } else if (!line_.empty()) {
     hooks_.complain("a command without its end: \"" + Printable(line_) + "\"");
   }
-  Leave("the tool has been silent for too long");
+  Leave("the program sent nothing for too long");
 }
 
 }  // namespace unit

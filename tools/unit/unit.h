@@ -48,7 +48,7 @@ class Unit {
   // A byte arrived at the unit's own speed.
   void Receive(char byte, Time now);
 
-  // Sends the bytes that are due, and leaves remote mode if the tool has been silent for too long.
+  // Sends the bytes that are due, and leaves remote mode if the program sent nothing for too long.
   void Advance(Time now);
 
   // When Advance() has to be called next, if nothing arrives before.

@@ -73,8 +73,8 @@ Advice RegisterReset(const core::Application& app, const Observed& observed) {
   return {AdviceId::kCount,
           {},
           Sentence(Pattern("Advice",
-                           "The answer of the unit had a wrong parity, so the program selected %1, with its "
-                           "options and its line settings. Undo restores %2."),
+                           "The answer of the unit had a wrong parity, so the program changed the register "
+                           "to %1, with its options and its line settings. Undo restores %2."),
                    {RegisterOfImage(app), reset->register_before}),
           AdviceAction::kUndo,
           Sentence(Pattern("EditMenu", "Undo"))};
@@ -84,8 +84,8 @@ Advice FileMisread(const core::Application& app, const Observed& observed) {
   const auto path = observed.files.MisreadIn(app);
   if (path.empty()) return {};
   const auto misread = Sentence(Pattern("Advice",
-                                        "%1 does not have the format of %2, so all settings from the "
-                                        "register options on are in the wrong place. Do not download them."),
+                                        "%1 does not have the format of %2, so the register options and all "
+                                        "settings after them are in the wrong place. Do not download them."),
                                 {FileNameOf(path), app.image_firmware.Joined()});
   return {AdviceId::kCount,
           {},
@@ -122,10 +122,10 @@ Advice NextPickSwallowed(const core::Application& app, const Observed& observed)
       app, problem.empty()
                ? Sentence(Pattern("Advice",
                                   "Open was cancelled. The next pick in the register list has no effect: the "
-                                  "list moves, but the program loads nothing. Pick the register twice."))
+                                  "list shows it, but the program loads nothing. Pick the register twice."))
                : Sentence(Pattern("Advice",
                                   "Open failed: %1. The next pick in the register list has no effect: the "
-                                  "list moves, but the program loads nothing. Pick the register twice."),
+                                  "list shows it, but the program loads nothing. Pick the register twice."),
                           {problem}));
 }
 

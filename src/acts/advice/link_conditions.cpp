@@ -143,7 +143,8 @@ Words CureOf(const Refusal& refusal) {
     return Sentence(Pattern("Advice", "Another program uses the device: close it."));
   if (reason.Is(std::errc::invalid_argument))
     return Sentence(
-        Pattern("Advice", "The device cannot use %1: choose another baud rate, or data bits and parity."),
+        Pattern("Advice",
+                "The device cannot use %1: choose another baud rate, other data bits or another parity."),
         {refusal.settings});
   return Sentence(Pattern("Advice", "Choose another comport, or check the device."));
 }
@@ -185,9 +186,10 @@ Words StepsOnRemote(const core::Application& app, const Words& last) {
 Advice UploadBroke(const core::Application& app, const Observed& observed) {
   if (!observed.link.UploadBroke()) return {};
   return RestartAdvice(
-      app, Sentence(Pattern("Advice",
-                            "An upload stopped before its end. The program would put what it received in "
-                            "front of the next upload. Restart the program before you upload again.")));
+      app,
+      Sentence(Pattern("Advice",
+                       "An upload stopped before its end. The program keeps what it received and would read "
+                       "it together with the next upload. Restart the program before you upload again.")));
 }
 
 Advice UploadMixed(const core::Application& app, const Observed& observed) {
@@ -223,16 +225,16 @@ Advice DeviceLost(const core::Application& app, const Observed& observed) {
 Pattern EndOf(const BrokenDownload& broken) {
   switch (broken.sent) {
     case BrokenDownload::Sent::kNothing:
-      return Pattern("Advice",
-                     "The download of %1 did not begin. The unit has its old configuration. To try again: "
-                     "%2.");
+      return Pattern(
+          "Advice",
+          "The download at %1 did not begin. The unit has its old configuration. To try again: %2.");
     case BrokenDownload::Sent::kPart:
       return Pattern("Advice",
                      "A download stopped at %1. The unit may have half a configuration, so download again: "
                      "%2.");
     default:
       return Pattern("Advice",
-                     "The unit has not confirmed the download of %1. It may have another configuration, so "
+                     "The unit has not confirmed the download at %1. It may have another configuration, so "
                      "download again: %2.");
   }
 }
@@ -273,11 +275,12 @@ Advice NoAnswer(const core::Application& app, const Observed& observed) {
 Advice ScanCannotHear(const core::Application& app, const Observed&) {
   if (!app.ScanActive || app.LinkMode == core::kLinkRemote) return {};
   const auto cancel = OfForm(app.frmScanBProgress.Command1.caption);
-  return Click(Sentence(Pattern("Advice",
-                                "This scan cannot find the unit: the program accepts an answer only if the "
-                                "unit was in remote mode before, and Disconnect ended it. Press %1. %2"),
-                        {cancel, ChooseLine()}),
-               cancel, "frmScanBProgress.Command1");
+  return Click(
+      Sentence(Pattern("Advice",
+                       "This scan cannot find the unit. The program accepts an answer only if the unit was "
+                       "in remote mode before, and Disconnect or a time-out ended remote mode. Press %1. %2"),
+               {cancel, ChooseLine()}),
+      cancel, "frmScanBProgress.Command1");
 }
 
 Advice ScanFoundNothing(const core::Application& app, const Observed& observed) {
@@ -286,15 +289,15 @@ Advice ScanFoundNothing(const core::Application& app, const Observed& observed) 
   if (!scan->could_hear)
     return ClickSetComport(
         Sentence(Pattern("Advice",
-                         "The scan could not find the unit: the program accepts an answer only if the unit "
-                         "was in remote mode before, and Disconnect ended it. %1"),
+                         "The scan could not find the unit. The program accepts an answer only if the unit "
+                         "was in remote mode before, and Disconnect or a time-out ended remote mode. %1"),
                  {ChooseLine()}));
-  return ClickSetComport(Sentence(
-      Pattern("Advice",
-              "No unit answered the scan, which tried every baud rate with %1 and parity %2. Check the cable "
-              "and the power of the unit. If the unit has other data bits or another parity, choose them in "
-              "Set Comport and scan again."),
-      LineOfPort(app)));
+  return ClickSetComport(
+      Sentence(Pattern("Advice",
+                       "No unit answered the scan. It tried every baud rate with %1 and parity %2. Check the "
+                       "cable and the power of the unit. If the unit has other data bits or another parity, "
+                       "choose them in Set Comport and scan again."),
+               LineOfPort(app)));
 }
 
 }  // namespace ovl::acts

@@ -75,7 +75,8 @@ firmware::FirmwareId FirmwareOf(const std::string& path, std::string_view bytes,
     throw NoConfiguration(path + ": the text form names no firmware. Name it with --firmware");
   }
   const auto fits = image::FittingFirmware(files::JoinLines(bytes));
-  if (fits.empty()) throw NoConfiguration(path + ": no configuration, or a damaged one: it fits no firmware");
+  if (fits.empty())
+    throw NoConfiguration(path + ": this is not a configuration, or it is damaged. It fits no firmware");
   if (fits.size() == 1) return fits.front().firmware;
   for (const auto& fit : fits) {
     if (IsNamedAfter(path, fit.firmware)) return fit.firmware;
@@ -93,7 +94,7 @@ image::ConfigImage ReadConfiguration(Viewer& viewer, const image::ConfigImage& b
   const auto& firmware = viewer.catalogue.Firmware();
   const auto decoded = image::DecodeStream(stream, firmware);
   if (!decoded || !image::FitsFirmware(stream, firmware))
-    throw NoConfiguration(path + ": no configuration of " + firmware.Joined() + ", it fits " +
+    throw NoConfiguration(path + ": not a configuration of " + firmware.Joined() + ". It fits " +
                           NamesOf(image::FittingFirmware(stream)));
   return *decoded;
 }
@@ -106,7 +107,7 @@ image::ConfigImage ReadConfiguration(Viewer& viewer, const std::string& path, st
       throw NoConfiguration(
           path +
           ": the text form names only a part of a configuration. With \"import --partial\", "
-          "ovl-script changes a file by it");
+          "ovl-script stores this part in a file");
   }
   return ReadConfiguration(viewer, text_form::FilledImage(viewer.catalogue.Firmware(), '0'), path, bytes);
 }

@@ -11,39 +11,35 @@ using Frame = controls::OptionFrame;
 
 // Tips of more than one row.
 constexpr std::string_view kReceiptOrJournal =
-    "Which of the register's texts the unit shows: that of the receipt or that of the "
-    "journal.";
-constexpr std::string_view kModel = "The register's model, whose print stream the unit then reads.";
+    "Which text of the register the unit shows: the receipt or the journal.";
+constexpr std::string_view kModel = "The model of the register.";
 constexpr std::string_view kModelTapOrEmulate =
-    "The register or printer whose print stream the unit reads; TAP listens, EMULATE "
-    "answers as the printer.";
-constexpr std::string_view kDevice = "The device of the register whose text the unit takes.";
+    "The register or printer whose text the unit reads. With TAP the unit listens. With EMULATE it answers "
+    "as the printer.";
+constexpr std::string_view kDevice = "The device of the register whose text the unit reads.";
 constexpr std::string_view kTapOrAcknowledge =
-    "Whether the unit only listens (TAP) or acknowledges what the register sends (ACK); "
-    "also sets the register line.";
+    "Whether the unit only listens (TAP) or acknowledges what the register sends (ACK). A pick also sets the "
+    "line settings.";
 constexpr std::string_view kAddressDigit =
-    "A digit of the register's address to which the unit listens; also sets the whole "
-    "register line.";
+    "A digit of the address of the register that the unit listens to. A pick also sets the line settings.";
 constexpr std::string_view kGoesById = "Whether the unit uses the register ID below.";
-constexpr std::string_view kIdDigit = "A digit of the ID of the register to which the unit listens.";
+constexpr std::string_view kIdDigit = "A digit of the ID of the register that the unit listens to.";
 constexpr std::string_view kShownIpNumber =
-    "One of the four numbers of the IP address; this firmware shows it but keeps no "
-    "change.";
-constexpr std::string_view kFixedModel = "The model, which is fixed.";
+    "One of the four numbers of the IP address. With this firmware the program does not store a change.";
+constexpr std::string_view kFixedModel = "The model. You cannot change it.";
 constexpr std::string_view kTapOrEmulate =
-    "Whether the unit listens to the printer line or answers as the printer; also sets "
-    "the register line's speed.";
-constexpr std::string_view kPrinter = "The printer whose text the unit takes.";
+    "Whether the unit listens to the printer line or answers as the printer. A pick also sets the baud rate "
+    "of the register line.";
+constexpr std::string_view kPrinter = "The printer whose text the unit reads.";
 constexpr std::string_view kIpNumber =
-    "One of the four numbers of the IP address from which the unit takes its text.";
+    "One of the four numbers of the IP address from which the unit receives its text.";
 constexpr std::string_view kOverlaidInformation =
     "Whether the unit writes this kind of information over the picture.";
 constexpr std::string_view kModelWithSettings =
-    "The register's model, whose print stream the unit then reads; a few open settings "
-    "of their own.";
-constexpr std::string_view kOpensSettings = "Opens the further settings of the chosen model, if it has any.";
+    "The model of the register. A few models have further settings.";
+constexpr std::string_view kOpensSettings = "Opens further settings of the model, if it has any.";
 constexpr std::string_view kSoftware =
-    "The software that the register runs, which decides the form of its messages.";
+    "The software of the register. The form of its messages depends on it.";
 
 constexpr OptionRow Beside(OptionRow row) {
   row.beside = true;
@@ -77,51 +73,51 @@ constexpr OptionRow Bit(int bit, OptionRow row) {
 
 constexpr OptionRow kRows[] = {
     {Frame::kAddress, "Address", "ComboAddress",
-     "The address under which the register calls the unit; ANY takes the text of every "
-     "address."},
+     "The address to which the register sends the text for the unit. ANY means every address."},
     {Frame::kDisplay, "Display", "ComboDisplay", kReceiptOrJournal},
-    {Frame::kDelta, "Printer", "OpDelta", "The printer, and the line to which the unit is wired."},
+    {Frame::kDelta, "Printer", "OpDelta", "The printer and the line to which the unit is connected."},
     {Frame::kDresserWayne, "Text source", "OpDYWAYE",
-     "The printer or terminal whose text the unit takes; the choice also sets the "
-     "register line's speed."},
+     "The printer or terminal whose text the unit reads. A pick also sets the baud rate of the register "
+     "line."},
     {Frame::kEdacom, "Model", "OpEDA", kModel},
     {Frame::kGasboy, "Device address", "ComboDeviceADD",
-     "The address of the device whose text the unit takes; ANY takes them all."},
-    {Frame::kGasboy, "Device", "ComboDeviceGas", "The kind of device to whose line the unit listens.",
+     "The address of the device whose text the unit reads. ANY means every device."},
+    {Frame::kGasboy, "Device", "ComboDeviceGas", "The kind of device that the unit listens to.",
      kFields<GTITLE_NF_BAK>},
-    {Frame::kGilbarco, "Model", "OpGilbraco", "The register system whose messages the unit reads."},
+    {Frame::kGilbarco, "Model", "OpGilbraco", "The register system whose text the unit reads."},
     NamedAlone("DESCRIPTION/XML",
                {Frame::kGilbarco, "Label84", "ComboXML",
-                "Whether the unit takes the descriptions out of the register's XML messages.",
+                "Whether the unit uses the descriptions in the XML messages of the register.",
                 kFields<REGTYPE_EXT2>}),
     {Frame::kGilbarco, "", "Label85", {}, kNoField},
-    {Frame::kPrintout, "Display", "ComboDIPMIXED", "Which of the register's texts the unit shows."},
+    {Frame::kPrintout, "Display", "ComboDIPMIXED", "Which text of the register the unit shows."},
     {Frame::kMicrelec, "Display", "OpMicrelec",
-     "Whose display the unit follows; the choice also sets speed, parity and data bits of "
-     "the register line.",
+     "Which display the unit listens to. A pick also sets the baud rate, parity and data bits of the "
+     "register line.",
      kFields<REGTYPE_MINOR, UNITADDR>},
     Beside({Frame::kMicrelec, "Printer, 9500", "OpMicrelec9500",
-            "Which printer of the 9500 the unit follows; the choice also sets speed, parity and "
-            "data bits of the register line.",
+            "Which printer of the 9500 the unit listens to. A pick also sets the baud rate, parity and data "
+            "bits of the register line.",
             kFields<REGTYPE_MINOR, UNITADDR>}),
     {Frame::kMicros, "Network", "OpMicros",
-     "The network on which the unit listens to the register; each but the first has settings "
-     "of its own."},
-    {Frame::kMicros, "Network settings", "cmdMicros", "Opens the settings of the chosen network.", kNoField},
+     "The network in which the unit listens to the register. All but the first have further settings."},
+    {Frame::kMicros, "Network settings", "cmdMicros", "Opens the settings of the network that you picked.",
+     kNoField},
     {Frame::kNcr, "Model", "OpNCR", kModelTapOrEmulate},
     {Frame::kBeetlePrinters, "Device", "OpBEETLE", kDevice},
     {Frame::kNorand, "Wiring", "ComboWoring", kTapOrAcknowledge},
     {Frame::kNorand, "Title display", "ComboTITLEDIP",
-     "Whether the unit shows the title above the register's text; also sets TITLER.", kFields<GTITLE_NF_BAK>},
+     "Whether the unit shows the title above the text of the register. A pick also sets TITLER.",
+     kFields<GTITLE_NF_BAK>},
     {Frame::kNorand, "Console ID", "ComboCONSOLEID",
-     "The console whose text the unit takes; ANY takes them all.", kFields<DV_ADDRIND_BAK>},
+     "The console whose text the unit reads. ANY means every console.", kFields<DV_ADDRIND_BAK>},
     {Frame::kPanasonic, "Title display", "ComboPana(0)",
-     "Whether the unit shows the title above the register's text.", kFields<GTITLE_NF_BAK>},
+     "Whether the unit shows the title above the text of the register.", kFields<GTITLE_NF_BAK>},
     {Frame::kPanasonic, "Wiring", "ComboPana(1)", kTapOrAcknowledge},
     Columns(2, {Frame::kSharp, "Model", "OpSharp", kModel}),
     {Frame::kSicom, "Address", "ComboSICOM",
-     "The address of the register that the unit follows, ANY for all; also sets the "
-     "register line's speed."},
+     "The address of the register that the unit listens to. ANY means every register. A pick also sets the "
+     "baud rate of the register line."},
     {Frame::kSuntronic, "Model", "OpSun", kModel},
     NamedAlone("Address, first digit",
                {Frame::kTci, "Address", "ComboTCI_ID(2)", kAddressDigit, kFields<TCIADDBAK_1>}),
@@ -138,9 +134,10 @@ constexpr OptionRow kRows[] = {
     Beside(NamedAlone("Register ID, third digit",
                       {Frame::kUniwellId, "", "ComboUNI_ID(0)", kIdDigit, kFields<TCIADDBAK_3>})),
     {Frame::kVerifone, "Printer", "OpVerifone",
-     "The printer whose text the unit takes: by listening (TAPPING) or in the printer's "
-     "place (EMULATING)."},
-    {Frame::kUp3000, "Terminal", "ComboAddr", "The terminal whose text the unit takes; ANY takes them all."},
+     "The printer whose text the unit reads. The unit listens to it (TAPPING) or answers in its place "
+     "(EMULATING)."},
+    {Frame::kUp3000, "Terminal", "ComboAddr",
+     "The terminal whose text the unit reads. ANY means every terminal."},
     {Frame::kOldTcpip, "IP  ADDRESS  1  :", "ComboTCPIP(0)", kShownIpNumber, kFields<IPADDRESS>},
     Entry(2, {Frame::kOldTcpip, "IP  ADDRESS  2  :", "ComboTCPIP(1)", kShownIpNumber, kFields<IPADDRESS>}),
     Entry(3, {Frame::kOldTcpip, "IP  ADDRESS  3  :", "ComboTCPIP(2)", kShownIpNumber, kFields<IPADDRESS>}),
@@ -148,17 +145,17 @@ constexpr OptionRow kRows[] = {
     {Frame::kCasioTk500, "Model", "ComboTk500(0)", kFixedModel, kNoField},
     {Frame::kCasioTk500, "Mode", "ComboTk500(1)", kTapOrEmulate},
     {Frame::kClarity, "Address", "ComboCLARITYEPOS",
-     "The address of the register that the unit follows; ALL follows every register.", kFields<UNITADDR>},
+     "The address of the register that the unit listens to. ALL means every register.", kFields<UNITADDR>},
     Columns(2, {Frame::kEpson, "Printer or display", "OpRI_QT2",
-                "The device on the line to which the unit is wired.", kFields<REGTYPE_MINOR, REGTYPE_EXT2>}),
+                "The device whose line the unit is connected to.", kFields<REGTYPE_MINOR, REGTYPE_EXT2>}),
     {Frame::kNixdorfBeetle, "Printer", "OpNIXDORF", kPrinter, kFields<REGTYPE_MINOR, REGTYPE_EXT2>},
-    {Frame::kPrinterOrScale, "Device", "OpNUCP", "The device whose text the unit takes."},
+    {Frame::kPrinterOrScale, "Device", "OpNUCP", "The device whose text the unit reads."},
     {Frame::kSharpA410, "Mode", "OpA410",
-     "Whether the unit listens to the printer line (TAP) or answers as the printer "
-     "(EMULATE); US for registers of the United States."},
+     "Whether the unit listens to the printer line (TAP) or answers as the printer (EMULATE). US is for "
+     "registers of the United States."},
     {Frame::kSharpUp600, "Mode", "OpSHARPUP600",
-     "Whether the unit listens (TAP) or answers as the printer (EMULATE); also sets the "
-     "register line's speed."},
+     "Whether the unit listens (TAP) or answers as the printer (EMULATE). A pick also sets the baud rate of "
+     "the register line."},
     {Frame::kCasioTe2200, "Model", "ComboTE2200(0)", kFixedModel, kNoField},
     {Frame::kCasioTe2200, "Mode", "ComboTE2200(1)", kTapOrEmulate},
     {Frame::kTcpip, "IP  ADDRESS  1   :", "ComboTCPIP(4)", kIpNumber, kFields<IPADDRESS>},
@@ -175,31 +172,30 @@ constexpr OptionRow kRows[] = {
     {Frame::kBleep, "Model", "BleepOP", kModel},
     Columns(3, {Frame::kCasioModels, "Model", "CASIOOP", kModelWithSettings}),
     {Frame::kCasioModels, "", "Command1", kOpensSettings, kNoField},
-    {Frame::kDigipos, "Model", "DIGIOP", "The register's model or device, whose text the unit then reads."},
+    {Frame::kDigipos, "Model", "DIGIOP", "The model or device whose text the unit reads."},
     {Frame::kDresserWayneModels, "Point of sale", "POSOP",
-     "The printer of the point of sale that the unit taps; also sets the register line.",
+     "The printer of the point of sale that the unit listens to. A pick also sets the line settings.",
      kFields<REGTYPE_MINOR, REGTYPE_EXT1, REGTYPE_EXT2>},
     Beside({Frame::kDresserWayneModels, "Terminal", "TEROP",
-            "The terminal whose text the unit takes; also sets the register line.",
+            "The terminal whose text the unit reads. A pick also sets the line settings.",
             kFields<REGTYPE_MINOR, REGTYPE_EXT1, REGTYPE_EXT2>}),
     Beside({Frame::kDresserWayneModels, "Printer", "PRNOP",
-            "The printer in whose place the unit answers; also sets the register line.",
+            "The unit answers in place of this printer. A pick also sets the line settings.",
             kFields<REGTYPE_MINOR, REGTYPE_EXT1, REGTYPE_EXT2>}),
     Beside({Frame::kDresserWayneModels, "Security", "SECUOP",
-            "The unit takes the security messages of the register; also sets the register line.",
+            "The unit reads the security messages of the register. A pick also sets the line settings.",
             kFields<REGTYPE_MINOR, REGTYPE_EXT1>}),
     {Frame::kEasyTouch, "Model", "EASYOP", kModel, kNoField},
     {Frame::kFujitsu, "Model", "FUJIOP", kModel},
     {Frame::kFujitsu, "Display", "Combo1", kReceiptOrJournal, kFields<REGTYPE_EXT2>},
     Columns(3, {Frame::kGeller, "Model", "GELLEROP", kModel}),
     {Frame::kIbm, "Model", "IBMOP",
-     "The register or printer whose text the unit reads; a few have a further choice "
-     "below."},
+     "The register or printer whose text the unit reads. A few have a further list below."},
     Inside("IBMFrame", {Frame::kIbm, "Printer", "IBMCombo",
-                        "Which printer's text the unit takes from the terminal; MIXED takes both.",
+                        "The printer of the terminal whose text the unit reads. MIXED means both printers.",
                         kFields<REGTYPE_EXT2>}),
     Inside("IBMFrame", {Frame::kIbm, "Printer", "RDSCombo",
-                        "Which printer's text the unit takes from the register.", kFields<REGTYPE_EXT2>}),
+                        "The printer of the register whose text the unit reads.", kFields<REGTYPE_EXT2>}),
     Inside("IBMFrame", {Frame::kIbm, "Mode", "Combo4610TF6",
                         "Whether the unit listens to the printer line (TAP) or answers as the printer "
                         "(EMULATE).",
@@ -210,7 +206,7 @@ constexpr OptionRow kRows[] = {
     {Frame::kJcm, "Model", "JCMOp", kModel},
     Columns(2, {Frame::kNcrModels, "Model", "NCROP", kModelTapOrEmulate}),
     Inside("NCRFrame", Beside({Frame::kNcrModels, "Printer of the 7059", "JRNLRCPT_SLP_OP",
-                               "The printer of the 7059 whose text the unit takes.", kFields<REGTYPE_EXT2>})),
+                               "The printer of the 7059 whose text the unit reads.", kFields<REGTYPE_EXT2>})),
     {Frame::kNixdorfModels, "Model", "NIXDORF14OP", kModel},
     Inside("BEETLEFrm",
            Beside({Frame::kNixdorfModels, "Device", "BEETLEOp", kDevice, kFields<REGTYPE_EXT2>})),
@@ -221,20 +217,16 @@ constexpr OptionRow kRows[] = {
     {Frame::kSharpModels, "", "SharpCom", kOpensSettings, kNoField},
     {Frame::kTeamPos, "Software", "TEAMPOSOP", kSoftware, kFields<REGTYPE_EXT2>},
     Columns(2, {Frame::kTecModels, "Model", "TECOP",
-                "The register's model, whose print stream the unit then reads; the slip printer "
-                "opens settings of its own."}),
+                "The model of the register. The slip printer has further settings."}),
     {Frame::kTecModels, "", "Command2", kOpensSettings, kNoField},
-    Columns(2, {Frame::kUniwellModels, "Model", "UNIWOP",
-                "The register's model, whose print stream the unit then reads; a few are told apart "
-                "by an ID."}),
+    Columns(
+        2, {Frame::kUniwellModels, "Model", "UNIWOP", "The model of the register. A few models have an ID."}),
     {Frame::kSensors, "Sensor", "SenOP", "The sensor whose readings the unit shows.", kNoField},
     {Frame::kSensors, "Temperature", "ST6105C", "The scale in which the unit shows the temperature.",
      kFields<REGTYPE_EXT2>},
-    {Frame::kNe134, "Address", "ComboNE134", "The address of the counter that the unit reads."},
-    {Frame::kWeighbridge, "Output", "OpVWEIGHBRIDGE",
-     "The output format of the weighbridge that the unit reads."},
-    {Frame::kPoleDisplay, "Model", "OpPoleDisplay",
-     "The make of the pole display whose line the unit reads."},
+    {Frame::kNe134, "Address", "ComboNE134", "The address of the counter that the unit listens to."},
+    {Frame::kWeighbridge, "Output", "OpVWEIGHBRIDGE", "The output format of the weighbridge."},
+    {Frame::kPoleDisplay, "Model", "OpPoleDisplay", "The make of the pole display that the unit listens to."},
 };
 
 }  // namespace

@@ -40,7 +40,7 @@ class Importer {
   Imported Run() {
     if (own_ != nullptr)
       Say(HeaderOf(document_, kFirmwareKey)->value.at,
-          "the text is of " + FirmwareNamed(document_) + ", this program serves " + NameOf(firmware_));
+          "the text is of " + FirmwareNamed(document_) + ", this program uses " + NameOf(firmware_));
     if (complete_) Clear();
     for (const auto& entry : document_.entries) {
       if (entry.table.empty()) continue;
@@ -49,7 +49,7 @@ class Importer {
       } else if (own_ == nullptr) {
         others_.push_back(&entry);
       } else {
-        Say(entry.at, "the bytes of another firmware are not taken");
+        Say(entry.at, "the program does not use the bytes of another firmware");
       }
     }
     for (const auto& table : document_.tables) ExpectTable(table);
@@ -119,7 +119,7 @@ class Importer {
                                Escaped(entry.table) + "]");
     if (!IsTable(entry.table)) return;
     const bool is_read = result_.problems.size() < kMostProblems;
-    Say(entry.at, InQuotes(entry.key) + " is no setting of [" + entry.table + "]" +
+    Say(entry.at, InQuotes(entry.key) + " is not a setting of [" + entry.table + "]" +
                       (is_read ? Suggestion(entry.key, KeysOf(entry.table)) : std::string()));
   }
 
@@ -134,7 +134,7 @@ class Importer {
   void Take(const Setting& setting, const Entry& entry) {
     const auto& value = entry.value;
     if (value.kind == ValueKind::kBytes && own_ != nullptr)
-      return Say(value.at, "the bytes of another firmware are not taken");
+      return Say(value.at, "the program does not use the bytes of another firmware");
     if (value.kind == ValueKind::kBytes) {
       if (!StoreDigits(setting, InCapitals(value.text), result_.image, firmware_)) {
         Say(value.at, Written(value) + " is not allowed for " + InQuotes(setting.key) +
@@ -230,8 +230,8 @@ class Importer {
     const bool known = std::find(all.begin(), all.end(), entry.key) != all.end();
     if (!known) keys.insert(keys.end(), all.begin(), all.end());  // of a register that the line goes with
     Say(entry.at, InQuotes(entry.key) +
-                      (known ? " is no option of this register, or not together with its other options"
-                             : " is no setting of [" + entry.table + "]") +
+                      (known ? " is not an option of this register, or does not fit its other options"
+                             : " is not a setting of [" + entry.table + "]") +
                       Suggestion(entry.key, keys));
   }
 
@@ -246,7 +246,7 @@ class Importer {
       Importer alone(catalogue_, own_, again, document_);
       alone.Take(setting, *entry);
       if (alone.result_.image != result_.image)
-        Say(entry->value.at, InQuotes(entry->value.text) + " does not go together with the other options");
+        Say(entry->value.at, InQuotes(entry->value.text) + " does not fit the other options");
     }
   }
 
@@ -274,7 +274,9 @@ class Importer {
     }
     for (const auto& name : missing)
       Say(HeaderOf(document_, kCompleteKey)->at,
-          name + " missing. Without the line \"complete = true\", what is not named keeps its value");
+          name +
+              " missing. Without the line \"complete = true\", settings that the text does not name keep "
+              "their values");
   }
 
   Catalogue& catalogue_;

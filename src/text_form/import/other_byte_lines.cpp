@@ -55,12 +55,12 @@ const OtherByteLines::Target* OtherByteLines::TargetOf(const Entry& line) {
   if (found == targets_.end()) {
     std::vector<std::string> names;
     for (const auto& [field, target] : targets_) names.push_back(field);
-    say_(line.at, InQuotes(line.key) + " is no field of " + name + Suggestion(line.key, names));
+    say_(line.at, InQuotes(line.key) + " is not a field of " + name + Suggestion(line.key, names));
     return nullptr;
   }
   if (!complete_ && !IsRead(*found->second.row)) {
     say_(line.at, "a unit of " + name + " never sends " + InQuotes(line.key) +
-                      ", so it is only for the whole of an image");
+                      ", so it needs the line \"complete = true\"");
     return nullptr;
   }
   return &found->second;
@@ -71,7 +71,7 @@ bool OtherByteLines::IsRead(const image::FieldRow& row) const {
                          image::Direction::kRead);
 }
 
-// A field of another length shifts what is behind it in a download, so it is only for the whole of an image.
+// A field of another length shifts what is behind it in a download, so it needs the line \"complete = true\".
 void OtherByteLines::TakeIrregular(const Target& target, const Entry& line,
                                    const std::set<const Setting*>& named) {
   const auto& value = line.value;
@@ -89,7 +89,7 @@ void OtherByteLines::TakeIrregular(const Target& target, const Entry& line,
         [&](const FieldPart& part) { return part.field == target.row->id && part.entry == target.entry; });
     if (is_inside)
       return say_(value.at, "the line " + InQuotes(setting->key) + " of [" + setting->table +
-                                "] stores this field too: leave out one of them");
+                                "] stores this field too. Remove one of the two lines");
   }
   irregular_.push_back({target, &line, *characters});
 }

@@ -24,9 +24,11 @@ bool IsAlarm(acts::SlotKind kind) {
 
 QString ItselfText(acts::SlotKind kind) {
   return IsAlarm(kind)
-             ? QCoreApplication::translate("CopySlotWindow", "This is the alarm itself. Pick another number.")
-             : QCoreApplication::translate("CopySlotWindow",
-                                           "This is the exception itself. Pick another number.");
+             ? QCoreApplication::translate(
+                   "CopySlotWindow", "This is the number of the alarm that you copy. Pick another number.")
+             : QCoreApplication::translate(
+                   "CopySlotWindow",
+                   "This is the number of the exception that you copy. Pick another number.");
 }
 
 QString NoneInUseText(acts::SlotKind kind) {

@@ -25,7 +25,7 @@ void ReportNoDisplay(QtMsgType type, const QMessageLogContext& context, const QS
       std::cerr << "ovl: " << text.toLocal8Bit().constData() << std::endl;
     return;
   }
-  std::cerr << "ovl: OVL Software needs a display to open its window on; DISPLAY is \""
+  std::cerr << "ovl: OVL Software needs a display for its window; DISPLAY is \""
             << qgetenv("DISPLAY").constData() << "\", WAYLAND_DISPLAY is \""
             << qgetenv("WAYLAND_DISPLAY").constData() << "\"" << std::endl;
   std::_Exit(EXIT_FAILURE);
@@ -44,9 +44,10 @@ CommandLine::CommandLine(const QString& name, const QString& description, const 
   parser_.setApplicationDescription(description);
   AddOption(QStringLiteral("folder"), QStringLiteral("FOLDER"),
             QStringLiteral("the program folder, with default images, uploads and links to ports"));
-  AddOption(QStringLiteral("store"), QStringLiteral("FOLDER"),
-            QStringLiteral(
-                "keeps the settings in ORB/OVL Software.conf below this folder, not in the machine's file"));
+  AddOption(
+      QStringLiteral("store"), QStringLiteral("FOLDER"),
+      QStringLiteral(
+          "keeps the settings in ORB/OVL Software.conf below this folder, not in the file of the computer"));
 }
 
 void CommandLine::AddOption(const QString& option, const QString& value, const QString& description) {

@@ -65,16 +65,14 @@ int main(int argc, char** argv) {
       sheet_option, QStringLiteral("FILE"),
       QStringLiteral("writes the site sheet of a configuration as .pdf or .html and ends"));
   command_line.AddOption(paper_option, QStringLiteral("A4|Letter"),
-                         QStringLiteral("the paper of the sheet; without it A4"));
+                         QStringLiteral("the paper of the sheet; A4 by default"));
   command_line.AddOption(
       firmware_option, QStringLiteral("NAME"),
       QStringLiteral("the firmware of the sheet, such as V1400R12, if the configuration fits several"));
-  command_line.AddArgument(
-      QStringLiteral("FILE"),
-      QStringLiteral(
-          "a configuration that is opened at the start, as \"File\", \"Open\" does; that of the sheet can "
-          "also be a text form"),
-      ovl::ui::CommandLine::Need::kOptional);
+  command_line.AddArgument(QStringLiteral("FILE"),
+                           QStringLiteral("a configuration to open at the start, as with \"File\", \"Open\". "
+                                          "With --sheet it can also be a text form"),
+                           ovl::ui::CommandLine::Need::kOptional);
   if (const auto status = command_line.Read(argc, argv)) return *status;
   const ovl::ui::SheetRequest sheet{command_line.Value(sheet_option), command_line.Argument(),
                                     command_line.Value(paper_option), command_line.Value(firmware_option),
@@ -82,7 +80,7 @@ int main(int argc, char** argv) {
   if (const auto problem = WrongUsageOf(sheet); !problem.isEmpty()) return command_line.Refuse(problem);
   const auto guide = command_line.Value(guide_option);
   if (!guide.isEmpty() && !sheet.file.isEmpty())
-    return command_line.Refuse(QStringLiteral("--guide and --sheet do not go together"));
+    return command_line.Refuse(QStringLiteral("--guide and --sheet cannot be used together"));
   if (!guide.isEmpty() || !sheet.file.isEmpty()) ovl::ui::DrawWithoutDisplay();
   ovl::host::OutliveSizeLimit();
   std::optional<ovl::ui::DisplayMessage> no_display(std::in_place);

@@ -74,7 +74,7 @@ void Program::FillPlatform() {
     const auto written = store_.Write(key, value, text);
     if (!written.Ok()) {
       store_problem_ = QCoreApplication::translate("Program",
-                                                   "%1\nThe next start serves the same firmware as this one. "
+                                                   "%1\nThe next start uses the same firmware as this one. "
                                                    "To set the other one, run as root: ovl-setup %2")
                            .arg(FailureText(written.Problem()),
                                 QString::fromStdString(app_.firmware.version + " " + app_.firmware.release));
@@ -146,8 +146,9 @@ void Program::GuardUnsaved() {
 void Program::ShowRescueNotice() {
   auto notice = unguarded_;
   if (notice.isEmpty() && !rescued_.isEmpty())
-    notice = QCoreApplication::translate("Program", "%1: rescued changes. Open them with \"File\", \"Open\"")
-                 .arg(rescued_.join(QStringLiteral(", ")));
+    notice =
+        QCoreApplication::translate("Program", "%1 contains rescued changes. Open it with \"File\", \"Open\"")
+            .arg(rescued_.join(QStringLiteral(", ")));
   windows_->Main().Status().SetRescueNotice(notice);
 }
 

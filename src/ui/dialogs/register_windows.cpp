@@ -88,7 +88,8 @@ FormWindow* BuildSubMenuWindow(Bindings& bindings, QWidget* parent) {
       .Row(RowLabel::FromModel("Label1(1)"), "Combo1(1)");
   column.Section("SharpSubMenuFrame").Options("Option1", 1);
   column.Section("UP3000Frm").Row(RowLabel::FromModel("Label2"), "Combo2");
-  down->addWidget(MutedLabel(QCoreApplication::translate("RegisterWindows", "A pick is stored at once.")));
+  down->addWidget(
+      MutedLabel(QCoreApplication::translate("RegisterWindows", "The program stores your pick at once.")));
   return window;
 }
 

@@ -76,7 +76,7 @@ struct ValueRow {
 // How many digits the unit keeps of each value.
 QString RangeHint(const core::Application& app) {
   return QCoreApplication::translate("TextWindows",
-                                     "Up to %1 digits, and %2 behind the separator: 5 becomes 05.")
+                                     "Up to %1 digits before the separator, and %2 after it: 5 becomes 05.")
       .arg(app.frmSetRange.Range_Hi.max_length)
       .arg(app.frmSetRange.SubRange_Hi.max_length);
 }
@@ -178,7 +178,7 @@ FormWindow* BuildRangeWindow(Bindings& bindings, QWidget* parent) {
   down->addLayout(grid);
   down->addWidget(MakeRangeHint(bindings));
   down->addWidget(MutedLabel(QCoreApplication::translate(
-      "TextWindows", "The separator is the same for all exceptions. It is stored at once.")));
+      "TextWindows", "The separator is for all exceptions. The program stores it at once.")));
   down->addLayout(MakeButtonRow(bindings, model.form, "cmdSetRange", "cmdClr"));
 
   auto* first = static_cast<QLineEdit*>(bindings.WidgetOf(model.Range_Hi));

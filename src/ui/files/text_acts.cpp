@@ -139,7 +139,7 @@ std::optional<image::ConfigImage> TextActs::ImageOfText(const std::string& path,
   if (imported.left_out.empty()) return imported.image;
   const auto text =
       QCoreApplication::translate(
-          "TextActs", "%1 is a text of %2. This program serves %3, which does not have all of its settings.")
+          "TextActs", "%1 is a text of %2. This program uses %3, which does not have all of its settings.")
           .arg(NameOf(path), host::FromSystem(text_form::FirmwareNamed(document)),
                host::FromWindows1252(acts::FirmwareName(app_)));
   const auto button = imports ? QCoreApplication::translate("TextActs", "Import the Rest")

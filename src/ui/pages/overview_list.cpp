@@ -208,7 +208,8 @@ QWidget* BuildOverview(Bindings& bindings, controls::List& list, Overview overvi
   auto* table = new OverviewList(overview.columns);
   table->setObjectName(overview.object_name);
   table->setAccessibleName(overview.accessible_name);
-  table->setAccessibleDescription(QCoreApplication::translate("OverviewList", "Arrows move, Enter picks."));
+  table->setAccessibleDescription(
+      QCoreApplication::translate("OverviewList", "Move with the arrow keys, and pick with Enter."));
   auto* below = new QHBoxLayout;
   auto* legend = MutedLabel({});
   auto* use = MutedLabel({});

@@ -71,8 +71,8 @@ class FilterLine : public QLineEdit {
 QString CountText(const ListBox& list) {
   const int all = list.count(), shown = list.ShownEntries();
   if (shown == all)
-    return QCoreApplication::translate("RegisterPage", "Type to find, Enter goes to the list. %n registers.",
-                                       nullptr, all);
+    return QCoreApplication::translate(
+        "RegisterPage", "Type a part of the name. Enter goes to the list. %n registers.", nullptr, all);
   if (shown == 0) return QCoreApplication::translate("RegisterPage", "No register has these words.");
   return QCoreApplication::translate("RegisterPage", "%1 of %n registers.", nullptr, all).arg(shown);
 }

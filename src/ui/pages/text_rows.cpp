@@ -46,7 +46,7 @@ class Opener : public QObject {
 void OpenWithButton(Bindings& bindings, QWidget& shown, controls::Button& button) {
   new Opener(shown, [&bindings, &button] { bindings.Act(core::ClickEvent{&button}); });
   shown.setCursor(Qt::PointingHandCursor);
-  const auto how = QCoreApplication::translate("TextRows", "A click opens its window.");
+  const auto how = QCoreApplication::translate("TextRows", "Click here to change it.");
   shown.setToolTip(shown.toolTip() + QLatin1Char(' ') + how);
   shown.setAccessibleDescription(shown.toolTip());
 }

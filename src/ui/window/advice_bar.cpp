@@ -31,8 +31,8 @@ AdviceBar::AdviceBar(Bindings& bindings, const OwnActs& acts)
   close_->setObjectName(QStringLiteral("AdviceClose"));
   close_->setText(QCoreApplication::translate("AdviceBar", "Hide"));
   close_->setAccessibleName(QCoreApplication::translate("AdviceBar", "Hide this advice"));
-  close_->setToolTip(
-      QCoreApplication::translate("AdviceBar", "Hides this advice until its condition occurs again."));
+  close_->setToolTip(QCoreApplication::translate(
+      "AdviceBar", "Hides this advice until its condition has ended and is true again."));
   close_->setAutoRaise(true);
   close_->setFocusPolicy(Qt::TabFocus);
   across->addWidget(words_, 1);

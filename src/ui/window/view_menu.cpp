@@ -63,7 +63,7 @@ using Report = std::function<void(const QString&)>;
 
 void ReportProblem(const core::Result& kept, const Report& report) {
   if (!kept.Ok())
-    report(QCoreApplication::translate("ViewMenu", "The program could not save the choice. %1")
+    report(QCoreApplication::translate("ViewMenu", "The program could not save your pick. %1")
                .arg(FailureText(kept.Problem())));
 }
 

@@ -38,11 +38,11 @@ case $3 in
     cp memory1 before
     cp saved kept
     fails 1 '^gone/unit3: No such file' "$examples/backup.sh" gone/unit3 saved
-    OVL_FIRMWARE="V1400 R7" fails 1 'it fits V1400R11 V1400R12$' "$examples/backup.sh" unit1 saved
+    OVL_FIRMWARE="V1400 R7" fails 1 'It fits V1400R11 V1400R12$' "$examples/backup.sh" unit1 saved
     cmp saved kept
     "$examples/change_all.sh" one DATE_FORMAT_BAK=02
     fails 1 differ cmp memory1 before
-    fails 2 'it fits V1400R7$' "$examples/restore.sh" unit1 images/V1400/R7/GENERIC.bin
+    fails 2 'It fits V1400R7$' "$examples/restore.sh" unit1 images/V1400/R7/GENERIC.bin
     "$examples/restore.sh" unit1 saved
     cmp memory1 before
     ;;
@@ -70,7 +70,7 @@ case $3 in
     printf 'format = 1\n["REGISTER SELECT"]\nWiring = "ACK"\n' > option.toml
     printf 'unit1\nunit2\n' > devices
     cp memory2 before
-    fails 1 '^unit2 *failed: .*"Wiring" is no option of this register' "$examples/change_all.sh" devices option.toml
+    fails 1 '^unit2 *failed: .*"Wiring" is not an option of this register' "$examples/change_all.sh" devices option.toml
     cmp memory2 before
     sed -i 's/Wiring/Wirin/' option.toml
     fails 2 'Wirin' "$examples/change_all.sh" devices option.toml
@@ -100,7 +100,7 @@ case $3 in
     "$examples/change_all.sh" one DATE_FORMAT_BAK=02
     fails 1 '^TIME / LANGUAGE: DATE FORMAT: "YY/MM/DD" -> "MM/DD/YY"$' "$examples/compare.sh" unit1 saved
     fails 2 '^gone/unit3: No such file' "$examples/compare.sh" gone/unit3 saved
-    fails 2 'it fits V1400R7$' "$examples/compare.sh" unit1 images/V1400/R7/GENERIC.bin
+    fails 2 'It fits V1400R7$' "$examples/compare.sh" unit1 images/V1400/R7/GENERIC.bin
     mkdir files
     cp saved files/unit1.bin
     printf 'unit1\ngone/unit3\n' > devices

@@ -56,7 +56,7 @@ start_unit() {  # [OPTION]...
 # It complains with its exit status.
 end_unit() {
   kill "$unit"
-  wait "$unit" || fail "the unit complained"
+  wait "$unit" || fail "the unit reported mistakes"
 }
 
 start_program() {  # [VARIABLE=VALUE]...

@@ -7,7 +7,7 @@ namespace ovl::testing {
 namespace {
 
 TEST(AdviceOnTheLink, NamesABrokenUploadUntilTheProgramStartsAnew) {
-  const char* broke = "An upload stopped before its end. The program would put what it received in front";
+  const char* broke = "An upload stopped before its end. The program keeps what it received";
   const AdviceRow rows[] = {
       {"upload-broke", kHalfUpload + "tick Timer_Operating 6\n", broke, "Restart", "start\n"},
       {"upload-broke", kHalfUpload + "click cmdDisConnect\n", broke, "Restart", "start\n"},
@@ -23,7 +23,8 @@ TEST(AdviceOnTheLink, NamesABrokenUploadUntilTheProgramStartsAnew) {
 TEST(AdviceOnTheLink, SaysWhatAFailureDidToTheRegister) {
   const std::string ads = "pick ComboReg \"ADS\"\n";
   Expect({"register-reset", ads + "click cmdConnect\nclick cmdSET\nclick CmdUpDow(4)\nunit \"?\"\n",
-          "so the program selected GENERIC, with its options and its line settings. Undo restores ADS.",
+          "so the program changed the register to GENERIC, with its options and its line settings. Undo "
+          "restores ADS.",
           "Undo", "undo\n"});
   AdviceProgram program(kLatest);
   program.App().platform.files.replace = [](const std::string& path, std::string_view) {
@@ -88,9 +89,9 @@ TEST(AdviceOnTheLink, ADownloadThatEndsEarlyIsRepeated) {
   const char* half =
       "A download stopped at 14:07:09. The unit may have half a configuration, so download again: Set "
       "Comport, Remote, Download.";
-  const char* untouched = "The download of 14:07:09 did not begin. The unit has its old configuration.";
+  const char* untouched = "The download at 14:07:09 did not begin. The unit has its old configuration.";
   const char* refused =
-      "The unit has not confirmed the download of 14:07:09. It may have another configuration, so download "
+      "The unit has not confirmed the download at 14:07:09. It may have another configuration, so download "
       "again: Remote, Download.";
   const AdviceRow rows[] = {
       {"download-broke", begun + "click cmdDisConnect\n", half, "Set Comport", whole},

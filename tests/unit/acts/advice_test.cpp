@@ -64,8 +64,8 @@ TEST(AdviceOnFiles, NamesAFileThatDoesNotFitTheFirmware) {
   const std::string open_image = "answer \"IMAGE\"\nclick OpenMenu\n";
   const AdviceRow rows[] = {
       {"file-misread", save_and_open,
-       "file.bin does not have the format of V1400R12, so all settings from the register options on are in "
-       "the wrong place. Do not download them.",
+       "file.bin does not have the format of V1400R12, so the register options and all settings after "
+       "them are in the wrong place. Do not download them.",
        "", open_image},
       {"file-misread",
        save_and_open,

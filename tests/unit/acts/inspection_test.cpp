@@ -53,15 +53,17 @@ TEST(Inspection, SaysWhatToDo) {
   program.Answer("menuSave", saved);
   EXPECT_EQ(
       QuestionOf(ReadFile(saved), program),
-      "Opening shop.bin puts settings in the wrong place.|It fits V1400R6. This program serves V1400R12 "
-      "and reads it as such a file. \"Save\" under V1400R12 writes such files. Open a backup instead.");
+      "Opening shop.bin puts settings in the wrong place.|The file fits V1400R6. This program uses V1400R12 "
+      "and reads the file as a file of this firmware. \"Save\" under V1400R12 writes such files. Open a "
+      "backup instead.");
   EXPECT_EQ(QuestionOf(PatternStream({"V1400", "R4"}), program),
-            "Opening shop.bin ends the program.|It fits V1400R1, V1400R2, V1400R4. This program serves "
+            "Opening shop.bin ends the program.|The file fits V1400R1, V1400R2, V1400R4. This program uses "
             "V1400R12. Pick the firmware of the file in the Version menu first.");
   const auto cut = PatternStream(kLatest).substr(0, 3000);
   EXPECT_EQ(QuestionOf(cut, program),
-            "Opening shop.bin ends the program.|It does not fit any firmware: it is cut off, damaged, or not "
-            "a configuration. This program serves V1400R12.");
+            "Opening shop.bin ends the program.|The file does not fit any firmware: it is not complete, "
+            "damaged, or not "
+            "a configuration. This program uses V1400R12.");
   EXPECT_EQ(QuestionOf("noise", program), "") << "the program refuses it with its own box";
 }
 

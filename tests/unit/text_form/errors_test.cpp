@@ -50,7 +50,7 @@ OPERATR = "IN"
 PARITY = "EVN")",
      R"(4:11 "ON" is not allowed; allowed: a text in quotes, or a whole number of a list
 5:2 [Exception 1] is already on line 2
-6:1 "OPERATR" is no setting of [Exception 1]. Did you mean "OPERATOR"?
+6:1 "OPERATR" is not a setting of [Exception 1]. Did you mean "OPERATOR"?
 8:10 "EVN" is not allowed for "PARITY"; allowed: "NONE", "EVEN", "ODD". Did you mean "EVEN"?)"},
     {R"(["A\nB"]
 ["A\nB"])",
@@ -88,13 +88,13 @@ text = "A")",
      R"(2:2 there is no table [Alarm 0]. Did you mean "Alarm 1"?)"},
     {R"([COMMUNICATION]
 PARTY = "EVEN")",
-     R"(3:1 "PARTY" is no setting of [COMMUNICATION]. Did you mean "PARITY"?)"},
+     R"(3:1 "PARTY" is not a setting of [COMMUNICATION]. Did you mean "PARITY"?)"},
     {R"([COMMUNICATION]
 parity = "EVEN")",
-     R"(3:1 "parity" is no setting of [COMMUNICATION]. Did you mean "PARITY"?)"},
+     R"(3:1 "parity" is not a setting of [COMMUNICATION]. Did you mean "PARITY"?)"},
     {R"([COMMUNICATION]
 "LINES PER PAGE" = "3")",
-     R"(3:1 "LINES PER PAGE" is no setting of [COMMUNICATION]; allowed: "PARITY", "DATA BITS", "HW HANDSHAKING", "AUTO LINEFEED", "INTERFACE TYPE", "RX BAUDRATE", "TX BAUDRATE", "Network Settings, ADDRESS", "Network Settings, TYPE", "Network Settings, PROTOCOL", "TX PROTOCOL", "Network Settings, BAUD RATE", "SW HANDSHAKING")"},
+     R"(3:1 "LINES PER PAGE" is not a setting of [COMMUNICATION]; allowed: "PARITY", "DATA BITS", "HW HANDSHAKING", "AUTO LINEFEED", "INTERFACE TYPE", "RX BAUDRATE", "TX BAUDRATE", "Network Settings, ADDRESS", "Network Settings, TYPE", "Network Settings, PROTOCOL", "TX PROTOCOL", "Network Settings, BAUD RATE", "SW HANDSHAKING")"},
     {R"([COMMUNICATION]
 PARITY = "EVENN")",
      R"(3:10 "EVENN" is not allowed for "PARITY"; allowed: "NONE", "EVEN", "ODD". Did you mean "EVEN"?)"},
@@ -158,16 +158,16 @@ text = "\u4E2D")",
      R"(3:8 "中" is not a character of the unit; allowed: those of Windows-1252)"},
     {R"(["Exception 1"]
 RANGE = "5")",
-     R"(3:9 "5" is not allowed for "RANGE"; allowed: two values such as "0.00 - 100.00", with 8 digits at most before the separator and two behind it)"},
+     R"(3:9 "5" is not allowed for "RANGE"; allowed: two values such as "0.00 - 100.00", with 8 digits at most before the separator and two after it)"},
     {R"(["Exception 1"]
 RANGE = "1.0 - 2.00")",
-     R"(3:9 "1.0 - 2.00" is not allowed for "RANGE"; allowed: two values such as "0.00 - 100.00", with 8 digits at most before the separator and two behind it)"},
+     R"(3:9 "1.0 - 2.00" is not allowed for "RANGE"; allowed: two values such as "0.00 - 100.00", with 8 digits at most before the separator and two after it)"},
     {R"(["Exception 1"]
 RANGE = "123456789.00 - 2.00")",
-     R"(3:9 "123456789.00 - 2.00" is not allowed for "RANGE"; allowed: two values such as "0.00 - 100.00", with 8 digits at most before the separator and two behind it)"},
+     R"(3:9 "123456789.00 - 2.00" is not allowed for "RANGE"; allowed: two values such as "0.00 - 100.00", with 8 digits at most before the separator and two after it)"},
     {R"(["Exception 1"]
 RANGE = "-1.00 - 2.00")",
-     R"(3:9 "-1.00 - 2.00" is not allowed for "RANGE"; allowed: two values such as "0.00 - 100.00", with 8 digits at most before the separator and two behind it)"},
+     R"(3:9 "-1.00 - 2.00" is not allowed for "RANGE"; allowed: two values such as "0.00 - 100.00", with 8 digits at most before the separator and two after it)"},
     {R"(["Exception 2"]
 OPERATOR = "AND")",
      R"(3:12 "AND" is not allowed for "OPERATOR"; allowed: "NONE", "IN", "OUT". Did you mean "IN"?)"},
@@ -184,11 +184,11 @@ Display = "RECIEPT")",
     {R"(["REGISTER SELECT"]
 Register = "ADS"
 Scale = "AVERY")",
-     R"(4:1 "Scale" is no option of this register, or not together with its other options; allowed: "Register", "Display")"},
+     R"(4:1 "Scale" is not an option of this register, or does not fit its other options; allowed: "Register", "Display")"},
     {R"(["REGISTER SELECT"]
 Register = "ADS"
 Displai = "RECEIPT")",
-     R"(4:1 "Displai" is no setting of [REGISTER SELECT]. Did you mean "Display"?)"},
+     R"(4:1 "Displai" is not a setting of [REGISTER SELECT]. Did you mean "Display"?)"},
     {R"(["REGISTER SELECT"]
 Register = "TCPIP"
 "IP ADDRESS 1" = 256)",
@@ -201,7 +201,7 @@ Terminal = "y")",
 5:12 "y" is not allowed for "Terminal"; allowed: "TERMINAL 1", "TERMINAL 2", "TERMINAL 3", "TERMINAL 4", "TERMINAL 5", "TERMINAL 6", "TERMINAL 7", "TERMINAL 8")"},
     {R"(["Other bytes"]
 EXECENTRI = "00")",
-     R"(3:1 "EXECENTRI" is no field of V1400 R12. Did you mean "EXECENTRY"?)"},
+     R"(3:1 "EXECENTRI" is not a field of V1400 R12. Did you mean "EXECENTRY"?)"},
     {R"(["Other bytes"]
 EXECENTRY = "0000")",
      R"(3:13 "0000" is not allowed here; allowed: at most 1 byte of two digits 0 to 9 and A to F)"},
@@ -219,10 +219,10 @@ RX_BAUDRATE = "03")",
      R"(3:15 "03" has bits that other lines store)"},
     {R"-(["Other bytes"]
 "EXCPSTRS(25)" = "00")-",
-     R"-(3:1 "EXCPSTRS(25)" is no field of V1400 R12. Did you mean "EXCPSTRS(24)"?)-"},
+     R"-(3:1 "EXCPSTRS(25)" is not a field of V1400 R12. Did you mean "EXCPSTRS(24)"?)-"},
     {R"(["Other bytes"]
 "EXCPSTRS" = "00")",
-     R"(3:1 "EXCPSTRS" is no field of V1400 R12; allowed: one of 170, from "ALMCFG_BAK" to "XATMNOTX")"},
+     R"(3:1 "EXCPSTRS" is not a field of V1400 R12; allowed: one of 170, from "ALMCFG_BAK" to "XATMNOTX")"},
     {"[=COMMUNICATION]", "2:2 wrong syntax"},
     {"[ .]", "2:3 wrong syntax"},
     {"[[#", "2:2 wrong syntax"},
@@ -272,14 +272,14 @@ Model = "TS5000"
 REGTYPE_MINOR = "01")",
      R"(6:17 "01" has bits that an option stores)"},
     {R"(firmware = "V9999 R9")",
-     R"(2:12 "V9999 R9" is no firmware that this program serves; allowed: one of 29, from "V1400 R1" to "V1334 R1")"},
+     R"(2:12 "V9999 R9" is not a firmware of this program; allowed: one of 29, from "V1400 R1" to "V1334 R1")"},
     {R"(firmware = "V1400 R13")",
-     R"(2:12 "V1400 R13" is no firmware that this program serves. Did you mean "V1400 R12"?)"},
+     R"(2:12 "V1400 R13" is not a firmware of this program. Did you mean "V1400 R12"?)"},
     {R"(firmware = "V1300 R14"
 [COMMUNICATION]
 PARITY = { bytes = "00" })",
-     R"(2:12 the text is of V1300 R14, this program serves V1400 R12
-4:10 the bytes of another firmware are not taken)"},
+     R"(2:12 the text is of V1300 R14, this program uses V1400 R12
+4:10 the program does not use the bytes of another firmware)"},
     {R"([""]
 complete = true)",
      R"(2:2 there is no table [""]; allowed: one of 47, from "REGISTER SELECT" to "REMOTE")"},
@@ -289,7 +289,7 @@ text = " DOOR")",
     {R"(complete = true
 [COMMUNICATION]
 PARITY = "EVEN")",
-     R"(2:1 "Register" of [REGISTER SELECT] and 330 others are missing. Without the line "complete = true", what is not named keeps its value)"},
+     R"(2:1 "Register" of [REGISTER SELECT] and 330 others are missing. Without the line "complete = true", settings that the text does not name keep their values)"},
     {R"([COMMUNICATION]
 PARITY = "MARK"
 ["Exception 1"]
@@ -297,7 +297,7 @@ txt = "A"
 ["Alarm 3"]
 "ALARM TYPE" = "X")",
      R"(3:10 "MARK" is not allowed for "PARITY"; allowed: "NONE", "EVEN", "ODD"
-5:1 "txt" is no setting of [Exception 1]. Did you mean "text"?
+5:1 "txt" is not a setting of [Exception 1]. Did you mean "text"?
 7:16 "X" is not allowed for "ALARM TYPE"; allowed: "DWELL", "TIMED")"},
 };
 

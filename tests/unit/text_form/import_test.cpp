@@ -43,9 +43,8 @@ TEST_F(TextForm, ACompleteFormIsTheWholeImageWhateverWasThere) {
   const auto missing = Read(text);
   ASSERT_EQ(missing.problems.size(), 1U);
   EXPECT_EQ(TextOf(missing.problems.front(), "a"),
-            "a:4:1: \"PARITY\" of [COMMUNICATION] is missing. Without the line \"complete = true\", what is "
-            "not named "
-            "keeps its value");
+            "a:4:1: \"PARITY\" of [COMMUNICATION] is missing. Without the line \"complete = true\", settings "
+            "that the text does not name keep their values");
 }
 
 // Fields of a stream that ended early, and bytes that no list has.
@@ -81,7 +80,7 @@ TEST_F(TextForm, AFieldThatIsNeverReadStaysEmpty) {
   const auto bytes = Read("format = 1\n['Other bytes']\nBLNKRTS_BAK = '05'", Strictness::kWhole, late);
   ASSERT_EQ(bytes.problems.size(), 1U);
   EXPECT_EQ(bytes.problems[0].words,
-            "a unit of V1400 R7 never sends \"BLNKRTS_BAK\", so it is only for the whole of an image");
+            "a unit of V1400 R7 never sends \"BLNKRTS_BAK\", so it needs the line \"complete = true\"");
 }
 
 TEST_F(TextForm, OptionsGoWithTheirRegisterAndTabsByTheirTopic) {
@@ -125,7 +124,8 @@ TEST_F(TextForm, AFormOfAnotherFirmwareGivesWhatIsThere) {
   const auto slip =
       Read("format = 1\nfirmware = 'V1300 R14'\n[COMMUNICATION]\nPARTIY = 'ODD'\n", Strictness::kPartial);
   ASSERT_EQ(slip.problems.size(), 1U);
-  EXPECT_EQ(slip.problems[0].words, "\"PARTIY\" is no setting of [COMMUNICATION]. Did you mean \"PARITY\"?");
+  EXPECT_EQ(slip.problems[0].words,
+            "\"PARTIY\" is not a setting of [COMMUNICATION]. Did you mean \"PARITY\"?");
   EXPECT_FALSE(Read(text + "x = ", Strictness::kPartial).problems.empty());
 }
 

@@ -217,7 +217,7 @@ TEST_F(Script, ChecksFilesAndTheConfiguration) {
   EXPECT_EQ(checked(of("V1400R12"), {missing, bad}),
             "2\n" + lines + missing + ": No such file or directory\n");
   EXPECT_EQ(checked(of("V1400R7"), {good}),
-            "2\n" + good + ": no configuration of V1400R7, it fits V1400R11, V1400R12\n");
+            "2\n" + good + ": not a configuration of V1400R7. It fits V1400R11, V1400R12\n");
   EXPECT_EQ(checked(of("V1400R99"), {good}), "2\nV1400R99: there is no such firmware\n");
   const auto json = checked({{0, "V1400R12"}, {1, {}}}, {good, bad, missing});
   EXPECT_NE(json.find("good.bin\", \"firmware\": \"V1400R12\", \"findings\": []},\n"), std::string::npos)
@@ -288,7 +288,7 @@ TEST_F(Script, WrongStatementsAreReportedWithTheirPlace) {
 TEST_F(Script, AfterTheEndAStatementThatNeedsTheProgramEndsTheScript) {
   for (const std::string word : {"click", "wait", "show", "setting", "port"}) {
     EXPECT_EQ(RunStarted("click menuExit\n" + word + " x"),
-              "ended\ntest.ovl:5: the program has ended, " + word + " needs it\nexit 3");
+              "ended\ntest.ovl:5: the program has ended, but " + word + " needs it\nexit 3");
   }
 }
 

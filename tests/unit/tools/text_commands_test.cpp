@@ -82,7 +82,7 @@ TEST(TextCommands, APartChangesAFile) {
   EXPECT_TRUE(Printed({"diff", text, file}).ends_with(" -> \"ODD\"\n"));
   EXPECT_EQ(Printed({"diff", part, file}), "0\n");
   EXPECT_EQ(import("firmware = 'V1300 R14'\n[TIME]\nTITLE = 'SHOP 7'\n" + parity, file),
-            "0\n" + part + ":2:12: the text is of V1300 R14, this program serves V1400 R12\n");
+            "0\n" + part + ":2:12: the text is of V1300 R14, this program uses V1400 R12\n");
 
   const auto before = testing::ReadFile(file);
   testing::WriteFile(unnamed, before);

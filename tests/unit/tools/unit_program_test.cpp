@@ -134,7 +134,7 @@ TEST(UnitRemote, EnqKeepsItAndCanOrSilenceEndsIt) {
     device.Pass(30s);
   }
   EXPECT_EQ(device.WholeAnswer(""), kNak);
-  const std::string broken = "the stream broke off before its first character: the tool fell silent";
+  const std::string broken = "the stream stopped before its first character: the program sent nothing more";
   EXPECT_EQ(device.complaints, (Texts{"a command without its end: \"/L\"", broken}));
 }
 
@@ -180,8 +180,8 @@ TEST(UnitRemote, AWrongOrRefusedCommandChangesNothing) {
   SimulatedUnit device;
   EXPECT_EQ(device.WholeAnswerInRemoteMode("/L" + kEnterRemote + "/L\x05U\r"),
             "\x06\x0C" + FactoryStream("V1400R12"));
-  const std::string ahead = "unexpected ahead of the request for remote mode: \"/L\"";
-  EXPECT_EQ(device.complaints, (Texts{ahead, "ENQ in the middle of \"/L\""}));
+  const std::string ahead = "unexpected before the request for remote mode: \"/L\"";
+  EXPECT_EQ(device.complaints, (Texts{ahead, "ENQ within \"/L\""}));
 }
 
 // ---- commands
@@ -230,14 +230,14 @@ TEST(UnitCommand, OnlyACompleteCommandIsKept) {
   };
   const std::vector<Row> rows{
       {"", load + kCan, "\x06\x06", image, ""},
-      {"", load + "\r\n", "\x06\x06", image, "a character behind the end mark of the stream: <CR>"},
+      {"", load + "\r\n", "\x06\x06", image, "a character after the end mark of the stream: <CR>"},
       {"", load + kEnterRemote + reset, "\x06\x06\x06\x06", factory, ""},
       {"silent:final-ack", load, kAck, image, ""},
       {"", Replaced(load, "\r\n", "\r"), "\x06\x15", "",
        "record 1, address 2000, position 71: expected <LF>, found \"$\""},
       {"", "/LD\r$2000\x18", kAck, "", ""},
       {"", "/LD\r$2000" + kEnterRemote, "\x06\x06", "",
-       "the stream broke off after 5 characters, in record 1, address 2000: the tool asks for remote mode"},
+       "the stream stopped after 5 characters, in record 1, address 2000: the program asks for remote mode"},
       {"", clock, kAck, "03-05-26 14:07:09", ""},
       {"", "/TD02-29-00 00:00:00\r\n\r", kAck, "02-29-00 00:00:00", ""},
       {"", "/TD12-31-99 23:59:59\r\n\r", kAck, "12-31-99 23:59:59", ""}};

@@ -87,7 +87,7 @@ TEST(Store, ItsErrorIsInTheMessageBox) {
   EXPECT_EQ(BoxesOf([&] { program.Act(core::ClickEvent{item}); }),
             "V1300R14 WILL TAKE EFFECT WHEN THE APPLICATION NEXT START|" + folder +
                 "/ORB/OVL Software.conf: Is a directory\n"
-                "The next start serves the same firmware as this one. To set the other one, run as root: "
+                "The next start uses the same firmware as this one. To set the other one, run as root: "
                 "ovl-setup V1300 R14");
 }
 

@@ -76,7 +76,7 @@ TEST_F(TextActsTest, ATextWithErrorsChangesNothingAndNamesThem) {
   });
   EXPECT_EQ(said,
             "Line 4, column 15: \"9\" is not allowed for \"DATA BITS\"; allowed: \"7\", \"8\"\n"
-            "Line 6, column 1: \"txt\" is no setting of [Exception 1]. Did you mean \"text\"?");
+            "Line 6, column 1: \"txt\" is not a setting of [Exception 1]. Did you mean \"text\"?");
   EXPECT_TRUE(App().image == image);
 }
 

@@ -99,7 +99,7 @@ TEST(RangeWindow, ItsValuesCanBeTyped) {
       "Range_Hi SubRange_Hi Range_Low SubRange_Low ComboDec frmSetRange.cmdClr frmSetRange.cmdSetRange ");
   const auto& hint = screen.Find<QLabel>("RangeHint");
   const auto usual = hint.text();
-  EXPECT_TRUE(usual.contains("4 digits") && usual.contains("2 behind")) << usual.toStdString();
+  EXPECT_TRUE(usual.contains("4 digits") && usual.contains("2 after")) << usual.toStdString();
   screen.Type("7x");
   EXPECT_EQ(hint.text(), "You can type only digits here.");
   screen.Type("890");

@@ -118,7 +118,7 @@ TEST(UnsavedCopy, OfAnotherFirmwareIsKeptEvenIfItsProcessNumberIsUsedAgain) {
   WriteFile(file("unsaved V1300R26 1.bin"), left);
   WriteFile(file("rescued V1300R14 1.bin"), "older");
   screen.program->GuardUnsaved();
-  EXPECT_EQ(screen.Note("StatusRescue").find("rescued V1300R14 2.bin: "), 0U);
+  EXPECT_EQ(screen.Note("StatusRescue").find("rescued V1300R14 2.bin contains "), 0U);
   EXPECT_EQ(ReadFile(file("rescued V1300R14 1.bin")), "older");
   EXPECT_EQ(ReadFile(file("rescued V1300R14 2.bin")), left);
   EXPECT_EQ(ReadFile(file("unsaved V1300R26 1.bin")), left) << "it would not open under this firmware";
