@@ -3566,8 +3566,8 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>Ob Zeichen auf der Kassenleitung den Datenfluss steuern.</translation>
     </message>
     <message>
-        <source>The role of the unit in the network. With OFF it works alone. A MASTER calls the other units, and a SLAVE answers.</source>
-        <translation>Die Rolle des Geräts im Netzwerk. Bei OHNE arbeitet es allein. Ein MASTER ruft die anderen Geräte, ein SLAVE antwortet.</translation>
+        <source>The role of the unit in the network. OFF: the unit is not in a network.</source>
+        <translation>Die Rolle des Geräts im Netzwerk. AUS: Das Gerät ist in keinem Netzwerk.</translation>
     </message>
     <message>
         <source>The network address of this unit.</source>

@@ -32,9 +32,7 @@ constexpr std::array kTips{
     Tip{"frmMain", "ComboCOMM(8)",
         QT_TRANSLATE_NOOP("Tip", "Whether characters on the register line control the flow.")},
     Tip{"frmMain", "ComboCOMM(9)",
-        QT_TRANSLATE_NOOP("Tip",
-                          "The role of the unit in the network. With OFF it works alone. A MASTER calls the "
-                          "other units, and a SLAVE answers.")},
+        QT_TRANSLATE_NOOP("Tip", "The role of the unit in the network. OFF: the unit is not in a network.")},
     Tip{"frmMain", "ComboCOMM(10)", QT_TRANSLATE_NOOP("Tip", "The network address of this unit.")},
     Tip{"frmMain", "ComboCOMM(11)",
         QT_TRANSLATE_NOOP("Tip",
