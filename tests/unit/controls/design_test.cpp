@@ -23,9 +23,9 @@ std::string Bare(std::string caption) {
 const controls::NamedControl* Find(const core::Application& app, const std::string& page,
                                    const std::string& name) {
   static const std::map<std::string, std::string> kForms = {
-      {"text_entry", "frmSetEXCPSTR."},  {"range", "frmSetRange."}, {"scan_progress", "frmScanBProgress."},
-      {"transfer_end", "frmOK_buttom."}, {"about", "frmAbout."},    {"viewer", "frmView."}};
-  return app.registry.Find((kForms.contains(page) ? kForms.at(page) : "") + name);
+      {"text_entry", "frmSetEXCPSTR."}, {"range", "frmSetRange."}, {"viewer", "frmView."}};
+  const bool needs_form = name.find('.') == std::string::npos && kForms.contains(page);
+  return app.registry.Find((needs_form ? kForms.at(page) : "") + name);
 }
 
 TEST(Design, CaptionsAreThoseOfTheHelp) {

@@ -79,7 +79,11 @@ TEST_F(HelpPagesTest, NameEveryTabWindowAndControlAsTheToolTipsDo) {
     if (!picks && !Holds<controls::TextBox*, controls::Button*, controls::CheckBox*>(control)) continue;
     // By its own name, or by the name of its array.
     const auto text = form == &main.form ? tabs : pages_.Text(ui::HelpPageOfWindow(Latin(form->name)));
-    const auto name = Latin(own_name), array = name.section('(', 0, 0);
+    // Alone, a name that the main form has too means the control of the main form.
+    const bool also_of_main =
+        form != &main.form && screen.App().registry.Find(main.form, own_name) != nullptr;
+    const auto name = Latin(also_of_main ? form->name + "." + own_name : own_name);
+    const auto array = name.section('(', 0, 0);
     EXPECT_TRUE(text.contains('`' + name + '`') || text.contains('`' + array + '`'));
   }
 }
