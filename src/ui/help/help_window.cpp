@@ -15,6 +15,7 @@
 #include "ui/help/help_style.h"
 #include "ui/kit/box_layouts.h"
 #include "ui/kit/theme.h"
+#include "ui/kit/widgets.h"
 
 namespace ovl::ui {
 namespace {
@@ -85,6 +86,7 @@ HelpWindow::HelpWindow(const HelpPages& pages, QWidget* parent) : QDialog(parent
   setWindowTitle(QStringLiteral("Help"));
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   resize(QSize(kStartWidth, kStartHeight).boundedTo(screen()->availableSize()));
+  StayOnScreen(*this);
   auto* across = LayOutAcross(*this);
   auto* halves = new QSplitter;
   halves->addWidget(BuildSide());
