@@ -3606,24 +3606,24 @@ Der nächste Start verwendet dieselbe Firmware wie dieser. Eine andere legt root
         <translation>Ob der Text oben oder unten im Bild steht.</translation>
     </message>
     <message>
-        <source>Whether the unit leaves out empty lines.</source>
-        <translation>Ob das Gerät leere Zeilen weglässt.</translation>
+        <source>Whether the unit compresses the lines: see the manual of the unit.</source>
+        <translation>Ob das Gerät die Zeilen verdichtet: siehe das Handbuch des Geräts.</translation>
     </message>
     <message>
-        <source>Whether the unit moves each line to the edge of the picture.</source>
-        <translation>Ob das Gerät jede Zeile an den Rand des Bildes rückt.</translation>
+        <source>Whether the unit justifies the lines: see the manual of the unit.</source>
+        <translation>Ob das Gerät die Zeilen ausrichtet: siehe das Handbuch des Geräts.</translation>
     </message>
     <message>
-        <source>Whether the unit delays the lines, so you can read the text while it scrolls.</source>
-        <translation>Ob das Gerät die Zeilen verzögert, damit sich der Text beim Rollen lesen lässt.</translation>
+        <source>Whether the unit delays the scrolling text: see the manual of the unit.</source>
+        <translation>Ob das Gerät den rollenden Text verzögert: siehe das Handbuch des Geräts.</translation>
     </message>
     <message>
         <source>Whether the unit shows the text of the register.</source>
         <translation>Ob das Gerät den Text der Kasse zeigt.</translation>
     </message>
     <message>
-        <source>The unit shortens a run of blanks to this number. OFF keeps all blanks.</source>
-        <translation>Auf so viele Leerzeichen kürzt das Gerät mehrere Leerzeichen hintereinander. AUS behält alle.</translation>
+        <source>How the unit compresses blanks, with a number from 1 to 5: see the manual of the unit. With OFF it does not.</source>
+        <translation>Wie das Gerät Leerzeichen verdichtet, mit einer Zahl von 1 bis 5: siehe das Handbuch des Geräts. Bei AUS verdichtet es nicht.</translation>
     </message>
     <message>
         <source>How many characters a line in the picture has.</source>
