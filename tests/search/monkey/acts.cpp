@@ -4,6 +4,7 @@
 #include <QDropEvent>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QTimer>
 #include <QUrl>
@@ -178,6 +179,12 @@ bool StaysInside(const QAction* action) {
   return !action->text().contains(QLatin1String("anual")) && !action->text().contains(QLatin1String("Print"));
 }
 
+// More than half of the items. What happens late in a run would never be tried.
+bool EndsProgram(const QAction& action) {
+  static const QRegularExpression release(QStringLiteral("^&?R&?[0-9&]+$"));
+  return action.text().remove(QLatin1Char('&')) == QLatin1String("Exit") || action.text().contains(release);
+}
+
 std::string ChooseMenuItem(Site& site, Random& random) {
   if (!site.screen.Main().isEnabled()) return {};
   std::vector<QAction*> actions;
@@ -185,6 +192,7 @@ std::string ChooseMenuItem(Site& site, Random& random) {
   std::erase_if(actions, [](const QAction* action) { return !StaysInside(action); });
   if (actions.empty()) return {};
   auto* action = random.Any(actions);
+  if (EndsProgram(*action) && !random.OneOf(10)) return {};
   const auto words = "menu " + action->text().toStdString();
   action->trigger();
   return words;
