@@ -40,11 +40,15 @@ QSize RoomOn(const QScreen& screen) {
   return screen.availableSize() - QSize(0, kFrameHeight);
 }
 
+bool IsUsable(const QWidget* widget) {
+  return widget != nullptr && widget->isVisible() && widget->isEnabled();
+}
+
 // Sets the focus to the first usable widget from here on: the widget that had the focus may be hidden now.
 void FocusFirstUsable(QWidget& start) {
   auto* widget = &start;
   do {
-    if (widget->isVisible() && widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus) != 0)
+    if (IsUsable(widget) && (widget->focusPolicy() & Qt::TabFocus) != 0)
       return widget->setFocus(Qt::OtherFocusReason);
     widget = widget->nextInFocusChain();
   } while (widget != &start);
@@ -117,13 +121,14 @@ void MainWindow::BuildTabs() {
     RenewMnemonics();
     if (tab_shown) tab_shown();
   });
-  // Pages and menus give the focus back to the widget that had it before. An undo or another tab may have
-  // hidden it since. The focus is nowhere if a refresh disables all controls from its widget on.
+  // Pages and menus give the focus back to the widget that had it before, which can be in another window. It
+  // may be hidden since. The focus is nowhere if a refresh disables all controls from its widget on.
   connect(
       qApp, &QApplication::focusChanged, this,
       [this] {
+        const auto* receiver = QApplication::focusWidget();
         auto* focus = focusWidget();
-        if (focus != nullptr && focus->isVisible() && focus->isEnabled()) return;
+        if (IsUsable(receiver) || (receiver == nullptr && IsUsable(focus))) return;
         if (focus == nullptr) focus = focus_before_;
         FocusFirstUsable(focus == nullptr ? *tabs_ : *focus);
       },
