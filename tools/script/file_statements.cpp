@@ -17,8 +17,8 @@ void Backup(Session& session, Arguments& arguments) {
 }
 
 constexpr auto kStatements = std::to_array<Statement>({
-    {"backup", "backup PATH", "writes the image into a file that \"Open\" reads again under the same firmware",
-     Backup},
+    {"backup", "backup PATH",
+     "writes the image into a file that \"Open\" reads again under the same firmware", Backup},
 });
 
 }  // namespace
