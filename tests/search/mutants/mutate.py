@@ -128,7 +128,8 @@ def main():
                 by = notices(folder)
                 noticed += by is not None
                 if by is None:
-                    print(f"missed {path.relative_to(COPY)}:{at + 1}\n  - {before.strip()}\n  + {text.strip()}", flush=True)
+                    print(f"missed, place {tried}: {path.relative_to(COPY)}:{at + 1}")
+                    print(f"  - {before.strip()}\n  + {text.strip()}", flush=True)
             path.write_text(whole)
         rows.append((tried, noticed, same))
         report(folder, *rows[-1])
