@@ -28,7 +28,6 @@ constexpr auto kTurn = std::chrono::milliseconds(2);
 // then be late by one bit without any loss.
 constexpr auto kLastPart = microseconds(300);
 constexpr auto kWakeAhead = microseconds(160);
-constexpr auto kBusyPart = microseconds(15);
 
 // A transmitter that is slower than the clock predicts is asked again at growing intervals.
 constexpr auto kFirstRetry = microseconds(100);
@@ -360,7 +359,7 @@ void SerialPort::AwaitDrain() {
   const auto due = DrainDue();
   const auto left = due - Clock::now();
   if (left > kLastPart) return ScheduleDrain();
-  SleepBriefly(left - kBusyPart);
+  sleep_.Until(due);
   for (bool late = false; !late;) {
     late = Clock::now() >= due;
     if (!Drained()) continue;

@@ -85,6 +85,7 @@ class SerialPort : public QObject {
   QSerialPort port_;
   LineWatch watch_;
   ShortTimer timer_;
+  MeasuredSleep sleep_;
   int number_ = 0;
   QString device_;
   QString problem_;

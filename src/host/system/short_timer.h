@@ -30,6 +30,33 @@ class SystemTimer {
 // once.
 void SleepBriefly(std::chrono::nanoseconds time);
 
+// Waits for a moment less than a millisecond away. A sleep ends late, and how late differs between computers
+// and with what else they do. So each sleep is measured, and the next one is shorter.
+class MeasuredSleep {
+  using Clock = std::chrono::steady_clock;
+  using Duration = Clock::duration;
+
+ public:
+  // Returns a little before the moment, and the caller waits for the rest in a busy loop. A computer that is
+  // later than usual makes it return after the moment.
+  void Until(Clock::time_point moment) {
+    const auto end = moment - std::min(late_ + kReserve, kLongestBusyPart);
+    const auto left = end - Clock::now();
+    if (left <= Duration(0)) return;
+    SleepBriefly(left);
+    const auto late = Clock::now() - end;
+    if (late > Duration(0)) late_ += (std::min(late, kLongestBusyPart) - late_) / kShareOfOne;
+  }
+
+ private:
+  // At 115200 baud a character takes 87 us. The busy part must leave more than half of the processor.
+  static constexpr Duration kLongestBusyPart = std::chrono::microseconds(35);
+  static constexpr Duration kReserve = std::chrono::microseconds(8);
+  static constexpr int kShareOfOne = 16;
+
+  Duration late_ = std::chrono::microseconds(15);  // about the mean of the last sleeps
+};
+
 // Fires once, in the event loop. Without a timer of the system it waits whole milliseconds.
 class ShortTimer {
  public:

@@ -6,6 +6,7 @@
 # other row is right.
 set -euo pipefail
 programs=$(realpath "$1") images=$(realpath "$2")
+[ -d "$images/V1400/R12" ] || { echo "$images has no default images of V1400 R12" >&2; exit 2; }
 export PATH=$programs:$PATH
 place=$(mktemp -d)
 started=()
