@@ -1,33 +1,37 @@
 #!/usr/bin/env python3
 """Makes one small change of the program at a time and reports which changes the tests notice.
 
-mutate.py [--places N] [--seed N] [FOLDER...]
+mutate.py [--places N] [--seed N] [--workers N] [FOLDER...]
 
 A folder is one below src, such as "host", "ui" or "ui/kit". Without a folder it takes those of the model.
 
-Works in a copy of the committed tree below build/mutants. A change that does not build does not count, nor does
+Each worker has a copy of the committed tree below build/mutants. A change that does not build does not count, nor does
 one from which the compiler makes the same object file, because it behaves like the original. A change is noticed when a
 test program fails. The others are printed with their place."""
 import argparse
 import json
+import os
 import pathlib
+import queue
 import random
 import re
-import shlex
 import subprocess
 import sys
+import threading
 
 TOP = pathlib.Path(__file__).resolve().parents[3]
-COPY = TOP / "build" / "mutants"
 FOLDERS = ["codecs", "firmware", "image", "core", "files", "panels", "registers", "link", "changes", "text_form", "checks",
            "acts", "sheet", "start"]
+# Tests of the windows that take seconds. The others notice most changes first.
+SLOW = "Pictures.*:RegisterFrames.*:UnsavedCopy.*:*/Keyboard.EveryControl*:HelpWindowTest.ThePages*:*SiteSheetFile.*"
+PROGRAMS_WITH_WINDOWS = ["ovl-monkey 150", "test_ui --gtest_filter=-" + SLOW, "test_ui --gtest_filter=" + SLOW]
 # The tests of a folder come first: most changes are noticed there.
 PROGRAMS = ["test_codecs", "test_firmware", "test_image", "test_core", "test_files", "test_panels", "test_registers", "test_link",
             "test_changes", "test_text_form", "test_checks", "test_acts", "test_sheet", "test_start", "test_host", "test_tools",
             "test_stories", "ovl-disk-faults", "ovl-reference-model 50000", "ovl-fault-sweep 1499", "ovl-random-walk 3000",
-            "ovl-text-walk 1", "test_ui", "ovl-monkey 150", "ovl-power-cuts"]
-# The others have no part of the windows.
-PROGRAMS_WITH_WINDOWS = ["test_ui", "ovl-monkey 150"]
+            "ovl-text-walk 1", *PROGRAMS_WITH_WINDOWS, "ovl-power-cuts"]
+# The main function of the program runs in no other test.
+TESTS_THAT_START_OVL = "^(story_|command_line_ovl$|keyboard_at)"
 SWAPS = [(r" == ", " != "), (r" != ", " == "), (r" < ", " <= "), (r" <= ", " < "), (r" > ", " >= "), (r" >= ", " > "),
          (r" && ", " || "), (r" \|\| ", " && "), (r"\btrue\b", "false"), (r"\bfalse\b", "true"), (r" \+ ", " - ")]
 NUMBER = re.compile(r"(?<![\w.\"'])(0x[0-9A-Fa-f]+|[1-9]\d*|0)(?![\w.\"'])")
@@ -52,93 +56,130 @@ def places_of(path):
             yield at, ""
 
 
-def run(*words, seconds=600):
-    try:
-        return subprocess.run(words, cwd=COPY, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=seconds).returncode
-    except subprocess.TimeoutExpired:
-        return "late"
+class Copy:
+    """A copy of the committed tree, with its build."""
+
+    def __init__(self, number):
+        self.path = TOP / "build" / "mutants" / str(number)
+        self.environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen"}
+        if not self.path.exists():
+            subprocess.run(["git", "clone", "--quiet", TOP, self.path], check=True)
+        subprocess.run(["git", "fetch", "--quiet", "origin"], cwd=self.path, check=True)
+        subprocess.run(["git", "reset", "--quiet", "--hard", "origin/HEAD"], cwd=self.path, check=True)
+        # With the model as a shared library a change links one file anew instead of every program.
+        subprocess.run(["cmake", "-S", ".", "-B", "build", "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
+                        "-DCMAKE_CXX_FLAGS_DEBUG=-O2", "-DBUILD_SHARED_LIBS=ON", "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON",
+                        "-DCMAKE_EXPORT_COMPILE_COMMANDS=ON", "-DOVL_SEARCHES=ON", "-DOVL_CCACHE=ON",
+                        "-DOVL_INSTALL_DATA=OFF"],
+                       cwd=self.path, check=True, stdout=subprocess.DEVNULL)
+        if not self.build(seconds=None):
+            sys.exit("The unchanged tree does not build.")
+
+    def run(self, *words, seconds=600):
+        try:
+            return subprocess.run(words, cwd=self.path, env=self.environment, stdout=subprocess.DEVNULL,
+                                  stderr=subprocess.DEVNULL, timeout=seconds).returncode
+        except subprocess.TimeoutExpired:
+            return "late"
+
+    def build(self, *targets, seconds=600):
+        return self.run("ninja", "-C", "build", *targets, seconds=seconds) == 0
+
+    def compiled(self, source):
+        """The object file of a source, or nothing."""
+        commands = json.loads((self.path / "build" / "compile_commands.json").read_text())
+        words = next(command["command"].split() for command in commands if command["file"] == str(self.path / source))
+        made = words[words.index("-o") + 1]
+        return (self.path / "build" / made).read_bytes() if self.build(made) else None
+
+    def notices(self, source):
+        """The program that fails first."""
+        top = source.parts[1]
+        programs = PROGRAMS_WITH_WINDOWS if top == "ui" else PROGRAMS
+        for program in sorted(programs, key=lambda name: name != "test_" + top):
+            name, *words = program.split()
+            options = ["--gtest_fail_fast", *words] if name.startswith("test_") else words
+            if self.run("build/bin/" + name, *options, seconds=300) != 0:
+                return name
+        if source.name == "main.cpp" and self.run("ctest", "--test-dir", "build", "-R", TESTS_THAT_START_OVL) != 0:
+            return "ctest"
+        return None
 
 
-def prepare():
-    if not COPY.exists():
-        subprocess.run(["git", "clone", "--quiet", TOP, COPY], check=True)
-    subprocess.run(["git", "fetch", "--quiet", "origin"], cwd=COPY, check=True)
-    subprocess.run(["git", "reset", "--quiet", "--hard", "origin/HEAD"], cwd=COPY, check=True)
-    # With the model as a shared library a change links one file anew instead of every program.
-    subprocess.run(["cmake", "-S", ".", "-B", "build", "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
-                    "-DCMAKE_CXX_FLAGS_DEBUG=-O1", "-DBUILD_SHARED_LIBS=ON", "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON",
-                    "-DCMAKE_EXPORT_COMPILE_COMMANDS=ON", "-DOVL_SEARCHES=ON", "-DOVL_CCACHE=ON", "-DOVL_INSTALL_DATA=OFF"],
-                   cwd=COPY, check=True, stdout=subprocess.DEVNULL)
-    if not build(seconds=None) or notices(FOLDERS[0]):
-        sys.exit("The unchanged tree does not build, or its tests fail.")
+class Count:
+    """What came of the changes of one folder."""
+
+    def __init__(self, folder, wanted):
+        self.folder, self.wanted = folder, wanted
+        self.tried = self.noticed = self.same = 0
+        self.lock = threading.Lock()
+
+    def add(self, source, at, before, text, by):
+        with self.lock:
+            if self.tried == self.wanted:
+                return
+            self.tried += 1
+            self.noticed += by is not None
+            if by is None:
+                print(f"missed, place {self.tried}: {source}:{at + 1}")
+                print(f"  - {before.strip()}\n  + {text.strip()}", flush=True)
+
+    def report(self):
+        share = 100 * self.noticed / max(self.tried, 1)
+        print(f"{self.folder:10} {self.noticed:4} of {self.tried:4} noticed, {share:5.1f} %; "
+              f"{self.same} more compile to the same code", flush=True)
 
 
-def build(seconds=600):
-    return run("ninja", "-C", "build", *(program.split()[0] for program in PROGRAMS), seconds=seconds) == 0
-
-
-def compiled(path):
-    """The optimised object file without anything for a debugger, or nothing."""
-    commands = json.loads((COPY / "build" / "compile_commands.json").read_text())
-    words = next(shlex.split(command["command"]) for command in commands if command["file"] == str(path))
-    made = COPY / "build" / "compared.o"
-    words[words.index("-o") + 1] = str(made)
-    return made.read_bytes() if run(*words, "-O2", "-g0") == 0 else None
-
-
-def notices(folder):
-    """The program that fails first."""
-    top = folder.split("/")[0]
-    programs = PROGRAMS_WITH_WINDOWS if top == "ui" else PROGRAMS
-    for program in sorted(programs, key=lambda name: name != "test_" + top):
-        name, *words = program.split()
-        options = ["--gtest_fail_fast"] if name.startswith("test_") else words
-        if run("build/bin/" + name, *options, seconds=300) != 0:
-            return name
-    return None
+def work(copy, steps, count):
+    """Takes changes until enough of them were tried."""
+    while count.tried < count.wanted:
+        try:
+            source, at, text = steps.get_nowait()
+        except queue.Empty:
+            return
+        path = copy.path / source
+        whole, original = path.read_text(), copy.compiled(source)
+        lines = whole.split("\n")
+        before, lines[at] = lines[at], text
+        path.write_text("\n".join(lines))
+        changed = copy.compiled(source)
+        if changed is not None and changed == original:
+            count.same += 1
+        elif changed is not None and copy.build():
+            count.add(source, at, before, text, copy.notices(source))
+        path.write_text(whole)
 
 
 def main():
     words = argparse.ArgumentParser(usage=__doc__)
     words.add_argument("--places", type=int, default=300)
     words.add_argument("--seed", type=int, default=1)
+    words.add_argument("--workers", type=int, default=2)
     words.add_argument("folders", nargs="*", default=FOLDERS)
     options = words.parse_args()
-    prepare()
+    copies = [Copy(number) for number in range(options.workers)]
     rng = random.Random(options.seed)
-    rows = []
-    originals = {}
+    counts = []
     for folder in options.folders:
-        steps = [(path, at, text) for path in sorted((COPY / "src" / folder).rglob("*.cpp")) for at, text in places_of(path)]
-        noticed, tried, same = 0, 0, 0
-        for path, at, text in rng.sample(steps, len(steps)):
-            if tried == options.places // len(options.folders):
-                break
-            whole = path.read_text()
-            if path not in originals:
-                originals[path] = compiled(path)
-            lines = whole.split("\n")
-            before, lines[at] = lines[at], text
-            path.write_text("\n".join(lines))
-            changed = compiled(path)
-            if changed is not None and changed == originals[path]:
-                same += 1
-            elif changed is not None and build():
-                tried += 1
-                by = notices(folder)
-                noticed += by is not None
-                if by is None:
-                    print(f"missed, place {tried}: {path.relative_to(COPY)}:{at + 1}")
-                    print(f"  - {before.strip()}\n  + {text.strip()}", flush=True)
-            path.write_text(whole)
-        rows.append((tried, noticed, same))
-        report(folder, *rows[-1])
-    report("all", *(sum(column) for column in zip(*rows)))
-
-
-def report(what, tried, noticed, same):
-    share = 100 * noticed / max(tried, 1)
-    print(f"{what:10} {noticed:4} of {tried:4} noticed, {share:5.1f} %; {same} more compile to the same code", flush=True)
+        top = copies[0].path
+        sources = [path.relative_to(top) for path in sorted((top / "src" / folder).rglob("*.cpp"))]
+        if copies[0].notices(sources[0]):
+            sys.exit("The tests of the unchanged tree fail.")
+        offered = [(source, at, text) for source in sources for at, text in places_of(top / source)]
+        steps = queue.SimpleQueue()
+        for step in rng.sample(offered, len(offered)):
+            steps.put(step)
+        counts.append(Count(folder, options.places // len(options.folders)))
+        workers = [threading.Thread(target=work, args=(copy, steps, counts[-1])) for copy in copies]
+        for worker in workers:
+            worker.start()
+        for worker in workers:
+            worker.join()
+        counts[-1].report()
+    total = Count("all", 0)
+    for name in ("tried", "noticed", "same"):
+        setattr(total, name, sum(getattr(count, name) for count in counts))
+    total.report()
 
 
 if __name__ == "__main__":
