@@ -30,6 +30,9 @@ PROGRAMS = ["test_codecs", "test_firmware", "test_image", "test_core", "test_fil
             "test_changes", "test_text_form", "test_checks", "test_acts", "test_sheet", "test_start", "test_host", "test_tools",
             "test_stories", "ovl-disk-faults", "ovl-reference-model 50000", "ovl-fault-sweep 1499", "ovl-random-walk 3000",
             "ovl-text-walk 1", *PROGRAMS_WITH_WINDOWS, "ovl-power-cuts"]
+# The rest has no part of them.
+PROGRAMS_WITH_HOST = ["test_host", "test_files", "test_start", "test_tools", "test_stories", "ovl-disk-faults",
+                      *PROGRAMS_WITH_WINDOWS, "ovl-power-cuts"]
 # The main function of the program runs in no other test.
 TESTS_THAT_START_OVL = "^(story_|command_line_ovl$|keyboard_at)"
 SWAPS = [(r" == ", " != "), (r" != ", " == "), (r" < ", " <= "), (r" <= ", " < "), (r" > ", " >= "), (r" >= ", " > "),
@@ -95,7 +98,7 @@ class Copy:
     def notices(self, source):
         """The program that fails first."""
         top = source.parts[1]
-        programs = PROGRAMS_WITH_WINDOWS if top == "ui" else PROGRAMS
+        programs = {"ui": PROGRAMS_WITH_WINDOWS, "host": PROGRAMS_WITH_HOST}.get(top, PROGRAMS)
         for program in sorted(programs, key=lambda name: name != "test_" + top):
             name, *words = program.split()
             options = ["--gtest_fail_fast", *words] if name.startswith("test_") else words
