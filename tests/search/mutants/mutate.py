@@ -77,6 +77,8 @@ class Copy:
                        cwd=self.path, check=True, stdout=subprocess.DEVNULL)
         if not self.build(seconds=None):
             sys.exit("The unchanged tree does not build.")
+        commands = json.loads((self.path / "build" / "compile_commands.json").read_text())
+        self.commands = {pathlib.Path(command["file"]).relative_to(self.path): command["command"] for command in commands}
 
     def run(self, *words, seconds=600):
         try:
@@ -90,8 +92,7 @@ class Copy:
 
     def compiled(self, source):
         """The object file of a source, or nothing."""
-        commands = json.loads((self.path / "build" / "compile_commands.json").read_text())
-        words = next(command["command"].split() for command in commands if command["file"] == str(self.path / source))
+        words = self.commands[source].split()
         made = words[words.index("-o") + 1]
         return (self.path / "build" / made).read_bytes() if self.build(made) else None
 
@@ -165,7 +166,8 @@ def main():
     counts = []
     for folder in options.folders:
         top = copies[0].path
-        sources = [path.relative_to(top) for path in sorted((top / "src" / folder).rglob("*.cpp"))]
+        # The sources for another system are not compiled.
+        sources = sorted(source for source in copies[0].commands if source.is_relative_to(f"src/{folder}"))
         if copies[0].notices(sources[0]):
             sys.exit("The tests of the unchanged tree fail.")
         offered = [(source, at, text) for source in sources for at, text in places_of(top / source)]
