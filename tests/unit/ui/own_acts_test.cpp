@@ -2,6 +2,7 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QDeadlineTimer>
+#include <QDialogButtonBox>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTreeWidget>
@@ -52,6 +53,11 @@ TEST_F(ChangesTest, AreGroupedByTabAndFollowPicksAndDownloads) {
   EXPECT_EQ(button.text(), "1 setting changed");
   Click("StatusChanges");
   EXPECT_EQ(Listed(), parity);
+  auto& window = *List().window();
+  EXPECT_EQ(window.windowTitle(), "Changes");
+  window.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Close)->click();
+  EXPECT_FALSE(window.isVisible());
+  Click("StatusChanges");
   const auto format = "|TIME / LANGUAGE|DATE FORMAT: " + pick_other("ComboTD(2)", app.frmMain.ComboTD[2]);
   EXPECT_EQ(Listed(), parity + format);
 

@@ -124,6 +124,12 @@ TEST_F(ScreenTest, TheMicrosWindowShowsOnePanelAndStoresOnlyWithSet) {
   Keys({Qt::Key_Down});
   EXPECT_TRUE(window.isVisible() && !window.isModal() && Main().Tabs().isEnabled());
   EXPECT_EQ(Focus(), "ComboISN(0)");
+  EXPECT_GT(window.x(), Main().x()) << "it hides the register";
+  Main().activateWindow();
+  Show();
+  EXPECT_EQ(OnScreen().Front(), &Main());
+  window.activateWindow();
+  Show();
   EXPECT_TRUE(Find<QPushButton>("cmdISNset").isDefault() && !IsShown("cmdSetMicros"));
   const int height_of_eight = window.height();
   const auto stored = image;

@@ -19,6 +19,8 @@ TEST_F(ScreenTest, EachOfTheThreeTextsCanBeTypedInTheTextWindow) {
     FocusOn(button, tab);
     Keys({Qt::Key_Return});
     EXPECT_EQ(NamesOfRound(), "Text1 frmSetEXCPSTR.cmdClr frmSetEXCPSTR.cmdSET ");
+    const auto& line = Find<QLineEdit>("Text1");
+    EXPECT_EQ(line.selectedText(), line.text()) << "typing replaces the whole text";
     Type("LOST");
     Keys({Qt::Key_Escape});
     EXPECT_EQ(*text, before);

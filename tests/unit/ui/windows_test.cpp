@@ -1,11 +1,13 @@
 // The windows show the model, and what a user does in them reaches it.
 #include <QAbstractItemView>
 #include <QAction>
+#include <QDeadlineTimer>
 #include <QImage>
 #include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QWheelEvent>
 #include <map>
 
@@ -53,6 +55,32 @@ TEST_F(WindowsTest, TheWheelNeverChangesAListAndTheSameEntryCanBePickedAgain) {
   EXPECT_EQ(hour, "07");
   Keys({Qt::Key_Down});
   EXPECT_EQ(hour, "08");
+}
+
+TEST_F(WindowsTest, AnActIsShownAsSoonAsTheProgramIsIdle) {
+  const auto& changes = Find<QPushButton>("StatusChanges");
+  emit Find<QComboBox>("ComboCOMM(3)").activated(App().frmMain.ComboCOMM[3].position == 0 ? 1 : 0);
+  const QDeadlineTimer patience(10'000);
+  while (!changes.isVisible() && !patience.hasExpired())
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  EXPECT_TRUE(changes.isVisible());
+}
+
+TEST_F(WindowsTest, TheClockHasTheDaysOfItsMonth) {
+  Main().Tabs().setCurrentIndex(kRemoteTab);
+  Click("CheckTD");
+  const std::tuple<const char*, int, int> rows[] = {
+      {"January", 0, 31}, {"February of a leap year", 1, 29}, {"April", 3, 30}, {"February", 1, 28}};
+  for (const auto& [what, month, days] : rows) {
+    SCOPED_TRACE(what);
+    Pick("ComboYear", days == 28 ? 23 : 24);
+    Pick("ComboMonth", month);
+    std::vector<int> shown;
+    for (const auto* list : Main().findChildren<QComboBox*>(QRegularExpression("^ComboDay"))) {
+      if (list->isVisible()) shown.push_back(list->count());
+    }
+    EXPECT_EQ(shown, std::vector<int>{days});
+  }
 }
 
 TEST_F(WindowsTest, AnActionDuringAHandlerIsDroppedAndUndoneOnTheScreen) {
@@ -164,6 +192,9 @@ TEST_F(WindowsTest, ATransferThatBeginsTakesTheFocusFromDisconnect) {
   link::BeginDownload(App());
   Show();
   EXPECT_EQ(Focus(), "vbalProgressBar1");
+  form.Picture1[3].visible = true;
+  Show();
+  EXPECT_EQ(Find("LinkDrawing").accessibleName(), "Link to the unit: Downloading");
   FocusOn("cmdDisConnect", kRemoteTab);
   Show();
   EXPECT_EQ(Focus(), "cmdDisConnect") << "who goes there wants to press it";
