@@ -181,8 +181,8 @@ bool StaysInside(const QAction* action) {
 
 // More than half of the items. What happens late in a run would never be tried.
 bool EndsProgram(const QAction& action) {
-  static const QRegularExpression release(QStringLiteral("^&?R&?[0-9&]+$"));
-  return action.text().remove(QLatin1Char('&')) == QLatin1String("Exit") || action.text().contains(release);
+  static const QRegularExpression name(QStringLiteral("^(Exit|R[0-9]+)$"));
+  return action.text().remove(QLatin1Char('&')).contains(name);
 }
 
 std::string ChooseMenuItem(Site& site, Random& random) {

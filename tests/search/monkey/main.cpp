@@ -2,7 +2,7 @@
 // the first finding with the shortest sequence of acts that shows it.
 //   ovl-monkey [ACTS [SEED [RUN [FIRMWARE]]]]
 // Starts the program again after 500 acts, with the next firmware if none is given. A finding names its run:
-// with the same seed and this run it comes again at once.
+// with the same seed and this run it comes again at once, unless it depends on the timers of Qt.
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>

@@ -31,8 +31,8 @@ PROGRAMS = ["test_codecs", "test_firmware", "test_image", "test_core", "test_fil
             "test_stories", "ovl-disk-faults", "ovl-reference-model 50000", "ovl-fault-sweep 1499", "ovl-random-walk 3000",
             "ovl-text-walk 1", *PROGRAMS_WITH_WINDOWS, "ovl-power-cuts"]
 # The rest has no part of them.
-PROGRAMS_WITH_HOST = ["test_host", "test_files", "test_start", "test_tools", "test_stories", "ovl-disk-faults",
-                      *PROGRAMS_WITH_WINDOWS, "ovl-power-cuts"]
+PROGRAMS_WITH_HOST = ["test_host", "test_files", "test_text_form", "test_start", "test_tools", "test_stories", "ovl-disk-faults",
+                      "ovl-text-walk 1", *PROGRAMS_WITH_WINDOWS, "ovl-power-cuts"]
 # The main function of the program runs in no other test.
 TESTS_THAT_START_OVL = "^(story_|command_line_ovl$|keyboard_at)"
 SWAPS = [(r" == ", " != "), (r" != ", " == "), (r" < ", " <= "), (r" <= ", " < "), (r" > ", " >= "), (r" >= ", " > "),
