@@ -4,6 +4,7 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QScreen>
+#include <QSet>
 
 #include "host/text_codec.h"
 #include "ui/kit/widgets.h"
@@ -108,9 +109,30 @@ std::string StateOf(const QWidget& widget, const controls::NamedControl& control
   return {};
 }
 
+// The captions beside these controls are no part of the model.
+bool UserChanges(const controls::ControlRef& control) {
+  return std::holds_alternative<controls::List*>(control) ||
+         std::holds_alternative<controls::Button*>(control) ||
+         std::holds_alternative<controls::TextBox*>(control) ||
+         std::holds_alternative<controls::CheckBox*>(control) ||
+         std::holds_alternative<controls::OptionElement>(control);
+}
+
+QSet<QString> NamesOnScreen() {
+  QSet<QString> names;
+  for (const auto* widget : QApplication::allWidgets()) {
+    if (widget->isVisible()) names.insert(widget->objectName());
+  }
+  return names;
+}
+
 std::string WrongControl(Screen& screen) {
+  const auto names = NamesOnScreen();
   for (const auto& control : screen.App().registry.All()) {
     const auto* widget = screen.OnScreen().Controls().WidgetOf(controls::StateOf(control.control));
+    if (widget == nullptr && UserChanges(control.control) &&
+        names.contains(QString::fromStdString(control.name)))
+      return control.name + ": does not follow the model";
     if (widget == nullptr) continue;
     auto wrong = StateOf(*widget, control);
     if (wrong.empty() && widget->isVisible()) wrong = std::visit(Compared{*widget}, control.control);
