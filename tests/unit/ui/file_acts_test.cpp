@@ -99,6 +99,7 @@ TEST_F(FileActsTest, ABackupIsOfferedByItsNameAndOpensAgain) {
 TEST_F(FileActsTest, SaveStartsWithoutANameAddsTheSuffixAndSaysWhere) {
   QString start;
   OnNext<QFileDialog>([&](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.nameFilters().join("|"), "Text Files (*.txt)|All Files (*)");
     auto& name = *dialog.findChild<QLineEdit*>("fileNameEdit");
     start = name.text();
     Press(name, Qt::Key_Return);

@@ -337,6 +337,7 @@ TEST_F(WindowsTest, TheOverviewsNameTheAlarmsOfAnExceptionAndTheExceptionOfAnAla
   for (const std::size_t other : {10, 12}) EXPECT_FALSE(lines[other].cells.back().contains('A'));
   Show();
   EXPECT_EQ(Find<QTreeWidget>("AlarmOverview").topLevelItem(6)->toolTip(1), "EX. 4: REFUND");
+  EXPECT_EQ(Find<QLabel>("AlarmOverviewUse").text(), "4 of 16 in use");
 }
 
 // For each of these firmware there is no default image, no list of registers or no layout of its own.
