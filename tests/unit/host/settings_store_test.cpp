@@ -63,7 +63,7 @@ TEST_F(Settings, OfAnEditedFileOnlyTextsInTheCharactersOfTheProgramAreRead) {
 // A list with a size of two thousand million entries, and the same with its name written in other ways.
 TEST_F(Settings, AFileWithOtherTypesIsReportedAndRenamedByTheNextWrite) {
   for (const QByteArray name : {"@Variant", "\\x40Variant", "\\100Variant", "\\x10040Variant",
-                                "\"@\"Vari\\\nant", "@Var\\qi\\x61nt"}) {
+                                "\"@\"Vari\\\nant", "@Var\\qi\\x61nt", "@DateTime"}) {
     const auto content = "Release=R12\nVersion=" + name + "(\\0\\0\\0\\x9\\0\\x7f\\xff\\xff\\xff)\n";
     Content(content);
     EXPECT_EQ(At("Release"), kNone);
