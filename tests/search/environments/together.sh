@@ -141,7 +141,7 @@ one_saved_file() {
   local second=$!
   wait_until test -e one.bin
   while kill -0 "$first" 2> /dev/null || kill -0 "$second" 2> /dev/null; do
-    cp one.bin seen
+    cat one.bin > seen
     cmp -s seen a || cmp -s seen b || fail "the file is neither of the two"
     looks=$((looks + 1))
   done

@@ -126,7 +126,8 @@ void CheckCommandLine(Bytes& input) {
   std::vector<std::string_view> words;
   while (!input.Empty()) words.push_back(input.NextText());
   const auto parsed = unit::ParseOptions(words);
-  Require(!parsed.error.empty() || parsed.options.firmware != nullptr, "good options name a firmware");
+  const bool runs = parsed.error.empty() && parsed.wish == command_line::Wish::kRun;
+  Require(!runs || parsed.options.firmware != nullptr, "good options name a firmware");
 }
 
 }  // namespace
