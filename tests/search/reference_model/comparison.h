@@ -153,9 +153,12 @@ class Comparison {
   std::string Difference() {
     const auto& app = program_.app;
     const auto& main = app.frmMain;
-    std::ostringstream found;
+    std::string found;
     const auto same = [&](const char* name, const auto& actual, const auto& expected) {
-      if (actual != expected) found << name << " is " << actual << ", in the model " << expected << '\n';
+      if (actual == expected) return;
+      std::ostringstream line;
+      line << name << " is " << actual << ", in the model " << expected << '\n';
+      found += line.str();
     };
     std::string boxes;
     for (const auto& box : std::exchange(program_.boxes, {})) boxes += box.title + "|" + box.text + "\n";
@@ -164,7 +167,7 @@ class Comparison {
     same("boxes", boxes, std::exchange(link_.boxes, {}));
     same("sent", sent, std::exchange(link_.sent, {}));
     same("ended", app.ended, link_.ended);
-    if (app.ended) return found.str();
+    if (app.ended) return found;
     same("LinkMode", app.LinkMode, link_.mode);
     same("RemoteHeld", app.RemoteHeld, link_.held);
     same("PortOpen", main.MSComm1.PortOpen, link_.open);
@@ -212,7 +215,7 @@ class Comparison {
     same("lbConnectting", main.lbConnectting.caption, link_.connection);
     same("cmdConnect's caption", main.cmdConnect.caption, link_.button);
     if (link_.end_window != 0) same("frmOK_buttom's text", app.frmOK_buttom.Label1.caption, link_.end_text);
-    return found.str();
+    return found;
   }
 
   Harness program_;
