@@ -47,6 +47,9 @@ cp V1300/R14/GENERIC.bin "V1300R14 site.bin"
 "$program" --sheet sheet.pdf --paper Letter "V1300R14 site.bin" > out 2> err && [ "$(head -c 5 sheet.pdf)" = %PDF- ] || fail "no sheet"
 prints 1 err --sheet sheet.pdf missing.toml
 [[ $(cat err) == "ovl: the sheet cannot be written: missing.toml: "* ]] || fail "the missing file is not named"
+echo none > none.bin
+prints 1 err --sheet sheet.pdf none.bin
+[[ $(cat err) == "ovl: the sheet cannot be written: none.bin: "* ]] || fail "a file that is no configuration is not named"
 prints 2 err --sheet sheet.pdf --guide guide.pdf "V1300R14 site.bin"
 prints 2 err --sheet sheet.doc "V1300R14 site.bin"
 prints 2 err --paper A4

@@ -223,6 +223,7 @@ TEST_P(Keyboard, EverySmallWindowHasNamesAccessKeysAndRoomForItsTexts) {
   screen.Show();
   for (const auto* name : {"CopyException", "Changes", "Checks"}) {
     SCOPED_TRACE(name);
+    EXPECT_FALSE(screen.Find(name).windowTitle().isEmpty());
     ExpectRoom(screen.Find(name));
     ExpectLettersOfTheirOwn({}, screen.Find(name));
   }

@@ -236,6 +236,7 @@ TEST_F(WindowsTest, TheAboutBoxShowsProgramFirmwareQtAndLicence) {
 
 TEST_F(WindowsTest, ThePointerOverATransferButtonShowsItsPicture) {
   const auto& pictures = App().frmMain.Picture1;
+  std::map<int, QImage> drawings;
   for (const auto& [button, type, picture] : {std::tuple(0, QEvent::Enter, 1),
                                               {1, QEvent::Enter, 2},
                                               {1, QEvent::Leave, 0},
@@ -245,7 +246,13 @@ TEST_F(WindowsTest, ThePointerOverATransferButtonShowsItsPicture) {
     QEvent event(type);
     QCoreApplication::sendEvent(&Find("CmdUpDow(" + std::to_string(button) + ")"), &event);
     EXPECT_EQ((pictures[1].visible ? 1 : 0) + (pictures[2].visible ? 2 : 0), picture) << button;
+    Show();
+    const auto drawn = Find("LinkDrawing").grab().toImage();
+    EXPECT_EQ(drawings.emplace(picture, drawn).first->second, drawn) << button;
   }
+  EXPECT_NE(drawings[0], drawings[1]);
+  EXPECT_NE(drawings[0], drawings[2]);
+  EXPECT_NE(drawings[1], drawings[2]);
 }
 
 TEST_F(WindowsTest, TheVersionMenuMarksTheFirmwareAndAnotherPickEndsTheProgram) {
