@@ -31,6 +31,14 @@ fails() {
   exit 1
 }
 
+# The two texts must be equal. Otherwise it prints them, and what the last command printed.
+equal() {
+  [ "$1" != "$2" ] || return 0
+  echo "\"$1\", not \"$2\":" >&2
+  cat said >&2
+  exit 1
+}
+
 echo unit1 > one
 case $3 in
   backup)
@@ -59,7 +67,7 @@ case $3 in
     fails 2 'twice: .* is in it twice' "$examples/change_all.sh" twice DECIMAL_POINT_BAK=01
     printf '# kitchen\r\nunit1 # left\r\n\ngone/unit3\n unit2' > devices
     fails 1 '^gone/unit3 *failed: gone/unit3: No such' "$examples/change_all.sh" devices DATE_FORMAT_BAK=02 SITE_NO_BAK=0a
-    [ "$(grep -c ' done$' said) $(wc -l < said)" = "2 4" ]
+    equal "$(grep -c ' done$' said) $(wc -l < said)" "2 4"
     cmp memory1 memory2
     fails 1 differ cmp memory1 before
     # The rest of a unit stays as it is, also where Open would set the line for the register.
@@ -88,7 +96,7 @@ case $3 in
     ;;
   collect_histories)
     "$examples/collect_histories.sh" devices histories
-    [ "$(head -n 1 histories/unit1.txt | tr -d '\r') $(wc -l < histories/unit2.txt)" = "OVLH 7" ]
+    equal "$(head -n 1 histories/unit1.txt | tr -d '\r') $(wc -l < histories/unit2.txt)" "OVLH 7"
     mkdir -p old/unit1.txt
     fails 1 '^unit1 *failed: .' "$examples/collect_histories.sh" one old
     echo other/unit1 >> one
@@ -117,13 +125,13 @@ case $3 in
     cp -r texts before
     (timeout 60 sh -c 'until grep -q /LD log3; do sleep 0.05; done'; kill -9 "${units[2]}") &
     fails 1 "unit3 *failed: " "$examples/change_all.sh" --jobs 4 devices title.toml
-    tail -n 1 said | grep -qx "$count units, 1 failed"
+    equal "$(tail -n 1 said)" "$count units, 1 failed"
     fails 1 '^TIME / LANGUAGE: TITLE: "SHOP 12" -> "empty"$' "$examples/compare.sh" unit2 before/unit2.toml
     ovl-unit --memory memory3 --link unit3 --pace off > said3 &
     units[2]=$!
     for _ in $(seq 100); do [ -s said3 ] && break; sleep 0.1; done
     "$examples/change_all.sh" --jobs 4 devices title.toml > said
-    [ "$(grep -c ' done before$' said) $(grep -c ' done$' said)" = "$((count - 1)) 1" ]
+    equal "$(grep -c ' done before$' said) $(grep -c ' done$' said)" "$((count - 1)) 1"
     [ ! -e devices.change_all.done ]
     fails 1 '^    TIME / LANGUAGE: TITLE: "SHOP 12" -> "empty"$' "$examples/compare.sh" --jobs 4 devices texts
     # A second run for the same list does not touch what the first one keeps. A run that is broken off prints its table.
@@ -134,7 +142,7 @@ case $3 in
     kill -INT "$first"
     status=0
     wait "$first" || status=$?
-    [ "$status" = 130 ]
+    equal "$status" 130
     grep -q "^$site/unit$count *not started\$" first
     grep -q "^$count units, 0 failed, [1-9][0-9]* not started\$" first
     cp title.toml texts/unit1.toml
@@ -151,7 +159,7 @@ case $3 in
     fails 1 '^ALOHA.bin *wrong: missing$' "$examples/check_images.sh" copy
     found=$(grep -c -e '^GENERIC.bin *wrong: .* V1300R14 ' -e '^NCR.bin *wrong: .*"IBM"$' -e '^CASIO.bin *wrong: Is a d' said)
     grep -A 1 '^TCPIP.bin *findings:$' said | grep -q '^    error: no-ip-address: '
-    [ "$found $(tail -n 1 said)" = "3 $(ls "$2/V1400/R12" | wc -l) images, 1 with findings, 4 wrong" ]
+    equal "$found $(tail -n 1 said)" "3 $(ls "$2/V1400/R12" | wc -l) images, 1 with findings, 4 wrong"
     OVL_IMAGES=none fails 2 '^none/V1400/R12/GENERIC.bin: ' "$examples/check_images.sh" copy
     ;;
 esac
