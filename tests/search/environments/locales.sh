@@ -1,7 +1,8 @@
-# A locale that writes numbers with commas.
+# Locales that write numbers with commas. The program has no texts in French, so the titles of its windows are as usual.
 # shellcheck shell=bash disable=SC2154  # what run.sh and acts.sh set
-localedef --no-archive -i de_DE -f UTF-8 "$place/de_DE.UTF-8" 2> /dev/null || true
+for locale in de_DE fr_FR; do localedef --no-archive -i "$locale" -f UTF-8 "$place/$locale.UTF-8" 2> /dev/null || true; done
 german=(LOCPATH="$place" LANG=de_DE.UTF-8 LC_ALL=de_DE.UTF-8)
+french=(LOCPATH="$place" LANG=fr_FR.UTF-8 LC_ALL=fr_FR.UTF-8)
 
 # Everything that the programs write without a window: outputs FOLDER [VARIABLE=VALUE]...
 outputs() {
@@ -62,7 +63,8 @@ same_session() {
   start_display
   start_unit --image "$images/V1400/R12/NCR.bin"
   cp memory before
-  open_program "${german[@]}"
+  [ "$(env "${french[@]}" locale decimal_point)" = , ]
+  open_program "${french[@]}"
   set_title '1,5 KG 2.50'
   titled '1,5 KG 2.50' kept
   hold_remote_mode "$changed_window"
@@ -77,4 +79,4 @@ same_session() {
 }
 
 row "de_DE.UTF-8 beside C.UTF-8" "exports, JSON, sheet, texts, Save" same_outputs
-row "de_DE.UTF-8" "change, download, upload" same_session
+row "fr_FR.UTF-8" "change, download, upload" same_session

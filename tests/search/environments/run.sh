@@ -8,6 +8,9 @@
 set -euo pipefail
 [ -n "${OVL_OWN_MOUNTS:-}" ] || exec env OVL_OWN_MOUNTS=yes unshare --mount -- "$0" "$@"
 here=$(cd "$(dirname "$0")" && pwd)
+for tool in faketime strace locale-gen xdotool Xvfb; do
+  command -v "$tool" > /dev/null || { echo "run.sh needs $tool" >&2; exit 2; }
+done
 programs=$(realpath "$1")
 groups=("${@:2}")
 [ ${#groups[@]} -gt 0 ] || groups=(together disks homes clocks locales display stopped)
