@@ -33,7 +33,7 @@ PROGRAMS = ["test_codecs", "test_firmware", "test_image", "test_core", "test_fil
 # The rest has no part of them.
 PROGRAMS_WITH_HOST = ["test_host", "test_files", "test_text_form", "test_start", "test_tools", "test_stories", "ovl-disk-faults",
                       "ovl-text-walk 1", *PROGRAMS_WITH_WINDOWS, "ovl-power-cuts"]
-# The main function of the program runs in no other test.
+# The main function of the program and what it calls run in no other test.
 TESTS_THAT_START_OVL = "^(story_|command_line_ovl$|keyboard_at)"
 SWAPS = [(r" == ", " != "), (r" != ", " == "), (r" < ", " <= "), (r" <= ", " < "), (r" > ", " >= "), (r" >= ", " > "),
          (r" && ", " || "), (r" \|\| ", " && "), (r"\btrue\b", "false"), (r"\bfalse\b", "true"), (r" \+ ", " - ")]
@@ -105,7 +105,7 @@ class Copy:
             options = ["--gtest_fail_fast", *words] if name.startswith("test_") else words
             if self.run("build/bin/" + name, *options, seconds=300) != 0:
                 return name
-        if source.name == "main.cpp" and self.run("ctest", "--test-dir", "build", "-R", TESTS_THAT_START_OVL) != 0:
+        if source.is_relative_to("src/ui/app") and self.run("ctest", "--test-dir", "build", "-R", TESTS_THAT_START_OVL) != 0:
             return "ctest"
         return None
 
