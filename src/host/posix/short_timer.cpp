@@ -47,7 +47,7 @@ void SystemTimer::Stop() {
 }
 
 // By default the system lets a thread sleep 50 us longer.
-void SleepBriefly(std::chrono::nanoseconds time) {
+void MeasuredSleep::Sleep(std::chrono::nanoseconds time) {
   if (time.count() <= 0) return;
   constexpr unsigned long kExact = 1, kDefault = 0;
   ::prctl(PR_SET_TIMERSLACK, kExact, 0, 0, 0);

@@ -26,10 +26,6 @@ class SystemTimer {
   std::unique_ptr<Source> source_;
 };
 
-// Sleeps for about this long, without the event loop. Where the system cannot sleep so briefly it returns at
-// once.
-void SleepBriefly(std::chrono::nanoseconds time);
-
 // Waits for a moment less than a millisecond away. A sleep ends late, and how late differs between computers
 // and with what else they do. So each sleep is measured, and the next one is shorter.
 class MeasuredSleep {
@@ -43,12 +39,16 @@ class MeasuredSleep {
     const auto end = moment - std::min(late_ + kReserve, kLongestBusyPart);
     const auto left = end - Clock::now();
     if (left <= Duration(0)) return;
-    SleepBriefly(left);
+    Sleep(left);
     const auto late = Clock::now() - end;
     if (late > Duration(0)) late_ += (std::min(late, kLongestBusyPart) - late_) / kShareOfOne;
   }
 
  private:
+  // Sleeps for about this long, without the event loop. Where the system cannot sleep so briefly it returns
+  // at once.
+  static void Sleep(std::chrono::nanoseconds time);
+
   // At 115200 baud a character takes 87 us. The busy part must leave more than half of the processor.
   static constexpr Duration kLongestBusyPart = std::chrono::microseconds(35);
   static constexpr Duration kReserve = std::chrono::microseconds(8);

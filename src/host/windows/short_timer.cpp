@@ -50,6 +50,6 @@ void SystemTimer::Stop() {
 }
 
 // The shortest sleep of the system is half a millisecond.
-void SleepBriefly(std::chrono::nanoseconds) {}
+void MeasuredSleep::Sleep(std::chrono::nanoseconds) {}
 
 }  // namespace ovl::host
