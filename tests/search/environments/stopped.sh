@@ -126,6 +126,7 @@ in_scan() {
   open_with_unit
   hold_remote_mode "$window"
   key alt+s
+  settle
   kill "$unit"
   wait "$unit" || true
   start_unit --speed 19200
