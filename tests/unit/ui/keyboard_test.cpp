@@ -189,6 +189,28 @@ TEST_P(Keyboard, EveryControlOfATabIsReachedOnceAndNoTextIsCut) {
   }
 }
 
+// Other arrays are in frames of the registers, or behind an overlay.
+TEST(Tabs, HaveEveryListOfTheirArrays) {
+  for (const auto& firmware : {firmware::FirmwareId{"V1400", "R12"}, {"V1300", "R14"}, {"V1334", "R1"}}) {
+    Screen screen(firmware);
+    auto& tabs = screen.Main().Tabs();
+    std::set<std::string> shown;
+    for (int tab = 0; tab < tabs.count(); ++tab) {
+      tabs.setCurrentIndex(tab);
+      screen.Show();
+      for (const auto* widget : VisibleIn<QComboBox>(*tabs.currentWidget()))
+        shown.insert(widget->objectName().toStdString());
+    }
+    for (const auto& control : screen.App().registry.All()) {
+      const auto array = control.name.substr(0, control.name.find('('));
+      const bool is_on_a_tab =
+          std::set<std::string>{"ComboALM", "ComboDIP", "ComboExcp", "ComboTD"}.contains(array);
+      if (!is_on_a_tab || !controls::StateOf(control.control).visible) continue;
+      EXPECT_TRUE(shown.contains(control.name)) << firmware.Joined() << " " << control.name;
+    }
+  }
+}
+
 TEST_P(Keyboard, EverySmallWindowHasNamesAccessKeysAndRoomForItsTexts) {
   Screen screen;
   auto& app = screen.App();
