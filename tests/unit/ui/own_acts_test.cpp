@@ -213,6 +213,8 @@ TEST_F(CopySlotTest, SaysWhatItOverwritesAndShowsTheCopy) {
   auto& copy = *window.findChild<QPushButton*>("CopyNow");
   EXPECT_EQ(first.value(), 3);
   EXPECT_EQ(last.value(), 3);
+  EXPECT_EQ(first.minimum(), 1);
+  EXPECT_EQ(last.maximum(), image::kExceptions);
   first.setValue(2);
   last.setValue(2);
   EXPECT_FALSE(copy.isEnabled()) << effect.text().toStdString();

@@ -1,5 +1,6 @@
 // The windows for texts and values, and open lists, used only with the keyboard.
 #include <QMouseEvent>
+#include <QTreeWidget>
 
 #include "core/actions.h"
 #include "screen.h"
@@ -119,6 +120,11 @@ TEST(RangeWindow, ItsValuesCanBeTyped) {
   screen.Keys({Qt::Key_Up, Qt::Key_Down, Qt::Key_Return});
   EXPECT_EQ(values[0].caption + values[1].caption, "1234,050008,09");
   EXPECT_EQ(screen.Focus(), "cmdSetRange");
+  const auto& overview = screen.Find<QTreeWidget>("ExceptionOverview");
+  for (const auto& [entry, range] : {std::pair(0, ""), {1, "IN 1234,05 - 8,09"}, {2, "OUT 1234,05 - 8,09"}}) {
+    screen.Pick("ComboExcp(5)", entry);
+    EXPECT_EQ(overview.topLevelItem(0)->text(2).toStdString(), range);
+  }
 }
 
 TEST_F(ScreenTest, AnOpenListIsUsedWithArrowsLettersAndEnter) {
