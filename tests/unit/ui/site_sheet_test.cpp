@@ -1,6 +1,9 @@
 // The site sheet as a document.
+#include <QAction>
+#include <QDialog>
 #include <QFile>
 #include <QTextDocument>
+#include <QTimer>
 
 #include "firmware/firmware_table.h"
 #include "image/slot_records.h"
@@ -8,6 +11,7 @@
 #include "sheet/site_sheet.h"
 #include "start/start_up.h"
 #include "text_form/encoding.h"
+#include "ui/print/printer.h"
 #include "ui/print/site_sheet.h"
 
 namespace ovl::testing {
@@ -86,6 +90,26 @@ TEST(SiteSheetLayout, HasAsManyFindingsAsFitAndCountsTheOthers) {
     document.setHtml(QString::fromStdString(sheet.Html(shown + 1)));
     EXPECT_GT(document.pageCount(), 2) << "there was room for one more";
   }
+}
+
+TEST_F(ScreenTest, TheDialogOfThePrinterOpensOnlyWhileTheMainWindowCanBeUsed) {
+  if (!ui::HasPrinting()) GTEST_SKIP() << "Qt was built without printers";
+  int dialogs = 0;
+  QTimer closing;
+  closing.callOnTimeout([&] {
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr) return;
+    ++dialogs;
+    dialog->reject();
+  });
+  closing.start(1);
+  auto& item = Find<QAction>("menuPrintSheet");
+  item.trigger();
+  EXPECT_EQ(dialogs, 1);
+  EXPECT_EQ(Note("StatusNote"), "") << "it was cancelled";
+  App().frmMain.form.enabled = false;
+  item.trigger();
+  EXPECT_EQ(dialogs, 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(Families, SiteSheetFile, ::testing::Values("V1400R12", "V1300R14"),
