@@ -85,6 +85,26 @@ TEST(RegisterFrames, ShowExactlyTheControlsOfTheModelAndStorePicks) {
   }
 }
 
+// The list of registers is an open one.
+TEST_F(ScreenTest, ARenewedListKeepsThePositionOfTheModel) {
+  auto& dropped = App().frmMain.ComboCOMM[0];
+  dropped.position = 2;
+  Show();
+  dropped.items = {"A", "B", "C"};
+  Show();
+  const auto& box = Find<QComboBox>("ComboCOMM(0)");
+  EXPECT_EQ(box.currentText(), "C");
+  EXPECT_EQ(box.count(), 3);
+
+  auto& open = App().frmMain.ComboReg;
+  open.items = {"FIRST", "SECOND"};
+  open.position = 1;
+  Show();
+  const auto& list = dynamic_cast<ui::ListBox&>(Find("ComboReg"));
+  EXPECT_EQ(list.count(), 2);
+  EXPECT_EQ(list.Marked(), 1);
+}
+
 TEST_F(ScreenTest, AnOverlayReplacesItsListAndLabelsFollowCaptions) {
   auto& form = App().frmMain;
   Main().Tabs().setCurrentIndex(kLineTab);
