@@ -38,10 +38,10 @@ std::tuple<Member...> ValuesOf(const std::tuple<Member&...>& members) {
   return members;
 }
 
-// A whole stream takes a hundred times as long as other events, so only one of 32 inputs may contain one, in
-// either direction.
+// A whole stream takes a hundred times as long as other events, so only one of 32 inputs may receive one and
+// send one. A longer output than any command is a stream.
 constexpr unsigned kRarely = 32;
-constexpr std::size_t kLongOutput = 100;
+constexpr std::size_t kLongestCommand = 100;
 
 // The highest bytes are the events of the model.
 constexpr std::size_t kFirstEvent = 0x100 - std::size(kLinkEvents);
@@ -56,12 +56,14 @@ class Fuzzed : Comparison {
 
   void Run(Bytes input) {
     Reset();
-    bool streamed = !ovl::fuzz::OneIn(kRarely, input.Rest());
+    const bool no_stream = !ovl::fuzz::OneIn(kRarely, input.Rest());
+    bool received = no_stream, sent = no_stream;
     while (!input.Empty() && !Ended()) {
       const auto byte = input.Next();
       const auto& event = byte < kFirstEvent ? kAnyCharacter : kLinkEvents[byte - kFirstEvent];
-      const bool sends_stream = event.kind == kDrainAll && Model().out.size() > kLongOutput;
-      if ((sends_stream || event.kind == kWholeStream) && std::exchange(streamed, true)) continue;
+      if (event.kind == kWholeStream && std::exchange(received, true)) continue;
+      const bool sends_stream = event.kind == kDrainAll && link_.out.size() > kLongestCommand;
+      if (sends_stream && std::exchange(sent, true)) continue;
       const char character = static_cast<char>(byte);
       const auto found = byte < kFirstEvent ? Step(event, {&character, 1}) : Step(event);
       Require(found.empty(), found.c_str());
