@@ -4,7 +4,13 @@ set -euo pipefail
 examples=$(cd "$(dirname "$0")/../../../examples" && pwd)
 place=$(mktemp -d)
 units=()
-trap 'kill "${units[@]}" 2>/dev/null || true; rm -rf "$place"' EXIT
+# After a failure it prints what the last command printed.
+at_end() {
+  [ "$1" = 0 ] || cat said >&2 || true
+  kill "${units[@]}" 2> /dev/null || true
+  rm -rf "$place"
+}
+trap 'at_end $?' EXIT
 site="$place/the \"new\" site"
 export PATH=$1:$PATH OVL_IMAGES=$site/images TMPDIR=$site
 mkdir -p "$site/images/V1400" "$site/images/V1300"
@@ -27,15 +33,12 @@ fails() {
   "${@:3}" > said 2>&1 || status=$?
   [ "$status" = "$1" ] && grep -q -- "$2" said && return
   echo "${*:3}: status $status, not $1, or not \"$2\":" >&2
-  cat said >&2
   exit 1
 }
 
-# The two texts must be equal. Otherwise it prints them, and what the last command printed.
 equal() {
   [ "$1" != "$2" ] || return 0
   echo "\"$1\", not \"$2\":" >&2
-  cat said >&2
   exit 1
 }
 
