@@ -6,11 +6,11 @@
 # not read.
 # shellcheck disable=SC2317  # the groups use what is here
 set -euo pipefail
-[ -n "${OVL_OWN_MOUNTS:-}" ] || exec env OVL_OWN_MOUNTS=yes unshare --mount -- "$0" "$@"
-here=$(cd "$(dirname "$0")" && pwd)
-for tool in faketime strace locale-gen xdotool Xvfb; do
+for tool in faketime strace localedef matchbox-window-manager xclip xdotool Xvfb; do
   command -v "$tool" > /dev/null || { echo "run.sh needs $tool" >&2; exit 2; }
 done
+[ -n "${OVL_OWN_MOUNTS:-}" ] || exec env OVL_OWN_MOUNTS=yes unshare --mount -- "$0" "$@"
+here=$(cd "$(dirname "$0")" && pwd)
 programs=$(realpath "$1")
 groups=("${@:2}")
 [ ${#groups[@]} -gt 0 ] || groups=(together disks homes clocks locales display stopped)
