@@ -49,7 +49,7 @@ prints 1 err --sheet sheet.pdf missing.toml
 [[ $(cat err) == "ovl: the sheet cannot be written: missing.toml: "* ]] || fail "the missing file is not named"
 echo none > none.bin
 prints 1 err --sheet sheet.pdf none.bin
-[[ $(cat err) == "ovl: the sheet cannot be written: none.bin: "* ]] || fail "a file that is no configuration is not named"
+[[ $(cat err) == "ovl: the sheet cannot be written: none.bin: "?* ]] || fail "the message does not name none.bin and the reason"
 prints 2 err --sheet sheet.pdf --guide guide.pdf "V1300R14 site.bin"
 prints 2 err --sheet sheet.doc "V1300R14 site.bin"
 prints 2 err --paper A4

@@ -85,7 +85,7 @@ TEST(RegisterFrames, ShowExactlyTheControlsOfTheModelAndStorePicks) {
   }
 }
 
-// The list of registers is an open one.
+// The list of registers is always open.
 TEST_F(ScreenTest, ARenewedListKeepsThePositionOfTheModel) {
   auto& dropped = App().frmMain.ComboCOMM[0];
   dropped.position = 2;

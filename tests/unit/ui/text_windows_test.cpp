@@ -117,8 +117,9 @@ TEST(RangeWindow, ItsValuesCanBeTyped) {
     screen.Type(typed);
     screen.Keys({Qt::Key_Tab});
   }
-  const auto& typed = screen.App().frmSetRange;
-  EXPECT_EQ(typed.SubRange_Hi.text + " " + typed.Range_Low.text, "05 0008") << "filled when the focus leaves";
+  const auto& fields = screen.App().frmSetRange;
+  EXPECT_EQ(fields.SubRange_Hi.text + " " + fields.Range_Low.text, "05 0008")
+      << "filled when the focus leaves";
   screen.Keys({Qt::Key_Up, Qt::Key_Down, Qt::Key_Return});
   EXPECT_EQ(values[0].caption + values[1].caption, "1234,050008,09");
   EXPECT_EQ(screen.Focus(), "cmdSetRange");
