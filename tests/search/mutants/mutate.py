@@ -7,14 +7,18 @@ A folder is one below src, such as "host", "ui" or "ui/kit". Without a folder it
 
 Each worker has a copy of the committed tree below build/mutants. A change that does not build does not count, nor does
 one from which the compiler makes the same object file, because it behaves like the original. A change is noticed when a
-test program fails. The others are printed with their place."""
+test program fails. The others are printed with their place. For a change in "ui" that no test notices, the script compares
+the pictures of all windows with those of the unchanged tree. A change of the pictures alone counts separately: it is found
+when somebody compares two builds, not by ./test."""
 import argparse
+import hashlib
 import json
 import os
 import pathlib
 import queue
 import random
 import re
+import shutil
 import subprocess
 import sys
 import threading
@@ -30,11 +34,11 @@ PROGRAMS = ["test_codecs", "test_firmware", "test_image", "test_core", "test_fil
             "test_changes", "test_text_form", "test_checks", "test_acts", "test_sheet", "test_start", "test_host", "test_tools",
             "test_stories", "ovl-disk-faults", "ovl-reference-model 50000", "ovl-fault-sweep 1499", "ovl-random-walk 3000",
             "ovl-text-walk 1", *PROGRAMS_WITH_WINDOWS, "ovl-power-cuts"]
-# The rest has no part of them.
+# The others do not use "host".
 PROGRAMS_WITH_HOST = ["test_host", "test_files", "test_text_form", "test_start", "test_tools", "test_stories", "ovl-disk-faults",
                       "ovl-text-walk 1", *PROGRAMS_WITH_WINDOWS, "ovl-power-cuts"]
-# No other test runs the main function of the program.
 MAIN = pathlib.Path("src/ui/app/main.cpp")
+# No test program runs the main function of the program.
 TESTS_THAT_START_OVL = "^(story_images|session_.*|command_line_ovl)$"
 SWAPS = [(r" == ", " != "), (r" != ", " == "), (r" < ", " <= "), (r" <= ", " < "), (r" > ", " >= "), (r" >= ", " > "),
          (r" && ", " || "), (r" \|\| ", " && "), (r"\btrue\b", "false"), (r"\bfalse\b", "true"), (r" \+ ", " - ")]
@@ -79,12 +83,14 @@ class Copy:
         if not self.build(seconds=None):
             sys.exit("The unchanged tree does not build.")
         commands = json.loads((self.path / "build" / "compile_commands.json").read_text())
+        self.unchanged_pictures = None
         self.commands = {pathlib.Path(command["file"]).relative_to(self.path): command["command"] for command in commands}
 
     def run(self, *words, seconds=600):
         try:
-            return subprocess.run(words, cwd=self.path, env=self.environment, stdout=subprocess.DEVNULL,
-                                  stderr=subprocess.DEVNULL, timeout=seconds).returncode
+            # A change can make a program endless, which must not outlive this script.
+            return subprocess.run(["setpriv", "--pdeathsig", "KILL", *words], cwd=self.path, env=self.environment,
+                                  stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=seconds).returncode
         except subprocess.TimeoutExpired:
             return "late"
 
@@ -110,13 +116,27 @@ class Copy:
             return "ctest"
         return None
 
+    def pictures(self):
+        """A digest of the pictures and spoken texts of all windows."""
+        # Some texts contain the path, so it is always the same.
+        place = self.path / "build" / "site"
+        shutil.rmtree(place, ignore_errors=True)
+        (place / "ORB").mkdir(parents=True)
+        (place / "ORB" / "OVL Software.conf").write_text("[General]\nVersion=V1400\nRelease=R12\n")
+        self.run("build/bin/ovl-images", place, "V1400R12")
+        status = self.run("build/bin/ovl-pictures", "--folder", place, "--store", place, place / "pictures", seconds=120)
+        made = hashlib.sha256(str(status).encode())
+        for path in sorted(path for path in (place / "pictures").rglob("*") if path.is_file()):
+            made.update(str(path.relative_to(place)).encode() + path.read_bytes())
+        return made.digest()
+
 
 class Count:
     """What came of the changes of one folder."""
 
     def __init__(self, folder, wanted):
         self.folder, self.wanted = folder, wanted
-        self.tried = self.noticed = self.same = 0
+        self.tried = self.noticed = self.pictured = self.same = 0
         self.lock = threading.Lock()
 
     def add(self, source, at, before, text, by):
@@ -124,15 +144,16 @@ class Count:
             if self.tried == self.wanted:
                 return
             self.tried += 1
-            self.noticed += by is not None
-            if by is None:
-                print(f"missed, place {self.tried}: {source}:{at + 1}")
+            self.pictured += by == "pictures"
+            self.noticed += by not in (None, "pictures")
+            if by in (None, "pictures"):
+                print(f"{'only in ' + by if by else 'missed'}, place {self.tried}: {source}:{at + 1}")
                 print(f"  - {before.strip()}\n  + {text.strip()}", flush=True)
 
     def report(self):
-        share = 100 * self.noticed / max(self.tried, 1)
+        share, seen = (100 * number / max(self.tried, 1) for number in (self.noticed, self.noticed + self.pictured))
         print(f"{self.folder:10} {self.noticed:4} of {self.tried:4} noticed, {share:5.1f} %; "
-              f"{self.same} more compile to the same code", flush=True)
+              f"with {self.pictured} only in pictures {seen:5.1f} %; {self.same} more compile to the same code", flush=True)
 
 
 def work(copy, steps, count):
@@ -151,7 +172,10 @@ def work(copy, steps, count):
         if changed is not None and changed == original:
             count.same += 1
         elif changed is not None and copy.build():
-            count.add(source, at, before, text, copy.notices(source))
+            by = copy.notices(source)
+            if by is None and copy.unchanged_pictures is not None and copy.pictures() != copy.unchanged_pictures:
+                by = "pictures"
+            count.add(source, at, before, text, by)
         path.write_text(whole)
 
 
@@ -171,6 +195,10 @@ def main():
         sources = sorted(source for source in copies[0].commands if source.is_relative_to(f"src/{folder}"))
         if any(copies[0].notices(source) for source in sources if source in (sources[0], MAIN)):
             sys.exit("The tests of the unchanged tree fail.")
+        for copy in copies:
+            copy.unchanged_pictures = copy.pictures() if folder.startswith("ui") else None
+            if copy.unchanged_pictures is not None and copy.pictures() != copy.unchanged_pictures:
+                sys.exit("The pictures of the unchanged tree differ from run to run.")
         offered = [(source, at, text) for source in sources for at, text in places_of(top / source)]
         steps = queue.SimpleQueue()
         for step in rng.sample(offered, len(offered)):
@@ -183,7 +211,7 @@ def main():
             worker.join()
         counts[-1].report()
     total = Count("all", 0)
-    for name in ("tried", "noticed", "same"):
+    for name in ("tried", "noticed", "pictured", "same"):
         setattr(total, name, sum(getattr(count, name) for count in counts))
     total.report()
 
