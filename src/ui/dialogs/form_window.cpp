@@ -5,7 +5,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
-#include <QScrollBar>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -57,10 +57,8 @@ bool FormWindow::ShowAsModelSays() {
 void FormWindow::Open() {
   setWindowFlag(Qt::WindowStaysOnTopHint, form_.top_most);
   for (auto* button : findChildren<QPushButton*>()) button->installEventFilter(this);
-  // The window may take the whole of a small screen; if it needs more, its content scrolls.
-  const auto room = RoomOnScreen(*this);
-  if (!scrolled_ && minimumSizeHint().boundedTo(room) != minimumSizeHint()) Scroll();
-  resize(sizeHint().boundedTo(room));
+  ScrollIfTooLarge();
+  resize(sizeHint().boundedTo(RoomOnScreen(*this)));
   if (opens_beside_) PlaceBeside();
   AssignPageMnemonics(*this, {});
   show();
@@ -69,17 +67,43 @@ void FormWindow::Open() {
   if (focusWidget() == nullptr) focusNextChild();
 }
 
+// The window may take the whole of a small screen. If it needs more, its content scrolls.
+void FormWindow::ScrollIfTooLarge() {
+  if (scrolled_ != nullptr) return;
+  const bool is_fixed = layout()->sizeConstraint() == QLayout::SetFixedSize;
+  const auto least = is_fixed ? sizeHint() : minimumSizeHint();
+  const auto room = RoomOnScreen(*this);
+  if (least.boundedTo(room) == least) return;
+  auto* focus = focusWidget();
+  Scroll();
+  if (focus != nullptr) focus->setFocus(Qt::OtherFocusReason);
+  resize(sizeHint().boundedTo(room));
+}
+
+// A panel that is shown later can make the window larger. Only afterwards can the layout move to another
+// widget.
+void FormWindow::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  QMetaObject::invokeMethod(this, &FormWindow::ScrollIfTooLarge, Qt::QueuedConnection);
+}
+
 void FormWindow::Scroll() {
-  scrolled_ = true;
-  const auto size = sizeHint();
-  auto* content = new QWidget;
-  content->setLayout(layout());
+  scrolled_ = new QWidget;
+  scrolled_->setLayout(layout());
+  // The content may become as narrow as the screen.
+  scrolled_->layout()->setSizeConstraint(QLayout::SetDefaultConstraint);
   auto* around = new QVBoxLayout(this);
   around->setContentsMargins(0, 0, 0, 0);
-  auto* area = Scrolled(content);
-  const int bar = area->verticalScrollBar()->sizeHint().width();
-  area->setMinimumWidth(std::min(size.width() + bar, RoomOnScreen(*this).width()));
+  auto* area = Scrolled(scrolled_);
   around->addWidget(area);
+  // A layout shows a new widget later, and a hidden one cannot get the focus.
+  area->show();
+}
+
+QSize FormWindow::sizeHint() const {
+  if (scrolled_ == nullptr) return QDialog::sizeHint();
+  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  return scrolled_->sizeHint() + QSize(bar, bar);
 }
 
 void FormWindow::PlaceBeside() {

@@ -21,17 +21,20 @@ class FormWindow : public QDialog {
   bool ShowAsModelSays();
 
   void reject() override;
+  QSize sizeHint() const override;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   bool TakesEnter(const QKeyEvent& event) const;
 
   bool OnScreen() const { return form_.loaded && form_.visible; }
   void Open();
+  void ScrollIfTooLarge();
   void Scroll();
   void PlaceBeside();
 
@@ -39,7 +42,7 @@ class FormWindow : public QDialog {
   controls::Form& form_;
   ChangeDetector<bool> enabled_;
   bool opens_beside_ = false;
-  bool scrolled_ = false;
+  QWidget* scrolled_ = nullptr;  // the content, if the screen is too small for it
 };
 
 // Moves the focus to the control that the model asks for, once for each request.

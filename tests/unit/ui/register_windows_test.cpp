@@ -207,6 +207,28 @@ TEST_F(ScreenTest, SmallWindowsMoveBackWhenTheScreenHasChanged) {
   EXPECT_TRUE(room.contains(micros.frameGeometry()));
 }
 
+TEST_F(ScreenTest, AWindowThatIsLargerThanTheScreenScrollsToTheFocus) {
+  Main().Tabs().setCurrentIndex(kRegisterTab);
+  Select("MICROS");
+  auto& window = Window(App().frmMicros.form);
+  const auto room = window.screen()->availableGeometry();
+  for (const int height : {0, room.height() / 2}) {
+    for (auto* list : window.findChildren<QComboBox*>()) list->setMinimumHeight(height);
+    Click("OpMicros(1)");
+    EXPECT_TRUE(window.isVisible() && room.contains(window.frameGeometry()));
+    EXPECT_EQ(window.frameGeometry().height() == room.height(), height > 0);
+    ASSERT_NE(window.focusWidget(), nullptr);
+    for (int step = 0; step < 8; ++step) {
+      Press(*window.focusWidget(), Qt::Key_Tab);
+      const auto* widget = window.focusWidget();
+      EXPECT_EQ(widget->visibleRegion().boundingRect(), widget->rect()) << widget->objectName().toStdString();
+    }
+    Click("OpMicros(0)");
+    window.close();
+    Show();
+  }
+}
+
 TEST_F(ScreenTest, TheFilterShowsRegistersWithAllItsWordsAndAPickSendsTheTruePosition) {
   auto& list = dynamic_cast<ui::ListBox&>(Find("ComboReg"));
   auto& filter = Find<QLineEdit>("RegisterFilter");
