@@ -64,6 +64,10 @@ TEST_F(AdviceBarTest, TheActionShowsTheAlarmThatTheLineNames) {
   screen_.Click("AdviceAction");
   EXPECT_EQ(screen_.App().frmMain.ComboALM[0].position, 8);
   EXPECT_EQ(screen_.Focus(), "ComboALM(1)");
+  screen_.Pick("ComboALM(1)", 0);
+  screen_.Pick("ComboALM(0)", 2);
+  screen_.Pick("ComboALM(1)", 5);
+  EXPECT_NE(Words().find("alarm 3 (5)"), std::string::npos) << Words();
 }
 
 // What the new program opens is part of the session "broken_transfers".

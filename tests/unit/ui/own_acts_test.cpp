@@ -113,6 +113,23 @@ TEST_F(ChangesTest, LeadToTheControlAndPickItsExceptionOrAlarm) {
   EXPECT_EQ(Main().Tabs().currentIndex(), kExceptionTab) << "another window blocks the main window";
 }
 
+TEST_F(ChangesTest, KeepTheRowThatTheUserChose) {
+  const auto chosen = [this] { return List().currentItem()->text(0).toStdString(); };
+  Pick("ComboLang", 2);
+  Click("StatusChanges");
+  Pick("ComboTD(2)", 2);
+  Pick("ComboTD(3)", 1);
+  EXPECT_EQ(chosen(), "LANGUAGE") << "the first row, although the others come before it";
+  Press(List(), Qt::Key_Up);
+  EXPECT_EQ(chosen(), "DAYLIGHT SAVING");
+  Pick("ComboCOMM(3)", 2);
+  EXPECT_EQ(chosen(), "DAYLIGHT SAVING");
+  Find<QAction>("menuUndo").trigger();
+  Find<QAction>("menuUndo").trigger();
+  Show();
+  EXPECT_EQ(chosen(), "DATE FORMAT") << "the chosen row has gone";
+}
+
 TEST_F(ChangesTest, CopyWholeRowsWithTheBytesThatAreShown) {
   auto& app = App();
   Pick("ComboCOMM(3)", app.frmMain.ComboCOMM[3].position == 0 ? 1 : 0);
@@ -127,6 +144,9 @@ TEST_F(ChangesTest, CopyWholeRowsWithTheBytesThatAreShown) {
   };
   const auto lines = copied().split('\n', Qt::SkipEmptyParts);
   ASSERT_EQ(lines.size(), 2);
+  const auto* first = List().topLevelItem(0)->child(0);
+  for (int cell = 0; cell < 3; ++cell)
+    EXPECT_EQ(first->toolTip(cell), first->text(cell)) << "a column can cut it";
   EXPECT_TRUE(lines[0].startsWith("COMMUNICATION\tPARITY\t")) << lines[0].toStdString();
   EXPECT_EQ(lines[0].count('\t'), 3);
   EXPECT_TRUE(List().isColumnHidden(3));

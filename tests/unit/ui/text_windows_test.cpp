@@ -76,7 +76,9 @@ TEST_F(ScreenTest, TypingReplacesFillingBlanksAndTooLongATextIsRefusedWithAReaso
   const auto padded = [](std::string seen) { return seen.append(40 - seen.size(), ' '); };
   AssignText(app, app.frmMain.TextException, padded("CASH"));
   FocusOn("cmdSetExcpstr", kExceptionTab);
-  Keys({Qt::Key_Return, Qt::Key_End});
+  Keys({Qt::Key_Return});
+  EXPECT_EQ(Find<QLineEdit>("Text1").selectedText(), QString::fromStdString(padded("CASH")));
+  Keys({Qt::Key_End});
   Type(" \u20ACN");
   Keys({Qt::Key_Home});
   Type("X ");
