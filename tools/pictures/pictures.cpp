@@ -5,6 +5,9 @@
 #include <QDir>
 #include <QEvent>
 #include <QFile>
+#include <QIcon>
+#include <QMenu>
+#include <QMenuBar>
 #include <QSaveFile>
 #include <QTabWidget>
 #include <algorithm>
@@ -22,6 +25,7 @@
 #include "ui/app/program.h"
 #include "ui/dialogs/changes_window.h"
 #include "ui/kit/theme.h"
+#include "ui/window/window_icon.h"
 
 namespace ovl::pictures {
 namespace {
@@ -33,6 +37,7 @@ constexpr int kCommunicationTab = 3;
 constexpr int kExceptionTab = 4;
 constexpr int kTimeTab = 5;
 constexpr int kRemoteTab = 6;
+constexpr int kIconSize = 256;
 constexpr int kClockTicks = 10;  // until the clock lists are set
 
 // Takes away the events of timers, so that no picture depends on the time that the machine needs for it.
@@ -69,6 +74,8 @@ class Photographer {
     TakeScan();
     TakeHelp();
     TakeFocus();
+    TakeMenus();
+    SavePicture(QStringLiteral("icon"), ui::WindowIcon().pixmap(kIconSize));
   }
 
  private:
@@ -104,6 +111,14 @@ class Photographer {
   void TakeForm(const controls::Form& form, const QString& name) {
     program_.RefreshNow();
     if (auto* window = program_.OnScreen().WindowOf(form)) Take(*window, name);
+  }
+
+  void TakeMenus() {
+    for (const auto* action : Main().menuBar()->actions()) {
+      auto& menu = *action->menu();
+      menu.adjustSize();
+      Take(menu, QStringLiteral("menu_%1").arg(Main().menuBar()->actions().indexOf(action)));
+    }
   }
 
   void TakeTabs() {

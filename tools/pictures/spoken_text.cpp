@@ -57,7 +57,12 @@ void Append(QAccessibleInterface* face, QString& text) {
 
 QString SpokenText(QWidget& window) {
   QString text;
-  Append(QAccessible::queryAccessibleInterface(&window), text);
+  auto* face = QAccessible::queryAccessibleInterface(&window);
+  Append(face, text);
+  // A menu on its own is the list of its entries.
+  if (face->role() != QAccessible::PopupMenu) return text;
+  for (int entry = 0; entry < face->childCount(); ++entry)
+    text += LineOf(*face->child(entry)) + QLatin1Char('\n');
   return text;
 }
 

@@ -106,6 +106,7 @@ class Screen {
     if (program->Start() != core::Outcome::kDone)
       throw std::runtime_error("no start: " + (boxes.empty() ? App().StatusNote : boxes.front()));
     if (pages == Pages::kAll) OnScreen().BuildAll();
+    start_size = Main().size();
     Main().resize(960, 600);
   }
 
@@ -182,6 +183,7 @@ class Screen {
   }
 
   TemporaryFolder folder;
+  QSize start_size;
   std::vector<std::string> boxes;
   std::function<void()> while_box = [] {};
   std::unique_ptr<ui::Program> program;

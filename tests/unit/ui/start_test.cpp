@@ -1,5 +1,6 @@
 // The first start, and its messages if there is no writable folder, no firmware or no image.
 #include <QMessageBox>
+#include <QScreen>
 #include <QTimer>
 
 #include "core/failure.h"
@@ -89,6 +90,12 @@ TEST(Store, ItsErrorIsInTheMessageBox) {
                 "/ORB/OVL Software.conf: Is a directory\n"
                 "The next start uses the same firmware as this one. To set the other one, run as root: "
                 "ovl-setup V1300 R14");
+}
+
+TEST(MainWindow, OpensWithItsSizeAsFarAsTheScreenHasRoom) {
+  Screen screen({"V1400", "R12"}, Pages::kFirst);
+  const auto room = screen.Main().screen()->availableSize();
+  EXPECT_EQ(screen.start_size, ui::MainWindow::StartSize().boundedTo(room));
 }
 
 }  // namespace
