@@ -41,6 +41,12 @@ PARITY = 1
 [COMMUNICATION])",
      R"(3:10 "1" is not allowed for "PARITY"; allowed: "NONE", "EVEN", "ODD"
 4:2 [COMMUNICATION] is already on line 2)"},
+    {R"([COMMUNICATION]
+PARITY = 'EVEN'
+PARITY = 'ODD'
+"TX BAUDRATE" = "\q")",
+     R"(4:1 "PARITY" is already on line 3
+5:19 wrong syntax)"},
     {R"(["Exception 1"]
 text = "A"
 DISPLAY = ON
