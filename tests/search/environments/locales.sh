@@ -1,6 +1,10 @@
 # Locales that write numbers with commas. The program has no texts in French, so the titles of its windows are as usual.
 # shellcheck shell=bash disable=SC2154  # what run.sh and acts.sh set
-for locale in de_DE fr_FR; do localedef --no-archive -i "$locale" -f UTF-8 "$place/$locale.UTF-8" 2> /dev/null || true; done
+for locale in de_DE fr_FR; do
+  # Its status is not 0 after a warning either.
+  localedef --no-archive -i "$locale" -f UTF-8 "$place/$locale.UTF-8" 2> "$place/$locale.log" || true
+  [ -d "$place/$locale.UTF-8" ] || cat "$place/$locale.log" >&2
+done
 german=(LOCPATH="$place" LANG=de_DE.UTF-8 LC_ALL=de_DE.UTF-8)
 french=(LOCPATH="$place" LANG=fr_FR.UTF-8 LC_ALL=fr_FR.UTF-8)
 
