@@ -1,6 +1,7 @@
 #include "ui/dialogs/form_window.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
@@ -33,6 +34,11 @@ FormWindow::FormWindow(Bindings& bindings, controls::Form& form, QWidget* parent
   setObjectName(host::FromWindows1252(form.name));
   setModal(false);
   StayOnScreen(*this);
+  for (auto* screen : QGuiApplication::screens()) {
+    connect(screen, &QScreen::availableGeometryChanged, this, [this] {
+      if (isVisible()) ScrollIfTooLarge();
+    });
+  }
   bindings_.OnRefresh([this, caption = ChangeDetector<std::string>()]() mutable {
     if (caption.Update(form_.caption)) setWindowTitle(TitleOf(bindings_.Model(), form_));
     if (enabled_.Update(form_.enabled)) setEnabled(form_.enabled);
@@ -57,6 +63,8 @@ bool FormWindow::ShowAsModelSays() {
 void FormWindow::Open() {
   setWindowFlag(Qt::WindowStaysOnTopHint, form_.top_most);
   for (auto* button : findChildren<QPushButton*>()) button->installEventFilter(this);
+  // Without this the layout would have the sizes from before a panel was shown or hidden.
+  for (auto* part : findChildren<QWidget*>()) part->updateGeometry();
   ScrollIfTooLarge();
   resize(sizeHint().boundedTo(RoomOnScreen(*this)));
   if (opens_beside_) PlaceBeside();
@@ -75,23 +83,31 @@ void FormWindow::ScrollIfTooLarge() {
   const auto room = RoomOnScreen(*this);
   if (least.boundedTo(room) == least) return;
   auto* focus = focusWidget();
-  Scroll();
-  if (focus != nullptr) focus->setFocus(Qt::OtherFocusReason);
+  // For the model the control must not lose the focus.
+  if (focus != nullptr) setFocus(Qt::PopupFocusReason);
+  Scroll(is_fixed);
   resize(sizeHint().boundedTo(room));
+  if (focus == nullptr) return;
+  focus->setFocus(Qt::PopupFocusReason);
+  layout()->activate();
+  ScrollTo(*focus);
 }
 
-// A panel that is shown later can make the window larger. Only afterwards can the layout move to another
-// widget.
+// A panel that is shown later can make the window larger. The layout cannot move during this event, so the
+// check waits.
 void FormWindow::resizeEvent(QResizeEvent* event) {
   QDialog::resizeEvent(event);
   QMetaObject::invokeMethod(this, &FormWindow::ScrollIfTooLarge, Qt::QueuedConnection);
 }
 
-void FormWindow::Scroll() {
+void FormWindow::Scroll(bool was_fixed) {
   scrolled_ = new QWidget;
   scrolled_->setLayout(layout());
-  // The content may become as narrow as the screen.
-  scrolled_->layout()->setSizeConstraint(QLayout::SetDefaultConstraint);
+  if (was_fixed) {
+    scrolled_->layout()->setSizeConstraint(QLayout::SetDefaultConstraint);
+    setMinimumSize(0, 0);
+    setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+  }
   auto* around = new QVBoxLayout(this);
   around->setContentsMargins(0, 0, 0, 0);
   auto* area = Scrolled(scrolled_);

@@ -35,7 +35,7 @@ class FormWindow : public QDialog {
   bool OnScreen() const { return form_.loaded && form_.visible; }
   void Open();
   void ScrollIfTooLarge();
-  void Scroll();
+  void Scroll(bool was_fixed);
   void PlaceBeside();
 
   Bindings& bindings_;

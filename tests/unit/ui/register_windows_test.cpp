@@ -3,7 +3,10 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 #include <set>
 
@@ -207,25 +210,36 @@ TEST_F(ScreenTest, SmallWindowsMoveBackWhenTheScreenHasChanged) {
   EXPECT_TRUE(room.contains(micros.frameGeometry()));
 }
 
-TEST_F(ScreenTest, AWindowThatIsLargerThanTheScreenScrollsToTheFocus) {
-  Main().Tabs().setCurrentIndex(kRegisterTab);
-  Select("MICROS");
-  auto& window = Window(App().frmMicros.form);
-  const auto room = window.screen()->availableGeometry();
-  for (const int height : {0, room.height() / 2}) {
-    for (auto* list : window.findChildren<QComboBox*>()) list->setMinimumHeight(height);
-    Click("OpMicros(1)");
-    EXPECT_TRUE(window.isVisible() && room.contains(window.frameGeometry()));
-    EXPECT_EQ(window.frameGeometry().height() == room.height(), height > 0);
-    ASSERT_NE(window.focusWidget(), nullptr);
-    for (int step = 0; step < 8; ++step) {
-      Press(*window.focusWidget(), Qt::Key_Tab);
-      const auto* widget = window.focusWidget();
-      EXPECT_EQ(widget->visibleRegion().boundingRect(), widget->rect()) << widget->objectName().toStdString();
+TEST(SmallScreen, AWindowThatIsLargerScrollsToTheFocus) {
+  for (const bool grows_later : {false, true}) {
+    SCOPED_TRACE(grows_later);
+    Screen screen;
+    screen.Select("MICROS");
+    auto& window = screen.Window(screen.App().frmMicros.form);
+    const auto room = window.screen()->availableGeometry();
+    for (auto* list : window.findChildren<QComboBox*>(QRegularExpression("ComboISN.*")))
+      list->setMinimumHeight(room.height() / 2);
+    if (grows_later) screen.Click("OpMicros(1)");
+    for (int opening = 0; opening < 2; ++opening) {
+      screen.Click("OpMicros(2)");
+      screen.Show();
+      EXPECT_TRUE(window.isVisible() && room.contains(window.frameGeometry()));
+      ASSERT_EQ(window.frameGeometry().height(), room.height());
+      EXPECT_FALSE(window.findChild<QScrollArea*>()->horizontalScrollBar()->isVisible());
+      std::set<const QWidget*> reached;
+      for (int step = 0; step < 18; ++step) {
+        const auto* widget = window.focusWidget();
+        ASSERT_NE(widget, nullptr);
+        EXPECT_EQ(widget->visibleRegion().boundingRect(), widget->rect())
+            << widget->objectName().toStdString();
+        reached.insert(widget);
+        Screen::Press(*window.focusWidget(), Qt::Key_Tab);
+      }
+      EXPECT_EQ(reached.size(), 9U);
+      screen.Click("OpMicros(0)");
+      window.close();
+      screen.Show();
     }
-    Click("OpMicros(0)");
-    window.close();
-    Show();
   }
 }
 
