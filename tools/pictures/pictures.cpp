@@ -114,10 +114,12 @@ class Photographer {
   }
 
   void TakeMenus() {
+    int number = 0;
     for (const auto* action : Main().menuBar()->actions()) {
       auto& menu = *action->menu();
+      emit menu.aboutToShow();
       menu.adjustSize();
-      Take(menu, QStringLiteral("menu_%1").arg(Main().menuBar()->actions().indexOf(action)));
+      Take(menu, QStringLiteral("menu_%1").arg(++number));
     }
   }
 

@@ -1,6 +1,7 @@
 #include "pictures/spoken_text.h"
 
 #include <QAccessible>
+#include <QMenu>
 #include <QMetaEnum>
 #include <QWidget>
 
@@ -59,10 +60,11 @@ QString SpokenText(QWidget& window) {
   QString text;
   auto* face = QAccessible::queryAccessibleInterface(&window);
   Append(face, text);
-  // A menu on its own is the list of its entries.
-  if (face->role() != QAccessible::PopupMenu) return text;
-  for (int entry = 0; entry < face->childCount(); ++entry)
-    text += LineOf(*face->child(entry)) + QLatin1Char('\n');
+  // A menu on its own is the list of its entries. While it is closed, each of them counts as invisible.
+  const auto* menu = qobject_cast<QMenu*>(&window);
+  for (int entry = 0; menu != nullptr && entry < face->childCount(); ++entry) {
+    if (menu->actions().at(entry)->isVisible()) text += LineOf(*face->child(entry)) + QLatin1Char('\n');
+  }
   return text;
 }
 
