@@ -1,7 +1,7 @@
 # Locales that write numbers with commas. The program has no texts in French, so the titles of its windows are as usual.
 # shellcheck shell=bash disable=SC2154  # what run.sh and acts.sh set
 for locale in de_DE fr_FR; do
-  # Its status is not 0 after a warning either.
+  # A warning makes its status 1 as well.
   localedef --no-archive -i "$locale" -f UTF-8 "$place/$locale.UTF-8" 2> "$place/$locale.log" || true
   [ -d "$place/$locale.UTF-8" ] || cat "$place/$locale.log" >&2
 done

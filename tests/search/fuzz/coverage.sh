@@ -13,7 +13,7 @@ cmake --build build/coverage --target fuzz_seeds "${targets[@]/#/fuzz_}" > build
 
 place=$(mktemp -d)
 trap 'rm -rf "$place"' EXIT
-# What the program of the seeds itself reaches does not count.
+# Otherwise it would leave a profile in the clone.
 LLVM_PROFILE_FILE=/dev/null build/coverage/bin/fuzz_seeds "$place/seeds"
 objects=()
 for target in "${targets[@]}"; do

@@ -88,7 +88,7 @@ class Copy:
 
     def run(self, *words, seconds=600):
         try:
-            # A change can make a program endless, which must not outlive this script.
+            # A change can make a program endless. It ends with this script; what ctest starts does not.
             return subprocess.run(["setpriv", "--pdeathsig", "KILL", *words], cwd=self.path, env=self.environment,
                                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=seconds).returncode
         except subprocess.TimeoutExpired:
@@ -131,7 +131,7 @@ class Copy:
         return made.digest()
 
     def looks_other(self):
-        """Twice, because the pictures of the unchanged tree differed once."""
+        """True if the pictures differ from those of the unchanged tree, both times that they are taken."""
         return self.unchanged_pictures is not None and all(self.pictures() != self.unchanged_pictures for _ in range(2))
 
 
@@ -201,6 +201,8 @@ def main():
             sys.exit("The tests of the unchanged tree fail.")
         for copy in copies:
             copy.unchanged_pictures = copy.pictures() if folder.startswith("ui") else None
+            if copy.unchanged_pictures is not None and not (copy.path / "build/site/pictures/light/about.png").exists():
+                sys.exit("The pictures of the unchanged tree cannot be taken.")
             if copy.looks_other():
                 sys.exit("The pictures of the unchanged tree differ from run to run.")
         offered = [(source, at, text) for source in sources for at, text in places_of(top / source)]

@@ -67,7 +67,10 @@ TEST_F(AdviceBarTest, TheActionShowsTheAlarmThatTheLineNames) {
   screen_.Pick("ComboALM(1)", 0);
   screen_.Pick("ComboALM(0)", 2);
   screen_.Pick("ComboALM(1)", 5);
+  screen_.Pick("ComboALM(0)", 0);
   EXPECT_NE(Words().find("alarm 3 (5)"), std::string::npos) << Words();
+  screen_.Click("AdviceAction");
+  EXPECT_EQ(screen_.App().frmMain.ComboALM[0].position, 2);
 }
 
 // What the new program opens is part of the session "broken_transfers".
