@@ -10,6 +10,7 @@
 #include <QScrollBar>
 #include <QSet>
 #include <QTreeView>
+#include <QTreeWidget>
 #include <array>
 #include <ostream>
 #include <set>
@@ -296,6 +297,20 @@ TEST_F(ScreenTest, AKeyScrollsToTheListThatItOpens) {
   EXPECT_TRUE(list.view()->isVisible());
   EXPECT_EQ(list.visibleRegion().boundingRect(), list.rect());
   list.hidePopup();
+}
+
+TEST_F(ScreenTest, TheCursorOfAnOverviewReturnsToTheLineOfTheTab) {
+  Main().activateWindow();
+  auto& overview = Find<QTreeWidget>("ExceptionOverview");
+  for (const int chosen : {3, 0}) {
+    Main().Tabs().setCurrentIndex(kExceptionTab);
+    Pick("ComboExcp(0)", chosen);
+    overview.setFocus();
+    for (int step = 0; step < 2; ++step) Press(overview, Qt::Key_Down);
+    EXPECT_EQ(overview.indexOfTopLevelItem(overview.currentItem()), chosen + 2);
+    Find("ComboExcp(0)").setFocus();
+    EXPECT_EQ(overview.indexOfTopLevelItem(overview.currentItem()), chosen);
+  }
 }
 
 }  // namespace

@@ -110,5 +110,24 @@ TEST_F(TextActsTest, AFileIsComparedInTheWindowOfTheChanges) {
   EXPECT_EQ(Note("StatusFile"), "Not compared: noise.bin is not a configuration of V1400R12");
 }
 
+TEST_F(TextActsTest, NoDialogOpensWhileAnotherWindowBlocksTheMainWindow) {
+  int dialogs = 0;
+  QTimer closing;
+  closing.callOnTimeout([&] {
+    auto* dialog = QApplication::activeModalWidget();
+    if (dialog == nullptr) return;
+    ++dialogs;
+    dialog->close();
+  });
+  closing.start(1);
+  for (const bool enabled : {true, false}) {
+    App().frmMain.form.enabled = enabled;
+    for (const char* item : {"menuExport", "menuImport", "menuCompare", "menuBackup"}) {
+      Find<QAction>(item).trigger();
+      EXPECT_EQ(std::exchange(dialogs, 0), enabled ? 1 : 0) << item;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace ovl::testing
