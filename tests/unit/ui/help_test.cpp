@@ -16,6 +16,7 @@
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTimer>
+#include <map>
 
 #include "core/messages.h"
 #include "image/field_map.h"
@@ -106,19 +107,27 @@ TEST_F(HelpPagesTest, NameEveryMenuItemUnderItsMenuAndEveryShortcut) {
   }
 }
 
-TEST_F(HelpPagesTest, NameNoKeyThatNothingHas) {
+TEST_F(HelpPagesTest, SayForEachKeyWhatItDoes) {
   Screen screen;
-  QStringList shortcuts;
-  for (const auto* shortcut : screen.Main().findChildren<QShortcut*>())
-    shortcuts.append(shortcut->key().toString());
+  std::map<QString, QString> items;
+  for (const auto* shortcut : screen.Main().findChildren<QShortcut*>()) items[shortcut->key().toString()];
   for (const auto* item : screen.Main().findChildren<QAction*>())
-    shortcuts.append(item->shortcut().toString());
-  static const QRegularExpression kLetter("Ctrl\\+(Shift\\+)?[A-Z]\\b");
-  const auto keys = pages_.Text("main_form.md").section("\n## Keys\n", 1);
-  for (auto match = kLetter.globalMatch(keys); match.hasNext();) {
-    const auto key = match.next().captured();
-    EXPECT_TRUE(shortcuts.contains(key)) << key.toStdString();
+    items[item->shortcut().toString()] = item->text().remove('&').remove("...");
+  const auto table = pages_.Text("main_form.md").section("\n## Keys\n", 1).section("\n\n", 0, 0);
+  static const QRegularExpression kKey("(Ctrl\\+(Shift\\+)?[A-Z]|Alt\\+[0-9]|F[0-9])$");
+  int compared = 0;
+  for (const auto& row : table.split('\n')) {
+    const auto keys = row.section(" | ", 0, 0).mid(2).split(QRegularExpression(", | to "));
+    const auto acts = row.section(" | ", 1).remove(" |").split(", ");
+    for (qsizetype at = 0; at < keys.size(); ++at) {
+      if (!kKey.match(keys[at]).hasMatch()) continue;
+      EXPECT_TRUE(items.contains(keys[at])) << keys[at].toStdString();
+      if (keys.size() != acts.size() || keys.size() == 1) continue;
+      EXPECT_EQ(items[keys[at]], acts[at]) << keys[at].toStdString();
+      ++compared;
+    }
   }
+  EXPECT_EQ(compared, 12);
 }
 
 TEST_F(HelpPagesTest, HaveARowForEveryFieldWithItsPlaceAndEditor) {
