@@ -11,7 +11,6 @@
 #include <utility>
 #include <vector>
 
-#include "core/actions.h"
 #include "host/text_codec.h"
 #include "ui/kit/box_layouts.h"
 #include "ui/kit/icons.h"
@@ -145,7 +144,7 @@ QWidget* Progress(Bindings& bindings) {
       [passed, directions, &app = bindings.Model(), shown = ChangeDetector<QString>()]() mutable {
         const auto text = TransferProgressText(app);
         if (shown.Update(text)) passed->setText(text);
-        const bool stopped = core::LostDevice(app) != nullptr || !app.frmMain.MSComm1.PortOpen;
+        const bool stopped = TransferStopped(app);
         for (std::size_t at = 0; at < directions.size(); ++at)
           directions[at]->setVisible(app.frmMain.Label64[at].visible && !stopped);
         return false;

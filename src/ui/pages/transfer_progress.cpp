@@ -60,10 +60,14 @@ QString TimeText(std::size_t milliseconds) {
 
 }  // namespace
 
+bool TransferStopped(const core::Application& app) {
+  return core::LostDevice(app) != nullptr || !app.frmMain.MSComm1.PortOpen;
+}
+
 QString TransferProgressText(const core::Application& app) {
   if (!app.frmMain.vbalProgressBar1.visible) return {};
   const auto progress = app.LinkMode == core::kLinkDownload ? DownloadProgress(app) : UploadProgress(app);
-  const bool stopped = core::LostDevice(app) != nullptr || !app.frmMain.MSComm1.PortOpen;
+  const bool stopped = TransferStopped(app);
   if (progress.done == 0)
     return stopped ? QString() : QCoreApplication::translate("TransferProgress", "waiting for the unit");
   const auto done = QLocale(QCoreApplication::translate("TransferProgress", "en",

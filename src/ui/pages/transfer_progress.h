@@ -13,4 +13,8 @@ namespace ovl::ui {
 // the baud rate of the port, so the unit never needs less.
 QString TransferProgressText(const core::Application& app);
 
+// Whether nothing is sent or received any more, although the model still shows the transfer. The window then
+// hides its direction.
+bool TransferStopped(const core::Application& app);
+
 }  // namespace ovl::ui

@@ -8,6 +8,7 @@
 
 #include "host/text_codec.h"
 #include "ui/kit/widgets.h"
+#include "ui/pages/transfer_progress.h"
 
 namespace ovl::testing {
 namespace {
@@ -92,13 +93,15 @@ struct Compared {
   }
 };
 
-std::string StateOf(const QWidget& widget, const controls::NamedControl& control) {
+std::string StateOf(const QWidget& widget, const controls::NamedControl& control, bool transfer_stopped) {
   const auto& state = controls::StateOf(control.control);
   const auto* element = std::get_if<controls::OptionElement>(&control.control);
   const bool enabled = state.enabled && (element == nullptr || element->array->enabled);
   const bool visible = state.visible && (element == nullptr || element->array->visible);
   if (widget.isVisible() && !visible) return "is on the screen, the model hides it";
-  if (visible && widget.parentWidget() != nullptr && widget.parentWidget()->isVisible() && widget.isHidden())
+  const bool hides_direction = transfer_stopped && control.name.starts_with("Label64(");
+  if (visible && !hides_direction && widget.parentWidget() != nullptr && widget.parentWidget()->isVisible() &&
+      widget.isHidden())
     return "is hidden, the model shows it";
   const bool is_picture_of_list =
       std::holds_alternative<controls::TextBox*>(control.control) && IsOne<QComboBox>(&widget);
@@ -134,7 +137,7 @@ std::string WrongControl(Screen& screen) {
         names.contains(QString::fromStdString(control.name)))
       return control.name + ": does not follow the model";
     if (widget == nullptr) continue;
-    auto wrong = StateOf(*widget, control);
+    auto wrong = StateOf(*widget, control, ui::TransferStopped(screen.App()));
     if (wrong.empty() && widget->isVisible()) wrong = std::visit(Compared{*widget}, control.control);
     if (!wrong.empty()) return control.form->name + "." + control.name + ": " + wrong;
   }
