@@ -13,11 +13,21 @@
 namespace ovl::testing {
 namespace {
 
+std::string NameOf(const QWidget& widget) {
+  if (!widget.objectName().isEmpty()) return widget.objectName().toStdString();
+  const auto* button = qobject_cast<const QAbstractButton*>(&widget);
+  const bool has_words = button != nullptr && !button->text().isEmpty();
+  return has_words ? button->text().toStdString() : std::string(widget.metaObject()->className());
+}
+
+// Qt has the windows in a hash table, so their order differs from start to start.
 std::vector<QWidget*> VisibleWindows() {
   std::vector<QWidget*> windows;
   for (auto* window : QApplication::topLevelWidgets()) {
     if (window->isVisible() && window->windowType() != Qt::ToolTip) windows.push_back(window);
   }
+  std::ranges::sort(windows, {},
+                    [](const QWidget* window) { return std::pair(NameOf(*window), window->windowTitle()); });
   return windows;
 }
 
@@ -46,23 +56,27 @@ QWidget* AnyWidget(Random& random) {
   return random.Any(widgets);
 }
 
-std::string NameOf(const QWidget& widget) {
-  if (!widget.objectName().isEmpty()) return widget.objectName().toStdString();
-  const auto* button = qobject_cast<const QAbstractButton*>(&widget);
-  const bool has_words = button != nullptr && !button->text().isEmpty();
-  return has_words ? button->text().toStdString() : std::string(widget.metaObject()->className());
+QPoint AnyPoint(Random& random, const QWidget* widget) {
+  if (widget == nullptr) return {};
+  return {random.Below(std::max(widget->width(), 1)), random.Below(std::max(widget->height(), 1))};
 }
 
-QPoint AnyPoint(Random& random, const QWidget& widget) {
-  return {random.Below(std::max(widget.width(), 1)), random.Below(std::max(widget.height(), 1))};
+// Only a press of the system itself activates the window and gives the focus. If the window were not active,
+// Qt would all the same give the focus to its widget. Returns false if the widget cannot be pressed any more.
+bool GiveFocus(const QPointer<QWidget>& widget) {
+  if (QApplication::activePopupWidget() == nullptr) {
+    widget->window()->activateWindow();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  }
+  if (widget == nullptr || !widget->isVisible() || !widget->isEnabled()) return false;
+  if (widget->focusPolicy() & Qt::ClickFocus) widget->setFocus(Qt::MouseFocusReason);
+  return true;
 }
 
-// Only a press of the system itself gives the focus.
-void GiveFocus(QWidget& widget) {
-  if (widget.focusPolicy() & Qt::ClickFocus) widget.setFocus(Qt::MouseFocusReason);
-}
-
-void SendMouse(QWidget* widget, QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons held) {
+// Does nothing if an earlier event has deleted the widget.
+void SendMouse(const QPointer<QWidget>& widget, QEvent::Type type, QPoint at, Qt::MouseButton button,
+               Qt::MouseButtons held) {
+  if (widget == nullptr) return;
   QMouseEvent event(type, at, widget->mapToGlobal(at), button, held, Qt::NoModifier);
   QApplication::sendEvent(widget, &event);
 }
@@ -70,13 +84,13 @@ void SendMouse(QWidget* widget, QEvent::Type type, QPoint at, Qt::MouseButton bu
 std::string ClickSomewhere(Site&, Random& random) {
   const QPointer<QWidget> widget = AnyWidget(random);
   if (widget == nullptr) return {};
-  const auto at = AnyPoint(random, *widget);
+  const auto at = AnyPoint(random, widget);
   const auto words =
       "click " + NameOf(*widget) + " at " + std::to_string(at.x()) + "," + std::to_string(at.y());
   const auto press = random.OneOf(8) ? QEvent::MouseButtonDblClick : QEvent::MouseButtonPress;
-  GiveFocus(*widget);
+  if (!GiveFocus(widget)) return words;
   SendMouse(widget, press, at, Qt::LeftButton, Qt::LeftButton);
-  if (widget != nullptr) SendMouse(widget, QEvent::MouseButtonRelease, at, Qt::LeftButton, Qt::NoButton);
+  SendMouse(widget, QEvent::MouseButtonRelease, at, Qt::LeftButton, Qt::NoButton);
   return words;
 }
 
@@ -84,12 +98,11 @@ std::string Drag(Site&, Random& random) {
   const QPointer<QWidget> widget = AnyWidget(random);
   if (widget == nullptr) return {};
   const auto words = "drag in " + NameOf(*widget);
-  GiveFocus(*widget);
-  SendMouse(widget, QEvent::MouseButtonPress, AnyPoint(random, *widget), Qt::LeftButton, Qt::LeftButton);
-  for (int move = 0; move < 3 && widget != nullptr; ++move)
-    SendMouse(widget, QEvent::MouseMove, AnyPoint(random, *widget), Qt::NoButton, Qt::LeftButton);
-  if (widget != nullptr)
-    SendMouse(widget, QEvent::MouseButtonRelease, AnyPoint(random, *widget), Qt::LeftButton, Qt::NoButton);
+  if (!GiveFocus(widget)) return words;
+  SendMouse(widget, QEvent::MouseButtonPress, AnyPoint(random, widget), Qt::LeftButton, Qt::LeftButton);
+  for (int move = 0; move < 3; ++move)
+    SendMouse(widget, QEvent::MouseMove, AnyPoint(random, widget), Qt::NoButton, Qt::LeftButton);
+  SendMouse(widget, QEvent::MouseButtonRelease, AnyPoint(random, widget), Qt::LeftButton, Qt::NoButton);
   return words;
 }
 
@@ -130,7 +143,7 @@ std::string PressKey(Site&, Random& random) {
 std::string Wheel(Site&, Random& random) {
   auto* widget = AnyWidget(random);
   if (widget == nullptr) return {};
-  const auto at = AnyPoint(random, *widget);
+  const auto at = AnyPoint(random, widget);
   QWheelEvent event(at, widget->mapToGlobal(at), {}, {0, random.OneOf(2) ? 120 : -120}, Qt::NoButton,
                     Qt::NoModifier, Qt::NoScrollPhase, false);
   const auto words = "wheel over " + NameOf(*widget);
