@@ -156,8 +156,9 @@ class Count:
 
     def report(self):
         share, seen = (100 * number / max(self.tried, 1) for number in (self.noticed, self.noticed + self.pictured))
+        pictures = f"with {self.pictured} only in pictures {seen:5.1f} %; " if self.folder.startswith("ui") else ""
         print(f"{self.folder:10} {self.noticed:4} of {self.tried:4} noticed, {share:5.1f} %; "
-              f"with {self.pictured} only in pictures {seen:5.1f} %; {self.same} more compile to the same code", flush=True)
+              f"{pictures}{self.same} more compile to the same code", flush=True)
 
 
 def work(copy, steps, count):
