@@ -1,7 +1,6 @@
 #include "ui/dialogs/form_window.h"
 
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
@@ -33,12 +32,7 @@ FormWindow::FormWindow(Bindings& bindings, controls::Form& form, QWidget* parent
     : QDialog(parent), bindings_(bindings), form_(form) {
   setObjectName(host::FromWindows1252(form.name));
   setModal(false);
-  StayOnScreen(*this);
-  for (auto* screen : QGuiApplication::screens()) {
-    connect(screen, &QScreen::availableGeometryChanged, this, [this] {
-      if (isVisible()) ScrollIfTooLarge();
-    });
-  }
+  StayOnScreen(*this, [this] { ScrollIfTooLarge(); });
   bindings_.OnRefresh([this, caption = ChangeDetector<std::string>()]() mutable {
     if (caption.Update(form_.caption)) setWindowTitle(TitleOf(bindings_.Model(), form_));
     if (enabled_.Update(form_.enabled)) setEnabled(form_.enabled);

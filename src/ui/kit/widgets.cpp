@@ -304,7 +304,8 @@ namespace {
 
 class ScreenKeeper : public QObject {
  public:
-  explicit ScreenKeeper(QWidget& window) : QObject(&window), window_(window) {
+  ScreenKeeper(QWidget& window, std::function<void()> room_changed)
+      : QObject(&window), window_(window), room_changed_(std::move(room_changed)) {
     window.installEventFilter(this);
   }
 
@@ -313,11 +314,18 @@ class ScreenKeeper : public QObject {
     if (event->type() != QEvent::Show) return false;
     Keep();
     for (auto* screen : QGuiApplication::screens())
-      connect(screen, &QScreen::availableGeometryChanged, this, &ScreenKeeper::Keep, Qt::UniqueConnection);
+      connect(screen, &QScreen::availableGeometryChanged, this, &ScreenKeeper::OnRoomChanged,
+              Qt::UniqueConnection);
     return false;
   }
 
  private:
+  void OnRoomChanged() {
+    if (!window_.isVisible()) return;
+    if (room_changed_) room_changed_();
+    Keep();
+  }
+
   void Keep() {
     if (!window_.isVisible()) return;
     window_.resize(window_.size().boundedTo(RoomOnScreen(window_)));
@@ -329,6 +337,7 @@ class ScreenKeeper : public QObject {
   }
 
   QWidget& window_;
+  std::function<void()> room_changed_;
 };
 
 }  // namespace
@@ -337,8 +346,8 @@ QSize RoomOnScreen(const QWidget& window) {
   return window.screen()->availableSize() - (window.frameGeometry().size() - window.size());
 }
 
-void StayOnScreen(QWidget& window) {
-  new ScreenKeeper(window);
+void StayOnScreen(QWidget& window, std::function<void()> room_changed) {
+  new ScreenKeeper(window, std::move(room_changed));
 }
 
 void MoveAside(QWidget& window, const QRect& shown) {

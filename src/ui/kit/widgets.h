@@ -113,8 +113,9 @@ class TextLine : public QLineEdit {
 QSize RoomOnScreen(const QWidget& window);
 
 // From now on a window that shows, grows or loses a part of its screen moves back onto the screen. It becomes
-// smaller where the screen is.
-void StayOnScreen(QWidget& window);
+// smaller where the screen is. If the room on a screen changes while the window is visible, `room_changed` is
+// called before the window moves.
+void StayOnScreen(QWidget& window, std::function<void()> room_changed = {});
 
 // Moves a window that covers a part of the screen beside it. Stays where it is if there is no room.
 void MoveAside(QWidget& window, const QRect& shown);
