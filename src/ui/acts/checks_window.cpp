@@ -107,7 +107,6 @@ void ChecksWindow::ShowCount() {
   button_->setText(only_notes ? WordsOf({{count.notes, checks::Severity::kNote}})
                               : WordsOf({{count.errors, checks::Severity::kError},
                                          {count.warnings, checks::Severity::kWarning}}));
-  button_->setAccessibleName(button_->text());
   button_->setVisible(!findings_.empty());
 }
 

@@ -98,7 +98,6 @@ QPushButton* BuildChangesButton(Bindings& bindings, ChangesWindow& window) {
     const auto rows = changes::ReadableChanges(app);
     button->setText(
         QCoreApplication::translate("ChangesWindow", "%1 changed", "\"3 settings\"").arg(CountText(rows)));
-    button->setAccessibleName(button->text());
     const bool comes_or_goes = button->isHidden() != rows.empty();
     button->setVisible(!rows.empty());
     return comes_or_goes;
