@@ -260,9 +260,14 @@ TEST(LatePages, AreBuiltWhenTheyAreShownAndTheStatusBarIsTheLastStop) {
   EXPECT_TRUE(list.isVisible());
   EXPECT_GT(list.count(), 1);
   screen.Pick("ComboTD(2)", list.currentIndex() == 0 ? 1 : 0);
+  screen.Pick("ComboTD(5)", 1);
+  screen.Main().Checks().CheckNow();
   screen.Find("ComboLang").setFocus();
   Screen::Press(*screen.Main().focusWidget(), Qt::Key_Tab);
   EXPECT_EQ(screen.Focus(), "StatusChanges");
+  Screen::Press(*screen.Main().focusWidget(), Qt::Key_Tab);
+  EXPECT_EQ(screen.Focus(), "StatusChecks");
+  EXPECT_LT(screen.Find("StatusChanges").x(), screen.Find("StatusChecks").x());
 }
 
 TEST(LatePages, GiveTheFocusToAControlThatIsShown) {
@@ -299,6 +304,18 @@ TEST_F(ScreenTest, AKeyScrollsToTheListThatItOpens) {
   list.hidePopup();
 }
 
+TEST_F(ScreenTest, AnOpenListHasTenEntriesAsTallAsItsField) {
+  Click("CheckTD");
+  Main().Tabs().setCurrentIndex(kRemoteTab);
+  auto& list = Find<QComboBox>("ComboMin");
+  list.showPopup();
+  Show();
+  const auto& view = *list.view();
+  EXPECT_GE(view.sizeHintForRow(0), list.height());
+  EXPECT_EQ(view.viewport()->height() / view.sizeHintForRow(0), 10);
+  list.hidePopup();
+}
+
 TEST_F(ScreenTest, TheCursorOfAnOverviewReturnsToTheLineOfTheTab) {
   Main().activateWindow();
   auto& overview = Find<QTreeWidget>("ExceptionOverview");
@@ -308,6 +325,8 @@ TEST_F(ScreenTest, TheCursorOfAnOverviewReturnsToTheLineOfTheTab) {
     overview.setFocus();
     for (int step = 0; step < 2; ++step) Press(overview, Qt::Key_Down);
     EXPECT_EQ(overview.indexOfTopLevelItem(overview.currentItem()), chosen + 2);
+    Press(overview, Qt::Key_Plus, "+");
+    EXPECT_FALSE(overview.currentItem()->isExpanded()) << "a screen reader would say so";
     Find("ComboExcp(0)").setFocus();
     EXPECT_EQ(overview.indexOfTopLevelItem(overview.currentItem()), chosen);
   }

@@ -1,5 +1,4 @@
 // The windows show the model, and what a user does in them reaches it.
-#include <QAbstractItemView>
 #include <QAction>
 #include <QDeadlineTimer>
 #include <QImage>
@@ -133,15 +132,6 @@ TEST_F(WindowsTest, FormsFollowTheModelAndArrowsMoveThroughTheirOptions) {
   Find("cmdDisConnect").setFocus();
   Keys({Qt::Key_Return});
   EXPECT_EQ(Focus(), "cmdConnect");
-}
-
-TEST_F(WindowsTest, TheEntriesOfAnOpenListAreAsTallAsItsField) {
-  Main().Tabs().setCurrentIndex(kLineTab);
-  auto& list = Find<QComboBox>("ComboCOMM(1)");
-  list.showPopup();
-  Show();
-  EXPECT_GE(list.view()->sizeHintForRow(0), list.height());
-  list.hidePopup();
 }
 
 TEST_F(WindowsTest, ATransferShowsItsProgressAndItsEndStaysUntilItIsConfirmed) {
