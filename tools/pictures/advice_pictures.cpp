@@ -103,6 +103,9 @@ class AdviceStates {
     Hold();
     Press(controls::kUpload);
     port_.SendCharacters(static_cast<int>(App().UploadCommandText.size()));
+    // The program shows the beginning of an upload when it has the time. Here that would depend on the
+    // machine.
+    program_.RefreshNow();
     port_.ReceiveFromUnit(stream);
   }
 
