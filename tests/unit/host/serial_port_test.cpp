@@ -1,18 +1,11 @@
 #include "host/serial_port.h"
 
-#include <asm/termbits.h>
-#include <fcntl.h>
-#include <gtest/gtest.h>
-#include <sys/ioctl.h>
-#include <unistd.h>
-
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <functional>
@@ -21,57 +14,12 @@
 #include <utility>
 #include <variant>
 
-#include "host/system/line.h"
+#include "pseudo_terminal.h"
 
 namespace ovl {
 namespace {
 
 using namespace std::string_literals;
-
-// The master of a pseudo-terminal plays the unit.
-class PseudoTerminal {
- public:
-  PseudoTerminal() : master_(::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK)) {
-    EXPECT_TRUE(::grantpt(master_) == 0 && ::unlockpt(master_) == 0);
-    device_ = ::ptsname(master_);
-  }
-  ~PseudoTerminal() { HangUp(); }
-  PseudoTerminal(PseudoTerminal&&) = delete;
-
-  const std::string& Device() const { return device_; }
-  void HangUp() { ::close(std::exchange(master_, -1)); }
-
-  void Send(std::string_view bytes) const {
-    EXPECT_EQ(::write(master_, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
-  }
-  // A pseudo-terminal has no parity errors. When its driver marks none, the test can send the marks itself.
-  void SendRaw(std::string_view bytes) const {
-    auto settings = Settings();
-    settings.c_iflag &= ~static_cast<tcflag_t>(PARMRK);
-    EXPECT_EQ(::ioctl(master_, TCSETS2, &settings), 0);
-    Send(bytes);
-  }
-  std::string Receive() const {
-    std::array<char, 4096> bytes = {};
-    const auto count = ::read(master_, bytes.data(), bytes.size());
-    return count > 0 ? std::string(bytes.data(), static_cast<std::size_t>(count)) : std::string();
-  }
-
-  unsigned Speed() const { return Settings().c_ospeed; }
-  bool MarksParityErrors() const {
-    return (Settings().c_iflag & (PARMRK | INPCK | IGNPAR)) == (PARMRK | INPCK);
-  }
-
- private:
-  struct termios2 Settings() const {
-    struct termios2 settings {};
-    EXPECT_EQ(::ioctl(master_, TCGETS2, &settings), 0);
-    return settings;
-  }
-
-  int master_;
-  std::string device_;
-};
 
 // Runs the event loop until the condition holds. Returns false if it takes too long.
 bool RunUntil(const std::function<bool()>& condition, int patience = 10'000) {
@@ -236,6 +184,13 @@ TEST_F(SerialPortTest, AStreamIsSentByCharactersAndNoneIsLostIfTheyAreNotRead) {
   EXPECT_TRUE(arrives(stream + "end"));
 }
 
+TEST_F(SerialPortTest, ATickComesAfterTheCharactersThatTheSystemHolds) {
+  Open();
+  terminal_.Send("ab");
+  port_->DeliverPending();
+  EXPECT_EQ(told_, "ab");
+}
+
 TEST_F(SerialPortTest, ClosingDropsPendingEvents) {
   Open();
   EXPECT_TRUE(line_.write("x").Ok());
@@ -340,15 +295,6 @@ TEST_F(SerialPortTest, ALossInTheMiddleOfAWriteEndsTheWrite) {
   EXPECT_TRUE(ValueDisplay("<drained>"));
   EXPECT_TRUE(BecomesIdle());
   EXPECT_EQ(line_.write("y").Problem().Text(), terminal_.Device() + ": No such device");
-}
-
-TEST(Line, ALostDeviceIsAnErrorAndNoEmptyTransmitter) {
-  PseudoTerminal terminal;
-  const int line = ::open(terminal.Device().c_str(), O_RDWR | O_NOCTTY);
-  EXPECT_EQ(host::WaitingCharacters(line).error, 0);
-  terminal.HangUp();
-  EXPECT_EQ(host::WaitingCharacters(line).error, EIO);
-  ::close(line);
 }
 
 // The loop has seen the character, and Qt finds none and takes the reason of an earlier call for its own.
