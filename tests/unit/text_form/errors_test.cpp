@@ -321,6 +321,9 @@ TEST_F(TextForm, EveryErrorHasItsPlaceAndWhatIsAllowed) {
   std::string name = "a";
   for (int part = 0; part < 30'000; ++part) name += ".a";
   EXPECT_EQ(ProblemsIn("format = 1\n" + name + " = 1"), "2:1 the line has too many points\n");
+  const auto longest = "format = 1\n#" + std::string(999'988, ' ');
+  EXPECT_EQ(ProblemsIn(longest), "");
+  EXPECT_EQ(ProblemsIn(longest + ' '), "1:1 the file is too large for a text form\n");
   std::string fields = "format = 1\n['Other bytes']\n";
   for (int field = 0; field < 1500; ++field) fields += "X" + std::to_string(field) + " = '00'\n";
   const auto many = Read(fields).problems;
