@@ -9,11 +9,19 @@
 
 #include <array>
 #include <cstdlib>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
 
 namespace ovl {
+
+// What the driver of a line answers instead of that of a pseudo-terminal.
+struct Driver {
+  std::optional<int> waiting_characters;
+  std::optional<unsigned> speed;
+};
+extern Driver driver;
 
 // The master of a pseudo-terminal plays the unit.
 class PseudoTerminal {

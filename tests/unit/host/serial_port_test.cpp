@@ -64,6 +64,7 @@ class SerialPortTest : public testing::Test {
     port_.emplace(folder_.path(), [this](const core::Event& event) { return Take(event); });
     line_ = port_->Operations();
   }
+  ~SerialPortTest() override { driver = {}; }
 
   void Link(int number, const std::string& target) const {
     QDir(folder_.path()).mkpath("ports");
@@ -117,6 +118,16 @@ TEST_F(SerialPortTest, OpeningSetsTheSpeed) {
   }
   Open("9600,N,8,1");
   EXPECT_FALSE(terminal_.MarksParityErrors());
+}
+
+TEST_F(SerialPortTest, ADriverMayRoundTheSpeedByThreePercent) {
+  for (const auto& [speed, is_close] :
+       {std::pair(9880U, true), {9320U, true}, {9900U, false}, {9300U, false}}) {
+    driver.speed = speed;
+    EXPECT_EQ(line_.open({1, "9600,N,8,1"}).Ok(), is_close) << speed;
+  }
+  EXPECT_EQ(port_->LastProblem(),
+            QString("Comport 1, %1: Invalid argument.").arg(terminal_.Device().c_str()));
 }
 
 TEST_F(SerialPortTest, AFailedOpeningHasTheReasonOfTheSystem) {
@@ -189,6 +200,28 @@ TEST_F(SerialPortTest, ATickComesAfterTheCharactersThatTheSystemHolds) {
   terminal_.Send("ab");
   port_->DeliverPending();
   EXPECT_EQ(told_, "ab");
+}
+
+TEST_F(SerialPortTest, ACharacterThatWasReadEarlierHasNoEvent) {
+  Open();
+  SendWhileBusy("abcd");
+  offers_ = 0;
+  on_told_ = [&](const std::string&) { line_.read(); };
+  Resume();
+  EXPECT_TRUE(ValueDisplay("ac"));
+  EXPECT_TRUE(BecomesIdle());
+  EXPECT_EQ(offers_, 2);
+}
+
+TEST_F(SerialPortTest, ACharacterIsSentWhenTheDriverHoldsItNoMore) {
+  Open();
+  driver.waiting_characters = 1;
+  EXPECT_TRUE(line_.write("x").Ok());
+  RunForAWhile();
+  EXPECT_EQ(told_, "");
+  EXPECT_TRUE(BecomesIdle()) << "the program waits without using a core";
+  driver.waiting_characters.reset();
+  EXPECT_TRUE(ValueDisplay("<drained>"));
 }
 
 TEST_F(SerialPortTest, ClosingDropsPendingEvents) {
