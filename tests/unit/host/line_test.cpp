@@ -49,5 +49,18 @@ TEST_F(Line, APresetChangesNoCharacterAndEchoesNone) {
   EXPECT_EQ(terminal_.Receive(), "a\nb");
 }
 
+// A pseudo-terminal itself always has 8 bits and no parity.
+TEST_F(Line, APresetAsksForTheBitsAndTheParity) {
+  struct Row {
+    int bits;
+    char parity;
+    tcflag_t flags;
+  };
+  for (const auto& row : {Row{8, 'N', CS8}, {7, 'O', CS7 | PARENB | PARODD}, {8, 'E', CS8 | PARENB}}) {
+    const host::LinePreset preset(QString::fromStdString(terminal_.Device()), 9600, row.bits, row.parity);
+    EXPECT_EQ(driver.asked & (CSIZE | PARENB | PARODD), row.flags) << row.parity;
+  }
+}
+
 }  // namespace
 }  // namespace ovl

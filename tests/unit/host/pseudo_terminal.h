@@ -16,8 +16,9 @@
 
 namespace ovl {
 
-// What the driver of a line answers instead of that of a pseudo-terminal.
+// What the driver of a line answers instead of that of a pseudo-terminal, and what it was asked for last.
 struct Driver {
+  tcflag_t asked = 0;
   std::optional<int> waiting_characters;
   std::optional<unsigned> speed;
 };

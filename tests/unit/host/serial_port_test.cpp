@@ -112,7 +112,7 @@ class SerialPortTest : public testing::Test {
 
 TEST_F(SerialPortTest, OpeningSetsTheSpeed) {
   for (const char* speed : {"1200", "14400", "28800", "115200"}) {
-    Open(speed + ",E,7,1"s);
+    Open(speed + ",O,7,1"s);
     EXPECT_EQ(std::to_string(terminal_.Speed()), speed);
     EXPECT_TRUE(terminal_.MarksParityErrors());
   }
