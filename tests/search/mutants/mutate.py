@@ -11,6 +11,7 @@ test program fails. The others are printed with their place. For a change in "ui
 the pictures of all windows with those of the unchanged tree. A change of the pictures alone counts separately: it is found
 when somebody compares two builds, not by ./test."""
 import argparse
+import contextlib
 import hashlib
 import json
 import os
@@ -19,6 +20,7 @@ import queue
 import random
 import re
 import shutil
+import signal
 import subprocess
 import sys
 import threading
@@ -87,12 +89,18 @@ class Copy:
         self.commands = {pathlib.Path(command["file"]).relative_to(self.path): command["command"] for command in commands}
 
     def run(self, *words, seconds=600):
+        # A change can make a program endless. It ends with this script, if this is killed as well.
+        process = subprocess.Popen(["setpriv", "--pdeathsig", "KILL", *words], cwd=self.path, env=self.environment,
+                                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, start_new_session=True)
         try:
-            # A change can make a program endless. It ends with this script; what ctest starts does not.
-            return subprocess.run(["setpriv", "--pdeathsig", "KILL", *words], cwd=self.path, env=self.environment,
-                                  stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=seconds).returncode
+            return process.wait(timeout=seconds)
         except subprocess.TimeoutExpired:
             return "late"
+        finally:
+            # The processes that it started.
+            with contextlib.suppress(ProcessLookupError):
+                os.killpg(process.pid, signal.SIGKILL)
+            process.wait()
 
     def build(self, *targets, seconds=600):
         return self.run("ninja", "-C", "build", *targets, seconds=seconds) == 0
