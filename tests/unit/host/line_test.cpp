@@ -32,7 +32,7 @@ TEST_F(Line, ADriverThatCannotCountCharactersIsNoLoss) {
 
 TEST_F(Line, IsAliveUntilNothingCanBeReadAnyMore) {
   EXPECT_TRUE(host::LineAlive(line_));
-  host::LinePreset raw(QString::fromStdString(terminal_.Device()), 9600, 8, 'N');
+  const host::LinePreset preset(QString::fromStdString(terminal_.Device()), 9600, 8, 'N');
   terminal_.Send("a");
   EXPECT_TRUE(host::LineAlive(line_)) << "a character waits";
   terminal_.HangUp();
@@ -43,6 +43,9 @@ TEST_F(Line, APresetChangesNoCharacterAndEchoesNone) {
   const host::LinePreset preset(QString::fromStdString(terminal_.Device()), 14400, 8, 'N');
   EXPECT_EQ(terminal_.Speed(), 14400U);
   terminal_.Send("\x03\r");
+  std::array<char, 3> received = {};
+  EXPECT_EQ(::read(line_, received.data(), received.size()), 2);
+  EXPECT_STREQ(received.data(), "\x03\r");
   EXPECT_EQ(terminal_.Receive(), "") << "an echo would answer the unit";
   const auto taken = host::WriteAtOnce(line_, "a\nb");
   EXPECT_EQ(taken.taken, 3U);
@@ -58,7 +61,7 @@ TEST_F(Line, APresetAsksForTheBitsAndTheParity) {
   };
   for (const auto& row : {Row{8, 'N', CS8}, {7, 'O', CS7 | PARENB | PARODD}, {8, 'E', CS8 | PARENB}}) {
     const host::LinePreset preset(QString::fromStdString(terminal_.Device()), 9600, row.bits, row.parity);
-    EXPECT_EQ(driver.asked & (CSIZE | PARENB | PARODD), row.flags) << row.parity;
+    EXPECT_EQ(driver.asked_flags & (CSIZE | PARENB | PARODD), row.flags) << row.parity;
   }
 }
 

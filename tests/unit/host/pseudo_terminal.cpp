@@ -17,7 +17,7 @@ extern "C" int ioctl(int line, unsigned long request, ...) noexcept {
   auto* argument = va_arg(arguments, void*);
   va_end(arguments);
   const auto status = static_cast<int>(::syscall(SYS_ioctl, line, request, argument));
-  if (request == TCSETS2) ovl::driver.asked = static_cast<struct termios2*>(argument)->c_cflag;
+  if (request == TCSETS2) ovl::driver.asked_flags = static_cast<struct termios2*>(argument)->c_cflag;
   if (request == TIOCOUTQ && ovl::driver.waiting_characters)
     *static_cast<int*>(argument) = *ovl::driver.waiting_characters;
   if (request == TCGETS2 && ovl::driver.speed)

@@ -16,9 +16,9 @@
 
 namespace ovl {
 
-// What the driver of a line answers instead of that of a pseudo-terminal, and what it was asked for last.
+// What the driver of a line answers instead of what a pseudo-terminal answers.
 struct Driver {
-  tcflag_t asked = 0;
+  tcflag_t asked_flags = 0;  // those of the last settings that it was given
   std::optional<int> waiting_characters;
   std::optional<unsigned> speed;
 };
@@ -53,17 +53,18 @@ class PseudoTerminal {
     return count > 0 ? std::string(bytes.data(), static_cast<std::size_t>(count)) : std::string();
   }
 
-  struct termios2 Settings() const {
-    struct termios2 settings {};
-    EXPECT_EQ(::ioctl(master_, TCGETS2, &settings), 0);
-    return settings;
-  }
   unsigned Speed() const { return Settings().c_ospeed; }
   bool MarksParityErrors() const {
     return (Settings().c_iflag & (PARMRK | INPCK | IGNPAR)) == (PARMRK | INPCK);
   }
 
  private:
+  struct termios2 Settings() const {
+    struct termios2 settings {};
+    EXPECT_EQ(::ioctl(master_, TCGETS2, &settings), 0);
+    return settings;
+  }
+
   int master_;
   std::string device_;
 };

@@ -7,7 +7,6 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <cerrno>
-#include <cstdlib>
 #include <functional>
 #include <optional>
 #include <string>
