@@ -71,8 +71,9 @@ TEST(TextCodec, ASystemTextIsReadAsUtf8IfItIsValid) {
 
 TEST(ParityMarks, TheCharactersDoNotDependOnHowTheReadsAreSplit) {
   using namespace std::string_literals;
-  const auto marked = "a\xFF\0b\xFF\xFF\xFF\0\xFF\xFF\0\0\0z\xFF\xFF\xFF\xFF?"s;
-  const auto expected = "a?\xFF??\0z\xFF\xFF?"s;
+  // The last FF is not doubled, as by some drivers.
+  const auto marked = "a\xFF\0b\xFF\xFF\xFF\0\xFF\xFF\0\0\0z\xFF\xFF\xFF\xFF?\xFFy"s;
+  const auto expected = "a?\xFF??\0z\xFF\xFF?\xFFy"s;
   for (std::size_t first = 0; first <= marked.size(); ++first) {
     for (std::size_t second = first; second <= marked.size(); ++second) {
       host::ParityMarks marks;
