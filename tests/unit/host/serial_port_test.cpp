@@ -73,6 +73,7 @@ class SerialPortTest : public testing::Test {
   core::Outcome Take(const core::Event& event) {
     ++offers_;
     if (busy_) return core::Outcome::kBusy;
+    if (std::exchange(refuses_, false)) return core::Outcome::kRefused;
     const auto now = std::holds_alternative<core::DrainedEvent>(event) ? "<drained>"s : line_.read();
     told_ += now;
     if (on_told_) on_told_(now);
@@ -106,6 +107,7 @@ class SerialPortTest : public testing::Test {
   std::string told_;
   int offers_ = 0;
   bool busy_ = false;
+  bool refuses_ = false;  // the next event
   std::function<void(const std::string&)> on_told_;
 };
 
@@ -210,6 +212,13 @@ TEST_F(SerialPortTest, ACharacterThatWasReadEarlierHasNoEvent) {
   EXPECT_TRUE(ValueDisplay("ac"));
   EXPECT_TRUE(BecomesIdle());
   EXPECT_EQ(offers_, 2);
+}
+
+TEST_F(SerialPortTest, ARefusedCharacterIsNotReadLater) {
+  Open();
+  refuses_ = true;
+  terminal_.Send("ab");
+  EXPECT_TRUE(ValueDisplay("b"));
 }
 
 TEST_F(SerialPortTest, ACharacterIsSentWhenTheDriverHoldsItNoMore) {
