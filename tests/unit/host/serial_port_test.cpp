@@ -30,8 +30,8 @@ bool RunUntil(const std::function<bool()>& condition, int patience = 10'000) {
 }
 
 // Runs the event loop long enough for an event that must not come.
-void RunForAWhile() {
-  RunUntil([] { return false; }, 50);
+void RunForAWhile(int milliseconds = 50) {
+  RunUntil([] { return false; }, milliseconds);
 }
 
 // Runs the event loop until it is idle. Returns false if it is never idle.
@@ -131,6 +131,11 @@ TEST_F(SerialPortTest, ADriverMayRoundTheSpeedByThreePercent) {
             QString("Comport 1, %1: Invalid argument.").arg(terminal_.Device().c_str()));
 }
 
+TEST_F(SerialPortTest, AWrongFormatOpensNothing) {
+  for (const auto* format : {"9600,X,8,1", "0,N,8,1", "9600,N,6,1", "9600,N,8,2", "9600,N,8"})
+    EXPECT_FALSE(line_.open({1, format}).Ok()) << format;
+}
+
 TEST_F(SerialPortTest, AFailedOpeningHasTheReasonOfTheSystem) {
   Link(2, "/dev/no-such-device");
   Link(3, folder_.path().toStdString());
@@ -194,6 +199,14 @@ TEST_F(SerialPortTest, AStreamIsSentByCharactersAndNoneIsLostIfTheyAreNotRead) {
   arrived = terminal_.Receive();
   EXPECT_TRUE(line_.write("end").Ok());
   EXPECT_TRUE(arrives(stream + "end"));
+}
+
+TEST_F(SerialPortTest, WhatTheSystemHasNotTakenIsNotSent) {
+  Open("4000000,N,8,1");
+  EXPECT_TRUE(line_.write(std::string(100'000, 'x')).Ok());
+  RunForAWhile(400);  // longer than the line needs
+  EXPECT_EQ(told_, "");
+  EXPECT_TRUE(RunUntil([&] { return terminal_.Receive().empty() && !told_.empty(); }));
 }
 
 TEST_F(SerialPortTest, ATickComesAfterTheCharactersThatTheSystemHolds) {
