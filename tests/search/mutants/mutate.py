@@ -89,7 +89,7 @@ class Copy:
         self.commands = {pathlib.Path(command["file"]).relative_to(self.path): command["command"] for command in commands}
 
     def run(self, *words, seconds=600):
-        # A change can make a program endless. It ends with this script, if this is killed as well.
+        # A change can make a program endless. It ends with this script, even if the script is killed.
         process = subprocess.Popen(["setpriv", "--pdeathsig", "KILL", *words], cwd=self.path, env=self.environment,
                                    stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, start_new_session=True)
         try:

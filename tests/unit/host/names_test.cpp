@@ -71,7 +71,7 @@ TEST(TextCodec, ASystemTextIsReadAsUtf8IfItIsValid) {
 
 TEST(ParityMarks, TheCharactersDoNotDependOnHowTheReadsAreSplit) {
   using namespace std::string_literals;
-  // The last FF is not doubled, as by some drivers.
+  // The last FF comes from a driver that does not double it.
   const auto marked = "a\xFF\0b\xFF\xFF\xFF\0\xFF\xFF\0\0\0z\xFF\xFF\xFF\xFF?\xFFy"s;
   const auto expected = "a?\xFF??\0z\xFF\xFF?\xFFy"s;
   for (std::size_t first = 0; first <= marked.size(); ++first) {
