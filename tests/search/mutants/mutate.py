@@ -2,8 +2,10 @@
 """Makes one small change of the program at a time and reports which changes the tests notice.
 
 mutate.py [--places N] [--seed N] [--workers N] [FOLDER...]
+mutate.py --again LOG [--workers N] [FOLDER...]
 
-A folder is one below src, such as "host", "ui" or "ui/kit". Without a folder it takes those of the model.
+A folder is one below src, such as "host", "ui" or "ui/kit". Without a folder it takes those of the model. --again tries only
+the changes that slipped through in an earlier run, whose output LOG is.
 
 Each worker has a copy of the committed tree below build/mutants. A change that does not build does not count, nor does
 one from which the compiler makes the same object file, because it behaves like the original. A change is noticed when a
@@ -149,6 +151,7 @@ class Count:
     def __init__(self, folder, wanted):
         self.folder, self.wanted = folder, wanted
         self.tried = self.noticed = self.pictured = self.same = 0
+        self.compared = False  # the pictures
         self.lock = threading.Lock()
 
     def add(self, source, at, before, text, by):
@@ -164,7 +167,7 @@ class Count:
 
     def report(self):
         share, seen = (100 * number / max(self.tried, 1) for number in (self.noticed, self.noticed + self.pictured))
-        pictures = f"with {self.pictured} only in pictures {seen:5.1f} %; " if self.folder.startswith("ui") else ""
+        pictures = f"with {self.pictured} only in pictures {seen:5.1f} %; " if self.compared else ""
         print(f"{self.folder:10} {self.noticed:4} of {self.tried:4} noticed, {share:5.1f} %; "
               f"{pictures}{self.same} more compile to the same code", flush=True)
 
@@ -192,42 +195,79 @@ def work(copy, steps, count):
         path.write_text(whole)
 
 
+def slipped_through(log, top):
+    """The changes that a run before printed, where their lines still exist."""
+    lines = log.read_text().split("\n")
+    for place, before, text in zip(lines, lines[1:], lines[2:]):
+        found = re.match(r"(?:missed|only in pictures), place \d+: (\S+):(\d+)$", place)
+        if not found:
+            continue
+        source, number = pathlib.Path(found[1]), int(found[2])
+        now = (top / source).read_text().split("\n") if (top / source).exists() else []
+        same = [at for at, line in enumerate(now) if line.strip() == before[4:]]
+        if not same:
+            print(f"gone: {source}:{number}")
+            continue
+        at = min(same, key=lambda at: abs(at + 1 - number))
+        indent = now[at][:len(now[at]) - len(now[at].lstrip())]
+        yield source, at, indent + text[4:]
+
+
+def try_changes(copies, folder, changes, wanted):
+    """Tries the changes of a folder below src until as many as wanted counted."""
+    sources = sorted({source for source, _, _ in changes})
+    if any(copies[0].notices(source) for source in sources if source in (sources[0], MAIN)):
+        sys.exit("The tests of the unchanged tree fail.")
+    for copy in copies:
+        copy.unchanged_pictures = copy.pictures() if folder.startswith("ui") else None
+        if copy.unchanged_pictures is not None and not (copy.path / "build/site/pictures/light/about.png").exists():
+            sys.exit("The pictures of the unchanged tree cannot be taken.")
+        if copy.looks_other():
+            sys.exit("The pictures of the unchanged tree differ from run to run.")
+    steps = queue.SimpleQueue()
+    for change in changes:
+        steps.put(change)
+    count = Count(folder, wanted)
+    count.compared = copies[0].unchanged_pictures is not None
+    workers = [threading.Thread(target=work, args=(copy, steps, count)) for copy in copies]
+    for worker in workers:
+        worker.start()
+    for worker in workers:
+        worker.join()
+    count.report()
+    return count
+
+
 def main():
     words = argparse.ArgumentParser(usage=__doc__)
     words.add_argument("--places", type=int, default=300)
     words.add_argument("--seed", type=int, default=1)
     words.add_argument("--workers", type=int, default=2)
+    words.add_argument("--again", type=pathlib.Path)
     words.add_argument("folders", nargs="*", default=FOLDERS)
     options = words.parse_args()
     copies = [Copy(number) for number in range(options.workers)]
+    top = copies[0].path
     rng = random.Random(options.seed)
+    repeated = list(slipped_through(options.again, top)) if options.again else None
     counts = []
     for folder in options.folders:
-        top = copies[0].path
-        # The sources for another system are not compiled.
-        sources = sorted(source for source in copies[0].commands if source.is_relative_to(f"src/{folder}"))
-        if any(copies[0].notices(source) for source in sources if source in (sources[0], MAIN)):
-            sys.exit("The tests of the unchanged tree fail.")
-        for copy in copies:
-            copy.unchanged_pictures = copy.pictures() if folder.startswith("ui") else None
-            if copy.unchanged_pictures is not None and not (copy.path / "build/site/pictures/light/about.png").exists():
-                sys.exit("The pictures of the unchanged tree cannot be taken.")
-            if copy.looks_other():
-                sys.exit("The pictures of the unchanged tree differ from run to run.")
-        offered = [(source, at, text) for source in sources for at, text in places_of(top / source)]
-        steps = queue.SimpleQueue()
-        for step in rng.sample(offered, len(offered)):
-            steps.put(step)
-        counts.append(Count(folder, options.places // len(options.folders)))
-        workers = [threading.Thread(target=work, args=(copy, steps, counts[-1])) for copy in copies]
-        for worker in workers:
-            worker.start()
-        for worker in workers:
-            worker.join()
-        counts[-1].report()
+        below = f"src/{folder}"
+        if repeated is not None:
+            changes = [change for change in repeated if change[0].is_relative_to(below)]
+            wanted = len(changes)
+        else:
+            # The sources for another system are not compiled.
+            sources = sorted(source for source in copies[0].commands if source.is_relative_to(below))
+            offered = [(source, at, text) for source in sources for at, text in places_of(top / source)]
+            changes = rng.sample(offered, len(offered))
+            wanted = options.places // len(options.folders)
+        if changes:
+            counts.append(try_changes(copies, folder, changes, wanted))
     total = Count("all", 0)
     for name in ("tried", "noticed", "pictured", "same"):
         setattr(total, name, sum(getattr(count, name) for count in counts))
+    total.compared = any(count.compared for count in counts)
     total.report()
 
 
